@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// Numbers as text, the same in every locale.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// Reads a number as C's atoi does: blanks, a sign, then leading digits; anything else gives 0. Values beyond
+/// the type end at its limits.
+int ParseInteger(std::u16string_view text);
+std::int64_t ParseInteger64(std::u16string_view text);
+
+/// Reads a number as C's atof does for decimal text: blanks, a sign, digits with a fraction and an exponent;
+/// anything else gives 0. Words ("inf", "nan") and hexadecimal digits are no numbers here.
+double ParseReal(std::u16string_view text);
+
+/// Decimal text, as "%d" gives it.
+std::u16string FormatInteger(std::int64_t value);
+
+/// Text with two decimals, as "%1.2f" gives it for the value widened to double.
+std::u16string FormatScore(float value);
+
+}  // namespace quorvantis

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// A path as the text that the exam document keeps and the window shows. File names that are not valid UTF-8
+/// survive the way there and back: each odd byte b travels as the lone surrogate U+DC00 + b.
+std::u16string PathToText(const std::filesystem::path& path);
+
+/// The path that a text names; see `PathToText`. Any other lone surrogate becomes U+FFFD.
+std::filesystem::path TextToPath(std::u16string_view text);
+
+/// The longest name of one file or folder that common file systems take, in bytes of UTF-8.
+constexpr std::size_t kMaxFileNameBytes = 255;
+
+/// `name` itself when it has at most `maxBytes` bytes in UTF-8; otherwise its beginning, a hash of the whole
+/// name and its extension, together at most `maxBytes`. Equal names give equal results and different ones
+/// different results, so a long name can stand for a file or folder that could not be made under it.
+std::u16string FitFileName(std::u16string_view name, std::size_t maxBytes = kMaxFileNameBytes);
+
+}  // namespace quorvantis

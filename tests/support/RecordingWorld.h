@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/LongAnswerFlags.h"
+#include "platform/CodePage.h"
+#include "platform/DebugOutput.h"
+#include "platform/ExamServices.h"
+#include "platform/Files.h"
+#include "platform/Progress.h"
+#include "platform/StringTable.h"
+#include "platform/UserDialogs.h"
+
+#include <deque>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace quorvantis::test {
+
+/// Dialogs that keep what was shown and answer from a script; an empty script cancels.
+class RecordingDialogs : public UserDialogs {
+ public:
+  std::vector<std::u16string> errors;
+  std::vector<std::u16string> warnings;
+  std::vector<std::u16string> questions;
+  std::deque<SaveAnswer> answers;
+  std::deque<std::filesystem::path> filesToOpen;
+  std::deque<std::filesystem::path> filesToSave;
+  std::vector<FileDialogRequest> requests;
+
+  void ShowError(std::u16string_view text) override { errors.emplace_back(text); }
+  void ShowWarning(std::u16string_view text) override { warnings.emplace_back(text); }
+  SaveAnswer AskSave(std::u16string_view question) override {
+    questions.emplace_back(question);
+    return Next(answers).value_or(SaveAnswer::Cancel);
+  }
+  std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override {
+    requests.push_back(request);
+    return Next(filesToOpen);
+  }
+  std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override {
+    requests.push_back(request);
+    return Next(filesToSave);
+  }
+
+ private:
+  template <class T>
+  static std::optional<T> Next(std::deque<T>& script) {
+    if (script.empty()) return std::nullopt;
+    T next = script.front();
+    script.pop_front();
+    return next;
+  }
+};
+
+/// Every text is its number in brackets and its placeholder: "[102 %s]".
+class NumberStrings : public StringTable {
+ public:
+  std::u16string Text(int number) const override {
+    const std::string digits = std::to_string(number);
+    return u"[" + std::u16string(digits.begin(), digits.end()) + u" %s]";
+  }
+};
+
+/// Bytes 80 to FF are the Cyrillic letters from U+0400 on; FF is malformed.
+class TestCodePage : public CodePage {
+ public:
+  std::u16string Decode(std::string_view bytes) const override {
+    std::u16string text;
+    for (const char c : bytes) {
+      const auto byte = static_cast<unsigned char>(c);
+      text.push_back(byte == 0xFF   ? u'\uFFFD'
+                     : byte >= 0x80 ? static_cast<char16_t>(0x400 + byte - 0x80)
+                                    : static_cast<char16_t>(byte));
+    }
+    return text;
+  }
+};
+
+class RecordingDebug : public DebugOutput {
+ public:
+  std::vector<std::u16string> lines;
+  void Line(std::u16string_view text) override { lines.emplace_back(text); }
+};
+
+class IgnoredProgress : public Progress {
+ public:
+  void Report(std::uint64_t, std::uint64_t) override {}
+};
+
+/// Everything a document needs, with real files below `applicationFolder`.
+struct RecordingWorld {
+  RecordingWorld(std::filesystem::path applicationFolder, Files& files)
+      : services{std::move(applicationFolder),
+                 strings,
+                 dialogs,
+                 codePage,
+                 debug,
+                 files,
+                 progress,
+                 longAnswerFlags} {}
+
+  NumberStrings strings;
+  RecordingDialogs dialogs;
+  TestCodePage codePage;
+  RecordingDebug debug;
+  IgnoredProgress progress;
+  LongAnswerFlags longAnswerFlags;
+  ExamServices services;
+};
+
+}  // namespace quorvantis::test

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "text/MessageText.h"
+#include "text/Utf.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvantis {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(Utf, WellFormedTextSurvivesBothWays) {
+  const auto text = u"a\0\u007F\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0001F600\U0010FFFF"s;
+  EXPECT_EQ(Utf8ToUtf16(Utf16ToUtf8(text)), text);
+  EXPECT_EQ(Utf16ToUtf8(u"\u00E9\u20AC\U0001F600"), "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
+}
+
+TEST(Utf, EveryByteThatStartsNoCharacterIsReplaced) {
+  for (const std::string malformed : {"\x80", "\xC0\x80", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF",  // overlong
+                                      "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF5\x80\xFF",  // no characters
+                                      "\xC3", "\xE2\x82", "\xF0\x9F\x98"}) {               // cut off
+    const std::u16string replaced(malformed.size(), u'\uFFFD');
+    EXPECT_EQ(Utf8ToUtf16(malformed), replaced) << testing::PrintToString(malformed);
+    EXPECT_EQ(Utf8ToUtf16(malformed + "\xC3\xA9z"), replaced + u"\u00E9z")
+        << testing::PrintToString(malformed);
+  }
+}
+
+TEST(Utf, SurrogatesWithoutAPartnerAreReplaced) {
+  const auto check = [](std::u16string_view text, std::u16string_view whole) {
+    EXPECT_EQ(ReplaceLoneSurrogates(text), whole);
+    EXPECT_EQ(Utf8ToUtf16(Utf16ToUtf8(text)), whole);
+  };
+  check(u"a\xD800", u"a\uFFFD");
+  check(u"\xDE00\xD83Dz", u"\uFFFD\uFFFDz");
+  check(u"\xD83D\xD83D\xDE00\xDE00", u"\uFFFD\U0001F600\uFFFD");
+}
+
+TEST(FillMessage, NoFormatBreaksAMessage) {
+  EXPECT_EQ(FillMessage(u"Open file %s error!", {u"/a/%s%d"}), u"Open file /a/%s%d error!");
+  EXPECT_EQ(FillMessage(u"%d of %s", {u"1"}), u"1 of %s");
+  EXPECT_EQ(FillMessage(u"100% %x %", {u"unused"}), u"100% %x %");
+}
+
+}  // namespace
+}  // namespace quorvantis
