@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/ExamLimits.h"
+#include "model/ExamQuestion.h"
+#include "model/PageRenderer.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+enum class RandomMode : int { Off = 0, Options = 1, Sequence = 2 };
+enum class ScoreMode : int { Same = 0, Custom = 1 };
+
+/// The questions of an exam with their scores: title, 500 numbered slots, ten score ranges. Plain data with
+/// the operations that keep the slots in order. Question numbers are 1 to 500; an operation ignores any
+/// other.
+class ExamPaper {
+ public:
+  ExamPaper();
+  ExamPaper(const ExamPaper&) = default;
+  ExamPaper& operator=(const ExamPaper&) = default;
+  virtual ~ExamPaper() = default;
+
+  /// Empties the exam. `attachmentCopies` and `oralFlag` of the questions stay: the copies are still to be
+  /// deleted, and the oral flag belongs to the slot until a question is shown or read there.
+  void Reset();
+
+  /// Removes question n and closes the gap. Slot 500 becomes empty but keeps its kind: always been so, and
+  /// other programs show that kind. Attachments and the oral flag stay where they are.
+  void DeleteQuestion(int n);
+
+  /// Opens an empty question at n (0 to 499) and pushes the following ones up; what was in slot 500 is lost.
+  void InsertQuestion(int n);
+
+  /// Sets `questionCount` to the last slot with a text, an option or a fill-in answer; 0 when there is none.
+  void CountQuestions();
+
+  void SetRenderOption(int option);
+
+  /// Tells the exam where it lives: files go under the application folder from now on, the random mode is
+  /// off.
+  void SetHostMode(int mode);
+
+  ExamQuestion& Question(int n) { return questions[static_cast<std::size_t>(n)]; }
+  const ExamQuestion& Question(int n) const { return questions[static_cast<std::size_t>(n)]; }
+
+  std::u16string workFolder;  ///< decimal number of the student folder, used while `locationMode` is 0
+  int resultPageOption = 1;
+  std::vector<std::u16string> stringList;
+  PageRenderer pageRenderer;
+  int renderOption = 1;           ///< set through SetRenderOption only
+  int locationMode = 0;           ///< not 0: work folders lie under the application folder
+  int questionFilesUnpacked = 0;  ///< 1 when the reader unpacked attachments of questions
+  RandomMode randomMode = RandomMode::Off;
+  std::u16string title;
+  int questionCount = 0;  ///< as of the last CountQuestions or read; stale while editing
+  std::array<int, kScoreRanges> scoreFrom{};
+  std::array<int, kScoreRanges> scoreTo{};
+  std::array<float, kScoreRanges> scoreValue{};
+  ScoreMode scoreMode = ScoreMode::Same;
+  std::vector<ExamQuestion> questions;  ///< 501 slots, never more or fewer
+  int hostMode = 0;                     ///< set through SetHostMode only
+  std::vector<int> questionState;       ///< one number for each slot
+  float resultScore = 0;                ///< score on the result page
+};
+
+}  // namespace quorvantis

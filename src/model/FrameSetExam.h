@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/AttachmentPageWriter.h"
+#include "model/ExamPaper.h"
+
+#include <array>
+#include <filesystem>
+
+namespace quorvantis {
+
+struct ExamServices;
+
+/// The exam document: an ExamPaper with the files attached to the exam as a whole, and the operations that
+/// read and write it. Each of these is defined in the folder that owns its subject, where a class does the
+/// work and returns an outcome; the member only turns the outcome into a message.
+class FrameSetExam : public ExamPaper {
+ public:
+  /// `services` must outlive the document and its copies.
+  explicit FrameSetExam(ExamServices& services);
+
+  /// Empties the exam. `examAttachmentCopies` stays, so that the copies can still be deleted.
+  void Reset();
+
+  /// Loads an exam file of any version into this document, which the caller has reset, and unpacks its
+  /// attached files into the work folder. Failures are shown to the user. Defined in examfile/.
+  void ReadExamFile(const std::filesystem::path& file);
+
+  /// Saves the exam as a current-version file, replacing `file` only when the new one is complete. False when
+  /// it could not be saved; the user has been told. Defined in examfile/.
+  bool WriteExamFile(const std::filesystem::path& file);
+
+  ExamServices& Services() const { return *services_; }
+
+  int firstOralQuestion = 0;  ///< the first oral question that the reader met, 0 when none
+  int boundaryQuestion = 0;   ///< a question number kept in the exam file, 0 when none
+  int examFilesUnpacked = 0;  ///< 1 when the reader unpacked exam-level files
+  AttachmentList examAttachmentPaths;
+  AttachmentList examAttachmentNames;
+  AttachmentList examAttachmentCopies;
+  /// Texts that got into `examAttachmentPaths` without being paths, when an entry of a full list was removed.
+  std::vector<std::u16string> displayNamesAmongPaths;
+  std::array<int, kMaxAttachments>
+      examAttachmentTypes{};  ///< number of the preview frame that shows each file
+  AttachmentPageWriter attachmentPageWriter;
+  int hasOralQuestion = 0;  ///< 1 when the reader met an oral question
+
+ private:
+  ExamServices* services_;
+};
+
+}  // namespace quorvantis

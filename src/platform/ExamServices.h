@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+
+namespace quorvantis {
+
+class CodePage;
+class DebugOutput;
+class Files;
+class LongAnswerFlags;
+class Progress;
+class StringTable;
+class UserDialogs;
+
+/// What an exam document may use of the world around it. Owned by the application, outlives every document.
+struct ExamServices {
+  std::filesystem::path applicationFolder;  ///< holds the work folders
+  const StringTable& strings;
+  UserDialogs& dialogs;
+  const CodePage& codePage;  ///< of 8-bit exam files
+  DebugOutput& debug;
+  Files& files;
+  Progress& progress;
+  LongAnswerFlags& longAnswerFlags;
+};
+
+}  // namespace quorvantis

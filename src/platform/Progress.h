@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+namespace quorvantis {
+
+/// Told how far long work has come, so that a person who waits can see it.
+class Progress {
+ public:
+  virtual ~Progress() = default;
+
+  /// `done` of `total` bytes of the file in hand. Called often; must return at once.
+  virtual void Report(std::uint64_t done, std::uint64_t total) = 0;
+};
+
+}  // namespace quorvantis

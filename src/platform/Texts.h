@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// The numbers of the texts in a StringTable.
+#pragma once
+
+namespace quorvantis::text_id {
+
+constexpr int kOpenFileError = 102;       // "Open file %s error!"
+constexpr int kTemporaryFileError = 103;  // "create temporary file error"
+constexpr int kSaveQuestion = 105;        // "File '%s' Changed.\nSave File ?"
+constexpr int kWindowTitle = 107;         // "Quorvantis - %s"
+constexpr int kRandomOptions = 108;       // "Random(option)"
+constexpr int kRandomSequence = 109;      // "Random(sequence)"
+constexpr int kRandom = 110;
+constexpr int kQuestion = 115;
+constexpr int kTitle = 119;
+constexpr int kEditArea = 120;
+constexpr int kChoice = 121;
+constexpr int kFillIn = 122;
+constexpr int kEssay = 123;
+constexpr int kOral = 124;
+constexpr int kAttachFiles = 125;
+constexpr int kBackward10 = 126;
+constexpr int kPrevious = 127;
+constexpr int kForward10 = 128;
+constexpr int kNext = 129;
+constexpr int kDeleteQuestion = 130;
+constexpr int kInsertQuestion = 131;
+constexpr int kAttachToQuestion = 132;
+constexpr int kNew = 133;
+constexpr int kOpen = 134;
+constexpr int kSave = 135;
+constexpr int kSaveAs = 136;
+constexpr int kPreview = 137;
+constexpr int kScoreSettings = 138;
+constexpr int kPrint = 139;
+constexpr int kListSeparatorTip = 140;
+constexpr int kOralOff = 172;  // caption of the oral toggle while the flag is 0
+constexpr int kOralOn = 173;
+
+// Texts of our own.
+constexpr int kExamEndsEarly =
+    1000;  // "The exam file ends before its contents do; question %d and after ..."
+constexpr int kExamFilesEndEarly = 1001;  // the same of an exam without questions
+constexpr int kCannotExport = 1002;
+constexpr int kAnswer = 1003;  // "Ans"
+
+}  // namespace quorvantis::text_id

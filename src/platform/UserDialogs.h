@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+enum class SaveAnswer { Yes, No, Cancel };
+
+/// What a file dialog starts with.
+struct FileDialogRequest {
+  std::u16string filter;            ///< "Label|*.a;*.b|Label|*.c|"
+  std::u16string defaultExtension;  ///< added to a name without extension, without the dot
+  std::u16string initialName;
+};
+
+/// The questions and messages that every part of the program may put to the user. All of them wait for the
+/// user.
+class UserDialogs {
+ public:
+  virtual ~UserDialogs() = default;
+
+  /// What the user asked for was not done; one OK button.
+  virtual void ShowError(std::u16string_view text) = 0;
+
+  /// It was done, but not wholly; one OK button.
+  virtual void ShowWarning(std::u16string_view text) = 0;
+
+  /// "File … Changed. Save File ?" with Yes, No and Cancel.
+  virtual SaveAnswer AskSave(std::u16string_view question) = 0;
+
+  /// The full path of the chosen file, or nothing when the user cancelled.
+  virtual std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) = 0;
+
+  /// The full path of the file to write, or nothing when the user cancelled. An existing file has been
+  /// confirmed.
+  virtual std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) = 0;
+};
+
+}  // namespace quorvantis
