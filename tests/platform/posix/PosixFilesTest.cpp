@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "OrdinaryUser.h"
+#include "platform/posix/PosixFiles.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ReplaceTest : public testing::Test {
+ protected:
+  ReplaceTest() { fs::permissions(folder.Path(), fs::perms(0777)); }
+
+  bool Replace(const fs::path& target, std::string_view content, bool commit = true) {
+    std::error_code error;
+    const auto pending = files.Replace(target, error);
+    EXPECT_EQ(pending == nullptr, static_cast<bool>(error)) << target;
+    if (!pending) return false;
+    for (const auto piece : {content.substr(0, 3), content.substr(3)}) {
+      EXPECT_FALSE(pending->Write(std::as_bytes(std::span(piece))));
+    }
+    return commit && !pending->Commit();
+  }
+
+  auto Entries() const {
+    return std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator());
+  }
+
+  TemporaryFolder folder;
+  PosixFiles files;
+};
+
+TEST_F(ReplaceTest, MakesAFileAndReplacesOneWithItsPermissions) {
+  const fs::path target = folder / "new \xFF.exm";
+  EXPECT_TRUE(Replace(target, "first content"));
+  fs::permissions(target, fs::perms(0640));
+  EXPECT_TRUE(Replace(target, "second"));
+  EXPECT_EQ(ReadBytes(target), "second");
+  EXPECT_EQ(fs::status(target).permissions(), fs::perms(0640));
+  EXPECT_EQ(Entries(), 1);
+}
+
+TEST_F(ReplaceTest, ReplacesWhatALinkPointsTo) {
+  fs::create_directory(folder / "elsewhere");
+  fs::create_symlink("elsewhere/target", folder / "link");
+  fs::create_symlink("link", folder / "link to link");
+  for (const char* content : {"made behind the link", "replaced"}) {
+    EXPECT_TRUE(Replace(folder / "link to link", content));
+    EXPECT_EQ(ReadBytes(folder / "elsewhere/target"), content);
+  }
+  EXPECT_TRUE(fs::is_symlink(folder / "link") && fs::is_symlink(folder / "link to link"));
+}
+
+TEST_F(ReplaceTest, LeavesNoTraceWithoutCommit) {
+  const fs::path old = WriteBytes(folder / "old", "old");
+  Replace(old, "discarded", false);
+  Replace(folder / "new", "discarded", false);
+  EXPECT_EQ(ReadBytes(old), "old");
+  EXPECT_EQ(Entries(), 1);
+}
+
+TEST_F(ReplaceTest, RefusesWhatIsNoFileOrNotWritable) {
+  fs::create_directory(folder / "a folder");
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
+  const fs::path readOnly = WriteBytes(folder / "read-only", "old");
+  const OrdinaryUser user;
+  for (const char* name : {"a folder", "pipe", "read-only", "no/such/folder", "read-only/below"}) {
+    EXPECT_FALSE(Replace(folder / name, "content")) << name;
+  }
+  EXPECT_EQ(ReadBytes(readOnly), "old");
+  EXPECT_EQ(Entries(), 3);
+}
+
+TEST_F(ReplaceTest, OverwritesAFileInAFolderThatTakesNoNewOnes) {
+  const fs::path target = WriteBytes(folder / "mine", "a longer old content");
+  fs::permissions(target, fs::perms(0666));
+  fs::permissions(folder.Path(), fs::perms(0555));
+  {
+    const OrdinaryUser user;
+    EXPECT_FALSE(Replace(folder / "new", "content"));
+    for (const std::string& content : {std::string("short"), std::string(200000, 'x')}) {
+      Replace(target, "discarded", false);
+      EXPECT_TRUE(Replace(target, content));
+      EXPECT_EQ(ReadBytes(target), content);
+    }
+  }
+  fs::permissions(folder.Path(), fs::perms(0755));
+}
+
+}  // namespace
+}  // namespace quorvantis::test
