@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "examfile/AttachmentName.h"
+
+#include "text/NumberText.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
+
+#include <system_error>
+
+namespace quorvantis {
+namespace {
+
+constexpr int kPlainName = -1;
+
+constexpr bool IsControl(char16_t unit) {
+  return unit < 0x20 || (unit >= 0x7F && unit <= 0x9F);
+}
+
+bool IsTaken(const std::filesystem::path& path) {
+  std::error_code error;
+  return std::filesystem::exists(std::filesystem::symlink_status(path, error));
+}
+
+}  // namespace
+
+std::u16string FileNameOf(std::u16string_view displayName) {
+  const std::size_t separator = displayName.find_last_of(u"/\\");
+  if (separator != std::u16string_view::npos) displayName.remove_prefix(separator + 1);
+  std::u16string name = ReplaceLoneSurrogates(displayName);
+  std::erase_if(name, IsControl);
+  return name;
+}
+
+std::filesystem::path FreeNames::PathFor(const std::u16string& fileName) {
+  int& candidate = firstCandidate_.try_emplace(fileName, kPlainName).first->second;
+  while (true) {
+    const std::u16string counter = candidate == kPlainName ? std::u16string() : FormatInteger(candidate);
+    const std::filesystem::path path = folder_ / TextToPath(FitFileName(counter + fileName));
+    if (!IsTaken(path)) return path;
+    ++candidate;
+  }
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "examfile/AttachmentUnpacker.h"
+
+#include "examfile/WorkFolder.h"
+#include "platform/Progress.h"
+#include "text/PathText.h"
+
+#include <fstream>
+#include <system_error>
+
+namespace quorvantis {
+
+AttachmentUnpacker::AttachmentUnpacker(ByteSource& source, FieldReader& fields, const ExamFileForm& form,
+                                       FrameSetExam& exam, const ExamServices& services)
+    : source_(source),
+      fields_(fields),
+      form_(form),
+      exam_(exam),
+      progress_(services.progress),
+      freeNames_(WorkFolder(exam, services.applicationFolder)) {}
+
+int AttachmentUnpacker::ReadCount() {
+  int count = 0;
+  VisitAttachmentCount(count, fields_);
+  return count;
+}
+
+/// False when the data ended before there was anything of the entry.
+bool AttachmentUnpacker::ReadEntry(AttachmentEntry& entry, bool withOralFlag) {
+  VisitAttachment(*form_.version, entry, withOralFlag, fields_);
+  return !source_.Ended() || !entry.name.empty();
+}
+
+void AttachmentUnpacker::Skip(std::int64_t size) {
+  if (size > 0) source_.Take(static_cast<std::uint64_t>(size), nullptr);
+}
+
+/// Writes the next `size` bytes to a new file; false when it could not be made, with the bytes skipped all
+/// the same.
+bool AttachmentUnpacker::Unpack(const std::filesystem::path& target, std::uint64_t size) {
+  std::ofstream file;
+  file.rdbuf()->pubsetbuf(nullptr, 0);
+  file.open(target, std::ios::binary | std::ios::trunc);
+  source_.Take(size, [&](std::string_view bytes) {
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    progress_.Report(source_.Position(), source_.Size());
+  });
+  file.close();
+  if (file.good()) return true;
+  std::error_code ignored;
+  std::filesystem::remove(target, ignored);
+  ++filesNotCreated_;
+  return false;
+}
+
+void AttachmentUnpacker::ExtractExamAttachments() {
+  const int count = ReadCount();
+  if (count != 0) exam_.examFilesUnpacked = 1;
+  bool unpacking = true;
+  for (int i = 0; i < count && !source_.Ended(); ++i) {
+    AttachmentEntry entry;
+    if (!ReadEntry(entry, false)) return;
+    const auto slot = static_cast<std::size_t>(i);
+    unpacking = unpacking && slot < kMaxAttachments;
+    if (!unpacking) {
+      Skip(entry.size);
+      continue;
+    }
+    const auto target = freeNames_.PathFor(FileNameOf(entry.name));
+    exam_.examAttachmentPaths[slot] = PathToText(target);
+    exam_.examAttachmentNames[slot] = entry.name;
+    if (entry.size > 0) unpacking = Unpack(target, static_cast<std::uint64_t>(entry.size));
+  }
+}
+
+void AttachmentUnpacker::ExtractQuestionAttachments(int question) {
+  const bool oralFlagStored = form_.version->hasOralFlag && form_.encoding == FieldEncoding::Utf16;
+  ExamQuestion& target = exam_.Question(question);
+  const int count = ReadCount();
+  if (count != 0) exam_.questionFilesUnpacked = 1;
+  for (int i = 0; i < count && !source_.Ended(); ++i) {
+    AttachmentEntry entry;
+    if (!ReadEntry(entry, oralFlagStored && i == 0)) return;
+    if (i == 0 && form_.version->hasOralFlag) target.oralFlag = entry.oralFlag;
+    const auto slot = static_cast<std::size_t>(i);
+    if (slot >= kMaxAttachments) {
+      Skip(entry.size);
+      continue;
+    }
+    const auto path = freeNames_.PathFor(FileNameOf(entry.name));
+    target.attachmentPaths[slot] = PathToText(path);
+    target.attachmentNames[slot] = entry.name;
+    if (entry.size > 0) Unpack(path, static_cast<std::uint64_t>(entry.size));
+  }
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "examfile/ExamFileMessages.h"
+
+#include "platform/StringTable.h"
+#include "platform/Texts.h"
+#include "platform/UserDialogs.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+#include "text/PathText.h"
+
+namespace quorvantis {
+namespace {
+
+std::u16string EndsEarly(const StringTable& strings, int firstMissingQuestion) {
+  if (firstMissingQuestion == 0) return strings.Text(text_id::kExamFilesEndEarly);
+  return FillMessage(strings.Text(text_id::kExamEndsEarly), {FormatInteger(firstMissingQuestion)});
+}
+
+}  // namespace
+
+std::u16string OpenFileError(const ExamServices& services, const std::filesystem::path& file) {
+  return FillMessage(services.strings.Text(text_id::kOpenFileError), {PathToText(file)});
+}
+
+void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome) {
+  // Once, however many files it were: they fail together, for want of space or of the folder.
+  if (outcome.filesNotCreated > 0)
+    services.dialogs.ShowWarning(services.strings.Text(text_id::kTemporaryFileError));
+  if (outcome.endsEarly)
+    services.dialogs.ShowWarning(EndsEarly(services.strings, outcome.firstMissingQuestion));
+}
+
+}  // namespace quorvantis

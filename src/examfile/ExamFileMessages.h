@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// What the user is told about an exam file, in one place.
+#pragma once
+
+#include "examfile/ExamFileReader.h"
+
+#include <filesystem>
+#include <string>
+
+namespace quorvantis {
+
+/// "Open file … error!", of a file that could not be read or saved.
+std::u16string OpenFileError(const ExamServices& services, const std::filesystem::path& file);
+
+/// Shows what is missing from an exam that was read; nothing when it is whole.
+void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome);
+
+}  // namespace quorvantis

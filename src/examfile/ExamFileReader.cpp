@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "examfile/ExamFileReader.h"
+
+#include "examfile/AttachmentUnpacker.h"
+#include "examfile/WorkFolder.h"
+#include "model/AnswerLetters.h"
+#include "platform/DebugOutput.h"
+#include "text/PathText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+void ClearOptions(ExamQuestion& question) {
+  for (auto& option : question.options) option.clear();
+}
+
+/// Leaves a question what its kind has; the letters stay as they were read, for every kind.
+void CleanByKind(ExamQuestion& question) {
+  switch (question.kind) {
+    case QuestionKind::Choice:
+      question.answerMask = AnswerLettersToMask(question.answerLetters);
+      question.answerText.clear();
+      question.essayAnswer.clear();
+      return;
+    case QuestionKind::FillIn:
+      ClearOptions(question);
+      question.essayAnswer.clear();
+      break;
+    case QuestionKind::Essay:
+      ClearOptions(question);
+      question.answerText.clear();
+      break;
+    case QuestionKind::Oral:
+      ClearOptions(question);
+      question.answerText.clear();
+      question.essayAnswer.clear();
+      break;
+    default:
+      return;  // an unknown kind keeps everything
+  }
+  question.answerMask = 0;
+}
+
+/// Reads one file; lives for that only.
+class Reading {
+ public:
+  Reading(FrameSetExam& exam, const ExamServices& services, ByteSource& source, const ExamFileForm& form)
+      : exam_(exam),
+        source_(source),
+        form_(form),
+        fields_(source, form.encoding, services.codePage),
+        unpacker_(source, fields_, form, exam, services) {}
+
+  void ReadExam(ExamReadOutcome& outcome) {
+    VisitHeader(*form_.version, exam_, fields_);
+    const bool headerMissing = source_.Ended();
+    exam_.questionCount = std::clamp(exam_.questionCount, 0, kMaxQuestions);
+    if (form_.version->hasAttachments) unpacker_.ExtractExamAttachments();
+    int question = 1;
+    while (question <= exam_.questionCount && !source_.Ended()) {
+      ReadQuestion(question);
+      if (!source_.Ended()) ++question;
+    }
+    outcome.endsEarly = source_.Ended();
+    outcome.firstMissingQuestion = headerMissing || exam_.questionCount > 0 ? question : 0;
+    outcome.filesNotCreated = unpacker_.FilesNotCreated();
+  }
+
+ private:
+  void ReadQuestion(int number) {
+    ExamQuestion& question = exam_.Question(number);
+    std::u16string shortAnswer;
+    VisitQuestion(*form_.version, question, shortAnswer, fields_);
+    const bool fieldsWhole = !source_.Ended();
+    const bool longAnswer = form_.version->hasLongAnswers && shortAnswer == kLongAnswerMarker;
+    if (!longAnswer) question.answerText = shortAnswer;
+    if (form_.version->notesOralQuestions && question.kind == QuestionKind::Oral) NoteOralQuestion(number);
+    if (form_.version->hasAttachments) unpacker_.ExtractQuestionAttachments(number);
+    if (longAnswer) VisitLongAnswer(question.answerText, fields_);
+    if (fieldsWhole) {
+      CleanByKind(question);
+    } else {  // the kind is missing: keep every text, and make the letters count
+      question.answerMask = AnswerLettersToMask(question.answerLetters);
+    }
+  }
+
+  void NoteOralQuestion(int number) {
+    exam_.hasOralQuestion = 1;
+    if (exam_.firstOralQuestion == 0) exam_.firstOralQuestion = number;
+  }
+
+  FrameSetExam& exam_;
+  ByteSource& source_;
+  ExamFileForm form_;
+  FieldReader fields_;
+  AttachmentUnpacker unpacker_;
+};
+
+}  // namespace
+
+ExamReadOutcome ExamFileReader::Read(const std::filesystem::path& file) {
+  services_.debug.Line(PathToText(file));
+  ExamReadOutcome outcome;
+  ByteSource source(file);
+  if (!source.IsOpen()) return outcome;
+  outcome.opened = true;
+  PrepareWorkFolder(exam_, services_.applicationFolder, file);
+  outcome.form = RecogniseForm(source);
+  if (outcome.form.version->notesOralQuestions) exam_.hasOralQuestion = exam_.firstOralQuestion = 0;
+  Reading(exam_, services_, source, outcome.form).ReadExam(outcome);
+  return outcome;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "examfile/ExamFileForm.h"
+#include "platform/ExamServices.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace quorvantis {
+
+/// What a reader has to say of a file, beside the exam that it filled.
+struct ExamReadOutcome {
+  bool opened = false;  ///< otherwise the exam is as it was
+  ExamFileForm form{&kUntaggedVersion, FieldEncoding::Utf16InBytes};
+  int filesNotCreated = 0;  ///< attached files that could not be unpacked
+  bool endsEarly = false;   ///< the data ended before the fields did; what was read has been kept
+  int firstMissingQuestion =
+      0;  ///< when it ends early: the first question that is not whole, 0 when there are none
+};
+
+/// Loads an exam file of any version into a document that the caller has reset, and unpacks the attached
+/// files into the emptied work folder. Bad bytes never fail a read: it yields an exam and what was lost.
+/// Memory does not grow with the attached files, nor with any number in the file.
+class ExamFileReader {
+ public:
+  /// Both must outlive the reader.
+  ExamFileReader(FrameSetExam& exam, const ExamServices& services) : exam_(exam), services_(services) {}
+
+  ExamReadOutcome Read(const std::filesystem::path& file);
+
+ private:
+  FrameSetExam& exam_;
+  const ExamServices& services_;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "examfile/ExamFileWriter.h"
+
+#include "examfile/ExamFileFields.h"
+#include "model/LongAnswerFlags.h"
+#include "platform/Progress.h"
+#include "text/PathText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+std::span<const std::byte> AsBytes(std::string_view bytes) {
+  return std::as_bytes(std::span(bytes));
+}
+
+/// A display name that stands where a path should (see displayNamesAmongPaths) comes from whoever wrote the
+/// exam file: one that points into folders must not bring a file of this machine into the exam.
+bool IsNameThatPointsElsewhere(const FrameSetExam& exam, const std::u16string& path) {
+  const auto& names = exam.displayNamesAmongPaths;
+  return std::ranges::find(names, path) != names.end() && path.find_first_of(u"/\\") != std::u16string::npos;
+}
+
+}  // namespace
+
+std::error_code ExamFileWriter::Write(const std::filesystem::path& file) {
+  exam_.CountQuestions();
+  target_ = services_.files.Replace(file, error_);
+  if (!target_) return error_;
+  WriteHeader();
+  PackExamAttachments();
+  for (int number = 1; number <= exam_.questionCount && !error_; ++number) WriteQuestion(number);
+  Flush();
+  if (!error_) error_ = target_->Commit();
+  target_.reset();
+  return error_;
+}
+
+void ExamFileWriter::Flush() {
+  if (!error_) error_ = target_->Write(AsBytes(bytes_));
+  written_ += bytes_.size();
+  bytes_.clear();
+}
+
+void ExamFileWriter::WriteHeader() {
+  bytes_ += kByteOrderMark;
+  FieldWriter fields(bytes_);
+  fields.Text(kCurrentVersion.tag, kTagUnits);
+  VisitHeader(kCurrentVersion, std::as_const(exam_), fields);
+}
+
+void ExamFileWriter::PackExamAttachments() {
+  const auto& names = exam_.examAttachmentNames;
+  const auto firstEmpty = std::ranges::find_if(names, [](const auto& name) { return name.empty(); });
+  const auto count = static_cast<std::size_t>(firstEmpty - names.begin());
+  FieldWriter fields(bytes_);
+  VisitAttachmentCount(count, fields);
+  for (std::size_t i = 0; i < count && !error_; ++i) {
+    const std::u16string& path = exam_.examAttachmentPaths[i];
+    const bool elsewhere = IsNameThatPointsElsewhere(exam_, path);
+    PackFile(names[i], elsewhere ? std::filesystem::path() : TextToPath(path), nullptr);
+  }
+}
+
+void ExamFileWriter::WriteQuestion(int number) {
+  const ExamQuestion& question = exam_.Question(number);
+  // An answer that reads like the marker has to take the long form, or it would be lost on reading.
+  const bool longAnswer = services_.longAnswerFlags.IsSet(number) || question.answerText == kLongAnswerMarker;
+  const std::u16string shortAnswer = longAnswer ? std::u16string(kLongAnswerMarker) : question.answerText;
+  FieldWriter fields(bytes_);
+  VisitQuestion(kCurrentVersion, question, shortAnswer, fields);
+  PackQuestionAttachments(question);
+  if (longAnswer) VisitLongAnswer(question.answerText, fields);
+  Flush();
+}
+
+void ExamFileWriter::PackQuestionAttachments(const ExamQuestion& question) {
+  const auto& paths = question.attachmentPaths;
+  const auto filled = [](const std::u16string& path) { return !path.empty(); };
+  const auto count = std::ranges::count_if(paths, filled);
+  FieldWriter fields(bytes_);
+  VisitAttachmentCount(count, fields);
+  const int* oralFlag = &question.oralFlag;
+  for (std::size_t i = 0; i < kMaxAttachments && !error_; ++i) {
+    if (!filled(paths[i])) continue;
+    PackFile(question.attachmentNames[i], TextToPath(paths[i]), std::exchange(oralFlag, nullptr));
+  }
+}
+
+/// Writes one attachment entry with its content; the oral flag where one is given. The content has exactly
+/// the size that was measured: a file that shrinks meanwhile is filled up, so that what follows it is still
+/// found.
+void ExamFileWriter::PackFile(const std::u16string& name, const std::filesystem::path& path,
+                              const int* oralFlag) {
+  ByteSource content(path);
+  const std::uint64_t size = content.IsOpen() ? content.Size() : 0;
+  const AttachmentEntry entry{name, oralFlag != nullptr ? *oralFlag : 0, static_cast<std::int64_t>(size)};
+  FieldWriter fields(bytes_);
+  VisitAttachment(kCurrentVersion, entry, oralFlag != nullptr, fields);
+  Flush();
+  if (size == 0) return;
+  const auto writePiece = [&](std::string_view bytes) {
+    if (!error_) error_ = target_->Write(AsBytes(bytes));
+    written_ += bytes.size();
+    services_.progress.Report(written_, 0);
+  };
+  content.Take(size, writePiece);
+  const std::string zeros(std::min<std::uint64_t>(size - content.Position(), ByteSource::kMaxTake), '\0');
+  for (std::uint64_t left = size - content.Position(); left > 0 && !error_;) {
+    const auto piece = std::min<std::uint64_t>(left, zeros.size());
+    writePiece(std::string_view(zeros).substr(0, static_cast<std::size_t>(piece)));
+    left -= piece;
+  }
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ExamServices.h"
+#include "platform/Files.h"
+
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace quorvantis {
+
+class FrameSetExam;
+struct ExamQuestion;
+
+/// Saves an exam as a current-version file with the content of its attached files. The document is only read,
+/// apart from `questionCount`. Attached files are streamed; one that cannot be opened is stored with size 0.
+class ExamFileWriter {
+ public:
+  /// Both must outlive the writer.
+  ExamFileWriter(FrameSetExam& exam, const ExamServices& services) : exam_(exam), services_(services) {}
+
+  /// Replaces `file` once the new content is complete; after an error the old file is as it was.
+  std::error_code Write(const std::filesystem::path& file);
+
+ private:
+  void WriteHeader();
+  void WriteQuestion(int number);
+  void PackExamAttachments();
+  void PackQuestionAttachments(const ExamQuestion& question);
+  void PackFile(const std::u16string& name, const std::filesystem::path& path, const int* oralFlag);
+  void Flush();
+
+  FrameSetExam& exam_;
+  const ExamServices& services_;
+  std::unique_ptr<PendingFile> target_;
+  std::string bytes_;  ///< composed and not yet written
+  std::error_code error_;
+  std::uint64_t written_ = 0;
+};
+
+}  // namespace quorvantis

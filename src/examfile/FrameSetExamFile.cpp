@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// The operations of the exam document that read and write exam files.
+#include "examfile/ExamFileMessages.h"
+#include "examfile/ExamFileReader.h"
+#include "examfile/ExamFileWriter.h"
+#include "model/FrameSetExam.h"
+#include "platform/UserDialogs.h"
+
+namespace quorvantis {
+
+void FrameSetExam::ReadExamFile(const std::filesystem::path& file) {
+  ExamServices& services = Services();
+  const ExamReadOutcome outcome = ExamFileReader(*this, services).Read(file);
+  if (!outcome.opened) services.dialogs.ShowError(OpenFileError(services, file));
+  ShowReadLosses(services, outcome);
+}
+
+bool FrameSetExam::WriteExamFile(const std::filesystem::path& file) {
+  ExamServices& services = Services();
+  if (!ExamFileWriter(*this, services).Write(file)) return true;
+  services.dialogs.ShowError(OpenFileError(services, file));
+  return false;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "../platform/posix/OrdinaryUser.h"
+#include "ExamFileTest.h"
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace quorvantis::test {
+namespace {
+
+/// While it lives, no file of this process grows beyond `bytes`, as if the disk were full.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  rlimit before_{};
+};
+
+class WriteExamFile : public ExamFileTest {
+ protected:
+  WriteExamFile() {
+    exam.randomMode = RandomMode::Sequence;
+    exam.scoreMode = ScoreMode::Custom;
+    exam.scoreFrom = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+    exam.scoreTo = {51, 52, 53, 54, 55, 56, 57, 58, 59, 60};
+    exam.scoreValue.fill(12345.67F);
+    exam.boundaryQuestion = 7;
+  }
+
+  std::u16string Attached(const char* name, std::string_view content) {
+    return PathToText(WriteBytes(folder / "attached" / name, content));
+  }
+
+  std::size_t WrittenSize() {
+    EXPECT_TRUE(exam.WriteExamFile(target));
+    return std::filesystem::file_size(target);
+  }
+
+  /// Byte for byte, with nothing but zeros behind a terminator.
+  void ExpectWritten(TypedExam typed) {
+    typed.score = u"12345.6";
+    EXPECT_TRUE(exam.WriteExamFile(target));
+    EXPECT_TRUE(ReadBytes(target) == Type(AllForms()[0], typed, '\0').bytes);
+    exam.Reset();
+    exam.ReadExamFile(target);
+  }
+
+  const std::filesystem::path target = folder / "saved.exm";
+};
+
+TEST_F(WriteExamFile, WritesEveryFieldWhereItBelongs) {
+  TypedExam typed{.title = std::u16string(256, u'T')};
+  typed.files = {{u"exam.doc", "exam level"}, {u"gone.doc", ""}, {u"folder", ""}};
+  typed.questions = {
+      {u"0", u"lone \xD800 and \xDC00", {u"A", u"B", u"C", u"D", std::u16string(256, u'E')}, u"ae"},
+      {u"0"},
+      {u"3", std::u16string(4096, u'x'), {}, std::u16string(16, u'l')}};
+  TypedQuestion& third = typed.questions[2];
+  third.essay = std::u16string(4096, u'\u8A66');
+  third.answer = std::u16string(256, u'r');
+  third.files = {{u"first", "1"}, {std::u16string(128, u'n'), "second"}};
+  third.oralFlag = "\x01\0"s;
+
+  const std::u16string cut = u"cut off";
+  exam.title = typed.title + cut;
+  exam.examAttachmentNames = {u"exam.doc", u"gone.doc", u"folder", u"", u"behind the end"};
+  exam.examAttachmentPaths = {Attached("exam", "exam level"), PathToText(folder / "gone"),
+                              PathToText(application)};
+  ExamQuestion &first = exam.Question(1), &last = exam.Question(3);
+  first.text = typed.questions[0].text;
+  first.options = typed.questions[0].options;
+  first.options[4] += cut;
+  first.answerLetters = u"ae";
+  first.oralFlag = 1;  // without an attachment there is nowhere to store it
+  last.kind = QuestionKind::Oral;
+  last.text = third.text + cut;
+  last.answerLetters = third.letters + cut;
+  last.answerText = third.answer + cut;
+  last.essayAnswer = third.essay + cut;
+  last.attachmentPaths = {Attached("1", "1"), u"", u"", Attached("2", "second")};
+  last.attachmentNames = {u"first", u"a name without a path", u"", third.files[1].name + cut};
+  last.oralFlag = 1;
+  exam.Question(4).essayAnswer = u"an answer alone is not saved";
+  ExpectWritten(typed);
+  EXPECT_EQ(exam.Question(1).text, u"lone \xD800 and \xDC00");
+  EXPECT_EQ(exam.Question(3).attachmentPaths[1], PathToText(work / std::string(128, 'n')));
+  EXPECT_EQ(exam.examAttachmentPaths[1], PathToText(work / "gone.doc"));
+  EXPECT_FALSE(std::filesystem::exists(work / "gone.doc"));
+}
+
+TEST_F(WriteExamFile, TakesTheLongFormByTheFlagAndForTheMarkerItself) {
+  const std::u16string whole(1024, u'w'), marker = u"ExcessTextAns";
+  const std::u16string answers[] = {whole + u"cut off", u"short", marker, whole};
+  for (int n = 1; n <= 4; ++n) {
+    exam.Question(n).kind = QuestionKind::FillIn;
+    exam.Question(n).answerText = answers[n - 1];
+  }
+  world.longAnswerFlags.Set(1);
+  world.longAnswerFlags.Set(2);
+  ExpectWritten({.questions = {{.kind = u"1", .answer = marker, .longAnswer = whole},
+                               {.kind = u"1", .answer = marker, .longAnswer = u"short"},
+                               {.kind = u"1", .answer = marker, .longAnswer = marker},
+                               {.kind = u"1", .answer = whole.substr(0, 256)}}});
+  EXPECT_EQ(exam.Question(3).answerText, marker);
+}
+
+TEST_F(WriteExamFile, HasTheSizeThatItsContentAddsUpTo) {
+  EXPECT_EQ(WrittenSize(), 2926u);
+  exam.Question(2).options[4] = u"x";
+  EXPECT_EQ(WrittenSize(), 2926u + 2 * 19632);
+  exam.Question(1).attachmentPaths = {Attached("five", "12345"), Attached("none", "")};
+  EXPECT_EQ(WrittenSize(), 2926u + 2 * 19632 + 288 + 5 + 2 + 288);
+  world.longAnswerFlags.Set(2);
+  EXPECT_EQ(WrittenSize(), 2926u + 2 * 19632 + 288 + 5 + 2 + 288 + 2048);
+  exam.Reset();
+  exam.examAttachmentNames.fill(u"ten files");
+  exam.examAttachmentPaths[9] = Attached("large", std::string(1200000, 'x'));
+  EXPECT_EQ(WrittenSize(), 2926u + 10 * 288 + 1200000);
+}
+
+TEST_F(WriteExamFile, LeavesTheOldFileWhenTheDiskIsFull) {
+  exam.Question(2).attachmentPaths[0] = exam.Question(2).text = Attached("large", std::string(1200000, 'x'));
+  const std::size_t size = WrittenSize();
+  WriteBytes(target, "old");
+  const auto before = Surroundings();
+  for (const std::size_t room :
+       {std::size_t{0}, std::size_t{2926}, std::size_t{50000}, std::size_t{700000}, size - 1}) {
+    world.dialogs.errors.clear();
+    const FullDisk disk(room);
+    EXPECT_FALSE(exam.WriteExamFile(target));
+    EXPECT_EQ(world.dialogs.errors, Messages{u"[102 " + PathToText(target) + u"]"});
+    EXPECT_EQ(ReadBytes(target), "old") << room;
+    EXPECT_EQ(Surroundings(), before);
+  }
+}
+
+TEST_F(WriteExamFile, SaysWhereItCannotWrite) {
+  std::filesystem::permissions(folder.Path(), std::filesystem::perms(0755));
+  const OrdinaryUser user;
+  for (const auto& path :
+       {target, application, folder / "beside/victim", folder / "no such folder" / "x.exm"}) {
+    world.dialogs.errors.clear();
+    EXPECT_FALSE(exam.WriteExamFile(path)) << path;
+    EXPECT_EQ(world.dialogs.errors, Messages{u"[102 " + PathToText(path) + u"]"});
+  }
+}
+
+}  // namespace
+}  // namespace quorvantis::test
