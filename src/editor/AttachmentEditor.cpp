@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "editor/AttachmentEditor.h"
+
+#include "editor/AttachmentShifts.h"
+#include "editor/WorkCopies.h"
+#include "platform/ExamServices.h"
+#include "platform/StringTable.h"
+#include "platform/Texts.h"
+#include "platform/UserDialogs.h"
+#include "text/PathText.h"
+
+namespace quorvantis {
+namespace {
+
+constexpr std::u16string_view kAttachmentFilter =
+    u"Text files(*.doc,*.docx,*.ppt,*.pptx,*.xls,*.xlsx,*.txt)|*.doc;*.docx;*.ppt;*.pptx;*.xls;*.xlsx;*.txt|"
+    u"Picture files(*.jpg;*.jpeg;*.bmp;*.gif)|*.jpg;*.jpeg;*.bmp;*.gif|"
+    u"Mutimedia files(*.wav;*.mp3;*.wmv;*.wma;*.avi;*.mpeg;*.dat;*.asf)|"
+    u"*.wav;*.mp3;*.wmv;*.wma;*.avi;*.mpeg;*.dat;*.asf|"
+    u"flash files(*.swf)|*.swf|";
+
+/// Fills a list from the names of the document.
+void Fill(ShownAttachments& list, const AttachmentList& names) {
+  const auto count = static_cast<std::ptrdiff_t>(CountEntries(names));
+  list.names.assign(names.begin(), names.begin() + count);
+  list.selected.reset();
+  list.visible = count > 0;
+}
+
+void RemoveEntry(ShownAttachments& list) {
+  list.names.erase(list.names.begin() + static_cast<std::ptrdiff_t>(*list.selected));
+  list.selected.reset();
+  list.visible = !list.names.empty();
+}
+
+/// Appends an entry and gives its index, which is also its place in the document's lists.
+std::size_t AppendEntry(ShownAttachments& list, const std::u16string& name) {
+  list.names.push_back(name);
+  list.visible = true;
+  return list.names.size() - 1;
+}
+
+}  // namespace
+
+std::optional<std::filesystem::path> AttachmentEditor::ChooseFile() const {
+  return state_.document.Services().dialogs.ChooseFileToOpen({std::u16string(kAttachmentFilter), {}, {}});
+}
+
+std::filesystem::path AttachmentEditor::MakeCopy(const std::filesystem::path& source) {
+  state_.MarkModified();
+  const auto workRoot = AttachmentWorkRoot(state_.document.Services().applicationFolder);
+  return MakeWorkCopy(workRoot, source, ++attachmentCounter_);
+}
+
+void AttachmentEditor::AttachExamFile() {
+  if (examList_.IsFull()) return;
+  if (const auto source = ChooseFile()) AttachExamFile(*source);
+}
+
+void AttachmentEditor::AttachQuestionFile() {
+  if (questionList_.IsFull()) return;
+  if (const auto source = ChooseFile()) AttachQuestionFile(*source);
+}
+
+void AttachmentEditor::AttachExamFile(const std::filesystem::path& source) {
+  if (examList_.IsFull()) return;
+  const std::u16string name = PathToText(source.filename());
+  const auto copy = MakeCopy(source);
+  const std::size_t index = AppendEntry(examList_, name);
+  state_.document.examAttachmentPaths[index] = PathToText(copy);
+  state_.document.examAttachmentNames[index] = name;
+  state_.view.FormChanged();
+}
+
+void AttachmentEditor::AttachQuestionFile(const std::filesystem::path& source) {
+  if (questionList_.IsFull()) return;
+  const std::u16string name = PathToText(source.filename());
+  const auto copy = MakeCopy(source);
+  const std::size_t index = AppendEntry(questionList_, name);
+  state_.Current().attachmentPaths[index] = PathToText(copy);
+  state_.Current().attachmentNames[index] = name;
+  UpdateOralToggle();
+  state_.view.FormChanged();
+}
+
+void AttachmentEditor::RemoveSelectedExamFile() {
+  if (!examList_.selected) return;
+  RemoveExamAttachment(state_.document, *examList_.selected, examList_.names.size());
+  RemoveEntry(examList_);
+  state_.view.FormChanged();
+}
+
+void AttachmentEditor::RemoveSelectedQuestionFile() {
+  if (!questionList_.selected) return;
+  RemoveQuestionAttachment(state_.Current(), *questionList_.selected, questionList_.names.size());
+  RemoveEntry(questionList_);
+  UpdateOralToggle();
+  state_.view.FormChanged();
+}
+
+void AttachmentEditor::ToggleOral() {
+  oralToggleState_ = oralToggleState_ == 0 ? 1 : 0;
+  state_.Current().oralFlag = oralToggleState_;
+  UpdateOralToggle();
+  state_.view.FormChanged();
+}
+
+void AttachmentEditor::RefreshQuestionList() {
+  Fill(questionList_, state_.Current().attachmentNames);
+  UpdateOralToggle();
+}
+
+void AttachmentEditor::RefreshExamList() {
+  Fill(examList_, state_.document.examAttachmentNames);
+}
+
+void AttachmentEditor::RemoveQuestionAttachments(int question) {
+  RemoveAttachmentLists(state_.document, question);
+  questionList_ = {};
+}
+
+void AttachmentEditor::ShiftAttachmentsForInsert(int question) {
+  ShiftAttachmentLists(state_.document, question);
+  questionList_ = {};
+}
+
+/// Refreshed by loading, attaching, removing and toggling only: selecting an entry by itself does not bring
+/// the toggle up. A question that is not oral loses its flag by being shown.
+void AttachmentEditor::UpdateOralToggle() {
+  ExamQuestion& question = state_.Current();
+  if (state_.currentKind != QuestionKind::Oral) {
+    question.oralFlag = 0;
+    oralToggleShown_ = false;
+    return;
+  }
+  oralToggleShown_ = questionList_.selected.has_value();
+  oralToggleState_ = question.oralFlag == 1 ? 1 : 0;
+}
+
+bool AttachmentEditor::OralToggleVisible() const {
+  return oralToggleShown_ && questionList_.visible && state_.currentKind == QuestionKind::Oral;
+}
+
+std::u16string AttachmentEditor::OralToggleCaption() const {
+  return state_.document.Services().strings.Text(oralToggleState_ == 1 ? text_id::kOralOn
+                                                                       : text_id::kOralOff);
+}
+
+}  // namespace quorvantis

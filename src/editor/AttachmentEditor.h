@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/EditorState.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// A list of attached files as the window shows it: display names, at most one of them selected.
+struct ShownAttachments {
+  std::vector<std::u16string> names;
+  std::optional<std::size_t> selected;
+  bool visible = false;  ///< only while it holds entries
+
+  bool IsFull() const { return names.size() >= kMaxAttachments; }
+};
+
+/// The two lists of attached files, the exam's and the shown question's, and the oral toggle beside the
+/// latter. Changes go into the document at once; removing and toggling do not count as a change of the exam.
+class AttachmentEditor {
+ public:
+  explicit AttachmentEditor(EditorState& state) : state_(state) {}
+
+  /// Lets the user choose a file and attaches it. Nothing happens when the list already has ten entries.
+  void AttachExamFile();
+  void AttachQuestionFile();
+
+  /// Attaches the file at `source`, a full path, without asking.
+  void AttachExamFile(const std::filesystem::path& source);
+  void AttachQuestionFile(const std::filesystem::path& source);
+
+  void SelectExamFile(std::optional<std::size_t> index) { examList_.selected = index; }
+  void SelectQuestionFile(std::optional<std::size_t> index) { questionList_.selected = index; }
+
+  /// The Delete key in a list; nothing happens when nothing is selected. The copied file stays.
+  void RemoveSelectedExamFile();
+  void RemoveSelectedQuestionFile();
+
+  /// Switches the oral flag of the question shown.
+  void ToggleOral();
+
+  /// Fill a list anew from the document.
+  void RefreshQuestionList();
+  void RefreshExamList();
+
+  /// Keep the lists in step with a question that is deleted or inserted.
+  void RemoveQuestionAttachments(int question);
+  void ShiftAttachmentsForInsert(int question);
+
+  const ShownAttachments& QuestionList() const { return questionList_; }
+  const ShownAttachments& ExamList() const { return examList_; }
+
+  /// The toggle can be seen: the question is oral, its list shows and an entry was selected when it last
+  /// changed.
+  bool OralToggleVisible() const;
+  std::u16string OralToggleCaption() const;
+
+ private:
+  std::optional<std::filesystem::path> ChooseFile() const;
+  std::filesystem::path MakeCopy(const std::filesystem::path& source);
+  void UpdateOralToggle();
+
+  EditorState& state_;
+  ShownAttachments questionList_;
+  ShownAttachments examList_;
+  int attachmentCounter_ = 0;  ///< attachments of this run; never goes back, so that copy names stay unique
+  int oralToggleState_ = 0;
+  bool oralToggleShown_ = false;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "editor/EditorState.h"
+
+#include "platform/ExamServices.h"
+#include "platform/StringTable.h"
+#include "platform/Texts.h"
+#include "text/MessageText.h"
+#include "text/PathText.h"
+
+#include <utility>
+
+namespace quorvantis {
+
+std::u16string EditorState::WindowTitle() const {
+  const std::u16string title =
+      FillMessage(document.Services().strings.Text(text_id::kWindowTitle), {PathToText(fileName_)});
+  return modified_ ? title + u" *" : title;
+}
+
+void EditorState::MarkModified() {
+  if (modified_) return;
+  modified_ = true;
+  view.TitleChanged();
+}
+
+void EditorState::SetFileName(std::filesystem::path fileName) {
+  fileName_ = std::move(fileName);
+  view.TitleChanged();
+}
+
+void EditorState::MarkSaved() {
+  modified_ = false;
+  view.TitleChanged();
+}
+
+void EditorState::QueueContentChanged() {
+  if (std::exchange(contentChangeQueued_, true)) return;
+  view.PostContentChanged();
+}
+
+void EditorState::DeliverContentChanged() {
+  if (std::exchange(contentChangeQueued_, false)) MarkModified();
+}
+
+}  // namespace quorvantis

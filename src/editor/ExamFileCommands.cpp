@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "editor/ExamFileCommands.h"
+
+#include "editor/WorkCopies.h"
+#include "platform/ExamServices.h"
+#include "platform/StringTable.h"
+#include "platform/Texts.h"
+#include "platform/UserDialogs.h"
+#include "text/MessageText.h"
+#include "text/PathText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::u16string_view kOpenFilter = u"Exam files, (*.exm)|*.exm|";
+constexpr std::u16string_view kSaveFilter = u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|";
+
+/// What follows the last dot of the whole path, in lower case; the whole path when it has no dot.
+std::u16string LowerExtension(const std::filesystem::path& path) {
+  std::u16string text = PathToText(path);
+  text.erase(0, text.rfind(u'.') + 1);
+  const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c; };
+  std::ranges::transform(text, text.begin(), lower);
+  return text;
+}
+
+}  // namespace
+
+bool ExamFileCommands::MayDiscardChanges() {
+  if (!state_.Modified()) return true;
+  const ExamServices& services = state_.document.Services();
+  const std::u16string question =
+      FillMessage(services.strings.Text(text_id::kSaveQuestion), {PathToText(state_.FileName())});
+  const SaveAnswer answer = services.dialogs.AskSave(question);
+  if (answer == SaveAnswer::Yes) SaveExam();
+  return answer != SaveAnswer::Cancel;
+}
+
+void ExamFileCommands::ClearDocument() {
+  FrameSetExam& exam = state_.document;
+  exam.Reset();
+  if (exam.questionFilesUnpacked != 0) DeleteQuestionCopies(exam);
+  if (exam.examFilesUnpacked != 0) DeleteExamCopies(exam);
+  exam.questionFilesUnpacked = 0;
+  exam.examFilesUnpacked = 0;
+}
+
+void ExamFileCommands::NewExam() {
+  if (!MayDiscardChanges()) return;
+  ClearDocument();
+  state_.currentQuestion = 1;
+  questions_.LoadCurrentQuestion();
+  state_.SetFileName(kUntitled);
+  state_.MarkSaved();
+}
+
+void ExamFileCommands::OpenExam() {
+  if (!MayDiscardChanges()) return;
+  UserDialogs& dialogs = state_.document.Services().dialogs;
+  if (const auto file = dialogs.ChooseFileToOpen({std::u16string(kOpenFilter), {}, {}})) LoadFile(*file);
+}
+
+void ExamFileCommands::OpenExam(const std::filesystem::path& file) {
+  if (MayDiscardChanges()) LoadFile(file);
+}
+
+void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
+  ClearDocument();
+  state_.document.ReadExamFile(file);
+  RecordCopies(state_.document);
+  state_.SetFileName(file);
+  state_.currentQuestion = 1;
+  questions_.LoadCurrentQuestion();
+  state_.MarkSaved();
+}
+
+void ExamFileCommands::SaveExam() {
+  if (state_.IsUntitled()) {
+    SaveExamAs();
+    return;
+  }
+  questions_.StoreCurrentQuestion();
+  WriteTo(state_.FileName());
+}
+
+void ExamFileCommands::SaveExamAs() {
+  const ExamServices& services = state_.document.Services();
+  const auto file = services.dialogs.ChooseFileToSave({std::u16string(kSaveFilter), u"exm", u"MyExam"});
+  if (!file || file->empty()) return;
+  const std::u16string extension = LowerExtension(*file);
+  if (extension == u"exm") {
+    questions_.StoreCurrentQuestion();
+    state_.SetFileName(*file);
+    WriteTo(*file);
+  } else if (extension == u"doc") {
+    questions_.StoreCurrentQuestion();
+    exportDocument_(state_.document, *file);
+  }
+}
+
+void ExamFileCommands::WriteTo(const std::filesystem::path& file) {
+  if (state_.document.WriteExamFile(file)) state_.MarkSaved();
+}
+
+bool ExamFileCommands::ConfirmClose() {
+  return MayDiscardChanges();
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/QuestionEditor.h"
+
+#include <filesystem>
+#include <functional>
+
+namespace quorvantis {
+
+/// Writes the exam as a word-processor document; tells the user itself how it went.
+using DocumentExport = std::function<void(FrameSetExam& exam, const std::filesystem::path& target)>;
+
+/// New, Open, Save, Save As and the question before closing. Reading and writing report their own failures;
+/// the editor goes on with whatever the document holds.
+class ExamFileCommands {
+ public:
+  /// All must outlive the commands.
+  ExamFileCommands(EditorState& state, QuestionEditor& questions, DocumentExport exportDocument)
+      : state_(state), questions_(questions), exportDocument_(std::move(exportDocument)) {}
+
+  void NewExam();
+
+  void OpenExam();
+  /// Opens `file`, a full path, without a file dialog.
+  void OpenExam(const std::filesystem::path& file);
+
+  /// An exam without a file name is saved as SaveExamAs does.
+  void SaveExam();
+  void SaveExamAs();
+
+  /// Asks about unsaved changes; false when the window is to stay open.
+  bool ConfirmClose();
+
+ private:
+  bool MayDiscardChanges();
+  void ClearDocument();
+  void LoadFile(const std::filesystem::path& file);
+  void WriteTo(const std::filesystem::path& file);
+
+  EditorState& state_;
+  QuestionEditor& questions_;
+  DocumentExport exportDocument_;
+};
+
+}  // namespace quorvantis

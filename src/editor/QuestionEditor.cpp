@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "editor/QuestionEditor.h"
+
+#include "editor/AnswerList.h"
+#include "model/AnswerLetters.h"
+#include "model/LongAnswerFlags.h"
+#include "platform/ExamServices.h"
+#include "platform/StringTable.h"
+#include "platform/Texts.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr int kLongStep = 10;
+
+/// Box A takes whatever a mask has above the others: 2 or more of it is a grey box.
+std::array<CheckState, kOptionCount> ChecksFromMask(int mask) {
+  std::array<CheckState, kOptionCount> checks;
+  checks[0] = static_cast<CheckState>(std::clamp(mask / AnswerBoxWeight(0), 0, 2));
+  for (std::size_t box = 1; box < kOptionCount; ++box) {
+    checks[box] = (mask & AnswerBoxWeight(box)) != 0 ? CheckState::On : CheckState::Off;
+  }
+  return checks;
+}
+
+int MaskFromChecks(const std::array<CheckState, kOptionCount>& checks) {
+  int mask = 0;
+  for (std::size_t box = 0; box < kOptionCount; ++box) {
+    if (checks[box] != CheckState::Off) mask += AnswerBoxWeight(box);
+  }
+  return mask;
+}
+
+}  // namespace
+
+std::u16string QuestionEditor::RandomCaption() const {
+  const int id = form_.random == RandomMode::Options    ? text_id::kRandomOptions
+                 : form_.random == RandomMode::Sequence ? text_id::kRandomSequence
+                                                        : text_id::kRandom;
+  return state_.document.Services().strings.Text(id);
+}
+
+bool QuestionEditor::EditField(FormField field, std::u16string text) {
+  const bool accepted = text.size() <= MaxLength(field);
+  if (accepted) form_.Field(field) = std::move(text);
+  state_.QueueContentChanged();
+  return accepted;
+}
+
+void QuestionEditor::TickAnswerBox(std::size_t index, bool on) {
+  form_.checks[index] = on ? CheckState::On : CheckState::Off;
+  state_.MarkModified();
+}
+
+void QuestionEditor::StoreCurrentQuestion() {
+  ExamQuestion& question = state_.Current();
+  state_.document.title = form_.title;
+  question.text = form_.text;
+  question.options = form_.options;
+  question.answerText = WithoutOpenSeparator(form_.answer);
+  if (question.answerText.size() > kMaxShortAnswer) {
+    state_.document.Services().longAnswerFlags.Set(state_.currentQuestion);
+  }
+  question.essayAnswer = form_.essay;
+  question.kind = state_.currentKind;
+  state_.document.randomMode = form_.random;
+  question.answerMask = MaskFromChecks(form_.checks);
+  question.answerLetters = AnswerMaskToLetters(question.answerMask);
+}
+
+void QuestionEditor::LoadCurrentQuestion() {
+  const ExamQuestion& question = state_.Current();
+  form_.number = state_.currentQuestion;
+  form_.title = state_.document.title;
+  form_.random = state_.document.randomMode;
+  form_.text = question.text;
+  form_.options = question.options;
+  form_.answer = question.answerText;
+  form_.essay = question.essayAnswer;
+  form_.checks = ChecksFromMask(question.answerMask);
+  state_.currentKind = question.kind;
+  attachments_.RefreshQuestionList();
+  attachments_.RefreshExamList();
+  state_.view.FormLoaded();
+}
+
+void QuestionEditor::GoTo(int question) {
+  StoreCurrentQuestion();
+  state_.currentQuestion = question;
+  LoadCurrentQuestion();
+}
+
+void QuestionEditor::GoNext() {
+  if (state_.currentQuestion < kMaxQuestions) GoTo(state_.currentQuestion + 1);
+}
+
+void QuestionEditor::GoPrevious() {
+  if (state_.currentQuestion > 1) GoTo(state_.currentQuestion - 1);
+}
+
+void QuestionEditor::GoBack10() {
+  if (state_.currentQuestion > 1) GoTo(std::max(state_.currentQuestion - kLongStep, 1));
+}
+
+void QuestionEditor::GoForward10() {
+  if (state_.currentQuestion < kMaxQuestions)
+    GoTo(std::min(state_.currentQuestion + kLongStep, kMaxQuestions));
+}
+
+void QuestionEditor::InsertHere() {
+  StoreCurrentQuestion();
+  attachments_.ShiftAttachmentsForInsert(state_.currentQuestion);
+  state_.document.InsertQuestion(state_.currentQuestion);
+  LoadCurrentQuestion();
+  state_.QueueContentChanged();
+}
+
+void QuestionEditor::DeleteHere() {
+  int& boundary = state_.document.boundaryQuestion;
+  if (boundary != 0 && boundary >= state_.currentQuestion) --boundary;
+  attachments_.RemoveQuestionAttachments(state_.currentQuestion);
+  state_.document.DeleteQuestion(state_.currentQuestion);
+  LoadCurrentQuestion();
+  state_.QueueContentChanged();
+}
+
+void QuestionEditor::SelectKind(QuestionKind kind) {
+  state_.currentKind = kind;
+  state_.MarkModified();
+  state_.view.FormChanged();
+}
+
+void QuestionEditor::CycleRandomMode() {
+  form_.random = form_.random == RandomMode::Off       ? RandomMode::Options
+                 : form_.random == RandomMode::Options ? RandomMode::Sequence
+                                                       : RandomMode::Off;
+  state_.MarkModified();
+  state_.view.FormChanged();
+}
+
+void QuestionEditor::AppendListSeparator() {
+  std::u16string line = WithOpenSeparator(form_.answer);
+  if (line == form_.answer) return;
+  EditField(FormField::Answer, std::move(line));
+  state_.view.FormChanged();
+}
+
+}  // namespace quorvantis

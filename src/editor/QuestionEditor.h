@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/AttachmentEditor.h"
+#include "editor/EditorState.h"
+#include "editor/QuestionForm.h"
+
+#include <string>
+
+namespace quorvantis {
+
+/// Editing of one question at a time: which question is shown, what its form holds, and how the form goes
+/// into the document (store) and back (load). All fields are stored whatever the kind; another kind only
+/// hides fields.
+class QuestionEditor {
+ public:
+  /// Both must outlive the editor.
+  QuestionEditor(EditorState& state, AttachmentEditor& attachments)
+      : state_(state), attachments_(attachments) {}
+
+  const QuestionForm& Form() const { return form_; }
+  std::u16string RandomCaption() const;
+
+  /// What the user has made of a field by typing, pasting or dropping. A text longer than MaxLength is
+  /// refused as a whole: the field keeps what it held and the result is false. Either way the change is
+  /// reported.
+  bool EditField(FormField field, std::u16string text);
+
+  /// The user clicked the answer box `index` (0 for A to 4 for E), which now is on or off.
+  void TickAnswerBox(std::size_t index, bool on);
+
+  void StoreCurrentQuestion();
+  void LoadCurrentQuestion();
+
+  void GoNext();
+  void GoPrevious();
+  void GoBack10();
+  void GoForward10();
+
+  /// Opens an empty question here; the one shown moves to the next number.
+  void InsertHere();
+  /// Deletes the question shown, with whatever was typed into it since it was stored. There is no
+  /// confirmation.
+  void DeleteHere();
+
+  void SelectKind(QuestionKind kind);
+  void CycleRandomMode();
+
+  /// The list-separator button: prepares the answer line for one more answer.
+  void AppendListSeparator();
+
+ private:
+  void GoTo(int question);
+
+  EditorState& state_;
+  AttachmentEditor& attachments_;
+  QuestionForm form_;
+};
+
+}  // namespace quorvantis

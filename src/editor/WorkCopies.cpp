@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "editor/WorkCopies.h"
+
+#include "editor/AttachmentShifts.h"
+#include "examfile/WorkFolder.h"
+#include "platform/ExamServices.h"
+#include "text/NumberText.h"
+#include "text/PathText.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+namespace quorvantis {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr auto kSeparator = static_cast<char16_t>(fs::path::preferred_separator);
+
+/// "photo.jpg" and 3 give "photo~3.jpg"; without a dot the counter goes in front.
+std::u16string NumberedName(std::u16string name, int counter) {
+  const std::size_t dot = name.rfind(u'.');
+  return name.insert(dot == std::u16string::npos ? 0 : dot, u"~" + FormatInteger(counter));
+}
+
+/// The folders of a full path as one name: trailing characters that occur in the file name are cut off, which
+/// ends at the separator, then separators and colons go.
+std::u16string SourceFolderKey(const fs::path& source) {
+  std::u16string key = PathToText(source);
+  const std::u16string name = PathToText(source.filename());
+  key.erase(key.find_last_not_of(name) + 1);
+  std::erase_if(key, [](char16_t unit) { return unit == kSeparator || unit == u':'; });
+  if (key == u"." || key == u"..") key += u'~';  // these would not be folders of their own
+  return key;
+}
+
+/// The second component of a full path, where a student's folder has its number.
+std::u16string SecondComponent(std::u16string_view path) {
+  const std::size_t first = path.find(kSeparator);
+  if (first == std::u16string_view::npos) return {};
+  path.remove_prefix(first + 1);
+  return std::u16string(path.substr(0, path.find(kSeparator)));
+}
+
+/// Deletes the files of a list and empties it up to the first empty entry. Returns the last path deleted.
+std::u16string DeleteCopies(AttachmentList& copies) {
+  std::u16string last;
+  const std::size_t count = CountEntries(copies);
+  for (std::size_t i = 0; i < count; ++i) {
+    std::error_code ignored;
+    const fs::path copy = TextToPath(copies[i]);
+    if (!fs::is_directory(fs::symlink_status(copy, ignored))) fs::remove(copy, ignored);
+    last = std::exchange(copies[i], {});
+  }
+  return last;
+}
+
+void RememberPaths(const AttachmentList& paths, AttachmentList& copies) {
+  std::copy_n(paths.begin(), CountEntries(paths), copies.begin());
+}
+
+/// Makes the folder `name` below `parent`; a link in its place would lead the copies elsewhere and is
+/// removed.
+fs::path MakeOwnFolder(const fs::path& parent, const fs::path& name) {
+  const fs::path folder = parent / name;
+  std::error_code ignored;
+  if (fs::is_symlink(fs::symlink_status(folder, ignored))) fs::remove(folder, ignored);
+  fs::create_directory(folder, ignored);
+  return folder;
+}
+
+}  // namespace
+
+fs::path AttachmentWorkRoot(const fs::path& applicationFolder) {
+  return applicationFolder / "~TEMP";
+}
+
+std::u16string SourceFolder(const fs::path& source) {
+  return FitFileName(SourceFolderKey(source));
+}
+
+std::u16string CopyFolder(const fs::path& source, int counter) {
+  return FitFileName(NumberedName(PathToText(source.filename()), counter));
+}
+
+fs::path MakeWorkCopy(const fs::path& workRoot, const fs::path& source, int counter) {
+  MakeOwnFolder(workRoot.parent_path(), workRoot.filename());
+  const fs::path fromFolder = MakeOwnFolder(workRoot, TextToPath(SourceFolder(source)));
+  const fs::path copy =
+      MakeOwnFolder(fromFolder, TextToPath(CopyFolder(source, counter))) / source.filename();
+  std::error_code ignored;
+  fs::remove(copy, ignored);
+  fs::copy_file(source, copy, ignored);
+  constexpr auto kExecutable = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+  fs::permissions(copy, kExecutable, fs::perm_options::remove, ignored);
+  fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add, ignored);
+  return copy;
+}
+
+void RecordCopies(FrameSetExam& exam) {
+  RememberPaths(exam.examAttachmentPaths, exam.examAttachmentCopies);
+  for (int n = 1; n <= kMaxQuestions; ++n) {
+    ExamQuestion& question = exam.Question(n);
+    RememberPaths(question.attachmentPaths, question.attachmentCopies);
+  }
+}
+
+void DeleteQuestionCopies(FrameSetExam& exam) {
+  std::u16string last;
+  for (int n = 1; n <= kMaxQuestions; ++n) {
+    const std::u16string deleted = DeleteCopies(exam.Question(n).attachmentCopies);
+    if (!deleted.empty()) last = deleted;
+  }
+  const std::u16string folder = SecondComponent(last);
+  if (folder.empty() || folder == u"." || folder == u"..") return;
+  RemoveEmptyFolder(exam.Services().applicationFolder / "~BrelmStudent" / TextToPath(folder));
+}
+
+void DeleteExamCopies(FrameSetExam& exam) {
+  DeleteCopies(exam.examAttachmentCopies);
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: MIT
+#include "EditorTest.h"
+#include "editor/WorkCopies.h"
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::u16string>;
+
+class Attaching : public EditorTest {
+ protected:
+  fs::path MakeFile(const fs::path& name, std::string_view content = "content") {
+    return WriteBytes(folder / name, content);
+  }
+  fs::path WorkRoot() const { return world.services.applicationFolder / "~TEMP"; }
+
+  /// Fills the exam's lists with ten files as if they came from an exam file.
+  void FillExamList() {
+    for (std::size_t i = 0; i < kMaxAttachments; ++i) {
+      const std::u16string digit(1, static_cast<char16_t>(u'0' + i));
+      exam.examAttachmentPaths[i] = AsText(MakeFile("unpacked" + std::to_string(i)));
+      exam.examAttachmentNames[i] = u"name" + digit;
+      exam.examAttachmentCopies[i] = exam.examAttachmentPaths[i];
+    }
+    Show();
+  }
+  void RemoveExamFile(std::size_t index) {
+    editor.attachments.SelectExamFile(index);
+    editor.attachments.RemoveSelectedExamFile();
+  }
+};
+
+TEST(WorkCopyNames, AreMadeOfFolderAndCounter) {
+  const auto check = [](const char* source, int counter, const char16_t* from, const char16_t* copy) {
+    EXPECT_EQ(SourceFolder(source), from) << source;
+    EXPECT_EQ(CopyFolder(source, counter), copy) << source;
+  };
+  check("/home/docs/photo.jpg", 3, u"homedocs", u"photo~3.jpg");
+  check("/Docs/report", 5, u"Docs", u"~5report");
+  check("/a:b/c.d/x.tar.gz", 12, u"abc.d", u"x.tar~12.gz");
+  check("/lib/bill", 1, u"lib", u"~1bill");  // folder names may share the file name's letters
+  check("/photo.jpg", 1, u"", u"photo~1.jpg");
+  check("/d/.profile", 2, u"d", u"~2.profile");
+}
+
+TEST_F(Attaching, CopiesTheFileAtOnce) {
+  const fs::path photo = MakeFile("photo.jpg", "picture");
+  editor.attachments.AttachExamFile();  // the dialog is cancelled
+  EXPECT_EQ(world.dialogs.requests.size(), 1u);
+  EXPECT_FALSE(Modified() || fs::exists(WorkRoot()));
+  world.dialogs.filesToOpen = {photo, photo};
+  editor.attachments.AttachQuestionFile();
+  EXPECT_TRUE(Modified());
+  editor.attachments.AttachQuestionFile();
+  editor.questions.GoNext();
+  editor.attachments.AttachExamFile(MakeFile("report"));
+
+  const fs::path from = WorkRoot() / SourceFolder(photo);
+  const ExamQuestion& question = exam.Question(1);
+  EXPECT_EQ(question.attachmentNames[0], u"photo.jpg");
+  EXPECT_EQ(question.attachmentNames[1], u"photo.jpg");
+  EXPECT_EQ(question.attachmentPaths[0], AsText(from / "photo~1.jpg" / "photo.jpg"));
+  EXPECT_EQ(question.attachmentPaths[1], AsText(from / "photo~2.jpg" / "photo.jpg"));
+  EXPECT_EQ(ReadBytes(question.attachmentPaths[1]), "picture");
+  EXPECT_EQ(exam.examAttachmentPaths[0], AsText(from / "~3report" / "report"));
+  EXPECT_EQ(editor.attachments.ExamList().names, Names{u"report"});
+  EXPECT_EQ(question.attachmentCopies[0], u"") << "removed with the work root, not one by one";
+  EXPECT_FALSE(editor.attachments.QuestionList().visible);
+  EXPECT_EQ(world.dialogs.requests[0].filter.substr(0, 24), u"Text files(*.doc,*.docx,");
+
+  world.dialogs.answers = {SaveAnswer::No};
+  editor.files.NewExam();
+  editor.attachments.AttachQuestionFile(photo);
+  EXPECT_EQ(exam.Question(1).attachmentPaths[0], AsText(from / "photo~4.jpg" / "photo.jpg"))
+      << "the counter goes on";
+}
+
+TEST_F(Attaching, TakesAnyFileNameAndItsFailures) {
+  const auto attach = [this](const fs::path& source) {
+    editor.attachments.AttachExamFile(source);
+    const std::size_t last = editor.attachments.ExamList().names.size() - 1;
+    EXPECT_EQ(exam.examAttachmentNames[last], AsText(source.filename()));
+    return fs::path(exam.examAttachmentPaths[last]);
+  };
+  const fs::path script = MakeFile("run.sh", "#!/bin/sh");
+  fs::permissions(script, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_exec);
+  const fs::path copy = attach(script);
+  EXPECT_EQ(ReadBytes(copy), "#!/bin/sh");
+  EXPECT_EQ(fs::status(copy).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+
+  EXPECT_EQ(ReadBytes(attach(MakeFile(std::string(254, 'n')))), "content");
+  const fs::path linked = MakeFile("in/x");
+  fs::create_directory_symlink(folder.Path(), WorkRoot() / SourceFolder(linked));
+  EXPECT_EQ(ReadBytes(attach(linked)), "content");
+  EXPECT_FALSE(fs::exists(folder / "~3x")) << "a link in the work root leads nowhere";
+  fs::path deep;
+  for (int i = 0; i < 6; ++i) deep /= std::string(60, static_cast<char>('a' + i));
+  EXPECT_EQ(ReadBytes(attach(MakeFile(deep / "x"))), "content");
+
+  EXPECT_FALSE(fs::exists(attach(folder / "absent.txt")));
+  EXPECT_FALSE(fs::exists(attach(folder.Path())));
+  EXPECT_EQ(editor.attachments.ExamList().names.size(), 6u);
+  EXPECT_TRUE(world.dialogs.errors.empty());
+}
+
+TEST_F(Attaching, RefusesTheEleventhFileSilently) {
+  const fs::path file = MakeFile("x.txt");
+  const auto check = [&](void (AttachmentEditor::*attach)(), const ShownAttachments& list) {
+    for (std::size_t count = 1; count <= 11; ++count) {
+      editor.state.MarkSaved();
+      world.dialogs.requests.clear();
+      world.dialogs.filesToOpen = {file};
+      (editor.attachments.*attach)();
+      EXPECT_EQ(list.names.size(), std::min(count, kMaxAttachments));
+      EXPECT_EQ(world.dialogs.requests.size(), count <= kMaxAttachments ? 1u : 0u);
+      EXPECT_EQ(Modified(), count <= kMaxAttachments);
+    }
+  };
+  check(&AttachmentEditor::AttachQuestionFile, editor.attachments.QuestionList());
+  check(&AttachmentEditor::AttachExamFile, editor.attachments.ExamList());
+  EXPECT_TRUE(exam.examAttachmentPaths[9].ends_with(u"x~20.txt/x.txt")) << "a refused file takes no number";
+}
+
+TEST_F(Attaching, RemovesTheSelectedEntry) {
+  const auto check = [this](std::optional<std::size_t> selected, const Names& left) {
+    SCOPED_TRACE(testing::PrintToString(left));
+    exam.examAttachmentPaths = {u"p0", u"p1", u"p2"};
+    exam.examAttachmentNames = {u"0", u"1", u"2"};
+    exam.Question(1).attachmentPaths = exam.examAttachmentPaths;
+    exam.Question(1).attachmentNames = exam.examAttachmentNames;
+    Show();
+    editor.attachments.SelectExamFile(selected);
+    editor.attachments.SelectQuestionFile(selected);
+    editor.attachments.RemoveSelectedExamFile();
+    editor.attachments.RemoveSelectedQuestionFile();
+    AttachmentList names;
+    AttachmentList paths;
+    for (std::size_t i = 0; i < left.size(); ++i) paths[i] = u"p" + (names[i] = left[i]);
+    const ExamQuestion& question = exam.Question(1);
+    EXPECT_EQ(std::tie(exam.examAttachmentPaths, exam.examAttachmentNames), std::tie(paths, names));
+    EXPECT_EQ(std::tie(question.attachmentPaths, question.attachmentNames), std::tie(paths, names));
+    EXPECT_EQ(editor.attachments.ExamList().names, left);
+    EXPECT_EQ(editor.attachments.QuestionList().names, left);
+    EXPECT_FALSE(Modified());
+  };
+  check(std::nullopt, {u"0", u"1", u"2"});
+  check(0, {u"1", u"2"});
+  check(1, {u"0", u"2"});
+  check(2, {u"0", u"1"});
+
+  editor.attachments.AttachQuestionFile(MakeFile("x.txt"));
+  const fs::path copy = exam.Question(1).attachmentPaths[2];
+  editor.attachments.SelectQuestionFile(2);
+  editor.attachments.RemoveSelectedQuestionFile();
+  EXPECT_TRUE(fs::exists(copy)) << "the copied file stays";
+}
+
+TEST_F(Attaching, FullExamListTakesUpWhatFollowsIt) {
+  FillExamList();
+  RemoveExamFile(9);
+  EXPECT_EQ(exam.examAttachmentPaths[9], u"");
+  EXPECT_EQ(exam.examAttachmentNames[9], u"");
+
+  FillExamList();
+  RemoveExamFile(0);
+  EXPECT_EQ(editor.attachments.ExamList().names.size(), 9u);
+  EXPECT_EQ(exam.examAttachmentPaths[9], u"name1") << "the first name after the shift";
+  EXPECT_EQ(exam.examAttachmentNames[9], exam.examAttachmentCopies[0]);
+
+  FillExamList();
+  RemoveExamFile(4);
+  EXPECT_EQ(exam.examAttachmentPaths[9], u"name0");
+  EXPECT_EQ(exam.examAttachmentPaths[8], exam.examAttachmentCopies[9]);
+
+  SaveAs(folder / "full.exm");
+  Open(folder / "full.exm");
+  ASSERT_EQ(editor.attachments.ExamList().names.size(), 10u);
+  EXPECT_EQ(editor.attachments.ExamList().names[4], u"name5");
+  EXPECT_EQ(ReadBytes(exam.examAttachmentPaths[8]), "content");
+  EXPECT_FALSE(fs::exists(exam.examAttachmentPaths[9])) << "an entry without content";
+}
+
+TEST_F(Attaching, AHostileNameBringsNoFileIntoTheExam) {
+  const fs::path secret = MakeFile("secret.txt", "TOP SECRET");
+  const auto saved = [&] {
+    SaveAs(folder / "hostile.exm");
+    EXPECT_TRUE(world.dialogs.errors.empty());
+    return ReadBytes(folder / "hostile.exm");
+  };
+  FillExamList();
+  exam.examAttachmentNames[0] = AsText(secret);
+  Show();
+  RemoveExamFile(3);
+  ASSERT_EQ(exam.examAttachmentPaths[9], AsText(secret));
+  EXPECT_EQ(saved().find("TOP SECRET"), std::string::npos);
+  editor.questions.GoNext();  // walking brings the tenth entry back into the list
+  RemoveExamFile(1);
+  ASSERT_EQ(exam.examAttachmentPaths[8], AsText(secret));
+  EXPECT_EQ(saved().find("TOP SECRET"), std::string::npos);
+  EXPECT_NE(saved().find("content"), std::string::npos);
+}
+
+TEST_F(Attaching, ListsMoveWithTheirQuestions) {
+  const auto listOf = [](int slot) {
+    AttachmentList list;
+    list[0] = AsText(std::to_string(slot));
+    list[1] = u"second";
+    return list;
+  };
+  const auto check = [&](void (QuestionEditor::*command)(), int at, auto sourceOf) {
+    SCOPED_TRACE(at);
+    for (int slot = 1; slot <= kMaxQuestions; ++slot) {
+      exam.Question(slot).attachmentPaths = exam.Question(slot).attachmentNames = listOf(slot);
+    }
+    ShowQuestion(at);
+    (editor.questions.*command)();
+    for (int slot = 1; slot <= kMaxQuestions; ++slot) {
+      const int source = sourceOf(slot);
+      const AttachmentList expected = source == 0 ? AttachmentList() : listOf(source);
+      ASSERT_EQ(exam.Question(slot).attachmentPaths, expected) << slot;
+      ASSERT_EQ(exam.Question(slot).attachmentNames, expected) << slot;
+    }
+    EXPECT_EQ(editor.attachments.QuestionList().names.size(), sourceOf(at) == 0 ? 0u : 2u);
+  };
+  for (const int at : {1, 50, 99}) {
+    check(&QuestionEditor::InsertHere, at, [=](int slot) {
+      return slot == at ? 0 : slot > at && slot <= 100 ? slot - 1 : slot;
+    });
+  }
+  for (const int at : {100, 150, 500}) {
+    check(&QuestionEditor::InsertHere, at, [=](int slot) { return slot == at ? 0 : slot; });
+  }
+  for (const int at : {1, 7, 499, 500}) {
+    check(&QuestionEditor::DeleteHere, at, [=](int slot) {
+      return slot == 500 ? 0 : slot >= at ? slot + 1 : slot;
+    });
+  }
+}
+
+TEST_F(Attaching, OralToggleShowsForASelectedFile) {
+  AttachmentEditor& attachments = editor.attachments;
+  const auto check = [&](const char* after, bool visible, int flag) {
+    SCOPED_TRACE(after);
+    EXPECT_EQ(attachments.OralToggleVisible(), visible);
+    EXPECT_EQ(exam.Question(1).oralFlag, flag);
+    EXPECT_EQ(attachments.OralToggleCaption(), flag == 1 ? u"[173 %s]" : u"[172 %s]");
+  };
+  exam.Question(1).kind = QuestionKind::Oral;
+  Show();
+  attachments.AttachQuestionFile(MakeFile("a.wav"));
+  check("attaching the first", false, 0);
+  attachments.SelectQuestionFile(0);
+  check("selecting alone", false, 0);
+  attachments.AttachQuestionFile(MakeFile("b.wav"));
+  check("attaching beside a selected one", true, 0);
+  attachments.ToggleOral();
+  check("toggling", true, 1);
+  attachments.ToggleOral();
+  attachments.ToggleOral();
+  check("toggling twice more", true, 1);
+  attachments.RemoveSelectedQuestionFile();
+  check("removing the selected one", false, 1);
+  attachments.SelectQuestionFile(0);
+  Show();
+  check("showing it again", false, 1);
+
+  exam.Question(2).oralFlag = 1;
+  exam.Question(3).oralFlag = 1;
+  exam.Question(3).kind = QuestionKind::Oral;
+  ShowQuestion(2);
+  ShowQuestion(3);
+  EXPECT_EQ(exam.Question(2).oralFlag, 0);
+  EXPECT_EQ(exam.Question(3).oralFlag, 1);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

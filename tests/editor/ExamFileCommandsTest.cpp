@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include "EditorTest.h"
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ExamFileEditing : public EditorTest {
+ protected:
+  /// Saves an exam of two questions, the first with an attached file, and one attached to the exam.
+  fs::path MakeExamWithFiles() {
+    editor.attachments.AttachExamFile(WriteBytes(folder / "map.txt", "the map"));
+    editor.attachments.AttachQuestionFile(WriteBytes(folder / "note.txt", "the note"));
+    Type(FormField::Text, u"first");
+    editor.questions.GoNext();
+    Type(FormField::Text, u"second");
+    SaveAs(folder / "files.exm");
+    posted = false;
+    editor.state.DeliverContentChanged();
+    world.dialogs.answers = {SaveAnswer::No};
+    editor.files.NewExam();
+    world.dialogs.answers.clear();
+    return folder / "files.exm";
+  }
+};
+
+TEST_F(ExamFileEditing, AsksBeforeChangesAreLost) {
+  const fs::path other = MakeExamWithFiles();
+  const fs::path file = folder / "asked.exm";
+  const auto check = [&](const char* name, auto command, std::optional<SaveAnswer> reply, bool saves,
+                         bool goesOn) {
+    SCOPED_TRACE(name);
+    editor.files.NewExam();
+    SaveAs(file);
+    const std::string saved = ReadBytes(file);
+    world.dialogs.questions.clear();
+    std::vector<std::u16string> questions;
+    if (reply) {
+      editor.questions.GoNext();
+      Change();
+      world.dialogs.answers = {*reply};
+      questions.push_back(u"[105 " + AsText(file) + u"]");
+    }
+    EXPECT_EQ(command(), goesOn);
+    EXPECT_EQ(world.dialogs.questions, questions);
+    EXPECT_EQ(ReadBytes(file) != saved, saves);
+    editor.state.MarkSaved();
+  };
+  const auto newExam = [&] {
+    editor.files.NewExam();
+    return editor.state.currentQuestion == 1 && title == u"[107 UnTitle]" && exam.Question(1).text.empty();
+  };
+  const auto open = [&] {
+    Open(other);
+    world.dialogs.filesToOpen.clear();
+    return editor.state.currentQuestion == 1 && title == u"[107 " + AsText(other) + u"]" &&
+           editor.questions.Form().text == u"first";
+  };
+  const auto close = [&] { return editor.files.ConfirmClose(); };
+  const auto checkAll = [&](const char* name, auto command) {
+    check(name, command, std::nullopt, false, true);
+    check(name, command, SaveAnswer::Yes, true, true);
+    check(name, command, SaveAnswer::No, false, true);
+    check(name, command, SaveAnswer::Cancel, false, false);
+  };
+  checkAll("new", newExam);
+  checkAll("open", open);
+  checkAll("close", close);
+}
+
+TEST_F(ExamFileEditing, GoesOnWhenTheSaveDialogIsCancelled) {
+  Change();
+  world.dialogs.answers = {SaveAnswer::Yes};
+  EXPECT_TRUE(editor.files.ConfirmClose());
+  EXPECT_EQ(world.dialogs.requests.size(), 1u);
+  EXPECT_TRUE(Modified());
+  world.dialogs.answers = {SaveAnswer::Yes};
+  editor.files.NewExam();
+  EXPECT_EQ(editor.questions.Form().text, u"");
+  EXPECT_FALSE(Modified());
+}
+
+TEST_F(ExamFileEditing, CancelledOpenChangesNothing) {
+  Type(FormField::Text, u"typed");
+  editor.questions.GoNext();
+  editor.files.OpenExam();
+  EXPECT_EQ(editor.state.currentQuestion, 2);
+  EXPECT_EQ(exam.Question(1).text, u"typed");
+  EXPECT_EQ(world.dialogs.requests.back().filter, u"Exam files, (*.exm)|*.exm|");
+}
+
+TEST_F(ExamFileEditing, SavesUnderTheNameItHas) {
+  world.dialogs.filesToSave = {folder / "named.exm"};
+  Change();
+  editor.files.SaveExam();
+  ASSERT_EQ(world.dialogs.requests.size(), 1u) << "an exam without a name asks for one";
+  EXPECT_EQ(world.dialogs.requests[0].filter, u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|");
+  EXPECT_EQ(world.dialogs.requests[0].defaultExtension, u"exm");
+  EXPECT_EQ(world.dialogs.requests[0].initialName, u"MyExam");
+  EXPECT_FALSE(Modified());
+
+  Type(FormField::Text, u"second thought");
+  Turn();
+  editor.files.SaveExam();
+  EXPECT_EQ(world.dialogs.requests.size(), 1u);
+  EXPECT_EQ(title, u"[107 " + AsText(folder / "named.exm") + u"]");
+  editor.files.NewExam();
+  Open(folder / "named.exm");
+  EXPECT_EQ(editor.questions.Form().text, u"second thought");
+}
+
+TEST_F(ExamFileEditing, ExtensionDecidesWhatSaveAsDoes) {
+  enum What { Saves, Exports, Nothing };
+  const auto check = [this](const char* name, What what) {
+    SCOPED_TRACE(name);
+    world.dialogs.answers = {SaveAnswer::No};
+    editor.files.NewExam();
+    exported.clear();
+    Change();
+    SaveAs(folder / name);
+    EXPECT_EQ(fs::exists(folder / name), what == Saves);
+    EXPECT_EQ(exported.size(), what == Exports ? 1u : 0u);
+    EXPECT_EQ(editor.state.FileName(), what == Saves ? folder / name : fs::path("UnTitle"));
+    EXPECT_EQ(Modified(), what != Saves);
+    EXPECT_EQ(exam.Question(1).text, what == Nothing ? u"" : u"changed") << "stored only when it is written";
+  };
+  check("x.exm", Saves);
+  check("x.Exm", Saves);
+  check("x.doc.exm", Saves);
+  check("x.DOC", Exports);
+  check("x.exm.doc", Exports);
+  check("x.txt", Nothing);
+  check("x.docx", Nothing);
+  check("x.", Nothing);
+  check("exm", Nothing);
+}
+
+TEST_F(ExamFileEditing, FailedSaveKeepsTheChange) {
+  Change();
+  SaveAs(folder / "missing" / "x.exm");
+  EXPECT_EQ(world.dialogs.errors, std::vector{u"[102 " + AsText(folder / "missing" / "x.exm") + u"]"});
+  EXPECT_TRUE(Modified());
+  fs::create_directory(folder / "missing");
+  editor.files.SaveExam();
+  EXPECT_FALSE(Modified()) << "the name was taken over, so that the next save succeeds";
+  EXPECT_EQ(world.dialogs.errors.size(), 1u);
+}
+
+TEST_F(ExamFileEditing, GoesOnWithWhatAFileHolds) {
+  const fs::path file = MakeExamWithFiles();
+  fs::resize_file(file, fs::file_size(file) - 100);
+  Open(file);
+  EXPECT_EQ(world.dialogs.warnings.size(), 1u);
+  EXPECT_EQ(editor.questions.Form().text, u"first");
+  EXPECT_EQ(editor.attachments.ExamList().names, std::vector<std::u16string>{u"map.txt"});
+  EXPECT_FALSE(Modified());
+
+  editor.questions.GoNext();
+  Open(folder / "absent.exm");
+  EXPECT_EQ(world.dialogs.errors.size(), 1u);
+  EXPECT_EQ(editor.state.currentQuestion, 1);
+  EXPECT_EQ(editor.questions.Form().text, u"");
+  EXPECT_EQ(title, u"[107 " + AsText(folder / "absent.exm") + u"]");
+}
+
+TEST_F(ExamFileEditing, UnpackedFilesGoWithTheExam) {
+  const fs::path file = MakeExamWithFiles();
+  const auto check = [&](const char* name, bool nextHasFiles, auto command) {
+    SCOPED_TRACE(name);
+    Open(file);
+    const std::vector<fs::path> unpacked{exam.examAttachmentPaths[0], exam.Question(1).attachmentPaths[0]};
+    EXPECT_EQ(ReadBytes(unpacked[0]), "the map");
+    EXPECT_EQ(ReadBytes(unpacked[1]), "the note");
+    EXPECT_EQ(exam.examAttachmentCopies, exam.examAttachmentPaths);
+    EXPECT_EQ(exam.Question(1).attachmentCopies, exam.Question(1).attachmentPaths);
+    // Out of the lists, the files are still the exam's to delete.
+    editor.attachments.SelectExamFile(0);
+    editor.attachments.RemoveSelectedExamFile();
+    editor.questions.DeleteHere();
+    editor.state.DeliverContentChanged();
+    WriteBytes(unpacked[0], "used");
+    world.dialogs.answers = {SaveAnswer::No};
+    command();
+    EXPECT_NE(ReadBytes(unpacked[0]), "used");
+    EXPECT_EQ(fs::exists(unpacked[0]), nextHasFiles);
+    EXPECT_EQ(fs::exists(unpacked[1]), nextHasFiles);
+    EXPECT_EQ(exam.examFilesUnpacked, nextHasFiles ? 1 : 0);
+    EXPECT_EQ(exam.questionFilesUnpacked, nextHasFiles ? 1 : 0);
+    EXPECT_EQ(exam.examAttachmentCopies[0].empty(), !nextHasFiles);
+    EXPECT_EQ(exam.Question(1).attachmentCopies[0].empty(), !nextHasFiles);
+    EXPECT_EQ(editor.attachments.ExamList().visible, nextHasFiles);
+    EXPECT_EQ(editor.attachments.QuestionList().visible, nextHasFiles);
+  };
+  check("new", false, [&] { editor.files.NewExam(); });
+  check("open", true, [&] { Open(file); });
+  editor.files.NewExam();
+  SaveAs(folder / "empty.exm");
+  check("open another", false, [&] { Open(folder / "empty.exm"); });
+}
+
+}  // namespace
+}  // namespace quorvantis::test
