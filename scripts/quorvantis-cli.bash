@@ -1,0 +1,35 @@
+# Completion of quorvantis-cli for bash: source this file, or put it into
+# /usr/share/bash-completion/completions under the name quorvantis-cli.
+
+_quorvantis_cli() {
+  local commands="show build unpack edit"
+  local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
+  for ((i = 1; i < COMP_CWORD; ++i)); do
+    case ${COMP_WORDS[i]} in
+      --app-folder) ((++i)) ;;
+      -*) ;;
+      *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
+    esac
+  done
+
+  compopt -o filenames 2>/dev/null
+  if [ "$previous" = --app-folder ]; then
+    mapfile -t COMPREPLY < <(compgen -d -- "$word")
+  elif [[ $word == -* ]]; then
+    local options="--help --app-folder --debug"
+    [ -n "$command" ] || options+=" --version"
+    [ "$command" != show ] || options+=" --json"
+    mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+  elif [ -z "$command" ]; then
+    mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$word")
+  else
+    case $command:$arguments in
+      show:0 | unpack:0 | build:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
+      build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
+      unpack:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
+      edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    esac
+  fi
+}
+
+complete -F _quorvantis_cli quorvantis-cli

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// The commands of quorvantis-cli, one function each. A command throws CommandError when it fails.
+#pragma once
+
+#include "cli/ExamSession.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace quorvantis::cli {
+
+/// Lists an exam: readable text, or one JSON object.
+void Show(Console& console, const CommonOptions& options, const std::filesystem::path& exam, bool json);
+
+/// Makes an exam file from a JSON description.
+void Build(Console& console, const CommonOptions& options, const std::filesystem::path& description,
+           const std::filesystem::path& target);
+
+/// Copies the attached files of an exam into a folder.
+void Unpack(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
+            const std::filesystem::path& folder);
+
+/// Runs an editing script, from a file or from the console.
+void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script);
+
+}  // namespace quorvantis::cli

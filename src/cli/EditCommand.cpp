@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/EditSession.h"
+
+#include <fstream>
+#include <istream>
+
+namespace quorvantis::cli {
+namespace {
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+void RunScript(EditSession& session, std::istream& script, const std::string& name) {
+  std::string line;
+  for (int number = 1; std::getline(script, line); ++number) {
+    if (number == 1 && line.starts_with(kUtf8Mark)) line.erase(0, kUtf8Mark.size());
+    try {
+      session.Run(ParseScriptLine(line));
+    } catch (const CommandError& problem) {
+      throw CommandError(name + ":" + std::to_string(number) + ": " + problem.what());
+    }
+  }
+}
+
+}  // namespace
+
+void Edit(Console& console, const CommonOptions& options,
+          const std::optional<std::filesystem::path>& script) {
+  std::ifstream file;
+  if (script) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(*script, error)) file.open(*script, std::ios::binary);
+    if (!file.is_open())
+      throw CommandError(script->string() + ": cannot be opened. " + WhyUnreadable(*script));
+  }
+  EditSession session(console, options);
+  RunScript(session, script ? file : console.in, script ? script->string() : "standard input");
+}
+
+}  // namespace quorvantis::cli

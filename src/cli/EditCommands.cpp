@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+// The commands of the script language, in a table.
+#include "cli/CommandError.h"
+#include "cli/EditSession.h"
+#include "cli/EditorStateJson.h"
+#include "text/Utf.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <ostream>
+
+namespace quorvantis::cli {
+namespace {
+
+using Arguments = std::vector<ScriptArgument>;
+
+/// The index of box or option A to E.
+std::size_t BoxIndex(const ScriptArgument& argument) {
+  const std::u16string letter = argument.Text();
+  const bool known = letter.size() == 1 && ((letter[0] | 0x20) >= u'a' && (letter[0] | 0x20) <= u'e');
+  if (!known) throw CommandError("a letter from A to E is needed");
+  return static_cast<std::size_t>((letter[0] | 0x20) - u'a');
+}
+
+std::size_t EntryIndex(const ScriptArgument& argument, const ShownAttachments& list) {
+  const std::optional<int> index = argument.Index();
+  if (!index || static_cast<std::size_t>(*index) >= list.names.size()) {
+    throw CommandError("the list has no entry " + Utf16ToUtf8(argument.Text()) + "; it counts from 0");
+  }
+  return static_cast<std::size_t>(*index);
+}
+
+/// The window's file dialogs offer nothing but files that are there.
+std::filesystem::path ExistingFile(const ScriptArgument& argument) {
+  const std::filesystem::path file = argument.Path();
+  std::error_code error;
+  if (!std::filesystem::exists(file, error))
+    throw CommandError(file.string() + ": there is no such file; check the path");
+  return file;
+}
+
+template <FormField field>
+void EditText(EditSession& session, const Arguments& arguments) {
+  session.Editor().questions.EditField(field, arguments[0].Text());
+}
+
+template <void (QuestionEditor::*operation)()>
+void Call(EditSession& session, const Arguments&) {
+  (session.Editor().questions.*operation)();
+}
+
+void Tick(EditSession& session, const Arguments& arguments, bool on) {
+  session.Editor().questions.TickAnswerBox(BoxIndex(arguments[0]), on);
+}
+
+void Open(EditSession& session, const Arguments& arguments) {
+  session.Editor().files.OpenExam(arguments[0].Path());
+}
+
+void Save(EditSession& session, const Arguments&) {
+  ExamEditor& editor = session.Editor();
+  if (editor.state.IsUntitled()) session.Streams().Complain("the exam has no file name yet; use saveas");
+  editor.files.SaveExam();
+}
+
+void SaveAs(EditSession& session, const Arguments& arguments) {
+  session.Dialogs().ChooseNext(arguments[0].Path());
+  session.Editor().files.SaveExamAs();
+}
+
+void Close(EditSession& session, const Arguments&) {
+  if (session.Editor().files.ConfirmClose()) session.Close();
+}
+
+void Reply(EditSession& session, const Arguments& arguments) {
+  const std::u16string answer = arguments[0].Text();
+  if (answer != u"yes" && answer != u"no" && answer != u"cancel")
+    throw CommandError("usage: reply yes|no|cancel");
+  session.Dialogs().AnswerNextSaveQuestion(answer == u"yes"  ? SaveAnswer::Yes
+                                           : answer == u"no" ? SaveAnswer::No
+                                                             : SaveAnswer::Cancel);
+}
+
+void Kind(EditSession& session, const Arguments& arguments) {
+  constexpr std::u16string_view kNames[] = {u"choice", u"fillin", u"essay", u"oral"};
+  const auto* name = std::ranges::find(kNames, arguments[0].Text());
+  if (name == std::end(kNames)) throw CommandError("usage: kind choice|fillin|essay|oral");
+  session.Editor().questions.SelectKind(static_cast<QuestionKind>(name - std::begin(kNames)));
+}
+
+void Option(EditSession& session, const Arguments& arguments) {
+  session.Editor().questions.EditField(OptionField(BoxIndex(arguments[0])), arguments[1].Text());
+}
+
+void Remove(EditSession& session, const Arguments& arguments) {
+  AttachmentEditor& attachments = session.Editor().attachments;
+  attachments.SelectQuestionFile(EntryIndex(arguments[0], attachments.QuestionList()));
+  attachments.RemoveSelectedQuestionFile();
+}
+
+void RemoveExam(EditSession& session, const Arguments& arguments) {
+  AttachmentEditor& attachments = session.Editor().attachments;
+  attachments.SelectExamFile(EntryIndex(arguments[0], attachments.ExamList()));
+  attachments.RemoveSelectedExamFile();
+}
+
+void Select(EditSession& session, const Arguments& arguments) {
+  AttachmentEditor& attachments = session.Editor().attachments;
+  attachments.SelectQuestionFile(EntryIndex(arguments[0], attachments.QuestionList()));
+}
+
+void State(EditSession& session, const Arguments&) {
+  session.Streams().out << EditorStateToJson(session.Editor()) << std::endl;
+}
+
+constexpr EditCommand kCommands[] = {
+    {"new", "", 0, [](EditSession& session, const Arguments&) { session.Editor().files.NewExam(); }},
+    {"open", "FILE", 1, Open},
+    {"save", "", 0, Save},
+    {"saveas", "FILE", 1, SaveAs},
+    {"close", "", 0, Close},
+    {"reply", "yes|no|cancel   (answers the next save question)", 1, Reply},
+    {"next", "", 0, Call<&QuestionEditor::GoNext>},
+    {"prev", "", 0, Call<&QuestionEditor::GoPrevious>},
+    {"forward10", "", 0, Call<&QuestionEditor::GoForward10>},
+    {"back10", "", 0, Call<&QuestionEditor::GoBack10>},
+    {"insert", "", 0, Call<&QuestionEditor::InsertHere>},
+    {"delete", "", 0, Call<&QuestionEditor::DeleteHere>},
+    {"kind", "choice|fillin|essay|oral", 1, Kind},
+    {"random", "", 0, Call<&QuestionEditor::CycleRandomMode>},
+    {"separator", "", 0, Call<&QuestionEditor::AppendListSeparator>},
+    {"title", "TEXT", 1, EditText<FormField::Title>},
+    {"text", "TEXT", 1, EditText<FormField::Text>},
+    {"option", "A|B|C|D|E TEXT", 2, Option},
+    {"answer", "TEXT", 1, EditText<FormField::Answer>},
+    {"essay", "TEXT", 1, EditText<FormField::Essay>},
+    {"check", "A|B|C|D|E", 1,
+     [](EditSession& session, const Arguments& arguments) { Tick(session, arguments, true); }},
+    {"uncheck", "A|B|C|D|E", 1,
+     [](EditSession& session, const Arguments& arguments) { Tick(session, arguments, false); }},
+    {"attach", "FILE", 1,
+     [](EditSession& session, const Arguments& arguments) {
+       session.Editor().attachments.AttachQuestionFile(ExistingFile(arguments[0]));
+     }},
+    {"attach-exam", "FILE", 1,
+     [](EditSession& session, const Arguments& arguments) {
+       session.Editor().attachments.AttachExamFile(ExistingFile(arguments[0]));
+     }},
+    {"remove", "INDEX   (of an attached file of the question, from 0)", 1, Remove},
+    {"remove-exam", "INDEX", 1, RemoveExam},
+    {"select", "INDEX", 1, Select},
+    {"oral", "", 0,
+     [](EditSession& session, const Arguments&) { session.Editor().attachments.ToggleOral(); }},
+    {"state", "  (prints one JSON line)", 0, State},
+};
+
+}  // namespace
+
+const EditCommand* FindEditCommand(std::string_view name) {
+  const auto* found = std::ranges::find(kCommands, name, &EditCommand::name);
+  return found == std::end(kCommands) ? nullptr : found;
+}
+
+std::string EditCommandHelp() {
+  std::string help;
+  for (const EditCommand& command : kCommands) {
+    help += "  " + std::string(command.name) + " " + std::string(command.usage) + "\n";
+  }
+  return help;
+}
+
+}  // namespace quorvantis::cli

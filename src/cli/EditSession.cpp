@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "cli/EditSession.h"
+
+#include "cli/CommandError.h"
+#include "platform/Texts.h"
+#include "shell/CloseSequence.h"
+
+namespace quorvantis::cli {
+namespace {
+
+std::string Shortened(const std::string& word) {
+  constexpr std::size_t kEnoughToRecognise = 40;
+  return word.size() <= kEnoughToRecognise ? word : word.substr(0, kEnoughToRecognise) + "...";
+}
+
+}  // namespace
+
+EditSession::EditSession(Console& console, const CommonOptions& options)
+    : session_(console, options),
+      editor_(session_.exam, *this,
+              [this](FrameSetExam&, const std::filesystem::path& target) { Export(target); }) {
+  editor_.questions.LoadCurrentQuestion();
+}
+
+EditSession::~EditSession() {
+  RemoveWorkCopies(session_.exam);
+}
+
+void EditSession::Export(const std::filesystem::path&) {
+  session_.dialogs.ShowError(session_.services.strings.Text(text_id::kCannotExport));
+}
+
+void EditSession::Run(const EditScriptLine& line) {
+  if (line.command.empty()) return;
+  editor_.state.DeliverContentChanged();
+  const EditCommand* command = FindEditCommand(line.command);
+  if (command == nullptr) throw CommandError("unknown command \"" + Shortened(line.command) + "\"");
+  if (line.arguments.size() != command->argumentCount) {
+    throw CommandError("usage: " + line.command + " " + std::string(command->usage));
+  }
+  if (closed_ && line.command != "state") throw CommandError("the exam is closed");
+  const int errors = session_.dialogs.ErrorCount();
+  command->run(*this, line.arguments);
+  if (session_.dialogs.ErrorCount() > errors) throw CommandError(line.command + " failed");
+}
+
+}  // namespace quorvantis::cli

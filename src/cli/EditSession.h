@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/EditScriptLine.h"
+#include "cli/ExamSession.h"
+#include "editor/ExamEditor.h"
+
+namespace quorvantis::cli {
+
+/// The question editor of the window, driven by script lines instead of clicks.
+class EditSession : private EditorView {
+ public:
+  EditSession(Console& console, const CommonOptions& options);
+  /// Removes the work copies, as the window does when it ends.
+  ~EditSession() override;
+
+  /// Runs one line. Throws CommandError when its command is unknown, has wrong arguments or fails.
+  void Run(const EditScriptLine& line);
+
+  ExamEditor& Editor() { return editor_; }
+  ScriptedDialogs& Dialogs() { return session_.dialogs; }
+  Console& Streams() { return session_.console; }
+
+  /// The window has been closed: nothing but its state can be asked for.
+  void Close() { closed_ = true; }
+
+ private:
+  void FormLoaded() override {}
+  void FormChanged() override {}
+  void TitleChanged() override {}
+  void PostContentChanged() override {}  // delivered before the next line
+
+  void Export(const std::filesystem::path& target);
+
+  ExamSession session_;
+  ExamEditor editor_;
+  bool closed_ = false;
+};
+
+/// A command of the script language.
+struct EditCommand {
+  std::string_view name;
+  std::string_view usage;  ///< its arguments, for messages and help
+  std::size_t argumentCount;
+  void (*run)(EditSession& session, const std::vector<ScriptArgument>& arguments);
+};
+
+/// The command of that name, or null.
+const EditCommand* FindEditCommand(std::string_view name);
+
+/// One line a command, for the help text.
+std::string EditCommandHelp();
+
+}  // namespace quorvantis::cli

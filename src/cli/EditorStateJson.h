@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/ExamEditor.h"
+
+#include <nlohmann/json_fwd.hpp>
+
+namespace quorvantis::cli {
+
+/// What the window would show, and the attachment lists of the document behind it.
+nlohmann::ordered_json EditorStateToJson(const ExamEditor& editor);
+
+}  // namespace quorvantis::cli

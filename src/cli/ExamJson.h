@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// An exam as JSON, the form that `show --json` prints and `build` reads.
+#pragma once
+
+#include "examfile/ExamFileReader.h"
+#include "model/FrameSetExam.h"
+
+#include <nlohmann/json_fwd.hpp>
+
+namespace quorvantis::cli {
+
+/// The name of a kind in JSON: "Choice", "FillIn", "Essay", "Oral", or the number of any other.
+std::string KindName(QuestionKind kind);
+
+/// One attached file of a list.
+struct AttachedFile {
+  std::u16string name;
+  std::filesystem::path path;
+};
+
+/// The entries of an attachment list that have a path.
+std::vector<AttachedFile> AttachedFiles(const AttachmentList& names, const AttachmentList& paths);
+
+/// What the exam file held, with size and hash of each unpacked file.
+nlohmann::ordered_json ExamToJson(const FrameSetExam& exam, const ExamReadOutcome& outcome);
+
+}  // namespace quorvantis::cli

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/Console.h"
+#include "cli/ScriptedDialogs.h"
+#include "cli/TerminalProgress.h"
+#include "examfile/ExamFileReader.h"
+#include "model/FrameSetExam.h"
+#include "model/LongAnswerFlags.h"
+#include "platform/ExamServices.h"
+#include "platform/posix/IconvCodePage.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/PrivateFolder.h"
+#include "platform/posix/StandardErrorDebug.h"
+#include "shell/BuiltInStrings.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace quorvantis::cli {
+
+/// Options that every command takes.
+struct CommonOptions {
+  std::filesystem::path appFolder;  ///< empty: a private folder
+  bool debug = false;
+};
+
+/// One exam document with the world that it lives in while a command runs: an application folder, private and
+/// removed at the end unless one was named, and the services of this machine.
+class ExamSession {
+ public:
+  /// Throws CommandError when the application folder cannot be used.
+  ExamSession(Console& console, const CommonOptions& options);
+  ~ExamSession() = default;
+  ExamSession(const ExamSession&) = delete;
+  ExamSession& operator=(const ExamSession&) = delete;
+
+  /// Reads an exam file into the document. Throws CommandError when it cannot be opened; what is missing from
+  /// it is told on standard error.
+  ExamReadOutcome Load(const std::filesystem::path& file);
+
+ private:
+  std::optional<PrivateFolder> privateFolder_;
+  BuiltInStrings strings_;
+  TerminalProgress progress_;
+  StandardErrorDebug debug_;
+  PosixFiles files_;
+  LongAnswerFlags longAnswerFlags_;
+  const std::filesystem::path applicationFolder_;
+  IconvCodePage codePage_;
+
+ public:
+  Console& console;
+  ScriptedDialogs dialogs;
+  ExamServices services;
+  FrameSetExam exam;
+};
+
+/// Why a file cannot be read as an exam or another regular file, in words; for the end of an error line.
+std::string WhyUnreadable(const std::filesystem::path& file);
+
+}  // namespace quorvantis::cli

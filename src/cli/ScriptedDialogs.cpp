@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "cli/ScriptedDialogs.h"
+
+#include "text/Utf.h"
+
+#include <utility>
+
+namespace quorvantis::cli {
+
+void ScriptedDialogs::ShowError(std::u16string_view text) {
+  ++errorCount_;
+  console_.Complain(Utf16ToUtf8(text));
+}
+
+void ScriptedDialogs::ShowWarning(std::u16string_view text) {
+  console_.Complain(Utf16ToUtf8(text));
+}
+
+SaveAnswer ScriptedDialogs::AskSave(std::u16string_view) {
+  if (saveAnswers_.empty()) return SaveAnswer::Cancel;
+  const SaveAnswer answer = saveAnswers_.front();
+  saveAnswers_.pop_front();
+  return answer;
+}
+
+std::optional<std::filesystem::path> ScriptedDialogs::ChooseFileToOpen(const FileDialogRequest&) {
+  return std::exchange(nextFile_, std::nullopt);
+}
+
+std::optional<std::filesystem::path> ScriptedDialogs::ChooseFileToSave(const FileDialogRequest&) {
+  return std::exchange(nextFile_, std::nullopt);
+}
+
+}  // namespace quorvantis::cli

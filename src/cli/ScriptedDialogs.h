@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/Console.h"
+#include "platform/UserDialogs.h"
+
+#include <deque>
+
+namespace quorvantis::cli {
+
+/// The user of a command line: messages go to standard error, questions take the answers that a script has
+/// put ready. A save question without an answer is cancelled, a file dialog without a file is closed.
+class ScriptedDialogs : public UserDialogs {
+ public:
+  explicit ScriptedDialogs(Console& console) : console_(console) {}
+
+  void AnswerNextSaveQuestion(SaveAnswer answer) { saveAnswers_.push_back(answer); }
+  void ChooseNext(std::filesystem::path file) { nextFile_ = std::move(file); }
+
+  /// Number of errors shown so far; warnings do not count.
+  int ErrorCount() const { return errorCount_; }
+
+  void ShowError(std::u16string_view text) override;
+  void ShowWarning(std::u16string_view text) override;
+  SaveAnswer AskSave(std::u16string_view question) override;
+  std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;
+  std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override;
+
+ private:
+  Console& console_;
+  std::deque<SaveAnswer> saveAnswers_;
+  std::optional<std::filesystem::path> nextFile_;
+  int errorCount_ = 0;
+};
+
+}  // namespace quorvantis::cli

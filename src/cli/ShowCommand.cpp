@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Commands.h"
+#include "cli/ExamJson.h"
+#include "text/NumberText.h"
+#include "text/Utf.h"
+
+#include <nlohmann/json.hpp>
+
+#include <ostream>
+
+namespace quorvantis::cli {
+namespace {
+
+constexpr std::string_view kIndent = "      ";
+
+/// Text for a terminal: further lines indented, control characters as blanks.
+std::string Printable(std::u16string_view text, std::string_view indent = kIndent) {
+  std::u16string lines;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool lineEnd = text[i] == u'\r' || text[i] == u'\n';
+    if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') ++i;
+    lines.push_back(lineEnd ? u'\n' : text[i] < 0x20 || (text[i] >= 0x7F && text[i] < 0xA0) ? u' ' : text[i]);
+  }
+  std::string printable = Utf16ToUtf8(lines);
+  for (std::size_t i = printable.find('\n'); i != std::string::npos; i = printable.find('\n', i + 1)) {
+    printable.insert(i + 1, indent);
+  }
+  return printable;
+}
+
+std::string_view RandomModeText(RandomMode mode) {
+  switch (mode) {
+    case RandomMode::Off:
+      return "off";
+    case RandomMode::Options:
+      return "options";
+    case RandomMode::Sequence:
+      return "sequence";
+    default:
+      return "unknown";
+  }
+}
+
+void PrintAttachments(std::ostream& out, std::string_view indent, const AttachmentList& names,
+                      const AttachmentList& paths) {
+  for (const auto& [name, path] : AttachedFiles(names, paths)) {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(path, error);
+    out << indent << "attached: " << Printable(name);
+    if (error) {
+      out << " (no content)\n";
+    } else {
+      out << " (" << size << " bytes)\n";
+    }
+  }
+}
+
+void PrintAnswer(std::ostream& out, const ExamQuestion& question) {
+  constexpr std::string_view kLetters = "ABCDE";
+  for (std::size_t i = 0; i < kOptionCount; ++i) {
+    if (!question.options[i].empty())
+      out << "   " << kLetters[i] << ". " << Printable(question.options[i]) << "\n";
+  }
+  if (question.kind == QuestionKind::Choice)
+    out << "   answer: " << Printable(question.answerLetters) << "\n";
+  if (!question.answerText.empty()) out << "   answer: " << Printable(question.answerText) << "\n";
+  if (!question.essayAnswer.empty()) out << "   answer: " << Printable(question.essayAnswer) << "\n";
+}
+
+void PrintRanges(std::ostream& out, const ExamPaper& exam) {
+  out << "Scores: " << (exam.scoreMode == ScoreMode::Same ? "the same for every question" : "custom");
+  for (std::size_t i = 0; i < kScoreRanges; ++i) {
+    const bool inUse =
+        i == 0 || (exam.scoreMode != ScoreMode::Same && exam.scoreFrom[i] <= exam.questionCount);
+    if (!inUse) continue;
+    out << (i == 0 ? ": " : ", ") << exam.scoreFrom[i] << "-" << exam.scoreTo[i] << " = "
+        << Utf16ToUtf8(FormatScore(exam.scoreValue[i]));
+  }
+  out << "\n";
+}
+
+void PrintExam(std::ostream& out, const FrameSetExam& exam, const ExamReadOutcome& outcome) {
+  out << "Title: " << Printable(exam.title, "       ") << "\n"
+      << "Format: " << outcome.form.version->name
+      << (outcome.form.encoding == FieldEncoding::EightBit ? ", 8-bit text" : ", UTF-16") << "\n"
+      << "Questions: " << exam.questionCount << "\n"
+      << "Random: " << RandomModeText(exam.randomMode) << "\n";
+  PrintRanges(out, exam);
+  PrintAttachments(out, "", exam.examAttachmentNames, exam.examAttachmentPaths);
+  for (int number = 1; number <= exam.questionCount; ++number) {
+    const ExamQuestion& question = exam.Question(number);
+    out << "\n"
+        << number << ". [" << KindName(question.kind) << "] " << Printable(question.text, "   ") << "\n";
+    PrintAnswer(out, question);
+    PrintAttachments(out, "   ", question.attachmentNames, question.attachmentPaths);
+  }
+}
+
+}  // namespace
+
+void Show(Console& console, const CommonOptions& options, const std::filesystem::path& exam, bool json) {
+  ExamSession session(console, options);
+  const ExamReadOutcome outcome = session.Load(exam);
+  if (json) {
+    console.out << ExamToJson(session.exam, outcome) << "\n";
+  } else {
+    PrintExam(console.out, session.exam, outcome);
+  }
+}
+
+}  // namespace quorvantis::cli

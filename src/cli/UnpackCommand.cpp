@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/ExamJson.h"
+
+#include <string>
+
+namespace quorvantis::cli {
+namespace fs = std::filesystem;
+namespace {
+
+/// "question-007"
+std::string QuestionFolder(int number) {
+  const std::string digits = std::to_string(number);
+  return "question-" + std::string(3 - digits.size(), '0') + digits;
+}
+
+/// Makes a folder that is really there: a link could lead out of the folder that was asked for.
+void MakeFolder(const fs::path& folder) {
+  std::error_code error;
+  fs::create_directories(folder, error);
+  if (!fs::is_directory(fs::symlink_status(folder, error))) {
+    throw CommandError(folder.string() + ": cannot be made as a folder; choose another target");
+  }
+}
+
+void CopyInto(const fs::path& folder, const fs::path& file) {
+  std::error_code error;
+  if (!fs::is_regular_file(file, error)) return;  // an attachment without content
+  MakeFolder(folder);
+  const fs::path target = folder / file.filename();
+  fs::remove(target, error);
+  if (!error) fs::copy_file(file, target, error);
+  if (error) throw CommandError(target.string() + ": cannot be written: " + error.message());
+}
+
+void CopyAll(const fs::path& folder, const AttachmentList& names, const AttachmentList& paths) {
+  for (const AttachedFile& file : AttachedFiles(names, paths)) CopyInto(folder, file.path);
+}
+
+}  // namespace
+
+void Unpack(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder) {
+  ExamSession session(console, options);
+  session.Load(exam);
+  std::error_code error;
+  fs::create_directories(folder, error);
+  if (!fs::is_directory(folder, error)) {
+    throw CommandError(folder.string() + ": cannot be made as a folder; choose another target");
+  }
+  CopyAll(folder / "exam", session.exam.examAttachmentNames, session.exam.examAttachmentPaths);
+  for (int number = 1; number <= session.exam.questionCount; ++number) {
+    const ExamQuestion& question = session.exam.Question(number);
+    CopyAll(folder / QuestionFolder(number), question.attachmentNames, question.attachmentPaths);
+  }
+}
+
+}  // namespace quorvantis::cli

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "shell/BuiltInStrings.h"
+
+#include "platform/Texts.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+struct NumberedText {
+  int number;
+  std::u16string_view text;
+};
+
+// Wording and spelling are what users of the program know; both stay as they are.
+constexpr NumberedText kTexts[] = {
+    {text_id::kOpenFileError, u"Open file %s error!"},
+    {text_id::kTemporaryFileError, u"create temporary file error"},
+    {text_id::kSaveQuestion, u"File '%s' Changed.\nSave File ?"},
+    {text_id::kWindowTitle, u"Quorvantis - %s"},
+    {text_id::kRandomOptions, u"Random(option)"},
+    {text_id::kRandomSequence, u"Random(sequence)"},
+    {text_id::kRandom, u"Random"},
+    {text_id::kQuestion, u"Question"},
+    {text_id::kTitle, u"Title:"},
+    {text_id::kEditArea, u"Edit Area"},
+    {text_id::kChoice, u"Choice"},
+    {text_id::kFillIn, u"Fill in"},
+    {text_id::kEssay, u"Essay"},
+    {text_id::kOral, u"Oral"},
+    {text_id::kAttachFiles, u"Attach Files"},
+    {text_id::kBackward10, u"Backward 10 questions"},
+    {text_id::kPrevious, u"Previous question"},
+    {text_id::kForward10, u"Forward 10 questions"},
+    {text_id::kNext, u"Next question"},
+    {text_id::kDeleteQuestion, u"Delete question"},
+    {text_id::kInsertQuestion, u"Insert question"},
+    {text_id::kAttachToQuestion, u"Attached file to question"},
+    {text_id::kNew, u"New"},
+    {text_id::kOpen, u"Open"},
+    {text_id::kSave, u"Save"},
+    {text_id::kSaveAs, u"Save As"},
+    {text_id::kPreview, u"Preview"},
+    {text_id::kScoreSettings, u"Score settings"},
+    {text_id::kPrint, u"Print"},
+    {text_id::kListSeparatorTip, u"Insert ans\\' list separator \\\"<@>\\\""},
+    {text_id::kOralOff, u"Play video sound"},
+    {text_id::kOralOn, u"Mute video sound"},
+    {text_id::kExamEndsEarly,
+     u"The exam file ends before its contents do; question %d and after are missing."},
+    {text_id::kExamFilesEndEarly, u"The exam file ends before its contents do; attached files are missing."},
+    {text_id::kCannotExport, u"This version cannot write word-processor documents."},
+    {text_id::kAnswer, u"Ans"},
+};
+
+}  // namespace
+
+std::u16string BuiltInStrings::Text(int number) const {
+  const auto* found = std::ranges::find(kTexts, number, &NumberedText::number);
+  return found == std::end(kTexts) ? std::u16string() : std::u16string(found->text);
+}
+
+}  // namespace quorvantis

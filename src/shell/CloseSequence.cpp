@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "shell/CloseSequence.h"
+
+#include "editor/WorkCopies.h"
+#include "examfile/WorkFolder.h"
+#include "platform/ExamServices.h"
+
+namespace quorvantis {
+
+void RemoveWorkCopies(FrameSetExam& exam) {
+  if (exam.questionFilesUnpacked != 0) DeleteQuestionCopies(exam);
+  if (exam.examFilesUnpacked != 0) DeleteExamCopies(exam);
+  RemoveFolder(AttachmentWorkRoot(exam.Services().applicationFolder));
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// Proves that the sources include one another only along the arrows between the folders of src/. The compiler
+// alone does not: a relative path, or a header of the system, gets past the include roots.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Layers = std::map<std::string, std::set<std::string>>;
+
+/// Takes "folder:folder;folder" lines apart.
+Layers ParseLayers(std::istream&& lines) {
+  Layers layers;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.empty()) continue;
+    const std::size_t colon = line.find(':');
+    if (colon == std::string::npos) throw std::runtime_error("no layer: " + line);
+    std::istringstream names(line.substr(colon + 1));
+    std::set<std::string>& arrows = layers[line.substr(0, colon)];
+    for (std::string name; std::getline(names, name, ';');) arrows.insert(name);
+  }
+  return layers;
+}
+
+Layers DeclaredLayers() {
+  return ParseLayers(std::ifstream(QUORVANTIS_LAYERS_FILE));
+}
+
+/// Adds the folders that the arrows lead to from `layer`; itself only by way of a cycle.
+void AddReachable(const std::string& layer, const Layers& layers, std::set<std::string>& reached) {
+  if (layers.count(layer) == 0) return;
+  for (const std::string& next : layers.at(layer)) {
+    if (reached.insert(next).second) AddReachable(next, layers, reached);
+  }
+}
+
+bool Reaches(const std::string& from, const std::string& to, const Layers& layers) {
+  std::set<std::string> reached;
+  AddReachable(from, layers, reached);
+  return reached.count(to) != 0;
+}
+
+/// The layers on a cycle, and names that arrows lead to but no layer has.
+std::vector<std::string> FaultsOfArrows(const Layers& layers) {
+  std::vector<std::string> faults;
+  for (const auto& [layer, arrows] : layers) {
+    if (Reaches(layer, layer, layers)) faults.push_back(layer + " reaches itself");
+    for (const std::string& arrow : arrows) {
+      if (layers.count(arrow) == 0) faults.push_back(layer + " names an unknown layer: " + arrow);
+    }
+  }
+  return faults;
+}
+
+/// Folders that talk to the machine or to a user and may therefore use more than the standard library.
+bool IsCore(const std::string& layer) {
+  return layer != "cli" && layer != "desktop" && layer.rfind("platform/", 0) != 0;
+}
+
+/// What is wrong with a line of a file in `layer`, or nothing.
+std::optional<std::string> FaultOfLine(std::string line, const std::string& layer, const Layers& layers) {
+  line.erase(std::remove_if(line.begin(), line.end(), [](char c) { return c == ' ' || c == '\t'; }),
+             line.end());
+  const std::string directive = "#include";
+  if (line.rfind(directive, 0) != 0) return std::nullopt;
+  line.erase(0, directive.size());
+  const std::size_t end = line.find_first_of(line.rfind('<', 0) == 0 ? ">" : "\"", 1);
+  if (end == std::string::npos) return "an include that cannot be read: " + line;
+  const std::string header = line.substr(1, end - 1);
+  if (line[0] == '<') {
+    const bool standard = header.find_first_of("/.") == std::string::npos && header.rfind('Q', 0) != 0;
+    return standard || !IsCore(layer) ? std::nullopt : std::optional("not the standard library: " + header);
+  }
+  const std::string folder = fs::path(header).parent_path().generic_string();
+  if (folder == layer || Reaches(layer, folder, layers)) return std::nullopt;
+  return "against the arrows: " + header;
+}
+
+TEST(IncludeGraph, HasNoCycle) {
+  EXPECT_EQ(FaultsOfArrows(DeclaredLayers()), std::vector<std::string>());
+}
+
+TEST(IncludeGraph, SourcesFollowTheArrows) {
+  const Layers layers = DeclaredLayers();
+  const fs::path sources = QUORVANTIS_SOURCE_DIR;
+  int files = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(sources)) {
+    const fs::path& file = entry.path();
+    if (file.extension() != ".h" && file.extension() != ".cpp") continue;
+    const std::string layer = file.lexically_relative(sources).parent_path().generic_string();
+    // A build without the window declares no layer for it; its sources are then not part of the program.
+    if (layer == "desktop" && layers.count(layer) == 0) continue;
+    ++files;
+    EXPECT_EQ(layers.count(layer), 1u) << file << " is in a folder without a layer";
+    std::ifstream lines(file);
+    std::string line;
+    for (int number = 1; std::getline(lines, line); ++number) {
+      const auto fault = FaultOfLine(line, layer, layers);
+      if (fault) ADD_FAILURE() << file.string() << ":" << number << ": " << *fault;
+    }
+  }
+  EXPECT_GE(files, 50) << sources;
+}
+
+TEST(IncludeGraph, FaultsAreFound) {
+  const auto parse = [](const char* lines) { return ParseLayers(std::istringstream(lines)); };
+  const Layers layers =
+      parse("text:\nmodel:text\neditor:model\nplatform:\nplatform/posix:platform;text\ncli:editor\n");
+  const auto check = [&](const char* layer, const char* line, bool good) {
+    EXPECT_EQ(FaultOfLine(line, layer, layers).has_value(), !good) << layer << ": " << line;
+  };
+  check("editor", "#include \"text/Utf.h\"", true);  // by way of model
+  check("editor", "#include \"editor/Form.h\"", true);
+  check("editor", "#include \"cli/Console.h\"", false);
+  check("text", "  #  include \"model/Exam.h\"", false);
+  check("model", "#include \"../editor/Form.h\"", false);
+  check("model", "#include \"Exam.h\"", false);
+  check("platform", "#include \"platform/posix/Files.h\"", false);
+  check("platform/posix", "#include \"platform/Files.h\"", true);
+  check("model", "#include <vector>", true);
+  check("model", "#include <unistd.h>", false);
+  check("model", "#include <sys/stat>", false);
+  check("model", "#include <QString>", false);
+  check("model", "#include HEADER", false);
+  check("platform/posix", "#include <sys/stat.h>", true);
+  check("cli", "#include <nlohmann/json.hpp>", true);
+  EXPECT_TRUE(FaultsOfArrows(layers).empty());
+  EXPECT_EQ(FaultsOfArrows(parse("a:b\nb:c\nc:a\n")).size(), 3u);
+  EXPECT_EQ(FaultsOfArrows(parse("a:b\n")).size(), 1u);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+// show, build and unpack.
+#include "CommandLineTest.h"
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ExamCommands : public CommandLineTest {};
+
+/// Every member of `expected` is in `actual`, which may have more.
+void ExpectHolds(const Json& actual, const Json& expected, const std::string& place) {
+  if (expected.is_object() && actual.is_object()) {
+    for (const auto& [name, value] : expected.items())
+      ExpectHolds(actual.value(name, Json()), value, place + "." + name);
+  } else if (expected.is_array() && actual.size() == expected.size()) {
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+      ExpectHolds(actual[i], expected[i], place + "[" + std::to_string(i) + "]");
+    }
+  } else {
+    EXPECT_EQ(actual, expected) << place;
+  }
+}
+
+Json OneQuestion(const Json& question) {
+  return {{"questions", {question}}};
+}
+
+TEST_F(ExamCommands, ShowGivesBackWhatWasBuilt) {
+  WriteBytes(folder / "files/a.txt", "abc");
+  WriteBytes(folder / "files/empty", "");
+  const std::string longAnswer(1024, 'x');
+  Json exam = Json::parse(R"({
+    "title": "Prüfung 测试 \uD83D\uDE00 \"quoted\"", "randomMode": 2, "scoreMode": 1, "boundaryQuestion": 3,
+    "scoreRanges": [{"from": 1, "to": 2, "score": "2.50"}, {"from": 3, "to": 500, "score": "0.25"}],
+    "attachments": [{"path": "files/a.txt", "name": "Übung.txt"}, {"path": "files/empty"}],
+    "questions": [
+      {"number": 1, "kind": "Choice", "text": "Line\r\nline", "options": ["a", "", "c", "", "e"], "answerLetters": "ac"},
+      {"number": 2, "kind": "FillIn", "text": "long"},
+      {"number": 3, "kind": "FillIn", "answerText": "ExcessTextAns"},
+      {"number": 4, "kind": "Essay", "text": "t", "essayAnswer": "essay"},
+      {"number": 5, "kindValue": 3, "text": "t", "oralFlag": 1, "attachments": [{"path": "files/a.txt"}]},
+      {"number": 8, "kind": "-17", "text": "t", "options": ["a"], "answerText": "b", "essayAnswer": "c"}]})");
+  exam["questions"][1]["answerText"] = longAnswer;
+  const RunResult built = Build(exam);
+  EXPECT_EQ(built.status, 0);
+  EXPECT_EQ(built.out + built.err, "");
+
+  const char* const sha = "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad";
+  exam["attachments"] = {{{"name", "Übung.txt"}, {"file", "Übung.txt"}, {"size", 3}, {"sha256", sha}},
+                         {{"name", "empty"}, {"file", "empty"}, {"size", 0}, {"sha256", ""}}};
+  exam["questions"][4]["attachments"] = {
+      {{"name", "a.txt"}, {"file", "a.txt"}, {"size", 3}, {"sha256", sha}}};
+  exam["questions"][4]["kind"] = "Oral";
+  exam["questions"][5]["kindValue"] = -17;
+  exam["questions"][0]["answerMask"] = 20;
+  for (int number = 6; number <= 7; ++number) {
+    const Json empty = {{"number", number}, {"kind", "Choice"}, {"text", ""}};
+    exam["questions"].insert(exam["questions"].end() - 1, empty);
+  }
+  for (int i = 2; i < 10; ++i) {
+    exam["scoreRanges"].push_back({{"from", 10 * i + 1}, {"to", 10 * i + 10}, {"score", "1.00"}});
+  }
+  exam["questions"][7]["options"] = {"a", "", "", "", ""};
+  exam.update({{"format", "current"}, {"encoding", "utf-16"}, {"questionCount", 8}, {"truncated", false}});
+  exam.update({{"hasOralQuestion", 1}, {"firstOralQuestion", 5}});
+  ExpectHolds(Shown(), exam, "");
+
+  fs::resize_file(folder / "exam.exm", fs::file_size(folder / "exam.exm") - 10);
+  EXPECT_EQ(Shown()["truncated"], true);
+}
+
+TEST_F(ExamCommands, BuildTellsWhatIsDropped) {
+  WriteBytes(folder / "a.txt", "abc");
+  const auto check = [this](const Json& exam, const std::string& loss) {
+    SCOPED_TRACE(exam.dump().substr(0, 80));
+    const RunResult run = Build(exam);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "");
+    EXPECT_NE(run.err.find(loss), std::string::npos) << run.err;
+    EXPECT_EQ(run.err.empty(), loss.empty()) << run.err;
+  };
+  check({{"title", std::string(256, 't')}}, "");
+  check({{"title", std::string(257, 't')}}, "the title is cut from 257 to 256");
+  check({{"boundaryQuestion", 12345}}, "boundary question 12345");
+  check({{"attachments", {{{"path", "a.txt"}, {"name", std::string(129, 'n')}}}}},
+        "name of an attached file");
+  const Json text = {{"text", "t"}};
+  const auto question = [&](Json members) {
+    members.update(text);
+    return OneQuestion(members);
+  };
+  check(question({{"kind", "FillIn"}, {"answerText", std::string(1025, 'x')}}),
+        "question 1: the fill-in answer is cut");
+  check(question({{"kind", "Oral"}, {"options", {"", "b"}}}), "question 1: an option text is not kept");
+  check(question({{"answerText", "a"}}), "the fill-in answer is not kept");
+  check(question({{"essayAnswer", "a"}}), "the essay answer is not kept");
+  check(question({{"answerLetters", std::string(17, 'a')}}), "answer letters");
+  check(question({{"essayAnswer", std::string("a\0b", 3)}, {"kind", "Essay"}}), "NUL");
+  check(question({{"kind", "Oral"}, {"oralFlag", 1}}), "oral flag");
+  check(OneQuestion({{"number", 5}, {"kind", "Essay"}, {"essayAnswer", "a"}}), "question 5: is not stored");
+}
+
+TEST_F(ExamCommands, BuildNamesThePlaceOfAnError) {
+  WriteBytes(folder / "a.txt", "abc");
+  const auto check = [this](const std::string& json, const std::string& reason) {
+    SCOPED_TRACE(json);
+    WriteBytes(folder / "bad.json", json);
+    const RunResult run = Command({"build", Path("bad.json"), Path("bad.exm")});
+    ExpectFailure(run, reason);
+    EXPECT_NE(run.err.find("bad.json"), std::string::npos) << run.err;
+    EXPECT_FALSE(fs::exists(folder / "bad.exm"));
+  };
+  check("{\"title\":\n  }", "line 2, column 3");
+  check("", "line 1");
+  check("[]", "must be an object");
+  check(R"({"title": 1})", "title must be a text");
+  check(R"({"randomMode": 1.5})", "randomMode must be a whole number");
+  check(R"({"scoreMode": 99999999999})", "scoreMode is too large");
+  check(R"({"scoreRanges": [{}, {"score": []}]})", "scoreRanges[1].score");
+  check(R"({"questions": {}})", "questions must be a list");
+  check(R"({"questions": [{}, {"kind": "Chioce"}]})",
+        "questions[1].kind must be Choice, FillIn, Essay or Oral");
+  check(R"({"questions": [{"number": 2}, {"number": 2}]})",
+        "questions[1] has the number of another question: 2");
+  check(R"({"questions": [{"number": 0}]})", "questions[0] must have a number from 1 to 500");
+  check(R"({"questions": [{"number": 501}]})", "questions[0] must have a number from 1 to 500");
+  check(R"({"questions": [{"options": ["", "", "", "", "", ""]}]})", "questions[0].options has more than 5");
+  check(R"({"attachments": [{"name": "x"}]})", "attachments[0] needs a \"path\"");
+  check(R"({"attachments": [{"path": "a.txt"}, {"path": "b.txt"}]})", "attachments[1].path names no file");
+  check(R"({"questions": [{"attachments": [{"path": "."}]}]})",
+        "questions[0].attachments[0].path names no file");
+  ExpectFailure(Command({"build", Path("absent.json"), Path("bad.exm")}), "There is no such file");
+  ExpectFailure(Command({"build", folder.Path().string(), Path("bad.exm")}), "It is a folder");
+  WriteBytes(folder / "good.json", "{}");
+  ExpectFailure(Command({"build", Path("good.json"), Path("absent/good.exm")}), "cannot be written");
+}
+
+TEST_F(ExamCommands, UnpackStaysInItsFolder) {
+  WriteBytes(folder / "a.txt", "exam's");
+  WriteBytes(folder / "b/a.txt", "question's");
+  const Json climbs = {{"path", "a.txt"}, {"name", "../../climbs.txt"}};
+  Build({{"attachments", {{{"path", "a.txt"}}, climbs}},
+         {"questions", {{{"number", 7}, {"text", "t"}, {"attachments", {{{"path", "b/a.txt"}}}}}}}});
+  const auto unpack = [this](const char* target) {
+    return Command({"unpack", Path("exam.exm"), Path(target)});
+  };
+  for (int i = 0; i < 2; ++i) {  // a second time over the first
+    const RunResult run = unpack("new/out");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out + run.err, "");
+  }
+  EXPECT_EQ(ReadBytes(folder / "new/out/exam/a.txt"), "exam's");
+  EXPECT_EQ(ReadBytes(folder / "new/out/exam/climbs.txt"), "exam's");
+  EXPECT_EQ(ReadBytes(folder / "new/out/question-007/0a.txt"), "question's");
+  const std::string file = Shown()["questions"][6]["attachments"][0]["file"];
+  EXPECT_EQ(file, "0a.txt");
+
+  fs::create_directories(folder / "elsewhere");
+  fs::create_directories(folder / "links");
+  fs::create_directory_symlink(folder / "elsewhere", folder / "links/exam");
+  ExpectFailure(unpack("links"), "links/exam");
+  EXPECT_TRUE(fs::is_empty(folder / "elsewhere"));
+
+  fs::create_directories(folder / "filelinks/exam");
+  fs::create_symlink(folder / "b/a.txt", folder / "filelinks/exam/a.txt");
+  EXPECT_EQ(unpack("filelinks").status, 0);
+  EXPECT_EQ(ReadBytes(folder / "b/a.txt"), "question's");
+  ExpectFailure(unpack("a.txt"), "a.txt");
+}
+
+TEST_F(ExamCommands, ShowIsReadable) {
+  WriteBytes(folder / "a.txt", "abc");
+  const Json question = {
+      {"text", "What\x1b[2J is\r\nthis?"}, {"options", {"one"}}, {"attachments", {{{"path", "a.txt"}}}}};
+  Build({{"title", "A title"}, {"questions", {question}}});
+  const RunResult run = Command({"show", Path("exam.exm")});
+  EXPECT_EQ(run.status, 0);
+  for (const char* part : {"A title", "1. [Choice] What", "this?", "A. one", "attached: a.txt (3 bytes)"}) {
+    EXPECT_NE(run.out.find(part), std::string::npos) << part;
+  }
+  EXPECT_EQ(run.out.find('\x1b'), std::string::npos);
+  ExpectFailure(Command({"show", Path("absent.exm"), "--json"}),
+                "Open file " + Path("absent.exm") + " error!");
+}
+
+TEST_F(ExamCommands, ExitStatusTellsWrongUsage) {
+  const auto check = [this](const std::vector<std::string>& arguments, int status) {
+    const RunResult run = Command(arguments);
+    EXPECT_EQ(run.status, status) << testing::PrintToString(arguments);
+    EXPECT_EQ(run.out.empty(), status != 0);
+    EXPECT_EQ(run.err.empty(), status == 0) << run.err;
+  };
+  check({}, 2);
+  check({"frobnicate"}, 2);
+  check({"show"}, 2);
+  check({"show", "a", "b"}, 2);
+  check({"show", "a", "--jsn"}, 2);
+  check({"build", "only-one"}, 2);
+  check({"show", "a", "--app-folder"}, 2);
+  for (const char* command : {"show", "build", "unpack", "edit"}) check({command, "--help"}, 0);
+  check({"--help"}, 0);
+  check({"--version"}, 0);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/PosixFiles.h"
+#include "shell/CloseSequence.h"
+#include "support/RecordingWorld.h"
+#include "support/TemporaryFolder.h"
+#include "text/PathText.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvantis::test {
+namespace {
+
+TEST(RemoveWorkCopies, DeletesAttachedFilesAndWhatAReaderUnpacked) {
+  const TemporaryFolder folder;
+  const auto unpacked = folder / "TEMP/ExamPreview/~tt";
+  PosixFiles files;
+  RecordingWorld world(folder.Path(), files);
+  FrameSetExam exam(world.services);
+  const auto copy = [&](const char* name) { return PathToText(WriteBytes(unpacked / name, "x")); };
+  const auto exists = [&](const char* name) { return std::filesystem::exists(unpacked / name); };
+  exam.examAttachmentCopies[0] = copy("exam.doc");
+  exam.Question(500).attachmentCopies = {copy("one"), copy("two"), u"", copy("behind the end")};
+  exam.Question(1).attachmentPaths[0] = copy("not a copy to delete");
+  WriteBytes(folder / "~TEMP/from/a.doc/a.doc", "attached");
+  WriteBytes(folder / "~TEMP/5.bmp", "picture");
+
+  RemoveWorkCopies(exam);
+  EXPECT_FALSE(std::filesystem::exists(folder / "~TEMP"));
+  EXPECT_TRUE(exists("exam.doc") && exists("one") && exists("two")) << "no reader has made them";
+
+  std::filesystem::create_directory_symlink(unpacked, folder / "~TEMP");
+  exam.questionFilesUnpacked = 1;
+  RemoveWorkCopies(exam);
+  EXPECT_FALSE(exists("one") || exists("two"));
+  EXPECT_TRUE(exists("exam.doc") && exists("behind the end") && exists("not a copy to delete"));
+  EXPECT_FALSE(std::filesystem::is_symlink(folder / "~TEMP"));
+  exam.examFilesUnpacked = 1;
+  RemoveWorkCopies(exam);
+  EXPECT_FALSE(exists("exam.doc"));
+}
+
+}  // namespace
+}  // namespace quorvantis::test

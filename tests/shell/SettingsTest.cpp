@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "shell/BuiltInStrings.h"
+#include "shell/CodePageChoice.h"
+#include "shell/ProfileFile.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvantis::test {
+namespace {
+
+TEST(ProfileFile, FindsValuesTheWayPeopleWriteThem) {
+  const TemporaryFolder folder;
+  const auto check = [&](std::string_view content, std::optional<std::u16string> value) {
+    const ProfileFile profile(WriteBytes(folder / "file.ini", content));
+    EXPECT_EQ(profile.Value(u"Section", u"kEY"), value) << content;
+  };
+  check("", std::nullopt);
+  check("key=outside\n[other]\nkey=other\n[section]\n;key=comment\nkeys=x\nkey", std::nullopt);
+  check("[section]\nkey=", u"");
+  check("[section]\nkey=1\nkey=2\n[section]\nkey=3", u"1");
+  check("[section]\nx=1\n[other]\nkey=0\n[section]\nkey=late", u"late");
+  check("\xEF\xBB\xBF[SECTION]\r\nKey = two words \t\r\n", u"two words");
+  check(" [ section ] ; remark\r\tkey\t=\ta;b=c\r", u"a;b=c");
+  check("[\n[]\n=\n[section\nkey=\" quoted \"", u" quoted ");
+  check("[section]\nkey=\"half'", u"\"half'");
+  check("[section]\nkey=\"", u"\"");
+  check("[section]\nkey=\xC3\xA9\xFF", u"\u00E9\uFFFD");
+  EXPECT_EQ(ProfileFile(folder.Path()).Value(u"section", u"key"), std::nullopt);
+}
+
+TEST(ChooseCodePage, TakesTheSettingOrTheOneOfTheLanguage) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(ChooseCodePage(folder.Path(), 0x0804), "GBK");
+  const auto check = [&](const char* setting, int language, const char* expected) {
+    WriteBytes(folder / "system.ini", setting);
+    EXPECT_EQ(ChooseCodePage(folder.Path(), language), expected) << setting << language;
+  };
+  check("[private]\nCodePage=", 0x0404, "BIG5");
+  check("[other]\nCodePage=936", 0x0411, "CP932");
+  check("", 0x0412, "CP949");
+  check("", 0x0419, "CP1251");
+  check("", kEnglish, "CP1252");
+  check("", 0, "CP1252");
+  check("[private]\nCodePage=936", kEnglish, "CP936");
+  check("[private]\nCodePage=65001", 0x0804, "UTF-8");
+  check("[Private]\ncodepage=KOI8-R", 0x0804, "KOI8-R");
+}
+
+TEST(BuiltInStrings, HaveTheExactTexts) {
+  const std::pair<int, std::u16string_view> rows[] = {
+      {102, u"Open file %s error!"},
+      {103, u"create temporary file error"},
+      {105, u"File '%s' Changed.\nSave File ?"},
+      {107, u"Quorvantis - %s"},
+      {109, u"Random(sequence)"},
+      {140, u"Insert ans\\' list separator \\\"<@>\\\""},
+      {1000, u"The exam file ends before its contents do; question %d and after are missing."},
+      {9999, u""}};
+  for (const auto& [number, text] : rows) EXPECT_EQ(BuiltInStrings().Text(number), text) << number;
+}
+
+}  // namespace
+}  // namespace quorvantis::test
