@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/AnswerControls.h"
+#include "desktop/ExamControls.h"
+#include "desktop/FileButtons.h"
+#include "desktop/QuestionControls.h"
+#include "editor/ExamEditor.h"
+
+#include <QGroupBox>
+#include <QUrl>
+#include <QWidget>
+
+#include <filesystem>
+
+namespace quorvantis {
+
+/// The main window. It binds the controls to the editor, which has all the rules; the window only shows what
+/// the editor tells. Escape ends it without a question, closing it asks about unsaved changes. When the
+/// window goes, so do the work copies of attached files.
+class CQuorvantisDlg final : public QWidget, private EditorView {
+  Q_OBJECT
+
+ public:
+  /// `exam` must outlive the window.
+  CQuorvantisDlg(FrameSetExam& exam, DocumentExport exportDocument);
+  ~CQuorvantisDlg() override;
+
+  /// Opens an exam file, a full path, as the Open command does, without a file dialog.
+  void OpenExam(const std::filesystem::path& file) { editor_.files.OpenExam(file); }
+
+ signals:
+  /// Both are handled by the window itself, once the event in hand is over.
+  void ContentChangePosted();
+  void FilesDropped(const QList<QUrl>& urls);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void FormLoaded() override;
+  void FormChanged() override;
+  void TitleChanged() override;
+  void PostContentChanged() override;
+
+  void TakeFiles(const QList<QUrl>& urls);
+
+  FrameSetExam& exam_;
+  ExamEditor editor_;
+  bool endsUnasked_ = false;
+  FileButtons files_;
+  ExamControls examControls_;
+  QGroupBox* questionArea_;
+  QuestionControls question_;
+  AnswerControls answers_;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/CommandLine.h"
+
+#include "desktop/QtText.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include <algorithm>
+#include <string_view>
+#include <system_error>
+
+namespace quorvantis {
+namespace {
+
+std::filesystem::path FullPath(const QString& path) {
+  if (path.isEmpty()) return {};
+  std::error_code error;
+  const auto full = std::filesystem::absolute(QStringToPath(path), error);
+  return error ? QStringToPath(path) : full.lexically_normal();
+}
+
+}  // namespace
+
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
+  const auto onlyAsks = [](std::string_view argument) {
+    return argument == "--help" || argument == "--help-all" || argument == "-h" || argument == "--version" ||
+           argument == "-v";
+  };
+  if (std::any_of(argv, argv + argc, onlyAsks)) return std::make_unique<QCoreApplication>(argc, argv);
+  return std::make_unique<QApplication>(argc, argv);
+}
+
+CommandLine ParseCommandLine(const QCoreApplication& application) {
+  const QCommandLineOption folder("app-folder", "Keep settings and work folders in DIR.", "DIR");
+  const QCommandLineOption debug("debug", "Write debug lines to standard error.");
+  const QCommandLineOption screenshot("screenshot", "Save a picture of the window to FILE and end.", "FILE");
+  QCommandLineParser parser;
+  parser.setApplicationDescription("Quorvantis, an editor for exams.");
+  parser.addOptions({folder, debug, screenshot});
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument("FILE", "The exam to open.", "[FILE.exm]");
+  parser.process(application);
+  if (parser.positionalArguments().size() > 1) parser.showHelp(2);
+  return {FullPath(parser.positionalArguments().value(0)), FullPath(parser.value(folder)),
+          parser.value(screenshot), parser.isSet(debug)};
+}
+
+}  // namespace quorvantis

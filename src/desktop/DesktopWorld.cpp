@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/DesktopWorld.h"
+
+#include "shell/CodePageChoice.h"
+
+namespace quorvantis {
+
+DesktopWorld::DesktopWorld(const std::filesystem::path& applicationFolder, bool debug)
+    : debug_(debug || DebugAskedFor()),
+      codePage_(ChooseCodePage(applicationFolder, kEnglish)),
+      services_{applicationFolder, strings_,        dialogs_, codePage_, debug_, files_,
+                progress_,         longAnswerFlags_} {}
+
+void DesktopWorld::SetWindow(QWidget* window) {
+  dialogs_.SetParent(window);
+  progress_.SetParent(window);
+}
+
+}  // namespace quorvantis

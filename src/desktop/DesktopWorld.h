@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/QtProgress.h"
+#include "desktop/QtUserDialogs.h"
+#include "model/LongAnswerFlags.h"
+#include "platform/ExamServices.h"
+#include "platform/posix/IconvCodePage.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/StandardErrorDebug.h"
+#include "shell/BuiltInStrings.h"
+
+#include <filesystem>
+
+namespace quorvantis {
+
+/// Everything that the exam document of a desktop program uses. One for the whole run.
+class DesktopWorld {
+ public:
+  /// `applicationFolder` is a full path.
+  DesktopWorld(const std::filesystem::path& applicationFolder, bool debug);
+  DesktopWorld(const DesktopWorld&) = delete;
+  DesktopWorld& operator=(const DesktopWorld&) = delete;
+
+  ExamServices& Services() { return services_; }
+
+  /// The window over which dialogs appear from now on.
+  void SetWindow(QWidget* window);
+
+ private:
+  BuiltInStrings strings_;
+  QtUserDialogs dialogs_;
+  QtProgress progress_;
+  StandardErrorDebug debug_;
+  PosixFiles files_;
+  LongAnswerFlags longAnswerFlags_;
+  IconvCodePage codePage_;
+  ExamServices services_;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/AttachmentListBox.h"
+#include "desktop/OneLineField.h"
+#include "desktop/StateBox.h"
+#include "editor/ExamEditor.h"
+#include "platform/StringTable.h"
+
+#include <QLabel>
+
+namespace quorvantis {
+
+/// The controls for what belongs to the exam as a whole: title, random mode and attached files.
+class ExamControls {
+ public:
+  /// The controls belong to `parent`; `editor` must outlive them.
+  ExamControls(ExamEditor& editor, const StringTable& strings, QWidget* parent);
+
+  /// Another question is shown.
+  void Load() { title->Load(); }
+
+  /// Shows what the editor has now.
+  void Refresh();
+
+  QLabel* titleLabel;
+  OneLineField* title;
+  StateBox* random;
+  QLabel* attachmentsLabel;
+  AttachmentListBox* attachments;
+
+ private:
+  ExamEditor& editor_;
+};
+
+}  // namespace quorvantis

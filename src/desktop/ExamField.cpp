@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/ExamField.h"
+
+namespace quorvantis {
+
+void ExamField::Load() {
+  text_.Load(editor_.Form().Field(field_));
+  ShowAnew(text_.Shown());
+}
+
+void ExamField::FollowForm() {
+  const std::u16string& text = editor_.Form().Field(field_);
+  if (text == text_.Text()) return;
+  const std::u16string before = text_.Shown();
+  text_.Set(text);
+  ShowChange(FindChange(before, text_.Shown()), text_.Shown());
+}
+
+bool ExamField::Edit(std::u16string_view shown) {
+  std::u16string text = text_.Edited(shown);
+  if (text == text_.Text()) return true;
+  if (!editor_.EditField(field_, text)) return false;
+  text_.Set(std::move(text));
+  return true;
+}
+
+bool ExamField::Refuses(std::u16string_view shown) {
+  const bool tooLong = text_.Edited(shown).size() > MaxLength(field_);
+  return tooLong && !Edit(shown);
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// Where two texts differ: they are equal up to `start`, and again behind `removed` units of the first and
+/// `added` units of the second.
+struct TextChange {
+  std::size_t start = 0;
+  std::size_t removed = 0;
+  std::size_t added = 0;
+};
+
+TextChange FindChange(std::u16string_view before, std::u16string_view after);
+
+enum class FieldLines { One, Many };
+
+/// A text of the form beside what a field on the screen shows of it.
+///
+/// A field cannot hold every text: of a line end it only knows that there is one, and some units mean
+/// something else to it. So an edit is taken as a change of what is shown, and all that lies outside the
+/// change stays in the text unit by unit.
+class FieldText {
+ public:
+  explicit FieldText(FieldLines lines) : lines_(lines) {}
+
+  /// Takes a text that the user has not touched yet.
+  void Load(std::u16string text);
+
+  /// Takes a text that an edit or a command has made.
+  void Set(std::u16string text);
+
+  const std::u16string& Text() const { return text_; }
+
+  /// What the field is to show. With many lines every line end is one U+2029, as in a Qt document.
+  const std::u16string& Shown() const { return shown_; }
+
+  /// The text once the user has turned what is shown into `shown`. New line ends are CR LF; in a field of one
+  /// line they are blanks. When all edits are taken back, the text is again the one that was loaded.
+  std::u16string Edited(std::u16string_view shown) const;
+
+ private:
+  std::u16string Show(std::u16string_view text) const;
+  std::size_t OffsetOf(std::size_t shownPosition) const;
+  void AppendTyped(std::u16string& text, std::u16string_view typed) const;
+
+  FieldLines lines_;
+  std::u16string text_;
+  std::u16string shown_;
+  std::u16string loaded_;
+  std::u16string loadedShown_;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/ExamField.h"
+
+#include <QPlainTextEdit>
+
+namespace quorvantis {
+
+/// A text field of several lines. Tab leaves it, so that the keyboard reaches every control.
+class MultiLineField : public QPlainTextEdit, public ExamField {
+  Q_OBJECT
+
+ public:
+  MultiLineField(QuestionEditor& editor, FormField field, QWidget* parent);
+
+  QSize minimumSizeHint() const override;
+  QSize sizeHint() const override;
+
+ signals:
+  /// The field shows a text that it does not take; it is put right after the event.
+  void Overran();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  void insertFromMimeData(const QMimeData* source) override;
+  QMimeData* createMimeDataFromSelection() const override;
+
+  void ShowAnew(const std::u16string& shown) override;
+  void ShowChange(const TextChange& change, const std::u16string& shown) override;
+
+ private:
+  bool RefusesInsertion(const QString& inserted, int offset = 0, int replaced = 0);
+  void TakeContents();
+  void AlignText(const QString& content);
+  void Restore();
+
+  bool refused_ = false;  ///< the last insertion was
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/QtUserDialogs.h"
+
+#include "desktop/FileFilters.h"
+#include "desktop/QtText.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace quorvantis {
+namespace {
+
+/// Texts are shown as they are: a file name may look like markup.
+QMessageBox::StandardButton Ask(QMessageBox::Icon icon, const QString& text,
+                                QMessageBox::StandardButtons buttons, QWidget* parent) {
+  QMessageBox box(icon, QStringLiteral("Quorvantis"), text, buttons, parent);
+  box.setTextFormat(Qt::PlainText);
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+void OfferFilters(QFileDialog& dialog, const std::vector<FileFilter>& filters) {
+  QStringList names;
+  for (const FileFilter& filter : filters) names.push_back(filter.ForQt());
+  dialog.setNameFilters(names);
+  dialog.setOption(QFileDialog::HideNameFilterDetails);  // the labels bring their own
+}
+
+QString SelectedExtension(const QFileDialog& dialog, const std::vector<FileFilter>& filters,
+                          const QString& fallback) {
+  const QString selected = dialog.selectedNameFilter();
+  for (const FileFilter& filter : filters) {
+    if (selected == filter.ForQt() || selected == filter.label) return filter.FirstExtension();
+  }
+  return fallback;
+}
+
+}  // namespace
+
+void QtUserDialogs::ShowError(std::u16string_view text) {
+  Ask(QMessageBox::Critical, ToQString(text), QMessageBox::Ok, parent_);
+}
+
+void QtUserDialogs::ShowWarning(std::u16string_view text) {
+  Ask(QMessageBox::Warning, ToQString(text), QMessageBox::Ok, parent_);
+}
+
+SaveAnswer QtUserDialogs::AskSave(std::u16string_view question) {
+  const auto answer = Ask(QMessageBox::Question, ToQString(question),
+                          QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent_);
+  return answer == QMessageBox::Yes  ? SaveAnswer::Yes
+         : answer == QMessageBox::No ? SaveAnswer::No
+                                     : SaveAnswer::Cancel;
+}
+
+std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToOpen(const FileDialogRequest& request) {
+  QFileDialog dialog(parent_);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  OfferFilters(dialog, ParseFilters(request.filter));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return QStringToPath(dialog.selectedFiles().front());
+}
+
+/// The dialog itself would ask about overwriting before the extension is there.
+std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToSave(const FileDialogRequest& request) {
+  const std::vector<FileFilter> filters = ParseFilters(request.filter);
+  QFileDialog dialog(parent_);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  OfferFilters(dialog, filters);
+  dialog.selectFile(ToQString(request.initialName));
+  while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+    const QString extension = SelectedExtension(dialog, filters, ToQString(request.defaultExtension));
+    const QString path = WithExtension(dialog.selectedFiles().front(), filters, extension);
+    if (MayOverwrite(path)) return QStringToPath(path);
+  }
+  return std::nullopt;
+}
+
+bool QtUserDialogs::MayOverwrite(const QString& path) {
+  if (!QFileInfo::exists(path)) return true;
+  const QString question = QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(path);
+  return Ask(QMessageBox::Warning, question, QMessageBox::Yes | QMessageBox::No, parent_) == QMessageBox::Yes;
+}
+
+}  // namespace quorvantis

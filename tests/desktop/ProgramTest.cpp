@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// The real program, started as a user would.
+#include "desktop/QtText.h"
+#include "support/TemporaryFolder.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+namespace quorvantis::test {
+namespace {
+
+constexpr const char* kProgram = QUORVANTIS_PROGRAM;
+
+bool HasSeveralColours(const QImage& image) {
+  for (int x = 0; x < image.width(); ++x) {
+    for (int y = 0; y < image.height(); ++y) {
+      if (image.pixel(x, y) != image.pixel(0, 0)) return true;
+    }
+  }
+  return false;
+}
+
+TEST(Program, TellsItsVersionWithoutADisplay) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(variable);
+  QProcess program;
+  program.setProcessEnvironment(environment);
+  program.start(kProgram, {"--version"});
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_TRUE(program.readAllStandardOutput().startsWith("quorvantis "));
+}
+
+TEST(Program, PaintsItsWindowOnAnXServer) {
+  if (QStandardPaths::findExecutable("xvfb-run").isEmpty()) GTEST_SKIP() << "needs xvfb-run";
+  const TemporaryFolder folder;
+  const QString picture = PathToQString(folder / "window.png");
+  QProcess program;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("QT_QPA_PLATFORM", "xcb");
+  environment.insert("LSAN_OPTIONS",
+                     "detect_leaks=0");  // of a sanitized build: the X and D-Bus libraries leak
+  program.setProcessEnvironment(environment);
+  program.setProcessChannelMode(QProcess::ForwardedChannels);
+  program.start("xvfb-run", {"-a", "-s", "-screen 0 1280x1024x24", kProgram, "--app-folder",
+                             PathToQString(folder / "app"), "--screenshot", picture});
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_EQ(program.exitCode(), 0);
+  const QImage image(picture);
+  EXPECT_GE(image.width(), 792);
+  EXPECT_GE(image.height(), 646);
+  EXPECT_TRUE(HasSeveralColours(image));
+}
+
+}  // namespace
+}  // namespace quorvantis::test

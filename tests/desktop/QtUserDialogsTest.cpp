@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/QtProgress.h"
+#include "desktop/QtText.h"
+#include "desktop/QtUserDialogs.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <queue>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace quorvantis::test {
+namespace {
+
+/// A user who answers the dialogs that come up, one after the other.
+class UserDialogsTest : public testing::Test {
+ protected:
+  UserDialogsTest() {
+    QObject::connect(&watch_, &QTimer::timeout, [this] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      if (dialog == nullptr || answers_.empty()) return;
+      const auto answer = answers_.front();
+      answers_.pop();
+      answer(*dialog);
+    });
+    watch_.start(20);
+  }
+  ~UserDialogsTest() override { EXPECT_TRUE(answers_.empty()); }
+
+  void Answer(QMessageBox::StandardButton button) {
+    answers_.push([button](QWidget& dialog) {
+      QTest::mouseClick(dynamic_cast<QMessageBox&>(dialog).button(button), Qt::LeftButton);
+    });
+  }
+  void EnterName(const QString& name, const QString& filter = {}) {
+    answers_.push([name, filter](QWidget& dialog) {
+      auto& files = dynamic_cast<QFileDialog&>(dialog);
+      if (!filter.isEmpty()) files.selectNameFilter(filter);
+      auto* line = files.findChild<QLineEdit*>("fileNameEdit");
+      line->setText(name);
+      QTest::keyClick(line, Qt::Key_Return);
+    });
+  }
+  void Press(Qt::Key key) {
+    answers_.push([key](QWidget& dialog) { QTest::keyClick(&dialog, key); });
+  }
+  QString Path(const char* name) { return PathToQString(folder / name); }
+
+  TemporaryFolder folder;
+  QtUserDialogs dialogs;
+  const FileDialogRequest save{u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|", u"exm", u"MyExam"};
+
+ private:
+  QTimer watch_;
+  std::queue<std::function<void(QWidget&)>> answers_;
+};
+
+TEST_F(UserDialogsTest, SaveQuestionHasThreeAnswers) {
+  for (const auto& [button, expected] :
+       {std::pair{QMessageBox::Yes, SaveAnswer::Yes}, std::pair{QMessageBox::No, SaveAnswer::No},
+        std::pair{QMessageBox::Cancel, SaveAnswer::Cancel}}) {
+    Answer(button);
+    EXPECT_EQ(dialogs.AskSave(u"Save <b>?</b>"), expected);
+  }
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(dialogs.AskSave(u"Save?"), SaveAnswer::Cancel);
+}
+
+TEST_F(UserDialogsTest, SavingAddsTheExtensionOfTheChosenKind) {
+  EnterName(Path("one"));
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), folder / "one.exm");
+  EnterName(Path("two"), "Word files (*.doc) (*.doc)");
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), folder / "two.doc");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), std::nullopt);
+}
+
+TEST_F(UserDialogsTest, OverwritingIsConfirmedUnderTheFinalName) {
+  WriteBytes(folder / "old.exm", "exam");
+  EnterName(Path("old"));
+  Answer(QMessageBox::No);
+  EnterName(Path("old"));
+  Answer(QMessageBox::Yes);
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), folder / "old.exm");
+}
+
+TEST_F(UserDialogsTest, OpeningTakesAFileThatIsThere) {
+  WriteBytes(folder / "old.exm", "exam");
+  EnterName(Path("old.exm"));
+  EXPECT_EQ(dialogs.ChooseFileToOpen({u"Exam files, (*.exm)|*.exm|", {}, {}}), folder / "old.exm");
+}
+
+TEST_F(UserDialogsTest, ProgressShowsAfterHalfASecondAndEndsWithTheWork) {
+  QtProgress progress;
+  progress.Report(1, 10);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  QTest::qSleep(600);
+  progress.Report(5, 10);
+  EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+  QTest::qWait(50);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

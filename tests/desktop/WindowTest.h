@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/AttachmentListBox.h"
+#include "desktop/CQuorvantisDlg.h"
+#include "desktop/QtText.h"
+#include "platform/posix/PosixFiles.h"
+#include "support/RecordingWorld.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quorvantis::test {
+
+/// The real window over an exam that a test can fill before it opens the window, with scripted dialogs.
+class WindowTest : public testing::Test {
+ protected:
+  void Open() {
+    std::filesystem::create_directories(world.services.applicationFolder);
+    window = std::make_unique<CQuorvantisDlg>(exam, DocumentExport());
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+
+  template <class T = QWidget>
+  T& Control(const char* name) {
+    T* control = window->findChild<T*>(name);
+    if (control == nullptr) throw std::runtime_error(name);
+    return *control;
+  }
+  OneLineField& Line(const char* name) { return Control<OneLineField>(name); }
+  MultiLineField& Lines(const char* name) { return Control<MultiLineField>(name); }
+
+  void Click(const char* name) { QTest::mouseClick(&Control<QAbstractButton>(name), Qt::LeftButton); }
+  void Type(const char* name, const QString& text) {
+    Control(name).setFocus();
+    QTest::keyClicks(&Control(name), text);
+  }
+  void Press(const char* name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    Control(name).setFocus();
+    QTest::keyClick(&Control(name), key, modifiers);
+  }
+
+  /// Lets the event loop turn once.
+  void Turn() { QCoreApplication::processEvents(); }
+  bool ShowsChange() { return window->windowTitle().endsWith(" *"); }
+  std::filesystem::path MakeFile(const char* name) { return WriteBytes(folder / name, "content"); }
+
+  TemporaryFolder folder;
+  PosixFiles files;
+  RecordingWorld world{folder.Path() / "app", files};
+  FrameSetExam exam{world.services};
+  std::unique_ptr<CQuorvantisDlg> window;
+};
+
+}  // namespace quorvantis::test
