@@ -12,11 +12,12 @@ namespace quorvantis::cli {
 namespace fs = std::filesystem;
 namespace {
 
-/// The given folder, made if missing, or a private one.
+/// The given folder as a full path without a separator at its end, made if missing; or a private one.
 fs::path UseFolder(const fs::path& given, std::optional<PrivateFolder>& privateFolder) {
   if (given.empty()) return privateFolder.emplace().Path();
   std::error_code error;
-  const fs::path folder = fs::absolute(given).lexically_normal();
+  fs::path folder = fs::absolute(given).lexically_normal();
+  if (!folder.has_filename() && folder != folder.root_path()) folder = folder.parent_path();
   fs::create_directories(folder, error);
   if (!fs::is_directory(folder, error)) {
     throw CommandError(given.string() +

@@ -83,14 +83,15 @@ TEST_F(QuestionWindow, ShowsOnlyWhatFitsTheKind) {
 }
 
 TEST_F(QuestionWindow, AnUnknownKindHasNoButtonAndIsKept) {
-  exam.Question(1).kind = static_cast<QuestionKind>(7);
+  exam.Question(2).kind = static_cast<QuestionKind>(7);
   Open();
+  Click("next");
   for (const char* name : {"kindChoice", "kindFillIn", "kindEssay", "kindOral"}) {
     EXPECT_FALSE(Control<QAbstractButton>(name).isChecked());
   }
   EXPECT_FALSE(Shows("optionA") || Shows("answer") || Shows("essay"));
   Click("next");
-  EXPECT_EQ(exam.Question(1).kind, static_cast<QuestionKind>(7));
+  EXPECT_EQ(exam.Question(2).kind, static_cast<QuestionKind>(7));
 }
 
 TEST_F(QuestionWindow, TheKeyboardChangesTheKindToo) {
@@ -202,6 +203,7 @@ TEST_F(QuestionWindow, OralToggleSwitchesTheFlag) {
   EXPECT_FALSE(Shows("oralToggle"));
   Control<AttachmentListBox>("questionAttachments").setCurrentRow(0);
   Attach("attachToQuestion", "two.avi");
+  EXPECT_EQ(Control<AttachmentListBox>("questionAttachments").Selected(), 0U);
   ASSERT_TRUE(Shows("oralToggle"));
   EXPECT_EQ(Control<QAbstractButton>("oralToggle").text(), "[172 %s]");
   Click("oralToggle");
