@@ -15,8 +15,8 @@ namespace quorvantis {
 /// after each field.
 class ByteSource {
  public:
-  static constexpr std::size_t kBufferSize = 512 * 1024;
-  static constexpr std::size_t kMaxTake = 64 * 1024;
+  static constexpr std::size_t kBufferSize = std::size_t{512} * 1024;
+  static constexpr std::size_t kMaxTake = std::size_t{64} * 1024;
 
   /// Opens `file`; check IsOpen. Folders, devices and pipes do not open.
   explicit ByteSource(const std::filesystem::path& file);

@@ -9,7 +9,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kMaxBytes = 1024 * 1024;
+constexpr std::size_t kMaxBytes = std::size_t{1024} * 1024;
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 std::u16string_view Trim(std::u16string_view text) {

@@ -69,6 +69,7 @@ TEST_F(WriteExamFile, WritesEveryFieldWhereItBelongs) {
   third.answer = std::u16string(256, u'r');
   third.files = {{u"first", "1"}, {std::u16string(128, u'n'), "second"}};
   third.oralFlag = "\x01\0"s;
+  typed.questions[1].files = {{u"gone.avi", ""}};
 
   const std::u16string cut = u"cut off";
   exam.title = typed.title + cut;
@@ -81,6 +82,9 @@ TEST_F(WriteExamFile, WritesEveryFieldWhereItBelongs) {
   first.options[4] += cut;
   first.answerLetters = u"ae";
   first.oralFlag = 1;  // without an attachment there is nowhere to store it
+  exam.Question(2).attachmentPaths[0] = PathToText(folder / "gone");
+  exam.Question(2).attachmentNames[0] = u"gone.avi";
+  exam.Question(2).oralFlag = 2;  // neither off nor on
   last.kind = QuestionKind::Oral;
   last.text = third.text + cut;
   last.answerLetters = third.letters + cut;
