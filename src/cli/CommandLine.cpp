@@ -22,6 +22,9 @@ struct Arguments {
   std::filesystem::path input;
   std::filesystem::path output;
   bool json = false;
+  bool afterPreview = false;
+  std::optional<std::string> student;
+  std::optional<std::filesystem::path> responses;
 };
 
 CLI::App* AddCommand(CLI::App& app, const char* name, const char* description) {
@@ -53,6 +56,35 @@ void AddUnpack(CLI::App& app, Arguments& arguments, Console& console) {
   unpack->add_option("DIR", arguments.output, "Target folder; made if missing")->required();
   unpack->footer("Files go to DIR/exam and DIR/question-007.");
   unpack->callback([&] { Unpack(console, arguments.common, arguments.input, arguments.output); });
+}
+
+void AddPreview(CLI::App& app, Arguments& arguments, Console& console) {
+  CLI::App* preview = AddCommand(app, "preview", "Write the pages of an exam's preview");
+  preview->add_option("EXAM", arguments.input, "Exam file (.exm)")->required();
+  preview->add_option("DIR", arguments.output, "Application folder for the pages; made if missing")
+      ->required();
+  preview->add_option("--student", arguments.student,
+                      "Write the pages of the student with this number instead");
+  preview->add_option("--responses", arguments.responses, "What the student has answered (JSON)");
+  preview->footer(
+      "Pages go to DIR/TEMP/ExamPreview, those of a student to DIR/~BrelmStudent/ID<number>. Responses are\n"
+      "{\"resultScore\": 7.5, \"resultPageOption\": 0, \"responses\": [{\"number\": 1, \"text\": \"ac\", "
+      "\"value\": 1}]}.");
+  preview->callback([&] {
+    Preview(console, arguments.common,
+            {arguments.input, arguments.output, arguments.student, arguments.responses});
+  });
+}
+
+void AddPrint(CLI::App& app, Arguments& arguments, Console& console) {
+  CLI::App* print = AddCommand(app, "print", "Write the page of an exam that is printed");
+  print->add_option("EXAM", arguments.input, "Exam file (.exm)")->required();
+  print->add_option("DIR", arguments.output, "Application folder for DIR/exam_Print.htm; made if missing")
+      ->required();
+  print->add_flag("--after-preview", arguments.afterPreview,
+                  "Write the preview first, which the print depends on");
+  print->callback(
+      [&] { Print(console, arguments.common, arguments.input, arguments.output, arguments.afterPreview); });
 }
 
 void AddEdit(CLI::App& app, Arguments& arguments, Console& console) {
@@ -96,6 +128,8 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddShow(app, arguments, console);
   AddBuild(app, arguments, console);
   AddUnpack(app, arguments, console);
+  AddPreview(app, arguments, console);
+  AddPrint(app, arguments, console);
   AddEdit(app, arguments, console);
   const int status = Parse(app, argumentCount, argumentValues, console);
   console.out.flush();

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace quorvantis::cli {
 
@@ -19,6 +20,21 @@ void Build(Console& console, const CommonOptions& options, const std::filesystem
 /// Copies the attached files of an exam into a folder.
 void Unpack(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
             const std::filesystem::path& folder);
+
+/// What `preview` is asked for.
+struct PreviewRequest {
+  std::filesystem::path exam;
+  std::filesystem::path folder;                    ///< the application folder
+  std::optional<std::string> student;              ///< number of a student, whose pages are written then
+  std::optional<std::filesystem::path> responses;  ///< what the student has answered
+};
+
+/// Writes the pages of a preview.
+void Preview(Console& console, const CommonOptions& options, const PreviewRequest& request);
+
+/// Writes the page that is printed; with `afterPreview` as it is after a preview in the same run.
+void Print(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
+           const std::filesystem::path& folder, bool afterPreview);
 
 /// Runs an editing script, from a file or from the console.
 void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script);

@@ -35,7 +35,8 @@ ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
       codePage_(ChooseCodePage(applicationFolder_, kEnglish)),
       console(theConsole),
       dialogs(theConsole),
-      services{applicationFolder_, strings_, dialogs, codePage_, debug_, files_, progress_, longAnswerFlags_},
+      services{applicationFolder_, strings_,         dialogs, codePage_, debug_, files_,
+               progress_,          longAnswerFlags_, ids_,    classes_,  pages_},
       exam(services) {
   exam.SetHostMode(1);
 }

@@ -9,9 +9,12 @@
 #include "model/LongAnswerFlags.h"
 #include "platform/ExamServices.h"
 #include "platform/posix/IconvCodePage.h"
+#include "platform/posix/NoClassRegistry.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PrivateFolder.h"
+#include "platform/posix/RandomIds.h"
 #include "platform/posix/StandardErrorDebug.h"
+#include "render/ComposedPages.h"
 #include "shell/BuiltInStrings.h"
 
 #include <filesystem>
@@ -46,6 +49,9 @@ class ExamSession {
   StandardErrorDebug debug_;
   PosixFiles files_;
   LongAnswerFlags longAnswerFlags_;
+  RandomIds ids_;
+  NoClassRegistry classes_;
+  ComposedPages pages_;
   const std::filesystem::path applicationFolder_;
   IconvCodePage codePage_;
 

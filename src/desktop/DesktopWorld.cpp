@@ -8,8 +8,8 @@ namespace quorvantis {
 DesktopWorld::DesktopWorld(const std::filesystem::path& applicationFolder, bool debug)
     : debug_(debug || DebugAskedFor()),
       codePage_(ChooseCodePage(applicationFolder, kEnglish)),
-      services_{applicationFolder, strings_,        dialogs_, codePage_, debug_, files_,
-                progress_,         longAnswerFlags_} {}
+      services_{applicationFolder, strings_,         dialogs_, codePage_, debug_, files_,
+                progress_,         longAnswerFlags_, ids_,     classes_,  pages_} {}
 
 void DesktopWorld::SetWindow(QWidget* window) {
   dialogs_.SetParent(window);

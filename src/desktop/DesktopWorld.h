@@ -6,8 +6,11 @@
 #include "model/LongAnswerFlags.h"
 #include "platform/ExamServices.h"
 #include "platform/posix/IconvCodePage.h"
+#include "platform/posix/NoClassRegistry.h"
 #include "platform/posix/PosixFiles.h"
+#include "platform/posix/RandomIds.h"
 #include "platform/posix/StandardErrorDebug.h"
+#include "render/ComposedPages.h"
 #include "shell/BuiltInStrings.h"
 
 #include <filesystem>
@@ -23,6 +26,7 @@ class DesktopWorld {
   DesktopWorld& operator=(const DesktopWorld&) = delete;
 
   ExamServices& Services() { return services_; }
+  const ComposedPages& Pages() const { return pages_; }
 
   /// The window over which dialogs appear from now on.
   void SetWindow(QWidget* window);
@@ -34,6 +38,9 @@ class DesktopWorld {
   StandardErrorDebug debug_;
   PosixFiles files_;
   LongAnswerFlags longAnswerFlags_;
+  RandomIds ids_;
+  NoClassRegistry classes_;
+  ComposedPages pages_;
   IconvCodePage codePage_;
   ExamServices services_;
 };

@@ -2,14 +2,19 @@
 #pragma once
 
 #include "model/ExamLimits.h"
+#include "model/PageRenderer.h"
 
 #include <array>
 
 namespace quorvantis {
 
-/// Writes the frames and pages of the exam-level attachments; its state lives in the document.
-struct AttachmentPageWriter {
-  std::array<int, kMaxAttachments> frameKinds{};  ///< kind of each attachment frame 1 to 10; 0 when unused
+/// The settings and results of the pages that show the exam-level attachments.
+class AttachmentPageWriter : public PageRenderer {
+ public:
+  int locationMode = 0;                           ///< the document's, as of the last attachment pane
+  std::array<int, kMaxAttachments> frameKinds{};  ///< of frame 1 (at index 0) to 10; 0 when unused
+
+  int& FrameKind(int frame) { return frameKinds[static_cast<std::size_t>(frame - 1)]; }
 };
 
 }  // namespace quorvantis

@@ -30,6 +30,26 @@ class FrameSetExam : public ExamPaper {
   /// it could not be saved; the user has been told. Defined in examfile/.
   bool WriteExamFile(const std::filesystem::path& file);
 
+  /// Writes the preview: `page` holds the frames, or, when no files are attached to the exam, the questions.
+  /// What cannot be written is left out silently. Defined in render/, as the four below.
+  void WritePreview(const std::filesystem::path& page);
+
+  /// Writes the page with all questions: the editor's, or the result page while `locationMode` is 0.
+  void WriteQuestionPage(const std::filesystem::path& page);
+  void WriteResultPage(const std::filesystem::path& page);
+
+  /// Writes the exam as a paper.
+  void WritePrintPage(const std::filesystem::path& page);
+
+  /// Not 0: every attachment path that a page shows gets one more prefix, a copy of its first three
+  /// characters, from now on; 0: one fewer. Pages take three characters off again to get a full path. The
+  /// paths themselves stay as they are, so that no prefix can get into a file; Preview and its end need not
+  /// be balanced.
+  void PrefixAttachmentPaths(int on);
+
+  /// `path` as pages see it. Paths of up to three characters have no prefixes.
+  std::u16string PathOnPages(const std::u16string& path) const;
+
   ExamServices& Services() const { return *services_; }
 
   int firstOralQuestion = 0;  ///< the first oral question that the reader met, 0 when none
@@ -43,6 +63,7 @@ class FrameSetExam : public ExamPaper {
   std::array<int, kMaxAttachments>
       examAttachmentTypes{};  ///< number of the preview frame that shows each file
   AttachmentPageWriter attachmentPageWriter;
+  int previewPrefixes = 0;  ///< previews of this exam that were not finished
   int hasOralQuestion = 0;  ///< 1 when the reader met an oral question
 
  private:

@@ -5,10 +5,13 @@
 
 namespace quorvantis {
 
+class ClassRegistry;
 class CodePage;
 class DebugOutput;
 class Files;
+class IdSource;
 class LongAnswerFlags;
+class PageStore;
 class Progress;
 class StringTable;
 class UserDialogs;
@@ -23,6 +26,9 @@ struct ExamServices {
   Files& files;
   Progress& progress;
   LongAnswerFlags& longAnswerFlags;
+  IdSource& ids;
+  const ClassRegistry& classes;
+  PageStore& pages;
 };
 
 }  // namespace quorvantis

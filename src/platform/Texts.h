@@ -11,7 +11,10 @@ constexpr int kWindowTitle = 107;         // "Quorvantis - %s"
 constexpr int kRandomOptions = 108;       // "Random(option)"
 constexpr int kRandomSequence = 109;      // "Random(sequence)"
 constexpr int kRandom = 110;
+constexpr int kScoreDistribution = 114;
 constexpr int kQuestion = 115;
+constexpr int kScore = 116;
+constexpr int kSameScores = 117;  // "Each question has the same scores"
 constexpr int kTitle = 119;
 constexpr int kEditArea = 120;
 constexpr int kChoice = 121;
@@ -34,7 +37,13 @@ constexpr int kPreview = 137;
 constexpr int kScoreSettings = 138;
 constexpr int kPrint = 139;
 constexpr int kListSeparatorTip = 140;
-constexpr int kOralOff = 172;  // caption of the oral toggle while the flag is 0
+constexpr int kFinishExam = 141;
+constexpr int kYourScoreIs = 144;
+constexpr int kCorrectAnswerIs = 145;
+constexpr int kYourAnswerIs = 146;
+constexpr int kOralSubject = 147;
+constexpr int kOralByTeacher = 148;  // shown where a page has no recorder
+constexpr int kOralOff = 172;        // caption of the oral toggle while the flag is 0
 constexpr int kOralOn = 173;
 
 // Texts of our own.

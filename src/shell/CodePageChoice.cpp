@@ -5,12 +5,14 @@
 #include "text/Utf.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvantis {
 namespace {
 
-/// Windows' number of UTF-8 has no "CP" name.
-constexpr std::string_view kUtf8Number = "65001";
+/// Windows' numbers of code pages that have another name than "CP" and the number.
+constexpr std::pair<std::string_view, std::string_view> kNamedNumbers[] = {
+    {"20866", "KOI8-R"}, {"21866", "KOI8-U"}, {"54936", "GB18030"}, {"65001", "UTF-8"}};
 
 std::string OfLanguage(int languageId) {
   switch (languageId) {
@@ -30,7 +32,9 @@ std::string OfLanguage(int languageId) {
 }
 
 std::string Named(const std::string& choice) {
-  if (choice == kUtf8Number) return "UTF-8";
+  for (const auto& [number, name] : kNamedNumbers) {
+    if (choice == number) return std::string(name);
+  }
   const bool number = std::ranges::all_of(choice, [](char c) { return c >= '0' && c <= '9'; });
   return number ? "CP" + choice : choice;
 }

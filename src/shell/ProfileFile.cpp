@@ -11,6 +11,21 @@ namespace {
 
 constexpr std::size_t kMaxBytes = std::size_t{1024} * 1024;
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+
+std::u16string Decode(std::string_view bytes) {
+  if (bytes.starts_with(kUtf16Mark)) {
+    std::u16string text;
+    for (std::size_t i = kUtf16Mark.size(); i + 1 < bytes.size(); i += 2) {
+      const auto low = static_cast<unsigned char>(bytes[i]);
+      const auto high = static_cast<unsigned char>(bytes[i + 1]);
+      text.push_back(static_cast<char16_t>(low | (high << 8)));
+    }
+    return text;
+  }
+  if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
+  return Utf8ToUtf16(bytes);
+}
 
 std::u16string_view Trim(std::u16string_view text) {
   constexpr std::u16string_view kBlanks = u" \t";
@@ -46,9 +61,7 @@ ProfileFile::ProfileFile(const std::filesystem::path& file) {
   std::ifstream in(file, std::ios::binary);
   std::string bytes(kMaxBytes, '\0');
   in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  std::string_view content(bytes.data(), static_cast<std::size_t>(in.gcount()));
-  if (content.starts_with(kUtf8Mark)) content.remove_prefix(kUtf8Mark.size());
-  content_ = Utf8ToUtf16(content);
+  content_ = Decode(std::string_view(bytes).substr(0, static_cast<std::size_t>(in.gcount())));
 }
 
 std::optional<std::u16string> ProfileFile::Value(std::u16string_view section, std::u16string_view key) const {

@@ -12,7 +12,7 @@ namespace quorvantis {
 /// regard to the case of ASCII letters; lines that begin with ";" are comments.
 class ProfileFile {
  public:
-  /// Reads `file`, UTF-8 with or without a mark. A missing or unreadable one has no values; of a large one
+  /// Reads `file`, UTF-8 with or without a mark or UTF-16LE with one. A missing or unreadable one has no values; of a large one
   /// only the first megabyte counts.
   explicit ProfileFile(const std::filesystem::path& file);
 

@@ -40,6 +40,13 @@ std::string NumberCharacters(std::u16string_view text) {
   return characters;
 }
 
+/// Whether a decimal number that no double can hold is too small for it; too large otherwise.
+bool IsTiny(std::string_view number) {
+  const std::size_t exponent = number.find_first_of("eE");
+  if (exponent != std::string_view::npos) return number[exponent + 1] == '-';
+  return number.find('.') < number.find_first_of("123456789");
+}
+
 }  // namespace
 
 std::int64_t ParseInteger64(std::u16string_view text) {
@@ -66,8 +73,7 @@ double ParseReal(std::u16string_view text) {
   if (characters.empty() || characters[0] == '+' || characters[0] == '-') return 0;
   const auto result = std::from_chars(characters.data(), characters.data() + characters.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
-    const bool tiny =
-        characters.find_first_of("eE") != std::string::npos && characters.find('-') != std::string::npos;
+    const bool tiny = IsTiny(std::string_view(characters.data(), result.ptr));
     value = tiny ? 0 : std::numeric_limits<double>::infinity();
   }
   return negative ? -value : value;

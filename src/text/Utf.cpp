@@ -15,12 +15,25 @@ char32_t TakeCodePoint(std::u16string_view text, std::size_t& index) {
   return 0x10000 + ((static_cast<char32_t>(unit) - 0xD800) << 10) + (text[index++] - 0xDC00u);
 }
 
+/// Appends the ASCII characters at the front of `text`, which most texts consist of, and gives their number.
+template <class Result>
+std::size_t AppendAscii(Result& result, std::u16string_view text) {
+  std::size_t length = 0;
+  while (length < text.size() && text[length] < 0x80) ++length;
+  const std::size_t end = result.size();
+  result.resize(end + length);
+  for (std::size_t i = 0; i < length; ++i) result[end + i] = static_cast<typename Result::value_type>(text[i]);
+  return length;
+}
+
 /// `text` code point by code point as UTF-8 or UTF-16, lone surrogates replaced.
 template <class Result>
 Result Recode(std::u16string_view text) {
   Result result;
   result.reserve(text.size());
   for (std::size_t i = 0; i < text.size();) {
+    i += AppendAscii(result, text.substr(i));
+    if (i == text.size()) break;
     const char32_t codePoint = TakeCodePoint(text, i);
     AppendCodePoint(result, IsSurrogate(codePoint) ? kReplacementCharacter : codePoint);
   }

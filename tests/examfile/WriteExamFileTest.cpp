@@ -148,7 +148,9 @@ TEST_F(WriteExamFile, LeavesTheOldFileWhenTheDiskIsFull) {
 }
 
 TEST_F(WriteExamFile, SaysWhereItCannotWrite) {
-  std::filesystem::permissions(folder.Path(), std::filesystem::perms(0755));
+  std::error_code ignored;
+  std::filesystem::permissions(folder / "beside/victim", std::filesystem::perms(0444));
+  std::filesystem::permissions(folder.Path(), std::filesystem::perms(0555));
   const OrdinaryUser user;
   for (const auto& path :
        {target, application, folder / "beside/victim", folder / "no such folder" / "x.exm"}) {
@@ -156,6 +158,7 @@ TEST_F(WriteExamFile, SaysWhereItCannotWrite) {
     EXPECT_FALSE(exam.WriteExamFile(path)) << path;
     EXPECT_EQ(world.dialogs.errors, Messages{u"[102 " + PathToText(path) + u"]"});
   }
+  std::filesystem::permissions(folder.Path(), std::filesystem::perms(0755), ignored);
 }
 
 }  // namespace

@@ -26,6 +26,8 @@ TEST(ProfileFile, FindsValuesTheWayPeopleWriteThem) {
   check("[section]\nkey=\"half'", u"\"half'");
   check("[section]\nkey=\"", u"\"");
   check("[section]\nkey=\xC3\xA9\xFF", u"\u00E9\uFFFD");
+  constexpr char kWide[] = "\xFF\xFE[\0s\0e\0c\0t\0i\0o\0n\0]\0\n\0k\0e\0y\0=\0\x60\x4F";
+  check(std::string_view(kWide, sizeof kWide - 1), u"\u4F60");
   EXPECT_EQ(ProfileFile(folder.Path()).Value(u"section", u"key"), std::nullopt);
 }
 
@@ -44,6 +46,7 @@ TEST(ChooseCodePage, TakesTheSettingOrTheOneOfTheLanguage) {
   check("", 0, "CP1252");
   check("[private]\nCodePage=936", kEnglish, "CP936");
   check("[private]\nCodePage=65001", 0x0804, "UTF-8");
+  check("[private]\nCodePage=54936", 0x0804, "GB18030");
   check("[Private]\ncodepage=KOI8-R", 0x0804, "KOI8-R");
 }
 

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "model/LongAnswerFlags.h"
+#include "platform/ClassRegistry.h"
 #include "platform/CodePage.h"
 #include "platform/DebugOutput.h"
 #include "platform/ExamServices.h"
 #include "platform/Files.h"
+#include "platform/IdSource.h"
+#include "platform/PageStore.h"
 #include "platform/Progress.h"
 #include "platform/StringTable.h"
 #include "platform/UserDialogs.h"
@@ -88,6 +91,38 @@ class IgnoredProgress : public Progress {
   void Report(std::uint64_t, std::uint64_t) override {}
 };
 
+/// "{00000001-…}", "{00000002-…}" and so on.
+class CountingIds : public IdSource {
+ public:
+  std::u16string NewId() override {
+    std::string digits = std::to_string(++count_);
+    digits.insert(0, 8 - digits.size(), '0');
+    return u"{" + std::u16string(digits.begin(), digits.end()) + u"-0000-0000-0000-000000000000}";
+  }
+
+ private:
+  int count_ = 0;
+};
+
+/// One server for every class, or none.
+class OneServer : public ClassRegistry {
+ public:
+  std::optional<std::filesystem::path> server;
+  mutable std::u16string askedFor;
+  std::optional<std::filesystem::path> InprocServer(std::u16string_view classId) const override {
+    askedFor = classId;
+    return server;
+  }
+};
+
+/// The pages by the paths that they were written to.
+class KeptPages : public PageStore {
+ public:
+  std::map<std::filesystem::path, std::u16string> pages;
+  void Add(const std::filesystem::path& file, std::u16string text) override { pages[file] = std::move(text); }
+  void Clear() override { pages.clear(); }
+};
+
 /// Everything a document needs, with real files below `applicationFolder`.
 struct RecordingWorld {
   RecordingWorld(std::filesystem::path applicationFolder, Files& files)
@@ -98,7 +133,10 @@ struct RecordingWorld {
                  debug,
                  files,
                  progress,
-                 longAnswerFlags} {}
+                 longAnswerFlags,
+                 ids,
+                 classes,
+                 pages} {}
 
   NumberStrings strings;
   RecordingDialogs dialogs;
@@ -106,6 +144,9 @@ struct RecordingWorld {
   RecordingDebug debug;
   IgnoredProgress progress;
   LongAnswerFlags longAnswerFlags;
+  CountingIds ids;
+  OneServer classes;
+  KeptPages pages;
   ExamServices services;
 };
 

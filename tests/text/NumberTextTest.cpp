@@ -19,8 +19,8 @@ void ExpectAll(Parse parse, std::initializer_list<std::u16string_view> texts, Va
 
 TEST(ParseInteger, FollowsAtoiAndStopsAtTheLimits) {
   ExpectAll(ParseInteger, {u"", u"-", u"- 5", u"+-5", u"--5", u"x1", u"0x10", u"nan", u".5"}, 0);
-  ExpectAll(ParseInteger, {u"\u00A05", u"\uFF15", u"\u0665", u"\x0135"},
-            0);  // blanks and digits of other scripts
+  // Blanks and digits of other scripts, and a unit whose low byte is a digit.
+  ExpectAll(ParseInteger, {u"\u00A05", u"\uFF15", u"\u0665", u"\x0135"}, 0);
   ExpectAll(ParseInteger,
             {u"12", u" \t\n\v\f\r12", u"+12", u"0012", u"12abc", u"12 3", u"12\0003"sv, u"12e3"}, 12);
   ExpectAll(ParseInteger, {u"-12", u" -12.9", u"-12\uFF10"}, -12);
@@ -40,6 +40,8 @@ TEST(ParseReal, FollowsAtofForDecimalTextOnly) {
   ExpectAll(ParseReal, {u"-1", u"-1,5", u"-1.", u"-1\uFF0E5"}, -1);
   EXPECT_EQ(ParseReal(u"1e999"), kInfinity);
   EXPECT_EQ(ParseReal(u"-1e999"), -kInfinity);
+  EXPECT_EQ(ParseReal(u"1e999-5"), kInfinity);
+  EXPECT_EQ(ParseReal(u"0." + std::u16string(400, u'0') + u"1"), 0);
 }
 
 TEST(FormatScore, HasTwoDecimalsOfTheWidenedValue) {

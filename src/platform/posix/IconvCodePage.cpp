@@ -43,12 +43,14 @@ std::u16string IconvCodePage::Decode(std::string_view bytes) const {
   std::string input(bytes);
   char* next = input.data();
   std::size_t left = input.size();
-  std::u16string text(2 * input.size() + 1, u'\0');  // no code page needs more units for a byte
+  std::u16string text(2 * input.size() + 2, u'\0');  // no code page needs more units for a byte
   char* output = reinterpret_cast<char*>(text.data());
   std::size_t room = text.size() * sizeof(char16_t);
   while (left > 0) {
-    if (::iconv(converter_->handle, &next, &left, &output, &room) != static_cast<std::size_t>(-1)) break;
-    if (room < sizeof(char16_t)) break;
+    const bool whole = ::iconv(converter_->handle, &next, &left, &output, &room) != static_cast<std::size_t>(-1);
+    // Some code pages hold a letter back in case an accent follows.
+    ::iconv(converter_->handle, nullptr, nullptr, &output, &room);
+    if (whole || room < sizeof(char16_t)) break;
     // Malformed here, or cut off at the end: one byte is given up.
     const char16_t replacement = kReplacementCharacter;
     output = std::copy_n(reinterpret_cast<const char*>(&replacement), sizeof replacement, output);

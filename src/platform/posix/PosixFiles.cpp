@@ -154,12 +154,17 @@ class OverwrittenFile : public PosixPendingFile {
   }
 };
 
-/// Where the links that start at `path` end; the last name need not exist.
+bool IsLink(const fs::path& path) {
+  std::error_code ignored;
+  return fs::is_symlink(fs::symlink_status(path, ignored));
+}
+
+/// Where the links that start at `path` end; the last name need not exist. Links in a circle end at one of them.
 fs::path FollowLinks(fs::path path) {
   constexpr int kMaxLinks = 40;
-  std::error_code error;
-  for (int i = 0; i < kMaxLinks && fs::is_symlink(fs::symlink_status(path, error)); ++i) {
-    path = path.parent_path() / fs::read_symlink(path, error);
+  std::error_code ignored;
+  for (int i = 0; i < kMaxLinks && IsLink(path); ++i) {
+    path = path.parent_path() / fs::read_symlink(path, ignored);
   }
   return path;
 }
@@ -179,6 +184,10 @@ std::unique_ptr<PendingFile> PosixFiles::Replace(const fs::path& target, std::er
   if (exists && !S_ISREG(old.st_mode)) {
     error =
         std::make_error_code(S_ISDIR(old.st_mode) ? std::errc::is_a_directory : std::errc::invalid_argument);
+    return nullptr;
+  }
+  if (IsLink(path)) {
+    error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
     return nullptr;
   }
   if (exists && ::access(path.c_str(), W_OK) != 0) {  // a rename would pass over a read-only file

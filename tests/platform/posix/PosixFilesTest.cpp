@@ -68,6 +68,7 @@ TEST_F(ReplaceTest, RefusesWhatIsNoFileOrNotWritable) {
   fs::create_directory(folder / "a folder");
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
   const fs::path readOnly = WriteBytes(folder / "read-only", "old");
+  fs::permissions(readOnly, fs::perms(0444));
   const OrdinaryUser user;
   for (const char* name : {"a folder", "pipe", "read-only", "no/such/folder", "read-only/below"}) {
     EXPECT_FALSE(Replace(folder / name, "content")) << name;

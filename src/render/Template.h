@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace quorvantis {
+
+/// A value that goes into a page; a text goes in as it is, nothing is escaped.
+using TemplateValue = std::variant<int, float, char16_t, std::u16string_view>;
+
+/// What stands in a template for something else, and for what: a kind of value (an index of TemplateValue),
+/// or the one character `escape`.
+struct TemplateMark {
+  std::u16string_view text;
+  std::optional<std::size_t> value;
+  char16_t escape;
+};
+
+inline constexpr TemplateMark kTemplateMarks[] = {
+    {u"%d", 0, u'\0'},
+    {u"%03d", 0, u'\0'},
+    {u"%1.2f", 1, u'\0'},
+    {u"%c", 2, u'\0'},
+    {u"%s", 3, u'\0'},
+    {u"%%", std::nullopt, u'%'},
+    {uR"(\r)", std::nullopt, u'\r'},
+    {uR"(\n)", std::nullopt, u'\n'},
+    {uR"(\t)", std::nullopt, u'\t'},
+    {uR"(\\)", std::nullopt, u'\\'},
+};
+
+/// The mark at the front of `rest`, or one without text. By value: gcc does not take comparisons with null
+/// pointers for constant when it also builds sanitizers in.
+constexpr TemplateMark TemplateMarkAt(std::u16string_view rest) {
+  for (const TemplateMark& mark : kTemplateMarks) {
+    if (rest.starts_with(mark.text)) return mark;
+  }
+  return {};
+}
+
+/// The first place in `text` where a mark can stand.
+constexpr std::size_t FindTemplateMark(std::u16string_view text) {
+  // Faster than find_first_of, which calls a search of its own for every character of a page.
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == u'%' || text[i] == u'\\') return i;
+  }
+  return std::u16string_view::npos;
+}
+
+std::u16string FillTemplate(std::u16string_view text, std::span<const TemplateValue> values);
+
+/// A piece of a page with places for values. Templates are written as raw literals, so that each can be
+/// compared with the page character by character: "\r", "\n", "\t" and "\\" in them are what they are in
+/// other literals, and "%d",
+/// "%03d", "%1.2f", "%c", "%s" are the places. That these fit the types of the values is proved when
+/// compiling.
+template <class... Values>
+class Template {
+ public:
+  consteval explicit Template(std::u16string_view text) : text_(text) {
+    constexpr std::array<std::size_t, sizeof...(Values)> kKinds{TemplateValue(Values{}).index()...};
+    std::size_t filled = 0;
+    for (std::size_t at; (at = FindTemplateMark(text)) != std::u16string_view::npos;) {
+      const TemplateMark mark = TemplateMarkAt(text.substr(at));
+      if (mark.text.empty()) throw "a template has \"%\" or \"\\\" without meaning";
+      if (mark.value) {
+        if (filled == kKinds.size() || kKinds[filled] != *mark.value) throw "a place does not fit its value";
+        ++filled;
+      }
+      text.remove_prefix(at + mark.text.size());
+    }
+    if (filled != kKinds.size()) throw "a value has no place";
+  }
+
+  std::u16string operator()(Values... values) const {
+    return FillTemplate(text_, std::array<TemplateValue, sizeof...(Values)>{TemplateValue(values)...});
+  }
+
+ private:
+  std::u16string_view text_;
+};
+
+/// A text as a value of a template.
+using Text = std::u16string_view;
+
+}  // namespace quorvantis

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+// preview and print.
+#include "CommandLineTest.h"
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class PageCommands : public CommandLineTest {
+ protected:
+  /// Builds exam.exm: a choice, a fill-in and an oral question, and the given files of the exam.
+  void BuildExam(const std::vector<std::string>& names = {}) {
+    Json exam = Json::parse(R"({"title": "Title", "questions": [
+      {"kind": "Choice", "text": "One", "options": ["a", "b"], "answerLetters": "b"},
+      {"kind": "FillIn", "text": "Two", "answerText": "x<@>y"},
+      {"kind": "Oral", "text": "Three"}]})");
+    for (const std::string& name : names) {
+      WriteBytes(folder / name, "content");
+      exam["attachments"].push_back({{"path", name}});
+    }
+    const RunResult built = Build(exam);
+    ASSERT_EQ(built.status, 0) << built.err;
+  }
+
+  void Succeeds(const std::vector<std::string>& arguments) {
+    const RunResult run = Command(arguments);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out + run.err, "");
+  }
+
+  std::string Bytes(const char* file) const {
+    EXPECT_TRUE(fs::exists(folder / file)) << file;
+    return ReadBytes(folder / file);
+  }
+
+  /// The characters of a page written as UTF-16.
+  std::string Halved(const char* file) const {
+    std::string text = Bytes(file);
+    std::erase(text, '\0');
+    return text;
+  }
+};
+
+bool Has(const std::string& page, const std::string& part) {
+  return page.find(part) != std::string::npos;
+}
+
+TEST_F(PageCommands, PreviewWritesTheEditorsPages) {
+  BuildExam();
+  Succeeds({"preview", Path("exam.exm"), Path("app/new")});
+  const std::string page = Bytes("app/new/TEMP/ExamPreview/SEE.htm");
+  EXPECT_TRUE(Has(page, "Each question has the same scores"));
+  EXPECT_TRUE(Has(page, "Correct answer is : x , y"));
+  EXPECT_TRUE(Has(page, "(Oral subject)"));
+  EXPECT_TRUE(Has(page, "value=\"Finish Exam\""));
+  EXPECT_FALSE(fs::exists(folder / "app/new/TEMP/ExamPreview/SEE1.htm"));
+}
+
+TEST_F(PageCommands, PreviewShowsTheFilesOfTheExam) {
+  BuildExam({"a.doc", "b.gif"});
+  Succeeds({"preview", Path("exam.exm"), Path("app")});
+  EXPECT_TRUE(Has(Bytes("app/TEMP/ExamPreview/SEE.htm"), "<FRAME SRC=\"SEE1.htm\"  NOSIZE>"));
+  EXPECT_TRUE(Has(Bytes("app/TEMP/ExamPreview/SEE2.htm"), "<FRAME  SRC=\"~tt/a.doc\">"));
+  EXPECT_TRUE(Has(Bytes("app/TEMP/ExamPreview/SEE2.htm"), Path("app/TEMP/ExamPreview/SEE2_2.htm")));
+  EXPECT_EQ(Bytes("app/TEMP/ExamPreview/~tt/b.gif"), "content");
+}
+
+TEST_F(PageCommands, PreviewOfAStudentShowsTheResponses) {
+  BuildExam({"a.gif"});
+  WriteBytes(folder / "responses.json", R"({"resultScore": 7.5, "resultPageOption": 0,
+    "responses": [{"number": 1, "text": "ab", "value": 0}, {"number": 2, "text": "x", "value": 1}]})");
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.Path());
+  Succeeds({"preview", "exam.exm", "app", "--student", "007", "--responses", "responses.json"});
+  EXPECT_EQ(fs::current_path(), folder.Path());
+  fs::current_path(before);
+  const char* const page = "app/~BrelmStudent/ID7/SEE1.htm";
+  EXPECT_TRUE(Has(Halved(page), "Your score is <font color=\"blue\">7.50</font>"));
+  EXPECT_TRUE(
+      Has(Halved(page), "<label id=Subject1><font color=ffffff>1.</font></label><br><font color=ff0000>X"));
+  EXPECT_TRUE(Has(Bytes("app/~BrelmStudent/ID7/SEE2.htm"), "src=\"~Br~BrelmStudent/ID7/~tt/a.gif\""));
+  EXPECT_EQ(Bytes("app/~BrelmStudent/ID7/~tt/a.gif"), "content");
+}
+
+TEST_F(PageCommands, PrintDependsOnAnEarlierPreview) {
+  BuildExam({"a.gif"});
+  Succeeds({"print", Path("exam.exm"), Path("app")});
+  EXPECT_TRUE(Halved("app/exam_Print.htm").starts_with("<HTML>\r\n<HEAD>\r\n<TITLE></TITLE>"));
+  EXPECT_TRUE(Has(Halved("app/exam_Print.htm"), "<center>Title</center>"));
+  const auto withoutRecorder = fs::file_size(folder / "app/exam_Print.htm");
+  Succeeds({"print", Path("exam.exm"), Path("app"), "--after-preview"});
+  EXPECT_GT(fs::file_size(folder / "app/exam_Print.htm"), withoutRecorder + 500);
+  EXPECT_TRUE(fs::exists(folder / "app/TEMP/ExamPreview/SEE2.htm"));
+}
+
+TEST_F(PageCommands, FailWithAReason) {
+  BuildExam();
+  const std::string exam = Path("exam.exm");
+  ExpectFailure(Command({"preview", Path("absent.exm"), Path("app")}), "There is no such file");
+  ExpectFailure(Command({"print", exam, exam}), "cannot be used as the application folder");
+  WriteBytes(folder / "file/~BrelmStudent", "");
+  ExpectFailure(Command({"preview", exam, Path("file"), "--student", "1"}), "cannot be made as a folder");
+  fs::create_directories(folder / "taken/exam_Print.htm");
+  ExpectFailure(Command({"print", exam, Path("taken")}), "exam_Print.htm: cannot be written");
+  const auto check = [&](const char* responses, const char* reason) {
+    WriteBytes(folder / "responses.json", responses);
+    const RunResult run =
+        Command({"preview", exam, Path("app"), "--student", "1", "--responses", Path("responses.json")});
+    ExpectFailure(run, reason);
+    EXPECT_TRUE(Has(run.err, "responses.json")) << run.err;
+  };
+  check("{", "is not valid JSON");
+  check("[]", "must be an object");
+  check(R"({"responses": {}})", "responses must be a list");
+  check(R"({"responses": [{"text": "a"}]})", "responses[0] must have a number from 1 to 500");
+  check(R"({"responses": [{"number": 501}]})", "responses[0] must have a number from 1 to 500");
+  check(R"({"responses": [{"number": 1, "value": "1"}]})", "responses[0].value must be a whole number");
+  check(R"({"resultScore": []})", "resultScore must be a number");
+}
+
+}  // namespace
+}  // namespace quorvantis::test

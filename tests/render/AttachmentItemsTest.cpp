@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "RenderTest.h"
+#include "render/AttachmentItems.h"
+#include "render/AttachmentPath.h"
+#include "render/MediaPlayerScript.h"
+
+namespace quorvantis::test {
+namespace {
+
+TEST(AttachmentPath, GivesTheSourceOfAPage) {
+  const struct {
+    std::u16string_view path;
+    std::u16string_view source;
+    std::u16string_view playerSource;
+  } rows[] = {
+      {u"/ho/home/a.jpg", u"/home/a.jpg", u"/home/a.jpg"},
+      {u"/ap/app/TEMP/~tt/a.jpg", u"~tt/a.jpg", u"/app/TEMP/~tt/a.jpg"},
+      {u"~Br~BrelmStudent/ID7/~tt/a.jpg", u"~Br~BrelmStudent/ID7/~tt/a.jpg", u"~BrelmStudent/ID7/~tt/a.jpg"},
+      {u"/app/~BrelmStudent/~Ans/ID7/3.wmv", u"~BrelmStudent/~Ans/ID7/3.wmv", u"~Ans/ID7/3.wmv"},
+      {u"abc", u"", u""},
+      {u"a", u"", u""},
+      {u"", u"", u""},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(RelativeSource(row.path), row.source);
+    EXPECT_EQ(PlayerSource(row.path), row.playerSource);
+  }
+}
+
+TEST(AttachmentPath, TakesTheExtensionFromTheWholePath) {
+  const struct {
+    std::u16string_view path;
+    std::u16string_view orPath;
+    std::u16string_view orNothing;
+  } rows[] = {
+      {u"/a/B.JPG", u"jpg", u"jpg"}, {u"/a/b.", u"", u""},  {u"/a.d/File", u"d/file", u"d/file"},
+      {u"/A/file", u"/a/file", u""}, {u"Doc", u"doc", u""}, {u"/a/.txt", u"txt", u"txt"},
+      {u"a.tar.gz", u"gz", u"gz"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(ExtensionOrPath(row.path), row.orPath);
+    EXPECT_EQ(ExtensionOrNothing(row.path), row.orNothing);
+  }
+}
+
+class AttachmentItemsTest : public RenderTest {
+ protected:
+  std::u16string Item(std::u16string_view path, int oralFlag = 0) {
+    return AttachmentItem(world.services, path, oralFlag);
+  }
+};
+
+TEST_F(AttachmentItemsTest, ShowsAFileByItsExtension) {
+  const std::u16string image = u"<img src=\"~/$\" ></img><br>";
+  const std::u16string document = u"<iframe width=690 height=350 src=\"~/$\" ></iframe><br>";
+  const std::u16string flash =
+      u"<div align=\"Left\">\r\n<embed src=\"~/$\" width=\"650\" height=\"400\">\r\n</div><br>\r\n";
+  const std::u16string player = u"<div id=";
+  const struct {
+    std::u16string name;
+    std::u16string item;
+  } rows[] = {
+      {u"scan.JPG", image},    {u"a.jpeg", image},    {u"a.pe", image},       {u"a.m", image},
+      {u"noextension", image},  // an empty extension is found in any list, in the first one first
+      {u"a.", image},          {u"a.wav", player},    {u"a.mp", image},       {u"a.wm", player},
+      {u"a.DAT", player},      {u"a.docx", document}, {u"a.x", document},     {u"a.xls", document},
+      {u"clip.swf", flash},    {u"a.sw", flash},      {u"notes.rtf", player}, {u"a.png", player},
+      {u"a.b/c", player},
+  };
+  for (const auto& row : rows) {
+    std::u16string expected = row.item;
+    if (const auto at = expected.find(u'$'); at != std::u16string::npos) expected.replace(at, 1, row.name);
+    EXPECT_TRUE(Item(u"/pre/fix~/" + row.name).starts_with(expected)) << Utf16ToUtf8(row.name);
+  }
+}
+
+TEST_F(AttachmentItemsTest, WritesThePlayerOfEverySystem) {
+  ExpectGolden("player.htm", Utf16ToUtf8(Item(u"/ho/home/back\\slash.avi")));
+}
+
+TEST_F(AttachmentItemsTest, WritesTheInstalledPlayer) {
+  world.classes.server = WriteBytes(folder / "player.ocx", "");
+  ExpectGolden("installed-player.htm",
+               Utf16ToUtf8(MediaPlayerScript(world.services, u"/home/film.avi", 1, true)));
+  EXPECT_EQ(world.classes.askedFor, u"{0133388C-C3F2-498D-BEB2-F121744ACE38}");
+  const struct {
+    std::u16string_view path;
+    int oralFlag;
+    bool mute;
+  } rows[] = {
+      {u"/ho/home/film.AVI", 1, true},  {u"/ho/home/film.avi", 0, false},  {u"/ho/home/film.avi", 2, false},
+      {u"/ho/home/film.mpg", 1, false}, {u"/ho/home/sound.wav", 1, false}, {u"/ho/home/x.rtf", 1, false},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(Item(row.path, row.oralFlag).find(u"enableAudio") != std::u16string::npos, row.mute);
+  }
+  EXPECT_NE(MediaItem(world.services, u"abc.swf", 0, 1).find(u"enableAudio"), std::u16string::npos);
+  world.classes.server = folder / "uninstalled.ocx";
+  EXPECT_EQ(Item(u"a.avi").find(u"Morvell"), std::u16string::npos);
+}
+
+TEST_F(AttachmentItemsTest, GiveEachPlayerAnElementOfItsOwn) {
+  EXPECT_TRUE(Item(u"a.wav").starts_with(u"<div id=\"{00000001-"));
+  EXPECT_TRUE(Item(u"a.wav").starts_with(u"<div id=\"{00000002-"));
+}
+
+}  // namespace
+}  // namespace quorvantis::test

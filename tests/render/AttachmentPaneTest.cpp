@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+#include "RenderTest.h"
+#include "render/AttachmentPane.h"
+
+namespace quorvantis::test {
+namespace {
+
+const std::string kHead =
+    "<HTML>\r\n<HEAD>\r\n<meta http-equiv=\"content-type\" content=\"text/html; charset=UTF-8\">\r\n"
+    "<TITLE></TITLE>\r\n</HEAD>\r\n";
+const std::string kEnd = "</HTML>\r\n";
+
+std::string Image(const std::string& source) {
+  return "<img src=\"" + source + "\" ></img><br>";
+}
+std::string Frame(const std::string& source) {
+  return "<FRAME  SRC=\"" + source + "\">\r\n";
+}
+
+class AttachmentPaneTest : public RenderTest {
+ protected:
+  /// The pane for files below "/f/", between its head and its end.
+  std::string Pane(const std::vector<std::u16string>& names) {
+    exam.examAttachmentPaths.fill({});
+    Attach(names);
+    for (std::size_t i = 0; i < names.size(); ++i) exam.examAttachmentPaths[i].insert(0, u"/pr/f/");
+    AttachmentPane(exam).WriteAttachmentPane(pages / "SEE2.htm");
+    const std::string page = Page(pages / "SEE2.htm");
+    EXPECT_TRUE(page.starts_with(kHead) && page.ends_with(kEnd));
+    return page.substr(kHead.size(), page.size() - kHead.size() - kEnd.size());
+  }
+  std::string Group(int frame) const { return (pages / ("SEE2_" + std::to_string(frame) + ".htm")).string(); }
+};
+
+TEST_F(AttachmentPaneTest, DistributesFilesOverFrames) {
+  const struct {
+    std::vector<std::u16string> names;
+    int frames;
+    std::vector<int> types;
+    std::vector<int> kinds;
+  } rows[] = {
+      {{}, 0, {}, {}},
+      {{u"a.jpg", u"b.wav"}, 0, {1, 1}, {}},
+      {{u"a.DOC"}, 1, {1}, {1}},
+      {{u"x.doc", u"y.docx", u"z.txt"}, 3, {1, 2, 3}, {1, 1, 1}},
+      {{u"x.doc", u"p.jpg"}, 2, {1, 2}, {1, 2}},
+      {{u"movie.avi", u"notes.doc"}, 2, {1, 2}, {2, 1}},
+      {{u"p.jpg", u"x.doc", u"q.swf", u"r.mp3", u"y.xls"}, 4, {1, 2, 3, 3, 4}, {2, 1, 2, 1}},
+      {{u"x.rtf", u"y.doc", u"z.png"}, 1, {0, 1, 0}, {1}},
+      {{u"p.jp", u"p.peg", u"doc", u"x.doc"}, 1, {0, 0, 0, 1}, {1}},  // whole words only
+  };
+  exam.attachmentPageWriter.SetMediaSuppressed(0);
+  for (const auto& row : rows) {
+    exam.Reset();
+    Attach(row.names);
+    if (row.names.size() > 2 && row.names[2] == u"doc") exam.examAttachmentPaths[2] = u"a/doc";
+    EXPECT_EQ(AttachmentPane(exam).CountFrames(), row.frames);
+    for (std::size_t i = 0; i < row.types.size(); ++i)
+      EXPECT_EQ(exam.examAttachmentTypes[i], row.types[i]) << i;
+    for (std::size_t i = 0; i < row.kinds.size(); ++i) {
+      EXPECT_EQ(exam.attachmentPageWriter.frameKinds[i], row.kinds[i]) << i;
+    }
+  }
+}
+
+TEST_F(AttachmentPaneTest, TakesAPathWithoutADotForItsExtension) {
+  Attach({u"doc"});
+  EXPECT_EQ(AttachmentPane(exam).CountFrames(), 1);
+}
+
+TEST_F(AttachmentPaneTest, StopsAfterTheTenthFile) {
+  exam.examAttachmentPaths.fill(u"a.doc");
+  EXPECT_EQ(AttachmentPane(exam).CountFrames(), 10);
+}
+
+TEST_F(AttachmentPaneTest, LeavesSuppressedMediaOut) {
+  EXPECT_EQ(Pane({u"a.wav", u"b.gif", u"c.avi"}), "<BODY>\r\n" + Image("/f/b.gif") + "</BODY>\r\n");
+  exam.examAttachmentTypes[0] = 1;  // from an earlier preview
+  EXPECT_EQ(Pane({u"a.wav", u"b.gif"}), "<BODY>\r\n" + Image("/f/b.gif") + "</BODY>\r\n");
+  exam.attachmentPageWriter.SetMediaSuppressed(0);
+  EXPECT_NE(Pane({u"a.wav", u"b.gif"}).find("</script>\r\n" + Image("/f/b.gif")), std::string::npos);
+}
+
+TEST_F(AttachmentPaneTest, DividesTheHeightInWholePercent) {
+  EXPECT_EQ(Pane({u"x.doc", u"y.doc", u"z.doc"}), "<FRAMESET  ROWS=\"33%,33%,34%\">\r\n" + Frame("/f/x.doc") +
+                                                      Frame("/f/y.doc") + Frame("/f/z.doc") +
+                                                      "</FRAMESET>\r\n");
+  const std::vector<std::u16string> seven(7, u"x.doc");
+  EXPECT_TRUE(Pane(seven).starts_with("<FRAMESET  ROWS=\"14%,14%,14%,14%,14%,14%,16%\">\r\n"));
+}
+
+TEST_F(AttachmentPaneTest, ShowsTheFirstFileThatIsNoMediaInASingleFrame) {
+  EXPECT_EQ(Pane({u"a.doc"}), "<FRAMESET ROWS=\"*\">\r\n" + Frame("/f/a.doc") + "</FRAMESET>\r\n");
+  EXPECT_EQ(Pane({u"a.wav", u"x.rtf", u"y.doc"}),
+            "<FRAMESET ROWS=\"*\">\r\n" + Frame("/f/x.rtf") + "</FRAMESET>\r\n");
+}
+
+TEST_F(AttachmentPaneTest, WritesAPageForEachGroup) {
+  EXPECT_EQ(Pane({u"a.jpg", u"x.doc", u"b.gif", u"c.swf"}), "<FRAMESET  ROWS=\"33%,33%,34%\">\r\n" +
+                                                                Frame(Group(1)) + Frame("/f/x.doc") +
+                                                                Frame(Group(3)) + "</FRAMESET>\r\n");
+  const std::string page = Page(Group(3));
+  EXPECT_TRUE(page.starts_with("<HTML>\r\n<HEAD>\r\n<TITLE></TITLE>\r\n</HEAD>\r\n<BODY>\r\n" +
+                               Image("/f/b.gif") + "<div align=\"Left\">\r\n<embed src=\"/f/c.swf\""));
+  EXPECT_TRUE(page.ends_with("</BODY>\r\n</HTML>\r\n"));
+  EXPECT_EQ(fs::file_size(Group(3)), page.size() + 1);
+  EXPECT_EQ(exam.attachmentPageWriter.locationMode, 1);
+}
+
+/// A file of no class keeps the frame number that a file had in its place.
+TEST_F(AttachmentPaneTest, KeepsOldFrameNumbers) {
+  Pane({u"x.doc", u"y.doc"});
+  EXPECT_EQ(Pane({u"a.png", u"b.rtf", u"x.doc", u"y.doc"}),
+            "<FRAMESET  ROWS=\"50%,50%\">\r\n" + Frame("/f/a.png") + Frame("/f/b.rtf") + "</FRAMESET>\r\n");
+}
+
+TEST_F(AttachmentPaneTest, HasNoItemsForNewerDocuments) {
+  Attach({u"/pr/f/report.docx", u"/pr/f/report.doc", u"/pr/f/clip.swf"});
+  std::fill_n(exam.examAttachmentTypes.begin(), 2, 1);
+  EXPECT_EQ(AttachmentPane(exam).BuildPaneBody(0),
+            u"<BODY>\r\n<iframe width=690 height=350 src=\"/f/report.doc\" ></iframe><br></BODY>\r\n");
+}
+
+TEST_F(AttachmentPaneTest, FramesetEnablesMediaAfterTheQuestionPage) {
+  Add(QuestionKind::Oral, u"Q");
+  Attach({u"/ap/app/TEMP/ExamPreview/~tt/a.wav"});
+  exam.PrefixAttachmentPaths(1);
+  exam.WritePreview(pages / "SEE.htm");
+  EXPECT_EQ(Page(pages / "SEE.htm"), kHead +
+                                         "<FRAMESET COLS=\"50,50\">\r\n<FRAME SRC=\"SEE1.htm\"  NOSIZE>\r\n"
+                                         "<FRAME SRC=\"SEE2.htm\"  NOSIZE>\r\n</FRAMESET>\r\n" +
+                                         kEnd);
+  EXPECT_NE(Page(pages / "SEE1.htm").find("[147 %s]"), std::string::npos);
+  EXPECT_NE(Page(pages / "SEE2.htm").find("embed src=\\\"/ap/app/TEMP/ExamPreview/~tt/a.wav\\\""),
+            std::string::npos);
+  EXPECT_EQ(exam.pageRenderer.mediaSuppressed, 0);
+  EXPECT_EQ(exam.attachmentPageWriter.mediaSuppressed, 0);
+  for (const char* name : {"SEE.htm", "SEE1.htm", "SEE2.htm"}) {
+    EXPECT_EQ(ReadBytes(pages / name), Page(pages / name) + '\0') << name;
+  }
+}
+
+TEST_F(AttachmentPaneTest, StudentPagesLieUnderTheirNumbers) {
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.Path());
+  fs::create_directories("~BrelmStudent/ID7");
+  exam.locationMode = 0;
+  exam.workFolder = u"007x";
+  exam.attachmentPageWriter.studentIdText = u" 7";
+  Attach({u"~BrelmStudent/ID7/~tt/a.gif", u"~BrelmStudent/ID7/~tt/x.doc"});
+  exam.WritePreview("~BrelmStudent/ID7/SEE.htm");
+  fs::current_path(before);
+  EXPECT_EQ(Page("~BrelmStudent/ID7/SEE2.htm"),
+            kHead + "<FRAMESET  ROWS=\"50%,50%\">\r\n" + Frame("~BrelmStudent/ID7/SEE2_1.htm") +
+                Frame("~BrelmStudent/ID7/~tt/x.doc") + "</FRAMESET>\r\n" + kEnd);
+  EXPECT_NE(Page("~BrelmStudent/ID7/SEE1.htm").find("[144 %s]"), std::string::npos);
+  EXPECT_TRUE(fs::exists(folder / "~BrelmStudent/ID7/SEE2_1.htm"));
+}
+
+TEST_F(AttachmentPaneTest, SurvivesFoldersThatAreNotThere) {
+  fs::remove_all(folder / "app");
+  Attach({u"a.gif", u"x.doc"});
+  exam.WritePreview(pages / "SEE.htm");
+  EXPECT_EQ(world.pages.pages.size(), 4);
+  EXPECT_FALSE(fs::exists(folder / "app"));
+}
+
+TEST_F(RenderTest, PrefixesCountUnfinishedPreviews) {
+  const struct {
+    int on;
+    std::u16string path;
+  } rows[] = {{1, u"/ho/home/a"}, {1, u"/ho/ho/home/a"}, {0, u"/ho/home/a"},
+              {0, u"/home/a"},    {0, u"/home/a"},       {1, u"/ho/home/a"}};
+  for (const auto& row : rows) {
+    exam.PrefixAttachmentPaths(row.on);
+    EXPECT_EQ(exam.PathOnPages(u"/home/a"), row.path);
+    EXPECT_EQ(exam.PathOnPages(u"abc"), u"abc");
+  }
+  exam.Reset();
+  EXPECT_EQ(exam.PathOnPages(u"/home/a"), u"/home/a");
+}
+
+}  // namespace
+}  // namespace quorvantis::test

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "RenderTest.h"
+#include "render/ComposedPages.h"
+#include "render/PageFile.h"
+
+namespace quorvantis::test {
+namespace {
+
+using namespace std::string_literals;
+
+class PageFileTest : public RenderTest {
+ protected:
+  const fs::path file = folder / "page.htm";
+};
+
+TEST_F(PageFileTest, WritesUtf8WithOneZeroByte) {
+  PageFile(file, world.pages).WriteUtf8(u"a\u00E9\u4E2D\U0001F600\xD800z");
+  EXPECT_EQ(ReadBytes(file), "a\xC3\xA9\xE4\xB8\xAD\xF0\x9F\x98\x80\xEF\xBF\xBDz\0"s);
+  PageFile(file, world.pages).WriteUtf8(u"");
+  EXPECT_EQ(ReadBytes(file), "\0"s);
+}
+
+TEST_F(PageFileTest, CutsUtf16ToOneByteMoreThanItHasUnits) {
+  const struct {
+    std::u16string page;
+    std::string bytes;
+  } rows[] = {
+      {u"", "\0"s},          {u"a", "a\0"s},
+      {u"abc", "a\0b\0"s},   {u"\u4E2D\xD83D\xDE00", "\x2D\x4E\x3D\xD8"s},
+      {u"abcd", "a\0b\0c"s},
+  };
+  for (const auto& row : rows) {
+    PageFile(file, world.pages).WriteHalfUtf16(row.page);
+    EXPECT_EQ(ReadBytes(file), row.bytes);
+    EXPECT_EQ(world.pages.pages[file], row.page);
+  }
+  PageFile(file, world.pages).WriteHalfUtf16(std::u16string(1000, u'x'));
+  EXPECT_EQ(fs::file_size(file), 1001);
+}
+
+TEST_F(PageFileTest, IsEmptyUntilThePageIsThere) {
+  WriteBytes(file, "earlier");
+  PageFile page(file, world.pages);
+  EXPECT_EQ(fs::file_size(file), 0);
+  EXPECT_TRUE(world.pages.pages.empty());
+}
+
+TEST_F(PageFileTest, KeepsThePageWhereNoFileCanBeMade) {
+  for (const fs::path& target : {folder / "absent" / "page.htm", folder.Path()}) {
+    PageFile(target, world.pages).WriteUtf8(u"page");
+    EXPECT_EQ(world.pages.pages[target], u"page");
+  }
+}
+
+TEST(ComposedPages, AreFoundByTheNormalAbsolutePath) {
+  ComposedPages pages;
+  pages.Add("/a/./b/../c.htm", u"first");
+  pages.Add("/a/c.htm", u"second");
+  pages.Add("relative.htm", u"third");
+  EXPECT_EQ(*pages.Find("/a/x/../c.htm"), u"second");
+  EXPECT_EQ(*pages.Find(fs::current_path() / "relative.htm"), u"third");
+  EXPECT_EQ(pages.Find("/a/b/c.htm"), nullptr);
+  pages.Clear();
+  EXPECT_EQ(pages.Find("/a/c.htm"), nullptr);
+}
+
+}  // namespace
+}  // namespace quorvantis::test
