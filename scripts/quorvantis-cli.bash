@@ -2,7 +2,7 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show build unpack edit"
+  local commands="show build unpack preview print edit"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
@@ -18,15 +18,19 @@ _quorvantis_cli() {
   elif [[ $word == -* ]]; then
     local options="--help --app-folder --debug"
     [ -n "$command" ] || options+=" --version"
-    [ "$command" != show ] || options+=" --json"
+    case $command in
+      show) options+=" --json" ;;
+      preview) options+=" --student --responses" ;;
+      print) options+=" --after-preview" ;;
+    esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
   elif [ -z "$command" ]; then
     mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$word")
   else
     case $command:$arguments in
-      show:0 | unpack:0 | build:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
+      show:0 | unpack:0 | preview:0 | print:0 | build:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
-      unpack:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
+      unpack:1 | preview:1 | print:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     esac
   fi

@@ -27,45 +27,58 @@ struct Arguments {
   std::optional<std::filesystem::path> responses;
 };
 
-CLI::App* AddCommand(CLI::App& app, const char* name, const char* description) {
+/// The options of every command; they may stand before the command, too.
+void AddCommonOptions(CLI::App& app, CommonOptions& options) {
+  app.add_option("--app-folder", options.appFolder,
+                 "Folder for work files and settings; a private one, removed at the end, without it")
+      ->type_name("DIR");
+  app.add_flag("--debug", options.debug, "Show debug lines on standard error");
+}
+
+CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, const char* description) {
   CLI::App* command = app.add_subcommand(name, description);
-  command->fallthrough();  // options of every command may stand behind its own
+  AddCommonOptions(*command, arguments.common);
   return command;
 }
 
+/// An argument that names a file or folder.
+void AddPath(CLI::App& command, const char* name, std::filesystem::path& path, const char* description) {
+  command.add_option(name, path, description)->required()->type_name("");
+}
+
 void AddShow(CLI::App& app, Arguments& arguments, Console& console) {
-  CLI::App* show = AddCommand(app, "show", "List what is in an exam file");
-  show->add_option("EXAM", arguments.input, "Exam file (.exm)")->required();
+  CLI::App* show = AddCommand(app, arguments, "show", "List what is in an exam file");
+  AddPath(*show, "EXAM", arguments.input, "Exam file (.exm)");
   show->add_flag("--json", arguments.json, "Print one JSON object");
   show->callback([&] { Show(console, arguments.common, arguments.input, arguments.json); });
 }
 
 void AddBuild(CLI::App& app, Arguments& arguments, Console& console) {
-  CLI::App* build = AddCommand(app, "build", "Make an exam file from a JSON description");
-  build->add_option("JSON", arguments.input, "Description, in the form that \"show --json\" prints")
-      ->required();
-  build->add_option("OUT", arguments.output, "Exam file to write")->required();
+  CLI::App* build = AddCommand(app, arguments, "build", "Make an exam file from a JSON description");
+  AddPath(*build, "JSON", arguments.input, "Description, like the object that \"show --json\" prints");
+  AddPath(*build, "OUT", arguments.output, "Exam file to write");
   build->footer(
       "An attached file is {\"path\": \"file relative to the JSON file\", \"name\": \"display name\"}.");
   build->callback([&] { Build(console, arguments.common, arguments.input, arguments.output); });
 }
 
 void AddUnpack(CLI::App& app, Arguments& arguments, Console& console) {
-  CLI::App* unpack = AddCommand(app, "unpack", "Copy the attached files of an exam into a folder");
-  unpack->add_option("EXAM", arguments.input, "Exam file (.exm)")->required();
-  unpack->add_option("DIR", arguments.output, "Target folder; made if missing")->required();
+  CLI::App* unpack = AddCommand(app, arguments, "unpack", "Copy the attached files of an exam into a folder");
+  AddPath(*unpack, "EXAM", arguments.input, "Exam file (.exm)");
+  AddPath(*unpack, "DIR", arguments.output, "Target folder; made if missing");
   unpack->footer("Files go to DIR/exam and DIR/question-007.");
   unpack->callback([&] { Unpack(console, arguments.common, arguments.input, arguments.output); });
 }
 
 void AddPreview(CLI::App& app, Arguments& arguments, Console& console) {
-  CLI::App* preview = AddCommand(app, "preview", "Write the pages of an exam's preview");
-  preview->add_option("EXAM", arguments.input, "Exam file (.exm)")->required();
-  preview->add_option("DIR", arguments.output, "Application folder for the pages; made if missing")
-      ->required();
-  preview->add_option("--student", arguments.student,
-                      "Write the pages of the student with this number instead");
-  preview->add_option("--responses", arguments.responses, "What the student has answered (JSON)");
+  CLI::App* preview = AddCommand(app, arguments, "preview", "Write the pages of an exam's preview");
+  AddPath(*preview, "EXAM", arguments.input, "Exam file (.exm)");
+  AddPath(*preview, "DIR", arguments.output, "Application folder for the pages; made if missing");
+  preview
+      ->add_option("--student", arguments.student, "Write the pages of the student with this number instead")
+      ->type_name("ID");
+  preview->add_option("--responses", arguments.responses, "What the student has answered (JSON)")
+      ->type_name("FILE");
   preview->footer(
       "Pages go to DIR/TEMP/ExamPreview, those of a student to DIR/~BrelmStudent/ID<number>. Responses are\n"
       "{\"resultScore\": 7.5, \"resultPageOption\": 0, \"responses\": [{\"number\": 1, \"text\": \"ac\", "
@@ -77,10 +90,9 @@ void AddPreview(CLI::App& app, Arguments& arguments, Console& console) {
 }
 
 void AddPrint(CLI::App& app, Arguments& arguments, Console& console) {
-  CLI::App* print = AddCommand(app, "print", "Write the page of an exam that is printed");
-  print->add_option("EXAM", arguments.input, "Exam file (.exm)")->required();
-  print->add_option("DIR", arguments.output, "Application folder for DIR/exam_Print.htm; made if missing")
-      ->required();
+  CLI::App* print = AddCommand(app, arguments, "print", "Write the page of an exam that is printed");
+  AddPath(*print, "EXAM", arguments.input, "Exam file (.exm)");
+  AddPath(*print, "DIR", arguments.output, "Application folder for DIR/exam_Print.htm; made if missing");
   print->add_flag("--after-preview", arguments.afterPreview,
                   "Write the preview first, which the print depends on");
   print->callback(
@@ -88,14 +100,21 @@ void AddPrint(CLI::App& app, Arguments& arguments, Console& console) {
 }
 
 void AddEdit(CLI::App& app, Arguments& arguments, Console& console) {
-  CLI::App* edit = AddCommand(app, "edit", "Edit an exam by a script");
-  edit->add_option("SCRIPT", arguments.input, "Script file; standard input without it");
+  CLI::App* edit = AddCommand(app, arguments, "edit", "Edit an exam by a script");
+  edit->add_option("SCRIPT", arguments.input, "Script file; standard input without it")->type_name("");
   edit->footer("One command a line, # begins a comment; a text with blanks or escapes is a JSON string:\n" +
                EditCommandHelp());
   edit->callback([&] {
     const bool named = !arguments.input.empty();
     Edit(console, arguments.common, named ? std::optional(arguments.input) : std::nullopt);
   });
+}
+
+/// Names a command that does not exist, which CLI11 would report as a missing one.
+bool IsUnknownCommand(const CLI::App& app, int argumentCount, const char* const* arguments) {
+  const std::string first = argumentCount > 1 ? arguments[1] : "-";
+  const auto named = [&](const CLI::App* command) { return command->get_name() == first; };
+  return !first.starts_with('-') && app.get_subcommands(named).empty();
 }
 
 int Parse(CLI::App& app, int argumentCount, const char* const* arguments, Console& console) {
@@ -122,15 +141,17 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   app.set_version_flag("--version", std::string("quorvantis-cli ") + kVersion);
   app.require_subcommand(1);
   Arguments arguments;
-  app.add_option("--app-folder", arguments.common.appFolder,
-                 "Folder for work files and settings; a private one, removed at the end, without it");
-  app.add_flag("--debug", arguments.common.debug, "Show debug lines on standard error");
+  AddCommonOptions(app, arguments.common);
   AddShow(app, arguments, console);
   AddBuild(app, arguments, console);
   AddUnpack(app, arguments, console);
   AddPreview(app, arguments, console);
   AddPrint(app, arguments, console);
   AddEdit(app, arguments, console);
+  if (IsUnknownCommand(app, argumentCount, argumentValues)) {
+    console.Complain("unknown command \"" + std::string(argumentValues[1]) + "\"; see quorvantis-cli --help");
+    return kWrongUsage;
+  }
   const int status = Parse(app, argumentCount, argumentValues, console);
   console.out.flush();
   if (console.out.good()) return status;

@@ -2,6 +2,8 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
+#include "cli/WhyUnreadable.h"
+#include "examfile/ExamFileLayout.h"
 
 #include <fstream>
 #include <istream>
@@ -14,6 +16,9 @@ constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 void RunScript(EditSession& session, std::istream& script, const std::string& name) {
   std::string line;
   for (int number = 1; std::getline(script, line); ++number) {
+    if (number == 1 && line.starts_with(kByteOrderMark)) {
+      throw CommandError(name + ": is no script; to edit an exam file, say: open " + name);
+    }
     if (number == 1 && line.starts_with(kUtf8Mark)) line.erase(0, kUtf8Mark.size());
     try {
       session.Run(ParseScriptLine(line));

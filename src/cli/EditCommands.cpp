@@ -3,6 +3,7 @@
 #include "cli/CommandError.h"
 #include "cli/EditSession.h"
 #include "cli/EditorStateJson.h"
+#include "cli/WhyUnreadable.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
@@ -35,8 +36,8 @@ std::size_t EntryIndex(const ScriptArgument& argument, const ShownAttachments& l
 std::filesystem::path ExistingFile(const ScriptArgument& argument) {
   const std::filesystem::path file = argument.Path();
   std::error_code error;
-  if (!std::filesystem::exists(file, error))
-    throw CommandError(file.string() + ": there is no such file; check the path");
+  if (!std::filesystem::is_regular_file(file, error))
+    throw CommandError(file.string() + ": " + WhyUnreadable(file));
   return file;
 }
 
@@ -64,7 +65,16 @@ void Save(EditSession& session, const Arguments&) {
   editor.files.SaveExam();
 }
 
+/// Whether Save As does anything with a name.
+bool IsSaveable(const std::filesystem::path& file) {
+  const std::u16string extension = LowerExtension(file);
+  return extension == u"exm" || extension == u"doc";
+}
+
 void SaveAs(EditSession& session, const Arguments& arguments) {
+  if (!IsSaveable(arguments[0].Path())) {
+    session.Streams().Complain("saved nothing: the name ends neither in .exm nor in .doc");
+  }
   session.Dialogs().ChooseNext(arguments[0].Path());
   session.Editor().files.SaveExamAs();
 }

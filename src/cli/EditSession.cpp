@@ -36,7 +36,8 @@ void EditSession::Run(const EditScriptLine& line) {
   const EditCommand* command = FindEditCommand(line.command);
   if (command == nullptr) throw CommandError("unknown command \"" + Shortened(line.command) + "\"");
   if (line.arguments.size() != command->argumentCount) {
-    throw CommandError("usage: " + line.command + " " + std::string(command->usage));
+    throw CommandError("usage: " + line.command + " " + std::string(command->usage) +
+                       "; a text with blanks stands in double quotes");
   }
   if (closed_ && line.command != "state") throw CommandError("the exam is closed");
   const int errors = session_.dialogs.ErrorCount();

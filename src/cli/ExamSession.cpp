@@ -2,6 +2,7 @@
 #include "cli/ExamSession.h"
 
 #include "cli/CommandError.h"
+#include "cli/WhyUnreadable.h"
 #include "examfile/ExamFileMessages.h"
 #include "shell/CodePageChoice.h"
 #include "text/Utf.h"
@@ -26,12 +27,20 @@ fs::path UseFolder(const fs::path& given, std::optional<PrivateFolder>& privateF
   return folder;
 }
 
+FolderLock LockFolder(const fs::path& folder) {
+  std::optional<FolderLock> lock = FolderLock::Take(folder);
+  if (!lock)
+    throw CommandError(folder.string() + ": another program works in it; close that, or name another folder");
+  return *std::move(lock);
+}
+
 }  // namespace
 
 ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
     : progress_(theConsole.err, ::isatty(STDERR_FILENO) != 0),
       debug_(options.debug || DebugAskedFor()),
       applicationFolder_(UseFolder(options.appFolder, privateFolder_)),
+      lock_(LockFolder(applicationFolder_)),
       codePage_(ChooseCodePage(applicationFolder_, kEnglish)),
       console(theConsole),
       dialogs(theConsole),
@@ -48,17 +57,6 @@ ExamReadOutcome ExamSession::Load(const fs::path& file) {
   }
   ShowReadLosses(services, outcome);
   return outcome;
-}
-
-std::string WhyUnreadable(const fs::path& file) {
-  std::error_code error;
-  const fs::file_status status = fs::status(file, error);
-  if (!fs::exists(status))
-    return error && error != std::errc::no_such_file_or_directory ? error.message() + "."
-                                                                  : "There is no such file; check the path.";
-  if (fs::is_directory(status)) return "It is a folder; name a file.";
-  if (!fs::is_regular_file(status)) return "It is no regular file; copy it into one.";
-  return "It may not be read; check its permissions.";
 }
 
 }  // namespace quorvantis::cli

@@ -8,6 +8,7 @@
 #include "model/FrameSetExam.h"
 #include "model/LongAnswerFlags.h"
 #include "platform/ExamServices.h"
+#include "platform/posix/FolderLock.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/posix/NoClassRegistry.h"
 #include "platform/posix/PosixFiles.h"
@@ -32,7 +33,7 @@ struct CommonOptions {
 /// removed at the end unless one was named, and the services of this machine.
 class ExamSession {
  public:
-  /// Throws CommandError when the application folder cannot be used.
+  /// Throws CommandError when the application folder cannot be used, or when another program works in it.
   ExamSession(Console& console, const CommonOptions& options);
   ~ExamSession() = default;
   ExamSession(const ExamSession&) = delete;
@@ -53,6 +54,7 @@ class ExamSession {
   NoClassRegistry classes_;
   ComposedPages pages_;
   const std::filesystem::path applicationFolder_;
+  FolderLock lock_;
   IconvCodePage codePage_;
 
  public:
@@ -61,8 +63,5 @@ class ExamSession {
   ExamServices services;
   FrameSetExam exam;
 };
-
-/// Why a file cannot be read as an exam or another regular file, in words; for the end of an error line.
-std::string WhyUnreadable(const std::filesystem::path& file);
 
 }  // namespace quorvantis::cli

@@ -3,6 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "cli/ExamSession.h"
+#include "cli/WhyUnreadable.h"
 #include "examfile/ExamFileFields.h"
 #include "text/PathText.h"
 #include "text/Utf.h"

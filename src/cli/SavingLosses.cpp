@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What an exam file cannot hold, or a reader clears again because the question's kind has no use for it.
-#include "cli/ExamFromJson.h"
+#include "cli/SavingLosses.h"
+
 #include "examfile/ExamFileFields.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"

@@ -16,8 +16,11 @@ void ScriptedDialogs::ShowWarning(std::u16string_view text) {
   console_.Complain(Utf16ToUtf8(text));
 }
 
-SaveAnswer ScriptedDialogs::AskSave(std::u16string_view) {
-  if (saveAnswers_.empty()) return SaveAnswer::Cancel;
+SaveAnswer ScriptedDialogs::AskSave(std::u16string_view question) {
+  if (saveAnswers_.empty()) {
+    console_.Complain(Utf16ToUtf8(question) + " There is no reply, so the command is cancelled.");
+    return SaveAnswer::Cancel;
+  }
   const SaveAnswer answer = saveAnswers_.front();
   saveAnswers_.pop_front();
   return answer;

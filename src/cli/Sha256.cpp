@@ -13,7 +13,7 @@ std::string Sha256OfFile(const std::filesystem::path& file) {
   ByteSource source(file);
   if (!source.IsOpen()) return {};
   const std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)> context(EVP_MD_CTX_new(), &EVP_MD_CTX_free);
-  EVP_DigestInit_ex(context.get(), EVP_sha256(), nullptr);
+  if (!context || EVP_DigestInit_ex(context.get(), EVP_sha256(), nullptr) != 1) return {};
   source.Take(source.Size(),
               [&](std::string_view bytes) { EVP_DigestUpdate(context.get(), bytes.data(), bytes.size()); });
   unsigned char digest[EVP_MAX_MD_SIZE];

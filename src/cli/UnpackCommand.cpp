@@ -31,7 +31,10 @@ void CopyInto(const fs::path& folder, const fs::path& file) {
   const fs::path target = folder / file.filename();
   fs::remove(target, error);
   if (!error) fs::copy_file(file, target, error);
-  if (error) throw CommandError(target.string() + ": cannot be written: " + error.message());
+  if (!error) return;
+  const std::string reason = error.message();
+  fs::remove(target, error);
+  throw CommandError(target.string() + ": cannot be written: " + reason);
 }
 
 void CopyAll(const fs::path& folder, const AttachmentList& names, const AttachmentList& paths) {
@@ -42,7 +45,7 @@ void CopyAll(const fs::path& folder, const AttachmentList& names, const Attachme
 
 void Unpack(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder) {
   ExamSession session(console, options);
-  session.Load(exam);
+  const ExamReadOutcome outcome = session.Load(exam);
   std::error_code error;
   fs::create_directories(folder, error);
   if (!fs::is_directory(folder, error)) {
@@ -52,6 +55,10 @@ void Unpack(Console& console, const CommonOptions& options, const fs::path& exam
   for (int number = 1; number <= session.exam.questionCount; ++number) {
     const ExamQuestion& question = session.exam.Question(number);
     CopyAll(folder / QuestionFolder(number), question.attachmentNames, question.attachmentPaths);
+  }
+  if (outcome.filesNotCreated > 0) {
+    throw CommandError(exam.string() + ": " + std::to_string(outcome.filesNotCreated) +
+                       " attached files are missing; make room in the folder for temporary files");
   }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/AttachmentListBox.h"
 
+#include "desktop/Controls.h"
 #include "desktop/QtText.h"
 
 #include <QKeyEvent>
@@ -28,7 +29,7 @@ void AttachmentListBox::Show(const ShownAttachments& attachments) {
     clear();
     for (const std::u16string& name : names_) {
       auto* entry = new QListWidgetItem(ToQString(name), this);
-      entry->setToolTip(ToQString(name).toHtmlEscaped());
+      entry->setToolTip(PlainTip(ToQString(name)));
     }
   }
   if (Selected() != attachments.selected) {

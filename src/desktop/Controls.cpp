@@ -11,11 +11,6 @@ namespace {
 constexpr QSize kLargeButton(90, 40);
 constexpr QSize kSmallButton(73, 28);
 
-/// Tips are plain text, whatever a translation holds.
-QString PlainTip(const QString& tip) {
-  return Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip;
-}
-
 QToolButton* MakeButton(QWidget* parent, const char* name, const QString& picture, const QString& tip) {
   auto* button = new QToolButton(parent);
   NameControl(button, name, tip);
@@ -26,6 +21,10 @@ QToolButton* MakeButton(QWidget* parent, const char* name, const QString& pictur
 }
 
 }  // namespace
+
+QString PlainTip(const QString& tip) {
+  return Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip;
+}
 
 QToolButton* MakeLargeButton(QWidget* parent, const char* name, const QString& picture,
                              const QString& caption) {

@@ -9,6 +9,9 @@
 
 namespace quorvantis {
 
+/// A tooltip that shows `tip` as it is, whatever a translation or a file name holds.
+QString PlainTip(const QString& tip);
+
 /// A large button with a picture (assets/toolbar) and a caption, which is also its tooltip.
 QToolButton* MakeLargeButton(QWidget* parent, const char* name, const QString& picture,
                              const QString& caption);

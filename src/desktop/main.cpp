@@ -3,17 +3,22 @@
 #include "desktop/CQuorvantisDlg.h"
 #include "desktop/CommandLine.h"
 #include "desktop/DesktopWorld.h"
+#include "desktop/QtText.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/posix/ApplicationFolder.h"
+#include "platform/posix/FolderLock.h"
+#include "text/PathText.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTimer>
 
 #include <clocale>
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <system_error>
 
 namespace {
@@ -38,6 +43,16 @@ int Run(const CommandLine& options) {
     std::cerr << "quorvantis: the application folder cannot be used; name another one with --app-folder\n";
     return 2;
   }
+  const std::optional<FolderLock> lock = FolderLock::Take(folder);
+  if (!lock) {
+    const QString text =
+        QCoreApplication::translate("main", "Quorvantis is already open in this folder:\n%1");
+    std::cerr << "quorvantis: another one is open in the application folder\n";
+    if (options.screenshot.isEmpty()) {
+      QMessageBox::information(nullptr, "Quorvantis", text.arg(ToQString(PathToText(folder))));
+    }
+    return 2;
+  }
   DesktopWorld world(folder, options.debug);
   FrameSetExam exam(world.Services());
   CQuorvantisDlg window(exam, [&world](FrameSetExam&, const std::filesystem::path&) {
@@ -45,11 +60,11 @@ int Run(const CommandLine& options) {
   });
   world.SetWindow(&window);
   window.show();
-  if (!options.exam.empty()) window.OpenExam(options.exam);
-  if (!options.screenshot.isEmpty()) {
+  if (!options.screenshot.isEmpty()) {  // before opening: a message must not keep it from being taken
     constexpr int kUntilPainted = 300;  // milliseconds
     QTimer::singleShot(kUntilPainted, &window, [&] { SaveScreenshot(window, options.screenshot); });
   }
+  if (!options.exam.empty()) window.OpenExam(options.exam);
   return QApplication::exec();
 }
 

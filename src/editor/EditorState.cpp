@@ -30,6 +30,7 @@ void EditorState::SetFileName(std::filesystem::path fileName) {
 
 void EditorState::MarkSaved() {
   modified_ = false;
+  contentChangeQueued_ = false;  // what it would report has been saved
   view.TitleChanged();
 }
 

@@ -17,7 +17,8 @@ namespace {
 constexpr std::u16string_view kOpenFilter = u"Exam files, (*.exm)|*.exm|";
 constexpr std::u16string_view kSaveFilter = u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|";
 
-/// What follows the last dot of the whole path, in lower case; the whole path when it has no dot.
+}  // namespace
+
 std::u16string LowerExtension(const std::filesystem::path& path) {
   std::u16string text = PathToText(path);
   text.erase(0, text.rfind(u'.') + 1);
@@ -25,8 +26,6 @@ std::u16string LowerExtension(const std::filesystem::path& path) {
   std::ranges::transform(text, text.begin(), lower);
   return text;
 }
-
-}  // namespace
 
 bool ExamFileCommands::MayDiscardChanges() {
   if (!state_.Modified()) return true;
@@ -92,16 +91,17 @@ void ExamFileCommands::SaveExamAs() {
   const std::u16string extension = LowerExtension(*file);
   if (extension == u"exm") {
     questions_.StoreCurrentQuestion();
-    state_.SetFileName(*file);
-    WriteTo(*file);
+    if (WriteTo(*file)) state_.SetFileName(*file);
   } else if (extension == u"doc") {
     questions_.StoreCurrentQuestion();
     exportDocument_(state_.document, *file);
   }
 }
 
-void ExamFileCommands::WriteTo(const std::filesystem::path& file) {
-  if (state_.document.WriteExamFile(file)) state_.MarkSaved();
+bool ExamFileCommands::WriteTo(const std::filesystem::path& file) {
+  const bool written = state_.document.WriteExamFile(file);
+  if (written) state_.MarkSaved();
+  return written;
 }
 
 bool ExamFileCommands::ConfirmClose() {

@@ -11,6 +11,10 @@ namespace quorvantis {
 /// Writes the exam as a word-processor document; tells the user itself how it went.
 using DocumentExport = std::function<void(FrameSetExam& exam, const std::filesystem::path& target)>;
 
+/// What follows the last dot of the whole path, in lower case; the whole path when it has no dot. Save As
+/// goes by it.
+std::u16string LowerExtension(const std::filesystem::path& path);
+
 /// New, Open, Save, Save As and the question before closing. Reading and writing report their own failures;
 /// the editor goes on with whatever the document holds.
 class ExamFileCommands {
@@ -36,7 +40,7 @@ class ExamFileCommands {
   bool MayDiscardChanges();
   void ClearDocument();
   void LoadFile(const std::filesystem::path& file);
-  void WriteTo(const std::filesystem::path& file);
+  bool WriteTo(const std::filesystem::path& file);
 
   EditorState& state_;
   QuestionEditor& questions_;

@@ -91,6 +91,7 @@ fs::path MakeWorkCopy(const fs::path& workRoot, const fs::path& source, int coun
   std::error_code ignored;
   fs::remove(copy, ignored);
   fs::copy_file(source, copy, ignored);
+  if (ignored) fs::remove(copy, ignored);  // half a file must not pass for the whole one
   constexpr auto kExecutable = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
   fs::permissions(copy, kExecutable, fs::perm_options::remove, ignored);
   fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add, ignored);

@@ -23,10 +23,28 @@ bool IsNameThatPointsElsewhere(const FrameSetExam& exam, const std::u16string& p
   return std::ranges::find(names, path) != names.end() && path.find_first_of(u"/\\") != std::u16string::npos;
 }
 
+std::uint64_t SizeOf(const AttachmentList& paths) {
+  std::uint64_t size = 0;
+  for (const std::u16string& path : paths) {
+    std::error_code error;
+    const auto bytes = path.empty() ? 0 : std::filesystem::file_size(TextToPath(path), error);
+    if (!error) size += bytes;
+  }
+  return size;
+}
+
+/// What takes time when an exam is saved.
+std::uint64_t AttachedBytes(const FrameSetExam& exam) {
+  std::uint64_t size = SizeOf(exam.examAttachmentPaths);
+  for (int n = 1; n <= exam.questionCount; ++n) size += SizeOf(exam.Question(n).attachmentPaths);
+  return size;
+}
+
 }  // namespace
 
 std::error_code ExamFileWriter::Write(const std::filesystem::path& file) {
   exam_.CountQuestions();
+  total_ = AttachedBytes(exam_);
   target_ = services_.files.Replace(file, error_);
   if (!target_) return error_;
   WriteHeader();
@@ -104,9 +122,10 @@ void ExamFileWriter::PackFile(const std::u16string& name, const std::filesystem:
   const auto writePiece = [&](std::string_view bytes) {
     if (!error_) error_ = target_->Write(AsBytes(bytes));
     written_ += bytes.size();
-    services_.progress.Report(written_, 0);
+    services_.progress.Report(written_, total_);
   };
   content.Take(size, writePiece);
+  if (content.Failed() && !error_) error_ = std::make_error_code(std::errc::io_error);
   const std::string zeros(std::min<std::uint64_t>(size - content.Position(), ByteSource::kMaxTake), '\0');
   for (std::uint64_t left = size - content.Position(); left > 0 && !error_;) {
     const auto piece = std::min<std::uint64_t>(left, zeros.size());

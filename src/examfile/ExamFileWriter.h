@@ -36,7 +36,8 @@ class ExamFileWriter {
   std::unique_ptr<PendingFile> target_;
   std::string bytes_;  ///< composed and not yet written
   std::error_code error_;
-  std::uint64_t written_ = 0;
+  std::uint64_t written_ = 0;  ///< bytes, and about how many it will be
+  std::uint64_t total_ = 0;
 };
 
 }  // namespace quorvantis

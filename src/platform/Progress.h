@@ -10,7 +10,8 @@ class Progress {
  public:
   virtual ~Progress() = default;
 
-  /// `done` of `total` bytes of the file in hand. Called often; must return at once.
+  /// `done` of about `total` bytes of the file in hand. Called often. An implementation may paint, but must
+  /// not let the user start anything else.
   virtual void Report(std::uint64_t done, std::uint64_t total) = 0;
 };
 

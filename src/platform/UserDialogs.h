@@ -13,7 +13,7 @@ enum class SaveAnswer { Yes, No, Cancel };
 /// What a file dialog starts with.
 struct FileDialogRequest {
   std::u16string filter;            ///< "Label|*.a;*.b|Label|*.c|"
-  std::u16string defaultExtension;  ///< added to a name without extension, without the dot
+  std::u16string defaultExtension;  ///< for a name typed without one; no dot
   std::u16string initialName;
 };
 
@@ -35,8 +35,8 @@ class UserDialogs {
   /// The full path of the chosen file, or nothing when the user cancelled.
   virtual std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) = 0;
 
-  /// The full path of the file to write, or nothing when the user cancelled. An existing file has been
-  /// confirmed.
+  /// The full path of the file to write, or nothing when the user cancelled. A person
+  /// has confirmed to replace an existing one; a script means it.
   virtual std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) = 0;
 };
 

@@ -93,7 +93,8 @@ TEST_F(EditScripts, AFailingLineIsNamed) {
   check("reply maybe", "usage: reply yes|no|cancel");
   check("remove 0", "the list has no entry 0");
   check("select -1", "the list has no entry -1");
-  check("attach /absent/file", "/absent/file: there is no such file");
+  check("attach /absent/file", "/absent/file: There is no such file");
+  check("attach /dev/null", "/dev/null: It is no regular file");
   check("text \"open", "a JSON string has no end");
   check("text \"\\x\"", "\\x is no escape");
   check("text \"\\u12g4\"", "\\u needs four hexadecimal digits");

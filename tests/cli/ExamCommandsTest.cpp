@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // show, build and unpack.
 #include "CommandLineTest.h"
+#include "platform/posix/FolderLock.h"
 
 namespace quorvantis::test {
 namespace {
@@ -185,6 +186,14 @@ TEST_F(ExamCommands, ShowIsReadable) {
                 "Open file " + Path("absent.exm") + " error!");
 }
 
+TEST_F(ExamCommands, NothingIsWrittenOverItsSourceOrBesideAnotherProgram) {
+  Build({{"title", "Once"}});
+  ExpectFailure(Command({"build", Path("exam.json"), Path("exam.json")}), "is the description itself");
+  const auto lock = FolderLock::Take(folder.Path());
+  ExpectFailure(Command({"show", Path("exam.exm"), "--app-folder", folder.Path().string()}),
+                "another program works in it");
+}
+
 TEST_F(ExamCommands, ExitStatusTellsWrongUsage) {
   const auto check = [this](const std::vector<std::string>& arguments, int status) {
     const RunResult run = Command(arguments);
@@ -202,6 +211,7 @@ TEST_F(ExamCommands, ExitStatusTellsWrongUsage) {
   for (const char* command : {"show", "build", "unpack", "edit"}) check({command, "--help"}, 0);
   check({"--help"}, 0);
   check({"--version"}, 0);
+  EXPECT_NE(Command({"shw", "x"}).err.find("unknown command \"shw\""), std::string::npos);
 }
 
 }  // namespace

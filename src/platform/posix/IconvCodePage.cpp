@@ -14,10 +14,6 @@ constexpr const char* kFallback = "CP1252";
 
 const iconv_t kNoConverter = reinterpret_cast<iconv_t>(-1);  // NOLINT: iconv's own way to say no
 
-bool IsAscii(std::string_view bytes) {
-  return std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 }  // namespace
 
 struct IconvCodePage::Converter {
@@ -38,7 +34,7 @@ IconvCodePage::IconvCodePage(const std::string& name) : converter_(std::make_uni
 IconvCodePage::~IconvCodePage() = default;
 
 std::u16string IconvCodePage::Decode(std::string_view bytes) const {
-  if (IsAscii(bytes) || converter_->handle == kNoConverter) return Utf8ToUtf16(bytes);
+  if (converter_->handle == kNoConverter) return Utf8ToUtf16(bytes);
   ::iconv(converter_->handle, nullptr, nullptr, nullptr, nullptr);
   std::string input(bytes);
   char* next = input.data();
@@ -47,7 +43,8 @@ std::u16string IconvCodePage::Decode(std::string_view bytes) const {
   char* output = reinterpret_cast<char*>(text.data());
   std::size_t room = text.size() * sizeof(char16_t);
   while (left > 0) {
-    const bool whole = ::iconv(converter_->handle, &next, &left, &output, &room) != static_cast<std::size_t>(-1);
+    const bool whole =
+        ::iconv(converter_->handle, &next, &left, &output, &room) != static_cast<std::size_t>(-1);
     // Some code pages hold a letter back in case an accent follows.
     ::iconv(converter_->handle, nullptr, nullptr, &output, &room);
     if (whole || room < sizeof(char16_t)) break;

@@ -159,7 +159,8 @@ bool IsLink(const fs::path& path) {
   return fs::is_symlink(fs::symlink_status(path, ignored));
 }
 
-/// Where the links that start at `path` end; the last name need not exist. Links in a circle end at one of them.
+/// Where the links that start at `path` end; the last name need not exist. Links in a circle end at one of
+/// them.
 fs::path FollowLinks(fs::path path) {
   constexpr int kMaxLinks = 40;
   std::error_code ignored;
@@ -172,7 +173,7 @@ fs::path FollowLinks(fs::path path) {
 /// Gives a new file the permissions, and where allowed the owner, of the old one.
 void TakeOverPermissions(int descriptor, const struct stat& old) {
   if (::fchown(descriptor, old.st_uid, old.st_gid) != 0) errno = 0;
-  if (::fchmod(descriptor, old.st_mode & 07777) != 0) errno = 0;
+  if (::fchmod(descriptor, old.st_mode & 0777) != 0) errno = 0;
 }
 
 }  // namespace

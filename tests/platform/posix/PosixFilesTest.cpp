@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "OrdinaryUser.h"
+#include "platform/posix/FolderLock.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/TemporaryFolder.h"
 
@@ -91,6 +92,16 @@ TEST_F(ReplaceTest, OverwritesAFileInAFolderThatTakesNoNewOnes) {
     }
   }
   fs::permissions(folder.Path(), fs::perms(0755));
+}
+
+TEST(FolderLock, LetsOneProgramIn) {
+  const TemporaryFolder folder;
+  std::optional<FolderLock> lock = FolderLock::Take(folder.Path());
+  EXPECT_TRUE(lock);
+  EXPECT_FALSE(FolderLock::Take(folder.Path()));
+  lock.reset();
+  EXPECT_TRUE(FolderLock::Take(folder.Path()));
+  EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
 }
 
 }  // namespace
