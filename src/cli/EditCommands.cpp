@@ -34,7 +34,7 @@ std::size_t EntryIndex(const ScriptArgument& argument, const ShownAttachments& l
 
 /// The window's file dialogs offer nothing but files that are there.
 std::filesystem::path ExistingFile(const ScriptArgument& argument) {
-  const std::filesystem::path file = argument.Path();
+  std::filesystem::path file = argument.Path();
   std::error_code error;
   if (!std::filesystem::is_regular_file(file, error))
     throw CommandError(file.string() + ": " + WhyUnreadable(file));

@@ -10,7 +10,7 @@ TerminalProgress::~TerminalProgress() {
 }
 
 void TerminalProgress::Report(std::uint64_t done, std::uint64_t total) {
-  constexpr std::uint64_t kMegabyte = 1024 * 1024;
+  constexpr std::uint64_t kMegabyte = std::uint64_t{1024} * 1024;
   if (!enabled_ || Clock::now() < next_) return;
   shown_ = true;
   next_ = Clock::now() + std::chrono::milliseconds(100);

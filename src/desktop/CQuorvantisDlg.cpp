@@ -7,7 +7,11 @@
 #include "desktop/WindowLayout.h"
 #include "platform/ExamServices.h"
 #include "platform/Texts.h"
+#include "platform/posix/ApplicationFolder.h"
 #include "shell/CloseSequence.h"
+#include "shell/CodePageChoice.h"
+#include "shell/PreviewCommand.h"
+#include "shell/PrintCommand.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -29,12 +33,21 @@ QGroupBox* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
   return area;
 }
 
+GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) {
+  return {exam.Services().applicationFolder,
+          pages,
+          ExecutableFolder() / "flash-player",
+          ConverterPrograms::Find(),
+          {}};
+}
+
 }  // namespace
 
-CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, DocumentExport exportDocument)
+CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, DocumentExport exportDocument)
     : exam_(exam),
       editor_(exam, *this, std::move(exportDocument)),
-      files_(editor_, exam.Services().strings, this),
+      previews_(SetUpGateway(exam, pages), *this),
+      files_(editor_, {[this] { Preview(); }, [this] { Print(); }}, exam.Services().strings, this),
       examControls_(editor_, exam.Services().strings, this),
       questionArea_(MakeQuestionArea(exam.Services().strings, this)),
       question_(editor_, exam.Services().strings, questionArea_),
@@ -77,6 +90,22 @@ void CQuorvantisDlg::FormChanged() {
 void CQuorvantisDlg::TitleChanged() {
   // Qt gives "[*]" in a title a meaning of its own; twice, it stands for itself.
   setWindowTitle(ToQString(editor_.state.WindowTitle()).replace("[*]", "[*][*]"));
+}
+
+void CQuorvantisDlg::Preview() {
+  PreviewCommand(editor_.questions, exam_, kEnglish, [this](const std::filesystem::path& page) {
+    previews_.NewSession().ShowPreview(page);
+  }).Run();
+}
+
+void CQuorvantisDlg::Print() {
+  PrintCommand(editor_.questions, exam_, [this](const std::filesystem::path& page) {
+    previews_.NewSession().PrintOffScreen(page);
+  }).Run();
+}
+
+void CQuorvantisDlg::PreviewFinished() {
+  exam_.PrefixAttachmentPaths(0);
 }
 
 void CQuorvantisDlg::PostContentChanged() {

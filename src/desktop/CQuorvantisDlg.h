@@ -6,6 +6,7 @@
 #include "desktop/FileButtons.h"
 #include "desktop/QuestionControls.h"
 #include "editor/ExamEditor.h"
+#include "preview/PreviewWindows.h"
 
 #include <QGroupBox>
 #include <QUrl>
@@ -18,16 +19,20 @@ namespace quorvantis {
 /// The main window. It binds the controls to the editor, which has all the rules; the window only shows what
 /// the editor tells. Escape ends it without a question, closing it asks about unsaved changes. When the
 /// window goes, so do the work copies of attached files.
-class CQuorvantisDlg final : public QWidget, private EditorView {
+class CQuorvantisDlg final : public QWidget, private EditorView, private PreviewOwner {
   Q_OBJECT
 
  public:
-  /// `exam` must outlive the window.
-  CQuorvantisDlg(FrameSetExam& exam, DocumentExport exportDocument);
+  /// `exam` and the pages that its previews are composed into must outlive the window.
+  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, DocumentExport exportDocument);
   ~CQuorvantisDlg() override;
 
   /// Opens an exam file, a full path, as the Open command does, without a file dialog.
   void OpenExam(const std::filesystem::path& file) { editor_.files.OpenExam(file); }
+
+  /// Starts the browser, so that the first preview appears at once. Takes a moment: call it once the window
+  /// has been painted.
+  void WarmBrowser() { previews_.Warm(); }
 
  signals:
   /// Both are handled by the window itself, once the event in hand is over.
@@ -46,10 +51,15 @@ class CQuorvantisDlg final : public QWidget, private EditorView {
   void TitleChanged() override;
   void PostContentChanged() override;
 
+  void PreviewFinished() override;
+
+  void Preview();
+  void Print();
   void TakeFiles(const QList<QUrl>& urls);
 
   FrameSetExam& exam_;
   ExamEditor editor_;
+  PreviewWindows previews_;
   bool endsUnasked_ = false;
   FileButtons files_;
   ExamControls examControls_;

@@ -6,6 +6,7 @@
 
 #include <QToolButton>
 
+#include <functional>
 #include <vector>
 
 namespace quorvantis {
@@ -13,8 +14,14 @@ namespace quorvantis {
 /// The large buttons for the exam as a whole, at the top of the window.
 class FileButtons {
  public:
+  /// What the buttons do that the editor does not.
+  struct PageCommands {
+    std::function<void()> preview;
+    std::function<void()> print;
+  };
+
   /// The buttons belong to `parent`; `editor` must outlive them.
-  FileButtons(ExamEditor& editor, const StringTable& strings, QWidget* parent);
+  FileButtons(ExamEditor& editor, const PageCommands& pages, const StringTable& strings, QWidget* parent);
 
   const std::vector<QToolButton*>& InOrder() const { return buttons_; }
 
@@ -22,7 +29,6 @@ class FileButtons {
   struct Spec;
   void Add(const Spec& spec, const StringTable& strings, QWidget* parent);
 
-  ExamEditor& editor_;
   std::vector<QToolButton*> buttons_;
 };
 

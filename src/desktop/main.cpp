@@ -8,6 +8,7 @@
 #include "platform/Texts.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "platform/posix/FolderLock.h"
+#include "preview/BrowserEngine.h"
 #include "text/PathText.h"
 
 #include <QApplication>
@@ -55,7 +56,7 @@ int Run(const CommandLine& options) {
   }
   DesktopWorld world(folder, options.debug);
   FrameSetExam exam(world.Services());
-  CQuorvantisDlg window(exam, [&world](FrameSetExam&, const std::filesystem::path&) {
+  CQuorvantisDlg window(exam, world.Pages(), [&world](FrameSetExam&, const std::filesystem::path&) {
     world.Services().dialogs.ShowError(world.Services().strings.Text(text_id::kCannotExport));
   });
   world.SetWindow(&window);
@@ -65,12 +66,14 @@ int Run(const CommandLine& options) {
     QTimer::singleShot(kUntilPainted, &window, [&] { SaveScreenshot(window, options.screenshot); });
   }
   if (!options.exam.empty()) window.OpenExam(options.exam);
+  if (options.screenshot.isEmpty()) QTimer::singleShot(0, &window, [&] { window.WarmBrowser(); });
   return QApplication::exec();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  PrepareBrowserEngine();
   const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
   // Qt has taken the format of numbers from the environment; there is no other thread yet.
   std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe)

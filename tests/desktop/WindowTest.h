@@ -23,7 +23,7 @@ class WindowTest : public testing::Test {
  protected:
   void Open() {
     std::filesystem::create_directories(world.services.applicationFolder);
-    window = std::make_unique<CQuorvantisDlg>(exam, DocumentExport());
+    window = std::make_unique<CQuorvantisDlg>(exam, pages, DocumentExport());
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
@@ -55,7 +55,19 @@ class WindowTest : public testing::Test {
   TemporaryFolder folder;
   PosixFiles files;
   RecordingWorld world{folder.Path() / "app", files};
-  FrameSetExam exam{world.services};
+  ComposedPages pages;
+  ExamServices services{world.services.applicationFolder,
+                        world.strings,
+                        world.dialogs,
+                        world.codePage,
+                        world.debug,
+                        files,
+                        world.progress,
+                        world.longAnswerFlags,
+                        world.ids,
+                        world.classes,
+                        pages};
+  FrameSetExam exam{services};
   std::unique_ptr<CQuorvantisDlg> window;
 };
 

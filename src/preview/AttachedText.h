@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace quorvantis {
+
+/// The text of an attached text file: UTF-8 or UTF-16 by its mark, UTF-8 without a mark where it is valid,
+/// otherwise the Chinese code page GB18030, which the editors of most such files wrote.
+QString DecodeAttachedText(const QByteArray& bytes);
+
+}  // namespace quorvantis

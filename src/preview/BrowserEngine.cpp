@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "preview/BrowserEngine.h"
+
+#include <QByteArray>
+#include <QWebEngineUrlScheme>
+
+#include <unistd.h>
+
+namespace quorvantis {
+namespace {
+
+constexpr char kFlagsVariable[] = "QTWEBENGINE_CHROMIUM_FLAGS";
+
+/// What no interceptor sees: the packets of WebRTC and WebTransport, relays of WebRTC, and the names of hosts
+/// that are looked up for them. No host has an address here, not even one that is given as an address.
+constexpr char kNoNetwork[] =
+    " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-blink-features=WebTransport"
+    " \"--host-resolver-rules=MAP * ~NOTFOUND\"";
+
+}  // namespace
+
+void PrepareBrowserEngine() {
+  // A local scheme would give every frame an origin of its own; a secure one keeps media and scripts working.
+  QWebEngineUrlScheme scheme(QByteArray(kExamScheme.data(), kExamScheme.size()));
+  scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
+  scheme.setFlags(QWebEngineUrlScheme::SecureScheme);
+  QWebEngineUrlScheme::registerScheme(scheme);
+
+  qputenv(kFlagsVariable, qgetenv(kFlagsVariable) + kNoNetwork);
+  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");  // the sandbox refuses to run as root
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "preview/Conversions.h"
+#include "preview/FramePages.h"
+#include "preview/ServedFiles.h"
+#include "render/ComposedPages.h"
+
+#include <QPointer>
+#include <QWebEngineUrlRequestJob>
+#include <QWebEngineUrlSchemeHandler>
+
+#include <filesystem>
+
+namespace quorvantis {
+
+/// What a gateway is made of.
+struct GatewaySetup {
+  std::filesystem::path applicationFolder;
+  const ComposedPages& pages;         ///< must outlive the gateway
+  std::filesystem::path flashPlayer;  ///< folder with "ruffle.js"; empty or missing where there is no player
+  ConverterPrograms programs;
+  PreviewTexts texts;
+};
+
+/// Answers every request of the browser: with a composed page, with a file that `ServedFiles` permits, or
+/// with a page that stands for a file that the browser cannot show. Files are never read into memory whole,
+/// texts excepted.
+class ExamGateway : public QWebEngineUrlSchemeHandler {
+ public:
+  explicit ExamGateway(GatewaySetup setup);
+
+  /// Names the attached files that lie outside of the work folders, by full path; see `ServedFiles`.
+  void SetAttachedFiles(const std::vector<std::filesystem::path>& files) { files_.SetAttached(files); }
+
+  /// `page` is going to be shown.
+  void SetPage(const std::filesystem::path& page);
+
+  /// The shown page is going to be loaded once more.
+  void ExpectReload() { showsUnfinished_ = false; }
+
+  /// Whether a frame of the shown page got a notice instead of a document that was still being converted.
+  bool ShowsUnfinished() const { return showsUnfinished_; }
+
+  const Conversions& Documents() const { return conversions_; }
+
+  bool HasFlashPlayer() const;
+
+  /// Why a media file that does not play could not be converted, for the page; %1 is the file's name.
+  QString MediaFailureText() const;
+
+  void requestStarted(QWebEngineUrlRequestJob* job) override;
+
+ private:
+  using Job = QWebEngineUrlRequestJob;
+
+  void AnswerOwn(Job* job, const std::filesystem::path& name);
+  bool AnswerPage(Job* job, const std::filesystem::path& asked);
+  void AnswerFile(Job* job, const std::filesystem::path& file);
+  void AnswerDocument(Job* job, const std::filesystem::path& document);
+  void AnswerMedia(Job* job, const std::filesystem::path& media);
+  void AnswerMissing(Job* job, const std::filesystem::path& asked);
+  QByteArray DocumentPage(const std::filesystem::path& document, const Conversions::Files& pictures) const;
+  QByteArray Escaped(const std::filesystem::path& page, const std::u16string& text) const;
+
+  GatewaySetup setup_;
+  ServedFiles files_;
+  Conversions conversions_;
+  QHash<QString, std::filesystem::path> pictures_;  ///< of document pages, by their own address's name
+  bool showsUnfinished_ = false;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "preview/ExamPage.h"
+
+#include "preview/PageAddress.h"
+#include "preview/PageScripts.h"
+#include "preview/RequestGuard.h"
+
+#include <QWebEngineSettings>
+
+namespace quorvantis {
+namespace {
+
+void Restrict(QWebEngineSettings& settings) {
+  for (const auto attribute :
+       {QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::JavascriptCanAccessClipboard,
+        QWebEngineSettings::LocalStorageEnabled, QWebEngineSettings::PluginsEnabled,
+        QWebEngineSettings::PdfViewerEnabled, QWebEngineSettings::FullScreenSupportEnabled,
+        QWebEngineSettings::ScreenCaptureEnabled, QWebEngineSettings::HyperlinkAuditingEnabled,
+        QWebEngineSettings::DnsPrefetchEnabled, QWebEngineSettings::AllowWindowActivationFromJavaScript,
+        QWebEngineSettings::NavigateOnDropEnabled, QWebEngineSettings::LocalContentCanAccessFileUrls,
+        QWebEngineSettings::PlaybackRequiresUserGesture}) {
+    settings.setAttribute(attribute, false);
+  }
+  settings.setAttribute(QWebEngineSettings::WebRTCPublicInterfacesOnly, true);
+}
+
+}  // namespace
+
+ExamPage::ExamPage(QWebEngineProfile* profile, QObject* parent) : QWebEnginePage(profile, parent) {
+  Restrict(*settings());
+  connect(this, &QWebEnginePage::featurePermissionRequested, this,
+          [this](const QUrl& origin, Feature feature) {
+            setFeaturePermission(origin, feature, PermissionDeniedByUser);
+          });
+  // The one address that a page may go to without anybody being asked.
+  connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl& url) {
+    if (url == QUrl(kBlankPage) && destination_ != url) load(destination_);
+  });
+}
+
+void ExamPage::Go(const QUrl& address) {
+  destination_ = address;
+  load(address);
+}
+
+/// Nobody is there to take a form; sending it would only lose what was typed. A link within the page is no
+/// other address.
+bool ExamPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+  if (type == NavigationTypeFormSubmitted) return false;
+  if (isMainFrame) return url.matches(destination_, QUrl::RemoveFragment);
+  return RequestGuard::StaysInside(url);
+}
+
+/// Also asked, as a question to the user, when a page wants to stay; the program's own way must be free. A
+/// page that asks for itself gets no.
+bool ExamPage::javaScriptConfirm(const QUrl&, const QString&) {
+  return destination_ == QUrl(kBlankPage);
+}
+
+void ExamPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int,
+                                        const QString&) {
+  if (message.startsWith(kStatusLine)) emit StatusTextChanged(message.mid(qsizetype(sizeof kStatusLine) - 1));
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "preview/PagePrinter.h"
+
+#include "platform/convert/Later.h"
+#include "preview/PageScripts.h"
+
+#include <QPageRanges>
+#include <QPointer>
+#include <QWebEngineLoadingInfo>
+
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+/// Pages go to a printer as pictures; more dots would take long and show nothing more.
+constexpr int kDotsPerInch = 300;
+constexpr std::chrono::milliseconds kUntilNextLook{100};
+constexpr int kMostLooks = 100;
+
+}  // namespace
+
+PagePrinter::PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gateway, AskForPrinter ask)
+    : view_(view), page_(page), gateway_(gateway), ask_(std::move(ask)) {
+  connect(&page, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo& info) {
+    if (!info.url().matches(page_.Destination(), QUrl::RemoveFragment)) return;  // of a page left meanwhile
+    loaded_ = info.status() != QWebEngineLoadingInfo::LoadStartedStatus;
+    GoOn();
+  });
+  connect(&gateway.Documents(), &Conversions::DocumentsReady, this, &PagePrinter::GoOn);
+  connect(&page, &QWebEnginePage::pdfPrintingFinished, this, [this](const QString&, bool ok) { Finish(ok); });
+  connect(&view, &QWebEngineView::printFinished, this, &PagePrinter::Finish);
+}
+
+void PagePrinter::Print() {
+  if (wanted_ || started_) return;
+  wanted_ = true;
+  GoOn();
+}
+
+/// Frames whose documents came later are loaded once more with the page: then it holds them for certain.
+void PagePrinter::GoOn() {
+  if (!wanted_ || !loaded_) return;
+  if (gateway_.ShowsUnfinished()) {
+    if (gateway_.Documents().IsBusy()) return;
+    loaded_ = false;
+    gateway_.ExpectReload();
+    return page_.Go(page_.Destination());
+  }
+  wanted_ = false;
+  started_ = true;
+  WaitForPictures(kMostLooks);
+}
+
+void PagePrinter::WaitForPictures(int attempts) {
+  page_.runJavaScript(PrintScript(), QWebEngineScript::ApplicationWorld,
+                      [held = QPointer(this), attempts](const QVariant& complete) {
+                        if (!held) return;
+                        if (complete.toBool() || attempts == 0) return held->AskAndPrint();
+                        Later(*held, kUntilNextLook,
+                              [held, attempts] { held->WaitForPictures(attempts - 1); });
+                      });
+}
+
+/// A PDF file gets text and lines instead of a picture of the page.
+void PagePrinter::AskAndPrint() {
+  printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer_->setResolution(kDotsPerInch);
+  const QPointer<PagePrinter> held(this);
+  const bool print = ask_(*printer_);
+  if (!held) return;  // gone with the window while the dialog was open
+  if (!print) return Finish(false);
+  if (printer_->outputFormat() == QPrinter::PdfFormat) {
+    page_.printToPdf(printer_->outputFileName(), printer_->pageLayout(), printer_->pageRanges());
+  } else {
+    view_.print(printer_.get());
+  }
+}
+
+void PagePrinter::Finish(bool succeeded) {
+  started_ = false;
+  printer_.reset();
+  emit Printed(succeeded);
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "preview/PageScripts.h"
+
+#include "preview/PageAddress.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+// A static library does not make its resources known by itself. The macro declares a function where it
+// stands, which must be outside of any namespace.
+static void InitializePreviewResources() {
+  Q_INIT_RESOURCE(preview);
+}
+
+namespace quorvantis {
+namespace {
+
+QString Script(const char* name) {
+  InitializePreviewResources();
+  QFile file(QStringLiteral(":/preview/scripts/") + name);
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+}  // namespace
+
+QWebEngineScript PageScript(const PageScriptSetup& setup) {
+  const QJsonObject host{{"hasFlash", setup.hasFlashPlayer},
+                         {"flashFolder", OwnAddress("flash/").toString()},
+                         {"preparing", setup.preparing},
+                         {"mediaFailure", setup.mediaFailure},
+                         {"flashFailure", setup.flashFailure}};
+  const QString values = QString::fromUtf8(QJsonDocument(host).toJson(QJsonDocument::Compact));
+  QWebEngineScript script;
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(QWebEngineScript::MainWorld);  // where the page's own scripts find `window.status`
+  script.setRunsOnSubFrames(true);
+  script.setSourceCode(Script("status.js") + Script("players.js") + '(' + values + ");");
+  return script;
+}
+
+QString PrintScript() {
+  return Script("print.js");
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "preview/PreviewWindow.h"
+
+#include "platform/convert/Later.h"
+#include "preview/PageAddress.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPrintDialog>
+#include <QScreen>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+bool IsEscape(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride) return false;
+  return static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
+QRect Screen() {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  return screen == nullptr ? QRect(0, 0, 1024, 768) : screen->geometry();
+}
+
+}  // namespace
+
+PreviewWindow::PreviewWindow(QWebEngineProfile& profile, ExamGateway& gateway, PreviewOwner& owner,
+                             const std::filesystem::path& applicationFolder, PagePrinter::AskForPrinter ask)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      gateway_(gateway),
+      page_(&profile, nullptr),
+      printer_(
+          view_, page_, gateway,
+          ask ? std::move(ask) : [this](QPrinter& printer) { return AskUserForPrinter(printer); }),
+      session_(*this, *this, owner, applicationFolder) {
+  setAttribute(Qt::WA_QuitOnClose, false);
+  setGeometry(Screen());
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(&view_);
+  view_.setContextMenuPolicy(Qt::NoContextMenu);
+  connect(&page_, &ExamPage::StatusTextChanged, this,
+          [this](const QString& text) { session_.StatusTextChanged(text.toStdU16String()); });
+  auto* const print = new QShortcut(QKeySequence::Print, this);
+  connect(print, &QShortcut::activated, this, [this] { session_.PrintByKeystroke(); });
+  qApp->installEventFilter(this);
+}
+
+/// Seen before the browser sees it, which would give the key to the page. While the preview covers the
+/// screen, the windows below it must not get the key either: it would end them.
+bool PreviewWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool ours = IsEscape(*event) && IsOnScreen() && QApplication::activeModalWidget() == nullptr;
+  if (!ours) return QWidget::eventFilter(watched, event);
+  session_.Leave();
+  return true;
+}
+
+void PreviewWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  session_.Leave();
+}
+
+void PreviewWindow::Navigate(const std::filesystem::path& page) {
+  if (view_.page() != &page_) view_.setPage(&page_);
+  if (!page.empty()) gateway_.SetPage(page);
+  page_.Go(page.empty() ? QUrl(kBlankPage) : AddressOf(page));
+}
+
+/// A place away from the corner means: out of sight. Screens are larger than they were when that place was
+/// chosen, and some systems let no window choose one, so the window is laid out without being shown.
+void PreviewWindow::Place(int x, int y) {
+  setAttribute(Qt::WA_DontShowOnScreen, x != 0 || y != 0);
+  move(Screen().topLeft() + QPoint(x, y));
+}
+
+void PreviewWindow::Show() {
+  show();
+  if (!IsOnScreen()) return;
+  raise();
+  activateWindow();
+  view_.setFocus();
+}
+
+void PreviewWindow::After(std::chrono::milliseconds delay, std::function<void()> action) {
+  Later(*this, delay, std::move(action));
+}
+
+bool PreviewWindow::AskUserForPrinter(QPrinter& printer) {
+  QPrintDialog dialog(&printer, IsOnScreen() ? this : QApplication::activeWindow());
+  return dialog.exec() == QDialog::Accepted;
+}
+
+}  // namespace quorvantis

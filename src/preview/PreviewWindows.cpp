@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "preview/PreviewWindows.h"
+
+#include "preview/BrowserEngine.h"
+#include "preview/PageScripts.h"
+#include "preview/RequestGuard.h"
+
+#include <QWebEngineScriptCollection>
+
+#include <utility>
+
+namespace quorvantis {
+
+/// What all windows share. The profile has no name and therefore keeps nothing on the disk.
+struct PreviewWindows::Browser {
+  explicit Browser(const GatewaySetup& setup) : gateway(setup) {
+    profile.setUrlRequestInterceptor(&guard);
+    profile.installUrlSchemeHandler(QByteArray(kExamScheme.data()), &gateway);
+    profile.scripts()->insert(
+        PageScript({gateway.HasFlashPlayer(), setup.texts.preparing, gateway.MediaFailureText(),
+                    setup.texts.needsProgram.arg("%1", "Ruffle")}));
+  }
+
+  RequestGuard guard;
+  ExamGateway gateway;
+  QWebEngineProfile profile;
+};
+
+PreviewWindows::PreviewWindows(GatewaySetup setup, PreviewOwner& owner)
+    : setup_(std::move(setup)), owner_(owner) {}
+
+PreviewWindows::~PreviewWindows() = default;
+
+void PreviewWindows::Warm() {
+  if (!window_) NewSession();
+}
+
+void PreviewWindows::SetAttachedFiles(const std::vector<std::filesystem::path>& files) {
+  attached_ = files;
+  if (browser_) browser_->gateway.SetAttachedFiles(attached_);
+}
+
+PreviewSession& PreviewWindows::NewSession() {
+  Browser& browser = StartedBrowser();
+  window_.reset();
+  window_ = std::make_unique<PreviewWindow>(browser.profile, browser.gateway, owner_,
+                                            setup_.applicationFolder, ask_);
+  return window_->Session();
+}
+
+PreviewWindows::Browser& PreviewWindows::StartedBrowser() {
+  if (!browser_) {
+    browser_ = std::make_unique<Browser>(setup_);
+    browser_->gateway.SetAttachedFiles(attached_);
+  }
+  return *browser_;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "preview/ServedFiles.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kWorkFolders[] = {"TEMP", "~TEMP", "~BrelmStudent"};
+
+/// Whether `path` lies below `folder`; both without links and dots.
+bool IsBelow(const fs::path& path, const fs::path& folder) {
+  const auto [end, ignored] = std::mismatch(folder.begin(), folder.end(), path.begin(), path.end());
+  return end == folder.end() && path != folder;
+}
+
+std::optional<fs::path> RealPath(const fs::path& path) {
+  std::error_code error;
+  fs::path real = fs::canonical(path, error);
+  return error ? std::nullopt : std::optional(std::move(real));
+}
+
+}  // namespace
+
+ServedFiles::ServedFiles(fs::path applicationFolder)
+    : applicationFolder_(std::move(applicationFolder)), pageFolder_(applicationFolder_) {}
+
+void ServedFiles::SetAttached(const std::vector<fs::path>& files) {
+  attached_.clear();
+  for (const fs::path& file : files) {
+    if (std::optional<fs::path> real = RealPath(file)) attached_.insert(std::move(*real));
+  }
+}
+
+std::vector<fs::path> ServedFiles::Places(const fs::path& asked) const {
+  std::vector<fs::path> places{asked};
+  if (!IsBelow(asked, pageFolder_)) return places;
+  const fs::path relative = asked.lexically_relative(pageFolder_);
+  places.push_back(applicationFolder_ / relative);
+  places.push_back(applicationFolder_ / "TEMP" / "ExamPreview" / relative);
+  return places;
+}
+
+std::optional<fs::path> ServedFiles::Find(const fs::path& asked) const {
+  for (const fs::path& place : Places(asked)) {
+    std::optional<fs::path> real = RealPath(place);
+    std::error_code error;
+    if (real && Permits(*real) && fs::is_regular_file(*real, error)) return real;
+  }
+  return std::nullopt;
+}
+
+/// A work folder that is itself a link leads out of the application folder and is none of ours.
+bool ServedFiles::Permits(const fs::path& real) const {
+  if (attached_.count(real) != 0) return true;
+  const std::optional<fs::path> folder = RealPath(applicationFolder_);
+  return folder && std::any_of(std::begin(kWorkFolders), std::end(kWorkFolders),
+                               [&](const char* name) { return IsBelow(real, *folder / name); });
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace quorvantis {
+
+/// Which files the pages of an exam may show: those below the work folders of the application folder, and the
+/// files attached to the exam. Exams come from strangers; whatever a page asks for, no other file is opened.
+class ServedFiles {
+ public:
+  explicit ServedFiles(std::filesystem::path applicationFolder);
+
+  /// The attached files that lie elsewhere, by full path. Replaces those named before.
+  void SetAttached(const std::vector<std::filesystem::path>& files);
+
+  /// The folder of the page that is shown; relative addresses of its frames and files begin there.
+  void SetPageFolder(const std::filesystem::path& folder) { pageFolder_ = folder.lexically_normal(); }
+
+  /// The places that an absolute, normal path may mean, best first: itself; and where it lies below the
+  /// page's folder, so that the page may have named it by a relative address, the same place below the
+  /// application folder and below the folder of the preview pages, beside which the files of an opened exam
+  /// are unpacked.
+  std::vector<std::filesystem::path> Places(const std::filesystem::path& asked) const;
+
+  /// The real path of the first of these places that is an existing, permitted, regular file.
+  std::optional<std::filesystem::path> Find(const std::filesystem::path& asked) const;
+
+ private:
+  bool Permits(const std::filesystem::path& real) const;
+
+  std::filesystem::path applicationFolder_;
+  std::filesystem::path pageFolder_;
+  std::set<std::filesystem::path> attached_;  ///< real paths
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// On paper a frame cannot be scrolled: the content of every inline frame is put beside it, whole, for paper only.
+// Called again until all pictures are there; the value tells whether they are.
+(function () {
+  'use strict';
+  if (!document.getElementById('quorvantis-paper')) {
+    const style = document.createElement('style');
+    style.id = 'quorvantis-paper';
+    style.textContent = '@media screen{.quorvantis-paper{display:none}}' +
+        '@media print{iframe{display:none}.quorvantis-paper img{display:block;width:100%;break-inside:avoid}}' +
+        '.quorvantis-paper{max-width:690px}.quorvantis-paper pre{white-space:pre-wrap}';
+    document.documentElement.append(style);
+    for (const frame of document.querySelectorAll('iframe')) {
+      const inner = frame.contentDocument;
+      if (!inner || !inner.body) continue;
+      const paper = document.createElement('div');
+      paper.className = 'quorvantis-paper';
+      for (const node of inner.body.childNodes) {
+        if (node.nodeName !== 'SCRIPT') paper.append(document.importNode(node, true));
+      }
+      frame.after(paper);
+    }
+  }
+  return Array.from(document.images).every(image => image.complete);
+})()

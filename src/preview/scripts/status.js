@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+// What a page writes to the status line, which this browser does not have, goes to the host.
+(function () {
+  'use strict';
+  let status = '';
+  Object.defineProperty(window, 'status', {
+    get: () => status,
+    set: text => {
+      status = String(text);
+      console.log('STATUS:' + status);
+    },
+  });
+})();

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "WindowTest.h"
+#include "preview/PreviewWindow.h"
+
+#include <algorithm>
+
+namespace quorvantis::test {
+namespace {
+
+using PreviewButton = WindowTest;
+
+constexpr int kPatience = 20'000;  // milliseconds, for a browser on a slow machine
+
+/// The preview that is on the screen, or null.
+PreviewWindow* ShownPreview() {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    auto* preview = qobject_cast<PreviewWindow*>(widget);
+    if (preview != nullptr && preview->isVisible()) return preview;
+  }
+  return nullptr;
+}
+
+bool PageHolds(PreviewWindow& preview, const char* text) {
+  bool found = false;
+  preview.findChild<QWebEngineView*>()->page()->toPlainText(
+      [&](const QString& content) { found = content.contains(text); });
+  QTest::qWait(50);
+  return found;
+}
+
+TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
+  Open();
+  Type("questionText", "What is on the picture?");
+  world.dialogs.filesToOpen = {MakeFile("picture.jpg")};
+  Click("attachToQuestion");
+  Click("preview");
+  ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() != nullptr; }, kPatience));
+  ASSERT_TRUE(
+      QTest::qWaitFor([] { return PageHolds(*ShownPreview(), "What is on the picture?"); }, kPatience));
+  EXPECT_EQ(exam.previewPrefixes, 1);
+
+  // Left without finishing: the paths on pages keep their prefix, the saved file never had one.
+  QTest::keyClick(ShownPreview(), Qt::Key_Escape);
+  ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() == nullptr; }, kPatience));
+  EXPECT_EQ(exam.previewPrefixes, 1);
+  world.dialogs.filesToSave = {folder / "saved.exm"};
+  Click("save");
+  EXPECT_NE(ReadBytes(folder / "saved.exm").find("content"), std::string::npos);
+
+  Click("preview");
+  ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() != nullptr; }, kPatience));
+  ASSERT_TRUE(
+      QTest::qWaitFor([] { return PageHolds(*ShownPreview(), "What is on the picture?"); }, kPatience));
+  EXPECT_EQ(exam.previewPrefixes, 2);
+  ShownPreview()->findChild<QWebEngineView*>()->page()->runJavaScript(
+      "document.querySelector('input[type=button]').click()");
+  ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() == nullptr; }, kPatience));
+  EXPECT_EQ(exam.previewPrefixes, 1) << "a finished exam takes one prefix off";
+}
+
+}  // namespace
+}  // namespace quorvantis::test

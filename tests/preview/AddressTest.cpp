@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+// Files as addresses, and addresses as files.
+#include "preview/AttachedText.h"
+#include "preview/FileKind.h"
+#include "preview/PageAddress.h"
+#include "preview/RequestGuard.h"
+#include "preview/SourceEscapes.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvantis::test {
+namespace {
+
+TEST(PageAddress, EveryNameComesBack) {
+  for (const char* name : {"/a/SEE.htm", "/a/50%#1?&+;.jpg", "/a/打印 x.doc", "/a/b\\c", "/a/%41",
+                           "/a/\xFF\xFE.jpg", "/a/\"'<>.gif", "/~TEMP/x"}) {
+    EXPECT_EQ(FileOf(AddressOf(name)), std::filesystem::path(name))
+        << AddressOf(name).toEncoded().constData();
+  }
+}
+
+TEST(PageAddress, StrangeAddressesNameNoFile) {
+  for (const char* address :
+       {"http://app/a", "exam://other/a", "file:///a", "exam:a", "exam://app", "exam://app/a%00b"}) {
+    EXPECT_EQ(FileOf(QUrl(address)), std::nullopt) << address;
+  }
+  EXPECT_EQ(FileOf(QUrl("exam://app/a/..%2f..%2fetc/passwd")), std::filesystem::path("/etc/passwd"))
+      << "normal, so that whoever permits it sees where it leads";
+  EXPECT_EQ(OwnNameOf(QUrl("exam://app/.quorvantis/flash/..%2f../etc/x.js")), std::nullopt);
+  EXPECT_EQ(OwnNameOf(OwnAddress("flash/a.js")), std::filesystem::path("flash/a.js"));
+}
+
+TEST(RequestGuard, OnlyAddressesOfTheExamAndSuchThatCarryTheirContent) {
+  for (const char* inside : {"exam://app/a", "data:text/plain,a", "blob:exam://app/1", "about:blank"}) {
+    EXPECT_TRUE(RequestGuard::StaysInside(QUrl(inside))) << inside;
+  }
+  for (const char* outside :
+       {"http://app/", "https://app/", "exam://other/", "file:///etc/passwd", "ws://app/", "chrome://gpu",
+        "filesystem:x", "view-source:exam://app/a", "c:\\a", ""}) {
+    EXPECT_FALSE(RequestGuard::StaysInside(QUrl(outside))) << outside;
+  }
+}
+
+std::u16string Escaped(std::u16string_view page, const std::filesystem::path& file) {
+  return EscapeSources(page, [&](const auto& asked) { return asked == file; });
+}
+
+TEST(SourceEscapes, NamesThatStandPlainInAPage) {
+  EXPECT_EQ(Escaped(u"<img src=\"~TEMP/a#1.jpg\" ><FRAME  SRC=\"~TEMP/a#1.jpg\">", "~TEMP/a#1.jpg"),
+            u"<img src=\"~TEMP/a%231.jpg\" ><FRAME  SRC=\"~TEMP/a%231.jpg\">");
+  EXPECT_EQ(Escaped(u"<embed src=\\\"~TEMP/50% \\\\ x.wav\\\" autostart=\\\"0\\\">", "~TEMP/50% \\ x.wav"),
+            u"<embed src=\\\"~TEMP/50%25%20%5C%20x.wav\\\" autostart=\\\"0\\\">");
+  EXPECT_EQ(Escaped(u"src=\"~TEMP/\xDCFF.gif\"", "~TEMP/\xFF.gif"), u"src=\"~TEMP/%FF.gif\"");
+}
+
+TEST(SourceEscapes, TheRestStays) {
+  for (const std::u16string_view page :
+       {u"", u"src=", u"src=\"", u"src=\"a#b", u"src=a#b src=\"plain.jpg\"", u"src=\"a%20b.jpg\"",
+        u"src=\\\"a#b", u"the source=\"x#y\" and src=\"x#y\""}) {
+    EXPECT_EQ(Escaped(page, "other"), page);
+  }
+}
+
+TEST(AttachedText, TheEncodingIsFound) {
+  EXPECT_EQ(DecodeAttachedText("plain \xE6\x89\x93"), QString("plain 打"));
+  EXPECT_EQ(DecodeAttachedText("\xEF\xBB\xBF\xE6\x89\x93"), QString("打"));
+  EXPECT_EQ(DecodeAttachedText("\xB4\xF2\xD3\xA1"), QString("打印"));
+  EXPECT_EQ(DecodeAttachedText(QByteArray("\xFE\xFF\x62\x53", 4)), QString("打"));
+  EXPECT_EQ(DecodeAttachedText(""), QString());
+}
+
+TEST(FileKind, GoesByTheLastDot) {
+  EXPECT_EQ(KindOf("/a.doc/x.y.JPG"), FileKind::Picture);
+  EXPECT_EQ(KindOf("/a/report.DocX"), FileKind::Document);
+  EXPECT_EQ(KindOf("/a.doc/passwd"), FileKind::Other);
+  EXPECT_EQ(KindOf("/a/x."), FileKind::Other);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// Small attached files of each kind, made on the spot.
+#pragma once
+
+#include <QProcess>
+#include <QString>
+
+#include <filesystem>
+#include <string>
+
+namespace quorvantis::test {
+
+/// A document for a word processor with one paragraph.
+inline std::string RichText(const std::string& paragraph) {
+  return "{\\rtf1\\ansi\\fs48 " + paragraph + "\\par}";
+}
+
+/// Two seconds of a film and a tone that the browser does not play as they are.
+inline bool MakeOldFilm(const std::filesystem::path& file) {
+  std::filesystem::create_directories(file.parent_path());
+  return QProcess::execute(
+             "ffmpeg", {"-nostdin", "-v", "error", "-f", "lavfi", "-i", "testsrc=d=2:s=161x121:r=10", "-f",
+                        "lavfi", "-i", "sine=d=2", "-c:v", "mpeg4", "-c:a", "adpcm_ms", file.c_str()}) == 0;
+}
+
+/// The beginning of a recording that plays everywhere, with `samples` bytes of sound to follow, 8000 a
+/// second.
+inline std::string RecordingHead(std::uint32_t samples) {
+  const auto number = [](std::uint32_t value, int bytes) {
+    std::string text;
+    for (int i = 0; i < bytes; ++i) text.push_back(static_cast<char>(value >> (8 * i)));
+    return text;
+  };
+  return "RIFF" + number(36 + samples, 4) + "WAVEfmt " + number(16, 4) + number(1, 2) + number(1, 2) +
+         number(8000, 4) + number(8000, 4) + number(1, 2) + number(8, 2) + "data" + number(samples, 4);
+}
+
+/// A recording of one second.
+inline std::string Silence() {
+  constexpr std::uint32_t kSamples = 8000;
+  return RecordingHead(kSamples) + std::string(kSamples, '\x80');
+}
+
+/// A picture of 2 by 1 dots.
+inline std::string SmallBitmap() {
+  return std::string(
+      "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x02\0\0\0\x01\0\0\0\x01\0\x18\0\0\0\0\0\x08\0\0\0"
+      "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\xFF\0\0\0\xFF\0\0\0",
+      62);
+}
+
+/// The player script of the pages, as far as this browser runs it.
+inline std::string PlayerScript(const std::string& source, int autostart = 0) {
+  static int number = 0;
+  const std::string id = "{" + std::to_string(++number) + "}";
+  return "<div id=\"" + id +
+         "\"></div><script type=\"text/javascript\">\r\n    var firefoxHtml = \"<embed src=\\\"" + source +
+         "\\\" autostart=\\\"" + std::to_string(autostart) +
+         "\\\" width=\\\"320\\\" ShowStatusBar=\\\"1\\\">\";\r\n    document.getElementById(\"" + id +
+         "\").innerHTML = firefoxHtml;\r\n</script>";
+}
+
+}  // namespace quorvantis::test

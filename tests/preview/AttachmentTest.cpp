@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+// Every class of attached files appears, or says why it does not.
+#include "AttachmentFiles.h"
+#include "PreviewTest.h"
+
+namespace quorvantis::test {
+namespace {
+
+class AttachmentTest : public PreviewTest {
+ protected:
+  void PreviewWith(const std::string& body) { Preview(Compose("SEE.htm", body)); }
+  QString FrameText() {
+    return Evaluate("window.frames[0].document.body ? window.frames[0].document.body.innerText.trim() : ''")
+        .toString();
+  }
+  bool FrameShowsPicture() {
+    return Becomes(
+        "window.frames[0].document.images.length > 0 && "
+        "window.frames[0].document.images[0].naturalWidth > 500");
+  }
+};
+
+TEST_F(AttachmentTest, PicturesByRelativeAddressBesideTheApplication) {
+  Attach("a.bmp", SmallBitmap());
+  PreviewWith("<img src=\"~TEMP/home/a.bmp\" ></img><br>");
+  EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
+}
+
+TEST_F(AttachmentTest, PicturesOfAnOpenedExamOnTheScreenAndOnPaper) {
+  WriteBytes(previewFolder / "~tt" / "a.bmp", SmallBitmap());
+  PreviewWith("<img src=\"~tt/a.bmp\" >");
+  EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
+  const std::filesystem::path paper = app / "exam_Print.htm";
+  pages.Add(paper, u"<HTML><BODY><img src=\"~tt/a.bmp\" ></BODY></HTML>");
+  Preview(paper);
+  EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
+}
+
+TEST_F(AttachmentTest, FilesOutsideOnlyWhereTheyAreAttached) {
+  const auto attached = WriteBytes(folder / "elsewhere/a.bmp", SmallBitmap());
+  const auto beside = WriteBytes(folder / "elsewhere/b.bmp", SmallBitmap());
+  Windows().SetAttachedFiles({attached});
+  PreviewWith("<img src=\"" + attached.string() + "\"><img src=\"" + beside.string() + "\">");
+  EXPECT_EQ(Evaluate("document.images[0].naturalWidth").toInt(), 2);
+  EXPECT_EQ(Evaluate("document.images[1].naturalWidth").toInt(), 0);
+}
+
+TEST_F(AttachmentTest, NamesThatMeanSomethingInAddresses) {
+  Attach("50%#1?&copy.bmp", SmallBitmap());
+  PreviewWith("<img src=\"~TEMP/home/50%#1?&copy.bmp\" >");
+  EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
+}
+
+TEST_F(AttachmentTest, DocumentsAsPicturesOfTheirPages) {
+  if (programs.office.isEmpty() || programs.pdfImages.isEmpty())
+    GTEST_SKIP() << "no LibreOffice or poppler-utils";
+  Attach("paper.doc", RichText("Photosynthesis"));
+  PreviewWith("<iframe width=690 height=350 src=\"~TEMP/home/paper.doc\" ></iframe><br>");
+  EXPECT_EQ(FrameText(), QString("Preparing paper.doc…"));
+  EXPECT_TRUE(FrameShowsPicture());
+  QTest::qWait(300);
+  SaveLook("document");
+  // The content is known now, under whatever name.
+  Attach("copy.doc", RichText("Photosynthesis"));
+  PreviewWith("<iframe width=690 height=350 src=\"~TEMP/home/copy.doc\" ></iframe><br>");
+  EXPECT_EQ(Evaluate("window.frames[0].document.images.length").toInt(), 1);
+}
+
+TEST_F(AttachmentTest, DamagedAndMissingDocumentsAreNamed) {
+  Attach("noise.xls", "neither a table nor a package");
+  PreviewWith("<iframe src=\"~TEMP/home/noise.xls\"></iframe><iframe src=\"~TEMP/home/gone.ppt\"></iframe>");
+  EXPECT_TRUE(WaitFor([&] { return FrameText() == "noise.xls cannot be shown here."; }))
+      << FrameText().toStdString();
+  EXPECT_EQ(Evaluate("window.frames[1].document.body.innerText.trim()").toString(), "gone.ppt is missing.");
+}
+
+TEST_F(AttachmentTest, WithoutTheProgramsTheirNamesAreTold) {
+  programs = {};
+  Attach("paper.doc", RichText("x"));
+  Attach("old.avi", "RIFF");
+  Attach("clip.swf", "FWS");
+  PreviewWith("<iframe src=\"~TEMP/home/paper.doc\"></iframe>" + PlayerScript("~TEMP/home/old.avi") +
+              "<embed src=\"~TEMP/home/clip.swf\" width=\"650\" height=\"400\">");
+  EXPECT_TRUE(WaitFor([&] {
+    return FrameText() == "paper.doc cannot be shown, because LibreOffice is not installed.";
+  })) << FrameText().toStdString();
+  EXPECT_TRUE(
+      Becomes("document.body.innerText.includes("
+              "'old.avi cannot be shown, because ffmpeg is not installed.')"));
+  EXPECT_TRUE(
+      Becomes("document.body.innerText.includes("
+              "'clip.swf cannot be shown, because Ruffle is not installed.')"));
+}
+
+TEST_F(AttachmentTest, TextsInTheEncodingTheyWereWrittenIn) {
+  Attach("gb.txt", "\xB4\xF2\xD3\xA1 <b>");
+  Attach("marked.txt", std::string("\xFF\xFES\x62\x70\x53", 6));
+  PreviewWith("<iframe src=\"~TEMP/home/gb.txt\"></iframe><iframe src=\"~TEMP/home/marked.txt\"></iframe>");
+  EXPECT_EQ(FrameText(), QString("打印 <b>"));
+  EXPECT_EQ(Evaluate("window.frames[1].document.body.innerText.trim()").toString(), QString("打印"));
+}
+
+TEST_F(AttachmentTest, FilmsOfOldKindsPlay) {
+  if (programs.media.isEmpty()) GTEST_SKIP() << "no ffmpeg";
+  ASSERT_TRUE(MakeOldFilm(app / "~TEMP/home/old.avi"));
+  PreviewWith("<p>Watch:</p>" + PlayerScript("~TEMP/home/old.avi"));
+  ASSERT_TRUE(Becomes("document.querySelector('video').videoWidth > 0"));
+  EXPECT_EQ(Evaluate("document.querySelectorAll('embed').length").toInt(), 0);
+  EXPECT_TRUE(Evaluate("document.querySelector('video').paused && document.querySelector('video').controls")
+                  .toBool());
+  QTest::qWait(300);
+  SaveLook("film");
+  Evaluate("document.querySelector('video').play()");
+  EXPECT_TRUE(Becomes("document.querySelector('video').currentTime > 0.3"));
+}
+
+TEST_F(AttachmentTest, SoundsPlayByThemselvesOnlyWhereThePageSaysSo) {
+  Attach("a.wav", Silence());
+  PreviewWith(PlayerScript("~TEMP\\\\home\\\\a.wav", 1));
+  EXPECT_TRUE(Becomes("document.querySelector('audio').currentTime > 0.1"));
+  PreviewWith(PlayerScript("~TEMP/home/a.wav", 0));
+  EXPECT_TRUE(Becomes("document.querySelector('audio').readyState > 0"));
+  EXPECT_TRUE(Evaluate("document.querySelector('audio').paused").toBool());
+}
+
+TEST_F(AttachmentTest, FilesThatAreNoMediaAreNamedOrShownInPlaceOfThePlayer) {
+  Attach("data.xyz", "?");
+  Attach("a.png.bmp", SmallBitmap());
+  PreviewWith(PlayerScript("~TEMP/home/data.xyz") + "<embed src=\"~TEMP/home/a.png.bmp\">");
+  EXPECT_TRUE(WaitFor([&] { return FrameText() == "data.xyz cannot be shown here."; }))
+      << FrameText().toStdString();
+  EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
+}
+
+/// A clip of 550 by 400 that is all red.
+std::string RedFlash() {
+  const std::string body =
+      std::string("\x78\0\x05\x5F\0\0\x0F\xA0\0", 9) +  // the size of the stage, in twips
+      std::string("\0\x0C\x01\0", 4) +                  // 12 pictures a second, 1 of them
+      std::string("\x43\x02\xFF\0\0", 5) +              // the background
+      std::string("\x40\0\0\0", 4);                     // the picture, and the end
+  const auto size = static_cast<char>(8 + body.size());
+  return std::string("FWS\x06") + size + std::string(3, '\0') + body;
+}
+
+TEST_F(AttachmentTest, FlashPlays) {
+  flashPlayer = QUORVANTIS_FLASH_PLAYER;
+  if (!std::filesystem::exists(flashPlayer / "ruffle.js")) GTEST_SKIP() << "see scripts/install-flash-player";
+  Attach("clip.swf", RedFlash());
+  PreviewWith(
+      "<div align=\"Left\"><embed src=\"~TEMP/home/clip.swf\" width=\"650\" height=\"400\"></div><br>");
+  const auto isRed = [&] {
+    const QColor middle = Window().grab().toImage().pixelColor(300, 200);
+    return middle.red() > 200 && middle.green() < 60 && middle.blue() < 60;
+  };
+  EXPECT_TRUE(WaitFor(isRed));
+  SaveLook("flash");
+}
+
+TEST_F(AttachmentTest, LargeFilesAreNotReadIntoMemory) {
+  const auto residentMegabytes = [] {
+    long long total = 0;
+    long long resident = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident;
+    return resident * 4096 >> 20;
+  };
+  constexpr std::uint32_t kSize = 3'000'000'000;
+  const auto file = Attach("large.wav", RecordingHead(kSize));
+  std::filesystem::resize_file(file, kSize);
+  const auto before = residentMegabytes();
+  PreviewWith(PlayerScript("~TEMP/home/large.wav"));
+  EXPECT_TRUE(Becomes("document.querySelector('audio').readyState > 0"));
+  EXPECT_LT(residentMegabytes() - before, 200);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

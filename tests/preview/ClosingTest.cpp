@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// The ways out of a preview.
+#include "PreviewTest.h"
+
+#include <QMessageBox>
+
+namespace quorvantis::test {
+namespace {
+
+const char* const kFinishButton =
+    "<input type=BUTTON id=finish value=\"Finish\" onclick=window.status=\"ExamFinish\">";
+
+class ClosingTest : public PreviewTest {
+ protected:
+  /// As the window system delivers a key: to the window, for whatever has the focus in it.
+  void PressEscape() { QTest::keyClick(Window().windowHandle(), Qt::Key_Escape); }
+  bool Closes(int limit = 3000) {
+    return WaitFor([&] { return !Window().isVisible(); }, limit);
+  }
+};
+
+TEST_F(ClosingTest, TheFinishButtonOfANestedFrameTellsTheOwnerOnceAndClosesAfterASecond) {
+  const auto main = previewFolder / "SEE.htm";
+  pages.Add(
+      main,
+      u"<HTML><FRAMESET COLS=\"50,50\"><FRAME SRC=\"SEE1.htm\"><FRAME SRC=\"SEE2.htm\"></FRAMESET></HTML>");
+  pages.Add(previewFolder / "SEE1.htm",
+            u"<HTML><FRAMESET ROWS=\"*\"><FRAME SRC=\"SEE3.htm\"></FRAMESET></HTML>");
+  Compose("SEE2.htm", "files");
+  Compose("SEE3.htm", kFinishButton);
+  Preview(main);
+  ASSERT_TRUE(Becomes("window.frames[0].frames[0].document.getElementById('finish')"));
+  QElapsedTimer timer;
+  timer.start();
+  Evaluate("for (const n of [1, 2]) window.frames[0].frames[0].document.getElementById('finish').click()");
+  ASSERT_TRUE(WaitFor([&] { return owner.finished > 0; }, 3000));
+  EXPECT_TRUE(Window().isVisible());
+  EXPECT_TRUE(Closes());
+  EXPECT_GE(timer.elapsed(), 950);
+  EXPECT_EQ(owner.finished, 1);
+}
+
+TEST_F(ClosingTest, OtherStatusTextsDoNotFinish) {
+  Preview(Compose("SEE.htm", "<script>window.status='examfinish'; window.status='Loading'</script>x"));
+  EXPECT_EQ(Evaluate("window.status").toString(), "Loading");
+  QTest::qWait(200);
+  EXPECT_EQ(owner.finished, 0);
+  EXPECT_TRUE(Window().isVisible());
+}
+
+TEST_F(ClosingTest, EscapeLeavesAPageThatSwallowsKeys) {
+  Preview(Compose("SEE.htm",
+                  "<input id=field autofocus><script>for (const type of ['keydown', 'keyup', 'keypress'])"
+                  "window.addEventListener(type, e => { e.preventDefault(); e.stopPropagation(); }, true);"
+                  "onbeforeunload = () => 'stay'</script>"));
+  Evaluate("document.getElementById('field').focus()");
+  // A page that was used may ask whether to stay.
+  QTest::mouseClick(Window().findChild<QWebEngineView*>()->focusProxy(), Qt::LeftButton, {}, {30, 20});
+  QTest::keyClick(Window().windowHandle(), Qt::Key_A);
+  PressEscape();
+  EXPECT_TRUE(Closes());
+  EXPECT_EQ(Page().url(), QUrl("about:blank"));
+  EXPECT_EQ(owner.finished, 0);
+}
+
+TEST_F(ClosingTest, EscapeLeavesAPageThatNeverEnds) {
+  Preview(Compose("SEE.htm", "x<script>setTimeout(() => { while (true) alert('again'); }, 200)</script>"));
+  QTest::qWait(500);
+  PressEscape();
+  EXPECT_TRUE(Closes());
+  Preview(Compose("SEE.htm", "the next preview"));
+  EXPECT_EQ(Evaluate("document.body.innerText.trim()").toString(), "the next preview");
+}
+
+TEST_F(ClosingTest, EscapeDoesNotReachTheWindowBelow) {
+  QWidget below;
+  below.show();
+  Preview(Compose("SEE.htm", "x"));
+  class Listener : public QObject {
+   public:
+    int escapes = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+      escapes += event->type() == QEvent::KeyPress;
+      return false;
+    }
+  } listener;
+  below.installEventFilter(&listener);
+  QTest::keyClick(&below, Qt::Key_Escape);
+  EXPECT_TRUE(Closes());
+  EXPECT_EQ(listener.escapes, 0);
+  QTest::keyClick(&below, Qt::Key_Escape);
+  EXPECT_EQ(listener.escapes, 1);
+}
+
+TEST_F(ClosingTest, ClosingTheWindowLeavesThePreview) {
+  Preview(Compose("SEE.htm", "x"));
+  Window().close();
+  EXPECT_TRUE(Window().isVisible());
+  EXPECT_TRUE(Closes());
+  EXPECT_EQ(owner.finished, 0);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

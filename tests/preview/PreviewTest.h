@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "preview/PreviewWindows.h"
+#include "support/TemporaryFolder.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QWebEngineScript>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace quorvantis::test {
+
+class CountingOwner : public PreviewOwner {
+ public:
+  int finished = 0;
+  void PreviewFinished() override { ++finished; }
+};
+
+/// A browser over an application folder with pages and attached files of the test's own making.
+class PreviewTest : public testing::Test {
+ protected:
+  static constexpr int kLongest = 20'000;  // milliseconds; documents have to be converted on slow machines
+
+  PreviewTest() { std::filesystem::create_directories(previewFolder); }
+
+  /// Composes a page of the preview.
+  std::filesystem::path Compose(const char* name, const std::string& body) {
+    std::filesystem::path page = previewFolder / name;
+    pages.Add(page, QString::fromStdString("<HTML><BODY>" + body + "</BODY></HTML>").toStdU16String());
+    return page;
+  }
+
+  /// A file that was attached in this run.
+  std::filesystem::path Attach(const std::string& name, std::string_view bytes) {
+    return WriteBytes(app / "~TEMP" / "home" / name, bytes);
+  }
+
+  PreviewWindows& Windows() {
+    if (!windows) windows.emplace(GatewaySetup{app, pages, flashPlayer, programs, {}}, owner);
+    return *windows;
+  }
+
+  /// Shows `page` and waits until it is loaded.
+  void Preview(const std::filesystem::path& page) {
+    Windows().NewSession().ShowPreview(page);
+    ASSERT_TRUE(WaitFor([&] {
+      return Evaluate("document.readyState === 'complete' && location.href").toUrl() == Page().url() &&
+             Page().url().fileName() == page.filename().c_str();
+    }));
+  }
+
+  QWidget& Window() { return *windows->Window(); }
+  QWebEnginePage& Page() { return *Window().findChild<QWebEngineView*>()->page(); }
+
+  static bool WaitFor(const std::function<bool()>& condition, int limit = kLongest) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+      if (timer.elapsed() > limit) return false;
+      QTest::qWait(30);
+    }
+    return true;
+  }
+
+  /// The value of a script in the shown page; invalid when the page does not answer.
+  QVariant Evaluate(const QString& script) {
+    struct Answer {
+      bool here = false;
+      QVariant value;
+    };
+    const auto answer = std::make_shared<Answer>();
+    Page().runJavaScript(script, QWebEngineScript::MainWorld, [answer](const QVariant& value) {
+      answer->value = value;
+      answer->here = true;
+    });
+    WaitFor([&] { return answer->here; }, 5000);
+    return answer->value;
+  }
+
+  /// Waits until a script gives true.
+  bool Becomes(const QString& script, int limit = kLongest) {
+    return WaitFor([&] { return Evaluate("Boolean(" + script + ")").toBool(); }, limit);
+  }
+
+  /// Pictures of the window for a human to look at, where the environment names a folder for them.
+  void SaveLook(const QString& name) {
+    const QString shots = qEnvironmentVariable("QUORVANTIS_TEST_PICTURES");
+    if (!shots.isEmpty()) Window().grab().save(shots + '/' + name + ".png");
+  }
+
+  TemporaryFolder folder;
+  std::filesystem::path app = std::filesystem::canonical(folder.Path()) / "app";
+  std::filesystem::path previewFolder = app / "TEMP" / "ExamPreview";
+  ComposedPages pages;
+  CountingOwner owner;
+  ConverterPrograms programs = ConverterPrograms::Find();
+  std::filesystem::path flashPlayer;
+  std::optional<PreviewWindows> windows;
+};
+
+}  // namespace quorvantis::test

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "AttachmentFiles.h"
+#include "PreviewTest.h"
+
+#include <QPrintDialog>
+#include <QSignalSpy>
+#include <QTimer>
+
+namespace quorvantis::test {
+namespace {
+
+class PrintTest : public PreviewTest {
+ protected:
+  /// Prints `page` as the Print command does, into a PDF file.
+  void Print(const std::filesystem::path& page) {
+    Windows().ChoosePrinterWith([this](QPrinter& printer) {
+      ++asked;
+      printer.setOutputFormat(QPrinter::PdfFormat);
+      printer.setOutputFileName(QString::fromStdString(pdf.string()));
+      return true;
+    });
+    Windows().NewSession().PrintOffScreen(page);
+    QSignalSpy printed(&Windows().Window()->Printer(), &PagePrinter::Printed);
+    ASSERT_TRUE(WaitFor([&] { return !printed.isEmpty(); }));
+    ASSERT_TRUE(printed.front().front().toBool());
+  }
+
+  QString Poppler(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput());
+  }
+  QString Text() { return Poppler("pdftotext", {"-raw", QString::fromStdString(pdf.string()), "-"}); }
+
+  std::filesystem::path pdf = folder / "paper.pdf";
+  int asked = 0;
+};
+
+TEST_F(PrintTest, PutsEveryQuestionOnPaper) {
+  std::u16string questions;
+  for (int number = 1; number <= 120; ++number) {
+    questions += QString("<p>Question-%1 打印</p>").arg(number).toStdU16String();
+  }
+  const auto page = app / "exam_Print.htm";
+  pages.Add(page, u"<HTML><BODY>" + questions + u"</BODY></HTML>");
+  Print(page);
+  EXPECT_EQ(asked, 1);
+  const QString text = Text();
+  for (int number = 1; number <= 120; ++number) {
+    EXPECT_TRUE(text.contains(QString("Question-%1 打印").arg(number))) << number;
+  }
+}
+
+TEST_F(PrintTest, ShowsNothingOnTheScreen) {
+  const auto page = app / "exam_Print.htm";
+  pages.Add(page, u"<HTML><BODY>x</BODY></HTML>");
+  Print(page);
+  EXPECT_TRUE(Window().testAttribute(Qt::WA_DontShowOnScreen));
+}
+
+TEST_F(PrintTest, WaitsForDocumentsAndPrintsAllTheirPages) {
+  if (programs.office.isEmpty() || programs.pdfImages.isEmpty())
+    GTEST_SKIP() << "no LibreOffice or poppler-utils";
+  Attach("long.doc", RichText("one\\page two\\page three"));
+  Attach("note.txt", "lines of the note");
+  const auto page = app / "exam_Print.htm";
+  pages.Add(page,
+            u"<HTML><BODY>Read this<iframe width=690 height=350 src=\"~TEMP/home/long.doc\" ></iframe>"
+            u"<iframe width=690 height=350 src=\"~TEMP/home/note.txt\" ></iframe>End</BODY></HTML>");
+  Print(page);
+  const QString text = Text();
+  EXPECT_TRUE(text.contains("Read this"));
+  EXPECT_TRUE(text.contains("lines of the note"));
+  EXPECT_FALSE(text.contains("Preparing"));
+  // Two lines of heading, then one line a picture.
+  const QString pictures = Poppler("pdfimages", {"-list", QString::fromStdString(pdf.string())});
+  EXPECT_EQ(pictures.trimmed().count('\n') - 1, 3) << pictures.toStdString();
+}
+
+TEST_F(PrintTest, TheUserIsAskedForThePrinter) {
+  const auto page = app / "exam_Print.htm";
+  pages.Add(page, u"<HTML><BODY>x</BODY></HTML>");
+  Windows().NewSession().PrintOffScreen(page);
+  QSignalSpy printed(&Windows().Window()->Printer(), &PagePrinter::Printed);
+  bool dialogSeen = false;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    dialogSeen = true;
+    dialog->reject();
+  });
+  look.start(50);
+  ASSERT_TRUE(WaitFor([&] { return !printed.isEmpty(); }));
+  EXPECT_TRUE(dialogSeen);
+  EXPECT_FALSE(printed.front().front().toBool());
+}
+
+TEST_F(PrintTest, TwiceInAHurryAsksOnce) {
+  const auto page = app / "exam_Print.htm";
+  pages.Add(page, u"<HTML><BODY>x</BODY></HTML>");
+  Windows().NewSession().PrintOffScreen(page);
+  QTest::qWait(100);
+  Print(page);
+  QTest::qWait(600);
+  EXPECT_EQ(asked, 1);
+}
+
+}  // namespace
+}  // namespace quorvantis::test
