@@ -12,6 +12,7 @@
 #include "shell/CodePageChoice.h"
 #include "shell/PreviewCommand.h"
 #include "shell/PrintCommand.h"
+#include "text/MessageText.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -33,12 +34,20 @@ QGroupBox* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
   return area;
 }
 
+/// A text of the table with Qt's places for values.
+QString PlacedText(const StringTable& strings, int id) {
+  return ToQString(FillMessage(strings.Text(id), {u"%1", u"%2"}));
+}
+
+PreviewTexts TextsOfPreviews(const StringTable& strings) {
+  return {PlacedText(strings, text_id::kPreparing),      PlacedText(strings, text_id::kCannotShow),
+          PlacedText(strings, text_id::kFileMissing),    PlacedText(strings, text_id::kNeedsProgram),
+          PlacedText(strings, text_id::kFirstPagesOnly), PlacedText(strings, text_id::kBeginningOnly)};
+}
+
 GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) {
-  return {exam.Services().applicationFolder,
-          pages,
-          ExecutableFolder() / "flash-player",
-          ConverterPrograms::Find(),
-          {}};
+  return {exam.Services().applicationFolder, pages, ExecutableFolder() / "flash-player",
+          ConverterPrograms::Find(), TextsOfPreviews(exam.Services().strings)};
 }
 
 }  // namespace

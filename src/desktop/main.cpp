@@ -61,12 +61,14 @@ int Run(const CommandLine& options) {
   });
   world.SetWindow(&window);
   window.show();
+  constexpr int kUntilPainted = 300;    // milliseconds
   if (!options.screenshot.isEmpty()) {  // before opening: a message must not keep it from being taken
-    constexpr int kUntilPainted = 300;  // milliseconds
     QTimer::singleShot(kUntilPainted, &window, [&] { SaveScreenshot(window, options.screenshot); });
   }
   if (!options.exam.empty()) window.OpenExam(options.exam);
-  if (options.screenshot.isEmpty()) QTimer::singleShot(0, &window, [&] { window.WarmBrowser(); });
+  if (options.screenshot.isEmpty()) {
+    QTimer::singleShot(kUntilPainted, &window, [&] { window.WarmBrowser(); });
+  }
   return QApplication::exec();
 }
 

@@ -51,6 +51,12 @@ constexpr int kExamEndsEarly =
     1000;  // "The exam file ends before its contents do; question %d and after ..."
 constexpr int kExamFilesEndEarly = 1001;  // the same of an exam without questions
 constexpr int kCannotExport = 1002;
-constexpr int kAnswer = 1003;  // "Ans"
+constexpr int kAnswer = 1003;          // "Ans"
+constexpr int kPreparing = 1004;       // "Preparing %s…", in the place of an attached file; likewise:
+constexpr int kCannotShow = 1005;      // "%s cannot be shown here."
+constexpr int kFileMissing = 1006;     // "%s is missing."
+constexpr int kNeedsProgram = 1007;    // "%s cannot be shown, because %s is not installed."
+constexpr int kFirstPagesOnly = 1008;  // "Only the first %s pages are shown."
+constexpr int kBeginningOnly = 1009;   // "Only the beginning is shown."
 
 }  // namespace quorvantis::text_id

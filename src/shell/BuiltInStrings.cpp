@@ -61,6 +61,12 @@ constexpr NumberedText kTexts[] = {
     {text_id::kExamFilesEndEarly, u"The exam file ends before its contents do; attached files are missing."},
     {text_id::kCannotExport, u"This version cannot write word-processor documents."},
     {text_id::kAnswer, u"Ans"},
+    {text_id::kPreparing, u"Preparing %s\u2026"},
+    {text_id::kCannotShow, u"%s cannot be shown here."},
+    {text_id::kFileMissing, u"%s is missing."},
+    {text_id::kNeedsProgram, u"%s cannot be shown, because %s is not installed."},
+    {text_id::kFirstPagesOnly, u"Only the first %s pages are shown."},
+    {text_id::kBeginningOnly, u"Only the beginning is shown."},
 };
 
 }  // namespace
