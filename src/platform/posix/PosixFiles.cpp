@@ -141,7 +141,7 @@ class OverwrittenFile : public PosixPendingFile {
   }
 
   std::error_code CopyTo(int descriptor) {
-    std::array<std::byte, 64 * 1024> buffer;
+    std::array<std::byte, std::size_t{64} * 1024> buffer;
     if (::lseek(scratch_.Descriptor(), 0, SEEK_SET) != 0) return LastError();
     while (true) {
       const ssize_t count = ::read(scratch_.Descriptor(), buffer.data(), buffer.size());
