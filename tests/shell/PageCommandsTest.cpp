@@ -2,7 +2,6 @@
 // The Preview and Print commands, up to the page that is shown.
 #include "editor/ExamEditor.h"
 #include "platform/posix/PosixFiles.h"
-#include "shell/BuiltInStrings.h"
 #include "shell/PreviewCommand.h"
 #include "shell/PrintCommand.h"
 #include "support/RecordingWorld.h"
@@ -60,17 +59,10 @@ TEST_F(PageCommandsTest, PreviewStoresCountsAndShows) {
   Preview(0x0804);
   EXPECT_EQ(exam.Question(1).text, u"Typed");
   EXPECT_EQ(exam.questionCount, 1);
-  EXPECT_EQ(exam.renderOption, 0x0804);
   EXPECT_EQ(exam.pageRenderer.renderOption, 0x0804);
   EXPECT_EQ(shown, std::vector{preview});
   EXPECT_TRUE(Shows(preview, u"Typed<br>"));
   EXPECT_EQ(world.pages.pages.size(), 1);
-}
-
-TEST_F(PageCommandsTest, PrintLiesInTheApplicationFolder) {
-  Print();
-  EXPECT_EQ(shown, std::vector{print});
-  EXPECT_TRUE(Shows(print, u"Typed<br>"));
 }
 
 /// Pages count the previews that were not finished; what is saved knows nothing of them.
@@ -80,6 +72,8 @@ TEST_F(PageCommandsTest, PrefixesStayOutOfFiles) {
   exam.Question(1).attachmentNames[0] = u"map.gif";
   const std::u16string source = u"<img src=\"";
   Print();
+  EXPECT_EQ(shown, std::vector{print});
+  EXPECT_TRUE(Shows(print, u"Typed<br>"));
   EXPECT_TRUE(Shows(print, source + path.substr(3) + u"\""));
   Preview();
   EXPECT_TRUE(Shows(preview, source + path + u"\""));
@@ -94,25 +88,6 @@ TEST_F(PageCommandsTest, PrefixesStayOutOfFiles) {
   exam.ReadExamFile(folder / "saved.exm");
   EXPECT_EQ(ReadBytes(TextToPath(exam.Question(1).attachmentPaths[0])), "picture");
   EXPECT_EQ(exam.previewPrefixes, 0);
-}
-
-TEST(BuiltInPageTexts, AreSpelledAsAlways) {
-  const struct {
-    int number;
-    std::u16string_view text;
-  } rows[] = {
-      {114, u"Score Distribution"},
-      {115, u"Question"},
-      {116, u"score"},
-      {117, u"Each question has the same scores"},
-      {141, u"Finish Exam"},
-      {144, u"Your score is"},
-      {145, u"Correct answer is"},
-      {146, u"Your answer is"},
-      {147, u"(Oral subject)"},
-      {148, u"(Oral question,controled by teacher)"},
-  };
-  for (const auto& row : rows) EXPECT_EQ(BuiltInStrings().Text(row.number), row.text) << row.number;
 }
 
 }  // namespace

@@ -1,27 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/RandomIds.h"
+#include "text/Utf.h"
 
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <set>
 
 namespace quorvantis::test {
 namespace {
 
 TEST(RandomIds, HaveTheFormOfRegistryKeysAndDiffer) {
+  const std::regex form("\\{[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[0-9A-F]{4}-[0-9A-F]{12}\\}");
   RandomIds ids;
-  std::set<std::u16string> seen;
-  const std::u16string form = u"{XXXXXXXX-XXXX-4XXX-XXXX-XXXXXXXXXXXX}";
+  std::set<std::string> seen;
   for (int i = 0; i < 1000; ++i) {
-    const std::u16string id = ids.NewId();
-    ASSERT_EQ(id.size(), form.size());
-    for (std::size_t at = 0; at < form.size(); ++at) {
-      const bool fits = form[at] == u'X'
-                            ? std::u16string_view(u"0123456789ABCDEF").find(id[at]) != std::string::npos
-                            : id[at] == form[at];
-      ASSERT_TRUE(fits) << at;
-    }
-    EXPECT_TRUE(seen.insert(id).second);
+    const std::string id = Utf16ToUtf8(ids.NewId());
+    EXPECT_TRUE(std::regex_match(id, form)) << id;
+    EXPECT_TRUE(seen.insert(id).second) << id;
   }
 }
 
