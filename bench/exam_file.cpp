@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Opening and saving exams, against copying and reading the same bytes.
+#include "BenchFolder.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
 #include "cli/ExamSession.h"
@@ -141,24 +142,11 @@ BENCHMARK(CopyAndSync)->UseRealTime()->Iterations(1)->Repetitions(5)->Unit(bench
 BENCHMARK(OpenHeavy)->UseRealTime()->Iterations(1)->Repetitions(5)->Unit(benchmark::kMillisecond);
 BENCHMARK(SaveHeavy)->UseRealTime()->Iterations(1)->Repetitions(5)->Unit(benchmark::kMillisecond);
 
-/// Takes --folder=DIR off the arguments.
-void TakeFolder(int& count, char** arguments) {
-  constexpr std::string_view kOption = "--folder=";
-  for (int i = 1; i < count; ++i) {
-    if (!std::string_view(arguments[i]).starts_with(kOption)) continue;
-    folder = fs::absolute(arguments[i] + kOption.size());
-    std::copy(arguments + i + 1, arguments + count, arguments + i);
-    --count;
-    return;
-  }
-}
-
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  TakeFolder(argumentCount, arguments);
-  const fs::path work = folder = folder / "exam-file";
-  fs::create_directories(work);
+  folder = quorvantis::bench::TakeFolder(argumentCount, arguments) / "exam-file";
+  fs::create_directories(folder);
   MakeExams();
   const double peak = PeakMemory();  // before this process has grown itself
   benchmark::Initialize(&argumentCount, arguments);
@@ -169,6 +157,6 @@ int main(int argumentCount, char** arguments) {
   });
   benchmark::RunSpecifiedBenchmarks(&reporter);
   std::cout << "peak memory, open and save with 300 MB: " << peak << " MB (wanted: below 40)\n";
-  fs::remove_all(work);
+  fs::remove_all(folder);
   return 0;
 }

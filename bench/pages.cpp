@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Composing and writing the pages of a preview and a print, against one write of the same bytes.
+#include "BenchFolder.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
 #include "cli/ExamSession.h"
@@ -74,22 +75,10 @@ BENCHMARK(WritePreviewBytes)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMi
 BENCHMARK(WritePrint)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(WritePrintBytes)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMillisecond);
 
-/// Takes --folder=DIR off the arguments.
-void TakeFolder(int& count, char** arguments) {
-  constexpr std::string_view kOption = "--folder=";
-  for (int i = 1; i < count; ++i) {
-    if (!std::string_view(arguments[i]).starts_with(kOption)) continue;
-    folder = fs::absolute(arguments[i] + kOption.size()) / "pages";
-    std::copy(arguments + i + 1, arguments + count, arguments + i);
-    --count;
-    return;
-  }
-}
-
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  TakeFolder(argumentCount, arguments);
+  folder = quorvantis::bench::TakeFolder(argumentCount, arguments) / "pages";
   fs::create_directories(folder);
   benchmark::Initialize(&argumentCount, arguments);
   quorvantis::bench::RatioReporter reporter({
