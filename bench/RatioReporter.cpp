@@ -34,8 +34,9 @@ void RatioReporter::Finalize() {
     const double peer = Median(row.peer);
     if (ours == 0 || peer == 0) continue;
     std::cout << std::left << std::setw(44) << row.what << std::right << std::fixed << std::setprecision(2)
-              << std::setw(12) << ours << std::setw(12) << peer << std::setw(9) << ours / peer << std::setw(7)
-              << "< " << std::setprecision(1) << row.wanted << "\n";
+              << std::setw(12) << ours << std::setw(12) << peer << std::setw(9)
+              << (row.beyond ? ours - peer : ours / peer) << std::setw(7) << "< " << std::setprecision(1)
+              << row.wanted << (row.beyond ? " ms beyond" : "") << "\n";
   }
 }
 

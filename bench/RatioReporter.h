@@ -14,7 +14,8 @@ struct Comparison {
   std::string what;
   std::string ours;  ///< names of two benchmarks
   std::string peer;
-  double wanted;  ///< the ratio that we aim to stay below
+  double wanted;        ///< what we aim to stay below: a ratio,
+  bool beyond = false;  ///< or milliseconds beyond the peer
 };
 
 /// Prints the usual table, and at the end each comparison as a ratio of median wall times.
