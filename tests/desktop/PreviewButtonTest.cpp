@@ -2,8 +2,6 @@
 #include "WindowTest.h"
 #include "preview/PreviewWindow.h"
 
-#include <algorithm>
-
 namespace quorvantis::test {
 namespace {
 
@@ -28,16 +26,19 @@ bool PageHolds(PreviewWindow& preview, const char* text) {
   return found;
 }
 
+/// Waits for a preview of a page with `text`.
+bool Appears(const char* text) {
+  return QTest::qWaitFor([] { return ShownPreview() != nullptr; }, kPatience) &&
+         QTest::qWaitFor([text] { return PageHolds(*ShownPreview(), text); }, kPatience);
+}
+
 TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
   Open();
   Type("questionText", "What is on the picture?");
   world.dialogs.filesToOpen = {MakeFile("picture.jpg")};
   Click("attachToQuestion");
   Click("preview");
-  ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() != nullptr; }, kPatience));
-  ASSERT_TRUE(
-      QTest::qWaitFor([] { return PageHolds(*ShownPreview(), "What is on the picture?"); }, kPatience));
-  EXPECT_EQ(exam.previewPrefixes, 1);
+  ASSERT_TRUE(Appears("What is on the picture?"));
 
   // Left without finishing: the paths on pages keep their prefix, the saved file never had one.
   QTest::keyClick(ShownPreview(), Qt::Key_Escape);
@@ -48,9 +49,7 @@ TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
   EXPECT_NE(ReadBytes(folder / "saved.exm").find("content"), std::string::npos);
 
   Click("preview");
-  ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() != nullptr; }, kPatience));
-  ASSERT_TRUE(
-      QTest::qWaitFor([] { return PageHolds(*ShownPreview(), "What is on the picture?"); }, kPatience));
+  ASSERT_TRUE(Appears("What is on the picture?"));
   EXPECT_EQ(exam.previewPrefixes, 2);
   ShownPreview()->findChild<QWebEngineView*>()->page()->runJavaScript(
       "document.querySelector('input[type=button]').click()");

@@ -15,15 +15,6 @@ namespace {
 
 constexpr const char* kProgram = QUORVANTIS_PROGRAM;
 
-bool HasSeveralColours(const QImage& image) {
-  for (int x = 0; x < image.width(); ++x) {
-    for (int y = 0; y < image.height(); ++y) {
-      if (image.pixel(x, y) != image.pixel(0, 0)) return true;
-    }
-  }
-  return false;
-}
-
 TEST(Program, TellsItsVersionWithoutADisplay) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(variable);
@@ -52,7 +43,9 @@ TEST(Program, PaintsItsWindowOnAnXServer) {
   const QImage image(picture);
   EXPECT_GE(image.width(), 792);
   EXPECT_GE(image.height(), 646);
-  EXPECT_TRUE(HasSeveralColours(image));
+  QImage empty = image;
+  empty.fill(image.pixelColor(0, 0));
+  EXPECT_NE(image, empty);
 }
 
 }  // namespace

@@ -75,8 +75,6 @@ TEST_F(UserDialogsTest, SaveQuestionHasThreeAnswers) {
 }
 
 TEST_F(UserDialogsTest, SavingAddsTheExtensionOfTheChosenKind) {
-  EnterName(Path("one"));
-  EXPECT_EQ(dialogs.ChooseFileToSave(save), folder / "one.exm");
   EnterName(Path("two"), "Word files (*.doc) (*.doc)");
   EXPECT_EQ(dialogs.ChooseFileToSave(save), folder / "two.doc");
   Press(Qt::Key_Escape);
@@ -84,18 +82,14 @@ TEST_F(UserDialogsTest, SavingAddsTheExtensionOfTheChosenKind) {
 }
 
 TEST_F(UserDialogsTest, OverwritingIsConfirmedUnderTheFinalName) {
-  WriteBytes(folder / "old.exm", "exam");
-  EnterName(Path("old"));
-  Answer(QMessageBox::No);
-  EnterName(Path("old"));
-  Answer(QMessageBox::Yes);
-  EXPECT_EQ(dialogs.ChooseFileToSave(save), folder / "old.exm");
-}
-
-TEST_F(UserDialogsTest, OpeningTakesAFileThatIsThere) {
-  WriteBytes(folder / "old.exm", "exam");
+  const auto old = WriteBytes(folder / "old.exm", "exam");
+  for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
+    EnterName(Path("old"));
+    Answer(button);
+  }
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), old);
   EnterName(Path("old.exm"));
-  EXPECT_EQ(dialogs.ChooseFileToOpen({u"Exam files, (*.exm)|*.exm|", {}, {}}), folder / "old.exm");
+  EXPECT_EQ(dialogs.ChooseFileToOpen({u"Exam files, (*.exm)|*.exm|", {}, {}}), old);
 }
 
 TEST_F(UserDialogsTest, ProgressShowsAfterHalfASecondAndEndsWithTheWork) {

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,18 +15,8 @@ namespace {
 using Steps = std::vector<std::string>;
 
 /// Writes down what a session does with its window, its owner and the time.
-class PreviewSessionTest : public testing::Test,
-                           private BrowserControl,
-                           private Timers,
-                           private PreviewOwner {
+class PreviewSessionTest : public testing::Test, public BrowserControl, public Timers, public PreviewOwner {
  protected:
-  PreviewSessionTest() {
-    BrowserControl& browser = *this;
-    Timers& time = *this;
-    PreviewOwner& owner = *this;
-    session = std::make_unique<PreviewSession>(browser, time, owner, "/app");
-  }
-
   /// What has happened since the last look.
   Steps Look() { return std::exchange(steps, {}); }
 
@@ -39,7 +29,7 @@ class PreviewSessionTest : public testing::Test,
 
   Steps steps;
   std::vector<std::function<void()>> timers;
-  std::unique_ptr<PreviewSession> session;
+  std::optional<PreviewSession> session{std::in_place, *this, *this, *this, "/app"};
 
  private:
   void Navigate(const std::filesystem::path& page) override { steps.push_back("go " + page.string()); }

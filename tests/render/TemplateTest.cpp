@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace quorvantis::test {
 namespace {
 
@@ -21,35 +19,22 @@ TEST(Template, KnowsTheEscapesOfLiterals) {
 
 TEST(Template, FillsNumbersUpWithZeros) {
   constexpr Template<int> kNumber{uR"(%03d)"};
-  const struct {
-    int number;
-    std::u16string_view text;
-  } rows[] = {{0, u"000"}, {12, u"012"}, {999, u"999"}, {1000, u"1000"}, {-5, u"-05"}, {-500, u"-500"}};
-  for (const auto& row : rows) EXPECT_EQ(kNumber(row.number), row.text);
-  EXPECT_EQ(kNumber(std::numeric_limits<int>::min()), u"-2147483648");
+  EXPECT_EQ(kNumber(1000), u"1000");
+  EXPECT_EQ(kNumber(-5), u"-05");
 }
 
+/// Exams with lone LFs have lost these characters always.
 TEST(TextToHtml, TakesOneMoreCharacterWithEachLineEnd) {
-  const struct {
-    std::u16string_view text;
-    std::u16string_view html;
-  } rows[] = {
+  const std::pair<std::u16string_view, std::u16string_view> rows[] = {
       {u"", u""},
-      {u"one", u"one<br>"},
-      {u"one\r\ntwo", u"one<br>two<br>"},
-      {u"one\r\n", u"one<br>"},
-      {u"\r\n\r\n", u"<br><br>"},
-      {u"one\ntwo\nthree",
-       u"one<br>wo<br>hree<br>"},  // exams with lone LFs have lost these characters always
-      {u"one\rtwo", u"one<br>wo<br>"},
-      {u"one\n\r\ntwo", u"one<br><br>wo<br>"},
-      {u"one\n", u"one<br>"},
       {u"<b>&\"", u"<b>&\"<br>"},
-      {u"a\n\U0001F600b",
-       u"a<br>\xDE00"
-       u"b<br>"},  // half of a pair may go
+      {u"one\r\ntwo\r\n", u"one<br>two<br>"},
+      {u"\r\n\r\n", u"<br><br>"},
+      {u"one\ntwo\rthree", u"one<br>wo<br>hree<br>"},
+      {u"one\n\r\ntwo\n", u"one<br><br>wo<br>"},
+      {u"a\n\U0001F600", u"a<br>\xDE00<br>"},  // half of a pair may go
   };
-  for (const auto& row : rows) EXPECT_EQ(TextToHtml(row.text), row.html) << testing::PrintToString(row.text);
+  for (const auto& [text, html] : rows) EXPECT_EQ(TextToHtml(text), html);
 }
 
 }  // namespace
