@@ -10,6 +10,9 @@
 namespace quorvantis {
 namespace {
 
+/// How often a page that leaves is fetched back. One that keeps leaving stays blank instead of flickering.
+constexpr int kMostReturns = 3;
+
 void Restrict(QWebEngineSettings& settings) {
   for (const auto attribute :
        {QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::JavascriptCanAccessClipboard,
@@ -34,12 +37,13 @@ ExamPage::ExamPage(QWebEngineProfile* profile, QObject* parent) : QWebEnginePage
           });
   // The one address that a page may go to without anybody being asked.
   connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl& url) {
-    if (url == QUrl(kBlankPage) && destination_ != url) load(destination_);
+    if (url == QUrl(kBlankPage) && destination_ != url && returns_++ < kMostReturns) load(destination_);
   });
 }
 
 void ExamPage::Go(const QUrl& address) {
   destination_ = address;
+  returns_ = 0;
   load(address);
 }
 

@@ -34,6 +34,7 @@ class ExamPage : public QWebEnginePage {
 
  private:
   QUrl destination_;
+  int returns_ = 0;  ///< to the destination, from pages that left for the blank one
 };
 
 }  // namespace quorvantis

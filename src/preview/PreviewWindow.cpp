@@ -86,6 +86,13 @@ void PreviewWindow::Show() {
   view_.setFocus();
 }
 
+/// A preview that has been left is over, whatever scripts of its page still run; a print is only out of
+/// sight.
+void PreviewWindow::Hide() {
+  hide();
+  if (session_.Closing()) page_.setLifecycleState(QWebEnginePage::LifecycleState::Discarded);
+}
+
 void PreviewWindow::After(std::chrono::milliseconds delay, std::function<void()> action) {
   Later(*this, delay, std::move(action));
 }

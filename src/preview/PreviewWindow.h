@@ -35,7 +35,7 @@ class PreviewWindow : public QWidget, private BrowserControl, private Timers {
   void Navigate(const std::filesystem::path& page) override;
   void Place(int x, int y) override;
   void Show() override;
-  void Hide() override { hide(); }
+  void Hide() override;
   void Print() override { printer_.Print(); }
   void After(std::chrono::milliseconds delay, std::function<void()> action) override;
 
