@@ -20,6 +20,8 @@ class AnswerControls {
  public:
   /// The controls are made inside `parent`; `editor` must outlive them.
   AnswerControls(ExamEditor& editor, const StringTable& strings, QWidget* parent);
+  AnswerControls(const AnswerControls&) = delete;
+  AnswerControls& operator=(const AnswerControls&) = delete;
 
   /// Another question is shown.
   void Load();

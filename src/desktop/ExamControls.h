@@ -16,6 +16,8 @@ class ExamControls {
  public:
   /// The controls belong to `parent`; `editor` must outlive them.
   ExamControls(ExamEditor& editor, const StringTable& strings, QWidget* parent);
+  ExamControls(const ExamControls&) = delete;
+  ExamControls& operator=(const ExamControls&) = delete;
 
   /// Another question is shown.
   void Load() { title->Load(); }

@@ -21,6 +21,8 @@ class QuestionControls {
  public:
   /// The controls are made inside `parent`; `editor` must outlive them.
   QuestionControls(ExamEditor& editor, const StringTable& strings, QWidget* parent);
+  QuestionControls(const QuestionControls&) = delete;
+  QuestionControls& operator=(const QuestionControls&) = delete;
 
   /// Another question is shown.
   void Load() { text->Load(); }

@@ -12,8 +12,8 @@ namespace quorvantis {
 /// regard to the case of ASCII letters; lines that begin with ";" are comments.
 class ProfileFile {
  public:
-  /// Reads `file`, UTF-8 with or without a mark or UTF-16LE with one. A missing or unreadable one has no values; of a large one
-  /// only the first megabyte counts.
+  /// Reads `file`, UTF-8 with or without a mark or UTF-16LE with one. A missing or unreadable one has no
+  /// values; of a large one only the first megabyte counts.
   explicit ProfileFile(const std::filesystem::path& file);
 
   /// The value without blanks and one pair of quotes around it; the first one where a key stands more than

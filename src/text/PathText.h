@@ -18,8 +18,9 @@ std::filesystem::path TextToPath(std::u16string_view text);
 constexpr std::size_t kMaxFileNameBytes = 255;
 
 /// `name` itself when it has at most `maxBytes` bytes in UTF-8; otherwise its beginning, a hash of the whole
-/// name and its extension, together at most `maxBytes`, which is 64 or more. Equal names give equal results and different ones
-/// different results, so a long name can stand for a file or folder that could not be made under it.
+/// name and its extension, together at most `maxBytes`, which is 64 or more. Equal names give equal results
+/// and different ones different results, so a long name can stand for a file or folder that could not be made
+/// under it.
 std::u16string FitFileName(std::u16string_view name, std::size_t maxBytes = kMaxFileNameBytes);
 
 }  // namespace quorvantis

@@ -22,7 +22,8 @@ std::size_t AppendAscii(Result& result, std::u16string_view text) {
   while (length < text.size() && text[length] < 0x80) ++length;
   const std::size_t end = result.size();
   result.resize(end + length);
-  for (std::size_t i = 0; i < length; ++i) result[end + i] = static_cast<typename Result::value_type>(text[i]);
+  for (std::size_t i = 0; i < length; ++i)
+    result[end + i] = static_cast<typename Result::value_type>(text[i]);
   return length;
 }
 

@@ -35,7 +35,7 @@ class CommandLineTest : public testing::Test {
     unsetenv("TMPDIR");  // NOLINT(concurrency-mt-unsafe)
   }
 
-  RunResult Command(std::vector<std::string> arguments, const std::string& input = "") {
+  RunResult Command(const std::vector<std::string>& arguments, const std::string& input = "") {
     std::vector<const char*> values{"quorvantis-cli"};
     for (const std::string& argument : arguments) values.push_back(argument.c_str());
     std::istringstream in(input);

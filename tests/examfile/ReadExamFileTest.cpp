@@ -6,7 +6,7 @@
 namespace quorvantis::test {
 namespace {
 
-TypedQuestion Full(std::u16string kind, std::vector<TypedFile> files = {}) {
+TypedQuestion Full(const std::u16string& kind, std::vector<TypedFile> files = {}) {
   return {.kind = kind,
           .text = u"Text\u0401" + kind,
           .options = {u"A", u"B", u"C", u"D", u"\u0400E"},

@@ -2,7 +2,7 @@
 #include "RenderTest.h"
 #include "render/AttachmentPane.h"
 
-#include <ranges>
+#include <algorithm>
 
 namespace quorvantis::test {
 namespace {
@@ -55,9 +55,8 @@ TEST_F(AttachmentPaneTest, DistributesFilesOverFrames) {
     exam.Reset();
     Attach(row.names);
     EXPECT_EQ(AttachmentPane(exam).CountFrames(), row.frames);
-    EXPECT_TRUE(std::ranges::equal(row.types, exam.examAttachmentTypes | std::views::take(row.types.size())));
-    const auto& kinds = exam.attachmentPageWriter.frameKinds;
-    EXPECT_TRUE(std::ranges::equal(row.kinds, kinds | std::views::take(row.kinds.size())));
+    EXPECT_TRUE(std::equal(row.types.begin(), row.types.end(), exam.examAttachmentTypes.begin()));
+    EXPECT_TRUE(std::equal(row.kinds.begin(), row.kinds.end(), exam.attachmentPageWriter.frameKinds.begin()));
   }
 }
 

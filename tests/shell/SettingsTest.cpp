@@ -11,7 +11,7 @@ namespace {
 
 TEST(ProfileFile, FindsValuesTheWayPeopleWriteThem) {
   const TemporaryFolder folder;
-  const auto check = [&](std::string_view content, std::optional<std::u16string> value) {
+  const auto check = [&](std::string_view content, const std::optional<std::u16string>& value) {
     const ProfileFile profile(WriteBytes(folder / "file.ini", content));
     EXPECT_EQ(profile.Value(u"Section", u"kEY"), value) << content;
   };

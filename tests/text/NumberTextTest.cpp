@@ -57,11 +57,12 @@ TEST(NumberText, IsTheSameInEveryLocale) {
     std::string do_grouping() const override { return "\3"; }
   };
   const std::locale before = std::locale::global(std::locale(std::locale(), new Commas));
-  std::setlocale(LC_ALL, "de_DE.UTF-8");  // not on every machine; the locale above is
+  // Not on every machine; the locale above is. NOLINTNEXTLINE(concurrency-mt-unsafe)
+  std::setlocale(LC_ALL, "de_DE.UTF-8");
   EXPECT_EQ(FormatScore(1.5F), u"1.50");
   EXPECT_EQ(FormatInteger(-1234567), u"-1234567");
   EXPECT_EQ(ParseReal(u"1.50"), 1.5);
-  std::setlocale(LC_ALL, "C");
+  std::setlocale(LC_ALL, "C");  // NOLINT(concurrency-mt-unsafe)
   std::locale::global(before);
 }
 
