@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/ExamQuestion.h"
+
+#include <array>
+#include <cstddef>
+#include <optional>
+
+namespace quorvantis {
+
+/// Lengths on the window are layout pixels: they do not depend on the scale of the screen.
+struct PixelSize {
+  int width = 0;
+  int height = 0;
+};
+
+/// A place in the client area of the window, from its top left corner.
+struct PixelRect {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+
+  bool operator==(const PixelRect&) const = default;
+};
+
+/// The large buttons of the toolbar: New, Open, Import, Save, Save As, Score settings, Attach Files, Preview
+/// and Print, in this order.
+inline constexpr std::size_t kToolbarButtons = 9;
+
+/// Back 10, previous, next, forward 10, insert, delete and attach to the question, in this order.
+inline constexpr std::size_t kNavigationButtons = 7;
+
+/// Choice, fill-in, essay and oral, in this order.
+inline constexpr std::size_t kKindButtons = 4;
+
+/// What the places of the controls depend on. The sizes of captions are those of their text in the window's
+/// font.
+struct LayoutInput {
+  PixelSize client;
+  std::array<bool, kToolbarButtons> enabled{};
+  PixelSize titleLabel;
+  int randomTextWidth = 0;
+  PixelSize examAttachmentsLabel;
+  bool examListVisible = false;
+  PixelSize questionLabel;
+  bool questionListVisible = false;
+  PixelSize oralToggle;  ///< of the whole button
+  PixelSize answerLabel;
+  PixelSize essayLabel;
+  QuestionKind kind = QuestionKind::Choice;
+};
+
+/// Where the controls are. A control without a place stays where it is.
+struct LayoutPlaces {
+  std::array<std::optional<PixelRect>, kToolbarButtons> toolbar;
+  PixelRect titleLabel;
+  PixelRect title;
+  PixelRect random;
+  std::optional<PixelRect> examAttachmentsLabel;
+  std::optional<PixelRect> examAttachments;
+  PixelRect questionArea;
+  PixelRect questionLabel;
+  PixelRect number;
+  std::array<PixelRect, kKindButtons> kinds;
+  std::array<PixelRect, kNavigationButtons> navigation;
+  PixelRect text;
+  std::optional<PixelRect> attachments;
+  std::optional<PixelRect> oralToggle;
+  std::array<std::optional<PixelRect>, kOptionCount> boxes;
+  std::array<std::optional<PixelRect>, kOptionCount> options;
+  std::optional<PixelRect> answerLabel;
+  std::optional<PixelRect> answer;
+  std::optional<PixelRect> listSeparator;
+  std::optional<PixelRect> essayLabel;
+  std::optional<PixelRect> essay;
+};
+
+/// The places of the window's controls, for a language that runs from left to right. In a window that is
+/// smaller than the smallest size, places may lie outside of it or be empty.
+LayoutPlaces Layout(const LayoutInput& input);
+
+/// The place of a control where the language runs from right to left.
+PixelRect Mirrored(const PixelRect& place, int clientWidth);
+
+}  // namespace quorvantis
