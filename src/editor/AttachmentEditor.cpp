@@ -9,6 +9,8 @@
 #include "platform/UserDialogs.h"
 #include "text/PathText.h"
 
+#include <algorithm>
+
 namespace quorvantis {
 namespace {
 
@@ -98,6 +100,27 @@ void AttachmentEditor::RemoveSelectedQuestionFile() {
   state_.view.FormChanged();
 }
 
+/// A display name that stands where a path should comes from whoever wrote the exam file, and is no work
+/// copy.
+std::optional<AttachedFile> AttachmentEditor::SelectedExamFile() const {
+  if (!examList_.selected) return std::nullopt;
+  const std::size_t index = *examList_.selected;
+  const std::u16string& path = state_.document.examAttachmentPaths[index];
+  const auto& names = state_.document.displayNamesAmongPaths;
+  if (std::ranges::find(names, path) != names.end()) return AttachedFile{examList_.names[index], {}};
+  return AttachedFile{examList_.names[index], TextToPath(path)};
+}
+
+std::optional<AttachedFile> AttachmentEditor::SelectedQuestionFile() const {
+  if (!questionList_.selected) return std::nullopt;
+  const std::size_t index = *questionList_.selected;
+  return AttachedFile{questionList_.names[index], TextToPath(state_.Current().attachmentPaths[index])};
+}
+
+void AttachmentEditor::ReadOralFlag() {
+  oralToggleState_ = state_.Current().oralFlag == 1 ? 1 : 0;
+}
+
 void AttachmentEditor::ToggleOral() {
   oralToggleState_ = oralToggleState_ == 0 ? 1 : 0;
   state_.Current().oralFlag = oralToggleState_;
@@ -134,7 +157,7 @@ void AttachmentEditor::UpdateOralToggle() {
     return;
   }
   oralToggleShown_ = questionList_.selected.has_value();
-  oralToggleState_ = question.oralFlag == 1 ? 1 : 0;
+  ReadOralFlag();
 }
 
 bool AttachmentEditor::OralToggleVisible() const {

@@ -19,6 +19,12 @@ struct ShownAttachments {
   bool IsFull() const { return names.size() >= kMaxAttachments; }
 };
 
+/// An entry of a list and the work copy behind it.
+struct AttachedFile {
+  std::u16string name;         ///< the display name
+  std::filesystem::path copy;  ///< empty when the entry has none
+};
+
 /// The two lists of attached files, the exam's and the shown question's, and the oral toggle beside the
 /// latter. Changes go into the document at once; removing and toggling do not count as a change of the exam.
 class AttachmentEditor {
@@ -40,8 +46,16 @@ class AttachmentEditor {
   void RemoveSelectedExamFile();
   void RemoveSelectedQuestionFile();
 
+  /// The selected entry; nothing when none is.
+  std::optional<AttachedFile> SelectedExamFile() const;
+  std::optional<AttachedFile> SelectedQuestionFile() const;
+
   /// Switches the oral flag of the question shown.
   void ToggleOral();
+
+  /// Makes the oral toggle ready to be used although it does not show: its state is the flag of the question
+  /// shown.
+  void ReadOralFlag();
 
   /// Fill a list anew from the document.
   void RefreshQuestionList();

@@ -4,6 +4,7 @@
 
 namespace quorvantis::text_id {
 
+constexpr int kAbout = 101;               // "Oxna Quorvantis(&A)..."
 constexpr int kOpenFileError = 102;       // "Open file %s error!"
 constexpr int kTemporaryFileError = 103;  // "create temporary file error"
 constexpr int kSaveQuestion = 105;        // "File '%s' Changed.\nSave File ?"
@@ -43,7 +44,8 @@ constexpr int kCorrectAnswerIs = 145;
 constexpr int kYourAnswerIs = 146;
 constexpr int kOralSubject = 147;
 constexpr int kOralByTeacher = 148;  // shown where a page has no recorder
-constexpr int kOralOff = 172;        // caption of the oral toggle while the flag is 0
+constexpr int kImportExam = 160;
+constexpr int kOralOff = 172;  // caption of the oral toggle while the flag is 0
 constexpr int kOralOn = 173;
 
 // Texts of our own.
@@ -58,5 +60,11 @@ constexpr int kFileMissing = 1006;     // "%s is missing."
 constexpr int kNeedsProgram = 1007;    // "%s cannot be shown, because %s is not installed."
 constexpr int kFirstPagesOnly = 1008;  // "Only the first %s pages are shown."
 constexpr int kBeginningOnly = 1009;   // "Only the beginning is shown."
+constexpr int kCannotImport = 1010;
+constexpr int kTooLong = 1011;   // "Not changed: this field takes at most %d characters."
+constexpr int kSaveCopy = 1012;  // of an attached file
+constexpr int kRemoveAttachment = 1013;
+constexpr int kNoProgramOpens = 1014;  // "No program was found that opens %s."
+constexpr int kIsRightAnswer = 1015;   // "%s is a right answer", said by screen readers
 
 }  // namespace quorvantis::text_id

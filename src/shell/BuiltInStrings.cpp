@@ -15,6 +15,7 @@ struct NumberedText {
 
 // Wording and spelling are what users of the program know; both stay as they are.
 constexpr NumberedText kTexts[] = {
+    {text_id::kAbout, u"Oxna Quorvantis(&A)..."},
     {text_id::kOpenFileError, u"Open file %s error!"},
     {text_id::kTemporaryFileError, u"create temporary file error"},
     {text_id::kSaveQuestion, u"File '%s' Changed.\nSave File ?"},
@@ -54,6 +55,7 @@ constexpr NumberedText kTexts[] = {
     {text_id::kYourAnswerIs, u"Your answer is"},
     {text_id::kOralSubject, u"(Oral subject)"},
     {text_id::kOralByTeacher, u"(Oral question,controled by teacher)"},
+    {text_id::kImportExam, u"Import Exam"},
     {text_id::kOralOff, u"Play video sound"},
     {text_id::kOralOn, u"Mute video sound"},
     {text_id::kExamEndsEarly,
@@ -67,6 +69,12 @@ constexpr NumberedText kTexts[] = {
     {text_id::kNeedsProgram, u"%s cannot be shown, because %s is not installed."},
     {text_id::kFirstPagesOnly, u"Only the first %s pages are shown."},
     {text_id::kBeginningOnly, u"Only the beginning is shown."},
+    {text_id::kCannotImport, u"This version cannot import exams."},
+    {text_id::kTooLong, u"Not changed: this field takes at most %d characters."},
+    {text_id::kSaveCopy, u"Save a copy\u2026"},
+    {text_id::kRemoveAttachment, u"Remove"},
+    {text_id::kNoProgramOpens, u"No program was found that opens %s."},
+    {text_id::kIsRightAnswer, u"%s is a right answer"},
 };
 
 }  // namespace

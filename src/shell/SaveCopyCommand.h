@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/AttachmentEditor.h"
+#include "platform/ExamServices.h"
+
+namespace quorvantis {
+
+/// Lets the user choose where a copy of an attached file goes, and writes it there. Tells the user when the
+/// attached file is missing or the copy cannot be written; a file that was there before then stays as it was.
+void SaveCopyOf(const AttachedFile& file, const ExamServices& services);
+
+/// True when the work copy of an attached file can be read; otherwise the user has been told.
+bool HasWorkCopy(const AttachedFile& file, const ExamServices& services);
+
+}  // namespace quorvantis
