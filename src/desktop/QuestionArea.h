@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QGroupBox>
+
+namespace quorvantis {
+
+/// The frame around the question. Its caption stands in the upper line of the frame in every style, because
+/// controls follow close below. The controls inside are not its children.
+class QuestionArea : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  using QGroupBox::QGroupBox;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace quorvantis
