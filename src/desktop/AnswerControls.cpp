@@ -4,44 +4,64 @@
 #include "desktop/Controls.h"
 #include "desktop/QtText.h"
 #include "platform/Texts.h"
+#include "text/MessageText.h"
 
 namespace quorvantis {
 
-AnswerControls::AnswerControls(ExamEditor& editor, const StringTable& strings, QWidget* parent)
-    : choicePanel(new QWidget(parent)),
-      fillInPanel(new QWidget(parent)),
-      essayPanel(new QWidget(parent)),
-      editor_(editor) {
-  const auto text = [&strings](int id) { return ToQString(strings.Text(id)); };
-  for (std::size_t i = 0; i < kOptionCount; ++i) MakeOption(i, text(text_id::kChoice));
-  MakeAnswerLine(text(text_id::kAnswer), text(text_id::kListSeparatorTip));
-  MakeEssay(text(text_id::kAnswer));
+namespace {
+
+constexpr SmallButtonBitmaps kSeparator{"ListSeparatroU", "ListSeparatroD", nullptr, "ListSeparatroX"};
+
+/// Leads to the first field for the answers, whatever the kind.
+const QKeySequence kAnswerKey(Qt::ALT | Qt::Key_Y);
+
+QString Caption(const StringTable& strings, int id) {
+  return ToQString(strings.Text(id));
 }
 
-void AnswerControls::MakeOption(std::size_t index, const QString& caption) {
-  const QString letter(QChar(static_cast<char16_t>(u'A' + index)));
-  boxes[index] = new StateBox(letter, choicePanel);
-  NameControl(boxes[index], qPrintable("box" + letter), letter);
-  QObject::connect(boxes[index], &StateBox::clicked, boxes[index], [this, index] { TickBox(index); });
-
-  options[index] = new MultiLineField(editor_.questions, OptionField(index), choicePanel);
-  NameControl(options[index], qPrintable("option" + letter), caption + " " + letter);
+QString Letter(std::size_t index) {
+  return QString(QChar(static_cast<char16_t>(u'A' + index)));
 }
 
-void AnswerControls::MakeAnswerLine(const QString& caption, const QString& separatorTip) {
-  answerLabel = MakeLabel(fillInPanel, "answerLabel", caption);
-  answer = new OneLineField(editor_.questions, FormField::Answer, fillInPanel);
-  NameControl(answer, "answer", caption);
-  answerLabel->setBuddy(answer);
-  separator = MakeSmallButton(fillInPanel, "listSeparator", "list-separator.svg", separatorTip);
-  QObject::connect(separator, &QToolButton::clicked, separator, [this] { AppendSeparator(); });
+}  // namespace
+
+AnswerControls::AnswerControls(ExamEditor& editor, const StringTable& strings, const Pictures& pictures,
+                               QWidget* parent)
+    : editor_(editor) {
+  for (std::size_t i = 0; i < kOptionCount; ++i) MakeOption(i, strings, parent);
+  MakeAnswerLine(strings, pictures, parent);
+  MakeEssay(strings, parent);
 }
 
-void AnswerControls::MakeEssay(const QString& caption) {
-  essayLabel = MakeLabel(essayPanel, "essayLabel", caption);
-  essay = new MultiLineField(editor_.questions, FormField::Essay, essayPanel);
-  NameControl(essay, "essay", caption);
-  essayLabel->setBuddy(essay);
+/// The box of an option is a tick that stands for a right answer; its caption tells a screen reader too
+/// little.
+void AnswerControls::MakeOption(std::size_t index, const StringTable& strings, QWidget* parent) {
+  const QString letter = Letter(index);
+  const QString option = Caption(strings, text_id::kChoice) + " " + letter;
+  const QString isRight =
+      ToQString(FillMessage(strings.Text(text_id::kIsRightAnswer), {FromQString(letter)}));
+  const QKeySequence key(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(index)));
+  boxes[index] = new StateBox(letter, parent);
+  SetUpButton(boxes[index], qPrintable("box" + letter), isRight, {key}, [this, index] { TickBox(index); });
+
+  options[index] = new MultiLineField(editor_.questions, strings, OptionField(index), parent);
+  NameControl(options[index], qPrintable("option" + letter), option);
+  if (index == 0) AddKeys(options[index], {kAnswerKey});
+}
+
+void AnswerControls::MakeAnswerLine(const StringTable& strings, const Pictures& pictures, QWidget* parent) {
+  answerLabel = MakeLabel(parent, "answerLabel", Caption(strings, text_id::kAnswer));
+  answer = new OneLineField(editor_.questions, strings, FormField::Answer, parent);
+  SetUpField(answer, "answer", answerLabel, {kAnswerKey});
+  separator = new SmallButton(pictures, kSeparator, kSeparator, parent);
+  SetUpButton(separator, "listSeparator", Caption(strings, text_id::kListSeparatorTip), {Qt::ALT | Qt::Key_M},
+              [this] { AppendSeparator(); });
+}
+
+void AnswerControls::MakeEssay(const StringTable& strings, QWidget* parent) {
+  essayLabel = MakeLabel(parent, "essayLabel", Caption(strings, text_id::kAnswer));
+  essay = new MultiLineField(editor_.questions, strings, FormField::Essay, parent);
+  SetUpField(essay, "essay", essayLabel, {kAnswerKey});
 }
 
 void AnswerControls::Load() {
@@ -74,9 +94,16 @@ void AnswerControls::AppendSeparator() {
 }
 
 void AnswerControls::ShowKind(QuestionKind kind) {
-  choicePanel->setVisible(kind == QuestionKind::Choice);
-  fillInPanel->setVisible(kind == QuestionKind::FillIn);
-  essayPanel->setVisible(kind == QuestionKind::Essay);
+  for (std::size_t i = 0; i < kOptionCount; ++i) {
+    boxes[i]->setVisible(kind == QuestionKind::Choice);
+    options[i]->setVisible(kind == QuestionKind::Choice);
+  }
+  for (QWidget* control : std::initializer_list<QWidget*>{answerLabel, answer, separator}) {
+    control->setVisible(kind == QuestionKind::FillIn);
+  }
+  for (QWidget* control : std::initializer_list<QWidget*>{essayLabel, essay}) {
+    control->setVisible(kind == QuestionKind::Essay);
+  }
 }
 
 }  // namespace quorvantis

@@ -3,12 +3,12 @@
 
 #include "desktop/MultiLineField.h"
 #include "desktop/OneLineField.h"
+#include "desktop/SmallButton.h"
 #include "desktop/StateBox.h"
 #include "editor/ExamEditor.h"
 #include "platform/StringTable.h"
 
 #include <QLabel>
-#include <QToolButton>
 
 #include <array>
 
@@ -18,8 +18,8 @@ namespace quorvantis {
 /// texts.
 class AnswerControls {
  public:
-  /// The controls are made inside `parent`; `editor` must outlive them.
-  AnswerControls(ExamEditor& editor, const StringTable& strings, QWidget* parent);
+  /// The controls belong to `parent`; `editor` must outlive them.
+  AnswerControls(ExamEditor& editor, const StringTable& strings, const Pictures& pictures, QWidget* parent);
   AnswerControls(const AnswerControls&) = delete;
   AnswerControls& operator=(const AnswerControls&) = delete;
 
@@ -29,21 +29,18 @@ class AnswerControls {
   /// Shows what the editor has now.
   void Refresh();
 
-  QWidget* choicePanel;  ///< holds boxes and options
   std::array<StateBox*, kOptionCount> boxes{};
   std::array<MultiLineField*, kOptionCount> options{};
-  QWidget* fillInPanel;  ///< holds answer line and separator button
   QLabel* answerLabel = nullptr;
   OneLineField* answer = nullptr;
-  QToolButton* separator = nullptr;
-  QWidget* essayPanel;  ///< holds the essay answer
+  SmallButton* separator = nullptr;
   QLabel* essayLabel = nullptr;
   MultiLineField* essay = nullptr;
 
  private:
-  void MakeOption(std::size_t index, const QString& caption);
-  void MakeAnswerLine(const QString& caption, const QString& separatorTip);
-  void MakeEssay(const QString& caption);
+  void MakeOption(std::size_t index, const StringTable& strings, QWidget* parent);
+  void MakeAnswerLine(const StringTable& strings, const Pictures& pictures, QWidget* parent);
+  void MakeEssay(const StringTable& strings, QWidget* parent);
   void TickBox(std::size_t index);
   void AppendSeparator();
   void ShowKind(QuestionKind kind);

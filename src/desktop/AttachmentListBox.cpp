@@ -1,25 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/AttachmentListBox.h"
 
+#include "desktop/ControlPainting.h"
 #include "desktop/Controls.h"
 #include "desktop/QtText.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace quorvantis {
-namespace {
-
-constexpr int kEntrySpacing = 2;
-
-}  // namespace
 
 AttachmentListBox::AttachmentListBox(QWidget* parent) : QListWidget(parent) {
   setSelectionMode(QAbstractItemView::SingleSelection);
   setTextElideMode(Qt::ElideMiddle);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  setLineWidth(2);
   setUniformItemSizes(true);
-  setSpacing(kEntrySpacing);
 }
 
 void AttachmentListBox::Show(const ShownAttachments& attachments) {
@@ -44,18 +44,29 @@ std::optional<std::size_t> AttachmentListBox::Selected() const {
   return static_cast<std::size_t>(rows.front().row());
 }
 
-QSize AttachmentListBox::sizeHint() const {
-  return minimumSizeHint();
-}
-
-/// Room for two entries.
-QSize AttachmentListBox::minimumSizeHint() const {
-  return {120, 2 * (fontMetrics().height() + 2 * kEntrySpacing) + 2 * kEntrySpacing + 2 * frameWidth()};
+bool AttachmentListBox::event(QEvent* event) {
+  if (event->type() != QEvent::Paint) return QListWidget::event(event);
+  QPainter painter(this);  // of the frame; the entries are on the viewport
+  PaintFieldEdge(painter, *this);
+  return true;
 }
 
 void AttachmentListBox::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Delete) emit DeletePressed();
   QListWidget::keyPressEvent(event);
+}
+
+void AttachmentListBox::focusInEvent(QFocusEvent* event) {
+  QListWidget::focusInEvent(event);
+  const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  if (byTab && !Selected() && count() > 0)
+    setCurrentRow(std::max(currentRow(), 0), QItemSelectionModel::Select);
+}
+
+void AttachmentListBox::contextMenuEvent(QContextMenuEvent* event) {
+  const bool byKey = event->reason() == QContextMenuEvent::Keyboard && currentItem() != nullptr;
+  emit MenuRequested(byKey ? viewport()->mapToGlobal(visualItemRect(currentItem()).center())
+                           : event->globalPos());
 }
 
 }  // namespace quorvantis

@@ -9,7 +9,8 @@
 
 namespace quorvantis {
 
-/// A list of attached files. It is there only while it has entries, and takes no room otherwise.
+/// A list of attached files, which shows only while it has entries. The Tab key that leads into it selects an
+/// entry, so that the keyboard can do something with it.
 class AttachmentListBox : public QListWidget {
   Q_OBJECT
 
@@ -22,15 +23,18 @@ class AttachmentListBox : public QListWidget {
   /// Index of the selected entry.
   std::optional<std::size_t> Selected() const;
 
-  QSize sizeHint() const override;
-  QSize minimumSizeHint() const override;
-
  signals:
   /// The Delete key was pressed.
   void DeletePressed();
 
+  /// The context menu is asked for, at a place on the screen.
+  void MenuRequested(const QPoint& position);
+
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   std::vector<std::u16string> names_;

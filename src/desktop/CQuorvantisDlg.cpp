@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/CQuorvantisDlg.h"
 
+#include "desktop/Controls.h"
 #include "desktop/DroppedFiles.h"
+#include "desktop/FittedCaption.h"
 #include "desktop/QtText.h"
-#include "desktop/Resources.h"
-#include "desktop/WindowLayout.h"
+#include "desktop/WindowSize.h"
+#include "platform/DebugOutput.h"
 #include "platform/ExamServices.h"
 #include "platform/Texts.h"
+#include "platform/UserDialogs.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "shell/CloseSequence.h"
 #include "shell/CodePageChoice.h"
@@ -18,20 +21,44 @@
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMessageBox>
 #include <QPointer>
+#include <QWindow>
 
 #include <algorithm>
+#include <fstream>
 
 namespace quorvantis {
 namespace {
 
-constexpr QSize kSmallestSize(792, 646);
-constexpr QSize kFirstSize(870, 675);
+constexpr int kHighestLine = 18;  // of a font: one-line fields are 20 pixels high
 
-QGroupBox* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
-  auto* area = new QGroupBox(ToQString(strings.Text(text_id::kEditArea)), parent);
+QuestionArea* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
+  auto* area = new QuestionArea(ToQString(strings.Text(text_id::kEditArea)), parent);
   area->setObjectName("questionArea");
   return area;
+}
+
+/// A button of a dialog that nobody sees. Keys and assistive programs press it.
+QPushButton* MakeHiddenButton(const char* name, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  NameControl(button, name, name);
+  button->setFocusPolicy(Qt::NoFocus);
+  button->setGeometry(0, 0, 0, 0);
+  button->hide();
+  return button;
+}
+
+bool CanRead(const std::filesystem::path& file) {
+  return std::ifstream(file).is_open();
+}
+
+/// Rows have fixed heights, so a large font of the desktop becomes smaller here, before the controls take it
+/// over.
+QWidget* WithFittingFont(QWidget* window) {
+  window->setFont(FontForHeight(window->font(), kHighestLine));
+  return window;
 }
 
 /// A text of the table with Qt's places for values.
@@ -52,24 +79,33 @@ GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) 
 
 }  // namespace
 
-CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, DocumentExport exportDocument)
+CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, DocumentExport exportDocument,
+                               const LanguageLibrary* library)
     : exam_(exam),
       editor_(exam, *this, std::move(exportDocument)),
       previews_(SetUpGateway(exam, pages), *this),
-      files_(editor_, {[this] { Preview(); }, [this] { Print(); }}, exam.Services().strings, this),
+      pictures_(library),
+      files_(editor_, PageCommands(), exam.Services().strings, pictures_, WithFittingFont(this)),
       examControls_(editor_, exam.Services().strings, this),
       questionArea_(MakeQuestionArea(exam.Services().strings, this)),
-      question_(editor_, exam.Services().strings, questionArea_),
-      answers_(editor_, exam.Services().strings, questionArea_) {
+      question_(editor_, exam.Services().strings, pictures_, this),
+      answers_(editor_, exam.Services().strings, pictures_, this),
+      cancel_(MakeHiddenButton("cancel", this)),
+      ok_(MakeHiddenButton("ok", this)),
+      printAgain_(MakeHiddenButton("printAgain", this)) {
   exam.SetHostMode(1);
-  setWindowIcon(Picture("quorvantis.svg"));
+  setWindowIcon(pictures_.Picture(kProgramIcon));
   setAcceptDrops(true);
-  ArrangeWindow(this, {files_, examControls_, questionArea_, question_, answers_});
+  SetTabOrder(Controls());
   connect(this, &CQuorvantisDlg::FilesDropped, this, &CQuorvantisDlg::TakeFiles, Qt::QueuedConnection);
   const auto deliver = [this] { editor_.state.DeliverContentChanged(); };
   connect(this, &CQuorvantisDlg::ContentChangePosted, this, deliver, Qt::QueuedConnection);
-  setMinimumSize(kSmallestSize);
-  resize(kFirstSize);
+  connect(cancel_, &QPushButton::clicked, this, &CQuorvantisDlg::EndUnasked);
+  connect(ok_, &QPushButton::clicked, this, &CQuorvantisDlg::EndUnasked);
+  ok_->setEnabled(false);  // so that Enter does not end the window
+  connect(printAgain_, &QPushButton::clicked, this, &CQuorvantisDlg::Print);
+  SetFirstSize(*this);
+  OfferImport();
   editor_.questions.LoadCurrentQuestion();
   TitleChanged();
   question_.text->setFocus();
@@ -79,6 +115,31 @@ CQuorvantisDlg::~CQuorvantisDlg() {
   // The controls speak to the editor until they are gone; the base class would delete them after it.
   qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
   RemoveWorkCopies(exam_);
+}
+
+FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
+  FileButtons::PageCommands commands;
+  commands.importExam = [this] { Import(); };
+  commands.scoreSetup = [] {};
+  commands.preview = [this] { Preview(); };
+  commands.print = [this] { Print(); };
+  return commands;
+}
+
+WindowControls CQuorvantisDlg::Controls() {
+  return {files_, examControls_, questionArea_, question_, answers_};
+}
+
+void CQuorvantisDlg::Layout() {
+  PlaceControls(*this, Controls(), editor_, exam_.Services().debug);
+}
+
+/// Without the file that tells how documents are read there is no import in this run.
+void CQuorvantisDlg::OfferImport() {
+  const ExamServices& services = exam_.Services();
+  if (CanRead(services.applicationFolder / "ImportExam.ini")) return;
+  services.debug.Line(u"CQuorvantisDlg::!file.Open");
+  files_.HideImport();
 }
 
 void CQuorvantisDlg::FormLoaded() {
@@ -93,6 +154,7 @@ void CQuorvantisDlg::FormChanged() {
   examControls_.Refresh();
   question_.Refresh();
   answers_.Refresh();
+  Layout();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
 
@@ -113,6 +175,17 @@ void CQuorvantisDlg::Print() {
   }).Run();
 }
 
+void CQuorvantisDlg::Import() {
+  const ExamServices& services = exam_.Services();
+  services.dialogs.ShowError(services.strings.Text(text_id::kCannotImport));
+}
+
+void CQuorvantisDlg::ShowAbout() {
+  QMessageBox box(QMessageBox::NoIcon, "Quorvantis", "Quorvantis Verson 6.2", QMessageBox::Ok, this);
+  box.setIconPixmap(windowIcon().pixmap(64));
+  box.exec();
+}
+
 void CQuorvantisDlg::PreviewFinished() {
   exam_.PrefixAttachmentPaths(0);
 }
@@ -125,13 +198,53 @@ void CQuorvantisDlg::closeEvent(QCloseEvent* event) {
   event->setAccepted(endsUnasked_ || editor_.files.ConfirmClose());
 }
 
-void CQuorvantisDlg::keyPressEvent(QKeyEvent* event) {
-  if (event->key() != Qt::Key_Escape) {
-    QWidget::keyPressEvent(event);
-    return;
-  }
+void CQuorvantisDlg::EndUnasked() {
   endsUnasked_ = true;
   close();
+}
+
+/// Comes up above the other windows, on whichever screen that is.
+void CQuorvantisDlg::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  raise();
+  connect(windowHandle(), &QWindow::screenChanged, this, &CQuorvantisDlg::ScreenChanged,
+          Qt::UniqueConnection);
+}
+
+void CQuorvantisDlg::ScreenChanged() {
+  LimitSize(*this);
+}
+
+void CQuorvantisDlg::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Layout();
+}
+
+void CQuorvantisDlg::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  const bool changesTexts = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+                            event->type() == QEvent::LayoutDirectionChange;
+  if (changesTexts && isVisible()) Layout();
+}
+
+/// There is no window menu to which a program can add on every desktop; the window's background has it
+/// instead.
+void CQuorvantisDlg::contextMenuEvent(QContextMenuEvent* event) {
+  const std::u16string about = exam_.Services().strings.Text(text_id::kAbout);
+  if (about.empty()) return;
+  auto* menu = new QMenu(this);
+  menu->setObjectName("windowMenu");
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  connect(menu->addAction(ToQString(about)), &QAction::triggered, this, &CQuorvantisDlg::ShowAbout);
+  menu->popup(event->globalPos());
+}
+
+void CQuorvantisDlg::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    cancel_->click();
+  } else if (event->key() != Qt::Key_F1) {  // there is no help that F1 could open, here or behind this window
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void CQuorvantisDlg::dragEnterEvent(QDragEnterEvent* event) {

@@ -4,11 +4,14 @@
 #include "desktop/AnswerControls.h"
 #include "desktop/ExamControls.h"
 #include "desktop/FileButtons.h"
+#include "desktop/Pictures.h"
+#include "desktop/QuestionArea.h"
 #include "desktop/QuestionControls.h"
+#include "desktop/WindowLayout.h"
 #include "editor/ExamEditor.h"
 #include "preview/PreviewWindows.h"
 
-#include <QGroupBox>
+#include <QPushButton>
 #include <QUrl>
 #include <QWidget>
 
@@ -23,8 +26,10 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   Q_OBJECT
 
  public:
-  /// `exam` and the pages that its previews are composed into must outlive the window.
-  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, DocumentExport exportDocument);
+  /// `exam`, the pages that its previews are composed into and the library that pictures are taken from,
+  /// which may be null, must outlive the window.
+  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, DocumentExport exportDocument,
+                 const LanguageLibrary* library = nullptr);
   ~CQuorvantisDlg() override;
 
   /// Opens an exam file, a full path, as the Open command does, without a file dialog.
@@ -41,6 +46,10 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -53,6 +62,15 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
 
   void PreviewFinished() override;
 
+  FileButtons::PageCommands PageCommands();
+  WindowControls Controls();
+  /// Gives every control its place.
+  void Layout();
+  void OfferImport();
+  void ScreenChanged();
+  void EndUnasked();
+  void Import();
+  void ShowAbout();
   void Preview();
   void Print();
   void TakeFiles(const QList<QUrl>& urls);
@@ -60,12 +78,16 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   FrameSetExam& exam_;
   ExamEditor editor_;
   PreviewWindows previews_;
+  Pictures pictures_;
   bool endsUnasked_ = false;
   FileButtons files_;
   ExamControls examControls_;
-  QGroupBox* questionArea_;
+  QuestionArea* questionArea_;
   QuestionControls question_;
   AnswerControls answers_;
+  QPushButton* cancel_;  ///< never seen, like the two below
+  QPushButton* ok_;
+  QPushButton* printAgain_;
 };
 
 }  // namespace quorvantis

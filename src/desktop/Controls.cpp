@@ -1,54 +1,51 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/Controls.h"
 
-#include "desktop/Resources.h"
-
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QShortcut>
 
 namespace quorvantis {
 namespace {
 
-constexpr QSize kLargeButton(90, 40);
-constexpr QSize kSmallButton(73, 28);
-
-QToolButton* MakeButton(QWidget* parent, const char* name, const QString& picture, const QString& tip) {
-  auto* button = new QToolButton(parent);
-  NameControl(button, name, tip);
-  button->setIcon(Picture(picture));
-  button->setToolTip(PlainTip(tip));
-  button->setFocusPolicy(Qt::StrongFocus);
-  return button;
+/// What is still being composed in a field belongs to the text that a command finds.
+void Act(QWidget* control) {
+  QGuiApplication::inputMethod()->commit();
+  if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+    button->click();
+  } else {
+    control->setFocus(Qt::ShortcutFocusReason);
+  }
 }
 
 }  // namespace
 
-QString PlainTip(const QString& tip) {
-  return Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip;
+QString PlainTip(const QString& tip, const Keys& keys) {
+  QStringList names;
+  for (const QKeySequence& key : keys) names << key.toString(QKeySequence::NativeText);
+  const QString all = names.isEmpty() ? tip : tip + " (" + names.join(", ") + ")";
+  return Qt::mightBeRichText(all) ? all.toHtmlEscaped() : all;
 }
 
-QToolButton* MakeLargeButton(QWidget* parent, const char* name, const QString& picture,
-                             const QString& caption) {
-  QToolButton* button = MakeButton(parent, name, "toolbar/" + picture, caption);
-  button->setText(caption);
-  button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  button->setIconSize({24, 24});
-  button->setMinimumSize(kLargeButton);
-  button->setAutoRaise(true);
-  return button;
+void NameControl(QWidget* control, const char* name, const QString& spokenName) {
+  control->setObjectName(name);
+  control->setAccessibleName(spokenName);
 }
 
-QToolButton* MakeSmallButton(QWidget* parent, const char* name, const QString& picture, const QString& tip) {
-  QToolButton* button = MakeButton(parent, name, "small/" + picture, tip);
-  button->setIconSize({20, 20});
-  button->setFixedSize(kSmallButton);
-  return button;
+void AddKeys(QWidget* control, const Keys& keys) {
+  for (const QKeySequence& key : keys) {
+    auto* shortcut = new QShortcut(key, control);
+    shortcut->setContext(Qt::WindowShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, control, [control] { Act(control); });
+  }
 }
 
-void AddShortcut(QAbstractButton* button, const QKeySequence& keys) {
-  if (keys.isEmpty()) return;
-  auto* shortcut = new QShortcut(keys, button);
-  shortcut->setContext(Qt::WindowShortcut);
-  QObject::connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
+void SetUpButton(QAbstractButton* button, const char* name, const QString& tip, const Keys& keys,
+                 std::function<void()> command) {
+  NameControl(button, name, tip);
+  button->setToolTip(PlainTip(tip, keys));
+  AddKeys(button, keys);
+  QObject::connect(button, &QAbstractButton::clicked, button, std::move(command));
 }
 
 QLabel* MakeLabel(QWidget* parent, const char* name, const QString& caption) {
@@ -58,9 +55,11 @@ QLabel* MakeLabel(QWidget* parent, const char* name, const QString& caption) {
   return label;
 }
 
-void NameControl(QWidget* control, const char* name, const QString& spokenName) {
-  control->setObjectName(name);
-  control->setAccessibleName(spokenName);
+void SetUpField(QWidget* field, const char* name, QLabel* label, const Keys& keys) {
+  NameControl(field, name, label->text());
+  label->setBuddy(field);
+  label->setToolTip(PlainTip(label->text(), keys));
+  AddKeys(field, keys);
 }
 
 }  // namespace quorvantis

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/ExamControls.h"
 
+#include "desktop/AttachmentMenu.h"
 #include "desktop/Controls.h"
 #include "desktop/QtText.h"
 #include "platform/Texts.h"
@@ -11,22 +12,30 @@ ExamControls::ExamControls(ExamEditor& editor, const StringTable& strings, QWidg
     : editor_(editor) {
   const auto text = [&strings](int id) { return ToQString(strings.Text(id)); };
   titleLabel = MakeLabel(parent, "titleLabel", text(text_id::kTitle));
-  title = new OneLineField(editor.questions, FormField::Title, parent);
-  NameControl(title, "title", text(text_id::kTitle));
-  titleLabel->setBuddy(title);
+  title = new OneLineField(editor.questions, strings, FormField::Title, parent);
+  SetUpField(title, "title", titleLabel, {Qt::ALT | Qt::Key_T});
 
   random = new StateBox(parent);
-  NameControl(random, "random", text(text_id::kRandom));
-  QObject::connect(random, &StateBox::clicked, random, [&editor] { editor.questions.CycleRandomMode(); });
+  SetUpButton(random, "random", text(text_id::kRandom), {Qt::ALT | Qt::Key_R},
+              [&editor] { editor.questions.CycleRandomMode(); });
 
   attachmentsLabel = MakeLabel(parent, "examAttachmentsLabel", text(text_id::kAttachFiles));
   attachments = new AttachmentListBox(parent);
-  NameControl(attachments, "examAttachments", text(text_id::kAttachFiles));
-  attachmentsLabel->setBuddy(attachments);
+  SetUpField(attachments, "examAttachments", attachmentsLabel, {});
   QObject::connect(attachments, &QListWidget::itemSelectionChanged, attachments,
                    [this, &editor] { editor.attachments.SelectExamFile(attachments->Selected()); });
   QObject::connect(attachments, &AttachmentListBox::DeletePressed, attachments,
                    [&editor] { editor.attachments.RemoveSelectedExamFile(); });
+  QObject::connect(attachments, &AttachmentListBox::MenuRequested, attachments,
+                   [this](const QPoint& position) { ShowMenu(position); });
+}
+
+void ExamControls::ShowMenu(const QPoint& position) {
+  AttachmentEditor& files = editor_.attachments;
+  MakeAttachmentMenu(
+      files.SelectedExamFile(), [&files] { files.RemoveSelectedExamFile(); },
+      editor_.state.document.Services(), attachments)
+      ->popup(position);
 }
 
 void ExamControls::Refresh() {

@@ -32,6 +32,8 @@ class ExamControls {
   AttachmentListBox* attachments;
 
  private:
+  void ShowMenu(const QPoint& position);
+
   ExamEditor& editor_;
 };
 

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/ExamField.h"
 
+#include "platform/Texts.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+
 namespace quorvantis {
 
 void ExamField::Load() {
@@ -19,9 +23,13 @@ void ExamField::FollowForm() {
 bool ExamField::Edit(std::u16string_view shown) {
   std::u16string text = text_.Edited(shown);
   if (text == text_.Text()) return true;
-  if (!editor_.EditField(field_, text)) return false;
-  text_.Set(std::move(text));
-  return true;
+  if (editor_.EditField(field_, text)) {
+    text_.Set(std::move(text));
+    return true;
+  }
+  const auto limit = static_cast<std::int64_t>(MaxLength(field_));
+  Tell(FillMessage(strings_.Text(text_id::kTooLong), {FormatInteger(limit)}));
+  return false;
 }
 
 bool ExamField::Refuses(std::u16string_view shown) {

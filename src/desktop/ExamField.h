@@ -3,6 +3,7 @@
 
 #include "desktop/FieldText.h"
 #include "editor/QuestionEditor.h"
+#include "platform/StringTable.h"
 
 #include <string>
 #include <string_view>
@@ -16,9 +17,9 @@ namespace quorvantis {
 /// The widgets derive from this class and only know what they show.
 class ExamField {
  public:
-  /// `editor` must outlive the field.
-  ExamField(QuestionEditor& editor, FormField field, FieldLines lines)
-      : editor_(editor), field_(field), text_(lines) {}
+  /// `editor` and `strings` must outlive the field.
+  ExamField(QuestionEditor& editor, const StringTable& strings, FormField field, FieldLines lines)
+      : editor_(editor), strings_(strings), field_(field), text_(lines) {}
   virtual ~ExamField() = default;
   ExamField(const ExamField&) = delete;
   ExamField& operator=(const ExamField&) = delete;
@@ -31,7 +32,7 @@ class ExamField {
 
  protected:
   /// The user has turned what is shown into `shown`. False when that is refused: the widget then has to show
-  /// `Shown` again.
+  /// `Shown` again. The user has been told.
   bool Edit(std::u16string_view shown);
 
   /// Asked before a change is made: true when it is refused because it would be too long.
@@ -45,8 +46,12 @@ class ExamField {
   /// Makes one change of the widget's content, as if the user had.
   virtual void ShowChange(const TextChange& change, const std::u16string& shown) = 0;
 
+  /// Shows `message` beside the cursor.
+  virtual void Tell(const std::u16string& message) = 0;
+
  private:
   QuestionEditor& editor_;
+  const StringTable& strings_;
   FormField field_;
   FieldText text_;
 };

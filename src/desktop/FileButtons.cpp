@@ -6,37 +6,65 @@
 #include "platform/Texts.h"
 
 namespace quorvantis {
+namespace {
 
-struct FileButtons::Spec {
+constexpr std::size_t kImport = 2;
+
+struct Spec {
   const char* name;
   const char* picture;
   int text;
-  QKeySequence shortcut;
+  Keys keys;
   std::function<void()> command;
 };
 
+}  // namespace
+
 FileButtons::FileButtons(ExamEditor& editor, const PageCommands& pages, const StringTable& strings,
-                         QWidget* parent) {
-  const QKeySequence none;
-  const Spec specs[] = {
-      {"new", "new.svg", text_id::kNew, Qt::CTRL | Qt::Key_N, [&editor] { editor.files.NewExam(); }},
-      {"open", "open.svg", text_id::kOpen, Qt::CTRL | Qt::Key_O, [&editor] { editor.files.OpenExam(); }},
-      {"save", "save.svg", text_id::kSave, Qt::CTRL | Qt::Key_S, [&editor] { editor.files.SaveExam(); }},
-      {"saveAs", "save-as.svg", text_id::kSaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                         const Pictures& pictures, QWidget* parent) {
+  using namespace text_id;
+  const Spec specs[kCount] = {
+      {"new",
+       "207",
+       kNew,
+       {Qt::ALT | Qt::Key_N, Qt::CTRL | Qt::Key_N},
+       [&editor] { editor.files.NewExam(); }},
+      {"open",
+       "208",
+       kOpen,
+       {Qt::ALT | Qt::Key_O, Qt::CTRL | Qt::Key_O},
+       [&editor] { editor.files.OpenExam(); }},
+      {"import", "227", kImportExam, {Qt::ALT | Qt::Key_I}, pages.importExam},
+      {"save",
+       "211",
+       kSave,
+       {Qt::ALT | Qt::Key_S, Qt::CTRL | Qt::Key_S},
+       [&editor] { editor.files.SaveExam(); }},
+      {"saveAs",
+       "212",
+       kSaveAs,
+       {Qt::ALT | Qt::Key_A, Qt::CTRL | Qt::SHIFT | Qt::Key_S},
        [&editor] { editor.files.SaveExamAs(); }},
-      {"attachFiles", "attach.svg", text_id::kAttachFiles, none,
+      {"scoreSetup", "206", kScoreSettings, {Qt::ALT | Qt::Key_G}, pages.scoreSetup},
+      {"attachFiles",
+       "226",
+       kAttachFiles,
+       {Qt::ALT | Qt::Key_H},
        [&editor] { editor.attachments.AttachExamFile(); }},
-      {"preview", "preview.svg", text_id::kPreview, Qt::Key_F5, pages.preview},
-      {"print", "print.svg", text_id::kPrint, Qt::CTRL | Qt::Key_P, pages.print},
+      {"preview", "209", kPreview, {Qt::ALT | Qt::Key_V, Qt::Key_F5}, pages.preview},
+      {"print", "210", kPrint, {Qt::ALT | Qt::Key_P, Qt::CTRL | Qt::Key_P}, pages.print},
   };
-  for (const Spec& spec : specs) Add(spec, strings, parent);
+  for (std::size_t i = 0; i < kCount; ++i) {
+    const Spec& spec = specs[i];
+    const QString caption = ToQString(strings.Text(spec.text));
+    buttons_[i] = new LargeButton(caption, pictures.Picture(spec.picture), parent);
+    SetUpButton(buttons_[i], spec.name, caption, spec.keys, spec.command);
+  }
 }
 
-void FileButtons::Add(const Spec& spec, const StringTable& strings, QWidget* parent) {
-  QToolButton* button = MakeLargeButton(parent, spec.name, spec.picture, ToQString(strings.Text(spec.text)));
-  AddShortcut(button, spec.shortcut);
-  QObject::connect(button, &QToolButton::clicked, button, spec.command);
-  buttons_.push_back(button);
+void FileButtons::HideImport() {
+  buttons_[kImport]->setEnabled(false);
+  buttons_[kImport]->hide();
 }
 
 }  // namespace quorvantis

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/LargeButton.h"
+#include "desktop/Pictures.h"
 #include "editor/ExamEditor.h"
 #include "platform/StringTable.h"
 
-#include <QToolButton>
-
+#include <array>
 #include <functional>
-#include <vector>
 
 namespace quorvantis {
 
@@ -16,20 +16,25 @@ class FileButtons {
  public:
   /// What the buttons do that the editor does not.
   struct PageCommands {
+    std::function<void()> importExam;
+    std::function<void()> scoreSetup;
     std::function<void()> preview;
     std::function<void()> print;
   };
 
-  /// The buttons belong to `parent`; `editor` must outlive them.
-  FileButtons(ExamEditor& editor, const PageCommands& pages, const StringTable& strings, QWidget* parent);
+  static constexpr std::size_t kCount = 9;
 
-  const std::vector<QToolButton*>& InOrder() const { return buttons_; }
+  /// The buttons belong to `parent`; `editor` must outlive them.
+  FileButtons(ExamEditor& editor, const PageCommands& pages, const StringTable& strings,
+              const Pictures& pictures, QWidget* parent);
+
+  const std::array<LargeButton*, kCount>& InOrder() const { return buttons_; }
+
+  /// Takes the Import button away for the run.
+  void HideImport();
 
  private:
-  struct Spec;
-  void Add(const Spec& spec, const StringTable& strings, QWidget* parent);
-
-  std::vector<QToolButton*> buttons_;
+  std::array<LargeButton*, kCount> buttons_{};
 };
 
 }  // namespace quorvantis

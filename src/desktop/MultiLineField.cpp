@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/MultiLineField.h"
 
+#include "desktop/ControlPainting.h"
 #include "desktop/DroppedFiles.h"
+#include "desktop/FieldKeys.h"
 #include "desktop/QtText.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -37,25 +41,48 @@ QString AsShown(QString text) {
 
 }  // namespace
 
-MultiLineField::MultiLineField(QuestionEditor& editor, FormField field, QWidget* parent)
-    : QPlainTextEdit(parent), ExamField(editor, field, FieldLines::Many) {
+MultiLineField::MultiLineField(QuestionEditor& editor, const StringTable& strings, FormField field,
+                               QWidget* parent)
+    : QPlainTextEdit(parent), ExamField(editor, strings, field, FieldLines::Many) {
+  setFont(QApplication::font());  // has room for lines of any height, unlike the window
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  setLineWidth(2);
   setTabChangesFocus(true);
   connect(document(), &QTextDocument::contentsChanged, this, &MultiLineField::TakeContents);
   connect(this, &MultiLineField::Overran, this, &MultiLineField::Restore, Qt::QueuedConnection);
 }
 
-QSize MultiLineField::minimumSizeHint() const {
-  const int line = fontMetrics().lineSpacing();
-  return {8 * line, line + 2 * static_cast<int>(document()->documentMargin()) + 2 * frameWidth()};
+/// Asked before the keys of the window: what is accepted here is not theirs.
+bool MultiLineField::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && ScrollsWith(static_cast<QKeyEvent&>(*event))) {
+    event->accept();
+    return true;
+  }
+  if (event->type() == QEvent::Paint) {  // of the frame; the text is on the viewport
+    QPainter painter(this);
+    PaintFieldEdge(painter, *this);
+    return true;
+  }
+  return QPlainTextEdit::event(event);
 }
 
-QSize MultiLineField::sizeHint() const {
-  return {minimumSizeHint().width(), 2 * minimumSizeHint().height()};
+bool MultiLineField::ScrollsWith(const QKeyEvent& event) const {
+  const bool isPageKey = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
+  const bool overflows = verticalScrollBar()->maximum() > verticalScrollBar()->minimum();
+  return isPageKey && overflows && event.modifiers() == Qt::NoModifier;
+}
+
+void MultiLineField::Tell(const std::u16string& message) {
+  TellAtCursor(this, cursorRect(), message);
 }
 
 void MultiLineField::keyPressEvent(QKeyEvent* event) {
   const QString text = TextOf(*event);
   if (!text.isEmpty() && RefusesInsertion(text)) return;
+  if (IsOtherRedo(*event)) {
+    redo();
+    return;
+  }
   if (IsEnter(*event) && event->modifiers().testFlag(Qt::ShiftModifier)) {
     // Qt would put in a line separator instead of a line end.
     QKeyEvent enter(QEvent::KeyPress, event->key(), Qt::NoModifier, event->text());

@@ -7,21 +7,22 @@
 
 namespace quorvantis {
 
-/// A text field of several lines. Tab leaves it, so that the keyboard reaches every control.
+/// A text field of several lines. Tab leaves it, so that the keyboard reaches every control. Page Up and Page
+/// Down walk through the questions from here as from everywhere, except while the field holds more text than
+/// it shows: then they belong to the field, at its first and last page too, so that scrolling never ends in
+/// another question.
 class MultiLineField : public QPlainTextEdit, public ExamField {
   Q_OBJECT
 
  public:
-  MultiLineField(QuestionEditor& editor, FormField field, QWidget* parent);
-
-  QSize minimumSizeHint() const override;
-  QSize sizeHint() const override;
+  MultiLineField(QuestionEditor& editor, const StringTable& strings, FormField field, QWidget* parent);
 
  signals:
   /// The field shows a text that it does not take; it is put right after the event.
   void Overran();
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -31,8 +32,10 @@ class MultiLineField : public QPlainTextEdit, public ExamField {
 
   void ShowAnew(const std::u16string& shown) override;
   void ShowChange(const TextChange& change, const std::u16string& shown) override;
+  void Tell(const std::u16string& message) override;
 
  private:
+  bool ScrollsWith(const QKeyEvent& event) const;
   bool RefusesInsertion(const QString& inserted, int offset = 0, int replaced = 0);
   void TakeContents();
   void AlignText(const QString& content);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/OneLineField.h"
 
+#include "desktop/ControlPainting.h"
 #include "desktop/DroppedFiles.h"
+#include "desktop/FieldKeys.h"
 #include "desktop/QtText.h"
 
 #include <QDropEvent>
@@ -24,10 +26,31 @@ class OneLineField::Gate : public QValidator {
   OneLineField& field_;
 };
 
-OneLineField::OneLineField(QuestionEditor& editor, FormField field, QWidget* parent)
-    : QLineEdit(parent), ExamField(editor, field, FieldLines::One) {
+OneLineField::OneLineField(QuestionEditor& editor, const StringTable& strings, FormField field,
+                           QWidget* parent)
+    : QLineEdit(parent), ExamField(editor, strings, field, FieldLines::One) {
+  setFrame(false);  // the frame of a style would leave too little room in a field that is 20 pixels high
+  setTextMargins(3, 0, 3, 0);
   setValidator(new Gate(*this));
   connect(this, &QLineEdit::textChanged, this, &OneLineField::RestoreIfRefused);
+}
+
+void OneLineField::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  PaintFieldEdge(painter, *this);
+}
+
+void OneLineField::keyPressEvent(QKeyEvent* event) {
+  if (IsOtherRedo(*event)) {
+    redo();
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+void OneLineField::Tell(const std::u16string& message) {
+  TellAtCursor(this, cursorRect(), message);
 }
 
 void OneLineField::dragEnterEvent(QDragEnterEvent* event) {

@@ -12,14 +12,17 @@ class OneLineField : public QLineEdit, public ExamField {
   Q_OBJECT
 
  public:
-  OneLineField(QuestionEditor& editor, FormField field, QWidget* parent);
+  OneLineField(QuestionEditor& editor, const StringTable& strings, FormField field, QWidget* parent);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
   void ShowAnew(const std::u16string& shown) override;
   void ShowChange(const TextChange& change, const std::u16string& shown) override;
+  void Tell(const std::u16string& message) override;
 
  private:
   class Gate;

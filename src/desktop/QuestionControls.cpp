@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/QuestionControls.h"
 
+#include "desktop/AttachmentMenu.h"
 #include "desktop/Controls.h"
 #include "desktop/QtText.h"
 #include "platform/Texts.h"
@@ -8,97 +9,78 @@
 namespace quorvantis {
 namespace {
 
-struct KindButton {
+struct KindSpec {
   const char* name;
   QuestionKind kind;
   int text;
+  QKeySequence key;
 };
 
-constexpr KindButton kKinds[] = {{"kindChoice", QuestionKind::Choice, text_id::kChoice},
-                                 {"kindFillIn", QuestionKind::FillIn, text_id::kFillIn},
-                                 {"kindEssay", QuestionKind::Essay, text_id::kEssay},
-                                 {"kindOral", QuestionKind::Oral, text_id::kOral}};
-
-struct NavigationButton {
-  const char* name;
-  const char* picture;
-  int tip;
-  QKeySequence shortcut;
-  void (QuestionEditor::*command)();
+const KindSpec kKinds[] = {
+    {"kindChoice", QuestionKind::Choice, text_id::kChoice, Qt::ALT | Qt::Key_C},
+    {"kindFillIn", QuestionKind::FillIn, text_id::kFillIn, Qt::ALT | Qt::Key_F},
+    {"kindEssay", QuestionKind::Essay, text_id::kEssay, Qt::ALT | Qt::Key_E},
+    {"kindOral", QuestionKind::Oral, text_id::kOral, Qt::ALT | Qt::Key_L},
 };
 
-const std::vector<NavigationButton>& Navigation() {
-  static const std::vector<NavigationButton> buttons = {
-      {"back10", "back-10.svg", text_id::kBackward10, Qt::CTRL | Qt::Key_PageUp, &QuestionEditor::GoBack10},
-      {"previous", "previous.svg", text_id::kPrevious, Qt::Key_PageUp, &QuestionEditor::GoPrevious},
-      {"next", "next.svg", text_id::kNext, Qt::Key_PageDown, &QuestionEditor::GoNext},
-      {"forward10", "forward-10.svg", text_id::kForward10, Qt::CTRL | Qt::Key_PageDown,
-       &QuestionEditor::GoForward10},
-      {"insertQuestion", "insert.svg", text_id::kInsertQuestion, {}, &QuestionEditor::InsertHere},
-      {"deleteQuestion", "delete.svg", text_id::kDeleteQuestion, {}, &QuestionEditor::DeleteHere},
-  };
-  return buttons;
-}
+const QKeySequence kOralKey(Qt::ALT | Qt::Key_Z);
 
 }  // namespace
 
-QuestionControls::QuestionControls(ExamEditor& editor, const StringTable& strings, QWidget* parent)
-    : editor_(editor) {
-  const QString caption = ToQString(strings.Text(text_id::kQuestion));
-  label = MakeLabel(parent, "questionLabel", caption);
+QuestionControls::QuestionControls(ExamEditor& editor, const StringTable& strings, const Pictures& pictures,
+                                   QWidget* parent)
+    : navigation(editor, strings, pictures, parent), editor_(editor) {
+  label = MakeLabel(parent, "questionLabel", ToQString(strings.Text(text_id::kQuestion)));
   number = MakeLabel(parent, "questionNumber", {});
+  number->setAlignment(Qt::AlignLeading | Qt::AlignTop);  // in line with the label
   QFont bold = number->font();
   bold.setBold(true);
   number->setFont(bold);
   MakeKinds(strings, parent);
-  text = new MultiLineField(editor.questions, FormField::Text, parent);
-  NameControl(text, "questionText", caption);
-  label->setBuddy(text);
-  attachmentPanel = new QWidget(parent);
-  MakeAttachments(strings);
-  MakeNavigation(strings, parent);
+  text = new MultiLineField(editor.questions, strings, FormField::Text, parent);
+  SetUpField(text, "questionText", label, {Qt::ALT | Qt::Key_Q});
+  MakeAttachments(strings, parent);
+  MakeOralToggle(strings, parent);
 }
 
 void QuestionControls::MakeKinds(const StringTable& strings, QWidget* parent) {
   kinds = new QButtonGroup(parent);
-  for (const KindButton& kind : kKinds) {
-    auto* button = new QPushButton(ToQString(strings.Text(kind.text)), parent);
-    NameControl(button, kind.name, button->text());
-    button->setCheckable(true);
-    button->setMinimumSize(90, 30);
-    kinds->addButton(button, static_cast<int>(kind.kind));
+  for (const KindSpec& spec : kKinds) {
+    const QString caption = ToQString(strings.Text(spec.text));
+    auto* button = new ChoiceButton(caption, parent);
+    SetUpButton(button, spec.name, caption, {spec.key},
+                [this, kind = spec.kind] { editor_.questions.SelectKind(kind); });
+    kinds->addButton(button, static_cast<int>(spec.kind));
   }
-  QObject::connect(kinds, &QButtonGroup::idClicked, kinds,
-                   [this](int id) { editor_.questions.SelectKind(static_cast<QuestionKind>(id)); });
 }
 
-void QuestionControls::MakeNavigation(const StringTable& strings, QWidget* parent) {
-  for (const NavigationButton& spec : Navigation()) {
-    QToolButton* button = MakeSmallButton(parent, spec.name, spec.picture, ToQString(strings.Text(spec.tip)));
-    AddShortcut(button, spec.shortcut);
-    QObject::connect(button, &QToolButton::clicked, button,
-                     [this, command = spec.command] { (editor_.questions.*command)(); });
-    navigation.push_back(button);
-  }
-  const QString tip = ToQString(strings.Text(text_id::kAttachToQuestion));
-  QToolButton* attach = MakeSmallButton(parent, "attachToQuestion", "attach-question.svg", tip);
-  QObject::connect(attach, &QToolButton::clicked, attach,
-                   [this] { editor_.attachments.AttachQuestionFile(); });
-  navigation.push_back(attach);
-}
-
-void QuestionControls::MakeAttachments(const StringTable& strings) {
-  attachments = new AttachmentListBox(attachmentPanel);
+void QuestionControls::MakeAttachments(const StringTable& strings, QWidget* parent) {
+  attachments = new AttachmentListBox(parent);
   NameControl(attachments, "questionAttachments", ToQString(strings.Text(text_id::kAttachToQuestion)));
   QObject::connect(attachments, &QListWidget::itemSelectionChanged, attachments,
                    [this] { editor_.attachments.SelectQuestionFile(attachments->Selected()); });
   QObject::connect(attachments, &AttachmentListBox::DeletePressed, attachments,
                    [this] { editor_.attachments.RemoveSelectedQuestionFile(); });
+  QObject::connect(attachments, &AttachmentListBox::MenuRequested, attachments,
+                   [this](const QPoint& position) { ShowMenu(position); });
+}
 
-  oralToggle = new QPushButton(attachmentPanel);
-  oralToggle->setObjectName("oralToggle");
-  QObject::connect(oralToggle, &QPushButton::clicked, oralToggle,
-                   [this] { editor_.attachments.ToggleOral(); });
+void QuestionControls::ShowMenu(const QPoint& position) {
+  AttachmentEditor& files = editor_.attachments;
+  QMenu* menu = MakeAttachmentMenu(
+      files.SelectedQuestionFile(), [&files] { files.RemoveSelectedQuestionFile(); },
+      editor_.state.document.Services(), attachments);
+  if (editor_.state.currentKind == QuestionKind::Oral) AddOralSwitch(*menu, files);
+  menu->popup(position);
+}
+
+/// The button has room for both of its captions, and never changes its size.
+void QuestionControls::MakeOralToggle(const StringTable& strings, QWidget* parent) {
+  oralToggle = new CaptionButton(parent);
+  const QString off = ToQString(strings.Text(text_id::kOralOff));
+  SetUpButton(oralToggle, "oralToggle", off, {kOralKey}, [this] { editor_.attachments.ToggleOral(); });
+  const QString on = ToQString(strings.Text(text_id::kOralOn));
+  oralToggle->resize(oralToggle->SizeFor(off).expandedTo(oralToggle->SizeFor(on)));
 }
 
 void QuestionControls::Refresh() {
@@ -106,24 +88,26 @@ void QuestionControls::Refresh() {
   ShowKind();
   text->FollowForm();
   attachments->Show(editor_.attachments.QuestionList());
-  attachmentPanel->setVisible(editor_.attachments.QuestionList().visible);
-  oralToggle->setText(ToQString(editor_.attachments.OralToggleCaption()));
-  oralToggle->setAccessibleName(oralToggle->text());
-  oralToggle->setVisible(editor_.attachments.OralToggleVisible());
+  ShowOralToggle();
 }
 
-/// The kind stands out in the colour of a selection; no button is down for a kind that has none.
+void QuestionControls::ShowOralToggle() {
+  const QString caption = ToQString(editor_.attachments.OralToggleCaption());
+  oralToggle->setText(caption);
+  oralToggle->setAccessibleName(caption);
+  oralToggle->setToolTip(PlainTip(caption, {kOralKey}));
+  oralToggle->setVisible(editor_.attachments.OralToggleVisible());
+  oralToggle->setEnabled(editor_.attachments.OralToggleVisible());
+}
+
+/// No button is down for a kind that has none. The Tab key stops at the one that is down.
 void QuestionControls::ShowKind() {
+  const int kind = static_cast<int>(editor_.state.currentKind);
+  const int stop = kinds->button(kind) != nullptr ? kind : static_cast<int>(QuestionKind::Choice);
   kinds->setExclusive(false);
   for (QAbstractButton* button : kinds->buttons()) {
-    const bool current = kinds->id(button) == static_cast<int>(editor_.state.currentKind);
-    button->setChecked(current);
-    QPalette colours;
-    if (current) {
-      colours.setBrush(QPalette::Button, colours.highlight());
-      colours.setBrush(QPalette::ButtonText, colours.highlightedText());
-    }
-    button->setPalette(colours);
+    button->setChecked(kinds->id(button) == kind);
+    button->setFocusPolicy(kinds->id(button) == stop ? Qt::StrongFocus : Qt::ClickFocus);
   }
   kinds->setExclusive(true);
 }

@@ -2,16 +2,14 @@
 #pragma once
 
 #include "desktop/AttachmentListBox.h"
+#include "desktop/CaptionButton.h"
 #include "desktop/MultiLineField.h"
+#include "desktop/NavigationButtons.h"
 #include "editor/ExamEditor.h"
 #include "platform/StringTable.h"
 
 #include <QButtonGroup>
 #include <QLabel>
-#include <QPushButton>
-#include <QToolButton>
-
-#include <vector>
 
 namespace quorvantis {
 
@@ -19,8 +17,8 @@ namespace quorvantis {
 /// attached files and the oral toggle.
 class QuestionControls {
  public:
-  /// The controls are made inside `parent`; `editor` must outlive them.
-  QuestionControls(ExamEditor& editor, const StringTable& strings, QWidget* parent);
+  /// The controls belong to `parent`; `editor` must outlive them.
+  QuestionControls(ExamEditor& editor, const StringTable& strings, const Pictures& pictures, QWidget* parent);
   QuestionControls(const QuestionControls&) = delete;
   QuestionControls& operator=(const QuestionControls&) = delete;
 
@@ -33,17 +31,18 @@ class QuestionControls {
   QLabel* label;
   QLabel* number;
   QButtonGroup* kinds;
-  std::vector<QToolButton*> navigation;  ///< in the order on the screen
+  NavigationButtons navigation;
   MultiLineField* text;
-  QWidget* attachmentPanel;  ///< holds the attached files and the oral toggle
   AttachmentListBox* attachments;
-  QPushButton* oralToggle;
+  CaptionButton* oralToggle;
 
  private:
   void MakeKinds(const StringTable& strings, QWidget* parent);
-  void MakeNavigation(const StringTable& strings, QWidget* parent);
-  void MakeAttachments(const StringTable& strings);
+  void MakeAttachments(const StringTable& strings, QWidget* parent);
+  void MakeOralToggle(const StringTable& strings, QWidget* parent);
+  void ShowMenu(const QPoint& position);
   void ShowKind();
+  void ShowOralToggle();
 
   ExamEditor& editor_;
 };

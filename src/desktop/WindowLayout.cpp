@@ -1,142 +1,131 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/WindowLayout.h"
 
-#include <QBoxLayout>
+#include "shell/Layout.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
 
+#include <optional>
 #include <vector>
 
 namespace quorvantis {
 namespace {
 
-constexpr int kMargin = 10;
-constexpr int kGap = 10;
-
-QBoxLayout* FileRow(const FileButtons& files) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(0);
-  for (QToolButton* button : files.InOrder()) row->addWidget(button);
-  row->addStretch();
-  return row;
+PixelSize TextSize(const QWidget& control, const QString& text) {
+  const QSize size = control.fontMetrics().size(Qt::TextSingleLine, text);
+  return {size.width(), size.height()};
 }
 
-QBoxLayout* ExamRow(const ExamControls& exam) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(kGap);
-  row->addWidget(exam.titleLabel);
-  row->addWidget(exam.title, 7);
-  row->addWidget(exam.random);
-  row->addWidget(exam.attachmentsLabel);
-  row->addWidget(exam.attachments, 3);
-  return row;
+PixelSize TextSize(const QLabel& label) {
+  return TextSize(label, label.text());
 }
 
-QBoxLayout* KindRow(const QuestionControls& question) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(kGap);
-  row->addWidget(question.label);
-  row->addWidget(question.number);
-  for (QAbstractButton* button : question.kinds->buttons()) row->addWidget(button);
-  row->addStretch();
-  return row;
-}
-
-QBoxLayout* NavigationRow(const QuestionControls& question) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(0);
-  for (QToolButton* button : question.navigation) {
-    if (button->objectName() == "insertQuestion") row->addSpacing(kGap);
-    row->addWidget(button);
+LayoutInput Measure(const QWidget& window, const WindowControls& controls, const ExamEditor& editor) {
+  LayoutInput input;
+  input.client = {window.width(), window.height()};
+  for (std::size_t i = 0; i < kToolbarButtons; ++i) {
+    input.enabled[i] = controls.files.InOrder()[i]->isEnabled();
   }
-  row->addStretch();
-  return row;
+  input.titleLabel = TextSize(*controls.exam.titleLabel);
+  input.randomTextWidth = TextSize(*controls.exam.random, controls.exam.random->text()).width;
+  input.examAttachmentsLabel = TextSize(*controls.exam.attachmentsLabel);
+  input.examListVisible = editor.attachments.ExamList().visible;
+  input.questionLabel = TextSize(*controls.question.label);
+  input.questionListVisible = editor.attachments.QuestionList().visible;
+  input.oralToggle = {controls.question.oralToggle->width(), controls.question.oralToggle->height()};
+  input.answerLabel = TextSize(*controls.answers.answerLabel);
+  input.essayLabel = TextSize(*controls.answers.essayLabel);
+  input.kind = editor.state.currentKind;
+  return input;
 }
 
-/// The rows of a panel; the margins are those of what is around it.
-QBoxLayout* RowsOf(QWidget* panel) {
-  auto* rows = new QVBoxLayout(panel);
-  rows->setContentsMargins(0, 0, 0, 0);
-  return rows;
-}
+/// Moves controls of one window to their places.
+class Placer {
+ public:
+  explicit Placer(const QWidget& window) : width_(window.width()), mirrored_(window.isRightToLeft()) {}
 
-QBoxLayout* TextRow(const QuestionControls& question) {
-  QBoxLayout* attachments = RowsOf(question.attachmentPanel);
-  attachments->addWidget(question.attachments, 1);
-  attachments->addWidget(question.oralToggle);
-  auto* row = new QHBoxLayout;
-  row->setSpacing(kGap);
-  row->addWidget(question.text, 7);
-  row->addWidget(question.attachmentPanel, 3);
-  return row;
-}
-
-void ArrangeChoice(const AnswerControls& answers) {
-  QBoxLayout* rows = RowsOf(answers.choicePanel);
-  rows->setSpacing(kGap);
-  for (std::size_t i = 0; i < kOptionCount; ++i) {
-    answers.boxes[i]->setMinimumWidth(40);
-    auto* row = new QHBoxLayout;
-    row->addWidget(answers.boxes[i]);
-    row->addWidget(answers.options[i], 1);
-    rows->addLayout(row, 1);
+  void Place(QWidget* control, const std::optional<PixelRect>& place) const {
+    if (!place) return;
+    const PixelRect at = mirrored_ ? Mirrored(*place, width_) : *place;
+    control->setGeometry(at.x, at.y, at.width, at.height);
   }
-}
 
-void ArrangeFillIn(const AnswerControls& answers) {
-  auto* line = new QHBoxLayout;
-  line->addWidget(answers.answer, 1);
-  line->addWidget(answers.separator);
-  QBoxLayout* rows = RowsOf(answers.fillInPanel);
-  rows->addWidget(answers.answerLabel);
-  rows->addLayout(line);
-}
-
-void ArrangeEssay(const AnswerControls& answers) {
-  QBoxLayout* rows = RowsOf(answers.essayPanel);
-  rows->addWidget(answers.essayLabel);
-  rows->addWidget(answers.essay, 1);
-}
-
-void ArrangeQuestionArea(const WindowControls& controls) {
-  auto* column = new QVBoxLayout(controls.questionArea);
-  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->setSpacing(kGap);
-  column->addLayout(KindRow(controls.question));
-  column->addLayout(NavigationRow(controls.question));
-  column->addLayout(TextRow(controls.question), 2);
-  ArrangeChoice(controls.answers);
-  column->addWidget(controls.answers.choicePanel, 5);
-  ArrangeFillIn(controls.answers);
-  column->addWidget(controls.answers.fillInPanel);
-  ArrangeEssay(controls.answers);
-  column->addWidget(controls.answers.essayPanel, 3);
-}
-
-void SetTabOrder(const WindowControls& controls) {
-  std::vector<QWidget*> order{controls.question.text, controls.question.attachments,
-                              controls.question.oralToggle};
-  for (std::size_t i = 0; i < kOptionCount; ++i) {
-    order.push_back(controls.answers.boxes[i]);
-    order.push_back(controls.answers.options[i]);
+  template <class Controls, class Places>
+  void PlaceAll(const Controls& controls, const Places& places) const {
+    for (std::size_t i = 0; i < places.size(); ++i) Place(controls[i], places[i]);
   }
-  order.insert(order.end(), {controls.answers.answer, controls.answers.separator, controls.answers.essay});
-  order.insert(order.end(), controls.question.navigation.begin(), controls.question.navigation.end());
-  order.insert(order.end(), controls.files.InOrder().begin(), controls.files.InOrder().end());
-  order.insert(order.end(), {controls.exam.title, controls.exam.random, controls.exam.attachments});
-  for (QAbstractButton* button : controls.question.kinds->buttons()) order.push_back(button);
-  for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+
+ private:
+  int width_;
+  bool mirrored_;
+};
+
+void PlaceExam(const Placer& placer, const ExamControls& exam, const LayoutPlaces& places) {
+  placer.Place(exam.titleLabel, places.titleLabel);
+  placer.Place(exam.title, places.title);
+  placer.Place(exam.random, places.random);
+  placer.Place(exam.attachmentsLabel, places.examAttachmentsLabel);
+  placer.Place(exam.attachments, places.examAttachments);
+}
+
+void PlaceQuestion(const Placer& placer, const QuestionControls& question, const LayoutPlaces& places) {
+  placer.Place(question.label, places.questionLabel);
+  placer.Place(question.number, places.number);
+  placer.PlaceAll(question.kinds->buttons(), places.kinds);
+  placer.PlaceAll(question.navigation.InOrder(), places.navigation);
+  placer.Place(question.text, places.text);
+  placer.Place(question.attachments, places.attachments);
+  placer.Place(question.oralToggle, places.oralToggle);
+}
+
+void PlaceAnswers(const Placer& placer, const AnswerControls& answers, const LayoutPlaces& places) {
+  placer.PlaceAll(answers.boxes, places.boxes);
+  placer.PlaceAll(answers.options, places.options);
+  placer.Place(answers.answerLabel, places.answerLabel);
+  placer.Place(answers.answer, places.answer);
+  placer.Place(answers.separator, places.listSeparator);
+  placer.Place(answers.essayLabel, places.essayLabel);
+  placer.Place(answers.essay, places.essay);
+}
+
+void TellDisabled(const LayoutInput& input, DebugOutput& debug) {
+  for (std::size_t i = 0; i < kToolbarButtons; ++i) {
+    if (input.enabled[i]) continue;
+    debug.Line(FillMessage(u"CQuorvantisDlg::Layout button %d is disabled", {FormatInteger(i)}));
+  }
 }
 
 }  // namespace
 
-void ArrangeWindow(QWidget* window, const WindowControls& controls) {
-  auto* column = new QVBoxLayout(window);
-  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->setSpacing(kGap);
-  column->addLayout(FileRow(controls.files));
-  column->addLayout(ExamRow(controls.exam));
-  ArrangeQuestionArea(controls);
-  column->addWidget(controls.questionArea, 1);
-  SetTabOrder(controls);
+void PlaceControls(const QWidget& window, const WindowControls& controls, const ExamEditor& editor,
+                   DebugOutput& debug) {
+  const LayoutInput input = Measure(window, controls, editor);
+  const LayoutPlaces places = Layout(input);
+  const Placer placer(window);
+  placer.PlaceAll(controls.files.InOrder(), places.toolbar);
+  PlaceExam(placer, controls.exam, places);
+  placer.Place(controls.questionArea, places.questionArea);
+  PlaceQuestion(placer, controls.question, places);
+  PlaceAnswers(placer, controls.answers, places);
+  TellDisabled(input, debug);
+}
+
+void SetTabOrder(const WindowControls& controls) {
+  std::vector<QWidget*> order;
+  const auto append = [&order](const auto& row) { order.insert(order.end(), row.begin(), row.end()); };
+  append(controls.files.InOrder());
+  append(
+      std::initializer_list<QWidget*>{controls.exam.title, controls.exam.random, controls.exam.attachments});
+  append(controls.question.kinds->buttons());
+  append(controls.question.navigation.InOrder());
+  append(std::initializer_list<QWidget*>{controls.question.text, controls.question.attachments,
+                                         controls.question.oralToggle});
+  for (std::size_t i = 0; i < kOptionCount; ++i) {
+    order.insert(order.end(), {controls.answers.boxes[i], controls.answers.options[i]});
+  }
+  append(std::initializer_list<QWidget*>{controls.answers.answer, controls.answers.separator,
+                                         controls.answers.essay});
+  for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 }  // namespace quorvantis

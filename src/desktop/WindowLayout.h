@@ -4,25 +4,28 @@
 #include "desktop/AnswerControls.h"
 #include "desktop/ExamControls.h"
 #include "desktop/FileButtons.h"
+#include "desktop/QuestionArea.h"
 #include "desktop/QuestionControls.h"
-
-#include <QGroupBox>
-#include <QWidget>
+#include "platform/DebugOutput.h"
 
 namespace quorvantis {
 
-/// Everything that the window shows.
+/// Everything that the window shows. All are children of the window itself, in whose coordinates they are
+/// placed.
 struct WindowControls {
   FileButtons& files;
   ExamControls& exam;
-  QGroupBox* questionArea;
+  QuestionArea* questionArea;
   QuestionControls& question;
   AnswerControls& answers;
 };
 
-/// Gives every control its place in `window`, where it stays however the window is resized and whichever
-/// controls are hidden, and puts them in the order of the Tab key. Question and answers get the room that
-/// there is.
-void ArrangeWindow(QWidget* window, const WindowControls& controls);
+/// Gives every control of `window` its place for the state that `editor` is in; mirrored, where the window
+/// runs from right to left. Names the buttons of the toolbar that are out of use on `debug`.
+void PlaceControls(const QWidget& window, const WindowControls& controls, const ExamEditor& editor,
+                   DebugOutput& debug);
+
+/// The Tab key walks along the rows of the window, from top to bottom.
+void SetTabOrder(const WindowControls& controls);
 
 }  // namespace quorvantis

@@ -5,6 +5,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTextDocument>
+#include <QToolTip>
 
 namespace quorvantis::test {
 namespace {
@@ -18,7 +19,7 @@ class FieldEditing : public WindowTest {
 
   /// Question 1 once the user has walked away.
   const ExamQuestion& Stored() {
-    Press("questionText", Qt::Key_PageDown);
+    Click("next");
     return exam.Question(1);
   }
 };
@@ -73,6 +74,37 @@ TEST_P(LimitedField, HoldsInputMethodsToTheLimitToo) {
     QCoreApplication::sendEvent(&Control(name), &event);
   }
   EXPECT_EQ(Shown(), "水😀" + loaded);
+}
+
+TEST_P(LimitedField, TakesBackWhatIsBeingComposedWhenItWouldBeTooLong) {
+  OpenWith(250);
+  QInputMethodEvent composing("1234567", {});
+  QCoreApplication::sendEvent(&Control(name), &composing);
+  EXPECT_EQ(Shown(), loaded);
+  QInputMethodEvent done;
+  done.setCommitString("1234567");
+  QCoreApplication::sendEvent(&Control(name), &done);
+  Type(name, "abc");
+  EXPECT_EQ(Shown(), "abc" + loaded);
+}
+
+TEST_P(LimitedField, TellsThatItRefuses) {
+  OpenWith(256);
+  Type(name, "y");
+  EXPECT_EQ(QToolTip::text(), "[1011 256]");
+  QToolTip::hideText();
+}
+
+TEST_P(LimitedField, RedoesWithEitherKey) {
+  OpenWith(1);
+  Type(name, "y");
+  for (const auto& [key, modifiers] : {std::pair{Qt::Key_Y, Qt::KeyboardModifiers(Qt::ControlModifier)},
+                                       std::pair{Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier}}) {
+    Undo(name);
+    EXPECT_EQ(Shown(), "x");
+    Press(name, key, modifiers);
+    EXPECT_EQ(Shown(), "yx");
+  }
 }
 
 TEST_P(LimitedField, LeavesARefusedDropWhereItCameFrom) {

@@ -181,21 +181,5 @@ TEST_F(QuestionWindow, OralToggleSwitchesTheFlag) {
   EXPECT_EQ(exam.Question(1).oralFlag, 1);
 }
 
-TEST_F(QuestionWindow, EveryControlHasANameAndIsReachedByTab) {
-  Open();
-  Attach("attachFiles", "exam.doc");
-  Control("questionText").setFocus();
-  QStringList reached;
-  while (!reached.contains(QApplication::focusWidget()->objectName())) {
-    reached << QApplication::focusWidget()->objectName();
-    EXPECT_FALSE(QApplication::focusWidget()->accessibleName().isEmpty()) << qPrintable(reached.back());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-  }
-  for (const char* name : {"boxA", "optionE", "next", "attachToQuestion", "save", "title", "random",
-                           "examAttachments", "kindChoice"}) {
-    EXPECT_TRUE(reached.contains(name)) << name;
-  }
-}
-
 }  // namespace
 }  // namespace quorvantis::test
