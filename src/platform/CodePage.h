@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,9 @@ class CodePage {
 
   /// The bytes as UTF-16. Malformed bytes become U+FFFD; nothing is ever thrown.
   virtual std::u16string Decode(std::string_view bytes) const = 0;
+
+  /// The bytes of a text, or nothing when the code page lacks one of its characters.
+  virtual std::optional<std::string> Encode(std::u16string_view text) const = 0;
 };
 
 }  // namespace quorvantis

@@ -1,34 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ProfileFile.h"
 
-#include "text/Utf.h"
+#include "platform/WholeFile.h"
 
 #include <algorithm>
-#include <fstream>
 
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kMaxBytes = std::size_t{1024} * 1024;
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+constexpr std::size_t kMaxBytes = std::size_t{16} * 1024 * 1024;
+constexpr std::u16string_view kBlanks = u" \t";
 
-std::u16string Decode(std::string_view bytes) {
-  if (bytes.starts_with(kUtf16Mark)) {
-    std::u16string text;
-    for (std::size_t i = kUtf16Mark.size(); i + 1 < bytes.size(); i += 2) {
-      const auto low = static_cast<unsigned char>(bytes[i]);
-      const auto high = static_cast<unsigned char>(bytes[i + 1]);
-      text.push_back(static_cast<char16_t>(low | (high << 8)));
-    }
-    return text;
-  }
-  if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
-  return Utf8ToUtf16(bytes);
+bool IsLineBreak(char16_t unit) {
+  return unit == u'\r' || unit == u'\n';
 }
 
 std::u16string_view Trim(std::u16string_view text) {
-  constexpr std::u16string_view kBlanks = u" \t";
   const std::size_t begin = text.find_first_not_of(kBlanks);
   if (begin == std::u16string_view::npos) return {};
   return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
@@ -45,40 +32,126 @@ bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b) {
   return std::ranges::equal(a, b, {}, lower, lower);
 }
 
-/// Takes one line off the front of `content`.
-std::u16string_view TakeLine(std::u16string_view& content) {
-  const std::size_t length = content.find_first_of(u"\r\n");
-  const std::u16string_view line = content.substr(0, length);
-  content.remove_prefix(length == std::u16string_view::npos ? content.size() : length + 1);
-  return Trim(line);
+bool IsSectionLine(std::u16string_view line) {
+  return Trim(line).starts_with(u'[');
+}
+
+bool BeginsSection(std::u16string_view line, std::u16string_view section) {
+  const std::u16string_view text = Trim(line);
+  return EqualsIgnoringCase(Trim(text.substr(1, text.find(u']') - 1)), section);
+}
+
+bool IsEntry(std::u16string_view line, std::u16string_view key) {
+  const std::u16string_view text = Trim(line);
+  const std::size_t equals = text.find(u'=');
+  if (text.starts_with(u';') || equals == std::u16string_view::npos) return false;
+  return EqualsIgnoringCase(Trim(text.substr(0, equals)), key);
+}
+
+/// Where the value of an entry begins in its line, behind the blanks.
+std::size_t ValueBegin(std::u16string_view entry) {
+  const std::size_t equals = entry.find(u'=');
+  return std::min(entry.find_first_not_of(kBlanks, equals + 1), entry.size());
+}
+
+bool FitsInOneLine(std::u16string_view text) {
+  return std::ranges::none_of(text, [](char16_t unit) { return IsLineBreak(unit) || unit == u'\0'; });
+}
+
+/// Half a unit at the end holds no text, and text behind it would be read wrong.
+std::string WithoutHalfUnit(std::string bytes, const ProfileEncoding& encoding) {
+  bytes.resize(bytes.size() - bytes.size() % encoding.UnitSize());
+  return bytes;
 }
 
 }  // namespace
 
-ProfileFile::ProfileFile(const std::filesystem::path& file) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return;
-  std::ifstream in(file, std::ios::binary);
-  std::string bytes(kMaxBytes, '\0');
-  in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  content_ = Decode(std::string_view(bytes).substr(0, static_cast<std::size_t>(in.gcount())));
+ProfileFile::ProfileFile(const std::filesystem::path& file, const CodePage* codePage)
+    : encoding_(ProfileEncoding::Of({}, codePage)) {
+  std::optional<std::string> bytes = ReadWholeFile(file, kMaxBytes);
+  whole_ = bytes.has_value();
+  if (!whole_) return;
+  encoding_ = ProfileEncoding::Of(*bytes, codePage);
+  bytes_ = WithoutHalfUnit(*std::move(bytes), encoding_);
 }
 
 std::optional<std::u16string> ProfileFile::Value(std::u16string_view section, std::u16string_view key) const {
+  const std::optional<Line> entry = Find(section, key).entry;
+  if (!entry) return std::nullopt;
+  const std::u16string line = TextOf(*entry);
+  return std::u16string(Unquote(Trim(std::u16string_view(line).substr(ValueBegin(line)))));
+}
+
+bool ProfileFile::SetValue(std::u16string_view section, std::u16string_view key, std::u16string_view value) {
+  if (!FitsInOneLine(section) || !FitsInOneLine(key) || !FitsInOneLine(value)) return false;
+  const Place place = Find(section, key);
+  if (place.entry) return Replace(*place.entry, value);
+  const std::u16string entry = std::u16string(key) + u'=' + std::u16string(value) + LineBreak();
+  if (place.sectionEnd) return InsertLines(*place.sectionEnd, entry);
+  return InsertLines(bytes_.size(), u'[' + std::u16string(section) + u']' + LineBreak() + entry);
+}
+
+ProfileFile::Line ProfileFile::LineAt(std::size_t begin) const {
+  const std::size_t unitSize = encoding_.UnitSize();
+  const auto isAt = [&](std::size_t at, char16_t unit) {
+    return at < bytes_.size() && encoding_.UnitAt(bytes_, at) == unit;
+  };
+  std::size_t end = begin;
+  while (end < bytes_.size() && !IsLineBreak(encoding_.UnitAt(bytes_, end))) end += unitSize;
+  std::size_t next = end;
+  if (isAt(next, u'\r')) next += unitSize;
+  if (isAt(next, u'\n')) next += unitSize;
+  return {begin, end, next};
+}
+
+std::u16string ProfileFile::TextOf(const Line& line) const {
+  return encoding_.Decode(std::string_view(bytes_).substr(line.begin, line.end - line.begin));
+}
+
+ProfileFile::Place ProfileFile::Find(std::u16string_view section, std::u16string_view key) const {
+  Place place;
   bool inSection = false;
-  for (std::u16string_view content = content_; !content.empty();) {
-    const std::u16string_view line = TakeLine(content);
-    if (line.starts_with(u'[')) {
-      inSection = EqualsIgnoringCase(Trim(line.substr(1, line.find(u']') - 1)), section);
-      continue;
+  bool inFirst = false;  // a section may stand more than once; a new key goes to the first
+  for (std::size_t at = encoding_.MarkSize(); at < bytes_.size();) {
+    const Line line = LineAt(at);
+    at = line.next;
+    const std::u16string text = TextOf(line);
+    if (IsSectionLine(text)) {
+      inSection = BeginsSection(text, section);
+      inFirst = inSection && !place.sectionEnd;
     }
-    const std::size_t equals = line.find(u'=');
-    if (!inSection || line.starts_with(u';') || equals == std::u16string_view::npos) continue;
-    if (EqualsIgnoringCase(Trim(line.substr(0, equals)), key)) {
-      return std::u16string(Unquote(Trim(line.substr(equals + 1))));
+    if (inFirst && !Trim(text).empty()) place.sectionEnd = line.next;
+    if (inSection && !IsSectionLine(text) && IsEntry(text, key)) {
+      place.entry = line;
+      break;
     }
   }
-  return std::nullopt;
+  return place;
+}
+
+/// Blanks around the key and its own spelling stay.
+bool ProfileFile::Replace(const Line& line, std::u16string_view value) {
+  std::u16string text = TextOf(line);
+  text.replace(ValueBegin(text), std::u16string::npos, value);
+  const std::optional<std::string> bytes = encoding_.Encode(text);
+  if (bytes) bytes_.replace(line.begin, line.end - line.begin, *bytes);
+  return bytes.has_value();
+}
+
+bool ProfileFile::InsertLines(std::size_t position, std::u16string lines) {
+  const std::size_t unitSize = encoding_.UnitSize();
+  const bool afterText = position > encoding_.MarkSize();
+  if (afterText && !IsLineBreak(encoding_.UnitAt(bytes_, position - unitSize))) lines.insert(0, LineBreak());
+  const std::optional<std::string> bytes = encoding_.Encode(lines);
+  if (bytes) bytes_.insert(position, *bytes);
+  return bytes.has_value();
+}
+
+/// That of the file's first line; profile files of other programs end their lines in CR LF.
+std::u16string ProfileFile::LineBreak() const {
+  const Line first = LineAt(encoding_.MarkSize());
+  if (first.next == first.end) return u"\r\n";
+  return TextOf({first.end, first.next, first.next});
 }
 
 }  // namespace quorvantis

@@ -78,6 +78,14 @@ class TestCodePage : public CodePage {
     }
     return text;
   }
+  std::optional<std::string> Encode(std::u16string_view text) const override {
+    std::string bytes;
+    for (const char16_t unit : text) {
+      if (unit >= 0x80 && (unit < 0x400 || unit >= 0x47F)) return std::nullopt;
+      bytes.push_back(static_cast<char>(unit < 0x80 ? unit : unit - 0x400 + 0x80));
+    }
+    return bytes;
+  }
 };
 
 class RecordingDebug : public DebugOutput {

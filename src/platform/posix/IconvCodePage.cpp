@@ -9,7 +9,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr const char* kTarget = "UTF-16LE";
+constexpr const char* kUtf16 = "UTF-16LE";
 constexpr const char* kFallback = "CP1252";
 
 const iconv_t kNoConverter = reinterpret_cast<iconv_t>(-1);  // NOLINT: iconv's own way to say no
@@ -17,9 +17,7 @@ const iconv_t kNoConverter = reinterpret_cast<iconv_t>(-1);  // NOLINT: iconv's 
 }  // namespace
 
 struct IconvCodePage::Converter {
-  explicit Converter(const std::string& name) : handle(::iconv_open(kTarget, name.c_str())) {
-    if (handle == kNoConverter) handle = ::iconv_open(kTarget, kFallback);
-  }
+  Converter(const char* to, const char* from) : handle(::iconv_open(to, from)) {}
   ~Converter() {
     if (handle != kNoConverter) ::iconv_close(handle);
   }
@@ -29,13 +27,19 @@ struct IconvCodePage::Converter {
   iconv_t handle;
 };
 
-IconvCodePage::IconvCodePage(const std::string& name) : converter_(std::make_unique<Converter>(name)) {}
+IconvCodePage::IconvCodePage(const std::string& name)
+    : decoder_(std::make_unique<Converter>(kUtf16, name.c_str())),
+      encoder_(std::make_unique<Converter>(name.c_str(), kUtf16)) {
+  if (decoder_->handle != kNoConverter && encoder_->handle != kNoConverter) return;
+  decoder_ = std::make_unique<Converter>(kUtf16, kFallback);
+  encoder_ = std::make_unique<Converter>(kFallback, kUtf16);
+}
 
 IconvCodePage::~IconvCodePage() = default;
 
 std::u16string IconvCodePage::Decode(std::string_view bytes) const {
-  if (converter_->handle == kNoConverter) return Utf8ToUtf16(bytes);
-  ::iconv(converter_->handle, nullptr, nullptr, nullptr, nullptr);
+  if (decoder_->handle == kNoConverter) return Utf8ToUtf16(bytes);
+  ::iconv(decoder_->handle, nullptr, nullptr, nullptr, nullptr);
   std::string input(bytes);
   char* next = input.data();
   std::size_t left = input.size();
@@ -44,9 +48,9 @@ std::u16string IconvCodePage::Decode(std::string_view bytes) const {
   std::size_t room = text.size() * sizeof(char16_t);
   while (left > 0) {
     const bool whole =
-        ::iconv(converter_->handle, &next, &left, &output, &room) != static_cast<std::size_t>(-1);
+        ::iconv(decoder_->handle, &next, &left, &output, &room) != static_cast<std::size_t>(-1);
     // Some code pages hold a letter back in case an accent follows.
-    ::iconv(converter_->handle, nullptr, nullptr, &output, &room);
+    ::iconv(decoder_->handle, nullptr, nullptr, &output, &room);
     if (whole || room < sizeof(char16_t)) break;
     // Malformed here, or cut off at the end: one byte is given up.
     const char16_t replacement = kReplacementCharacter;
@@ -57,6 +61,23 @@ std::u16string IconvCodePage::Decode(std::string_view bytes) const {
   }
   text.resize(text.size() - room / sizeof(char16_t));
   return text;
+}
+
+std::optional<std::string> IconvCodePage::Encode(std::u16string_view text) const {
+  if (encoder_->handle == kNoConverter) return std::nullopt;
+  ::iconv(encoder_->handle, nullptr, nullptr, nullptr, nullptr);
+  std::u16string input(text);
+  char* next = reinterpret_cast<char*>(input.data());
+  std::size_t left = input.size() * sizeof(char16_t);
+  constexpr std::size_t kMostBytesOfAUnit = 8;  // with the shifts of the code pages that have a state
+  std::string bytes(kMostBytesOfAUnit * (input.size() + 1), '\0');
+  char* output = bytes.data();
+  std::size_t room = bytes.size();
+  constexpr auto kFailed = static_cast<std::size_t>(-1);
+  if (::iconv(encoder_->handle, &next, &left, &output, &room) == kFailed) return std::nullopt;
+  if (::iconv(encoder_->handle, nullptr, nullptr, &output, &room) == kFailed) return std::nullopt;
+  bytes.resize(bytes.size() - room);
+  return bytes;
 }
 
 }  // namespace quorvantis

@@ -16,10 +16,12 @@ class IconvCodePage : public CodePage {
   ~IconvCodePage() override;
 
   std::u16string Decode(std::string_view bytes) const override;
+  std::optional<std::string> Encode(std::u16string_view text) const override;
 
  private:
   struct Converter;
-  std::unique_ptr<Converter> converter_;
+  std::unique_ptr<Converter> decoder_;
+  std::unique_ptr<Converter> encoder_;
 };
 
 }  // namespace quorvantis

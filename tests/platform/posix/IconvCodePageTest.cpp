@@ -23,6 +23,9 @@ TEST(IconvCodePage, DecodesAndReplacesWhatIsMalformed) {
   const IconvCodePage codePage("GBK");
   EXPECT_EQ(codePage.Decode("\xC4"), u"\uFFFD");
   EXPECT_EQ(codePage.Decode("\xC4\xE3"), u"\u4F60") << "the byte before was another text";
+  EXPECT_EQ(codePage.Encode(u"a\u4F60"), "a\xC4\xE3");
+  EXPECT_EQ(codePage.Encode(u"\u4F60\u0E01"), std::nullopt) << "no Thai letter there";
+  EXPECT_EQ(codePage.Encode(u"\xD800"), std::nullopt);
 }
 
 }  // namespace
