@@ -41,11 +41,12 @@ ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
       debug_(options.debug || DebugAskedFor()),
       applicationFolder_(UseFolder(options.appFolder, privateFolder_)),
       lock_(LockFolder(applicationFolder_)),
+      registry_(applicationFolder_ / kRegistryFile, files_),
       codePage_(ChooseCodePage(applicationFolder_, kEnglish)),
       console(theConsole),
       dialogs(theConsole),
       services{applicationFolder_, strings_,         dialogs, codePage_, debug_, files_,
-               progress_,          longAnswerFlags_, ids_,    classes_,  pages_},
+               progress_,          longAnswerFlags_, ids_,    registry_, pages_},
       exam(services) {
   exam.SetHostMode(1);
 }

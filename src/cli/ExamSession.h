@@ -8,9 +8,9 @@
 #include "model/FrameSetExam.h"
 #include "model/LongAnswerFlags.h"
 #include "platform/ExamServices.h"
+#include "platform/posix/FileRegistry.h"
 #include "platform/posix/FolderLock.h"
 #include "platform/posix/IconvCodePage.h"
-#include "platform/posix/NoClassRegistry.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PrivateFolder.h"
 #include "platform/posix/RandomIds.h"
@@ -51,10 +51,10 @@ class ExamSession {
   PosixFiles files_;
   LongAnswerFlags longAnswerFlags_;
   RandomIds ids_;
-  NoClassRegistry classes_;
   ComposedPages pages_;
   const std::filesystem::path applicationFolder_;
   FolderLock lock_;
+  FileRegistry registry_;
   IconvCodePage codePage_;
 
  public:

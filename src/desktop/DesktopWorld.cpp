@@ -7,9 +7,10 @@ namespace quorvantis {
 
 DesktopWorld::DesktopWorld(const std::filesystem::path& applicationFolder, bool debug)
     : debug_(debug || DebugAskedFor()),
+      registry_(applicationFolder / kRegistryFile, files_),
       codePage_(ChooseCodePage(applicationFolder, kEnglish)),
       services_{applicationFolder, strings_,         dialogs_, codePage_, debug_, files_,
-                progress_,         longAnswerFlags_, ids_,     classes_,  pages_} {}
+                progress_,         longAnswerFlags_, ids_,     registry_, pages_} {}
 
 void DesktopWorld::SetWindow(QWidget* window) {
   dialogs_.SetParent(window);

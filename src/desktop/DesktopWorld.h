@@ -5,8 +5,8 @@
 #include "desktop/QtUserDialogs.h"
 #include "model/LongAnswerFlags.h"
 #include "platform/ExamServices.h"
+#include "platform/posix/FileRegistry.h"
 #include "platform/posix/IconvCodePage.h"
-#include "platform/posix/NoClassRegistry.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/RandomIds.h"
 #include "platform/posix/StandardErrorDebug.h"
@@ -39,7 +39,7 @@ class DesktopWorld {
   PosixFiles files_;
   LongAnswerFlags longAnswerFlags_;
   RandomIds ids_;
-  NoClassRegistry classes_;
+  FileRegistry registry_;
   ComposedPages pages_;
   IconvCodePage codePage_;
   ExamServices services_;

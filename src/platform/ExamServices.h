@@ -5,7 +5,6 @@
 
 namespace quorvantis {
 
-class ClassRegistry;
 class CodePage;
 class DebugOutput;
 class Files;
@@ -13,6 +12,7 @@ class IdSource;
 class LongAnswerFlags;
 class PageStore;
 class Progress;
+class Registry;
 class StringTable;
 class UserDialogs;
 
@@ -27,7 +27,7 @@ struct ExamServices {
   Progress& progress;
   LongAnswerFlags& longAnswerFlags;
   IdSource& ids;
-  const ClassRegistry& classes;
+  Registry& registry;
   PageStore& pages;
 };
 

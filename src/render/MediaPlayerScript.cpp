@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "render/MediaPlayerScript.h"
 
-#include "platform/ClassRegistry.h"
 #include "platform/ExamServices.h"
 #include "platform/IdSource.h"
+#include "platform/Registry.h"
 #include "render/Template.h"
+#include "text/PathText.h"
 
 #include <filesystem>
 
 namespace quorvantis {
 namespace {
 
-constexpr std::u16string_view kPlayerClass = u"{0133388C-C3F2-498D-BEB2-F121744ACE38}";
+/// Where a player that this program's users have installed is registered.
+constexpr std::u16string_view kPlayerServer =
+    u"CLSID\\{0133388C-C3F2-498D-BEB2-F121744ACE38}\\InprocServer32";
+constexpr std::size_t kMaxServerBytes = 260;  // of UTF-16; a longer value is not read
 
 constexpr Template<Text> kStart{
     uR"(<div id="%s"></div>)"
@@ -20,7 +24,7 @@ constexpr Template<Text> kStart{
 constexpr Template<Text, int> kPlainBrowser{
     uR"(    var firefoxHtml = "<embed src=\\"%s\\" autostart=\\"%d\\" width=\\"320\\" ShowStatusBar=\\"1\\">";\r\n)"};
 
-// Where the player named by kPlayerClass is installed.
+// Where the player named by kPlayerServer is installed.
 constexpr Template<Text, int, int> kOwnPlayer{
     uR"(    var vistaHtml = "<object width=\\"480\\" height=\\"360\\" ID=\\"NSPlay\\" standby=\\"Loading MorvellMediaPlayer components...\\" \\\r\n)"
     uR"(                classid=\\"CLSID:0133388C-C3F2-498D-BEB2-F121744ACE38\\" \\\r\n)"
@@ -74,10 +78,22 @@ constexpr Template<Text, Text, Text> kChoice{
     uR"x(    }\r\n)x"
     uR"x(</script>\r\n)x"};
 
-bool HasOwnPlayer(const ClassRegistry& classes) {
+/// The text of a registry value up to its terminator.
+std::u16string RegisteredText(const std::vector<std::byte>& bytes) {
+  std::u16string text;
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    text.push_back(
+        static_cast<char16_t>(std::to_integer<int>(bytes[i]) | std::to_integer<int>(bytes[i + 1]) << 8));
+  }
+  return text.substr(0, text.find(u'\0'));
+}
+
+bool HasOwnPlayer(Registry& registry) {
+  const auto key = registry.OpenKey(RegistryRoot::ClassesRoot, kPlayerServer);
+  const std::optional<RegistryValue> server = key ? key->QueryValue(u"") : std::nullopt;
+  if (!server || server->bytes.size() > kMaxServerBytes) return false;
   std::error_code ignored;
-  const auto server = classes.InprocServer(kPlayerClass);
-  return server && std::filesystem::exists(*server, ignored);
+  return std::filesystem::exists(TextToPath(RegisteredText(server->bytes)), ignored);
 }
 
 }  // namespace
@@ -87,7 +103,7 @@ std::u16string MediaPlayerScript(const ExamServices& services, std::u16string_vi
   const std::u16string escaped = DoubleBackslashes(source);
   const std::u16string id = services.ids.NewId();
   std::u16string script = kStart(id) + kPlainBrowser(escaped, autostart);
-  if (HasOwnPlayer(services.classes)) {
+  if (HasOwnPlayer(services.registry)) {
     script += kOwnPlayer(escaped, autostart, 0);
     if (noAudio) script += kOwnPlayerAudio(0);
   } else {

@@ -2,6 +2,7 @@
 #include "shell/ProfileFile.h"
 
 #include "platform/WholeFile.h"
+#include "text/AsciiCase.h"
 
 #include <algorithm>
 
@@ -27,25 +28,20 @@ std::u16string_view Unquote(std::u16string_view text) {
   return quoted ? text.substr(1, text.size() - 2) : text;
 }
 
-bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b) {
-  const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c; };
-  return std::ranges::equal(a, b, {}, lower, lower);
-}
-
 bool IsSectionLine(std::u16string_view line) {
   return Trim(line).starts_with(u'[');
 }
 
 bool BeginsSection(std::u16string_view line, std::u16string_view section) {
   const std::u16string_view text = Trim(line);
-  return EqualsIgnoringCase(Trim(text.substr(1, text.find(u']') - 1)), section);
+  return EqualsIgnoringAsciiCase(Trim(text.substr(1, text.find(u']') - 1)), section);
 }
 
 bool IsEntry(std::u16string_view line, std::u16string_view key) {
   const std::u16string_view text = Trim(line);
   const std::size_t equals = text.find(u'=');
   if (text.starts_with(u';') || equals == std::u16string_view::npos) return false;
-  return EqualsIgnoringCase(Trim(text.substr(0, equals)), key);
+  return EqualsIgnoringAsciiCase(Trim(text.substr(0, equals)), key);
 }
 
 /// Where the value of an entry begins in its line, behind the blanks.

@@ -65,7 +65,7 @@ class WindowTest : public testing::Test {
                         world.progress,
                         world.longAnswerFlags,
                         world.ids,
-                        world.classes,
+                        world.registry,
                         pages};
   FrameSetExam exam{services};
   std::unique_ptr<CQuorvantisDlg> window;

@@ -36,6 +36,16 @@ TEST(AttachmentPath, TakesTheExtensionFromTheWholePath) {
 
 class AttachmentItemsTest : public RenderTest {
  protected:
+  /// A player in this file, as its installation tells the registry.
+  void Register(const fs::path& server) {
+    RegistryValue value{RegistryType::String, {}};
+    for (const char c : server.string() + '\0')
+      value.bytes.insert(value.bytes.end(), {std::byte(c), std::byte{}});
+    const auto key = world.registry.CreateKey(
+        RegistryRoot::ClassesRoot, u"CLSID\\{0133388C-C3F2-498D-BEB2-F121744ACE38}\\InprocServer32");
+    ASSERT_TRUE(key && key->SetValue(u"", value));
+  }
+
   std::u16string Item(std::u16string_view path, int oralFlag = 0) {
     return AttachmentItem(world.services, path, oralFlag);
   }
@@ -64,10 +74,9 @@ TEST_F(AttachmentItemsTest, WritesThePlayerOfEverySystem) {
 }
 
 TEST_F(AttachmentItemsTest, WritesTheInstalledPlayer) {
-  world.classes.server = WriteBytes(folder / "player.ocx", "");
+  Register(WriteBytes(folder / "player.ocx", ""));
   ExpectGolden("installed-player.htm",
                Utf16ToUtf8(MediaPlayerScript(world.services, u"/home/film.avi", 1, true)));
-  EXPECT_EQ(world.classes.askedFor, u"{0133388C-C3F2-498D-BEB2-F121744ACE38}");
   const struct {
     std::u16string_view path;
     int oralFlag;
@@ -81,7 +90,7 @@ TEST_F(AttachmentItemsTest, WritesTheInstalledPlayer) {
     EXPECT_EQ(Item(row.path, row.oralFlag).find(u"enableAudio") != std::u16string::npos, row.mute);
   }
   EXPECT_NE(MediaItem(world.services, u"abc.swf", 0, 1).find(u"enableAudio"), std::u16string::npos);
-  world.classes.server = folder / "uninstalled.ocx";
+  Register(folder / "uninstalled.ocx");
   EXPECT_EQ(Item(u"a.avi").find(u"Morvell"), std::u16string::npos);
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "model/LongAnswerFlags.h"
-#include "platform/ClassRegistry.h"
 #include "platform/CodePage.h"
 #include "platform/DebugOutput.h"
 #include "platform/ExamServices.h"
@@ -12,6 +11,7 @@
 #include "platform/Progress.h"
 #include "platform/StringTable.h"
 #include "platform/UserDialogs.h"
+#include "platform/posix/FileRegistry.h"
 
 #include <deque>
 #include <map>
@@ -112,17 +112,6 @@ class CountingIds : public IdSource {
   int count_ = 0;
 };
 
-/// One server for every class, or none.
-class OneServer : public ClassRegistry {
- public:
-  std::optional<std::filesystem::path> server;
-  mutable std::u16string askedFor;
-  std::optional<std::filesystem::path> InprocServer(std::u16string_view classId) const override {
-    askedFor = classId;
-    return server;
-  }
-};
-
 /// The pages by the paths that they were written to.
 class KeptPages : public PageStore {
  public:
@@ -134,7 +123,8 @@ class KeptPages : public PageStore {
 /// Everything a document needs, with real files below `applicationFolder`.
 struct RecordingWorld {
   RecordingWorld(std::filesystem::path applicationFolder, Files& files)
-      : services{std::move(applicationFolder),
+      : registry(applicationFolder / kRegistryFile, files),
+        services{std::move(applicationFolder),
                  strings,
                  dialogs,
                  codePage,
@@ -143,7 +133,7 @@ struct RecordingWorld {
                  progress,
                  longAnswerFlags,
                  ids,
-                 classes,
+                 registry,
                  pages} {}
 
   NumberStrings strings;
@@ -153,7 +143,7 @@ struct RecordingWorld {
   IgnoredProgress progress;
   LongAnswerFlags longAnswerFlags;
   CountingIds ids;
-  OneServer classes;
+  FileRegistry registry;
   KeptPages pages;
   ExamServices services;
 };
