@@ -23,7 +23,7 @@ EditSession::EditSession(Console& console, const CommonOptions& options)
 }
 
 EditSession::~EditSession() {
-  RemoveWorkCopies(session_.exam);
+  RunCloseSequence(session_.exam, nullptr);
 }
 
 void EditSession::Export(const std::filesystem::path&) {

@@ -104,7 +104,7 @@ void Preview(Console& console, const CommonOptions& options, const PreviewReques
   session.Load(exam);
   if (request.responses) AnswerExam(session.exam, *request.responses, responses);
   UnseenEditor editor(session.exam);
-  PreviewCommand(editor.Questions(), session.exam, kEnglish, CheckPage).Run();
+  PreviewCommand(editor.Questions(), session.exam, nullptr, kEnglish, CheckPage).Run();
 }
 
 void Print(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder,
@@ -112,7 +112,7 @@ void Print(Console& console, const CommonOptions& options, const fs::path& exam,
   ExamSession session(console, In(folder, options));
   session.Load(exam);
   UnseenEditor editor(session.exam);
-  if (afterPreview) PreviewCommand(editor.Questions(), session.exam, kEnglish, CheckPage).Run();
+  if (afterPreview) PreviewCommand(editor.Questions(), session.exam, nullptr, kEnglish, CheckPage).Run();
   PrintCommand(editor.Questions(), session.exam, CheckPage).Run();
 }
 

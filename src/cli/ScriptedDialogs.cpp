@@ -16,6 +16,10 @@ void ScriptedDialogs::ShowWarning(std::u16string_view text) {
   console_.Complain(Utf16ToUtf8(text));
 }
 
+bool ScriptedDialogs::AskYesNo(std::u16string_view) {
+  return false;
+}
+
 SaveAnswer ScriptedDialogs::AskSave(std::u16string_view question) {
   if (saveAnswers_.empty()) {
     console_.Complain(Utf16ToUtf8(question) + " There is no reply, so the command is cancelled.");

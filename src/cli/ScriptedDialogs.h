@@ -9,7 +9,8 @@
 namespace quorvantis::cli {
 
 /// The user of a command line: messages go to standard error, questions take the answers that a script has
-/// put ready. A save question without an answer is cancelled, a file dialog without a file is closed.
+/// put ready. A save question without an answer is cancelled, a file dialog without a file is closed, and
+/// other programs are never closed: Yes/No questions get a No.
 class ScriptedDialogs : public UserDialogs {
  public:
   explicit ScriptedDialogs(Console& console) : console_(console) {}
@@ -22,6 +23,7 @@ class ScriptedDialogs : public UserDialogs {
 
   void ShowError(std::u16string_view text) override;
   void ShowWarning(std::u16string_view text) override;
+  bool AskYesNo(std::u16string_view question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;
   std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override;

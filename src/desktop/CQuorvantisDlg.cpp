@@ -79,9 +79,10 @@ GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) 
 
 }  // namespace
 
-CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, DocumentExport exportDocument,
-                               const LanguageLibrary* library)
+CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, OfficeControl* office,
+                               DocumentExport exportDocument, const LanguageLibrary* library)
     : exam_(exam),
+      office_(office),
       editor_(exam, *this, std::move(exportDocument)),
       previews_(SetUpGateway(exam, pages), *this),
       pictures_(library),
@@ -95,6 +96,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, D
       printAgain_(MakeHiddenButton("printAgain", this)) {
   exam.SetHostMode(1);
   setWindowIcon(pictures_.Picture(kProgramIcon));
+  PrepareOffice();
   setAcceptDrops(true);
   SetTabOrder(Controls());
   connect(this, &CQuorvantisDlg::FilesDropped, this, &CQuorvantisDlg::TakeFiles, Qt::QueuedConnection);
@@ -114,7 +116,14 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, D
 CQuorvantisDlg::~CQuorvantisDlg() {
   // The controls speak to the editor until they are gone; the base class would delete them after it.
   qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
-  RemoveWorkCopies(exam_);
+  RunCloseSequence(exam_, office_);  // the preview window goes after it, with the members
+}
+
+void CQuorvantisDlg::PrepareOffice() {
+  if (office_ == nullptr) return;
+  office_->settings.RegisterBrowsableTypes();
+  office_->settings.AllowZoneAction();
+  office_->processes.AskCloseOffice();
 }
 
 FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
@@ -164,7 +173,7 @@ void CQuorvantisDlg::TitleChanged() {
 }
 
 void CQuorvantisDlg::Preview() {
-  PreviewCommand(editor_.questions, exam_, kEnglish, [this](const std::filesystem::path& page) {
+  PreviewCommand(editor_.questions, exam_, office_, kEnglish, [this](const std::filesystem::path& page) {
     previews_.NewSession().ShowPreview(page);
   }).Run();
 }

@@ -10,6 +10,7 @@
 #include "desktop/WindowLayout.h"
 #include "editor/ExamEditor.h"
 #include "preview/PreviewWindows.h"
+#include "shell/OfficeControl.h"
 
 #include <QPushButton>
 #include <QUrl>
@@ -26,10 +27,11 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   Q_OBJECT
 
  public:
-  /// `exam`, the pages that its previews are composed into and the library that pictures are taken from,
-  /// which may be null, must outlive the window.
-  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, DocumentExport exportDocument,
-                 const LanguageLibrary* library = nullptr);
+  /// All must outlive the window: `exam`, the pages that its previews are composed into, `office`, and the
+  /// library that pictures are taken from. Without `office` office programs are left alone, else the user may
+  /// be asked to close them before the window appears. Without a library, the pictures are the built-in ones.
+  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, OfficeControl* office,
+                 DocumentExport exportDocument, const LanguageLibrary* library = nullptr);
   ~CQuorvantisDlg() override;
 
   /// Opens an exam file, a full path, as the Open command does, without a file dialog.
@@ -71,11 +73,13 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void EndUnasked();
   void Import();
   void ShowAbout();
+  void PrepareOffice();
   void Preview();
   void Print();
   void TakeFiles(const QList<QUrl>& urls);
 
   FrameSetExam& exam_;
+  OfficeControl* office_;
   ExamEditor editor_;
   PreviewWindows previews_;
   Pictures pictures_;

@@ -7,11 +7,13 @@
 #include "platform/ExamServices.h"
 #include "platform/posix/FileRegistry.h"
 #include "platform/posix/IconvCodePage.h"
+#include "platform/posix/LinuxProcessTable.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/RandomIds.h"
 #include "platform/posix/StandardErrorDebug.h"
 #include "render/ComposedPages.h"
 #include "shell/BuiltInStrings.h"
+#include "shell/OfficeControl.h"
 
 #include <filesystem>
 
@@ -27,6 +29,7 @@ class DesktopWorld {
 
   ExamServices& Services() { return services_; }
   const ComposedPages& Pages() const { return pages_; }
+  OfficeControl& Office() { return office_; }
 
   /// The window over which dialogs appear from now on.
   void SetWindow(QWidget* window);
@@ -40,9 +43,11 @@ class DesktopWorld {
   LongAnswerFlags longAnswerFlags_;
   RandomIds ids_;
   FileRegistry registry_;
+  LinuxProcessTable processes_;
   ComposedPages pages_;
   IconvCodePage codePage_;
   ExamServices services_;
+  OfficeControl office_;
 };
 
 }  // namespace quorvantis

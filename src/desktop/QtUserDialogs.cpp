@@ -45,6 +45,11 @@ void QtUserDialogs::ShowWarning(std::u16string_view text) {
   Ask(QMessageBox::Warning, ToQString(text), QMessageBox::Ok, parent_);
 }
 
+bool QtUserDialogs::AskYesNo(std::u16string_view question) {
+  return Ask(QMessageBox::Warning, ToQString(question), QMessageBox::Yes | QMessageBox::No, parent_) ==
+         QMessageBox::Yes;
+}
+
 SaveAnswer QtUserDialogs::AskSave(std::u16string_view question) {
   const auto answer = Ask(QMessageBox::Question, ToQString(question),
                           QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent_);
@@ -80,7 +85,7 @@ std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToSave(const FileD
 bool QtUserDialogs::MayOverwrite(const QString& path) {
   if (!QFileInfo::exists(path)) return true;
   const QString question = QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(path);
-  return Ask(QMessageBox::Warning, question, QMessageBox::Yes | QMessageBox::No, parent_) == QMessageBox::Yes;
+  return AskYesNo(question.toStdU16String());
 }
 
 }  // namespace quorvantis

@@ -16,6 +16,7 @@ class QtUserDialogs : public UserDialogs {
 
   void ShowError(std::u16string_view text) override;
   void ShowWarning(std::u16string_view text) override;
+  bool AskYesNo(std::u16string_view question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;
   std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override;

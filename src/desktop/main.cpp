@@ -56,7 +56,9 @@ int Run(const CommandLine& options) {
   }
   DesktopWorld world(folder, options.debug);
   FrameSetExam exam(world.Services());
-  CQuorvantisDlg window(exam, world.Pages(), [&world](FrameSetExam&, const std::filesystem::path&) {
+  // A picture is taken without asking anything.
+  OfficeControl* const office = options.screenshot.isEmpty() ? &world.Office() : nullptr;
+  CQuorvantisDlg window(exam, world.Pages(), office, [&world](FrameSetExam&, const std::filesystem::path&) {
     world.Services().dialogs.ShowError(world.Services().strings.Text(text_id::kCannotExport));
   });
   world.SetWindow(&window);

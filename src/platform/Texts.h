@@ -44,6 +44,7 @@ constexpr int kCorrectAnswerIs = 145;
 constexpr int kYourAnswerIs = 146;
 constexpr int kOralSubject = 147;
 constexpr int kOralByTeacher = 148;  // shown where a page has no recorder
+constexpr int kCloseOffice = 159;
 constexpr int kImportExam = 160;
 constexpr int kOralOff = 172;  // caption of the oral toggle while the flag is 0
 constexpr int kOralOn = 173;

@@ -55,6 +55,7 @@ constexpr NumberedText kTexts[] = {
     {text_id::kYourAnswerIs, u"Your answer is"},
     {text_id::kOralSubject, u"(Oral subject)"},
     {text_id::kOralByTeacher, u"(Oral question,controled by teacher)"},
+    {text_id::kCloseOffice, u"Close Ms Office?"},
     {text_id::kImportExam, u"Import Exam"},
     {text_id::kOralOff, u"Play video sound"},
     {text_id::kOralOn, u"Mute video sound"},

@@ -7,10 +7,11 @@
 
 namespace quorvantis {
 
-void RemoveWorkCopies(FrameSetExam& exam) {
+void RunCloseSequence(FrameSetExam& exam, OfficeControl* office) {
   if (exam.questionFilesUnpacked != 0) DeleteQuestionCopies(exam);
   if (exam.examFilesUnpacked != 0) DeleteExamCopies(exam);
   RemoveFolder(AttachmentWorkRoot(exam.Services().applicationFolder));
+  if (office != nullptr) office->TrustApplicationFolder(false);
 }
 
 }  // namespace quorvantis

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "model/FrameSetExam.h"
+#include "shell/OfficeControl.h"
 
 namespace quorvantis {
 
 /// Removes what an editor leaves in its work folders: the unpacked files of the exam that was open, and the
-/// folder of attached files with everything in it. Runs when the editor ends, however it ends. Failures are
-/// ignored.
-void RemoveWorkCopies(FrameSetExam& exam);
+/// folder of attached files with everything in it; then what the office suite was told of the application
+/// folder (`office` may be null). Runs when the editor ends, however it ends. Failures are ignored.
+void RunCloseSequence(FrameSetExam& exam, OfficeControl* office);
 
 }  // namespace quorvantis

@@ -17,9 +17,11 @@ void MakePageFolder(const FrameSetExam& exam) {
 }  // namespace
 
 void PreviewCommand::Run() {
+  if (office_ != nullptr) office_->TrustApplicationFolder(true);
   questions_.StoreCurrentQuestion();
   exam_.CountQuestions();
   exam_.PrefixAttachmentPaths(1);
+  if (office_ != nullptr) office_->processes.AskCloseOffice();
   exam_.SetRenderOption(languageId_);
   exam_.Services().pages.Clear();
   MakePageFolder(exam_);

@@ -3,6 +3,7 @@
 
 #include "editor/QuestionEditor.h"
 #include "model/FrameSetExam.h"
+#include "shell/OfficeControl.h"
 
 #include <filesystem>
 #include <functional>
@@ -15,9 +16,14 @@ using ShowPage = std::function<void(const std::filesystem::path& page)>;
 /// The Preview command: writes the exam as it would be taken, and has the first page shown.
 class PreviewCommand {
  public:
-  /// All must outlive the command. `languageId` is that of the language in use.
-  PreviewCommand(QuestionEditor& questions, FrameSetExam& exam, int languageId, ShowPage show)
-      : questions_(questions), exam_(exam), languageId_(languageId), show_(std::move(show)) {}
+  /// All must outlive the command; `office` may be null. `languageId` is that of the language in use.
+  PreviewCommand(QuestionEditor& questions, FrameSetExam& exam, OfficeControl* office, int languageId,
+                 ShowPage show)
+      : questions_(questions),
+        exam_(exam),
+        office_(office),
+        languageId_(languageId),
+        show_(std::move(show)) {}
 
   /// The attachment paths have one more prefix on pages from now on, until the exam is finished (see
   /// FrameSetExam::PrefixAttachmentPaths).
@@ -26,6 +32,7 @@ class PreviewCommand {
  private:
   QuestionEditor& questions_;
   FrameSetExam& exam_;
+  OfficeControl* office_;
   int languageId_;
   ShowPage show_;
 };

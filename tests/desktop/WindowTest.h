@@ -23,7 +23,7 @@ class WindowTest : public testing::Test {
  protected:
   void Open() {
     std::filesystem::create_directories(world.services.applicationFolder);
-    window = std::make_unique<CQuorvantisDlg>(exam, pages, DocumentExport());
+    window = std::make_unique<CQuorvantisDlg>(exam, pages, office, DocumentExport());
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
@@ -68,6 +68,7 @@ class WindowTest : public testing::Test {
                         world.registry,
                         pages};
   FrameSetExam exam{services};
+  OfficeControl* office = nullptr;
   std::unique_ptr<CQuorvantisDlg> window;
 };
 

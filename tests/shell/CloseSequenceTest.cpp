@@ -10,7 +10,7 @@
 namespace quorvantis::test {
 namespace {
 
-TEST(RemoveWorkCopies, DeletesAttachedFilesAndWhatAReaderUnpacked) {
+TEST(CloseSequence, DeletesAttachedFilesAndWhatAReaderUnpacked) {
   const TemporaryFolder folder;
   const auto unpacked = folder / "TEMP/ExamPreview/~tt";
   PosixFiles files;
@@ -24,18 +24,18 @@ TEST(RemoveWorkCopies, DeletesAttachedFilesAndWhatAReaderUnpacked) {
   WriteBytes(folder / "~TEMP/from/a.doc/a.doc", "attached");
   WriteBytes(folder / "~TEMP/5.bmp", "picture");
 
-  RemoveWorkCopies(exam);
+  RunCloseSequence(exam, nullptr);
   EXPECT_FALSE(std::filesystem::exists(folder / "~TEMP"));
   EXPECT_TRUE(exists("exam.doc") && exists("one") && exists("two")) << "no reader has made them";
 
   std::filesystem::create_directory_symlink(unpacked, folder / "~TEMP");
   exam.questionFilesUnpacked = 1;
-  RemoveWorkCopies(exam);
+  RunCloseSequence(exam, nullptr);
   EXPECT_FALSE(exists("one") || exists("two"));
   EXPECT_TRUE(exists("exam.doc") && exists("behind the end") && exists("not a copy to delete"));
   EXPECT_FALSE(std::filesystem::is_symlink(folder / "~TEMP"));
   exam.examFilesUnpacked = 1;
-  RemoveWorkCopies(exam);
+  RunCloseSequence(exam, nullptr);
   EXPECT_FALSE(exists("exam.doc"));
 }
 

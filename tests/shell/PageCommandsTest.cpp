@@ -24,7 +24,9 @@ class PageCommandsTest : public testing::Test, private EditorView {
     editor.questions.EditField(FormField::Text, u"Typed");
   }
 
-  void Preview(int languageId = 0x0409) { PreviewCommand(editor.questions, exam, languageId, Show()).Run(); }
+  void Preview(int languageId = 0x0409) {
+    PreviewCommand(editor.questions, exam, nullptr, languageId, Show()).Run();
+  }
   void Print() { PrintCommand(editor.questions, exam, Show()).Run(); }
 
   bool Shows(const fs::path& page, std::u16string_view text) {

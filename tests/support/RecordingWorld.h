@@ -14,6 +14,7 @@
 #include "platform/posix/FileRegistry.h"
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -27,12 +28,19 @@ class RecordingDialogs : public UserDialogs {
   std::vector<std::u16string> warnings;
   std::vector<std::u16string> questions;
   std::deque<SaveAnswer> answers;
+  std::deque<bool> yesNoAnswers;
+  std::function<void()> whileAsking;
   std::deque<std::filesystem::path> filesToOpen;
   std::deque<std::filesystem::path> filesToSave;
   std::vector<FileDialogRequest> requests;
 
   void ShowError(std::u16string_view text) override { errors.emplace_back(text); }
   void ShowWarning(std::u16string_view text) override { warnings.emplace_back(text); }
+  bool AskYesNo(std::u16string_view question) override {
+    questions.emplace_back(question);
+    if (whileAsking) whileAsking();
+    return Next(yesNoAnswers).value_or(false);
+  }
   SaveAnswer AskSave(std::u16string_view question) override {
     questions.emplace_back(question);
     return Next(answers).value_or(SaveAnswer::Cancel);

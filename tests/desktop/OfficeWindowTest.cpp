@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "WindowTest.h"
+#include "platform/posix/LinuxProcessTable.h"
+#include "support/SleepingProcess.h"
+
+namespace quorvantis::test {
+namespace {
+
+using OfficeWindow = WindowTest;
+
+TEST_F(OfficeWindow, AsksAboutOfficeProgramsAtTheStartAndAtEachPreview) {
+  LinuxProcessTable all;
+  ProcessesBelow processes(folder.Path(), all);
+  OfficeControl control(services, processes);
+  SleepingProcess word(folder / "WINWORD.EXE");
+  std::filesystem::create_directory(services.applicationFolder);
+  world.registry.CreateKey(RegistryRoot::ClassesRoot, u"Word.Document.8");
+  const std::u16string locations = u"Software\\Microsoft\\Office\\12.0\\Excel\\Security\\Trusted Locations";
+  world.registry.CreateKey(RegistryRoot::CurrentUser, locations);
+  const auto trusts = [&] {
+    return world.registry.OpenKey(RegistryRoot::CurrentUser, locations + u"\\LocationQuorvantis") != nullptr;
+  };
+  world.dialogs.whileAsking = [&] {
+    const auto word8 = world.registry.OpenKey(RegistryRoot::ClassesRoot, u"Word.Document.8");
+    EXPECT_TRUE(word8 && word8->QueryValue(u"EditFlags")) << "set before the first question";
+    EXPECT_EQ(trusts(), window != nullptr);
+  };
+  office = &control;
+  Open();
+  EXPECT_EQ(world.dialogs.questions.size(), 1);
+  EXPECT_TRUE(word.IsAlive());
+  world.dialogs.yesNoAnswers = {true};
+  Click("preview");
+  EXPECT_EQ(world.dialogs.questions.size(), 2);
+  EXPECT_TRUE(word.Ends());
+  Click("preview");
+  EXPECT_EQ(world.dialogs.questions.size(), 2);
+  EXPECT_TRUE(trusts());
+  window.reset();
+  EXPECT_FALSE(trusts());
+}
+
+}  // namespace
+}  // namespace quorvantis::test
