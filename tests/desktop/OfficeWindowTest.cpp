@@ -14,16 +14,17 @@ TEST_F(OfficeWindow, AsksAboutOfficeProgramsAtTheStartAndAtEachPreview) {
   OfficeControl control(services, processes);
   SleepingProcess word(folder / "WINWORD.EXE");
   std::filesystem::create_directory(services.applicationFolder);
-  world.registry.CreateKey(RegistryRoot::ClassesRoot, u"Word.Document.8");
   const std::u16string locations = u"Software\\Microsoft\\Office\\12.0\\Excel\\Security\\Trusted Locations";
   world.registry.CreateKey(RegistryRoot::CurrentUser, locations);
   const auto trusts = [&] {
     return world.registry.OpenKey(RegistryRoot::CurrentUser, locations + u"\\LocationQuorvantis") != nullptr;
   };
   world.dialogs.whileAsking = [&] {
-    const auto word8 = world.registry.OpenKey(RegistryRoot::ClassesRoot, u"Word.Document.8");
-    EXPECT_TRUE(word8 && word8->QueryValue(u"EditFlags")) << "set before the first question";
-    EXPECT_EQ(trusts(), window != nullptr);
+    const int previews = window ? 1 : 0;
+    EXPECT_EQ(trusts(), previews == 1);
+    EXPECT_EQ(exam.previewPrefixes, previews);
+    EXPECT_NE(exam.pageRenderer.renderOption, 0x0409) << "before pages are written";
+    EXPECT_FALSE(std::filesystem::exists(folder / "app/TEMP/ExamPreview/SEE.htm"));
   };
   office = &control;
   Open();

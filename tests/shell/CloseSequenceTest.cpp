@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/posix/LinuxProcessTable.h"
 #include "platform/posix/PosixFiles.h"
 #include "shell/CloseSequence.h"
 #include "support/RecordingWorld.h"
@@ -10,10 +11,20 @@
 namespace quorvantis::test {
 namespace {
 
+/// Files that tell when one is about to be written.
+class WatchedFiles : public PosixFiles {
+ public:
+  std::function<void()> onReplace = [] {};
+  std::unique_ptr<PendingFile> Replace(const std::filesystem::path& target, std::error_code& error) override {
+    onReplace();
+    return PosixFiles::Replace(target, error);
+  }
+};
+
 TEST(CloseSequence, DeletesAttachedFilesAndWhatAReaderUnpacked) {
   const TemporaryFolder folder;
   const auto unpacked = folder / "TEMP/ExamPreview/~tt";
-  PosixFiles files;
+  WatchedFiles files;
   RecordingWorld world(folder.Path(), files);
   FrameSetExam exam(world.services);
   const auto copy = [&](const char* name) { return PathToText(WriteBytes(unpacked / name, "x")); };
@@ -23,8 +34,16 @@ TEST(CloseSequence, DeletesAttachedFilesAndWhatAReaderUnpacked) {
   exam.Question(1).attachmentPaths[0] = copy("not a copy to delete");
   WriteBytes(folder / "~TEMP/from/a.doc/a.doc", "attached");
   WriteBytes(folder / "~TEMP/5.bmp", "picture");
+  const std::u16string locations = u"Software\\Microsoft\\Office\\12.0\\Excel\\Security\\Trusted Locations\\";
+  world.registry.CreateKey(RegistryRoot::CurrentUser, locations + u"LocationQuorvantis");
+  files.onReplace = [&] {
+    EXPECT_FALSE(std::filesystem::exists(folder / "~TEMP")) << "before the trust ends";
+  };
 
-  RunCloseSequence(exam, nullptr);
+  LinuxProcessTable processes;
+  OfficeControl office(world.services, processes);
+  RunCloseSequence(exam, &office);
+  EXPECT_EQ(world.registry.OpenKey(RegistryRoot::CurrentUser, locations + u"LocationQuorvantis"), nullptr);
   EXPECT_FALSE(std::filesystem::exists(folder / "~TEMP"));
   EXPECT_TRUE(exists("exam.doc") && exists("one") && exists("two")) << "no reader has made them";
 

@@ -63,7 +63,6 @@ TEST_F(IniProfileTest, ChangesNothingButItsLine) {
       {"[PRIVATE]\r\n;x\r\n LANGUAGE\t= 1 ; 2\r\n\r\nz", "[PRIVATE]\r\n;x\r\n LANGUAGE\t= 7\u0431\r\n\r\nz"},
       {"[private]\r\ra=1\r \r\r[b]\rLanguage=1", "[private]\r\ra=1\rLanguage=7\u0431\r \r\r[b]\rLanguage=1"},
       {"[private]\n[b]\n[private]\nlanguage=1\n", "[private]\n[b]\n[private]\nlanguage=7\u0431\n"},
-      {"[private]\n[b]\n[private]\n", "[private]\nLanguage=7\u0431\n[b]\n[private]\n"},
       {"[private]\nLanguage\nx=\0\n\n"s, "[private]\nLanguage\nx=\0\nLanguage=7\u0431\n\n"s},
       {"\xEF\xBB\xBF[private]", "\xEF\xBB\xBF[private]\r\nLanguage=7\u0431\r\n"},
       {"[private]\n;\xB1\xFE\n", "[private]\n;\xB1\xFE\nLanguage=7\xB1\n"},
@@ -90,8 +89,7 @@ TEST_F(IniProfileTest, AFailureLeavesTheFile) {
   EXPECT_EQ(fs::file_size(file), 17'000'000);
   fs::remove(file);
   fs::create_directory(file);
-  EXPECT_FALSE(profile.WriteString(u"Language", u"1"));
-  EXPECT_EQ(Read(), u"");
+  EXPECT_FALSE(profile.WriteString(u"Language", u"1") || !Read().empty());
 }
 
 }  // namespace

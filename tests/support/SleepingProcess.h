@@ -19,13 +19,12 @@ class SleepingProcess {
   explicit SleepingProcess(const std::filesystem::path& program, std::string calledAs = "sleep") {
     std::filesystem::create_directories(program.parent_path());
     std::filesystem::copy_file("/bin/sleep", program);
-    std::string seconds = "120";
-    char* const arguments[] = {calledAs.data(), seconds.data(), nullptr};
+    char seconds[] = "120";
+    char* const arguments[] = {calledAs.data(), seconds, nullptr};
     if (::posix_spawn(&id_, program.c_str(), nullptr, nullptr, arguments, environ) != 0) id_ = 0;
   }
   ~SleepingProcess() {
-    if (id_ != 0) ::kill(id_, SIGKILL);
-    if (id_ != 0) ::waitpid(id_, nullptr, 0);
+    if (id_ != 0 && ::kill(id_, SIGKILL) == 0) ::waitpid(id_, nullptr, 0);
   }
   SleepingProcess(const SleepingProcess&) = delete;
   SleepingProcess& operator=(const SleepingProcess&) = delete;
@@ -36,7 +35,7 @@ class SleepingProcess {
   bool Ends() {
     constexpr int kPatience = 500;  // times 10 milliseconds
     for (int i = 0; i < kPatience && IsAlive(); ++i) ::usleep(10'000);
-    return !IsAlive();
+    return id_ == 0;
   }
 
   bool IsAlive() {
