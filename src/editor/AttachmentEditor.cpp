@@ -14,13 +14,6 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::u16string_view kAttachmentFilter =
-    u"Text files(*.doc,*.docx,*.ppt,*.pptx,*.xls,*.xlsx,*.txt)|*.doc;*.docx;*.ppt;*.pptx;*.xls;*.xlsx;*.txt|"
-    u"Picture files(*.jpg;*.jpeg;*.bmp;*.gif)|*.jpg;*.jpeg;*.bmp;*.gif|"
-    u"Mutimedia files(*.wav;*.mp3;*.wmv;*.wma;*.avi;*.mpeg;*.dat;*.asf)|"
-    u"*.wav;*.mp3;*.wmv;*.wma;*.avi;*.mpeg;*.dat;*.asf|"
-    u"flash files(*.swf)|*.swf|";
-
 /// Fills a list from the names of the document.
 void Fill(ShownAttachments& list, const AttachmentList& names) {
   const auto count = static_cast<std::ptrdiff_t>(CountEntries(names));
@@ -45,7 +38,8 @@ std::size_t AppendEntry(ShownAttachments& list, const std::u16string& name) {
 }  // namespace
 
 std::optional<std::filesystem::path> AttachmentEditor::ChooseFile() const {
-  return state_.document.Services().dialogs.ChooseFileToOpen({std::u16string(kAttachmentFilter), {}, {}});
+  const ExamServices& services = state_.document.Services();
+  return services.dialogs.ChooseFileToOpen({services.strings.Text(text_id::kAttachmentFilter), {}, {}});
 }
 
 std::filesystem::path AttachmentEditor::MakeCopy(const std::filesystem::path& source) {

@@ -12,13 +12,6 @@
 #include <algorithm>
 
 namespace quorvantis {
-namespace {
-
-constexpr std::u16string_view kOpenFilter = u"Exam files, (*.exm)|*.exm|";
-constexpr std::u16string_view kSaveFilter = u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|";
-
-}  // namespace
-
 std::u16string LowerExtension(const std::filesystem::path& path) {
   std::u16string text = PathToText(path);
   text.erase(0, text.rfind(u'.') + 1);
@@ -57,8 +50,9 @@ void ExamFileCommands::NewExam() {
 
 void ExamFileCommands::OpenExam() {
   if (!MayDiscardChanges()) return;
-  UserDialogs& dialogs = state_.document.Services().dialogs;
-  if (const auto file = dialogs.ChooseFileToOpen({std::u16string(kOpenFilter), {}, {}})) LoadFile(*file);
+  const ExamServices& services = state_.document.Services();
+  const std::u16string filter = services.strings.Text(text_id::kOpenExamFilter);
+  if (const auto file = services.dialogs.ChooseFileToOpen({filter, {}, {}})) LoadFile(*file);
 }
 
 void ExamFileCommands::OpenExam(const std::filesystem::path& file) {
@@ -86,7 +80,8 @@ void ExamFileCommands::SaveExam() {
 
 void ExamFileCommands::SaveExamAs() {
   const ExamServices& services = state_.document.Services();
-  const auto file = services.dialogs.ChooseFileToSave({std::u16string(kSaveFilter), u"exm", u"MyExam"});
+  const std::u16string filter = services.strings.Text(text_id::kSaveExamFilter);
+  const auto file = services.dialogs.ChooseFileToSave({filter, u"exm", u"MyExam"});
   if (!file || file->empty()) return;
   const std::u16string extension = LowerExtension(*file);
   if (extension == u"exm") {

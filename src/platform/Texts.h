@@ -4,18 +4,24 @@
 
 namespace quorvantis::text_id {
 
-constexpr int kAbout = 101;               // "Oxna Quorvantis(&A)..."
+constexpr int kAbout = 101;           // "Oxna Quorvantis(&A)..."; no such menu item when empty
 constexpr int kOpenFileError = 102;       // "Open file %s error!"
 constexpr int kTemporaryFileError = 103;  // "create temporary file error"
+constexpr int kNoWordProcessor = 104;     // "Create dispatch failed.Please first to setup Office2000!"
 constexpr int kSaveQuestion = 105;        // "File '%s' Changed.\nSave File ?"
-constexpr int kWindowTitle = 107;         // "Quorvantis - %s"
-constexpr int kRandomOptions = 108;       // "Random(option)"
-constexpr int kRandomSequence = 109;      // "Random(sequence)"
+constexpr int kOpenExamFilter = 106;
+constexpr int kWindowTitle = 107;     // "Quorvantis - %s"
+constexpr int kRandomOptions = 108;   // "Random(option)"
+constexpr int kRandomSequence = 109;  // "Random(sequence)"
 constexpr int kRandom = 110;
+constexpr int kLanguage = 111;
+constexpr int kSelectLanguage = 112;
+constexpr int kOk = 113;
 constexpr int kScoreDistribution = 114;
 constexpr int kQuestion = 115;
 constexpr int kScore = 116;
 constexpr int kSameScores = 117;  // "Each question has the same scores"
+constexpr int kExported = 118;    // "Save as *.Doc Success!"
 constexpr int kTitle = 119;
 constexpr int kEditArea = 120;
 constexpr int kChoice = 121;
@@ -39,14 +45,31 @@ constexpr int kScoreSettings = 138;
 constexpr int kPrint = 139;
 constexpr int kListSeparatorTip = 140;
 constexpr int kFinishExam = 141;
+constexpr int kSaveExamFilter = 142;
+constexpr int kAttachmentFilter = 143;
 constexpr int kYourScoreIs = 144;
 constexpr int kCorrectAnswerIs = 145;
 constexpr int kYourAnswerIs = 146;
 constexpr int kOralSubject = 147;
 constexpr int kOralByTeacher = 148;  // shown where a page has no recorder
-constexpr int kCloseOffice = 159;
+constexpr int kAssignedScore = 149;
+constexpr int kScoreRanges = 150;  // "Score Distribution"
+constexpr int kImportFilter = 151;
+constexpr int kRangeQuestion = 152;     // "Question"
+constexpr int kRangeTo = 153;           // "to"
+constexpr int kRangeScore = 154;        // "Score="
+constexpr int kMinimumQuestions = 155;  // "Minimum questions(1-500)"
+constexpr int kCancel = 156;
+constexpr int kScanQuestions = 157;
+constexpr int kLanguageName = 158;  // the language's name in itself
+constexpr int kCloseOffice = 159;   // "Close Ms Office?"
 constexpr int kImportExam = 160;
-constexpr int kOralOff = 172;  // caption of the oral toggle while the flag is 0
+constexpr int kPictureNotice = 161;      // "(Can not show the picture)"
+constexpr int kWrongDocumentPath = 162;  // "The Document file path is wrong!"
+constexpr int kWrongImportRules = 163;   // "There is something wrong in file ImportExam.ini"
+constexpr int kPicturesInAnswers = 167;  // follows a list of question numbers
+constexpr int kNotice = 168;             // caption of a message: "clew"
+constexpr int kOralOff = 172;            // caption of the oral toggle while the flag is 0
 constexpr int kOralOn = 173;
 
 // Texts of our own.

@@ -4,6 +4,7 @@
 #include "platform/Texts.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace quorvantis {
 namespace {
@@ -18,15 +19,21 @@ constexpr NumberedText kTexts[] = {
     {text_id::kAbout, u"Oxna Quorvantis(&A)..."},
     {text_id::kOpenFileError, u"Open file %s error!"},
     {text_id::kTemporaryFileError, u"create temporary file error"},
+    {text_id::kNoWordProcessor, u"Create dispatch failed.Please first to setup Office2000!"},
     {text_id::kSaveQuestion, u"File '%s' Changed.\nSave File ?"},
+    {text_id::kOpenExamFilter, u"Exam files, (*.exm)|*.exm|"},
     {text_id::kWindowTitle, u"Quorvantis - %s"},
     {text_id::kRandomOptions, u"Random(option)"},
     {text_id::kRandomSequence, u"Random(sequence)"},
     {text_id::kRandom, u"Random"},
+    {text_id::kLanguage, u"Language"},
+    {text_id::kSelectLanguage, u"Select Language"},
+    {text_id::kOk, u"OK"},
     {text_id::kScoreDistribution, u"Score Distribution"},
     {text_id::kQuestion, u"Question"},
     {text_id::kScore, u"score"},
     {text_id::kSameScores, u"Each question has the same scores"},
+    {text_id::kExported, u"Save as *.Doc Success!"},
     {text_id::kTitle, u"Title:"},
     {text_id::kEditArea, u"Edit Area"},
     {text_id::kChoice, u"Choice"},
@@ -50,13 +57,35 @@ constexpr NumberedText kTexts[] = {
     {text_id::kPrint, u"Print"},
     {text_id::kListSeparatorTip, u"Insert ans\\' list separator \\\"<@>\\\""},
     {text_id::kFinishExam, u"Finish Exam"},
+    {text_id::kSaveExamFilter, u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|"},
+    {text_id::kAttachmentFilter,
+     u"Text files(*.doc,*.docx,*.ppt,*.pptx,*.xls,*.xlsx,*.txt)|*.doc;*.docx;*.ppt;*.pptx;*.xls;*.xlsx;*.txt|"
+     u"Picture files(*.jpg;*.jpeg;*.bmp;*.gif)|*.jpg;*.jpeg;*.bmp;*.gif|"
+     u"Mutimedia files(*.wav;*.mp3;*.wmv;*.wma;*.avi;*.mpeg;*.dat;*.asf)|"
+     u"*.wav;*.mp3;*.wmv;*.wma;*.avi;*.mpeg;*.dat;*.asf|"
+     u"flash files(*.swf)|*.swf|"},
     {text_id::kYourScoreIs, u"Your score is"},
     {text_id::kCorrectAnswerIs, u"Correct answer is"},
     {text_id::kYourAnswerIs, u"Your answer is"},
     {text_id::kOralSubject, u"(Oral subject)"},
     {text_id::kOralByTeacher, u"(Oral question,controled by teacher)"},
+    {text_id::kAssignedScore, u"Assigned Score"},
+    {text_id::kScoreRanges, u"Score Distribution"},
+    {text_id::kImportFilter, u"Doc files, (*.doc)|*.doc|"},
+    {text_id::kRangeQuestion, u"Question"},
+    {text_id::kRangeTo, u"to"},
+    {text_id::kRangeScore, u"Score="},
+    {text_id::kMinimumQuestions, u"Minimum questions(1-500)"},
+    {text_id::kCancel, u"Scan questions"},  // deliberate: Cancel buttons read so without a language library
+    {text_id::kScanQuestions, u"Scan questions"},
+    {text_id::kLanguageName, u"English"},
     {text_id::kCloseOffice, u"Close Ms Office?"},
     {text_id::kImportExam, u"Import Exam"},
+    {text_id::kPictureNotice, u"(Can not show the picture)"},
+    {text_id::kWrongDocumentPath, u"The Document file path is wrong!"},
+    {text_id::kWrongImportRules, u"There is something wrong in file ImportExam.ini"},
+    {text_id::kPicturesInAnswers, u"The answer in the exam have pictures,can not display"},
+    {text_id::kNotice, u"clew"},
     {text_id::kOralOff, u"Play video sound"},
     {text_id::kOralOn, u"Mute video sound"},
     {text_id::kExamEndsEarly,
@@ -83,6 +112,12 @@ constexpr NumberedText kTexts[] = {
 std::u16string BuiltInStrings::Text(int number) const {
   const auto* found = std::ranges::find(kTexts, number, &NumberedText::number);
   return found == std::end(kTexts) ? std::u16string() : std::u16string(found->text);
+}
+
+std::vector<int> BuiltInStrings::Numbers() {
+  std::vector<int> numbers;
+  std::ranges::transform(kTexts, std::back_inserter(numbers), &NumberedText::number);
+  return numbers;
 }
 
 }  // namespace quorvantis

@@ -76,7 +76,7 @@ TEST_F(ExamFileEditing, CancelledFileDialogs) {
   EXPECT_TRUE(Modified());
   editor.files.OpenExam();
   EXPECT_EQ(editor.questions.Form().text, u"changed") << "nothing is opened";
-  EXPECT_EQ(world.dialogs.requests.back().filter, u"Exam files, (*.exm)|*.exm|");
+  EXPECT_EQ(world.dialogs.requests.back().filter, u"[106 %s]");
   editor.files.NewExam();
   EXPECT_EQ(editor.questions.Form().text, u"");
   EXPECT_FALSE(Modified());
@@ -87,7 +87,7 @@ TEST_F(ExamFileEditing, SavesUnderTheNameItHas) {
   Change();
   editor.files.SaveExam();
   ASSERT_EQ(world.dialogs.requests.size(), 1u) << "an exam without a name asks for one";
-  EXPECT_EQ(world.dialogs.requests[0].filter, u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|");
+  EXPECT_EQ(world.dialogs.requests[0].filter, u"[142 %s]");
   EXPECT_EQ(world.dialogs.requests[0].defaultExtension, u"exm");
   EXPECT_EQ(world.dialogs.requests[0].initialName, u"MyExam");
   EXPECT_FALSE(Modified());

@@ -50,10 +50,13 @@ TEST(ChooseCodePage, TakesTheSettingOrTheOneOfTheLanguage) {
 
 TEST(BuiltInStrings, HaveTheExactTexts) {
   const std::pair<int, std::u16string_view> rows[] = {
+      {101, u"Oxna Quorvantis(&A)..."},
       {102, u"Open file %s error!"},
       {105, u"File '%s' Changed.\nSave File ?"},
+      {106, u"Exam files, (*.exm)|*.exm|"},
       {107, u"Quorvantis - %s"},
       {148, u"(Oral question,controled by teacher)"},
+      {156, u"Scan questions"},
       {140, u"Insert ans\\' list separator \\\"<@>\\\""},
       {1000, u"The exam file ends before its contents do; question %d and after are missing."},
       {9999, u""}};

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quorvantis {
+
+/// The text of a control in a dialog that the program carries itself, both by number (see
+/// platform/DialogTexts.h), or an empty one.
+std::u16string BuiltInDialogText(int dialog, int control);
+
+/// The dialogs and controls of all of them. Every language library that comes with the program has them too.
+std::vector<std::pair<int, int>> BuiltInDialogControls();
+
+}  // namespace quorvantis
