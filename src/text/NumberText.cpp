@@ -85,6 +85,12 @@ std::u16string FormatInteger(std::int64_t value) {
   return {digits, end};
 }
 
+std::u16string FormatHexadecimal(std::uint32_t value) {
+  char digits[8];
+  const auto end = std::to_chars(digits, digits + sizeof digits, value, 16).ptr;
+  return {digits, end};
+}
+
 std::u16string FormatScore(float value) {
   char digits[64];  // the largest float has 39 digits before the point
   const auto end =

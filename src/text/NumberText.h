@@ -20,6 +20,9 @@ double ParseReal(std::u16string_view text);
 /// Decimal text, as "%d" gives it.
 std::u16string FormatInteger(std::int64_t value);
 
+/// Hexadecimal text, as "%x" gives it.
+std::u16string FormatHexadecimal(std::uint32_t value);
+
 /// Text with two decimals, as "%1.2f" gives it for the value widened to double.
 std::u16string FormatScore(float value);
 

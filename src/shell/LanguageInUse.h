@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/LanguageLibraries.h"
+
+namespace quorvantis {
+
+/// The source of everything that users see: the language library in use, and the texts that the program
+/// carries itself where that has none. Pictures come from the library only.
+class LanguageInUse : public LanguageLibrary {
+ public:
+  /// From now on `library`, which may be null.
+  void Use(std::unique_ptr<LanguageLibrary> library) { library_ = std::move(library); }
+
+  bool HasLibrary() const { return library_ != nullptr; }
+
+  std::optional<std::uint16_t> Id() const override;
+  bool HasText(int number) const override;
+  std::u16string Text(int number) const override;
+  std::u16string DialogText(int dialog, int control) const override;
+  std::span<const std::byte> Bitmap(std::string_view name, int scale) const override;
+
+ private:
+  std::unique_ptr<LanguageLibrary> library_;
+};
+
+}  // namespace quorvantis
