@@ -2,11 +2,11 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show build unpack preview print edit"
+  local commands="show build unpack preview print edit languages"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
-      --app-folder) ((++i)) ;;
+      --app-folder | --language) ((++i)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
     esac
@@ -16,7 +16,7 @@ _quorvantis_cli() {
   if [ "$previous" = --app-folder ]; then
     mapfile -t COMPREPLY < <(compgen -d -- "$word")
   elif [[ $word == -* ]]; then
-    local options="--help --app-folder --debug"
+    local options="--help --app-folder --language --debug"
     [ -n "$command" ] || options+=" --version"
     case $command in
       show) options+=" --json" ;;

@@ -5,6 +5,7 @@
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
 #include "cli/Version.h"
+#include "shell/LanguageId.h"
 
 #include <CLI/CLI.hpp>
 
@@ -32,6 +33,14 @@ void AddCommonOptions(CLI::App& app, CommonOptions& options) {
   app.add_option("--app-folder", options.appFolder,
                  "Folder for work files and settings; a private one, removed at the end, without it")
       ->type_name("DIR");
+  const auto takeLanguage = [&options](const std::string& text) {
+    options.language = ParseLanguageId(text);
+    if (!options.language) throw CLI::ValidationError("--language", "not an identifier: " + text);
+  };
+  app.add_option_function<std::string>(
+         "--language", takeLanguage,
+         "Show texts in the language of this identifier (\"quorvantis-cli languages\" lists them)")
+      ->type_name("ID");
   app.add_flag("--debug", options.debug, "Show debug lines on standard error");
 }
 
@@ -110,6 +119,12 @@ void AddEdit(CLI::App& app, Arguments& arguments, Console& console) {
   });
 }
 
+void AddLanguages(CLI::App& app, Arguments& arguments, Console& console) {
+  CLI::App* languages = AddCommand(app, arguments, "languages", "List the languages that there are");
+  languages->footer("One line each: identifier, name, file.");
+  languages->callback([&] { ListLanguages(console, arguments.common); });
+}
+
 /// Names a command that does not exist, which CLI11 would report as a missing one.
 bool IsUnknownCommand(const CLI::App& app, int argumentCount, const char* const* arguments) {
   const std::string first = argumentCount > 1 ? arguments[1] : "-";
@@ -148,6 +163,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddPreview(app, arguments, console);
   AddPrint(app, arguments, console);
   AddEdit(app, arguments, console);
+  AddLanguages(app, arguments, console);
   if (IsUnknownCommand(app, argumentCount, argumentValues)) {
     console.Complain("unknown command \"" + std::string(argumentValues[1]) + "\"; see quorvantis-cli --help");
     return kWrongUsage;

@@ -39,4 +39,7 @@ void Print(Console& console, const CommonOptions& options, const std::filesystem
 /// Runs an editing script, from a file or from the console.
 void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script);
 
+/// Lists the language libraries that there are.
+void ListLanguages(Console& console, const CommonOptions& options);
+
 }  // namespace quorvantis::cli

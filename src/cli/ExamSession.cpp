@@ -2,6 +2,7 @@
 #include "cli/ExamSession.h"
 
 #include "cli/CommandError.h"
+#include "cli/Languages.h"
 #include "cli/WhyUnreadable.h"
 #include "examfile/ExamFileMessages.h"
 #include "shell/CodePageChoice.h"
@@ -13,40 +14,30 @@ namespace quorvantis::cli {
 namespace fs = std::filesystem;
 namespace {
 
-/// The given folder as a full path without a separator at its end, made if missing; or a private one.
-fs::path UseFolder(const fs::path& given, std::optional<PrivateFolder>& privateFolder) {
-  if (given.empty()) return privateFolder.emplace().Path();
-  std::error_code error;
-  fs::path folder = fs::absolute(given).lexically_normal();
-  if (!folder.has_filename() && folder != folder.root_path()) folder = folder.parent_path();
-  fs::create_directories(folder, error);
-  if (!fs::is_directory(folder, error)) {
-    throw CommandError(given.string() +
-                       ": cannot be used as the application folder; name a folder that can be made");
-  }
-  return folder;
+/// The given folder, or a private one.
+ApplicationFolderClaim ClaimFolder(const fs::path& given, std::optional<PrivateFolder>& privateFolder) {
+  ApplicationFolderClaim claim(given.empty() ? privateFolder.emplace().Path() : given);
+  if (claim.WhatIsWrong() != ApplicationFolderClaim::Problem::None) throw CommandError(claim.Explanation());
+  return claim;
 }
 
-FolderLock LockFolder(const fs::path& folder) {
-  std::optional<FolderLock> lock = FolderLock::Take(folder);
-  if (!lock)
-    throw CommandError(folder.string() + ": another program works in it; close that, or name another folder");
-  return *std::move(lock);
+LanguageInUse UseLanguage(const CommonOptions& options) {
+  LanguageInUse language;
+  if (options.language) language.Use(LoadLanguage(options.appFolder, *options.language));
+  return language;
 }
 
 }  // namespace
 
 ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
-    : progress_(theConsole.err, ::isatty(STDERR_FILENO) != 0),
-      debug_(options.debug || DebugAskedFor()),
-      applicationFolder_(UseFolder(options.appFolder, privateFolder_)),
-      lock_(LockFolder(applicationFolder_)),
-      registry_(applicationFolder_ / kRegistryFile, files_),
-      codePage_(ChooseCodePage(applicationFolder_, kEnglish)),
+    : folder_(ClaimFolder(options.appFolder, privateFolder_)),
+      language_(UseLanguage(options)),
+      progress_(theConsole.err, ::isatty(STDERR_FILENO) != 0),
       console(theConsole),
       dialogs(theConsole),
-      services{applicationFolder_, strings_,         dialogs, codePage_, debug_, files_,
-               progress_,          longAnswerFlags_, ids_,    registry_, pages_},
+      languageId(options.language.value_or(kEnglish)),
+      host_(folder_.Folder(), languageId, options.debug, {language_, dialogs, progress_, longAnswerFlags_}),
+      services(host_.Services()),
       exam(services) {
   exam.SetHostMode(1);
 }

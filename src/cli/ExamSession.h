@@ -5,18 +5,12 @@
 #include "cli/ScriptedDialogs.h"
 #include "cli/TerminalProgress.h"
 #include "examfile/ExamFileReader.h"
+#include "host/ApplicationFolderClaim.h"
+#include "host/ExamHost.h"
 #include "model/FrameSetExam.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
-#include "platform/posix/FileRegistry.h"
-#include "platform/posix/FolderLock.h"
-#include "platform/posix/IconvCodePage.h"
-#include "platform/posix/PosixFiles.h"
 #include "platform/posix/PrivateFolder.h"
-#include "platform/posix/RandomIds.h"
-#include "platform/posix/StandardErrorDebug.h"
-#include "render/ComposedPages.h"
-#include "shell/BuiltInStrings.h"
+#include "shell/LanguageInUse.h"
 
 #include <filesystem>
 #include <optional>
@@ -27,13 +21,15 @@ namespace quorvantis::cli {
 struct CommonOptions {
   std::filesystem::path appFolder;  ///< empty: a private folder
   bool debug = false;
+  std::optional<int> language;  ///< identifier; without one the texts are those of the program itself
 };
 
 /// One exam document with the world that it lives in while a command runs: an application folder, private and
 /// removed at the end unless one was named, and the services of this machine.
 class ExamSession {
  public:
-  /// Throws CommandError when the application folder cannot be used, or when another program works in it.
+  /// Throws CommandError when the application folder cannot be used, when another program works in it, or
+  /// when there is no library of the language.
   ExamSession(Console& console, const CommonOptions& options);
   ~ExamSession() = default;
   ExamSession(const ExamSession&) = delete;
@@ -45,22 +41,21 @@ class ExamSession {
 
  private:
   std::optional<PrivateFolder> privateFolder_;
-  BuiltInStrings strings_;
+  const ApplicationFolderClaim folder_;
+  LanguageInUse language_;
   TerminalProgress progress_;
-  StandardErrorDebug debug_;
-  PosixFiles files_;
   LongAnswerFlags longAnswerFlags_;
-  RandomIds ids_;
-  ComposedPages pages_;
-  const std::filesystem::path applicationFolder_;
-  FolderLock lock_;
-  FileRegistry registry_;
-  IconvCodePage codePage_;
 
  public:
   Console& console;
   ScriptedDialogs dialogs;
-  ExamServices services;
+  const int languageId;  ///< of the texts
+
+ private:
+  ExamHost host_;
+
+ public:
+  ExamServices& services;
   FrameSetExam exam;
 };
 

@@ -6,7 +6,6 @@
 #include "cli/Responses.h"
 #include "editor/ExamEditor.h"
 #include "render/PreviewPaths.h"
-#include "shell/CodePageChoice.h"
 #include "shell/PreviewCommand.h"
 #include "shell/PrintCommand.h"
 #include "text/PathText.h"
@@ -104,7 +103,7 @@ void Preview(Console& console, const CommonOptions& options, const PreviewReques
   session.Load(exam);
   if (request.responses) AnswerExam(session.exam, *request.responses, responses);
   UnseenEditor editor(session.exam);
-  PreviewCommand(editor.Questions(), session.exam, nullptr, kEnglish, CheckPage).Run();
+  PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPage).Run();
 }
 
 void Print(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder,
@@ -112,7 +111,7 @@ void Print(Console& console, const CommonOptions& options, const fs::path& exam,
   ExamSession session(console, In(folder, options));
   session.Load(exam);
   UnseenEditor editor(session.exam);
-  if (afterPreview) PreviewCommand(editor.Questions(), session.exam, nullptr, kEnglish, CheckPage).Run();
+  if (afterPreview) PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPage).Run();
   PrintCommand(editor.Questions(), session.exam, CheckPage).Run();
 }
 

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/ApplicationFolder.h"
 
+#include "platform/posix/FileDescriptor.h"
+
+#include <cerrno>
 #include <cstdlib>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace quorvantis {
@@ -32,6 +36,20 @@ fs::path FindApplicationFolder() {
   std::error_code ignored;
   fs::create_directories(folder, ignored);
   return folder;
+}
+
+std::error_code TryWriting(const fs::path& folder) {
+  constexpr std::size_t kRoom = std::size_t{64} * 1024;
+  const auto lastError = [] { return std::error_code(errno, std::generic_category()); };
+  std::string name = (folder / "~writable-XXXXXX").string();
+  const FileDescriptor file(::mkostemp(name.data(), O_CLOEXEC));
+  if (!file.IsOpen()) return lastError();
+  ::unlink(name.c_str());
+  const std::string content(kRoom, '\0');
+  const ssize_t written = ::write(file.Get(), content.data(), content.size());
+  if (written < 0) return lastError();
+  return static_cast<std::size_t>(written) == kRoom ? std::error_code()
+                                                    : std::make_error_code(std::errc::no_space_on_device);
 }
 
 }  // namespace quorvantis

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ExamServices.h"
+#include "platform/posix/FileRegistry.h"
+#include "platform/posix/IconvCodePage.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/RandomIds.h"
+#include "platform/posix/StandardErrorDebug.h"
+#include "render/ComposedPages.h"
+
+#include <filesystem>
+
+namespace quorvantis {
+
+/// What an exam document uses in every program of this machine, joined with what the program brings itself.
+class ExamHost {
+ public:
+  /// The program's part. All must outlive the host.
+  struct Program {
+    const StringTable& strings;
+    UserDialogs& dialogs;
+    Progress& progress;
+    LongAnswerFlags& longAnswerFlags;
+  };
+
+  /// `applicationFolder` is a full path, `languageId` that of the language in use.
+  ExamHost(const std::filesystem::path& applicationFolder, int languageId, bool debug,
+           const Program& program);
+  ExamHost(const ExamHost&) = delete;
+  ExamHost& operator=(const ExamHost&) = delete;
+
+  ExamServices& Services() { return services_; }
+  const ComposedPages& Pages() const { return pages_; }
+
+ private:
+  IconvCodePage codePage_;
+  StandardErrorDebug debug_;
+  PosixFiles files_;
+  RandomIds ids_;
+  FileRegistry registry_;
+  ComposedPages pages_;
+  ExamServices services_;
+};
+
+}  // namespace quorvantis
