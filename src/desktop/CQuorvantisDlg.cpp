@@ -12,7 +12,6 @@
 #include "platform/UserDialogs.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "shell/CloseSequence.h"
-#include "shell/CodePageChoice.h"
 #include "shell/PreviewCommand.h"
 #include "shell/PrintCommand.h"
 #include "text/MessageText.h"
@@ -80,10 +79,11 @@ GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) 
 }  // namespace
 
 CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, OfficeControl* office,
-                               DocumentExport exportDocument, const LanguageLibrary* library)
+                               DocumentExport exportDocument, const LanguageLibrary* library, int languageId)
     : exam_(exam),
       office_(office),
       editor_(exam, *this, std::move(exportDocument)),
+      languageId_(languageId),
       previews_(SetUpGateway(exam, pages), *this),
       pictures_(library),
       files_(editor_, PageCommands(), exam.Services().strings, pictures_, WithFittingFont(this)),
@@ -173,7 +173,7 @@ void CQuorvantisDlg::TitleChanged() {
 }
 
 void CQuorvantisDlg::Preview() {
-  PreviewCommand(editor_.questions, exam_, office_, kEnglish, [this](const std::filesystem::path& page) {
+  PreviewCommand(editor_.questions, exam_, office_, languageId_, [this](const std::filesystem::path& page) {
     previews_.NewSession().ShowPreview(page);
   }).Run();
 }

@@ -10,6 +10,7 @@
 #include "desktop/WindowLayout.h"
 #include "editor/ExamEditor.h"
 #include "preview/PreviewWindows.h"
+#include "shell/CodePageChoice.h"
 #include "shell/OfficeControl.h"
 
 #include <QPushButton>
@@ -30,8 +31,10 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   /// All must outlive the window: `exam`, the pages that its previews are composed into, `office`, and the
   /// library that pictures are taken from. Without `office` office programs are left alone, else the user may
   /// be asked to close them before the window appears. Without a library, the pictures are the built-in ones.
+  /// `languageId` is that of the wanted language, which previews are told.
   CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, OfficeControl* office,
-                 DocumentExport exportDocument, const LanguageLibrary* library = nullptr);
+                 DocumentExport exportDocument, const LanguageLibrary* library = nullptr,
+                 int languageId = kEnglish);
   ~CQuorvantisDlg() override;
 
   /// Opens an exam file, a full path, as the Open command does, without a file dialog.
@@ -81,6 +84,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   FrameSetExam& exam_;
   OfficeControl* office_;
   ExamEditor editor_;
+  const int languageId_;
   PreviewWindows previews_;
   Pictures pictures_;
   bool endsUnasked_ = false;

@@ -2,6 +2,7 @@
 #include "desktop/CommandLine.h"
 
 #include "desktop/QtText.h"
+#include "shell/LanguageId.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -35,16 +36,20 @@ CommandLine ParseCommandLine(const QCoreApplication& application) {
   const QCommandLineOption folder("app-folder", "Keep settings and work folders in DIR.", "DIR");
   const QCommandLineOption debug("debug", "Write debug lines to standard error.");
   const QCommandLineOption screenshot("screenshot", "Save a picture of the window to FILE and end.", "FILE");
+  const QCommandLineOption language(
+      "language", "Use the language of this identifier, for example 0x0409, without asking.", "ID");
   QCommandLineParser parser;
   parser.setApplicationDescription("Quorvantis, an editor for exams.");
-  parser.addOptions({folder, debug, screenshot});
+  parser.addOptions({folder, debug, screenshot, language});
   parser.addHelpOption();
   parser.addVersionOption();
   parser.addPositionalArgument("FILE", "The exam to open.", "[FILE.exm]");
   parser.process(application);
   if (parser.positionalArguments().size() > 1) parser.showHelp(2);
+  const std::optional<int> languageId = ParseLanguageId(parser.value(language).toStdString());
+  if (parser.isSet(language) && !languageId) parser.showHelp(2);
   return {FullPath(parser.positionalArguments().value(0)), FullPath(parser.value(folder)),
-          parser.value(screenshot), parser.isSet(debug)};
+          parser.value(screenshot), languageId, parser.isSet(debug)};
 }
 
 }  // namespace quorvantis

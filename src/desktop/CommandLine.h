@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 namespace quorvantis {
 
@@ -13,7 +14,8 @@ namespace quorvantis {
 struct CommandLine {
   std::filesystem::path exam;
   std::filesystem::path applicationFolder;
-  QString screenshot;  ///< save a picture of the window to this file and end
+  QString screenshot;           ///< save a picture of the window to this file and end
+  std::optional<int> language;  ///< identifier; the language dialog is not shown then
   bool debug = false;
 };
 

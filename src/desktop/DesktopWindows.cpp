@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/DesktopWindows.h"
+
+#include "desktop/CQuorvantisDlg.h"
+#include "desktop/LanguageDlg.h"
+#include "desktop/Pictures.h"
+#include "desktop/QtProgress.h"
+#include "host/ExamHost.h"
+#include "platform/Texts.h"
+#include "platform/posix/LinuxProcessTable.h"
+#include "text/Utf.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <iostream>
+
+namespace quorvantis {
+namespace {
+
+constexpr int kUntilPainted = 300;  // milliseconds
+
+void SaveScreenshot(QWidget& window, const QString& file) {
+  QCoreApplication::exit(window.grab().save(file) ? 0 : 1);
+}
+
+}  // namespace
+
+DesktopWindows::DesktopWindows(const CommandLine& options) : options_(options) {
+  QApplication::setWindowIcon(Pictures(nullptr).Picture(kProgramIcon));
+}
+
+void DesktopWindows::LanguageApplied(const LanguageInUse& language) {
+  qtLanguage_.Use(language.Id().value_or(kEnglish));
+}
+
+void DesktopWindows::ShowFailure(std::u16string_view message) {
+  std::cerr << "quorvantis: " << Utf16ToUtf8(message) << std::flush;
+  if (!TakesPicture()) dialogs_.ShowError(message);
+}
+
+bool DesktopWindows::ChooseLanguage(LanguageChoice& choice, const LanguageInUse& language) {
+  return TakesPicture() || LanguageDlg(choice, language).exec() == QDialog::Accepted;
+}
+
+int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
+  const LanguageInUse& language = application.Language();
+  QtProgress progress;
+  ExamHost host(application.ModuleFolder(), language.Id().value_or(kEnglish), options_.debug,
+                {language, dialogs_, progress, application.LongAnswers()});
+  FrameSetExam exam(host.Services());
+  const auto exportDocument = [&](FrameSetExam&, const std::filesystem::path&) {
+    dialogs_.ShowError(language.Text(text_id::kCannotExport));
+  };
+  LinuxProcessTable processes;
+  OfficeControl office(host.Services(), processes);
+  CQuorvantisDlg window(exam, host.Pages(), TakesPicture() ? nullptr : &office, exportDocument, &language,
+                        application.LanguageId());
+  dialogs_.SetParent(&window);
+  progress.SetParent(&window);
+  window.show();
+  if (TakesPicture()) {  // before opening: a message must not keep it from being taken
+    QTimer::singleShot(kUntilPainted, &window, [&] { SaveScreenshot(window, options_.screenshot); });
+  }
+  if (!options_.exam.empty()) window.OpenExam(options_.exam);
+  if (!TakesPicture()) QTimer::singleShot(kUntilPainted, &window, [&] { window.WarmBrowser(); });
+  return QApplication::exec();
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/CommandLine.h"
+#include "desktop/QtLanguage.h"
+#include "desktop/QtUserDialogs.h"
+#include "shell/CQuorvantisApp.h"
+
+namespace quorvantis {
+
+/// The windows of a run. A run that only takes a picture of the main window shows no other and asks nothing.
+class DesktopWindows : public ApplicationWindows {
+ public:
+  /// `options` must outlive the windows.
+  explicit DesktopWindows(const CommandLine& options);
+
+  void LanguageApplied(const LanguageInUse& language) override;
+  void ShowFailure(std::u16string_view message) override;
+  bool ChooseLanguage(LanguageChoice& choice, const LanguageInUse& language) override;
+  int RunMainWindow(CQuorvantisApp& application) override;
+
+ private:
+  bool TakesPicture() const { return !options_.screenshot.isEmpty(); }
+
+  const CommandLine& options_;
+  QtLanguage qtLanguage_;
+  QtUserDialogs dialogs_;
+};
+
+}  // namespace quorvantis
