@@ -5,6 +5,7 @@
 #include "desktop/LanguageDlg.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtProgress.h"
+#include "desktop/SecondStart.h"
 #include "host/ExamHost.h"
 #include "platform/Texts.h"
 #include "platform/posix/LinuxProcessTable.h"
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <algorithm>
 #include <iostream>
 
 namespace quorvantis {
@@ -23,6 +25,32 @@ constexpr int kUntilPainted = 300;  // milliseconds
 void SaveScreenshot(QWidget& window, const QString& file) {
   QCoreApplication::exit(window.grab().save(file) ? 0 : 1);
 }
+
+/// The main window as a second start meets it.
+class OpenWindow : public FirstStart {
+ public:
+  explicit OpenWindow(CQuorvantisDlg& window) : window_(window) {}
+
+  /// Nothing but the window is open: no dialog, which waits for its answer, and no preview, which shows the
+  /// exam that is open.
+  bool IsFree() const override {
+    const auto isOther = [&](const QWidget* other) {
+      const bool isReal = other->windowType() == Qt::Window || other->windowType() == Qt::Dialog;
+      return other != &window_ && isReal && other->isVisible();
+    };
+    return std::ranges::none_of(QApplication::topLevelWidgets(), isOther);
+  }
+
+  void ComeForward(const std::filesystem::path& exam) override {
+    window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
+    window_.raise();
+    window_.activateWindow();
+    if (!exam.empty()) window_.OpenExam(exam);
+  }
+
+ private:
+  CQuorvantisDlg& window_;
+};
 
 }  // namespace
 
@@ -59,6 +87,8 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   dialogs_.SetParent(&window);
   progress.SetParent(&window);
   window.show();
+  OpenWindow openWindow(window);
+  const SecondStartListener secondStarts(application.ModuleFolder(), openWindow);
   if (TakesPicture()) {  // before opening: a message must not keep it from being taken
     QTimer::singleShot(kUntilPainted, &window, [&] { SaveScreenshot(window, options_.screenshot); });
   }

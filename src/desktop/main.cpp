@@ -2,7 +2,7 @@
 // The desktop program. Read shell/CQuorvantisApp.h next, then CQuorvantisDlg.h.
 #include "desktop/CommandLine.h"
 #include "desktop/DesktopWindows.h"
-#include "desktop/QtText.h"
+#include "desktop/SecondStart.h"
 #include "host/ApplicationFolderClaim.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
@@ -17,6 +17,7 @@
 
 #include <clocale>
 #include <filesystem>
+#include <iostream>
 #include <memory>
 
 namespace {
@@ -25,14 +26,28 @@ using namespace quorvantis;
 
 constexpr int kNoApplicationFolder = 2;
 
+/// The folder cannot be used. Gives the exit code.
+int Refuse(const ApplicationFolderClaim& claim, const CommandLine& options, DesktopWindows& windows) {
+  const bool inUse = claim.WhatIsWrong() == ApplicationFolderClaim::Problem::InUse;
+  const HandOverResult handOver = inUse && options.screenshot.isEmpty()
+                                      ? HandOverStart(claim.Folder(), options.exam)
+                                      : HandOverResult::NoAnswer;
+  if (handOver == HandOverResult::Taken) {
+    std::cerr << "quorvantis: it is open already in " << claim.Folder().string()
+              << "; its window has come forward\n";
+    return 0;
+  }
+  windows.ShowFailure(handOver == HandOverResult::Busy
+                          ? u"Quorvantis is open already and busy; the exam was not opened.\n"
+                          : Utf8ToUtf16(claim.Explanation() + " (--app-folder DIR)\n"));
+  return kNoApplicationFolder;
+}
+
 int Run(const CommandLine& options) {
   DesktopWindows windows(options);
   const bool elsewhere = !options.applicationFolder.empty();
   const ApplicationFolderClaim claim(elsewhere ? options.applicationFolder : FindApplicationFolder());
-  if (claim.WhatIsWrong() != ApplicationFolderClaim::Problem::None) {
-    windows.ShowFailure(Utf8ToUtf16(claim.Explanation() + " (--app-folder DIR)\n"));
-    return kNoApplicationFolder;
-  }
+  if (claim.WhatIsWrong() != ApplicationFolderClaim::Problem::None) return Refuse(claim, options, windows);
   const std::filesystem::path& folder = claim.Folder();
   DynamicLanguageLibraries libraries;
   PosixFiles files;
