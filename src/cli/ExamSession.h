@@ -21,7 +21,7 @@ namespace quorvantis::cli {
 struct CommonOptions {
   std::filesystem::path appFolder;  ///< empty: a private folder
   bool debug = false;
-  std::optional<int> language;  ///< identifier; without one the texts are those of the program itself
+  std::optional<int> language = {};  ///< identifier; without one the texts are those of the program itself
 };
 
 /// One exam document with the world that it lives in while a command runs: an application folder, private and
