@@ -14,14 +14,14 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kMargin = 20;   // pixels
-constexpr int kSpacing = 12;  // pixels
+constexpr int kMargin = 20;  // pixels
 constexpr int kListWidth = 240;
 constexpr QSize kIconSize(64, 64);
+constexpr const char* kVersion = "6.4.5 2";
 
 /// Version of the program and tag of the exam files that it writes, a line each.
 QLabel* MakeVersionText(QWidget* parent) {
-  auto* text = new QLabel("6.4.5 2\n" + ToQString(kCurrentVersion.tag), parent);
+  auto* text = new QLabel(kVersion + ("\n" + ToQString(kCurrentVersion.tag)), parent);
   text->setObjectName("version");
   text->setForegroundRole(QPalette::PlaceholderText);
   return text;
@@ -42,40 +42,52 @@ void MakeCancelButton(const QString& text, QWidget* parent) {
   button->hide();
 }
 
+QLayout* UpperRow(QLabel* icon, const QString& caption, QComboBox* list) {
+  auto* label = new QLabel(caption);
+  label->setBuddy(list);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(kMargin / 3);
+  column->addWidget(label);
+  column->addWidget(list);
+  column->addStretch();
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kMargin);
+  row->addWidget(icon);
+  row->addLayout(column);
+  return row;
+}
+
+QLayout* LowerRow(QLabel* version, QPushButton* ok) {
+  auto* row = new QHBoxLayout;
+  row->addWidget(version);
+  row->addStretch();
+  row->addWidget(ok, 0, Qt::AlignBottom);
+  return row;
+}
+
 }  // namespace
 
 LanguageDlg::LanguageDlg(LanguageChoice& choice, const StringTable& strings) {
   const auto text = [&](int id) { return ToQString(strings.Text(id)); };
   setWindowTitle(text(text_id::kLanguage));
-  auto* label = new QLabel(text(text_id::kSelectLanguage), this);
   QComboBox* list = MakeList(choice);
-  label->setBuddy(list);
-  auto* ok = new QPushButton(text(text_id::kOk), this);
-  ok->setObjectName("ok");
-  ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+  QPushButton* ok = MakeOkButton(text(text_id::kOk));
   MakeCancelButton(text(text_id::kCancel), this);
-
-  auto* choiceColumn = new QVBoxLayout;
-  choiceColumn->setSpacing(kSpacing / 2);
-  choiceColumn->addWidget(label);
-  choiceColumn->addWidget(list);
-  choiceColumn->addStretch();
-  auto* top = new QHBoxLayout;
-  top->setSpacing(kMargin);
-  top->addWidget(MakeIcon(this));
-  top->addLayout(choiceColumn);
-  auto* bottom = new QHBoxLayout;
-  bottom->addWidget(MakeVersionText(this));
-  bottom->addStretch();
-  bottom->addWidget(ok, 0, Qt::AlignBottom);
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   all->setSpacing(kMargin);
-  all->addLayout(top);
-  all->addLayout(bottom);
+  all->addLayout(UpperRow(MakeIcon(this), text(text_id::kSelectLanguage), list));
+  all->addLayout(LowerRow(MakeVersionText(this), ok));
   all->setSizeConstraint(QLayout::SetFixedSize);
   list->setFocus();
+}
+
+QPushButton* LanguageDlg::MakeOkButton(const QString& text) {
+  auto* ok = new QPushButton(text, this);
+  ok->setObjectName("ok");
+  ok->setDefault(true);
+  connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+  return ok;
 }
 
 QComboBox* LanguageDlg::MakeList(LanguageChoice& choice) {

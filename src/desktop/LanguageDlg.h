@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QPushButton>
 
 namespace quorvantis {
 
@@ -23,6 +24,7 @@ class LanguageDlg final : public QDialog {
 
  private:
   QComboBox* MakeList(LanguageChoice& choice);
+  QPushButton* MakeOkButton(const QString& text);
 };
 
 }  // namespace quorvantis

@@ -17,7 +17,8 @@ constexpr char kBusy = '-';
 /// A socket in the user's own folder for such things. Its path must be short, so the folder stands in it as a
 /// hash.
 QString SocketOf(const std::filesystem::path& folder) {
-  const std::string& path = folder.native();
+  std::error_code error;
+  const std::string path = std::filesystem::weakly_canonical(folder, error).native();
   const QByteArray hash = QCryptographicHash::hash(
       QByteArrayView(path.data(), static_cast<qsizetype>(path.size())), QCryptographicHash::Sha256);
   return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/quorvantis-" +

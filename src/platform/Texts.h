@@ -4,7 +4,7 @@
 
 namespace quorvantis::text_id {
 
-constexpr int kAbout = 101;           // "Oxna Quorvantis(&A)..."; no such menu item when empty
+constexpr int kAbout = 101;               // "Oxna Quorvantis(&A)..."; no such menu item when empty
 constexpr int kOpenFileError = 102;       // "Open file %s error!"
 constexpr int kTemporaryFileError = 103;  // "create temporary file error"
 constexpr int kNoWordProcessor = 104;     // "Create dispatch failed.Please first to setup Office2000!"
