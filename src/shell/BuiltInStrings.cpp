@@ -70,7 +70,7 @@ constexpr NumberedText kTexts[] = {
     {text_id::kOralSubject, u"(Oral subject)"},
     {text_id::kOralByTeacher, u"(Oral question,controled by teacher)"},
     {text_id::kAssignedScore, u"Assigned Score"},
-    {text_id::kScoreRanges, u"Score Distribution"},
+    {text_id::kScoreGroup, u"Score Distribution"},
     {text_id::kImportFilter, u"Doc files, (*.doc)|*.doc|"},
     {text_id::kRangeQuestion, u"Question"},
     {text_id::kRangeTo, u"to"},
