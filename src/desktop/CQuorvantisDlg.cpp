@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/CQuorvantisDlg.h"
 
+#include "desktop/AboutDlg.h"
 #include "desktop/Controls.h"
 #include "desktop/DroppedFiles.h"
 #include "desktop/FittedCaption.h"
@@ -21,7 +22,6 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPointer>
 #include <QWindow>
 
@@ -82,6 +82,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, O
                                DocumentExport exportDocument, const LanguageLibrary* library, int languageId)
     : exam_(exam),
       office_(office),
+      library_(library),
       editor_(exam, *this, std::move(exportDocument)),
       languageId_(languageId),
       previews_(SetUpGateway(exam, pages), *this),
@@ -190,9 +191,7 @@ void CQuorvantisDlg::Import() {
 }
 
 void CQuorvantisDlg::ShowAbout() {
-  QMessageBox box(QMessageBox::NoIcon, "Quorvantis", "Quorvantis Verson 6.2", QMessageBox::Ok, this);
-  box.setIconPixmap(windowIcon().pixmap(64));
-  box.exec();
+  AboutDlg(library_, this).exec();
 }
 
 void CQuorvantisDlg::PreviewFinished() {

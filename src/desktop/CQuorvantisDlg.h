@@ -83,6 +83,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
 
   FrameSetExam& exam_;
   OfficeControl* office_;
+  const LanguageLibrary* library_;
   ExamEditor editor_;
   const int languageId_;
   PreviewWindows previews_;
