@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// A set of UTF-16 units: one bit for each of the 65536, so that asking costs the same for every class.
+class CharacterSet {
+ public:
+  CharacterSet() : words_(kWords) {}
+
+  /// Every unit.
+  static CharacterSet All();
+  /// The units of a text.
+  static CharacterSet Of(std::u16string_view units);
+
+  bool Contains(char16_t unit) const { return ((words_[unit / 64U] >> (unit % 64U)) & 1U) != 0; }
+
+  void Add(char16_t unit) { words_[unit / 64U] |= std::uint64_t{1} << (unit % 64U); }
+  void AddRange(char16_t first, char16_t last);
+  void AddAll(const CharacterSet& other);
+  void Remove(char16_t unit) { words_[unit / 64U] &= ~(std::uint64_t{1} << (unit % 64U)); }
+  void Invert();
+
+  /// Adds to every letter the letters that differ from it in case only.
+  void CloseUnderCase();
+
+  /// How many units are in the set.
+  std::size_t Count() const;
+  /// The smallest unit; the set must not be empty.
+  char16_t First() const;
+
+  /// Whether no unit is in both.
+  bool IsDisjoint(const CharacterSet& other) const;
+  bool operator==(const CharacterSet&) const = default;
+
+ private:
+  static constexpr std::size_t kWords = 65536 / 64;
+  std::vector<std::uint64_t> words_;
+};
+
+}  // namespace quorvantis

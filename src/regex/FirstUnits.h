@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "regex/RegexProgram.h"
+
+namespace quorvantis {
+
+/// The third stage of compilation: tells the choices of a program which units can come first on either way,
+/// so that most of them are decided by one look at the text, and where a match can begin at all.
+void FindFirstUnits(RegexProgram& program);
+
+}  // namespace quorvantis

@@ -1,0 +1,534 @@
+// SPDX-License-Identifier: MIT
+#include "regex/RegexMatcher.h"
+
+#include "regex/LetterCase.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr long long kWorkBetweenLooks = 200'000;        // under a millisecond
+constexpr long long kWorkPerUnitBeforeRemembering = 8;  // ordinary matches end before this
+constexpr std::size_t kMostEntries = std::size_t{24} * 1024 * 1024;
+constexpr std::size_t kMostSavedValues = std::size_t{32} * 1024 * 1024;
+
+bool IsWordUnit(char16_t unit) {
+  return (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z') ||
+         unit == u'_';
+}
+
+}  // namespace
+
+RegexMatcher::RegexMatcher(const RegexProgram& program, std::u16string_view text, MatchContext& context)
+    : program_(program), text_(text), context_(context), length_(static_cast<int>(text.size())) {
+  bounds_.resize(2 * static_cast<std::size_t>(program.groups));
+  registers_.resize(static_cast<std::size_t>(program.registers));
+}
+
+MatchResult RegexMatcher::Find(int start) {
+  scanStart_ = start;
+  const int step = program_.backward ? -1 : 1;
+  for (int place = start; place >= 0 && place <= length_; place += step) {
+    place = FindStart(place);
+    if (place < 0 || place > length_) break;
+    if (RunFrom(place)) return MatchResult(bounds_);
+    if (stopped_ != MatchOutcome::NoMatch) break;
+  }
+  return MatchResult(stopped_);
+}
+
+/// The first position from `start` on where a match can begin, by its first unit; outside of the text for
+/// none.
+int RegexMatcher::FindStart(int start) const {
+  const auto at = static_cast<std::size_t>(start);
+  if (!program_.prefix.empty()) {
+    const std::size_t found = text_.find(program_.prefix, at);
+    return found == std::u16string_view::npos ? length_ + 1 : static_cast<int>(found);
+  }
+  if (!program_.first) return start;
+  const CharacterSet& first = *program_.first;
+  if (program_.backward) {
+    while (start > 0 && !first.Contains(text_[static_cast<std::size_t>(start) - 1])) --start;
+    return start > 0 ? start : -1;
+  }
+  while (start < length_ && !first.Contains(text_[static_cast<std::size_t>(start)])) ++start;
+  return start < length_ ? start : length_ + 1;
+}
+
+bool RegexMatcher::RunFrom(int start) {
+  std::ranges::fill(bounds_, -1);
+  stack_.clear();
+  frames_.clear();
+  savedValues_.clear();
+  frame_ = kNowhere;
+  bounds_[0] = start;
+  Thread thread{0, start};
+  for (;;) {
+    if (++work_ > nextLook_ && IsStopped()) return false;
+    if (Step(thread)) {
+      if (thread.place == kNowhere) return true;
+    } else if (!BackTrack(thread)) {
+      return false;
+    }
+  }
+}
+
+/// Looks whether the match has to end without an answer, and turns the memory of failures on when it is time.
+bool RegexMatcher::IsStopped() {
+  if (context_.isCancelled && context_.isCancelled()) stopped_ = MatchOutcome::Cancelled;
+  if (stack_.size() > kMostEntries || savedValues_.size() > kMostSavedValues)
+    stopped_ = MatchOutcome::TooLarge;
+  const long long ordinary = 10'000 + kWorkPerUnitBeforeRemembering * length_;
+  if (!memory_.IsOn() && work_ > ordinary)
+    memory_.TurnOn(program_.memoryRows, static_cast<std::size_t>(length_) + 1);
+  nextLook_ = work_ + kWorkBetweenLooks;
+  if (!memory_.IsOn()) nextLook_ = std::min(nextLook_, ordinary);
+  return stopped_ != MatchOutcome::NoMatch;
+}
+
+/// Runs one instruction; false when it does not match. Place kNowhere tells the end of the program.
+bool RegexMatcher::Step(Thread& thread) {
+  const Instruction& instruction = program_.code[static_cast<std::size_t>(thread.place)];
+  switch (instruction.op) {
+    case Op::Unit:
+    case Op::Set:
+      return TakeUnit(instruction, thread);
+    case Op::Repeat:
+      return Repeat(instruction, thread);
+    case Op::Split:
+      return Split(instruction, thread);
+    case Op::Jump:
+      thread.place = instruction.target;
+      return true;
+    case Op::Assert:
+      ++thread.place;
+      return Holds(instruction.assertion, thread.position);
+    case Op::MarkPosition:
+      SetRegister(instruction.index, thread.position);
+      break;
+    case Op::Capture:
+      Capture(instruction, thread.position);
+      break;
+    case Op::ExitIfEmpty:
+      if (registers_[static_cast<std::size_t>(instruction.index)] != thread.position) break;
+      thread.place = instruction.target;
+      return true;
+    case Op::ResetCounter:
+      SetRegister(instruction.index, 0);
+      break;
+    case Op::CountedLoop:
+      return CountedLoop(instruction, thread);
+    case Op::BackReference:
+      return BackReference(instruction, thread);
+    case Op::Look:
+    case Op::Atomic:
+      RaiseBarrier(instruction, thread);
+      break;
+    case Op::LookEnd:
+      return LookEnd(instruction, thread);
+    case Op::AtomicEnd:
+      DropChoices(registers_[static_cast<std::size_t>(instruction.index)]);
+      break;
+    case Op::Call:
+      return Call(instruction, thread);
+    case Op::Return:
+      return Return(instruction, thread);
+    case Op::IfGroup: {
+      const bool tookPart = bounds_[2 * static_cast<std::size_t>(instruction.index) + 1] >= 0;
+      thread.place = tookPart ? instruction.target : instruction.other;
+      return true;
+    }
+    case Op::Match:
+      bounds_[1] = thread.position;
+      if (program_.backward) std::swap(bounds_[0], bounds_[1]);
+      thread.place = kNowhere;
+      return true;
+  }
+  ++thread.place;
+  return true;
+}
+
+// --- units ---
+
+bool RegexMatcher::TakeUnit(const Instruction& instruction, Thread& thread) const {
+  const int at = instruction.backward ? thread.position - 1 : thread.position;
+  if (at < 0 || at >= length_) return false;
+  const char16_t unit = text_[static_cast<std::size_t>(at)];
+  if (instruction.op == Op::Unit ? unit != instruction.unit : !instruction.set->Contains(unit)) return false;
+  thread.position += instruction.backward ? -1 : 1;
+  ++thread.place;
+  return true;
+}
+
+bool RegexMatcher::CanComeNext(const CharacterSet* units, bool backward, int position) const {
+  if (!units) return true;
+  const int at = backward ? position - 1 : position;
+  return at >= 0 && at < length_ && units->Contains(text_[static_cast<std::size_t>(at)]);
+}
+
+bool RegexMatcher::BackReference(const Instruction& instruction, Thread& thread) const {
+  const int start = bounds_[2 * static_cast<std::size_t>(instruction.index)];
+  const int end = bounds_[2 * static_cast<std::size_t>(instruction.index) + 1];
+  const int size = end - start;
+  const int at = instruction.backward ? thread.position - size : thread.position;
+  if (end < 0 || at < 0 || at > length_ - size) return false;
+  const auto text = [this, size](int from) {
+    return text_.substr(static_cast<std::size_t>(from), static_cast<std::size_t>(size));
+  };
+  const bool same = instruction.ignoreCase ? std::ranges::equal(text(start), text(at), {}, FoldCase, FoldCase)
+                                           : text(start) == text(at);
+  thread.position = instruction.backward ? at : at + size;
+  ++thread.place;
+  return same;
+}
+
+bool RegexMatcher::Holds(AssertionKind kind, int position) const {
+  const auto at = static_cast<std::size_t>(position);
+  const auto isBreakBefore = [&] {  // CR, LF and CR LF as one
+    return position > 0 && (text_[at - 1] == u'\n' ||
+                            (text_[at - 1] == u'\r' && (position == length_ || text_[at] != u'\n')));
+  };
+  const auto isBreakAfter = [&] {
+    return position < length_ &&
+           (text_[at] == u'\r' || (text_[at] == u'\n' && (position == 0 || text_[at - 1] != u'\r')));
+  };
+  const auto isWordBoundary = [&] {
+    const bool before = position > 0 && IsWordUnit(text_[at - 1]);
+    return before != (position < length_ && IsWordUnit(text_[at]));
+  };
+  switch (kind) {
+    case AssertionKind::StartOfText:
+      return position == 0;
+    case AssertionKind::EndOfText:
+      return position == length_;
+    case AssertionKind::EndOfTextOrLastBreak:
+      return position == length_ ||
+             (isBreakAfter() && (position + 1 == length_ || text_.substr(at) == u"\r\n"));
+    case AssertionKind::LineStart:
+      return position == 0 || isBreakBefore();
+    case AssertionKind::LineEnd:
+      return position == length_ || isBreakAfter();
+    case AssertionKind::WordBoundary:
+      return isWordBoundary();
+    case AssertionKind::NoWordBoundary:
+      return !isWordBoundary();
+    case AssertionKind::PreviousEnd:
+      return position == (context_.previousEnd >= 0 ? context_.previousEnd : scanStart_);
+  }
+  return false;
+}
+
+// --- repetitions of one unit ---
+
+bool RegexMatcher::Repeat(const Instruction& instruction, Thread& thread) {
+  if (instruction.min > 0) return RepeatExactly(instruction, thread);
+  const int start = thread.position;
+  if (IsRemembered(instruction) && memory_.HasFailed(Row(instruction, start), start)) return false;
+  if (instruction.mode == RepeatMode::Lazy) return RepeatMore(instruction, thread, start, start);
+  const int end = Extent(instruction, start);
+  if (instruction.mode == RepeatMode::Possessive) return EndRepeat(instruction, thread, start, end);
+  return RepeatFewer(instruction, thread, end, start);
+}
+
+bool RegexMatcher::RepeatExactly(const Instruction& instruction, Thread& thread) {
+  const int step = instruction.backward ? -1 : 1;
+  const int start = thread.position;
+  const int end = start + step * instruction.min;
+  if (end < 0 || end > length_) return false;
+  for (int at = start; at != end; at += step) {
+    if (!CanComeNext(instruction.set, instruction.backward, at)) return false;
+  }
+  return EndRepeat(instruction, thread, start, end);
+}
+
+/// How far the units of a Repeat go from `position`: to the last one that can be taken, or to a position that
+/// is known to fail, and with it all behind it.
+int RegexMatcher::Extent(const Instruction& instruction, int position) {
+  const int step = instruction.backward ? -1 : 1;
+  const bool stops = IsRemembered(instruction) && instruction.max == kUnlimited;
+  int count = 0;
+  int end = position;
+  while ((instruction.max == kUnlimited || count < instruction.max) &&
+         CanComeNext(instruction.set, instruction.backward, end)) {
+    if (stops && memory_.HasFailed(instruction.memory, end + step)) break;
+    end += step;
+    ++count;
+  }
+  work_ += count;
+  return end;
+}
+
+/// Goes on with the units from `low` to `to`; the group of a Repeat gets the last one.
+bool RegexMatcher::EndRepeat(const Instruction& instruction, Thread& thread, int low, int to) {
+  thread.position = to;
+  ++thread.place;
+  if (instruction.index == kNowhere || low == to) return true;
+  SetBound(2 * instruction.index, instruction.backward ? to : to - 1);
+  SetBound(2 * instruction.index + 1, instruction.backward ? to + 1 : to);
+  return true;
+}
+
+/// Greedy: tries the positions from `from` back to `low`.
+bool RegexMatcher::RepeatFewer(const Instruction& instruction, Thread& thread, int from, int low) {
+  const int step = instruction.backward ? -1 : 1;
+  int to = from;
+  while (to != low && !CanComeNext(instruction.first, instruction.backward, to)) to -= step;
+  const bool found = to != low || CanComeNext(instruction.first, instruction.backward, to);
+  work_ += (from - to) * step;
+  RememberRange(instruction, low, from, found ? to : low - step);
+  if (!found) return false;
+  if (to != low || IsRemembered(instruction)) Push({EntryKind::FewerUnits, thread.place, low, to});
+  return EndRepeat(instruction, thread, low, to);
+}
+
+/// Lazy: tries the positions from `from` on; those before it have failed.
+bool RegexMatcher::RepeatMore(const Instruction& instruction, Thread& thread, int from, int low) {
+  const int step = instruction.backward ? -1 : 1;
+  const bool stops = IsRemembered(instruction) && instruction.max == kUnlimited;
+  int to = from;
+  for (;; to += step, ++work_) {
+    if (stops && to != low && memory_.HasFailed(instruction.memory, to)) break;
+    if (CanComeNext(instruction.first, instruction.backward, to)) {
+      Push({EntryKind::MoreUnits, thread.place, low, to});
+      return EndRepeat(instruction, thread, low, to);
+    }
+    if (!CanTakeMore(instruction, low, to)) break;
+  }
+  RememberRange(instruction, low, to, low - step);
+  return false;
+}
+
+bool RegexMatcher::CanTakeMore(const Instruction& instruction, int low, int position) const {
+  const int count = instruction.backward ? low - position : position - low;
+  return (instruction.max == kUnlimited || count < instruction.max) &&
+         CanComeNext(instruction.set, instruction.backward, position);
+}
+
+bool RegexMatcher::ResumeFewer(const Entry& entry, Thread& thread) {
+  const Instruction& repeat = program_.code[static_cast<std::size_t>(entry.a)];
+  const int next = entry.c - (repeat.backward ? -1 : 1);
+  RememberRange(repeat, entry.b, entry.c, next);
+  thread.place = entry.a;
+  return entry.c != entry.b && RepeatFewer(repeat, thread, next, entry.b);
+}
+
+bool RegexMatcher::ResumeMore(const Entry& entry, Thread& thread) {
+  const Instruction& repeat = program_.code[static_cast<std::size_t>(entry.a)];
+  const int step = repeat.backward ? -1 : 1;
+  thread.place = entry.a;
+  if (CanTakeMore(repeat, entry.b, entry.c)) return RepeatMore(repeat, thread, entry.c + step, entry.b);
+  RememberRange(repeat, entry.b, entry.c, entry.b - step);
+  return false;
+}
+
+/// Remembers that a Repeat that began at `low` has failed at the positions from `from` back to before `to`.
+/// Where the number of units is limited, the others depend on how many came before them.
+void RegexMatcher::RememberRange(const Instruction& instruction, int low, int from, int to) {
+  if (!IsRemembered(instruction)) return;
+  const int step = instruction.backward ? -1 : 1;
+  for (int at = from; at != to; at -= step) {
+    if (at == low) {
+      memory_.Remember(Row(instruction, low), low);
+    } else if (instruction.max == kUnlimited) {
+      memory_.Remember(instruction.memory, at);
+    }
+  }
+}
+
+// --- choices ---
+
+/// The row of a choice at `position`: another one for every set of loops around whose iteration has taken
+/// nothing yet, since those must not go round again.
+int RegexMatcher::Row(const Instruction& instruction, int position) const {
+  int row = 0;
+  for (int i = 0; i < instruction.markCount; ++i) {
+    const int mark = program_.marks[static_cast<std::size_t>(instruction.firstMark + i)];
+    if (registers_[static_cast<std::size_t>(mark)] == position) row += 1 << i;
+  }
+  return instruction.memory + row;
+}
+
+/// A look at the next unit decides most choices. A loop is remembered even then, or a text without an end for
+/// it would be gone through again from every start.
+bool RegexMatcher::Split(const Instruction& instruction, Thread& thread) {
+  const bool canGo = CanComeNext(instruction.first, instruction.backward, thread.position);
+  const bool isChoice = canGo && CanComeNext(instruction.otherFirst, instruction.backward, thread.position);
+  if (IsRemembered(instruction) && (isChoice || instruction.isLoop)) {
+    const int row = Row(instruction, thread.position);
+    if (memory_.HasFailed(row, thread.position)) return false;
+    Push({EntryKind::Failure, row, thread.position, 0});
+  }
+  if (isChoice) Push({EntryKind::Alternative, instruction.other, thread.position, 0});
+  thread.place = canGo ? instruction.target : instruction.other;
+  return true;
+}
+
+bool RegexMatcher::CountedLoop(const Instruction& instruction, Thread& thread) {
+  const int count = registers_[static_cast<std::size_t>(instruction.index)];
+  const bool mayLeave = count >= instruction.min;
+  const bool mayGoOn = instruction.max == kUnlimited || count < instruction.max;
+  const bool leavesFirst = mayLeave && (instruction.mode == RepeatMode::Lazy || !mayGoOn);
+  if (mayLeave && mayGoOn) {
+    const Entry later = leavesFirst ? Entry{EntryKind::NextIteration, thread.place, thread.position, 0}
+                                    : Entry{EntryKind::Alternative, instruction.target, thread.position, 0};
+    Push(later);
+  }
+  if (leavesFirst) {
+    thread.place = instruction.target;
+    return true;
+  }
+  if (mayGoOn) SetRegister(instruction.index, count + 1);
+  ++thread.place;
+  return mayGoOn;
+}
+
+/// Goes back to the last choice that is left; false when there is none.
+bool RegexMatcher::BackTrack(Thread& thread) {
+  while (!stack_.empty()) {
+    const Entry entry = stack_.back();
+    stack_.pop_back();
+    if (Resume(entry, thread)) return true;
+  }
+  return false;
+}
+
+/// Deals with an entry that was taken from the stack; true when the program goes on there.
+bool RegexMatcher::Resume(const Entry& entry, Thread& thread) {
+  switch (entry.kind) {
+    case EntryKind::Alternative:
+      thread = {entry.a, entry.b};
+      return true;
+    case EntryKind::FewerUnits:
+      return ResumeFewer(entry, thread);
+    case EntryKind::MoreUnits:
+      return ResumeMore(entry, thread);
+    case EntryKind::NextIteration: {
+      const int counter = program_.code[static_cast<std::size_t>(entry.a)].index;
+      SetRegister(counter, registers_[static_cast<std::size_t>(counter)] + 1);
+      thread = {entry.a + 1, entry.b};
+      return true;
+    }
+    case EntryKind::Barrier: {
+      const int otherwise = program_.code[static_cast<std::size_t>(entry.a)].other;
+      thread = {otherwise, entry.b};
+      return otherwise != kNowhere;
+    }
+    case EntryKind::Failure:
+      memory_.Remember(entry.a, entry.b);
+      return false;
+    case EntryKind::RestoreBound:
+    case EntryKind::RestoreRegister:
+    case EntryKind::RestoreFrame:
+      Restore(entry);
+      return false;
+  }
+  return false;
+}
+
+void RegexMatcher::Push(const Entry& entry) {
+  stack_.push_back(entry);
+}
+
+void RegexMatcher::Restore(const Entry& entry) {
+  if (entry.kind == EntryKind::RestoreBound) bounds_[static_cast<std::size_t>(entry.a)] = entry.b;
+  if (entry.kind == EntryKind::RestoreRegister) registers_[static_cast<std::size_t>(entry.a)] = entry.b;
+  if (entry.kind != EntryKind::RestoreFrame) return;
+  frame_ = entry.a;
+  if (static_cast<std::size_t>(entry.b) < frames_.size()) {
+    savedValues_.resize(frames_[static_cast<std::size_t>(entry.b)].saved);
+    frames_.resize(static_cast<std::size_t>(entry.b));
+  }
+}
+
+/// Changes that no choice lies below need no way back.
+void RegexMatcher::SetBound(int index, int value) {
+  int& bound = bounds_[static_cast<std::size_t>(index)];
+  if (!stack_.empty() && bound != value) Push({EntryKind::RestoreBound, index, bound, 0});
+  bound = value;
+}
+
+void RegexMatcher::SetRegister(int index, int value) {
+  int& current = registers_[static_cast<std::size_t>(index)];
+  if (!stack_.empty() && current != value) Push({EntryKind::RestoreRegister, index, current, 0});
+  current = value;
+}
+
+void RegexMatcher::Capture(const Instruction& instruction, int position) {
+  const int begin = registers_[static_cast<std::size_t>(instruction.other)];
+  SetBound(2 * instruction.index, std::min(begin, position));
+  SetBound(2 * instruction.index + 1, std::max(begin, position));
+}
+
+// --- bodies that are tried apart ---
+
+void RegexMatcher::RaiseBarrier(const Instruction& instruction, const Thread& thread) {
+  // The register must be set below the barrier, or dropping the choices would lose where it stands.
+  Push({EntryKind::RestoreRegister, instruction.index,
+        registers_[static_cast<std::size_t>(instruction.index)], 0});
+  registers_[static_cast<std::size_t>(instruction.index)] = static_cast<int>(stack_.size());
+  Push({EntryKind::Barrier, thread.place, thread.position, 0});
+}
+
+/// Removes the barrier and the choices above it, and keeps what has to be set back.
+void RegexMatcher::DropChoices(int barrier) {
+  const auto isChoice = [](const Entry& entry) {
+    return entry.kind != EntryKind::RestoreBound && entry.kind != EntryKind::RestoreRegister &&
+           entry.kind != EntryKind::RestoreFrame;
+  };
+  stack_.erase(std::remove_if(stack_.begin() + barrier, stack_.end(), isChoice), stack_.end());
+}
+
+/// Sets everything back to what it was when the stack had `size` entries, without trying what is left there.
+void RegexMatcher::UnwindTo(int size) {
+  while (stack_.size() > static_cast<std::size_t>(size)) {
+    const Entry entry = stack_.back();
+    stack_.pop_back();
+    Restore(entry);
+  }
+}
+
+bool RegexMatcher::LookEnd(const Instruction& instruction, Thread& thread) {
+  const int barrier = registers_[static_cast<std::size_t>(instruction.index)];
+  thread = {instruction.target, stack_[static_cast<std::size_t>(barrier)].b};
+  if (instruction.target == kNowhere) {
+    UnwindTo(barrier);
+    return false;
+  }
+  DropChoices(barrier);
+  return true;
+}
+
+// --- recursion ---
+
+/// A group that calls itself at the same position would do so for ever, so that way fails.
+bool RegexMatcher::Call(const Instruction& instruction, Thread& thread) {
+  for (int index = frame_; index != kNowhere; index = frames_[static_cast<std::size_t>(index)].caller) {
+    const Frame& frame = frames_[static_cast<std::size_t>(index)];
+    if (frame.position != thread.position) break;
+    if (frame.group == instruction.index) return false;
+  }
+  Push({EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()), 0});
+  frames_.push_back({instruction.index, thread.place + 1, thread.position, frame_, savedValues_.size()});
+  savedValues_.insert(savedValues_.end(), bounds_.begin(), bounds_.end());
+  savedValues_.insert(savedValues_.end(), registers_.begin(), registers_.end());
+  frame_ = static_cast<int>(frames_.size()) - 1;
+  thread.place = instruction.target;
+  return true;
+}
+
+/// What groups matched during a call is forgotten when it comes back.
+bool RegexMatcher::Return(const Instruction& instruction, Thread& thread) {
+  ++thread.place;
+  if (frame_ == kNowhere || frames_[static_cast<std::size_t>(frame_)].group != instruction.index) return true;
+  const Frame frame = frames_[static_cast<std::size_t>(frame_)];
+  Push({EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()), 0});
+  const int* saved = savedValues_.data() + frame.saved;
+  for (int i = 0; i < static_cast<int>(bounds_.size()); ++i) SetBound(i, *saved++);
+  for (int i = 0; i < static_cast<int>(registers_.size()); ++i) SetRegister(i, *saved++);
+  frame_ = frame.caller;
+  thread.place = frame.returnPlace;
+  return true;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+// What a compiled pattern is made of. RegexCompiler.h makes programs, RegexMatcher.h runs them.
+#pragma once
+
+#include "regex/CharacterSet.h"
+#include "regex/SyntaxTree.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+constexpr int kNowhere = -1;
+
+enum class Op : std::uint8_t {
+  Unit,           ///< takes one unit, `unit`
+  Set,            ///< takes one unit of `set`
+  Repeat,         ///< takes `min` to `max` units of `set`; group `index`, if not kNowhere, gets the last one
+  Split,          ///< goes on at `target`, and at `other` when that fails
+  Jump,           ///< goes on at `target`
+  Assert,         ///< goes on where `assertion` holds
+  MarkPosition,   ///< stores the position in register `index`
+  Capture,        ///< group `index` has matched from the position in register `other` to here
+  ExitIfEmpty,    ///< goes on at `target` when the position is that in register `index`
+  ResetCounter,   ///< register `index` becomes 0
+  CountedLoop,    ///< counts in register `index` and enters the body below; leaves to `target` from `min` on
+  BackReference,  ///< takes what group `index` matched
+  Look,       ///< tries the body below, to its LookEnd at `target`; goes on at `other` when the body fails
+  LookEnd,    ///< the body of the Look with register `index` matched: goes on at `target` from before it
+  Atomic,     ///< begins a body whose choices are dropped at its end
+  AtomicEnd,  ///< ends the body of the Atomic with register `index`
+  Call,       ///< runs the code of group `index` at `target` and comes back
+  Return,     ///< comes back if the code of group `index` was called
+  IfGroup,    ///< goes on at `target` if group `index` took part, at `other` if not
+  Match,      ///< the pattern has matched
+};
+
+/// One step of a program. Which fields count depends on `op`.
+struct Instruction {
+  Op op = Op::Match;
+  bool backward = false;    ///< units are taken from before the position
+  bool ignoreCase = false;  ///< of a BackReference
+  bool isLoop = false;      ///< of a Split that goes back
+  RepeatMode mode = RepeatMode::Greedy;
+  AssertionKind assertion = AssertionKind::StartOfText;
+  char16_t unit = 0;
+  int target = kNowhere;
+  int other = kNowhere;
+  int index = kNowhere;
+  int min = 0;
+  int max = 0;
+  /// The first of this instruction's rows in the memory of failures, which depend on the marks of the loops
+  /// around, a range of RegexProgram::marks; kNowhere where failures may not be kept.
+  int memory = kNowhere;
+  int firstMark = 0;
+  int markCount = 0;
+  const CharacterSet* set = nullptr;
+  /// The units that can come first at `target` and `other` of a Split, or below a Repeat (`first` alone);
+  /// null where any can, or none needs to.
+  const CharacterSet* first = nullptr;
+  const CharacterSet* otherFirst = nullptr;
+};
+
+/// A compiled pattern.
+struct RegexProgram {
+  std::vector<Instruction> code;
+  std::vector<std::shared_ptr<const CharacterSet>> sets;  ///< what the instructions point to
+  std::vector<int> marks;  ///< registers with the positions where iterations began that may be empty
+  int groups = 1;          ///< the whole match is group 0
+  int registers = 0;
+  int memoryRows = 0;
+  bool backward = false;                ///< right-to-left
+  const CharacterSet* first = nullptr;  ///< the units that a match can begin with; null for any, or none
+  std::u16string prefix;                ///< what every match begins with; empty for backward programs
+};
+
+}  // namespace quorvantis
