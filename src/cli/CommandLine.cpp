@@ -26,6 +26,7 @@ struct Arguments {
   bool afterPreview = false;
   std::optional<std::string> student;
   std::optional<std::filesystem::path> responses;
+  MatchRequest match;
 };
 
 /// The options of every command; they may stand before the command, too.
@@ -125,6 +126,29 @@ void AddLanguages(CLI::App& app, Arguments& arguments, Console& console) {
   languages->callback([&] { ListLanguages(console, arguments.common); });
 }
 
+void AddMatch(CLI::App& app, Arguments& arguments, Console& console) {
+  CLI::App* match = AddCommand(app, arguments, "match", "Try a pattern of import rules on a text");
+  const auto add = [match](const char* name, auto& target, const char* description, const char* type) {
+    return match->add_option(name, target, description)->type_name(type);
+  };
+  MatchRequest& request = arguments.match;
+  add("PATTERN", request.pattern, "Pattern to try", "");
+  add("--flags", request.flags,
+      "Sum of 1 single-line, 2 multi-line, 4 global, 8 ignore case,\n16 right-to-left, 32 extended; 3 "
+      "without it",
+      "N");
+  add("--start", request.start, "Where the scan begins, in UTF-16 units", "N");
+  CLI::Option* text = add("--text", request.text, "Text to search", "TEXT");
+  CLI::Option* file =
+      add("--text-file", request.textFile, "File with the text; standard input without it", "FILE");
+  CLI::Option* batch = add("--batch", request.batch,
+                           "File with a {\"pattern\": …, \"flags\": …, \"text\": …} on each line", "FILE");
+  text->excludes(file)->excludes(batch);
+  file->excludes(batch);
+  match->footer("Prints where the groups matched, in UTF-16 units, as one JSON object.");
+  match->callback([&] { Match(console, request); });
+}
+
 /// Names a command that does not exist, which CLI11 would report as a missing one.
 bool IsUnknownCommand(const CLI::App& app, int argumentCount, const char* const* arguments) {
   const std::string first = argumentCount > 1 ? arguments[1] : "-";
@@ -164,6 +188,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddPrint(app, arguments, console);
   AddEdit(app, arguments, console);
   AddLanguages(app, arguments, console);
+  AddMatch(app, arguments, console);
   if (IsUnknownCommand(app, argumentCount, argumentValues)) {
     console.Complain("unknown command \"" + std::string(argumentValues[1]) + "\"; see quorvantis-cli --help");
     return kWrongUsage;

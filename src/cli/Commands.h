@@ -41,5 +41,17 @@ void Edit(Console& console, const CommonOptions& options, const std::optional<st
 
 /// Lists the language libraries that there are.
 void ListLanguages(Console& console, const CommonOptions& options);
+/// What `match` is asked for. The text is one of the three, or comes from the console.
+struct MatchRequest {
+  std::optional<std::string> pattern;
+  int flags = 3;
+  int start = -1;
+  std::optional<std::string> text;
+  std::filesystem::path textFile;
+  std::filesystem::path batch;  ///< a JSON object with a pattern and a text on each line
+};
+
+/// Tries patterns, and prints one JSON object for each.
+void Match(Console& console, const MatchRequest& request);
 
 }  // namespace quorvantis::cli

@@ -2,7 +2,7 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
-#include "cli/WhyUnreadable.h"
+#include "cli/InputFile.h"
 #include "examfile/ExamFileLayout.h"
 
 #include <fstream>
@@ -33,12 +33,7 @@ void RunScript(EditSession& session, std::istream& script, const std::string& na
 void Edit(Console& console, const CommonOptions& options,
           const std::optional<std::filesystem::path>& script) {
   std::ifstream file;
-  if (script) {
-    std::error_code error;
-    if (!std::filesystem::is_directory(*script, error)) file.open(*script, std::ios::binary);
-    if (!file.is_open())
-      throw CommandError(script->string() + ": cannot be opened. " + WhyUnreadable(*script));
-  }
+  if (script) file = OpenInput(*script);
   EditSession session(console, options);
   RunScript(session, script ? file : console.in, script ? script->string() : "standard input");
 }

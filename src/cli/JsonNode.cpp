@@ -3,7 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "cli/ExamSession.h"
-#include "cli/WhyUnreadable.h"
+#include "cli/InputFile.h"
 #include "examfile/ExamFileFields.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
@@ -67,10 +67,7 @@ void TakeText(const JsonNode& node, const char* member, std::u16string& text) {
 }
 
 nlohmann::json ParseJsonFile(const std::filesystem::path& file) {
-  std::error_code error;
-  std::ifstream in;
-  if (std::filesystem::is_regular_file(file, error)) in.open(file, std::ios::binary);
-  if (!in.is_open()) throw CommandError(file.string() + ": cannot be opened. " + WhyUnreadable(file));
+  std::ifstream in = OpenInput(file);
   try {
     return nlohmann::json::parse(in);
   } catch (const nlohmann::json::exception& problem) {

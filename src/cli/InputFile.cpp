@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "cli/InputFile.h"
+
+#include "cli/CommandError.h"
+#include "cli/WhyUnreadable.h"
+
+#include <sstream>
+
+namespace quorvantis::cli {
+
+std::ifstream OpenInput(const std::filesystem::path& file) {
+  std::error_code error;
+  std::ifstream in;
+  if (!std::filesystem::is_directory(file, error)) in.open(file, std::ios::binary);
+  if (!in.is_open()) throw CommandError(file.string() + ": cannot be opened. " + WhyUnreadable(file));
+  return in;
+}
+
+std::string ReadInput(const std::filesystem::path& file) {
+  std::ifstream in = OpenInput(file);
+  std::ostringstream content;
+  content << in.rdbuf();
+  if (in.bad()) throw CommandError(file.string() + ": cannot be read");
+  return content.str();
+}
+
+}  // namespace quorvantis::cli
