@@ -57,21 +57,37 @@ int RegexMatcher::FindStart(int start) const {
 }
 
 bool RegexMatcher::RunFrom(int start) {
+  Thread thread{0, start};
+  if (!TakeUnits(thread)) return false;  // most starts end here
   std::ranges::fill(bounds_, -1);
   stack_.clear();
   frames_.clear();
   savedValues_.clear();
   frame_ = kNowhere;
   bounds_[0] = start;
-  Thread thread{0, start};
   for (;;) {
     if (++work_ > nextLook_ && IsStopped()) return false;
-    if (Step(thread)) {
+    if (Step(thread) && TakeUnits(thread)) {
       if (thread.place == kNowhere) return true;
     } else if (!BackTrack(thread)) {
       return false;
     }
   }
+}
+
+/// Runs the instructions up to the next one that does more than take a unit.
+bool RegexMatcher::TakeUnits(Thread& thread) const {
+  if (thread.place == kNowhere) return true;
+  for (const Instruction* next = &program_.code[static_cast<std::size_t>(thread.place)];; ++next) {
+    if (next->op != Op::Unit && next->op != Op::Set) break;
+    const int at = next->backward ? thread.position - 1 : thread.position;
+    if (at < 0 || at >= length_) return false;
+    const char16_t unit = text_[static_cast<std::size_t>(at)];
+    if (next->op == Op::Unit ? unit != next->unit : !next->set->Contains(unit)) return false;
+    thread.position += next->backward ? -1 : 1;
+    ++thread.place;
+  }
+  return true;
 }
 
 /// Looks whether the match has to end without an answer, and turns the memory of failures on when it is time.
@@ -93,7 +109,7 @@ bool RegexMatcher::Step(Thread& thread) {
   switch (instruction.op) {
     case Op::Unit:
     case Op::Set:
-      return TakeUnit(instruction, thread);
+      return TakeUnits(thread);
     case Op::Repeat:
       return Repeat(instruction, thread);
     case Op::Split:
@@ -150,16 +166,6 @@ bool RegexMatcher::Step(Thread& thread) {
 }
 
 // --- units ---
-
-bool RegexMatcher::TakeUnit(const Instruction& instruction, Thread& thread) const {
-  const int at = instruction.backward ? thread.position - 1 : thread.position;
-  if (at < 0 || at >= length_) return false;
-  const char16_t unit = text_[static_cast<std::size_t>(at)];
-  if (instruction.op == Op::Unit ? unit != instruction.unit : !instruction.set->Contains(unit)) return false;
-  thread.position += instruction.backward ? -1 : 1;
-  ++thread.place;
-  return true;
-}
 
 bool RegexMatcher::CanComeNext(const CharacterSet* units, bool backward, int position) const {
   if (!units) return true;
@@ -288,6 +294,7 @@ bool RegexMatcher::RepeatMore(const Instruction& instruction, Thread& thread, in
   const bool stops = IsRemembered(instruction) && instruction.max == kUnlimited;
   int to = from;
   for (;; to += step, ++work_) {
+    if (!stops && instruction.max == kUnlimited) to = SkipTo(instruction, to);
     if (stops && to != low && memory_.HasFailed(instruction.memory, to)) break;
     if (CanComeNext(instruction.first, instruction.backward, to)) {
       Push({EntryKind::MoreUnits, thread.place, low, to});
@@ -297,6 +304,18 @@ bool RegexMatcher::RepeatMore(const Instruction& instruction, Thread& thread, in
   }
   RememberRange(instruction, low, to, low - step);
   return false;
+}
+
+/// The first position from `position` on at which a lazy Repeat can end, or has to.
+int RegexMatcher::SkipTo(const Instruction& instruction, int position) {
+  if (!instruction.first || instruction.backward) return position;
+  const int start = position;
+  for (; position < length_; ++position) {
+    const char16_t unit = text_[static_cast<std::size_t>(position)];
+    if (instruction.first->Contains(unit) || !instruction.set->Contains(unit)) break;
+  }
+  work_ += position - start;
+  return position;
 }
 
 bool RegexMatcher::CanTakeMore(const Instruction& instruction, int low, int position) const {

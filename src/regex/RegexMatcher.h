@@ -66,11 +66,12 @@ class RegexMatcher {
   bool Resume(const Entry& entry, Thread& thread);
   bool IsStopped();
 
-  bool TakeUnit(const Instruction& instruction, Thread& thread) const;
+  bool TakeUnits(Thread& thread) const;
   bool Repeat(const Instruction& instruction, Thread& thread);
   bool RepeatExactly(const Instruction& instruction, Thread& thread);
   bool RepeatFewer(const Instruction& instruction, Thread& thread, int from, int low);
   bool RepeatMore(const Instruction& instruction, Thread& thread, int from, int low);
+  int SkipTo(const Instruction& instruction, int position);
   bool CanTakeMore(const Instruction& instruction, int low, int position) const;
   bool ResumeFewer(const Entry& entry, Thread& thread);
   bool ResumeMore(const Entry& entry, Thread& thread);
