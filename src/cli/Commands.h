@@ -41,6 +41,7 @@ void Edit(Console& console, const CommonOptions& options, const std::optional<st
 
 /// Lists the language libraries that there are.
 void ListLanguages(Console& console, const CommonOptions& options);
+
 /// What `match` is asked for. The text is one of the three, or comes from the console.
 struct MatchRequest {
   std::optional<std::string> pattern;

@@ -19,8 +19,8 @@ using Json = nlohmann::ordered_json;
 
 std::string Lower(std::u16string_view name) {
   std::string lower = Utf16ToUtf8(name);
-  for (char& c : lower) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
+  for (char& unit : lower) {
+    if (unit >= 'A' && unit <= 'Z') unit = static_cast<char>(unit - 'A' + 'a');
   }
   return lower;
 }

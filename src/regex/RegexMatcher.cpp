@@ -225,145 +225,15 @@ bool RegexMatcher::Holds(AssertionKind kind, int position) const {
   return false;
 }
 
-// --- repetitions of one unit ---
-
-bool RegexMatcher::Repeat(const Instruction& instruction, Thread& thread) {
-  if (instruction.min > 0) return RepeatExactly(instruction, thread);
-  const int start = thread.position;
-  if (IsRemembered(instruction) && memory_.HasFailed(Row(instruction, start), start)) return false;
-  if (instruction.mode == RepeatMode::Lazy) return RepeatMore(instruction, thread, start, start);
-  const int end = Extent(instruction, start);
-  if (instruction.mode == RepeatMode::Possessive) return EndRepeat(instruction, thread, start, end);
-  return RepeatFewer(instruction, thread, end, start);
-}
-
-bool RegexMatcher::RepeatExactly(const Instruction& instruction, Thread& thread) {
-  const int step = instruction.backward ? -1 : 1;
-  const int start = thread.position;
-  const int end = start + step * instruction.min;
-  if (end < 0 || end > length_) return false;
-  for (int at = start; at != end; at += step) {
-    if (!CanComeNext(instruction.set, instruction.backward, at)) return false;
-  }
-  return EndRepeat(instruction, thread, start, end);
-}
-
-/// How far the units of a Repeat go from `position`: to the last one that can be taken, or to a position that
-/// is known to fail, and with it all behind it.
-int RegexMatcher::Extent(const Instruction& instruction, int position) {
-  const int step = instruction.backward ? -1 : 1;
-  const bool stops = IsRemembered(instruction) && instruction.max == kUnlimited;
-  int count = 0;
-  int end = position;
-  while ((instruction.max == kUnlimited || count < instruction.max) &&
-         CanComeNext(instruction.set, instruction.backward, end)) {
-    if (stops && memory_.HasFailed(instruction.memory, end + step)) break;
-    end += step;
-    ++count;
-  }
-  work_ += count;
-  return end;
-}
-
-/// Goes on with the units from `low` to `to`; the group of a Repeat gets the last one.
-bool RegexMatcher::EndRepeat(const Instruction& instruction, Thread& thread, int low, int to) {
-  thread.position = to;
-  ++thread.place;
-  if (instruction.index == kNowhere || low == to) return true;
-  SetBound(2 * instruction.index, instruction.backward ? to : to - 1);
-  SetBound(2 * instruction.index + 1, instruction.backward ? to + 1 : to);
-  return true;
-}
-
-/// Greedy: tries the positions from `from` back to `low`.
-bool RegexMatcher::RepeatFewer(const Instruction& instruction, Thread& thread, int from, int low) {
-  const int step = instruction.backward ? -1 : 1;
-  int to = from;
-  while (to != low && !CanComeNext(instruction.first, instruction.backward, to)) to -= step;
-  const bool found = to != low || CanComeNext(instruction.first, instruction.backward, to);
-  work_ += (from - to) * step;
-  RememberRange(instruction, low, from, found ? to : low - step);
-  if (!found) return false;
-  if (to != low || IsRemembered(instruction)) Push({EntryKind::FewerUnits, thread.place, low, to});
-  return EndRepeat(instruction, thread, low, to);
-}
-
-/// Lazy: tries the positions from `from` on; those before it have failed.
-bool RegexMatcher::RepeatMore(const Instruction& instruction, Thread& thread, int from, int low) {
-  const int step = instruction.backward ? -1 : 1;
-  const bool stops = IsRemembered(instruction) && instruction.max == kUnlimited;
-  int to = from;
-  for (;; to += step, ++work_) {
-    if (!stops && instruction.max == kUnlimited) to = SkipTo(instruction, to);
-    if (stops && to != low && memory_.HasFailed(instruction.memory, to)) break;
-    if (CanComeNext(instruction.first, instruction.backward, to)) {
-      Push({EntryKind::MoreUnits, thread.place, low, to});
-      return EndRepeat(instruction, thread, low, to);
-    }
-    if (!CanTakeMore(instruction, low, to)) break;
-  }
-  RememberRange(instruction, low, to, low - step);
-  return false;
-}
-
-/// The first position from `position` on at which a lazy Repeat can end, or has to.
-int RegexMatcher::SkipTo(const Instruction& instruction, int position) {
-  if (!instruction.first || instruction.backward) return position;
-  const int start = position;
-  for (; position < length_; ++position) {
-    const char16_t unit = text_[static_cast<std::size_t>(position)];
-    if (instruction.first->Contains(unit) || !instruction.set->Contains(unit)) break;
-  }
-  work_ += position - start;
-  return position;
-}
-
-bool RegexMatcher::CanTakeMore(const Instruction& instruction, int low, int position) const {
-  const int count = instruction.backward ? low - position : position - low;
-  return (instruction.max == kUnlimited || count < instruction.max) &&
-         CanComeNext(instruction.set, instruction.backward, position);
-}
-
-bool RegexMatcher::ResumeFewer(const Entry& entry, Thread& thread) {
-  const Instruction& repeat = program_.code[static_cast<std::size_t>(entry.a)];
-  const int next = entry.c - (repeat.backward ? -1 : 1);
-  RememberRange(repeat, entry.b, entry.c, next);
-  thread.place = entry.a;
-  return entry.c != entry.b && RepeatFewer(repeat, thread, next, entry.b);
-}
-
-bool RegexMatcher::ResumeMore(const Entry& entry, Thread& thread) {
-  const Instruction& repeat = program_.code[static_cast<std::size_t>(entry.a)];
-  const int step = repeat.backward ? -1 : 1;
-  thread.place = entry.a;
-  if (CanTakeMore(repeat, entry.b, entry.c)) return RepeatMore(repeat, thread, entry.c + step, entry.b);
-  RememberRange(repeat, entry.b, entry.c, entry.b - step);
-  return false;
-}
-
-/// Remembers that a Repeat that began at `low` has failed at the positions from `from` back to before `to`.
-/// Where the number of units is limited, the others depend on how many came before them.
-void RegexMatcher::RememberRange(const Instruction& instruction, int low, int from, int to) {
-  if (!IsRemembered(instruction)) return;
-  const int step = instruction.backward ? -1 : 1;
-  for (int at = from; at != to; at -= step) {
-    if (at == low) {
-      memory_.Remember(Row(instruction, low), low);
-    } else if (instruction.max == kUnlimited) {
-      memory_.Remember(instruction.memory, at);
-    }
-  }
-}
-
 // --- choices ---
 
 /// The row of a choice at `position`: another one for every set of loops around whose iteration has taken
 /// nothing yet, since those must not go round again.
 int RegexMatcher::Row(const Instruction& instruction, int position) const {
   int row = 0;
-  for (int i = 0; i < instruction.markCount; ++i) {
-    const int mark = program_.marks[static_cast<std::size_t>(instruction.firstMark + i)];
-    if (registers_[static_cast<std::size_t>(mark)] == position) row += 1 << i;
+  const int* mark = program_.marks.data() + instruction.firstMark;
+  for (int i = 0; i < instruction.markCount; ++i, ++mark) {
+    if (registers_[static_cast<std::size_t>(*mark)] == position) row += 1 << i;
   }
   return instruction.memory + row;
 }
@@ -477,77 +347,6 @@ void RegexMatcher::Capture(const Instruction& instruction, int position) {
   const int begin = registers_[static_cast<std::size_t>(instruction.other)];
   SetBound(2 * instruction.index, std::min(begin, position));
   SetBound(2 * instruction.index + 1, std::max(begin, position));
-}
-
-// --- bodies that are tried apart ---
-
-void RegexMatcher::RaiseBarrier(const Instruction& instruction, const Thread& thread) {
-  // The register must be set below the barrier, or dropping the choices would lose where it stands.
-  Push({EntryKind::RestoreRegister, instruction.index,
-        registers_[static_cast<std::size_t>(instruction.index)], 0});
-  registers_[static_cast<std::size_t>(instruction.index)] = static_cast<int>(stack_.size());
-  Push({EntryKind::Barrier, thread.place, thread.position, 0});
-}
-
-/// Removes the barrier and the choices above it, and keeps what has to be set back.
-void RegexMatcher::DropChoices(int barrier) {
-  const auto isChoice = [](const Entry& entry) {
-    return entry.kind != EntryKind::RestoreBound && entry.kind != EntryKind::RestoreRegister &&
-           entry.kind != EntryKind::RestoreFrame;
-  };
-  stack_.erase(std::remove_if(stack_.begin() + barrier, stack_.end(), isChoice), stack_.end());
-}
-
-/// Sets everything back to what it was when the stack had `size` entries, without trying what is left there.
-void RegexMatcher::UnwindTo(int size) {
-  while (stack_.size() > static_cast<std::size_t>(size)) {
-    const Entry entry = stack_.back();
-    stack_.pop_back();
-    Restore(entry);
-  }
-}
-
-bool RegexMatcher::LookEnd(const Instruction& instruction, Thread& thread) {
-  const int barrier = registers_[static_cast<std::size_t>(instruction.index)];
-  thread = {instruction.target, stack_[static_cast<std::size_t>(barrier)].b};
-  if (instruction.target == kNowhere) {
-    UnwindTo(barrier);
-    return false;
-  }
-  DropChoices(barrier);
-  return true;
-}
-
-// --- recursion ---
-
-/// A group that calls itself at the same position would do so for ever, so that way fails.
-bool RegexMatcher::Call(const Instruction& instruction, Thread& thread) {
-  for (int index = frame_; index != kNowhere; index = frames_[static_cast<std::size_t>(index)].caller) {
-    const Frame& frame = frames_[static_cast<std::size_t>(index)];
-    if (frame.position != thread.position) break;
-    if (frame.group == instruction.index) return false;
-  }
-  Push({EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()), 0});
-  frames_.push_back({instruction.index, thread.place + 1, thread.position, frame_, savedValues_.size()});
-  savedValues_.insert(savedValues_.end(), bounds_.begin(), bounds_.end());
-  savedValues_.insert(savedValues_.end(), registers_.begin(), registers_.end());
-  frame_ = static_cast<int>(frames_.size()) - 1;
-  thread.place = instruction.target;
-  return true;
-}
-
-/// What groups matched during a call is forgotten when it comes back.
-bool RegexMatcher::Return(const Instruction& instruction, Thread& thread) {
-  ++thread.place;
-  if (frame_ == kNowhere || frames_[static_cast<std::size_t>(frame_)].group != instruction.index) return true;
-  const Frame frame = frames_[static_cast<std::size_t>(frame_)];
-  Push({EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()), 0});
-  const int* saved = savedValues_.data() + frame.saved;
-  for (int i = 0; i < static_cast<int>(bounds_.size()); ++i) SetBound(i, *saved++);
-  for (int i = 0; i < static_cast<int>(registers_.size()); ++i) SetRegister(i, *saved++);
-  frame_ = frame.caller;
-  thread.place = frame.returnPlace;
-  return true;
 }
 
 }  // namespace quorvantis

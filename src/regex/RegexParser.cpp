@@ -7,6 +7,7 @@
 #include "regex/EscapeParser.h"
 #include "regex/QuotedText.h"
 #include "regex/RegexFlags.h"
+#include "text/AsciiCase.h"
 
 #include <algorithm>
 #include <map>
@@ -379,11 +380,6 @@ class RegexParser {
   std::map<std::pair<char16_t, bool>, std::shared_ptr<const CharacterSet>> literals_;
 };
 
-bool IsSameName(std::u16string_view a, std::u16string_view b) {
-  const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c; };
-  return std::ranges::equal(a, b, {}, lower, lower);
-}
-
 }  // namespace
 
 ParsedPattern ParseRegex(std::u16string_view pattern, int flags) {
@@ -391,8 +387,8 @@ ParsedPattern ParseRegex(std::u16string_view pattern, int flags) {
 }
 
 int FindGroup(const GroupNames& names, std::u16string_view name) {
-  const auto found =
-      std::ranges::find_if(names, [name](const auto& named) { return IsSameName(named.first, name); });
+  const auto isNamed = [name](const auto& group) { return EqualsIgnoringAsciiCase(group.first, name); };
+  const auto found = std::ranges::find_if(names, isNamed);
   return found == names.end() ? 0 : found->second;
 }
 
