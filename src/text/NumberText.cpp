@@ -91,11 +91,9 @@ std::u16string FormatHexadecimal(std::uint32_t value) {
   return {digits, end};
 }
 
-std::u16string FormatScore(float value) {
-  char digits[64];  // the largest float has 39 digits before the point
-  const auto end =
-      std::to_chars(digits, digits + sizeof digits, static_cast<double>(value), std::chars_format::fixed, 2)
-          .ptr;
+std::u16string FormatScore(double value) {
+  char digits[320];  // the largest double has 309 digits before the point
+  const auto end = std::to_chars(digits, digits + sizeof digits, value, std::chars_format::fixed, 2).ptr;
   return {digits, end};
 }
 

@@ -23,7 +23,7 @@ std::u16string FormatInteger(std::int64_t value);
 /// Hexadecimal text, as "%x" gives it.
 std::u16string FormatHexadecimal(std::uint32_t value);
 
-/// Text with two decimals, as "%1.2f" gives it for the value widened to double.
-std::u16string FormatScore(float value);
+/// Text with two decimals, as "%1.2f" gives it.
+std::u16string FormatScore(double value);
 
 }  // namespace quorvantis
