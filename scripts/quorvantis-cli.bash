@@ -2,11 +2,12 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show build unpack preview print edit languages"
+  local commands="show build unpack preview print score edit languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
-      --app-folder | --language) ((++i)) ;;
+      --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch)
+        ((++i)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
     esac
@@ -15,6 +16,8 @@ _quorvantis_cli() {
   compopt -o filenames 2>/dev/null
   if [ "$previous" = --app-folder ]; then
     mapfile -t COMPREPLY < <(compgen -d -- "$word")
+  elif [ "$previous" = --mode ]; then
+    mapfile -t COMPREPLY < <(compgen -W "same custom" -- "$word")
   elif [[ $word == -* ]]; then
     local options="--help --app-folder --language --debug"
     [ -n "$command" ] || options+=" --version"
@@ -22,13 +25,14 @@ _quorvantis_cli() {
       show) options+=" --json" ;;
       preview) options+=" --student --responses" ;;
       print) options+=" --after-preview" ;;
+      score) options+=" --mode --end --value" ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
   elif [ -z "$command" ]; then
     mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$word")
   else
     case $command:$arguments in
-      show:0 | unpack:0 | preview:0 | print:0 | build:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
+      show:0 | unpack:0 | preview:0 | print:0 | build:1 | score:[01]) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
       unpack:1 | preview:1 | print:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;

@@ -27,6 +27,7 @@ struct Arguments {
   std::optional<std::string> student;
   std::optional<std::filesystem::path> responses;
   MatchRequest match;
+  std::vector<ScoreStep> scoreSteps;
 };
 
 /// The options of every command; they may stand before the command, too.
@@ -109,6 +110,37 @@ void AddPrint(CLI::App& app, Arguments& arguments, Console& console) {
       [&] { Print(console, arguments.common, arguments.input, arguments.output, arguments.afterPreview); });
 }
 
+/// An option that is one more step of the score setup. Read as soon as it is met, so that the steps keep the
+/// order in which options of different names stand on the command line.
+void AddScoreStep(CLI::App& score, std::vector<ScoreStep>& steps, const char* name,
+                  ScoreStep (*step)(std::string_view), const char* type, const char* description) {
+  const auto take = [&steps, name, step](const std::string& text) {
+    try {
+      steps.push_back(step(text));
+    } catch (const CommandError& problem) {
+      throw CLI::ValidationError(name, problem.what());
+    }
+  };
+  score.add_option_function<std::string>(name, take, description)->trigger_on_parse()->type_name(type);
+}
+
+void AddScore(CLI::App& app, Arguments& arguments, Console& console) {
+  CLI::App* score = AddCommand(app, arguments, "score", "Change the score distribution of an exam");
+  AddPath(*score, "EXAM", arguments.input, "Exam file (.exm)");
+  AddPath(*score, "OUT", arguments.output, "Exam file to write");
+  const auto end = [](std::string_view text) { return AssignmentStep(ScoreStep::Kind::End, text); };
+  const auto value = [](std::string_view text) { return AssignmentStep(ScoreStep::Kind::Score, text); };
+  auto& steps = arguments.scoreSteps;
+  AddScoreStep(*score, steps, "--mode", ModeStep, "same|custom", "One score for all questions, or ranges");
+  AddScoreStep(*score, steps, "--end", end, "RANGE=QUESTION", "Let a range (1 to 10) end with a question");
+  AddScoreStep(*score, steps, "--value", value, "RANGE=SCORE", "The score of each question of a range");
+  score->footer(
+      "The options act in the order given, as if typed into the score settings of the window, and may be\n"
+      "repeated. Ends cut the neighbouring ranges anew and put scores back, so give ends first.");
+  score->callback(
+      [&] { Score(console, arguments.common, arguments.input, arguments.output, arguments.scoreSteps); });
+}
+
 void AddEdit(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::App* edit = AddCommand(app, arguments, "edit", "Edit an exam by a script");
   edit->add_option("SCRIPT", arguments.input, "Script file; standard input without it")->type_name("");
@@ -186,6 +218,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddUnpack(app, arguments, console);
   AddPreview(app, arguments, console);
   AddPrint(app, arguments, console);
+  AddScore(app, arguments, console);
   AddEdit(app, arguments, console);
   AddLanguages(app, arguments, console);
   AddMatch(app, arguments, console);

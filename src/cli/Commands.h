@@ -3,10 +3,12 @@
 #pragma once
 
 #include "cli/ExamSession.h"
+#include "cli/ScoreSteps.h"
 
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quorvantis::cli {
 
@@ -35,6 +37,10 @@ void Preview(Console& console, const CommonOptions& options, const PreviewReques
 /// Writes the page that is printed; with `afterPreview` as it is after a preview in the same run.
 void Print(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
            const std::filesystem::path& folder, bool afterPreview);
+
+/// Takes an exam through the score setup, accepts it and saves the exam as `target`.
+void Score(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
+           const std::filesystem::path& target, const std::vector<ScoreStep>& steps);
 
 /// Runs an editing script, from a file or from the console.
 void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script);

@@ -3,7 +3,9 @@
 #include "cli/CommandError.h"
 #include "cli/EditSession.h"
 #include "cli/EditorStateJson.h"
+#include "cli/ScoreSteps.h"
 #include "cli/WhyUnreadable.h"
+#include "shell/ScoreSetupCommand.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
@@ -120,6 +122,28 @@ void Select(EditSession& session, const Arguments& arguments) {
   attachments.SelectQuestionFile(EntryIndex(arguments[0], attachments.QuestionList()));
 }
 
+constexpr std::string_view kScoreUsage =
+    "mode same|custom | score end RANGE QUESTION | score value RANGE SCORE";
+
+ScoreStep ScoreStepOf(const Arguments& arguments) {
+  const std::u16string what = arguments[0].Text();
+  if (what == u"mode" && arguments.size() == 2) return ModeStep(Utf16ToUtf8(arguments[1].Text()));
+  if ((what != u"end" && what != u"value") || arguments.size() != 3) {
+    throw CommandError("usage: score " + std::string(kScoreUsage));
+  }
+  const auto kind = what == u"end" ? ScoreStep::Kind::End : ScoreStep::Kind::Score;
+  return RangeStep(kind, arguments[1].Text(), arguments[2].Text());
+}
+
+/// One line is one score setup, accepted.
+void Score(EditSession& session, const Arguments& arguments) {
+  const std::vector<ScoreStep> steps{ScoreStepOf(arguments)};
+  ScoreSetupCommand(session.Editor(), [&](ScoreSetup& setup) {
+    TakeScoreSteps(setup, steps, session.Streams());
+    return true;
+  }).Run();
+}
+
 void State(EditSession& session, const Arguments&) {
   session.Streams().out << EditorStateToJson(session.Editor()) << std::endl;
 }
@@ -162,6 +186,7 @@ constexpr EditCommand kCommands[] = {
     {"select", "INDEX", 1, Select},
     {"oral", "", 0,
      [](EditSession& session, const Arguments&) { session.Editor().attachments.ToggleOral(); }},
+    {"score", kScoreUsage, 2, Score, 1},
     {"state", "  (prints one JSON line)", 0, State},
 };
 

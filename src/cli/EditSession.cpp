@@ -35,7 +35,8 @@ void EditSession::Run(const EditScriptLine& line) {
   editor_.state.DeliverContentChanged();
   const EditCommand* command = FindEditCommand(line.command);
   if (command == nullptr) throw CommandError("unknown command \"" + Shortened(line.command) + "\"");
-  if (line.arguments.size() != command->argumentCount) {
+  const std::size_t count = line.arguments.size();
+  if (count < command->argumentCount || count > command->argumentCount + command->optionalArguments) {
     throw CommandError("usage: " + line.command + " " + std::string(command->usage) +
                        "; a text with blanks stands in double quotes");
   }

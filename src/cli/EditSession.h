@@ -43,6 +43,7 @@ struct EditCommand {
   std::string_view usage;  ///< its arguments, for messages and help
   std::size_t argumentCount;
   void (*run)(EditSession& session, const std::vector<ScriptArgument>& arguments);
+  std::size_t optionalArguments = 0;
 };
 
 /// The command of that name, or null.

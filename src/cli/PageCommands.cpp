@@ -4,7 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/JsonNode.h"
 #include "cli/Responses.h"
-#include "editor/ExamEditor.h"
+#include "cli/UnseenEditor.h"
 #include "render/PreviewPaths.h"
 #include "shell/PreviewCommand.h"
 #include "shell/PrintCommand.h"
@@ -33,24 +33,6 @@ class CurrentFolder {
 
  private:
   fs::path before_;
-};
-
-/// An editor on a loaded exam that nobody looks at.
-class UnseenEditor : private EditorView {
- public:
-  explicit UnseenEditor(FrameSetExam& exam) : editor_(exam, *this, nullptr) {
-    editor_.questions.LoadCurrentQuestion();
-  }
-
-  QuestionEditor& Questions() { return editor_.questions; }
-
- private:
-  void FormLoaded() override {}
-  void FormChanged() override {}
-  void TitleChanged() override {}
-  void PostContentChanged() override {}
-
-  ExamEditor editor_;
 };
 
 /// `folder` as the application folder, whatever the other options say.

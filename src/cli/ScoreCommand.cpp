@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/SavingLosses.h"
+#include "cli/UnseenEditor.h"
+#include "examfile/ExamFileWriter.h"
+#include "model/LongAnswerFlags.h"
+#include "shell/ScoreSetupCommand.h"
+
+namespace quorvantis::cli {
+namespace {
+
+/// Saves long answers as long ones again, although nobody has edited them.
+void KeepLongAnswers(FrameSetExam& exam) {
+  for (int number = 1; number <= exam.questionCount; ++number) {
+    const bool isLong = exam.Question(number).answerText.size() > kMaxShortAnswer;
+    if (isLong) exam.Services().longAnswerFlags.Set(number);
+  }
+}
+
+/// Reads an exam to save it again.
+void LoadWhole(ExamSession& session, const std::filesystem::path& file) {
+  const ExamReadOutcome outcome = session.Load(file);
+  if (outcome.filesNotCreated > 0) {
+    throw CommandError(file.string() + ": " + std::to_string(outcome.filesNotCreated) +
+                       " attached files would be lost; make room in the folder for temporary files");
+  }
+  KeepLongAnswers(session.exam);
+}
+
+}  // namespace
+
+void Score(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
+           const std::filesystem::path& target, const std::vector<ScoreStep>& steps) {
+  ExamSession session(console, options);
+  LoadWhole(session, exam);
+  UnseenEditor editor(session.exam);
+  ScoreSetupCommand(editor.Editor(), [&](ScoreSetup& setup) {
+    TakeScoreSteps(setup, steps, console);
+    return true;
+  }).Run();
+  if (const auto error = ExamFileWriter(session.exam, session.services).Write(target)) {
+    throw CommandError(target.string() + ": cannot be written: " + error.message());
+  }
+  for (const std::string& loss : LossesOnSaving(session.exam)) console.Complain(exam.string() + ": " + loss);
+}
+
+}  // namespace quorvantis::cli
