@@ -22,6 +22,16 @@ bool IsEscape(const QEvent& event) {
   return static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
+/// Whether a dialog takes the input of `window`: one of its own does, and one for the whole program, but not
+/// one that only another window waits for.
+bool HasDialogInFront(const QWidget& window) {
+  const QWidget* const dialog = QApplication::activeModalWidget();
+  if (dialog == nullptr) return false;
+  const QWidget* const parent = dialog->parentWidget();
+  const bool ofAnotherWindow = parent != nullptr && parent->window() != &window;
+  return dialog->windowModality() == Qt::ApplicationModal || !ofAnotherWindow;
+}
+
 QRect Screen() {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   return screen == nullptr ? QRect(0, 0, 1024, 768) : screen->geometry();
@@ -54,7 +64,7 @@ PreviewWindow::PreviewWindow(QWebEngineProfile& profile, ExamGateway& gateway, P
 /// Seen before the browser sees it, which would give the key to the page. While the preview covers the
 /// screen, the windows below it must not get the key either: it would end them.
 bool PreviewWindow::eventFilter(QObject* watched, QEvent* event) {
-  const bool ours = IsEscape(*event) && IsOnScreen() && QApplication::activeModalWidget() == nullptr;
+  const bool ours = IsEscape(*event) && IsOnScreen() && !HasDialogInFront(*this);
   if (!ours) return QWidget::eventFilter(watched, event);
   session_.Leave();
   return true;
