@@ -2,6 +2,7 @@
 #include "desktop/CQuorvantisDlg.h"
 
 #include "desktop/AboutDlg.h"
+#include "desktop/CScoreSetupDlg.h"
 #include "desktop/Controls.h"
 #include "desktop/DroppedFiles.h"
 #include "desktop/FittedCaption.h"
@@ -15,6 +16,7 @@
 #include "shell/CloseSequence.h"
 #include "shell/PreviewCommand.h"
 #include "shell/PrintCommand.h"
+#include "shell/ScoreSetupCommand.h"
 #include "text/MessageText.h"
 
 #include <QApplication>
@@ -130,7 +132,7 @@ void CQuorvantisDlg::PrepareOffice() {
 FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
   FileButtons::PageCommands commands;
   commands.importExam = [this] { Import(); };
-  commands.scoreSetup = [] {};
+  commands.scoreSetup = [this] { SetUpScores(); };
   commands.preview = [this] { Preview(); };
   commands.print = [this] { Print(); };
   return commands;
@@ -194,8 +196,22 @@ void CQuorvantisDlg::ShowAbout() {
   AboutDlg(library_, this).exec();
 }
 
+void CQuorvantisDlg::SetUpScores() {
+  ScoreSetupCommand(editor_, [this](ScoreSetup& setup) {
+    return CScoreSetupDlg(setup, *this, exam_.Services().strings, this).exec() == QDialog::Accepted;
+  }).Run();
+}
+
 void CQuorvantisDlg::PreviewFinished() {
   exam_.PrefixAttachmentPaths(0);
+}
+
+void CQuorvantisDlg::PreviewFromSetup(int show) {
+  if (show != 0) {
+    Preview();
+  } else {
+    previews_.NewSession();
+  }
 }
 
 void CQuorvantisDlg::PostContentChanged() {

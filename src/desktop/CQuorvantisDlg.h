@@ -10,6 +10,7 @@
 #include "desktop/WindowLayout.h"
 #include "editor/ExamEditor.h"
 #include "preview/PreviewWindows.h"
+#include "scoring/SetupOwner.h"
 #include "shell/CodePageChoice.h"
 #include "shell/OfficeControl.h"
 
@@ -24,7 +25,7 @@ namespace quorvantis {
 /// The main window. It binds the controls to the editor, which has all the rules; the window only shows what
 /// the editor tells. Escape ends it without a question, closing it asks about unsaved changes. When the
 /// window goes, so do the work copies of attached files.
-class CQuorvantisDlg final : public QWidget, private EditorView, private PreviewOwner {
+class CQuorvantisDlg final : public QWidget, private EditorView, private PreviewOwner, private SetupOwner {
   Q_OBJECT
 
  public:
@@ -66,6 +67,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void PostContentChanged() override;
 
   void PreviewFinished() override;
+  void PreviewFromSetup(int show) override;
 
   FileButtons::PageCommands PageCommands();
   WindowControls Controls();
@@ -79,6 +81,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void PrepareOffice();
   void Preview();
   void Print();
+  void SetUpScores();
   void TakeFiles(const QList<QUrl>& urls);
 
   FrameSetExam& exam_;

@@ -91,4 +91,7 @@ constexpr int kRemoveAttachment = 1013;
 constexpr int kNoProgramOpens = 1014;  // "No program was found that opens %s."
 constexpr int kIsRightAnswer = 1015;   // "%s is a right answer", said by screen readers
 
+constexpr int kTotalScore = 1030;   // "Total score: %s"
+constexpr int kNoQuestions = 1031;  // "The exam has no questions yet."
+
 }  // namespace quorvantis::text_id

@@ -105,6 +105,8 @@ constexpr NumberedText kTexts[] = {
     {text_id::kRemoveAttachment, u"Remove"},
     {text_id::kNoProgramOpens, u"No program was found that opens %s."},
     {text_id::kIsRightAnswer, u"%s is a right answer"},
+    {text_id::kTotalScore, u"Total score: %s"},
+    {text_id::kNoQuestions, u"The exam has no questions yet."},
 };
 
 }  // namespace

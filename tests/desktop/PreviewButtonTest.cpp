@@ -57,5 +57,26 @@ TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
   EXPECT_EQ(exam.previewPrefixes, 1) << "a finished exam takes one prefix off";
 }
 
+/// The setup waits below the preview that it has opened.
+TEST_F(PreviewButton, WorksBesideTheScoreSetup) {
+  exam.Question(1).text = u"Worth how much?";
+  Open();
+  ClickAndUse("scoreSettings", [](QDialog& setup) {
+    const auto click = [&](const char* name) {
+      QTest::mouseClick(setup.findChild<QAbstractButton*>(name), Qt::LeftButton);
+    };
+    click("scanQuestions");
+    EXPECT_TRUE(Appears("Worth how much?"));
+    QTest::keyClick(ShownPreview(), Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([] { return ShownPreview() == nullptr; }, kPatience));
+    EXPECT_TRUE(setup.isVisible());
+    click("scanQuestions");
+    EXPECT_TRUE(Appears("Worth how much?"));
+    click("ok");
+  });
+  EXPECT_EQ(ShownPreview(), nullptr) << "a preview that was left open goes with the setup";
+  EXPECT_TRUE(window->isVisible());
+}
+
 }  // namespace
 }  // namespace quorvantis::test

@@ -10,10 +10,13 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 namespace quorvantis::test {
@@ -45,6 +48,21 @@ class WindowTest : public testing::Test {
   void Press(const char* name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     Control(name).setFocus();
     QTest::keyClick(&Control(name), key, modifiers);
+  }
+
+  /// Clicks a button that opens a dialog, and has `use` done while that waits for the user.
+  void ClickAndUse(const char* name, const std::function<void(QDialog&)>& use) {
+    const auto useDialog = [&] {
+      auto* dialog = window->findChild<QDialog*>();
+      ASSERT_NE(dialog, nullptr);
+      ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+      use(*dialog);
+    };
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, useDialog);
+    timer.start(0);
+    Click(name);
   }
 
   /// Lets the event loop turn once.
