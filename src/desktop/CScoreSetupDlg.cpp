@@ -50,7 +50,7 @@ CScoreSetupDlg::CScoreSetupDlg(ScoreSetup& setup, SetupOwner& owner, const Strin
       modes_(new QButtonGroup(this)),
       group_(new QGroupBox(Text(text_id::kScoreGroup), this)),
       bar_(new RangeBar(setup, BarTexts(strings), group_)) {
-  setObjectName("scoreSetup");
+  setObjectName("scoreSetupDialog");
   setWindowTitle(Text(text_id::kScoreSettings));
   setWindowModality(Qt::WindowModal);
   auto* column = new QVBoxLayout(this);

@@ -61,7 +61,7 @@ TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
 TEST_F(PreviewButton, WorksBesideTheScoreSetup) {
   exam.Question(1).text = u"Worth how much?";
   Open();
-  ClickAndUse("scoreSettings", [](QDialog& setup) {
+  ClickAndUse("scoreSetup", [](QDialog& setup) {
     const auto click = [&](const char* name) {
       QTest::mouseClick(setup.findChild<QAbstractButton*>(name), Qt::LeftButton);
     };

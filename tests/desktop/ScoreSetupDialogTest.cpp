@@ -187,7 +187,7 @@ TEST_F(ScoreSettingsButton, StoresTheFormAndTakesOverOnOk) {
   exam.Question(25).text = u"last";
   Open();
   const auto shortenAnd = [this](const char* end) {
-    ClickAndUse("scoreSettings", [end](QDialog& dialog) {
+    ClickAndUse("scoreSetup", [end](QDialog& dialog) {
       EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
       dialog.findChild<QLineEdit*>("rangeTo1")->setText("5");
       QTest::mouseClick(dialog.findChild<QAbstractButton*>(end), Qt::LeftButton);
