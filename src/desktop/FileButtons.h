@@ -20,7 +20,6 @@ class FileButtons {
     std::function<void()> scoreSetup;
     std::function<void()> preview;
     std::function<void()> print;
-    std::function<void()> scoreSetup;
   };
 
   static constexpr std::size_t kCount = 9;
