@@ -4,6 +4,7 @@
 #include "cli/CommandError.h"
 #include "cli/Languages.h"
 #include "cli/WhyUnreadable.h"
+#include "examfile/ByteSource.h"
 #include "examfile/ExamFileMessages.h"
 #include "shell/CodePageChoice.h"
 #include "text/Utf.h"
@@ -27,6 +28,10 @@ LanguageInUse UseLanguage(const CommonOptions& options) {
   return language;
 }
 
+CommandError NotOpened(const StringTable& strings, const fs::path& file) {
+  return CommandError(Utf16ToUtf8(OpenFileError(strings, file)) + " " + WhyUnreadable(file));
+}
+
 }  // namespace
 
 ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
@@ -42,13 +47,21 @@ ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
   exam.SetHostMode(1);
 }
 
+void ExamSession::RequireReadable(const fs::path& file) {
+  if (!ByteSource(file).IsOpen()) throw NotOpened(BuiltInStrings(), file);
+}
+
 ExamReadOutcome ExamSession::Load(const fs::path& file) {
   const ExamReadOutcome outcome = ExamFileReader(exam, services).Read(file);
-  if (!outcome.opened) {
-    throw CommandError(Utf16ToUtf8(OpenFileError(services, file)) + " " + WhyUnreadable(file));
-  }
+  if (!outcome.opened) throw NotOpened(strings_, file);
   ShowReadLosses(services, outcome);
   return outcome;
+}
+
+void ExamSession::RequireWrittenPages() const {
+  if (pages_.Unwritten().empty()) return;
+  const fs::path& page = pages_.Unwritten().front();
+  throw CommandError(page.string() + ": cannot be written; choose a folder that can be written");
 }
 
 }  // namespace quorvantis::cli

@@ -35,9 +35,16 @@ class ExamSession {
   ExamSession(const ExamSession&) = delete;
   ExamSession& operator=(const ExamSession&) = delete;
 
+  /// Throws what Load would throw for a file that cannot be opened: a command that makes the application
+  /// folder asks before it makes a session.
+  static void RequireReadable(const std::filesystem::path& file);
+
   /// Reads an exam file into the document. Throws CommandError when it cannot be opened; what is missing from
   /// it is told on standard error.
   ExamReadOutcome Load(const std::filesystem::path& file);
+
+  /// Throws CommandError when one of the pages that were composed last is not in its file.
+  void RequireWrittenPages() const;
 
  private:
   std::optional<PrivateFolder> privateFolder_;

@@ -13,7 +13,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <fstream>
 #include <optional>
 
 namespace quorvantis::cli {
@@ -41,13 +40,9 @@ CommonOptions In(const fs::path& folder, CommonOptions options) {
   return options;
 }
 
-/// The writers of pages are silent; a command is not. In the place of showing a page it is looked at.
-void CheckPage(const fs::path& page) {
-  std::error_code error;
-  const bool writable = std::ofstream(page, std::ios::binary | std::ios::app).is_open();
-  if (!writable || fs::file_size(page, error) == 0 || error) {
-    throw CommandError(page.string() + ": cannot be written; choose a folder that can be written");
-  }
+/// The writers of pages are silent; a command is not. In the place of showing a page all are looked at.
+ShowPage CheckPages(const ExamSession& session) {
+  return [&session](const fs::path&) { session.RequireWrittenPages(); };
 }
 
 void LiveAsStudent(FrameSetExam& exam, const std::string& student) {
@@ -76,6 +71,7 @@ void Preview(Console& console, const CommonOptions& options, const PreviewReques
   const fs::path exam = fs::absolute(request.exam);  // before the current folder is another
   const nlohmann::json responses =
       request.responses ? ParseJsonFile(*request.responses) : nlohmann::json::object();
+  ExamSession::RequireReadable(exam);
   ExamSession session(console, In(request.folder, options));
   std::optional<CurrentFolder> studentSide;
   if (request.student) {
@@ -85,16 +81,17 @@ void Preview(Console& console, const CommonOptions& options, const PreviewReques
   session.Load(exam);
   if (request.responses) AnswerExam(session.exam, *request.responses, responses);
   UnseenEditor editor(session.exam);
-  PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPage).Run();
+  PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPages(session)).Run();
 }
 
 void Print(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder,
            bool afterPreview) {
+  ExamSession::RequireReadable(exam);
   ExamSession session(console, In(folder, options));
   session.Load(exam);
   UnseenEditor editor(session.exam);
-  if (afterPreview) PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPage).Run();
-  PrintCommand(editor.Questions(), session.exam, CheckPage).Run();
+  if (afterPreview) PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPages(session)).Run();
+  PrintCommand(editor.Questions(), session.exam, CheckPages(session)).Run();
 }
 
 }  // namespace quorvantis::cli

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "examfile/ExamFileMessages.h"
 
-#include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
 #include "text/MessageText.h"
@@ -18,8 +17,8 @@ std::u16string EndsEarly(const StringTable& strings, int firstMissingQuestion) {
 
 }  // namespace
 
-std::u16string OpenFileError(const ExamServices& services, const std::filesystem::path& file) {
-  return FillMessage(services.strings.Text(text_id::kOpenFileError), {PathToText(file)});
+std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file) {
+  return FillMessage(strings.Text(text_id::kOpenFileError), {PathToText(file)});
 }
 
 void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "examfile/ExamFileReader.h"
+#include "platform/StringTable.h"
 
 #include <filesystem>
 #include <string>
@@ -10,7 +11,7 @@
 namespace quorvantis {
 
 /// "Open file … error!", of a file that could not be read or saved.
-std::u16string OpenFileError(const ExamServices& services, const std::filesystem::path& file);
+std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file);
 
 /// Shows what is missing from an exam that was read; nothing when it is whole.
 void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome);

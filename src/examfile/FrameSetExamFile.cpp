@@ -11,14 +11,14 @@ namespace quorvantis {
 void FrameSetExam::ReadExamFile(const std::filesystem::path& file) {
   ExamServices& services = Services();
   const ExamReadOutcome outcome = ExamFileReader(*this, services).Read(file);
-  if (!outcome.opened) services.dialogs.ShowError(OpenFileError(services, file));
+  if (!outcome.opened) services.dialogs.ShowError(OpenFileError(services.strings, file));
   ShowReadLosses(services, outcome);
 }
 
 bool FrameSetExam::WriteExamFile(const std::filesystem::path& file) {
   ExamServices& services = Services();
   if (!ExamFileWriter(*this, services).Write(file)) return true;
-  services.dialogs.ShowError(OpenFileError(services, file));
+  services.dialogs.ShowError(OpenFileError(services.strings, file));
   return false;
 }
 

@@ -23,4 +23,9 @@ const std::u16string* ComposedPages::Find(const std::filesystem::path& file) con
   return found == pages_.end() ? nullptr : &found->second;
 }
 
+void ComposedPages::Clear() {
+  pages_.clear();
+  notWritten_.clear();
+}
+
 }  // namespace quorvantis

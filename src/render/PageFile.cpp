@@ -3,9 +3,11 @@
 
 #include "text/Utf.h"
 
+#include <system_error>
 #include <utility>
 
 namespace quorvantis {
+namespace fs = std::filesystem;
 namespace {
 
 /// Unit by unit the low byte and then the high one, up to `size` bytes.
@@ -17,24 +19,36 @@ std::string FirstUtf16Bytes(std::u16string_view text, std::size_t size) {
   return bytes;
 }
 
+/// Makes an empty file. A link would lead the page elsewhere, and a pipe would hold the program up.
+std::ofstream MakeFile(const fs::path& path) {
+  std::error_code ignored;
+  const fs::file_status before = fs::symlink_status(path, ignored);
+  if (!fs::is_regular_file(before) && !fs::is_directory(before)) fs::remove(path, ignored);
+  const fs::file_status now = fs::symlink_status(path, ignored);
+  if (fs::exists(now) && !fs::is_regular_file(now)) return {};
+  return std::ofstream(path, std::ios::binary | std::ios::trunc);
+}
+
 }  // namespace
 
-PageFile::PageFile(std::filesystem::path file, PageStore& pages)
-    : path_(std::move(file)), file_(path_, std::ios::binary | std::ios::trunc), pages_(pages) {}
+PageFile::PageFile(fs::path file, PageStore& pages)
+    : path_(std::move(file)), file_(MakeFile(path_)), pages_(pages) {}
 
 void PageFile::WriteUtf8(std::u16string page) {
-  Write(Utf16ToUtf8(page) + '\0');
-  pages_.Add(path_, std::move(page));
+  const std::string bytes = Utf16ToUtf8(page) + '\0';
+  Write(bytes, std::move(page));
 }
 
 void PageFile::WriteHalfUtf16(std::u16string page) {
-  Write(FirstUtf16Bytes(page, page.size() + 1));
-  pages_.Add(path_, std::move(page));
+  const std::string bytes = FirstUtf16Bytes(page, page.size() + 1);
+  Write(bytes, std::move(page));
 }
 
-void PageFile::Write(const std::string& bytes) {
+void PageFile::Write(const std::string& bytes, std::u16string page) {
+  pages_.Add(path_, std::move(page));
   file_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file_.close();
+  if (!file_) pages_.NotWritten(path_);
 }
 
 }  // namespace quorvantis

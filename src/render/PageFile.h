@@ -9,8 +9,9 @@
 
 namespace quorvantis {
 
-/// The file of one page. Made empty at once and filled when the page is composed. A file that cannot be made
-/// or written is left out silently; the page is in the store all the same.
+/// The file of one page. Made empty at once and filled when the page is composed. What lies in its place and
+/// is no regular file is removed first: nothing is written through a link. A file that cannot be made or
+/// written is left out, and noted in the store; the page is in the store all the same.
 class PageFile {
  public:
   /// `pages` must outlive the file.
@@ -24,7 +25,7 @@ class PageFile {
   void WriteHalfUtf16(std::u16string page);
 
  private:
-  void Write(const std::string& bytes);
+  void Write(const std::string& bytes, std::u16string page);
 
   std::filesystem::path path_;
   std::ofstream file_;

@@ -86,12 +86,18 @@ TEST_F(PageCommands, PrintDependsOnAnEarlierPreview) {
 TEST_F(PageCommands, FailWithAReason) {
   BuildExam();
   const std::string exam = Path("exam.exm");
-  ExpectFailure(Command({"preview", Path("absent.exm"), Path("app")}), "There is no such file");
+  for (const char* command : {"preview", "print"}) {
+    ExpectFailure(Command({command, Path("absent.exm"), Path("app")}), "There is no such file");
+    EXPECT_FALSE(fs::exists(folder / "app")) << command;
+  }
   ExpectFailure(Command({"print", exam, exam}), "cannot be used as the application folder");
   WriteBytes(folder / "file/~BrelmStudent", "");
   ExpectFailure(Command({"preview", exam, Path("file"), "--student", "1"}), "cannot be made as a folder");
   fs::create_directories(folder / "taken/exam_Print.htm");
   ExpectFailure(Command({"print", exam, Path("taken")}), "exam_Print.htm: cannot be written");
+  BuildExam({"a.doc", "b.gif"});
+  fs::create_directories(folder / "taken/TEMP/ExamPreview/SEE2_2.htm");
+  ExpectFailure(Command({"preview", exam, Path("taken")}), "SEE2_2.htm: cannot be written");
   const auto check = [&](const char* responses, const char* reason) {
     WriteBytes(folder / "responses.json", responses);
     const RunResult run =

@@ -3,6 +3,8 @@
 #include "render/ComposedPages.h"
 #include "render/PageFile.h"
 
+#include <sys/stat.h>
+
 namespace quorvantis::test {
 namespace {
 
@@ -41,6 +43,19 @@ TEST_F(PageFileTest, KeepsThePageWhereNoFileCanBeMade) {
   const fs::path target = folder / "absent" / "page.htm";
   PageFile(target, world.pages).WriteUtf8(u"page");
   EXPECT_EQ(world.pages.pages[target], u"page");
+  EXPECT_EQ(world.pages.notWritten, std::vector{target});
+}
+
+TEST_F(PageFileTest, WritesThroughNoLinkAndIntoNoPipe) {
+  WriteBytes(folder / "elsewhere", "earlier");
+  fs::create_symlink(folder / "elsewhere", file);
+  PageFile(file, world.pages).WriteUtf8(u"page");
+  EXPECT_EQ(ReadBytes(folder / "elsewhere"), "earlier");
+  fs::remove(file);
+  ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
+  PageFile(file, world.pages).WriteUtf8(u"page");
+  EXPECT_EQ(ReadBytes(file), "page\0"s);
+  EXPECT_TRUE(world.pages.notWritten.empty());
 }
 
 TEST(ComposedPages, AreFoundByTheNormalAbsolutePath) {

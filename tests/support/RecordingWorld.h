@@ -125,6 +125,8 @@ class KeptPages : public PageStore {
  public:
   std::map<std::filesystem::path, std::u16string> pages;
   void Add(const std::filesystem::path& file, std::u16string text) override { pages[file] = std::move(text); }
+  std::vector<std::filesystem::path> notWritten;
+  void NotWritten(const std::filesystem::path& file) override { notWritten.push_back(file); }
   void Clear() override { pages.clear(); }
 };
 
