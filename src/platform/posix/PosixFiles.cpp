@@ -2,6 +2,7 @@
 #include "platform/posix/PosixFiles.h"
 
 #include "platform/posix/FileDescriptor.h"
+#include "platform/posix/Leftover.h"
 
 #include <array>
 #include <cerrno>
@@ -40,7 +41,8 @@ void SyncFolder(const fs::path& folder) {
   if (descriptor.IsOpen()) ::fsync(descriptor.Get());
 }
 
-/// A file of this process's own with a name nobody else has; deleted unless it is renamed away.
+/// A file of this process's own with a name nobody else has; deleted, by a signal too, unless it is renamed
+/// away.
 class ScratchFile {
  public:
   /// `stem` should be short; it only helps a person who finds the file after a power cut.
@@ -56,7 +58,9 @@ class ScratchFile {
     return std::nullopt;
   }
   ScratchFile(ScratchFile&& other) noexcept
-      : path_(std::exchange(other.path_, {})), descriptor_(std::move(other.descriptor_)) {}
+      : path_(std::exchange(other.path_, {})),
+        descriptor_(std::move(other.descriptor_)),
+        leftover_(std::move(other.leftover_)) {}
   ScratchFile& operator=(ScratchFile&&) = delete;
   ~ScratchFile() {
     if (!path_.empty()) ::unlink(path_.c_str());
@@ -64,18 +68,25 @@ class ScratchFile {
 
   int Descriptor() const { return descriptor_.Get(); }
 
+  /// From now on it holds what may be nowhere else: a signal leaves it.
+  void OutliveSignals() { leftover_.reset(); }
+
   std::error_code RenameTo(const fs::path& target) {
     if (std::rename(path_.c_str(), target.c_str()) != 0) return LastError();
     path_.clear();
+    leftover_.reset();
     return {};
   }
 
  private:
   ScratchFile(fs::path path, FileDescriptor descriptor)
-      : path_(std::move(path)), descriptor_(std::move(descriptor)) {}
+      : path_(std::move(path)),
+        descriptor_(std::move(descriptor)),
+        leftover_(std::make_unique<Leftover>(path_)) {}
 
   fs::path path_;
   FileDescriptor descriptor_;
+  std::unique_ptr<Leftover> leftover_;
 };
 
 class PosixPendingFile : public PendingFile {
@@ -124,6 +135,7 @@ class OverwrittenFile : public PosixPendingFile {
     if (!target.IsOpen()) return LastError();
     const off_t size = ::lseek(scratch_.Descriptor(), 0, SEEK_END);
     if (const auto error = Reserve(target.Get(), size)) return error;
+    scratch_.OutliveSignals();
     if (const auto error = CopyTo(target.Get())) return error;
     if (::ftruncate(target.Get(), size) != 0) return LastError();
     return Sync(target.Get());

@@ -7,15 +7,20 @@
 
 namespace quorvantis {
 namespace fs = std::filesystem;
+namespace {
 
-PrivateFolder::PrivateFolder() {
+fs::path MakeFolder() {
   std::string name = (fs::temp_directory_path() / "quorvantis-XXXXXX").string();
   if (::mkdtemp(name.data()) == nullptr) {
     throw fs::filesystem_error("cannot make a folder for temporary files", name,
                                std::error_code(errno, std::generic_category()));
   }
-  path_ = name;
+  return fs::absolute(name);  // the current folder may change
 }
+
+}  // namespace
+
+PrivateFolder::PrivateFolder() : path_(MakeFolder()), leftover_(path_) {}
 
 PrivateFolder::~PrivateFolder() {
   std::error_code ignored;

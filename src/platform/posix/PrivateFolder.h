@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/posix/Leftover.h"
+
 #include <filesystem>
 
 namespace quorvantis {
 
 /// A fresh folder that only this user can enter, in the folder for temporary files; removed with its content
-/// at the end. Throws std::filesystem::filesystem_error when it cannot be made.
+/// at the end, and by a signal (see RemoveLeftoversOnSignals). Throws std::filesystem::filesystem_error when
+/// it cannot be made.
 class PrivateFolder {
  public:
   PrivateFolder();
@@ -17,7 +20,8 @@ class PrivateFolder {
   const std::filesystem::path& Path() const { return path_; }
 
  private:
-  std::filesystem::path path_;
+  const std::filesystem::path path_;
+  const Leftover leftover_;
 };
 
 }  // namespace quorvantis

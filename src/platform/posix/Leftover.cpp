@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/Leftover.h"
+
+#include <csignal>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <mutex>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quorvantis {
+
+/// All leftovers of the process. The handler may interrupt any line here, and it reads the list without the
+/// lock: each step leaves a list that can be walked.
+class LeftoverList {
+ public:
+  void Add(Leftover& leftover) {
+    const std::lock_guard guard(lock_);
+    leftover.next_ = first_.load();
+    first_ = &leftover;
+  }
+
+  void Remove(Leftover& leftover) {
+    const std::lock_guard guard(lock_);
+    std::atomic<Leftover*>* link = &first_;
+    while (link->load() != &leftover) link = &link->load()->next_;
+    *link = leftover.next_.load();
+  }
+
+  template <class Action>
+  void ForEachPath(const Action& action) const {
+    for (const Leftover* each = first_; each != nullptr; each = each->next_) action(each->path_.c_str());
+  }
+
+ private:
+  static_assert(std::atomic<Leftover*>::is_always_lock_free);
+
+  std::mutex lock_;
+  std::atomic<Leftover*> first_{nullptr};
+};
+
+namespace {
+
+constinit LeftoverList leftovers;  // global, because a signal handler can be given nothing
+
+// From here on down to the handler: only what is allowed in one, which excludes memory and streams.
+
+constexpr int kDeepestFolder = 32;
+
+bool IsDots(const char* name) {
+  return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
+}
+
+void RemoveTree(int parent, const char* name, int depth);
+
+void RemoveEntries(int folder, int depth) {
+  alignas(dirent64) char entries[4096];
+  ssize_t size = 0;
+  while ((size = ::getdents64(folder, entries, sizeof entries)) > 0) {
+    for (ssize_t at = 0; at < size;) {
+      const auto* const entry = reinterpret_cast<const dirent64*>(entries + at);
+      if (!IsDots(entry->d_name)) RemoveTree(folder, entry->d_name, depth + 1);
+      at += entry->d_reclen;
+    }
+  }
+}
+
+void RemoveTree(int parent, const char* name, int depth) {
+  if (::unlinkat(parent, name, 0) == 0 || depth > kDeepestFolder) return;
+  const int folder = ::openat(parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+  if (folder < 0) return;
+  ::fchmod(folder, S_IRWXU);
+  RemoveEntries(folder, depth);
+  ::close(folder);
+  ::unlinkat(parent, name, AT_REMOVEDIR);
+}
+
+void EndBySignal(int signal) {
+  leftovers.ForEachPath([](const char* path) { RemoveTree(AT_FDCWD, path, 0); });
+  std::signal(signal, SIG_DFL);
+  ::raise(signal);  // is delivered when the handler returns
+}
+
+}  // namespace
+
+void RemoveLeftoversOnSignals() {
+  constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
+  struct sigaction action {};
+  action.sa_handler = EndBySignal;
+  action.sa_flags = SA_RESTART;
+  for (const int signal : kSignals) ::sigaddset(&action.sa_mask, signal);
+  for (const int signal : kSignals) {
+    struct sigaction before {};
+    ::sigaction(signal, nullptr, &before);
+    if (before.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);
+  }
+}
+
+Leftover::Leftover(const std::filesystem::path& path) : path_(path.string()) {
+  leftovers.Add(*this);
+}
+
+Leftover::~Leftover() {
+  leftovers.Remove(*this);
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// What must not be left behind when a signal ends the process.
+#pragma once
+
+#include <atomic>
+#include <filesystem>
+#include <string>
+
+namespace quorvantis {
+
+/// From now on the signals of a terminal and of a shutdown (SIGINT, SIGTERM, SIGHUP) remove every leftover
+/// before they end the process, with the status that they always give. Signals that were ignored stay so. To
+/// be called once, by a program with one thread.
+void RemoveLeftoversOnSignals();
+
+/// A file, or a folder with its content, that a signal removes as long as this lives. Links in it are removed
+/// and not followed. Not to be copied or moved: the signal handler finds it by its place.
+class Leftover {
+ public:
+  explicit Leftover(const std::filesystem::path& path);
+  ~Leftover();
+  Leftover(const Leftover&) = delete;
+  Leftover& operator=(const Leftover&) = delete;
+
+ private:
+  friend class LeftoverList;
+
+  const std::string path_;
+  std::atomic<Leftover*> next_{nullptr};
+};
+
+}  // namespace quorvantis

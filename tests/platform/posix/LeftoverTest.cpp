@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/Leftover.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/PrivateFolder.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What a command has made when a signal comes.
+[[noreturn]] void WaitForSignalWithLeftovers(const fs::path& folder, int ready) {
+  RemoveLeftoversOnSignals();
+  setenv("TMPDIR", folder.c_str(), 1);  // NOLINT(concurrency-mt-unsafe): a forked child has one thread
+  const PrivateFolder first;
+  const auto second = std::make_unique<PrivateFolder>();
+  { const PrivateFolder gone; }
+  WriteBytes(first.Path() / "TEMP/a/b/file", "x");
+  fs::create_directory_symlink(folder / "kept", first.Path() / "TEMP/link");
+  std::error_code error;
+  const auto pending = PosixFiles().Replace(folder / "never.exm", error);
+  if (::write(ready, "x", 1) == 1) ::pause();
+  std::abort();
+}
+
+TEST(Leftovers, GoWithASignalThatEndsTheProcess) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    const TemporaryFolder folder;
+    WriteBytes(folder / "kept/file", "x");
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    const pid_t child = ::fork();
+    if (child == 0) WaitForSignalWithLeftovers(folder.Path(), ends[1]);
+    char byte = 0;
+    EXPECT_EQ(::read(ends[0], &byte, 1), 1);
+    ::kill(child, signal);
+    int status = 0;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
+    EXPECT_TRUE(fs::exists(folder / "kept/file")) << "behind a link";
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 1);
+    ::close(ends[0]);
+    ::close(ends[1]);
+  }
+}
+
+}  // namespace
+}  // namespace quorvantis::test
