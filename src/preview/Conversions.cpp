@@ -4,17 +4,26 @@
 #include "platform/convert/ContentKey.h"
 #include "preview/FileKind.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
 namespace quorvantis {
+namespace fs = std::filesystem;
 namespace {
 
-namespace fs = std::filesystem;
+void RemoveFolder(const fs::path& folder) {
+  std::error_code ignored;
+  if (!folder.empty()) fs::remove_all(folder, ignored);
+}
 
 }  // namespace
 
-Conversions::Conversions(const ConverterPrograms& programs) : documents_(programs), media_(programs) {}
+Conversions::Conversions(ConverterPrograms programs, const fs::path& otherwise)
+    : programs_(std::move(programs)),
+      folder_(otherwise),
+      officeFolder_(folder_.New()),
+      converters_(std::make_unique<Converters>(programs_, officeFolder_)) {}
 
 std::optional<Conversions::Files> Conversions::KnownPages(const fs::path& document) const {
   const auto found = results_.constFind(KeyOf(document));
@@ -23,9 +32,10 @@ std::optional<Conversions::Files> Conversions::KnownPages(const fs::path& docume
 
 void Conversions::WithPages(const fs::path& document, Use use) {
   const QString key = KeyOf(document);
-  if (!Wait(key, std::move(use))) return;
+  const std::optional<fs::path> folder = Wait(key, std::move(use));
+  if (!folder) return;
   ++waitingDocuments_;
-  documents_.Make(document, ExtensionOf(document), NewFolder(), [this, key](const Files& pages) {
+  converters_->documents.Make(document, ExtensionOf(document), *folder, [this, key](const Files& pages) {
     --waitingDocuments_;
     Complete(key, pages);
     if (waitingDocuments_ == 0) emit DocumentsReady();
@@ -38,8 +48,9 @@ void Conversions::WithPlayable(const fs::path& media, Use use) {
   Use useOwn = [this, key, media, use = std::move(use)](const Files& files) {
     use(playAsTheyAre_.contains(key) ? Files{media} : files);
   };
-  if (!Wait(key, std::move(useOwn))) return;
-  media_.Make(media, NewFolder(), [this, key, media](const fs::path& playable) {
+  const std::optional<fs::path> folder = Wait(key, std::move(useOwn));
+  if (!folder) return;
+  converters_->media.Make(media, *folder, [this, key, media](const fs::path& playable) {
     if (playable == media) playAsTheyAre_.insert(key);
     Complete(key, playable.empty() ? Files() : Files{playable});
   });
@@ -50,33 +61,42 @@ void Conversions::ForgetFailures() {
       [](QHash<QString, Result>::iterator result) { return result->files && result->files->empty(); });
 }
 
+void Conversions::StopUnfinished() {
+  const auto unfinished = [](const Result& result) { return !result.files; };
+  if (std::none_of(results_.cbegin(), results_.cend(), unfinished)) return;
+  converters_ = std::make_unique<Converters>(programs_, officeFolder_);
+  for (const Result& result : std::as_const(results_)) {
+    if (unfinished(result)) RemoveFolder(result.folder);
+  }
+  results_.removeIf([&](QHash<QString, Result>::iterator result) { return unfinished(*result); });
+  waitingDocuments_ = 0;
+}
+
 QString Conversions::KeyOf(const fs::path& file) {
   return ContentKey(file) + '.' + ExtensionOf(file);
 }
 
-bool Conversions::Wait(const QString& key, Use use) {
-  const auto found = results_.find(key);
-  if (found != results_.end() && found->files) {
-    use(*found->files);
-    return false;
+std::optional<fs::path> Conversions::Wait(const QString& key, Use use) {
+  Result& result = results_[key];
+  if (result.files) {
+    use(Files(*result.files));
+    return std::nullopt;
   }
-  const bool first = found == results_.end();
-  results_[key].waiting.push_back(std::move(use));
-  return first;
+  const bool first = result.waiting.empty();
+  result.waiting.push_back(std::move(use));
+  if (!first) return std::nullopt;
+  result.folder = folder_.New();
+  if (!result.folder.empty()) return result.folder;
+  Complete(key, {});
+  return std::nullopt;
 }
 
 void Conversions::Complete(const QString& key, const Files& files) {
   Result& result = results_[key];
   result.files = files;
+  if (files.empty()) RemoveFolder(result.folder);
   const std::vector<Use> waiting = std::exchange(result.waiting, {});
   for (const Use& use : waiting) use(files);
-}
-
-fs::path Conversions::NewFolder() {
-  fs::path folder = fs::path(folder_.path().toStdString()) / std::to_string(++folders_);
-  std::error_code ignored;
-  fs::create_directory(folder, ignored);
-  return folder;
 }
 
 }  // namespace quorvantis

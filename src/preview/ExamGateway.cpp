@@ -3,6 +3,7 @@
 
 #include "preview/AttachedText.h"
 #include "preview/FileKind.h"
+#include "preview/MissingProgram.h"
 #include "preview/PageAddress.h"
 #include "preview/Replies.h"
 #include "preview/SourceEscapes.h"
@@ -39,8 +40,11 @@ QByteArray TextFilePage(const fs::path& file, const PreviewTexts& texts) {
 
 }  // namespace
 
-ExamGateway::ExamGateway(GatewaySetup setup)
-    : setup_(std::move(setup)), files_(setup_.applicationFolder), conversions_(setup_.programs) {}
+ExamGateway::ExamGateway(GatewaySetup setup, RequestGuard& guard)
+    : setup_(std::move(setup)),
+      guard_(guard),
+      files_(setup_.applicationFolder),
+      conversions_(setup_.programs, setup_.applicationFolder) {}
 
 void ExamGateway::SetPage(const fs::path& page) {
   files_.SetPageFolder(page.parent_path());
@@ -53,22 +57,20 @@ bool ExamGateway::HasFlashPlayer() const {
   return !setup_.flashPlayer.empty() && fs::is_regular_file(setup_.flashPlayer / "ruffle.js", error);
 }
 
-QString ExamGateway::MediaFailureText() const {
-  if (!setup_.programs.media.isEmpty() && !setup_.programs.mediaInfo.isEmpty())
-    return setup_.texts.cannotShow;
-  return setup_.texts.needsProgram.arg("%1", "ffmpeg");
-}
-
 void ExamGateway::requestStarted(Job* job) {
   const QUrl address = job->requestUrl();
+  const bool forFrame = guard_.TakeForFrame(address);
   const std::optional<fs::path> asked = FileOf(address);
   if (!asked || (job->requestMethod() != "GET" && job->requestMethod() != "HEAD")) {
     return job->fail(Job::RequestDenied);
   }
   if (const std::optional<fs::path> own = OwnNameOf(address)) return AnswerOwn(job, *own);
+  if (address.query() == "why") {
+    return ReplyWithBytes(*job, "text/plain; charset=utf-8", WhyNotShown(*asked).toUtf8());
+  }
   if (AnswerPage(job, *asked)) return;
   const std::optional<fs::path> file = files_.Find(*asked);
-  file ? AnswerFile(job, *file) : AnswerMissing(job, *asked);
+  file ? AnswerFile(job, *file, forFrame) : AnswerMissing(job, *asked, forFrame);
 }
 
 /// Names of our own making have no folders but the first; whatever else is asked for there does not exist.
@@ -99,14 +101,30 @@ bool ExamGateway::AnswerPage(Job* job, const fs::path& asked) {
 }
 
 QByteArray ExamGateway::Escaped(const fs::path& page, const std::u16string& text) const {
-  const auto isFile = [&](const fs::path& source) {
-    return files_.Find((page.parent_path() / source).lexically_normal()).has_value();
-  };
-  return QString::fromStdU16String(EscapeSources(text, isFile)).toUtf8();
+  const auto isPlain = [&](const fs::path& source) { return IsPlainName(page, source); };
+  return QString::fromStdU16String(EscapeSources(text, isPlain)).toUtf8();
 }
 
-void ExamGateway::AnswerFile(Job* job, const fs::path& file) {
-  switch (KindOf(file)) {
+/// Whether a source names a file as it is, and not by an address. The writers of pages name attached files
+/// so, by paths that begin with a separator or a work folder; one of them may be missing. A backslash stays
+/// what browsers take it for, a separator.
+bool ExamGateway::IsPlainName(const fs::path& page, const fs::path& source) const {
+  const auto exists = [&](const fs::path& name) {
+    return files_.Find((page.parent_path() / name).lexically_normal()).has_value();
+  };
+  if (exists(source)) return true;
+  const std::string& name = source.native();
+  if (!name.starts_with('/') && !name.starts_with('~')) return false;
+  const QByteArray unescaped = QByteArray::fromPercentEncoding(QByteArray::fromStdString(name));
+  return name.find('\\') == std::string::npos && !exists(unescaped.toStdString());
+}
+
+void ExamGateway::AnswerFile(Job* job, const fs::path& file, bool forFrame) {
+  const FileKind kind = KindOf(file);
+  if (forFrame && (kind == FileKind::Media || kind == FileKind::Flash)) {
+    return ReplyWithPage(*job, EmbedPage(job->requestUrl()));
+  }
+  switch (kind) {
     case FileKind::Page:
     case FileKind::Picture:
       return ReplyWithFile(*job, ContentTypeOf(file), file);
@@ -117,8 +135,7 @@ void ExamGateway::AnswerFile(Job* job, const fs::path& file) {
     case FileKind::Media:
       return AnswerMedia(job, file);
     case FileKind::Flash:
-      if (HasFlashPlayer()) return ReplyWithFile(*job, ContentTypeOf(file), file);
-      return ReplyWithPage(*job, NoticePage(setup_.texts.needsProgram.arg(NameOf(file), "Ruffle")));
+      return ReplyWithFile(*job, ContentTypeOf(file), file);
     case FileKind::Other:
       return ReplyWithPage(*job, NoticePage(setup_.texts.cannotShow.arg(NameOf(file))));
   }
@@ -142,16 +159,7 @@ void ExamGateway::AnswerDocument(Job* job, const fs::path& document) {
 }
 
 QByteArray ExamGateway::DocumentPage(const fs::path& document, const Conversions::Files& pictures) const {
-  const ConverterPrograms& programs = setup_.programs;
-  if (pictures.empty()) {
-    if (programs.office.isEmpty()) {
-      return NoticePage(setup_.texts.needsProgram.arg(NameOf(document), "LibreOffice"));
-    }
-    if (programs.pdfImages.isEmpty()) {
-      return NoticePage(setup_.texts.needsProgram.arg(NameOf(document), "poppler-utils"));
-    }
-    return NoticePage(setup_.texts.cannotShow.arg(NameOf(document)));
-  }
+  if (pictures.empty()) return NoticePage(WhyNotShown(document));
   QList<QUrl> addresses;
   for (const fs::path& picture : pictures) {
     addresses.push_back(OwnAddress(kPictureFolder + ("/" + PictureName(picture).toStdString())));
@@ -170,11 +178,18 @@ void ExamGateway::AnswerMedia(Job* job, const fs::path& media) {
   });
 }
 
-/// A frame must not stay empty, so what belongs into a frame is answered with a page.
-void ExamGateway::AnswerMissing(Job* job, const fs::path& asked) {
-  const FileKind kind = KindOf(asked);
-  if (kind != FileKind::Document && kind != FileKind::Text) return job->fail(Job::UrlNotFound);
-  ReplyWithPage(*job, NoticePage(setup_.texts.notFound.arg(NameOf(asked))));
+/// A frame must not stay empty, so it is answered with a page.
+void ExamGateway::AnswerMissing(Job* job, const fs::path& asked, bool forFrame) {
+  forFrame ? ReplyWithPage(*job, NoticePage(WhyNotShown(asked))) : job->fail(Job::UrlNotFound);
+}
+
+/// What stands in the place of a file that does not appear. Empty for a clip that a player is there for.
+QString ExamGateway::WhyNotShown(const fs::path& asked) const {
+  const std::optional<fs::path> file = files_.Find(asked);
+  if (!file) return setup_.texts.notFound.arg(NameOf(asked));
+  const QString program = MissingProgram(*file, setup_.programs, HasFlashPlayer());
+  if (!program.isEmpty()) return setup_.texts.needsProgram.arg(NameOf(asked), program);
+  return KindOf(*file) == FileKind::Flash ? QString() : setup_.texts.cannotShow.arg(NameOf(asked));
 }
 
 }  // namespace quorvantis

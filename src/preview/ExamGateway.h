@@ -3,6 +3,7 @@
 
 #include "preview/Conversions.h"
 #include "preview/FramePages.h"
+#include "preview/RequestGuard.h"
 #include "preview/ServedFiles.h"
 #include "render/ComposedPages.h"
 
@@ -28,7 +29,8 @@ struct GatewaySetup {
 /// texts excepted.
 class ExamGateway : public QWebEngineUrlSchemeHandler {
  public:
-  explicit ExamGateway(GatewaySetup setup);
+  /// `guard` must outlive the gateway.
+  ExamGateway(GatewaySetup setup, RequestGuard& guard);
 
   /// Names the attached files that lie outside of the work folders, by full path; see `ServedFiles`.
   void SetAttachedFiles(const std::vector<std::filesystem::path>& files) { files_.SetAttached(files); }
@@ -44,10 +46,8 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
 
   const Conversions& Documents() const { return conversions_; }
 
-  bool HasFlashPlayer() const;
-
-  /// Why a media file that does not play could not be converted, for the page; %1 is the file's name.
-  QString MediaFailureText() const;
+  /// The page that was shown is gone, and nobody waits for its files any more.
+  void StopConversions() { conversions_.StopUnfinished(); }
 
   void requestStarted(QWebEngineUrlRequestJob* job) override;
 
@@ -56,14 +56,18 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
 
   void AnswerOwn(Job* job, const std::filesystem::path& name);
   bool AnswerPage(Job* job, const std::filesystem::path& asked);
-  void AnswerFile(Job* job, const std::filesystem::path& file);
+  void AnswerFile(Job* job, const std::filesystem::path& file, bool forFrame);
   void AnswerDocument(Job* job, const std::filesystem::path& document);
   void AnswerMedia(Job* job, const std::filesystem::path& media);
-  void AnswerMissing(Job* job, const std::filesystem::path& asked);
+  void AnswerMissing(Job* job, const std::filesystem::path& asked, bool forFrame);
+  bool HasFlashPlayer() const;
+  QString WhyNotShown(const std::filesystem::path& asked) const;
   QByteArray DocumentPage(const std::filesystem::path& document, const Conversions::Files& pictures) const;
   QByteArray Escaped(const std::filesystem::path& page, const std::u16string& text) const;
+  bool IsPlainName(const std::filesystem::path& page, const std::filesystem::path& source) const;
 
   GatewaySetup setup_;
+  RequestGuard& guard_;
   ServedFiles files_;
   Conversions conversions_;
   QHash<QString, std::filesystem::path> pictures_;  ///< of document pages, by their own address's name

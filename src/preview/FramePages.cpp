@@ -45,6 +45,10 @@ QByteArray PicturesPage(const QList<QUrl>& pictures, const QString& remark) {
   return Page(body + Notice(remark));
 }
 
+QByteArray EmbedPage(const QUrl& file) {
+  return Page("<embed src=\"" + file.toString(QUrl::FullyEncoded).toHtmlEscaped() + "\">");
+}
+
 QByteArray TextPage(const QString& text, const QString& remark) {
   return Page("<pre>" + text.toHtmlEscaped() + "</pre>" + Notice(remark));
 }

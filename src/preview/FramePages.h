@@ -9,14 +9,14 @@
 
 namespace quorvantis {
 
-/// What these pages say; %1 is the name of the file.
+/// What these pages say; %1 is the name of the file, if not told otherwise.
 struct PreviewTexts {
-  QString preparing = QStringLiteral("Preparing %1…");
-  QString cannotShow = QStringLiteral("%1 cannot be shown here.");
-  QString notFound = QStringLiteral("%1 is missing.");
-  QString needsProgram = QStringLiteral("%1 cannot be shown, because %2 is not installed.");
-  QString onlyFirstPages = QStringLiteral("Only the first %1 pages are shown.");
-  QString onlyBeginning = QStringLiteral("Only the beginning is shown.");
+  QString preparing;
+  QString cannotShow;
+  QString notFound;
+  QString needsProgram;    ///< %2 is the program
+  QString onlyFirstPages;  ///< %1 is a number
+  QString onlyBeginning;   ///< no name
 };
 
 /// One line of text in a box, for example why a file is not shown.
@@ -27,6 +27,9 @@ QByteArray WaitingPage(const QString& text);
 
 /// Pictures one below the other, and `remark` under them if there is one.
 QByteArray PicturesPage(const QList<QUrl>& pictures, const QString& remark);
+
+/// An embedded file by itself, for the page scripts to show.
+QByteArray EmbedPage(const QUrl& file);
 
 /// Lines of plain text, and `remark` under them if there is one.
 QByteArray TextPage(const QString& text, const QString& remark);

@@ -25,11 +25,9 @@ QString Script(const char* name) {
 }  // namespace
 
 QWebEngineScript PageScript(const PageScriptSetup& setup) {
-  const QJsonObject host{{"hasFlash", setup.hasFlashPlayer},
-                         {"flashFolder", OwnAddress("flash/").toString()},
+  const QJsonObject host{{"flashFolder", OwnAddress("flash/").toString()},
                          {"preparing", setup.preparing},
-                         {"mediaFailure", setup.mediaFailure},
-                         {"flashFailure", setup.flashFailure}};
+                         {"cannotShow", setup.cannotShow}};
   const QString values = QString::fromUtf8(QJsonDocument(host).toJson(QJsonDocument::Compact));
   QWebEngineScript script;
   script.setInjectionPoint(QWebEngineScript::DocumentCreation);

@@ -9,10 +9,8 @@ namespace quorvantis {
 
 /// What the page scripts have to know.
 struct PageScriptSetup {
-  bool hasFlashPlayer = false;
   QString preparing;  ///< notices; %1 is the name of the file
-  QString mediaFailure;
-  QString flashFailure;
+  QString cannotShow;
 };
 
 /// Runs in every frame before the page does anything: brings the status line, of which the host is told by

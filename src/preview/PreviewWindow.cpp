@@ -58,7 +58,14 @@ PreviewWindow::PreviewWindow(QWebEngineProfile& profile, ExamGateway& gateway, P
           [this](const QString& text) { session_.StatusTextChanged(text.toStdU16String()); });
   auto* const print = new QShortcut(QKeySequence::Print, this);
   connect(print, &QShortcut::activated, this, [this] { session_.PrintByKeystroke(); });
+  connect(&printer_, &PagePrinter::Printed, this, [this] {
+    if (!IsOnScreen()) gateway_.StopConversions();
+  });
   qApp->installEventFilter(this);
+}
+
+PreviewWindow::~PreviewWindow() {
+  gateway_.StopConversions();
 }
 
 /// Seen before the browser sees it, which would give the key to the page. While the preview covers the
@@ -77,7 +84,7 @@ void PreviewWindow::closeEvent(QCloseEvent* event) {
 
 void PreviewWindow::Navigate(const std::filesystem::path& page) {
   if (view_.page() != &page_) view_.setPage(&page_);
-  if (!page.empty()) gateway_.SetPage(page);
+  page.empty() ? gateway_.StopConversions() : gateway_.SetPage(page);
   page_.Go(page.empty() ? QUrl(kBlankPage) : AddressOf(page));
 }
 

@@ -20,9 +20,11 @@ class PreviewWindow : public QWidget, private BrowserControl, private Timers {
   Q_OBJECT
 
  public:
-  /// All must outlive the window. `ask` chooses the printer; the user does where it is empty.
+  /// All must outlive the window. `ask` chooses the printer; the user does where it is empty. Conversions for
+  /// its pages end with them.
   PreviewWindow(QWebEngineProfile& profile, ExamGateway& gateway, PreviewOwner& owner,
                 const std::filesystem::path& applicationFolder, PagePrinter::AskForPrinter ask = {});
+  ~PreviewWindow() override;
 
   PreviewSession& Session() { return session_; }
   PagePrinter& Printer() { return printer_; }

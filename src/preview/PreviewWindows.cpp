@@ -13,12 +13,10 @@ namespace quorvantis {
 
 /// What all windows share. The profile has no name and therefore keeps nothing on the disk.
 struct PreviewWindows::Browser {
-  explicit Browser(const GatewaySetup& setup) : gateway(setup) {
+  explicit Browser(const GatewaySetup& setup) : gateway(setup, guard) {
     profile.setUrlRequestInterceptor(&guard);
     profile.installUrlSchemeHandler(QByteArray(kExamScheme.data()), &gateway);
-    profile.scripts()->insert(
-        PageScript({gateway.HasFlashPlayer(), setup.texts.preparing, gateway.MediaFailureText(),
-                    setup.texts.needsProgram.arg("%1", "Ruffle")}));
+    profile.scripts()->insert(PageScript({setup.texts.preparing, setup.texts.cannotShow}));
   }
 
   RequestGuard guard;

@@ -6,7 +6,15 @@
 namespace quorvantis {
 
 void RequestGuard::interceptRequest(QWebEngineUrlRequestInfo& info) {
-  if (!StaysInside(info.requestUrl())) info.block(true);
+  if (!StaysInside(info.requestUrl())) return info.block(true);
+  const bool forFrame = info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeSubFrame;
+  if (forFrame && info.requestUrl().scheme() == kExamScheme) {
+    forFrames_.insert(info.requestUrl().adjusted(QUrl::RemoveFragment));
+  }
+}
+
+bool RequestGuard::TakeForFrame(const QUrl& address) {
+  return forFrames_.remove(address.adjusted(QUrl::RemoveFragment));
 }
 
 bool RequestGuard::StaysInside(const QUrl& address) {

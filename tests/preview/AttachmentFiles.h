@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QString>
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -58,6 +59,20 @@ inline std::string PlayerScript(const std::string& source, int autostart = 0) {
          "\\\" autostart=\\\"" + std::to_string(autostart) +
          "\\\" width=\\\"320\\\" ShowStatusBar=\\\"1\\\">\";\r\n    document.getElementById(\"" + id +
          "\").innerHTML = firefoxHtml;\r\n</script>";
+}
+
+/// What pages hold for an attached file, by its name.
+inline std::string ItemOf(const std::string& source) {
+  const std::string extension = source.substr(source.rfind('.') + 1);
+  const auto isOneOf = [&](const char* names) {
+    return std::string(names).find(extension + ' ') != std::string::npos;
+  };
+  if (isOneOf("jpg bmp ")) return "<img src=\"" + source + "\" ></img><br>";
+  if (isOneOf("doc ppt pptx xls txt ")) {
+    return "<iframe width=690 height=60 src=\"" + source + "\" ></iframe><br>";
+  }
+  if (isOneOf("swf ")) return "<div><embed src=\"" + source + "\" width=\"650\" height=\"400\"></div><br>";
+  return PlayerScript(source);
 }
 
 }  // namespace quorvantis::test

@@ -68,6 +68,7 @@ TEST_F(ClosingTest, EscapeLeavesAPageThatNeverEnds) {
   QTest::qWait(500);
   PressEscape();
   EXPECT_TRUE(Closes());
+  EXPECT_EQ(Page().lifecycleState(), QWebEnginePage::LifecycleState::Discarded) << "its scripts run on";
   Preview(Compose("SEE.htm", "the next preview"));
   EXPECT_EQ(Evaluate("document.body.innerText.trim()").toString(), "the next preview");
 }

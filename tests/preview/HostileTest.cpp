@@ -170,6 +170,19 @@ TEST_F(HostileTest, DoesNotLeaveThePreviewByNavigation) {
   EXPECT_TRUE(Window().isVisible());
 }
 
+TEST_F(HostileTest, IsFetchedBackThreeTimesAndThenStaysBlank) {
+  int loads = 0;
+  Windows().Warm();
+  QObject::connect(&Page(), &QWebEnginePage::loadFinished,
+                   [&] { loads += Page().url().fileName() == "SEE.htm"; });
+  Windows().Window()->Session().ShowPreview(
+      Compose("SEE.htm", "x<script>setTimeout(() => { location = 'about:blank' }, 100)</script>"));
+  EXPECT_TRUE(WaitFor([&] { return loads == 4; }));
+  QTest::qWait(700);
+  EXPECT_EQ(loads, 4);
+  EXPECT_EQ(Page().url(), QUrl("about:blank"));
+}
+
 TEST_F(HostileTest, QuestionsToTheUserAreNotAsked) {
   Preview(Compose("SEE.htm", "x"));
   EXPECT_EQ(Evaluate("alert('a'); String(confirm('b')) + prompt('c') + open('SEE.htm')").toString(),

@@ -42,7 +42,7 @@ class PreviewTest : public testing::Test {
   }
 
   PreviewWindows& Windows() {
-    if (!windows) windows.emplace(GatewaySetup{app, pages, flashPlayer, programs, {}}, owner);
+    if (!windows) windows.emplace(GatewaySetup{app, pages, flashPlayer, programs, texts}, owner);
     return *windows;
   }
 
@@ -101,6 +101,8 @@ class PreviewTest : public testing::Test {
   CountingOwner owner;
   ConverterPrograms programs = ConverterPrograms::Find();
   std::filesystem::path flashPlayer;
+  PreviewTexts texts{"Preparing %1", "%1 cannot appear", "%1 is gone",
+                     "%1 needs %2",  "First %1",         "Beginning"};
   std::optional<PreviewWindows> windows;
 };
 

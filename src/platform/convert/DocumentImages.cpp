@@ -20,6 +20,9 @@ namespace fs = std::filesystem;
 
 constexpr int kDotsPerInch = 120;  // sharp on the screen, legible on paper
 constexpr qint64 kHeadBytes = 8;
+constexpr int kLanes = 2;
+constexpr std::chrono::seconds kLongestConversion{30};
+constexpr std::chrono::seconds kLongestDrawing{60};
 
 QString Text(const fs::path& path) {
   return QFile::decodeName(path.c_str());
@@ -28,6 +31,15 @@ QString Text(const fs::path& path) {
 QByteArray Head(const fs::path& file) {
   QFile in(file);
   return in.open(QIODevice::ReadOnly) ? in.read(kHeadBytes) : QByteArray();
+}
+
+fs::path PdfOf(const fs::path& folder) {
+  return folder / "document.pdf";
+}
+
+bool IsFile(const fs::path& path) {
+  std::error_code error;
+  return fs::is_regular_file(path, error);
 }
 
 /// pdftoppm pads the page numbers to one width, so the order of the names is that of the pages.
@@ -43,74 +55,81 @@ std::vector<fs::path> PagesIn(const fs::path& folder) {
 
 }  // namespace
 
-DocumentImages::DocumentImages(ConverterPrograms programs) : programs_(std::move(programs)) {
-  WriteOfficeProfile(profile_.path().toStdString());
-}
+DocumentImages::DocumentImages(ConverterPrograms programs, fs::path folder)
+    : programs_(std::move(programs)), folder_(std::move(folder)), office_(kLanes), drawing_(kLanes) {}
 
 void DocumentImages::Make(const fs::path& document, const QString& extension, const fs::path& folder,
                           Done done) {
-  jobs_.push_back({document, extension, folder, std::move(done), {}});
-  if (jobs_.size() == 1) StartNext();
+  auto job = std::make_shared<Job>(Job{document, extension, folder, std::move(done), {}});
+  Later(*this, {}, [this, job = std::move(job)] { Begin(job); });
 }
 
-void DocumentImages::StartNext() {
-  Later(*this, {}, [this] { Begin(); });
-}
-
-void DocumentImages::Begin() {
-  Job& job = jobs_.front();
-  if (programs_.pdfImages.isEmpty()) return Finish({});
-  const QByteArray head = Head(job.document);
-  if (job.extension == "pdf") {
-    return head.startsWith("%PDF") ? DrawPages(job.document) : Finish({});
+void DocumentImages::Begin(const SharedJob& job) {
+  if (programs_.pdfImages.isEmpty()) return job->done({});
+  const QByteArray head = Head(job->document);
+  if (job->extension == "pdf") {
+    return head.startsWith("%PDF") ? DrawPages(job, job->document) : job->done({});
   }
-  job.filters = ImportFilters(job.extension, head);
-  // A copy with a plain name: LibreOffice fails on some names and leaves lock files beside the original.
-  std::error_code error;
-  fs::copy_file(job.document, job.folder / ("document." + job.extension.toStdString()), error);
-  if (error) return Finish({});
-  TryNextFilter();
+  job->filters = ImportFilters(job->extension, head);
+  if (programs_.office.isEmpty() || job->filters.isEmpty()) return job->done({});
+  office_.Add([this, job](int lane) {
+    // LibreOffice fails on some names. Through a link it reads the original and leaves nothing beside it.
+    std::error_code error;
+    fs::create_symlink(job->document, job->folder / ("document." + job->extension.toStdString()), error);
+    if (error) job->filters.clear();
+    TryNextFilter(job, lane);
+  });
 }
 
-void DocumentImages::TryNextFilter() {
-  Job& job = jobs_.front();
-  if (programs_.office.isEmpty() || job.filters.isEmpty()) return Finish({});
-  const QString filter = job.filters.takeFirst();
-  const QStringList arguments{"-env:UserInstallation=" + QUrl::fromLocalFile(profile_.path()).toString(),
+void DocumentImages::TryNextFilter(const SharedJob& job, int lane) {
+  if (job->filters.isEmpty()) return LeaveOffice(job, lane);
+  WriteOfficeProfile(Profile(lane));
+  const QString filter = job->filters.takeFirst();
+  const QStringList arguments{"-env:UserInstallation=" + QUrl::fromLocalFile(Text(Profile(lane))).toString(),
                               "--headless",
                               "--norestore",
                               "--infilter=" + filter,
                               "--convert-to",
                               "pdf",
                               "--outdir",
-                              Text(job.folder),
-                              Text(job.folder / "document.") + job.extension};
-  RunProgram(*this, {programs_.office, arguments}, [this](bool, const QByteArray&) {
-    // The exit code says success even where nothing could be read; only the file tells.
-    const fs::path pdf = jobs_.front().folder / "document.pdf";
-    std::error_code error;
-    fs::exists(pdf, error) ? DrawPages(pdf) : TryNextFilter();
+                              Text(job->folder),
+                              Text(job->folder / "document.") + job->extension};
+  const ProgramOrder order{programs_.office, arguments, kLongestConversion, {}, Text(job->folder)};
+  RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
+    // One that hung or crashed would do so again. The exit code says success even where nothing could be
+    // read; only the file tells.
+    if (!ended || IsFile(PdfOf(job->folder))) job->filters.clear();
+    TryNextFilter(job, lane);
   });
 }
 
-void DocumentImages::DrawPages(const fs::path& pdf) {
-  const fs::path folder = jobs_.front().folder;
+/// The next document need not wait for the pictures of this one.
+void DocumentImages::LeaveOffice(const SharedJob& job, int lane) {
+  office_.Leave(lane);
+  const fs::path pdf = PdfOf(job->folder);
+  IsFile(pdf) ? DrawPages(job, pdf) : job->done({});
+}
+
+void DocumentImages::DrawPages(const SharedJob& job, const fs::path& pdf) {
   const QStringList arguments{"-png",
                               "-r",
                               QString::number(kDotsPerInch),
                               "-l",
                               QString::number(kMostPages),
                               Text(pdf),
-                              Text(folder / "page")};
-  RunProgram(*this, {programs_.pdfImages, arguments},
-             [this, folder](bool, const QByteArray&) { Finish(PagesIn(folder)); });
+                              Text(job->folder / "page")};
+  drawing_.Add([this, job, order = ProgramOrder{programs_.pdfImages, arguments, kLongestDrawing}](int lane) {
+    RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
+      drawing_.Leave(lane);
+      std::vector<fs::path> pages = PagesIn(job->folder);
+      if (!ended && !pages.empty()) pages.pop_back();  // the one that was being drawn
+      job->done(pages);
+    });
+  });
 }
 
-void DocumentImages::Finish(const std::vector<fs::path>& pages) {
-  const Job job = std::move(jobs_.front());
-  jobs_.pop_front();
-  if (!jobs_.empty()) StartNext();
-  job.done(pages);
+fs::path DocumentImages::Profile(int lane) const {
+  return folder_ / std::to_string(lane);
 }
 
 }  // namespace quorvantis

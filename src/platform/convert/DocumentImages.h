@@ -2,21 +2,21 @@
 #pragma once
 
 #include "platform/convert/ConverterPrograms.h"
+#include "platform/convert/JobQueue.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
-#include <deque>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace quorvantis {
 
-/// Turns office documents and PDF files into pictures of their pages, in the background and one after the
-/// other: two LibreOffice processes cannot share a profile.
+/// Turns office documents and PDF files into pictures of their pages, in the background and a few at a time.
+/// Two LibreOffice processes cannot share a profile: each lane has one of its own.
 class DocumentImages : public QObject {
  public:
   /// The pictures in page order; none when the document could not be converted.
@@ -25,7 +25,8 @@ class DocumentImages : public QObject {
   /// Of a longer document only so many pages are made.
   static constexpr int kMostPages = 100;
 
-  explicit DocumentImages(ConverterPrograms programs);
+  /// The existing `folder` is for the profiles of LibreOffice and must be this object's own.
+  DocumentImages(ConverterPrograms programs, std::filesystem::path folder);
 
   /// Converts `document`, whose lower-case extension is `extension`, into the existing, empty `folder`.
   /// `done` is called once, later, unless this object has gone by then.
@@ -40,16 +41,18 @@ class DocumentImages : public QObject {
     Done done;
     QStringList filters;  ///< still to try
   };
+  using SharedJob = std::shared_ptr<Job>;  ///< what waits for programs holds it
 
-  void StartNext();
-  void Begin();
-  void TryNextFilter();
-  void DrawPages(const std::filesystem::path& pdf);
-  void Finish(const std::vector<std::filesystem::path>& pages);
+  void Begin(const SharedJob& job);
+  void TryNextFilter(const SharedJob& job, int lane);
+  void LeaveOffice(const SharedJob& job, int lane);
+  void DrawPages(const SharedJob& job, const std::filesystem::path& pdf);
+  std::filesystem::path Profile(int lane) const;
 
-  ConverterPrograms programs_;
-  QTemporaryDir profile_;
-  std::deque<Job> jobs_;  ///< the first one is at work
+  const ConverterPrograms programs_;
+  const std::filesystem::path folder_;
+  JobQueue office_;
+  JobQueue drawing_;
 };
 
 }  // namespace quorvantis

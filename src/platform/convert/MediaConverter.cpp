@@ -13,7 +13,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::chrono::minutes kLongestConversion{10};
+constexpr int kLooksAtATime = 4;
+constexpr int kConversionsAtATime = 2;
+
+/// A whole film takes its time; a clip that cannot be converted shows that by standing still.
+constexpr std::chrono::minutes kLongestConversion{30};
+constexpr std::chrono::seconds kLongestStandstill{20};
+constexpr char kProgressMark[] = "out_time_us=";  // how much of the result is there, in microseconds
 
 QString Text(const fs::path& path) {
   return QFile::decodeName(path.c_str());
@@ -25,8 +31,8 @@ QString Input(const fs::path& media) {
 }
 
 QStringList ConversionArguments(const fs::path& media, const fs::path& result, bool hasPicture) {
-  QStringList arguments{"-nostdin",   "-v",  "error", "-protocol_whitelist", "file", "-i",
-                        Input(media), "-sn", "-dn"};
+  QStringList arguments{"-nostdin", "-v", "error",      "-progress", "pipe:1", "-protocol_whitelist",
+                        "file",     "-i", Input(media), "-sn",       "-dn"};
   if (hasPicture) {
     arguments << "-c:v"
               << "libx264"
@@ -37,9 +43,7 @@ QStringList ConversionArguments(const fs::path& media, const fs::path& result, b
     arguments << "-vf"
               << "scale=trunc(iw/2)*2:trunc(ih/2)*2";  // the codec takes even sizes only
     arguments << "-c:a"
-              << "aac"
-              << "-movflags"
-              << "+faststart";
+              << "aac";
   } else {
     arguments << "-vn"
               << "-c:a"
@@ -50,38 +54,40 @@ QStringList ConversionArguments(const fs::path& media, const fs::path& result, b
 
 }  // namespace
 
+MediaConverter::MediaConverter(ConverterPrograms programs)
+    : programs_(std::move(programs)), looks_(kLooksAtATime), conversions_(kConversionsAtATime) {}
+
 void MediaConverter::Make(const fs::path& media, const fs::path& folder, Done done) {
   if (programs_.mediaInfo.isEmpty()) {
     Later(*this, {}, [media, done = std::move(done)] { done(media); });
     return;
   }
-  RunProgram(*this, {programs_.mediaInfo, MediaReportArguments() << Input(media)},
-             [this, media, folder, done = std::move(done)](bool, const QByteArray& report) {
-               Judge(media, folder, ParseMediaFormat(report), done);
-             });
+  looks_.Add([this, media, folder, done = std::move(done)](int lane) {
+    RunProgram(*this, {programs_.mediaInfo, MediaReportArguments() << Input(media)},
+               [this, lane, media, folder, done](bool, const QByteArray& report) {
+                 looks_.Leave(lane);
+                 Judge(media, folder, ParseMediaFormat(report), done);
+               });
+  });
 }
 
 void MediaConverter::Judge(const fs::path& media, const fs::path& folder, const MediaFormat& format,
-                           Done done) {
+                           const Done& done) {
   if (format.playable) return done(media);
   if (!format.known || programs_.media.isEmpty()) return done({});
-  jobs_.push_back(
-      {media, folder / (format.hasPicture ? "media.mp4" : "media.webm"), format.hasPicture, std::move(done)});
-  if (jobs_.size() == 1) StartNext();
+  Convert(media, folder / (format.hasPicture ? "media.mp4" : "media.webm"), format, done);
 }
 
-void MediaConverter::StartNext() {
-  const Job& job = jobs_.front();
-  const QStringList arguments = ConversionArguments(job.media, job.result, job.hasPicture);
-  RunProgram(*this, {programs_.media, arguments, kLongestConversion},
-             [this](bool succeeded, const QByteArray&) { Finish(succeeded); });
-}
-
-void MediaConverter::Finish(bool succeeded) {
-  const Job job = std::move(jobs_.front());
-  jobs_.pop_front();
-  if (!jobs_.empty()) StartNext();
-  job.done(succeeded ? job.result : fs::path());
+void MediaConverter::Convert(const fs::path& media, const fs::path& result, const MediaFormat& format,
+                             const Done& done) {
+  const ProgramOrder order{programs_.media, ConversionArguments(media, result, format.hasPicture),
+                           kLongestConversion, ProgressSigns{kProgressMark, kLongestStandstill}};
+  conversions_.Add([this, order, result, done](int lane) {
+    RunProgram(*this, order, [this, lane, result, done](bool succeeded, const QByteArray&) {
+      conversions_.Leave(lane);
+      done(succeeded ? result : fs::path());
+    });
+  });
 }
 
 }  // namespace quorvantis

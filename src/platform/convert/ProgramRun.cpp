@@ -4,9 +4,11 @@
 #include "platform/convert/Later.h"
 
 #include <QProcess>
+#include <QTimer>
 
 #include <csignal>
 #include <memory>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 #include <utility>
@@ -20,6 +22,7 @@ constexpr rlim_t kLargestFile = rlim_t{4} << 30;  // what a crafted input could 
 /// Runs between fork and exec, where only async-signal-safe calls are allowed.
 void PrepareChild() {
   ::setsid();
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);  // if this program is killed, which ends no process group
   const rlimit largest{kLargestFile, kLargestFile};
   ::setrlimit(RLIMIT_FSIZE, &largest);
   ::setpriority(PRIO_PROCESS, 0, kLowPriority);
@@ -45,6 +48,29 @@ class GroupProcess : public QProcess {
   void KillGroup() {
     if (processId() > 0) ::kill(-static_cast<pid_t>(processId()), SIGKILL);
   }
+
+  void UseTemporaryFolder(const QString& folder) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("TMPDIR", folder);
+    setProcessEnvironment(environment);
+  }
+
+  /// Kills the group when it shows no sign of progress any more.
+  void Watch(const ProgressSigns& signs) {
+    auto* const patience = new QTimer(this);
+    patience->setSingleShot(true);
+    connect(patience, &QTimer::timeout, this, &GroupProcess::KillGroup);
+    connect(this, &QProcess::started, patience, [patience, signs] { patience->start(signs.patience); });
+    connect(this, &QProcess::readyReadStandardOutput, patience,
+            [this, patience, mark = signs.mark, last = QByteArray()]() mutable {
+              while (canReadLine()) {
+                QByteArray line = readLine();
+                if (!line.startsWith(mark) || line == last) continue;
+                last = std::move(line);
+                patience->start();
+              }
+            });
+  }
 };
 
 }  // namespace
@@ -66,6 +92,8 @@ void RunProgram(QObject& owner, const ProgramOrder& order, ProgramDone done) {
     Later(*process, {}, [report] { report(false); });
     return;
   }
+  if (order.progress) process->Watch(*order.progress);
+  if (!order.temporaryFolder.isEmpty()) process->UseTemporaryFolder(order.temporaryFolder);
   Later(*process, order.limit, [process] { process->KillGroup(); });
   // A program that cannot be started reports that from inside start(), which the caller would not expect.
   Later(*process, {}, [process, order] { process->start(order.program, order.arguments); });

@@ -8,14 +8,24 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace quorvantis {
+
+/// How a program that works for long shows that it comes forward: by lines of its output that begin with
+/// `mark` and are never the same twice running.
+struct ProgressSigns {
+  QByteArray mark;
+  std::chrono::milliseconds patience;  ///< the longest time without a sign
+};
 
 /// Another program and what it is told; no shell is in between.
 struct ProgramOrder {
   QString program;  ///< full path; empty where the program is not installed
   QStringList arguments;
   std::chrono::milliseconds limit{30'000};
+  std::optional<ProgressSigns> progress{};  ///< where given, the output is read for it and not reported
+  QString temporaryFolder{};                ///< for its temporary files; empty for the usual one
 };
 
 /// `succeeded`: the program ended by itself within its time and reported success. `output` is its standard

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Puts elements that this browser shows in the place of <embed> elements, which it leaves blank for most of the
-// files that exams have. `host` tells what the program offers.
+// files that exams have, and notices in the place of pictures that do not appear. `host` has texts and places.
 (function (host) {
   'use strict';
   const sounds = ['mp3', 'wav', 'wma', 'm4a', 'aac', 'aiff', 'amr', 'opus', 'flac', 'ogg', 'au'];
   const films = ['mpg', 'mpeg', 'dat', 'asf', 'avi', 'wmv', 'mp4', 'webm', 'flv', 'mov', 'm4v', 'mkv', '3gp', 'rm'];
   const pictures = ['jpg', 'jpeg', 'gif', 'bmp', 'png', 'webp', 'svg'];
+  const documents = [
+    'doc', 'docx', 'rtf', 'odt', 'ppt', 'pptx', 'odp', 'xls', 'xlsx', 'ods', 'pdf', 'txt', 'htm', 'html',
+  ];
+  const HostRequest = window.XMLHttpRequest;  // the page may put something else there
 
   function nameOf(source) {
     const path = source.split(/[?#]/)[0].replace(/\\|%5c/gi, '/');
@@ -22,12 +26,35 @@
     return dot < 0 ? '' : name.substring(dot + 1).toLowerCase();
   }
 
-  function notice(text, name) {
+  function filled(text, name) {
+    return text.replace('%1', () => name);
+  }
+
+  function notice(text) {
     const box = document.createElement('div');
     box.style.cssText = 'box-sizing:border-box;max-width:650px;padding:12px;border:1px dashed #999;color:#444;' +
         'background:#f6f6f6;font:14px sans-serif;overflow-wrap:anywhere';
-    box.textContent = text.replace('%1', () => name);
+    box.textContent = text;
     return box;
+  }
+
+  // Calls `use` with a text that says why a file does not appear; an empty one where nothing is in its way.
+  function askWhy(source, name, use) {
+    const useUnknown = () => use(filled(host.cannotShow, name));
+    let address;
+    try {
+      address = new URL(source, document.baseURI);
+    } catch (malformed) {
+      return useUnknown();
+    }
+    if (address.protocol !== location.protocol) return useUnknown();
+    address.search = '?why';
+    address.hash = '';
+    const request = new HostRequest();
+    request.open('GET', address.href);
+    request.onload = () => use(request.responseText);
+    request.onerror = useUnknown;
+    request.send();
   }
 
   function player(embed, source, name, isSound) {
@@ -37,7 +64,7 @@
     const start = embed.getAttribute('autostart');
     media.autoplay = start !== null && !['0', 'false', 'no'].includes(start.toLowerCase());
     if (embed.getAttribute('width')) media.style.width = parseInt(embed.getAttribute('width'), 10) + 'px';
-    const preparing = notice(host.preparing, name);
+    const preparing = notice(filled(host.preparing, name));
     const box = document.createElement('div');
     box.append(media);
     const slow = setTimeout(() => box.append(preparing), 700);
@@ -48,7 +75,7 @@
     media.addEventListener('loadedmetadata', stopWaiting);
     media.addEventListener('error', () => {
       stopWaiting();
-      box.replaceChildren(notice(host.mediaFailure, name));
+      askWhy(source, name, text => box.replaceChildren(notice(text)));
     });
     // The page counts as loaded without it: a conversion may take long.
     const begin = () => { media.src = source; };
@@ -71,6 +98,12 @@
     return frame;
   }
 
+  function nothing(source, name) {
+    const box = document.createElement('div');
+    askWhy(source, name, text => box.append(notice(text)));
+    return box;
+  }
+
   // Scripts cannot fetch under the scheme of the pages, but they can request in the old way.
   function bringFetch() {
     const original = window.fetch;
@@ -78,7 +111,7 @@
       const address = new URL(resource instanceof Request ? resource.url : resource, document.baseURI);
       if (address.protocol !== location.protocol) return original.call(window, resource, options);
       return new Promise((resolve, reject) => {
-        const request = new XMLHttpRequest();
+        const request = new HostRequest();
         request.open('GET', address.href);
         request.responseType = 'arraybuffer';
         request.onload = () => {
@@ -105,6 +138,10 @@
     document.documentElement.append(script);
   }
 
+  function replaceFlash(embed, source, name) {
+    askWhy(source, name, text => text === '' ? bringFlash() : embed.replaceWith(notice(text)));
+  }
+
   const seen = new WeakSet();
   function replace(embed) {
     if (seen.has(embed)) return;
@@ -112,13 +149,31 @@
     const source = embed.getAttribute('src') || '';
     const name = nameOf(source);
     const extension = extensionOf(name);
-    if (extension === 'swf' && host.hasFlash) return bringFlash();
-    if (extension === 'swf') embed.replaceWith(notice(host.flashFailure, name));
+    if (extension === 'swf') replaceFlash(embed, source, name);
     else if (pictures.includes(extension)) embed.replaceWith(picture(source));
     else if (sounds.includes(extension)) embed.replaceWith(player(embed, source, name, true));
     else if (films.includes(extension)) embed.replaceWith(player(embed, source, name, false));
-    else embed.replaceWith(frame(source));
+    else if (documents.includes(extension)) embed.replaceWith(frame(source));
+    else embed.replaceWith(nothing(source, name));
   }
+
+  // Paper waits for the answer, see print.js.
+  function replacePicture(image) {
+    const source = image.getAttribute('src') || '';
+    const name = nameOf(source);
+    if (name === '' || /^(data|blob):/i.test(source)) return;
+    image.dataset.quorvantisAsks = '';
+    askWhy(source, name, text => {
+      delete image.dataset.quorvantisAsks;
+      if (image.naturalWidth > 0 || image.getAttribute('src') !== source) return;
+      const box = notice(text);
+      box.style.display = 'inline-block';
+      image.replaceWith(box);
+    });
+  }
+  document.addEventListener('error', event => {
+    if (event.target instanceof HTMLImageElement) replacePicture(event.target);
+  }, true);
 
   // Before the browser has laid out the change that brought them.
   const embeds = document.getElementsByTagName('embed');

@@ -21,5 +21,5 @@
       frame.after(paper);
     }
   }
-  return Array.from(document.images).every(image => image.complete);
+  return Array.from(document.images).every(image => image.complete && !('quorvantisAsks' in image.dataset));
 })()

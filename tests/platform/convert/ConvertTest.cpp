@@ -61,6 +61,21 @@ TEST_F(ConvertTest, AProgramAndItsChildrenEndWhenTheTimeIsOver) {
   EXPECT_TRUE(WaitFor([&] { return ::kill(child, 0) != 0; }, 3000)) << "the child lives";
 }
 
+TEST_F(ConvertTest, AProgramThatComesForwardLivesAndOneThatStandsStillEnds) {
+  QObject owner;
+  const auto run = [&](const char* script) {
+    std::optional<bool> success;
+    ProgramOrder order{"/bin/sh", {"-c", script}};
+    order.progress = ProgressSigns{"at=", std::chrono::milliseconds(700)};
+    RunProgram(owner, order, [&](bool succeeded, const QByteArray&) { success = succeeded; });
+    EXPECT_TRUE(WaitFor([&] { return success.has_value(); }, 8000));
+    return success.value_or(false);
+  };
+  EXPECT_TRUE(run("for n in 1 2 3 4 5; do echo at=$n; sleep 0.4; done"));
+  EXPECT_FALSE(run("for n in 1 2 3 4 5; do echo at=1; echo speed=$n; sleep 0.4; done"));
+  EXPECT_FALSE(run("sleep 60"));
+}
+
 TEST_F(ConvertTest, AProgramEndsWithItsOwnerAndReportsNothing) {
   auto owner = std::make_unique<QObject>();
   bool called = false;
@@ -114,7 +129,7 @@ TEST_F(ConvertTest, EveryKindOfOfficeDocumentHasPages) {
        {"ppt", "pptx"},
        3},
   };
-  DocumentImages images(programs);
+  DocumentImages images(programs, Fresh("office"));
   for (const auto& row : rows) {
     for (const char* extension : row.extensions) {
       ASSERT_TRUE(MakeDocument(row.source, extension));
@@ -143,14 +158,19 @@ TEST_F(ConvertTest, DocumentsFetchNothing) {
 TEST_F(ConvertTest, ConversionsQueueAndDamagedDocumentsDoNotHoldTheRest) {
   if (programs.office.isEmpty() || programs.pdfImages.isEmpty())
     GTEST_SKIP() << "no LibreOffice or poppler-utils";
-  DocumentImages images(programs);
-  std::vector<std::size_t> counts;
-  const auto note = [&](const auto& pages) { counts.push_back(pages.size()); };
-  images.Make(WriteBytes(folder / "a.doc", "\xD0\xCF\x11\xE0 and no more"), "doc", Fresh("a"), note);
-  images.Make(folder / "missing.doc", "doc", Fresh("b"), note);
-  images.Make(WriteBytes(folder / "c c'\".doc", "{\\rtf1 x\\par}"), "doc", Fresh("c"), note);
-  EXPECT_TRUE(WaitFor([&] { return counts.size() == 3; }));
-  EXPECT_EQ(counts, (std::vector<std::size_t>{0, 0, 1}));
+  DocumentImages images(programs, Fresh("office"));
+  std::map<std::string, std::size_t> counts;
+  const auto make = [&](const char* name, const fs::path& document) {
+    images.Make(document, "doc", Fresh(name), [&, name](const auto& pages) { counts[name] = pages.size(); });
+  };
+  make("damaged", WriteBytes(folder / "a.doc", "\xD0\xCF\x11\xE0 and no more"));
+  make("missing", folder / "missing.doc");
+  for (const char* name : {"first", "second", "third"}) {
+    make(name, WriteBytes(folder / (name + std::string(" c'\".doc")), "{\\rtf1 x\\par}"));
+  }
+  EXPECT_TRUE(WaitFor([&] { return counts.size() == 5; }));
+  EXPECT_EQ(counts, (std::map<std::string, std::size_t>{
+                        {"damaged", 0}, {"missing", 0}, {"first", 1}, {"second", 1}, {"third", 1}}));
 }
 
 TEST(OfficeFilters, GoByWhatAFileIsNotByItsName) {

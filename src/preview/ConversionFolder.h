@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTemporaryDir>
+
+#include <filesystem>
+#include <memory>
+
+namespace quorvantis {
+
+/// A folder for what is made of attached files, which only this user can enter; removed with its content at
+/// the end.
+class ConversionFolder {
+ public:
+  /// In the folder for temporary files, or in `otherwise` where that cannot be used.
+  explicit ConversionFolder(const std::filesystem::path& otherwise);
+
+  /// A new, empty folder in it; an empty path when none can be made.
+  std::filesystem::path New();
+
+ private:
+  std::unique_ptr<QTemporaryDir> folder_;
+  int made_ = 0;
+};
+
+}  // namespace quorvantis
