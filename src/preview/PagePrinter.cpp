@@ -56,7 +56,10 @@ void PagePrinter::WaitForPictures(int attempts) {
   page_.runJavaScript(PrintScript(), QWebEngineScript::ApplicationWorld,
                       [held = QPointer(this), attempts](const QVariant& complete) {
                         if (!held) return;
-                        if (complete.toBool() || attempts == 0) return held->AskAndPrint();
+                        if (complete.toBool() || attempts == 0) {
+                          // Not from here: the browser stands still as long as it waits for this function.
+                          return Later(*held, {}, [held] { held->AskAndPrint(); });
+                        }
                         Later(*held, kUntilNextLook,
                               [held, attempts] { held->WaitForPictures(attempts - 1); });
                       });
@@ -67,9 +70,10 @@ void PagePrinter::AskAndPrint() {
   printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setResolution(kDotsPerInch);
   const QPointer<PagePrinter> held(this);
+  const QUrl page = page_.Destination();
   const bool print = ask_(*printer_);
   if (!held) return;  // gone with the window while the dialog was open
-  if (!print) return Finish(false);
+  if (!print || page_.Destination() != page) return Finish(false);
   if (printer_->outputFormat() == QPrinter::PdfFormat) {
     page_.printToPdf(printer_->outputFileName(), printer_->pageLayout(), printer_->pageRanges());
   } else {

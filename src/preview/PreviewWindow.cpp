@@ -7,11 +7,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QPrintDialog>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace quorvantis {
@@ -30,6 +30,15 @@ bool HasDialogInFront(const QWidget& window) {
   const QWidget* const parent = dialog->parentWidget();
   const bool ofAnotherWindow = parent != nullptr && parent->window() != &window;
   return dialog->windowModality() == Qt::ApplicationModal || !ofAnotherWindow;
+}
+
+/// Whether all windows are gone that keep the program running. A preview that stayed open would keep a
+/// program running that nobody sees.
+bool IsProgramEnding() {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  return std::none_of(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->isVisible() && window->testAttribute(Qt::WA_QuitOnClose);
+  });
 }
 
 QRect Screen() {
@@ -78,14 +87,23 @@ bool PreviewWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void PreviewWindow::closeEvent(QCloseEvent* event) {
+  if (IsProgramEnding()) return;
   event->ignore();
   session_.Leave();
 }
 
 void PreviewWindow::Navigate(const std::filesystem::path& page) {
   if (view_.page() != &page_) view_.setPage(&page_);
-  page.empty() ? gateway_.StopConversions() : gateway_.SetPage(page);
+  page.empty() ? LeavePage() : gateway_.SetPage(page);
   page_.Go(page.empty() ? QUrl(kBlankPage) : AddressOf(page));
+}
+
+/// An exam may finish while a dialog asks for the printer of its page.
+void PreviewWindow::LeavePage() {
+  gateway_.StopConversions();
+  if (!printDialog_) return;
+  for (QDialog* const question : printDialog_->findChildren<QDialog*>()) question->reject();
+  printDialog_->reject();
 }
 
 /// A place away from the corner means: out of sight. Screens are larger than they were when that place was
@@ -115,8 +133,11 @@ void PreviewWindow::After(std::chrono::milliseconds delay, std::function<void()>
 }
 
 bool PreviewWindow::AskUserForPrinter(QPrinter& printer) {
-  QPrintDialog dialog(&printer, IsOnScreen() ? this : QApplication::activeWindow());
-  return dialog.exec() == QDialog::Accepted;
+  printDialog_ = new QPrintDialog(&printer, IsOnScreen() ? this : QApplication::activeWindow());
+  const QPointer<QPrintDialog> dialog = printDialog_;  // gone if its parent goes while it is open
+  const bool print = dialog->exec() == QDialog::Accepted;
+  delete dialog;
+  return print;
 }
 
 }  // namespace quorvantis

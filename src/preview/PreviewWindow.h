@@ -8,6 +8,8 @@
 #include "preview/PagePrinter.h"
 #include "render/PreviewSession.h"
 
+#include <QPointer>
+#include <QPrintDialog>
 #include <QWebEngineView>
 #include <QWidget>
 
@@ -41,10 +43,12 @@ class PreviewWindow : public QWidget, private BrowserControl, private Timers {
   void Print() override { printer_.Print(); }
   void After(std::chrono::milliseconds delay, std::function<void()> action) override;
 
+  void LeavePage();
   bool IsOnScreen() const { return isVisible() && !testAttribute(Qt::WA_DontShowOnScreen); }
   bool AskUserForPrinter(QPrinter& printer);
 
   ExamGateway& gateway_;
+  QPointer<QPrintDialog> printDialog_;  ///< while it is open
   QWebEngineView view_;
   ExamPage page_;
   PagePrinter printer_;

@@ -94,11 +94,16 @@ TEST_F(ClosingTest, EscapeDoesNotReachTheWindowBelow) {
 }
 
 TEST_F(ClosingTest, ClosingTheWindowLeavesThePreview) {
+  QWidget below;
+  below.show();
   Preview(Compose("SEE.htm", "x"));
   Window().close();
   EXPECT_TRUE(Window().isVisible());
   EXPECT_TRUE(Closes());
   EXPECT_EQ(owner.finished, 0);
+  Preview(Compose("SEE.htm", "x"));
+  below.close();
+  EXPECT_TRUE(Window().close()) << "the program could not end";
 }
 
 }  // namespace

@@ -9,13 +9,17 @@ namespace quorvantis {
 namespace fs = std::filesystem;
 namespace {
 
+[[noreturn]] void Fail(const std::string& folder, std::error_code error) {
+  throw fs::filesystem_error("cannot make a folder for temporary files; check TMPDIR", folder, error);
+}
+
 fs::path MakeFolder() {
-  std::string name = (fs::temp_directory_path() / "quorvantis-XXXXXX").string();
-  if (::mkdtemp(name.data()) == nullptr) {
-    throw fs::filesystem_error("cannot make a folder for temporary files", name,
-                               std::error_code(errno, std::generic_category()));
-  }
-  return fs::absolute(name);  // the current folder may change
+  std::error_code error;
+  const fs::path base = fs::temp_directory_path(error);
+  if (error) Fail({}, error);
+  std::string name = (fs::absolute(base) / "quorvantis-XXXXXX").string();  // the current folder may change
+  if (::mkdtemp(name.data()) == nullptr) Fail(name, {errno, std::generic_category()});
+  return name;
 }
 
 }  // namespace
