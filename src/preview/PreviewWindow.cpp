@@ -17,9 +17,14 @@
 namespace quorvantis {
 namespace {
 
+/// Nobody presses a key twice within this time. A key that is held down reports itself so often, and not
+/// always as a repetition.
+constexpr qint64 kShortestPause = 100;  // milliseconds
+
 bool IsEscape(const QEvent& event) {
-  if (event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride) return false;
-  return static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+  const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
+                     event.type() == QEvent::ShortcutOverride;
+  return isKey && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
 /// Whether a dialog takes the input of `window`: one of its own does, and one for the whole program, but not
@@ -78,16 +83,22 @@ PreviewWindow::~PreviewWindow() {
 }
 
 /// Seen before the browser sees it, which would give the key to the page. While the preview covers the
-/// screen, the windows below it must not get the key either: it would end them.
+/// screen, the windows below it must not get the key either: it would end them. Nor must they afterwards, as
+/// long as it is held down and repeats.
 bool PreviewWindow::eventFilter(QObject* watched, QEvent* event) {
-  const bool ours = IsEscape(*event) && IsOnScreen() && !HasDialogInFront(*this);
-  if (!ours) return QWidget::eventFilter(watched, event);
+  if (!IsEscape(*event)) return QWidget::eventFilter(watched, event);
+  const bool held = sinceEscape_.isValid() && sinceEscape_.elapsed() < kShortestPause;
+  sinceEscape_.start();
+  if (event->type() == QEvent::KeyRelease) return QWidget::eventFilter(watched, event);
+  const bool repeats = held || static_cast<const QKeyEvent*>(event)->isAutoRepeat();
+  if (!repeats) escapeIsOurs_ = IsOnScreen() && !HasDialogInFront(*this);
+  if (!escapeIsOurs_) return QWidget::eventFilter(watched, event);
   session_.Leave();
   return true;
 }
 
 void PreviewWindow::closeEvent(QCloseEvent* event) {
-  if (IsProgramEnding()) return;
+  if (IsProgramEnding()) return LeavePage();
   event->ignore();
   session_.Leave();
 }

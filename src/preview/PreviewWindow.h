@@ -8,6 +8,7 @@
 #include "preview/PagePrinter.h"
 #include "render/PreviewSession.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QWebEngineView>
@@ -49,6 +50,8 @@ class PreviewWindow : public QWidget, private BrowserControl, private Timers {
 
   ExamGateway& gateway_;
   QPointer<QPrintDialog> printDialog_;  ///< while it is open
+  bool escapeIsOurs_ = false;           ///< the press that is under way, or the last one
+  QElapsedTimer sinceEscape_;           ///< since the key reported itself last
   QWebEngineView view_;
   ExamPage page_;
   PagePrinter printer_;

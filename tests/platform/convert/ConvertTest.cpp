@@ -6,6 +6,7 @@
 #include "platform/convert/OfficeFilters.h"
 #include "platform/convert/OfficeProfile.h"
 #include "platform/convert/ProgramRun.h"
+#include "support/Processes.h"
 #include "support/TemporaryFolder.h"
 
 #include <QElapsedTimer>
@@ -14,8 +15,6 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
-
-#include <csignal>
 
 namespace quorvantis::test {
 namespace {
@@ -58,7 +57,7 @@ TEST_F(ConvertTest, AProgramAndItsChildrenEndWhenTheTimeIsOver) {
   ASSERT_TRUE(WaitFor([&] { return success.has_value(); }, 5000));
   EXPECT_FALSE(*success);
   const int child = std::stoi(ReadBytes(folder / "child"));
-  EXPECT_TRUE(WaitFor([&] { return ::kill(child, 0) != 0; }, 3000)) << "the child lives";
+  EXPECT_TRUE(WaitFor([&] { return !IsRunning(child); }, 3000)) << "the child lives";
 }
 
 TEST_F(ConvertTest, AProgramThatComesForwardLivesAndOneThatStandsStillEnds) {
@@ -84,7 +83,7 @@ TEST_F(ConvertTest, AProgramEndsWithItsOwnerAndReportsNothing) {
              [&](bool, const QByteArray&) { called = true; });
   ASSERT_TRUE(WaitFor([&] { return ReadBytes(folder / "self").ends_with('\n'); }, 5000));
   owner.reset();
-  EXPECT_NE(::kill(std::stoi(ReadBytes(folder / "self")), 0), 0);
+  EXPECT_FALSE(IsRunning(std::stoi(ReadBytes(folder / "self"))));
   EXPECT_FALSE(called);
 }
 
