@@ -90,7 +90,8 @@ void Print(Console& console, const CommonOptions& options, const fs::path& exam,
   ExamSession session(console, In(folder, options));
   session.Load(exam);
   UnseenEditor editor(session.exam);
-  if (afterPreview) PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPages(session)).Run();
+  if (afterPreview)
+    PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPages(session)).Run();
   PrintCommand(editor.Questions(), session.exam, CheckPages(session)).Run();
 }
 

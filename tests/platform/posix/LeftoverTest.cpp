@@ -19,14 +19,14 @@ namespace fs = std::filesystem;
 [[noreturn]] void WaitForSignalWithLeftovers(const fs::path& folder, int ready) {
   RemoveLeftoversOnSignals();
   setenv("TMPDIR", folder.c_str(), 1);  // NOLINT(concurrency-mt-unsafe): a forked child has one thread
-  const PrivateFolder first;
-  const auto second = std::make_unique<PrivateFolder>();
+  const PrivateFolder made;
+  const PrivateFolder empty;
   { const PrivateFolder gone; }
-  WriteBytes(first.Path() / "TEMP/a/b/file", "x");
-  fs::create_directory_symlink(folder / "kept", first.Path() / "TEMP/link");
+  WriteBytes(made.Path() / "TEMP/a/b/file", "x");
+  fs::create_directory_symlink(folder / "kept", made.Path() / "TEMP/link");
   std::error_code error;
   const auto pending = PosixFiles().Replace(folder / "never.exm", error);
-  if (::write(ready, "x", 1) == 1) ::pause();
+  if (pending && ::write(ready, "x", 1) == 1) ::pause();
   std::abort();
 }
 
