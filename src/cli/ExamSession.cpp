@@ -6,6 +6,7 @@
 #include "cli/WhyUnreadable.h"
 #include "examfile/ByteSource.h"
 #include "examfile/ExamFileMessages.h"
+#include "shell/BuiltInStrings.h"
 #include "shell/CodePageChoice.h"
 #include "text/Utf.h"
 
@@ -53,14 +54,15 @@ void ExamSession::RequireReadable(const fs::path& file) {
 
 ExamReadOutcome ExamSession::Load(const fs::path& file) {
   const ExamReadOutcome outcome = ExamFileReader(exam, services).Read(file);
-  if (!outcome.opened) throw NotOpened(strings_, file);
+  if (!outcome.opened) throw NotOpened(language_, file);
   ShowReadLosses(services, outcome);
   return outcome;
 }
 
 void ExamSession::RequireWrittenPages() const {
-  if (pages_.Unwritten().empty()) return;
-  const fs::path& page = pages_.Unwritten().front();
+  const auto& unwritten = host_.Pages().Unwritten();
+  if (unwritten.empty()) return;
+  const fs::path& page = unwritten.front();
   throw CommandError(page.string() + ": cannot be written; choose a folder that can be written");
 }
 
