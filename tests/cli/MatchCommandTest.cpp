@@ -10,8 +10,10 @@ TEST_F(MatchCommandTest, PrintsWhereTheGroupsMatched) {
   const RunResult found = Command({"match", "(?<Q1>中)(b)?", "--text", "x中"});
   EXPECT_EQ(Json::parse(found.out), Json::parse(R"({"compiled":true, "error":"", "matched":true,
             "groups":[[1,2],[1,2],[-1,-1]], "names":{"q1":1}})"));
-  EXPECT_EQ(Json::parse(Command({"match", "(", "--text", "a"}).out)["error"], "the group is not closed by ), at 0");
-  EXPECT_EQ(Json::parse(Command({"match", "B", "--flags", "8", "--start", "1"}, "bab").out)["groups"][0][0], 2);
+  EXPECT_EQ(Json::parse(Command({"match", "(", "--text", "a"}).out)["error"],
+            "the group is not closed by ), at 0");
+  EXPECT_EQ(Json::parse(Command({"match", "B", "--flags", "8", "--start", "1"}, "bab").out)["groups"][0][0],
+            2);
 }
 
 TEST_F(MatchCommandTest, TriesTheLinesOfAFile) {
