@@ -68,10 +68,10 @@ void AnswerExam(FrameSetExam& exam, const fs::path& file, const nlohmann::json& 
 }  // namespace
 
 void Preview(Console& console, const CommonOptions& options, const PreviewRequest& request) {
+  ExamSession::RequireReadable(request.exam);
   const fs::path exam = fs::absolute(request.exam);  // before the current folder is another
   const nlohmann::json responses =
       request.responses ? ParseJsonFile(*request.responses) : nlohmann::json::object();
-  ExamSession::RequireReadable(exam);
   ExamSession session(console, In(request.folder, options));
   std::optional<CurrentFolder> studentSide;
   if (request.student) {
