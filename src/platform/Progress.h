@@ -13,6 +13,9 @@ class Progress {
   /// `done` of about `total` bytes of the file in hand. Called often. An implementation may paint, but must
   /// not let the user start anything else.
   virtual void Report(std::uint64_t done, std::uint64_t total) = 0;
+
+  /// Whether the user wants the work to end without a result. Asked by work that can be ended, now and then.
+  virtual bool IsCancelled() { return false; }
 };
 
 }  // namespace quorvantis
