@@ -41,6 +41,14 @@ class FrameSetExam : public ExamPaper {
   /// Writes the exam as a paper.
   void WritePrintPage(const std::filesystem::path& page);
 
+  /// Reads questions from a marked text (import/ImportMarkers.h) into the slots from `firstSlot` on; the
+  /// patterns are rules of "ImportExam.ini". Returns the number of the slot after the last one written, at most
+  /// 501. Rules that cannot be used are told to the user, and nothing is written. Defined in import/.
+  int ParseQuestions(int firstSlot, int pictureNumber, const std::u16string& markedText,
+                     const std::u16string& questionPattern, const std::u16string& judgementAnswer,
+                     const std::u16string& judgementBlock, const std::u16string& choiceAnswer,
+                     const std::u16string& choiceBlock);
+
   /// Not 0: every attachment path that a page shows gets one more prefix, a copy of its first three
   /// characters, from now on; 0: one fewer. Pages take three characters off again to get a full path. The
   /// paths themselves stay as they are, so that no prefix can get into a file; Preview and its end need not

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "import/AnswerBlock.h"
+
+#include "text/AsciiCase.h"
+
+namespace quorvantis {
+namespace {
+
+constexpr std::u16string_view kDebugPrefix = u"FrameSetExam::ParseAnswer";
+
+std::u16string_view AfterLastDot(std::u16string_view answer) {
+  return answer.substr(answer.rfind(u'.') + 1);
+}
+
+}  // namespace
+
+int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSearch& block,
+                std::vector<std::u16string>& answers, DebugOutput& debug) {
+  const auto found = block.Find(text);
+  if (!found) return 0;
+  std::u16string rest = GroupText(*found, 0, text);
+  debug.Line(std::u16string(kDebugPrefix) + rest);
+  while (const auto match = item.Find(rest)) {
+    std::u16string answer = GroupText(*match, 0, rest);
+    if (answer.empty()) item.Fail(ImportFailure::Reason::EmptyAnswer);
+    debug.Line(std::u16string(kDebugPrefix) + answer);
+    rest.erase(MatchSpan(*match).begin, answer.size());
+    answers.push_back(std::move(answer));
+  }
+  return 1;
+}
+
+void PickJudgementSymbols(const std::vector<std::u16string>& answers, std::u16string& first,
+                          std::u16string& second, int found) {
+  if (found != 1 || answers.empty() || answers[0].empty()) return;
+  first = AfterLastDot(answers[0]);
+  for (std::size_t i = 1; i < answers.size(); ++i) {
+    const std::u16string_view symbol = AfterLastDot(answers[i]);
+    // Deliberate: compared with all of the first answer and not with its symbol, so that of numbered answers
+    // the last one counts, whatever it is. Exams have been made with it.
+    if (!EqualsIgnoringAsciiCase(symbol, answers[0])) second = symbol;
+  }
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Answers that stand together in one part of a paper.
+#pragma once
+
+#include "import/RuleSearch.h"
+#include "platform/DebugOutput.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// Finds the block of answers in a text and appends each answer in it to `answers`. 1 when there is a block,
+/// 0 when not. Throws ImportFailure, also when an answer is empty.
+int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSearch& block,
+                std::vector<std::u16string>& answers, DebugOutput& debug);
+
+/// The two symbols that true/false answers are made of ("T" and "F"): `first` is that of the first answer,
+/// numbers before a dot left out. Nothing happens unless `found` is 1 and there is a first answer.
+void PickJudgementSymbols(const std::vector<std::u16string>& answers, std::u16string& first,
+                          std::u16string& second, int found);
+
+}  // namespace quorvantis

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// What stands in a marked text in the place of what the rules recognised.
+#pragma once
+
+#include <string_view>
+
+namespace quorvantis {
+
+inline constexpr std::u16string_view kQuestionMarker = u"!!!!!";
+inline constexpr std::u16string_view kAnswerMarker = u"@@@@@";         ///< the question's own answer follows
+inline constexpr std::u16string_view kAnswerSectionMarker = u"$$$$$";  ///< no questions follow
+inline constexpr std::u16string_view kPictureMarker = u"#####";        ///< a picture of the question
+inline constexpr std::u16string_view kOptionPictureMarker = u"&&&&&";  ///< counted, not attached
+
+}  // namespace quorvantis

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace quorvantis {
+
+/// The rules of one repository of "ImportExam.ini": what the pieces of a paper look like, as patterns. An
+/// empty pattern is no rule. The members are called as in the import dialog.
+struct ImportSettings {
+  std::u16string m_strPattern;                 ///< "Pattern": the parts of a question, as named groups
+  std::u16string m_strPreAnswer;               ///< "PreAnswer": what stands before a question's own answer
+  std::u16string m_strPreQuestion;             ///< "PreQuestion": what a question begins with
+  std::u16string m_strChoiceAnswerPattern;     ///< "ChoiceAnswerPattern": the key of all choice questions
+  std::u16string m_strChoiceAnswer;            ///< "ChoiceAnswer": one answer in it
+  std::u16string m_strJudgementAnswerPattern;  ///< "JudgementAnswerPattern": that of true/false questions
+  std::u16string m_strJudgementAnswer;         ///< "JudgementAnswer": one answer in it
+  std::u16string m_strPreAllAnswer;            ///< "PreAllAnswer": the heading of the answer section
+  std::u16string m_strPreParenQuestion;        ///< "PreParenQuestion": like "PreQuestion"
+  std::u16string m_strTitle;                   ///< "Title": text to throw away
+  std::u16string m_strBmp;                     ///< "Bmp": the place of a question's picture
+  std::u16string m_strChoiceBmp;               ///< "ChoiceBmp": the place of a picture among the options
+  std::u16string m_strPreTable;                ///< "PreTable": kept, used by nothing
+  int m_nTable = 0;                            ///< "Table": 1 for papers that are tables
+  std::u16string m_strTableQuesKey;            ///< "QuestionKey": tells the column of the questions
+  std::u16string m_strTableAnsKey;             ///< "AnswerKey": tells that of the answers
+};
+
+}  // namespace quorvantis

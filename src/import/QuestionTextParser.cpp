@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "import/QuestionTextParser.h"
+
+#include "import/AnswerBlock.h"
+#include "import/ImportMarkers.h"
+#include "import/RuleKeys.h"
+#include "model/AnswerLetters.h"
+#include "text/NumberText.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr auto kNotFound = std::u16string_view::npos;
+
+/// The answers that stand together at one place of the paper, taken one after the other.
+struct AnswerList {
+  int found = 0;
+  std::vector<std::u16string> answers;
+  std::size_t next = 0;
+
+  /// Empty once there are no more.
+  std::u16string_view Next() {
+    const std::size_t index = next++;
+    return index < answers.size() ? std::u16string_view(answers[index]) : std::u16string_view();
+  }
+};
+
+/// Replaces ideographic spaces and cuts away what comes before the first question, and the answer section.
+std::u16string QuestionPart(std::u16string_view markedText) {
+  std::u16string text(markedText);
+  std::ranges::replace(text, u'\u3000', u' ');
+  const std::size_t first = text.find(kQuestionMarker);
+  // Deliberate: without any marker four characters are lost (the place that is not found counts as -1).
+  constexpr std::size_t kLostWithoutMarker = 4;
+  text.erase(0, first == kNotFound ? kLostWithoutMarker : first + kQuestionMarker.size());
+  const std::size_t section = text.find(kAnswerSectionMarker);
+  // Deliberate: the last character survives the cut; it becomes the end of the last question's part.
+  if (section != kNotFound) text.erase(section, text.size() - section - 1);
+  return text;
+}
+
+/// Takes the part up to the next question marker off the front of `text`, and the marker with it.
+std::u16string_view TakePart(std::u16string_view& text) {
+  const std::size_t end = text.find(kQuestionMarker);
+  const std::u16string_view part = text.substr(0, end);
+  text.remove_prefix(end == kNotFound ? text.size() : end + kQuestionMarker.size());
+  return part;
+}
+
+/// Of two adjacent markers only the first counts: the search goes on one character behind a marker.
+int CountOptionPictures(std::u16string_view question) {
+  int count = 0;
+  std::size_t at = question.find(kOptionPictureMarker);
+  for (; at != kNotFound; at = question.find(kOptionPictureMarker, at + kOptionPictureMarker.size() + 1))
+    ++count;
+  return count;
+}
+
+std::u16string Beginning(std::u16string_view text) {
+  constexpr std::size_t kEnoughToFind = 60;
+  const std::size_t begin = std::min(text.find_first_not_of(u" \t\r\n\v\f"), text.size());
+  return ReplaceLoneSurrogates(text.substr(begin, kEnoughToFind));
+}
+
+/// One paper being read.
+class Reading {
+ public:
+  Reading(const ImportSettings& rules, int picture, DebugOutput& debug, const CancelHook& isCancelled)
+      : rules_(rules),
+        pattern_(rule_key::kPattern, rules.m_strPattern, isCancelled),
+        picture_(picture),
+        debug_(debug),
+        isCancelled_(isCancelled) {}
+
+  ReadPaper Read(std::u16string_view markedText) {
+    FindAnswers(markedText);
+    const std::u16string text = QuestionPart(markedText);
+    // What stands behind the last marker is a part only when there is something.
+    for (std::u16string_view rest = text; !rest.empty();) ReadPart(TakePart(rest));
+    paper_.hasChoiceBlock = choice_.found == 1;
+    paper_.hasJudgementBlock = judgement_.found == 1;
+    paper_.choiceAnswers = choice_.answers.size();
+    paper_.judgementAnswers = judgement_.answers.size();
+    return std::move(paper_);
+  }
+
+ private:
+  void FindAnswers(std::u16string_view markedText) {
+    Find(judgement_, markedText, {rule_key::kJudgementAnswerPattern, rules_.m_strJudgementAnswerPattern},
+         {rule_key::kJudgementAnswer, rules_.m_strJudgementAnswer});
+    Find(choice_, markedText, {rule_key::kChoiceAnswerPattern, rules_.m_strChoiceAnswerPattern},
+         {rule_key::kChoiceAnswer, rules_.m_strChoiceAnswer});
+    PickJudgementSymbols(judgement_.answers, firstSymbol_, secondSymbol_, judgement_.found);
+  }
+
+  struct Rule {
+    std::u16string_view key;
+    std::u16string_view pattern;
+  };
+
+  void Find(AnswerList& list, std::u16string_view markedText, const Rule& block, const Rule& item) {
+    if (block.pattern.empty()) return;
+    const RuleSearch blockSearch(block.key, block.pattern, isCancelled_);
+    const RuleSearch itemSearch(item.key, item.pattern, isCancelled_);
+    list.found = ParseAnswer(markedText, itemSearch, blockSearch, list.answers, debug_);
+  }
+
+  void ReadPart(std::u16string_view part) {
+    std::u16string_view question = part;
+    std::u16string_view answer;
+    // A block of answers makes the whole part the question, for questions of every kind.
+    if (judgement_.found == 0 && choice_.found == 0) {
+      const std::size_t marker = part.find(kAnswerMarker);
+      if (marker == kNotFound) return Drop(rule_key::kPreAnswer, part);
+      question = part.substr(0, marker);
+      answer = part.substr(marker + kAnswerMarker.size());
+    }
+    const std::u16string pictureText = TakePictures(question);
+    const auto match = pattern_.Find(question);
+    if (!match) return Drop(rule_key::kPattern, part);
+    Recognise(*match, question, pictureText, answer);
+  }
+
+  /// Counts the pictures of a question, also of one that is dropped later, and cuts the question before its
+  /// own picture. Returns the text that stands for that one.
+  std::u16string TakePictures(std::u16string_view& question) {
+    picture_ += CountOptionPictures(question);
+    const std::size_t marker = question.find(kPictureMarker);
+    if (marker == kNotFound) return {};
+    question = question.substr(0, marker);
+    return u"  " + FormatInteger(picture_++) + u".bmp";
+  }
+
+  void Recognise(const MatchResult& match, std::u16string_view question, const std::u16string& pictureText,
+                 std::u16string_view answer) {
+    const auto group = [&](std::u16string_view name) {
+      return GroupText(match, pattern_.Pattern().GetNamedGroupNumber(name), question);
+    };
+    const std::u16string choiceText = group(u"Q1");
+    ReadQuestion read;
+    read.text = choiceText + group(u"Q2") + pictureText;
+    if (!choiceText.empty()) {
+      constexpr std::u16string_view kNames[] = {u"A", u"B", u"C", u"D", u"E"};
+      std::ranges::transform(kNames, read.options.begin(), group);
+      SetLetters(read, choice_.found == 1 ? choice_.Next() : answer);
+    } else if (judgement_.found != 0) {
+      ReadTrueFalse(read);
+    } else {
+      read.kind = read.text.find(u"___") != kNotFound ? ReadKind::FillIn : ReadKind::Essay;
+      read.answer = answer;
+    }
+    paper_.questions.push_back(std::move(read));
+  }
+
+  void ReadTrueFalse(ReadQuestion& read) {
+    read.kind = ReadKind::TrueFalse;
+    read.options = {firstSymbol_, secondSymbol_};
+    SetLetters(read, judgement_.Next().find(firstSymbol_) != kNotFound ? u"A" : u"B");
+  }
+
+  /// Upper-case letters only, each once and in order. They are stored as they are; whoever reads an exam
+  /// takes either case.
+  static void SetLetters(ReadQuestion& read, std::u16string_view answer) {
+    for (std::size_t box = 0; box < kOptionCount; ++box) {
+      const auto letter = static_cast<char16_t>(u'A' + box);
+      if (answer.find(letter) == kNotFound) continue;
+      read.letters += letter;
+      read.mask += AnswerBoxWeight(box);
+    }
+  }
+
+  void Drop(std::u16string_view key, std::u16string_view part) {
+    paper_.dropped.push_back({key, Beginning(part)});
+  }
+
+  const ImportSettings& rules_;
+  const RuleSearch pattern_;
+  int picture_;  ///< number of the next picture
+  DebugOutput& debug_;
+  const CancelHook& isCancelled_;
+  AnswerList judgement_;
+  AnswerList choice_;
+  std::u16string firstSymbol_;
+  std::u16string secondSymbol_;
+  ReadPaper paper_;
+};
+
+void Store(const ReadQuestion& read, ExamQuestion& question) {
+  question.text = read.text;
+  if (read.kind == ReadKind::FillIn) {
+    question.kind = QuestionKind::FillIn;
+    question.answerText = read.answer;
+  } else if (read.kind == ReadKind::Essay) {
+    question.kind = QuestionKind::Essay;
+    question.essayAnswer = read.answer;
+  } else {
+    question.kind = QuestionKind::Choice;
+    question.options = read.options;
+    question.answerLetters = read.letters;
+    question.answerMask = read.mask;
+  }
+}
+
+}  // namespace
+
+ReadPaper QuestionTextParser::Parse(std::u16string_view markedText, int firstPicture) const {
+  try {
+    return Reading(rules_, firstPicture, debug_, isCancelled_).Read(TextBeforeNul(markedText));
+  } catch (const ImportFailure& failure) {
+    ReadPaper nothing;
+    nothing.failure = failure;
+    return nothing;
+  }
+}
+
+int StoreQuestions(const ReadPaper& paper, ExamPaper& exam, int firstSlot) {
+  int slot = firstSlot;
+  for (const ReadQuestion& read : paper.questions) {
+    if (!IsQuestionNumber(slot)) break;
+    Store(read, exam.Question(slot++));
+  }
+  return slot;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "import/ImportFailure.h"
+#include "import/ImportSettings.h"
+#include "import/RuleSearch.h"
+#include "model/ExamPaper.h"
+#include "platform/DebugOutput.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// What a paper shows a question to be. True/false questions are stored as choice questions.
+enum class ReadKind { Choice, TrueFalse, FillIn, Essay };
+
+/// A question as it was read: what goes into a slot, and nothing of the slot's other fields.
+struct ReadQuestion {
+  ReadKind kind = ReadKind::Choice;
+  std::u16string text;
+  std::array<std::u16string, kOptionCount> options;  ///< of a choice or true/false question
+  std::u16string letters;                            ///< of their answer, in upper case; see ReadPaper
+  int mask = 0;
+  std::u16string answer;  ///< of a fill-in or essay question
+};
+
+/// A part of the paper between two question markers that became no question.
+struct DroppedPart {
+  std::u16string_view key;  ///< of the rule that matched nothing in it
+  std::u16string text;      ///< its beginning
+};
+
+/// What was read from a marked text.
+struct ReadPaper {
+  std::vector<ReadQuestion> questions;
+  std::vector<DroppedPart> dropped;
+  bool hasChoiceBlock = false;     ///< the answers of all choice questions stand in one place
+  bool hasJudgementBlock = false;  ///< those of all true/false questions do
+  std::size_t choiceAnswers = 0;   ///< in these blocks
+  std::size_t judgementAnswers = 0;
+  std::optional<ImportFailure> failure;  ///< there are no questions then
+};
+
+/// Cuts a marked text at its markers into questions and recognises their parts.
+class QuestionTextParser {
+ public:
+  /// All must outlive the parser.
+  QuestionTextParser(const ImportSettings& rules, DebugOutput& debug, const CancelHook& isCancelled)
+      : rules_(rules), debug_(debug), isCancelled_(isCancelled) {}
+
+  /// `firstPicture` is the number of the paper's first picture. The text ends at its first NUL.
+  ReadPaper Parse(std::u16string_view markedText, int firstPicture) const;
+
+ private:
+  const ImportSettings& rules_;
+  DebugOutput& debug_;
+  const CancelHook& isCancelled_;
+};
+
+/// Writes the questions into slots from `firstSlot` on, as many as there are slots for. Other fields of these
+/// slots stay as they are. Returns the number of the slot after the last one written: at most 501.
+int StoreQuestions(const ReadPaper& paper, ExamPaper& exam, int firstSlot);
+
+}  // namespace quorvantis

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "import/RuleSearch.h"
+
+#include "regex/RegexFlags.h"
+
+namespace quorvantis {
+
+RuleSearch::RuleSearch(std::u16string_view key, std::u16string_view pattern, const CancelHook& isCancelled)
+    : key_(key), isCancelled_(isCancelled) {
+  if (!pattern.empty()) pattern_.Compile(pattern, regex_flag::kSingleLine | regex_flag::kMultiLine);
+}
+
+std::optional<MatchResult> RuleSearch::Find(std::u16string_view text, std::size_t start) const {
+  if (isCancelled_ && isCancelled_()) Fail(ImportFailure::Reason::Cancelled);
+  MatchContext context;
+  context.isCancelled = isCancelled_;
+  MatchResult result = pattern_.Match(text, static_cast<int>(start), &context);
+  if (result.Outcome() == MatchOutcome::Cancelled) Fail(ImportFailure::Reason::Cancelled);
+  if (result.Outcome() == MatchOutcome::TooLarge) Fail(ImportFailure::Reason::TooLarge);
+  if (!result.IsMatched()) return std::nullopt;
+  return result;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "import/ImportFailure.h"
+#include "regex/RegexPattern.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// Asked now and then while rules are tried; true ends the import. May be empty.
+using CancelHook = std::function<bool()>;
+
+/// One rule of a repository, ready to be searched for. All rules are compiled alike: "." matches line breaks
+/// and "^" and "$" match at them. A rule that is empty or does not compile matches nothing.
+class RuleSearch {
+ public:
+  /// `key` is the name of the rule in "ImportExam.ini".
+  RuleSearch(std::u16string_view key, std::u16string_view pattern, const CancelHook& isCancelled);
+
+  /// The leftmost match at `start` or after it, if any. Throws ImportFailure when there is no answer.
+  std::optional<MatchResult> Find(std::u16string_view text, std::size_t start = 0) const;
+
+  [[noreturn]] void Fail(ImportFailure::Reason reason) const { throw ImportFailure{reason, key_}; }
+
+  const std::u16string& Key() const { return key_; }
+  const RegexPattern& Pattern() const { return pattern_; }
+
+ private:
+  std::u16string key_;
+  RegexPattern pattern_;
+  const CancelHook& isCancelled_;
+};
+
+/// Where a match lies in its text.
+struct MatchSpan {
+  explicit MatchSpan(const MatchResult& match)
+      : begin(static_cast<std::size_t>(match.GroupStart(0))),
+        end(static_cast<std::size_t>(match.GroupEnd(0))) {}
+
+  std::size_t Size() const { return end - begin; }
+
+  std::size_t begin;
+  std::size_t end;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// From the text or the tables of a paper to marked text: the pieces that the rules recognise are replaced by
+// the markers of ImportMarkers.h.
+#pragma once
+
+#include "import/ImportSettings.h"
+#include "import/RuleSearch.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace quorvantis {
+
+/// How often each rule matched, by its key, in the order in which the rules were tried. Only rules that say
+/// something are here.
+using RuleCounts = std::vector<std::pair<std::u16string, int>>;
+
+/// A paper with markers in it.
+struct MarkedText {
+  std::u16string text;
+  RuleCounts counts;
+};
+
+/// Marks running text. The text ends at its first NUL. Throws ImportFailure.
+MarkedText TextToString(std::u16string_view text, const ImportSettings& rules, const CancelHook& isCancelled);
+
+/// A table of a paper: rows of cell texts. Rows may have different lengths; a cell that is not there is
+/// empty.
+struct PaperTable {
+  std::vector<std::vector<std::u16string>> rows;
+
+  std::size_t Columns() const;
+  /// The text of a cell; both count from 1.
+  std::u16string_view Cell(std::size_t row, std::size_t column) const;
+};
+
+/// Marks papers that are tables: a question in each row but the first, which tells the columns. Throws
+/// ImportFailure.
+MarkedText TableToString(const std::vector<PaperTable>& tables, const ImportSettings& rules,
+                         const CancelHook& isCancelled);
+
+}  // namespace quorvantis
