@@ -20,7 +20,7 @@ namespace quorvantis {
 /// paper has use for.
 class ReplaceAllPass {
  public:
-  static constexpr int kMostFutile = 10'000;
+  static constexpr int kMostFutile = 2'000;
 
   /// `marker` is some number of the same character. All must outlive the pass.
   ReplaceAllPass(std::u16string& text, const RuleSearch& rule, std::u16string_view marker);

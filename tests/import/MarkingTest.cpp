@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "ImportTest.h"
+
+#include <chrono>
+#include <random>
+
+namespace quorvantis::test {
+namespace {
+
+using Rule = std::u16string ImportSettings::*;
+
+TEST(TextMarking, ReplacesMatchesInSevenPasses) {
+  struct {
+    std::vector<std::pair<Rule, std::u16string>> rules;
+    std::u16string text;
+    std::u16string marked;
+  } const rows[] = {
+      {{}, u"1. a", u"1. a"},
+      {{{&ImportSettings::m_strPreQuestion, u"\\d\\."}, {&ImportSettings::m_strPreAnswer, u"Key:"}},
+       u"1.aKey:b2.cKey:d",
+       u"!!!!!a@@@@@b!!!!!c@@@@@d"},
+      {{{&ImportSettings::m_strPreQuestion, u"\\d\\."},
+        {&ImportSettings::m_strPreParenQuestion, u"\\(\\d\\."}},
+       u"(1.a2.b",
+       u"!!!!!a!!!!!b"},
+      {{{&ImportSettings::m_strBmp, u"#\\d"}, {&ImportSettings::m_strChoiceBmp, u"\\d\\.bmp"}},
+       u"#1.bmp2.bmp",
+       u"#####.bmp&&&&&"},
+      {{{&ImportSettings::m_strPreAllAnswer, u"Keys"}}, u"aKeysbKeys", u"a$$$$$bKeys"},
+      // A title takes ten characters before it, and makes up for missing ones behind it.
+      {{{&ImportSettings::m_strTitle, u"TITLE"}}, u"abc0123456789TITLEd", u"abcd"},
+      {{{&ImportSettings::m_strTitle, u"TITLE"}}, u"abcTITLE0123456789", u"789"},
+      {{{&ImportSettings::m_strTitle, u"T"}, {&ImportSettings::m_strPreQuestion, u"Q"}},
+       u"QQQ0Tx",
+       u"!!!!!!x"},
+      // Each search starts from the first character: what stands before a marker may match with it.
+      {{{&ImportSettings::m_strPreQuestion, u"x!*|Q"}}, u"axQb", u"a!!!!!!!!!!b"},
+      {{{&ImportSettings::m_strPreQuestion, u"Q|a!{5}"}}, u"aaQb", u"!!!!!b"},
+      {{{&ImportSettings::m_strPreQuestion, u"\\d\\.(?!\\d)"}}, u"1.2.x", u"!!!!!!!!!!x"},
+      {{{&ImportSettings::m_strPreQuestion, u"\\n|\\r^x?"}}, u"\r\nx\r\n", u"!!!!!!!!!!x!!!!!!!!!!"},
+      // A pattern that cannot be compiled matches nothing, and a text ends at its first NUL.
+      {{{&ImportSettings::m_strPreQuestion, u"("}}, u"(", u"("},
+      {{{&ImportSettings::m_strPreQuestion, u"Q"}}, std::u16string(u"Q\0Q", 3), u"!!!!!"},
+  };
+  for (const auto& row : rows) {
+    ImportSettings rules;
+    for (const auto& [rule, pattern] : row.rules) rules.*rule = pattern;
+    EXPECT_EQ(Marked(rules, row.text), row.marked) << testing::PrintToString(row.text);
+  }
+}
+
+TEST(TextMarking, TellsPassesThatNeverEnd) {
+  struct {
+    Rule rule;
+    std::u16string pattern;
+    std::u16string marked;
+  } const rows[] = {
+      {&ImportSettings::m_strPreQuestion, u"1|!", u"(endless PreQuestion)"},
+      {&ImportSettings::m_strPreQuestion, u"\\d*", u"(endless PreQuestion)"},
+      {&ImportSettings::m_strPreQuestion, u"^", u"(endless PreQuestion)"},
+      {&ImportSettings::m_strPreParenQuestion, u"b$|(?<=!)", u"(endless PreParenQuestion)"},
+      {&ImportSettings::m_strPreAnswer, u"[^a]", u"(endless PreAnswer)"},
+      {&ImportSettings::m_strBmp, u"(?=.)a?#{0,3}$", u"(endless Bmp)"},
+      {&ImportSettings::m_strTitle, u"x*", u"(endless Title)"},
+      // These look like it and end: in the text, at their own markers, after growing markers for a while.
+      {&ImportSettings::m_strPreAllAnswer, u"", u"a 12\nb"},
+      {&ImportSettings::m_strPreAllAnswer, u"x*", u"$$$$$a 12\nb"},
+      {&ImportSettings::m_strPreQuestion, u"(?<!!)(?=\\d\\d)", u"a !!!!!12\nb"},
+      {&ImportSettings::m_strPreQuestion, u"a|^!{5} ", u"!!!!!12\nb"},
+      {&ImportSettings::m_strPreQuestion, u"^!(?!!{99})|a", std::u16string(101, u'!') + u" 12\nb"},
+  };
+  for (const auto& row : rows) {
+    ImportSettings rules;
+    rules.*row.rule = row.pattern;
+    EXPECT_EQ(Marked(rules, u"a 12\nb"), row.marked) << testing::PrintToString(row.pattern);
+  }
+}
+
+TEST(TextMarking, EndsWhenItIsCancelled) {
+  ImportSettings rules;
+  rules.m_strPreAnswer = u"(a|a\\b|b)*\\1{0}(?R)?c";
+  const CancelHook cancelled = [] { return true; };
+  EXPECT_THROW(TextToString(u"aaaa", rules, cancelled), ImportFailure);
+}
+
+/// Replaces as the rule says, always from the first character.
+std::u16string ReplacedNaively(std::u16string text, const std::u16string& pattern) {
+  const RegexPattern compiled(pattern, 3);
+  for (int count = 0; count < 300; ++count) {
+    const MatchResult match = compiled.Match(text);
+    if (!match.IsMatched()) return text;
+    text.replace(static_cast<std::size_t>(match.GroupStart(0)),
+                 static_cast<std::size_t>(match.GroupEnd(0) - match.GroupStart(0)), u"!!!!!");
+  }
+  return u"(endless PreQuestion)";
+}
+
+TEST(TextMarking, GoingOnFromTheLastMatchChangesNothing) {
+  constexpr std::u16string_view kPieces[] = {
+      u"a",    u"\\d", u"\\r?\\n", u"^", u"$", u"\\b", u"(?<=a)", u"(?<!^)", u"(?!a)",  u"(?=\\d)",
+      u"\\s*", u"a+?", u"(?:1|a)", u".", u"|", u"!",   u"[^1]",   u"\\Z",    u"(?>a*)", u"1{2}"};
+  std::mt19937 random(7);  // NOLINT(bugprone-random-generator-seed): the same patterns each time
+  for (int round = 0; round < 150; ++round) {
+    ImportSettings rules;
+    std::u16string text;
+    for (auto i = random() % 4 + 1; i > 0; --i)
+      rules.m_strPreQuestion += kPieces[random() % std::size(kPieces)];
+    for (int i = 0; i < 12; ++i) text += u"aa1 \r\n!"[random() % 7];
+    EXPECT_EQ(Marked(rules, text), ReplacedNaively(text, rules.m_strPreQuestion))
+        << testing::PrintToString(rules.m_strPreQuestion) << testing::PrintToString(text);
+  }
+}
+
+TEST(TableMarking, TakesQuestionsFromRows) {
+  ImportSettings rules;
+  rules.m_strTableQuesKey = u"Question";
+  rules.m_strTableAnsKey = u"Answer";
+  rules.m_strPreAnswer = u"Key:";
+  const auto marked = [&](const std::vector<PaperTable>& tables) {
+    return TableToString(tables, rules, kNeverCancelled).text;
+  };
+  EXPECT_EQ(marked({}), u"!!!!!");
+  EXPECT_EQ(marked({{{{u"No", u"Question\r\u0007", u"The Answer"},
+                      {u"1", u" Q 1 \t\r\u0007", u"Key:A\r\u0007"},
+                      {u"2", u"Q 2", u"see Key:B"},  // the label's length goes from the start
+                      {u"3"}}},
+                    {{{u"Question"}, {u"no answers here"}}},
+                    {{{u"Question", u"Answer", u"Question Answer"}, {u"a", u"b", u"Key:c"}}}}),
+            u"!!!!! Q 1@@@@@A!!!!!Q 2@@@@@Key:B!!!!!@@@@@!!!!!Key:c@@@@@c!!!!!");
+  rules.m_strTableQuesKey.clear();
+  rules.m_strTableAnsKey.clear();
+  EXPECT_EQ(marked({{{{u"a", u"b"}, {u"1", u"2"}}}}), u"!!!!!2@@@@@2!!!!!");
+}
+
+TEST(TextMarking, TakesNoTimeForLargePapers) {
+  ImportSettings rules;
+  rules.m_strPreQuestion = u"^\\s*\\d+\\s*[.、]";
+  rules.m_strPreAnswer = u"^\\s*(?:Answer|答案)[:：]";
+  rules.m_strTitle = u"Part \\d+";
+  rules.m_strBmp = u" \\d+\\.bmp ";
+  rules.m_strPattern = u"(?<Q1>.*?)A[.、](?<A>.*?)B[.、](?<B>.*)";
+  std::u16string paper;
+  for (int i = 0; i < 500; ++i) {
+    paper += u"12. " + std::u16string(560, u'x') + u"\rA. one\rB. two\rAnswer: A\r";
+  }
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(Parsed(rules, Marked(rules, paper)).questions.size(), 500u);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(2000));  // sanitized: slower
+}
+
+}  // namespace
+}  // namespace quorvantis::test
