@@ -26,6 +26,7 @@ struct Arguments {
   bool afterPreview = false;
   std::optional<std::string> student;
   std::optional<std::filesystem::path> responses;
+  ImportRequest import;
   MatchRequest match;
   std::vector<ScoreStep> scoreSteps;
 };
@@ -158,6 +159,43 @@ void AddLanguages(CLI::App& app, Arguments& arguments, Console& console) {
   languages->callback([&] { ListLanguages(console, arguments.common); });
 }
 
+void AddImportOptions(CLI::App& command, ImportRequest& request) {
+  const std::vector<std::string> answers{"give-up", "ignore", "force"};
+  command
+      .add_option("--rules", request.rules, "The file ImportExam.ini; the one beside the program without it")
+      ->type_name("FILE");
+  command
+      .add_option("--repository", request.repository,
+                  "What the name of the repository begins with, or # and its section's number")
+      ->required()
+      ->type_name("NAME");
+  CLI::Option* into = command.add_option("--into", request.into, "Continue in this exam")->type_name("EXAM");
+  CLI::Option* after =
+      command.add_option("--after", request.after, "The question after which to continue, from 0 on")
+          ->type_name("N")
+          ->check(CLI::Range(0, kMaxQuestions - 1))
+          ->needs(into);
+  into->needs(after);
+  command.add_option("--answer-pictures", request.pictures, "What to do with pictures in answers")
+      ->type_name("X")
+      ->check(CLI::IsMember(answers));
+  command.add_option("--formulas", request.formulas, "What to do with formulas")
+      ->type_name("X")
+      ->check(CLI::IsMember(answers));
+  command.add_option("--marked", request.markedFile, "Also write the marked text")->type_name("FILE");
+  command.add_option("--text", request.textFile, "Also write the document's text")->type_name("FILE");
+}
+
+void AddImport(CLI::App& app, Arguments& arguments, Console& console) {
+  CLI::App* import = AddCommand(app, arguments, "import", "Make an exam from a question paper, by rules");
+  AddPath(*import, "DOCUMENT", arguments.import.document, "Question paper: a text file (.txt)");
+  AddPath(*import, "OUT", arguments.import.target, "Exam file to write");
+  AddImportOptions(*import, arguments.import);
+  import->footer(
+      "X is give-up, ignore (leave out such questions) or force. Prints what was read, and what was not.");
+  import->callback([&] { Import(console, arguments.common, arguments.import); });
+}
+
 void AddMatch(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::App* match = AddCommand(app, arguments, "match", "Try a pattern of import rules on a text");
   const auto add = [match](const char* name, auto& target, const char* description, const char* type) {
@@ -205,7 +243,7 @@ int Parse(CLI::App& app, int argumentCount, const char* const* arguments, Consol
   return kCommandFailed;
 }
 
-}  // namespace
+}  // namespace quorvantis::cli
 
 int RunCommandLine(int argumentCount, const char* const* argumentValues, Console& console) {
   CLI::App app("Reads, writes and edits Quorvantis exam files.", "quorvantis-cli");
@@ -221,6 +259,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddScore(app, arguments, console);
   AddEdit(app, arguments, console);
   AddLanguages(app, arguments, console);
+  AddImport(app, arguments, console);
   AddMatch(app, arguments, console);
   if (IsUnknownCommand(app, argumentCount, argumentValues)) {
     console.Complain("unknown command \"" + std::string(argumentValues[1]) + "\"; see quorvantis-cli --help");

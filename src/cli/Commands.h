@@ -48,6 +48,23 @@ void Edit(Console& console, const CommonOptions& options, const std::optional<st
 /// Lists the language libraries that there are.
 void ListLanguages(Console& console, const CommonOptions& options);
 
+/// What `import` is asked for.
+struct ImportRequest {
+  std::filesystem::path document;
+  std::filesystem::path target;
+  std::filesystem::path rules;  ///< "ImportExam.ini"
+  std::string repository;       ///< what its name begins with, or "#" and the number of its section
+  std::filesystem::path into;   ///< the exam to continue; empty for a new one
+  int after = 0;                ///< the question after which to continue
+  std::string pictures;         ///< the answer to a question of the import, empty for none; likewise:
+  std::string formulas;
+  std::filesystem::path markedFile;  ///< for the marked text; empty for none
+  std::filesystem::path textFile;    ///< for the document's text
+};
+
+/// Makes an exam from a question paper, by the rules of a repository.
+void Import(Console& console, const CommonOptions& options, const ImportRequest& request);
+
 /// What `match` is asked for. The text is one of the three, or comes from the console.
 struct MatchRequest {
   std::optional<std::string> pattern;

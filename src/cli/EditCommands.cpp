@@ -105,6 +105,31 @@ void Option(EditSession& session, const Arguments& arguments) {
   session.Editor().questions.EditField(OptionField(BoxIndex(arguments[0])), arguments[1].Text());
 }
 
+/// "continue" or "new", then "pictures" and "formulas" with an answer each, in any order.
+void TakeImportAnswers(ImportAnswers& answers, const Arguments& arguments) {
+  for (std::size_t i = 2; i < arguments.size(); ++i) {
+    const std::u16string word = arguments[i].Text();
+    if (word == u"continue" || word == u"new") {
+      answers.target = word == u"new" ? ImportTarget::NewExam : ImportTarget::Continue;
+    } else if ((word == u"pictures" || word == u"formulas") && i + 1 < arguments.size()) {
+      const ChoiceResult choice = ChoiceNamed(Utf16ToUtf8(arguments[++i].Text()));
+      (word == u"pictures" ? answers.pictures : answers.formulas) = choice;
+    } else {
+      throw CommandError("after the repository come: continue or new, pictures X, formulas X");
+    }
+  }
+}
+
+void Import(EditSession& session, const Arguments& arguments) {
+  ImportAnswers answers;
+  answers.document = arguments[0].Path();
+  answers.repository = arguments[1].Text();
+  TakeImportAnswers(answers, arguments);
+  session.ImportAnswers().Prepare(std::move(answers));
+  session.Import().Run();
+  session.ImportAnswers().ThrowIfRefused();
+}
+
 void Remove(EditSession& session, const Arguments& arguments) {
   AttachmentEditor& attachments = session.Editor().attachments;
   attachments.SelectQuestionFile(EntryIndex(arguments[0], attachments.QuestionList()));
@@ -187,6 +212,8 @@ constexpr EditCommand kCommands[] = {
     {"oral", "", 0,
      [](EditSession& session, const Arguments&) { session.Editor().attachments.ToggleOral(); }},
     {"score", kScoreUsage, 2, Score, 1},
+    {"import", "DOCUMENT REPOSITORY [continue|new] [pictures X] [formulas X]   (X: give-up|ignore|force)", 2,
+     Import, 5},
     {"state", "  (prints one JSON line)", 0, State},
 };
 

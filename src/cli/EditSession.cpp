@@ -3,6 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "platform/Texts.h"
+#include "platform/posix/ApplicationFolder.h"
 #include "shell/CloseSequence.h"
 
 namespace quorvantis::cli {
@@ -13,12 +14,22 @@ std::string Shortened(const std::string& word) {
   return word.size() <= kEnoughToRecognise ? word : word.substr(0, kEnoughToRecognise) + "...";
 }
 
+std::filesystem::path FindImportRules(const std::filesystem::path& applicationFolder) {
+  std::filesystem::path own = applicationFolder / kImportRulesFile;
+  std::error_code error;
+  return std::filesystem::exists(own, error) ? own : ExecutableFolder() / kImportRulesFile;
+}
+
 }  // namespace
 
-EditSession::EditSession(Console& console, const CommonOptions& options)
+EditSession::EditSession(Console& console, const CommonOptions& options,
+                         const std::filesystem::path& importRules)
     : session_(console, options),
       editor_(session_.exam, *this,
-              [this](FrameSetExam&, const std::filesystem::path& target) { Export(target); }) {
+              [this](FrameSetExam&, const std::filesystem::path& target) { Export(target); }),
+      paperReader_(session_.services.codePage),
+      import_(editor_, paperReader_, importAnswers_,
+              importRules.empty() ? FindImportRules(session_.services.applicationFolder) : importRules) {
   editor_.questions.LoadCurrentQuestion();
 }
 

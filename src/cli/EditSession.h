@@ -3,14 +3,18 @@
 
 #include "cli/EditScriptLine.h"
 #include "cli/ExamSession.h"
+#include "cli/ScriptedImport.h"
 #include "editor/ExamEditor.h"
+#include "shell/TextPaperReader.h"
 
 namespace quorvantis::cli {
 
 /// The question editor of the window, driven by script lines instead of clicks.
 class EditSession : private EditorView {
  public:
-  EditSession(Console& console, const CommonOptions& options);
+  /// `importRules` is the file with the repositories; that of the application folder, or the one beside the
+  /// program, without it.
+  EditSession(Console& console, const CommonOptions& options, const std::filesystem::path& importRules = {});
   /// Removes the work copies, as the window does when it ends.
   ~EditSession() override;
 
@@ -19,6 +23,8 @@ class EditSession : private EditorView {
 
   ExamEditor& Editor() { return editor_; }
   ScriptedDialogs& Dialogs() { return session_.dialogs; }
+  ScriptedImport& ImportAnswers() { return importAnswers_; }
+  ImportCommand& Import() { return import_; }
   Console& Streams() { return session_.console; }
 
   /// The window has been closed: nothing but its state can be asked for.
@@ -34,6 +40,9 @@ class EditSession : private EditorView {
 
   ExamSession session_;
   ExamEditor editor_;
+  TextPaperReader paperReader_;
+  ScriptedImport importAnswers_;
+  ImportCommand import_;
   bool closed_ = false;
 };
 
@@ -43,7 +52,7 @@ struct EditCommand {
   std::string_view usage;  ///< its arguments, for messages and help
   std::size_t argumentCount;
   void (*run)(EditSession& session, const std::vector<ScriptArgument>& arguments);
-  std::size_t optionalArguments = 0;
+  std::size_t optionalArguments = 0;  ///< that may follow
 };
 
 /// The command of that name, or null.

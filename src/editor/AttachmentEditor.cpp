@@ -45,7 +45,7 @@ std::optional<std::filesystem::path> AttachmentEditor::ChooseFile() const {
 std::filesystem::path AttachmentEditor::MakeCopy(const std::filesystem::path& source) {
   state_.MarkModified();
   const auto workRoot = AttachmentWorkRoot(state_.document.Services().applicationFolder);
-  return MakeWorkCopy(workRoot, source, ++attachmentCounter_);
+  return MakeWorkCopy(workRoot, source, TakeCopyNumber());
 }
 
 void AttachmentEditor::AttachExamFile() {

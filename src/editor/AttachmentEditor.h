@@ -61,6 +61,9 @@ class AttachmentEditor {
   void RefreshQuestionList();
   void RefreshExamList();
 
+  /// The number for the next work copy; no other gets it.
+  int TakeCopyNumber() { return ++attachmentCounter_; }
+
   /// Keep the lists in step with a question that is deleted or inserted.
   void RemoveQuestionAttachments(int question);
   void ShiftAttachmentsForInsert(int question);

@@ -14,12 +14,12 @@ namespace quorvantis {
 std::u16string EditorState::WindowTitle() const {
   const std::u16string title =
       FillMessage(document.Services().strings.Text(text_id::kWindowTitle), {PathToText(fileName_)});
-  return modified_ ? title + u" *" : title;
+  return titleTells_ ? title + u" *" : title;
 }
 
 void EditorState::MarkModified() {
   if (modified_) return;
-  modified_ = true;
+  modified_ = titleTells_ = true;
   view.TitleChanged();
 }
 
@@ -29,7 +29,7 @@ void EditorState::SetFileName(std::filesystem::path fileName) {
 }
 
 void EditorState::MarkSaved() {
-  modified_ = false;
+  modified_ = titleTells_ = false;
   contentChangeQueued_ = false;  // what it would report has been saved
   view.TitleChanged();
 }

@@ -38,6 +38,8 @@ class EditorState {
   std::u16string WindowTitle() const;
 
   void MarkModified();
+  /// Deliberate: the title does not tell, neither now nor when a field reports a change later. Import does it.
+  void MarkModifiedQuietly() { modified_ = true; }
   void SetFileName(std::filesystem::path fileName);
   /// The document is what the file holds.
   void MarkSaved();
@@ -49,6 +51,7 @@ class EditorState {
  private:
   std::filesystem::path fileName_ = kUntitled;
   bool modified_ = false;
+  bool titleTells_ = false;  ///< of changes
   bool contentChangeQueued_ = false;
 };
 

@@ -40,12 +40,19 @@ void ExamFileCommands::ClearDocument() {
 }
 
 void ExamFileCommands::NewExam() {
-  if (!MayDiscardChanges()) return;
+  if (MayDiscardChanges()) StartNewExam();
+}
+
+void ExamFileCommands::StartNewExam() {
+  EmptyExam();
+  state_.SetFileName(kUntitled);
+  state_.MarkSaved();
+}
+
+void ExamFileCommands::EmptyExam() {
   ClearDocument();
   state_.currentQuestion = 1;
   questions_.LoadCurrentQuestion();
-  state_.SetFileName(kUntitled);
-  state_.MarkSaved();
 }
 
 void ExamFileCommands::OpenExam() {

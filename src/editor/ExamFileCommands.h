@@ -24,6 +24,10 @@ class ExamFileCommands {
       : state_(state), questions_(questions), exportDocument_(std::move(exportDocument)) {}
 
   void NewExam();
+  /// The same without a question.
+  void StartNewExam();
+  /// Empties the exam; its file name stays.
+  void EmptyExam();
 
   void OpenExam();
   /// Opens `file`, a full path, without a file dialog.

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/EditSession.h"
+#include "examfile/ExamFileWriter.h"
+#include "platform/WholeFile.h"
+#include "shell/ImportSummary.h"
+#include "text/Utf.h"
+
+#include <ostream>
+
+namespace quorvantis::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+void RefuseToOverwrite(const fs::path& source, const fs::path& target) {
+  std::error_code ignored;
+  if (!target.empty() && fs::equivalent(source, target, ignored)) {
+    throw CommandError(target.string() + ": is a file to read; name another one to write");
+  }
+}
+
+void WriteText(const fs::path& file, std::u16string_view text, PosixFiles& files) {
+  if (file.empty()) return;
+  if (const auto error = SaveWholeFile(files, file, Utf16ToUtf8(text))) {
+    throw CommandError(file.string() + ": cannot be written: " + error.message());
+  }
+}
+
+ImportAnswers Answers(const ImportRequest& request) {
+  ImportAnswers answers;
+  answers.document = fs::absolute(request.document);
+  answers.repository = Utf8ToUtf16(request.repository);
+  answers.target = ImportTarget::Continue;
+  answers.pictures = ChoiceNamed(request.pictures);
+  answers.formulas = ChoiceNamed(request.formulas);
+  return answers;
+}
+
+/// Imports; throws when nothing was.
+const ImportReport& RunImport(EditSession& session, const ImportRequest& request) {
+  session.ImportAnswers().Prepare(Answers(request));
+  const int errors = session.Dialogs().ErrorCount();
+  if (!request.into.empty()) session.Editor().files.OpenExam(fs::absolute(request.into));
+  if (session.Dialogs().ErrorCount() > errors)
+    throw CommandError(request.into.string() + ": was not changed");
+  request.into.empty() ? session.Import().Run() : session.Import().RunAfter(request.after);
+  session.ImportAnswers().ThrowIfRefused();
+  const ImportReport& report = session.ImportAnswers().Report();
+  if (!report.imported)
+    throw CommandError(request.target.string() + ": was not written, because the import was given up");
+  return report;
+}
+
+}  // namespace
+
+void Import(Console& console, const CommonOptions& options, const ImportRequest& request) {
+  for (const fs::path& target : {request.target, request.markedFile, request.textFile}) {
+    RefuseToOverwrite(request.document, target);
+    RefuseToOverwrite(request.rules, target);
+  }
+  EditSession session(console, options, request.rules);
+  const ImportReport& report = RunImport(session, request);
+  PosixFiles files;
+  WriteText(request.textFile, report.text, files);
+  WriteText(request.markedFile, report.marked.text, files);
+  FrameSetExam& exam = session.Editor().state.document;
+  if (const auto error = ExamFileWriter(exam, exam.Services()).Write(request.target)) {
+    throw CommandError(request.target.string() + ": cannot be written: " + error.message());
+  }
+  for (const std::u16string& line : ImportSummary(report)) console.out << Utf16ToUtf8(line) << '\n';
+}
+
+}  // namespace quorvantis::cli

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "cli/ScriptedImport.h"
+
+#include "cli/CommandError.h"
+#include "cli/WhyUnreadable.h"
+#include "platform/Texts.h"
+#include "text/NumberText.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace quorvantis::cli {
+namespace {
+
+/// "#" and a number; nothing for other texts.
+std::optional<int> SectionNamed(std::u16string_view repository) {
+  if (!repository.starts_with(u'#')) return std::nullopt;
+  repository.remove_prefix(1);
+  const int section = ParseInteger(repository);
+  return FormatInteger(section) == repository ? std::optional(section) : std::nullopt;
+}
+
+std::string NamesOf(const ExamImport& import) {
+  std::string names;
+  for (const std::u16string& name : import.Repositories()) {
+    names += (names.empty() ? "" : ", ") + ("\"" + Utf16ToUtf8(name) + "\"");
+  }
+  return names.empty() ? "it has none" : "it has " + names;
+}
+
+}  // namespace
+
+ChoiceResult ChoiceNamed(std::string_view word) {
+  constexpr std::string_view kWords[] = {"", "give-up", "ignore", "force"};
+  const auto* found = std::ranges::find(kWords, word);
+  if (found == std::end(kWords)) throw CommandError("the answer must be give-up, ignore or force");
+  return static_cast<ChoiceResult>(found - std::begin(kWords));
+}
+
+void ScriptedImport::Prepare(ImportAnswers answers) {
+  answers_ = std::move(answers);
+  report_ = {};
+  refusal_.clear();
+}
+
+bool ScriptedImport::AskDocument(ExamImport& import) {
+  const std::string rules = import.m_strIniPath.string();
+  std::optional<int> section = SectionNamed(answers_.repository);
+  import.m_strDocPath = answers_.document;
+  import.m_strRepository = answers_.repository;
+  if (!section) section = import.ChosenSection();
+  std::error_code error;
+  const int wrong = import.AcceptSection(*section);
+  if (wrong == text_id::kWrongDocumentPath) {
+    refusal_ = answers_.document.string() + ": " + WhyUnreadable(answers_.document);
+  } else if (!std::filesystem::is_regular_file(import.m_strIniPath, error)) {
+    refusal_ = rules + ": " + WhyUnreadable(import.m_strIniPath);
+  } else if (*section == ExamImport::kNoSection) {
+    refusal_ = rules + ": no repository begins with \"" + Utf16ToUtf8(answers_.repository) + "\"; " +
+               NamesOf(import);
+  } else if (wrong != 0) {
+    refusal_ =
+        rules + ": section " + std::to_string(*section) + " needs the keys \"Pattern\" and \"PreAnswer\"";
+  }
+  return refusal_.empty();
+}
+
+void ScriptedImport::ShowFailure(std::u16string_view text) {
+  refusal_ = Utf16ToUtf8(text);
+}
+
+void ScriptedImport::ThrowIfRefused() const {
+  if (!refusal_.empty()) throw CommandError(refusal_);
+}
+
+}  // namespace quorvantis::cli

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/ImportCommand.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace quorvantis::cli {
+
+/// What a command line or a script answers to the questions of an import. A dialog without an answer counts
+/// as closed, which makes a new exam and leaves pictures and formulas as they are.
+struct ImportAnswers {
+  std::filesystem::path document;
+  std::u16string repository;  ///< the beginning of its name, or "#" and the number of its section
+  ImportTarget target = ImportTarget::NewExam;
+  ChoiceResult pictures = ChoiceResult::None;
+  ChoiceResult formulas = ChoiceResult::None;
+};
+
+/// "give-up", "ignore" or "force"; an empty word is None. Throws CommandError for others.
+ChoiceResult ChoiceNamed(std::string_view word);
+
+/// The dialogs of an import, answered beforehand.
+class ScriptedImport : public ImportDialogs {
+ public:
+  void Prepare(ImportAnswers answers);
+
+  /// Why there was no import, if it was for the document or the rules, as a CommandError.
+  void ThrowIfRefused() const;
+  const ImportReport& Report() const { return report_; }
+
+  ImportTarget AskTarget() override { return answers_.target; }
+  bool AskDocument(ExamImport& import) override;
+  ChoiceResult AskPictures() override { return answers_.pictures; }
+  ChoiceResult AskFormulas() override { return answers_.formulas; }
+  void ShowWait() override {}
+  void HideWait() override {}
+  void ShowFailure(std::u16string_view text) override;
+  void ShowReport(const ImportReport& report) override { report_ = report; }
+
+ private:
+  ImportAnswers answers_;
+  std::string refusal_;
+  ImportReport report_;
+};
+
+}  // namespace quorvantis::cli

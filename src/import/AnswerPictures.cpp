@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "import/AnswerPictures.h"
+
+#include "examfile/AttachmentName.h"
+#include "text/PathText.h"
+
+namespace quorvantis {
+namespace {
+
+constexpr std::u16string_view kPictureSuffix = u".bmp";
+constexpr std::u16string_view kPictureTaken = u"$$";  // what is left of a picture in the text
+constexpr std::u16string_view kFormula = u"##";
+
+bool Holds(std::u16string_view text, std::u16string_view part) {
+  return text.find(part) != text.npos;
+}
+
+/// Replaces every suffix of a picture.
+std::u16string WithSuffixes(std::u16string_view text, std::u16string_view replacement) {
+  std::u16string result;
+  for (;;) {
+    const std::size_t at = text.find(kPictureSuffix);
+    result += text.substr(0, at);
+    if (at == text.npos) return result;
+    result += replacement;
+    text.remove_prefix(at + kPictureSuffix.size());
+  }
+}
+
+/// The name of the first picture: from the last blank before its suffix on.
+std::u16string FirstPicture(std::u16string_view text) {
+  const std::u16string_view before = text.substr(0, text.find(kPictureSuffix));
+  return std::u16string(before.substr(before.rfind(u' ') + 1)) += kPictureSuffix;
+}
+
+}  // namespace
+
+bool AnswersHavePictures(const ExamQuestion& question) {
+  return Holds(question.answerText, kPictureSuffix) || Holds(question.essayAnswer, kPictureSuffix);
+}
+
+void MarkAnswerPictures(ExamQuestion& question, std::u16string_view notice) {
+  const std::u16string marked = std::u16string(kPictureSuffix).append(notice);
+  question.answerText = WithSuffixes(question.answerText, marked);
+  question.essayAnswer = WithSuffixes(question.essayAnswer, marked);
+}
+
+bool HasFormula(const ExamQuestion& question) {
+  return Holds(question.text, kFormula) || Holds(question.answerText, kFormula) ||
+         Holds(question.essayAnswer, kFormula);
+}
+
+bool AttachTextPicture(ExamQuestion& question, const std::filesystem::path& workRoot) {
+  if (!Holds(question.text, kPictureSuffix)) return false;
+  const std::u16string name = FirstPicture(question.text);
+  question.text = WithSuffixes(question.text, kPictureTaken);
+  question.attachmentPaths[0] = PathToText(workRoot / TextToPath(FitFileName(FileNameOf(name))));
+  question.attachmentNames[0] = name;
+  return true;
+}
+
+}  // namespace quorvantis

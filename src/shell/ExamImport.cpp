@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "shell/ExamImport.h"
+
+#include "import/RuleKeys.h"
+#include "platform/Texts.h"
+#include "shell/ProfileValues.h"
+#include "text/AsciiCase.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+struct KeyedRule {
+  std::u16string_view key;
+  std::u16string ImportSettings::*rule;
+};
+
+constexpr KeyedRule kRules[] = {
+    {rule_key::kPattern, &ImportSettings::m_strPattern},
+    {rule_key::kPreQuestion, &ImportSettings::m_strPreQuestion},
+    {rule_key::kPreAnswer, &ImportSettings::m_strPreAnswer},
+    {rule_key::kChoiceAnswerPattern, &ImportSettings::m_strChoiceAnswerPattern},
+    {rule_key::kChoiceAnswer, &ImportSettings::m_strChoiceAnswer},
+    {rule_key::kJudgementAnswerPattern, &ImportSettings::m_strJudgementAnswerPattern},
+    {rule_key::kJudgementAnswer, &ImportSettings::m_strJudgementAnswer},
+    {rule_key::kPreAllAnswer, &ImportSettings::m_strPreAllAnswer},
+    {rule_key::kPreParenQuestion, &ImportSettings::m_strPreParenQuestion},
+    {rule_key::kTitle, &ImportSettings::m_strTitle},
+    {rule_key::kBmp, &ImportSettings::m_strBmp},
+    {rule_key::kChoiceBmp, &ImportSettings::m_strChoiceBmp},
+    {rule_key::kPreTable, &ImportSettings::m_strPreTable},
+};
+
+bool BeginsWith(std::u16string_view name, std::u16string_view chosen) {
+  return EqualsIgnoringAsciiCase(name.substr(0, chosen.size()), chosen);
+}
+
+}  // namespace
+
+void ExamImport::Open() {
+  const ProfileFile file(m_strIniPath, &codePage_);
+  const int size = std::min(ReadProfileInteger(u"Repository", u"Size", 0, file), kMostRepositories);
+  repositories_.clear();
+  for (int i = 0; i < size; ++i) {
+    repositories_.push_back(ReadProfileString(FormatInteger(i), u"Name", {}, file));
+  }
+  m_strRepository = repositories_.empty() ? std::u16string() : repositories_.front();
+}
+
+int ExamImport::ChosenSection() const {
+  const int count = static_cast<int>(repositories_.size());
+  for (int step = 1; step <= count; ++step) {
+    const int entry = step % count;
+    if (BeginsWith(repositories_[static_cast<std::size_t>(entry)], m_strRepository)) return entry;
+  }
+  return kNoSection;
+}
+
+int ExamImport::Accept() {
+  return AcceptSection(ChosenSection());
+}
+
+int ExamImport::AcceptSection(int section) {
+  std::error_code error;
+  if (m_strDocPath.empty() || !std::filesystem::exists(m_strDocPath, error))
+    return text_id::kWrongDocumentPath;
+  const ProfileFile file(m_strIniPath, &codePage_);
+  const std::u16string name = FormatInteger(section);
+  for (const KeyedRule& keyed : kRules) this->*keyed.rule = ReadProfileString(name, keyed.key, {}, file);
+  if (m_strPattern.empty() || m_strPreAnswer.empty()) return text_id::kWrongImportRules;
+  if (ReadProfileInteger(name, rule_key::kTable, 0, file) == 1) {
+    m_nTable = 1;
+    m_strTableAnsKey = ReadProfileString(name, rule_key::kAnswerKey, {}, file);
+    m_strTableQuesKey = ReadProfileString(name, rule_key::kQuestionKey, {}, file);
+  }
+  return 0;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "import/ImportSettings.h"
+#include "platform/CodePage.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// The name of the file with the repositories.
+inline constexpr const char* kImportRulesFile = "ImportExam.ini";
+
+/// The rules behind the import dialog: which repositories "ImportExam.ini" has, and what the user's choice of
+/// a document and one of them comes to. Its settings are those of the chosen repository once Accept was
+/// content.
+class ExamImport : public ImportSettings {
+ public:
+  /// More repositories than this are not listed.
+  static constexpr int kMostRepositories = 1000;
+  static constexpr int kNoSection = -1;
+
+  /// `codePage`, which must outlive this, is that of a file in 8-bit text.
+  ExamImport(std::filesystem::path iniFile, const CodePage& codePage)
+      : m_strIniPath(std::move(iniFile)), codePage_(codePage) {}
+
+  /// Lists the repositories in the order of the file, and selects the first one.
+  void Open();
+  const std::vector<std::u16string>& Repositories() const { return repositories_; }
+
+  /// Takes the rules of the chosen repository. 0, or the number of the text that tells what is wrong; the
+  /// dialog then stays open.
+  int Accept();
+
+  /// The same with the rules of a section, whatever its name.
+  int AcceptSection(int section);
+
+  /// The section of the chosen repository: that of the first one whose name begins with the chosen one.
+  /// Deliberate: the search begins at the second entry and comes to the first one last, so that a repository
+  /// whose name begins a later one's gives the later one. kNoSection when there is none.
+  int ChosenSection() const;
+
+  std::filesystem::path m_strIniPath;
+  std::filesystem::path m_strDocPath;
+  std::u16string m_strRepository;
+
+ private:
+  const CodePage& codePage_;
+  std::vector<std::u16string> repositories_;
+};
+
+}  // namespace quorvantis
