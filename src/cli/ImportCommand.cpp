@@ -2,6 +2,7 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
+#include "cli/InputFile.h"
 #include "examfile/ExamFileWriter.h"
 #include "platform/WholeFile.h"
 #include "shell/ImportSummary.h"
@@ -42,6 +43,7 @@ ImportAnswers Answers(const ImportRequest& request) {
 const ImportReport& RunImport(EditSession& session, const ImportRequest& request) {
   session.ImportAnswers().Prepare(Answers(request));
   const int errors = session.Dialogs().ErrorCount();
+  if (!request.into.empty()) OpenInput(request.into);  // fails with one line
   if (!request.into.empty()) session.Editor().files.OpenExam(fs::absolute(request.into));
   if (session.Dialogs().ErrorCount() > errors)
     throw CommandError(request.into.string() + ": was not changed");

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "CommandLineTest.h"
+
+#include <fstream>
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kProject = fs::path(__FILE__).parent_path().parent_path().parent_path();
+
+std::string ReadText(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+std::string WithoutEndBreaks(std::string text) {
+  return text.erase(text.find_last_not_of("\r\n") + 1);
+}
+
+class ImportCommand : public CommandLineTest {
+ protected:
+  ImportCommand() { WriteBytes(folder / "rules.ini", Rules("Q;", "(?<Q1>q.*)|(?<Q2>.+)")); }
+
+  static std::string Rules(const std::string& question, const std::string& pattern) {
+    return "[Repository]\nSize=2\n[0]\nName=Math\nPreQuestion=" + question +
+           "\nPreAnswer=A;\nPattern=" + pattern +
+           "\n[1]\nName=math2\nPattern=x\n[7]\nPattern=(?<Q2>.+)\nPreAnswer=A;\n";
+  }
+
+  RunResult Import(const std::string& paper, std::vector<std::string> more = {"--repository", "#0"}) {
+    WriteBytes(folder / "paper.txt", paper);
+    std::vector<std::string> arguments{"import", Path("paper.txt"), Path("exam.exm"), "--rules",
+                                       Path("rules.ini")};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return Command(arguments);
+  }
+
+  /// The questions of the exam, one line each.
+  std::string Questions() {
+    std::string lines;
+    const Json exam = Shown();
+    for (const Json& question : exam["questions"]) {
+      const std::string kind = question["kind"];
+      lines += (kind == "Choice" ? "choice: " : kind == "FillIn" ? "fill-in: " : "essay: ");
+      lines += WithoutEndBreaks(question["text"]) + " ";
+      for (const std::string option : question["options"]) lines += option.empty() ? "" : "[" + option + "] ";
+      for (const char* answer : {"answerLetters", "answerText", "essayAnswer"}) {
+        lines += WithoutEndBreaks(question[answer]);
+      }
+      lines += "\n";
+    }
+    return lines;
+  }
+};
+
+/// The text between "```<name>" and "```" from `at` on, which moves behind it.
+std::string TakeBlock(const std::string& page, const std::string& name, std::size_t& at) {
+  const std::string begin = "\n```" + name + "\n";
+  const std::size_t found = page.find(begin, at);
+  if (found == std::string::npos) return {};
+  at = page.find("\n```\n", found + 1);
+  return page.substr(found + begin.size(), at + 1 - found - begin.size());
+}
+
+TEST_F(ImportCommand, ReadsTheExamplesOfTheManual) {
+  const std::string page = ReadText(kProject / "docs" / "IMPORT-RULES.md");
+  int examples = 0;
+  for (std::size_t at = 0;; ++examples) {
+    const std::string rules = TakeBlock(page, "ini", at);
+    if (rules.empty()) break;
+    WriteBytes(folder / "rules.ini", "[Repository]\nSize=1\n[0]\nName=x\n" + rules);
+    const RunResult run = Import(TakeBlock(page, "paper", at));
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(Questions(), TakeBlock(page, "result", at));
+  }
+  EXPECT_EQ(examples, 4);
+}
+
+TEST_F(ImportCommand, ReadsTheSamplePapers) {
+  const fs::path papers = kProject / "samples" / "papers";
+  const struct {
+    const char* repository;
+    const char* paper;
+    std::string first;
+    std::string questions;
+  } rows[] = {
+      {"English, answers after", "english-own-answers.txt", "choice: Which planet is closest to the sun? [Ve",
+       "5 questions read: 2 choice, 0 true/false, 2 fill-in, 1 essay.\n"},
+      {"English, answers at", "english-answer-key.txt", "choice: Which river flows through Cairo? [Nile] [C",
+       "6 questions read: 3 choice, 3 true/false, 0 fill-in, 0 essay.\n"},
+      {"中文，答案在题后", "chinese-own-answers.txt",
+       "choice: 离太阳最近的行星是哪一颗？ [金星] [水星] [火星] B\n",
+       "5 questions read: 2 choice, 0 true/false, 2 fill-in, 1 essay.\n"},
+      {"中文，答案在卷末", "chinese-answer-key.txt", "choice: 流经开罗的是哪条河？ [尼罗河] [刚果河] A\n",
+       "5 questions read: 2 choice, 3 true/false, 0 fill-in, 0 essay.\n"}};
+  for (const auto& row : rows) {
+    const RunResult run = Command({"import", (papers / row.paper).string(), Path("exam.exm"), "--rules",
+                                   (papers / "ImportExam.ini").string(), "--repository", row.repository});
+    EXPECT_TRUE(run.out.starts_with(row.questions)) << run.out << run.err;
+    EXPECT_TRUE(Questions().starts_with(row.first)) << Questions();
+    EXPECT_EQ(Questions().find("====="), std::string::npos);
+  }
+}
+
+TEST_F(ImportCommand, TellsWhatWasNotRecognised) {
+  const RunResult run = Import("#####Q;q1A;BQ;lost\nQ;2A;x",
+                               {"--repository", "#0", "--marked", Path("m"), "--text", Path("t")});
+  EXPECT_EQ(
+      run.out,
+      "2 questions read: 1 choice, 0 true/false, 0 fill-in, 1 essay.\n"
+      "1 parts of the paper were left out because the rule \"PreAnswer\" matched nothing in them; the first "
+      "begins: lost\n\n"
+      "The paper itself holds \"#####\", which import takes for a mark of its own.\n");
+  EXPECT_EQ(ReadText(folder / "m"), "#####!!!!!q1@@@@@B!!!!!lost\n!!!!!2@@@@@x");
+  EXPECT_EQ(ReadText(folder / "t"), "#####Q;q1A;BQ;lost\nQ;2A;x");
+}
+
+TEST_F(ImportCommand, FailsWithOneLineAndWritesNothing) {
+  const auto refused = [this](const std::string& reason, const std::string& rules,
+                              std::vector<std::string> more) {
+    SCOPED_TRACE(reason);
+    WriteBytes(folder / "rules.ini", rules);
+    ExpectFailure(Import("Q;a.bmpA;b.bmp", std::move(more)), reason);
+    EXPECT_FALSE(fs::exists(folder / "exam.exm"));
+  };
+  const std::string good = Rules("Q;", ".+");
+  refused("\"PreQuestion\" in ImportExam.ini never comes to an end", Rules("Q?", ".+"),
+          {"--repository", "#0"});
+  refused("no repository begins with \"x\"; it has \"Math\", \"math2\"", good, {"--repository", "x"});
+  refused("section 1 needs the keys", good, {"--repository", "Math"});  // the later one is found first
+  refused("section 3 needs the keys", good, {"--repository", "#3"});
+  refused("absent.exm: cannot be opened", good,
+          {"--repository", "#0", "--into", Path("absent.exm"), "--after", "1"});
+  ExpectFailure(Command({"import", Path("a.doc"), Path("b"), "--repository", "#0"}), "There is no such file");
+  WriteBytes(folder / "a.doc", "");
+  ExpectFailure(
+      Command({"import", Path("a.doc"), Path("b"), "--rules", Path("rules.ini"), "--repository", "#0"}),
+      "reads text files (.txt) only");
+  EXPECT_EQ(Import("x", {"--repository", "#0", "--after", "1"}).status, 2);
+}
+
+TEST_F(ImportCommand, ContinuesAnExam) {
+  Json questions;
+  for (const char* text : {"one", "two", "three", "four", "five"}) {
+    questions.push_back({{"text", text}, {"kind", "Essay"}, {"essayAnswer", "old"}});
+  }
+  WriteBytes(folder / "in.json", Json({{"questions", questions}}).dump());
+  EXPECT_EQ(Command({"build", Path("in.json"), Path("in.exm")}).status, 0);
+  EXPECT_EQ(Import("Q;newA;B", {"--repository", "#0", "--into", Path("in.exm"), "--after", "2"}).status, 0);
+  // The slot after the imported ones gets what the first of them held.
+  EXPECT_EQ(Questions(), "essay: one old\nessay: two old\nessay: new B\nessay: three old\nessay: five old\n");
+}
+
+TEST_F(ImportCommand, AsksAboutPicturesInAnswers) {
+  const std::string paper = "Q;firstA;1.bmpQ;see ../../x.bmp 2.bmpA;bQ;thirdA;3.bmp";
+  EXPECT_EQ(Import(paper).err, "");
+  EXPECT_EQ(Questions(),
+            "essay: first 1.bmp\nessay: see ../../x$$ 2$$ b\n"
+            "essay: third 3.bmp(Can not show the picture)\n");
+  EXPECT_EQ(Shown()["questions"][1]["attachments"][0]["name"], "../../x.bmp");
+  Import(paper, {"--repository", "#0", "--answer-pictures", "ignore"});
+  EXPECT_EQ(Questions(), "essay: first 1.bmp\nessay: see ../../x$$ 2$$ b\n");
+  const RunResult forced = Import(paper, {"--repository", "#0", "--answer-pictures", "force"});
+  EXPECT_NE(forced.err.find("1,3,The answer in the exam have pictures,can not display"), std::string::npos);
+  ExpectFailure(Import(paper, {"--repository", "#0", "--answer-pictures", "give-up"}), "given up");
+}
+
+TEST_F(ImportCommand, IsALineOfEditScripts) {
+  fs::create_directory(folder / "app");
+  WriteBytes(folder / "app" / "ImportExam.ini", ReadText(folder / "rules.ini"));
+  WriteBytes(folder / "paper.txt", "Q;q1A;BQ;2A;x.bmp");
+  const std::string line = "import " + Path("paper.txt") + " #0";
+  const auto state = [&](const std::string& script) {
+    const RunResult run = Command({"edit", "--app-folder", Path("app")}, script + "\nstate\n");
+    EXPECT_EQ(run.status, 0) << run.err;
+    return Json::parse(run.out);
+  };
+  const Json fresh = state("text typed\n" + line);
+  EXPECT_EQ(fresh["currentQuestion"], 2);
+  EXPECT_EQ(fresh["form"]["text"], "2");
+  EXPECT_TRUE(fresh["modified"]);
+  EXPECT_EQ(state(line + "\nnext\ntext typed\n")["windowTitle"], "Quorvantis - UnTitle");
+  EXPECT_EQ(state("text typed\n" + line + "\nnext")["form"]["text"], "typed");
+  EXPECT_EQ(state("next\n" + line + " continue pictures ignore")["currentQuestion"], 3);
+  const Json gone = state("next\ntext two\nnext\nprev\n" + line + " continue pictures give-up");
+  EXPECT_EQ(gone["form"]["text"], "two");
+  EXPECT_FALSE(gone["modified"]);
+  ExpectFailure(Command({"edit"}, "import a b c\n"), "continue or new");
+}
+
+}  // namespace
+}  // namespace quorvantis::test
