@@ -3,6 +3,7 @@
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
 #include "cli/InputFile.h"
+#include "cli/SavingLosses.h"
 #include "examfile/ExamFileWriter.h"
 #include "platform/WholeFile.h"
 #include "shell/ImportSummary.h"
@@ -71,6 +72,7 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
   if (const auto error = ExamFileWriter(exam, exam.Services()).Write(request.target)) {
     throw CommandError(request.target.string() + ": cannot be written: " + error.message());
   }
+  for (const std::string& loss : LossesOnSaving(exam)) console.Complain(request.target.string() + ": " + loss);
   for (const std::u16string& line : ImportSummary(report)) console.out << Utf16ToUtf8(line) << '\n';
 }
 
