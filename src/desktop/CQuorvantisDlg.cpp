@@ -88,6 +88,9 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, O
       editor_(exam, *this, std::move(exportDocument)),
       languageId_(languageId),
       previews_(SetUpGateway(exam, pages), *this),
+      importWindows_(exam.Services(), *this),
+      paperReader_(exam.Services().codePage),
+      import_(editor_, paperReader_, importWindows_, exam.Services().applicationFolder / kImportRulesFile),
       pictures_(library),
       files_(editor_, PageCommands(), exam.Services().strings, pictures_, WithFittingFont(this)),
       examControls_(editor_, exam.Services().strings, this),
@@ -131,7 +134,7 @@ void CQuorvantisDlg::PrepareOffice() {
 
 FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
   FileButtons::PageCommands commands;
-  commands.importExam = [this] { Import(); };
+  commands.importExam = [this] { import_.Run(); };
   commands.scoreSetup = [this] { SetUpScores(); };
   commands.preview = [this] { Preview(); };
   commands.print = [this] { Print(); };
@@ -149,7 +152,7 @@ void CQuorvantisDlg::Layout() {
 /// Without the file that tells how documents are read there is no import in this run.
 void CQuorvantisDlg::OfferImport() {
   const ExamServices& services = exam_.Services();
-  if (CanRead(services.applicationFolder / "ImportExam.ini")) return;
+  if (CanRead(services.applicationFolder / kImportRulesFile)) return;
   services.debug.Line(u"CQuorvantisDlg::!file.Open");
   files_.HideImport();
 }
@@ -185,11 +188,6 @@ void CQuorvantisDlg::Print() {
   PrintCommand(editor_.questions, exam_, [this](const std::filesystem::path& page) {
     previews_.NewSession().PrintOffScreen(page);
   }).Run();
-}
-
-void CQuorvantisDlg::Import() {
-  const ExamServices& services = exam_.Services();
-  services.dialogs.ShowError(services.strings.Text(text_id::kCannotImport));
 }
 
 void CQuorvantisDlg::ShowAbout() {

@@ -4,6 +4,7 @@
 #include "desktop/AnswerControls.h"
 #include "desktop/ExamControls.h"
 #include "desktop/FileButtons.h"
+#include "desktop/ImportWindows.h"
 #include "desktop/Pictures.h"
 #include "desktop/QuestionArea.h"
 #include "desktop/QuestionControls.h"
@@ -13,6 +14,7 @@
 #include "scoring/SetupOwner.h"
 #include "shell/CodePageChoice.h"
 #include "shell/OfficeControl.h"
+#include "shell/TextPaperReader.h"
 
 #include <QPushButton>
 #include <QUrl>
@@ -76,7 +78,6 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void OfferImport();
   void ScreenChanged();
   void EndUnasked();
-  void Import();
   void ShowAbout();
   void PrepareOffice();
   void Preview();
@@ -90,6 +91,9 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   ExamEditor editor_;
   const int languageId_;
   PreviewWindows previews_;
+  ImportWindows importWindows_;
+  TextPaperReader paperReader_;
+  ImportCommand import_;
   Pictures pictures_;
   bool endsUnasked_ = false;
   FileButtons files_;

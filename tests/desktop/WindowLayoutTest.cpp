@@ -120,8 +120,6 @@ TEST_F(WindowLayout, ImportIsThereOnlyWithItsRules) {
   Open();
   EXPECT_EQ(Control("save").x(), 280);
   EXPECT_TRUE(world.debug.lines.empty());
-  Click("import");
-  EXPECT_EQ(world.dialogs.errors.size(), 1U);
 }
 
 /// Distance of the brightest and the darkest spot, 0 to 255.

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "WindowTest.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+namespace quorvantis::test {
+namespace {
+
+class ImportWindow : public WindowTest {
+ protected:
+  void OpenWithRules() {
+    std::filesystem::create_directories(folder / "app");
+    WriteBytes(folder / "app" / "ImportExam.ini",
+               "[Repository]\nSize=2\n[0]\nName=Maths\nPreQuestion=Q;\nPreAnswer=A;\nPattern=(?<Q2>.+)\n"
+               "[1]\nName=Broken\n");
+    paper = WriteBytes(folder / "paper.txt", "Q;oneA;1Q;twoA;2.bmp");
+    Open();
+  }
+
+  /// Runs `work` on each modal dialog that appears in turn.
+  void WhenAsked(std::vector<std::function<void(QDialog&)>> works) {
+    script = std::move(works);
+    QObject::connect(&timer, &QTimer::timeout, [this] {
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr || next == script.size()) return;
+      script[next++](*dialog);
+    });
+    timer.start(20);
+  }
+  static void Press(QDialog& dialog, const char* caption) {
+    for (auto* button : dialog.findChildren<QPushButton*>()) {
+      if (button->text().remove('&') == QString::fromUtf8(caption)) return button->click();
+    }
+    ADD_FAILURE() << caption;
+    dialog.reject();
+  }
+
+  std::filesystem::path paper;
+  std::vector<std::function<void(QDialog&)>> script;
+  std::size_t next = 0;
+  QTimer timer;
+};
+
+TEST_F(ImportWindow, ReadsTheChosenPaper) {
+  OpenWithRules();
+  Type("questionText", "typed");
+  const auto choose = [this](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "ImportExam");
+    auto& repository = *dialog.findChild<QComboBox*>("repository");
+    EXPECT_EQ(repository.currentText(), "Maths");
+    repository.setCurrentText("Broken");
+    Press(dialog, "导入试卷");
+    world.dialogs.filesToOpen = {paper};
+    Press(dialog, "浏览");
+    EXPECT_EQ(world.dialogs.requests.back().filter.substr(0, 25), u"Doc files, (*.doc)|*.doc|");
+    Press(dialog, "浏览");  // cancelled: the path stays
+    Press(dialog, "导入试卷");
+    repository.setCurrentText("Maths");
+    Press(dialog, "导入试卷");
+  };
+  WhenAsked({choose, [](QDialog& dialog) {
+               EXPECT_EQ(dialog.windowTitle(), QString::fromUtf8("图片处理"));
+               Press(dialog, "强行导入");
+             }});
+  Click("import");
+  EXPECT_EQ(next, 2U);
+  EXPECT_EQ(world.dialogs.errors, (std::vector<std::u16string>{u"[162 %s]", u"[163 %s]"}));
+  EXPECT_EQ(world.dialogs.warnings, std::vector<std::u16string>{u"2,[167 %s]"});
+  EXPECT_EQ(exam.Question(1).text + exam.Question(2).text + exam.Question(3).text, u"onetwotyped");
+}
+
+TEST_F(ImportWindow, AsksForTheTargetAndCanBeCancelled) {
+  OpenWithRules();
+  Click("next");
+  WhenAsked(
+      {[](QDialog& dialog) { Press(dialog, "继续导入"); }, [](QDialog& dialog) { Press(dialog, "取消"); }});
+  Click("import");
+  EXPECT_EQ(next, 2U);
+  EXPECT_EQ(exam.Question(3).text, u"");
+}
+
+}  // namespace
+}  // namespace quorvantis::test
