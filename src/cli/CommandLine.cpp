@@ -193,8 +193,9 @@ void AddImport(CLI::App& app, Arguments& arguments, Console& console) {
   AddImportOptions(*import, arguments.import);
   import->footer(
       "X is give-up, ignore (leave out such questions) or force. Prints what was read, and what was not.");
-  import->callback([&] { Import(console, arguments.common, arguments.import); });
-}
+  import->callback([&] { Import(console, arguments.common, arguments.import);
+});
+}  // namespace
 
 void AddMatch(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::App* match = AddCommand(app, arguments, "match", "Try a pattern of import rules on a text");
@@ -202,11 +203,12 @@ void AddMatch(CLI::App& app, Arguments& arguments, Console& console) {
     return match->add_option(name, target, description)->type_name(type);
   };
   MatchRequest& request = arguments.match;
-  add("PATTERN", request.pattern, "Pattern to try", "");
+  CLI::Option* pattern = add("PATTERN", request.pattern, "Pattern to try", "");
   add("--flags", request.flags,
       "Sum of 1 single-line, 2 multi-line, 4 global, 8 ignore case,\n16 right-to-left, 32 extended; 3 "
       "without it",
-      "N");
+      "N")
+      ->check(CLI::Range(0, 63));
   add("--start", request.start, "Where the scan begins, in UTF-16 units", "N");
   CLI::Option* text = add("--text", request.text, "Text to search", "TEXT");
   CLI::Option* file =
@@ -214,9 +216,12 @@ void AddMatch(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::Option* batch = add("--batch", request.batch,
                            "File with a {\"pattern\": …, \"flags\": …, \"text\": …} on each line", "FILE");
   text->excludes(file)->excludes(batch);
-  file->excludes(batch);
+  batch->excludes(file)->excludes(pattern);
   match->footer("Prints where the groups matched, in UTF-16 units, as one JSON object.");
-  match->callback([&] { Match(console, request); });
+  match->callback([&console, &request] {
+    if (!request.pattern && !request.batch) throw CLI::RequiredError("PATTERN or --batch");
+    Match(console, request);
+  });
 }
 
 /// Names a command that does not exist, which CLI11 would report as a missing one.

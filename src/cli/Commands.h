@@ -65,14 +65,15 @@ struct ImportRequest {
 /// Makes an exam from a question paper, by the rules of a repository.
 void Import(Console& console, const CommonOptions& options, const ImportRequest& request);
 
-/// What `match` is asked for. The text is one of the three, or comes from the console.
+/// What `match` is asked for: a pattern and a text, which comes from the console where there is none, or a
+/// file of both.
 struct MatchRequest {
   std::optional<std::string> pattern;
   int flags = 3;
   int start = -1;
   std::optional<std::string> text;
-  std::filesystem::path textFile;
-  std::filesystem::path batch;  ///< a JSON object with a pattern and a text on each line
+  std::optional<std::filesystem::path> textFile;
+  std::optional<std::filesystem::path> batch;  ///< a JSON object with a pattern and a text on each line
 };
 
 /// Tries patterns, and prints one JSON object for each.

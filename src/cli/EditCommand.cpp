@@ -26,6 +26,7 @@ void RunScript(EditSession& session, std::istream& script, const std::string& na
       throw CommandError(name + ":" + std::to_string(number) + ": " + problem.what());
     }
   }
+  if (script.bad()) throw CommandError(name + ": cannot be read to its end");
 }
 
 }  // namespace

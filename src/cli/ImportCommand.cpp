@@ -72,7 +72,8 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
   if (const auto error = ExamFileWriter(exam, exam.Services()).Write(request.target)) {
     throw CommandError(request.target.string() + ": cannot be written: " + error.message());
   }
-  for (const std::string& loss : LossesOnSaving(exam)) console.Complain(request.target.string() + ": " + loss);
+  for (const std::string& loss : LossesOnSaving(exam))
+    console.Complain(request.target.string() + ": " + loss);
   for (const std::u16string& line : ImportSummary(report)) console.out << Utf16ToUtf8(line) << '\n';
 }
 

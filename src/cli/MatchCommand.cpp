@@ -75,25 +75,26 @@ void TryLines(Console& console, const MatchRequest& request, std::istream& lines
       throw CommandError(name + ":" + std::to_string(number) + ": " + problem.what());
     }
   }
+  if (lines.bad()) throw CommandError(name + ": cannot be read to its end");
 }
 
 std::string Subject(Console& console, const MatchRequest& request) {
   if (request.text) return *request.text;
-  if (!request.textFile.empty()) return ReadInput(request.textFile);
+  if (request.textFile) return ReadInput(*request.textFile);
   return {std::istreambuf_iterator<char>(console.in), std::istreambuf_iterator<char>()};
 }
 
 }  // namespace
 
 void Match(Console& console, const MatchRequest& request) {
-  if (!request.batch.empty()) {
-    std::ifstream lines = OpenInput(request.batch);
-    TryLines(console, request, lines, request.batch.string());
+  if (request.batch) {
+    std::ifstream lines = OpenInput(*request.batch);
+    TryLines(console, request, lines, request.batch->string());
     return;
   }
-  if (!request.pattern) throw CommandError("match needs a pattern, or --batch with a file of them");
   const std::u16string text = Utf8ToUtf16(Subject(console, request));
-  console.out << Try(text, Utf8ToUtf16(*request.pattern), request.flags, request.start).dump() << '\n';
+  console.out << Try(text, Utf8ToUtf16(request.pattern.value_or("")), request.flags, request.start).dump()
+              << '\n';
 }
 
 }  // namespace quorvantis::cli

@@ -216,7 +216,10 @@ void CQuorvantisDlg::PostContentChanged() {
   emit ContentChangePosted();
 }
 
+/// A preview covers the screen, and with it the question that may come now.
 void CQuorvantisDlg::closeEvent(QCloseEvent* event) {
+  const PreviewWindow* const preview = previews_.Window();
+  if (preview != nullptr && preview->IsOnScreen()) previews_.NewSession();
   event->setAccepted(endsUnasked_ || editor_.files.ConfirmClose());
 }
 

@@ -11,12 +11,15 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
+#include <QScreen>
+#include <QScrollArea>
 
 namespace quorvantis {
 namespace {
 
 constexpr int kGap = 10;
 constexpr int kModeGap = 4;
+constexpr int kTitleBar = 40;   // about what a window manager adds to the height
 constexpr int kGapColumn = 5;   // between the end of a range and its score
 constexpr int kLastColumn = 8;  // takes what the others leave
 
@@ -29,6 +32,18 @@ bool IsSwallowedKey(const QEvent& event) {
   if (event.type() != QEvent::KeyPress) return false;
   const int key = static_cast<const QKeyEvent&>(event).key();
   return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape;
+}
+
+/// Scrolls on a screen that is too small for all rows; everywhere else nobody sees it.
+QScrollArea* MakeScrollable(QWidget* list) {
+  auto* area = new QScrollArea;
+  area->setWidget(list);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+  area->setFocusPolicy(Qt::NoFocus);
+  return area;
 }
 
 /// Neither the Enter key nor the dialog presses it on its own.
@@ -62,6 +77,7 @@ CScoreSetupDlg::CScoreSetupDlg(ScoreSetup& setup, SetupOwner& owner, const Strin
   MakeMinimumQuestions();
   for (QWidget* control : findChildren<QWidget*>()) control->installEventFilter(this);
   ShowFields();
+  resize(sizeHint().boundedTo(screen()->availableSize() - QSize(0, kTitleBar)));
   modes_->checkedButton()->setFocus();
 }
 
@@ -93,19 +109,21 @@ void CScoreSetupDlg::MakeRanges() {
   auto* column = new QVBoxLayout(group_);
   column->setSpacing(kGap);
   column->addWidget(bar_);
-  auto* grid = new QGridLayout;
+  auto* list = new QWidget;
+  auto* grid = new QGridLayout(list);
+  grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(kGap);
   grid->setColumnMinimumWidth(kGapColumn, 2 * kGap);
   grid->setColumnStretch(kLastColumn, 1);
   for (int range = 1; range <= static_cast<int>(kScoreRanges); ++range) {
-    const RangeRow& row = rows_.emplace_back(range, strings_, group_);
+    const RangeRow& row = rows_.emplace_back(range, strings_, list);
     row.AddTo(*grid, range);
     connect(row.to, &QLineEdit::textChanged, this,
             [this, range](const QString& text) { EndChanged(range, text); });
     connect(row.score, &QLineEdit::textChanged, this,
             [this, range](const QString& text) { ScoreChanged(range, text); });
   }
-  column->addLayout(grid);
+  column->addWidget(MakeScrollable(list));
   column->addStretch();
   connect(bar_, &RangeBar::EndDragged, this,
           [this](int range, int question) { Row(range).to->setText(QString::number(question)); });

@@ -32,11 +32,12 @@ class OpenWindow : public FirstStart {
   explicit OpenWindow(CQuorvantisDlg& window) : window_(window) {}
 
   /// Nothing but the window is open: no dialog, which waits for its answer, and no preview, which shows the
-  /// exam that is open.
+  /// exam that is open. A window that prints is not seen.
   bool IsFree() const override {
     const auto isOther = [&](const QWidget* other) {
       const bool isReal = other->windowType() == Qt::Window || other->windowType() == Qt::Dialog;
-      return other != &window_ && isReal && other->isVisible();
+      const bool isShown = other->isVisible() && !other->testAttribute(Qt::WA_DontShowOnScreen);
+      return other != &window_ && isReal && isShown;
     };
     return std::ranges::none_of(QApplication::topLevelWidgets(), isOther);
   }

@@ -69,7 +69,8 @@ bool MultiLineField::event(QEvent* event) {
 bool MultiLineField::ScrollsWith(const QKeyEvent& event) const {
   const bool isPageKey = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
   const bool overflows = verticalScrollBar()->maximum() > verticalScrollBar()->minimum();
-  return isPageKey && overflows && event.modifiers() == Qt::NoModifier;
+  const bool isAlone = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  return isPageKey && overflows && isAlone;
 }
 
 void MultiLineField::Tell(const std::u16string& message) {

@@ -17,10 +17,10 @@ std::span<const std::byte> AsBytes(std::string_view bytes) {
 }
 
 /// A display name that stands where a path should (see displayNamesAmongPaths) comes from whoever wrote the
-/// exam file: one that points into folders must not bring a file of this machine into the exam.
-bool IsNameThatPointsElsewhere(const FrameSetExam& exam, const std::u16string& path) {
+/// exam file, and must not bring a file of this machine into the exam.
+bool IsNameAmongPaths(const FrameSetExam& exam, const std::u16string& path) {
   const auto& names = exam.displayNamesAmongPaths;
-  return std::ranges::find(names, path) != names.end() && path.find_first_of(u"/\\") != std::u16string::npos;
+  return std::ranges::find(names, path) != names.end();
 }
 
 std::uint64_t SizeOf(const AttachmentList& paths) {
@@ -77,7 +77,7 @@ void ExamFileWriter::PackExamAttachments() {
   VisitAttachmentCount(count, fields);
   for (std::size_t i = 0; i < count && !error_; ++i) {
     const std::u16string& path = exam_.examAttachmentPaths[i];
-    const bool elsewhere = IsNameThatPointsElsewhere(exam_, path);
+    const bool elsewhere = IsNameAmongPaths(exam_, path);
     PackFile(names[i], elsewhere ? std::filesystem::path() : TextToPath(path), nullptr);
   }
 }

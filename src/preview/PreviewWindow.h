@@ -32,6 +32,9 @@ class PreviewWindow : public QWidget, private BrowserControl, private Timers {
   PreviewSession& Session() { return session_; }
   PagePrinter& Printer() { return printer_; }
 
+  /// Whether a preview is seen; a print is not.
+  bool IsOnScreen() const { return isVisible() && !testAttribute(Qt::WA_DontShowOnScreen); }
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -45,7 +48,6 @@ class PreviewWindow : public QWidget, private BrowserControl, private Timers {
   void After(std::chrono::milliseconds delay, std::function<void()> action) override;
 
   void LeavePage();
-  bool IsOnScreen() const { return isVisible() && !testAttribute(Qt::WA_DontShowOnScreen); }
   bool AskUserForPrinter(QPrinter& printer);
 
   ExamGateway& gateway_;
