@@ -57,6 +57,18 @@ TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
   EXPECT_EQ(exam.previewPrefixes, 1) << "a finished exam takes one prefix off";
 }
 
+/// The question would appear behind the preview, where nobody sees it.
+TEST_F(PreviewButton, IsGoneBeforeClosingAsksAboutChanges) {
+  Open();
+  Type("questionText", "Not saved yet");
+  Click("preview");
+  ASSERT_TRUE(Appears("Not saved yet"));
+  world.dialogs.answers = {SaveAnswer::Cancel};
+  EXPECT_FALSE(window->close());
+  EXPECT_EQ(ShownPreview(), nullptr);
+  EXPECT_TRUE(world.dialogs.answers.empty()) << "the question was not asked";
+}
+
 /// The setup waits below the preview that it has opened.
 TEST_F(PreviewButton, WorksBesideTheScoreSetup) {
   exam.Question(1).text = u"Worth how much?";
