@@ -3,7 +3,7 @@
 
 #include "platform/convert/Later.h"
 #include "platform/convert/OfficeFilters.h"
-#include "platform/convert/OfficeProfile.h"
+#include "platform/office/OfficeProfile.h"
 #include "platform/convert/ProgramRun.h"
 
 #include <QFile>

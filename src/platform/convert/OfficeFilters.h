@@ -7,9 +7,7 @@
 
 namespace quorvantis {
 
-/// The LibreOffice import filters to try, in this order, for a document with the lower-case `extension` that
-/// begins with `head` (8 bytes suffice). None for content that is no such document: without a filter given,
-/// LibreOffice would take any bytes for text and show pages of rubbish.
+/// `ImportFiltersOf` for Qt's texts.
 QStringList ImportFilters(const QString& extension, QByteArrayView head);
 
 }  // namespace quorvantis

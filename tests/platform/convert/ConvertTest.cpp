@@ -4,7 +4,7 @@
 #include "platform/convert/DocumentImages.h"
 #include "platform/convert/MediaConverter.h"
 #include "platform/convert/OfficeFilters.h"
-#include "platform/convert/OfficeProfile.h"
+#include "platform/office/OfficeProfile.h"
 #include "platform/convert/ProgramRun.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"

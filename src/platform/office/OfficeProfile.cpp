@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/convert/OfficeProfile.h"
+#include "platform/office/OfficeProfile.h"
 
 #include <fstream>
 #include <string>

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// What a word processor's document says, as plain values.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+enum class WordObjectKind { Picture, Equation };
+
+/// A picture or an equation, which stands between two characters of a text.
+struct WordObject {
+  std::size_t position = 0;  ///< in UTF-16 units: the object stands before this character, or at the end
+  WordObjectKind kind = WordObjectKind::Picture;
+  std::size_t picture = 0;  ///< for `OpenWordDocument::SavePicture`; from 0, in the order of the document
+};
+
+/// The characters as a word processor's selection yields them: CR after each paragraph, VT for a line break,
+/// FF for a page break, TAB; of a field its result. Headers, footers, notes, comments, hidden and deleted
+/// text are left out. The text of a text box follows the paragraph to which it is anchored.
+struct WordText {
+  std::u16string characters;
+  std::vector<WordObject> objects;  ///< by position; of several at one place, in their order
+};
+
+/// A table that stands in no other one.
+struct WordTable {
+  /// The cells of each row, from left to right, so rows can have different lengths where cells are merged.
+  /// The text of a cell ends in CR BEL. A cell that only continues the one above is empty but for that.
+  /// Tables within a cell are part of its text; their cells and rows end in CR BEL too.
+  std::vector<std::vector<WordText>> rows;
+};
+
+struct WordDocument {
+  WordText runningText;           ///< without the tables
+  std::vector<WordTable> tables;  ///< in the order of the document
+  std::size_t pictures = 0;       ///< how many there are, those in tables included
+};
+
+}  // namespace quorvantis

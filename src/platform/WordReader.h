@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/WordDocument.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+namespace quorvantis {
+
+/// How the reading of a document, or of one of its pictures, ended.
+enum class WordResult {
+  Done,
+  NotFound,       ///< no such file; of a picture: the document only refers to it, or draws it from data
+  CannotAccess,   ///< no regular file, or one that must not be read or written
+  UnknownFormat,  ///< no word processor's document, no picture of a known kind
+  Damaged,        ///< begins like one, but cannot be read
+  PasswordProtected,
+  TooLarge,              ///< beyond what is read: size, nesting, pixels
+  WordProcessorMissing,  ///< the word processor that this kind needs is not installed or cannot be started
+  TimedOut,              ///< the word processor took too long and was ended
+  Cancelled,
+};
+
+struct WordReadOptions {
+  bool listLabels = false;            ///< whether automatic numbers are part of the text
+  std::function<bool()> isCancelled;  ///< asked several times a second while the word processor runs
+};
+
+/// A document that has been read. The file is no longer needed to be there, but should not change.
+class OpenWordDocument {
+ public:
+  virtual ~OpenWordDocument() = default;
+
+  virtual const WordDocument& Content() const = 0;
+
+  /// Writes a picture (`WordObject::picture`) to a bitmap file of 24 bits, in place of a file of that name.
+  /// Some kinds of pictures need the word processor.
+  virtual WordResult SavePicture(std::size_t picture, const std::filesystem::path& file) = 0;
+};
+
+struct WordReadOutcome {
+  WordResult result = WordResult::Done;
+  std::unique_ptr<OpenWordDocument> document;  ///< set if, and only if, the result is `Done`
+};
+
+/// Reads the documents of word processors. The document's file is never changed.
+class WordReader {
+ public:
+  virtual ~WordReader() = default;
+
+  virtual WordReadOutcome Open(const std::filesystem::path& file, const WordReadOptions& options) = 0;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "platform/office/BitmapFile.h"
+
+namespace quorvantis {
+namespace {
+
+constexpr std::size_t kFileHeaderBytes = 14;
+constexpr std::size_t kInformationBytes = 40;
+constexpr std::size_t kPixelBytes = 3;
+
+}  // namespace
+
+BitmapFile::BitmapFile(const PixelGrid& pixels) {
+  const std::size_t rowBytes = (pixels.width * kPixelBytes + 3) / 4 * 4;
+  const std::size_t pictureBytes = rowBytes * pixels.height;
+  bytes_.reserve(kFileHeaderBytes + kInformationBytes + pictureBytes + kBytesBehindPicture);
+  AppendHeaders(pixels, pictureBytes);
+  for (std::size_t row = pixels.height; row-- > 0;) AppendRow(pixels, row, rowBytes);
+  bytes_.append(kBytesBehindPicture, '\0');
+}
+
+void BitmapFile::AppendNumber(std::size_t value, int bytes) {
+  for (; bytes > 0; --bytes, value >>= 8U) bytes_.push_back(static_cast<char>(value & 0xFFU));
+}
+
+void BitmapFile::AppendHeaders(const PixelGrid& pixels, std::size_t pictureBytes) {
+  constexpr std::size_t kHeaders = kFileHeaderBytes + kInformationBytes;
+  bytes_ += "BM";
+  AppendNumber(kHeaders + pictureBytes, 4);
+  AppendNumber(0, 4);
+  AppendNumber(kHeaders, 4);
+  AppendNumber(kInformationBytes, 4);
+  AppendNumber(pixels.width, 4);
+  AppendNumber(pixels.height, 4);
+  AppendNumber(1, 2);                // planes
+  AppendNumber(8 * kPixelBytes, 2);  // bits of a pixel
+  AppendNumber(0, 4);                // not compressed
+  AppendNumber(pictureBytes, 4);
+  AppendNumber(0, 4);  // pixels per metre, and the colours of a table that there is not
+  AppendNumber(0, 4);
+  AppendNumber(0, 4);
+  AppendNumber(0, 4);
+}
+
+void BitmapFile::AppendRow(const PixelGrid& pixels, std::size_t row, std::size_t rowBytes) {
+  const std::size_t end = bytes_.size() + rowBytes;
+  const std::uint8_t* pixel = pixels.bytes.data() + row * pixels.width * kPixelBytes;
+  for (std::size_t i = 0; i < pixels.width; ++i, pixel += kPixelBytes) {
+    for (std::size_t colour = kPixelBytes; colour-- > 0;) bytes_.push_back(static_cast<char>(pixel[colour]));
+  }
+  bytes_.resize(end, '\0');
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// The container of older documents, a small file system in a file. Only what tells kinds of documents apart
+/// is read.
+class CompoundFile {
+ public:
+  static constexpr std::string_view kSignature{"\xD0\xCF\x11\xE0", 4};
+
+  /// `bytes` outlive this; they may be damaged and may be only the beginning of a file.
+  explicit CompoundFile(std::string_view bytes);
+
+  /// Whether a stream of that name is listed.
+  bool Has(std::u16string_view name) const { return Start(name).has_value(); }
+
+  /// Up to `count` bytes from the beginning of a stream that is no tiny one; fewer when they are missing.
+  std::string_view Head(std::u16string_view name, std::size_t count) const;
+
+ private:
+  std::optional<std::uint32_t> Start(std::u16string_view name) const;
+  std::uint32_t NextSector(std::uint32_t sector) const;
+  std::size_t OffsetOf(std::uint32_t sector) const { return (std::size_t{sector} + 1) * sectorBytes_; }
+
+  std::string_view bytes_;
+  std::size_t sectorBytes_ = 512;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/WordReader.h"
+
+#include <filesystem>
+
+namespace quorvantis {
+
+enum class DocumentKind { Docx, Doc, OpenDocument, RichText };
+
+/// What a file is. `result` is `Done` when it can be tried to read it; the reason otherwise.
+struct DocumentKindOutcome {
+  WordResult result = WordResult::Done;
+  DocumentKind kind = DocumentKind::Docx;
+};
+
+/// Tells it by the content alone: many a file has a name that promises something else.
+DocumentKindOutcome KindOfDocument(const std::filesystem::path& file);
+
+}  // namespace quorvantis

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/office/MetafileImages.h"
+#include "platform/office/OfficeConverter.h"
+#include "platform/office/PixelGrid.h"
+#include "platform/office/ZipPackage.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// The pictures of a package as pixels.
+class DocumentPictures {
+ public:
+  /// `parts` holds for each picture the name of its part, or nothing. `package` outlives this.
+  DocumentPictures(const ZipPackage& package, std::vector<std::string> parts, OfficeConverter converter);
+
+  WordResult Decode(std::size_t picture, PixelGrid& pixels);
+
+ private:
+  WordResult DecodeMetafile(const std::string& part, PixelGrid& pixels);
+  void DrawMetafiles();
+  PackagePart Read(const std::string& part) const;
+
+  const ZipPackage& package_;
+  std::vector<std::string> parts_;
+  OfficeConverter converter_;
+  std::optional<MetafileImages> metafiles_;  ///< set once they have been drawn, with or without success
+  std::map<std::string, std::size_t> metafileNumbers_;
+  WordResult drawn_ = WordResult::Done;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/WordReader.h"
+#include "platform/office/ZipPackage.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// What a package says, and where its pictures lie.
+struct DocxContent {
+  WordResult result = WordResult::Done;
+  WordDocument document;
+  std::vector<std::string> pictureParts;  ///< of each picture the name of its part, or nothing
+};
+
+/// Reads the main text of a word processor's package (".docx"). It takes no more memory and time than a large
+/// real document does, whatever the package claims.
+DocxContent ReadDocx(const ZipPackage& package, bool listLabels);
+
+}  // namespace quorvantis

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/WordDocument.h"
+#include "platform/office/FieldNesting.h"
+#include "platform/office/ListLabels.h"
+
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// Walks the body of a document and gathers what it says.
+class DocxText {
+ public:
+  /// Both outlive this object. Without `labels`, automatic numbers are left out.
+  DocxText(pugi::xml_node body, ListLabels* labels);
+
+  /// Once only.
+  void Read();
+
+  /// Whether the document is nested deeper or has more pictures than is read. What has been read then is no
+  /// whole.
+  bool IsBeyondLimits() const { return beyondLimits_; }
+
+  WordDocument& Document() { return document_; }
+
+  /// For each picture the id of its relation; empty where the document has no picture file for it.
+  std::vector<std::string>& PictureRelations() { return pictures_; }
+
+ private:
+  using Handler = void (DocxText::*)(pugi::xml_node);
+  static Handler HandlerOf(std::string_view localName);
+
+  void Walk(pugi::xml_node node);
+  void WalkChildren(pugi::xml_node node);
+  void Skip(pugi::xml_node node);
+
+  void Paragraph(pugi::xml_node node);
+  void TextBox(pugi::xml_node node);
+  void TextBoxes(const std::vector<pugi::xml_node>& boxes);
+  void Alternatives(pugi::xml_node node);
+
+  void Table(pugi::xml_node node);
+  void Row(pugi::xml_node node);
+  void Cell(pugi::xml_node node);
+  void CellText(pugi::xml_node node, bool isEmpty);
+
+  void Run(pugi::xml_node node);
+  void Text(pugi::xml_node node);
+  void Tab(pugi::xml_node node);
+  void Break(pugi::xml_node node);
+  void LineBreak(pugi::xml_node node);
+  void FixedHyphen(pugi::xml_node node);
+  void SoftHyphen(pugi::xml_node node);
+  void Symbol(pugi::xml_node node);
+  void FieldCharacter(pugi::xml_node node);
+  void Instruction(pugi::xml_node node);
+
+  void Equation(pugi::xml_node node);
+  void EmbeddedObject(pugi::xml_node node);
+  void Picture(pugi::xml_node node);
+  void VmlPicture(pugi::xml_node node);
+  void DrawnPicture(pugi::xml_node node);
+
+  bool IsShown() const { return !hidden_ && !fields_.InInstruction(); }
+  void Append(std::u16string_view characters);
+  void AppendAlways(std::u16string_view characters);
+  void AppendPicture(std::string_view relation);
+
+  pugi::xml_node body_;
+  ListLabels* labels_;
+  FieldNesting fields_;
+  WordDocument document_;
+  std::vector<std::string> pictures_;
+  WordText* text_;                         ///< what is being filled
+  std::vector<pugi::xml_node> textBoxes_;  ///< of the paragraph in hand
+  std::size_t found_ = 0;                  ///< grows with everything that is found
+  int depth_ = 0;
+  int enclosing_ = 0;        ///< tables and text boxes around this place
+  bool ofTopTable_ = false;  ///< whether rows and cells at this place belong to a table of the document
+  bool hidden_ = false;
+  bool beyondLimits_ = false;
+};
+
+}  // namespace quorvantis

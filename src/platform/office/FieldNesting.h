@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+namespace quorvantis {
+
+/// Follows the fields of a document, which begin, pass from instruction to result and end at places in the
+/// text. A field that never ends is taken for none: everything behind it would count as its instruction.
+class FieldNesting {
+ public:
+  explicit FieldNesting(pugi::xml_node body);
+
+  /// A `fldChar`. True when it ends an equation that was written as a field and has no result.
+  bool Take(pugi::xml_node fieldCharacter);
+  void AddInstruction(std::string_view text);
+
+  /// Whether text at this place is part of an instruction and not shown.
+  bool InInstruction() const { return instructions_ != 0; }
+
+ private:
+  struct Field {
+    std::string instruction;
+    bool inResult = false;
+  };
+
+  std::unordered_set<std::size_t> complete_;  ///< hashes of the nodes that begin a field which ends
+  std::vector<Field> open_;
+  std::size_t instructions_ = 0;  ///< open fields that have not come to their result
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "platform/office/PictureDecoder.h"
+
+#include <gd.h>
+#include <limits>
+#include <memory>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::uint64_t kLongestSide = 65'535;
+
+struct ImageCloser {
+  void operator()(gdImage* image) const { ::gdImageDestroy(image); }
+};
+using Image = std::unique_ptr<gdImage, ImageCloser>;
+
+gdImage* Decode(PictureKind kind, int size, void* data) {
+  switch (kind) {
+    case PictureKind::Png:
+      return ::gdImageCreateFromPngPtr(size, data);
+    case PictureKind::Jpeg:
+      return ::gdImageCreateFromJpegPtrEx(size, data, 1);
+    case PictureKind::Gif:
+      return ::gdImageCreateFromGifPtr(size, data);
+    case PictureKind::Bmp:
+      return ::gdImageCreateFromBmpPtr(size, data);
+    case PictureKind::Tiff:
+      return ::gdImageCreateFromTiffPtr(size, data);
+    case PictureKind::Emf:
+    case PictureKind::Wmf:
+      break;
+  }
+  return nullptr;
+}
+
+std::uint8_t OnWhite(int colour, int transparency) {
+  return static_cast<std::uint8_t>(colour + (255 - colour) * transparency / gdAlphaMax);
+}
+
+PixelGrid PixelsOf(gdImage* image) {
+  PixelGrid pixels{
+      static_cast<std::size_t>(gdImageSX(image)), static_cast<std::size_t>(gdImageSY(image)), {}};
+  pixels.bytes.reserve(3 * pixels.width * pixels.height);
+  for (int y = 0; y < gdImageSY(image); ++y) {
+    for (int x = 0; x < gdImageSX(image); ++x) {
+      const int colour = ::gdImageGetTrueColorPixel(image, x, y);
+      const int transparency = gdTrueColorGetAlpha(colour);
+      pixels.bytes.push_back(OnWhite(gdTrueColorGetRed(colour), transparency));
+      pixels.bytes.push_back(OnWhite(gdTrueColorGetGreen(colour), transparency));
+      pixels.bytes.push_back(OnWhite(gdTrueColorGetBlue(colour), transparency));
+    }
+  }
+  return pixels;
+}
+
+}  // namespace
+
+WordResult DecodePicture(const PictureFormat& format, std::string_view bytes, PixelGrid& pixels) {
+  if (format.width == 0 || format.height == 0) return WordResult::Damaged;
+  const bool isTooLarge = format.width > kLongestSide || format.height > kLongestSide ||
+                          format.width * format.height > kMostPixels ||
+                          bytes.size() > std::numeric_limits<int>::max();
+  if (isTooLarge) return WordResult::TooLarge;
+  ::gdSetErrorMethod([](int, const char*, va_list) {});  // it would write to standard error
+  // The library takes no constant bytes, but does not change them.
+  const Image image(Decode(format.kind, static_cast<int>(bytes.size()), const_cast<char*>(bytes.data())));
+  if (!image) return WordResult::Damaged;
+  pixels = PixelsOf(image.get());
+  return WordResult::Done;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace quorvantis {
+
+/// A picture as its pixels, three bytes each: red, green, blue; from left to right, then downwards.
+struct PixelGrid {
+  std::size_t width = 0;
+  std::size_t height = 0;
+  std::vector<std::uint8_t> bytes;
+};
+
+/// The most pixels that a picture may have: a scanned sheet has 35 million at 600 per inch.
+inline constexpr std::uint64_t kMostPixels = 50'000'000;
+
+}  // namespace quorvantis

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/WordReader.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+struct zip;
+
+namespace quorvantis {
+
+/// A file in a package, unpacked.
+struct PackagePart {
+  WordResult result = WordResult::Done;
+  std::string bytes;
+};
+
+/// A zip archive, read only. Nothing is ever unpacked to a disk, so the names in it can do no harm.
+class ZipPackage {
+ public:
+  /// Check `Opened` before anything else.
+  explicit ZipPackage(const std::filesystem::path& file);
+
+  WordResult Opened() const { return opened_; }
+  bool Has(const std::string& name) const;
+
+  /// A part of at most `limit` bytes, whatever the archive claims its size to be. The case of its name does
+  /// not matter.
+  PackagePart Read(const std::string& name, std::size_t limit) const;
+
+ private:
+  struct Closer {
+    void operator()(zip* archive) const;
+  };
+
+  WordResult opened_ = WordResult::Done;
+  std::unique_ptr<zip, Closer> archive_;
+};
+
+}  // namespace quorvantis
