@@ -41,7 +41,7 @@ void ReadPackage(const std::filesystem::path& file) {
   if (package.Opened() != WordResult::Done) return;
   const DocxContent content = ReadDocx(package, true);
   if (content.result != WordResult::Done) return;
-  Require(content.pictureParts.size() == content.document.pictures);
+  Require(content.pictures.size() == content.document.pictures);
   RequireSound(content.document.runningText, content.document.pictures);
   for (const WordTable& table : content.document.tables) {
     for (const auto& row : table.rows) {

@@ -58,7 +58,7 @@ std::vector<std::string> Environment(const fs::path& temporaryFolder) {
   ::setsid();
   sigset_t none;
   ::sigemptyset(&none);
-  ::sigprocmask(SIG_SETMASK, &none, nullptr);
+  ::sigprocmask(SIG_SETMASK, &none, nullptr);  // NOLINT(concurrency-mt-unsafe): one thread is left
   const rlimit file{kLargestFile, kLargestFile};
   const rlimit memory{kMostMemory, kMostMemory};
   ::setrlimit(RLIMIT_FSIZE, &file);
@@ -120,7 +120,7 @@ ChildEnd RunChildProgram(const ChildProgram& child) {
 }
 
 fs::path FindProgram(const std::string& name) {
-  const char* const path = std::getenv("PATH");
+  const char* const path = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe): nothing sets it
   std::istringstream folders(path == nullptr ? "" : path);
   for (std::string folder; std::getline(folders, folder, ':');) {
     const fs::path program = fs::path(folder) / name;

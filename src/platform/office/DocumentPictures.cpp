@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/office/DocumentPictures.h"
 
+#include "platform/office/Gunzip.h"
 #include "platform/office/PictureDecoder.h"
 
 #include <utility>
@@ -10,19 +11,25 @@ namespace {
 
 constexpr std::size_t kMostPictureBytes = std::size_t{64} << 20;
 
+/// Metafiles in older documents do not tell their size, so that of their place counts.
+PictureFormat WithSize(PictureFormat format, const PicturePlace& place) {
+  if (format.width != 0 && format.height != 0) return format;
+  return {format.kind, place.width, place.height};
+}
+
 }  // namespace
 
-DocumentPictures::DocumentPictures(const ZipPackage& package, std::vector<std::string> parts,
+DocumentPictures::DocumentPictures(const ZipPackage& package, std::vector<PicturePlace> places,
                                    OfficeConverter converter)
-    : package_(package), parts_(std::move(parts)), converter_(std::move(converter)) {}
+    : package_(package), places_(std::move(places)), converter_(std::move(converter)) {}
 
 WordResult DocumentPictures::Decode(std::size_t picture, PixelGrid& pixels) {
-  if (picture >= parts_.size() || parts_[picture].empty()) return WordResult::NotFound;
-  const PackagePart part = Read(parts_[picture]);
+  if (picture >= places_.size() || places_[picture].source.empty()) return WordResult::NotFound;
+  const PackagePart part = Read(places_[picture].source);
   if (part.result != WordResult::Done) return part.result;
   const auto format = PictureFormat::Of(part.bytes);
   if (!format) return WordResult::UnknownFormat;
-  return format->IsMetafile() ? DecodeMetafile(parts_[picture], pixels)
+  return format->IsMetafile() ? DecodeMetafile(places_[picture].source, pixels)
                               : DecodePicture(*format, part.bytes, pixels);
 }
 
@@ -39,17 +46,18 @@ WordResult DocumentPictures::DecodeMetafile(const std::string& part, PixelGrid& 
 /// All at once: most of the time goes into the start of the program.
 void DocumentPictures::DrawMetafiles() {
   metafiles_.emplace();
-  for (const std::string& part : parts_) {
-    if (part.empty() || metafileNumbers_.contains(part) || metafiles_->IsFull()) continue;
-    const PackagePart picture = Read(part);
+  for (const PicturePlace& place : places_) {
+    if (place.source.empty() || metafileNumbers_.contains(place.source) || metafiles_->IsFull()) continue;
+    const PackagePart picture = Read(place.source);
     const auto format = PictureFormat::Of(picture.bytes);
-    if (format && format->IsMetafile()) metafileNumbers_[part] = metafiles_->Add(*format, picture.bytes);
+    if (!format || !format->IsMetafile()) continue;
+    metafileNumbers_[place.source] = metafiles_->Add(WithSize(*format, place), picture.bytes);
   }
   drawn_ = metafiles_->Draw(converter_);
 }
 
 PackagePart DocumentPictures::Read(const std::string& part) const {
-  return package_.Read(part, kMostPictureBytes);
+  return Gunzip(package_.Read(part, kMostPictureBytes), kMostPictureBytes);
 }
 
 }  // namespace quorvantis

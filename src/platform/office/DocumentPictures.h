@@ -3,6 +3,7 @@
 
 #include "platform/office/MetafileImages.h"
 #include "platform/office/OfficeConverter.h"
+#include "platform/office/PicturePlace.h"
 #include "platform/office/PixelGrid.h"
 #include "platform/office/ZipPackage.h"
 
@@ -16,8 +17,8 @@ namespace quorvantis {
 /// The pictures of a package as pixels.
 class DocumentPictures {
  public:
-  /// `parts` holds for each picture the name of its part, or nothing. `package` outlives this.
-  DocumentPictures(const ZipPackage& package, std::vector<std::string> parts, OfficeConverter converter);
+  /// The sources of `places` are names of parts. `package` outlives this.
+  DocumentPictures(const ZipPackage& package, std::vector<PicturePlace> places, OfficeConverter converter);
 
   WordResult Decode(std::size_t picture, PixelGrid& pixels);
 
@@ -27,7 +28,7 @@ class DocumentPictures {
   PackagePart Read(const std::string& part) const;
 
   const ZipPackage& package_;
-  std::vector<std::string> parts_;
+  std::vector<PicturePlace> places_;
   OfficeConverter converter_;
   std::optional<MetafileImages> metafiles_;  ///< set once they have been drawn, with or without success
   std::map<std::string, std::size_t> metafileNumbers_;

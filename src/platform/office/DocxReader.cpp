@@ -6,6 +6,7 @@
 #include "platform/office/XmlPart.h"
 
 #include <optional>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -54,8 +55,8 @@ DocxContent ReadDocx(const ZipPackage& package, bool listLabels) {
   text.Read();
   if (text.IsBeyondLimits()) return {WordResult::TooLarge, {}, {}};
   content.document = std::move(text.Document());
-  for (const std::string& id : text.PictureRelations())
-    content.pictureParts.push_back(relations.TargetOf(id));
+  content.pictures = std::move(text.Pictures());
+  for (PicturePlace& picture : content.pictures) picture.source = relations.TargetOf(picture.source);
   return content;
 }
 

@@ -2,11 +2,9 @@
 #pragma once
 
 #include "platform/WordReader.h"
+#include "platform/office/PicturePlace.h"
 #include "platform/office/ZipPackage.h"
 
-#include <filesystem>
-#include <memory>
-#include <string>
 #include <vector>
 
 namespace quorvantis {
@@ -15,7 +13,7 @@ namespace quorvantis {
 struct DocxContent {
   WordResult result = WordResult::Done;
   WordDocument document;
-  std::vector<std::string> pictureParts;  ///< of each picture the name of its part, or nothing
+  std::vector<PicturePlace> pictures;  ///< their sources are names of parts
 };
 
 /// Reads the main text of a word processor's package (".docx"). It takes no more memory and time than a large

@@ -5,6 +5,7 @@
 #include "platform/office/XmlPart.h"
 #include "text/Utf.h"
 
+#include <algorithm>
 #include <charconv>
 #include <unordered_map>
 #include <utility>
@@ -76,6 +77,8 @@ DocxText::Handler DocxText::HandlerOf(std::string_view localName) {
       {"instrText", &DocxText::Instruction},
       {"oMath", &DocxText::Equation},
       {"object", &DocxText::EmbeddedObject},
+      {"drawing", &DocxText::Drawing},
+      {"extent", &DocxText::Extent},
       {"blip", &DocxText::Picture},
       {"imagedata", &DocxText::VmlPicture},
       {"chart", &DocxText::DrawnPicture},
@@ -246,6 +249,18 @@ void DocxText::EmbeddedObject(pugi::xml_node node) {
   IsEquationProgram(ValueOf(object, "ProgID")) ? Equation(node) : WalkChildren(node);
 }
 
+void DocxText::Drawing(pugi::xml_node node) {
+  const PicturePlace outer = std::exchange(extent_, {});
+  WalkChildren(node);
+  extent_ = outer;
+}
+
+void DocxText::Extent(pugi::xml_node node) {
+  constexpr int kUnits = 360;  // to a hundredth of a millimetre
+  extent_.width = static_cast<std::uint64_t>(std::max(NumberOf(node, 0, "cx"), 0) / kUnits);
+  extent_.height = static_cast<std::uint64_t>(std::max(NumberOf(node, 0, "cy"), 0) / kUnits);
+}
+
 void DocxText::Picture(pugi::xml_node node) {
   AppendPicture(ValueOf(node, "embed"));
 }
@@ -276,7 +291,7 @@ void DocxText::AppendPicture(std::string_view relation) {
     return;
   }
   text_->objects.push_back({text_->characters.size(), WordObjectKind::Picture, pictures_.size()});
-  pictures_.emplace_back(relation);
+  pictures_.push_back({std::string(relation), extent_.width, extent_.height});
 }
 
 }  // namespace quorvantis

@@ -4,6 +4,7 @@
 #include "platform/WordDocument.h"
 #include "platform/office/FieldNesting.h"
 #include "platform/office/ListLabels.h"
+#include "platform/office/PicturePlace.h"
 
 #include <pugixml.hpp>
 #include <string>
@@ -27,8 +28,8 @@ class DocxText {
 
   WordDocument& Document() { return document_; }
 
-  /// For each picture the id of its relation; empty where the document has no picture file for it.
-  std::vector<std::string>& PictureRelations() { return pictures_; }
+  /// The sources are the ids of relations.
+  std::vector<PicturePlace>& Pictures() { return pictures_; }
 
  private:
   using Handler = void (DocxText::*)(pugi::xml_node);
@@ -61,6 +62,8 @@ class DocxText {
 
   void Equation(pugi::xml_node node);
   void EmbeddedObject(pugi::xml_node node);
+  void Drawing(pugi::xml_node node);
+  void Extent(pugi::xml_node node);
   void Picture(pugi::xml_node node);
   void VmlPicture(pugi::xml_node node);
   void DrawnPicture(pugi::xml_node node);
@@ -74,7 +77,8 @@ class DocxText {
   ListLabels* labels_;
   FieldNesting fields_;
   WordDocument document_;
-  std::vector<std::string> pictures_;
+  std::vector<PicturePlace> pictures_;
+  PicturePlace extent_;                    ///< the size of the drawing in hand
   WordText* text_;                         ///< what is being filled
   std::vector<pugi::xml_node> textBoxes_;  ///< of the paragraph in hand
   std::size_t found_ = 0;                  ///< grows with everything that is found

@@ -29,7 +29,7 @@ class OpenDocx : public OpenWordDocument {
   OpenDocx(PackageInUse source, DocxContent content, OfficeConverter converter, Files& files)
       : source_(std::move(source)),
         document_(std::move(content.document)),
-        pictures_(*source_.package, std::move(content.pictureParts), std::move(converter)),
+        pictures_(*source_.package, std::move(content.pictures), std::move(converter)),
         files_(files) {}
 
   const WordDocument& Content() const override { return document_; }

@@ -51,7 +51,7 @@ PackagePart ZipPackage::Read(const std::string& name, std::size_t limit) const {
       ::zip_fopen_index(archive_.get(), static_cast<zip_uint64_t>(index), 0));
   if (!file) return {ResultOf(::zip_error_code_zip(::zip_get_error(archive_.get()))), {}};
   PackagePart part;
-  constexpr std::size_t kStep = 64 * 1024;
+  constexpr std::size_t kStep = 65'536;
   for (std::size_t size = 0;;) {
     part.bytes.resize(size + kStep);
     const zip_int64_t read = ::zip_fread(file.get(), part.bytes.data() + size, kStep);

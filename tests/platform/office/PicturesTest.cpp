@@ -2,6 +2,7 @@
 #include "WordReaderTest.h"
 
 #include <gd.h>
+#include <zlib.h>
 
 namespace quorvantis::test {
 namespace {
@@ -79,11 +80,29 @@ std::string BlackWmf() {
          "\x03\0\0\0\0\0"s;
 }
 
+std::string Gzipped(const std::string& bytes) {
+  z_stream stream{};
+  ::deflateInit2(&stream, 6, Z_DEFLATED, 16 + MAX_WBITS, 8, Z_DEFAULT_STRATEGY);
+  std::string packed(bytes.size() + 100, '\0');
+  stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data()));
+  stream.avail_in = static_cast<uInt>(bytes.size());
+  stream.next_out = reinterpret_cast<Bytef*>(packed.data());
+  stream.avail_out = static_cast<uInt>(packed.size());
+  ::deflate(&stream, Z_FINISH);
+  packed.resize(stream.total_out);
+  ::deflateEnd(&stream);
+  return packed;
+}
+
 TEST_F(DocumentPicturesTest, MetafilesAreDrawn) {
   const OfficePrograms programs = OfficePrograms::Find();
   if (programs.office.empty() || programs.pdfImages.empty())
     GTEST_SKIP() << "LibreOffice or poppler is not installed";
-  ASSERT_EQ(Save(BlackWmf()), WordResult::Done);
+  const std::string withoutSize = BlackWmf().substr(22);
+  ASSERT_EQ(Save(withoutSize), WordResult::Done);
+  const std::string asShown = ReadBytes(folder / "0.bmp");
+  ASSERT_EQ(Save(Gzipped(BlackWmf())), WordResult::Done);
+  EXPECT_EQ(ReadBytes(folder / "0.bmp").size(), asShown.size());
   const std::string bitmap = ReadBytes(folder / "0.bmp");
   const std::size_t width = static_cast<unsigned char>(bitmap.at(18));
   EXPECT_NEAR(static_cast<double>(width), 57.0, 2.0);  // one centimetre
