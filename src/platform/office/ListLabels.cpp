@@ -77,38 +77,56 @@ ListLabels::List* ListLabels::ListOf(const std::string& id) {
   return instance ? &lists_.emplace(id, MakeList(instance)).first->second : nullptr;
 }
 
-ListLabels::List ListLabels::MakeList(pugi::xml_node instance) const {
-  const pugi::xml_node abstract = AbstractOf(instance);
-  List list{std::string(ValueOf(abstract, "abstractNumId")), {}, {}};
-  const auto levelOf = [&list](pugi::xml_node node) -> Level* {
-    const int index = NumberOf(node, -1, "ilvl");
-    return index >= 0 && index < kLevels ? &list.levels[static_cast<std::size_t>(index)] : nullptr;
-  };
-  for (const pugi::xml_node node : abstract.children()) {
-    Level* const level = LocalName(node) == "lvl" ? levelOf(node) : nullptr;
-    if (level != nullptr) *level = {node, NumberOf(ChildOf(node, "start"), 0), false};
-  }
+ListLabels::List ListLabels::MakeList(pugi::xml_node instance) {
+  List list = AbstractOf(instance);
   for (const pugi::xml_node node : instance.children()) {
-    Level* const level = LocalName(node) == "lvlOverride" ? levelOf(node) : nullptr;
-    if (level == nullptr) continue;
-    if (const pugi::xml_node own = ChildOf(node, "lvl"))
-      *level = {own, NumberOf(ChildOf(own, "start"), 0), true};
-    if (const pugi::xml_node start = ChildOf(node, "startOverride")) {
-      level->start = NumberOf(start, 1);
-      level->restarts = true;
-    }
+    const int index = LocalName(node) == "lvlOverride" ? NumberOf(node, -1, "ilvl") : -1;
+    if (index < 0 || index >= kLevels) continue;
+    Level& level = list.levels[static_cast<std::size_t>(index)];
+    const pugi::xml_node own = ChildOf(node, "lvl");
+    const pugi::xml_node start = ChildOf(node, "startOverride");
+    if (own) level = MakeLevel(own, index);
+    if (start) level.start = NumberOf(start, 1);
+    level.restarts = own || start;
   }
   return list;
 }
 
+ListLabels::Level ListLabels::MakeLevel(pugi::xml_node definition, int index) {
+  Level level;
+  level.isDefined = true;
+  level.start = NumberOf(ChildOf(definition, "start"), 0);
+  level.restart = NumberOf(ChildOf(definition, "lvlRestart"), index);
+  level.isLegal = IsOn(ChildOf(definition, "isLgl"));
+  level.format = FormatOf(definition);
+  level.pattern = Utf8ToUtf16(ValueOf(ChildOf(definition, "lvlText"))).substr(0, kLongestLabel);
+  level.separator = Separator(definition);
+  level.style = ValueOf(ChildOf(definition, "pStyle"));
+  return level;
+}
+
+/// Each abstract list is looked into once, however many instances it has.
+const ListLabels::List& ListLabels::AbstractOf(pugi::xml_node instance) {
+  const std::string id(ValueOf(ChildOf(instance, "abstractNumId")));
+  const auto known = abstracts_.find(id);
+  if (known != abstracts_.end()) return known->second;
+  const pugi::xml_node abstract = FindAbstract(id);
+  List list{std::string(ValueOf(abstract, "abstractNumId")), {}, {}};
+  for (const pugi::xml_node node : abstract.children()) {
+    const int index = LocalName(node) == "lvl" ? NumberOf(node, -1, "ilvl") : -1;
+    if (index >= 0 && index < kLevels) list.levels[static_cast<std::size_t>(index)] = MakeLevel(node, index);
+  }
+  return abstracts_.emplace(id, std::move(list)).first->second;
+}
+
 /// A list may only name a style, whose list it then is.
-pugi::xml_node ListLabels::AbstractOf(pugi::xml_node instance) const {
-  const pugi::xml_node abstract = Find(abstractLists_, ValueOf(ChildOf(instance, "abstractNumId")));
+pugi::xml_node ListLabels::FindAbstract(const std::string& id) const {
+  const pugi::xml_node abstract = Find(abstractLists_, id);
   const pugi::xml_node link = ChildOf(abstract, "numStyleLink");
   if (!link) return abstract;
   const pugi::xml_node style = Find(styles_, ValueOf(link));
-  const pugi::xml_node id = ChildOf(ChildOf(ChildOf(style, "pPr"), "numPr"), "numId");
-  const pugi::xml_node other = Find(instances_, ValueOf(id));
+  const pugi::xml_node list = ChildOf(ChildOf(ChildOf(style, "pPr"), "numPr"), "numId");
+  const pugi::xml_node other = Find(instances_, ValueOf(list));
   return Find(abstractLists_, ValueOf(ChildOf(other, "abstractNumId")));
 }
 
@@ -119,19 +137,25 @@ ListLabels::Place ListLabels::PlaceOf(pugi::xml_node properties) {
   const pugi::xml_node id = ChildOf(own, "numId");
   if (id) return {std::string(ValueOf(id)), NumberOf(ChildOf(own, "ilvl"), 0)};
   Place place = PlaceOfStyle(style);
-  if (const pugi::xml_node level = ChildOf(own, "ilvl"))
-    place.level = NumberOf(level, 0);
-  else if (!place.list.empty())
-    place.level = std::max(place.level, LevelOfStyle(place.list, style));
+  if (const pugi::xml_node level = ChildOf(own, "ilvl")) place.level = NumberOf(level, 0);
   return place;
 }
 
-ListLabels::Place ListLabels::PlaceOfStyle(std::string style) const {
+/// Each style is looked into once, however many paragraphs have it.
+ListLabels::Place ListLabels::PlaceOfStyle(const std::string& style) {
+  const auto known = placesOfStyles_.find(style);
+  if (known != placesOfStyles_.end()) return known->second;
+  return placesOfStyles_.emplace(style, FindPlaceOfStyle(style)).first->second;
+}
+
+ListLabels::Place ListLabels::FindPlaceOfStyle(std::string style) {
+  const std::string first = style;
   for (int i = 0; i < kLongestStyleChain; ++i) {
     const pugi::xml_node definition = Find(styles_, style);
     const pugi::xml_node numbers = ChildOf(ChildOf(definition, "pPr"), "numPr");
     if (const pugi::xml_node id = ChildOf(numbers, "numId")) {
-      return {std::string(ValueOf(id)), NumberOf(ChildOf(numbers, "ilvl"), 0)};
+      const std::string list(ValueOf(id));
+      return {list, std::max(NumberOf(ChildOf(numbers, "ilvl"), 0), LevelOfStyle(list, first))};
     }
     style = ValueOf(ChildOf(definition, "basedOn"));
   }
@@ -142,13 +166,12 @@ ListLabels::Place ListLabels::PlaceOfStyle(std::string style) const {
 int ListLabels::LevelOfStyle(const std::string& list, const std::string& style) {
   const List* const found = ListOf(list);
   for (int i = 0; found != nullptr && i < kLevels; ++i) {
-    const pugi::xml_node bound = ChildOf(found->levels[static_cast<std::size_t>(i)].definition, "pStyle");
-    if (bound && ValueOf(bound) == style) return i;
+    if (found->levels[static_cast<std::size_t>(i)].style == style) return i;
   }
   return -1;
 }
 
-void ListLabels::Count(List& list, Counters& counters, int level) const {
+void ListLabels::Count(List& list, Counters& counters, int level) {
   const auto at = static_cast<std::size_t>(level);
   constexpr int kLargest = 1'000'000'000;
   for (std::size_t i = 0; i <= at; ++i) {
@@ -158,29 +181,27 @@ void ListLabels::Count(List& list, Counters& counters, int level) const {
   }
   counters[at] = counters[at] == kNone ? list.levels[at].start : std::min(counters[at] + 1, kLargest);
   for (std::size_t i = at + 1; i < kLevels; ++i) {
-    const int restart = NumberOf(ChildOf(list.levels[i].definition, "lvlRestart"), static_cast<int>(i));
-    if (restart > level) counters[i] = kNone;
+    if (list.levels[i].restart > level) counters[i] = kNone;
   }
 }
 
-std::u16string ListLabels::Label(const List& list, const Counters& counters, int level) const {
-  const pugi::xml_node definition = list.levels[static_cast<std::size_t>(level)].definition;
-  if (!definition || FormatOf(definition) == "bullet") return {};
-  const bool legal = IsOn(ChildOf(definition, "isLgl"));
-  const std::u16string pattern = Utf8ToUtf16(ValueOf(ChildOf(definition, "lvlText")));
+std::u16string ListLabels::Label(const List& list, const Counters& counters, int level) {
+  const Level& own = list.levels[static_cast<std::size_t>(level)];
+  if (!own.isDefined || own.format == "bullet") return {};
   std::u16string label;
-  for (std::size_t i = 0; i < pattern.size() && label.size() < kLongestLabel; ++i) {
-    const bool isNumber =
-        pattern[i] == u'%' && i + 1 < pattern.size() && pattern[i + 1] >= u'1' && pattern[i + 1] <= u'9';
-    if (!isNumber) {
-      label += pattern[i];
+  for (std::size_t i = 0; i < own.pattern.size() && label.size() < kLongestLabel; ++i) {
+    const char16_t unit = own.pattern[i];
+    const char16_t next = i + 1 < own.pattern.size() ? own.pattern[i + 1] : u' ';
+    if (unit != u'%' || next < u'1' || next > u'9') {
+      label += unit;
       continue;
     }
-    const auto which = static_cast<std::size_t>(pattern[++i] - u'1');
-    const std::string format = legal ? "decimal" : FormatOf(list.levels[which].definition);
-    label += FormatListNumber(counters[which] == kNone ? list.levels[which].start : counters[which], format);
+    const auto which = static_cast<std::size_t>(own.pattern[++i] - u'1');
+    const Level& shown = list.levels[which];
+    const int number = counters[which] == kNone ? shown.start : counters[which];
+    label += FormatListNumber(number, own.isLegal ? "decimal" : std::string_view(shown.format));
   }
-  return label.empty() ? label : label.append(Separator(definition));
+  return label.empty() ? label : label.append(own.separator);
 }
 
 }  // namespace quorvantis

@@ -26,8 +26,14 @@ class ListLabels {
 
   /// How a list instance counts, put together from the list and what the instance says otherwise.
   struct Level {
-    pugi::xml_node definition;
+    bool isDefined = false;
     int start = 1;
+    int restart = 0;       ///< it begins anew behind paragraphs of levels below this one
+    bool isLegal = false;  ///< all numbers of the label are decimal
+    std::string format = "decimal";
+    std::u16string pattern;
+    std::u16string_view separator;
+    std::string style;      ///< that stands for this level; may be empty
     bool restarts = false;  ///< the instance begins anew
   };
   struct List {
@@ -41,18 +47,23 @@ class ListLabels {
   };
 
   List* ListOf(const std::string& id);
-  List MakeList(pugi::xml_node instance) const;
-  pugi::xml_node AbstractOf(pugi::xml_node instance) const;
+  List MakeList(pugi::xml_node instance);
+  static Level MakeLevel(pugi::xml_node definition, int index);
+  const List& AbstractOf(pugi::xml_node instance);
+  pugi::xml_node FindAbstract(const std::string& id) const;
   Place PlaceOf(pugi::xml_node properties);
-  Place PlaceOfStyle(std::string style) const;
+  Place PlaceOfStyle(const std::string& style);
+  Place FindPlaceOfStyle(std::string style);
   int LevelOfStyle(const std::string& list, const std::string& style);
-  void Count(List& list, Counters& counters, int level) const;
-  std::u16string Label(const List& list, const Counters& counters, int level) const;
+  static void Count(List& list, Counters& counters, int level);
+  static std::u16string Label(const List& list, const Counters& counters, int level);
 
   std::map<std::string, pugi::xml_node, std::less<>> abstractLists_;
   std::map<std::string, pugi::xml_node, std::less<>> instances_;
   std::map<std::string, pugi::xml_node, std::less<>> styles_;
   std::string defaultStyle_;
+  std::map<std::string, Place, std::less<>> placesOfStyles_;
+  std::map<std::string, List, std::less<>> abstracts_;  ///< as their instances begin
   std::map<std::string, List, std::less<>> lists_;
   std::map<std::string, Counters, std::less<>> counters_;
 };
