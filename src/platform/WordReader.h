@@ -26,7 +26,8 @@ enum class WordResult {
 
 struct WordReadOptions {
   bool listLabels = false;            ///< whether automatic numbers are part of the text
-  std::function<bool()> isCancelled;  ///< asked several times a second while the word processor runs
+  std::function<bool()> isCancelled;  ///< asked several times a second while the word
+                                      ///< processor runs, also for pictures later
 };
 
 /// A document that has been read. The file is no longer needed to be there, but should not change.
