@@ -203,12 +203,13 @@ TEST_F(DocxTest, FilesThatAreNoDocuments) {
 /// The header, one sector of allocation, and a directory with one stream.
 std::string CompoundFileWith(std::u16string_view stream, char flags) {
   std::string bytes = "\xD0\xCF\x11\xE0";
-  bytes.resize(512 * 4, '\0');
+  constexpr std::size_t kSector = 512;
+  bytes.resize(kSector * 4, '\0');
   bytes[30] = 9;
   bytes[48] = 1;  // sector of the directory; that of the allocation is 0
-  for (std::size_t i = 0; i < stream.size(); ++i) bytes[512 * 2 + 2 * i] = static_cast<char>(stream[i]);
-  bytes[512 * 2 + 116] = 2;
-  bytes[512 * 3 + 11] = flags;
+  for (std::size_t i = 0; i < stream.size(); ++i) bytes[kSector * 2 + 2 * i] = static_cast<char>(stream[i]);
+  bytes[kSector * 2 + 116] = 2;
+  bytes[kSector * 3 + 11] = flags;
   for (std::size_t i = 516; i < 520; ++i) bytes[i] = '\xFF';  // the directory ends after one sector
   return bytes;
 }
