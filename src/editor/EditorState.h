@@ -38,7 +38,8 @@ class EditorState {
   std::u16string WindowTitle() const;
 
   void MarkModified();
-  /// Deliberate: the title does not tell, neither now nor when a field reports a change later. Import does it.
+  /// Deliberate: the title does not tell, neither now nor when a field reports a change later. Import does
+  /// it.
   void MarkModifiedQuietly() { modified_ = true; }
   void SetFileName(std::filesystem::path fileName);
   /// The document is what the file holds.
