@@ -42,8 +42,8 @@ class FrameSetExam : public ExamPaper {
   void WritePrintPage(const std::filesystem::path& page);
 
   /// Reads questions from a marked text (import/ImportMarkers.h) into the slots from `firstSlot` on; the
-  /// patterns are rules of "ImportExam.ini". Returns the number of the slot after the last one written, at most
-  /// 501. Rules that cannot be used are told to the user, and nothing is written. Defined in import/.
+  /// patterns are rules of "ImportExam.ini". Returns the number of the slot after the last one written, at
+  /// most 501. Rules that cannot be used are told to the user, and nothing is written. Defined in import/.
   int ParseQuestions(int firstSlot, int pictureNumber, const std::u16string& markedText,
                      const std::u16string& questionPattern, const std::u16string& judgementAnswer,
                      const std::u16string& judgementBlock, const std::u16string& choiceAnswer,
