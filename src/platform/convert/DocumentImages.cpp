@@ -3,8 +3,8 @@
 
 #include "platform/convert/Later.h"
 #include "platform/convert/OfficeFilters.h"
-#include "platform/office/OfficeProfile.h"
 #include "platform/convert/ProgramRun.h"
+#include "platform/office/OfficeProfile.h"
 
 #include <QFile>
 #include <QUrl>

@@ -4,8 +4,8 @@
 #include "platform/convert/DocumentImages.h"
 #include "platform/convert/MediaConverter.h"
 #include "platform/convert/OfficeFilters.h"
-#include "platform/office/OfficeProfile.h"
 #include "platform/convert/ProgramRun.h"
+#include "platform/office/OfficeProfile.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
 
