@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kProject = fs::path(__FILE__).parent_path().parent_path().parent_path();
+const fs::path kProject = QUORVANTIS_PROJECT;
 
 std::string ReadText(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);

@@ -62,7 +62,7 @@ inline std::string Replaced(std::string text, const std::string& part, const std
 
 /// Compares a page with golden/<name>, byte by byte. QV_UPDATE_GOLDEN=1 writes the file anew instead.
 inline void ExpectGolden(const char* name, const std::string& page) {
-  const fs::path golden = fs::path(__FILE__).parent_path() / "golden" / name;
+  const fs::path golden = fs::path(QUORVANTIS_PROJECT) / "tests" / "render" / "golden" / name;
   if (std::getenv("QV_UPDATE_GOLDEN") != nullptr) WriteBytes(golden, page);  // NOLINT(concurrency-mt-unsafe)
   EXPECT_EQ(page, ReadBytes(golden)) << golden;
 }
