@@ -6,18 +6,15 @@
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
+#include "text/AsciiCase.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 
-#include <algorithm>
-
 namespace quorvantis {
+
 std::u16string LowerExtension(const std::filesystem::path& path) {
-  std::u16string text = PathToText(path);
-  text.erase(0, text.rfind(u'.') + 1);
-  const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c; };
-  std::ranges::transform(text, text.begin(), lower);
-  return text;
+  const std::u16string text = PathToText(path);
+  return AsciiLower(std::u16string_view(text).substr(text.rfind(u'.') + 1));  // npos + 1 is 0
 }
 
 bool ExamFileCommands::MayDiscardChanges() {

@@ -2,13 +2,14 @@
 #include "model/AnswerLetters.h"
 
 #include "model/ExamLimits.h"
+#include "text/AsciiCase.h"
 
 namespace quorvantis {
 
 int AnswerLettersToMask(std::u16string_view letters) {
   int mask = 0;
   for (const char16_t letter : letters) {
-    const char16_t lower = letter >= u'A' && letter <= u'Z' ? static_cast<char16_t>(letter + 32) : letter;
+    const char16_t lower = AsciiLower(letter);
     if (lower >= u'a' && lower <= u'e') mask += AnswerBoxWeight(static_cast<std::size_t>(lower - u'a'));
   }
   return mask;

@@ -4,6 +4,7 @@
 #include "platform/Texts.h"
 #include "render/Template.h"
 #include "render/TextToHtml.h"
+#include "text/AsciiCase.h"
 
 namespace quorvantis {
 namespace {
@@ -79,7 +80,7 @@ LetterFlags LettersToFlags(std::u16string_view text) {
   LetterFlags flags{};
   if (text == u"null") return flags;
   for (const char16_t unit : text) {
-    const char16_t lower = unit >= u'A' && unit <= u'E' ? static_cast<char16_t>(unit + 32) : unit;
+    const char16_t lower = AsciiLower(unit);
     if (lower >= u'a' && lower <= u'e') flags[static_cast<std::size_t>(lower - u'a')] = true;
   }
   return flags;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/AttachmentPath.h"
 
+#include "text/AsciiCase.h"
+
 #include <algorithm>
 
 namespace quorvantis {
@@ -11,14 +13,6 @@ constexpr std::size_t kPrefix = 3;
 std::u16string_view FromMarkOrWithoutPrefix(std::u16string_view path, std::u16string_view mark) {
   const std::size_t at = path.find(mark);
   return path.substr(at != std::u16string_view::npos ? at : std::min(kPrefix, path.size()));
-}
-
-std::u16string Lower(std::u16string_view text) {
-  std::u16string lower(text);
-  for (char16_t& unit : lower) {
-    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + 32);
-  }
-  return lower;
 }
 
 }  // namespace
@@ -32,7 +26,7 @@ std::u16string_view PlayerSource(std::u16string_view path) {
 }
 
 std::u16string ExtensionOrPath(std::u16string_view path) {
-  return Lower(path.substr(path.rfind(u'.') + 1));  // npos + 1 is 0
+  return AsciiLower(path.substr(path.rfind(u'.') + 1));  // npos + 1 is 0
 }
 
 std::u16string ExtensionOrNothing(std::u16string_view path) {

@@ -99,7 +99,6 @@ constexpr NumberedText kTexts[] = {
     {text_id::kNeedsProgram, u"%s cannot be shown, because %s is not installed."},
     {text_id::kFirstPagesOnly, u"Only the first %s pages are shown."},
     {text_id::kBeginningOnly, u"Only the beginning is shown."},
-    {text_id::kCannotImport, u"This version cannot import exams."},
     {text_id::kTooLong, u"Not changed: this field takes at most %d characters."},
     {text_id::kSaveCopy, u"Save a copy\u2026"},
     {text_id::kRemoveAttachment, u"Remove"},

@@ -3,6 +3,7 @@
 
 #include "platform/LanguageLibraries.h"
 #include "platform/Texts.h"
+#include "text/AsciiCase.h"
 #include "text/PathText.h"
 
 #include <algorithm>
@@ -12,14 +13,13 @@ namespace quorvantis {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr std::string_view kExtension = ".dll";
+constexpr std::u16string_view kExtension = u".dll";
 
 bool IsNamedLikeLibrary(const fs::path& file) {
-  const std::string name = file.filename().string();
-  if (name.size() <= kExtension.size()) return false;
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-  return std::ranges::equal(std::string_view(name).substr(name.size() - kExtension.size()), kExtension, {},
-                            lower);
+  const std::u16string name = PathToText(file.filename());
+  return name.size() > kExtension.size() &&
+         EqualsIgnoringAsciiCase(std::u16string_view(name).substr(name.size() - kExtension.size()),
+                                 kExtension);
 }
 
 /// The entries of a folder that may be libraries, in the order of their names.
