@@ -182,13 +182,15 @@ void AddImportOptions(CLI::App& command, ImportRequest& request) {
   command.add_option("--formulas", request.formulas, "What to do with formulas")
       ->type_name("X")
       ->check(CLI::IsMember(answers));
+  command.add_flag("--mend-line-ends", request.mendLineEnds,
+                   "End the lines of imported texts as pages show them, with CR LF");
   command.add_option("--marked", request.markedFile, "Also write the marked text")->type_name("FILE");
   command.add_option("--text", request.textFile, "Also write the document's text")->type_name("FILE");
 }
 
 void AddImport(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::App* import = AddCommand(app, arguments, "import", "Make an exam from a question paper, by rules");
-  AddPath(*import, "DOCUMENT", arguments.import.document, "Question paper: a text file (.txt)");
+  AddPath(*import, "DOCUMENT", arguments.import.document, "Question paper: .doc, .docx, .odt, .rtf or .txt");
   AddPath(*import, "OUT", arguments.import.target, "Exam file to write");
   AddImportOptions(*import, arguments.import);
   import->footer(

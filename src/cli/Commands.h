@@ -58,6 +58,7 @@ struct ImportRequest {
   int after = 0;                ///< the question after which to continue
   std::string pictures;         ///< the answer to a question of the import, empty for none; likewise:
   std::string formulas;
+  bool mendLineEnds = false;         ///< whether imported texts get line ends such as pages show
   std::filesystem::path markedFile;  ///< for the marked text; empty for none
   std::filesystem::path textFile;    ///< for the document's text
 };

@@ -128,6 +128,13 @@ void Import(EditSession& session, const Arguments& arguments) {
   session.ImportAnswers().Prepare(std::move(answers));
   session.Import().Run();
   session.ImportAnswers().ThrowIfRefused();
+  for (const std::u16string& line : ImportSummary(session.ImportAnswers().Report(), session.Texts()))
+    session.Streams().Complain(Utf16ToUtf8(line));
+}
+
+void UndoImport(EditSession& session, const Arguments&) {
+  if (!session.Import().CanUndo()) throw CommandError("there is no import to undo");
+  session.Import().Undo();
 }
 
 void Remove(EditSession& session, const Arguments& arguments) {
@@ -214,6 +221,7 @@ constexpr EditCommand kCommands[] = {
     {"score", kScoreUsage, 2, Score, 1},
     {"import", "DOCUMENT REPOSITORY [continue|new] [pictures X] [formulas X]   (X: give-up|ignore|force)", 2,
      Import, 5},
+    {"undo-import", "", 0, UndoImport},
     {"state", "  (prints one JSON line)", 0, State},
 };
 

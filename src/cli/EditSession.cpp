@@ -27,8 +27,8 @@ EditSession::EditSession(Console& console, const CommonOptions& options,
     : session_(console, options),
       editor_(session_.exam, *this,
               [this](FrameSetExam&, const std::filesystem::path& target) { Export(target); }),
-      paperReader_(session_.services.codePage),
-      import_(editor_, paperReader_, importAnswers_,
+      importAnswers_(session_.console),
+      import_(editor_, session_.papers, importAnswers_,
               importRules.empty() ? FindImportRules(session_.services.applicationFolder) : importRules) {
   editor_.questions.LoadCurrentQuestion();
 }

@@ -5,7 +5,6 @@
 #include "cli/ExamSession.h"
 #include "cli/ScriptedImport.h"
 #include "editor/ExamEditor.h"
-#include "shell/TextPaperReader.h"
 
 namespace quorvantis::cli {
 
@@ -26,6 +25,7 @@ class EditSession : private EditorView {
   ScriptedImport& ImportAnswers() { return importAnswers_; }
   ImportCommand& Import() { return import_; }
   Console& Streams() { return session_.console; }
+  const StringTable& Texts() { return session_.services.strings; }
 
   /// The window has been closed: nothing but its state can be asked for.
   void Close() { closed_ = true; }
@@ -40,7 +40,6 @@ class EditSession : private EditorView {
 
   ExamSession session_;
   ExamEditor editor_;
-  TextPaperReader paperReader_;
   ScriptedImport importAnswers_;
   ImportCommand import_;
   bool closed_ = false;

@@ -44,6 +44,7 @@ ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
       languageId(options.language.value_or(kEnglish)),
       host_(folder_.Folder(), languageId, options.debug, {language_, dialogs, progress_, longAnswerFlags_}),
       services(host_.Services()),
+      papers(host_.Papers()),
       exam(services) {
   exam.SetHostMode(1);
 }

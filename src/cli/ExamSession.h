@@ -63,6 +63,7 @@ class ExamSession {
 
  public:
   ExamServices& services;
+  PaperReader& papers;
   FrameSetExam exam;
 };
 

@@ -6,7 +6,7 @@
 #include "cli/SavingLosses.h"
 #include "examfile/ExamFileWriter.h"
 #include "platform/WholeFile.h"
-#include "shell/ImportSummary.h"
+#include "shell/ImportReport.h"
 #include "text/Utf.h"
 
 #include <ostream>
@@ -41,7 +41,7 @@ ImportAnswers Answers(const ImportRequest& request) {
 }
 
 /// Imports; throws when nothing was.
-const ImportReport& RunImport(EditSession& session, const ImportRequest& request) {
+ImportReport RunImport(EditSession& session, const ImportRequest& request) {
   session.ImportAnswers().Prepare(Answers(request));
   const int errors = session.Dialogs().ErrorCount();
   if (!request.into.empty()) OpenInput(request.into);  // fails with one line
@@ -50,9 +50,13 @@ const ImportReport& RunImport(EditSession& session, const ImportRequest& request
     throw CommandError(request.into.string() + ": was not changed");
   request.into.empty() ? session.Import().Run() : session.Import().RunAfter(request.after);
   session.ImportAnswers().ThrowIfRefused();
-  const ImportReport& report = session.ImportAnswers().Report();
+  ImportReport report = session.ImportAnswers().Report();
   if (!report.imported)
     throw CommandError(request.target.string() + ": was not written, because the import was given up");
+  if (request.mendLineEnds) {
+    session.Import().MendLineEnds();
+    report.loneLineEnds = 0;
+  }
   return report;
 }
 
@@ -64,9 +68,9 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
     RefuseToOverwrite(request.rules, target);
   }
   EditSession session(console, options, request.rules);
-  const ImportReport& report = RunImport(session, request);
+  const ImportReport report = RunImport(session, request);
   PosixFiles files;
-  WriteText(request.textFile, report.text, files);
+  WriteText(request.textFile, report.content.text, files);
   WriteText(request.markedFile, report.marked.text, files);
   FrameSetExam& exam = session.Editor().state.document;
   if (const auto error = ExamFileWriter(exam, exam.Services()).Write(request.target)) {
@@ -74,7 +78,8 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
   }
   for (const std::string& loss : LossesOnSaving(exam))
     console.Complain(request.target.string() + ": " + loss);
-  for (const std::u16string& line : ImportSummary(report)) console.out << Utf16ToUtf8(line) << '\n';
+  for (const std::u16string& line : ImportSummary(report, session.Texts()))
+    console.out << Utf16ToUtf8(line) << '\n';
 }
 
 }  // namespace quorvantis::cli

@@ -67,6 +67,10 @@ bool ScriptedImport::AskDocument(ExamImport& import) {
   return refusal_.empty();
 }
 
+void ScriptedImport::ShowNotice(std::u16string_view, std::u16string_view text) {
+  console_.Complain(Utf16ToUtf8(text));
+}
+
 void ScriptedImport::ShowFailure(std::u16string_view text) {
   refusal_ = Utf16ToUtf8(text);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/Console.h"
 #include "shell/ImportCommand.h"
 
 #include <filesystem>
@@ -25,6 +26,9 @@ ChoiceResult ChoiceNamed(std::string_view word);
 /// The dialogs of an import, answered beforehand.
 class ScriptedImport : public ImportDialogs {
  public:
+  /// `console`, which gets the messages, must outlive this.
+  explicit ScriptedImport(Console& console) : console_(console) {}
+
   void Prepare(ImportAnswers answers);
 
   /// Why there was no import, if it was for the document or the rules, as a CommandError.
@@ -35,12 +39,16 @@ class ScriptedImport : public ImportDialogs {
   bool AskDocument(ExamImport& import) override;
   ChoiceResult AskPictures() override { return answers_.pictures; }
   ChoiceResult AskFormulas() override { return answers_.formulas; }
-  void ShowWait() override {}
+  void ShowWait(const std::filesystem::path&) override {}
+  void ShowPicturesRead(std::size_t, std::size_t) override {}
+  bool IsCancelled() override { return false; }
   void HideWait() override {}
+  void ShowNotice(std::u16string_view caption, std::u16string_view text) override;
   void ShowFailure(std::u16string_view text) override;
-  void ShowReport(const ImportReport& report) override { report_ = report; }
+  void ShowReport(const ImportReport& report, ImportCommand&) override { report_ = report; }
 
  private:
+  Console& console_;
   ImportAnswers answers_;
   std::string refusal_;
   ImportReport report_;

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/AboutDlg.h"
 
-#include "desktop/QtText.h"
+#include "desktop/DialogText.h"
 #include "platform/DialogTexts.h"
-#include "shell/BuiltInDialogTexts.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,12 +15,6 @@ namespace {
 constexpr int kMargin = 20;  // pixels
 constexpr int kLineWidth = 220;
 constexpr QSize kIconSize(64, 64);
-
-QString Text(const LanguageLibrary* language, int control) {
-  const std::u16string text =
-      language == nullptr ? std::u16string() : language->DialogText(dialog_id::kAbout, control);
-  return ToQString(text.empty() ? BuiltInDialogText(dialog_id::kAbout, control) : text);
-}
 
 QLabel* MakeLine(const QString& text, QWidget* parent) {
   auto* line = new QLabel(text, parent);
@@ -36,10 +29,11 @@ QLabel* MakeLine(const QString& text, QWidget* parent) {
 }  // namespace
 
 AboutDlg::AboutDlg(const LanguageLibrary* language, QWidget* parent) : QDialog(parent) {
-  setWindowTitle(Text(language, control_id::kCaption));
+  const DialogText text(language, dialog_id::kAbout);
+  setWindowTitle(text(control_id::kCaption));
   auto* icon = new QLabel(this);
   icon->setPixmap(windowIcon().pixmap(kIconSize, devicePixelRatio()));
-  auto* ok = new QPushButton(Text(language, control_id::kOk), this);
+  auto* ok = new QPushButton(text(control_id::kOk), this);
   ok->setObjectName("ok");
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
@@ -47,7 +41,7 @@ AboutDlg::AboutDlg(const LanguageLibrary* language, QWidget* parent) : QDialog(p
   auto* top = new QHBoxLayout;
   top->setSpacing(kMargin);
   top->addWidget(icon);
-  top->addWidget(MakeLine(Text(language, control_id::kFirstLabel), this), 1);
+  top->addWidget(MakeLine(text(control_id::kFirstLabel), this), 1);
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   all->setSpacing(kMargin);

@@ -80,17 +80,17 @@ GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) 
 
 }  // namespace
 
-CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, OfficeControl* office,
-                               DocumentExport exportDocument, const LanguageLibrary* library, int languageId)
+CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, PaperReader& papers,
+                               OfficeControl* office, DocumentExport exportDocument,
+                               const LanguageLibrary* library, int languageId)
     : exam_(exam),
       office_(office),
       library_(library),
       editor_(exam, *this, std::move(exportDocument)),
       languageId_(languageId),
       previews_(SetUpGateway(exam, pages), *this),
-      importWindows_(exam.Services(), *this),
-      paperReader_(exam.Services().codePage),
-      import_(editor_, paperReader_, importWindows_, exam.Services().applicationFolder / kImportRulesFile),
+      importWindows_(exam.Services(), library, *this),
+      import_(editor_, papers, importWindows_, exam.Services().applicationFolder / kImportRulesFile),
       pictures_(library),
       files_(editor_, PageCommands(), exam.Services().strings, pictures_, WithFittingFont(this)),
       examControls_(editor_, exam.Services().strings, this),
@@ -161,6 +161,7 @@ void CQuorvantisDlg::FormLoaded() {
   examControls_.Load();
   question_.Load();
   answers_.Load();
+  importWindows_.ExamChanged();
   FormChanged();
 }
 
@@ -255,12 +256,17 @@ void CQuorvantisDlg::changeEvent(QEvent* event) {
 /// There is no window menu to which a program can add on every desktop; the window's background has it
 /// instead.
 void CQuorvantisDlg::contextMenuEvent(QContextMenuEvent* event) {
-  const std::u16string about = exam_.Services().strings.Text(text_id::kAbout);
-  if (about.empty()) return;
+  const StringTable& strings = exam_.Services().strings;
+  const std::u16string about = strings.Text(text_id::kAbout);
+  if (about.empty() && !import_.CanUndo()) return;
   auto* menu = new QMenu(this);
   menu->setObjectName("windowMenu");
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  connect(menu->addAction(ToQString(about)), &QAction::triggered, this, &CQuorvantisDlg::ShowAbout);
+  if (!about.empty())
+    connect(menu->addAction(ToQString(about)), &QAction::triggered, this, &CQuorvantisDlg::ShowAbout);
+  if (import_.CanUndo())
+    connect(menu->addAction(ToQString(strings.Text(text_id::kUndoImport))), &QAction::triggered, this,
+            [this] { importWindows_.Undo(import_); });
   menu->popup(event->globalPos());
 }
 

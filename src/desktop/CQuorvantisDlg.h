@@ -13,8 +13,8 @@
 #include "preview/PreviewWindows.h"
 #include "scoring/SetupOwner.h"
 #include "shell/CodePageChoice.h"
+#include "shell/ImportCommand.h"
 #include "shell/OfficeControl.h"
-#include "shell/TextPaperReader.h"
 
 #include <QPushButton>
 #include <QUrl>
@@ -31,11 +31,12 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   Q_OBJECT
 
  public:
-  /// All must outlive the window: `exam`, the pages that its previews are composed into, `office`, and the
-  /// library that pictures are taken from. Without `office` office programs are left alone, else the user may
-  /// be asked to close them before the window appears. Without a library, the pictures are the built-in ones.
-  /// `languageId` is that of the wanted language, which previews are told.
-  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, OfficeControl* office,
+  /// All must outlive the window: `exam`, the pages that its previews are composed into, the reader of the
+  /// documents to import, `office`, and the library that dialogs and pictures are taken from. Without
+  /// `office` office programs are left alone, else the user may be asked to close them before the window
+  /// appears. Without a library, the pictures are the built-in ones. `languageId` is that of the wanted
+  /// language, which previews are told.
+  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, PaperReader& papers, OfficeControl* office,
                  DocumentExport exportDocument, const LanguageLibrary* library = nullptr,
                  int languageId = kEnglish);
   ~CQuorvantisDlg() override;
@@ -92,7 +93,6 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   const int languageId_;
   PreviewWindows previews_;
   ImportWindows importWindows_;
-  TextPaperReader paperReader_;
   ImportCommand import_;
   Pictures pictures_;
   bool endsUnasked_ = false;

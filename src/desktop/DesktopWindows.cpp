@@ -83,8 +83,8 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   };
   LinuxProcessTable processes;
   OfficeControl office(host.Services(), processes);
-  CQuorvantisDlg window(exam, host.Pages(), TakesPicture() ? nullptr : &office, exportDocument, &language,
-                        application.LanguageId());
+  CQuorvantisDlg window(exam, host.Pages(), host.Papers(), TakesPicture() ? nullptr : &office, exportDocument,
+                        &language, application.LanguageId());
   dialogs_.SetParent(&window);
   progress.SetParent(&window);
   window.show();

@@ -3,6 +3,7 @@
 
 #include "desktop/QtText.h"
 #include "platform/StringTable.h"
+#include "platform/Texts.h"
 #include "platform/UserDialogs.h"
 #include "text/PathText.h"
 
@@ -14,34 +15,33 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::u16string_view kDocumentFilter =
-    u"Doc files, (*.doc)|*.doc|Other documents (*.docx;*.odt;*.rtf;*.txt)|*.docx;*.odt;*.rtf;*.txt|";
 constexpr int kPathLines = 2;
 
 }  // namespace
 
-ExamImportDlg::ExamImportDlg(ExamImport& import, ExamServices& services, QWidget* parent)
+ExamImportDlg::ExamImportDlg(ExamImport& import, ExamServices& services, const DialogText& texts,
+                             QWidget* parent)
     : QDialog(parent),
       import_(import),
       services_(services),
       path_(new QPlainTextEdit(this)),
       repository_(new QComboBox(this)) {
-  setWindowTitle("ImportExam");
+  setWindowTitle(texts(control_id::kCaption));
   path_->setObjectName("documentPath");
   path_->setTabChangesFocus(true);
   path_->setFixedHeight(path_->fontMetrics().lineSpacing() * kPathLines + 4 * path_->frameWidth() + 8);
   repository_->setObjectName("repository");
   for (const std::u16string& name : import_.Repositories()) repository_->addItem(ToQString(name));
-  auto* browse = new QPushButton(QString::fromUtf8("浏览"), this);
+  auto* browse = new QPushButton(texts(control_id::kBrowse), this);
   browse->setAutoDefault(false);
   connect(browse, &QPushButton::clicked, this, &ExamImportDlg::Browse);
   auto* buttons = new QDialogButtonBox(this);
-  buttons->addButton(QString::fromUtf8("导入试卷"), QDialogButtonBox::AcceptRole);
-  buttons->addButton(QString::fromUtf8("取消"), QDialogButtonBox::RejectRole);
+  buttons->addButton(texts(control_id::kOk), QDialogButtonBox::AcceptRole);
+  buttons->addButton(texts(control_id::kCancel), QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::accepted, this, &ExamImportDlg::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &ExamImportDlg::reject);
-  auto* pathLabel = new QLabel(QString::fromUtf8("WORD文档路径"), this);
-  auto* repositoryLabel = new QLabel(QString::fromUtf8("知识库"), this);
+  auto* pathLabel = new QLabel(texts(control_id::kFirstLabel), this);
+  auto* repositoryLabel = new QLabel(texts(control_id::kSecondLabel), this);
   pathLabel->setBuddy(path_);
   repositoryLabel->setBuddy(repository_);
   auto* grid = new QGridLayout(this);
@@ -56,7 +56,9 @@ ExamImportDlg::ExamImportDlg(ExamImport& import, ExamServices& services, QWidget
 
 /// A file dialog that is cancelled puts the last chosen path back.
 void ExamImportDlg::Browse() {
-  const auto file = services_.dialogs.ChooseFileToOpen({std::u16string(kDocumentFilter), {}, {}});
+  const StringTable& strings = services_.strings;
+  const std::u16string filter = strings.Text(text_id::kImportFilter) + strings.Text(text_id::kOtherDocuments);
+  const auto file = services_.dialogs.ChooseFileToOpen({filter, {}, {}});
   if (file) import_.m_strDocPath = *file;
   path_->setPlainText(ToQString(PathToText(import_.m_strDocPath)));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/DialogText.h"
 #include "platform/ExamServices.h"
 #include "shell/ExamImport.h"
 
@@ -16,7 +17,7 @@ class ExamImportDlg : public QDialog {
 
  public:
   /// `import`, whose repositories are listed, and `services` must outlive the dialog.
-  ExamImportDlg(ExamImport& import, ExamServices& services, QWidget* parent);
+  ExamImportDlg(ExamImport& import, ExamServices& services, const DialogText& texts, QWidget* parent);
 
   /// Closes the dialog only when the rules accept what is chosen.
   void accept() override;

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/ImportWindows.h"
 
+#include "desktop/DialogText.h"
 #include "desktop/ExamImportDlg.h"
+#include "desktop/QtText.h"
+#include "platform/Texts.h"
 #include "platform/UserDialogs.h"
-#include "shell/ImportSummary.h"
+#include "shell/ImportCommand.h"
+#include "text/PathText.h"
 
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -15,76 +20,103 @@ namespace {
 /// A question with a button for each answer.
 class ChoiceDialog : public QDialog {
  public:
-  ChoiceDialog(const char* name, const char* caption, const QStringList& lines, QWidget* parent)
-      : QDialog(parent), layout_(new QVBoxLayout(this)) {
+  ChoiceDialog(const char* name, const DialogText& texts, QWidget* parent)
+      : QDialog(parent), texts_(texts), layout_(new QVBoxLayout(this)) {
     setObjectName(name);
-    setWindowTitle(QString::fromUtf8(caption));
-    for (const QString& line : lines) layout_->addWidget(new QLabel(line, this));
+    setWindowTitle(texts_(control_id::kCaption));
+    for (const int label : {control_id::kFirstLabel, control_id::kSecondLabel}) {
+      const QString line = texts_(label);
+      if (!line.isEmpty()) layout_->addWidget(new QLabel(line, this));
+    }
   }
 
-  void Offer(const char* caption, int answer) {
-    auto* button = new QPushButton(QString::fromUtf8(caption), this);
+  void Offer(int control, int answer) {
+    auto* button = new QPushButton(texts_(control), this);
     layout_->addWidget(button);
     connect(button, &QPushButton::clicked, this, [this, answer] { done(answer); });
   }
 
  private:
+  DialogText texts_;
   QVBoxLayout* layout_;
 };
 
 /// A dialog that is closed otherwise gives 0, which is None.
-ChoiceResult AskWhatToDo(ChoiceDialog& dialog) {
-  dialog.Offer("放弃", static_cast<int>(ChoiceResult::GiveUp));
-  dialog.Offer("忽略相关题", static_cast<int>(ChoiceResult::IgnoreRelated));
-  dialog.Offer("强行导入", static_cast<int>(ChoiceResult::Force));
+ChoiceResult AskWhatToDo(const char* name, const DialogText& texts, QWidget* parent) {
+  ChoiceDialog dialog(name, texts, parent);
+  dialog.Offer(control_id::kGiveUp, static_cast<int>(ChoiceResult::GiveUp));
+  dialog.Offer(control_id::kIgnoreQuestions, static_cast<int>(ChoiceResult::IgnoreRelated));
+  dialog.Offer(control_id::kForceImport, static_cast<int>(ChoiceResult::Force));
   return static_cast<ChoiceResult>(dialog.exec());
+}
+
+QString Joined(const std::vector<std::u16string>& lines) {
+  QStringList list;
+  for (const std::u16string& line : lines) list.push_back(ToQString(line));
+  return list.join('\n');
 }
 
 }  // namespace
 
 ImportTarget ImportWindows::AskTarget() {
-  ChoiceDialog dialog("importTarget", "请选择", {}, &parent_);
-  dialog.Offer("继续导入", QDialog::Accepted);
-  dialog.Offer("创建新的试卷", QDialog::Rejected);
+  ChoiceDialog dialog("importTarget", {language_, dialog_id::kImportTarget}, &parent_);
+  dialog.Offer(control_id::kOk, QDialog::Accepted);
+  dialog.Offer(control_id::kCancel, QDialog::Rejected);
   return dialog.exec() == QDialog::Accepted ? ImportTarget::Continue : ImportTarget::NewExam;
 }
 
 bool ImportWindows::AskDocument(ExamImport& import) {
-  return ExamImportDlg(import, services_, &parent_).exec() == QDialog::Accepted;
+  return ExamImportDlg(import, services_, {language_, dialog_id::kImport}, &parent_).exec() ==
+         QDialog::Accepted;
 }
 
 ChoiceResult ImportWindows::AskPictures() {
-  ChoiceDialog dialog("pictures", "图片处理", {QString::fromUtf8("答案中的图片无法显示")}, &parent_);
-  return AskWhatToDo(dialog);
+  return AskWhatToDo("pictures", {language_, dialog_id::kPicture}, &parent_);
 }
 
 ChoiceResult ImportWindows::AskFormulas() {
-  ChoiceDialog dialog("formulas", "公式处理",
-                      {QString::fromUtf8("公式无法显示"), QString::fromUtf8("(用##代替)")}, &parent_);
-  return AskWhatToDo(dialog);
+  return AskWhatToDo("formulas", {language_, dialog_id::kFormula}, &parent_);
 }
 
-void ImportWindows::ShowWait() {
-  wait_ = new ChoiceDialog("importWait", "提示", {QString::fromUtf8("试卷导入中，请稍后")}, &parent_);
-  wait_->setAttribute(Qt::WA_DeleteOnClose);
-  wait_->show();
-  wait_->repaint();
+void ImportWindows::ShowWait(const std::filesystem::path& document) {
+  if (summary_) summary_->close();
+  wait_ = std::make_unique<ImportWaitDlg>(
+      DialogText(language_, dialog_id::kImportWait), ToQString(PathToText(document.filename())),
+      ToQString(services_.strings.Text(text_id::kEscapeCancels)), &parent_);
 }
 
-void ImportWindows::HideWait() {
-  if (wait_) wait_->close();
+void ImportWindows::ShowPicturesRead(std::size_t done, std::size_t total) {
+  if (wait_) wait_->ShowPicturesRead(done, total);
+}
+
+void ImportWindows::ShowNotice(std::u16string_view caption, std::u16string_view text) {
+  QMessageBox box(QMessageBox::NoIcon, ToQString(caption), ToQString(text), QMessageBox::Ok, &parent_);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
 }
 
 void ImportWindows::ShowFailure(std::u16string_view text) {
   services_.dialogs.ShowError(text);
 }
 
-/// Says nothing when there is nothing to look at.
-void ImportWindows::ShowReport(const ImportReport& report) {
-  std::u16string text;
-  const auto lines = ImportSummary(report);
-  for (const std::u16string& line : lines) text += (text.empty() ? u"" : u"\n") + line;
-  if (lines.size() > 1) services_.dialogs.ShowWarning(text);
+void ImportWindows::ShowReport(const ImportReport& report, ImportCommand& import) {
+  ImportSummaryDlg::Commands commands;
+  commands.canUndo = [&import] { return import.CanUndo(); };
+  commands.undo = [this, &import] { Undo(import); };
+  if (report.loneLineEnds > 0) commands.mendLineEnds = [&import] { import.MendLineEnds(); };
+  summary_ = new ImportSummaryDlg(Joined(ImportSummary(report, services_.strings)), std::move(commands),
+                                  services_.strings, &parent_);
+  summary_->show();
+}
+
+void ImportWindows::Undo(ImportCommand& import) {
+  if (!import.CanUndo() || !services_.dialogs.AskYesNo(services_.strings.Text(text_id::kUndoAfterChanges)))
+    return;
+  import.Undo();
+}
+
+void ImportWindows::ExamChanged() {
+  if (summary_) summary_->Refresh();
 }
 
 }  // namespace quorvantis

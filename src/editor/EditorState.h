@@ -26,6 +26,8 @@ class EditorState {
   EditorView& view;
   int currentQuestion = 1;  ///< 1 to 500
   QuestionKind currentKind = kNoKind;
+  int examsBegun = 0;  ///< counts the exams that the user has opened or made anew
+  int saves = 0;       ///< counts how often an exam has been saved
 
   ExamQuestion& Current() { return document.Question(currentQuestion); }
 

@@ -37,7 +37,9 @@ void ExamFileCommands::ClearDocument() {
 }
 
 void ExamFileCommands::NewExam() {
-  if (MayDiscardChanges()) StartNewExam();
+  if (!MayDiscardChanges()) return;
+  ++state_.examsBegun;
+  StartNewExam();
 }
 
 void ExamFileCommands::StartNewExam() {
@@ -64,6 +66,7 @@ void ExamFileCommands::OpenExam(const std::filesystem::path& file) {
 }
 
 void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
+  ++state_.examsBegun;
   ClearDocument();
   state_.document.ReadExamFile(file);
   RecordCopies(state_.document);
@@ -99,7 +102,10 @@ void ExamFileCommands::SaveExamAs() {
 
 bool ExamFileCommands::WriteTo(const std::filesystem::path& file) {
   const bool written = state_.document.WriteExamFile(file);
-  if (written) state_.MarkSaved();
+  if (written) {
+    ++state_.saves;
+    state_.MarkSaved();
+  }
   return written;
 }
 

@@ -2,7 +2,6 @@
 #include "editor/QuestionEditor.h"
 
 #include "editor/AnswerList.h"
-#include "model/AnswerLetters.h"
 #include "model/LongAnswerFlags.h"
 #include "platform/ExamServices.h"
 #include "platform/StringTable.h"
@@ -14,24 +13,6 @@ namespace quorvantis {
 namespace {
 
 constexpr int kLongStep = 10;
-
-/// Box A takes whatever a mask has above the others: 2 or more of it is a grey box.
-std::array<CheckState, kOptionCount> ChecksFromMask(int mask) {
-  std::array<CheckState, kOptionCount> checks;
-  checks[0] = static_cast<CheckState>(std::clamp(mask / AnswerBoxWeight(0), 0, 2));
-  for (std::size_t box = 1; box < kOptionCount; ++box) {
-    checks[box] = (mask & AnswerBoxWeight(box)) != 0 ? CheckState::On : CheckState::Off;
-  }
-  return checks;
-}
-
-int MaskFromChecks(const std::array<CheckState, kOptionCount>& checks) {
-  int mask = 0;
-  for (std::size_t box = 0; box < kOptionCount; ++box) {
-    if (checks[box] != CheckState::Off) mask += AnswerBoxWeight(box);
-  }
-  return mask;
-}
 
 }  // namespace
 
@@ -57,17 +38,11 @@ void QuestionEditor::TickAnswerBox(std::size_t index, bool on) {
 void QuestionEditor::StoreCurrentQuestion() {
   ExamQuestion& question = state_.Current();
   state_.document.title = form_.title;
-  question.text = form_.text;
-  question.options = form_.options;
-  question.answerText = WithoutOpenSeparator(form_.answer);
+  state_.document.randomMode = form_.random;
+  StoreForm(form_, state_.currentKind, question);
   if (question.answerText.size() > kMaxShortAnswer) {
     state_.document.Services().longAnswerFlags.Set(state_.currentQuestion);
   }
-  question.essayAnswer = form_.essay;
-  question.kind = state_.currentKind;
-  state_.document.randomMode = form_.random;
-  question.answerMask = MaskFromChecks(form_.checks);
-  question.answerLetters = AnswerMaskToLetters(question.answerMask);
 }
 
 void QuestionEditor::LoadCurrentQuestion() {
@@ -75,14 +50,18 @@ void QuestionEditor::LoadCurrentQuestion() {
   form_.number = state_.currentQuestion;
   form_.title = state_.document.title;
   form_.random = state_.document.randomMode;
-  form_.text = question.text;
-  form_.options = question.options;
-  form_.answer = question.answerText;
-  form_.essay = question.essayAnswer;
-  form_.checks = ChecksFromMask(question.answerMask);
+  LoadForm(question, form_);
   state_.currentKind = question.kind;
   attachments_.RefreshQuestionList();
   attachments_.RefreshExamList();
+  state_.view.FormLoaded();
+}
+
+void QuestionEditor::LoadCurrentQuestion(const QuestionForm& form, QuestionKind kind) {
+  LoadCurrentQuestion();
+  form_ = form;
+  state_.currentKind = kind;
+  attachments_.RefreshQuestionList();
   state_.view.FormLoaded();
 }
 

@@ -31,6 +31,8 @@ class QuestionEditor {
 
   void StoreCurrentQuestion();
   void LoadCurrentQuestion();
+  /// Loads it, and shows what the form held at some earlier time instead.
+  void LoadCurrentQuestion(const QuestionForm& form, QuestionKind kind);
 
   void GoNext();
   void GoPrevious();

@@ -38,4 +38,11 @@ struct QuestionForm {
   const std::u16string& Field(FormField field) const;
 };
 
+/// Fills the form from a question: what stands in the question itself, so neither number, title nor random
+/// mode.
+void LoadForm(const ExamQuestion& question, QuestionForm& form);
+
+/// The other way round. The kind that the window shows is no part of the form.
+void StoreForm(const QuestionForm& form, QuestionKind kind, ExamQuestion& question);
+
 }  // namespace quorvantis

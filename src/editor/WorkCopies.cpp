@@ -75,6 +75,10 @@ fs::path AttachmentWorkRoot(const fs::path& applicationFolder) {
   return applicationFolder / "~TEMP";
 }
 
+void MakeWorkRoot(const fs::path& workRoot) {
+  MakeOwnFolder(workRoot.parent_path(), workRoot.filename());
+}
+
 std::u16string SourceFolder(const fs::path& source) {
   return FitFileName(SourceFolderKey(source));
 }
@@ -84,7 +88,7 @@ std::u16string CopyFolder(const fs::path& source, int counter) {
 }
 
 fs::path MakeWorkCopy(const fs::path& workRoot, const fs::path& source, int counter) {
-  MakeOwnFolder(workRoot.parent_path(), workRoot.filename());
+  MakeWorkRoot(workRoot);
   const fs::path fromFolder = MakeOwnFolder(workRoot, TextToPath(SourceFolder(source)));
   const fs::path copy =
       MakeOwnFolder(fromFolder, TextToPath(CopyFolder(source, counter))) / source.filename();

@@ -13,6 +13,9 @@ namespace quorvantis {
 /// Copies of attached files lie below this folder; it is removed when the editor ends.
 std::filesystem::path AttachmentWorkRoot(const std::filesystem::path& applicationFolder);
 
+/// Makes that folder; a link in its place, which would lead the copies elsewhere, is removed.
+void MakeWorkRoot(const std::filesystem::path& workRoot);
+
 /// The folder below the work root for files from one place: the folders of `source` run together ("homedocs"
 /// for /home/docs/photo.jpg), shortened where no file system would take it.
 std::u16string SourceFolder(const std::filesystem::path& source);

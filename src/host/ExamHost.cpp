@@ -20,6 +20,8 @@ ExamHost::ExamHost(const std::filesystem::path& applicationFolder, int languageI
                 program.longAnswerFlags,
                 ids_,
                 registry_,
-                pages_} {}
+                pages_},
+      documents_(files_),
+      papers_(services_, documents_) {}
 
 }  // namespace quorvantis

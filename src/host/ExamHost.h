@@ -2,12 +2,14 @@
 #pragma once
 
 #include "platform/ExamServices.h"
+#include "platform/office/OfficeWordReader.h"
 #include "platform/posix/FileRegistry.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/RandomIds.h"
 #include "platform/posix/StandardErrorDebug.h"
 #include "render/ComposedPages.h"
+#include "shell/DocumentPaperReader.h"
 
 #include <filesystem>
 
@@ -32,6 +34,8 @@ class ExamHost {
 
   ExamServices& Services() { return services_; }
   const ComposedPages& Pages() const { return pages_; }
+  /// Reads papers for the Import command.
+  PaperReader& Papers() { return papers_; }
 
  private:
   IconvCodePage codePage_;
@@ -41,6 +45,8 @@ class ExamHost {
   FileRegistry registry_;
   ComposedPages pages_;
   ExamServices services_;
+  OfficeWordReader documents_;
+  DocumentPaperReader papers_;
 };
 
 }  // namespace quorvantis

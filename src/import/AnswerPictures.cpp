@@ -2,14 +2,13 @@
 #include "import/AnswerPictures.h"
 
 #include "examfile/AttachmentName.h"
+#include "import/ImportMarkers.h"
 #include "text/PathText.h"
 
 namespace quorvantis {
 namespace {
 
-constexpr std::u16string_view kPictureSuffix = u".bmp";
 constexpr std::u16string_view kPictureTaken = u"$$";  // what is left of a picture in the text
-constexpr std::u16string_view kFormula = u"##";
 
 bool Holds(std::u16string_view text, std::u16string_view part) {
   return text.find(part) != text.npos;
@@ -46,8 +45,8 @@ void MarkAnswerPictures(ExamQuestion& question, std::u16string_view notice) {
 }
 
 bool HasFormula(const ExamQuestion& question) {
-  return Holds(question.text, kFormula) || Holds(question.answerText, kFormula) ||
-         Holds(question.essayAnswer, kFormula);
+  return Holds(question.text, kFormulaText) || Holds(question.answerText, kFormulaText) ||
+         Holds(question.essayAnswer, kFormulaText);
 }
 
 bool AttachTextPicture(ExamQuestion& question, const std::filesystem::path& workRoot) {

@@ -21,7 +21,9 @@ int FrameSetExam::ParseQuestions(int firstSlot, int pictureNumber, const std::u1
   const CancelHook isCancelled = [this] { return Services().progress.IsCancelled(); };
   const ReadPaper paper =
       QuestionTextParser(rules, Services().debug, isCancelled).Parse(markedText, pictureNumber);
-  if (paper.failure) Services().dialogs.ShowError(FailureText(*paper.failure));
+  const bool wasCancelled = paper.failure && paper.failure->reason == ImportFailure::Reason::Cancelled;
+  if (paper.failure && !wasCancelled)
+    Services().dialogs.ShowError(FailureText(*paper.failure, Services().strings));
   return StoreQuestions(paper, *this, firstSlot);
 }
 

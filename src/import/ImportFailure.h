@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/StringTable.h"
+
 #include <string>
 #include <string_view>
 
@@ -18,7 +20,8 @@ struct ImportFailure {
   std::u16string key;  ///< of the rule in "ImportExam.ini"
 };
 
-/// One line for the user: which rule, what is wrong with it and what to do.
-std::u16string FailureText(const ImportFailure& failure);
+/// One line for the user: which rule, what is wrong with it and what to do. A user who ended the import needs
+/// none.
+std::u16string FailureText(const ImportFailure& failure, const StringTable& strings);
 
 }  // namespace quorvantis

@@ -12,4 +12,8 @@ inline constexpr std::u16string_view kAnswerSectionMarker = u"$$$$$";  ///< no q
 inline constexpr std::u16string_view kPictureMarker = u"#####";        ///< a picture of the question
 inline constexpr std::u16string_view kOptionPictureMarker = u"&&&&&";  ///< counted, not attached
 
+// What stands for pictures and formulas in the text of a paper.
+inline constexpr std::u16string_view kPictureSuffix = u".bmp";
+inline constexpr std::u16string_view kFormulaText = u"##";
+
 }  // namespace quorvantis

@@ -21,6 +21,7 @@ struct ImportSettings {
   std::u16string m_strBmp;                     ///< "Bmp": the place of a question's picture
   std::u16string m_strChoiceBmp;               ///< "ChoiceBmp": the place of a picture among the options
   std::u16string m_strPreTable;                ///< "PreTable": kept, used by nothing
+  bool listLabels = false;                     ///< "ListLabels": 1 for papers with automatic numbers
   int m_nTable = 0;                            ///< "Table": 1 for papers that are tables
   std::u16string m_strTableQuesKey;            ///< "QuestionKey": tells the column of the questions
   std::u16string m_strTableAnsKey;             ///< "AnswerKey": tells that of the answers

@@ -2,8 +2,11 @@
 #pragma once
 
 #include "import/TextMarking.h"
+#include "platform/WordReader.h"
 
+#include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,13 +18,22 @@ struct PaperContent {
   std::u16string text;  ///< without the tables
   std::vector<PaperTable> tables;
   int nextPicture = 0;  ///< the number after that of the last picture
-  bool hasFormulas = false;
+  std::size_t formulas = 0;
+  std::vector<int> lostPictures;  ///< numbers of those that have no file
 };
 
-/// The content, or why there is none, as one line for the user.
+/// How to read a document.
+struct PaperReading {
+  int firstPicture = 1;     ///< the number of the first picture; the others follow
+  bool listLabels = false;  ///< whether automatic numbers are part of the text
+  CancelHook isCancelled;   ///< true ends the reading; may be empty
+  std::function<void(std::size_t done, std::size_t total)> pictureSaved;  ///< may be empty
+};
+
+/// The content if, and only if, the result is `Done`.
 struct PaperOutcome {
+  WordResult result = WordResult::Done;
   std::optional<PaperContent> content;
-  std::u16string error;
 };
 
 /// Reads documents of some kind. The document itself stays as it is.
@@ -29,8 +41,7 @@ class PaperReader {
  public:
   virtual ~PaperReader() = default;
 
-  /// Pictures are numbered from `firstPicture` on.
-  virtual PaperOutcome Read(const std::filesystem::path& document, int firstPicture) = 0;
+  virtual PaperOutcome Read(const std::filesystem::path& document, const PaperReading& reading) = 0;
 };
 
 }  // namespace quorvantis

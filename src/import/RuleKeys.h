@@ -19,6 +19,7 @@ inline constexpr std::u16string_view kChoiceAnswer = u"ChoiceAnswer";
 inline constexpr std::u16string_view kJudgementAnswerPattern = u"JudgementAnswerPattern";
 inline constexpr std::u16string_view kJudgementAnswer = u"JudgementAnswer";
 inline constexpr std::u16string_view kPreTable = u"PreTable";
+inline constexpr std::u16string_view kListLabels = u"ListLabels";
 inline constexpr std::u16string_view kTable = u"Table";
 inline constexpr std::u16string_view kQuestionKey = u"QuestionKey";
 inline constexpr std::u16string_view kAnswerKey = u"AnswerKey";

@@ -93,4 +93,41 @@ constexpr int kIsRightAnswer = 1015;   // "%s is a right answer", said by screen
 constexpr int kTotalScore = 1030;   // "Total score: %s"
 constexpr int kNoQuestions = 1031;  // "The exam has no questions yet."
 
+// Of import.
+constexpr int kQuestionsRead = 1100;
+constexpr int kSlotsFilled = 1101;
+constexpr int kQuestionsReplaced = 1102;
+constexpr int kLeftOut = 1103;
+constexpr int kRuleIsNoPattern = 1104;
+constexpr int kNoSuchTable = 1105;
+constexpr int kRuleIsIdle = 1106;
+constexpr int kPartsLeftOut = 1107;
+constexpr int kUnanswered = 1108;
+constexpr int kAllTrueFalse = 1109;
+constexpr int kAnswersDiffer = 1110;
+constexpr int kOwnMarker = 1111;
+constexpr int kLineEnds = 1112;
+constexpr int kFormulasMasked = 1113;
+constexpr int kFormulasAdjacent = 1114;
+constexpr int kPicturesLost = 1115;
+constexpr int kGivenUp = 1116;
+constexpr int kQuestionsRemoved = 1117;
+constexpr int kImportSummary = 1120;
+constexpr int kUndoImport = 1121;
+constexpr int kMendLineEnds = 1122;
+constexpr int kUndoAfterChanges = 1123;
+constexpr int kEscapeCancels = 1124;
+constexpr int kClose = 1125;
+constexpr int kOtherDocuments = 1126;  // a file filter behind kImportFilter
+constexpr int kRuleEndless = 1130;
+constexpr int kRuleEmptyAnswer = 1131;
+constexpr int kRuleTooLarge = 1132;
+constexpr int kDocumentNotFound = 1140;
+constexpr int kDocumentNoAccess = 1141;
+constexpr int kDocumentUnknown = 1142;
+constexpr int kDocumentDamaged = 1143;
+constexpr int kDocumentLocked = 1144;
+constexpr int kDocumentTooLarge = 1145;
+constexpr int kDocumentTimedOut = 1146;
+
 }  // namespace quorvantis::text_id

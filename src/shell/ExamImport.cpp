@@ -70,6 +70,7 @@ int ExamImport::AcceptSection(int section) {
   const std::u16string name = FormatInteger(section);
   for (const KeyedRule& keyed : kRules) this->*keyed.rule = ReadProfileString(name, keyed.key, {}, file);
   if (m_strPattern.empty() || m_strPreAnswer.empty()) return text_id::kWrongImportRules;
+  listLabels = ReadProfileInteger(name, rule_key::kListLabels, 0, file) == 1;
   if (ReadProfileInteger(name, rule_key::kTable, 0, file) == 1) {
     m_nTable = 1;
     m_strTableAnsKey = ReadProfileString(name, rule_key::kAnswerKey, {}, file);

@@ -3,12 +3,13 @@
 
 #include "editor/WorkCopies.h"
 #include "import/AnswerPictures.h"
+#include "import/LineEnds.h"
 #include "platform/DebugOutput.h"
 #include "platform/ExamServices.h"
-#include "platform/Progress.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
-#include "platform/UserDialogs.h"
+#include "shell/DocumentFailureText.h"
+#include "shell/ReplacedQuestions.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
@@ -16,20 +17,46 @@
 
 namespace quorvantis {
 
+const StringTable& ImportCommand::Strings() {
+  return Exam().Services().strings;
+}
+
 void ImportCommand::Debug(std::u16string_view line) {
   Exam().Services().debug.Line(line);
 }
 
+void ImportCommand::Begin() {
+  before_.Take();
+  pictureCounterBefore_ = pictureCounter_;
+  isNewExam_ = false;
+}
+
 void ImportCommand::Run() {
+  Begin();
   importBase_ = editor_.state.currentQuestion;
   if (ConfirmImportTarget()) ImportHere();
 }
 
 void ImportCommand::RunAfter(int question) {
+  Begin();
   importBase_ = editor_.state.currentQuestion = std::max(question, 1);
   editor_.questions.LoadCurrentQuestion();
   if (question > 0) editor_.questions.GoNext();
   ImportHere();
+}
+
+void ImportCommand::Undo() {
+  if (!CanUndo()) return;
+  before_.Restore();
+  pictureCounter_ = pictureCounterBefore_;
+}
+
+void ImportCommand::MendLineEnds() {
+  if (!CanUndo()) return;
+  editor_.questions.StoreCurrentQuestion();
+  quorvantis::MendLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
+  editor_.questions.LoadCurrentQuestion();
+  editor_.state.MarkModified();
 }
 
 /// False when the exam in hand was to be saved first and was not: it must not be lost.
@@ -43,6 +70,7 @@ bool ImportCommand::ConfirmImportTarget() {
   if (state.Modified()) editor_.files.SaveExam();
   if (state.Modified()) return false;
   editor_.files.StartNewExam();
+  isNewExam_ = true;
   pictureCounter_ = 0;
   importBase_ = 1;
   return true;
@@ -53,63 +81,89 @@ void ImportCommand::ImportHere() {
   choice.Open();
   if (!dialogs_.AskDocument(choice)) return;
   importRolledBack_ = false;
-  dialogs_.ShowWait();
+  removed_ = 0;
+  dialogs_.ShowWait(choice.m_strDocPath);
   Debug(u"The ExamImportDlg is showing!");
-  const PaperOutcome outcome = reader_.Read(choice.m_strDocPath, pictureCounter_);
   ImportReport report;
-  if (outcome.content && ReadQuestions(choice, *outcome.content, report)) {
-    StoreAndFinish(*outcome.content, report);
-    return;
-  }
-  dialogs_.HideWait();
-  dialogs_.ShowFailure(outcome.content ? FailureText(*report.paper.failure) : outcome.error);
+  report.rules = choice;
+  const WordResult read = ReadDocument(choice, report);
+  if (read != WordResult::Done) return EndWithout(DocumentFailureText(read, choice.m_strDocPath, Strings()));
+  ReadQuestions(report);
+  if (report.paper.failure) return EndWithout(FailureText(*report.paper.failure, Strings()));
+  StoreAndFinish(report);
 }
 
-/// Marks and parses without touching the exam; false with the failure in the report.
-bool ImportCommand::ReadQuestions(const ExamImport& choice, const PaperContent& content,
-                                  ImportReport& report) {
-  const CancelHook isCancelled = [this] { return Exam().Services().progress.IsCancelled(); };
-  report.rules = choice;
-  report.text = content.text;
+WordResult ImportCommand::ReadDocument(const ExamImport& choice, ImportReport& report) {
+  PaperReading reading;
+  reading.firstPicture = pictureCounter_;
+  reading.listLabels = choice.listLabels;
+  reading.isCancelled = [this] { return dialogs_.IsCancelled(); };
+  reading.pictureSaved = [this](std::size_t done, std::size_t total) {
+    dialogs_.ShowPicturesRead(done, total);
+  };
+  PaperOutcome outcome = reader_.Read(choice.m_strDocPath, reading);
+  if (outcome.content) report.content = std::move(*outcome.content);
+  return outcome.result;
+}
+
+/// Marks and parses without touching the exam. A failure is in the report's paper.
+void ImportCommand::ReadQuestions(ImportReport& report) {
+  const CancelHook isCancelled = [this] { return dialogs_.IsCancelled(); };
+  const ImportSettings& rules = report.rules;
   try {
-    if (choice.m_nTable != 0) {
-      Debug(FillMessage(u"The dlg.m_strPreAnswer is %s", {choice.m_strPreAnswer}));
-      Debug(FillMessage(u"The dlg.m_strTableAnsKey is %s", {choice.m_strTableAnsKey}));
-      Debug(FillMessage(u"The dlg.m_strTableQuesKey is %s", {choice.m_strTableQuesKey}));
-      report.marked = TableToString(content.tables, choice, isCancelled);
+    if (rules.m_nTable != 0) {
+      Debug(FillMessage(u"The dlg.m_strPreAnswer is %s", {rules.m_strPreAnswer}));
+      Debug(FillMessage(u"The dlg.m_strTableAnsKey is %s", {rules.m_strTableAnsKey}));
+      Debug(FillMessage(u"The dlg.m_strTableQuesKey is %s", {rules.m_strTableQuesKey}));
+      report.marked = TableToString(report.content.tables, rules, isCancelled);
       Debug(u"Table To String");
     } else {
-      report.marked = TextToString(content.text, choice, isCancelled);
+      report.marked = TextToString(report.content.text, rules, isCancelled);
       Debug(u"Text To String");
     }
   } catch (const ImportFailure& failure) {
     report.paper.failure = failure;
-    return false;
+    return;
   }
   Debug(FillMessage(u"ExamDoc output %s", {report.marked.text}));
-  const QuestionTextParser parser(choice, Exam().Services().debug, isCancelled);
+  const QuestionTextParser parser(rules, Exam().Services().debug, isCancelled);
   report.paper = parser.Parse(report.marked.text, pictureCounter_);
-  return !report.paper.failure;
 }
 
-void ImportCommand::StoreAndFinish(const PaperContent& content, ImportReport& report) {
-  report.firstSlot = editor_.state.currentQuestion;
-  nextSlot_ = report.nextSlot = StoreQuestions(report.paper, Exam(), report.firstSlot);
+/// Nothing was imported, so the exam becomes what it was, also where a new one had been begun.
+void ImportCommand::EndWithout(std::u16string_view message) {
+  const bool wasCancelled = dialogs_.IsCancelled();
+  dialogs_.HideWait();
+  Undo();
+  if (!wasCancelled) dialogs_.ShowFailure(message);
+}
+
+void ImportCommand::StoreAndFinish(ImportReport& report) {
+  firstSlot_ = editor_.state.currentQuestion;
+  nextSlot_ = StoreQuestions(report.paper, Exam(), firstSlot_);
   const bool forced = HandleAnswerPictures();
-  pictureCounter_ = content.nextPicture;
+  pictureCounter_ = report.content.nextPicture;
   dialogs_.HideWait();
   Debug(u"The ExamImportDlg is gone!");
   if (importRolledBack_) {
     editor_.questions.GoPrevious();
-    return;
+    return Report(report);
   }
   if (forced) ShowPictureList();
-  if (content.hasFormulas) HandleFormulas();
+  if (report.content.formulas > 0) HandleFormulas();
   editor_.state.MarkModifiedQuietly();
   GoToLastImported();
+  Report(report);
+}
+
+void ImportCommand::Report(ImportReport& report) {
   report.imported = !importRolledBack_;
+  report.firstSlot = firstSlot_;
   report.nextSlot = nextSlot_;
-  if (report.imported) dialogs_.ShowReport(report);
+  report.removed = removed_;
+  if (!isNewExam_) report.replaced = MissingQuestions(before_.StoredExam(), Exam());
+  report.loneLineEnds = CountLoneLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
+  dialogs_.ShowReport(report, *this);
 }
 
 /// What the form holds goes to the slot after the imported ones, if there is one.
@@ -127,13 +181,14 @@ void ImportCommand::RemoveImported(int question) {
   editor_.attachments.RemoveQuestionAttachments(question);
   Exam().DeleteQuestion(question);
   --nextSlot_;
+  ++removed_;
 }
 
 /// True when the user wants pictures in answers to be imported as their names. The question that comes first
 /// in a new exam is never looked at, which is deliberate: the base counts as a question of before.
 bool ImportCommand::HandleAnswerPictures() {
   const ExamServices& services = Exam().Services();
-  const std::u16string notice = services.strings.Text(text_id::kPictureNotice);
+  const std::u16string notice = Strings().Text(text_id::kPictureNotice);
   bool asked = false;
   ChoiceResult choice = ChoiceResult::None;
   for (int i = importBase_ + 1; i <= std::min(nextSlot_, kMaxQuestions);) {
@@ -166,8 +221,7 @@ void ImportCommand::ShowPictureList() {
   for (int n = 1; n <= std::min(nextSlot_, kMaxQuestions); ++n) {
     if (AnswersHavePictures(Exam().Question(n))) list += FormatInteger(n) + u",";
   }
-  const ExamServices& services = Exam().Services();
-  services.dialogs.ShowWarning(list + services.strings.Text(text_id::kPicturesInAnswers));
+  dialogs_.ShowNotice(Strings().Text(text_id::kNotice), list + Strings().Text(text_id::kPicturesInAnswers));
 }
 
 void ImportCommand::HandleFormulas() {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "shell/ImportSummary.h"
-
 #include "import/ImportMarkers.h"
 #include "import/RuleKeys.h"
 #include "model/ExamLimits.h"
+#include "platform/Texts.h"
 #include "regex/RegexPattern.h"
+#include "shell/ImportReport.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
@@ -13,41 +13,73 @@
 namespace quorvantis {
 namespace {
 
+std::u16string Text(std::size_t number) {
+  return FormatInteger(static_cast<std::int64_t>(number));
+}
+
+std::u16string Text(int number) {
+  return FormatInteger(number);
+}
+
+std::u16string Range(int first, int last) {
+  return first == last ? Text(first) : Text(first) + u"-" + Text(last);
+}
+
+/// "3, 7-9".
+std::u16string Ranges(const std::vector<int>& numbers) {
+  std::u16string text;
+  for (std::size_t i = 0; i < numbers.size();) {
+    std::size_t next = i + 1;
+    while (next < numbers.size() && numbers[next] == numbers[next - 1] + 1) ++next;
+    text += (text.empty() ? u"" : u", ") + Range(numbers[i], numbers[next - 1]);
+    i = next;
+  }
+  return text;
+}
+
 /// Composes the lines for one report.
 class Summary {
  public:
-  explicit Summary(const ImportReport& report) : report_(report) {}
+  Summary(const ImportReport& report, const StringTable& strings) : report_(report), strings_(strings) {}
 
   std::vector<std::u16string> Lines() {
-    TellQuestions();
+    if (report_.imported) {
+      TellQuestions();
+    } else {
+      Say(text_id::kGivenUp);
+    }
+    if (!report_.replaced.empty()) Say(text_id::kQuestionsReplaced, {Ranges(report_.replaced)});
     TellBrokenRules();
     TellIdleRules();
     TellDroppedParts();
     TellAnswerBlocks();
     TellOwnMarkers();
+    TellPicturesAndFormulas();
+    if (report_.loneLineEnds > 0) Say(text_id::kLineEnds, {Text(report_.loneLineEnds)});
     return std::move(lines_);
   }
 
  private:
-  void Say(std::u16string_view format, std::initializer_list<std::u16string_view> values = {}) {
-    lines_.push_back(FillMessage(format, values));
+  void Say(int text, std::initializer_list<std::u16string_view> values = {}) {
+    lines_.push_back(FillMessage(strings_.Text(text), values));
   }
 
   std::size_t Count(ReadKind kind) const {
     return static_cast<std::size_t>(std::ranges::count(report_.paper.questions, kind, &ReadQuestion::kind));
   }
   std::u16string Number(ReadKind kind) const { return Text(Count(kind)); }
-  static std::u16string Text(std::size_t number) { return FormatInteger(static_cast<std::int64_t>(number)); }
 
   void TellQuestions() {
     const auto& questions = report_.paper.questions;
-    Say(u"%s questions read: %s choice, %s true/false, %s fill-in, %s essay.",
+    Say(text_id::kQuestionsRead,
         {Text(questions.size()), Number(ReadKind::Choice), Number(ReadKind::TrueFalse),
          Number(ReadKind::FillIn), Number(ReadKind::Essay)});
     const std::size_t slots = static_cast<std::size_t>(kMaxQuestions + 1 - report_.firstSlot);
-    if (questions.size() <= slots) return;
-    Say(u"The last %s of them were left out: an exam has %s questions at most.",
-        {Text(questions.size() - slots), Text(kMaxQuestions)});
+    if (questions.size() > slots)
+      Say(text_id::kLeftOut, {Text(questions.size() - slots), Text(kMaxQuestions)});
+    if (report_.removed > 0) Say(text_id::kQuestionsRemoved, {Text(report_.removed)});
+    if (report_.firstSlot > 1 && report_.nextSlot > report_.firstSlot)
+      Say(text_id::kSlotsFilled, {Range(report_.firstSlot, report_.nextSlot - 1)});
   }
 
   void TellBrokenRules() {
@@ -69,7 +101,7 @@ class Summary {
       const RegexPattern compiled(*pattern, 3);
       if (const auto& error = compiled.CompileError()) {
         const std::u16string reason(error->reason.begin(), error->reason.end());
-        Say(u"The rule \"%s\" is no pattern: %s, at character %s.", {key, reason, Text(error->position + 1)});
+        Say(text_id::kRuleIsNoPattern, {key, reason, Text(error->position + 1)});
       }
     }
   }
@@ -84,11 +116,10 @@ class Summary {
       TellIdle(rule_key::kChoiceAnswerPattern);
     if (!report_.rules.m_strJudgementAnswerPattern.empty() && !report_.paper.hasJudgementBlock)
       TellIdle(rule_key::kJudgementAnswerPattern);
-    if (report_.rules.m_nTable != 0 && report_.marked.text == kQuestionMarker)
-      Say(u"The repository is for papers that are tables, and there is no table with its columns.");
+    if (report_.rules.m_nTable != 0 && report_.marked.text == kQuestionMarker) Say(text_id::kNoSuchTable);
   }
 
-  void TellIdle(std::u16string_view key) { Say(u"The rule \"%s\" matched nothing in the paper.", {key}); }
+  void TellIdle(std::u16string_view key) { Say(text_id::kRuleIsIdle, {key}); }
 
   void TellDroppedParts() {
     for (const std::u16string_view key : {rule_key::kPreAnswer, rule_key::kPattern}) {
@@ -96,9 +127,7 @@ class Summary {
       const auto first = std::ranges::find(dropped, key, &DroppedPart::key);
       if (first == dropped.end()) continue;
       const auto count = static_cast<std::size_t>(std::ranges::count(dropped, key, &DroppedPart::key));
-      Say(u"%s parts of the paper were left out because the rule \"%s\" matched nothing in them; the first "
-          u"begins: %s",
-          {Text(count), key, first->text});
+      Say(text_id::kPartsLeftOut, {Text(count), key, first->text});
     }
   }
 
@@ -106,13 +135,8 @@ class Summary {
     const ReadPaper& paper = report_.paper;
     if (!paper.hasChoiceBlock && !paper.hasJudgementBlock) return;
     const std::size_t unanswered = Count(ReadKind::FillIn) + Count(ReadKind::Essay);
-    if (unanswered > 0)
-      Say(u"%s fill-in and essay questions have no answer, because the paper has its answers in one place.",
-          {Text(unanswered)});
-    if (paper.hasJudgementBlock && Count(ReadKind::TrueFalse) > 0)
-      Say(u"Every question without a group \"Q1\" was read as a true/false question, because the paper has a "
-          u"block "
-          u"of their answers.");
+    if (unanswered > 0) Say(text_id::kUnanswered, {Text(unanswered)});
+    if (paper.hasJudgementBlock && Count(ReadKind::TrueFalse) > 0) Say(text_id::kAllTrueFalse);
     if (paper.hasChoiceBlock) TellMismatch(rule_key::kChoiceAnswer, paper.choiceAnswers, ReadKind::Choice);
     if (paper.hasJudgementBlock)
       TellMismatch(rule_key::kJudgementAnswer, paper.judgementAnswers, ReadKind::TrueFalse);
@@ -120,25 +144,35 @@ class Summary {
 
   void TellMismatch(std::u16string_view key, std::size_t answers, ReadKind kind) {
     if (answers == Count(kind)) return;
-    Say(u"The rule \"%s\" found %s answers for %s questions.", {key, Text(answers), Number(kind)});
+    Say(text_id::kAnswersDiffer, {key, Text(answers), Number(kind)});
   }
 
   void TellOwnMarkers() {
     for (const std::u16string_view marker :
          {kQuestionMarker, kAnswerMarker, kAnswerSectionMarker, kPictureMarker, kOptionPictureMarker}) {
-      if (report_.text.find(marker) == report_.text.npos) continue;
-      Say(u"The paper itself holds \"%s\", which import takes for a mark of its own.", {marker});
+      const bool isFormulas = marker == kPictureMarker && report_.content.formulas > 0;
+      if (!isFormulas && report_.content.text.find(marker) != std::u16string::npos)
+        Say(text_id::kOwnMarker, {marker});
     }
   }
 
+  void TellPicturesAndFormulas() {
+    const PaperContent& content = report_.content;
+    if (!content.lostPictures.empty()) Say(text_id::kPicturesLost, {Ranges(content.lostPictures)});
+    if (content.formulas == 0) return;
+    Say(text_id::kFormulasMasked, {Text(content.formulas)});
+    if (content.text.find(kPictureMarker) != std::u16string::npos) Say(text_id::kFormulasAdjacent);
+  }
+
   const ImportReport& report_;
+  const StringTable& strings_;
   std::vector<std::u16string> lines_;
 };
 
 }  // namespace
 
-std::vector<std::u16string> ImportSummary(const ImportReport& report) {
-  return Summary(report).Lines();
+std::vector<std::u16string> ImportSummary(const ImportReport& report, const StringTable& strings) {
+  return Summary(report, strings).Lines();
 }
 
 }  // namespace quorvantis

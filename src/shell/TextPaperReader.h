@@ -13,7 +13,7 @@ class TextPaperReader : public PaperReader {
   /// `codePage` must outlive the reader.
   explicit TextPaperReader(const CodePage& codePage) : codePage_(codePage) {}
 
-  PaperOutcome Read(const std::filesystem::path& document, int firstPicture) override;
+  PaperOutcome Read(const std::filesystem::path& document, const PaperReading& reading) override;
 
  private:
   const CodePage& codePage_;

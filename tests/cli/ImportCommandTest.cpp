@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLineTest.h"
 
+#include "support/DocxBuilder.h"
+
 #include <fstream>
 
 namespace quorvantis::test {
@@ -9,6 +11,11 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path kProject = QUORVANTIS_PROJECT;
+
+/// One grey pixel.
+const std::string kPixelPng(
+    "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\1\0\0\0\1\10\0\0\0\0:~\x9bU\0\0\0\nIDATx\x9c"
+    "ch\0\0\0\x82\0\x81w\xcdr\xb6\0\0\0\0IEND\xae" "B`\x82", 67);
 
 std::string ReadText(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
@@ -137,7 +144,7 @@ TEST_F(ImportCommand, FailsWithOneLineAndWritesNothing) {
   WriteBytes(folder / "a.doc", "");
   ExpectFailure(
       Command({"import", Path("a.doc"), Path("b"), "--rules", Path("rules.ini"), "--repository", "#0"}),
-      "reads text files (.txt) only");
+      "a.doc: is no document that can be imported");
   EXPECT_EQ(Import("x", {"--repository", "#0", "--after", "1"}).status, 2);
 }
 
@@ -165,6 +172,69 @@ TEST_F(ImportCommand, AsksAboutPicturesInAnswers) {
   const RunResult forced = Import(paper, {"--repository", "#0", "--answer-pictures", "force"});
   EXPECT_NE(forced.err.find("1,3,The answer in the exam have pictures,can not display"), std::string::npos);
   ExpectFailure(Import(paper, {"--repository", "#0", "--answer-pictures", "give-up"}), "given up");
+}
+
+TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
+  const auto paragraph = [](const std::string& runs) { return "<w:p>" + runs + "</w:p>"; };
+  const auto text = [](const std::string& words) { return "<w:r><w:t>" + words + "</w:t></w:r>"; };
+  const std::string formula = "<m:oMath><m:r><m:t>x</m:t></m:r></m:oMath>";
+  WriteBytes(folder / "picture.png", kPixelPng);
+  DocxBuilder()
+      .Body(paragraph(text("Q;see") + DocxBuilder::PictureXml("p1") + text("thereA;yes")) +
+            paragraph(text("Q;twoA;") + formula) + paragraph(text("Q;lostA;") + DocxBuilder::PictureXml("p2")))
+      .Picture("p1", kPixelPng)
+      .Picture("p2", "no picture")
+      .Write(folder / "paper.docx");
+  const auto import = [this](std::vector<std::string> more) {
+    std::vector<std::string> arguments{"import",  Path("paper.docx"), Path("exam.exm"), "--rules",
+                                       Path("rules.ini"), "--repository", "#0"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return Command(arguments);
+  };
+  EXPECT_EQ(import({"--mend-line-ends", "--answer-pictures", "force"}).out,
+            "3 questions read: 0 choice, 0 true/false, 0 fill-in, 3 essay.\n"
+            "Pictures that could not be read: 2.\n"
+            "1 formulas cannot be kept; \"##\" stands in their places.\n");
+  EXPECT_EQ(Questions(),
+            "essay: see 1.bmp there yes\nessay: two ##\nessay: lost  2.bmp(Can not show the picture) \n");
+  // The first question of a new exam is never looked at.
+  const RunResult continued = import({"--into", Path("exam.exm"), "--after", "3", "--formulas", "ignore"});
+  EXPECT_NE(continued.out.find("1 of them were left out again"), std::string::npos) << continued.out;
+  const Json question = Shown()["questions"][3];
+  EXPECT_EQ(question["text"], "see 1$$ there");
+  EXPECT_EQ(question["attachments"][0]["name"], "1.bmp");
+  EXPECT_EQ(question["attachments"][0]["size"], 54 + 4 + 14);
+}
+
+TEST_F(ImportCommand, CanBeUndone) {
+  fs::create_directory(folder / "app");
+  WriteBytes(folder / "app" / "ImportExam.ini", ReadText(folder / "rules.ini"));
+  WriteBytes(folder / "file.bin", "bytes");
+  const Json file = {{{"path", "file.bin"}}};
+  Build({{"title", "T"},
+         {"attachments", file},
+         {"questions", {{{"text", "one"}, {"attachments", file}}, {{"text", "two"}}, {{"text", "three"}}}}});
+  WriteBytes(folder / "paper.txt", "Q;q1A;BQ;2A;x.bmpQ;3A;C");
+  const std::string import = "import " + Path("paper.txt") + " #0 ";
+  const std::string begin = "open " + Path("exam.exm") + "\nnext\ntext typed\n";
+  const auto outcome = [&](const std::string& script) {
+    const RunResult run =
+        Command({"edit", "--app-folder", Path("app")},
+                begin + script + "state\nsaveas " + Path("after.exm") + "\n");
+    EXPECT_EQ(run.status, 0) << run.err;
+    Json exam = Shown("after.exm");
+    return std::pair(Json::parse(run.out), exam);
+  };
+  const auto untouched = outcome("");
+  EXPECT_EQ(untouched.second["questions"][0]["attachments"][0]["size"], 5);
+  for (const std::string answers : {"continue", "continue pictures ignore", "continue pictures give-up"}) {
+    EXPECT_EQ(outcome(import + answers + "\nundo-import\n"), untouched) << answers;
+    EXPECT_NE(outcome(import + answers + "\n").second, untouched.second) << answers;
+  }
+  EXPECT_EQ(outcome(import + "new\nnext\ntext more\nundo-import\n"), untouched);
+  const RunResult late =
+      Command({"edit", "--app-folder", Path("app")}, import + "\nreply no\nnew\nundo-import\n");
+  EXPECT_NE(late.err.find("standard input:4: there is no import to undo"), std::string::npos) << late.err;
 }
 
 TEST_F(ImportCommand, IsALineOfEditScripts) {

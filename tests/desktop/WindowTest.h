@@ -4,7 +4,9 @@
 #include "desktop/AttachmentListBox.h"
 #include "desktop/CQuorvantisDlg.h"
 #include "desktop/QtText.h"
+#include "platform/office/OfficeWordReader.h"
 #include "platform/posix/PosixFiles.h"
+#include "shell/DocumentPaperReader.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 
@@ -26,7 +28,7 @@ class WindowTest : public testing::Test {
  protected:
   void Open() {
     std::filesystem::create_directories(world.services.applicationFolder);
-    window = std::make_unique<CQuorvantisDlg>(exam, pages, office, DocumentExport());
+    window = std::make_unique<CQuorvantisDlg>(exam, pages, papers, office, DocumentExport());
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
@@ -86,6 +88,8 @@ class WindowTest : public testing::Test {
                         world.registry,
                         pages};
   FrameSetExam exam{services};
+  OfficeWordReader documents{files};
+  DocumentPaperReader papers{services, documents};
   OfficeControl* office = nullptr;
   std::unique_ptr<CQuorvantisDlg> window;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "DocxBuilder.h"
+#include "support/DocxBuilder.h"
 #include "platform/office/OfficeWordReader.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/TemporaryFolder.h"

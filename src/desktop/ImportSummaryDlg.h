@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/StringTable.h"
+
+#include <QDialog>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include <functional>
+
+namespace quorvantis {
+
+/// What came of an import. Stands beside the main window, so that the user can look at the questions before
+/// deciding whether to keep them.
+class ImportSummaryDlg : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// What its buttons do. Without `mendLineEnds` there is no such button.
+  struct Commands {
+    std::function<bool()> canUndo;
+    std::function<void()> undo;
+    std::function<void()> mendLineEnds;
+  };
+
+  ImportSummaryDlg(const QString& lines, Commands commands, const StringTable& strings, QWidget* parent);
+
+  /// Looks whether the import can still be undone, and closes when it cannot.
+  void Refresh();
+
+ private:
+  void Undo();
+  void MendLineEnds();
+
+  Commands commands_;
+  QPlainTextEdit* text_;
+  QPushButton* mend_ = nullptr;
+};
+
+}  // namespace quorvantis

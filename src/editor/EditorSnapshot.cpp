@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "editor/EditorSnapshot.h"
+
+#include "editor/WorkCopies.h"
+#include "platform/ExamServices.h"
+#include "text/PathText.h"
+
+#include <utility>
+#include <vector>
+
+namespace quorvantis {
+namespace {
+
+/// Beside the folders that are named after where attached files come from.
+constexpr const char* kSetAsideFolder = ".set-aside";
+
+void AppendPaths(const AttachmentList& list, std::vector<std::filesystem::path>& files) {
+  for (const std::u16string& path : list) {
+    if (!path.empty()) files.push_back(TextToPath(path));
+  }
+}
+
+std::vector<std::filesystem::path> WorkCopiesOf(const FrameSetExam& exam) {
+  std::vector<std::filesystem::path> files;
+  AppendPaths(exam.examAttachmentPaths, files);
+  AppendPaths(exam.examAttachmentCopies, files);
+  for (const ExamQuestion& question : exam.questions) {
+    AppendPaths(question.attachmentPaths, files);
+    AppendPaths(question.attachmentCopies, files);
+  }
+  return files;
+}
+
+}  // namespace
+
+EditorSnapshot::EditorSnapshot(ExamEditor& editor)
+    : editor_(editor),
+      copies_(AttachmentWorkRoot(editor.state.document.Services().applicationFolder) / kSetAsideFolder) {}
+
+void EditorSnapshot::Take() {
+  const EditorState& state = editor_.state;
+  kept_.emplace(Kept{state.document, editor_.questions.Form(), state.currentKind, state.currentQuestion,
+                     state.FileName(), state.Modified(), state.examsBegun, state.saves});
+  copies_.SetAside(WorkCopiesOf(state.document));
+}
+
+FrameSetExam EditorSnapshot::StoredExam() const {
+  FrameSetExam exam = kept_->exam;
+  StoreForm(kept_->form, kept_->kind, exam.Question(kept_->currentQuestion));
+  return exam;
+}
+
+void EditorSnapshot::Restore() {
+  copies_.PutBack();
+  const Kept kept = *std::exchange(kept_, std::nullopt);
+  EditorState& state = editor_.state;
+  const int prefixes = state.document.previewPrefixes;
+  state.document = kept.exam;
+  state.document.previewPrefixes = prefixes;  // of previews, whatever they showed
+  state.currentQuestion = kept.currentQuestion;
+  editor_.questions.LoadCurrentQuestion(kept.form, kept.kind);
+  state.SetFileName(kept.fileName);
+  state.MarkSaved();
+  if (kept.modified || state.saves != kept.saves) state.MarkModified();
+  copies_.Clear();
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "shell/DocumentFailureText.h"
+
+#include "platform/Texts.h"
+#include "text/MessageText.h"
+#include "text/PathText.h"
+
+namespace quorvantis {
+namespace {
+
+int TextOf(WordResult result) {
+  switch (result) {
+    case WordResult::NotFound:
+      return text_id::kDocumentNotFound;
+    case WordResult::UnknownFormat:
+      return text_id::kDocumentUnknown;
+    case WordResult::Damaged:
+      return text_id::kDocumentDamaged;
+    case WordResult::PasswordProtected:
+      return text_id::kDocumentLocked;
+    case WordResult::TooLarge:
+      return text_id::kDocumentTooLarge;
+    case WordResult::WordProcessorMissing:
+      return text_id::kNoWordProcessor;
+    case WordResult::TimedOut:
+      return text_id::kDocumentTimedOut;
+    case WordResult::CannotAccess:
+    case WordResult::Cancelled:
+    case WordResult::Done:
+      break;
+  }
+  return text_id::kDocumentNoAccess;
+}
+
+}  // namespace
+
+std::u16string DocumentFailureText(WordResult result, const std::filesystem::path& document,
+                                   const StringTable& strings) {
+  return FillMessage(strings.Text(TextOf(result)), {PathToText(document)});
+}
+
+}  // namespace quorvantis
