@@ -17,6 +17,8 @@
 namespace quorvantis {
 namespace {
 
+constexpr int kWidth = 280;  // pixels, so that the caption can be read
+
 /// A question with a button for each answer.
 class ChoiceDialog : public QDialog {
  public:
@@ -24,6 +26,7 @@ class ChoiceDialog : public QDialog {
       : QDialog(parent), texts_(texts), layout_(new QVBoxLayout(this)) {
     setObjectName(name);
     setWindowTitle(texts_(control_id::kCaption));
+    setMinimumWidth(kWidth);
     for (const int label : {control_id::kFirstLabel, control_id::kSecondLabel}) {
       const QString line = texts_(label);
       if (!line.isEmpty()) layout_->addWidget(new QLabel(line, this));
@@ -107,6 +110,7 @@ void ImportWindows::ShowReport(const ImportReport& report, ImportCommand& import
   summary_ = new ImportSummaryDlg(Joined(ImportSummary(report, services_.strings)), std::move(commands),
                                   services_.strings, &parent_);
   summary_->show();
+  summary_->activateWindow();  // Escape would end the main window
 }
 
 void ImportWindows::Undo(ImportCommand& import) {

@@ -112,6 +112,7 @@ constexpr int kFormulasAdjacent = 1114;
 constexpr int kPicturesLost = 1115;
 constexpr int kGivenUp = 1116;
 constexpr int kQuestionsRemoved = 1117;
+constexpr int kFilesStayed = 1118;
 constexpr int kImportSummary = 1120;
 constexpr int kUndoImport = 1121;
 constexpr int kMendLineEnds = 1122;

@@ -131,6 +131,7 @@ constexpr NumberedText kTexts[] = {
     {text_id::kPicturesLost, u"Pictures that could not be read: %s."},
     {text_id::kGivenUp, u"The import was given up."},
     {text_id::kQuestionsRemoved, u"%s of them were left out again because of pictures or formulas."},
+    {text_id::kFilesStayed, u"Files of earlier questions are still attached to questions %s."},
     {text_id::kImportSummary, u"Import summary"},
     {text_id::kUndoImport, u"Undo import"},
     {text_id::kMendLineEnds, u"Mend line ends"},

@@ -161,7 +161,11 @@ void ImportCommand::Report(ImportReport& report) {
   report.firstSlot = firstSlot_;
   report.nextSlot = nextSlot_;
   report.removed = removed_;
-  if (!isNewExam_) report.replaced = MissingQuestions(before_.StoredExam(), Exam());
+  if (!isNewExam_) {
+    const FrameSetExam before = before_.StoredExam();
+    report.replaced = MissingQuestions(before, Exam());
+    report.filesStayed = QuestionsWithEarlierFiles(before, Exam(), firstSlot_, nextSlot_ - 1);
+  }
   report.loneLineEnds = CountLoneLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
   dialogs_.ShowReport(report, *this);
 }

@@ -19,10 +19,11 @@ struct ImportReport {
   MarkedText marked;
   ReadPaper paper;
   int firstSlot = 1;
-  int nextSlot = 1;           ///< the one after the last slot written
-  int removed = 0;            ///< questions taken out again, for pictures or formulas
-  std::vector<int> replaced;  ///< numbers of earlier questions that are no more
-  int loneLineEnds = 0;       ///< questions with line ends that pages do not show as they are
+  int nextSlot = 1;              ///< the one after the last slot written
+  int removed = 0;               ///< questions taken out again, for pictures or formulas
+  std::vector<int> replaced;     ///< numbers of earlier questions that are no more
+  std::vector<int> filesStayed;  ///< imported questions with attached files of earlier ones
+  int loneLineEnds = 0;          ///< questions with line ends that pages do not show as they are
 };
 
 /// The report as lines for the user, in the language of `strings`: the first tells what was read, the others

@@ -49,6 +49,7 @@ class Summary {
       Say(text_id::kGivenUp);
     }
     if (!report_.replaced.empty()) Say(text_id::kQuestionsReplaced, {Ranges(report_.replaced)});
+    if (!report_.filesStayed.empty()) Say(text_id::kFilesStayed, {Ranges(report_.filesStayed)});
     TellBrokenRules();
     TellIdleRules();
     TellDroppedParts();

@@ -28,4 +28,14 @@ std::vector<int> MissingQuestions(const ExamPaper& before, const ExamPaper& afte
   return missing;
 }
 
+std::vector<int> QuestionsWithEarlierFiles(const ExamPaper& before, const ExamPaper& after, int first,
+                                           int last) {
+  std::vector<int> numbers;
+  for (int n = first; n <= last; ++n) {
+    const std::u16string& file = after.Question(n).attachmentPaths.front();
+    if (!file.empty() && file == before.Question(n).attachmentPaths.front()) numbers.push_back(n);
+  }
+  return numbers;
+}
+
 }  // namespace quorvantis

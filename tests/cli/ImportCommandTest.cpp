@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLineTest.h"
-
 #include "support/DocxBuilder.h"
 
 #include <fstream>
@@ -15,7 +14,9 @@ const fs::path kProject = QUORVANTIS_PROJECT;
 /// One grey pixel.
 const std::string kPixelPng(
     "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\0\1\0\0\0\1\10\0\0\0\0:~\x9bU\0\0\0\nIDATx\x9c"
-    "ch\0\0\0\x82\0\x81w\xcdr\xb6\0\0\0\0IEND\xae" "B`\x82", 67);
+    "ch\0\0\0\x82\0\x81w\xcdr\xb6\0\0\0\0IEND\xae"
+    "B`\x82",
+    67);
 
 std::string ReadText(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
@@ -150,12 +151,18 @@ TEST_F(ImportCommand, FailsWithOneLineAndWritesNothing) {
 
 TEST_F(ImportCommand, ContinuesAnExam) {
   Json questions;
+  WriteBytes(folder / "file", "x");
   for (const char* text : {"one", "two", "three", "four", "five"}) {
     questions.push_back({{"text", text}, {"kind", "Essay"}, {"essayAnswer", "old"}});
   }
+  questions[2]["attachments"] = {{{"path", "file"}}};
   WriteBytes(folder / "in.json", Json({{"questions", questions}}).dump());
   EXPECT_EQ(Command({"build", Path("in.json"), Path("in.exm")}).status, 0);
-  EXPECT_EQ(Import("Q;newA;B", {"--repository", "#0", "--into", Path("in.exm"), "--after", "2"}).status, 0);
+  EXPECT_EQ(Import("Q;newA;B", {"--repository", "#0", "--into", Path("in.exm"), "--after", "2"}).out,
+            "1 questions read: 0 choice, 0 true/false, 0 fill-in, 1 essay.\n"
+            "They are questions 3 of the exam.\n"
+            "Questions that were there before and are replaced or gone: 4.\n"
+            "Files of earlier questions are still attached to questions 3.\n");
   // The slot after the imported ones gets what the first of them held.
   EXPECT_EQ(Questions(), "essay: one old\nessay: two old\nessay: new B\nessay: three old\nessay: five old\n");
 }
@@ -181,13 +188,14 @@ TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
   WriteBytes(folder / "picture.png", kPixelPng);
   DocxBuilder()
       .Body(paragraph(text("Q;see") + DocxBuilder::PictureXml("p1") + text("thereA;yes")) +
-            paragraph(text("Q;twoA;") + formula) + paragraph(text("Q;lostA;") + DocxBuilder::PictureXml("p2")))
+            paragraph(text("Q;twoA;") + formula) +
+            paragraph(text("Q;lostA;") + DocxBuilder::PictureXml("p2")))
       .Picture("p1", kPixelPng)
       .Picture("p2", "no picture")
       .Write(folder / "paper.docx");
   const auto import = [this](std::vector<std::string> more) {
-    std::vector<std::string> arguments{"import",  Path("paper.docx"), Path("exam.exm"), "--rules",
-                                       Path("rules.ini"), "--repository", "#0"};
+    std::vector<std::string> arguments{
+        "import", Path("paper.docx"), Path("exam.exm"), "--rules", Path("rules.ini"), "--repository", "#0"};
     arguments.insert(arguments.end(), more.begin(), more.end());
     return Command(arguments);
   };
@@ -218,9 +226,8 @@ TEST_F(ImportCommand, CanBeUndone) {
   const std::string import = "import " + Path("paper.txt") + " #0 ";
   const std::string begin = "open " + Path("exam.exm") + "\nnext\ntext typed\n";
   const auto outcome = [&](const std::string& script) {
-    const RunResult run =
-        Command({"edit", "--app-folder", Path("app")},
-                begin + script + "state\nsaveas " + Path("after.exm") + "\n");
+    const RunResult run = Command({"edit", "--app-folder", Path("app")},
+                                  begin + script + "state\nsaveas " + Path("after.exm") + "\n");
     EXPECT_EQ(run.status, 0) << run.err;
     Json exam = Shown("after.exm");
     return std::pair(Json::parse(run.out), exam);

@@ -65,7 +65,8 @@ TEST_F(ImportWindow, ReadsTheChosenPaper) {
     repository.setCurrentText("Maths");
     Press(dialog, "导入试卷");
   };
-  WhenAsked({choose, [](QDialog& dialog) {
+  WhenAsked({choose,
+             [](QDialog& dialog) {
                EXPECT_EQ(dialog.windowTitle(), QString::fromUtf8("图片处理"));
                Press(dialog, "强行导入");
              },
@@ -100,7 +101,8 @@ TEST_F(ImportWindow, CanBeCancelledWhileItWorks) {
     dialog.findChild<QComboBox*>("repository")->setCurrentText("Slow");
     Press(dialog, "导入试卷");
   };
-  WhenAsked({[](QDialog& dialog) { Press(dialog, "创建新的试卷"); }, choose, [](QDialog& dialog) {
+  WhenAsked({[](QDialog& dialog) { Press(dialog, "创建新的试卷"); }, choose,
+             [](QDialog& dialog) {
                EXPECT_EQ(dialog.objectName(), "importWait");
                QTest::keyClick(&dialog, Qt::Key_Escape);
              }});

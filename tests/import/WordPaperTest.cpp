@@ -10,8 +10,11 @@ namespace {
 TEST(WordPaper, PutsTextsInThePlacesOfPicturesAndFormulas) {
   WordDocument document;
   document.pictures = 3;
-  document.runningText = {u"a\u2574b\r", {{0, WordObjectKind::Picture, 0}, {2, WordObjectKind::Equation, 0},
-                                          {2, WordObjectKind::Picture, 2}, {4, WordObjectKind::Equation, 0}}};
+  document.runningText = {u"a\u2574b\r",
+                          {{0, WordObjectKind::Picture, 0},
+                           {2, WordObjectKind::Equation, 0},
+                           {2, WordObjectKind::Picture, 2},
+                           {4, WordObjectKind::Equation, 0}}};
   document.tables.push_back({{{{u"c\r\a", {{1, WordObjectKind::Picture, 1}}}, {u"\u2574\r\a", {}}}, {}}});
   const PaperContent paper = PaperFromWord(document, 9);
   EXPECT_EQ(paper.text, u" 9.bmp a_## 11.bmp b\r##");
@@ -27,8 +30,12 @@ TEST(LineEnds, AreMendedWhereTheFieldHasRoom) {
     std::u16string text;
     bool isLone;
     std::u16string mended;
-  } rows[] = {{u"", false, u""},           {u"a\r\nb", false, u"a\r\nb"}, {u"a\rb\r", true, u"a\r\nb\r\n"},
-              {u"\n\r", true, u"\r\n\r\n"}, {u"a\vb", false, u"a\r\nb"},   {u"\r\n\n", true, u"\r\n\r\n"}};
+  } rows[] = {{u"", false, u""},
+              {u"a\r\nb", false, u"a\r\nb"},
+              {u"a\rb\r", true, u"a\r\nb\r\n"},
+              {u"\n\r", true, u"\r\n\r\n"},
+              {u"a\vb", false, u"a\r\nb"},
+              {u"\r\n\n", true, u"\r\n\r\n"}};
   for (const auto& row : rows) {
     EXPECT_EQ(HasLoneLineEnd(row.text), row.isLone);
     EXPECT_EQ(WithWholeLineEnds(row.text), row.mended);
