@@ -61,8 +61,13 @@ int CountOptionPictures(std::u16string_view question) {
 
 std::u16string Beginning(std::u16string_view text) {
   constexpr std::size_t kEnoughToFind = 60;
-  const std::size_t begin = std::min(text.find_first_not_of(u" \t\r\n\v\f"), text.size());
-  return ReplaceLoneSurrogates(text.substr(begin, kEnoughToFind));
+  constexpr std::u16string_view kBlanks = u" \t\r\n\v\f";
+  const std::size_t begin = std::min(text.find_first_not_of(kBlanks), text.size());
+  std::u16string beginning = ReplaceLoneSurrogates(text.substr(begin, kEnoughToFind));
+  beginning.erase(beginning.find_last_not_of(kBlanks) + 1);
+  std::ranges::replace_if(
+      beginning, [](char16_t unit) { return unit < u' '; }, u' ');
+  return beginning;
 }
 
 /// One paper being read.

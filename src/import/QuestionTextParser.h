@@ -31,7 +31,7 @@ struct ReadQuestion {
 /// A part of the paper between two question markers that became no question.
 struct DroppedPart {
   std::u16string_view key;  ///< of the rule that matched nothing in it
-  std::u16string text;      ///< its beginning
+  std::u16string text;      ///< its beginning, in one line
 };
 
 /// What was read from a marked text.

@@ -119,7 +119,7 @@ TEST_F(ImportCommand, TellsWhatWasNotRecognised) {
       run.out,
       "2 questions read: 1 choice, 0 true/false, 0 fill-in, 1 essay.\n"
       "1 parts of the paper were left out because the rule \"PreAnswer\" matched nothing in them; the first "
-      "begins: lost\n\n"
+      "begins: lost\n"
       "The paper itself holds \"#####\", which import takes for a mark of its own.\n");
   EXPECT_EQ(ReadText(folder / "m"), "#####!!!!!q1@@@@@B!!!!!lost\n!!!!!2@@@@@x");
   EXPECT_EQ(ReadText(folder / "t"), "#####Q;q1A;BQ;lost\nQ;2A;x");
