@@ -21,7 +21,6 @@ ExamHost::ExamHost(const std::filesystem::path& applicationFolder, int languageI
                 ids_,
                 registry_,
                 pages_},
-      documents_(files_),
       papers_(services_, documents_) {}
 
 }  // namespace quorvantis

@@ -88,7 +88,7 @@ class WindowTest : public testing::Test {
                         world.registry,
                         pages};
   FrameSetExam exam{services};
-  OfficeWordReader documents{files};
+  OfficeWordReader documents;
   DocumentPaperReader papers{services, documents};
   OfficeControl* office = nullptr;
   std::unique_ptr<CQuorvantisDlg> window;

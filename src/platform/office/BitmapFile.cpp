@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::size_t kFileHeaderBytes = 14;
 constexpr std::size_t kInformationBytes = 40;
-constexpr std::size_t kPixelBytes = 3;
+constexpr std::size_t kPixelBytes = PixelGrid::kPixelBytes;
 
 }  // namespace
 
@@ -43,12 +43,14 @@ void BitmapFile::AppendHeaders(const PixelGrid& pixels, std::size_t pictureBytes
 }
 
 void BitmapFile::AppendRow(const PixelGrid& pixels, std::size_t row, std::size_t rowBytes) {
-  const std::size_t end = bytes_.size() + rowBytes;
+  const std::size_t begin = bytes_.size();
+  bytes_.resize(begin + rowBytes, '\0');
+  char* target = bytes_.data() + begin;
   const std::uint8_t* pixel = pixels.bytes.data() + row * pixels.width * kPixelBytes;
-  for (std::size_t i = 0; i < pixels.width; ++i, pixel += kPixelBytes) {
-    for (std::size_t colour = kPixelBytes; colour-- > 0;) bytes_.push_back(static_cast<char>(pixel[colour]));
+  for (std::size_t i = 0; i < pixels.width; ++i, pixel += kPixelBytes, target += kPixelBytes) {
+    for (std::size_t colour = 0; colour < kPixelBytes; ++colour)
+      target[kPixelBytes - 1 - colour] = static_cast<char>(pixel[colour]);
   }
-  bytes_.resize(end, '\0');
 }
 
 }  // namespace quorvantis

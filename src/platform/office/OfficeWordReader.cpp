@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/office/OfficeWordReader.h"
 
-#include "platform/WholeFile.h"
 #include "platform/office/BitmapFile.h"
 #include "platform/office/CompoundFile.h"
 #include "platform/office/DocumentKind.h"
@@ -10,7 +9,9 @@
 #include "platform/office/ImportFilters.h"
 #include "platform/posix/PrivateFolder.h"
 
+#include <fstream>
 #include <new>
+#include <string>
 #include <utility>
 
 namespace quorvantis {
@@ -24,13 +25,24 @@ struct PackageInUse {
   std::unique_ptr<ZipPackage> package;
 };
 
+/// Without the care for power cuts that saving takes: what an import wrote is worth nothing without its
+/// questions.
+bool WriteNewFile(const fs::path& file, const std::string& bytes) {
+  std::error_code ignored;
+  fs::remove(file, ignored);
+  std::ofstream out(file, std::ios::binary);
+  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  out.close();
+  if (out.fail()) fs::remove(file, ignored);
+  return !out.fail();
+}
+
 class OpenDocx : public OpenWordDocument {
  public:
-  OpenDocx(PackageInUse source, DocxContent content, OfficeConverter converter, Files& files)
+  OpenDocx(PackageInUse source, DocxContent content, OfficeConverter converter)
       : source_(std::move(source)),
         document_(std::move(content.document)),
-        pictures_(*source_.package, std::move(content.pictures), std::move(converter)),
-        files_(files) {}
+        pictures_(*source_.package, std::move(content.pictures), std::move(converter)) {}
 
   const WordDocument& Content() const override { return document_; }
 
@@ -38,8 +50,7 @@ class OpenDocx : public OpenWordDocument {
     PixelGrid pixels;
     const WordResult decoded = pictures_.Decode(picture, pixels);
     if (decoded != WordResult::Done) return decoded;
-    return SaveWholeFile(files_, file, BitmapFile(pixels).Bytes()) ? WordResult::CannotAccess
-                                                                   : WordResult::Done;
+    return WriteNewFile(file, BitmapFile(pixels).Bytes()) ? WordResult::Done : WordResult::CannotAccess;
   } catch (const std::bad_alloc&) {
     return WordResult::TooLarge;
   } catch (const fs::filesystem_error&) {
@@ -50,7 +61,6 @@ class OpenDocx : public OpenWordDocument {
   PackageInUse source_;
   WordDocument document_;
   DocumentPictures pictures_;
-  Files& files_;
 };
 
 std::vector<std::string> FiltersOf(DocumentKind kind) {
@@ -78,9 +88,6 @@ WordResult ConvertToDocx(const fs::path& file, DocumentKind kind, const OfficeCo
 
 }  // namespace
 
-OfficeWordReader::OfficeWordReader(Files& files, OfficePrograms programs)
-    : files_(files), programs_(std::move(programs)) {}
-
 WordReadOutcome OfficeWordReader::Open(const fs::path& file, const WordReadOptions& options) try {
   const DocumentKindOutcome kind = KindOfDocument(file);
   if (kind.result != WordResult::Done) return {kind.result, nullptr};
@@ -97,8 +104,7 @@ WordReadOutcome OfficeWordReader::Open(const fs::path& file, const WordReadOptio
   if (source.package->Opened() != WordResult::Done) return {source.package->Opened(), nullptr};
   DocxContent content = ReadDocx(*source.package, options.listLabels);
   if (content.result != WordResult::Done) return {content.result, nullptr};
-  return {WordResult::Done,
-          std::make_unique<OpenDocx>(std::move(source), std::move(content), converter, files_)};
+  return {WordResult::Done, std::make_unique<OpenDocx>(std::move(source), std::move(content), converter)};
 } catch (const std::bad_alloc&) {
   return {WordResult::TooLarge, nullptr};
 } catch (const fs::filesystem_error&) {

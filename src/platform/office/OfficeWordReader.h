@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Files.h"
 #include "platform/WordReader.h"
 #include "platform/office/OfficeConverter.h"
+
+#include <utility>
 
 namespace quorvantis {
 
@@ -11,13 +12,12 @@ namespace quorvantis {
 /// its content, not its name.
 class OfficeWordReader : public WordReader {
  public:
-  /// `files` outlives this and the documents that it opens.
-  explicit OfficeWordReader(Files& files, OfficePrograms programs = OfficePrograms::Find());
+  explicit OfficeWordReader(OfficePrograms programs = OfficePrograms::Find())
+      : programs_(std::move(programs)) {}
 
   WordReadOutcome Open(const std::filesystem::path& file, const WordReadOptions& options) override;
 
  private:
-  Files& files_;
   OfficePrograms programs_;
 };
 

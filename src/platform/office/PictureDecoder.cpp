@@ -38,18 +38,22 @@ std::uint8_t OnWhite(int colour, int transparency) {
   return static_cast<std::uint8_t>(colour + (255 - colour) * transparency / gdAlphaMax);
 }
 
+void PutPixel(int colour, std::uint8_t* target) {
+  const int transparency = gdTrueColorGetAlpha(colour);
+  target[0] = OnWhite(gdTrueColorGetRed(colour), transparency);
+  target[1] = OnWhite(gdTrueColorGetGreen(colour), transparency);
+  target[2] = OnWhite(gdTrueColorGetBlue(colour), transparency);
+}
+
 PixelGrid PixelsOf(gdImage* image) {
   PixelGrid pixels{
       static_cast<std::size_t>(gdImageSX(image)), static_cast<std::size_t>(gdImageSY(image)), {}};
-  pixels.bytes.reserve(3 * pixels.width * pixels.height);
+  pixels.bytes.resize(PixelGrid::kPixelBytes * pixels.width * pixels.height);
+  ::gdImagePaletteToTrueColor(image);
+  std::uint8_t* target = pixels.bytes.data();
   for (int y = 0; y < gdImageSY(image); ++y) {
-    for (int x = 0; x < gdImageSX(image); ++x) {
-      const int colour = ::gdImageGetTrueColorPixel(image, x, y);
-      const int transparency = gdTrueColorGetAlpha(colour);
-      pixels.bytes.push_back(OnWhite(gdTrueColorGetRed(colour), transparency));
-      pixels.bytes.push_back(OnWhite(gdTrueColorGetGreen(colour), transparency));
-      pixels.bytes.push_back(OnWhite(gdTrueColorGetBlue(colour), transparency));
-    }
+    for (int x = 0; x < gdImageSX(image); ++x, target += PixelGrid::kPixelBytes)
+      PutPixel(gdImageTrueColorPixel(image, x, y), target);
   }
   return pixels;
 }

@@ -9,6 +9,8 @@ namespace quorvantis {
 
 /// A picture as its pixels, three bytes each: red, green, blue; from left to right, then downwards.
 struct PixelGrid {
+  static constexpr std::size_t kPixelBytes = 3;
+
   std::size_t width = 0;
   std::size_t height = 0;
   std::vector<std::uint8_t> bytes;

@@ -25,7 +25,7 @@ class ConversionTest : public WordReaderTest {
   OfficeWordReader ReaderWith(const std::string& script, std::chrono::milliseconds limit = 60s) {
     const fs::path program = WriteBytes(folder / "soffice", "#!/bin/sh\n" + script);
     fs::permissions(program, fs::perms::owner_all);
-    return OfficeWordReader(files, {program, {}, limit});
+    return OfficeWordReader({program, {}, limit});
   }
   fs::path RichText() { return WriteBytes(folder / "a.rtf", kRichText); }
   WordReadOptions Cancelled() {
@@ -61,8 +61,8 @@ TEST_F(ConversionTest, OtherFormatsSayTheSame) {
 }
 
 TEST_F(ConversionTest, FaultsOfTheWordProcessor) {
-  EXPECT_EQ(OfficeWordReader(files, {}).Open(RichText(), {}).result, WordResult::WordProcessorMissing);
-  EXPECT_EQ(OfficeWordReader(files, {folder / "none", {}, 1s}).Open(RichText(), {}).result,
+  EXPECT_EQ(OfficeWordReader(OfficePrograms()).Open(RichText(), {}).result, WordResult::WordProcessorMissing);
+  EXPECT_EQ(OfficeWordReader({folder / "none", {}, 1s}).Open(RichText(), {}).result,
             WordResult::WordProcessorMissing);
   EXPECT_EQ(ReaderWith("exit 0").Open(RichText(), {}).result, WordResult::Damaged);
   EXPECT_EQ(ReaderWith("kill -9 $$").Open(RichText(), {}).result, WordResult::Damaged);

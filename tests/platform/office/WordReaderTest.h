@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "support/DocxBuilder.h"
 #include "platform/office/OfficeWordReader.h"
-#include "platform/posix/PosixFiles.h"
+#include "support/DocxBuilder.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -35,8 +34,7 @@ class WordReaderTest : public testing::Test {
   }
 
   TemporaryFolder folder;
-  PosixFiles files;
-  OfficeWordReader reader{files};
+  OfficeWordReader reader;
 };
 
 }  // namespace quorvantis::test

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+// Importing documents of 500 questions, against LibreOffice's conversion of the same documents to text.
+#include "BenchFolder.h"
+#include "RatioReporter.h"
+#include "cli/CommandLine.h"
+#include "platform/office/OfficeConverter.h"
+#include "support/DocxBuilder.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gd.h>
+#include <iostream>
+#include <memory>
+#include <sstream>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace quorvantis;
+
+constexpr int kQuestions = 500;
+constexpr int kPictures = 200;
+
+fs::path folder;
+
+/// A picture of the size of a screenshot, whose pixels no compression makes disappear.
+std::string Photo(int seed) {
+  constexpr int kWidth = 640;
+  constexpr int kHeight = 400;
+  const std::unique_ptr<gdImage, void (*)(gdImage*)> image(gdImageCreateTrueColor(kWidth, kHeight),
+                                                           gdImageDestroy);
+  unsigned state = static_cast<unsigned>(seed);
+  for (int y = 0; y < kHeight; ++y) {
+    for (int x = 0; x < kWidth; ++x) {
+      state = state * 1664525U + 1013904223U;
+      gdImageSetPixel(image.get(), x, y, gdTrueColor(x % 256, y % 256, static_cast<int>(state >> 28U)));
+    }
+  }
+  int size = 0;
+  const std::unique_ptr<void, void (*)(void*)> bytes(gdImagePngPtr(image.get(), &size), gdFree);
+  return {static_cast<const char*>(bytes.get()), static_cast<std::size_t>(size)};
+}
+
+void WriteDocument(const fs::path& file, bool withPictures) {
+  test::DocxBuilder builder;
+  std::string body;
+  const auto add = [&body](const std::string& text, const std::string& more = {}) {
+    body += "<w:p><w:r><w:t xml:space=\"preserve\">" + text + "</w:t></w:r>" + more + "</w:p>";
+  };
+  for (int n = 1; n <= kQuestions; ++n) {
+    std::string picture;
+    if (withPictures && n <= kPictures) {
+      const std::string id = "p" + std::to_string(n);
+      builder.Picture(id, Photo(n));
+      picture = test::DocxBuilder::PictureXml(id);
+    }
+    add(std::to_string(n) + ". Which of these statements about the water cycle is true, and which is not?",
+        picture);
+    for (const char* option : {"A. Rain falls up.", "B. The sun is cold.", "C. Clouds hold water."})
+      add(option);
+    add("Answer: C");
+  }
+  builder.Body(body).Write(file);
+}
+
+void Import(benchmark::State& state, const char* document) {
+  std::istringstream in;
+  std::ostringstream out;
+  cli::Console console{in, out, std::cerr};
+  const std::string paper = folder / document;
+  const std::string exam = folder / "out.exm";
+  const std::string rules = folder / "rules.ini";
+  const char* arguments[] = {"quorvantis-cli", "import",      paper.c_str(),  exam.c_str(),
+                             "--rules",        rules.c_str(), "--repository", "#0"};
+  for (auto _ : state) {
+    if (cli::RunCommandLine(std::size(arguments), arguments, console) != 0) state.SkipWithError("failed");
+  }
+  if (!out.str().starts_with("500 questions read: 500 choice")) state.SkipWithError(out.str().c_str());
+}
+
+void Convert(benchmark::State& state, const char* document) {
+  const OfficeConverter converter(OfficePrograms::Find(), nullptr);
+  const OfficeJob job{folder / document, {"MS Word 2007 XML"}, "txt"};
+  for (auto _ : state) {
+    if (converter.Convert(job) != WordResult::Done) state.SkipWithError("LibreOffice failed");
+  }
+}
+
+void Register(const char* name, void (*run)(benchmark::State&, const char*), const char* document) {
+  benchmark::RegisterBenchmark(name, run, document)
+      ->UseRealTime()
+      ->Repetitions(3)
+      ->Unit(benchmark::kMillisecond);
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  folder = bench::TakeFolder(argumentCount, arguments) / "documents";
+  fs::create_directories(folder);
+  std::ofstream(folder / "rules.ini")
+      << "[Repository]\nSize=1\n[0]\nName=x\nPreQuestion=\\s*^\\d+[.)]\\s*\nPreAnswer=\\s*^Answer:[ \\t]*\n"
+         "Pattern=(?<Q1>.+?)\\s*^A[.)]\\s*(?<A>.+?)\\s*^B[.)]\\s*(?<B>.+?)(?:\\s*^C[.)]\\s*(?<C>.+?))?\\s*"
+         "\\z\n";
+  WriteDocument(folder / "text.docx", false);
+  WriteDocument(folder / "pictures.docx", true);
+  benchmark::Initialize(&argumentCount, arguments);
+  Register("ImportText", Import, "text.docx");
+  Register("ConvertText", Convert, "text.docx");
+  Register("ImportPictures", Import, "pictures.docx");
+  Register("ConvertPictures", Convert, "pictures.docx");
+  constexpr double kThird = 1.0 / 3.0;
+  bench::RatioReporter reporter({
+      {"import of 500 questions / LibreOffice to text", "ImportText", "ConvertText", kThird},
+      {"the same with 200 pictures", "ImportPictures", "ConvertPictures", 1.0},
+  });
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  fs::remove_all(folder);
+  return 0;
+}
