@@ -53,4 +53,5 @@ function(quorvantis_language name source)
   set_target_properties(${name} PROPERTIES
     PREFIX "" SUFFIX ".dll" CXX_VISIBILITY_PRESET hidden LIBRARY_OUTPUT_DIRECTORY "${QUORVANTIS_LANGUAGE_FOLDER}")
   add_dependencies(languages ${name})
+  set_property(GLOBAL APPEND PROPERTY QUORVANTIS_LANGUAGES ${name})
 endfunction()

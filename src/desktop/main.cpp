@@ -4,6 +4,7 @@
 #include "desktop/DesktopWindows.h"
 #include "desktop/SecondStart.h"
 #include "host/ApplicationFolderClaim.h"
+#include "host/ImportRulesCopy.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
 #include "platform/posix/IconvCodePage.h"
@@ -49,6 +50,7 @@ int Run(const CommandLine& options) {
   const ApplicationFolderClaim claim(elsewhere ? options.applicationFolder : FindApplicationFolder());
   if (claim.WhatIsWrong() != ApplicationFolderClaim::Problem::None) return Refuse(claim, options, windows);
   const std::filesystem::path& folder = claim.Folder();
+  if (!elsewhere) ProvideImportRules(ExecutableFolder(), folder);
   DynamicLanguageLibraries libraries;
   PosixFiles files;
   const IconvCodePage codePage(ChooseCodePage(folder, kEnglish));
