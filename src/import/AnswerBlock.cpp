@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/AnswerBlock.h"
 
+#include "import/RepeatedSearch.h"
 #include "text/AsciiCase.h"
 
 namespace quorvantis {
@@ -20,11 +21,13 @@ int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSear
   if (!found) return 0;
   std::u16string rest = GroupText(*found, 0, text);
   debug.Line(std::u16string(kDebugPrefix) + rest);
-  while (const auto match = item.Find(rest)) {
-    std::u16string answer = GroupText(*match, 0, rest);
+  RepeatedSearch search(rest, item);
+  while (const auto match = search.Find()) {
+    std::u16string answer = rest.substr(match->begin, match->Size());
     if (answer.empty()) item.Fail(ImportFailure::Reason::EmptyAnswer);
     debug.Line(std::u16string(kDebugPrefix) + answer);
-    rest.erase(MatchSpan(*match).begin, answer.size());
+    rest.erase(match->begin, answer.size());
+    search.ChangedFrom(match->begin);
     answers.push_back(std::move(answer));
   }
   return 1;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/RuleSearch.h"
+#include "import/EditedFlags.h"
+#include "import/RepeatedSearch.h"
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace quorvantis {
 
@@ -14,10 +14,9 @@ namespace quorvantis {
 ///
 /// A replacement is progress when it takes a character of the document, or an empty place between two of
 /// them: a text has only so many of these. So a pass goes on for ever only if, from some time on, all that it
-/// replaces lies in or at its own markers. That is certain at once when the text does not change, or when the
-/// rule matches part of a marker wherever that stands. Rules that look around themselves may still end by
-/// then; they get kMostFutile replacements in a row for it, which makes a run of markers longer than any
-/// paper has use for.
+/// replaces lies in or at its own markers. That is certain when the next search will see the same again; see
+/// ComesUpAgain. Other rules, which wander through their markers, may still end. They get kMostFutile
+/// replacements in a row for it, which makes a run of markers longer than any paper has use for.
 class ReplaceAllPass {
  public:
   static constexpr int kMostFutile = 2'000;
@@ -35,14 +34,14 @@ class ReplaceAllPass {
   void Replace(const MatchSpan& match);
   void WatchForEnd(const MatchSpan& match);
   bool IsProgress(const MatchSpan& match) const;
-  std::size_t NextStart(const MatchSpan& match) const;
+  bool ComesUpAgain(const MatchSpan& match) const;
 
   std::u16string& text_;
   const RuleSearch& rule_;
   const std::u16string_view marker_;
-  const bool barrier_;
-  std::vector<char> made_;  ///< which characters of the text are of markers
-  int futile_ = 0;          ///< replacements in a row that were no progress
+  RepeatedSearch search_;
+  EditedFlags made_;  ///< which characters of the text are of markers
+  int futile_ = 0;    ///< replacements in a row that were no progress
 };
 
 /// Deletes every match of a rule together with ten characters before it; how many times.

@@ -10,10 +10,12 @@ RuleSearch::RuleSearch(std::u16string_view key, std::u16string_view pattern, con
   if (!pattern.empty()) pattern_.Compile(pattern, regex_flag::kSingleLine | regex_flag::kMultiLine);
 }
 
-std::optional<MatchResult> RuleSearch::Find(std::u16string_view text, std::size_t start) const {
+std::optional<MatchResult> RuleSearch::Find(std::u16string_view text, std::size_t start,
+                                            FailedStarts* failed) const {
   if (isCancelled_ && isCancelled_()) Fail(ImportFailure::Reason::Cancelled);
-  MatchContext context;
-  context.isCancelled = isCancelled_;
+  // Every search of an import means one from the first character, wherever it begins, so that is where "\G"
+  // is.
+  MatchContext context{0, isCancelled_, failed};
   MatchResult result = pattern_.Match(text, static_cast<int>(start), &context);
   if (result.Outcome() == MatchOutcome::Cancelled) Fail(ImportFailure::Reason::Cancelled);
   if (result.Outcome() == MatchOutcome::TooLarge) Fail(ImportFailure::Reason::TooLarge);

@@ -22,7 +22,9 @@ class RuleSearch {
   RuleSearch(std::u16string_view key, std::u16string_view pattern, const CancelHook& isCancelled);
 
   /// The leftmost match at `start` or after it, if any. Throws ImportFailure when there is no answer.
-  std::optional<MatchResult> Find(std::u16string_view text, std::size_t start = 0) const;
+  /// `failed`, if given, is told of the starts that failed.
+  std::optional<MatchResult> Find(std::u16string_view text, std::size_t start = 0,
+                                  FailedStarts* failed = nullptr) const;
 
   [[noreturn]] void Fail(ImportFailure::Reason reason) const { throw ImportFailure{reason, key_}; }
 

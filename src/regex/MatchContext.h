@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "regex/FailedStarts.h"
+
 #include <functional>
 
 namespace quorvantis {
@@ -13,6 +15,9 @@ struct MatchContext {
 
   /// Asked now and then, about every millisecond; true ends the match without an answer. May be empty.
   std::function<bool()> isCancelled;
+
+  /// Told of the starts that fail, unless the pattern runs right-to-left. May be null.
+  FailedStarts* failedStarts = nullptr;
 };
 
 }  // namespace quorvantis

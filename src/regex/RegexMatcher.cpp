@@ -28,12 +28,19 @@ RegexMatcher::RegexMatcher(const RegexProgram& program, std::u16string_view text
 
 MatchResult RegexMatcher::Find(int start) {
   scanStart_ = start;
+  FailedStarts* const failed = program_.backward ? nullptr : context_.failedStarts;
+  if (failed) failed->BeginSearch(std::max(static_cast<int>(program_.prefix.size()) - 1, 0));
   const int step = program_.backward ? -1 : 1;
   for (int place = start; place >= 0 && place <= length_; place += step) {
     place = FindStart(place);
     if (place < 0 || place > length_) break;
-    if (RunFrom(place)) return MatchResult(bounds_);
+    seen_ = place;
+    const bool matches = RunFrom(place);
     if (stopped_ != MatchOutcome::NoMatch) break;
+    if (!matches && failed) failed->Add(place, seen_);
+    if (!matches) continue;
+    if (failed) failed->Matched(seen_);
+    return MatchResult(bounds_);
   }
   return MatchResult(stopped_);
 }
@@ -58,7 +65,9 @@ int RegexMatcher::FindStart(int start) const {
 
 bool RegexMatcher::RunFrom(int start) {
   Thread thread{0, start};
-  if (!TakeUnits(thread)) return false;  // most starts end here
+  const bool canBegin = TakeUnits(thread);
+  See(thread.position);
+  if (!canBegin) return false;  // most starts end here
   std::ranges::fill(bounds_, -1);
   stack_.clear();
   frames_.clear();
@@ -67,7 +76,9 @@ bool RegexMatcher::RunFrom(int start) {
   bounds_[0] = start;
   for (;;) {
     if (++work_ > nextLook_ && IsStopped()) return false;
-    if (Step(thread) && TakeUnits(thread)) {
+    const bool goesOn = Step(thread) && TakeUnits(thread);
+    See(thread.position);
+    if (goesOn) {
       if (thread.place == kNowhere) return true;
     } else if (!BackTrack(thread)) {
       return false;
@@ -88,6 +99,11 @@ bool RegexMatcher::TakeUnits(Thread& thread) const {
     ++thread.place;
   }
   return true;
+}
+
+/// Where a place can be gone to, the unit there counts as seen, and what lies before it has been.
+void RegexMatcher::See(int position) {
+  seen_ = std::max(seen_, std::min(position, length_));
 }
 
 /// Looks whether the match has to end without an answer, and turns the memory of failures on when it is time.
@@ -119,6 +135,7 @@ bool RegexMatcher::Step(Thread& thread) {
       return true;
     case Op::Assert:
       ++thread.place;
+      if (instruction.assertion == AssertionKind::EndOfTextOrLastBreak) See(thread.position + 2);
       return Holds(instruction.assertion, thread.position);
     case Op::MarkPosition:
       SetRegister(instruction.index, thread.position);
@@ -173,11 +190,12 @@ bool RegexMatcher::CanComeNext(const CharacterSet* units, bool backward, int pos
   return at >= 0 && at < length_ && units->Contains(text_[static_cast<std::size_t>(at)]);
 }
 
-bool RegexMatcher::BackReference(const Instruction& instruction, Thread& thread) const {
+bool RegexMatcher::BackReference(const Instruction& instruction, Thread& thread) {
   const int start = bounds_[2 * static_cast<std::size_t>(instruction.index)];
   const int end = bounds_[2 * static_cast<std::size_t>(instruction.index) + 1];
   const int size = end - start;
   const int at = instruction.backward ? thread.position - size : thread.position;
+  if (end >= 0) See(at + size);
   if (end < 0 || at < 0 || at > length_ - size) return false;
   const auto text = [this, size](int from) {
     return text_.substr(static_cast<std::size_t>(from), static_cast<std::size_t>(size));

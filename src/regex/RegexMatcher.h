@@ -77,11 +77,12 @@ class RegexMatcher {
   bool ResumeMore(const Entry& entry, Thread& thread);
   int Extent(const Instruction& instruction, int position);
   bool EndRepeat(const Instruction& instruction, Thread& thread, int low, int to);
+  void See(int position);
   void RememberRange(const Instruction& instruction, int low, int from, int to);
   bool Split(const Instruction& instruction, Thread& thread);
   bool CountedLoop(const Instruction& instruction, Thread& thread);
   bool Holds(AssertionKind kind, int position) const;
-  bool BackReference(const Instruction& instruction, Thread& thread) const;
+  bool BackReference(const Instruction& instruction, Thread& thread);
   void Capture(const Instruction& instruction, int position);
   void RaiseBarrier(const Instruction& instruction, const Thread& thread);
   void DropChoices(int barrier);
@@ -113,6 +114,7 @@ class RegexMatcher {
   std::vector<int> savedValues_;
   int frame_ = kNowhere;
   FailureMemory memory_;
+  int seen_ = 0;            ///< the furthest index of the text that was looked at, or whether it is the end
   long long work_ = 0;      ///< steps and units so far
   long long nextLook_ = 0;  ///< the work after which it is looked whether to go on
   MatchOutcome stopped_ = MatchOutcome::NoMatch;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "regex/RegexPattern.h"
 
-#include "regex/PatternTraits.h"
 #include "regex/RegexCompiler.h"
 #include "regex/RegexFlags.h"
 #include "regex/RegexMatcher.h"
@@ -35,14 +34,6 @@ MatchResult RegexPattern::Match(std::u16string_view text, int start, MatchContex
   MatchResult result = RegexMatcher(*program_, text, used).Find(std::min(start, length));
   if (result.IsMatched()) used.previousEnd = program_->backward ? result.GroupStart(0) : result.GroupEnd(0);
   return result;
-}
-
-bool RegexPattern::MatchesAnywhere() const {
-  return program_ && quorvantis::MatchesAnywhere(*program_);
-}
-
-bool RegexPattern::IsBarrier(char16_t unit) const {
-  return !program_ || quorvantis::IsBarrier(*program_, unit);
 }
 
 std::u16string_view TextBeforeNul(std::u16string_view text) {

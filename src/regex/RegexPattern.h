@@ -40,10 +40,6 @@ class RegexPattern {
   int GetNamedGroupNumber(std::u16string_view name) const;
   static constexpr int kNoSuchGroup = -3;
 
-  /// See PatternTraits.h; an empty object matches nothing anywhere.
-  bool MatchesAnywhere() const;
-  bool IsBarrier(char16_t unit) const;
-
   /// Names and numbers of the named groups, in the order of the pattern.
   const std::vector<std::pair<std::u16string, int>>& GroupNames() const { return names_; }
 

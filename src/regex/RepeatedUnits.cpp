@@ -18,8 +18,10 @@ bool RegexMatcher::RepeatExactly(const Instruction& instruction, Thread& thread)
   const int step = instruction.backward ? -1 : 1;
   const int start = thread.position;
   const int end = start + step * instruction.min;
+  if (end > length_) See(length_);
   if (end < 0 || end > length_) return false;
   for (int at = start; at != end; at += step) {
+    See(at);
     if (!CanComeNext(instruction.set, instruction.backward, at)) return false;
   }
   return EndRepeat(instruction, thread, start, end);
@@ -38,6 +40,7 @@ int RegexMatcher::Extent(const Instruction& instruction, int position) {
     end += step;
     ++count;
   }
+  See(end);
   work_ += count;
   return end;
 }
@@ -72,6 +75,7 @@ bool RegexMatcher::RepeatMore(const Instruction& instruction, Thread& thread, in
   int to = from;
   for (;; to += step, ++work_) {
     if (!stops && instruction.max == kUnlimited) to = SkipTo(instruction, to);
+    See(to);
     if (stops && to != low && memory_.HasFailed(instruction.memory, to)) break;
     if (CanComeNext(instruction.first, instruction.backward, to)) {
       Push({EntryKind::MoreUnits, thread.place, low, to});

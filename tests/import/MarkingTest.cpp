@@ -97,10 +97,12 @@ std::u16string ReplacedNaively(std::u16string text, const std::u16string& patter
 
 TEST(TextMarking, GoingOnFromTheLastMatchChangesNothing) {
   constexpr std::u16string_view kPieces[] = {
-      u"a",    u"\\d", u"\\r?\\n", u"^", u"$", u"\\b", u"(?<=a)", u"(?<!^)", u"(?!a)",  u"(?=\\d)",
-      u"\\s*", u"a+?", u"(?:1|a)", u".", u"|", u"!",   u"[^1]",   u"\\Z",    u"(?>a*)", u"1{2}"};
+      u"a",     u"\\d",     u"\\r?\\n",    u"^",      u"$",        u"\\b",  u"(?<=a)", u"(?<!^)",
+      u"(?!a)", u"(?=\\d)", u"\\s*",       u"a+?",    u"(?:1|a)",  u".",    u"|",      u"!",
+      u"[^1]",  u"\\Z",     u"(?>a*)",     u"1{2}",   u"(a|1)",    u"\\1?", u"a!!",    u".*?",
+      u"\\B",   u"(?g)\\G", u"(?<!1|\\r)", u"(?!.!)", u"(?<=\\b.)"};
   std::mt19937 random(7);  // NOLINT(bugprone-random-generator-seed): the same patterns each time
-  for (int round = 0; round < 150; ++round) {
+  for (int round = 0; round < 600; ++round) {
     ImportSettings rules;
     std::u16string text;
     for (auto i = random() % 4 + 1; i > 0; --i)
