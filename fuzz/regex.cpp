@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Compiles any bytes as a pattern and matches it. Whatever comes out must lie in the text.
+// Compiles any bytes as a pattern and matches it. Whatever comes out must lie in the text, and when it is
+// replaced, a search from where that is enough must find what one from the first unit finds.
 //
 // The first byte holds the flags, then comes the pattern as UTF-8 up to a byte FF, then the text.
+#include "regex/RegexFlags.h"
 #include "regex/RegexPattern.h"
 #include "text/Utf.h"
 
@@ -28,6 +30,23 @@ void CheckBounds(const MatchResult& result, int length) {
   }
 }
 
+/// Replaces a match, and compares the search that begins where that is enough with one from the first unit.
+template <class Match>
+void CheckResumption(const MatchResult& result, std::u16string text, FailedStarts& failed,
+                     const Match& match) {
+  if (!result.IsMatched()) return;
+  const int place = result.GroupStart(0);
+  text.replace(static_cast<std::size_t>(place), static_cast<std::size_t>(result.GroupEnd(0) - place),
+               u"!!!!!");
+  const int resume = failed.ResumeAfterChange(place);
+  Require(resume >= 0 && resume <= place);
+  const MatchResult found = match(text, resume);
+  const MatchResult expected = match(text, 0);
+  if (found.Outcome() == MatchOutcome::Matched && expected.Outcome() == MatchOutcome::Matched)
+    Require(found.GroupStart(0) == expected.GroupStart(0) && found.GroupEnd(0) == expected.GroupEnd(0));
+  Require(found.Outcome() != MatchOutcome::NoMatch || expected.Outcome() != MatchOutcome::Matched);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -37,8 +56,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::u16string text = end == std::string_view::npos ? u"aab" : Utf8ToUtf16(bytes.substr(end + 1));
   const RegexPattern pattern(Utf8ToUtf16(bytes.substr(0, end)), data[0] & 63);
   Require(pattern.IsEmpty() == pattern.CompileError().has_value());
-  int asked = 0;
-  MatchContext context{-1, [&asked] { return ++asked > 20; }};
-  CheckBounds(pattern.Match(text, -1, &context), static_cast<int>(text.size()));
+  FailedStarts failed;
+  const auto match = [&pattern, &failed](std::u16string_view subject, int start) {
+    int asked = 0;
+    MatchContext context{start < 0 ? -1 : 0, [&asked] { return ++asked > 20; }, &failed};
+    const MatchResult result = pattern.Match(subject, start, &context);
+    CheckBounds(result, static_cast<int>(subject.size()));
+    return result;
+  };
+  const MatchResult result = match(text, (data[0] & regex_flag::kRightToLeft) != 0 ? -1 : 0);
+  if ((data[0] & regex_flag::kRightToLeft) == 0) CheckResumption(result, text, failed, match);
   return 0;
 }

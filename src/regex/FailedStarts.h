@@ -25,31 +25,25 @@ class FailedStarts {
   }
 
   /// The text up to and including `seen` decided that there is no match at `start`. Starts come in ascending
-  /// order; those that saw nothing behind themselves need not be kept, nor told.
+  /// order.
   void Add(int start, int seen) {
-    if (seen > start) starts_.push_back({start, seen});
+    // Where one before it saw as far, a search that begins there tries this one again as well.
+    if (seen > start && (starts_.empty() || seen > starts_.back().seen)) starts_.push_back({start, seen});
   }
 
   /// The search has ended with a match that looked as far as `seen`.
   void Matched(int seen) { matchSaw_ = seen; }
 
   /// How far anything that decided about the last match looked.
-  int Seen() const {
-    int seen = matchSaw_;
-    for (const Start& start : starts_) seen = std::max(seen, start.seen);
-    return seen;
-  }
+  int Seen() const { return starts_.empty() ? matchSaw_ : std::max(matchSaw_, starts_.back().seen); }
 
   /// The text has changed from `place` on, which is not behind the start of the last match: where the next
   /// search has to begin, at the latest.
   int ResumeAfterChange(int place) {
-    const auto first =
-        std::ranges::find_if(starts_, [place](const Start& start) { return start.seen >= place; });
-    const int untold = std::max(place - untoldSaw_, 0);
-    const int resume = first == starts_.end() ? untold : std::min(first->start, untold);
-    // What will be tried again is told of again, and no later change can lie before `resume`.
-    std::erase_if(starts_,
-                  [resume](const Start& start) { return start.start >= resume || start.seen < resume; });
+    int resume = std::max(place - untoldSaw_, 0);
+    const auto first = std::ranges::lower_bound(starts_, place, {}, &Start::seen);
+    if (first != starts_.end()) resume = std::min(resume, first->start);
+    while (!starts_.empty() && starts_.back().start >= resume) starts_.pop_back();
     return resume;
   }
 
@@ -59,7 +53,7 @@ class FailedStarts {
     int seen;
   };
 
-  std::vector<Start> starts_;
+  std::vector<Start> starts_;  ///< in ascending order of both
   int matchSaw_ = 0;
   int untoldSaw_ = 0;
 };

@@ -5,6 +5,7 @@
 
 #include "regex/ClassParser.h"
 #include "regex/EscapeParser.h"
+#include "regex/NestedRepeats.h"
 #include "regex/QuotedText.h"
 #include "regex/RegexFlags.h"
 #include "text/AsciiCase.h"
@@ -106,7 +107,9 @@ class RegexParser {
     if (cursor_.Take(u"?")) mode = RepeatMode::Lazy;
     if (mode == RepeatMode::Greedy && cursor_.Take(u"+")) mode = RepeatMode::Possessive;
     if (counts->min == counts->max) mode = RepeatMode::Greedy;  // after a fixed count, both change nothing
-    element = MakeTree(RepeatNode{counts->min, counts->max, mode, std::move(element)});
+    RepeatNode repeat{counts->min, counts->max, mode, std::move(element)};
+    MergeNestedRepeat(repeat);
+    element = MakeTree(std::move(repeat));
     return true;
   }
 

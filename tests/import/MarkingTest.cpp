@@ -37,6 +37,7 @@ TEST(TextMarking, ReplacesMatchesInSevenPasses) {
       {{{&ImportSettings::m_strPreQuestion, u"x!*|Q"}}, u"axQb", u"a!!!!!!!!!!b"},
       {{{&ImportSettings::m_strPreQuestion, u"Q|a!{5}"}}, u"aaQb", u"!!!!!b"},
       {{{&ImportSettings::m_strPreQuestion, u"\\d\\.(?!\\d)"}}, u"1.2.x", u"!!!!!!!!!!x"},
+      {{{&ImportSettings::m_strPreQuestion, u"1\\b"}}, u"_1111", u"_" + std::u16string(20, u'!')},
       {{{&ImportSettings::m_strPreQuestion, u"\\n|\\r^x?"}}, u"\r\nx\r\n", u"!!!!!!!!!!x!!!!!!!!!!"},
       // A pattern that cannot be compiled matches nothing, and a text ends at its first NUL.
       {{{&ImportSettings::m_strPreQuestion, u"("}}, u"(", u"("},
