@@ -41,6 +41,28 @@ std::size_t ProgramSize(const SyntaxNode& tree) {
       tree.value);
 }
 
+/// Whether a tree has a node of one of these kinds.
+template <class... Wanted>
+bool Has(const SyntaxNode& tree) {
+  return std::visit(
+      [](const auto& node) {
+        using Node = std::decay_t<decltype(node)>;
+        if constexpr ((std::is_same_v<Node, Wanted> || ...)) return true;
+        const auto has = [](const SyntaxTree& part) { return part && Has<Wanted...>(*part); };
+        if constexpr (std::is_same_v<Node, SequenceNode>) {
+          return std::ranges::any_of(node.parts, has);
+        } else if constexpr (std::is_same_v<Node, AlternationNode>) {
+          return std::ranges::any_of(node.choices, has);
+        } else if constexpr (std::is_same_v<Node, ConditionNode>) {
+          return has(node.look) || has(node.whenTrue) || has(node.whenFalse);
+        } else if constexpr (requires { node.body; }) {
+          return has(node.body);
+        }
+        return false;
+      },
+      tree.value);
+}
+
 class RegexCompiler {
  public:
   RegexCompiler(const ParsedPattern& pattern, bool rightToLeft) : pattern_(pattern) {
@@ -48,7 +70,7 @@ class RegexCompiler {
     program_.groups = pattern.groupCount + 1;
     groupStarts_.resize(static_cast<std::size_t>(program_.groups), GroupStart{kNowhere, rightToLeft});
     groupStarts_[0].place = 0;
-    hasRecursion_ = HasRecursion(*pattern.tree);
+    hasRecursion_ = Has<RecursionNode>(*pattern.tree);
   }
 
   RegexProgram Compile() {
@@ -62,25 +84,6 @@ class RegexCompiler {
   }
 
  private:
-  static bool HasRecursion(const SyntaxNode& tree) {
-    return std::visit(
-        [](const auto& node) {
-          using Node = std::decay_t<decltype(node)>;
-          const auto has = [](const SyntaxTree& part) { return part && HasRecursion(*part); };
-          if constexpr (std::is_same_v<Node, SequenceNode>) {
-            return std::ranges::any_of(node.parts, has);
-          } else if constexpr (std::is_same_v<Node, AlternationNode>) {
-            return std::ranges::any_of(node.choices, has);
-          } else if constexpr (std::is_same_v<Node, ConditionNode>) {
-            return has(node.look) || has(node.whenTrue) || has(node.whenFalse);
-          } else if constexpr (requires { node.body; }) {
-            return has(node.body);
-          }
-          return std::is_same_v<Node, RecursionNode>;
-        },
-        tree.value);
-  }
-
   void ConnectCalls() {
     for (Instruction& call : program_.code) {
       if (call.op != Op::Call) continue;
@@ -281,7 +284,8 @@ class RegexCompiler {
   }
 
   /// A loop that counts, for bodies too large to copy. What follows depends on the count, so no failure in it
-  /// is remembered.
+  /// is remembered. An iteration that takes nothing is the last one; but where the next one could go another
+  /// way because of what groups have matched, it takes a turn as a copy of the body would.
   void EmitCounted(const RepeatNode& node, bool backward, RepeatMode mode) {
     const bool outer = std::exchange(insideCountedLoop_, true);
     const int counter = NewRegister();
@@ -289,7 +293,10 @@ class RegexCompiler {
     const int loop = Append({.op = Op::CountedLoop, .backward = backward, .mode = mode, .index = counter});
     At(loop).min = node.min;
     At(loop).max = node.max;
-    const int exit = EmitIteration(node, backward);
+    const bool endsWhenEmpty =
+        node.max == kUnlimited || !Has<BackReferenceNode, ConditionNode, RecursionNode>(*node.body);
+    const int exit = endsWhenEmpty ? EmitIteration(node, backward) : kNowhere;
+    if (!endsWhenEmpty) Emit(*node.body, backward);
     Append({.op = Op::Jump, .target = loop});
     At(loop).target = Here();
     if (exit != kNowhere) At(exit).target = Here();

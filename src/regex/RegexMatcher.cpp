@@ -10,6 +10,7 @@ namespace {
 
 constexpr long long kWorkBetweenLooks = 200'000;        // under a millisecond
 constexpr long long kWorkPerUnitBeforeRemembering = 8;  // ordinary matches end before this
+constexpr std::size_t kUsualEntries = 64;               // enough for most matches
 constexpr std::size_t kMostEntries = std::size_t{24} * 1024 * 1024;
 constexpr std::size_t kMostSavedValues = std::size_t{32} * 1024 * 1024;
 
@@ -70,6 +71,7 @@ bool RegexMatcher::RunFrom(int start) {
   if (!canBegin) return false;  // most starts end here
   std::ranges::fill(bounds_, -1);
   stack_.clear();
+  stack_.reserve(kUsualEntries);
   frames_.clear();
   savedValues_.clear();
   frame_ = kNowhere;
