@@ -266,9 +266,9 @@ bool RegexMatcher::Split(const Instruction& instruction, Thread& thread) {
   if (IsRemembered(instruction) && (isChoice || instruction.isLoop)) {
     const int row = Row(instruction, thread.position);
     if (memory_.HasFailed(row, thread.position)) return false;
-    Push({EntryKind::Failure, row, thread.position, 0});
+    Push(EntryKind::Failure, row, thread.position);
   }
-  if (isChoice) Push({EntryKind::Alternative, instruction.other, thread.position, 0});
+  if (isChoice) Push(EntryKind::Alternative, instruction.other, thread.position);
   thread.place = canGo ? instruction.target : instruction.other;
   return true;
 }
@@ -279,9 +279,11 @@ bool RegexMatcher::CountedLoop(const Instruction& instruction, Thread& thread) {
   const bool mayGoOn = instruction.max == kUnlimited || count < instruction.max;
   const bool leavesFirst = mayLeave && (instruction.mode == RepeatMode::Lazy || !mayGoOn);
   if (mayLeave && mayGoOn) {
-    const Entry later = leavesFirst ? Entry{EntryKind::NextIteration, thread.place, thread.position, 0}
-                                    : Entry{EntryKind::Alternative, instruction.target, thread.position, 0};
-    Push(later);
+    if (leavesFirst) {
+      Push(EntryKind::NextIteration, thread.place, thread.position);
+    } else {
+      Push(EntryKind::Alternative, instruction.target, thread.position);
+    }
   }
   if (leavesFirst) {
     thread.place = instruction.target;
@@ -335,10 +337,6 @@ bool RegexMatcher::Resume(const Entry& entry, Thread& thread) {
   return false;
 }
 
-void RegexMatcher::Push(const Entry& entry) {
-  stack_.push_back(entry);
-}
-
 void RegexMatcher::Restore(const Entry& entry) {
   if (entry.kind == EntryKind::RestoreBound) bounds_[static_cast<std::size_t>(entry.a)] = entry.b;
   if (entry.kind == EntryKind::RestoreRegister) registers_[static_cast<std::size_t>(entry.a)] = entry.b;
@@ -353,13 +351,13 @@ void RegexMatcher::Restore(const Entry& entry) {
 /// Changes that no choice lies below need no way back.
 void RegexMatcher::SetBound(int index, int value) {
   int& bound = bounds_[static_cast<std::size_t>(index)];
-  if (!stack_.empty() && bound != value) Push({EntryKind::RestoreBound, index, bound, 0});
+  if (!stack_.empty() && bound != value) Push(EntryKind::RestoreBound, index, bound);
   bound = value;
 }
 
 void RegexMatcher::SetRegister(int index, int value) {
   int& current = registers_[static_cast<std::size_t>(index)];
-  if (!stack_.empty() && current != value) Push({EntryKind::RestoreRegister, index, current, 0});
+  if (!stack_.empty() && current != value) Push(EntryKind::RestoreRegister, index, current);
   current = value;
 }
 

@@ -97,7 +97,8 @@ class RegexMatcher {
   int Row(const Instruction& instruction, int position) const;
   bool CanComeNext(const CharacterSet* units, bool backward, int position) const;
 
-  void Push(const Entry& entry);
+  /// Takes the fields and not an entry: copying one that was just put together waits for its parts.
+  void Push(EntryKind kind, int a, int b, int c = 0) { stack_.push_back({kind, a, b, c}); }
   void SetBound(int index, int value);
   void SetRegister(int index, int value);
   void Restore(const Entry& entry);

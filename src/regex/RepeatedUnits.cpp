@@ -64,7 +64,7 @@ bool RegexMatcher::RepeatFewer(const Instruction& instruction, Thread& thread, i
   work_ += step > 0 ? from - to : to - from;
   RememberRange(instruction, low, from, found ? to : low - step);
   if (!found) return false;
-  if (to != low || IsRemembered(instruction)) Push({EntryKind::FewerUnits, thread.place, low, to});
+  if (to != low || IsRemembered(instruction)) Push(EntryKind::FewerUnits, thread.place, low, to);
   return EndRepeat(instruction, thread, low, to);
 }
 
@@ -78,7 +78,7 @@ bool RegexMatcher::RepeatMore(const Instruction& instruction, Thread& thread, in
     See(to);
     if (stops && to != low && memory_.HasFailed(instruction.memory, to)) break;
     if (CanComeNext(instruction.first, instruction.backward, to)) {
-      Push({EntryKind::MoreUnits, thread.place, low, to});
+      Push(EntryKind::MoreUnits, thread.place, low, to);
       return EndRepeat(instruction, thread, low, to);
     }
     if (!CanTakeMore(instruction, low, to)) break;

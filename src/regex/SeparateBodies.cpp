@@ -8,10 +8,10 @@ namespace quorvantis {
 
 void RegexMatcher::RaiseBarrier(const Instruction& instruction, const Thread& thread) {
   // The register must be set below the barrier, or dropping the choices would lose where it stands.
-  Push({EntryKind::RestoreRegister, instruction.index,
-        registers_[static_cast<std::size_t>(instruction.index)], 0});
+  Push(EntryKind::RestoreRegister, instruction.index,
+       registers_[static_cast<std::size_t>(instruction.index)]);
   registers_[static_cast<std::size_t>(instruction.index)] = static_cast<int>(stack_.size());
-  Push({EntryKind::Barrier, thread.place, thread.position, 0});
+  Push(EntryKind::Barrier, thread.place, thread.position);
 }
 
 /// Removes the barrier and the choices above it, and keeps what has to be set back.
@@ -52,7 +52,7 @@ bool RegexMatcher::Call(const Instruction& instruction, Thread& thread) {
     if (frame.position != thread.position) break;
     if (frame.group == instruction.index) return false;
   }
-  Push({EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()), 0});
+  Push(EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()));
   frames_.push_back({instruction.index, thread.place + 1, thread.position, frame_, savedValues_.size()});
   savedValues_.insert(savedValues_.end(), bounds_.begin(), bounds_.end());
   savedValues_.insert(savedValues_.end(), registers_.begin(), registers_.end());
@@ -66,7 +66,7 @@ bool RegexMatcher::Return(const Instruction& instruction, Thread& thread) {
   ++thread.place;
   if (frame_ == kNowhere || frames_[static_cast<std::size_t>(frame_)].group != instruction.index) return true;
   const Frame frame = frames_[static_cast<std::size_t>(frame_)];
-  Push({EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()), 0});
+  Push(EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()));
   const int* saved = savedValues_.data() + frame.saved;
   for (int i = 0; i < static_cast<int>(bounds_.size()); ++i) SetBound(i, *saved++);
   for (int i = 0; i < static_cast<int>(registers_.size()); ++i) SetRegister(i, *saved++);
