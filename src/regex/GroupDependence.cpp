@@ -23,7 +23,8 @@ void ForgetWhatDependsOnGroups(RegexProgram& program) {
     changed = false;
     for (std::size_t place = size; place-- > 0;) {
       const Instruction& code = program.code[place];
-      const bool other = code.op != Op::Capture && leadsTo(code.other);  // a Capture keeps a register there
+      const bool keepsRegister = code.op == Op::Capture || code.op == Op::ExitIfEmpty;
+      const bool other = !keepsRegister && leadsTo(code.other);
       const bool now = code.op == Op::BackReference || code.op == Op::IfGroup || leadsTo(code.target) ||
                        other || (GoesOnBelow(code.op) && depends[place + 1] != 0);
       changed = changed || (now && depends[place] == 0);

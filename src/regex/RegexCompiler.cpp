@@ -285,7 +285,7 @@ class RegexCompiler {
 
   /// A loop that counts, for bodies too large to copy. What follows depends on the count, so no failure in it
   /// is remembered. An iteration that takes nothing is the last one; but where the next one could go another
-  /// way because of what groups have matched, it takes a turn as a copy of the body would.
+  /// way because of what groups have matched, it is one of those that copies of the body would have.
   void EmitCounted(const RepeatNode& node, bool backward, RepeatMode mode) {
     const bool outer = std::exchange(insideCountedLoop_, true);
     const int counter = NewRegister();
@@ -293,10 +293,11 @@ class RegexCompiler {
     const int loop = Append({.op = Op::CountedLoop, .backward = backward, .mode = mode, .index = counter});
     At(loop).min = node.min;
     At(loop).max = node.max;
-    const bool endsWhenEmpty =
-        node.max == kUnlimited || !Has<BackReferenceNode, ConditionNode, RecursionNode>(*node.body);
-    const int exit = endsWhenEmpty ? EmitIteration(node, backward) : kNowhere;
-    if (!endsWhenEmpty) Emit(*node.body, backward);
+    const int exit = EmitIteration(node, backward);
+    if (exit != kNowhere && Has<BackReferenceNode, ConditionNode, RecursionNode>(*node.body)) {
+      At(exit).other = counter;
+      At(exit).min = node.max == kUnlimited ? node.min : node.max;
+    }
     Append({.op = Op::Jump, .target = loop});
     At(loop).target = Here();
     if (exit != kNowhere) At(exit).target = Here();

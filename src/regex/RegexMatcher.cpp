@@ -147,6 +147,9 @@ bool RegexMatcher::Step(Thread& thread) {
       break;
     case Op::ExitIfEmpty:
       if (registers_[static_cast<std::size_t>(instruction.index)] != thread.position) break;
+      if (instruction.other != kNowhere &&
+          registers_[static_cast<std::size_t>(instruction.other)] < instruction.min)
+        break;
       thread.place = instruction.target;
       return true;
     case Op::ResetCounter:

@@ -23,7 +23,8 @@ enum class Op : std::uint8_t {
   Assert,         ///< goes on where `assertion` holds
   MarkPosition,   ///< stores the position in register `index`
   Capture,        ///< group `index` has matched from the position in register `other` to here
-  ExitIfEmpty,    ///< goes on at `target` when the position is that in register `index`
+  ExitIfEmpty,    ///< goes on at `target` when the position is that in register `index`, and the count in
+                  ///< register `other`, if not kNowhere, is at least `min`
   ResetCounter,   ///< register `index` becomes 0
   CountedLoop,    ///< counts in register `index` and enters the body below; leaves to `target` from `min` on
   BackReference,  ///< takes what group `index` matched
