@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/office/ChildProgram.h"
 
+#include "platform/posix/Leftover.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <optional>
 #include <sstream>
 #include <string_view>
 #include <sys/resource.h>
@@ -73,11 +76,12 @@ std::vector<std::string> Environment(const fs::path& temporaryFolder) {
 /// A started child. Goes with its whole group.
 class ChildGroup {
  public:
-  explicit ChildGroup(pid_t leader) : leader_(leader) {}
+  explicit ChildGroup(pid_t leader) : leader_(leader), leftover_(std::in_place, leader) {}
   ~ChildGroup() {
     // Before the leader is reaped nobody else can get the group's number.
     ::kill(-leader_, SIGKILL);
     ::kill(leader_, SIGKILL);  // it may not have come to lead a group yet
+    leftover_.reset();
     while (::waitpid(leader_, nullptr, 0) < 0 && errno == EINTR) {
     }
   }
@@ -93,6 +97,7 @@ class ChildGroup {
 
  private:
   pid_t leader_;
+  std::optional<Leftover> leftover_;
 };
 
 ChildEnd EndOf(const siginfo_t& end) {

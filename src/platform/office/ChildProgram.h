@@ -21,8 +21,8 @@ struct ChildProgram {
 enum class ChildEnd { Succeeded, Failed, NotStarted, TimedOut, Cancelled };
 
 /// Runs a program at low priority and waits for its end. It has a process group of its own, no input and
-/// no output. Whatever it has started ends with it. The command line has no event loop, so Qt's processes are
-/// of no use here.
+/// no output. Whatever it has started ends with it, and all of it with this program (see Leftover). The
+/// command line has no event loop, so Qt's processes are of no use here.
 ChildEnd RunChildProgram(const ChildProgram& child);
 
 /// The full path of a program in the folders of PATH; empty when there is none.

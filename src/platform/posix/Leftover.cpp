@@ -3,10 +3,12 @@
 
 #include <csignal>
 #include <cstring>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <mutex>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace quorvantis {
@@ -29,8 +31,9 @@ class LeftoverList {
   }
 
   template <class Action>
-  void ForEachPath(const Action& action) const {
-    for (const Leftover* each = first_; each != nullptr; each = each->next_) action(each->path_.c_str());
+  void ForEach(const Action& action) const {
+    for (const Leftover* each = first_; each != nullptr; each = each->next_)
+      action(each->path_.c_str(), each->group_);
   }
 
  private:
@@ -76,8 +79,23 @@ void RemoveTree(int parent, const char* name, int depth) {
   ::unlinkat(parent, name, AT_REMOVEDIR);
 }
 
+/// Waits a moment for all of them to be gone. Nobody may be there to reap the children of the leader.
+void KillGroup(pid_t leader) {
+  constexpr int kTries = 50;
+  constexpr timespec kMillisecond{0, 1'000'000};
+  ::kill(-leader, SIGKILL);
+  ::kill(leader, SIGKILL);  // it may not have come to lead a group yet
+  ::waitpid(leader, nullptr, 0);
+  for (int i = 0; i < kTries && ::kill(-leader, 0) == 0; ++i) ::nanosleep(&kMillisecond, nullptr);
+}
+
 void EndBySignal(int signal) {
-  leftovers.ForEachPath([](const char* path) { RemoveTree(AT_FDCWD, path, 0); });
+  leftovers.ForEach([](const char* path, pid_t group) {
+    if (group != 0)
+      KillGroup(group);
+    else
+      RemoveTree(AT_FDCWD, path, 0);
+  });
   std::signal(signal, SIG_DFL);
   ::raise(signal);  // is delivered when the handler returns
 }
@@ -98,6 +116,10 @@ void RemoveLeftoversOnSignals() {
 }
 
 Leftover::Leftover(const std::filesystem::path& path) : path_(path.string()) {
+  leftovers.Add(*this);
+}
+
+Leftover::Leftover(pid_t group) : group_(group) {
   leftovers.Add(*this);
 }
 

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <filesystem>
 #include <string>
+#include <sys/types.h>
 
 namespace quorvantis {
 
@@ -13,11 +14,16 @@ namespace quorvantis {
 /// be called once, by a program with one thread.
 void RemoveLeftoversOnSignals();
 
-/// A file, or a folder with its content, that a signal removes as long as this lives. Links in it are removed
-/// and not followed. Not to be copied or moved: the signal handler finds it by its place.
+/// A file, or a folder with its content, that a signal removes as long as this lives; or other programs,
+/// which it kills. What was made last goes first, so a program is gone before the folder that it writes to.
+/// Links in folders are removed and not followed. Not to be copied or moved: the signal handler finds it by
+/// its place.
 class Leftover {
  public:
   explicit Leftover(const std::filesystem::path& path);
+  /// The process group that a child leads, or is about to lead. The child must not be reaped before this
+  /// goes.
+  explicit Leftover(pid_t group);
   ~Leftover();
   Leftover(const Leftover&) = delete;
   Leftover& operator=(const Leftover&) = delete;
@@ -26,6 +32,7 @@ class Leftover {
   friend class LeftoverList;
 
   const std::string path_;
+  const pid_t group_ = 0;
   std::atomic<Leftover*> next_{nullptr};
 };
 

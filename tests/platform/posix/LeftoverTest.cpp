@@ -15,6 +15,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// A program that writes to a folder for as long as it lives.
+pid_t StartHelper(const fs::path& folder) {
+  const pid_t helper = ::fork();
+  if (helper != 0) return helper;
+  ::setsid();
+  while (true) WriteBytes(folder / "helper/file", "x");
+}
+
 /// What a command has made when a signal comes.
 [[noreturn]] void WaitForSignalWithLeftovers(const fs::path& folder, int ready) {
   RemoveLeftoversOnSignals();
@@ -24,6 +32,8 @@ namespace fs = std::filesystem;
   { const PrivateFolder gone; }
   WriteBytes(made.Path() / "TEMP/a/b/file", "x");
   fs::create_directory_symlink(folder / "kept", made.Path() / "TEMP/link");
+  const pid_t helper = StartHelper(made.Path());
+  const Leftover helperToo(helper);
   std::error_code error;
   const auto pending = PosixFiles().Replace(folder / "never.exm", error);
   if (pending && ::write(ready, "x", 1) == 1) ::pause();
