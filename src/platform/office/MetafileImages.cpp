@@ -2,6 +2,7 @@
 #include "platform/office/MetafileImages.h"
 
 #include "platform/WholeFile.h"
+#include "platform/office/FlatDocument.h"
 
 #include <algorithm>
 #include <fstream>
@@ -62,20 +63,12 @@ constexpr std::string_view kPage =
     R"(<text:p text:style-name="P@"><draw:frame draw:style-name="F" text:anchor-type="paragraph" svg:x="0mm" )"
     R"(svg:y="0mm" svg:width="@" svg:height="@"><draw:image><office:binary-data>@</office:binary-data>)"
     R"(</draw:image></draw:frame></text:p>)";
-constexpr std::string_view kDocument =
-    R"(<?xml version="1.0" encoding="UTF-8"?><office:document )"
-    R"(xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0" )"
-    R"(xmlns:style="urn:oasis:names:tc:opendocument:xmlns:style:1.0" )"
-    R"(xmlns:text="urn:oasis:names:tc:opendocument:xmlns:text:1.0" )"
-    R"(xmlns:draw="urn:oasis:names:tc:opendocument:xmlns:drawing:1.0" )"
-    R"(xmlns:fo="urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0" )"
-    R"(xmlns:svg="urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0" )"
-    R"(office:version="1.2" office:mimetype="application/vnd.oasis.opendocument.text"><office:automatic-styles>)"
-    R"(<style:style style:name="F" style:family="graphic"><style:graphic-properties style:wrap="run-through" )"
-    R"(style:vertical-pos="from-top" style:vertical-rel="paragraph" style:horizontal-pos="from-left" )"
-    R"(style:horizontal-rel="paragraph" fo:margin="0mm" fo:padding="0mm" fo:border="none"/></style:style>)"
-    R"(@</office:automatic-styles><office:master-styles>@</office:master-styles>)"
-    R"(<office:body><office:text>@</office:text></office:body></office:document>)";
+constexpr std::string_view kStyles =
+    R"(<office:automatic-styles><style:style style:name="F" style:family="graphic"><style:graphic-properties )"
+    R"(style:wrap="run-through" style:vertical-pos="from-top" style:vertical-rel="paragraph" )"
+    R"(style:horizontal-pos="from-left" style:horizontal-rel="paragraph" fo:margin="0mm" fo:padding="0mm" )"
+    R"(fo:border="none"/></style:style>@</office:automatic-styles>)"
+    R"(<office:master-styles>@</office:master-styles>)";
 
 /// The numbers of the pages are padded to one width, so the order of the names is theirs.
 std::vector<fs::path> PagesIn(const fs::path& folder) {
@@ -104,13 +97,13 @@ std::size_t MetafileImages::Add(const PictureFormat& format, std::string_view by
 }
 
 std::string MetafileImages::Document() const {
-  return Fill(kDocument, {styles_, masters_, pages_});
+  return FlatDocument(Fill(kStyles, {styles_, masters_}), pages_);
 }
 
 WordResult MetafileImages::Draw(const OfficeConverter& converter) {
   const fs::path document = folder_.Path() / "pictures.fodt";
   if (!(std::ofstream(document, std::ios::binary) << Document())) return WordResult::CannotAccess;
-  const WordResult converted = converter.Convert({document, {"OpenDocument Text Flat XML"}, "pdf"});
+  const WordResult converted = converter.Convert({document, {kFlatDocumentFilter}, "pdf"});
   if (converted != WordResult::Done) return converted;
   const WordResult drawn = converter.DrawPages(folder_.Path() / "pictures.pdf", kDotsPerInch);
   if (drawn != WordResult::Done) return drawn;

@@ -48,10 +48,11 @@ WordResult OfficeConverter::Convert(const OfficeJob& job) const {
   const PrivateFolder profile;
   WriteOfficeProfile(profile.Path());
   const fs::path result = fs::path(job.input).replace_extension(job.format);
+  const std::string format = job.format + (job.exportFilter.empty() ? "" : ":" + job.exportFilter);
   for (const std::string& filter : job.filters) {
     const WordResult run = Run(programs_.office,
                                {"-env:UserInstallation=" + AddressOf(profile.Path()), "--headless",
-                                "--norestore", "--infilter=" + filter, "--convert-to", job.format, "--outdir",
+                                "--norestore", "--infilter=" + filter, "--convert-to", format, "--outdir",
                                 job.input.parent_path().string(), job.input.string()},
                                profile.Path());
     // The exit code says success even where nothing could be read; only the file tells.

@@ -26,6 +26,7 @@ struct OfficeJob {
   std::filesystem::path input;       ///< lies in a folder of its own, under a plain name
   std::vector<std::string> filters;  ///< import filters to try, in this order
   std::string format;                ///< extension of the result
+  std::string exportFilter{};        ///< the usual one for that extension when empty
 };
 
 /// Has LibreOffice convert files, each run with a fresh profile under which documents can do nothing.
