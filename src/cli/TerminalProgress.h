@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <iosfwd>
+#include <string>
 
 namespace quorvantis::cli {
 
@@ -16,9 +17,12 @@ class TerminalProgress : public Progress {
   ~TerminalProgress() override;
 
   void Report(std::uint64_t done, std::uint64_t total) override;
+  void Wait() override;
 
  private:
   using Clock = std::chrono::steady_clock;
+
+  void Show(const std::string& line);
 
   std::ostream& stream_;
   bool enabled_;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/QtProgress.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include <algorithm>
 
@@ -11,6 +11,16 @@ namespace {
 constexpr int kPatience = 500;      // milliseconds until the bar appears
 constexpr int kPaintInterval = 50;  // and between its steps
 constexpr int kSteps = 1000;
+
+/// Without steps the bar only shows that something goes on, without a caption there is no button.
+std::unique_ptr<QProgressDialog> MakeBar(const QString& cancelCaption, int steps, QWidget* parent) {
+  auto bar = std::make_unique<QProgressDialog>(QString(), cancelCaption, 0, steps, parent);
+  bar->setWindowModality(Qt::ApplicationModal);
+  bar->setAutoClose(false);
+  bar->setAutoReset(false);
+  bar->show();
+  return bar;
+}
 
 }  // namespace
 
@@ -38,22 +48,40 @@ void QtProgress::Report(std::uint64_t done, std::uint64_t total) {
 }
 
 void QtProgress::Show(std::uint64_t done, std::uint64_t total) {
-  painting_ = true;
-  if (!bar_) {
-    bar_ = std::make_unique<QProgressDialog>(QString(), QString(), 0, kSteps, parent_);
-    bar_->setWindowModality(Qt::ApplicationModal);
-    bar_->setAutoClose(false);
-    bar_->setAutoReset(false);
-    bar_->show();
-  }
+  if (!bar_) bar_ = MakeBar(QString(), kSteps, parent_);
   const double part = static_cast<double>(std::min(done, total)) / static_cast<double>(total);
   bar_->setValue(static_cast<int>(part * kSteps));
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  Paint(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtProgress::Wait() {
+  if (painting_) return;
+  if (!waiting_) BeginWaiting();
+  Paint(QEventLoop::AllEvents);
+}
+
+/// The dialog stays when it is cancelled: it keeps all other input away until the work has ended.
+void QtProgress::BeginWaiting() {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  cancelled_ = false;
+  waiting_ = MakeBar(QProgressDialog::tr("Cancel"), 0, parent_);
+  waiting_->setObjectName("waiting");
+  disconnect(waiting_.get(), &QProgressDialog::canceled, waiting_.get(), &QProgressDialog::cancel);
+  connect(waiting_.get(), &QProgressDialog::canceled, this, [this] { cancelled_ = true; });
+  end_.start();
+}
+
+void QtProgress::Paint(QEventLoop::ProcessEventsFlags events) {
+  painting_ = true;
+  QCoreApplication::processEvents(events);
   painting_ = false;
 }
 
 void QtProgress::End() {
   end_.stop();
+  if (waiting_) QApplication::restoreOverrideCursor();
+  waiting_.reset();
+  cancelled_ = false;
   bar_.reset();
   sinceStart_.invalidate();
 }

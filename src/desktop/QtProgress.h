@@ -4,6 +4,7 @@
 #include "platform/Progress.h"
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QPointer>
 #include <QProgressDialog>
 #include <QTimer>
@@ -12,8 +13,9 @@
 
 namespace quorvantis {
 
-/// A bar over the main window for work that takes longer than half a second. While it shows, windows are
-/// painted but take no input.
+/// A bar over the main window for work that takes longer than half a second, and at once while another
+/// program is waited for. While it shows, windows are painted but take no input; only waiting can be
+/// cancelled.
 class QtProgress : public QObject, public Progress {
   Q_OBJECT
 
@@ -25,17 +27,23 @@ class QtProgress : public QObject, public Progress {
   void SetParent(QWidget* parent) { parent_ = parent; }
 
   void Report(std::uint64_t done, std::uint64_t total) override;
+  void Wait() override;
+  bool IsCancelled() override { return cancelled_; }
 
  private:
   void Show(std::uint64_t done, std::uint64_t total);
+  void Paint(QEventLoop::ProcessEventsFlags events);
+  void BeginWaiting();
   void End();
 
   QPointer<QWidget> parent_;
   std::unique_ptr<QProgressDialog> bar_;
+  std::unique_ptr<QProgressDialog> waiting_;  ///< while it is there, so is the wait cursor
   QElapsedTimer sinceStart_;
   QElapsedTimer sincePaint_;
   QTimer end_;
   bool painting_ = false;
+  bool cancelled_ = false;
 };
 
 }  // namespace quorvantis

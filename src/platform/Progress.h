@@ -14,6 +14,10 @@ class Progress {
   /// not let the user start anything else.
   virtual void Report(std::uint64_t done, std::uint64_t total) = 0;
 
+  /// Another program works, and nobody knows for how long. Called several times a second; what holds for the
+  /// implementation of Report holds here.
+  virtual void Wait() {}
+
   /// Whether the user wants the work to end without a result. Asked by work that can be ended, now and then.
   virtual bool IsCancelled() { return false; }
 };
