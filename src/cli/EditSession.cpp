@@ -2,9 +2,9 @@
 #include "cli/EditSession.h"
 
 #include "cli/CommandError.h"
-#include "platform/Texts.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "shell/CloseSequence.h"
+#include "shell/ExportCommand.h"
 
 namespace quorvantis::cli {
 namespace {
@@ -26,7 +26,9 @@ EditSession::EditSession(Console& console, const CommonOptions& options,
                          const std::filesystem::path& importRules)
     : session_(console, options),
       editor_(session_.exam, *this,
-              [this](FrameSetExam&, const std::filesystem::path& target) { Export(target); }),
+              [this](FrameSetExam& exam, const std::filesystem::path& target) {
+                ExportCommand(exam, session_.documents, nullptr).ExportWordDocument(target);
+              }),
       importAnswers_(session_.console),
       import_(editor_, session_.papers, importAnswers_,
               importRules.empty() ? FindImportRules(session_.services.applicationFolder) : importRules) {
@@ -35,10 +37,6 @@ EditSession::EditSession(Console& console, const CommonOptions& options,
 
 EditSession::~EditSession() {
   RunCloseSequence(session_.exam, nullptr);
-}
-
-void EditSession::Export(const std::filesystem::path&) {
-  session_.dialogs.ShowError(session_.services.strings.Text(text_id::kCannotExport));
 }
 
 void EditSession::Run(const EditScriptLine& line) {

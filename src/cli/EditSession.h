@@ -36,8 +36,6 @@ class EditSession : private EditorView {
   void TitleChanged() override {}
   void PostContentChanged() override {}  // delivered before the next line
 
-  void Export(const std::filesystem::path& target);
-
   ExamSession session_;
   ExamEditor editor_;
   ScriptedImport importAnswers_;

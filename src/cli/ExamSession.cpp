@@ -45,6 +45,7 @@ ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
       host_(folder_.Folder(), languageId, options.debug, {language_, dialogs, progress_, longAnswerFlags_}),
       services(host_.Services()),
       papers(host_.Papers()),
+      documents(host_.Documents()),
       exam(services) {
   exam.SetHostMode(1);
 }

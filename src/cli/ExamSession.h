@@ -64,6 +64,7 @@ class ExamSession {
  public:
   ExamServices& services;
   PaperReader& papers;
+  WordWriter& documents;
   FrameSetExam exam;
 };
 

@@ -16,6 +16,10 @@ void ScriptedDialogs::ShowWarning(std::u16string_view text) {
   console_.Complain(Utf16ToUtf8(text));
 }
 
+void ScriptedDialogs::ShowDone(std::u16string_view text) {
+  console_.Complain(Utf16ToUtf8(text));
+}
+
 bool ScriptedDialogs::AskYesNo(std::u16string_view) {
   return false;
 }

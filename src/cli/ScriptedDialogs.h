@@ -23,6 +23,7 @@ class ScriptedDialogs : public UserDialogs {
 
   void ShowError(std::u16string_view text) override;
   void ShowWarning(std::u16string_view text) override;
+  void ShowDone(std::u16string_view text) override;
   bool AskYesNo(std::u16string_view question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;

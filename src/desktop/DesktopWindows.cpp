@@ -7,8 +7,8 @@
 #include "desktop/QtProgress.h"
 #include "desktop/SecondStart.h"
 #include "host/ExamHost.h"
-#include "platform/Texts.h"
 #include "platform/posix/LinuxProcessTable.h"
+#include "shell/ExportCommand.h"
 #include "text/Utf.h"
 
 #include <QApplication>
@@ -78,11 +78,11 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   ExamHost host(application.ModuleFolder(), language.Id().value_or(kEnglish), options_.debug,
                 {language, dialogs_, progress, application.LongAnswers()});
   FrameSetExam exam(host.Services());
-  const auto exportDocument = [&](FrameSetExam&, const std::filesystem::path&) {
-    dialogs_.ShowError(language.Text(text_id::kCannotExport));
-  };
   LinuxProcessTable processes;
   OfficeControl office(host.Services(), processes);
+  const auto exportDocument = [&](FrameSetExam& document, const std::filesystem::path& target) {
+    ExportCommand(document, host.Documents(), &office).ExportWordDocument(target);
+  };
   CQuorvantisDlg window(exam, host.Pages(), host.Papers(), TakesPicture() ? nullptr : &office, exportDocument,
                         &language, application.LanguageId());
   dialogs_.SetParent(&window);

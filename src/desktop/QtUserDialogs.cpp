@@ -45,6 +45,10 @@ void QtUserDialogs::ShowWarning(std::u16string_view text) {
   Ask(QMessageBox::Warning, ToQString(text), QMessageBox::Ok, parent_);
 }
 
+void QtUserDialogs::ShowDone(std::u16string_view text) {
+  Ask(QMessageBox::Critical, ToQString(text), QMessageBox::Ok, parent_);
+}
+
 bool QtUserDialogs::AskYesNo(std::u16string_view question) {
   return Ask(QMessageBox::Warning, ToQString(question), QMessageBox::Yes | QMessageBox::No, parent_) ==
          QMessageBox::Yes;

@@ -16,6 +16,8 @@ class QtUserDialogs : public UserDialogs {
 
   void ShowError(std::u16string_view text) override;
   void ShowWarning(std::u16string_view text) override;
+  /// Deliberately with the icon of an error, as users of the program know it.
+  void ShowDone(std::u16string_view text) override;
   bool AskYesNo(std::u16string_view question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;

@@ -3,6 +3,7 @@
 
 #include "platform/ExamServices.h"
 #include "platform/office/OfficeWordReader.h"
+#include "platform/office/OfficeWordWriter.h"
 #include "platform/posix/FileRegistry.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/posix/PosixFiles.h"
@@ -36,6 +37,8 @@ class ExamHost {
   const ComposedPages& Pages() const { return pages_; }
   /// Reads papers for the Import command.
   PaperReader& Papers() { return papers_; }
+  /// Writes what the Export command makes.
+  WordWriter& Documents() { return writer_; }
 
  private:
   IconvCodePage codePage_;
@@ -47,6 +50,7 @@ class ExamHost {
   ExamServices services_;
   OfficeWordReader documents_;
   DocumentPaperReader papers_;
+  OfficeWordWriter writer_{files_};
 };
 
 }  // namespace quorvantis

@@ -131,4 +131,8 @@ constexpr int kDocumentLocked = 1144;
 constexpr int kDocumentTooLarge = 1145;
 constexpr int kDocumentTimedOut = 1146;
 
+constexpr int kExportTimedOut = 1060;
+constexpr int kExportCancelled = 1061;
+constexpr int kCannotWrite = 1062;  // "%s cannot be written: %s", with what the system says
+
 }  // namespace quorvantis::text_id

@@ -29,6 +29,9 @@ class UserDialogs {
   /// It was done, but not wholly; one OK button.
   virtual void ShowWarning(std::u16string_view text) = 0;
 
+  /// It was done; one OK button.
+  virtual void ShowDone(std::u16string_view text) = 0;
+
   /// A warning that asks whether to go on, with Yes and No; closing it is No.
   virtual bool AskYesNo(std::u16string_view question) = 0;
 

@@ -91,7 +91,9 @@ constexpr NumberedText kTexts[] = {
     {text_id::kExamEndsEarly,
      u"The exam file ends before its contents do; question %d and after are missing."},
     {text_id::kExamFilesEndEarly, u"The exam file ends before its contents do; attached files are missing."},
-    {text_id::kCannotExport, u"This version cannot write word-processor documents."},
+    {text_id::kCannotExport,
+     u"%s was not written: the word processor made no document of it. Is there room for its temporary "
+     u"files?"},
     {text_id::kAnswer, u"Ans"},
     {text_id::kPreparing, u"Preparing %s\u2026"},
     {text_id::kCannotShow, u"%s cannot be shown here."},
@@ -157,6 +159,10 @@ constexpr NumberedText kTexts[] = {
     {text_id::kDocumentLocked, u"%s: is protected by a password; save it without one first."},
     {text_id::kDocumentTooLarge, u"%s: is too large to be imported."},
     {text_id::kDocumentTimedOut, u"%s: the word processor took too long to read it and was ended."},
+    {text_id::kExportTimedOut,
+     u"%s was not written: the word processor took too long and was ended. Please try again."},
+    {text_id::kExportCancelled, u"%s was not written, because it was cancelled."},
+    {text_id::kCannotWrite, u"%s cannot be written: %s"},
 };
 
 }  // namespace

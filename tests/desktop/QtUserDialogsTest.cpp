@@ -49,6 +49,10 @@ class UserDialogsTest : public testing::Test {
       QTest::keyClick(line, Qt::Key_Return);
     });
   }
+  void CloseWithIcon(QMessageBox::Icon icon) {
+    answers_.push([icon](QWidget& dialog) { EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), icon); });
+    Press(Qt::Key_Escape);
+  }
   void Press(Qt::Key key) {
     answers_.push([key](QWidget& dialog) { QTest::keyClick(&dialog, key); });
   }
@@ -90,6 +94,11 @@ TEST_F(UserDialogsTest, OverwritingIsConfirmedUnderTheFinalName) {
   EXPECT_EQ(dialogs.ChooseFileToSave(save), old);
   EnterName(Path("old.exm"));
   EXPECT_EQ(dialogs.ChooseFileToOpen({u"Exam files, (*.exm)|*.exm|", {}, {}}), old);
+}
+
+TEST_F(UserDialogsTest, WhatWasDoneIsToldWithTheIconOfAnError) {
+  CloseWithIcon(QMessageBox::Critical);
+  dialogs.ShowDone(u"done");
 }
 
 TEST_F(UserDialogsTest, ProgressShowsAfterHalfASecondAndEndsWithTheWork) {

@@ -3,6 +3,7 @@
 
 #include "desktop/AttachmentListBox.h"
 #include "desktop/CQuorvantisDlg.h"
+#include "desktop/QtProgress.h"
 #include "desktop/QtText.h"
 #include "platform/office/OfficeWordReader.h"
 #include "platform/posix/PosixFiles.h"
@@ -28,7 +29,8 @@ class WindowTest : public testing::Test {
  protected:
   void Open() {
     std::filesystem::create_directories(world.services.applicationFolder);
-    window = std::make_unique<CQuorvantisDlg>(exam, pages, papers, office, DocumentExport());
+    window = std::make_unique<CQuorvantisDlg>(exam, pages, papers, office, exportDocument);
+    progress.SetParent(window.get());
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   }
@@ -75,6 +77,7 @@ class WindowTest : public testing::Test {
   TemporaryFolder folder;
   PosixFiles files;
   RecordingWorld world{folder.Path() / "app", files};
+  QtProgress progress;
   ComposedPages pages;
   ExamServices services{world.services.applicationFolder,
                         world.strings,
@@ -82,7 +85,7 @@ class WindowTest : public testing::Test {
                         world.codePage,
                         world.debug,
                         files,
-                        world.progress,
+                        progress,
                         world.longAnswerFlags,
                         world.ids,
                         world.registry,
@@ -91,6 +94,7 @@ class WindowTest : public testing::Test {
   OfficeWordReader documents;
   DocumentPaperReader papers{services, documents};
   OfficeControl* office = nullptr;
+  DocumentExport exportDocument;
   std::unique_ptr<CQuorvantisDlg> window;
 };
 

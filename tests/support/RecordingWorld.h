@@ -26,6 +26,7 @@ class RecordingDialogs : public UserDialogs {
  public:
   std::vector<std::u16string> errors;
   std::vector<std::u16string> warnings;
+  std::vector<std::u16string> done;
   std::vector<std::u16string> questions;
   std::deque<SaveAnswer> answers;
   std::deque<bool> yesNoAnswers;
@@ -36,6 +37,7 @@ class RecordingDialogs : public UserDialogs {
 
   void ShowError(std::u16string_view text) override { errors.emplace_back(text); }
   void ShowWarning(std::u16string_view text) override { warnings.emplace_back(text); }
+  void ShowDone(std::u16string_view text) override { done.emplace_back(text); }
   bool AskYesNo(std::u16string_view question) override {
     questions.emplace_back(question);
     if (whileAsking) whileAsking();
