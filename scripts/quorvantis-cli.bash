@@ -2,11 +2,12 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show build unpack preview print score edit languages match"
+  local commands="show build unpack preview print score export edit import languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
-      --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch)
+      --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch | \
+        --rules | --repository | --into | --after | --answer-pictures | --formulas | --marked)
         ((++i)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
@@ -18,6 +19,12 @@ _quorvantis_cli() {
     mapfile -t COMPREPLY < <(compgen -d -- "$word")
   elif [ "$previous" = --mode ]; then
     mapfile -t COMPREPLY < <(compgen -W "same custom" -- "$word")
+  elif [ "$previous" = --answer-pictures ] || [ "$previous" = --formulas ]; then
+    mapfile -t COMPREPLY < <(compgen -W "give-up ignore force" -- "$word")
+  elif [ "$previous" = --into ]; then
+    mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word")
+  elif [ "$previous" = --rules ] || [ "$previous" = --marked ] || [ "$command $previous" = "import --text" ]; then
+    mapfile -t COMPREPLY < <(compgen -f -- "$word")
   elif [[ $word == -* ]]; then
     local options="--help --app-folder --language --debug"
     [ -n "$command" ] || options+=" --version"
@@ -26,15 +33,18 @@ _quorvantis_cli() {
       preview) options+=" --student --responses" ;;
       print) options+=" --after-preview" ;;
       score) options+=" --mode --end --value" ;;
+      import) options+=" --rules --repository --into --after --answer-pictures --formulas --marked --text" ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
   elif [ -z "$command" ]; then
     mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$word")
   else
     case $command:$arguments in
-      show:0 | unpack:0 | preview:0 | print:0 | build:1 | score:[01]) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
+      show:0 | unpack:0 | preview:0 | print:0 | build:1 | score:[01] | export:0 | import:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
       unpack:1 | preview:1 | print:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
+      export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;
+      import:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|doc|docx|odt|rtf)$') ;;
       edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     esac
   fi

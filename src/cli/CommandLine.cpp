@@ -142,6 +142,16 @@ void AddScore(CLI::App& app, Arguments& arguments, Console& console) {
       [&] { Score(console, arguments.common, arguments.input, arguments.output, arguments.scoreSteps); });
 }
 
+void AddExport(CLI::App& app, Arguments& arguments, Console& console) {
+  CLI::App* command = AddCommand(app, arguments, "export", "Write an exam as a word-processor document");
+  AddPath(*command, "EXAM", arguments.input, "Exam file (.exm)");
+  AddPath(*command, "OUT", arguments.output, "Document to write: .doc, .docx or .pdf");
+  command->footer(
+      "The document has the title, the scores and the questions with their options and typed answers.\n"
+      "LibreOffice makes it, so that must be installed.");
+  command->callback([&] { Export(console, arguments.common, arguments.input, arguments.output); });
+}
+
 void AddEdit(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::App* edit = AddCommand(app, arguments, "edit", "Edit an exam by a script");
   edit->add_option("SCRIPT", arguments.input, "Script file; standard input without it")->type_name("");
@@ -264,6 +274,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddPreview(app, arguments, console);
   AddPrint(app, arguments, console);
   AddScore(app, arguments, console);
+  AddExport(app, arguments, console);
   AddEdit(app, arguments, console);
   AddLanguages(app, arguments, console);
   AddImport(app, arguments, console);

@@ -42,6 +42,12 @@ void Print(Console& console, const CommonOptions& options, const std::filesystem
 void Score(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
            const std::filesystem::path& target, const std::vector<ScoreStep>& steps);
 
+/// Writes an exam as a document for paper. What the name of `target` ends in tells the kind: ".doc", ".docx"
+/// or
+/// ".pdf".
+void Export(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
+            const std::filesystem::path& target);
+
 /// Runs an editing script, from a file or from the console.
 void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script);
 

@@ -16,13 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void RefuseToOverwrite(const fs::path& source, const fs::path& target) {
-  std::error_code ignored;
-  if (!target.empty() && fs::equivalent(source, target, ignored)) {
-    throw CommandError(target.string() + ": is a file to read; name another one to write");
-  }
-}
-
 void WriteText(const fs::path& file, std::u16string_view text, PosixFiles& files) {
   if (file.empty()) return;
   if (const auto error = SaveWholeFile(files, file, Utf16ToUtf8(text))) {

@@ -24,4 +24,11 @@ std::string ReadInput(const std::filesystem::path& file) {
   return content.str();
 }
 
+void RefuseToOverwrite(const std::filesystem::path& source, const std::filesystem::path& target) {
+  std::error_code ignored;
+  if (!target.empty() && std::filesystem::equivalent(source, target, ignored)) {
+    throw CommandError(target.string() + ": is a file to read; name another one to write");
+  }
+}
+
 }  // namespace quorvantis::cli

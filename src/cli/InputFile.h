@@ -13,4 +13,8 @@ std::ifstream OpenInput(const std::filesystem::path& file);
 /// The whole content of a file. Throws CommandError.
 std::string ReadInput(const std::filesystem::path& file);
 
+/// Throws CommandError when both are the same file: what a command reads it must not overwrite. An empty path
+/// is no file.
+void RefuseToOverwrite(const std::filesystem::path& source, const std::filesystem::path& target);
+
 }  // namespace quorvantis::cli
