@@ -29,6 +29,7 @@ class ImportWindow : public WindowTest {
     QObject::connect(&timer, &QTimer::timeout, [this] {
       auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr || next == script.size()) return;
+      if (dialog->objectName() == "importWait" && !usesWaitWindow) return;  // seen on a busy machine only
       script[next++](*dialog);
     });
     timer.start(20);
@@ -44,6 +45,7 @@ class ImportWindow : public WindowTest {
   std::filesystem::path paper;
   std::vector<std::function<void(QDialog&)>> script;
   std::size_t next = 0;
+  bool usesWaitWindow = false;
   QTimer timer;
 };
 
@@ -93,6 +95,7 @@ TEST_F(ImportWindow, ReadsTheChosenPaper) {
 
 TEST_F(ImportWindow, CanBeCancelledWhileItWorks) {
   exam.Question(1).text = u"kept";
+  usesWaitWindow = true;
   OpenWithRules();
   WriteBytes(paper, std::string(5000, 'a'));
   Click("next");
