@@ -59,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   FailedStarts failed;
   const auto match = [&pattern, &failed](std::u16string_view subject, int start) {
     int asked = 0;
-    MatchContext context{start < 0 ? -1 : 0, [&asked] { return ++asked > 20; }, &failed};
+    MatchContext context{start < 0 ? -1 : 0, [&asked] { return ++asked > 6; }, &failed};
     const MatchResult result = pattern.Match(subject, start, &context);
     CheckBounds(result, static_cast<int>(subject.size()));
     return result;
