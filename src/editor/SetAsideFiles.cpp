@@ -27,8 +27,7 @@ fs::path SetAsideFiles::PlaceOf(std::size_t index) const {
 void SetAsideFiles::SetAside(std::vector<fs::path> files) {
   Clear();
   std::ranges::sort(files);
-  const auto repeated = std::ranges::unique(files);
-  files.erase(repeated.begin(), repeated.end());
+  files.erase(std::unique(files.begin(), files.end()), files.end());
   std::error_code ignored;
   for (fs::path& file : files) {
     if (!fs::is_regular_file(fs::symlink_status(file, ignored))) continue;
