@@ -47,6 +47,7 @@ std::error_code ExamFileWriter::Write(const std::filesystem::path& file) {
   total_ = AttachedBytes(exam_);
   target_ = services_.files.Replace(file, error_);
   if (!target_) return error_;
+  if (keepsOldFile_) target_->KeepOldFile();
   WriteHeader();
   PackExamAttachments();
   for (int number = 1; number <= exam_.questionCount && !error_; ++number) WriteQuestion(number);

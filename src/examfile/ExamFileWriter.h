@@ -23,6 +23,9 @@ class ExamFileWriter {
   /// Replaces `file` once the new content is complete; after an error the old file is as it was.
   std::error_code Write(const std::filesystem::path& file);
 
+  /// The old file is to stay as a backup (see PendingFile::KeepOldFile).
+  void KeepOldFile() { keepsOldFile_ = true; }
+
  private:
   void WriteHeader();
   void WriteQuestion(int number);
@@ -36,6 +39,7 @@ class ExamFileWriter {
   std::unique_ptr<PendingFile> target_;
   std::string bytes_;  ///< composed and not yet written
   std::error_code error_;
+  bool keepsOldFile_ = false;
   std::uint64_t written_ = 0;  ///< bytes, and about how many it will be
   std::uint64_t total_ = 0;
 };

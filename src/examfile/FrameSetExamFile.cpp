@@ -15,9 +15,11 @@ void FrameSetExam::ReadExamFile(const std::filesystem::path& file) {
   ShowReadLosses(services, outcome);
 }
 
-bool FrameSetExam::WriteExamFile(const std::filesystem::path& file) {
+bool FrameSetExam::WriteExamFile(const std::filesystem::path& file, bool backup) {
   ExamServices& services = Services();
-  if (!ExamFileWriter(*this, services).Write(file)) return true;
+  ExamFileWriter writer(*this, services);
+  if (backup) writer.KeepOldFile();
+  if (!writer.Write(file)) return true;
   services.dialogs.ShowError(OpenFileError(services.strings, file));
   return false;
 }

@@ -27,8 +27,9 @@ class FrameSetExam : public ExamPaper {
   void ReadExamFile(const std::filesystem::path& file);
 
   /// Saves the exam as a current-version file, replacing `file` only when the new one is complete. False when
-  /// it could not be saved; the user has been told. Defined in examfile/.
-  bool WriteExamFile(const std::filesystem::path& file);
+  /// it could not be saved; the user has been told. With `backup` the old file stays under the name of a
+  /// backup. Defined in examfile/.
+  bool WriteExamFile(const std::filesystem::path& file, bool backup = false);
 
   /// Writes the preview: `page` holds the frames, or, when no files are attached to the exam, the questions.
   /// What cannot be written is left out silently. Defined in render/, as the four below.

@@ -9,6 +9,9 @@
 
 namespace quorvantis {
 
+/// Stands behind the name of the previous version of a file.
+inline constexpr const char* kBackupSuffix = "~";
+
 /// The new content of a file, written beside it. Destroyed without Commit, it leaves no trace.
 class PendingFile {
  public:
@@ -20,6 +23,11 @@ class PendingFile {
   /// Makes the content durable and puts it in the place of the old file in one step. On failure the old file
   /// is as it was.
   virtual std::error_code Commit() = 0;
+
+  /// Commit is to keep the old file beside the new one, under its name and kBackupSuffix, in the place of an
+  /// older one. Costs nothing, and nothing fails because of it: where the file system cannot do it in passing,
+  /// no old file is kept.
+  virtual void KeepOldFile() = 0;
 };
 
 /// What the standard file system library lacks.

@@ -104,15 +104,31 @@ class PosixPendingFile : public PendingFile {
     return error_;
   }
 
+  void KeepOldFile() override { keepsOldFile_ = true; }
+
  protected:
   virtual std::error_code Finish() = 0;
+
+  bool KeepsOldFile() const { return keepsOldFile_; }
 
   ScratchFile scratch_;
   const fs::path target_;
 
  private:
   std::error_code error_;
+  bool keepsOldFile_ = false;
 };
+
+/// Gives a file its backup name as a second one. In two steps, since a link takes the place of nothing.
+void LinkBackup(const fs::path& file) {
+  fs::path backup = file;
+  backup += kBackupSuffix;
+  const fs::path link = file.parent_path() / (".quorvantis." + std::to_string(::getpid()) + "-old.tmp");
+  ::unlink(link.c_str());
+  if (::link(file.c_str(), link.c_str()) != 0) return;
+  std::rename(link.c_str(), backup.c_str());
+  ::unlink(link.c_str());  // still there when it is the backup already, or when that cannot be replaced
+}
 
 /// The usual way: rename in one folder.
 class RenamedFile : public PosixPendingFile {
@@ -120,6 +136,7 @@ class RenamedFile : public PosixPendingFile {
 
   std::error_code Finish() override {
     if (const auto error = Sync(scratch_.Descriptor())) return error;
+    if (KeepsOldFile()) LinkBackup(target_);
     if (const auto error = scratch_.RenameTo(target_)) return error;
     SyncFolder(target_.parent_path());
     return {};
