@@ -17,14 +17,24 @@ std::u16string LowerExtension(const std::filesystem::path& path) {
   return AsciiLower(std::u16string_view(text).substr(text.rfind(u'.') + 1));  // npos + 1 is 0
 }
 
-bool ExamFileCommands::MayDiscardChanges() {
-  if (!state_.Modified()) return true;
+Parting ExamFileCommands::AskAboutChanges() {
+  if (!state_.Modified()) return Parting::Leave;
   const ExamServices& services = state_.document.Services();
   const std::u16string question =
       FillMessage(services.strings.Text(text_id::kSaveQuestion), {PathToText(state_.FileName())});
   const SaveAnswer answer = services.dialogs.AskSave(question);
   if (answer == SaveAnswer::Yes) SaveExam();
-  return answer != SaveAnswer::Cancel;
+  return answer == SaveAnswer::Cancel ? Parting::Stay
+         : answer == SaveAnswer::No   ? Parting::GiveUp
+                                      : Parting::Leave;
+}
+
+void ExamFileCommands::Leave(Parting parting) {
+  if (unsavedWork_ != nullptr) unsavedWork_->Left(parting);
+}
+
+void ExamFileCommands::Enter() {
+  if (unsavedWork_ != nullptr) unsavedWork_->Entered();
 }
 
 void ExamFileCommands::ClearDocument() {
@@ -37,15 +47,19 @@ void ExamFileCommands::ClearDocument() {
 }
 
 void ExamFileCommands::NewExam() {
-  if (!MayDiscardChanges()) return;
+  const Parting parting = AskAboutChanges();
+  if (parting == Parting::Stay) return;
+  Leave(parting);
   ++state_.examsBegun;
   StartNewExam();
 }
 
 void ExamFileCommands::StartNewExam() {
+  Leave(Parting::Leave);
   EmptyExam();
   state_.SetFileName(kUntitled);
   state_.MarkSaved();
+  Enter();
 }
 
 void ExamFileCommands::EmptyExam() {
@@ -55,14 +69,21 @@ void ExamFileCommands::EmptyExam() {
 }
 
 void ExamFileCommands::OpenExam() {
-  if (!MayDiscardChanges()) return;
+  const Parting parting = AskAboutChanges();
+  if (parting == Parting::Stay) return;
   const ExamServices& services = state_.document.Services();
   const std::u16string filter = services.strings.Text(text_id::kOpenExamFilter);
-  if (const auto file = services.dialogs.ChooseFileToOpen({filter, {}, {}})) LoadFile(*file);
+  const auto file = services.dialogs.ChooseFileToOpen({filter, {}, {}});
+  if (!file) return;
+  Leave(parting);
+  LoadFile(*file);
 }
 
 void ExamFileCommands::OpenExam(const std::filesystem::path& file) {
-  if (MayDiscardChanges()) LoadFile(file);
+  const Parting parting = AskAboutChanges();
+  if (parting == Parting::Stay) return;
+  Leave(parting);
+  LoadFile(file);
 }
 
 void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
@@ -74,6 +95,7 @@ void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
   state_.currentQuestion = 1;
   questions_.LoadCurrentQuestion();
   state_.MarkSaved();
+  Enter();
 }
 
 void ExamFileCommands::SaveExam() {
@@ -93,24 +115,26 @@ void ExamFileCommands::SaveExamAs() {
   const std::u16string extension = LowerExtension(*file);
   if (extension == u"exm") {
     questions_.StoreCurrentQuestion();
-    if (WriteTo(*file)) state_.SetFileName(*file);
+    WriteTo(*file);
   } else if (extension == u"doc") {
     questions_.StoreCurrentQuestion();
     exportDocument_(state_.document, *file);
   }
 }
 
-bool ExamFileCommands::WriteTo(const std::filesystem::path& file) {
-  const bool written = state_.document.WriteExamFile(file);
-  if (written) {
-    ++state_.saves;
-    state_.MarkSaved();
-  }
-  return written;
+void ExamFileCommands::WriteTo(const std::filesystem::path& file) {
+  if (!state_.document.WriteExamFile(file, keepsBackups_)) return;
+  ++state_.saves;
+  state_.SetFileName(file);
+  state_.MarkSaved();
+  if (unsavedWork_ != nullptr) unsavedWork_->Saved();
 }
 
 bool ExamFileCommands::ConfirmClose() {
-  return MayDiscardChanges();
+  const Parting parting = AskAboutChanges();
+  if (parting == Parting::Stay) return false;
+  Leave(parting);
+  return true;
 }
 
 }  // namespace quorvantis

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/QuestionEditor.h"
+#include "editor/UnsavedWork.h"
 
 #include <filesystem>
 #include <functional>
@@ -23,6 +24,11 @@ class ExamFileCommands {
   ExamFileCommands(EditorState& state, QuestionEditor& questions, DocumentExport exportDocument)
       : state_(state), questions_(questions), exportDocument_(std::move(exportDocument)) {}
 
+  /// From now on: who keeps what is not saved, which must outlive the commands or be taken back with null.
+  void SetUnsavedWork(UnsavedWork* unsavedWork) { unsavedWork_ = unsavedWork; }
+  /// From now on: whether saving keeps the file that it replaces as a backup.
+  void SetBackups(bool keepsBackups) { keepsBackups_ = keepsBackups; }
+
   void NewExam();
   /// The same without a question.
   void StartNewExam();
@@ -41,14 +47,18 @@ class ExamFileCommands {
   bool ConfirmClose();
 
  private:
-  bool MayDiscardChanges();
+  Parting AskAboutChanges();
+  void Leave(Parting parting);
+  void Enter();
   void ClearDocument();
   void LoadFile(const std::filesystem::path& file);
-  bool WriteTo(const std::filesystem::path& file);
+  void WriteTo(const std::filesystem::path& file);
 
   EditorState& state_;
   QuestionEditor& questions_;
   DocumentExport exportDocument_;
+  UnsavedWork* unsavedWork_ = nullptr;
+  bool keepsBackups_ = false;
 };
 
 }  // namespace quorvantis

@@ -130,6 +130,40 @@ TEST_F(ExamFileEditing, FailedSaveKeepsTheChange) {
   EXPECT_EQ(editor.state.FileName(), "UnTitle") << "the next save must not fail in the same way";
 }
 
+TEST_F(ExamFileEditing, KeepsThePreviousVersion) {
+  const fs::path file = folder / "kept.exm";
+  const fs::path backup = folder / "kept.exm~";
+  const auto save = [&](std::u16string text) {
+    Type(FormField::Text, std::move(text));
+    editor.files.SaveExam();
+    return ReadBytes(file);
+  };
+  SaveAs(file);
+  save(u"without backups");
+  EXPECT_FALSE(fs::exists(backup));
+  editor.files.SetBackups(true);
+  std::string previous = ReadBytes(file);
+  for (const char16_t* text : {u"one", u"two", u"two"}) {
+    const std::string saved = save(text);
+    EXPECT_EQ(ReadBytes(backup), previous);
+    previous = saved;
+  }
+  fs::create_symlink(file, folder / "link.exm");
+  editor.state.SetFileName(folder / "link.exm");
+  save(u"through a link");
+  EXPECT_EQ(ReadBytes(backup), previous);
+  EXPECT_TRUE(fs::is_symlink(folder / "link.exm"));
+  fs::remove(backup);
+  fs::create_directories(backup / "not empty");
+  previous = ReadBytes(file);
+  EXPECT_NE(save(u"nowhere to keep it"), previous) << "saved all the same";
+  EXPECT_TRUE(world.dialogs.errors.empty());
+  SaveAs(folder / "new.exm");
+  EXPECT_FALSE(fs::exists(folder / "new.exm~"));
+  const auto isHidden = [](const fs::directory_entry& e) { return e.path().filename().string()[0] == '.'; };
+  EXPECT_TRUE(std::none_of(fs::directory_iterator(folder.Path()), {}, isHidden)) << "nothing is left behind";
+}
+
 TEST_F(ExamFileEditing, GoesOnWithWhatAFileHolds) {
   const fs::path file = MakeExamWithFiles();
   fs::resize_file(file, fs::file_size(file) - 100);

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "recovery/RecoveredExam.h"
+
+#include "editor/WorkCopies.h"
+#include "examfile/AttachmentName.h"
+#include "examfile/WorkFolder.h"
+#include "model/LongAnswerFlags.h"
+#include "platform/ExamServices.h"
+#include "platform/WholeFile.h"
+#include "recovery/ExamSnapshot.h"
+#include "recovery/RecoveryFolder.h"
+#include "text/PathText.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+
+namespace quorvantis {
+namespace fs = std::filesystem;
+namespace {
+
+constexpr std::size_t kLargestFile = std::size_t{256} * 1024 * 1024;
+
+std::optional<RecoveryFile> ReadRecoveryFile(const fs::path& folder) {
+  const auto bytes = ReadWholeFile(RecoveryFilePath(folder), kLargestFile);
+  return bytes ? ParseRecoveryFile(*bytes) : std::nullopt;
+}
+
+std::optional<RecoveryCopy> ReadCopy(const fs::path& folder, ExamServices& services) {
+  const auto file = ReadRecoveryFile(folder);
+  if (!file) return std::nullopt;
+  FrameSetExam exam(services);
+  const auto place = ReadSnapshot(file->content, exam);
+  if (!place) return std::nullopt;
+  return RecoveryCopy{folder, file->time, TextToPath(place->fileName), exam.title, exam.questionCount};
+}
+
+bool IsNumber(const std::string& name) {
+  return std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+std::vector<fs::path> FoldersOf(const fs::path& root) {
+  std::vector<fs::path> folders;
+  std::error_code error;
+  for (fs::directory_iterator it(root, error), end; !error && it != end; it.increment(error)) {
+    std::error_code ignored;
+    const bool isFolder = fs::is_directory(it->symlink_status(ignored));
+    if (isFolder && IsNumber(it->path().filename().string())) folders.push_back(it->path());
+  }
+  return folders;
+}
+
+/// Makes work copies of the links of a recovery copy, and puts their paths in the place of the old ones. An
+/// old path is never used as it is: it may name any file of this machine.
+class Attachments {
+ public:
+  Attachments(const FrameSetExam& exam, const fs::path& folder, const RecoveryLinks& links)
+      : links_(links), freeNames_(WorkFolder(exam, exam.Services().applicationFolder)) {
+    for (const auto& [path, number] : links) {
+      const fs::path copy = freeNames_.PathFor(FileNameOf(path));
+      if (LinkOrCopy(RecoveryLinkPath(folder, number), copy)) copies_[path] = PathToText(copy);
+    }
+  }
+
+  void Restore(std::u16string& path, const std::u16string& name) {
+    if (path.empty()) return;
+    const auto known = copies_.find(path);
+    if (known == copies_.end() && links_.contains(path)) lost.push_back(name);
+    path = known != copies_.end() ? known->second : PathToText(freeNames_.PathFor(FileNameOf(path)));
+  }
+
+  std::vector<std::u16string> lost;  ///< names of files whose link is not there
+
+ private:
+  const RecoveryLinks& links_;
+  FreeNames freeNames_;
+  std::map<std::u16string, std::u16string> copies_;  ///< by their old paths
+};
+
+/// Answers that are long are saved long, however they came into the exam.
+void SetLongAnswerFlags(const FrameSetExam& exam) {
+  for (int n = 1; n <= kMaxQuestions; ++n) {
+    if (exam.Question(n).answerText.size() > kMaxShortAnswer) exam.Services().longAnswerFlags.Set(n);
+  }
+}
+
+std::vector<std::u16string> RestoreAttachments(FrameSetExam& exam, const fs::path& folder,
+                                               const RecoveryLinks& links) {
+  PrepareWorkFolder(exam, exam.Services().applicationFolder, {});
+  Attachments attachments(exam, folder, links);
+  for (std::size_t i = 0; i < kMaxAttachments; ++i) {
+    const auto& names = exam.displayNamesAmongPaths;
+    std::u16string& path = exam.examAttachmentPaths[i];
+    const bool isPath = std::ranges::find(names, path) == names.end();
+    if (isPath) attachments.Restore(path, exam.examAttachmentNames[i]);
+    for (int n = 1; n <= kMaxQuestions; ++n) {
+      ExamQuestion& question = exam.Question(n);
+      attachments.Restore(question.attachmentPaths[i], question.attachmentNames[i]);
+    }
+  }
+  exam.examFilesUnpacked = exam.questionFilesUnpacked = 1;
+  RecordCopies(exam);
+  return std::move(attachments.lost);
+}
+
+}  // namespace
+
+FoundRecoveryCopies FindRecoveryCopies(ExamServices& services) {
+  FoundRecoveryCopies found;
+  for (const fs::path& folder : FoldersOf(RecoveryRoot(services.applicationFolder))) {
+    std::error_code ignored;
+    if (!fs::exists(fs::symlink_status(RecoveryFilePath(folder), ignored))) {
+      RemoveRecoveryCopy(folder);
+    } else if (const auto copy = ReadCopy(folder, services)) {
+      found.copies.push_back(*copy);
+    } else {
+      found.damaged.push_back(folder);
+    }
+  }
+  std::ranges::sort(found.copies, std::greater(), &RecoveryCopy::time);
+  return found;
+}
+
+fs::path SetAside(const fs::path& damaged) {
+  for (int number = 0;; ++number) {
+    fs::path aside = damaged;
+    aside += "-damaged" + (number == 0 ? "" : "-" + std::to_string(number));
+    std::error_code error;
+    if (fs::exists(fs::symlink_status(aside, error))) continue;
+    fs::rename(damaged, aside, error);
+    return error ? damaged : aside;
+  }
+}
+
+std::optional<std::vector<std::u16string>> RestoreExam(const fs::path& copy, ExamEditor& editor) {
+  EditorState& state = editor.state;
+  FrameSetExam& exam = state.document;
+  editor.files.EmptyExam();
+  const auto file = ReadRecoveryFile(copy);
+  const auto place = file ? ReadSnapshot(file->content, exam) : std::nullopt;
+  if (!place) {
+    editor.files.EmptyExam();
+    return std::nullopt;
+  }
+  auto lost = RestoreAttachments(exam, copy, file->links);
+  SetLongAnswerFlags(exam);
+  state.SetFileName(TextToPath(place->fileName));
+  state.currentQuestion = place->currentQuestion;
+  editor.questions.LoadCurrentQuestion();
+  state.MarkModified();
+  return lost;
+}
+
+}  // namespace quorvantis

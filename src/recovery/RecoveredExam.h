@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// The recovery copies that editors have left, and how one becomes the exam of an editor again.
+#pragma once
+
+#include "editor/ExamEditor.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// A recovery copy that was found, as it is offered to the user.
+struct RecoveryCopy {
+  std::filesystem::path folder;
+  std::int64_t time = 0;           ///< when it was made: seconds since 1970, UTC
+  std::filesystem::path fileName;  ///< of the exam, or kUntitled
+  std::u16string title;
+  int questions = 0;
+};
+
+struct FoundRecoveryCopies {
+  std::vector<RecoveryCopy> copies;            ///< the newest first
+  std::vector<std::filesystem::path> damaged;  ///< folders that no exam can be read from
+};
+
+/// Looks for copies in the application folder. There must be no other editor on that folder. Folders in which
+/// a copy was only begun are removed.
+FoundRecoveryCopies FindRecoveryCopies(ExamServices& services);
+
+/// Takes a damaged copy out of the way of later searches, and gives the folder where it is now.
+std::filesystem::path SetAside(const std::filesystem::path& damaged);
+
+/// Puts a copy into the editor, which must have nothing that is to be kept: the exam is modified then, under
+/// its own file name, its attached files are work copies again, and the question that was shown is shown.
+/// Gives the display names of attached files that the copy has lost. Nothing when the copy cannot be read;
+/// the editor then has an empty exam. The copy itself stays as it is.
+std::optional<std::vector<std::u16string>> RestoreExam(const std::filesystem::path& copy, ExamEditor& editor);
+
+}  // namespace quorvantis

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "recovery/RecoveryFolder.h"
+
+#include "examfile/WorkFolder.h"
+#include "platform/WholeFile.h"
+#include "text/PathText.h"
+
+#include <algorithm>
+#include <chrono>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quorvantis {
+namespace fs = std::filesystem;
+namespace {
+
+std::int64_t SecondsNow() {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::seconds>(now).count();
+}
+
+bool IsRegular(const fs::path& file) {
+  std::error_code ignored;
+  return fs::is_regular_file(fs::symlink_status(file, ignored));
+}
+
+/// A copy that is no link is known by the time that it was given.
+bool IsCopyOf(const fs::path& copy, const fs::path& source) {
+  std::error_code error;
+  if (fs::equivalent(copy, source, error)) return true;
+  const auto size = fs::file_size(source, error);
+  return !error && fs::file_size(copy, error) == size &&
+         fs::last_write_time(copy, error) == fs::last_write_time(source, error) && !error;
+}
+
+std::vector<fs::path> EntriesOf(const fs::path& folder) {
+  std::vector<fs::path> entries;
+  std::error_code error;
+  for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+    entries.push_back(it->path());
+  }
+  return entries;
+}
+
+}  // namespace
+
+fs::path RecoveryRoot(const fs::path& applicationFolder) {
+  return applicationFolder / "recovery";
+}
+
+fs::path RecoveryFilePath(const fs::path& folder) {
+  return folder / "exam";
+}
+
+fs::path RecoveryLinkPath(const fs::path& folder, int number) {
+  return folder / ("file-" + std::to_string(number));
+}
+
+bool LinkOrCopy(const fs::path& source, const fs::path& copy) {
+  if (!IsRegular(source)) return false;
+  std::error_code error;
+  fs::create_hard_link(source, copy, error);
+  if (!error) return true;
+  error.clear();
+  fs::copy_file(source, copy, error);
+  const auto time = fs::last_write_time(source, error);
+  if (!error) fs::last_write_time(copy, time, error);
+  if (!error) return true;
+  std::error_code ignored;
+  fs::remove(copy, ignored);
+  return false;
+}
+
+/// The file goes first: what a sudden end leaves is no copy then.
+void RemoveRecoveryCopy(const fs::path& folder) {
+  std::error_code ignored;
+  fs::remove(RecoveryFilePath(folder), ignored);
+  RemoveFolder(folder);
+  RemoveEmptyFolder(folder.parent_path());
+}
+
+std::error_code RecoveryFolder::MakeFolder() {
+  if (Exists()) return {};
+  std::error_code error;
+  fs::create_directories(root_, error);
+  for (int number = 1; !error; ++number) {
+    const fs::path folder = root_ / std::to_string(number);
+    if (fs::create_directory(folder, error)) {
+      folder_ = folder;
+      return {};
+    }
+    if (error == std::errc::file_exists) error.clear();
+  }
+  return error;
+}
+
+/// The number of the link to a work copy; nothing when there is neither. A link outlives its work copy.
+std::optional<int> RecoveryFolder::Link(const std::u16string& path) {
+  const fs::path source = TextToPath(path);
+  const auto known = links_.find(path);
+  if (known != links_.end()) {
+    const fs::path link = RecoveryLinkPath(folder_, known->second);
+    if (!IsRegular(source) || IsCopyOf(link, source)) return known->second;
+  }
+  do ++lastLink_;
+  while (fs::exists(fs::symlink_status(RecoveryLinkPath(folder_, lastLink_))));
+  return LinkOrCopy(source, RecoveryLinkPath(folder_, lastLink_)) ? std::optional(lastLink_) : std::nullopt;
+}
+
+std::error_code RecoveryFolder::Write(const ExamSnapshot& snapshot) {
+  if (const auto error = MakeFolder()) return error;
+  RecoveryFile file{SecondsNow(), {}, snapshot.content};
+  for (const std::u16string& path : snapshot.files) {
+    if (file.links.contains(path)) continue;
+    if (const auto number = Link(path)) file.links[path] = *number;
+  }
+  const std::string bytes = ComposeRecoveryFile(file);
+  if (const auto error = SaveWholeFile(files_, RecoveryFilePath(folder_), bytes)) return error;
+  const bool linksChanged = file.links != links_;
+  links_ = std::move(file.links);
+  if (linksChanged || !tidy_) RemoveUnused();
+  tidy_ = true;
+  return {};
+}
+
+/// Removes links of former copies, and what a process that was killed left half written.
+void RecoveryFolder::RemoveUnused() const {
+  std::set<fs::path> used{RecoveryFilePath(folder_)};
+  for (const auto& [path, number] : links_) used.insert(RecoveryLinkPath(folder_, number));
+  for (const fs::path& entry : EntriesOf(folder_)) {
+    std::error_code ignored;
+    if (!used.contains(entry)) fs::remove(entry, ignored);
+  }
+}
+
+void RecoveryFolder::Remove() {
+  if (Exists()) RemoveRecoveryCopy(folder_);
+  Release();
+}
+
+void RecoveryFolder::Adopt(fs::path folder) {
+  folder_ = std::move(folder);
+  links_.clear();
+  lastLink_ = 0;
+  tidy_ = false;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recovery/ExamSnapshot.h"
+#include "recovery/RecoveryFile.h"
+
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+namespace quorvantis {
+
+class Files;
+
+/// The folder of all recovery copies.
+std::filesystem::path RecoveryRoot(const std::filesystem::path& applicationFolder);
+
+/// The file of a recovery copy. A folder without it is none.
+std::filesystem::path RecoveryFilePath(const std::filesystem::path& folder);
+
+/// The link with this number in a recovery copy.
+std::filesystem::path RecoveryLinkPath(const std::filesystem::path& folder, int number);
+
+/// Gives `copy` the file `source` as well, without copying it where the file system can. False when there is
+/// no such file or no room.
+bool LinkOrCopy(const std::filesystem::path& source, const std::filesystem::path& copy);
+
+/// Removes a recovery copy, and the folder of all copies if it was the last one.
+void RemoveRecoveryCopy(const std::filesystem::path& folder);
+
+/// The recovery copy of one editor: a folder with the recovery file and a link to each work copy. Whenever
+/// the process ends, the folder holds one complete copy, the old one or the new one: links are made before
+/// the file that names them takes the place of the old one, and go after it.
+class RecoveryFolder {
+ public:
+  /// `root` is that of all copies; nothing is made before there is something to write. `files` must outlive
+  /// this.
+  RecoveryFolder(Files& files, std::filesystem::path root) : files_(files), root_(std::move(root)) {}
+
+  /// Is there a copy?
+  bool Exists() const { return !folder_.empty(); }
+
+  /// Puts a new copy in the place of the old one. After an error the old one is still there.
+  std::error_code Write(const ExamSnapshot& snapshot);
+
+  /// There is to be no copy any more.
+  void Remove();
+
+  /// The copy stays for somebody else; the next one gets a folder of its own.
+  void Release() { Adopt({}); }
+
+  /// From now on this copy is the one to replace or remove.
+  void Adopt(std::filesystem::path folder);
+
+ private:
+  std::error_code MakeFolder();
+  std::optional<int> Link(const std::u16string& path);
+  void RemoveUnused() const;
+
+  Files& files_;
+  std::filesystem::path root_;
+  std::filesystem::path folder_;  ///< empty as long as there is none
+  RecoveryLinks links_;           ///< of the copy in the folder
+  int lastLink_ = 0;
+  bool tidy_ = false;  ///< nothing but the copy is in the folder
+};
+
+}  // namespace quorvantis

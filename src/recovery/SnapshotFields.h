@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// The visitors that read and write snapshots. They walk the fields of exam files, but as values without
+// widths: nothing is cut, and every number and unit comes back as it was. Bytes are in the machine's own
+// order, since a recovery copy does not travel.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+class SnapshotWriter {
+ public:
+  explicit SnapshotWriter(std::string& bytes) : bytes_(bytes) {}
+
+  void Text(std::u16string_view text, std::size_t = 0) {
+    Raw(static_cast<std::uint32_t>(text.size()));
+    bytes_.append(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t));
+  }
+  template <class Integer>
+  void Number(const Integer& number, std::size_t = 0) {
+    Raw(static_cast<std::int64_t>(number));
+  }
+  void Score(float score) { Raw(score); }
+  void Reserved(std::size_t) {}
+
+ private:
+  template <class Value>
+  void Raw(const Value& value) {
+    bytes_.append(reinterpret_cast<const char*>(&value), sizeof value);
+  }
+
+  std::string& bytes_;
+};
+
+/// Takes fields from bytes of any origin. A field that is not whole stays as it is, and so does every later
+/// one.
+class SnapshotReader {
+ public:
+  explicit SnapshotReader(std::string_view bytes) : rest_(bytes) {}
+
+  void Text(std::u16string& text, std::size_t = 0) {
+    std::uint32_t units = 0;
+    Raw(units);
+    const std::size_t size = std::size_t{units} * sizeof(char16_t);
+    if (!Takes(size)) return;
+    text.resize(units);
+    std::memcpy(text.data(), rest_.data(), size);
+    rest_.remove_prefix(size);
+  }
+  template <class Integer>
+  void Number(Integer& number, std::size_t = 0) {
+    auto value = static_cast<std::int64_t>(number);
+    Raw(value);
+    number = static_cast<Integer>(value);
+  }
+  void Score(float& score) { Raw(score); }
+  void Reserved(std::size_t) {}
+
+  bool Failed() const { return failed_; }
+  std::string_view Rest() const { return rest_; }
+
+ private:
+  bool Takes(std::size_t size) {
+    failed_ = failed_ || size > rest_.size();
+    return !failed_;
+  }
+  template <class Value>
+  void Raw(Value& value) {
+    if (!Takes(sizeof value)) return;
+    std::memcpy(&value, rest_.data(), sizeof value);
+    rest_.remove_prefix(sizeof value);
+  }
+
+  std::string_view rest_;
+  bool failed_ = false;
+};
+
+}  // namespace quorvantis
