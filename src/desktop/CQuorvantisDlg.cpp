@@ -7,15 +7,18 @@
 #include "desktop/DroppedFiles.h"
 #include "desktop/FittedCaption.h"
 #include "desktop/QtText.h"
+#include "desktop/RecoveryQuestion.h"
 #include "desktop/WindowSize.h"
 #include "platform/DebugOutput.h"
 #include "platform/ExamServices.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
 #include "platform/posix/ApplicationFolder.h"
+#include "shell/BackupSetting.h"
 #include "shell/CloseSequence.h"
 #include "shell/PreviewCommand.h"
 #include "shell/PrintCommand.h"
+#include "shell/RecoverCommand.h"
 #include "shell/ScoreSetupCommand.h"
 #include "text/MessageText.h"
 
@@ -33,7 +36,8 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kHighestLine = 18;  // of a font: one-line fields are 20 pixels high
+constexpr int kBetweenLooks = 1000;  // milliseconds; a change is on the disk within two seconds
+constexpr int kHighestLine = 18;     // of a font: one-line fields are 20 pixels high
 
 QuestionArea* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
   auto* area = new QuestionArea(ToQString(strings.Text(text_id::kEditArea)), parent);
@@ -87,6 +91,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, P
       office_(office),
       library_(library),
       editor_(exam, *this, std::move(exportDocument)),
+      recovery_(editor_),
       languageId_(languageId),
       previews_(SetUpGateway(exam, pages), *this),
       importWindows_(exam.Services(), library, *this),
@@ -114,7 +119,11 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, P
   connect(printAgain_, &QPushButton::clicked, this, &CQuorvantisDlg::Print);
   SetFirstSize(*this);
   OfferImport();
+  editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
   editor_.questions.LoadCurrentQuestion();
+  recovery_.Entered();
+  connect(&recoveryTimer_, &QTimer::timeout, this, [this] { recovery_.Look(); });
+  recoveryTimer_.start(kBetweenLooks);
   TitleChanged();
   question_.text->setFocus();
 }
@@ -122,7 +131,18 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, P
 CQuorvantisDlg::~CQuorvantisDlg() {
   // The controls speak to the editor until they are gone; the base class would delete them after it.
   qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+  recovery_.Left(Parting::Leave);    // while there are work copies to keep
   RunCloseSequence(exam_, office_);  // the preview window goes after it, with the members
+}
+
+bool CQuorvantisDlg::OfferRecovery() {
+  RecoveryQuestion question(exam_.Services().strings, this);
+  return RecoverCommand(editor_, recovery_, question).Run();
+}
+
+bool CQuorvantisDlg::Shows(const std::filesystem::path& file) const {
+  std::error_code ignored;
+  return std::filesystem::equivalent(editor_.state.FileName(), file, ignored);
 }
 
 void CQuorvantisDlg::PrepareOffice() {

@@ -11,12 +11,14 @@
 #include "desktop/WindowLayout.h"
 #include "editor/ExamEditor.h"
 #include "preview/PreviewWindows.h"
+#include "recovery/RecoveryKeeper.h"
 #include "scoring/SetupOwner.h"
 #include "shell/CodePageChoice.h"
 #include "shell/ImportCommand.h"
 #include "shell/OfficeControl.h"
 
 #include <QPushButton>
+#include <QTimer>
 #include <QUrl>
 #include <QWidget>
 
@@ -26,7 +28,8 @@ namespace quorvantis {
 
 /// The main window. It binds the controls to the editor, which has all the rules; the window only shows what
 /// the editor tells. Escape ends it without a question, closing it asks about unsaved changes. When the
-/// window goes, so do the work copies of attached files.
+/// window goes, so do the work copies of attached files. As long as something is not saved, there is a
+/// recovery copy of it.
 class CQuorvantisDlg final : public QWidget, private EditorView, private PreviewOwner, private SetupOwner {
   Q_OBJECT
 
@@ -43,6 +46,16 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
 
   /// Opens an exam file, a full path, as the Open command does, without a file dialog.
   void OpenExam(const std::filesystem::path& file) { editor_.files.OpenExam(file); }
+
+  /// Offers what earlier runs did not save; to be called before anything else is done in the window. True
+  /// when an exam has been restored.
+  bool OfferRecovery();
+
+  /// The exam in the window is that of `file`.
+  bool Shows(const std::filesystem::path& file) const;
+
+  /// Brings the recovery copy up to date.
+  void KeepUnsavedWork() { recovery_.LookAndWait(); }
 
   /// Starts the browser, so that the first preview appears at once. Takes a moment: call it once the window
   /// has been painted.
@@ -90,6 +103,8 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   OfficeControl* office_;
   const LanguageLibrary* library_;
   ExamEditor editor_;
+  RecoveryKeeper recovery_;
+  QTimer recoveryTimer_;
   const int languageId_;
   PreviewWindows previews_;
   ImportWindows importWindows_;

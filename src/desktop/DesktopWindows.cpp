@@ -2,6 +2,7 @@
 #include "desktop/DesktopWindows.h"
 
 #include "desktop/CQuorvantisDlg.h"
+#include "desktop/EndingSignals.h"
 #include "desktop/LanguageDlg.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtProgress.h"
@@ -72,6 +73,13 @@ bool DesktopWindows::ChooseLanguage(LanguageChoice& choice, const LanguageInUse&
   return TakesPicture() || LanguageDlg(choice, language).exec() == QDialog::Accepted;
 }
 
+/// An exam that was restored is not opened over itself.
+void DesktopWindows::Begin(CQuorvantisDlg& window) {
+  const bool restored = !TakesPicture() && window.OfferRecovery();
+  const std::filesystem::path& exam = options_.exam;
+  if (!exam.empty() && !(restored && window.Shows(exam))) window.OpenExam(exam);
+}
+
 int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   const LanguageInUse& language = application.Language();
   QtProgress progress;
@@ -93,7 +101,12 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   if (TakesPicture()) {  // before opening: a message must not keep it from being taken
     QTimer::singleShot(kUntilPainted, &window, [&] { SaveScreenshot(window, options_.screenshot); });
   }
-  if (!options_.exam.empty()) window.OpenExam(options_.exam);
+  const EndingSignals endings;
+  QObject::connect(&endings, &EndingSignals::Arrived, &window, [&window] {
+    window.KeepUnsavedWork();
+    QCoreApplication::exit();  // leaves dialogs, too
+  });
+  QTimer::singleShot(0, &window, [&] { Begin(window); });  // in the event loop, which a signal must find
   if (!TakesPicture()) QTimer::singleShot(kUntilPainted, &window, [&] { window.WarmBrowser(); });
   return QApplication::exec();
 }

@@ -8,6 +8,8 @@
 
 namespace quorvantis {
 
+class CQuorvantisDlg;
+
 /// The windows of a run. A run that only takes a picture of the main window shows no other and asks nothing.
 class DesktopWindows : public ApplicationWindows {
  public:
@@ -20,6 +22,7 @@ class DesktopWindows : public ApplicationWindows {
   int RunMainWindow(CQuorvantisApp& application) override;
 
  private:
+  void Begin(CQuorvantisDlg& window);
   bool TakesPicture() const { return !options_.screenshot.isEmpty(); }
 
   const CommandLine& options_;

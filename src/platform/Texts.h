@@ -93,6 +93,12 @@ constexpr int kIsRightAnswer = 1015;   // "%s is a right answer", said by screen
 constexpr int kTotalScore = 1030;   // "Total score: %s"
 constexpr int kNoQuestions = 1031;  // "The exam has no questions yet."
 
+constexpr int kRecoveryQuestion = 1040;  // of title, number of questions, file and time
+constexpr int kRestore = 1041;           // its answers
+constexpr int kDiscard = 1042;
+constexpr int kLater = 1043;
+constexpr int kRecoveryDamaged = 1044;    // "… has been put aside: %s"
+constexpr int kRecoveryFilesLost = 1045;  // names of attached files
 // Of import.
 constexpr int kQuestionsRead = 1100;
 constexpr int kSlotsFilled = 1101;
