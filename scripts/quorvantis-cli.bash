@@ -2,7 +2,7 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show build unpack preview print score export edit import languages match"
+  local commands="show build unpack preview print score export edit recover import languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
@@ -34,13 +34,14 @@ _quorvantis_cli() {
       print) options+=" --after-preview" ;;
       score) options+=" --mode --end --value" ;;
       import) options+=" --rules --repository --into --after --answer-pictures --formulas --marked --text" ;;
+      edit) options+=" --recovery" ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
   elif [ -z "$command" ]; then
     mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$word")
   else
     case $command:$arguments in
-      show:0 | unpack:0 | preview:0 | print:0 | build:1 | score:[01] | export:0 | import:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
+      show:0 | unpack:0 | preview:0 | print:0 | build:1 | score:[01] | export:0 | recover:1 | import:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
       unpack:1 | preview:1 | print:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;

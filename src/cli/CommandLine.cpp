@@ -24,6 +24,8 @@ struct Arguments {
   std::filesystem::path output;
   bool json = false;
   bool afterPreview = false;
+  bool keepsRecovery = false;
+  std::string recoveryCopy;
   std::optional<std::string> student;
   std::optional<std::filesystem::path> responses;
   ImportRequest import;
@@ -155,12 +157,29 @@ void AddExport(CLI::App& app, Arguments& arguments, Console& console) {
 void AddEdit(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::App* edit = AddCommand(app, arguments, "edit", "Edit an exam by a script");
   edit->add_option("SCRIPT", arguments.input, "Script file; standard input without it")->type_name("");
+  edit->add_flag("--recovery", arguments.keepsRecovery,
+                 "After each line, keep a copy of what is not saved in the application folder");
   edit->footer("One command a line, # begins a comment; a text with blanks or escapes is a JSON string:\n" +
                EditCommandHelp());
   edit->callback([&] {
     const bool named = !arguments.input.empty();
-    Edit(console, arguments.common, named ? std::optional(arguments.input) : std::nullopt);
+    Edit(console, arguments.common, named ? std::optional(arguments.input) : std::nullopt,
+         arguments.keepsRecovery);
   });
+}
+
+void AddRecover(CLI::App& app, Arguments& arguments, Console& console) {
+  CLI::App* recover = AddCommand(app, arguments, "recover", "List or save exams that an editor did not save");
+  CLI::Option* copy =
+      recover->add_option("COPY", arguments.recoveryCopy, "Copy to save, as listed")->type_name("");
+  CLI::Option* target =
+      recover->add_option("OUT", arguments.output, "Exam file to write; the copy stays")->type_name("");
+  copy->needs(target);
+  recover->footer(
+      "Prints a line for each: name, time, number of questions, file and title, with tabs between them. "
+      "Without\n"
+      "--app-folder, the folder is that of the window.");
+  recover->callback([&] { Recover(console, arguments.common, arguments.recoveryCopy, arguments.output); });
 }
 
 void AddLanguages(CLI::App& app, Arguments& arguments, Console& console) {
@@ -276,6 +295,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddScore(app, arguments, console);
   AddExport(app, arguments, console);
   AddEdit(app, arguments, console);
+  AddRecover(app, arguments, console);
   AddLanguages(app, arguments, console);
   AddImport(app, arguments, console);
   AddMatch(app, arguments, console);

@@ -48,8 +48,15 @@ void Score(Console& console, const CommonOptions& options, const std::filesystem
 void Export(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
             const std::filesystem::path& target);
 
-/// Runs an editing script, from a file or from the console.
-void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script);
+/// Runs an editing script, from a file or from the console. With `keepsRecovery` there is a recovery copy in
+/// the application folder after each line that leaves something unsaved.
+void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script,
+          bool keepsRecovery);
+
+/// Lists the recovery copies in the application folder, or, when `copy` is the name of one, saves its exam as
+/// `target`. The copy stays.
+void Recover(Console& console, CommonOptions options, const std::string& copy,
+             const std::filesystem::path& target);
 
 /// Lists the language libraries that there are.
 void ListLanguages(Console& console, const CommonOptions& options);

@@ -31,11 +31,12 @@ void RunScript(EditSession& session, std::istream& script, const std::string& na
 
 }  // namespace
 
-void Edit(Console& console, const CommonOptions& options,
-          const std::optional<std::filesystem::path>& script) {
+void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script,
+          bool keepsRecovery) {
   std::ifstream file;
   if (script) file = OpenInput(*script);
   EditSession session(console, options);
+  if (keepsRecovery) session.KeepRecovery();
   RunScript(session, script ? file : console.in, script ? script->string() : "standard input");
 }
 

@@ -3,6 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "platform/posix/ApplicationFolder.h"
+#include "shell/BackupSetting.h"
 #include "shell/CloseSequence.h"
 #include "shell/ExportCommand.h"
 
@@ -32,11 +33,18 @@ EditSession::EditSession(Console& console, const CommonOptions& options,
       importAnswers_(session_.console),
       import_(editor_, session_.papers, importAnswers_,
               importRules.empty() ? FindImportRules(session_.services.applicationFolder) : importRules) {
+  editor_.files.SetBackups(KeepsBackups(session_.services.applicationFolder));
   editor_.questions.LoadCurrentQuestion();
 }
 
 EditSession::~EditSession() {
+  if (recovery_) recovery_->Left(Parting::Leave);
   RunCloseSequence(session_.exam, nullptr);
+}
+
+void EditSession::KeepRecovery() {
+  recovery_.emplace(editor_);
+  recovery_->Entered();
 }
 
 void EditSession::Run(const EditScriptLine& line) {
@@ -52,6 +60,7 @@ void EditSession::Run(const EditScriptLine& line) {
   if (closed_ && line.command != "state") throw CommandError("the exam is closed");
   const int errors = session_.dialogs.ErrorCount();
   command->run(*this, line.arguments);
+  if (recovery_) recovery_->LookAndWait();
   if (session_.dialogs.ErrorCount() > errors) throw CommandError(line.command + " failed");
 }
 

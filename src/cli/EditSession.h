@@ -5,6 +5,8 @@
 #include "cli/ExamSession.h"
 #include "cli/ScriptedImport.h"
 #include "editor/ExamEditor.h"
+#include "recovery/RecoveryKeeper.h"
+#include "shell/TextPaperReader.h"
 
 namespace quorvantis::cli {
 
@@ -16,6 +18,9 @@ class EditSession : private EditorView {
   EditSession(Console& console, const CommonOptions& options, const std::filesystem::path& importRules = {});
   /// Removes the work copies, as the window does when it ends.
   ~EditSession() override;
+
+  /// From now on each line leaves a recovery copy of what is not saved.
+  void KeepRecovery();
 
   /// Runs one line. Throws CommandError when its command is unknown, has wrong arguments or fails.
   void Run(const EditScriptLine& line);
@@ -40,6 +45,7 @@ class EditSession : private EditorView {
   ExamEditor editor_;
   ScriptedImport importAnswers_;
   ImportCommand import_;
+  std::optional<RecoveryKeeper> recovery_;
   bool closed_ = false;
 };
 

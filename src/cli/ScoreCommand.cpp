@@ -10,22 +10,14 @@
 namespace quorvantis::cli {
 namespace {
 
-/// Saves long answers as long ones again, although nobody has edited them.
-void KeepLongAnswers(FrameSetExam& exam) {
-  for (int number = 1; number <= exam.questionCount; ++number) {
-    const bool isLong = exam.Question(number).answerText.size() > kMaxShortAnswer;
-    if (isLong) exam.Services().longAnswerFlags.Set(number);
-  }
-}
-
-/// Reads an exam to save it again.
+/// Reads an exam to save it again, with long answers as long ones although nobody has edited them.
 void LoadWhole(ExamSession& session, const std::filesystem::path& file) {
   const ExamReadOutcome outcome = session.Load(file);
   if (outcome.filesNotCreated > 0) {
     throw CommandError(file.string() + ": " + std::to_string(outcome.filesNotCreated) +
                        " attached files would be lost; make room in the folder for temporary files");
   }
-  KeepLongAnswers(session.exam);
+  session.services.longAnswerFlags.SetWhereNeeded(session.exam);
 }
 
 }  // namespace

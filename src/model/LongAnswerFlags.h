@@ -7,6 +7,8 @@
 
 namespace quorvantis {
 
+class ExamPaper;
+
 /// Which question slots are to be saved with the long form of the fill-in answer.
 ///
 /// The application has one instance for its whole run, beside the document. A flag that is set stays set, and
@@ -18,6 +20,9 @@ class LongAnswerFlags {
   void Set(int question) {
     if (IsQuestionNumber(question)) flags_[Index(question)] = true;
   }
+
+  /// Sets the flags of all answers that the short form would cut.
+  void SetWhereNeeded(const ExamPaper& exam);
 
  private:
   static std::size_t Index(int question) { return static_cast<std::size_t>(question); }

@@ -77,13 +77,6 @@ class Attachments {
   std::map<std::u16string, std::u16string> copies_;  ///< by their old paths
 };
 
-/// Answers that are long are saved long, however they came into the exam.
-void SetLongAnswerFlags(const FrameSetExam& exam) {
-  for (int n = 1; n <= kMaxQuestions; ++n) {
-    if (exam.Question(n).answerText.size() > kMaxShortAnswer) exam.Services().longAnswerFlags.Set(n);
-  }
-}
-
 std::vector<std::u16string> RestoreAttachments(FrameSetExam& exam, const fs::path& folder,
                                                const RecoveryLinks& links) {
   PrepareWorkFolder(exam, exam.Services().applicationFolder, {});
@@ -143,7 +136,7 @@ std::optional<std::vector<std::u16string>> RestoreExam(const fs::path& copy, Exa
     return std::nullopt;
   }
   auto lost = RestoreAttachments(exam, copy, file->links);
-  SetLongAnswerFlags(exam);
+  exam.Services().longAnswerFlags.SetWhereNeeded(exam);
   state.SetFileName(TextToPath(place->fileName));
   state.currentQuestion = place->currentQuestion;
   editor.questions.LoadCurrentQuestion();

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "shell/BackupSetting.h"
 #include "shell/BuiltInStrings.h"
 #include "shell/CodePageChoice.h"
 #include "shell/ProfileFile.h"
@@ -46,6 +47,15 @@ TEST(ChooseCodePage, TakesTheSettingOrTheOneOfTheLanguage) {
   check("[private]\nCodePage=65001", 0x0804, "UTF-8");
   check("[private]\nCodePage=54936", 0x0804, "GB18030");
   check("[Private]\ncodepage=KOI8-R", 0x0804, "KOI8-R");
+}
+
+TEST(KeepsBackups, UnlessTheSettingSaysNo) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(KeepsBackups(folder.Path()));
+  for (const auto& [setting, keeps] : {std::pair("", true), std::pair("1", true), std::pair(" 0", false)}) {
+    WriteBytes(folder / "system.ini", std::string("[private]\nbackup=") + setting);
+    EXPECT_EQ(KeepsBackups(folder.Path()), keeps) << setting;
+  }
 }
 
 TEST(BuiltInStrings, HaveTheExactTexts) {

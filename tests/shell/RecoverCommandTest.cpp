@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "../recovery/RecoveryTest.h"
+#include "shell/RecoverCommand.h"
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class OfferingRecovery : public RecoveryTest, protected RecoveryDialogs {
+ protected:
+  std::vector<std::u16string> asked;  ///< the titles
+  std::deque<RecoveryAnswer> answers;
+  std::function<void(const RecoveryCopy&)> whileAsking = [](const RecoveryCopy&) {};
+
+  RecoveryAnswer AskRestore(const RecoveryCopy& copy) override {
+    asked.push_back(copy.title);
+    whileAsking(copy);
+    const RecoveryAnswer answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+
+  /// Leaves the copies of three runs, the first of them damaged.
+  void LeaveCopies() {
+    for (const char16_t* text : {u"damaged", u"one", u"two"}) {
+      Run run(world.services.applicationFolder);
+      run.editor.questions.EditField(FormField::Title, text);
+      run.keeper.Left(Parting::Leave);
+    }
+    WriteBytes(RecoveryFilePath(RecoveryRoot(world.services.applicationFolder) / "1"), "damaged");
+  }
+
+  bool Offer(std::deque<RecoveryAnswer> given) {
+    answers = std::move(given);
+    asked.clear();
+    return RecoverCommand(editor, keeper, *this).Run();
+  }
+};
+
+TEST_F(OfferingRecovery, AsksForEachCopyUntilOneIsRestored) {
+  using enum RecoveryAnswer;
+  LeaveCopies();
+  EXPECT_FALSE(Offer({Later}));
+  EXPECT_EQ(asked.size(), 1u);
+  const fs::path aside = RecoveryRoot(world.services.applicationFolder) / "1-damaged";
+  EXPECT_EQ(world.dialogs.warnings, std::vector{u"[1044 " + AsText(aside) + u"]"});
+  EXPECT_FALSE(Modified());
+  EXPECT_FALSE(Offer({Discard, Later}));
+  EXPECT_EQ(asked.size(), 2u);
+  const std::u16string left = asked[1];
+  EXPECT_TRUE(Offer({Restore}));
+  EXPECT_EQ(asked, std::vector{left});
+  EXPECT_EQ(editor.questions.Form().title, left);
+  EXPECT_TRUE(Modified());
+  SaveAs(folder / "restored.exm");
+  EXPECT_FALSE(Offer({}));
+  EXPECT_EQ(world.dialogs.warnings.size(), 1u);
+}
+
+TEST_F(OfferingRecovery, CopiesThatChangeWhileAsking) {
+  using enum RecoveryAnswer;
+  LeaveCopies();
+  whileAsking = [](const RecoveryCopy& copy) { WriteBytes(RecoveryFilePath(copy.folder), "spoilt"); };
+  EXPECT_FALSE(Offer({Restore, Later}));
+  EXPECT_EQ(asked.size(), 2u) << "goes on with the next one";
+  EXPECT_EQ(world.dialogs.warnings.size(), 2u);
+}
+
+}  // namespace
+}  // namespace quorvantis::test
