@@ -6,7 +6,6 @@
 #include "cli/ScriptedImport.h"
 #include "editor/ExamEditor.h"
 #include "recovery/RecoveryKeeper.h"
-#include "shell/TextPaperReader.h"
 
 namespace quorvantis::cli {
 
