@@ -22,7 +22,14 @@ RecoveryKeeper::~RecoveryKeeper() {
 }
 
 bool RecoveryKeeper::DiffersFromFile(const ExamSnapshot& snapshot) const {
-  return snapshot.substance != inFile_;
+  const auto inFile = inFiles_.find(editor_.state.FileName());
+  return inFile == inFiles_.end() || inFile->second != snapshot.substance;
+}
+
+/// The exam is what its file holds.
+void RecoveryKeeper::NoteFile() {
+  inFiles_[editor_.state.FileName()] = TakeSnapshot(editor_).substance;
+  seen_.reset();
 }
 
 void RecoveryKeeper::Look() {
@@ -69,7 +76,7 @@ void RecoveryKeeper::LookAndWait() {
 void RecoveryKeeper::Restored(const std::filesystem::path& copy) {
   Wait();
   folder_.Adopt(copy);
-  inFile_.reset();
+  inFiles_.erase(editor_.state.FileName());
   seen_.reset();
   asleep_ = false;
 }
@@ -77,8 +84,7 @@ void RecoveryKeeper::Restored(const std::filesystem::path& copy) {
 void RecoveryKeeper::Saved() {
   Wait();
   folder_.Remove();
-  seen_.reset();
-  inFile_ = TakeSnapshot(editor_).substance;
+  NoteFile();
 }
 
 void RecoveryKeeper::Left(Parting parting) {
@@ -95,8 +101,7 @@ void RecoveryKeeper::Left(Parting parting) {
 
 void RecoveryKeeper::Entered() {
   Wait();
-  seen_.reset();
-  inFile_ = TakeSnapshot(editor_).substance;
+  NoteFile();
   asleep_ = false;
 }
 

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <future>
+#include <map>
 #include <optional>
 #include <system_error>
 
@@ -44,14 +45,17 @@ class RecoveryKeeper : public UnsavedWork {
  private:
   void Wait();
   void Write(ExamSnapshot snapshot);
+  void NoteFile();
   bool DiffersFromFile(const ExamSnapshot& snapshot) const;
 
   ExamEditor& editor_;
   RecoveryFolder folder_;  ///< belongs to the writing as long as there is one
   std::future<std::error_code> writing_;
-  std::optional<std::size_t> seen_;    ///< state of the last snapshot, unless that must be looked at again
-  std::size_t size_ = 0;               ///< of the last snapshot
-  std::optional<std::size_t> inFile_;  ///< substance of what the exam's file holds, if it is known
+  std::optional<std::size_t> seen_;  ///< state of the last snapshot, unless that must be looked at again
+  std::size_t size_ = 0;             ///< of the last snapshot
+  /// Substance of what the files hold that this run has opened or saved, and of a new exam. All of them,
+  /// since an import that is undone brings an earlier exam back.
+  std::map<std::filesystem::path, std::size_t> inFiles_;
   bool asleep_ = true;
 };
 

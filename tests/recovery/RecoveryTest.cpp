@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecoveryTest.h"
 
+#include "editor/EditorSnapshot.h"
 #include "editor/WorkCopies.h"
 #include "examfile/WorkFolder.h"
 
@@ -208,6 +209,35 @@ TEST_F(RecoveryTest, GoesOnlyWithASaveOrANo) {
     keeper.Entered();
     posted = false;
   }
+}
+
+TEST_F(RecoveryTest, AnExamThatComesBackIsMeasuredByItsOwnFile) {
+  SaveAs(folder / "saved.exm");
+  Attach("note.txt", "the note");
+  Type(FormField::Text, u"in the file");
+  editor.files.SaveExam();
+  EditorSnapshot before(editor);
+  const auto check = [&](const char* name, std::size_t copies, auto change) {
+    SCOPED_TRACE(name);
+    before.Take();
+    change();
+    keeper.LookAndWait();
+    before.Restore();
+    keeper.LookAndWait();
+    EXPECT_EQ(Copies().size(), copies);
+    EXPECT_EQ(Restart(copies)->editor.questions.Form().text, copies == 0 ? u"" : u"in the file");
+  };
+  check("a change", 0, [&] { Type(FormField::Text, u"x"); });
+  check("a new exam", 0, [&] {
+    editor.files.StartNewExam();
+    Type(FormField::Text, u"x");
+    keeper.LookAndWait();
+    SaveAs(folder / "new.exm");
+  });
+  check("a change that was saved", 1, [&] {
+    Type(FormField::Text, u"x");
+    editor.files.SaveExam();
+  });
 }
 
 TEST_F(RecoveryTest, EachEditorHasItsOwnCopy) {
