@@ -25,8 +25,8 @@ class PendingFile {
   virtual std::error_code Commit() = 0;
 
   /// Commit is to keep the old file beside the new one, under its name and kBackupSuffix, in the place of an
-  /// older one. Costs nothing, and nothing fails because of it: where the file system cannot do it in passing,
-  /// no old file is kept.
+  /// older one. Costs nothing, and nothing fails because of it: where the file system cannot do it in
+  /// passing, no old file is kept.
   virtual void KeepOldFile() = 0;
 };
 

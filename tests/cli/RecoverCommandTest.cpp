@@ -4,8 +4,6 @@
 namespace quorvantis::test {
 namespace {
 
-namespace fs = std::filesystem;
-
 class RecoverCommandTest : public CommandLineTest {
  protected:
   RunResult Recover(std::vector<std::string> arguments) {
@@ -45,13 +43,6 @@ TEST_F(RecoverCommandTest, NothingStaysOfWhatWasSavedOrGivenUp) {
   WriteBytes(folder / "app/system.ini", "[private]\nBackup=0\n");
   EXPECT_EQ(Edit("text fourth\n" + saveAs("exam.exm")).status, 0);
   EXPECT_EQ(Shown("exam.exm~")["questions"][0]["text"], "first");
-}
-
-TEST_F(RecoverCommandTest, TellsOfADamagedCopy) {
-  WriteBytes(folder / "app/recovery/7/exam", "damaged");
-  const RunResult list = Recover({});
-  EXPECT_EQ(list.out, "");
-  EXPECT_NE(list.err.find("recovery/7: is damaged"), std::string::npos);
 }
 
 }  // namespace

@@ -11,11 +11,9 @@ class OfferingRecovery : public RecoveryTest, protected RecoveryDialogs {
  protected:
   std::vector<std::u16string> asked;  ///< the titles
   std::deque<RecoveryAnswer> answers;
-  std::function<void(const RecoveryCopy&)> whileAsking = [](const RecoveryCopy&) {};
 
   RecoveryAnswer AskRestore(const RecoveryCopy& copy) override {
     asked.push_back(copy.title);
-    whileAsking(copy);
     const RecoveryAnswer answer = answers.front();
     answers.pop_front();
     return answer;
@@ -56,15 +54,6 @@ TEST_F(OfferingRecovery, AsksForEachCopyUntilOneIsRestored) {
   SaveAs(folder / "restored.exm");
   EXPECT_FALSE(Offer({}));
   EXPECT_EQ(world.dialogs.warnings.size(), 1u);
-}
-
-TEST_F(OfferingRecovery, CopiesThatChangeWhileAsking) {
-  using enum RecoveryAnswer;
-  LeaveCopies();
-  whileAsking = [](const RecoveryCopy& copy) { WriteBytes(RecoveryFilePath(copy.folder), "spoilt"); };
-  EXPECT_FALSE(Offer({Restore, Later}));
-  EXPECT_EQ(asked.size(), 2u) << "goes on with the next one";
-  EXPECT_EQ(world.dialogs.warnings.size(), 2u);
 }
 
 }  // namespace
