@@ -22,7 +22,7 @@ constexpr std::chrono::milliseconds kForOfficeToEnd{100};
 }  // namespace
 
 /// Office programs that were asked to end get a moment for it.
-void ExportCommand::ExportWordDocument(std::filesystem::path target) {
+void ExportCommand::ExportWordDocument(const std::filesystem::path& target) {
   if (office_ != nullptr) {
     office_->processes.AskCloseOffice();
     std::this_thread::sleep_for(kForOfficeToEnd);

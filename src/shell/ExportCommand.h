@@ -20,7 +20,7 @@ class ExportCommand {
       : exam_(exam), writer_(writer), office_(office) {}
 
   /// What Save As does with the name of a document. Tells the user how it went.
-  void ExportWordDocument(std::filesystem::path target);
+  void ExportWordDocument(const std::filesystem::path& target);
 
   /// Asks and tells nothing. Nothing when the document is there; else why it is not, one line for the user.
   std::optional<std::u16string> Write(const std::filesystem::path& target, WordFormat format);

@@ -42,8 +42,9 @@ TEST_F(ExportCommands, FailuresAreToldInOneLine) {
   std::filesystem::create_hard_link(exam, folder / "same.doc");
   ExpectFailure(Command({"export", exam, Path("same.doc")}), "same.doc: is a file to read");
   ExpectFailure(Command({"export", Path("absent.exm"), Path("a.doc")}), "There is no such file");
-  const std::string path = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe): a test has one thread
-  setenv("PATH", "/absent", 1);                  // NOLINT(concurrency-mt-unsafe)
+  const char* const found = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe): a test has one thread
+  const std::string path = found == nullptr ? "" : found;
+  setenv("PATH", "/absent", 1);  // NOLINT(concurrency-mt-unsafe)
   ExpectFailure(Command({"export", exam, Path("a.doc")}), "Create dispatch failed.");
   const RunResult edit = Command({"edit"}, "saveas " + Path("a.doc"));
   setenv("PATH", path.c_str(), 1);  // NOLINT(concurrency-mt-unsafe)

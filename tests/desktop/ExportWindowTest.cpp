@@ -40,13 +40,16 @@ TEST_F(ExportWindow, SaveAsWritesADocument) {
 TEST_F(ExportWindow, WaitsUnderAModalBarUntilEscape) {
   const fs::path program = WriteBytes(folder / "soffice", "#!/bin/sh\nsleep 100");
   fs::permissions(program, fs::perms::owner_all);
-  QTimer::singleShot(200, [&] {
+  QTimer timer;
+  timer.setSingleShot(true);
+  QObject::connect(&timer, &QTimer::timeout, [&] {
     auto* const bar = window->findChild<QDialog*>("waiting");
     ASSERT_NE(bar, nullptr);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);  // goes nowhere
     QTest::keyClick(bar, Qt::Key_Escape);
   });
+  timer.start(200);
   SaveAsDocument({program, {}, std::chrono::minutes(1)});
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(world.dialogs.errors.size(), 1U);
