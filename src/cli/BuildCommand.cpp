@@ -25,8 +25,7 @@ void Build(Console& console, const CommonOptions& options, const std::filesystem
   if (const auto error = ExamFileWriter(session.exam, session.services).Write(target)) {
     throw CommandError(target.string() + ": cannot be written: " + error.message());
   }
-  for (const std::string& loss : LossesOnSaving(session.exam))
-    console.Complain(description.string() + ": " + loss);
+  TellSavingLosses(console, description, session.exam);
 }
 
 }  // namespace quorvantis::cli

@@ -69,8 +69,7 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
   if (const auto error = ExamFileWriter(exam, exam.Services()).Write(request.target)) {
     throw CommandError(request.target.string() + ": cannot be written: " + error.message());
   }
-  for (const std::string& loss : LossesOnSaving(exam))
-    console.Complain(request.target.string() + ": " + loss);
+  TellSavingLosses(console, request.target, exam);
   for (const std::u16string& line : ImportSummary(report, session.Texts()))
     console.out << Utf16ToUtf8(line) << '\n';
 }

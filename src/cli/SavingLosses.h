@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/Console.h"
 #include "model/FrameSetExam.h"
 
-#include <string>
-#include <vector>
+#include <filesystem>
 
 namespace quorvantis::cli {
 
-/// What a saved and reloaded exam will not have any more, one line each; call after CountQuestions.
-std::vector<std::string> LossesOnSaving(const FrameSetExam& exam);
+/// Tells what the saved exam will not have any more, one line each.
+void TellSavingLosses(const Console& console, const std::filesystem::path& file, const FrameSetExam& exam);
 
 }  // namespace quorvantis::cli

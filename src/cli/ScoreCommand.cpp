@@ -34,7 +34,7 @@ void Score(Console& console, const CommonOptions& options, const std::filesystem
   if (const auto error = ExamFileWriter(session.exam, session.services).Write(target)) {
     throw CommandError(target.string() + ": cannot be written: " + error.message());
   }
-  for (const std::string& loss : LossesOnSaving(session.exam)) console.Complain(exam.string() + ": " + loss);
+  TellSavingLosses(console, exam, session.exam);
 }
 
 }  // namespace quorvantis::cli

@@ -24,6 +24,12 @@ bool ScriptedDialogs::AskYesNo(std::u16string_view) {
   return false;
 }
 
+/// A script means what it says.
+LossAnswer ScriptedDialogs::AskAboutLosses(const LossQuestion& question) {
+  for (const std::u16string& loss : question.losses) console_.Complain(Utf16ToUtf8(loss));
+  return LossAnswer::SaveAnyway;
+}
+
 SaveAnswer ScriptedDialogs::AskSave(std::u16string_view question) {
   if (saveAnswers_.empty()) {
     console_.Complain(Utf16ToUtf8(question) + " There is no reply, so the command is cancelled.");

@@ -25,6 +25,7 @@ class ScriptedDialogs : public UserDialogs {
   void ShowWarning(std::u16string_view text) override;
   void ShowDone(std::u16string_view text) override;
   bool AskYesNo(std::u16string_view question) override;
+  LossAnswer AskAboutLosses(const LossQuestion& question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;
   std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override;

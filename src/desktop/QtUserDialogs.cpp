@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace quorvantis {
 namespace {
@@ -52,6 +53,28 @@ void QtUserDialogs::ShowDone(std::u16string_view text) {
 bool QtUserDialogs::AskYesNo(std::u16string_view question) {
   return Ask(QMessageBox::Warning, ToQString(question), QMessageBox::Yes | QMessageBox::No, parent_) ==
          QMessageBox::Yes;
+}
+
+/// Many lines would make the box higher than the screen, so they have a field of their own.
+LossAnswer QtUserDialogs::AskAboutLosses(const LossQuestion& question) {
+  constexpr qsizetype kMostLines = 10;
+  QStringList lines;
+  for (const std::u16string& loss : question.losses) lines.push_back(ToQString(loss));
+  QMessageBox box(QMessageBox::Warning, QStringLiteral("Quorvantis"), ToQString(question.heading),
+                  QMessageBox::NoButton, parent_);
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(lines.mid(0, kMostLines).join('\n'));
+  if (lines.size() > kMostLines) box.setDetailedText(lines.join('\n'));
+  const QAbstractButton* whole = nullptr;
+  if (!question.storeWhole.empty())
+    whole = box.addButton(ToQString(question.storeWhole), QMessageBox::YesRole);
+  const QAbstractButton* anyway = box.addButton(ToQString(question.saveAnyway), QMessageBox::DestructiveRole);
+  QPushButton* back = box.addButton(ToQString(question.goBack), QMessageBox::RejectRole);
+  box.setDefaultButton(back);
+  box.setEscapeButton(back);
+  box.exec();
+  if (whole != nullptr && box.clickedButton() == whole) return LossAnswer::StoreWhole;
+  return box.clickedButton() == anyway ? LossAnswer::SaveAnyway : LossAnswer::GoBack;
 }
 
 SaveAnswer QtUserDialogs::AskSave(std::u16string_view question) {

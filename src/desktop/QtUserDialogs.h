@@ -19,6 +19,7 @@ class QtUserDialogs : public UserDialogs {
   /// Deliberately with the icon of an error, as users of the program know it.
   void ShowDone(std::u16string_view text) override;
   bool AskYesNo(std::u16string_view question) override;
+  LossAnswer AskAboutLosses(const LossQuestion& question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;
   std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override;

@@ -19,11 +19,12 @@ std::u16string LowerExtension(const std::filesystem::path& path) {
 
 Parting ExamFileCommands::AskAboutChanges() {
   if (!state_.Modified()) return Parting::Leave;
+  if (!check_.MayWrite(state_.FileName())) return Parting::Stay;
   const ExamServices& services = state_.document.Services();
   const std::u16string question =
       FillMessage(services.strings.Text(text_id::kSaveQuestion), {PathToText(state_.FileName())});
   const SaveAnswer answer = services.dialogs.AskSave(question);
-  if (answer == SaveAnswer::Yes) SaveExam();
+  if (answer == SaveAnswer::Yes) SaveUnasked();
   return answer == SaveAnswer::Cancel ? Parting::Stay
          : answer == SaveAnswer::No   ? Parting::GiveUp
                                       : Parting::Leave;
@@ -57,6 +58,7 @@ void ExamFileCommands::NewExam() {
 void ExamFileCommands::StartNewExam() {
   Leave(Parting::Leave);
   EmptyExam();
+  check_.Forget();
   state_.SetFileName(kUntitled);
   state_.MarkSaved();
   Enter();
@@ -91,6 +93,7 @@ void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
   ClearDocument();
   state_.document.ReadExamFile(file);
   RecordCopies(state_.document);
+  check_.ExamIsThatOf(file);
   state_.SetFileName(file);
   state_.currentQuestion = 1;
   questions_.LoadCurrentQuestion();
@@ -101,30 +104,48 @@ void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
 void ExamFileCommands::SaveExam() {
   if (state_.IsUntitled()) {
     SaveExamAs();
-    return;
+  } else if (check_.MayWrite(state_.FileName())) {
+    WriteTo(state_.FileName());
   }
-  questions_.StoreCurrentQuestion();
-  WriteTo(state_.FileName());
 }
 
 void ExamFileCommands::SaveExamAs() {
+  if (const auto file = ChooseTarget()) SaveExamTo(*file, true);
+}
+
+/// The user has been told of losses.
+void ExamFileCommands::SaveUnasked() {
+  if (!state_.IsUntitled()) {
+    questions_.StoreCurrentQuestion();
+    WriteTo(state_.FileName());
+  } else if (const auto file = ChooseTarget()) {
+    SaveExamTo(*file, false);
+  }
+}
+
+std::optional<std::filesystem::path> ExamFileCommands::ChooseTarget() {
   const ExamServices& services = state_.document.Services();
   const std::u16string filter = services.strings.Text(text_id::kSaveExamFilter);
   const auto file = services.dialogs.ChooseFileToSave({filter, u"exm", u"MyExam"});
-  if (!file || file->empty()) return;
-  const std::u16string extension = LowerExtension(*file);
-  if (extension == u"exm") {
-    questions_.StoreCurrentQuestion();
-    WriteTo(*file);
-  } else if (extension == u"doc") {
-    questions_.StoreCurrentQuestion();
-    exportDocument_(state_.document, *file);
+  return file && !file->empty() ? file : std::nullopt;
+}
+
+void ExamFileCommands::SaveExamTo(const std::filesystem::path& file, bool tellLosses) {
+  const std::u16string extension = LowerExtension(file);
+  if (extension != u"exm" && extension != u"doc") return;
+  questions_.StoreCurrentQuestion();
+  if (extension == u"doc") {
+    exportDocument_(state_.document, file);
+  } else if (!tellLosses || check_.MayWrite(file)) {
+    WriteTo(file);
   }
 }
 
 void ExamFileCommands::WriteTo(const std::filesystem::path& file) {
   if (!state_.document.WriteExamFile(file, keepsBackups_)) return;
   ++state_.saves;
+  state_.document.readDoubt = ReadDoubt::None;
+  check_.ExamIsThatOf(file);
   state_.SetFileName(file);
   state_.MarkSaved();
   if (unsavedWork_ != nullptr) unsavedWork_->Saved();

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "editor/QuestionEditor.h"
+#include "editor/SavingCheck.h"
 #include "editor/UnsavedWork.h"
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 namespace quorvantis {
 
@@ -16,13 +18,17 @@ using DocumentExport = std::function<void(FrameSetExam& exam, const std::filesys
 /// goes by it.
 std::u16string LowerExtension(const std::filesystem::path& path);
 
-/// New, Open, Save, Save As and the question before closing. Reading and writing report their own failures;
+/// New, Open, Save, Save As and the questions before closing. Before a save, and before the question whether
+/// to save, the user is told what it would lose. Reading and writing report their own failures;
 /// the editor goes on with whatever the document holds.
 class ExamFileCommands {
  public:
   /// All must outlive the commands.
   ExamFileCommands(EditorState& state, QuestionEditor& questions, DocumentExport exportDocument)
-      : state_(state), questions_(questions), exportDocument_(std::move(exportDocument)) {}
+      : state_(state),
+        questions_(questions),
+        check_(state, questions),
+        exportDocument_(std::move(exportDocument)) {}
 
   /// From now on: who keeps what is not saved, which must outlive the commands or be taken back with null.
   void SetUnsavedWork(UnsavedWork* unsavedWork) { unsavedWork_ = unsavedWork; }
@@ -52,10 +58,14 @@ class ExamFileCommands {
   void Enter();
   void ClearDocument();
   void LoadFile(const std::filesystem::path& file);
+  void SaveUnasked();
+  std::optional<std::filesystem::path> ChooseTarget();
+  void SaveExamTo(const std::filesystem::path& file, bool tellLosses);
   void WriteTo(const std::filesystem::path& file);
 
   EditorState& state_;
   QuestionEditor& questions_;
+  SavingCheck check_;
   DocumentExport exportDocument_;
   UnsavedWork* unsavedWork_ = nullptr;
   bool keepsBackups_ = false;

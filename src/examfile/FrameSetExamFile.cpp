@@ -8,11 +8,24 @@
 
 namespace quorvantis {
 
+namespace {
+
+/// An untagged file is any file that has no tag, so only its content can tell.
+ReadDoubt DoubtOf(const ExamReadOutcome& outcome, const FrameSetExam& exam) {
+  const bool isUntagged = outcome.form.version == &kUntaggedVersion;
+  if (outcome.opened && isUntagged && (outcome.endsEarly || exam.questionCount == 0))
+    return ReadDoubt::NoExam;
+  return !outcome.opened || outcome.endsEarly ? ReadDoubt::ReadInPart : ReadDoubt::None;
+}
+
+}  // namespace
+
 void FrameSetExam::ReadExamFile(const std::filesystem::path& file) {
   ExamServices& services = Services();
   const ExamReadOutcome outcome = ExamFileReader(*this, services).Read(file);
   if (!outcome.opened) services.dialogs.ShowError(OpenFileError(services.strings, file));
   ShowReadLosses(services, outcome);
+  readDoubt = DoubtOf(outcome, *this);
 }
 
 bool FrameSetExam::WriteExamFile(const std::filesystem::path& file, bool backup) {

@@ -75,9 +75,10 @@ void ExamPaper::InsertQuestion(int n) {
   Question(n).kind = QuestionKind::Choice;
 }
 
-void ExamPaper::CountQuestions() {
-  questionCount = kMaxQuestions;
-  while (questionCount > 0 && !IsCounted(Question(questionCount))) --questionCount;
+int ExamPaper::LastCountedQuestion() const {
+  int last = kMaxQuestions;
+  while (last > 0 && !IsCounted(Question(last))) --last;
+  return last;
 }
 
 void ExamPaper::SetRenderOption(int option) {

@@ -36,7 +36,8 @@ class ExamPaper {
   void InsertQuestion(int n);
 
   /// Sets `questionCount` to the last slot with a text, an option or a fill-in answer; 0 when there is none.
-  void CountQuestions();
+  void CountQuestions() { questionCount = LastCountedQuestion(); }
+  int LastCountedQuestion() const;
 
   void SetRenderOption(int option);
 

@@ -10,6 +10,7 @@ void FrameSetExam::Reset() {
   examAttachmentPaths.fill({});
   examAttachmentNames.fill({});
   displayNamesAmongPaths.clear();
+  readDoubt = ReadDoubt::None;
   examAttachmentTypes.fill(0);
   attachmentPageWriter.frameKinds.fill(0);
   boundaryQuestion = 0;

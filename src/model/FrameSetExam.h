@@ -11,6 +11,13 @@ namespace quorvantis {
 
 struct ExamServices;
 
+/// Whether the exam is all that its file holds.
+enum class ReadDoubt {
+  None,
+  ReadInPart,  ///< the file could not be read to its end, or not at all
+  NoExam,      ///< nothing in the file tells that it is an exam
+};
+
 /// The exam document: an ExamPaper with the files attached to the exam as a whole, and the operations that
 /// read and write it. Each of these is defined in the folder that owns its subject, where a class does the
 /// work and returns an outcome; the member only turns the outcome into a message.
@@ -73,6 +80,7 @@ class FrameSetExam : public ExamPaper {
       examAttachmentTypes{};  ///< number of the preview frame that shows each file
   AttachmentPageWriter attachmentPageWriter;
   int previewPrefixes = 0;  ///< previews of this exam that were not finished
+  ReadDoubt readDoubt = ReadDoubt::None;
   int hasOralQuestion = 0;  ///< 1 when the reader met an oral question
 
  private:

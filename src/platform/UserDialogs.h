@@ -5,10 +5,22 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvantis {
 
 enum class SaveAnswer { Yes, No, Cancel };
+
+/// What to do about what saving would lose.
+enum class LossAnswer { StoreWhole, SaveAnyway, GoBack };
+
+struct LossQuestion {
+  std::u16string heading;
+  std::vector<std::u16string> losses;  ///< one line each
+  std::u16string storeWhole;           ///< captions of the answers; this one empty where it cannot be
+  std::u16string saveAnyway;
+  std::u16string goBack;
+};
 
 /// What a file dialog starts with.
 struct FileDialogRequest {
@@ -37,6 +49,9 @@ class UserDialogs {
 
   /// "File … Changed. Save File ?" with Yes, No and Cancel.
   virtual SaveAnswer AskSave(std::u16string_view question) = 0;
+
+  /// Tells what saving would lose, and asks what to do. Closing the question is GoBack.
+  virtual LossAnswer AskAboutLosses(const LossQuestion& question) = 0;
 
   /// The full path of the chosen file, or nothing when the user cancelled.
   virtual std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) = 0;

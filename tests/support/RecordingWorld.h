@@ -28,6 +28,8 @@ class RecordingDialogs : public UserDialogs {
   std::vector<std::u16string> warnings;
   std::vector<std::u16string> done;
   std::vector<std::u16string> questions;
+  std::vector<std::u16string> losses;
+  LossAnswer lossAnswer = LossAnswer::SaveAnyway;
   std::deque<SaveAnswer> answers;
   std::deque<bool> yesNoAnswers;
   std::function<void()> whileAsking;
@@ -42,6 +44,11 @@ class RecordingDialogs : public UserDialogs {
     questions.emplace_back(question);
     if (whileAsking) whileAsking();
     return Next(yesNoAnswers).value_or(false);
+  }
+  LossAnswer AskAboutLosses(const LossQuestion& question) override {
+    losses = question.losses;
+    if (!question.storeWhole.empty()) losses.emplace_back(u"(can be stored)");
+    return lossAnswer;
   }
   SaveAnswer AskSave(std::u16string_view question) override {
     questions.emplace_back(question);

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "editor/SavingCheck.h"
+
+#include "examfile/SavingLosses.h"
+#include "platform/ExamServices.h"
+#include "platform/StringTable.h"
+#include "platform/Texts.h"
+#include "platform/UserDialogs.h"
+
+namespace quorvantis {
+
+std::optional<SavingCheck::FileState> SavingCheck::StateOf(const std::filesystem::path& file) {
+  std::error_code error;
+  const auto size = std::filesystem::file_size(file, error);
+  if (error) return std::nullopt;
+  const auto written = std::filesystem::last_write_time(file, error);
+  return error ? std::nullopt : std::optional(FileState{file, size, written});
+}
+
+void SavingCheck::ExamIsThatOf(const std::filesystem::path& file) {
+  known_ = StateOf(file);
+}
+
+/// A file that is not there any more has nothing to lose.
+std::vector<std::u16string> SavingCheck::LossesOfFile(const std::filesystem::path& file) const {
+  std::vector<std::u16string> losses;
+  const auto now = StateOf(file);
+  if (!now || file != state_.FileName()) return losses;
+  const StringTable& strings = state_.document.Services().strings;
+  if (known_ && known_->file == file && known_ != now)
+    losses.push_back(strings.Text(text_id::kChangedOnDisk));
+  if (state_.document.readDoubt == ReadDoubt::ReadInPart)
+    losses.push_back(strings.Text(text_id::kReadInPart));
+  if (state_.document.readDoubt == ReadDoubt::NoExam) losses.push_back(strings.Text(text_id::kNoExamFile));
+  return losses;
+}
+
+bool SavingCheck::MayWrite(const std::filesystem::path& file) {
+  questions_.StoreCurrentQuestion();
+  const ExamServices& services = state_.document.Services();
+  const StringTable& strings = services.strings;
+  LossQuestion question{strings.Text(text_id::kSavingLoses),
+                        LossesOfFile(file),
+                        {},
+                        strings.Text(text_id::kSaveAnyway),
+                        strings.Text(text_id::kGoBack)};
+  for (const SavingLoss& loss : FindSavingLosses(state_.document)) {
+    if (!loss.isWork) continue;
+    question.losses.push_back(LossLine(loss, strings));
+    if (loss.canBeStored) question.storeWhole = strings.Text(text_id::kStoreWhole);
+  }
+  if (question.losses.empty()) return true;
+  const LossAnswer answer = services.dialogs.AskAboutLosses(question);
+  if (answer == LossAnswer::StoreWhole) {
+    StoreWhole(state_.document);
+    questions_.LoadCurrentQuestion();
+  }
+  return answer != LossAnswer::GoBack;
+}
+
+}  // namespace quorvantis

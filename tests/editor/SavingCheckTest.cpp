@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "EditorTest.h"
+#include "editor/WorkCopies.h"
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Lines = std::vector<std::u16string>;
+
+class SavingCheckTest : public EditorTest {
+ protected:
+  /// What a save of the exam says, and the file after it.
+  Lines Save(LossAnswer answer) {
+    world.dialogs.lossAnswer = answer;
+    world.dialogs.losses.clear();
+    editor.files.SaveExam();
+    return world.dialogs.losses;
+  }
+  void Reopen() {
+    editor.state.MarkSaved();
+    editor.files.OpenExam(file);
+  }
+
+  const fs::path file = folder / "a.exm";
+};
+
+TEST_F(SavingCheckTest, StoresWholeOnTheUsersWord) {
+  Type(FormField::Text, u"one");
+  SaveAs(file);
+  const std::string before = ReadBytes(file);
+  exam.Question(2).text = u"two";
+  exam.Question(2).kind = QuestionKind::FillIn;
+  exam.Question(2).answerText = std::u16string(300, u'x');  // was loaded, and is not stored anew
+  exam.Question(4).kind = QuestionKind::Essay;
+  exam.Question(4).essayAnswer = u"answer";
+  const Lines losses{u"[1200 2]", u"[1200 4]", u"(can be stored)"};
+
+  editor.state.MarkModified();
+  EXPECT_EQ(Save(LossAnswer::GoBack), losses);
+  EXPECT_EQ(ReadBytes(file), before);
+  EXPECT_TRUE(Modified());
+  EXPECT_FALSE(editor.files.ConfirmClose());
+  EXPECT_EQ(world.dialogs.questions, Lines()) << "told before the question whether to save";
+
+  EXPECT_EQ(Save(LossAnswer::StoreWhole), losses);
+  EXPECT_FALSE(Modified());
+  Reopen();
+  EXPECT_EQ(exam.Question(2).answerText.size(), 300U);
+  EXPECT_EQ(exam.Question(4).text, u"[1244 %s]");
+  EXPECT_EQ(exam.Question(4).essayAnswer, u"answer");
+
+  exam.Question(6).answerLetters = u"a";
+  EXPECT_EQ(Save(LossAnswer::SaveAnyway), (Lines{u"[1200 6]", u"(can be stored)"}));
+  EXPECT_FALSE(Modified());
+}
+
+TEST_F(SavingCheckTest, TellsOfFilesThatAreGone) {
+  Type(FormField::Text, u"one");
+  editor.attachments.AttachQuestionFile(WriteBytes(folder / "note.txt", "the note"));
+  editor.attachments.AttachExamFile(WriteBytes(folder / "map.txt", "the map"));
+  SaveAs(file);
+  EXPECT_EQ(Save(LossAnswer::GoBack), Lines());
+  fs::remove_all(AttachmentWorkRoot(world.services.applicationFolder));
+  EXPECT_EQ(Save(LossAnswer::GoBack), (Lines{u"[1209 map.txt]", u"[1200 1]"}));
+}
+
+TEST_F(SavingCheckTest, TellsOfFilesThatAreNotWhatWasRead) {
+  Type(FormField::Text, u"one");
+  SaveAs(file);
+  WriteBytes(file, "another program");
+  EXPECT_EQ(Save(LossAnswer::GoBack), Lines{u"[1245 %s]"});
+  EXPECT_EQ(ReadBytes(file), "another program");
+
+  Reopen();  // it is no exam
+  EXPECT_EQ(Save(LossAnswer::GoBack), Lines{u"[1211 %s]"});
+  EXPECT_EQ(ReadBytes(file), "another program");
+  Type(FormField::Text, u"an exam");
+  Save(LossAnswer::SaveAnyway);
+  EXPECT_EQ(Save(LossAnswer::GoBack), Lines());
+
+  fs::resize_file(file, fs::file_size(file) - 10);
+  Reopen();
+  EXPECT_EQ(Save(LossAnswer::GoBack), Lines{u"[1210 %s]"});
+  fs::remove(file);
+  EXPECT_EQ(Save(LossAnswer::GoBack), Lines()) << "nothing is left to lose";
+}
+
+}  // namespace
+}  // namespace quorvantis::test
