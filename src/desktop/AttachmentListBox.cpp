@@ -8,34 +8,42 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvantis {
 
-AttachmentListBox::AttachmentListBox(QWidget* parent) : QListWidget(parent) {
+AttachmentListBox::AttachmentListBox(QString missing, QWidget* parent)
+    : QListWidget(parent), missing_(std::move(missing)) {
   setSelectionMode(QAbstractItemView::SingleSelection);
   setTextElideMode(Qt::ElideMiddle);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setLineWidth(2);
   setUniformItemSizes(true);
+  setIconSize(QSize(fontMetrics().ascent(), fontMetrics().ascent()));
 }
 
 void AttachmentListBox::Show(const ShownAttachments& attachments) {
   const QSignalBlocker silent(this);
-  if (names_ != attachments.names) {
-    names_ = attachments.names;
+  if (shown_.names != attachments.names || shown_.missing != attachments.missing) {
+    shown_ = attachments;
     clear();
-    for (const std::u16string& name : names_) {
-      auto* entry = new QListWidgetItem(ToQString(name), this);
-      entry->setToolTip(PlainTip(ToQString(name)));
-    }
+    for (std::size_t i = 0; i < shown_.names.size(); ++i)
+      ShowEntry(ToQString(shown_.names[i]), shown_.missing[i]);
   }
   if (Selected() != attachments.selected) {
     setCurrentRow(attachments.selected ? static_cast<int>(*attachments.selected) : -1);
   }
   setVisible(attachments.visible);
+}
+
+void AttachmentListBox::ShowEntry(const QString& name, bool isMissing) {
+  auto* entry = new QListWidgetItem(name, this);
+  entry->setToolTip(PlainTip(isMissing ? missing_.arg(name) : name));
+  if (isMissing) entry->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this));
 }
 
 std::optional<std::size_t> AttachmentListBox::Selected() const {

@@ -15,7 +15,8 @@ class AttachmentListBox : public QListWidget {
   Q_OBJECT
 
  public:
-  explicit AttachmentListBox(QWidget* parent);
+  /// `missing` is the tip of an entry without a file, with "%1" in the place of its name.
+  AttachmentListBox(QString missing, QWidget* parent);
 
   /// Shows the entries, the selection and the list itself as the editor has them.
   void Show(const ShownAttachments& attachments);
@@ -37,7 +38,10 @@ class AttachmentListBox : public QListWidget {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  std::vector<std::u16string> names_;
+  void ShowEntry(const QString& name, bool isMissing);
+
+  QString missing_;
+  ShownAttachments shown_;
 };
 
 }  // namespace quorvantis

@@ -6,7 +6,7 @@
 #include "desktop/Controls.h"
 #include "desktop/DroppedFiles.h"
 #include "desktop/FittedCaption.h"
-#include "desktop/QtText.h"
+#include "desktop/PlacedText.h"
 #include "desktop/RecoveryQuestion.h"
 #include "desktop/WindowSize.h"
 #include "platform/DebugOutput.h"
@@ -20,7 +20,6 @@
 #include "shell/PrintCommand.h"
 #include "shell/RecoverCommand.h"
 #include "shell/ScoreSetupCommand.h"
-#include "text/MessageText.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -64,11 +63,6 @@ bool CanRead(const std::filesystem::path& file) {
 QWidget* WithFittingFont(QWidget* window) {
   window->setFont(FontForHeight(window->font(), kHighestLine));
   return window;
-}
-
-/// A text of the table with Qt's places for values.
-QString PlacedText(const StringTable& strings, int id) {
-  return ToQString(FillMessage(strings.Text(id), {u"%1", u"%2"}));
 }
 
 PreviewTexts TextsOfPreviews(const StringTable& strings) {

@@ -3,7 +3,7 @@
 
 #include "desktop/AttachmentMenu.h"
 #include "desktop/Controls.h"
-#include "desktop/QtText.h"
+#include "desktop/PlacedText.h"
 #include "platform/Texts.h"
 
 namespace quorvantis {
@@ -20,7 +20,7 @@ ExamControls::ExamControls(ExamEditor& editor, const StringTable& strings, QWidg
               [&editor] { editor.questions.CycleRandomMode(); });
 
   attachmentsLabel = MakeLabel(parent, "examAttachmentsLabel", text(text_id::kAttachFiles));
-  attachments = new AttachmentListBox(parent);
+  attachments = new AttachmentListBox(PlacedText(strings, text_id::kFileMissing), parent);
   SetUpField(attachments, "examAttachments", attachmentsLabel, {});
   QObject::connect(attachments, &QListWidget::itemSelectionChanged, attachments,
                    [this, &editor] { editor.attachments.SelectExamFile(attachments->Selected()); });

@@ -3,7 +3,7 @@
 
 #include "desktop/AttachmentMenu.h"
 #include "desktop/Controls.h"
-#include "desktop/QtText.h"
+#include "desktop/PlacedText.h"
 #include "platform/Texts.h"
 
 namespace quorvantis {
@@ -55,7 +55,7 @@ void QuestionControls::MakeKinds(const StringTable& strings, QWidget* parent) {
 }
 
 void QuestionControls::MakeAttachments(const StringTable& strings, QWidget* parent) {
-  attachments = new AttachmentListBox(parent);
+  attachments = new AttachmentListBox(PlacedText(strings, text_id::kFileMissing), parent);
   NameControl(attachments, "questionAttachments", ToQString(strings.Text(text_id::kAttachToQuestion)));
   QObject::connect(attachments, &QListWidget::itemSelectionChanged, attachments,
                    [this] { editor_.attachments.SelectQuestionFile(attachments->Selected()); });

@@ -10,27 +10,40 @@
 #include "text/PathText.h"
 
 #include <algorithm>
+#include <iterator>
+#include <system_error>
 
 namespace quorvantis {
 namespace {
 
-/// Fills a list from the names of the document.
-void Fill(ShownAttachments& list, const AttachmentList& names) {
+bool IsMissing(const std::u16string& copy) {
+  std::error_code ignored;
+  return !std::filesystem::is_regular_file(TextToPath(copy), ignored);
+}
+
+/// Fills a list from those of the document.
+void Fill(ShownAttachments& list, const AttachmentList& names, const AttachmentList& paths) {
   const auto count = static_cast<std::ptrdiff_t>(CountEntries(names));
   list.names.assign(names.begin(), names.begin() + count);
+  list.missing.clear();
+  std::transform(paths.begin(), paths.begin() + count, std::back_inserter(list.missing), IsMissing);
   list.selected.reset();
   list.visible = count > 0;
 }
 
 void RemoveEntry(ShownAttachments& list) {
-  list.names.erase(list.names.begin() + static_cast<std::ptrdiff_t>(*list.selected));
+  const auto index = static_cast<std::ptrdiff_t>(*list.selected);
+  list.names.erase(list.names.begin() + index);
+  list.missing.erase(list.missing.begin() + index);
   list.selected.reset();
   list.visible = !list.names.empty();
 }
 
 /// Appends an entry and gives its index, which is also its place in the document's lists.
-std::size_t AppendEntry(ShownAttachments& list, const std::u16string& name) {
+std::size_t AppendEntry(ShownAttachments& list, const std::u16string& name,
+                        const std::filesystem::path& copy) {
   list.names.push_back(name);
+  list.missing.push_back(IsMissing(PathToText(copy)));
   list.visible = true;
   return list.names.size() - 1;
 }
@@ -62,7 +75,7 @@ void AttachmentEditor::AttachExamFile(const std::filesystem::path& source) {
   if (examList_.IsFull()) return;
   const std::u16string name = PathToText(source.filename());
   const auto copy = MakeCopy(source);
-  const std::size_t index = AppendEntry(examList_, name);
+  const std::size_t index = AppendEntry(examList_, name, copy);
   state_.document.examAttachmentPaths[index] = PathToText(copy);
   state_.document.examAttachmentNames[index] = name;
   state_.view.FormChanged();
@@ -72,7 +85,7 @@ void AttachmentEditor::AttachQuestionFile(const std::filesystem::path& source) {
   if (questionList_.IsFull()) return;
   const std::u16string name = PathToText(source.filename());
   const auto copy = MakeCopy(source);
-  const std::size_t index = AppendEntry(questionList_, name);
+  const std::size_t index = AppendEntry(questionList_, name, copy);
   state_.Current().attachmentPaths[index] = PathToText(copy);
   state_.Current().attachmentNames[index] = name;
   UpdateOralToggle();
@@ -123,12 +136,12 @@ void AttachmentEditor::ToggleOral() {
 }
 
 void AttachmentEditor::RefreshQuestionList() {
-  Fill(questionList_, state_.Current().attachmentNames);
+  Fill(questionList_, state_.Current().attachmentNames, state_.Current().attachmentPaths);
   UpdateOralToggle();
 }
 
 void AttachmentEditor::RefreshExamList() {
-  Fill(examList_, state_.document.examAttachmentNames);
+  Fill(examList_, state_.document.examAttachmentNames, state_.document.examAttachmentPaths);
 }
 
 void AttachmentEditor::RemoveQuestionAttachments(int question) {

@@ -13,6 +13,7 @@ namespace quorvantis {
 /// A list of attached files as the window shows it: display names, at most one of them selected.
 struct ShownAttachments {
   std::vector<std::u16string> names;
+  std::vector<bool> missing;  ///< of each entry, whether its work copy was missing when it was listed
   std::optional<std::size_t> selected;
   bool visible = false;  ///< only while it holds entries
 
