@@ -5,9 +5,20 @@
 #include "import/WordPaper.h"
 #include "text/PathText.h"
 
+#include <cstdint>
 #include <utility>
 
 namespace quorvantis {
+namespace {
+
+/// Of all pictures together. A document of a few kilobytes can hold pictures that fill any disk.
+constexpr std::uintmax_t kMostPictureBytes = std::uintmax_t{1} << 30;
+
+}  // namespace
+
+std::filesystem::path WordPaperReader::FileOf(int picture) const {
+  return workRoot_ / TextToPath(PictureFileName(picture));
+}
 
 PaperOutcome WordPaperReader::Read(const std::filesystem::path& document, const PaperReading& reading) {
   const WordReadOutcome opened = documents_.Open(document, {reading.listLabels, reading.isCancelled});
@@ -18,20 +29,27 @@ PaperOutcome WordPaperReader::Read(const std::filesystem::path& document, const 
   return {WordResult::Done, std::move(content)};
 }
 
-/// A picture that cannot be read is no reason to have none of the questions.
+/// A picture that cannot be read is no reason to have none of the questions. When the import is cancelled, no
+/// file stays.
 WordResult WordPaperReader::SavePictures(OpenWordDocument& document, const PaperReading& reading,
                                          PaperContent& content) {
   const std::size_t count = document.Content().pictures;
   std::error_code ignored;
+  std::uintmax_t bytes = 0;
   if (count > 0) MakeWorkRoot(workRoot_);
   for (std::size_t picture = 0; picture < count; ++picture) {
-    if (reading.isCancelled && reading.isCancelled()) return WordResult::Cancelled;
     const int number = reading.firstPicture + static_cast<int>(picture);
-    const std::filesystem::path file = workRoot_ / TextToPath(PictureFileName(number));
+    const std::filesystem::path file = FileOf(number);
     std::filesystem::remove(file, ignored);  // an older picture must not pass for this one
-    const WordResult saved = document.SavePicture(picture, file);
-    if (saved == WordResult::Cancelled) return saved;
+    const bool isCancelled = reading.isCancelled && reading.isCancelled();
+    WordResult saved = isCancelled ? WordResult::Cancelled : WordResult::TooLarge;
+    if (!isCancelled && bytes < kMostPictureBytes) saved = document.SavePicture(picture, file);
+    if (saved == WordResult::Cancelled) {
+      for (int n = reading.firstPicture; n <= number; ++n) std::filesystem::remove(FileOf(n), ignored);
+      return saved;
+    }
     if (saved != WordResult::Done) content.lostPictures.push_back(number);
+    if (saved == WordResult::Done) bytes += std::filesystem::file_size(file, ignored);
     if (reading.pictureSaved) reading.pictureSaved(picture + 1, count);
   }
   return WordResult::Done;

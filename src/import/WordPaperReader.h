@@ -17,6 +17,7 @@ class WordPaperReader : public PaperReader {
   PaperOutcome Read(const std::filesystem::path& document, const PaperReading& reading) override;
 
  private:
+  std::filesystem::path FileOf(int picture) const;
   WordResult SavePictures(OpenWordDocument& document, const PaperReading& reading, PaperContent& content);
 
   WordReader& documents_;

@@ -29,8 +29,8 @@ struct WordWriteOutcome {
 };
 
 struct WordWriteJob {
-  /// Tabs are kept; CR, LF, CR LF and VT within a paragraph are line breaks. A lone surrogate becomes U+FFFD,
-  /// and what no XML file can hold, above all control characters, is left out.
+  /// Tabs are kept; CR, LF, CR LF, VT and FF within a paragraph are line breaks. A lone surrogate becomes
+  /// U+FFFD, and what no XML file can hold, above all control characters, is left out.
   std::vector<std::u16string> paragraphs;
   std::filesystem::path target;
   WordFormat format = WordFormat::Doc;

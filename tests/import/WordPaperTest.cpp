@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "import/LineEnds.h"
 #include "import/WordPaper.h"
+#include "import/WordPaperReader.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
 
 namespace quorvantis::test {
 namespace {
@@ -23,6 +28,38 @@ TEST(WordPaper, PutsTextsInThePlacesOfPicturesAndFormulas) {
   EXPECT_EQ(paper.tables[0].Cell(1, 2), u"_\r\a");
   EXPECT_EQ(paper.nextPicture, 12);
   EXPECT_EQ(paper.formulas, 2U);
+}
+
+/// A document of empty pictures, each a file of 600 MB that takes no room.
+class LargePictures : public WordReader, public OpenWordDocument {
+ public:
+  WordReadOutcome Open(const std::filesystem::path&, const WordReadOptions&) override {
+    auto document = std::make_unique<LargePictures>();
+    document->content_.pictures = 4;
+    return {WordResult::Done, std::move(document)};
+  }
+  const WordDocument& Content() const override { return content_; }
+  WordResult SavePicture(std::size_t, const std::filesystem::path& file) override {
+    WriteBytes(file, "");
+    std::filesystem::resize_file(file, 600'000'000);
+    return WordResult::Done;
+  }
+
+ private:
+  WordDocument content_;
+};
+
+TEST(WordPaper, KeepsPicturesWithinBoundsAndNoneOfACancelledImport) {
+  const TemporaryFolder folder;
+  LargePictures documents;
+  WordPaperReader reader(documents, folder / "~TEMP");
+  PaperReading reading;
+  EXPECT_EQ(reader.Read({}, reading).content->lostPictures, (std::vector{3, 4}));
+  EXPECT_TRUE(std::filesystem::exists(folder / "~TEMP" / "2.bmp"));
+  int asked = 0;
+  reading.isCancelled = [&asked] { return ++asked == 2; };
+  EXPECT_EQ(reader.Read({}, reading).result, WordResult::Cancelled);
+  EXPECT_FALSE(std::filesystem::exists(folder / "~TEMP" / "1.bmp"));
 }
 
 TEST(LineEnds, AreMendedWhereTheFieldHasRoom) {

@@ -46,7 +46,8 @@ std::string Cleaned(std::u16string_view text) {
   std::u16string clean;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool beforeLf = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
-    const char16_t unit = text[i] == u'\r' || text[i] == u'\v' ? u'\n' : text[i];
+    const bool endsLine = text[i] == u'\r' || text[i] == u'\v' || text[i] == u'\f';
+    const char16_t unit = endsLine ? u'\n' : text[i];
     if (!beforeLf && !IsForbiddenInXml(unit)) clean += unit;
   }
   return Utf16ToUtf8(clean);

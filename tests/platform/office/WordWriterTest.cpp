@@ -24,7 +24,7 @@ constexpr std::pair<std::u16string_view, std::u16string_view> kTexts[] = {
     {u"CR\rLF\nCRLF\r\n\r\n two empty \n", u"CR\vLF\vCRLF\v\v two empty \v"},
     {u"\n\r", u"\v\v"},
     {u"<b>&amp;</b> \"]]>' %s &#65; http://example.org (c) 1/2 -- :)", u""},
-    {{u"a\0b\1c \a d\x1F\v\f\uFFFE\uFFFF", 14}, u"abc  d\v"},
+    {{u"a\0b\1c \a d\x1F\v\f\uFFFE\uFFFF", 14}, u"abc  d\v\v"},
     {u"x\xD83Dy\xDE00z", u"x\uFFFDy\uFFFDz"},
     {u"\U0001F600\U00020000\u2574\u3000\u00A0\uFEFF\u200B\u00AD\u2028\uFFFC\uFFF9", u""},
     {u"1.下列动物 中，哪些是？", u""},
