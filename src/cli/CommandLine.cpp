@@ -218,15 +218,15 @@ void AddImportOptions(CLI::App& command, ImportRequest& request) {
 }
 
 void AddImport(CLI::App& app, Arguments& arguments, Console& console) {
-  CLI::App* import = AddCommand(app, arguments, "import", "Make an exam from a question paper, by rules");
-  AddPath(*import, "DOCUMENT", arguments.import.document, "Question paper: .doc, .docx, .odt, .rtf or .txt");
-  AddPath(*import, "OUT", arguments.import.target, "Exam file to write");
-  AddImportOptions(*import, arguments.import);
-  import->footer(
+  // clang-format takes a line that begins with "import" for one of a module.
+  CLI::App* command = AddCommand(app, arguments, "import", "Make an exam from a question paper, by rules");
+  AddPath(*command, "DOCUMENT", arguments.import.document, "Question paper: .doc, .docx, .odt, .rtf or .txt");
+  AddPath(*command, "OUT", arguments.import.target, "Exam file to write");
+  AddImportOptions(*command, arguments.import);
+  command->footer(
       "X is give-up, ignore (leave out such questions) or force. Prints what was read, and what was not.");
-  import->callback([&] { Import(console, arguments.common, arguments.import);
-});
-}  // namespace
+  command->callback([&] { Import(console, arguments.common, arguments.import); });
+}
 
 void AddMatch(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::App* match = AddCommand(app, arguments, "match", "Try a pattern of import rules on a text");
@@ -279,7 +279,7 @@ int Parse(CLI::App& app, int argumentCount, const char* const* arguments, Consol
   return kCommandFailed;
 }
 
-}  // namespace quorvantis::cli
+}  // namespace
 
 int RunCommandLine(int argumentCount, const char* const* argumentValues, Console& console) {
   CLI::App app("Reads, writes and edits Quorvantis exam files.", "quorvantis-cli");
