@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// Takes any bytes for what the command line is given as JSON: the description of an exam, the responses to
+// one, and the lines of an editing script. What cannot be used is a CommandError, and an exam that was made
+// is the same after another way through its description.
+#include "cli/CommandError.h"
+#include "cli/EditScriptLine.h"
+#include "cli/ExamFromJson.h"
+#include "cli/ExamJson.h"
+#include "cli/JsonNode.h"
+#include "cli/Responses.h"
+#include "platform/posix/PosixFiles.h"
+#include "support/RecordingWorld.h"
+#include "support/TemporaryFolder.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+using namespace quorvantis;
+
+constexpr int kComparedQuestions = 5;  // describing all 500 would be most of the work
+
+void FollowDescription(const nlohmann::json& json, const test::TemporaryFolder& folder) {
+  static PosixFiles files;
+  test::RecordingWorld world(folder.Path(), files);
+  FrameSetExam exam(world.services);
+  cli::FillExam(exam, json, folder.Path());
+  cli::FillResponses(exam, json);
+  exam.questionCount = kComparedQuestions;
+  const auto described = cli::ExamToJson(exam, {});
+  FrameSetExam again(world.services);
+  cli::FillExam(again, nlohmann::json::parse(described.dump()), folder.Path());
+  again.questionCount = kComparedQuestions;
+  if (cli::ExamToJson(again, {}) != described) std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const test::TemporaryFolder folder;
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  try {
+    for (std::string_view rest = bytes; !rest.empty();) {
+      const std::string_view line = rest.substr(0, rest.find('\n'));
+      rest.remove_prefix(std::min(rest.size(), line.size() + 1));
+      for (const auto& argument : cli::ParseScriptLine(line).arguments) argument.Index();
+    }
+  } catch (const cli::CommandError&) {
+    // A line that cannot be taken apart; the whole may still be JSON.
+  }
+  try {
+    FollowDescription(cli::ParseJsonFile(test::WriteBytes(folder / "exam.json", bytes)), folder);
+  } catch (const cli::CommandError&) {
+    return 0;
+  }
+  return 0;
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// Takes any bytes for a settings file ("system.ini", "ImportExam.ini"), in UTF-8, UTF-16 or an 8-bit code
+// page. Nothing may crash, and a value that is set is read back while every other value stays.
+#include "shell/CodePageChoice.h"
+#include "shell/ExamImport.h"
+#include "shell/ProfileFile.h"
+#include "support/RecordingWorld.h"
+#include "support/TemporaryFolder.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+using namespace quorvantis;
+
+constexpr std::u16string_view kSection = u"private";
+constexpr std::u16string_view kKey = u"CodePage";
+constexpr std::u16string_view kOtherKey = u"Backup";
+constexpr std::u16string_view kNewValue = u"936";
+
+void Require(bool condition) {
+  if (!condition) std::abort();
+}
+
+void ChangeOneValue(const std::filesystem::path& path, const CodePage& codePage) {
+  ProfileFile file(path, &codePage);
+  const auto other = file.Value(kSection, kOtherKey);
+  const auto elsewhere = file.Value(u"Repository", u"Size");
+  if (!file.SetValue(kSection, kKey, kNewValue)) return;
+  test::WriteBytes(path, file.Bytes());
+  const ProfileFile changed(path, &codePage);
+  Require(changed.Value(kSection, kKey) == kNewValue);
+  Require(changed.Value(kSection, kOtherKey) == other);
+  Require(changed.Value(u"Repository", u"Size") == elsewhere);
+}
+
+void ReadRepositories(const std::filesystem::path& path, const CodePage& codePage) {
+  ExamImport import(path, codePage);
+  import.m_strDocPath = path;
+  import.Open();
+  Require(import.Repositories().size() <= ExamImport::kMostRepositories);
+  for (const std::u16string& name : import.Repositories()) {
+    import.m_strRepository = name;
+    if (import.Accept() == 0) Require(!import.m_strPattern.empty());
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const test::TemporaryFolder folder;
+  static const test::TestCodePage codePage;
+  const auto path = test::WriteBytes(folder / "system.ini", {reinterpret_cast<const char*>(data), size});
+  Require(!ChooseCodePage(folder.Path(), 0).empty());
+  ReadRepositories(path, codePage);
+  ChangeOneValue(path, codePage);
+  return 0;
+}
