@@ -19,13 +19,14 @@ class CompoundFile {
   explicit CompoundFile(std::string_view bytes);
 
   /// Whether a stream of that name is listed.
-  bool Has(std::u16string_view name) const { return Start(name).has_value(); }
+  bool Has(std::u16string_view name) const { return EntryOf(name).has_value(); }
 
-  /// Up to `count` bytes from the beginning of a stream that is no tiny one; fewer when they are missing.
+  /// Up to `count` bytes from the beginning of a stream, at most 64; fewer when they are missing.
   std::string_view Head(std::u16string_view name, std::size_t count) const;
 
  private:
-  std::optional<std::uint32_t> Start(std::u16string_view name) const;
+  std::optional<std::size_t> EntryOf(std::u16string_view name) const;
+  std::size_t StreamOffset(std::size_t entry) const;
   std::uint32_t NextSector(std::uint32_t sector) const;
   std::size_t OffsetOf(std::uint32_t sector) const { return (std::size_t{sector} + 1) * sectorBytes_; }
 
