@@ -13,13 +13,19 @@
 
 namespace quorvantis {
 
+/// A picture that has no file, and why.
+struct LostPicture {
+  int number = 0;
+  WordResult reason = WordResult::Damaged;
+};
+
 /// What a document holds: in the text, pictures are " <number>.bmp " and formulas "##".
 struct PaperContent {
   std::u16string text;  ///< without the tables
   std::vector<PaperTable> tables;
   int nextPicture = 0;  ///< the number after that of the last picture
   std::size_t formulas = 0;
-  std::vector<int> lostPictures;  ///< numbers of those that have no file
+  std::vector<LostPicture> lostPictures;
 };
 
 /// How to read a document.

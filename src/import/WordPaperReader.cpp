@@ -48,7 +48,7 @@ WordResult WordPaperReader::SavePictures(OpenWordDocument& document, const Paper
       for (int n = reading.firstPicture; n <= number; ++n) std::filesystem::remove(FileOf(n), ignored);
       return saved;
     }
-    if (saved != WordResult::Done) content.lostPictures.push_back(number);
+    if (saved != WordResult::Done) content.lostPictures.push_back({number, saved});
     if (saved == WordResult::Done) bytes += std::filesystem::file_size(file, ignored);
     if (reading.pictureSaved) reading.pictureSaved(picture + 1, count);
   }

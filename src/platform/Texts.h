@@ -137,6 +137,15 @@ constexpr int kDocumentDamaged = 1143;
 constexpr int kDocumentLocked = 1144;
 constexpr int kDocumentTooLarge = 1145;
 constexpr int kDocumentTimedOut = 1146;
+constexpr int kDocumentTooDeep = 1147;
+constexpr int kPictureElsewhere = 1150;  // why pictures were lost: the first part of kPicturesLost
+constexpr int kPictureUnknown = 1151;
+constexpr int kPictureDamaged = 1152;
+constexpr int kPictureTooLarge = 1153;
+constexpr int kPictureNotDrawn = 1154;
+constexpr int kPictureTimedOut = 1155;
+constexpr int kPictureNoFile = 1156;
+constexpr int kPicturesOfQuestion = 1157;  // within the second part
 
 // Of what saving loses.
 constexpr int kOfQuestion = 1200;

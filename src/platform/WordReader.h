@@ -18,7 +18,8 @@ enum class WordResult {
   UnknownFormat,  ///< no word processor's document, no picture of a known kind
   Damaged,        ///< begins like one, but cannot be read
   PasswordProtected,
-  TooLarge,              ///< beyond what is read: size, nesting, pixels
+  TooLarge,              ///< beyond what is read: size, pixels
+  TooDeep,               ///< tables or other parts stand within each other more often than is read
   WordProcessorMissing,  ///< the word processor that this kind needs is not installed or cannot be started
   TimedOut,              ///< the word processor took too long and was ended
   Cancelled,

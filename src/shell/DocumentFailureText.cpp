@@ -20,6 +20,8 @@ int TextOf(WordResult result) {
       return text_id::kDocumentLocked;
     case WordResult::TooLarge:
       return text_id::kDocumentTooLarge;
+    case WordResult::TooDeep:
+      return text_id::kDocumentTooDeep;
     case WordResult::WordProcessorMissing:
       return text_id::kNoWordProcessor;
     case WordResult::TimedOut:
@@ -32,7 +34,30 @@ int TextOf(WordResult result) {
   return text_id::kDocumentNoAccess;
 }
 
+int PictureTextOf(WordResult result) {
+  switch (result) {
+    case WordResult::NotFound:
+      return text_id::kPictureElsewhere;
+    case WordResult::UnknownFormat:
+      return text_id::kPictureUnknown;
+    case WordResult::TooLarge:
+      return text_id::kPictureTooLarge;
+    case WordResult::WordProcessorMissing:
+      return text_id::kPictureNotDrawn;
+    case WordResult::TimedOut:
+      return text_id::kPictureTimedOut;
+    case WordResult::CannotAccess:
+      return text_id::kPictureNoFile;
+    default:
+      return text_id::kPictureDamaged;
+  }
+}
+
 }  // namespace
+
+std::u16string PictureFailureText(WordResult result, const StringTable& strings) {
+  return strings.Text(PictureTextOf(result));
+}
 
 std::u16string DocumentFailureText(WordResult result, const std::filesystem::path& document,
                                    const StringTable& strings) {

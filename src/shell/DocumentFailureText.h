@@ -13,4 +13,7 @@ namespace quorvantis {
 std::u16string DocumentFailureText(WordResult result, const std::filesystem::path& document,
                                    const StringTable& strings);
 
+/// Why pictures could not be read: a part of a sentence.
+std::u16string PictureFailureText(WordResult result, const StringTable& strings);
+
 }  // namespace quorvantis

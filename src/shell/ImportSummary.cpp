@@ -4,7 +4,9 @@
 #include "model/ExamLimits.h"
 #include "platform/Texts.h"
 #include "regex/RegexPattern.h"
+#include "shell/DocumentFailureText.h"
 #include "shell/ImportReport.h"
+#include "shell/LostPictures.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
@@ -55,7 +57,8 @@ class Summary {
     TellDroppedParts();
     TellAnswerBlocks();
     TellOwnMarkers();
-    TellPicturesAndFormulas();
+    TellLostPictures();
+    TellFormulas();
     if (report_.loneLineEnds > 0) Say(text_id::kLineEnds, {Text(report_.loneLineEnds)});
     return std::move(lines_);
   }
@@ -157,9 +160,21 @@ class Summary {
     }
   }
 
-  void TellPicturesAndFormulas() {
+  void TellLostPictures() {
+    for (const auto& [reason, questions] : GroupLostPictures(report_)) {
+      std::u16string list;
+      for (const auto& [question, pictures] : questions) {
+        list += list.empty() ? u"" : u"; ";
+        list += question == kNoQuestion ? Ranges(pictures)
+                                        : FillMessage(strings_.Text(text_id::kPicturesOfQuestion),
+                                                      {Ranges(pictures), Text(question)});
+      }
+      Say(text_id::kPicturesLost, {PictureFailureText(reason, strings_), list});
+    }
+  }
+
+  void TellFormulas() {
     const PaperContent& content = report_.content;
-    if (!content.lostPictures.empty()) Say(text_id::kPicturesLost, {Ranges(content.lostPictures)});
     if (content.formulas == 0) return;
     Say(text_id::kFormulasMasked, {Text(content.formulas)});
     if (content.text.find(kPictureMarker) != std::u16string::npos) Say(text_id::kFormulasAdjacent);

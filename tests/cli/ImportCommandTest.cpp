@@ -201,7 +201,7 @@ TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
   };
   EXPECT_EQ(import({"--mend-line-ends", "--answer-pictures", "force"}).out,
             "3 questions read: 0 choice, 0 true/false, 0 fill-in, 3 essay.\n"
-            "Pictures that could not be read: 2.\n"
+            "Pictures that could not be read (of an unknown kind): 2 of question 3.\n"
             "1 formulas cannot be kept; \"##\" stands in their places.\n");
   EXPECT_EQ(Questions(),
             "essay: see 1.bmp there yes\nessay: two ##\nessay: lost  2.bmp(Can not show the picture) \n");
