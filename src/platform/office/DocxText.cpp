@@ -50,11 +50,17 @@ pugi::xml_node OleObjectIn(pugi::xml_node node, int levels = 4) {
 
 }  // namespace
 
-DocxText::DocxText(pugi::xml_node body, ListLabels* labels)
-    : body_(body), labels_(labels), fields_(body), text_(&document_.runningText) {}
+DocxText::DocxText(pugi::xml_node body, const DocxStyles& styles, ListLabels* labels)
+    : body_(body),
+      styles_(styles),
+      hiding_(styles),
+      labels_(labels),
+      fields_(body),
+      text_(&document_.runningText) {}
 
 void DocxText::Read() {
   WalkChildren(body_);
+  EndLine();
   document_.pictures = pictures_.size();
 }
 
@@ -75,6 +81,7 @@ DocxText::Handler DocxText::HandlerOf(std::string_view localName) {
       {"sym", &DocxText::Symbol},
       {"fldChar", &DocxText::FieldCharacter},
       {"instrText", &DocxText::Instruction},
+      {"fldSimple", &DocxText::SimpleField},
       {"oMath", &DocxText::Equation},
       {"object", &DocxText::EmbeddedObject},
       {"drawing", &DocxText::Drawing},
@@ -111,9 +118,9 @@ DocxText::Handler DocxText::HandlerOf(std::string_view localName) {
 }
 
 void DocxText::Walk(pugi::xml_node node) {
-  if (beyondLimits_) return;
+  if (result_ != WordResult::Done) return;
   if (++depth_ > kDeepest)
-    beyondLimits_ = true;
+    result_ = WordResult::TooDeep;
   else
     (this->*HandlerOf(LocalName(node)))(node);
   --depth_;
@@ -127,15 +134,50 @@ void DocxText::Skip(pugi::xml_node /*node*/) {}
 
 void DocxText::Paragraph(pugi::xml_node node) {
   const pugi::xml_node properties = ChildOf(node, "pPr");
-  auto outer = std::exchange(textBoxes_, {});
-  if (labels_ != nullptr) Append(labels_->Next(properties));
+  auto outerBoxes = std::exchange(textBoxes_, {});
+  auto outerStyle = std::exchange(paragraphStyle_, styles_.OfParagraph(properties));
+  const Place start = End();
+  const bool wasShown = IsShown();
   WalkChildren(node);
-  if (!HasDeletion(ChildOf(properties, "rPr"))) Append(kParagraphEnd);
-  TextBoxes(std::exchange(textBoxes_, std::move(outer)));
+  const bool isEmpty = End() == start;
+  const bool endsLine = EndsLine(ChildOf(properties, "rPr"), isEmpty);
+  // The break of a section that stands alone is numbered by no word processor.
+  const bool isNumbered =
+      isEmpty ? endsLine && !ChildOf(properties, "sectPr") : IsLineStart(start.characters);
+  if (wasShown && isNumbered) InsertLabel(properties, start);
+  if (endsLine) Append(kParagraphEnd);
+  paragraphStyle_ = std::move(outerStyle);
+  TextBoxes(std::exchange(textBoxes_, std::move(outerBoxes)));
+}
+
+/// A paragraph whose mark is deleted, or stands between a heading and its text in one line, goes on in the
+/// next one. One of which nothing is shown is not there.
+bool DocxText::EndsLine(pugi::xml_node mark, bool isEmpty) {
+  if (HasDeletion(mark)) return false;
+  return !hiding_.IsHidden(mark, paragraphStyle_) || (!isEmpty && !IsOn(ChildOf(mark, "specVanish")));
+}
+
+/// Only now, because a paragraph of which nothing is left has not been counted.
+void DocxText::InsertLabel(pugi::xml_node properties, Place start) {
+  if (labels_ == nullptr) return;
+  const std::u16string label = labels_->Next(properties);
+  text_->characters.insert(start.characters, label);
+  for (std::size_t i = start.objects; i < text_->objects.size(); ++i)
+    text_->objects[i].position += label.size();
+}
+
+bool DocxText::IsLineStart(std::size_t position) const {
+  const auto before = std::u16string_view(text_->characters).substr(0, position);
+  return before.empty() || before.ends_with(kParagraphEnd) || before.ends_with(kCellEnd);
+}
+
+/// Where a paragraph goes on in no other one.
+void DocxText::EndLine() {
+  if (!IsLineStart(text_->characters.size())) AppendAlways(kParagraphEnd);
 }
 
 void DocxText::TextBox(pugi::xml_node node) {
-  textBoxes_.push_back(node);
+  if (IsShown()) textBoxes_.push_back(node);
   ++found_;
 }
 
@@ -154,6 +196,7 @@ void DocxText::Alternatives(pugi::xml_node node) {
 }
 
 void DocxText::Table(pugi::xml_node node) {
+  EndLine();
   const bool outer = std::exchange(ofTopTable_, enclosing_ == 0);
   if (ofTopTable_) document_.tables.emplace_back();
   ++enclosing_;
@@ -191,7 +234,7 @@ void DocxText::CellText(pugi::xml_node node, bool isEmpty) {
 
 void DocxText::Run(pugi::xml_node node) {
   const bool outer = hidden_;
-  hidden_ = hidden_ || IsOn(ChildOf(ChildOf(node, "rPr"), "vanish"));
+  hidden_ = hidden_ || hiding_.IsHidden(ChildOf(node, "rPr"), paragraphStyle_);
   WalkChildren(node);
   hidden_ = outer;
 }
@@ -232,6 +275,10 @@ void DocxText::Symbol(pugi::xml_node node) {
 
 void DocxText::FieldCharacter(pugi::xml_node node) {
   if (fields_.Take(node)) Equation(node);
+}
+
+void DocxText::SimpleField(pugi::xml_node node) {
+  if (!FieldNesting::HidesResult(ValueOf(node, "instr"))) WalkChildren(node);
 }
 
 void DocxText::Instruction(pugi::xml_node node) {
@@ -287,7 +334,7 @@ void DocxText::AppendPicture(std::string_view relation) {
   ++found_;
   if (!IsShown()) return;
   if (pictures_.size() == kMostPictures) {
-    beyondLimits_ = true;
+    result_ = WordResult::TooLarge;
     return;
   }
   text_->objects.push_back({text_->characters.size(), WordObjectKind::Picture, pictures_.size()});

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "platform/WordDocument.h"
+#include "platform/WordReader.h"
 #include "platform/office/FieldNesting.h"
+#include "platform/office/HiddenText.h"
 #include "platform/office/ListLabels.h"
 #include "platform/office/PicturePlace.h"
 
@@ -16,15 +18,15 @@ namespace quorvantis {
 /// Walks the body of a document and gathers what it says.
 class DocxText {
  public:
-  /// Both outlive this object. Without `labels`, automatic numbers are left out.
-  DocxText(pugi::xml_node body, ListLabels* labels);
+  /// All outlive this object. Without `labels`, automatic numbers are left out.
+  DocxText(pugi::xml_node body, const DocxStyles& styles, ListLabels* labels);
 
   /// Once only.
   void Read();
 
-  /// Whether the document is nested deeper or has more pictures than is read. What has been read then is no
-  /// whole.
-  bool IsBeyondLimits() const { return beyondLimits_; }
+  /// `TooDeep` and `TooLarge` where the document is nested deeper or has more pictures than is read. What has
+  /// been read then is no whole.
+  WordResult Result() const { return result_; }
 
   WordDocument& Document() { return document_; }
 
@@ -32,6 +34,12 @@ class DocxText {
   std::vector<PicturePlace>& Pictures() { return pictures_; }
 
  private:
+  /// A place between two characters and two objects of a text.
+  struct Place {
+    std::size_t characters = 0;
+    std::size_t objects = 0;
+    bool operator==(const Place&) const = default;
+  };
   using Handler = void (DocxText::*)(pugi::xml_node);
   static Handler HandlerOf(std::string_view localName);
 
@@ -40,6 +48,9 @@ class DocxText {
   void Skip(pugi::xml_node node);
 
   void Paragraph(pugi::xml_node node);
+  bool EndsLine(pugi::xml_node mark, bool isEmpty);
+  void InsertLabel(pugi::xml_node properties, Place start);
+  void EndLine();
   void TextBox(pugi::xml_node node);
   void TextBoxes(const std::vector<pugi::xml_node>& boxes);
   void Alternatives(pugi::xml_node node);
@@ -58,6 +69,7 @@ class DocxText {
   void SoftHyphen(pugi::xml_node node);
   void Symbol(pugi::xml_node node);
   void FieldCharacter(pugi::xml_node node);
+  void SimpleField(pugi::xml_node node);
   void Instruction(pugi::xml_node node);
 
   void Equation(pugi::xml_node node);
@@ -68,12 +80,16 @@ class DocxText {
   void VmlPicture(pugi::xml_node node);
   void DrawnPicture(pugi::xml_node node);
 
-  bool IsShown() const { return !hidden_ && !fields_.InInstruction(); }
+  bool IsShown() const { return !hidden_ && !fields_.IsUnseen(); }
+  bool IsLineStart(std::size_t position) const;
+  Place End() const { return {text_->characters.size(), text_->objects.size()}; }
   void Append(std::u16string_view characters);
   void AppendAlways(std::u16string_view characters);
   void AppendPicture(std::string_view relation);
 
   pugi::xml_node body_;
+  const DocxStyles& styles_;
+  HiddenText hiding_;
   ListLabels* labels_;
   FieldNesting fields_;
   WordDocument document_;
@@ -81,12 +97,13 @@ class DocxText {
   PicturePlace extent_;                    ///< the size of the drawing in hand
   WordText* text_;                         ///< what is being filled
   std::vector<pugi::xml_node> textBoxes_;  ///< of the paragraph in hand
+  std::string paragraphStyle_;             ///< of the same
   std::size_t found_ = 0;                  ///< grows with everything that is found
   int depth_ = 0;
   int enclosing_ = 0;        ///< tables and text boxes around this place
   bool ofTopTable_ = false;  ///< whether rows and cells at this place belong to a table of the document
   bool hidden_ = false;
-  bool beyondLimits_ = false;
+  WordResult result_ = WordResult::Done;
 };
 
 }  // namespace quorvantis

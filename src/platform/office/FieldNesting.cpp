@@ -4,6 +4,8 @@
 #include "platform/office/RevisionMarks.h"
 #include "platform/office/XmlPart.h"
 
+#include <algorithm>
+
 namespace quorvantis {
 namespace {
 
@@ -15,14 +17,23 @@ pugi::xml_node NextBeside(pugi::xml_node node, pugi::xml_node root) {
   return node == root ? pugi::xml_node() : node.next_sibling();
 }
 
-bool IsEquation(std::string_view instruction) {
-  const std::size_t start = instruction.find_first_not_of(" \t");
-  if (start == std::string_view::npos) return false;
-  const std::string_view name = instruction.substr(start, instruction.find_first_of(" \t\\", start) - start);
-  return name == "EQ" || name == "eq" || name == "Eq";
+/// In capitals, as its name is.
+std::string NameOf(std::string_view instruction) {
+  std::string name;
+  const std::size_t start = std::min(instruction.find_first_not_of(" \t"), instruction.size());
+  for (const char c : instruction.substr(start)) {
+    if (c == ' ' || c == '\t' || c == '\\') break;
+    name += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+  }
+  return name;
 }
 
 }  // namespace
+
+bool FieldNesting::HidesResult(std::string_view instruction) {
+  const std::string name = NameOf(instruction);
+  return name == "SET" || name == "ASK";
+}
 
 FieldNesting::FieldNesting(pugi::xml_node body) {
   std::vector<std::size_t> begun;
@@ -44,22 +55,24 @@ bool FieldNesting::Take(pugi::xml_node fieldCharacter) {
   const std::string_view type = ValueOf(fieldCharacter, "fldCharType");
   if (type == "begin" && complete_.contains(fieldCharacter.hash_value())) {
     open_.emplace_back();
-    ++instructions_;
+    ++unseen_;
   }
   if (open_.empty()) return false;
-  if (type == "separate" && !open_.back().inResult) {
-    open_.back().inResult = true;
-    --instructions_;
+  Field& field = open_.back();
+  if (type == "separate" && !field.inResult) {
+    field.inResult = true;
+    field.isShown = !HidesResult(field.instruction);
+    if (field.isShown) --unseen_;
   }
   if (type != "end") return false;
-  const Field ended = std::move(open_.back());
+  const Field ended = std::move(field);
   open_.pop_back();
-  if (!ended.inResult) --instructions_;
-  return !ended.inResult && IsEquation(ended.instruction);
+  if (!ended.isShown) --unseen_;
+  return !ended.inResult && NameOf(ended.instruction) == "EQ";
 }
 
 void FieldNesting::AddInstruction(std::string_view text) {
-  if (open_.empty() || open_.back().instruction.size() > kMostInstruction) return;
+  if (open_.empty() || open_.back().inResult || open_.back().instruction.size() > kMostInstruction) return;
   open_.back().instruction += text.substr(0, kMostInstruction);
 }
 

@@ -20,18 +20,22 @@ class FieldNesting {
   bool Take(pugi::xml_node fieldCharacter);
   void AddInstruction(std::string_view text);
 
-  /// Whether text at this place is part of an instruction and not shown.
-  bool InInstruction() const { return instructions_ != 0; }
+  /// Whether text at this place is part of an instruction, or of a result that only sets a variable.
+  bool IsUnseen() const { return unseen_ != 0; }
+
+  /// Whether a field's result is never shown.
+  static bool HidesResult(std::string_view instruction);
 
  private:
   struct Field {
     std::string instruction;
     bool inResult = false;
+    bool isShown = false;
   };
 
   std::unordered_set<std::size_t> complete_;  ///< hashes of the nodes that begin a field which ends
   std::vector<Field> open_;
-  std::size_t instructions_ = 0;  ///< open fields that have not come to their result
+  std::size_t unseen_ = 0;  ///< open fields of which nothing is shown at this place
 };
 
 }  // namespace quorvantis

@@ -11,7 +11,6 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kLongestStyleChain = 20;  // a chain may lead back to where it began
 constexpr std::size_t kLongestLabel = 100;
 constexpr std::string_view kNoList = "0";
 constexpr int kNone = -1;  // a level at which no paragraph has been counted
@@ -23,20 +22,6 @@ std::string FormatOf(pugi::xml_node level) {
   return format ? std::string(ValueOf(format)) : "decimal";
 }
 
-std::map<std::string, pugi::xml_node, std::less<>> ById(pugi::xml_node parent, std::string_view name,
-                                                        std::string_view attribute) {
-  std::map<std::string, pugi::xml_node, std::less<>> found;
-  for (const pugi::xml_node child : parent.children()) {
-    if (LocalName(child) == name) found.emplace(ValueOf(child, attribute), child);
-  }
-  return found;
-}
-
-pugi::xml_node Find(const std::map<std::string, pugi::xml_node, std::less<>>& nodes, std::string_view id) {
-  const auto found = nodes.find(id);
-  return found == nodes.end() ? pugi::xml_node() : found->second;
-}
-
 std::u16string_view Separator(pugi::xml_node level) {
   const std::string_view kind = ValueOf(ChildOf(level, "suff"));
   return kind == "nothing" ? u"" : kind == "space" ? u" " : u"\t";
@@ -44,16 +29,10 @@ std::u16string_view Separator(pugi::xml_node level) {
 
 }  // namespace
 
-ListLabels::ListLabels(pugi::xml_node numbering, pugi::xml_node styles)
+ListLabels::ListLabels(pugi::xml_node numbering, const DocxStyles& styles)
     : abstractLists_(ById(numbering, "abstractNum", "abstractNumId")),
       instances_(ById(numbering, "num", "numId")),
-      styles_(ById(styles, "style", "styleId")) {
-  for (const auto& [id, style] : styles_) {
-    const std::string_view isDefault = ValueOf(style, "default");
-    if (ValueOf(style, "type") == "paragraph" && (isDefault == "1" || isDefault == "true"))
-      defaultStyle_ = id;
-  }
-}
+      styles_(styles) {}
 
 std::u16string ListLabels::Next(pugi::xml_node properties) {
   const Place place = PlaceOf(properties);
@@ -87,7 +66,7 @@ ListLabels::List ListLabels::MakeList(pugi::xml_node instance) {
     const pugi::xml_node start = ChildOf(node, "startOverride");
     if (own) level = MakeLevel(own, index);
     if (start) level.start = NumberOf(start, 1);
-    level.restarts = own || start;
+    level.restarts = !start.empty();  // other looks alone go on counting
   }
   return list;
 }
@@ -124,19 +103,17 @@ pugi::xml_node ListLabels::FindAbstract(const std::string& id) const {
   const pugi::xml_node abstract = Find(abstractLists_, id);
   const pugi::xml_node link = ChildOf(abstract, "numStyleLink");
   if (!link) return abstract;
-  const pugi::xml_node style = Find(styles_, ValueOf(link));
+  const pugi::xml_node style = styles_.Style(ValueOf(link));
   const pugi::xml_node list = ChildOf(ChildOf(ChildOf(style, "pPr"), "numPr"), "numId");
   const pugi::xml_node other = Find(instances_, ValueOf(list));
   return Find(abstractLists_, ValueOf(ChildOf(other, "abstractNumId")));
 }
 
 ListLabels::Place ListLabels::PlaceOf(pugi::xml_node properties) {
-  std::string style(ValueOf(ChildOf(properties, "pStyle")));
-  if (style.empty()) style = defaultStyle_;
   const pugi::xml_node own = ChildOf(properties, "numPr");
   const pugi::xml_node id = ChildOf(own, "numId");
   if (id) return {std::string(ValueOf(id)), NumberOf(ChildOf(own, "ilvl"), 0)};
-  Place place = PlaceOfStyle(style);
+  Place place = PlaceOfStyle(styles_.OfParagraph(properties));
   if (const pugi::xml_node level = ChildOf(own, "ilvl")) place.level = NumberOf(level, 0);
   return place;
 }
@@ -148,18 +125,18 @@ ListLabels::Place ListLabels::PlaceOfStyle(const std::string& style) {
   return placesOfStyles_.emplace(style, FindPlaceOfStyle(style)).first->second;
 }
 
-ListLabels::Place ListLabels::FindPlaceOfStyle(std::string style) {
-  const std::string first = style;
-  for (int i = 0; i < kLongestStyleChain; ++i) {
-    const pugi::xml_node definition = Find(styles_, style);
+/// A style may tell the level only, and leave the list to one that it is based on.
+ListLabels::Place ListLabels::FindPlaceOfStyle(const std::string& style) {
+  Place place;
+  styles_.FollowBases(style, [&place](pugi::xml_node definition) {
     const pugi::xml_node numbers = ChildOf(ChildOf(definition, "pPr"), "numPr");
-    if (const pugi::xml_node id = ChildOf(numbers, "numId")) {
-      const std::string list(ValueOf(id));
-      return {list, std::max(NumberOf(ChildOf(numbers, "ilvl"), 0), LevelOfStyle(list, first))};
-    }
-    style = ValueOf(ChildOf(definition, "basedOn"));
-  }
-  return {};
+    if (place.level < 0) place.level = NumberOf(ChildOf(numbers, "ilvl"), -1);
+    place.list = ValueOf(ChildOf(numbers, "numId"));
+    return !place.list.empty();
+  });
+  if (place.list.empty()) return {};
+  place.level = std::max({place.level, LevelOfStyle(place.list, style), 0});
+  return place;
 }
 
 /// The level that is bound to the style, as headings are; -1 when none is.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/office/DocxStyles.h"
+
 #include <array>
 #include <map>
 #include <pugixml.hpp>
@@ -14,8 +16,8 @@ class ListLabels {
  public:
   static constexpr int kLevels = 9;
 
-  /// The roots of the lists and of the styles of a document, either of which may be empty. They outlive this.
-  ListLabels(pugi::xml_node numbering, pugi::xml_node styles);
+  /// The root of the lists, which may be empty, and the styles of a document. They outlive this.
+  ListLabels(pugi::xml_node numbering, const DocxStyles& styles);
 
   /// The label of the next paragraph, with the tab or the blank behind it; empty when it has none.
   /// `properties` are those of the paragraph and may be empty. Bullets are no labels.
@@ -53,15 +55,14 @@ class ListLabels {
   pugi::xml_node FindAbstract(const std::string& id) const;
   Place PlaceOf(pugi::xml_node properties);
   Place PlaceOfStyle(const std::string& style);
-  Place FindPlaceOfStyle(std::string style);
+  Place FindPlaceOfStyle(const std::string& style);
   int LevelOfStyle(const std::string& list, const std::string& style);
   static void Count(List& list, Counters& counters, int level);
   static std::u16string Label(const List& list, const Counters& counters, int level);
 
-  std::map<std::string, pugi::xml_node, std::less<>> abstractLists_;
-  std::map<std::string, pugi::xml_node, std::less<>> instances_;
-  std::map<std::string, pugi::xml_node, std::less<>> styles_;
-  std::string defaultStyle_;
+  NodesById abstractLists_;
+  NodesById instances_;
+  const DocxStyles& styles_;
   std::map<std::string, Place, std::less<>> placesOfStyles_;
   std::map<std::string, List, std::less<>> abstracts_;  ///< as their instances begin
   std::map<std::string, List, std::less<>> lists_;

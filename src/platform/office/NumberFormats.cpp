@@ -130,6 +130,8 @@ Formatter FormatterOf(std::string_view format) {
       {"taiwaneseDigital", IdeographDigits},
       {"koreanDigital2", IdeographDigits},
       {"ideographEnclosedCircle", [](int n) { return Nth(n, u'\u3280', 10); }},
+      {"arabicAlpha", [](int n) { return OneOf(n, u"أبتثجحخدذرزسشصضطظعغفقكلمنهوي"); }},
+      {"arabicAbjad", [](int n) { return OneOf(n, u"أبجدهوزحطيكلمنسعفصقرشتثخذضظغ"); }},
       {"ideographTraditional", [](int n) { return OneOf(n, u"甲乙丙丁戊己庚辛壬癸"); }},
       {"ideographZodiac", [](int n) { return OneOf(n, u"子丑寅卯辰巳午未申酉戌亥"); }},
   };

@@ -59,10 +59,19 @@ TEST_F(DocxTest, RunningText) {
          "<w:t>d</w:t></w:r>"),
        u"d\r"},
       {"deleted paragraph mark", P("<w:pPr><w:rPr><w:del/></w:rPr></w:pPr>" + T("a")) + P(T("b")), u"ab\r"},
+      {"and none to go on in",
+       P("<w:pPr><w:rPr><w:del/></w:rPr></w:pPr>" + T("a")) + "<w:tbl/>" +
+           P("<w:pPr><w:rPr><w:del/></w:rPr></w:pPr>" + T("b")),
+       u"a\rb\r"},
       {"field results",
        P(Field("begin") + Instruction("IF 1") + Field("begin") + T("x") + Field("separate") + T("y") +
          Field("end") + Field("separate") + T("z") + Field("end") + T("!")),
        u"z!\r"},
+      {"fields that only set something",
+       P(Field("begin") + Instruction(" set x ") + Field("separate") + T("a") + Field("end") +
+         "<w:fldSimple w:instr=\"ASK y\">" + T("b") + "</w:fldSimple><w:fldSimple w:instr=\"REF x\">" +
+         T("c") + "</w:fldSimple>"),
+       u"c\r"},
       {"a field without an end", P(Field("begin") + Instruction("PAGE") + T("a")) + P(T("b")), u"a\rb\r"},
       {"equations", P(T("a") + equation + "<m:oMathPara>" + equation + equation + "</m:oMathPara>" + T("b")),
        u"a<#><#><#>b\r"},
@@ -96,6 +105,34 @@ TEST_F(DocxTest, RunningText) {
   for (const BodyCase& c : cases) EXPECT_EQ(Running(c.body), c.text) << c.subject;
 }
 
+TEST_F(DocxTest, HiddenText) {
+  const auto styled = [](const std::string& style, const std::string& runs) {
+    return P("<w:pPr><w:pStyle w:val=\"" + style + "\"/><w:rPr><w:vanish w:val=\"0\"/></w:rPr></w:pPr>" +
+             runs);
+  };
+  const auto run = [](const std::string& properties, const std::string& content) {
+    return R("<w:rPr>" + properties + "</w:rPr>" + content);
+  };
+  const std::string hidden = "<w:rStyle w:val=\"Hidden\"/>";
+  DocxBuilder builder;
+  builder
+      .Part(
+          "word/styles.xml",
+          R"(<w:styles><w:style w:styleId="Base"><w:rPr><w:vanish/></w:rPr></w:style>)"
+          R"(<w:style w:styleId="Hidden"><w:basedOn w:val="Base"/></w:style>)"
+          R"(<w:style w:styleId="Shown"><w:basedOn w:val="Base"/><w:rPr><w:vanish w:val="0"/></w:rPr></w:style>)"
+          R"(<w:style w:styleId="Loop"><w:basedOn w:val="Loop"/></w:style></w:styles>)")
+      .Relate("s", "styles", "styles.xml");
+  builder.Body(P(run(hidden, "<w:t>a</w:t>" + Box(P(T("box")))) + T("1")) +
+               styled("Hidden",
+                      T("b") + run(hidden, "<w:t>2</w:t>") + run("<w:vanish w:val=\"0\"/>", "<w:t>3</w:t>")) +
+               styled("Shown", T("4") + run(hidden, "<w:t>c</w:t>")) + styled("Loop", T("5")) +
+               P("<w:pPr><w:pStyle w:val=\"Hidden\"/></w:pPr>" + T("none of it")) +
+               P("<w:pPr><w:rPr><w:vanish/></w:rPr></w:pPr>" + T("6")) +
+               P("<w:pPr><w:rPr><w:vanish/><w:specVanish/></w:rPr></w:pPr>" + T("7")) + P(T("8")));
+  EXPECT_EQ(Open(builder).document->Content().runningText.characters, u"1\r23\r4\r5\r6\r78\r");
+}
+
 TEST_F(DocxTest, Tables) {
   const auto cell = [](const std::string& content, const std::string& properties = "") {
     return "<w:tc><w:tcPr>" + properties + "</w:tcPr>" + content + "</w:tc>";
@@ -127,20 +164,22 @@ TEST_F(DocxTest, Tables) {
   EXPECT_EQ(document.tables.size(), 2U);
 }
 
+std::string Level(int index, const char* format, const char* text, const char* more = "") {
+  return "<w:lvl w:ilvl=\"" + std::to_string(index) + "\"><w:start w:val=\"1\"/><w:numFmt w:val=\"" + format +
+         "\"/>" + more + "<w:lvlText w:val=\"" + text + "\"/></w:lvl>";
+}
+std::string Item(const char* list, int index, const std::string& runs = T("x"),
+                 const std::string& more = "") {
+  return P("<w:pPr><w:numPr><w:ilvl w:val=\"" + std::to_string(index) + "\"/><w:numId w:val=\"" + list +
+           "\"/></w:numPr>" + more + "</w:pPr>" + runs);
+}
+
 TEST_F(DocxTest, AutomaticNumbers) {
-  const auto level = [](int index, const char* format, const char* text, const char* more = "") {
-    return "<w:lvl w:ilvl=\"" + std::to_string(index) + "\"><w:start w:val=\"1\"/><w:numFmt w:val=\"" +
-           format + "\"/>" + more + "<w:lvlText w:val=\"" + text + "\"/></w:lvl>";
-  };
-  const auto item = [](const char* list, int index) {
-    return P("<w:pPr><w:numPr><w:ilvl w:val=\"" + std::to_string(index) + "\"/><w:numId w:val=\"" + list +
-             "\"/></w:numPr></w:pPr>" + T("x"));
-  };
   DocxBuilder builder;
   builder.Part("word/numbering.xml",
                "<w:numbering><w:abstractNum w:abstractNumId=\"0\">" +
-                   level(0, "chineseCounting", "%1、", "<w:suff w:val=\"nothing\"/>") +
-                   level(1, "decimal", "%1.%2", "<w:isLgl/>") + level(2, "bullet", "o") +
+                   Level(0, "chineseCounting", "%1、", "<w:suff w:val=\"nothing\"/>") +
+                   Level(1, "decimal", "%1.%2", "<w:isLgl/>") + Level(2, "bullet", "o") +
                    "</w:abstractNum><w:num w:numId=\"1\"><w:abstractNumId w:val=\"0\"/></w:num>"
                    "<w:num w:numId=\"2\"><w:abstractNumId w:val=\"0\"/><w:lvlOverride w:ilvl=\"0\">"
                    "<w:startOverride w:val=\"11\"/></w:lvlOverride></w:num></w:numbering>");
@@ -150,12 +189,42 @@ TEST_F(DocxTest, AutomaticNumbers) {
       "<w:basedOn w:val=\"A\"/><w:pPr><w:numPr><w:numId "
       "w:val=\"1\"/></w:numPr></w:pPr></w:style></w:styles>");
   builder.Relate("n", "numbering", "numbering.xml").Relate("s", "styles", "styles.xml");
-  builder.Body(item("1", 0) + item("1", 1) + item("1", 1) + item("1", 0) + item("1", 1) + item("1", 2) +
-               item("2", 0) + item("2", 0) + P("<w:pPr><w:pStyle w:val=\"A\"/></w:pPr>" + T("s")) +
-               item("0", 0) + P("<w:pPr><w:pStyle w:val=\"none\"/></w:pPr>"));
+  builder.Body(Item("1", 0) + Item("1", 1) + Item("1", 1) + Item("1", 0) + Item("1", 1) + Item("1", 2) +
+               Item("2", 0) + Item("2", 0) + P("<w:pPr><w:pStyle w:val=\"A\"/></w:pPr>" + T("s")) +
+               Item("0", 0) + P("<w:pPr><w:pStyle w:val=\"none\"/></w:pPr>"));
   EXPECT_EQ(Open(builder, {.listLabels = true, .isCancelled = {}}).document->Content().runningText.characters,
             u"一、x\r1.1\tx\r1.2\tx\r二、x\r2.1\tx\rx\r十一、x\r十二、x\r十三、s\rx\r\r");
   EXPECT_EQ(Open(builder).document->Content().runningText.characters, u"x\rx\rx\rx\rx\rx\rx\rx\rs\rx\r\r");
+}
+
+TEST_F(DocxTest, NumbersGoOnPastWhatIsNotCounted) {
+  const std::string deleted = "<w:rPr><w:del/></w:rPr>";
+  const char* const space = "<w:suff w:val=\"space\"/>";
+  DocxBuilder builder;
+  builder
+      .Part("word/numbering.xml",
+            "<w:numbering><w:abstractNum w:abstractNumId=\"0\">" + Level(0, "decimal", "%1.", space) +
+                Level(1, "decimal", "%1.%2", space) +
+                "</w:abstractNum><w:abstractNum w:abstractNumId=\"1\">" +
+                Level(0, "arabicAlpha", "%1.", space) +
+                "</w:abstractNum><w:num w:numId=\"1\"><w:abstractNumId w:val=\"0\"/></w:num>"
+                "<w:num w:numId=\"2\"><w:abstractNumId w:val=\"0\"/><w:lvlOverride w:ilvl=\"0\">" +
+                Level(0, "upperLetter", "%1.", space) +
+                "</w:lvlOverride></w:num><w:num w:numId=\"3\"><w:abstractNumId "
+                "w:val=\"1\"/></w:num></w:numbering>")
+      .Part(
+          "word/styles.xml",
+          R"(<w:styles><w:style w:styleId="1"><w:pPr><w:numPr><w:numId w:val="1"/></w:numPr></w:pPr></w:style>)"
+          R"(<w:style w:styleId="2"><w:basedOn w:val="1"/><w:pPr><w:numPr><w:ilvl w:val="1"/></w:numPr></w:pPr>)"
+          R"(</w:style></w:styles>)")
+      .Relate("n", "numbering", "numbering.xml")
+      .Relate("s", "styles", "styles.xml");
+  builder.Body(Item("1", 0) + Item("2", 0) + Item("1", 0, "<w:del>" + T("gone") + "</w:del>", deleted) +
+               Item("1", 0, "", "<w:sectPr/>") + Item("1", 0, T("a"), deleted) +
+               Item("1", 0, "<m:oMath/>" + T("b")) + P("<w:pPr><w:pStyle w:val=\"2\"/></w:pPr>" + T("x")) +
+               Item("3", 0, "<m:oMath/>") + Item("3", 0, ""));
+  EXPECT_EQ(Shown(Open(builder, {.listLabels = true, .isCancelled = {}}).document->Content().runningText),
+            u"1. x\rB. x\r\r3. a<#>b\r3.1 x\rأ. <#>\rب. \r");
 }
 
 TEST_F(DocxTest, TheMainPartIsWhereThePackageSaysAndNeverOutside) {
@@ -174,7 +243,7 @@ TEST_F(DocxTest, HostilePackagesEndInAClearOutcome) {
   const std::string laughs = "<!DOCTYPE d [<!ENTITY a \"ha\"><!ENTITY b \"&a;&a;\">]><w:document><w:body>" +
                              P(T("&b;")) + "</w:body></w:document>";
   EXPECT_EQ(Open(DocxBuilder().Body(Repeat(open, 200'000) + Repeat(close, 200'000))).result,
-            WordResult::TooLarge);
+            WordResult::TooDeep);
   EXPECT_EQ(Open(DocxBuilder().Body(std::string(std::size_t{80} << 20, ' '))).result, WordResult::TooLarge);
   EXPECT_EQ(Open(DocxBuilder().Body(Repeat("<w:p/>", 5'000'000))).result, WordResult::TooLarge);
   EXPECT_EQ(Open(DocxBuilder().Body(P(Repeat("<a:blip r:embed=\"a\"/>", 10'001)))).result,
@@ -200,16 +269,21 @@ TEST_F(DocxTest, FilesThatAreNoDocuments) {
   EXPECT_EQ(result(whole.substr(0, whole.size() - 30)), WordResult::Damaged);
 }
 
-/// The header, one sector of allocation, and a directory with one stream.
-std::string CompoundFileWith(std::u16string_view stream, char flags) {
+/// The header, one sector of allocation, a directory with one stream, and a sector for the stream or, if it
+/// is small, for it and another one before it.
+std::string CompoundFileWith(std::u16string_view stream, char flags, bool isSmall = false) {
   std::string bytes = "\xD0\xCF\x11\xE0";
   constexpr std::size_t kSector = 512;
+  constexpr std::size_t kEntry = kSector * 2 + 128;
   bytes.resize(kSector * 4, '\0');
   bytes[30] = 9;
   bytes[48] = 1;  // sector of the directory; that of the allocation is 0
-  for (std::size_t i = 0; i < stream.size(); ++i) bytes[kSector * 2 + 2 * i] = static_cast<char>(stream[i]);
-  bytes[kSector * 2 + 116] = 2;
-  bytes[kSector * 3 + 11] = flags;
+  bytes[57] = 16;
+  bytes[kEntry - 12] = 2;  // of small streams
+  for (std::size_t i = 0; i < stream.size(); ++i) bytes[kEntry + 2 * i] = static_cast<char>(stream[i]);
+  bytes[kEntry + 116] = isSmall ? 1 : 2;
+  bytes[kEntry + 121] = isSmall ? 1 : 16;
+  bytes[kSector * 3 + (isSmall ? 75 : 11)] = flags;
   for (std::size_t i = 516; i < 520; ++i) bytes[i] = '\xFF';  // the directory ends after one sector
   return bytes;
 }
@@ -220,6 +294,7 @@ TEST_F(DocxTest, PasswordsAreNoticed) {
   };
   EXPECT_EQ(result(CompoundFileWith(u"EncryptedPackage", 0)), WordResult::PasswordProtected);
   EXPECT_EQ(result(CompoundFileWith(u"WordDocument", 1)), WordResult::PasswordProtected);
+  EXPECT_EQ(result(CompoundFileWith(u"WordDocument", 1, true)), WordResult::PasswordProtected);
   EXPECT_EQ(result(CompoundFileWith(u"Workbook", 0)), WordResult::UnknownFormat);
   DocxBuilder odt;
   odt.Part("mimetype", "application/vnd.oasis.opendocument.text")
