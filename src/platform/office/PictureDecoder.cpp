@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/office/PictureDecoder.h"
 
-#include <gd.h>
+#include "platform/office/PictureLibrary.h"
+
 #include <limits>
 #include <memory>
 
@@ -10,23 +11,20 @@ namespace {
 
 constexpr std::uint64_t kLongestSide = 65'535;
 
-struct ImageCloser {
-  void operator()(gdImage* image) const { ::gdImageDestroy(image); }
-};
-using Image = std::unique_ptr<gdImage, ImageCloser>;
+using Image = std::unique_ptr<gdImage, decltype(PictureLibrary::destroy)>;
 
-gdImage* Decode(PictureKind kind, int size, void* data) {
+gdImage* Decode(const PictureLibrary& library, PictureKind kind, int size, void* data) {
   switch (kind) {
     case PictureKind::Png:
-      return ::gdImageCreateFromPngPtr(size, data);
+      return library.createFromPng(size, data);
     case PictureKind::Jpeg:
-      return ::gdImageCreateFromJpegPtrEx(size, data, 1);
+      return library.createFromJpeg(size, data, 1);
     case PictureKind::Gif:
-      return ::gdImageCreateFromGifPtr(size, data);
+      return library.createFromGif(size, data);
     case PictureKind::Bmp:
-      return ::gdImageCreateFromBmpPtr(size, data);
+      return library.createFromBmp(size, data);
     case PictureKind::Tiff:
-      return ::gdImageCreateFromTiffPtr(size, data);
+      return library.createFromTiff(size, data);
     case PictureKind::Emf:
     case PictureKind::Wmf:
       break;
@@ -45,11 +43,11 @@ void PutPixel(int colour, std::uint8_t* target) {
   target[2] = OnWhite(gdTrueColorGetBlue(colour), transparency);
 }
 
+/// `image` has colours of its own for each pixel, no palette.
 PixelGrid PixelsOf(gdImage* image) {
   PixelGrid pixels{
       static_cast<std::size_t>(gdImageSX(image)), static_cast<std::size_t>(gdImageSY(image)), {}};
   pixels.bytes.resize(PixelGrid::kPixelBytes * pixels.width * pixels.height);
-  ::gdImagePaletteToTrueColor(image);
   std::uint8_t* target = pixels.bytes.data();
   for (int y = 0; y < gdImageSY(image); ++y) {
     for (int x = 0; x < gdImageSX(image); ++x, target += PixelGrid::kPixelBytes)
@@ -66,10 +64,13 @@ WordResult DecodePicture(const PictureFormat& format, std::string_view bytes, Pi
                           format.width * format.height > kMostPixels ||
                           bytes.size() > std::numeric_limits<int>::max();
   if (isTooLarge) return WordResult::TooLarge;
-  ::gdSetErrorMethod([](int, const char*, va_list) {});  // it would write to standard error
+  const PictureLibrary* const library = PictureLibrary::Get();
+  if (library == nullptr) return WordResult::UnknownFormat;
   // The library takes no constant bytes, but does not change them.
-  const Image image(Decode(format.kind, static_cast<int>(bytes.size()), const_cast<char*>(bytes.data())));
+  void* const data = const_cast<char*>(bytes.data());
+  const Image image(Decode(*library, format.kind, static_cast<int>(bytes.size()), data), library->destroy);
   if (!image) return WordResult::Damaged;
+  library->paletteToTrueColor(image.get());
   pixels = PixelsOf(image.get());
   return WordResult::Done;
 }
