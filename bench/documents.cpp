@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Importing documents of 500 questions, against LibreOffice's conversion of the same documents to text.
-#include "BenchFolder.h"
+// Importing documents, against LibreOffice's conversion of the same documents to text.
+#include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
 #include "platform/office/OfficeConverter.h"
@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace quorvantis;
 
-constexpr int kQuestions = 500;
+constexpr int kMostQuestions = 500;
 constexpr int kPictures = 200;
 
 fs::path folder;
@@ -42,15 +42,15 @@ std::string Photo(int seed) {
   return {static_cast<const char*>(bytes.get()), static_cast<std::size_t>(size)};
 }
 
-void WriteDocument(const fs::path& file, bool withPictures) {
+void WriteDocument(const fs::path& file, int questions, int pictures) {
   test::DocxBuilder builder;
   std::string body;
   const auto add = [&body](const std::string& text, const std::string& more = {}) {
     body += "<w:p><w:r><w:t xml:space=\"preserve\">" + text + "</w:t></w:r>" + more + "</w:p>";
   };
-  for (int n = 1; n <= kQuestions; ++n) {
+  for (int n = 1; n <= questions; ++n) {
     std::string picture;
-    if (withPictures && n <= kPictures) {
+    if (n <= pictures) {
       const std::string id = "p" + std::to_string(n);
       builder.Picture(id, Photo(n));
       picture = test::DocxBuilder::PictureXml(id);
@@ -64,11 +64,17 @@ void WriteDocument(const fs::path& file, bool withPictures) {
   builder.Body(body).Write(file);
 }
 
-void Import(benchmark::State& state, const char* document) {
+/// A document and how many questions it holds.
+struct Document {
+  std::string name;
+  int questions;
+};
+
+void Import(benchmark::State& state, const Document& document) {
   std::istringstream in;
   std::ostringstream out;
   cli::Console console{in, out, std::cerr};
-  const std::string paper = folder / document;
+  const std::string paper = folder / document.name;
   const std::string exam = folder / "out.exm";
   const std::string rules = folder / "rules.ini";
   const char* arguments[] = {"quorvantis-cli", "import",      paper.c_str(),  exam.c_str(),
@@ -76,22 +82,31 @@ void Import(benchmark::State& state, const char* document) {
   for (auto _ : state) {
     if (cli::RunCommandLine(std::size(arguments), arguments, console) != 0) state.SkipWithError("failed");
   }
-  if (!out.str().starts_with("500 questions read: 500 choice")) state.SkipWithError(out.str().c_str());
+  const std::string read = std::to_string(document.questions) + " questions read: ";
+  if (!out.str().starts_with(read)) state.SkipWithError(out.str().c_str());
 }
 
-void Convert(benchmark::State& state, const char* document) {
+void Convert(benchmark::State& state, const Document& document) {
   const OfficeConverter converter(OfficePrograms::Find(), nullptr);
-  const OfficeJob job{folder / document, {"MS Word 2007 XML"}, "txt"};
+  const OfficeJob job{folder / document.name, {"MS Word 2007 XML"}, "txt"};
   for (auto _ : state) {
     if (converter.Convert(job) != WordResult::Done) state.SkipWithError("LibreOffice failed");
   }
 }
 
-void Register(const char* name, void (*run)(benchmark::State&, const char*), const char* document) {
-  benchmark::RegisterBenchmark(name, run, document)
+void Register(const std::string& name, void (*run)(benchmark::State&, const Document&),
+              const Document& document) {
+  benchmark::RegisterBenchmark(name.c_str(), run, document)
       ->UseRealTime()
       ->Repetitions(3)
       ->Unit(benchmark::kMillisecond);
+}
+
+bench::Comparison Compare(const std::string& what, const Document& document, int pictures, double wanted) {
+  WriteDocument(folder / document.name, document.questions, pictures);
+  Register("import " + what, Import, document);
+  Register("convert " + what, Convert, document);
+  return {"import of " + what + " / LibreOffice to text", "import " + what, "convert " + what, wanted};
 }
 
 }  // namespace
@@ -103,19 +118,12 @@ int main(int argumentCount, char** arguments) {
       << "[Repository]\nSize=1\n[0]\nName=x\nPreQuestion=\\s*^\\d+[.)]\\s*\nPreAnswer=\\s*^Answer:[ \\t]*\n"
          "Pattern=(?<Q1>.+?)\\s*^A[.)]\\s*(?<A>.+?)\\s*^B[.)]\\s*(?<B>.+?)(?:\\s*^C[.)]\\s*(?<C>.+?))?\\s*"
          "\\z\n";
-  WriteDocument(folder / "text.docx", false);
-  WriteDocument(folder / "pictures.docx", true);
-  benchmark::Initialize(&argumentCount, arguments);
-  Register("ImportText", Import, "text.docx");
-  Register("ConvertText", Convert, "text.docx");
-  Register("ImportPictures", Import, "pictures.docx");
-  Register("ConvertPictures", Convert, "pictures.docx");
   constexpr double kThird = 1.0 / 3.0;
-  bench::RatioReporter reporter({
-      {"import of 500 questions / LibreOffice to text", "ImportText", "ConvertText", kThird},
-      {"the same with 200 pictures", "ImportPictures", "ConvertPictures", 1.0},
-  });
-  benchmark::RunSpecifiedBenchmarks(&reporter);
+  bench::RunComparisons(argumentCount, arguments,
+                        {Compare("10 questions", {"ten.docx", 10}, 0, kThird),
+                         Compare("100 questions", {"hundred.docx", 100}, 0, kThird),
+                         Compare("500 questions", {"most.docx", kMostQuestions}, 0, kThird),
+                         Compare("500 and 200 pictures", {"pictures.docx", kMostQuestions}, kPictures, 1.0)});
   fs::remove_all(folder);
   return 0;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Opening and saving exams, against copying and reading the same bytes.
-#include "BenchFolder.h"
+// Opening and saving exams of growing size, against copying and reading the same bytes.
+#include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
 #include "cli/ExamSession.h"
@@ -10,7 +10,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <sys/resource.h>
@@ -23,30 +22,29 @@ namespace {
 namespace fs = std::filesystem;
 using namespace quorvantis;
 
-constexpr int kAttachments = 30;
-constexpr std::size_t kAttachmentSize = 10 * 1024 * 1024;
+constexpr int kQuestionCounts[] = {10, 100, kMaxQuestions};
+constexpr int kMegabytes[] = {1, 30, 300, 1000};
+constexpr int kPeakMegabytes = 300;
+constexpr int kAttachments = 10;  // each of a tenth of the size
 
 fs::path folder = ".";
 std::istringstream noInput;
 std::ostringstream output;
 cli::Console console{noInput, output, std::cerr};
 
-fs::path PlainExam() {
-  return folder / "plain.exm";
+fs::path PlainExam(int questions) {
+  return folder / ("plain" + std::to_string(questions) + ".exm");
 }
-fs::path HeavyExam() {
-  return folder / "heavy.exm";
-}
-fs::path Copy() {
-  return folder / "copy.exm";
+fs::path HeavyExam(int megabytes) {
+  return folder / ("heavy" + std::to_string(megabytes) + ".exm");
 }
 
 cli::CommonOptions WorkIn(const char* name) {
   return {folder / name, false};
 }
 
-void FillQuestions(FrameSetExam& exam) {
-  for (int n = 1; n <= kMaxQuestions; ++n) {
+void FillQuestions(FrameSetExam& exam, int count) {
+  for (int n = 1; n <= count; ++n) {
     ExamQuestion& question = exam.Question(n);
     question.text =
         u"A question of the usual length, such as teachers write them. " + std::u16string(140, u'q');
@@ -55,10 +53,11 @@ void FillQuestions(FrameSetExam& exam) {
   }
 }
 
-void AttachFiles(FrameSetExam& exam) {
+void AttachFiles(FrameSetExam& exam, int megabytes) {
+  const auto size = static_cast<std::size_t>(megabytes) * 1024 * 1024 / kAttachments;
   for (int i = 0; i < kAttachments; ++i) {
     const fs::path file = folder / ("attached" + std::to_string(i) + ".bin");
-    std::string bytes(kAttachmentSize, static_cast<char>('a' + i % 26));
+    std::string bytes(size, static_cast<char>('a' + i));
     for (std::size_t at = 0; at < bytes.size(); at += 512) bytes[at] = static_cast<char>(at >> 9);
     std::ofstream(file, std::ios::binary) << bytes;
     exam.Question(i + 1).attachmentPaths[0] = PathToText(fs::absolute(file));
@@ -68,18 +67,13 @@ void AttachFiles(FrameSetExam& exam) {
 
 void MakeExams() {
   cli::ExamSession session(console, WorkIn("make"));
-  FillQuestions(session.exam);
-  session.exam.WriteExamFile(PlainExam());
-  AttachFiles(session.exam);
-  session.exam.WriteExamFile(HeavyExam());
-}
-
-void ReadBytes(benchmark::State& state) {
-  for (auto _ : state) {
-    std::ifstream in(PlainExam(), std::ios::binary);
-    std::vector<char> bytes(static_cast<std::size_t>(fs::file_size(PlainExam())));
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    benchmark::DoNotOptimize(bytes.data());
+  for (const int questions : kQuestionCounts) {
+    FillQuestions(session.exam, questions);
+    session.exam.WriteExamFile(PlainExam(questions));
+  }
+  for (const int megabytes : kMegabytes) {
+    AttachFiles(session.exam, megabytes);
+    session.exam.WriteExamFile(HeavyExam(megabytes));
   }
 }
 
@@ -90,73 +84,88 @@ void Open(benchmark::State& state, const fs::path& exam) {
     session.Load(exam);
   }
 }
-void OpenPlain(benchmark::State& state) {
-  Open(state, PlainExam());
-}
-void OpenHeavy(benchmark::State& state) {
-  Open(state, HeavyExam());
-}
 
-void SaveHeavy(benchmark::State& state) {
+void Save(benchmark::State& state, const fs::path& exam) {
   cli::ExamSession session(console, WorkIn("save"));
-  session.Load(HeavyExam());
+  session.Load(exam);
   for (auto _ : state) session.exam.WriteExamFile(folder / "saved.exm");
 }
 
-void CopyAndSync(benchmark::State& state) {
-  const std::string command = "cp --reflink=never '" + HeavyExam().string() + "' '" + Copy().string() +
-                              "' && sync '" + Copy().string() + "'";
+void ReadBytes(benchmark::State& state, const fs::path& exam) {
+  for (auto _ : state) {
+    std::ifstream in(exam, std::ios::binary);
+    std::vector<char> bytes(static_cast<std::size_t>(fs::file_size(exam)));
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    benchmark::DoNotOptimize(bytes.data());
+  }
+}
+
+void CopyAndSync(benchmark::State& state, const fs::path& exam) {
+  const std::string copy = folder / "copy.exm";
+  const std::string command =
+      "cp --reflink=never '" + exam.string() + "' '" + copy + "' && sync '" + copy + "'";
   for (auto _ : state) {
     if (std::system(command.c_str()) != 0) state.SkipWithError("cp failed");  // NOLINT(concurrency-mt-unsafe)
   }
 }
 
-/// Largest memory, in MB, of a child process that opens and saves the heavy exam.
-double PeakMemory() {
+/// Largest memory, in MB, of a child process that opens and saves an exam.
+int PeakMemory(const fs::path& exam) {
   const pid_t child = ::fork();
   if (child == 0) {
     cli::ExamSession session(console, WorkIn("peak"));
-    session.Load(HeavyExam());
+    session.Load(exam);
     session.exam.WriteExamFile(folder / "saved.exm");
     std::_Exit(0);
   }
   int status = 0;
   rusage usage{};
   ::wait4(child, &status, 0, &usage);
-  return static_cast<double>(usage.ru_maxrss) / 1024;
+  return static_cast<int>(usage.ru_maxrss / 1024);
 }
 
-void Show(benchmark::State& state) {
-  const std::string exam = PlainExam().string();
-  for (auto _ : state) {
-    output.str("");
-    const char* arguments[] = {"quorvantis-cli", "show", exam.c_str(), "--json"};
-    cli::RunCommandLine(4, arguments, console);
+using Body = void (*)(benchmark::State&, const fs::path&);
+
+benchmark::internal::Benchmark* Register(const std::string& name, Body body, const fs::path& exam) {
+  const auto run = [body, exam](benchmark::State& state) { body(state, exam); };
+  return benchmark::RegisterBenchmark(name.c_str(), run)->UseRealTime()->Unit(benchmark::kMillisecond);
+}
+
+/// Everything once a round: the disk is slower when much has been written, and then for all of them.
+void RegisterOnce(const std::string& name, Body body, const fs::path& exam) {
+  Register(name, body, exam)->Iterations(1)->Repetitions(5);
+}
+
+std::vector<bench::Comparison> RegisterAll() {
+  std::vector<bench::Comparison> rows;
+  for (const int count : kQuestionCounts) {
+    const std::string size = std::to_string(count) + " questions";
+    Register("open " + size, Open, PlainExam(count))->Repetitions(9);
+    Register("read " + size, ReadBytes, PlainExam(count))->Repetitions(9);
+    const bool isMost = count == kMaxQuestions;  // in a small exam, making its folders is most of the work
+    rows.push_back({"open " + size + " / read the bytes", "open " + size, "read " + size, isMost ? 3.0 : 5.0,
+                    isMost ? bench::Measure::Ratio : bench::Measure::Beyond});
   }
+  for (const int megabytes : kMegabytes) {
+    const std::string size = std::to_string(megabytes) + " MB";
+    RegisterOnce("open " + size, Open, HeavyExam(megabytes));
+    RegisterOnce("copy " + size, CopyAndSync, HeavyExam(megabytes));
+    RegisterOnce("save " + size, Save, HeavyExam(megabytes));
+    rows.push_back({"open with " + size + " / cp and sync", "open " + size, "copy " + size, 1.3});
+    rows.push_back({"save with " + size + " / cp and sync", "save " + size, "copy " + size, 1.3});
+  }
+  return rows;
 }
-
-BENCHMARK(ReadBytes)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMillisecond);
-BENCHMARK(OpenPlain)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMillisecond);
-BENCHMARK(Show)->UseRealTime()->Repetitions(5)->Unit(benchmark::kMillisecond);
-BENCHMARK(CopyAndSync)->UseRealTime()->Iterations(1)->Repetitions(5)->Unit(benchmark::kMillisecond);
-BENCHMARK(OpenHeavy)->UseRealTime()->Iterations(1)->Repetitions(5)->Unit(benchmark::kMillisecond);
-BENCHMARK(SaveHeavy)->UseRealTime()->Iterations(1)->Repetitions(5)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  folder = quorvantis::bench::TakeFolder(argumentCount, arguments) / "exam-file";
+  folder = bench::TakeFolder(argumentCount, arguments) / "exam-file";
   fs::create_directories(folder);
   MakeExams();
-  const double peak = PeakMemory();  // before this process has grown itself
-  benchmark::Initialize(&argumentCount, arguments);
-  quorvantis::bench::RatioReporter reporter({
-      {"open 500 questions / read the bytes", "OpenPlain", "ReadBytes", 3.0},
-      {"open with 300 MB / cp and sync", "OpenHeavy", "CopyAndSync", 1.3},
-      {"save with 300 MB / cp and sync", "SaveHeavy", "CopyAndSync", 1.3},
-  });
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  std::cout << "peak memory, open and save with 300 MB: " << peak << " MB (wanted: below 40)\n";
+  const int peak = PeakMemory(HeavyExam(kPeakMegabytes));  // before this process has grown itself
+  bench::RunComparisons(argumentCount, arguments, RegisterAll());
+  bench::PrintRow("peak memory, open and save with 300 MB", "", "", std::to_string(peak) + " MB", "< 40 MB");
   fs::remove_all(folder);
   return 0;
 }

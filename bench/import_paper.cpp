@@ -156,10 +156,9 @@ BENCHMARK(PeerLookAround)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMilli
 }  // namespace quorvantis::bench
 
 int main(int argumentCount, char** arguments) {
-  benchmark::Initialize(&argumentCount, arguments);
-  quorvantis::bench::RatioReporter reporter({
-      {"import 500 questions / PCRE2, one sweep", "Import", "PeerImport", 2.0},
-      {"3000 replacements, beyond PCRE2", "LookAround", "PeerLookAround", 100.0, true},
-  });
-  benchmark::RunSpecifiedBenchmarks(&reporter);
+  using quorvantis::bench::Measure;
+  quorvantis::bench::RunComparisons(
+      argumentCount, arguments,
+      {{"parse 500 questions / PCRE2, one sweep", "Import", "PeerImport", 2.0},
+       {"3000 replacements / PCRE2", "LookAround", "PeerLookAround", 100.0, Measure::Beyond}});
 }

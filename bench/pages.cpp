@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Composing and writing the pages of a preview and a print, against one write of the same bytes.
-#include "BenchFolder.h"
+#include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
 #include "cli/ExamSession.h"
@@ -11,6 +11,7 @@
 #include <iterator>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -22,11 +23,11 @@ std::istringstream noInput;
 std::ostringstream output;
 cli::Console console{noInput, output, std::cerr};
 
-/// 500 questions of the four kinds, each with a picture or a film.
+/// Questions of the four kinds, each with a picture or a film.
 class Pages {
  public:
-  Pages() : session_(console, {folder, false}) {
-    for (int n = 1; n <= kMaxQuestions; ++n) {
+  explicit Pages(int count) : session_(console, {folder, false}) {
+    for (int n = 1; n <= count; ++n) {
       ExamQuestion& question = session_.exam.Question(n);
       question.kind = static_cast<QuestionKind>(n % 4);
       question.text =
@@ -45,14 +46,21 @@ class Pages {
   cli::ExamSession session_;
 };
 
-void WritePreview(benchmark::State& state) {
-  Pages pages;
-  for (auto _ : state) pages.Exam().WritePreview(folder / "SEE.htm");
+fs::path PreviewPage(int count) {
+  return folder / ("SEE" + std::to_string(count) + ".htm");
+}
+fs::path PrintPage(int count) {
+  return folder / ("exam" + std::to_string(count) + "_Print.htm");
 }
 
-void WritePrint(benchmark::State& state) {
-  Pages pages;
-  for (auto _ : state) pages.Exam().WritePrintPage(folder / "exam_Print.htm");
+void WritePreview(benchmark::State& state, int count) {
+  Pages pages(count);
+  for (auto _ : state) pages.Exam().WritePreview(PreviewPage(count));
+}
+
+void WritePrint(benchmark::State& state, int count) {
+  Pages pages(count);
+  for (auto _ : state) pages.Exam().WritePrintPage(PrintPage(count));
 }
 
 void WriteBytesOf(benchmark::State& state, const fs::path& page) {
@@ -63,29 +71,38 @@ void WriteBytesOf(benchmark::State& state, const fs::path& page) {
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   }
 }
-void WritePreviewBytes(benchmark::State& state) {
-  WriteBytesOf(state, folder / "SEE.htm");
+
+void WritePreviewBytes(benchmark::State& state, int count) {
+  WriteBytesOf(state, PreviewPage(count));
 }
-void WritePrintBytes(benchmark::State& state) {
-  WriteBytesOf(state, folder / "exam_Print.htm");
+void WritePrintBytes(benchmark::State& state, int count) {
+  WriteBytesOf(state, PrintPage(count));
 }
 
-BENCHMARK(WritePreview)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMillisecond);
-BENCHMARK(WritePreviewBytes)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMillisecond);
-BENCHMARK(WritePrint)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMillisecond);
-BENCHMARK(WritePrintBytes)->UseRealTime()->Repetitions(9)->Unit(benchmark::kMillisecond);
+void Register(const std::string& name, void (*body)(benchmark::State&, int), int count) {
+  benchmark::RegisterBenchmark(name.c_str(), body, count)
+      ->UseRealTime()
+      ->Repetitions(9)
+      ->Unit(benchmark::kMillisecond);
+}
 
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  folder = quorvantis::bench::TakeFolder(argumentCount, arguments) / "pages";
+  folder = bench::TakeFolder(argumentCount, arguments) / "pages";
   fs::create_directories(folder);
-  benchmark::Initialize(&argumentCount, arguments);
-  quorvantis::bench::RatioReporter reporter({
-      {"preview of 500 questions / write the bytes", "WritePreview", "WritePreviewBytes", 20.0, true},
-      {"print of 500 questions / write the bytes", "WritePrint", "WritePrintBytes", 20.0, true},
-  });
-  benchmark::RunSpecifiedBenchmarks(&reporter);
+  std::vector<bench::Comparison> rows;
+  for (const int count : {10, 100, kMaxQuestions}) {
+    const std::string size = " of " + std::to_string(count) + " questions";
+    Register("preview" + size, WritePreview, count);
+    Register("preview bytes" + size, WritePreviewBytes, count);
+    Register("print" + size, WritePrint, count);
+    Register("print bytes" + size, WritePrintBytes, count);
+    for (const std::string page : {"preview", "print"})
+      rows.push_back({page + size + " / write the bytes", page + size, page + " bytes" + size, 20.0,
+                      bench::Measure::Beyond});
+  }
+  bench::RunComparisons(argumentCount, arguments, rows);
   fs::remove_all(folder);
   return 0;
 }

@@ -114,7 +114,6 @@ void Register(const std::string& engine, const Rule& rule, Body body) {
 
 int main(int argumentCount, char** arguments) {
   using namespace quorvantis::bench;
-  benchmark::Initialize(&argumentCount, arguments);
   std::vector<Comparison> comparisons;
   for (const Rule& rule : kRules) {
     const std::string name = rule.name;
@@ -126,6 +125,5 @@ int main(int argumentCount, char** arguments) {
     comparisons.push_back({name + " / Boost.Regex", "ours, " + name, "Boost, " + name, 1.0});
     comparisons.push_back({name + " / std::regex", "ours, " + name, "std, " + name, 0.2});
   }
-  RatioReporter reporter(std::move(comparisons));
-  benchmark::RunSpecifiedBenchmarks(&reporter);
+  RunComparisons(argumentCount, arguments, std::move(comparisons));
 }
