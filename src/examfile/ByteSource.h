@@ -23,8 +23,6 @@ class ByteSource {
 
   bool IsOpen() const { return stream_.is_open(); }
   bool Ended() const { return ended_; }
-  /// The file ended because it could not be read any further.
-  bool Failed() const { return stream_.bad(); }
 
   /// Bytes taken so far, and bytes in the file when it was opened.
   std::uint64_t Position() const { return position_; }

@@ -109,8 +109,8 @@ void ExamFileWriter::PackQuestionAttachments(const ExamQuestion& question) {
 }
 
 /// Writes one attachment entry with its content; the oral flag where one is given. The content has exactly
-/// the size that was measured: a file that shrinks meanwhile is filled up, so that what follows it is still
-/// found.
+/// the size that was measured, or what follows it would not be found: a file that shrinks meanwhile, or
+/// cannot be read to its end, ends the save.
 void ExamFileWriter::PackFile(const std::u16string& name, const std::filesystem::path& path,
                               const int* oralFlag) {
   ByteSource content(path);
@@ -119,20 +119,12 @@ void ExamFileWriter::PackFile(const std::u16string& name, const std::filesystem:
   FieldWriter fields(bytes_);
   VisitAttachment(kCurrentVersion, entry, oralFlag != nullptr, fields);
   Flush();
-  if (size == 0) return;
-  const auto writePiece = [&](std::string_view bytes) {
+  content.Take(size, [&](std::string_view bytes) {
     if (!error_) error_ = target_->Write(AsBytes(bytes));
     written_ += bytes.size();
     services_.progress.Report(written_, total_);
-  };
-  content.Take(size, writePiece);
-  if (content.Failed() && !error_) error_ = std::make_error_code(std::errc::io_error);
-  const std::string zeros(std::min<std::uint64_t>(size - content.Position(), ByteSource::kMaxTake), '\0');
-  for (std::uint64_t left = size - content.Position(); left > 0 && !error_;) {
-    const auto piece = std::min<std::uint64_t>(left, zeros.size());
-    writePiece(std::string_view(zeros).substr(0, static_cast<std::size_t>(piece)));
-    left -= piece;
-  }
+  });
+  if (content.Position() < size && !error_) error_ = std::make_error_code(std::errc::io_error);
 }
 
 }  // namespace quorvantis

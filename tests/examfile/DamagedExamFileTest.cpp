@@ -56,6 +56,14 @@ TEST_F(DamagedExamFile, GivesWhatWasWholeWhereverItIsCut) {
   EXPECT_EQ(ReadBytes(work / "a.doc"), "ab");
 }
 
+TEST_F(DamagedExamFile, MayShrinkWhileItIsRead) {
+  const std::string bytes = Type(AllForms()[0], {.files = {{u"a.doc", std::string(3'000'000, 'x')}}}).bytes;
+  world.progress.whileWorking = [&] { std::filesystem::resize_file(folder / "read.exm", 1'000'000); };
+  Read(bytes);
+  EXPECT_EQ(world.dialogs.warnings, Messages{u"[1001 %s]"});
+  EXPECT_LT(std::filesystem::file_size(work / "a.doc"), 1'000'000U);
+}
+
 TEST_F(DamagedExamFile, SurvivesAnyNumber) {
   for (const Form& form : AllForms()) {
     SCOPED_TRACE(form.name);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "../platform/posix/OrdinaryUser.h"
 #include "examfile/WorkFolder.h"
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

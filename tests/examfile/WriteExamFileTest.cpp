@@ -1,28 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ExamFileTest.h"
-
-#include <csignal>
-#include <sys/resource.h>
+#include "support/FullDisk.h"
 
 namespace quorvantis::test {
 namespace {
-
-/// While it lives, no file of this process grows beyond `bytes`, as if the disk were full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-};
 
 class WriteExamFile : public ExamFileTest {
  protected:
@@ -125,6 +106,17 @@ TEST_F(WriteExamFile, LeavesTheOldFileWhenTheDiskIsFull) {
     EXPECT_EQ(ReadBytes(target), "old") << room;
     EXPECT_EQ(Surroundings(), before);
   }
+}
+
+TEST_F(WriteExamFile, LeavesTheOldFileWhenAnAttachedFileShrinksMeanwhile) {
+  const std::filesystem::path large = Attached("large", std::string(1200000, 'x'));
+  exam.Question(1).attachmentPaths[0] = exam.Question(1).text = PathToText(large);
+  WriteBytes(target, "old");
+  world.progress.whileWorking = [&] { std::filesystem::resize_file(large, 600000); };
+  EXPECT_FALSE(exam.WriteExamFile(target));
+  EXPECT_EQ(world.dialogs.errors, Messages{u"[102 " + PathToText(target) + u"]"});
+  EXPECT_EQ(ReadBytes(target), "old");
+  EXPECT_TRUE(exam.WriteExamFile(target)) << "as it is now";
 }
 
 }  // namespace

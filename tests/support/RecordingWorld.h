@@ -111,9 +111,13 @@ class RecordingDebug : public DebugOutput {
   void Line(std::u16string_view text) override { lines.emplace_back(text); }
 };
 
-class IgnoredProgress : public Progress {
+/// Lets a test do something in the middle of reading and writing.
+class InterruptedProgress : public Progress {
  public:
-  void Report(std::uint64_t, std::uint64_t) override {}
+  std::function<void()> whileWorking;
+  void Report(std::uint64_t, std::uint64_t) override {
+    if (whileWorking) whileWorking();
+  }
 };
 
 /// "{00000001-…}", "{00000002-…}" and so on.
@@ -159,7 +163,7 @@ struct RecordingWorld {
   RecordingDialogs dialogs;
   TestCodePage codePage;
   RecordingDebug debug;
-  IgnoredProgress progress;
+  InterruptedProgress progress;
   LongAnswerFlags longAnswerFlags;
   CountingIds ids;
   FileRegistry registry;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "OrdinaryUser.h"
 #include "platform/posix/LinuxProcessTable.h"
+#include "support/OrdinaryUser.h"
 #include "support/SleepingProcess.h"
 #include "support/TemporaryFolder.h"
 

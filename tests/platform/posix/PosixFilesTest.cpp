@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "OrdinaryUser.h"
 #include "platform/posix/FolderLock.h"
 #include "platform/posix/PosixFiles.h"
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/TemporaryFolder.h"
+
+#include <cstddef>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <linux/capability.h>
+#include <sched.h>
+#include <string>
+#include <sys/mount.h>
+#include <sys/statvfs.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace quorvantis::test {
+
+/// A disk of its own with `kibibytes` of room (4 at least), which only this process sees: full is full,
+/// whoever writes and however. Takes root, or a system that gives users namespaces of their own; these need a
+/// process of one thread.
+class TinyDisk {
+ public:
+  explicit TinyDisk(std::size_t kibibytes) {
+    static const bool alone = Isolate();
+    mounted_ = alone && Mount(kibibytes, 0);
+  }
+  ~TinyDisk() {
+    if (mounted_) ::umount2(folder_.Path().c_str(), MNT_DETACH);
+  }
+  TinyDisk(const TinyDisk&) = delete;
+  TinyDisk& operator=(const TinyDisk&) = delete;
+
+  /// False where there can be no such disk: skip the test then.
+  bool Works() const { return mounted_; }
+
+  const std::filesystem::path& Path() const { return folder_.Path(); }
+  std::filesystem::path operator/(const std::filesystem::path& name) const { return folder_ / name; }
+
+  /// As if other programs wrote or removed files: there is so much room beside what is there.
+  void Leave(std::size_t kibibytes) {
+    struct statvfs disk {};
+    ::statvfs(folder_.Path().c_str(), &disk);
+    const std::size_t used = (disk.f_blocks - disk.f_bfree) * disk.f_frsize / 1024;
+    mounted_ = Mount(used + kibibytes, MS_REMOUNT);
+  }
+
+ private:
+  static void Write(const char* file, const std::string& text) { std::ofstream(file) << text << std::flush; }
+
+  /// The owner of a namespace passes over the permissions of files.
+  static void ObeyPermissions() {
+    if (::geteuid() == 0) return;
+    __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+    __user_cap_data_struct capabilities[_LINUX_CAPABILITY_U32S_3];
+    ::syscall(SYS_capget, &header, capabilities);
+    capabilities[0].effective &= ~(1U << CAP_DAC_OVERRIDE | 1U << CAP_DAC_READ_SEARCH);
+    ::syscall(SYS_capset, &header, capabilities);
+  }
+
+  /// Mounts of this process do not reach others from now on.
+  static bool Isolate() {
+    const std::string user = std::to_string(::geteuid());
+    const std::string group = std::to_string(::getegid());
+    if (::unshare(CLONE_NEWNS) != 0) {
+      if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
+      Write("/proc/self/setgroups", "deny");
+      Write("/proc/self/uid_map", user + " " + user + " 1");
+      Write("/proc/self/gid_map", group + " " + group + " 1");
+    }
+    ObeyPermissions();
+    return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+  }
+
+  bool Mount(std::size_t kibibytes, unsigned long flags) {
+    const std::string options = "mode=0777,size=" + std::to_string(kibibytes) + "k";
+    return ::mount("none", folder_.Path().c_str(), "tmpfs", flags, options.c_str()) == 0;
+  }
+
+  TemporaryFolder folder_;
+  bool mounted_ = false;
+};
+
+}  // namespace quorvantis::test
