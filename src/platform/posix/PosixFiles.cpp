@@ -124,6 +124,7 @@ void LinkBackup(const fs::path& file) {
   fs::path backup = file;
   backup += kBackupSuffix;
   const fs::path link = file.parent_path() / (".quorvantis." + std::to_string(::getpid()) + "-old.tmp");
+  const Leftover leftover(link);
   ::unlink(link.c_str());
   if (::link(file.c_str(), link.c_str()) != 0) return;
   std::rename(link.c_str(), backup.c_str());

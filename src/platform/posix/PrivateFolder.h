@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/posix/FileDescriptor.h"
 #include "platform/posix/Leftover.h"
 
 #include <filesystem>
@@ -8,7 +9,8 @@
 namespace quorvantis {
 
 /// A fresh folder that only this user can enter, in the folder for temporary files; removed with its content
-/// at the end, and by a signal (see RemoveLeftoversOnSignals). Throws std::filesystem::filesystem_error when
+/// at the end, and by a signal (see RemoveLeftoversOnSignals); that of a program which was killed goes with
+/// the next one that is made. Throws std::filesystem::filesystem_error when
 /// it cannot be made.
 class PrivateFolder {
  public:
@@ -22,6 +24,7 @@ class PrivateFolder {
  private:
   const std::filesystem::path path_;
   const Leftover leftover_;
+  const FileDescriptor lock_;  ///< tells other programs that the folder is in use
 };
 
 }  // namespace quorvantis

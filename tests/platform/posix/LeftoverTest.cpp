@@ -61,5 +61,34 @@ TEST(Leftovers, GoWithASignalThatEndsTheProcess) {
   }
 }
 
+TEST(Leftovers, OfAKilledProgramGoWithTheNextPrivateFolder) {
+  const TemporaryFolder folder;
+  setenv("TMPDIR", folder.Path().c_str(), 1);  // NOLINT(concurrency-mt-unsafe): a test has one thread
+  const auto count = [&] {
+    return std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator());
+  };
+  fs::create_directory(folder / "quorvantis-other1");
+  int ends[2];
+  ASSERT_EQ(::pipe(ends), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const PrivateFolder made;
+    WriteBytes(made.Path() / "a/file", "x");
+    if (::write(ends[1], "x", 1) == 1) ::pause();
+    std::abort();
+  }
+  char byte = 0;
+  EXPECT_EQ(::read(ends[0], &byte, 1), 1);
+  { const PrivateFolder mine; }
+  EXPECT_EQ(count(), 2) << "it is still in use";
+  ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+  const PrivateFolder mine;
+  { const PrivateFolder another; }
+  EXPECT_EQ(count(), 2) << "what is not known to be ours stays, and so does what is in use";
+  EXPECT_TRUE(fs::exists(mine.Path()));
+  unsetenv("TMPDIR");  // NOLINT(concurrency-mt-unsafe)
+}
+
 }  // namespace
 }  // namespace quorvantis::test
