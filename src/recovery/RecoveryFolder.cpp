@@ -96,33 +96,51 @@ std::error_code RecoveryFolder::MakeFolder() {
   return error;
 }
 
-/// The number of the link to a work copy; nothing when there is neither. A link outlives its work copy.
+/// The number of the link to a work copy; nothing when there is neither. A link outlives its work copy, and
+/// one to its former content is better than none.
 std::optional<int> RecoveryFolder::Link(const std::u16string& path) {
   const fs::path source = TextToPath(path);
   const auto known = links_.find(path);
-  if (known != links_.end()) {
-    const fs::path link = RecoveryLinkPath(folder_, known->second);
-    if (!IsRegular(source) || IsCopyOf(link, source)) return known->second;
-  }
+  const auto former = known == links_.end() ? std::nullopt : std::optional(known->second);
+  if (former && (!IsRegular(source) || IsCopyOf(RecoveryLinkPath(folder_, *former), source))) return former;
   do ++lastLink_;
   while (fs::exists(fs::symlink_status(RecoveryLinkPath(folder_, lastLink_))));
-  return LinkOrCopy(source, RecoveryLinkPath(folder_, lastLink_)) ? std::optional(lastLink_) : std::nullopt;
+  const fs::path link = RecoveryLinkPath(folder_, lastLink_);
+  if (!LinkOrCopy(source, link)) {
+    if (IsRegular(source)) missing_ = std::make_error_code(std::errc::io_error);
+    return former;
+  }
+  newLinks_.push_back(link);
+  return lastLink_;
 }
 
+/// A file that could not be linked must not keep the texts from being safe.
 std::error_code RecoveryFolder::Write(const ExamSnapshot& snapshot) {
   if (const auto error = MakeFolder()) return error;
   RecoveryFile file{SecondsNow(), {}, snapshot.content};
+  newLinks_.clear();
+  missing_.clear();
   for (const std::u16string& path : snapshot.files) {
     if (file.links.contains(path)) continue;
     if (const auto number = Link(path)) file.links[path] = *number;
   }
   const std::string bytes = ComposeRecoveryFile(file);
-  if (const auto error = SaveWholeFile(files_, RecoveryFilePath(folder_), bytes)) return error;
+  if (const auto error = SaveWholeFile(files_, RecoveryFilePath(folder_), bytes)) {
+    RemoveNewLinks();
+    return error;
+  }
   const bool linksChanged = file.links != links_;
   links_ = std::move(file.links);
   if (linksChanged || !tidy_) RemoveUnused();
   tidy_ = true;
-  return {};
+  return missing_;
+}
+
+/// Each attempt would leave more of them, which are copies where the file system has no links, on a disk that
+/// is full.
+void RecoveryFolder::RemoveNewLinks() const {
+  std::error_code ignored;
+  for (const fs::path& link : newLinks_) fs::remove(link, ignored);
 }
 
 /// Removes links of former copies, and what a process that was killed left half written.

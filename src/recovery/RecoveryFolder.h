@@ -6,7 +6,10 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace quorvantis {
 
@@ -40,7 +43,8 @@ class RecoveryFolder {
   /// Is there a copy?
   bool Exists() const { return !folder_.empty(); }
 
-  /// Puts a new copy in the place of the old one. After an error the old one is still there.
+  /// Puts a new copy in the place of the old one. After an error the old one is still there, or the new one
+  /// lacks an attached file.
   std::error_code Write(const ExamSnapshot& snapshot);
 
   /// There is to be no copy any more.
@@ -55,6 +59,7 @@ class RecoveryFolder {
  private:
   std::error_code MakeFolder();
   std::optional<int> Link(const std::u16string& path);
+  void RemoveNewLinks() const;
   void RemoveUnused() const;
 
   Files& files_;
@@ -62,7 +67,9 @@ class RecoveryFolder {
   std::filesystem::path folder_;  ///< empty as long as there is none
   RecoveryLinks links_;           ///< of the copy in the folder
   int lastLink_ = 0;
-  bool tidy_ = false;  ///< nothing but the copy is in the folder
+  std::vector<std::filesystem::path> newLinks_;  ///< made for the copy that is being written
+  std::error_code missing_;                      ///< why it lacks an attached file
+  bool tidy_ = false;                            ///< nothing but the copy is in the folder
 };
 
 }  // namespace quorvantis

@@ -30,6 +30,7 @@ bool RecoveryKeeper::DiffersFromFile(const ExamSnapshot& snapshot) const {
 void RecoveryKeeper::NoteFile() {
   inFiles_[editor_.state.FileName()] = TakeSnapshot(editor_).substance;
   seen_.reset();
+  failure_.clear();
 }
 
 void RecoveryKeeper::Look() {
@@ -45,6 +46,7 @@ void RecoveryKeeper::Look() {
     Write(std::move(snapshot));
   } else {
     folder_.Remove();
+    failure_.clear();
   }
 }
 
@@ -62,7 +64,9 @@ void RecoveryKeeper::Write(ExamSnapshot snapshot) {
 
 /// Afterwards nothing is being written. What could not be written is tried again.
 void RecoveryKeeper::Wait() {
-  if (!writing_.valid() || !writing_.get()) return;
+  if (!writing_.valid()) return;
+  failure_ = writing_.get();
+  if (!failure_) return;
   seen_.reset();
   editor_.state.document.Services().debug.Line(u"RecoveryKeeper::!folder.Write");
 }

@@ -35,7 +35,12 @@ class RecoveryKeeper : public UnsavedWork {
   /// The copy on the disk is up to date when this returns, if it can be written at all.
   void LookAndWait();
 
-  /// The exam in the editor comes from this copy, which is replaced and removed from now on.
+  /// Why the last attempt to write a copy failed; it is repeated with every look. None when the copy is
+  /// there, or none is needed any more.
+  std::error_code Failure() const { return failure_; }
+
+  /// The exam in the editor comes from this copy, which is replaced and removed from now on; an empty path
+  /// leaves it as it is.
   void Restored(const std::filesystem::path& copy);
 
   void Saved() override;
@@ -51,6 +56,7 @@ class RecoveryKeeper : public UnsavedWork {
   ExamEditor& editor_;
   RecoveryFolder folder_;  ///< belongs to the writing as long as there is one
   std::future<std::error_code> writing_;
+  std::error_code failure_;          ///< of the last writing
   std::optional<std::size_t> seen_;  ///< state of the last snapshot, unless that must be looked at again
   std::size_t size_ = 0;             ///< of the last snapshot
   /// Substance of what the files hold that this run has opened or saved, and of a new exam. All of them,

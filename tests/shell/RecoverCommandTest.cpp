@@ -56,5 +56,18 @@ TEST_F(OfferingRecovery, AsksForEachCopyUntilOneIsRestored) {
   EXPECT_EQ(world.dialogs.warnings.size(), 1u);
 }
 
+TEST_F(OfferingRecovery, ACopyThatCouldNotBeRestoredWhollyStays) {
+  Attach("note.txt", "note");
+  keeper.Left(Parting::Leave);
+  const fs::path link = RecoveryLinkPath(RecoveryRoot(world.services.applicationFolder) / "1", 1);
+  fs::rename(link, folder / "out of reach");
+  EXPECT_TRUE(Offer({RecoveryAnswer::Restore}));
+  EXPECT_EQ(world.dialogs.warnings, std::vector<std::u16string>{u"[1045 note.txt]"});
+  fs::rename(folder / "out of reach", link);
+  SaveAs(folder / "restored.exm");
+  EXPECT_TRUE(Offer({RecoveryAnswer::Restore}));
+  EXPECT_EQ(ReadBytes(editor.state.Current().attachmentPaths[0]), "note");
+}
+
 }  // namespace
 }  // namespace quorvantis::test
