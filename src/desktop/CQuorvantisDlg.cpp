@@ -20,6 +20,8 @@
 #include "shell/PrintCommand.h"
 #include "shell/RecoverCommand.h"
 #include "shell/ScoreSetupCommand.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -96,6 +98,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, P
       questionArea_(MakeQuestionArea(exam.Services().strings, this)),
       question_(editor_, exam.Services().strings, pictures_, this),
       answers_(editor_, exam.Services().strings, pictures_, this),
+      recoveryFails_(new WarningNotice("recoveryFails", this)),
       cancel_(MakeHiddenButton("cancel", this)),
       ok_(MakeHiddenButton("ok", this)),
       printAgain_(MakeHiddenButton("printAgain", this)) {
@@ -116,7 +119,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, P
   editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
   editor_.questions.LoadCurrentQuestion();
   recovery_.Entered();
-  connect(&recoveryTimer_, &QTimer::timeout, this, [this] { recovery_.Look(); });
+  connect(&recoveryTimer_, &QTimer::timeout, this, [this] { KeepRecovery(); });
   recoveryTimer_.start(kBetweenLooks);
   TitleChanged();
   question_.text->setFocus();
@@ -156,7 +159,7 @@ FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
 }
 
 WindowControls CQuorvantisDlg::Controls() {
-  return {files_, examControls_, questionArea_, question_, answers_};
+  return {files_, examControls_, questionArea_, question_, answers_, recoveryFails_};
 }
 
 void CQuorvantisDlg::Layout() {
@@ -169,6 +172,18 @@ void CQuorvantisDlg::OfferImport() {
   if (CanRead(services.applicationFolder / kImportRulesFile)) return;
   services.debug.Line(u"CQuorvantisDlg::!file.Open");
   files_.HideImport();
+}
+
+/// No message box: it would come in the middle of a word.
+void CQuorvantisDlg::KeepRecovery() {
+  recovery_.Look();
+  const std::error_code failure = recovery_.Failure();
+  if (!failure) return recoveryFails_->hide();
+  const ExamServices& services = exam_.Services();
+  const std::u16string why =
+      FillMessage(services.strings.Text(text_id::kCannotWrite),
+                  {PathToText(RecoveryRoot(services.applicationFolder)), Utf8ToUtf16(failure.message())});
+  recoveryFails_->Tell(ToQString(services.strings.Text(text_id::kRecoveryFails)), ToQString(why));
 }
 
 void CQuorvantisDlg::FormLoaded() {

@@ -8,6 +8,7 @@
 #include "desktop/Pictures.h"
 #include "desktop/QuestionArea.h"
 #include "desktop/QuestionControls.h"
+#include "desktop/WarningNotice.h"
 #include "desktop/WindowLayout.h"
 #include "editor/ExamEditor.h"
 #include "preview/PreviewWindows.h"
@@ -90,6 +91,8 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   /// Gives every control its place.
   void Layout();
   void OfferImport();
+  /// Has the recovery copy kept up to date, and tells when it cannot be.
+  void KeepRecovery();
   void ScreenChanged();
   void EndUnasked();
   void ShowAbout();
@@ -116,6 +119,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   QuestionArea* questionArea_;
   QuestionControls question_;
   AnswerControls answers_;
+  WarningNotice* recoveryFails_;
   QPushButton* cancel_;  ///< never seen, like the two below
   QPushButton* ok_;
   QPushButton* printAgain_;

@@ -5,6 +5,7 @@
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -88,6 +89,15 @@ void PlaceAnswers(const Placer& placer, const AnswerControls& answers, const Lay
   placer.Place(answers.essay, places.essay);
 }
 
+/// Beside the rows of buttons, where a window has room in every language.
+PixelRect NoticePlace(const LayoutPlaces& places) {
+  constexpr int kGap = 10;
+  const PixelRect &kind = places.kinds.back(), &last = places.navigation.back();
+  const int left = std::max(kind.x + kind.width, last.x + last.width) + kGap;
+  const int right = places.questionArea.x + places.questionArea.width - kGap;
+  return {left, kind.y, std::max(right - left, 0), last.y + last.height - kind.y};
+}
+
 void TellDisabled(const LayoutInput& input, DebugOutput& debug) {
   for (std::size_t i = 0; i < kToolbarButtons; ++i) {
     if (input.enabled[i]) continue;
@@ -107,6 +117,7 @@ void PlaceControls(const QWidget& window, const WindowControls& controls, const 
   placer.Place(controls.questionArea, places.questionArea);
   PlaceQuestion(placer, controls.question, places);
   PlaceAnswers(placer, controls.answers, places);
+  placer.Place(controls.notice, NoticePlace(places));
   TellDisabled(input, debug);
 }
 

@@ -6,6 +6,7 @@
 #include "desktop/FileButtons.h"
 #include "desktop/QuestionArea.h"
 #include "desktop/QuestionControls.h"
+#include "desktop/WarningNotice.h"
 #include "platform/DebugOutput.h"
 
 namespace quorvantis {
@@ -18,6 +19,7 @@ struct WindowControls {
   QuestionArea* questionArea;
   QuestionControls& question;
   AnswerControls& answers;
+  WarningNotice* notice;
 };
 
 /// Gives every control of `window` its place for the state that `editor` is in; mirrored, where the window

@@ -99,6 +99,7 @@ constexpr int kDiscard = 1042;
 constexpr int kLater = 1043;
 constexpr int kRecoveryDamaged = 1044;    // "… has been put aside: %s"
 constexpr int kRecoveryFilesLost = 1045;  // names of attached files
+constexpr int kRecoveryFails = 1046;
 
 // Of import.
 constexpr int kQuestionsRead = 1100;

@@ -116,6 +116,7 @@ constexpr NumberedText kTexts[] = {
     {text_id::kRecoveryDamaged,
      u"The copy of an exam that was not saved is damaged. It has been put aside:\n%s"},
     {text_id::kRecoveryFilesLost, u"These attached files could not be restored: %s"},
+    {text_id::kRecoveryFails, u"No safety copy of your changes can be made. Save the exam soon."},
     {text_id::kQuestionsRead, u"%s questions read: %s choice, %s true/false, %s fill-in, %s essay."},
     {text_id::kSlotsFilled, u"They are questions %s of the exam."},
     {text_id::kQuestionsReplaced, u"Questions that were there before and are replaced or gone: %s."},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "WindowTest.h"
 #include "preview/PreviewWindow.h"
+#include "support/TinyDisk.h"
 
 namespace quorvantis::test {
 namespace {
@@ -55,6 +56,17 @@ TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
       "document.querySelector('input[type=button]').click()");
   ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() == nullptr; }, kPatience));
   EXPECT_EQ(exam.previewPrefixes, 1) << "a finished exam takes one prefix off";
+}
+
+TEST_F(PreviewButton, ShowsAnExamOnAFullDisk) {
+  TinyDisk disk(4);
+  if (!disk.Works()) GTEST_SKIP() << "no disk can be mounted here";
+  services.applicationFolder = disk.Path();
+  WriteBytes(disk / "full", std::string(4096, 'x'));
+  Open();
+  Type("questionText", "Is there room?");
+  Click("preview");
+  EXPECT_TRUE(Appears("Is there room?"));
 }
 
 /// The question would appear behind the preview, where nobody sees it.
