@@ -58,7 +58,7 @@ void Tick(EditSession& session, const Arguments& arguments, bool on) {
 }
 
 void Open(EditSession& session, const Arguments& arguments) {
-  session.Editor().files.OpenExam(arguments[0].Path());
+  session.OpenExam(arguments[0].Path());
 }
 
 void Save(EditSession& session, const Arguments&) {

@@ -7,6 +7,8 @@
 #include "shell/CloseSequence.h"
 #include "shell/ExportCommand.h"
 
+#include <utility>
+
 namespace quorvantis::cli {
 namespace {
 
@@ -47,6 +49,19 @@ void EditSession::KeepRecovery() {
   recovery_->Entered();
 }
 
+void EditSession::OpenExam(const std::filesystem::path& file) {
+  editor_.files.OpenExam(file);
+  session_.RequireUnpacked(file);
+}
+
+/// A script goes on without a recovery copy.
+void EditSession::TellRecovery() {
+  const std::error_code failure = recovery_->Failure();
+  if (std::exchange(recoveryFails_, static_cast<bool>(failure)) || !failure) return;
+  session_.console.Complain(RecoveryRoot(session_.services.applicationFolder).string() +
+                            ": what is not saved cannot be kept there: " + failure.message());
+}
+
 void EditSession::Run(const EditScriptLine& line) {
   if (line.command.empty()) return;
   editor_.state.DeliverContentChanged();
@@ -60,7 +75,10 @@ void EditSession::Run(const EditScriptLine& line) {
   if (closed_ && line.command != "state") throw CommandError("the exam is closed");
   const int errors = session_.dialogs.ErrorCount();
   command->run(*this, line.arguments);
-  if (recovery_) recovery_->LookAndWait();
+  if (recovery_) {
+    recovery_->LookAndWait();
+    TellRecovery();
+  }
   if (session_.dialogs.ErrorCount() > errors) throw CommandError(line.command + " failed");
 }
 

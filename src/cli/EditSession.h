@@ -24,6 +24,10 @@ class EditSession : private EditorView {
   /// Runs one line. Throws CommandError when its command is unknown, has wrong arguments or fails.
   void Run(const EditScriptLine& line);
 
+  /// Opens an exam file as the Open command does. Throws CommandError when attached files could not be
+  /// unpacked: a save would lose them.
+  void OpenExam(const std::filesystem::path& file);
+
   ExamEditor& Editor() { return editor_; }
   ScriptedDialogs& Dialogs() { return session_.dialogs; }
   ScriptedImport& ImportAnswers() { return importAnswers_; }
@@ -35,6 +39,8 @@ class EditSession : private EditorView {
   void Close() { closed_ = true; }
 
  private:
+  void TellRecovery();
+
   void FormLoaded() override {}
   void FormChanged() override {}
   void TitleChanged() override {}
@@ -45,6 +51,7 @@ class EditSession : private EditorView {
   ScriptedImport importAnswers_;
   ImportCommand import_;
   std::optional<RecoveryKeeper> recovery_;
+  bool recoveryFails_ = false;  ///< and this has been told
   bool closed_ = false;
 };
 

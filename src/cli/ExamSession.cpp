@@ -58,7 +58,15 @@ ExamReadOutcome ExamSession::Load(const fs::path& file) {
   const ExamReadOutcome outcome = ExamFileReader(exam, services).Read(file);
   if (!outcome.opened) throw NotOpened(language_, file);
   ShowReadLosses(services, outcome);
+  exam.filesNotUnpacked = outcome.filesNotCreated;
   return outcome;
+}
+
+void ExamSession::RequireUnpacked(const fs::path& file) const {
+  if (exam.filesNotUnpacked == 0) return;
+  throw CommandError(file.string() + ": " + std::to_string(exam.filesNotUnpacked) +
+                     " attached files could not be unpacked into " + services.applicationFolder.string() +
+                     "; make room there");
 }
 
 void ExamSession::RequireWrittenPages() const {

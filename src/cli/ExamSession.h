@@ -43,6 +43,10 @@ class ExamSession {
   /// it is told on standard error.
   ExamReadOutcome Load(const std::filesystem::path& file);
 
+  /// Throws CommandError when attached files of the exam that was read last are not in the work folder, for
+  /// want of space or of access.
+  void RequireUnpacked(const std::filesystem::path& file) const;
+
   /// Throws CommandError when one of the pages that were composed last is not in its file.
   void RequireWrittenPages() const;
 

@@ -38,7 +38,7 @@ ImportReport RunImport(EditSession& session, const ImportRequest& request) {
   session.ImportAnswers().Prepare(Answers(request));
   const int errors = session.Dialogs().ErrorCount();
   if (!request.into.empty()) OpenInput(request.into);  // fails with one line
-  if (!request.into.empty()) session.Editor().files.OpenExam(fs::absolute(request.into));
+  if (!request.into.empty()) session.OpenExam(fs::absolute(request.into));
   if (session.Dialogs().ErrorCount() > errors)
     throw CommandError(request.into.string() + ": was not changed");
   request.into.empty() ? session.Import().Run() : session.Import().RunAfter(request.after);

@@ -82,6 +82,7 @@ void Preview(Console& console, const CommonOptions& options, const PreviewReques
   if (request.responses) AnswerExam(session.exam, *request.responses, responses);
   UnseenEditor editor(session.exam);
   PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPages(session)).Run();
+  session.RequireUnpacked(request.exam);
 }
 
 void Print(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder,
@@ -93,6 +94,7 @@ void Print(Console& console, const CommonOptions& options, const fs::path& exam,
   if (afterPreview)
     PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPages(session)).Run();
   PrintCommand(editor.Questions(), session.exam, CheckPages(session)).Run();
+  session.RequireUnpacked(exam);
 }
 
 }  // namespace quorvantis::cli

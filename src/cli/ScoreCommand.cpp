@@ -12,11 +12,8 @@ namespace {
 
 /// Reads an exam to save it again, with long answers as long ones although nobody has edited them.
 void LoadWhole(ExamSession& session, const std::filesystem::path& file) {
-  const ExamReadOutcome outcome = session.Load(file);
-  if (outcome.filesNotCreated > 0) {
-    throw CommandError(file.string() + ": " + std::to_string(outcome.filesNotCreated) +
-                       " attached files would be lost; make room in the folder for temporary files");
-  }
+  session.Load(file);
+  session.RequireUnpacked(file);
   session.services.longAnswerFlags.SetWhereNeeded(session.exam);
 }
 

@@ -2,6 +2,7 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/ExamJson.h"
+#include "platform/WholeFile.h"
 
 #include <string>
 
@@ -24,42 +25,39 @@ void MakeFolder(const fs::path& folder) {
   }
 }
 
-void CopyInto(const fs::path& folder, const fs::path& file) {
+/// A link in the place of the file would lead out of the folder, too.
+void CopyInto(const fs::path& folder, const fs::path& file, Files& files) {
   std::error_code error;
   if (!fs::is_regular_file(file, error)) return;  // an attachment without content
   MakeFolder(folder);
   const fs::path target = folder / file.filename();
-  fs::remove(target, error);
-  if (!error) fs::copy_file(file, target, error);
-  if (!error) return;
-  const std::string reason = error.message();
-  fs::remove(target, error);
-  throw CommandError(target.string() + ": cannot be written: " + reason);
+  if (fs::is_symlink(fs::symlink_status(target, error))) fs::remove(target, error);
+  if (const auto failure = CopyWholeFile(files, file, target))
+    throw CommandError(target.string() + ": cannot be written: " + failure.message());
 }
 
-void CopyAll(const fs::path& folder, const AttachmentList& names, const AttachmentList& paths) {
-  for (const AttachedFile& file : AttachedFiles(names, paths)) CopyInto(folder, file.path);
+void CopyAll(const fs::path& folder, const AttachmentList& names, const AttachmentList& paths, Files& files) {
+  for (const AttachedFile& file : AttachedFiles(names, paths)) CopyInto(folder, file.path, files);
 }
 
 }  // namespace
 
 void Unpack(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder) {
   ExamSession session(console, options);
-  const ExamReadOutcome outcome = session.Load(exam);
+  session.Load(exam);
   std::error_code error;
   fs::create_directories(folder, error);
   if (!fs::is_directory(folder, error)) {
     throw CommandError(folder.string() + ": cannot be made as a folder; choose another target");
   }
-  CopyAll(folder / "exam", session.exam.examAttachmentNames, session.exam.examAttachmentPaths);
+  CopyAll(folder / "exam", session.exam.examAttachmentNames, session.exam.examAttachmentPaths,
+          session.services.files);
   for (int number = 1; number <= session.exam.questionCount; ++number) {
     const ExamQuestion& question = session.exam.Question(number);
-    CopyAll(folder / QuestionFolder(number), question.attachmentNames, question.attachmentPaths);
+    CopyAll(folder / QuestionFolder(number), question.attachmentNames, question.attachmentPaths,
+            session.services.files);
   }
-  if (outcome.filesNotCreated > 0) {
-    throw CommandError(exam.string() + ": " + std::to_string(outcome.filesNotCreated) +
-                       " attached files are missing; make room in the folder for temporary files");
-  }
+  session.RequireUnpacked(exam);
 }
 
 }  // namespace quorvantis::cli

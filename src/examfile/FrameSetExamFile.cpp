@@ -26,6 +26,7 @@ void FrameSetExam::ReadExamFile(const std::filesystem::path& file) {
   if (!outcome.opened) services.dialogs.ShowError(OpenFileError(services.strings, file));
   ShowReadLosses(services, outcome);
   readDoubt = DoubtOf(outcome, *this);
+  filesNotUnpacked = outcome.filesNotCreated;
 }
 
 bool FrameSetExam::WriteExamFile(const std::filesystem::path& file, bool backup) {

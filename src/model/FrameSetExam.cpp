@@ -11,6 +11,7 @@ void FrameSetExam::Reset() {
   examAttachmentNames.fill({});
   displayNamesAmongPaths.clear();
   readDoubt = ReadDoubt::None;
+  filesNotUnpacked = 0;
   examAttachmentTypes.fill(0);
   attachmentPageWriter.frameKinds.fill(0);
   boundaryQuestion = 0;

@@ -81,7 +81,8 @@ class FrameSetExam : public ExamPaper {
   AttachmentPageWriter attachmentPageWriter;
   int previewPrefixes = 0;  ///< previews of this exam that were not finished
   ReadDoubt readDoubt = ReadDoubt::None;
-  int hasOralQuestion = 0;  ///< 1 when the reader met an oral question
+  int filesNotUnpacked = 0;  ///< attached files that the last read could make no file of
+  int hasOralQuestion = 0;   ///< 1 when the reader met an oral question
 
  private:
   ExamServices* services_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Small files that are read and written as a whole.
+// Files as a whole: small ones are read and written at once, large ones copied.
 #pragma once
 
 #include "platform/Files.h"
@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvantis {
 
@@ -38,6 +39,25 @@ inline std::error_code SaveWholeFile(Files& files, const std::filesystem::path& 
   if (!pending) return error ? error : std::make_error_code(std::errc::io_error);
   if (const auto failure = pending->Write(std::as_bytes(std::span(bytes)))) return failure;
   return pending->Commit();
+}
+
+/// Puts a copy of the file `from` in the place of `to` in one step. On failure the old file is as it was.
+inline std::error_code CopyWholeFile(Files& files, const std::filesystem::path& from,
+                                     const std::filesystem::path& to) {
+  constexpr std::size_t kBlock = std::size_t{512} * 1024;
+  std::error_code error;
+  if (std::filesystem::equivalent(from, to, error)) return {};
+  std::ifstream source(from, std::ios::binary);
+  if (!source) return std::make_error_code(std::errc::permission_denied);
+  error.clear();
+  const std::unique_ptr<PendingFile> target = files.Replace(to, error);
+  if (!target) return error ? error : std::make_error_code(std::errc::io_error);
+  std::vector<char> block(kBlock);
+  while (source.read(block.data(), kBlock) || source.gcount() > 0) {
+    const auto size = static_cast<std::size_t>(source.gcount());
+    if (const auto failure = target->Write(std::as_bytes(std::span(block).first(size)))) return failure;
+  }
+  return source.eof() ? target->Commit() : std::make_error_code(std::errc::io_error);
 }
 
 }  // namespace quorvantis

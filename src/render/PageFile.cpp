@@ -47,8 +47,12 @@ void PageFile::WriteHalfUtf16(std::u16string page) {
 void PageFile::Write(const std::string& bytes, std::u16string page) {
   pages_.Add(path_, std::move(page));
   file_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  const bool isMade = file_.is_open();
   file_.close();
-  if (!file_) pages_.NotWritten(path_);
+  if (file_) return;
+  pages_.NotWritten(path_);
+  std::error_code ignored;
+  if (isMade) fs::remove(path_, ignored);  // half a page must not pass for the whole one
 }
 
 }  // namespace quorvantis

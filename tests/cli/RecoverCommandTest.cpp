@@ -45,5 +45,13 @@ TEST_F(RecoverCommandTest, NothingStaysOfWhatWasSavedOrGivenUp) {
   EXPECT_EQ(Shown("exam.exm~")["questions"][0]["text"], "first");
 }
 
+TEST_F(RecoverCommandTest, ACopyThatCannotBeWrittenIsToldOnce) {
+  WriteBytes(folder / "app/recovery", "a file in its place");
+  const RunResult run = Edit("text first\ntext second\nsaveas " + Path("exam.exm") + "\n");
+  EXPECT_EQ(run.status, 0) << "the script goes on";
+  EXPECT_TRUE(run.err.starts_with("quorvantis-cli: " + Path("app/recovery") + ": ")) << run.err;
+  EXPECT_EQ(run.err.find('\n'), run.err.size() - 1) << run.err;
+}
+
 }  // namespace
 }  // namespace quorvantis::test

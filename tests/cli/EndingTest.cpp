@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// Commands that are ended while they save.
+#include "CommandLineTest.h"
+#include "platform/posix/Leftover.h"
+
+#include <csignal>
+#include <random>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Ending : public CommandLineTest {
+ protected:
+  /// In a process of its own: saves one version after the other.
+  pid_t StartSaving() {
+    const pid_t child = ::fork();
+    if (child != 0) return child;
+    RemoveLeftoversOnSignals();
+    std::string script = "open " + Path("exam.exm") + "\n";
+    for (int version = 0; version < 1000; ++version) script += "text " + std::to_string(version) + "\nsave\n";
+    Command({"edit"}, script);
+    std::abort();
+  }
+  auto Entries() const {
+    return std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator());
+  }
+};
+
+TEST_F(Ending, LeavesTheOldExamOrTheNewOne) {
+  constexpr int kRounds = 15;
+  WriteBytes(folder / "large.bin", std::string(20'000'000, 'x'));
+  Build(Json::parse(R"({"questions": [{"text": "0", "attachments": [{"path": "large.bin"}]}]})"));
+  const fs::path backup = folder / "exam.exm~";
+  const Json attachments = Shown()["questions"][0]["attachments"];
+  std::minstd_rand random(11);
+  for (int round = 0; round < kRounds; ++round) {
+    fs::remove(backup);
+    const auto entries = Entries();
+    const pid_t child = StartSaving();
+    while (!fs::exists(backup) && ::waitpid(child, nullptr, WNOHANG) == 0) ::usleep(1000);
+    ::usleep(static_cast<useconds_t>(random() % 200'000));
+    ::kill(child, SIGTERM);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM) << status;
+    EXPECT_EQ(Entries(), entries + 1) << "the backup, and nothing half written";
+    for (const char* file : {"exam.exm", "exam.exm~"}) {
+      const Json exam = Shown(file);
+      EXPECT_EQ(exam["truncated"], false);
+      EXPECT_EQ(exam["questions"][0]["attachments"], attachments);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quorvantis::test
