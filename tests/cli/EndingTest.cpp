@@ -32,7 +32,7 @@ class Ending : public CommandLineTest {
 
 TEST_F(Ending, LeavesTheOldExamOrTheNewOne) {
   constexpr int kRounds = 15;
-  WriteBytes(folder / "large.bin", std::string(20'000'000, 'x'));
+  fs::resize_file(WriteBytes(folder / "large.bin", ""), 20'000'000);
   Build(Json::parse(R"({"questions": [{"text": "0", "attachments": [{"path": "large.bin"}]}]})"));
   const fs::path backup = folder / "exam.exm~";
   const Json attachments = Shown()["questions"][0]["attachments"];

@@ -61,7 +61,7 @@ class FullDiskCommands : public CommandLineTest {
                                          "IN/paper.txt",
                                          "OUT/old.exm",
                                          "--rules",
-                                         QUORVANTIS_PROJECT "/samples/papers/ImportExam.ini",
+                                         std::string(QUORVANTIS_PROJECT) + "/samples/papers/ImportExam.ini",
                                          "--repository",
                                          "#1",
                                          "--into",
@@ -148,9 +148,12 @@ TEST_F(FullDiskCommands, LeaveEachFileOldOrNew) {
     for (std::size_t room = 4;; room += 12) {
       const auto outcome = Try(trial, room);
       const auto& [result, before, after] = *outcome;
-      for (const auto& [file, bytes] : after) {
-        const auto isThatOf = [&](const Tree& tree) { return tree.contains(file) && tree.at(file) == bytes; };
-        EXPECT_TRUE(isThatOf(before) || isThatOf(whole->after)) << file << " with " << room << " KiB";
+      for (const auto& entry : after) {
+        const auto isThatOf = [&entry](const Tree& tree) {
+          const auto same = tree.find(entry.first);
+          return same != tree.end() && *same == entry;
+        };
+        EXPECT_TRUE(isThatOf(before) || isThatOf(whole->after)) << entry.first << " with " << room << " KiB";
       }
       for (const auto& [file, bytes] : before) EXPECT_TRUE(after.contains(file)) << file;
       if (result.status == 0) {

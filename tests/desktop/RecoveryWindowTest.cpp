@@ -119,7 +119,7 @@ TEST_F(RecoveryWindow, ATerminatedWindowLeavesAWholeExam) {
   if (qEnvironmentVariableIsSet(kFolder))
     return SaveUntilTerminated(QStringToPath(qEnvironmentVariable(kFolder)));
   constexpr std::size_t kSize = 60'000'000;
-  WriteBytes(folder / "large.bin", std::string(kSize, 'x'));
+  fs::resize_file(WriteBytes(folder / "large.bin", ""), kSize);
   exam.SetHostMode(1);
   for (const unsigned long delay : {0UL, 40UL, 90UL, 230UL}) {
     QProcess process;
