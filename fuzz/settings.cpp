@@ -7,6 +7,7 @@
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 
@@ -18,6 +19,7 @@ constexpr std::u16string_view kSection = u"private";
 constexpr std::u16string_view kKey = u"CodePage";
 constexpr std::u16string_view kOtherKey = u"Backup";
 constexpr std::u16string_view kNewValue = u"936";
+constexpr std::size_t kTriedRepositories = 5;
 
 void Require(bool condition) {
   if (!condition) std::abort();
@@ -40,8 +42,8 @@ void ReadRepositories(const std::filesystem::path& path, const CodePage& codePag
   import.m_strDocPath = path;
   import.Open();
   Require(import.Repositories().size() <= ExamImport::kMostRepositories);
-  for (const std::u16string& name : import.Repositories()) {
-    import.m_strRepository = name;
+  for (std::size_t i = 0; i < std::min(kTriedRepositories, import.Repositories().size()); ++i) {
+    import.m_strRepository = import.Repositories()[i];
     if (import.Accept() == 0) Require(!import.m_strPattern.empty());
   }
 }
