@@ -131,7 +131,7 @@ benchmark::internal::Benchmark* Register(const std::string& name, Body body, con
   return benchmark::RegisterBenchmark(name.c_str(), run)->UseRealTime()->Unit(benchmark::kMillisecond);
 }
 
-/// Everything once a round: the disk is slower when much has been written, and then for all of them.
+/// So much is written that once a round is enough.
 void RegisterOnce(const std::string& name, Body body, const fs::path& exam) {
   Register(name, body, exam)->Iterations(1)->Repetitions(5);
 }
