@@ -3,8 +3,8 @@
 
 namespace quorvantis {
 
-MatchResult::MatchResult(const std::vector<int>& bounds) : outcome_(MatchOutcome::Matched) {
-  entries_ = {1, static_cast<int>(bounds.size() / 2)};
+MatchResult::MatchResult(const std::vector<int>& bounds)
+    : outcome_(MatchOutcome::Matched), entries_{1, static_cast<int>(bounds.size() / 2)} {
   entries_.insert(entries_.end(), bounds.begin(), bounds.end());
 }
 

@@ -39,6 +39,7 @@ bool WriteNewFile(const fs::path& file, const std::string& bytes) {
 
 class OpenDocx : public OpenWordDocument {
  public:
+  // cppcheck-suppress passedByValue // its parts are moved from
   OpenDocx(PackageInUse source, DocxContent content, OfficeConverter converter)
       : source_(std::move(source)),
         document_(std::move(content.document)),
