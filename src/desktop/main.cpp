@@ -16,10 +16,12 @@
 
 #include <QApplication>
 
+#include <chrono>
 #include <clocale>
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <thread>
 
 namespace {
 
@@ -27,12 +29,19 @@ using namespace quorvantis;
 
 constexpr int kNoApplicationFolder = 2;
 
-/// The folder cannot be used. Gives the exit code.
-int Refuse(const ApplicationFolderClaim& claim, const CommandLine& options, DesktopWindows& windows) {
+/// A program that was killed a moment ago still holds the folder for as long as its memory is taken down.
+constexpr int kMostTries = 15;
+constexpr auto kPause = std::chrono::milliseconds(200);
+
+/// Has the program that works in the folder come forward.
+HandOverResult HandOver(const ApplicationFolderClaim& claim, const CommandLine& options) {
   const bool inUse = claim.WhatIsWrong() == ApplicationFolderClaim::Problem::InUse;
-  const HandOverResult handOver = inUse && options.screenshot.isEmpty()
-                                      ? HandOverStart(claim.Folder(), options.exam)
-                                      : HandOverResult::NoAnswer;
+  return inUse && options.screenshot.isEmpty() ? HandOverStart(claim.Folder(), options.exam)
+                                               : HandOverResult::NoAnswer;
+}
+
+/// The folder cannot be used. Gives the exit code.
+int Refuse(const ApplicationFolderClaim& claim, HandOverResult handOver, DesktopWindows& windows) {
   if (handOver == HandOverResult::Taken) {
     std::cerr << "quorvantis: it is open already in " << claim.Folder().string()
               << "; its window has come forward\n";
@@ -44,13 +53,8 @@ int Refuse(const ApplicationFolderClaim& claim, const CommandLine& options, Desk
   return kNoApplicationFolder;
 }
 
-int Run(const CommandLine& options) {
-  DesktopWindows windows(options);
-  const bool elsewhere = !options.applicationFolder.empty();
-  const ApplicationFolderClaim claim(elsewhere ? options.applicationFolder : FindApplicationFolder());
-  if (claim.WhatIsWrong() != ApplicationFolderClaim::Problem::None) return Refuse(claim, options, windows);
-  const std::filesystem::path& folder = claim.Folder();
-  if (!elsewhere) ProvideImportRules(ExecutableFolder(), folder);
+int RunIn(const std::filesystem::path& folder, const CommandLine& options, DesktopWindows& windows) {
+  if (options.applicationFolder.empty()) ProvideImportRules(ExecutableFolder(), folder);
   DynamicLanguageLibraries libraries;
   PosixFiles files;
   const IconvCodePage codePage(ChooseCodePage(folder, kEnglish));
@@ -58,6 +62,21 @@ int Run(const CommandLine& options) {
                              {libraries, files, codePage, windows});
   application.InitInstance();
   return application.ExitInstance();
+}
+
+int Run(const CommandLine& options) {
+  DesktopWindows windows(options);
+  const bool elsewhere = !options.applicationFolder.empty();
+  for (int tries = 1;; ++tries) {
+    const ApplicationFolderClaim claim(elsewhere ? options.applicationFolder : FindApplicationFolder());
+    if (claim.WhatIsWrong() == ApplicationFolderClaim::Problem::None)
+      return RunIn(claim.Folder(), options, windows);
+    const HandOverResult handOver = HandOver(claim, options);
+    const bool mayBeFreed =
+        claim.WhatIsWrong() == ApplicationFolderClaim::Problem::InUse && handOver == HandOverResult::NoAnswer;
+    if (!mayBeFreed || tries == kMostTries) return Refuse(claim, handOver, windows);
+    std::this_thread::sleep_for(kPause);
+  }
 }
 
 }  // namespace

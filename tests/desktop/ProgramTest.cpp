@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The real program, started as a user would.
 #include "desktop/QtText.h"
+#include "platform/posix/FolderLock.h"
 #include "support/TemporaryFolder.h"
 
 #include <QImage>
@@ -9,6 +10,8 @@
 #include <QStandardPaths>
 
 #include <gtest/gtest.h>
+
+#include <optional>
 
 namespace quorvantis::test {
 namespace {
@@ -57,6 +60,21 @@ TEST(Program, EndsWithoutALanguage) {
   ASSERT_TRUE(program.waitForFinished());
   EXPECT_EQ(program.exitCode(), 2);
   EXPECT_TRUE(program.readAllStandardError().contains("Cann't find any language file!"));
+}
+
+/// As that of a program which was killed a moment ago.
+TEST(Program, WaitsForAFolderThatIsLetGo) {
+  const TemporaryFolder folder;
+  std::optional<FolderLock> other = FolderLock::Take(folder.Path());
+  const QString picture = PathToQString(folder / "window.png");
+  QProcess program;
+  program.start(kProgram, {"--app-folder", PathToQString(folder.Path()), "--language", "0x0409",
+                           "--screenshot", picture});
+  EXPECT_FALSE(program.waitForFinished(1000)) << "refused at once";
+  other.reset();
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_EQ(program.exitCode(), 0);
+  EXPECT_FALSE(QImage(picture).isNull());
 }
 
 }  // namespace
