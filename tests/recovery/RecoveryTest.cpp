@@ -234,7 +234,11 @@ TEST_F(RecoveryTest, AnExamThatComesBackIsMeasuredByItsOwnFile) {
     Type(FormField::Text, u"x");
     keeper.LookAndWait();
     SaveAs(folder / "new.exm");
+    exam.pageRenderer.SetMediaSuppressed(0);
+    exam.attachmentPageWriter.SetMediaSuppressed(0);
   });
+  EXPECT_EQ(exam.pageRenderer.mediaSuppressed + exam.attachmentPageWriter.mediaSuppressed, 0)
+      << "once a preview has shown media, the whole run does";
   check("a change that was saved", 1, [&] {
     Type(FormField::Text, u"x");
     editor.files.SaveExam();
