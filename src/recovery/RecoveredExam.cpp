@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <set>
+#include <utility>
 
 namespace quorvantis {
 namespace fs = std::filesystem;
@@ -54,8 +56,11 @@ std::vector<fs::path> FoldersOf(const fs::path& root) {
 /// old path is never used as it is: it may name any file of this machine.
 class Attachments {
  public:
-  Attachments(const FrameSetExam& exam, const fs::path& folder, const RecoveryLinks& links)
-      : links_(links), freeNames_(WorkFolder(exam, exam.Services().applicationFolder)) {
+  Attachments(FrameSetExam& exam, const fs::path& folder, const RecoveryLinks& links)
+      : links_(links),
+        withoutContent_(std::exchange(exam.pathsWithoutContent, {})),
+        nowWithoutContent_(exam.pathsWithoutContent),
+        freeNames_(WorkFolder(exam, exam.Services().applicationFolder)) {
     for (const auto& [path, number] : links) {
       const fs::path copy = freeNames_.PathFor(FileNameOf(path));
       if (LinkOrCopy(RecoveryLinkPath(folder, number), copy)) copies_[path] = PathToText(copy);
@@ -66,13 +71,17 @@ class Attachments {
     if (path.empty()) return;
     const auto known = copies_.find(path);
     if (known == copies_.end() && links_.contains(path)) lost.push_back(name);
+    const bool hasContent = !withoutContent_.contains(path);
     path = known != copies_.end() ? known->second : PathToText(freeNames_.PathFor(FileNameOf(path)));
+    if (!hasContent) nowWithoutContent_.insert(path);
   }
 
   std::vector<std::u16string> lost;  ///< names of files whose link is not there
 
  private:
   const RecoveryLinks& links_;
+  const std::set<std::u16string> withoutContent_;  ///< old paths
+  std::set<std::u16string>& nowWithoutContent_;
   FreeNames freeNames_;
   std::map<std::u16string, std::u16string> copies_;  ///< by their old paths
 };
