@@ -126,7 +126,8 @@ TEST_F(ExamFileEditing, ExtensionDecidesWhatSaveAsDoes) {
 TEST_F(ExamFileEditing, FailedSaveKeepsTheChange) {
   Change();
   SaveAs(folder / "missing" / "x.exm");
-  EXPECT_EQ(world.dialogs.errors, std::vector{u"[102 " + AsText(folder / "missing" / "x.exm") + u"]"});
+  EXPECT_EQ(world.dialogs.errors,
+            std::vector{u"[102 " + AsText(folder / "missing" / "x.exm") + u"]\n[1129 %s]"});
   EXPECT_TRUE(Modified());
   EXPECT_EQ(editor.state.FileName(), "UnTitle") << "the next save must not fail in the same way";
 }
