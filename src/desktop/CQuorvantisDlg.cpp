@@ -191,7 +191,6 @@ void CQuorvantisDlg::FormLoaded() {
   question_.Load();
   answers_.Load();
   importWindows_.ExamChanged();
-  FormChanged();
 }
 
 void CQuorvantisDlg::FormChanged() {

@@ -214,7 +214,7 @@ TEST_F(ExamFileEditing, UnpackedFilesGoWithTheExam) {
     EXPECT_EQ(ReadBytes(unpacked[1]), "the note");
     // Out of the lists, the files are still the exam's to delete.
     editor.attachments.SelectExamFile(0);
-    editor.attachments.RemoveSelectedExamFile();
+    editor.attachments.RemoveSelectedAttachment(AttachedTo::Exam);
     editor.questions.DeleteHere();
     editor.state.DeliverContentChanged();
     WriteBytes(unpacked[0], "used");

@@ -39,7 +39,7 @@ class Typist {
         return editor_.attachments.AttachExamFile(NewFile());
       case 8:
         editor_.attachments.SelectQuestionFile(FirstOf(editor_.attachments.QuestionList()));
-        return editor_.attachments.RemoveSelectedQuestionFile();
+        return editor_.attachments.RemoveSelectedAttachment(AttachedTo::Question);
       default:
         const auto field = static_cast<FormField>(Below(9));
         const std::u16string text = Below(20) == 0 ? std::u16string(MaxLength(field), u'm') : Word();

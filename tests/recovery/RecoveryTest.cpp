@@ -61,7 +61,7 @@ TEST_F(RecoveryTest, BringsBackAttachedFiles) {
   const auto links = [&] { return fs::hard_link_count(map) + 10 * fs::hard_link_count(note); };
   EXPECT_EQ(links(), 22u) << "nothing is copied";
   editor.attachments.SelectExamFile(0);
-  editor.attachments.RemoveSelectedExamFile();
+  editor.attachments.RemoveSelectedAttachment(AttachedTo::Exam);
   keeper.LookAndWait();
   EXPECT_EQ(links(), 21u) << "links that no copy needs go";
   fs::remove_all(AttachmentWorkRoot(world.services.applicationFolder));
@@ -131,7 +131,7 @@ TEST_F(RecoveryTest, ThereIsACopyWhileTheExamDiffersFromItsFile) {
       {"removing a file, which sets no star", true,
        [&] {
          editor.attachments.SelectQuestionFile(0);
-         editor.attachments.RemoveSelectedQuestionFile();
+         editor.attachments.RemoveSelectedAttachment(AttachedTo::Question);
        }},
       {"the score setup", true, [&] { exam.scoreValue[0] = 2; }},
       {"the random mode", true, [&] { editor.questions.CycleRandomMode(); }},
