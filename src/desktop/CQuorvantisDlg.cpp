@@ -117,6 +117,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, P
   SetFirstSize(*this);
   OfferImport();
   editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
+  editor_.files.SetLongAnswersWhole(true);
   editor_.questions.LoadCurrentQuestion();
   recovery_.Entered();
   connect(&recoveryTimer_, &QTimer::timeout, this, [this] { KeepRecovery(); });
