@@ -3,6 +3,7 @@
 
 #include "editor/WorkCopies.h"
 #include "examfile/AttachmentName.h"
+#include "examfile/SavingLosses.h"
 #include "examfile/WorkFolder.h"
 #include "model/LongAnswerFlags.h"
 #include "platform/ExamServices.h"
@@ -28,13 +29,20 @@ std::optional<RecoveryFile> ReadRecoveryFile(const fs::path& folder) {
   return bytes ? ParseRecoveryFile(*bytes) : std::nullopt;
 }
 
+/// Settings alone are nothing that anybody would miss.
+bool HasAnything(const FrameSetExam& exam) {
+  return !exam.title.empty() || !exam.examAttachmentPaths[0].empty() ||
+         std::ranges::any_of(exam.questions, [](const auto& question) { return HasAnything(question); });
+}
+
 std::optional<RecoveryCopy> ReadCopy(const fs::path& folder, ExamServices& services) {
   const auto file = ReadRecoveryFile(folder);
   if (!file) return std::nullopt;
   FrameSetExam exam(services);
   const auto place = ReadSnapshot(file->content, exam);
   if (!place) return std::nullopt;
-  return RecoveryCopy{folder, file->time, TextToPath(place->fileName), exam.title, exam.questionCount};
+  return RecoveryCopy{folder,     file->time,         TextToPath(place->fileName),
+                      exam.title, exam.questionCount, HasAnything(exam)};
 }
 
 bool IsNumber(const std::string& name) {
@@ -111,9 +119,11 @@ FoundRecoveryCopies FindRecoveryCopies(ExamServices& services) {
   FoundRecoveryCopies found;
   for (const fs::path& folder : FoldersOf(RecoveryRoot(services.applicationFolder))) {
     std::error_code ignored;
-    if (!fs::exists(fs::symlink_status(RecoveryFilePath(folder), ignored))) {
+    const bool isCopy = fs::exists(fs::symlink_status(RecoveryFilePath(folder), ignored));
+    const auto copy = isCopy ? ReadCopy(folder, services) : std::nullopt;
+    if (!isCopy || (copy && !copy->hasAnything)) {
       RemoveRecoveryCopy(folder);
-    } else if (const auto copy = ReadCopy(folder, services)) {
+    } else if (copy) {
       found.copies.push_back(*copy);
     } else {
       found.damaged.push_back(folder);
