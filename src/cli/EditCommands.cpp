@@ -5,7 +5,10 @@
 #include "cli/EditorStateJson.h"
 #include "cli/ScoreSteps.h"
 #include "cli/WhyUnreadable.h"
+#include "platform/Texts.h"
 #include "shell/ScoreSetupCommand.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
@@ -43,9 +46,38 @@ std::filesystem::path ExistingFile(const ScriptArgument& argument) {
   return file;
 }
 
+/// A text over the limit is refused as in the window, where the field would keep its own.
+void EditField(EditSession& session, FormField field, const ScriptArgument& argument) {
+  if (session.Editor().questions.EditField(field, argument.Text())) return;
+  const std::u16string limit = FormatInteger(static_cast<std::int64_t>(MaxLength(field)));
+  session.Streams().Complain(Utf16ToUtf8(FillMessage(session.Texts().Text(text_id::kTooLong), {limit})));
+}
+
 template <FormField field>
 void EditText(EditSession& session, const Arguments& arguments) {
-  session.Editor().questions.EditField(field, arguments[0].Text());
+  EditField(session, field, arguments[0]);
+}
+
+void Attach(EditSession& session, AttachedTo list, const ScriptArgument& argument) {
+  const std::filesystem::path file = ExistingFile(argument);
+  AttachmentEditor& attachments = session.Editor().attachments;
+  if ((list == AttachedTo::Exam ? attachments.ExamList() : attachments.QuestionList()).IsFull()) {
+    session.Streams().Complain(file.string() + ": not attached; a list holds at most " +
+                               std::to_string(kMaxAttachments) + " files");
+  } else if (list == AttachedTo::Exam) {
+    attachments.AttachExamFile(file);
+  } else {
+    attachments.AttachQuestionFile(file);
+  }
+}
+
+/// The window has the switch for oral questions alone, and shows the flag of the question in hand there.
+void SwitchOral(EditSession& session, const Arguments&) {
+  ExamEditor& editor = session.Editor();
+  if (editor.state.currentKind != QuestionKind::Oral)
+    session.Streams().Complain("not switched: the question is not oral");
+  editor.attachments.ReadOralFlag();
+  editor.attachments.ToggleOral();
 }
 
 template <void (QuestionEditor::*operation)()>
@@ -102,7 +134,7 @@ void Kind(EditSession& session, const Arguments& arguments) {
 }
 
 void Option(EditSession& session, const Arguments& arguments) {
-  session.Editor().questions.EditField(OptionField(BoxIndex(arguments[0])), arguments[1].Text());
+  EditField(session, OptionField(BoxIndex(arguments[0])), arguments[1]);
 }
 
 /// "continue" or "new", then "pictures" and "formulas" with an answer each, in any order.
@@ -140,13 +172,13 @@ void UndoImport(EditSession& session, const Arguments&) {
 void Remove(EditSession& session, const Arguments& arguments) {
   AttachmentEditor& attachments = session.Editor().attachments;
   attachments.SelectQuestionFile(EntryIndex(arguments[0], attachments.QuestionList()));
-  attachments.RemoveSelectedQuestionFile();
+  attachments.RemoveSelectedAttachment(AttachedTo::Question);
 }
 
 void RemoveExam(EditSession& session, const Arguments& arguments) {
   AttachmentEditor& attachments = session.Editor().attachments;
   attachments.SelectExamFile(EntryIndex(arguments[0], attachments.ExamList()));
-  attachments.RemoveSelectedExamFile();
+  attachments.RemoveSelectedAttachment(AttachedTo::Exam);
 }
 
 void Select(EditSession& session, const Arguments& arguments) {
@@ -207,17 +239,16 @@ constexpr EditCommand kCommands[] = {
      [](EditSession& session, const Arguments& arguments) { Tick(session, arguments, false); }},
     {"attach", "FILE", 1,
      [](EditSession& session, const Arguments& arguments) {
-       session.Editor().attachments.AttachQuestionFile(ExistingFile(arguments[0]));
+       Attach(session, AttachedTo::Question, arguments[0]);
      }},
     {"attach-exam", "FILE", 1,
      [](EditSession& session, const Arguments& arguments) {
-       session.Editor().attachments.AttachExamFile(ExistingFile(arguments[0]));
+       Attach(session, AttachedTo::Exam, arguments[0]);
      }},
     {"remove", "INDEX   (of an attached file of the question, from 0)", 1, Remove},
     {"remove-exam", "INDEX", 1, RemoveExam},
     {"select", "INDEX", 1, Select},
-    {"oral", "", 0,
-     [](EditSession& session, const Arguments&) { session.Editor().attachments.ToggleOral(); }},
+    {"oral", "", 0, SwitchOral},
     {"score", kScoreUsage, 2, Score, 1},
     {"import", "DOCUMENT REPOSITORY [continue|new] [pictures X] [formulas X]   (X: give-up|ignore|force)", 2,
      Import, 5},

@@ -8,8 +8,9 @@
 namespace quorvantis::cli {
 
 void TellSavingLosses(const Console& console, const std::filesystem::path& file, const FrameSetExam& exam) {
-  for (const SavingLoss& loss : FindSavingLosses(exam))
-    console.Complain(file.string() + ": " + Utf16ToUtf8(LossLine(loss, exam.Services().strings)));
+  const ExamServices& services = exam.Services();
+  for (const SavingLoss& loss : FindSavingLosses(exam, services.longAnswerFlags))
+    console.Complain(file.string() + ": " + Utf16ToUtf8(LossLine(loss, services.strings)));
 }
 
 }  // namespace quorvantis::cli

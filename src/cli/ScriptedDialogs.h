@@ -27,6 +27,7 @@ class ScriptedDialogs : public UserDialogs {
   bool AskYesNo(std::u16string_view question) override;
   LossAnswer AskAboutLosses(const LossQuestion& question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
+  void BeginIn(const std::filesystem::path&) override {}
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;
   std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override;
 

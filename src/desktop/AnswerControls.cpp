@@ -77,7 +77,7 @@ void AnswerControls::Refresh() {
   }
   answer->FollowForm();
   essay->FollowForm();
-  ShowKind(editor_.state.currentKind);
+  ShowControls(editor_.questions.ShownKindControls());
 }
 
 void AnswerControls::TickBox(std::size_t index) {
@@ -93,16 +93,16 @@ void AnswerControls::AppendSeparator() {
   answer->end(false);
 }
 
-void AnswerControls::ShowKind(QuestionKind kind) {
+void AnswerControls::ShowControls(const KindControls& shown) {
   for (std::size_t i = 0; i < kOptionCount; ++i) {
-    boxes[i]->setVisible(kind == QuestionKind::Choice);
-    options[i]->setVisible(kind == QuestionKind::Choice);
+    boxes[i]->setVisible(shown.options);
+    options[i]->setVisible(shown.options);
   }
   for (QWidget* control : std::initializer_list<QWidget*>{answerLabel, answer, separator}) {
-    control->setVisible(kind == QuestionKind::FillIn);
+    control->setVisible(shown.answer);
   }
   for (QWidget* control : std::initializer_list<QWidget*>{essayLabel, essay}) {
-    control->setVisible(kind == QuestionKind::Essay);
+    control->setVisible(shown.essay);
   }
 }
 

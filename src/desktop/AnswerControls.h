@@ -43,7 +43,7 @@ class AnswerControls {
   void MakeEssay(const StringTable& strings, QWidget* parent);
   void TickBox(std::size_t index);
   void AppendSeparator();
-  void ShowKind(QuestionKind kind);
+  void ShowControls(const KindControls& shown);
 
   ExamEditor& editor_;
 };

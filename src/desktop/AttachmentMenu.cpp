@@ -58,7 +58,7 @@ QMenu* MakeAttachmentMenu(const std::optional<AttachedFile>& selected, const std
   const AttachedFile file = selected.value_or(AttachedFile{});
   Add(*menu, "openAttachment", text(text_id::kOpen), [file, &services] {
     OpenFile(file, services);
-  })->setEnabled(selected && MayBeOpened(file));
+  })->setEnabled(selected && file.hasContent && MayBeOpened(file));
   Add(*menu, "saveCopy", text(text_id::kSaveCopy), [file, &services] {
     SaveCopyOf(file, services);
   })->setEnabled(selected.has_value());

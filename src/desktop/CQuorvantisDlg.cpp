@@ -117,6 +117,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, P
   SetFirstSize(*this);
   OfferImport();
   editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
+  editor_.files.SetLongAnswersWhole(true);
   editor_.questions.LoadCurrentQuestion();
   recovery_.Entered();
   connect(&recoveryTimer_, &QTimer::timeout, this, [this] { KeepRecovery(); });
@@ -191,7 +192,6 @@ void CQuorvantisDlg::FormLoaded() {
   question_.Load();
   answers_.Load();
   importWindows_.ExamChanged();
-  FormChanged();
 }
 
 void CQuorvantisDlg::FormChanged() {

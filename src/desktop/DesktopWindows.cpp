@@ -73,6 +73,12 @@ bool DesktopWindows::ChooseLanguage(LanguageChoice& choice, const LanguageInUse&
   return TakesPicture() || LanguageDlg(choice, language).exec() == QDialog::Accepted;
 }
 
+/// A run that takes a picture leaves the settings alone.
+void DesktopWindows::RememberFolders(const ExamFolderSetting& setting) {
+  dialogs_.BeginIn(setting.Read());
+  if (!TakesPicture()) dialogs_.KeepFolders([&setting](const auto& folder) { setting.Write(folder); });
+}
+
 /// An exam that was restored is not opened over itself.
 void DesktopWindows::Begin(CQuorvantisDlg& window) {
   const bool restored = !TakesPicture() && window.OfferRecovery();
@@ -86,6 +92,9 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   ExamHost host(application.ModuleFolder(), language.Id().value_or(kEnglish), options_.debug,
                 {language, dialogs_, progress, application.LongAnswers()});
   FrameSetExam exam(host.Services());
+  const ExamFolderSetting examFolder(application.ModuleFolder(), host.Services().files,
+                                     host.Services().codePage);
+  RememberFolders(examFolder);
   LinuxProcessTable processes;
   OfficeControl office(host.Services(), processes);
   const auto exportDocument = [&](FrameSetExam& document, const std::filesystem::path& target) {

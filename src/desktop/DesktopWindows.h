@@ -5,6 +5,7 @@
 #include "desktop/QtLanguage.h"
 #include "desktop/QtUserDialogs.h"
 #include "shell/CQuorvantisApp.h"
+#include "shell/ExamFolderSetting.h"
 
 namespace quorvantis {
 
@@ -23,6 +24,7 @@ class DesktopWindows : public ApplicationWindows {
 
  private:
   void Begin(CQuorvantisDlg& window);
+  void RememberFolders(const ExamFolderSetting& setting);
   bool TakesPicture() const { return !options_.screenshot.isEmpty(); }
 
   const CommandLine& options_;

@@ -25,7 +25,7 @@ ExamControls::ExamControls(ExamEditor& editor, const StringTable& strings, QWidg
   QObject::connect(attachments, &QListWidget::itemSelectionChanged, attachments,
                    [this, &editor] { editor.attachments.SelectExamFile(attachments->Selected()); });
   QObject::connect(attachments, &AttachmentListBox::DeletePressed, attachments,
-                   [&editor] { editor.attachments.RemoveSelectedExamFile(); });
+                   [&editor] { editor.attachments.RemoveSelectedAttachment(AttachedTo::Exam); });
   QObject::connect(attachments, &AttachmentListBox::MenuRequested, attachments,
                    [this](const QPoint& position) { ShowMenu(position); });
 }
@@ -33,7 +33,7 @@ ExamControls::ExamControls(ExamEditor& editor, const StringTable& strings, QWidg
 void ExamControls::ShowMenu(const QPoint& position) {
   AttachmentEditor& files = editor_.attachments;
   MakeAttachmentMenu(
-      files.SelectedExamFile(), [&files] { files.RemoveSelectedExamFile(); },
+      files.SelectedExamFile(), [&files] { files.RemoveSelectedAttachment(AttachedTo::Exam); },
       editor_.state.document.Services(), attachments)
       ->popup(position);
 }

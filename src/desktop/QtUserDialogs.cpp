@@ -4,10 +4,12 @@
 #include "desktop/FileFilters.h"
 #include "desktop/QtText.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 
 namespace quorvantis {
 namespace {
@@ -34,6 +36,14 @@ QString SelectedExtension(const QFileDialog& dialog, const std::vector<FileFilte
     if (selected == filter.ForQt() || selected == filter.label) return filter.FirstExtension();
   }
   return fallback;
+}
+
+/// Qt would begin in the folder of the program, which is nobody's.
+QString ExistingFolder(const std::filesystem::path& folder) {
+  std::error_code ignored;
+  if (std::filesystem::is_directory(folder, ignored)) return PathToQString(folder);
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 }  // namespace
@@ -85,12 +95,24 @@ SaveAnswer QtUserDialogs::AskSave(std::u16string_view question) {
                                      : SaveAnswer::Cancel;
 }
 
+void QtUserDialogs::BeginIn(const std::filesystem::path& folder) {
+  if (folder == folder_) return;
+  folder_ = folder;
+  for (auto& [filters, use] : lastUses_) use.folder.clear();
+  if (keepFolder_) keepFolder_(folder);
+}
+
 std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToOpen(const FileDialogRequest& request) {
+  LastUse& last = lastUses_[request.filter];
   QFileDialog dialog(parent_);
   dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setDirectory(ExistingFolder(last.folder.empty() ? folder_ : last.folder));
   OfferFilters(dialog, ParseFilters(request.filter));
+  if (!last.filter.isEmpty()) dialog.selectNameFilter(last.filter);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return QStringToPath(dialog.selectedFiles().front());
+  const std::filesystem::path file = QStringToPath(dialog.selectedFiles().front());
+  last = {dialog.selectedNameFilter(), file.parent_path()};
+  return file;
 }
 
 /// The dialog itself would ask about overwriting before the extension is there.
@@ -99,6 +121,7 @@ std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToSave(const FileD
   QFileDialog dialog(parent_);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.setDirectory(ExistingFolder(folder_));
   OfferFilters(dialog, filters);
   dialog.selectFile(ToQString(request.initialName));
   while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {

@@ -4,7 +4,12 @@
 #include "platform/UserDialogs.h"
 
 #include <QPointer>
+#include <QString>
 #include <QWidget>
+
+#include <functional>
+#include <map>
+#include <string>
 
 namespace quorvantis {
 
@@ -14,6 +19,9 @@ class QtUserDialogs : public UserDialogs {
   /// The window that the dialogs belong to from now on; it may go before this object does.
   void SetParent(QWidget* parent) { parent_ = parent; }
 
+  /// `keep` is told of each folder that file dialogs are to begin in.
+  void KeepFolders(std::function<void(const std::filesystem::path&)> keep) { keepFolder_ = std::move(keep); }
+
   void ShowError(std::u16string_view text) override;
   void ShowWarning(std::u16string_view text) override;
   /// Deliberately with the icon of an error, as users of the program know it.
@@ -21,13 +29,26 @@ class QtUserDialogs : public UserDialogs {
   bool AskYesNo(std::u16string_view question) override;
   LossAnswer AskAboutLosses(const LossQuestion& question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
+  /// A folder that is gone gives way to that of the user's documents.
+  void BeginIn(const std::filesystem::path& folder) override;
+  /// Begins with the kind of file that was chosen last, and, until another folder is told, where it was
+  /// found.
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;
   std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override;
 
  private:
+  /// How a dialog was left.
+  struct LastUse {
+    QString filter;
+    std::filesystem::path folder;
+  };
+
   bool MayOverwrite(const QString& path);
 
   QPointer<QWidget> parent_;
+  std::function<void(const std::filesystem::path&)> keepFolder_;
+  std::filesystem::path folder_;
+  std::map<std::u16string, LastUse> lastUses_;  ///< by the filters that the dialog offered
 };
 
 }  // namespace quorvantis

@@ -60,7 +60,7 @@ void QuestionControls::MakeAttachments(const StringTable& strings, QWidget* pare
   QObject::connect(attachments, &QListWidget::itemSelectionChanged, attachments,
                    [this] { editor_.attachments.SelectQuestionFile(attachments->Selected()); });
   QObject::connect(attachments, &AttachmentListBox::DeletePressed, attachments,
-                   [this] { editor_.attachments.RemoveSelectedQuestionFile(); });
+                   [this] { editor_.attachments.RemoveSelectedAttachment(AttachedTo::Question); });
   QObject::connect(attachments, &AttachmentListBox::MenuRequested, attachments,
                    [this](const QPoint& position) { ShowMenu(position); });
 }
@@ -68,7 +68,7 @@ void QuestionControls::MakeAttachments(const StringTable& strings, QWidget* pare
 void QuestionControls::ShowMenu(const QPoint& position) {
   AttachmentEditor& files = editor_.attachments;
   QMenu* menu = MakeAttachmentMenu(
-      files.SelectedQuestionFile(), [&files] { files.RemoveSelectedQuestionFile(); },
+      files.SelectedQuestionFile(), [&files] { files.RemoveSelectedAttachment(AttachedTo::Question); },
       editor_.state.document.Services(), attachments);
   if (editor_.state.currentKind == QuestionKind::Oral) AddOralSwitch(*menu, files);
   menu->popup(position);

@@ -7,6 +7,7 @@
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
+#include "text/AsciiCase.h"
 #include "text/PathText.h"
 
 #include <algorithm>
@@ -16,21 +17,6 @@
 namespace quorvantis {
 namespace {
 
-bool IsMissing(const std::u16string& copy) {
-  std::error_code ignored;
-  return !std::filesystem::is_regular_file(TextToPath(copy), ignored);
-}
-
-/// Fills a list from those of the document.
-void Fill(ShownAttachments& list, const AttachmentList& names, const AttachmentList& paths) {
-  const auto count = static_cast<std::ptrdiff_t>(CountEntries(names));
-  list.names.assign(names.begin(), names.begin() + count);
-  list.missing.clear();
-  std::transform(paths.begin(), paths.begin() + count, std::back_inserter(list.missing), IsMissing);
-  list.selected.reset();
-  list.visible = count > 0;
-}
-
 void RemoveEntry(ShownAttachments& list) {
   const auto index = static_cast<std::ptrdiff_t>(*list.selected);
   list.names.erase(list.names.begin() + index);
@@ -39,20 +25,48 @@ void RemoveEntry(ShownAttachments& list) {
   list.visible = !list.names.empty();
 }
 
+}  // namespace
+
+int AttachmentEditor::IsVideoLike(std::u16string_view fileName) {
+  constexpr std::u16string_view kExtensions[] = {u".wmv", u".avi", u".mpeg", u".asf", u".swf"};
+  const std::size_t dot = fileName.rfind(u'.');
+  const std::u16string_view extension = dot == fileName.npos ? fileName : fileName.substr(dot);
+  const auto matches = [&](std::u16string_view known) { return EqualsIgnoringAsciiCase(known, extension); };
+  return std::ranges::any_of(kExtensions, matches) ? 1 : 0;
+}
+
+bool AttachmentEditor::IsMissing(const std::u16string& copy) const {
+  std::error_code ignored;
+  return !state_.document.pathsWithoutContent.contains(copy) &&
+         !std::filesystem::is_regular_file(TextToPath(copy), ignored);
+}
+
+/// Fills a list from those of the document.
+void AttachmentEditor::Fill(ShownAttachments& list, const AttachmentList& names,
+                            const AttachmentList& paths) const {
+  const auto count = static_cast<std::ptrdiff_t>(CountEntries(names));
+  list.names.assign(names.begin(), names.begin() + count);
+  list.missing.clear();
+  std::transform(paths.begin(), paths.begin() + count, std::back_inserter(list.missing),
+                 [this](const std::u16string& copy) { return IsMissing(copy); });
+  list.selected.reset();
+  list.visible = count > 0;
+}
+
 /// Appends an entry and gives its index, which is also its place in the document's lists.
-std::size_t AppendEntry(ShownAttachments& list, const std::u16string& name,
-                        const std::filesystem::path& copy) {
+std::size_t AttachmentEditor::AppendEntry(ShownAttachments& list, const std::u16string& name,
+                                          const std::filesystem::path& copy) const {
   list.names.push_back(name);
   list.missing.push_back(IsMissing(PathToText(copy)));
   list.visible = true;
   return list.names.size() - 1;
 }
 
-}  // namespace
-
 std::optional<std::filesystem::path> AttachmentEditor::ChooseFile() const {
   const ExamServices& services = state_.document.Services();
-  return services.dialogs.ChooseFileToOpen({services.strings.Text(text_id::kAttachmentFilter), {}, {}});
+  const StringTable& strings = services.strings;
+  const std::u16string filter = strings.Text(text_id::kAttachmentFilter) + strings.Text(text_id::kAllFiles);
+  return services.dialogs.ChooseFileToOpen({filter, {}, {}});
 }
 
 std::filesystem::path AttachmentEditor::MakeCopy(const std::filesystem::path& source) {
@@ -86,25 +100,29 @@ void AttachmentEditor::AttachQuestionFile(const std::filesystem::path& source) {
   const std::u16string name = PathToText(source.filename());
   const auto copy = MakeCopy(source);
   const std::size_t index = AppendEntry(questionList_, name, copy);
+  questionList_.RequestSelection(static_cast<std::size_t>(IsVideoLike(name)), index != 0);
   state_.Current().attachmentPaths[index] = PathToText(copy);
   state_.Current().attachmentNames[index] = name;
   UpdateOralToggle();
   state_.view.FormChanged();
 }
 
-void AttachmentEditor::RemoveSelectedExamFile() {
-  if (!examList_.selected) return;
-  RemoveExamAttachment(state_.document, *examList_.selected, examList_.names.size());
-  RemoveEntry(examList_);
+void AttachmentEditor::RemoveSelectedAttachment(AttachedTo list) {
+  const bool ofExam = list == AttachedTo::Exam;
+  ShownAttachments& shown = ofExam ? examList_ : questionList_;
+  if (!shown.selected) return;
+  if (ofExam) {
+    RemoveExamAttachment(state_.document, *shown.selected, shown.names.size());
+  } else {
+    RemoveQuestionAttachment(state_.Current(), *shown.selected, shown.names.size());
+  }
+  RemoveEntry(shown);
+  if (!ofExam) UpdateOralToggle();
   state_.view.FormChanged();
 }
 
-void AttachmentEditor::RemoveSelectedQuestionFile() {
-  if (!questionList_.selected) return;
-  RemoveQuestionAttachment(state_.Current(), *questionList_.selected, questionList_.names.size());
-  RemoveEntry(questionList_);
-  UpdateOralToggle();
-  state_.view.FormChanged();
+AttachedFile AttachmentEditor::Entry(const std::u16string& name, const std::u16string& copy) const {
+  return {name, TextToPath(copy), !state_.document.pathsWithoutContent.contains(copy)};
 }
 
 /// A display name that stands where a path should comes from whoever wrote the exam file, and is no work
@@ -115,13 +133,13 @@ std::optional<AttachedFile> AttachmentEditor::SelectedExamFile() const {
   const std::u16string& path = state_.document.examAttachmentPaths[index];
   const auto& names = state_.document.displayNamesAmongPaths;
   if (std::ranges::find(names, path) != names.end()) return AttachedFile{examList_.names[index], {}};
-  return AttachedFile{examList_.names[index], TextToPath(path)};
+  return Entry(examList_.names[index], path);
 }
 
 std::optional<AttachedFile> AttachmentEditor::SelectedQuestionFile() const {
   if (!questionList_.selected) return std::nullopt;
   const std::size_t index = *questionList_.selected;
-  return AttachedFile{questionList_.names[index], TextToPath(state_.Current().attachmentPaths[index])};
+  return Entry(questionList_.names[index], state_.Current().attachmentPaths[index]);
 }
 
 void AttachmentEditor::ReadOralFlag() {
@@ -137,6 +155,8 @@ void AttachmentEditor::ToggleOral() {
 
 void AttachmentEditor::RefreshQuestionList() {
   Fill(questionList_, state_.Current().attachmentNames, state_.Current().attachmentPaths);
+  for (std::size_t i = 0; i < questionList_.names.size(); ++i)
+    questionList_.RequestSelection(static_cast<std::size_t>(IsVideoLike(questionList_.names[i])), i != 0);
   UpdateOralToggle();
 }
 

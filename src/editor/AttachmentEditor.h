@@ -6,9 +6,13 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quorvantis {
+
+/// Which of the two lists.
+enum class AttachedTo { Exam, Question };
 
 /// A list of attached files as the window shows it: display names, at most one of them selected.
 struct ShownAttachments {
@@ -18,12 +22,20 @@ struct ShownAttachments {
   bool visible = false;  ///< only while it holds entries
 
   bool IsFull() const { return names.size() >= kMaxAttachments; }
+
+  /// Deliberate: only a list in which several entries can be selected would obey, and these are none. Yet it
+  /// is all that a list does about the kind of a file.
+  void RequestSelection(std::size_t entry, bool state) {
+    if (selectsSeveral && entry < names.size()) selected = state ? std::optional(entry) : std::nullopt;
+  }
+  bool selectsSeveral = false;
 };
 
 /// An entry of a list and the work copy behind it.
 struct AttachedFile {
   std::u16string name;         ///< the display name
   std::filesystem::path copy;  ///< empty when the entry has none
+  bool hasContent = true;      ///< otherwise there is no copy, and none is missing
 };
 
 /// The two lists of attached files, the exam's and the shown question's, and the oral toggle beside the
@@ -44,8 +56,10 @@ class AttachmentEditor {
   void SelectQuestionFile(std::optional<std::size_t> index) { questionList_.selected = index; }
 
   /// The Delete key in a list; nothing happens when nothing is selected. The copied file stays.
-  void RemoveSelectedExamFile();
-  void RemoveSelectedQuestionFile();
+  void RemoveSelectedAttachment(AttachedTo list);
+
+  /// 1 for the name of a film or an animation, by its extension; else 0.
+  static int IsVideoLike(std::u16string_view fileName);
 
   /// The selected entry; nothing when none is.
   std::optional<AttachedFile> SelectedExamFile() const;
@@ -78,6 +92,11 @@ class AttachmentEditor {
   std::u16string OralToggleCaption() const;
 
  private:
+  bool IsMissing(const std::u16string& copy) const;
+  void Fill(ShownAttachments& list, const AttachmentList& names, const AttachmentList& paths) const;
+  std::size_t AppendEntry(ShownAttachments& list, const std::u16string& name,
+                          const std::filesystem::path& copy) const;
+  AttachedFile Entry(const std::u16string& name, const std::u16string& copy) const;
   std::optional<std::filesystem::path> ChooseFile() const;
   std::filesystem::path MakeCopy(const std::filesystem::path& source);
   void UpdateOralToggle();

@@ -20,6 +20,13 @@ void AppendPaths(const AttachmentList& list, std::vector<std::filesystem::path>&
   }
 }
 
+/// What previews have set counts for the run, whatever exam they showed.
+void KeepPreviewSettings(const FrameSetExam& latest, FrameSetExam& restored) {
+  restored.previewPrefixes = latest.previewPrefixes;
+  restored.pageRenderer.mediaSuppressed = latest.pageRenderer.mediaSuppressed;
+  restored.attachmentPageWriter.mediaSuppressed = latest.attachmentPageWriter.mediaSuppressed;
+}
+
 std::vector<std::filesystem::path> WorkCopiesOf(const FrameSetExam& exam) {
   std::vector<std::filesystem::path> files;
   AppendPaths(exam.examAttachmentPaths, files);
@@ -52,11 +59,10 @@ FrameSetExam EditorSnapshot::StoredExam() const {
 
 void EditorSnapshot::Restore() {
   copies_.PutBack();
-  const Kept kept = *std::exchange(kept_, std::nullopt);
+  Kept kept = *std::exchange(kept_, std::nullopt);
   EditorState& state = editor_.state;
-  const int prefixes = state.document.previewPrefixes;
-  state.document = kept.exam;
-  state.document.previewPrefixes = prefixes;  // of previews, whatever they showed
+  KeepPreviewSettings(state.document, kept.exam);
+  state.document = std::move(kept.exam);
   state.currentQuestion = kept.currentQuestion;
   editor_.questions.LoadCurrentQuestion(kept.form, kept.kind);
   state.SetFileName(kept.fileName);

@@ -4,6 +4,7 @@
 #include "platform/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
+#include "platform/UserDialogs.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 
@@ -25,6 +26,7 @@ void EditorState::MarkModified() {
 
 void EditorState::SetFileName(std::filesystem::path fileName) {
   fileName_ = std::move(fileName);
+  if (!IsUntitled()) document.Services().dialogs.BeginIn(fileName_.parent_path());
   view.TitleChanged();
 }
 

@@ -43,6 +43,7 @@ class EditorState {
   /// Deliberate: the title does not tell, neither now nor when a field reports a change later. Import does
   /// it.
   void MarkModifiedQuietly() { modified_ = true; }
+  /// File dialogs begin where the exam lies; after kUntitled, where the last one did.
   void SetFileName(std::filesystem::path fileName);
   /// The document is what the file holds.
   void MarkSaved();

@@ -9,7 +9,8 @@ class EditorView {
  public:
   virtual ~EditorView() = default;
 
-  /// Another question is shown: fill every field anew and forget what could be undone in it.
+  /// Another question is shown: fill every field anew and forget what could be undone in it. FormChanged
+  /// follows.
   virtual void FormLoaded() = 0;
 
   /// Something beside the typed texts may have changed: kind, lists, captions, what is visible, or a text

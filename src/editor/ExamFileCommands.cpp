@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/ExamFileCommands.h"
 
+#include "editor/ProposedFileName.h"
 #include "editor/WorkCopies.h"
 #include "platform/ExamServices.h"
 #include "platform/StringTable.h"
@@ -19,15 +20,17 @@ std::u16string LowerExtension(const std::filesystem::path& path) {
 
 Parting ExamFileCommands::AskAboutChanges() {
   if (!state_.Modified()) return Parting::Leave;
-  if (!check_.MayWrite(state_.FileName())) return Parting::Stay;
   const ExamServices& services = state_.document.Services();
   const std::u16string question =
       FillMessage(services.strings.Text(text_id::kSaveQuestion), {PathToText(state_.FileName())});
-  const SaveAnswer answer = services.dialogs.AskSave(question);
-  if (answer == SaveAnswer::Yes) SaveUnasked();
-  return answer == SaveAnswer::Cancel ? Parting::Stay
-         : answer == SaveAnswer::No   ? Parting::GiveUp
-                                      : Parting::Leave;
+  switch (services.dialogs.AskSave(question)) {
+    case SaveAnswer::Yes:
+      return Save() ? Parting::Leave : Parting::Stay;
+    case SaveAnswer::No:
+      return Parting::GiveUp;
+    default:
+      return Parting::Stay;
+  }
 }
 
 void ExamFileCommands::Leave(Parting parting) {
@@ -102,43 +105,58 @@ void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
 }
 
 void ExamFileCommands::SaveExam() {
-  if (state_.IsUntitled()) {
-    SaveExamAs();
-  } else if (check_.MayWrite(state_.FileName())) {
-    WriteTo(state_.FileName());
-  }
+  Save();
 }
 
 void ExamFileCommands::SaveExamAs() {
-  if (const auto file = ChooseTarget()) SaveExamTo(*file, true);
+  SaveAs();
 }
 
-/// The user has been told of losses.
-void ExamFileCommands::SaveUnasked() {
-  if (!state_.IsUntitled()) {
+/// False when the user went back to the exam; a save that failed, or whose file dialog was closed, is none.
+bool ExamFileCommands::Save() {
+  return state_.IsUntitled() ? SaveAs() : StoreAndWrite(state_.FileName());
+}
+
+bool ExamFileCommands::SaveAs() {
+  const auto file = ChooseTarget();
+  if (!file) return true;
+  const std::u16string extension = LowerExtension(*file);
+  if (extension == u"exm") return StoreAndWrite(*file);
+  if (extension == u"doc") {
     questions_.StoreCurrentQuestion();
-    WriteTo(state_.FileName());
-  } else if (const auto file = ChooseTarget()) {
-    SaveExamTo(*file, false);
+    exportDocument_(state_.document, *file);
   }
+  return true;
 }
 
 std::optional<std::filesystem::path> ExamFileCommands::ChooseTarget() {
   const ExamServices& services = state_.document.Services();
   const std::u16string filter = services.strings.Text(text_id::kSaveExamFilter);
-  const auto file = services.dialogs.ChooseFileToSave({filter, u"exm", u"MyExam"});
+  const auto file =
+      services.dialogs.ChooseFileToSave({filter, u"exm", ProposedFileName(questions_.Form().title)});
   return file && !file->empty() ? file : std::nullopt;
 }
 
-void ExamFileCommands::SaveExamTo(const std::filesystem::path& file, bool tellLosses) {
-  const std::u16string extension = LowerExtension(file);
-  if (extension != u"exm" && extension != u"doc") return;
+/// False when the user went back to the exam, which then is as it was.
+bool ExamFileCommands::StoreAndWrite(const std::filesystem::path& file) {
+  const LossAnswer answer = AskAboutLosses(file);
+  if (answer == LossAnswer::GoBack) return false;
+  FrameSetExam& exam = state_.document;
   questions_.StoreCurrentQuestion();
-  if (extension == u"doc") {
-    exportDocument_(state_.document, file);
-  } else if (!tellLosses || check_.MayWrite(file)) {
-    WriteTo(file);
+  if (longAnswersWhole_) exam.Services().longAnswerFlags.SetWhereNeeded(exam);
+  if (answer == LossAnswer::StoreWhole) {
+    StoreWhole(exam);
+    questions_.LoadCurrentQuestion();
   }
+  WriteTo(file);
+  return true;
+}
+
+LossAnswer ExamFileCommands::AskAboutLosses(const std::filesystem::path& file) const {
+  LongAnswerFlags flags = state_.document.Services().longAnswerFlags;
+  const FrameSetExam exam = questions_.StoredExam(flags);
+  if (longAnswersWhole_) flags.SetWhereNeeded(exam);
+  return check_.Ask(file, FindSavingLosses(exam, flags));
 }
 
 void ExamFileCommands::WriteTo(const std::filesystem::path& file) {

@@ -18,22 +18,22 @@ using DocumentExport = std::function<void(FrameSetExam& exam, const std::filesys
 /// goes by it.
 std::u16string LowerExtension(const std::filesystem::path& path);
 
-/// New, Open, Save, Save As and the questions before closing. Before a save, and before the question whether
-/// to save, the user is told what it would lose. Reading and writing report their own failures;
-/// the editor goes on with whatever the document holds.
+/// New, Open, Save, Save As and the question before an exam is left. Who wants to save is told first what
+/// that would lose, and can go back; then New, Open and closing do not go on either. Reading and writing
+/// report their own failures; the editor goes on with whatever the document holds.
 class ExamFileCommands {
  public:
   /// All must outlive the commands.
   ExamFileCommands(EditorState& state, QuestionEditor& questions, DocumentExport exportDocument)
-      : state_(state),
-        questions_(questions),
-        check_(state, questions),
-        exportDocument_(std::move(exportDocument)) {}
+      : state_(state), questions_(questions), check_(state), exportDocument_(std::move(exportDocument)) {}
 
   /// From now on: who keeps what is not saved, which must outlive the commands or be taken back with null.
   void SetUnsavedWork(UnsavedWork* unsavedWork) { unsavedWork_ = unsavedWork; }
   /// From now on: whether saving keeps the file that it replaces as a backup.
   void SetBackups(bool keepsBackups) { keepsBackups_ = keepsBackups; }
+  /// From now on: every long fill-in answer is saved whole, also one that was loaded and not shown since.
+  /// Otherwise only those that have been stored here are, as other programs expect it.
+  void SetLongAnswersWhole(bool whole) { longAnswersWhole_ = whole; }
 
   void NewExam();
   /// The same without a question.
@@ -58,9 +58,11 @@ class ExamFileCommands {
   void Enter();
   void ClearDocument();
   void LoadFile(const std::filesystem::path& file);
-  void SaveUnasked();
+  bool Save();
+  bool SaveAs();
   std::optional<std::filesystem::path> ChooseTarget();
-  void SaveExamTo(const std::filesystem::path& file, bool tellLosses);
+  bool StoreAndWrite(const std::filesystem::path& file);
+  LossAnswer AskAboutLosses(const std::filesystem::path& file) const;
   void WriteTo(const std::filesystem::path& file);
 
   EditorState& state_;
@@ -69,6 +71,7 @@ class ExamFileCommands {
   DocumentExport exportDocument_;
   UnsavedWork* unsavedWork_ = nullptr;
   bool keepsBackups_ = false;
+  bool longAnswersWhole_ = false;
 };
 
 }  // namespace quorvantis

@@ -35,14 +35,22 @@ void QuestionEditor::TickAnswerBox(std::size_t index, bool on) {
   state_.MarkModified();
 }
 
-void QuestionEditor::StoreCurrentQuestion() {
-  ExamQuestion& question = state_.Current();
-  state_.document.title = form_.title;
-  state_.document.randomMode = form_.random;
+void QuestionEditor::StoreInto(FrameSetExam& exam, LongAnswerFlags& flags) const {
+  ExamQuestion& question = exam.Question(state_.currentQuestion);
+  exam.title = form_.title;
+  exam.randomMode = form_.random;
   StoreForm(form_, state_.currentKind, question);
-  if (question.answerText.size() > kMaxShortAnswer) {
-    state_.document.Services().longAnswerFlags.Set(state_.currentQuestion);
-  }
+  if (question.answerText.size() > kMaxShortAnswer) flags.Set(state_.currentQuestion);
+}
+
+void QuestionEditor::StoreCurrentQuestion() {
+  StoreInto(state_.document, state_.document.Services().longAnswerFlags);
+}
+
+FrameSetExam QuestionEditor::StoredExam(LongAnswerFlags& flags) const {
+  FrameSetExam exam = state_.document;
+  StoreInto(exam, flags);
+  return exam;
 }
 
 void QuestionEditor::LoadCurrentQuestion() {
@@ -55,6 +63,7 @@ void QuestionEditor::LoadCurrentQuestion() {
   attachments_.RefreshQuestionList();
   attachments_.RefreshExamList();
   state_.view.FormLoaded();
+  ShowKindControls(state_.currentKind);
 }
 
 void QuestionEditor::LoadCurrentQuestion(const QuestionForm& form, QuestionKind kind) {
@@ -63,6 +72,7 @@ void QuestionEditor::LoadCurrentQuestion(const QuestionForm& form, QuestionKind 
   state_.currentKind = kind;
   attachments_.RefreshQuestionList();
   state_.view.FormLoaded();
+  ShowKindControls(kind);
 }
 
 void QuestionEditor::GoTo(int question) {
@@ -107,7 +117,12 @@ void QuestionEditor::DeleteHere() {
 
 void QuestionEditor::SelectKind(QuestionKind kind) {
   state_.currentKind = kind;
+  ShowKindControls(kind);
   state_.MarkModified();
+}
+
+void QuestionEditor::ShowKindControls(QuestionKind kind) {
+  shown_ = {kind == QuestionKind::Choice, kind == QuestionKind::FillIn, kind == QuestionKind::Essay};
   state_.view.FormChanged();
 }
 

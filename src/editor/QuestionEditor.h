@@ -9,6 +9,16 @@
 
 namespace quorvantis {
 
+class LongAnswerFlags;
+
+/// Which fields for answers the window shows. An oral question, and one of a kind that nobody knows, has
+/// none.
+struct KindControls {
+  bool options = false;  ///< the texts of the options A to E and their boxes
+  bool answer = false;   ///< the answer line with its caption and the list-separator button
+  bool essay = false;    ///< the essay answer with its caption
+};
+
 /// Editing of one question at a time: which question is shown, what its form holds, and how the form goes
 /// into the document (store) and back (load). All fields are stored whatever the kind; another kind only
 /// hides fields.
@@ -30,6 +40,8 @@ class QuestionEditor {
   void TickAnswerBox(std::size_t index, bool on);
 
   void StoreCurrentQuestion();
+  /// The document as storing would make it, which itself stays as it is; a long answer goes into `flags`.
+  FrameSetExam StoredExam(LongAnswerFlags& flags) const;
   void LoadCurrentQuestion();
   /// Loads it, and shows what the form held at some earlier time instead.
   void LoadCurrentQuestion(const QuestionForm& form, QuestionKind kind);
@@ -46,17 +58,22 @@ class QuestionEditor {
   void DeleteHere();
 
   void SelectKind(QuestionKind kind);
+  /// Decides which fields for answers are shown, and has the window show them.
+  void ShowKindControls(QuestionKind kind);
+  const KindControls& ShownKindControls() const { return shown_; }
   void CycleRandomMode();
 
   /// The list-separator button: prepares the answer line for one more answer.
   void AppendListSeparator();
 
  private:
+  void StoreInto(FrameSetExam& exam, LongAnswerFlags& flags) const;
   void GoTo(int question);
 
   EditorState& state_;
   AttachmentEditor& attachments_;
   QuestionForm form_;
+  KindControls shown_;
 };
 
 }  // namespace quorvantis

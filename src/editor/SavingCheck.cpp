@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "editor/SavingCheck.h"
 
-#include "examfile/SavingLosses.h"
 #include "platform/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
-#include "platform/UserDialogs.h"
 
 namespace quorvantis {
 
@@ -35,8 +33,7 @@ std::vector<std::u16string> SavingCheck::LossesOfFile(const std::filesystem::pat
   return losses;
 }
 
-bool SavingCheck::MayWrite(const std::filesystem::path& file) {
-  questions_.StoreCurrentQuestion();
+LossAnswer SavingCheck::Ask(const std::filesystem::path& file, const std::vector<SavingLoss>& losses) const {
   const ExamServices& services = state_.document.Services();
   const StringTable& strings = services.strings;
   LossQuestion question{strings.Text(text_id::kSavingLoses),
@@ -44,18 +41,12 @@ bool SavingCheck::MayWrite(const std::filesystem::path& file) {
                         {},
                         strings.Text(text_id::kSaveAnyway),
                         strings.Text(text_id::kGoBack)};
-  for (const SavingLoss& loss : FindSavingLosses(state_.document)) {
+  for (const SavingLoss& loss : losses) {
     if (!loss.isWork) continue;
     question.losses.push_back(LossLine(loss, strings));
     if (loss.canBeStored) question.storeWhole = strings.Text(text_id::kStoreWhole);
   }
-  if (question.losses.empty()) return true;
-  const LossAnswer answer = services.dialogs.AskAboutLosses(question);
-  if (answer == LossAnswer::StoreWhole) {
-    StoreWhole(state_.document);
-    questions_.LoadCurrentQuestion();
-  }
-  return answer != LossAnswer::GoBack;
+  return question.losses.empty() ? LossAnswer::SaveAnyway : services.dialogs.AskAboutLosses(question);
 }
 
 }  // namespace quorvantis

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "editor/QuestionEditor.h"
+#include "editor/EditorState.h"
+#include "examfile/SavingLosses.h"
+#include "platform/UserDialogs.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -12,20 +14,20 @@
 namespace quorvantis {
 
 /// Tells the user before a save what it would lose: of the exam, which a file cannot hold as it is, and of
-/// the file, which another program may have changed or of which only a part was read.
+/// the file, which another program may have changed or of which only a part was read. Changes nothing.
 class SavingCheck {
  public:
-  /// Both must outlive the check.
-  SavingCheck(EditorState& state, QuestionEditor& questions) : state_(state), questions_(questions) {}
+  /// `state` must outlive the check.
+  explicit SavingCheck(const EditorState& state) : state_(state) {}
 
   /// The exam is what `file` holds now, as far as it could be read.
   void ExamIsThatOf(const std::filesystem::path& file);
   /// There is no file that the exam came from.
   void Forget() { known_.reset(); }
 
-  /// Stores the form and asks if there is something to ask; false when the user goes back. The document is
-  /// changed where the user wants it to be stored whole.
-  bool MayWrite(const std::filesystem::path& file);
+  /// Asks what to do about the losses of an exam that is to be saved to `file`, and about what that file
+  /// loses. With nothing to lose the answer is SaveAnyway.
+  LossAnswer Ask(const std::filesystem::path& file, const std::vector<SavingLoss>& losses) const;
 
  private:
   /// By which a change of a file shows.
@@ -40,8 +42,7 @@ class SavingCheck {
   static std::optional<FileState> StateOf(const std::filesystem::path& file);
   std::vector<std::u16string> LossesOfFile(const std::filesystem::path& file) const;
 
-  EditorState& state_;
-  QuestionEditor& questions_;
+  const EditorState& state_;
   std::optional<FileState> known_;
 };
 

@@ -16,11 +16,6 @@ constexpr bool IsControl(char16_t unit) {
   return unit < 0x20 || (unit >= 0x7F && unit <= 0x9F);
 }
 
-bool IsTaken(const std::filesystem::path& path) {
-  std::error_code error;
-  return std::filesystem::exists(std::filesystem::symlink_status(path, error));
-}
-
 }  // namespace
 
 std::u16string FileNameOf(std::u16string_view displayName) {
@@ -31,13 +26,18 @@ std::u16string FileNameOf(std::u16string_view displayName) {
   return name;
 }
 
+bool FreeNames::IsTaken(const std::filesystem::path& path) const {
+  std::error_code error;
+  return handedOut_.contains(path) || std::filesystem::exists(std::filesystem::symlink_status(path, error));
+}
+
 std::filesystem::path FreeNames::PathFor(const std::u16string& fileName) {
   int& candidate = firstCandidate_.try_emplace(fileName, kPlainName).first->second;
   while (true) {
     const std::u16string counter = candidate == kPlainName ? std::u16string() : FormatInteger(candidate);
     const std::filesystem::path path = folder_ / TextToPath(FitFileName(counter + fileName));
-    if (!IsTaken(path)) return path;
     ++candidate;
+    if (!IsTaken(path)) return *handedOut_.insert(path).first;
   }
 }
 

@@ -35,13 +35,17 @@ void AttachmentUnpacker::Skip(std::int64_t size) {
   if (size > 0) source_.Take(static_cast<std::uint64_t>(size), nullptr);
 }
 
-/// Writes the next `size` bytes to a new file; false when it could not be made, with the bytes skipped all
-/// the same.
-bool AttachmentUnpacker::Unpack(const std::filesystem::path& target, std::uint64_t size) {
+/// Writes the next `size` bytes to a new file, which nothing makes none; false when it could not be made,
+/// with the bytes skipped all the same.
+bool AttachmentUnpacker::Unpack(const std::filesystem::path& target, std::int64_t size) {
+  if (size <= 0) {
+    if (!source_.Ended()) exam_.pathsWithoutContent.insert(PathToText(target));
+    return true;
+  }
   std::ofstream file;
   file.rdbuf()->pubsetbuf(nullptr, 0);
   file.open(target, std::ios::binary | std::ios::trunc);
-  source_.Take(size, [&](std::string_view bytes) {
+  source_.Take(static_cast<std::uint64_t>(size), [&](std::string_view bytes) {
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     progress_.Report(source_.Position(), source_.Size());
   });
@@ -69,7 +73,7 @@ void AttachmentUnpacker::ExtractExamAttachments() {
     const auto target = freeNames_.PathFor(FileNameOf(entry.name));
     exam_.examAttachmentPaths[slot] = PathToText(target);
     exam_.examAttachmentNames[slot] = entry.name;
-    if (entry.size > 0) unpacking = Unpack(target, static_cast<std::uint64_t>(entry.size));
+    unpacking = Unpack(target, entry.size);
   }
 }
 
@@ -90,7 +94,7 @@ void AttachmentUnpacker::ExtractQuestionAttachments(int question) {
     const auto path = freeNames_.PathFor(FileNameOf(entry.name));
     target.attachmentPaths[slot] = PathToText(path);
     target.attachmentNames[slot] = entry.name;
-    if (entry.size > 0) Unpack(path, static_cast<std::uint64_t>(entry.size));
+    Unpack(path, entry.size);
   }
 }
 

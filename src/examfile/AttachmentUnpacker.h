@@ -30,7 +30,7 @@ class AttachmentUnpacker {
  private:
   int ReadCount();
   bool ReadEntry(AttachmentEntry& entry, bool withOralFlag);
-  bool Unpack(const std::filesystem::path& target, std::uint64_t size);
+  bool Unpack(const std::filesystem::path& target, std::int64_t size);
   void Skip(std::int64_t size);
 
   ByteSource& source_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "examfile/ExamFileMessages.h"
 
+#include "examfile/FileFailure.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
 #include "text/MessageText.h"
@@ -19,6 +20,12 @@ std::u16string EndsEarly(const StringTable& strings, int firstMissingQuestion) {
 
 std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file) {
   return FillMessage(strings.Text(text_id::kOpenFileError), {PathToText(file)});
+}
+
+std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file,
+                             std::error_code why) {
+  const std::u16string error = OpenFileError(strings, file);
+  return why ? error + u'\n' + FileFailureText(strings, why) : error;
 }
 
 void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome) {

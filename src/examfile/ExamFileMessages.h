@@ -7,11 +7,15 @@
 
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace quorvantis {
 
 /// "Open file … error!", of a file that could not be read or saved.
 std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file);
+/// The same, with the reason in a line below.
+std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file,
+                             std::error_code why);
 
 /// Shows what is missing from an exam that was read; nothing when it is whole.
 void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome);

@@ -3,6 +3,7 @@
 #include "examfile/ExamFileMessages.h"
 #include "examfile/ExamFileReader.h"
 #include "examfile/ExamFileWriter.h"
+#include "examfile/FileFailure.h"
 #include "model/FrameSetExam.h"
 #include "platform/UserDialogs.h"
 
@@ -23,7 +24,7 @@ ReadDoubt DoubtOf(const ExamReadOutcome& outcome, const FrameSetExam& exam) {
 void FrameSetExam::ReadExamFile(const std::filesystem::path& file) {
   ExamServices& services = Services();
   const ExamReadOutcome outcome = ExamFileReader(*this, services).Read(file);
-  if (!outcome.opened) services.dialogs.ShowError(OpenFileError(services.strings, file));
+  if (!outcome.opened) services.dialogs.ShowError(OpenFileError(services.strings, file, ReadFailureOf(file)));
   ShowReadLosses(services, outcome);
   readDoubt = DoubtOf(outcome, *this);
   filesNotUnpacked = outcome.filesNotCreated;
@@ -33,8 +34,9 @@ bool FrameSetExam::WriteExamFile(const std::filesystem::path& file, bool backup)
   ExamServices& services = Services();
   ExamFileWriter writer(*this, services);
   if (backup) writer.KeepOldFile();
-  if (!writer.Write(file)) return true;
-  services.dialogs.ShowError(OpenFileError(services.strings, file));
+  const std::error_code failure = writer.Write(file);
+  if (!failure) return true;
+  services.dialogs.ShowError(OpenFileError(services.strings, file, failure));
   return false;
 }
 

@@ -20,18 +20,6 @@ bool HasOptions(const ExamQuestion& question) {
   return std::ranges::any_of(question.options, [](const auto& option) { return !option.empty(); });
 }
 
-bool HasAnything(const ExamQuestion& question) {
-  return !question.text.empty() || HasOptions(question) || !question.answerLetters.empty() ||
-         !question.answerText.empty() || !question.essayAnswer.empty() ||
-         !question.attachmentPaths[0].empty();
-}
-
-bool IsCutForItsForm(const FrameSetExam& exam, int number) {
-  const std::u16string& answer = exam.Question(number).answerText;
-  return answer.size() > kMaxShortAnswer && answer != kLongAnswerMarker &&
-         !exam.Services().longAnswerFlags.IsSet(number);
-}
-
 std::u16string Digits(std::size_t number) {
   return FormatInteger(static_cast<std::int64_t>(number));
 }
@@ -39,7 +27,8 @@ std::u16string Digits(std::size_t number) {
 /// Gathers the losses of an exam.
 class LossFinder {
  public:
-  explicit LossFinder(const FrameSetExam& exam) : exam_(exam), strings_(exam.Services().strings) {}
+  LossFinder(const FrameSetExam& exam, const LongAnswerFlags& flags)
+      : exam_(exam), flags_(flags), strings_(exam.Services().strings) {}
 
   std::vector<SavingLoss> Find() {
     CheckExam();
@@ -84,7 +73,8 @@ class LossFinder {
   void CheckFiles(const AttachmentList& paths, const AttachmentList& names) {
     for (std::size_t i = 0; i < kMaxAttachments; ++i) {
       CheckText(text_id::kAttachmentName, names[i], 128);
-      if (!paths[i].empty() && !std::ifstream(TextToPath(paths[i])).is_open())
+      const bool hasContent = !paths[i].empty() && !exam_.pathsWithoutContent.contains(paths[i]);
+      if (hasContent && !std::ifstream(TextToPath(paths[i])).is_open())
         Work(text_id::kFileStoredEmpty, {names[i]});
     }
   }
@@ -106,13 +96,7 @@ class LossFinder {
     CheckText(text_id::kTheText, question.text, kMaxQuestionText);
     for (const auto& option : question.options) CheckText(text_id::kOptionText, option, kMaxOptionText);
     CheckText(text_id::kAnswerLetters, question.answerLetters, 16);
-    CheckText(text_id::kFillInAnswer, question.answerText, kMaxFillInAnswer);
-    if (IsCutForItsForm(exam_, number_)) {
-      const std::u16string cut =
-          Filled(text_id::kTextCut, {strings_.Text(text_id::kFillInAnswer),
-                                     Digits(question.answerText.size()), Digits(kMaxShortAnswer)});
-      losses_.push_back({number_, cut, true, true});
-    }
+    CheckFillInAnswer(question.answerText);
     CheckText(text_id::kEssayAnswer, question.essayAnswer, kMaxEssayAnswer);
     CheckNumber(text_id::kTheKind, static_cast<int>(question.kind));
     CheckKind(question);
@@ -122,6 +106,13 @@ class LossFinder {
       Detail(text_id::kOralFlagChanged);
     }
     CheckFiles(question.attachmentPaths, question.attachmentNames);
+  }
+
+  void CheckFillInAnswer(std::u16string_view answer) {
+    const std::size_t before = losses_.size();
+    CheckText(text_id::kFillInAnswer, answer, flags_.IsSet(number_) ? kMaxFillInAnswer : kMaxShortAnswer);
+    const bool takesLongForm = answer.size() > kMaxShortAnswer && !flags_.IsSet(number_);
+    if (losses_.size() > before) losses_.back().canBeStored = takesLongForm;
   }
 
   void CheckKind(const ExamQuestion& question) {
@@ -136,6 +127,7 @@ class LossFinder {
   }
 
   const FrameSetExam& exam_;
+  const LongAnswerFlags& flags_;
   const StringTable& strings_;
   int number_ = 0;
   std::vector<SavingLoss> losses_;
@@ -143,8 +135,14 @@ class LossFinder {
 
 }  // namespace
 
-std::vector<SavingLoss> FindSavingLosses(const FrameSetExam& exam) {
-  return LossFinder(exam).Find();
+bool HasAnything(const ExamQuestion& question) {
+  return !question.text.empty() || HasOptions(question) || !question.answerLetters.empty() ||
+         !question.answerText.empty() || !question.essayAnswer.empty() ||
+         !question.attachmentPaths[0].empty();
+}
+
+std::vector<SavingLoss> FindSavingLosses(const FrameSetExam& exam, const LongAnswerFlags& flags) {
+  return LossFinder(exam, flags).Find();
 }
 
 std::u16string LossLine(const SavingLoss& loss, const StringTable& strings) {
@@ -159,8 +157,8 @@ void StoreWhole(FrameSetExam& exam) {
     ExamQuestion& question = exam.Question(number);
     if (number > last && HasAnything(question))
       question.text = services.strings.Text(text_id::kPlaceholderText);
-    if (question.answerText.size() > kMaxShortAnswer) services.longAnswerFlags.Set(number);
   }
+  services.longAnswerFlags.SetWhereNeeded(exam);
 }
 
 }  // namespace quorvantis

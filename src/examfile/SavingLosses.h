@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/FrameSetExam.h"
+#include "model/LongAnswerFlags.h"
 #include "platform/StringTable.h"
 
 #include <string>
@@ -19,8 +20,12 @@ struct SavingLoss {
   bool canBeStored = false;  ///< by StoreWhole
 };
 
-/// What a save would lose, in the order of the questions. Whether files are there is looked up.
-std::vector<SavingLoss> FindSavingLosses(const FrameSetExam& exam);
+/// Somebody has put something into the question: a text, an answer or a file.
+bool HasAnything(const ExamQuestion& question);
+
+/// What a save would lose, in the order of the questions, with the flags that the writer would go by. Whether
+/// files are there is looked up.
+std::vector<SavingLoss> FindSavingLosses(const FrameSetExam& exam, const LongAnswerFlags& flags);
 
 /// "question 7: the fill-in answer is cut from 300 to 256 characters".
 std::u16string LossLine(const SavingLoss& loss, const StringTable& strings);

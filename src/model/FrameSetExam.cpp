@@ -10,6 +10,7 @@ void FrameSetExam::Reset() {
   examAttachmentPaths.fill({});
   examAttachmentNames.fill({});
   displayNamesAmongPaths.clear();
+  pathsWithoutContent.clear();
   readDoubt = ReadDoubt::None;
   filesNotUnpacked = 0;
   examAttachmentTypes.fill(0);

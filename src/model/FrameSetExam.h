@@ -6,6 +6,9 @@
 
 #include <array>
 #include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
 
 namespace quorvantis {
 
@@ -80,6 +83,8 @@ class FrameSetExam : public ExamPaper {
       examAttachmentTypes{};  ///< number of the preview frame that shows each file
   AttachmentPageWriter attachmentPageWriter;
   int previewPrefixes = 0;  ///< previews of this exam that were not finished
+  /// Paths of attached files without content: nothing lies there, and nothing is missing.
+  std::set<std::u16string> pathsWithoutContent;
   ReadDoubt readDoubt = ReadDoubt::None;
   int filesNotUnpacked = 0;  ///< attached files that the last read could make no file of
   int hasOralQuestion = 0;   ///< 1 when the reader met an oral question

@@ -148,6 +148,16 @@ constexpr int kPictureTimedOut = 1155;
 constexpr int kPictureNoFile = 1156;
 constexpr int kPicturesOfQuestion = 1157;  // within the second part
 
+// Of files.
+constexpr int kAllFiles = 1127;      // a file filter behind kAttachmentFilter
+constexpr int kNotPermitted = 1128;  // why a file could not be opened or saved; likewise:
+constexpr int kNotThere = 1129;
+constexpr int kDiskFull = 1133;
+constexpr int kReadOnlyDisk = 1134;
+constexpr int kIsFolder = 1135;
+constexpr int kReadOrWriteFails = 1136;
+constexpr int kNameTooLong = 1137;
+
 // Of what saving loses.
 constexpr int kOfQuestion = 1200;
 constexpr int kTextCut = 1201;

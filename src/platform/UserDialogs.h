@@ -53,6 +53,9 @@ class UserDialogs {
   /// Tells what saving would lose, and asks what to do. Closing the question is GoBack.
   virtual LossAnswer AskAboutLosses(const LossQuestion& question) = 0;
 
+  /// File dialogs begin in this folder from now on: there the exam lies.
+  virtual void BeginIn(const std::filesystem::path& folder) = 0;
+
   /// The full path of the chosen file, or nothing when the user cancelled.
   virtual std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) = 0;
 

@@ -6,6 +6,7 @@
 #include "text/PathText.h"
 
 #include <functional>
+#include <set>
 
 namespace quorvantis {
 namespace {
@@ -129,7 +130,12 @@ class Gathering {
     }
   }
 
-  void End() { SnapshotWriter(snapshot.content).Number(kNoMoreQuestions); }
+  void End(const FrameSetExam& exam) {
+    SnapshotWriter fields(snapshot.content);
+    fields.Number(kNoMoreQuestions);
+    fields.Number(exam.pathsWithoutContent.size());
+    VisitTexts(exam.pathsWithoutContent, fields);
+  }
 
   ExamSnapshot snapshot;
 
@@ -156,6 +162,14 @@ void ReadNames(SnapshotReader& fields, std::vector<std::u16string>& names) {
   for (std::size_t i = 0; i < count && !fields.Failed(); ++i) fields.Text(names.emplace_back());
 }
 
+/// Copies of earlier versions of the program end before them.
+void ReadPathsWithoutContent(SnapshotReader& fields, std::set<std::u16string>& paths) {
+  if (fields.Failed() || fields.Rest().empty()) return;
+  std::vector<std::u16string> list;
+  ReadNames(fields, list);
+  paths.insert(list.begin(), list.end());
+}
+
 }  // namespace
 
 ExamSnapshot TakeSnapshot(const ExamEditor& editor, std::size_t expectedSize) {
@@ -174,7 +188,7 @@ ExamSnapshot TakeSnapshot(const ExamEditor& editor, std::size_t expectedSize) {
       gathering.AddQuestion(n, shown);
     }
   }
-  gathering.End();
+  gathering.End(exam);
   return std::move(gathering.snapshot);
 }
 
@@ -191,6 +205,7 @@ std::optional<SnapshotPlace> ReadSnapshot(std::string_view content, FrameSetExam
   for (fields.Number(number); IsQuestionNumber(number) && !fields.Failed(); fields.Number(number)) {
     VisitWholeQuestion(exam.Question(number), fields);
   }
+  ReadPathsWithoutContent(fields, exam.pathsWithoutContent);
   exam.CountQuestions();
   const bool whole = !fields.Failed() && number == kNoMoreQuestions && fields.Rest().empty();
   return whole && IsQuestionNumber(place.currentQuestion) ? std::optional(place) : std::nullopt;

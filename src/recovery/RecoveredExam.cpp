@@ -3,6 +3,7 @@
 
 #include "editor/WorkCopies.h"
 #include "examfile/AttachmentName.h"
+#include "examfile/SavingLosses.h"
 #include "examfile/WorkFolder.h"
 #include "model/LongAnswerFlags.h"
 #include "platform/ExamServices.h"
@@ -14,6 +15,8 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <set>
+#include <utility>
 
 namespace quorvantis {
 namespace fs = std::filesystem;
@@ -26,13 +29,20 @@ std::optional<RecoveryFile> ReadRecoveryFile(const fs::path& folder) {
   return bytes ? ParseRecoveryFile(*bytes) : std::nullopt;
 }
 
+/// Settings alone are nothing that anybody would miss.
+bool HasAnything(const FrameSetExam& exam) {
+  return !exam.title.empty() || !exam.examAttachmentPaths[0].empty() ||
+         std::ranges::any_of(exam.questions, [](const auto& question) { return HasAnything(question); });
+}
+
 std::optional<RecoveryCopy> ReadCopy(const fs::path& folder, ExamServices& services) {
   const auto file = ReadRecoveryFile(folder);
   if (!file) return std::nullopt;
   FrameSetExam exam(services);
   const auto place = ReadSnapshot(file->content, exam);
   if (!place) return std::nullopt;
-  return RecoveryCopy{folder, file->time, TextToPath(place->fileName), exam.title, exam.questionCount};
+  return RecoveryCopy{folder,     file->time,         TextToPath(place->fileName),
+                      exam.title, exam.questionCount, HasAnything(exam)};
 }
 
 bool IsNumber(const std::string& name) {
@@ -54,8 +64,11 @@ std::vector<fs::path> FoldersOf(const fs::path& root) {
 /// old path is never used as it is: it may name any file of this machine.
 class Attachments {
  public:
-  Attachments(const FrameSetExam& exam, const fs::path& folder, const RecoveryLinks& links)
-      : links_(links), freeNames_(WorkFolder(exam, exam.Services().applicationFolder)) {
+  Attachments(FrameSetExam& exam, const fs::path& folder, const RecoveryLinks& links)
+      : links_(links),
+        withoutContent_(std::exchange(exam.pathsWithoutContent, {})),
+        nowWithoutContent_(exam.pathsWithoutContent),
+        freeNames_(WorkFolder(exam, exam.Services().applicationFolder)) {
     for (const auto& [path, number] : links) {
       const fs::path copy = freeNames_.PathFor(FileNameOf(path));
       if (LinkOrCopy(RecoveryLinkPath(folder, number), copy)) copies_[path] = PathToText(copy);
@@ -66,13 +79,17 @@ class Attachments {
     if (path.empty()) return;
     const auto known = copies_.find(path);
     if (known == copies_.end() && links_.contains(path)) lost.push_back(name);
+    const bool hasContent = !withoutContent_.contains(path);
     path = known != copies_.end() ? known->second : PathToText(freeNames_.PathFor(FileNameOf(path)));
+    if (!hasContent) nowWithoutContent_.insert(path);
   }
 
   std::vector<std::u16string> lost;  ///< names of files whose link is not there
 
  private:
   const RecoveryLinks& links_;
+  const std::set<std::u16string> withoutContent_;  ///< old paths
+  std::set<std::u16string>& nowWithoutContent_;
   FreeNames freeNames_;
   std::map<std::u16string, std::u16string> copies_;  ///< by their old paths
 };
@@ -102,9 +119,11 @@ FoundRecoveryCopies FindRecoveryCopies(ExamServices& services) {
   FoundRecoveryCopies found;
   for (const fs::path& folder : FoldersOf(RecoveryRoot(services.applicationFolder))) {
     std::error_code ignored;
-    if (!fs::exists(fs::symlink_status(RecoveryFilePath(folder), ignored))) {
+    const bool isCopy = fs::exists(fs::symlink_status(RecoveryFilePath(folder), ignored));
+    const auto copy = isCopy ? ReadCopy(folder, services) : std::nullopt;
+    if (!isCopy || (copy && !copy->hasAnything)) {
       RemoveRecoveryCopy(folder);
-    } else if (const auto copy = ReadCopy(folder, services)) {
+    } else if (copy) {
       found.copies.push_back(*copy);
     } else {
       found.damaged.push_back(folder);

@@ -19,6 +19,7 @@ struct RecoveryCopy {
   std::filesystem::path fileName;  ///< of the exam, or kUntitled
   std::u16string title;
   int questions = 0;
+  bool hasAnything = true;  ///< otherwise there is no title, nothing in a question and no attached file
 };
 
 struct FoundRecoveryCopies {
@@ -27,7 +28,7 @@ struct FoundRecoveryCopies {
 };
 
 /// Looks for copies in the application folder. There must be no other editor on that folder. Folders in which
-/// a copy was only begun are removed.
+/// a copy was only begun are removed, and copies with nothing to restore.
 FoundRecoveryCopies FindRecoveryCopies(ExamServices& services);
 
 /// Takes a damaged copy out of the way of later searches, and gives the folder where it is now.

@@ -2,12 +2,12 @@
 #include "shell/SaveCopyCommand.h"
 
 #include "examfile/AttachmentName.h"
+#include "examfile/ExamFileMessages.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
 #include "platform/WholeFile.h"
 #include "text/MessageText.h"
-#include "text/PathText.h"
 
 namespace quorvantis {
 namespace fs = std::filesystem;
@@ -20,11 +20,12 @@ bool HasWorkCopy(const AttachedFile& file, const ExamServices& services) {
 }
 
 void SaveCopyOf(const AttachedFile& file, const ExamServices& services) {
-  if (!HasWorkCopy(file, services)) return;
+  if (file.hasContent && !HasWorkCopy(file, services)) return;
   const auto target = services.dialogs.ChooseFileToSave({{}, {}, FileNameOf(file.name)});
-  if (!target || !CopyWholeFile(services.files, file.copy, *target)) return;
-  services.dialogs.ShowError(
-      FillMessage(services.strings.Text(text_id::kOpenFileError), {PathToText(*target)}));
+  if (!target) return;
+  const std::error_code failure = file.hasContent ? CopyWholeFile(services.files, file.copy, *target)
+                                                  : SaveWholeFile(services.files, *target, {});
+  if (failure) services.dialogs.ShowError(OpenFileError(services.strings, *target, failure));
 }
 
 }  // namespace quorvantis

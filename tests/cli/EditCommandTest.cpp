@@ -111,6 +111,27 @@ TEST_F(EditScripts, RepliesAnswerTheSaveQuestions) {
   check("close\ntext again\nsave", "again", "again");  // cancelled, so still open
 }
 
+TEST_F(EditScripts, WhatIsNotDoneIsTold) {
+  const std::string file = Path("a.txt");
+  WriteBytes(file, "abc");
+  std::string full = "kind oral\n";
+  for (int i = 0; i < 10; ++i) full += "attach " + file + "\nattach-exam " + file + "\n";
+  const std::pair<std::string, std::string> rows[] = {
+      {full + "attach " + file, file + ": not attached; a list holds at most 10 files"},
+      {full + "attach-exam " + file, file + ": not attached; a list holds at most 10 files"},
+      {"title " + std::string(257, 'x'), "Not changed: this field takes at most 256 characters."},
+      {"option B " + std::string(257, 'x'), "Not changed: this field takes at most 256 characters."},
+      {"kind fillin\noral", "not switched: the question is not oral"},
+      {full + "title " + std::string(256, 'x'), ""}};
+  for (const auto& [script, told] : rows) {
+    const RunResult run = Command({"edit"}, script);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, told.empty() ? "" : "quorvantis-cli: " + told + "\n");
+  }
+  EXPECT_EQ(LastState("kind oral\nattach " + file + "\noral\nnext\nkind oral\noral")["oralFlag"], 1)
+      << "whatever the flag of the question before";
+}
+
 TEST_F(EditScripts, WorksInTheApplicationFolder) {
   WriteBytes(folder / "a.txt", "abc");
   const auto pathOf = [this](const std::string& script) -> std::string {

@@ -32,7 +32,7 @@ TEST_F(FullDiskWindow, AFailedSaveIsToldAndTheExamStays) {
   Turn();
   world.dialogs.filesToSave = {target, folder / "elsewhere.exm"};
   Click("save");
-  EXPECT_EQ(world.dialogs.errors, std::vector{u"[102 " + target.u16string() + u"]"});
+  EXPECT_EQ(world.dialogs.errors, std::vector{u"[102 " + target.u16string() + u"]\n[1133 %s]"});
   EXPECT_EQ(window->windowTitle(), "[107 UnTitle] *");
   EXPECT_EQ(ReadBytes(target), "old");
   EXPECT_EQ(std::distance(fs::directory_iterator(disk.Path()), fs::directory_iterator()), 1);

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -53,6 +54,9 @@ class UserDialogsTest : public testing::Test {
     answers_.push([icon](QWidget& dialog) { EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), icon); });
     Press(Qt::Key_Escape);
   }
+  void LookAt(std::function<void(QFileDialog&)> look) {
+    answers_.push([look](QWidget& dialog) { look(dynamic_cast<QFileDialog&>(dialog)); });
+  }
   void Press(Qt::Key key) {
     answers_.push([key](QWidget& dialog) { QTest::keyClick(&dialog, key); });
   }
@@ -94,6 +98,43 @@ TEST_F(UserDialogsTest, OverwritingIsConfirmedUnderTheFinalName) {
   EXPECT_EQ(dialogs.ChooseFileToSave(save), old);
   EnterName(Path("old.exm"));
   EXPECT_EQ(dialogs.ChooseFileToOpen({u"Exam files, (*.exm)|*.exm|", {}, {}}), old);
+}
+
+TEST_F(UserDialogsTest, OpeningBeginsWithTheKindAndInTheFolderOfLastTime) {
+  const FileDialogRequest attach{u"Text files(*.txt)|*.txt|All files|*|", {}, {}};
+  const FileDialogRequest open{u"Exam files, (*.exm)|*.exm|", {}, {}};
+  std::vector<std::filesystem::path> kept;
+  dialogs.KeepFolders([&](const auto& start) { kept.push_back(start); });
+  const auto exams = folder / "exams", pictures = folder / "pictures";
+  WriteBytes(exams / "a.exm", "exam");
+  WriteBytes(pictures / "a.pdf", "picture");
+  const auto check = [&](const FileDialogRequest& request, const std::filesystem::path& where,
+                         const QString& kind, const QString& choose) {
+    LookAt([=](QFileDialog& files) {
+      EXPECT_EQ(QStringToPath(files.directory().absolutePath()), where);
+      EXPECT_EQ(files.selectedNameFilter(), kind);
+    });
+    choose.isEmpty() ? Press(Qt::Key_Escape) : EnterName(choose, "All files");
+    EXPECT_EQ(dialogs.ChooseFileToOpen(request).has_value(), !choose.isEmpty());
+  };
+  dialogs.BeginIn(exams);
+  check(open, exams, "Exam files, (*.exm)", {});
+  check(attach, exams, "Text files(*.txt)", PathToQString(pictures / "a.pdf"));
+  check(attach, pictures, "All files", {});
+  check(open, exams, "Exam files, (*.exm)", {});
+  dialogs.BeginIn(folder.Path());
+  check(attach, folder.Path(), "All files", {});
+  dialogs.BeginIn(folder / "gone");
+  check(attach, QStringToPath(QDir::homePath()), "All files", {});
+  EXPECT_EQ(kept, (std::vector{exams, folder.Path(), folder / "gone"}));
+}
+
+TEST_F(UserDialogsTest, NothingIsLostByEnterOrEscape) {
+  const LossQuestion question{u"Saving loses something:", {u"a", u"b"}, u"Store", u"Save anyway", u"Go back"};
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+    Press(key);
+    EXPECT_EQ(dialogs.AskAboutLosses(question), LossAnswer::GoBack);
+  }
 }
 
 TEST_F(UserDialogsTest, WhatWasDoneIsToldWithTheIconOfAnError) {

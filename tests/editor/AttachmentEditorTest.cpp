@@ -27,7 +27,7 @@ class Attaching : public EditorTest {
   }
   void RemoveExamFile(std::size_t index) {
     editor.attachments.SelectExamFile(index);
-    editor.attachments.RemoveSelectedExamFile();
+    editor.attachments.RemoveSelectedAttachment(AttachedTo::Exam);
   }
 };
 
@@ -42,6 +42,12 @@ TEST(WorkCopyNames, AreMadeOfFolderAndCounter) {
     EXPECT_EQ(SourceFolder(source), from) << source;
     EXPECT_EQ(CopyFolder(source, counter), copy) << source;
   }
+}
+
+TEST(WorkCopyNames, TellFilmsByTheirExtension) {
+  const std::pair<const char16_t*, int> rows[] = {{u"a.WMV", 1}, {u"b.c.swf", 1}, {u".mpeg", 1}, {u"avi", 0},
+                                                  {u"a.mpg", 0}, {u"a.asf.", 0},  {u"", 0}};
+  for (const auto& [name, expected] : rows) EXPECT_EQ(AttachmentEditor::IsVideoLike(name), expected);
 }
 
 TEST_F(Attaching, CopiesTheFileAtOnce) {
@@ -66,7 +72,7 @@ TEST_F(Attaching, CopiesTheFileAtOnce) {
   EXPECT_EQ(editor.attachments.ExamList().names, Names{u"report"});
   EXPECT_EQ(question.attachmentCopies[0], u"") << "removed with the work root, not one by one";
   EXPECT_FALSE(editor.attachments.QuestionList().visible);
-  EXPECT_EQ(world.dialogs.requests[0].filter, u"[143 %s]");
+  EXPECT_EQ(world.dialogs.requests[0].filter, u"[143 %s][1127 %s]");
 
   editor.state.MarkSaved();
   editor.files.NewExam();
@@ -110,7 +116,7 @@ TEST_F(Attaching, MarksEntriesWithoutACopy) {
   editor.attachments.AttachQuestionFile(MakeFile("there.txt"));
   EXPECT_EQ(list.missing, (Marks{true, false}));
   editor.attachments.SelectQuestionFile(0);
-  editor.attachments.RemoveSelectedQuestionFile();
+  editor.attachments.RemoveSelectedAttachment(AttachedTo::Question);
   EXPECT_EQ(list.missing, Marks{false});
   fs::remove_all(WorkRoot());
   Show();
@@ -133,7 +139,7 @@ TEST_F(Attaching, RefusesTheEleventhFileSilently) {
   EXPECT_TRUE(world.dialogs.requests.empty());
   EXPECT_TRUE(exam.Question(1).attachmentPaths[9].ends_with(u"x~20.txt/x.txt"));
   attachments.SelectExamFile(9);
-  attachments.RemoveSelectedExamFile();
+  attachments.RemoveSelectedAttachment(AttachedTo::Exam);
   attachments.AttachExamFile(file);
   EXPECT_TRUE(exam.examAttachmentPaths[9].ends_with(u"x~21.txt/x.txt")) << "a refused file takes no number";
 }
@@ -151,8 +157,8 @@ TEST_F(Attaching, RemovesTheSelectedEntry) {
     Show();
     editor.attachments.SelectExamFile(selected);
     editor.attachments.SelectQuestionFile(selected);
-    editor.attachments.RemoveSelectedExamFile();
-    editor.attachments.RemoveSelectedQuestionFile();
+    editor.attachments.RemoveSelectedAttachment(AttachedTo::Exam);
+    editor.attachments.RemoveSelectedAttachment(AttachedTo::Question);
     EXPECT_EQ(std::tie(exam.examAttachmentPaths, exam.examAttachmentNames), std::tie(left, left));
     EXPECT_EQ(std::tie(question.attachmentPaths, question.attachmentNames), std::tie(left, left));
     EXPECT_EQ(editor.attachments.QuestionList().names.size(), selected ? 2u : 3u);
@@ -161,7 +167,7 @@ TEST_F(Attaching, RemovesTheSelectedEntry) {
   editor.attachments.AttachQuestionFile(MakeFile("x.txt"));
   const fs::path copy = exam.Question(1).attachmentPaths[2];
   editor.attachments.SelectQuestionFile(2);
-  editor.attachments.RemoveSelectedQuestionFile();
+  editor.attachments.RemoveSelectedAttachment(AttachedTo::Question);
   EXPECT_TRUE(fs::exists(copy)) << "the copied file stays";
 }
 
@@ -257,7 +263,7 @@ TEST_F(Attaching, OralToggleShowsForASelectedFile) {
   attachments.ToggleOral();
   check("toggling twice", true, 0);
   attachments.ToggleOral();
-  attachments.RemoveSelectedQuestionFile();
+  attachments.RemoveSelectedAttachment(AttachedTo::Question);
   check("removing the selected one", false, 1);
   ShowQuestion(2);
   ShowQuestion(3);

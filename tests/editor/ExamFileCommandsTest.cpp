@@ -103,6 +103,32 @@ TEST_F(ExamFileEditing, SavesUnderTheNameItHas) {
   EXPECT_EQ(editor.questions.Form().text, u"second thought");
 }
 
+TEST_F(ExamFileEditing, SaveAsProposesTheTitleWhereTheLastExamLies) {
+  const std::pair<std::u16string, std::u16string> rows[] = {
+      {u"", u"MyExam"},
+      {u" Biology, term 1.2 ", u"Biology, term 1.2"},
+      {u"..", u"MyExam"},
+      {u"../a\\b:c*d?\r\n<e>|\"f\".", u"a b c d e f"},
+      {u"letter.Doc", u"letter.Doc.exm"},  // which would be exported
+      {u"\u751F\u7269", u"\u751F\u7269"},
+      {std::u16string(79, u'x') + u"\xD83D\xDE00", std::u16string(79, u'x')},
+      {std::u16string(u"a\0\xD800", 3), u"a \xFFFD"}};
+  for (const auto& [typed, proposed] : rows) {
+    Type(FormField::Title, typed);
+    editor.files.SaveExamAs();
+    EXPECT_EQ(world.dialogs.requests.back().initialName, proposed);
+  }
+  EXPECT_EQ(world.dialogs.folder, "") << "before the first exam";
+  SaveAs(folder / "one.exm");
+  EXPECT_EQ(world.dialogs.folder, folder.Path());
+  const fs::path other = folder / "other";
+  fs::create_directory(other);
+  fs::copy_file(folder / "one.exm", other / "two.exm");
+  Open(other / "two.exm");
+  editor.files.NewExam();
+  EXPECT_EQ(world.dialogs.folder, other);
+}
+
 TEST_F(ExamFileEditing, ExtensionDecidesWhatSaveAsDoes) {
   enum What { Saves, Exports, Nothing };
   const std::pair<const char*, What> rows[] = {
@@ -126,7 +152,8 @@ TEST_F(ExamFileEditing, ExtensionDecidesWhatSaveAsDoes) {
 TEST_F(ExamFileEditing, FailedSaveKeepsTheChange) {
   Change();
   SaveAs(folder / "missing" / "x.exm");
-  EXPECT_EQ(world.dialogs.errors, std::vector{u"[102 " + AsText(folder / "missing" / "x.exm") + u"]"});
+  EXPECT_EQ(world.dialogs.errors,
+            std::vector{u"[102 " + AsText(folder / "missing" / "x.exm") + u"]\n[1129 %s]"});
   EXPECT_TRUE(Modified());
   EXPECT_EQ(editor.state.FileName(), "UnTitle") << "the next save must not fail in the same way";
 }
@@ -213,7 +240,7 @@ TEST_F(ExamFileEditing, UnpackedFilesGoWithTheExam) {
     EXPECT_EQ(ReadBytes(unpacked[1]), "the note");
     // Out of the lists, the files are still the exam's to delete.
     editor.attachments.SelectExamFile(0);
-    editor.attachments.RemoveSelectedExamFile();
+    editor.attachments.RemoveSelectedAttachment(AttachedTo::Exam);
     editor.questions.DeleteHere();
     editor.state.DeliverContentChanged();
     WriteBytes(unpacked[0], "used");

@@ -2,6 +2,8 @@
 #include "EditorTest.h"
 #include "editor/WorkCopies.h"
 
+#include <functional>
+
 namespace quorvantis::test {
 namespace {
 
@@ -40,8 +42,6 @@ TEST_F(SavingCheckTest, StoresWholeOnTheUsersWord) {
   EXPECT_EQ(Save(LossAnswer::GoBack), losses);
   EXPECT_EQ(ReadBytes(file), before);
   EXPECT_TRUE(Modified());
-  EXPECT_FALSE(editor.files.ConfirmClose());
-  EXPECT_EQ(world.dialogs.questions, Lines()) << "told before the question whether to save";
 
   EXPECT_EQ(Save(LossAnswer::StoreWhole), losses);
   EXPECT_FALSE(Modified());
@@ -53,6 +53,69 @@ TEST_F(SavingCheckTest, StoresWholeOnTheUsersWord) {
   exam.Question(6).answerLetters = u"a";
   EXPECT_EQ(Save(LossAnswer::SaveAnyway), (Lines{u"[1200 6]", u"(can be stored)"}));
   EXPECT_FALSE(Modified());
+
+  editor.files.SetLongAnswersWhole(true);
+  exam.Question(2).answerText.assign(1025, u'x');
+  exam.Question(3).kind = QuestionKind::FillIn;
+  exam.Question(3).answerText.assign(1024, u'x');
+  exam.Question(6).answerLetters.clear();
+  EXPECT_EQ(Save(LossAnswer::SaveAnyway), Lines{u"[1200 2]"}) << "what the long form cuts";
+  Reopen();
+  EXPECT_EQ(exam.Question(3).answerText.size(), 1024U);
+}
+
+TEST_F(SavingCheckTest, AsksWhoWantsToSaveAndChangesNothingBefore) {
+  struct Row {
+    SaveAnswer save;
+    LossAnswer loss;
+    bool asksAboutLosses, goesOn;
+  };
+  const Row rows[] = {{SaveAnswer::No, LossAnswer::GoBack, false, true},
+                      {SaveAnswer::Cancel, LossAnswer::GoBack, false, false},
+                      {SaveAnswer::Yes, LossAnswer::GoBack, true, false},
+                      {SaveAnswer::Yes, LossAnswer::SaveAnyway, true, true}};
+  const auto isLeft = [&](auto command) { return command(), exam.Question(4).essayAnswer.empty(); };
+  const std::function<bool()> commands[] = {[&] { return isLeft([&] { editor.files.NewExam(); }); },
+                                            [&] { return isLeft([&] { editor.files.OpenExam(file); }); },
+                                            [&] { return editor.files.ConfirmClose(); }};
+  editor.files.SetLongAnswersWhole(true);
+  for (const auto& command : commands) {
+    for (const Row& row : rows) {
+      editor.files.StartNewExam();
+      SaveAs(file);
+      exam.Question(4).essayAnswer = u"not stored by a file";
+      Type(FormField::Title, u"typed");
+      Type(FormField::Text, u"typed");
+      Type(FormField::Answer, std::u16string(300, u'x'));
+      Turn();
+      const bool flagged = world.longAnswerFlags.IsSet(1);
+      const auto isAsItWas = [&] {
+        return exam.title.empty() && exam.Question(1).answerText.empty() && Modified() &&
+               world.longAnswerFlags.IsSet(1) == flagged;
+      };
+      world.dialogs.answers = {row.save};
+      world.dialogs.lossAnswer = row.loss;
+      world.dialogs.losses.clear();
+      EXPECT_EQ(command(), row.goesOn);
+      EXPECT_EQ(!world.dialogs.losses.empty(), row.asksAboutLosses);
+      EXPECT_TRUE(row.goesOn || isAsItWas());
+      editor.files.StartNewExam();
+    }
+  }
+}
+
+TEST_F(SavingCheckTest, AnEmptyFileIsNotLost) {
+  Type(FormField::Text, u"one");
+  editor.attachments.AttachQuestionFile(WriteBytes(folder / "empty.txt", ""));
+  editor.attachments.AttachExamFile(WriteBytes(folder / "full.txt", "full"));
+  SaveAs(file);
+  for (int i = 0; i < 2; ++i) {
+    Reopen();
+    EXPECT_EQ(editor.attachments.QuestionList().missing, std::vector<bool>{false});
+    EXPECT_EQ(Save(LossAnswer::GoBack), Lines());
+  }
+  fs::remove(exam.examAttachmentPaths[0]);
+  EXPECT_EQ(Save(LossAnswer::GoBack), Lines{u"[1209 full.txt]"});
 }
 
 TEST_F(SavingCheckTest, TellsOfFilesThatAreGone) {

@@ -79,7 +79,7 @@ TEST_P(AnyForm, UnpacksFilesUnderNamesOfTheirOwn) {
   if (hasFiles) {
     typed.files = {{u"a.doc", "exam"}, {u"a name that fills 32 characters.", std::string(1500000, 'x')}};
     typed.questions[0].files = {{u"a.doc", "one"}, {u"none.doc", ""}, {u"negative.doc", "", u"-5"}};
-    typed.questions[1].files = {{u"none.doc", ""}, {u"a.doc", "two"}, {u"\u0400.doc", "wide"}};
+    typed.questions[1].files = {{u"none.doc", "some"}, {u"a.doc", "two"}, {u"\u0400.doc", "wide"}};
   }
   typed.questions[0].oralFlag = "\x01\0"s;
   typed.questions[1].oralFlag = "\x02\x01"s;
@@ -104,7 +104,7 @@ TEST_P(AnyForm, UnpacksFilesUnderNamesOfTheirOwn) {
   check(one.attachmentPaths, one.attachmentNames, typed.questions[0].files,
         Names{"0a.doc", "none.doc", "negative.doc"});
   check(two.attachmentPaths, two.attachmentNames, typed.questions[1].files,
-        Names{"none.doc", "1a.doc", "\xD0\x80.doc"});
+        Names{"0none.doc", "1a.doc", "\xD0\x80.doc"});
   EXPECT_EQ(one.oralFlag, form.units == Units::Wide ? 1 : form.current ? 0 : 5);
   EXPECT_EQ(two.oralFlag, form.current ? 0 : 5);
   EXPECT_EQ(exam.Question(3).oralFlag, 5);
@@ -157,10 +157,15 @@ TEST_F(ReadExamFile, SaysWhichFileCannotBeOpened) {
   std::filesystem::create_directory(folder / "folder.exm");
   ASSERT_EQ(mkfifo((folder / "pipe.exm").c_str(), 0600), 0);
   exam.title = u"as it was";
+  const std::u16string gone = u"[1129 %s]";
+  const std::pair<std::string, std::u16string> rows[] = {
+      {"folder.exm", u"[1135 %s]"}, {"pipe.exm", u"Operation not supported"},
+      {"missing.exm", gone},        {"no/such/folder.exm", gone},
+      {"odd\xFF.exm", gone},        {std::string(300, 'x'), u"[1137 %s]"}};
   Messages expected;
-  for (const char* name : {"folder.exm", "pipe.exm", "missing.exm", "no/such/folder.exm", "odd\xFF.exm"}) {
+  for (const auto& [name, why] : rows) {
     exam.ReadExamFile(folder / name);
-    expected.push_back(u"[102 " + PathToText(folder / name) + u"]");
+    expected.push_back(u"[102 " + PathToText(folder / name) + u"]\n" + why);
   }
   EXPECT_EQ(world.dialogs.errors, expected);
   EXPECT_EQ(exam.title, u"as it was");

@@ -7,6 +7,7 @@
 #include <random>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace quorvantis::test {
 namespace {
@@ -19,7 +20,12 @@ class Typist {
   Typist(ExamEditor& editor, fs::path folder, unsigned seed)
       : editor_(editor), folder_(std::move(folder)), random_(seed) {}
 
+  /// The first step gives the exam a title: without anything in it, no copy would be offered.
   void Step() {
+    if (std::exchange(isFirst_, false)) {
+      editor_.questions.EditField(FormField::Title, u"title");
+      return;
+    }
     switch (Below(12)) {
       case 0:
         return editor_.questions.GoNext();
@@ -39,7 +45,7 @@ class Typist {
         return editor_.attachments.AttachExamFile(NewFile());
       case 8:
         editor_.attachments.SelectQuestionFile(FirstOf(editor_.attachments.QuestionList()));
-        return editor_.attachments.RemoveSelectedQuestionFile();
+        return editor_.attachments.RemoveSelectedAttachment(AttachedTo::Question);
       default:
         const auto field = static_cast<FormField>(Below(9));
         const std::u16string text = Below(20) == 0 ? std::u16string(MaxLength(field), u'm') : Word();
@@ -61,6 +67,7 @@ class Typist {
   ExamEditor& editor_;
   const fs::path folder_;
   std::minstd_rand random_;
+  bool isFirst_ = true;
 };
 
 /// Of an exam with the content of its work copies in the place of their paths.

@@ -3,6 +3,7 @@
 
 #include "editor/EditorSnapshot.h"
 #include "editor/WorkCopies.h"
+#include "examfile/SavingLosses.h"
 #include "examfile/WorkFolder.h"
 #include "support/TinyDisk.h"
 
@@ -61,7 +62,7 @@ TEST_F(RecoveryTest, BringsBackAttachedFiles) {
   const auto links = [&] { return fs::hard_link_count(map) + 10 * fs::hard_link_count(note); };
   EXPECT_EQ(links(), 22u) << "nothing is copied";
   editor.attachments.SelectExamFile(0);
-  editor.attachments.RemoveSelectedExamFile();
+  editor.attachments.RemoveSelectedAttachment(AttachedTo::Exam);
   keeper.LookAndWait();
   EXPECT_EQ(links(), 21u) << "links that no copy needs go";
   fs::remove_all(AttachmentWorkRoot(world.services.applicationFolder));
@@ -83,6 +84,38 @@ TEST_F(RecoveryTest, BringsBackAttachedFiles) {
   EXPECT_TRUE(Copies().empty());
   EXPECT_EQ(fs::hard_link_count(run->exam.Question(1).attachmentPaths[0]), 1u);
   EXPECT_FALSE(fs::exists(RecoveryRoot(world.services.applicationFolder)));
+}
+
+TEST_F(RecoveryTest, AnEmptyFileIsNoLostOne) {
+  Attach("empty.txt", "");
+  Attach("full.txt", "full");
+  Type(FormField::Text, u"text");
+  SaveAs(folder / "named.exm");
+  Open(folder / "named.exm");
+  Type(FormField::Text, u"changed");
+  keeper.LookAndWait();
+  const auto run = Restart();
+  EXPECT_EQ(run->editor.attachments.QuestionList().missing, (std::vector<bool>{false, false}));
+  EXPECT_TRUE(FindSavingLosses(run->exam, run->world.longAnswerFlags).empty());
+}
+
+TEST_F(RecoveryTest, ACopyOfNothingIsNotOffered) {
+  const std::pair<bool, std::function<void()>> rows[] = {
+      {false, [&] { editor.questions.CycleRandomMode(); }},
+      {false, [&] { editor.questions.SelectKind(QuestionKind::Oral); }},
+      {true, [&] { Type(FormField::Title, u"t"); }},
+      {true, [&] { Type(FormField::Essay, u"e"); }},
+      {true, [&] { Attach("map.png", "the map", true); }},
+      {true, [&] { Attach("note.txt", ""); }}};
+  for (const auto& [isOffered, change] : rows) {
+    editor.files.StartNewExam();
+    change();
+    keeper.Left(Parting::Leave);
+    EXPECT_EQ(Copies().size(), isOffered ? 1u : 0u);
+    EXPECT_EQ(fs::exists(RecoveryRoot(world.services.applicationFolder)), isOffered);
+    fs::remove_all(RecoveryRoot(world.services.applicationFolder));
+    keeper.Entered();
+  }
 }
 
 TEST_F(RecoveryTest, NeverTakesAPathFromACopy) {
@@ -131,7 +164,7 @@ TEST_F(RecoveryTest, ThereIsACopyWhileTheExamDiffersFromItsFile) {
       {"removing a file, which sets no star", true,
        [&] {
          editor.attachments.SelectQuestionFile(0);
-         editor.attachments.RemoveSelectedQuestionFile();
+         editor.attachments.RemoveSelectedAttachment(AttachedTo::Question);
        }},
       {"the score setup", true, [&] { exam.scoreValue[0] = 2; }},
       {"the random mode", true, [&] { editor.questions.CycleRandomMode(); }},
@@ -234,7 +267,11 @@ TEST_F(RecoveryTest, AnExamThatComesBackIsMeasuredByItsOwnFile) {
     Type(FormField::Text, u"x");
     keeper.LookAndWait();
     SaveAs(folder / "new.exm");
+    exam.pageRenderer.SetMediaSuppressed(0);
+    exam.attachmentPageWriter.SetMediaSuppressed(0);
   });
+  EXPECT_EQ(exam.pageRenderer.mediaSuppressed + exam.attachmentPageWriter.mediaSuppressed, 0)
+      << "once a preview has shown media, the whole run does";
   check("a change that was saved", 1, [&] {
     Type(FormField::Text, u"x");
     editor.files.SaveExam();

@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include "platform/posix/PosixFiles.h"
 #include "shell/BackupSetting.h"
 #include "shell/BuiltInStrings.h"
 #include "shell/CodePageChoice.h"
+#include "shell/ExamFolderSetting.h"
 #include "shell/ProfileFile.h"
+#include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 namespace quorvantis::test {
 namespace {
+
+using namespace std::string_literals;
 
 TEST(ProfileFile, FindsValuesTheWayPeopleWriteThem) {
   const TemporaryFolder folder;
@@ -56,6 +61,26 @@ TEST(KeepsBackups, UnlessTheSettingSaysNo) {
     WriteBytes(folder / "system.ini", std::string("[private]\nbackup=") + setting);
     EXPECT_EQ(KeepsBackups(folder.Path()), keeps) << setting;
   }
+}
+
+TEST(ExamFolderSetting, KeepsAnyFolderBesideTheOtherSettings) {
+  const TemporaryFolder folder;
+  PosixFiles files;
+  const TestCodePage codePage;
+  const ExamFolderSetting setting(folder.Path(), files, codePage);
+  EXPECT_EQ(setting.Read(), "");
+  const std::string others = "[private]\r\nLanguage=1033\r\n";
+  WriteBytes(folder / "system.ini", others);
+  for (const std::string& name :
+       {"/exams"s, "/a b ;#=[x]\" "s, "/\xE8\xAF\x95\xE5\x8D\xB7"s, "/"s + std::string(250, 'x')}) {
+    setting.Write(name);
+    EXPECT_EQ(setting.Read(), name);
+    EXPECT_TRUE(ReadBytes(folder / "system.ini").starts_with(others));
+  }
+  setting.Write("/two\nlines");
+  EXPECT_EQ(setting.Read(), "/"s + std::string(250, 'x')) << "what cannot be kept leaves the last one";
+  WriteBytes(folder / "system.ini", "[files]\nExamFolder=relative");
+  EXPECT_EQ(setting.Read(), "");
 }
 
 TEST(BuiltInStrings, HaveTheExactTexts) {

@@ -54,6 +54,8 @@ class RecordingDialogs : public UserDialogs {
     questions.emplace_back(question);
     return Next(answers).value_or(SaveAnswer::Cancel);
   }
+  std::filesystem::path folder;
+  void BeginIn(const std::filesystem::path& start) override { folder = start; }
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override {
     requests.push_back(request);
     return Next(filesToOpen);

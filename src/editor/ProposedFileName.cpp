@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "editor/ProposedFileName.h"
+
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
+
+namespace quorvantis {
+namespace {
+
+constexpr std::size_t kMostUnits =
+    80;  // as much as a person reads; never more bytes than a file system takes
+constexpr std::u16string_view kForbidden = u"/\\:*?\"<>|";  // by one system or another
+
+char16_t AllowedUnit(char16_t unit) {
+  const bool isControl = unit < 0x20 || (unit >= 0x7F && unit <= 0x9F);
+  return isControl || kForbidden.find(unit) != kForbidden.npos ? u' ' : unit;
+}
+
+/// Blanks run together.
+std::u16string OnlyAllowed(std::u16string_view title) {
+  std::u16string name;
+  for (const char16_t unit : ReplaceLoneSurrogates(title)) {
+    const char16_t allowed = AllowedUnit(unit);
+    if (allowed != u' ' || (!name.empty() && name.back() != u' ')) name += allowed;
+  }
+  return name;
+}
+
+/// A dot in front would hide the file, and one behind is no part of a name everywhere.
+std::u16string_view WithoutDotsAround(std::u16string_view name) {
+  constexpr std::u16string_view kAround = u". ";
+  const std::size_t begin = name.find_first_not_of(kAround);
+  if (begin == name.npos) return {};
+  return name.substr(begin, name.find_last_not_of(kAround) - begin + 1);
+}
+
+bool EndsInSurrogate(std::u16string_view name) {
+  return !name.empty() && (name.back() & 0xFC00) == 0xD800;
+}
+
+}  // namespace
+
+std::u16string ProposedFileName(std::u16string_view title) {
+  const std::u16string allowed = OnlyAllowed(title);
+  std::u16string_view name = WithoutDotsAround(allowed).substr(0, kMostUnits);
+  if (EndsInSurrogate(name)) name.remove_suffix(1);
+  name = WithoutDotsAround(name);
+  if (name.empty()) return u"MyExam";
+  const bool isDocument = AsciiLower(name).ends_with(u".doc");
+  return std::u16string(name) + (isDocument ? u".exm" : u"");
+}
+
+}  // namespace quorvantis
