@@ -106,13 +106,7 @@ class LossFinder {
     CheckText(text_id::kTheText, question.text, kMaxQuestionText);
     for (const auto& option : question.options) CheckText(text_id::kOptionText, option, kMaxOptionText);
     CheckText(text_id::kAnswerLetters, question.answerLetters, 16);
-    CheckText(text_id::kFillInAnswer, question.answerText, kMaxFillInAnswer);
-    if (IsCutForItsForm(exam_, number_)) {
-      const std::u16string cut =
-          Filled(text_id::kTextCut, {strings_.Text(text_id::kFillInAnswer),
-                                     Digits(question.answerText.size()), Digits(kMaxShortAnswer)});
-      losses_.push_back({number_, cut, true, true});
-    }
+    CheckFillInAnswer(question.answerText);
     CheckText(text_id::kEssayAnswer, question.essayAnswer, kMaxEssayAnswer);
     CheckNumber(text_id::kTheKind, static_cast<int>(question.kind));
     CheckKind(question);
@@ -122,6 +116,15 @@ class LossFinder {
       Detail(text_id::kOralFlagChanged);
     }
     CheckFiles(question.attachmentPaths, question.attachmentNames);
+  }
+
+  /// The form of the answer tells where it is cut.
+  void CheckFillInAnswer(const std::u16string& answer) {
+    if (!IsCutForItsForm(exam_, number_)) return CheckText(text_id::kFillInAnswer, answer, kMaxFillInAnswer);
+    const std::u16string cut =
+        Filled(text_id::kTextCut, {strings_.Text(text_id::kFillInAnswer), Digits(answer.size()),
+                                   Digits(kMaxShortAnswer)});
+    losses_.push_back({number_, cut, true, true});
   }
 
   void CheckKind(const ExamQuestion& question) {
