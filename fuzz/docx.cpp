@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Feeds any bytes to the reader of packages, as the main part, the lists or a picture of one, or as the
 // package itself: the first byte tells which. What is read must hold together.
-#include "platform/office/BitmapFile.h"
 #include "platform/office/CompoundFile.h"
 #include "platform/office/DocxReader.h"
 #include "platform/office/PictureDecoder.h"
@@ -75,7 +74,6 @@ void ReadPicture(std::string_view bytes) {
   PixelGrid pixels;
   if (DecodePicture(*format, bytes, pixels) != WordResult::Done) return;
   Require(pixels.bytes.size() == 3 * pixels.width * pixels.height);
-  BitmapFile(pixels).Bytes();
 }
 
 }  // namespace

@@ -49,17 +49,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto limit = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
   const CancelHook isCancelled = [limit] { return std::chrono::steady_clock::now() > limit; };
   test::RecordingDebug debug;
-  try {
-    const MarkedText marked = TextToString(rest, rules, isCancelled);
-    const ReadPaper paper = QuestionTextParser(rules, debug, isCancelled).Parse(marked.text, 1);
-    Require(!paper.failure || paper.questions.empty());
-    ExamPaper exam;
-    const int next = StoreQuestions(paper, exam, 490);
-    Require(next >= 490 && next <= kMaxQuestions + 1);
-    for (const ReadQuestion& question : paper.questions)
-      Require(AnswerLettersToMask(question.letters) == question.mask);
-  } catch (const ImportFailure& failure) {
-    Require(!failure.key.empty());
-  }
+  const MarkedText marked = TextToString(rest, rules, isCancelled);
+  Require(!marked.failure || !marked.failure->key.empty());
+  if (marked.failure) return 0;
+  const ReadPaper paper = QuestionTextParser(rules, debug, isCancelled).Parse(marked.text, 1);
+  Require(!paper.failure || (paper.questions.empty() && !paper.failure->key.empty()));
+  ExamPaper exam;
+  const int next = StoreQuestions(paper, exam, 490);
+  Require(next >= 490 && next <= kMaxQuestions + 1);
+  for (const ReadQuestion& question : paper.questions)
+    Require(AnswerLettersToMask(question.letters) == question.mask);
   return 0;
 }

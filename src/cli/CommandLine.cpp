@@ -188,6 +188,15 @@ void AddLanguages(CLI::App& app, Arguments& arguments, Console& console) {
   languages->callback([&] { ListLanguages(console, arguments.common); });
 }
 
+/// Digits only, where the reader of numbers would take "0x10" and "010" for others.
+CLI::Validator IsDecimal() {
+  const auto check = [](const std::string& text) {
+    const bool isDecimal = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+    return isDecimal ? std::string() : text + " is no number";
+  };
+  return {check, "", "decimal"};
+}
+
 void AddImportOptions(CLI::App& command, ImportRequest& request) {
   const std::vector<std::string> answers{"give-up", "ignore", "force"};
   command
@@ -202,6 +211,7 @@ void AddImportOptions(CLI::App& command, ImportRequest& request) {
   CLI::Option* after =
       command.add_option("--after", request.after, "The question after which to continue, from 0 on")
           ->type_name("N")
+          ->check(IsDecimal())
           ->check(CLI::Range(0, kMaxQuestions - 1))
           ->needs(into);
   into->needs(after);
@@ -220,7 +230,8 @@ void AddImportOptions(CLI::App& command, ImportRequest& request) {
 void AddImport(CLI::App& app, Arguments& arguments, Console& console) {
   // clang-format takes a line that begins with "import" for one of a module.
   CLI::App* command = AddCommand(app, arguments, "import", "Make an exam from a question paper, by rules");
-  AddPath(*command, "DOCUMENT", arguments.import.document, "Question paper: .doc, .docx, .odt, .rtf or .txt");
+  AddPath(*command, "DOCUMENT", arguments.import.document,
+          "Question paper: .doc, .docx, .odt, .rtf, .txt or .md");
   AddPath(*command, "OUT", arguments.import.target, "Exam file to write");
   AddImportOptions(*command, arguments.import);
   command->footer(

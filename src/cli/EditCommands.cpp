@@ -158,7 +158,7 @@ void Import(EditSession& session, const Arguments& arguments) {
   answers.repository = arguments[1].Text();
   TakeImportAnswers(answers, arguments);
   session.ImportAnswers().Prepare(std::move(answers));
-  session.Import().Run();
+  session.Import().ImportQuestions();
   session.ImportAnswers().ThrowIfRefused();
   for (const std::u16string& line : ImportSummary(session.ImportAnswers().Report(), session.Texts()))
     session.Streams().Complain(Utf16ToUtf8(line));

@@ -2,7 +2,7 @@
 #include "cli/EditSession.h"
 
 #include "cli/CommandError.h"
-#include "platform/posix/ApplicationFolder.h"
+#include "host/ImportRules.h"
 #include "shell/BackupSetting.h"
 #include "shell/CloseSequence.h"
 #include "shell/ExportCommand.h"
@@ -15,12 +15,6 @@ namespace {
 std::string Shortened(const std::string& word) {
   constexpr std::size_t kEnoughToRecognise = 40;
   return word.size() <= kEnoughToRecognise ? word : word.substr(0, kEnoughToRecognise) + "...";
-}
-
-std::filesystem::path FindImportRules(const std::filesystem::path& applicationFolder) {
-  std::filesystem::path own = applicationFolder / kImportRulesFile;
-  std::error_code error;
-  return std::filesystem::exists(own, error) ? own : ExecutableFolder() / kImportRulesFile;
 }
 
 }  // namespace

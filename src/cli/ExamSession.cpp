@@ -65,7 +65,8 @@ ExamReadOutcome ExamSession::Load(const fs::path& file) {
 void ExamSession::RequireUnpacked(const fs::path& file) const {
   if (exam.filesNotUnpacked == 0) return;
   throw CommandError(file.string() + ": " + std::to_string(exam.filesNotUnpacked) +
-                     " attached files could not be unpacked into " + services.applicationFolder.string() +
+                     (exam.filesNotUnpacked == 1 ? " attached file" : " attached files") +
+                     " could not be unpacked into " + services.applicationFolder.string() +
                      "; make room there");
 }
 

@@ -67,7 +67,7 @@ class ExamSession {
 
  public:
   ExamServices& services;
-  PaperReader& papers;
+  WordDocuments& papers;
   WordWriter& documents;
   FrameSetExam exam;
 };

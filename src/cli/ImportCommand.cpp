@@ -5,6 +5,8 @@
 #include "cli/InputFile.h"
 #include "cli/SavingLosses.h"
 #include "examfile/ExamFileWriter.h"
+#include "model/LongAnswerFlags.h"
+#include "platform/ExamServices.h"
 #include "platform/WholeFile.h"
 #include "shell/ImportReport.h"
 #include "text/Utf.h"
@@ -33,17 +35,35 @@ ImportAnswers Answers(const ImportRequest& request) {
   return answers;
 }
 
-/// Imports; throws when nothing was.
-ImportReport RunImport(EditSession& session, const ImportRequest& request) {
+/// The exam to continue is in the session.
+void OpenTarget(EditSession& session, const ImportRequest& request) {
   session.ImportAnswers().Prepare(Answers(request));
+  if (request.into.empty()) return;
   const int errors = session.Dialogs().ErrorCount();
-  if (!request.into.empty()) OpenInput(request.into);  // fails with one line
-  if (!request.into.empty()) session.OpenExam(fs::absolute(request.into));
+  OpenInput(request.into);  // fails with one line
+  session.OpenExam(fs::absolute(request.into));
   if (session.Dialogs().ErrorCount() > errors)
     throw CommandError(request.into.string() + ": was not changed");
-  request.into.empty() ? session.Import().Run() : session.Import().RunAfter(request.after);
-  session.ImportAnswers().ThrowIfRefused();
+}
+
+/// Whatever becomes of the import: what was read is wanted most when it fails.
+void WriteTexts(const ImportRequest& request, const ImportReport& report) {
+  if (!report.content) return;
+  PosixFiles files;
+  WriteText(request.textFile, report.content->text, files);
+  WriteText(request.markedFile, report.marked.text, files);
+}
+
+/// Imports; throws when nothing was.
+ImportReport RunImport(EditSession& session, const ImportRequest& request) {
+  OpenTarget(session, request);
+  if (request.into.empty())
+    session.Import().ImportQuestions();
+  else
+    session.Import().ImportQuestionsAfter(request.after);
   ImportReport report = session.ImportAnswers().Report();
+  WriteTexts(request, report);
+  session.ImportAnswers().ThrowIfRefused();
   if (!report.imported)
     throw CommandError(request.target.string() + ": was not written, because the import was given up");
   if (request.mendLineEnds) {
@@ -56,16 +76,15 @@ ImportReport RunImport(EditSession& session, const ImportRequest& request) {
 }  // namespace
 
 void Import(Console& console, const CommonOptions& options, const ImportRequest& request) {
+  RefuseSameTarget({request.target, request.markedFile, request.textFile});
   for (const fs::path& target : {request.target, request.markedFile, request.textFile}) {
     RefuseToOverwrite(request.document, target);
     RefuseToOverwrite(request.rules, target);
   }
   EditSession session(console, options, request.rules);
   const ImportReport report = RunImport(session, request);
-  PosixFiles files;
-  WriteText(request.textFile, report.content.text, files);
-  WriteText(request.markedFile, report.marked.text, files);
   FrameSetExam& exam = session.Editor().state.document;
+  exam.Services().longAnswerFlags.SetWhereNeeded(exam);
   if (const auto error = ExamFileWriter(exam, exam.Services()).Write(request.target)) {
     throw CommandError(request.target.string() + ": cannot be written: " + error.message());
   }

@@ -24,6 +24,21 @@ std::string ReadInput(const std::filesystem::path& file) {
   return content.str();
 }
 
+void RefuseSameTarget(const std::vector<std::filesystem::path>& targets) {
+  const auto isSame = [](const std::filesystem::path& a, const std::filesystem::path& b) {
+    std::error_code ignored;
+    return std::filesystem::equivalent(a, b, ignored) ||
+           std::filesystem::weakly_canonical(std::filesystem::absolute(a, ignored), ignored) ==
+               std::filesystem::weakly_canonical(std::filesystem::absolute(b, ignored), ignored);
+  };
+  for (std::size_t i = 0; i < targets.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      if (!targets[i].empty() && !targets[j].empty() && isSame(targets[i], targets[j]))
+        throw CommandError(targets[i].string() + ": cannot be written twice; name two files");
+    }
+  }
+}
+
 void RefuseToOverwrite(const std::filesystem::path& source, const std::filesystem::path& target) {
   std::error_code ignored;
   if (!target.empty() && std::filesystem::equivalent(source, target, ignored)) {

@@ -22,12 +22,20 @@ std::optional<int> SectionNamed(std::u16string_view repository) {
   return FormatInteger(section) == repository ? std::optional(section) : std::nullopt;
 }
 
+/// Enough of them to see what is there, in one line.
 std::string NamesOf(const ExamImport& import) {
+  constexpr std::size_t kMostNames = 10;
+  constexpr std::size_t kMostCharacters = 40;
   std::string names;
+  std::size_t count = 0;
   for (const std::u16string& name : import.Repositories()) {
-    names += (names.empty() ? "" : ", ") + ("\"" + Utf16ToUtf8(name) + "\"");
+    if (name.empty() || ++count > kMostNames) continue;
+    const bool isCut = name.size() > kMostCharacters;
+    names += (names.empty() ? "" : ", ") +
+             ("\"" + Utf16ToUtf8(name.substr(0, kMostCharacters)) + (isCut ? "...\"" : "\""));
   }
-  return names.empty() ? "it has none" : "it has " + names;
+  if (count > kMostNames) names += " and " + std::to_string(count - kMostNames) + " more";
+  return names.empty() ? "it names none" : "it has " + names;
 }
 
 }  // namespace
@@ -71,7 +79,8 @@ void ScriptedImport::ShowNotice(std::u16string_view, std::u16string_view text) {
   console_.Complain(Utf16ToUtf8(text));
 }
 
-void ScriptedImport::ShowFailure(std::u16string_view text) {
+void ScriptedImport::ShowFailure(const ImportReport& report, std::u16string_view text) {
+  report_ = report;
   refusal_ = Utf16ToUtf8(text);
 }
 

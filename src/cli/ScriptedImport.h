@@ -44,7 +44,7 @@ class ScriptedImport : public ImportDialogs {
   bool IsCancelled() override { return false; }
   void HideWait() override {}
   void ShowNotice(std::u16string_view caption, std::u16string_view text) override;
-  void ShowFailure(std::u16string_view text) override;
+  void ShowFailure(const ImportReport& report, std::u16string_view text) override;
   void ShowReport(const ImportReport& report, ImportCommand&) override { report_ = report; }
 
  private:

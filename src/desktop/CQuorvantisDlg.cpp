@@ -9,6 +9,7 @@
 #include "desktop/PlacedText.h"
 #include "desktop/RecoveryQuestion.h"
 #include "desktop/WindowSize.h"
+#include "host/ImportRules.h"
 #include "platform/DebugOutput.h"
 #include "platform/ExamServices.h"
 #include "platform/Texts.h"
@@ -57,7 +58,8 @@ QPushButton* MakeHiddenButton(const char* name, QWidget* parent) {
 }
 
 bool CanRead(const std::filesystem::path& file) {
-  return std::ifstream(file).is_open();
+  std::error_code ignored;
+  return std::filesystem::is_regular_file(file, ignored) && std::ifstream(file).is_open();
 }
 
 /// Rows have fixed heights, so a large font of the desktop becomes smaller here, before the controls take it
@@ -80,7 +82,7 @@ GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) 
 
 }  // namespace
 
-CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, PaperReader& papers,
+CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers,
                                OfficeControl* office, DocumentExport exportDocument,
                                const LanguageLibrary* library, int languageId)
     : exam_(exam),
@@ -91,7 +93,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, P
       languageId_(languageId),
       previews_(SetUpGateway(exam, pages), *this),
       importWindows_(exam.Services(), library, *this),
-      import_(editor_, papers, importWindows_, exam.Services().applicationFolder / kImportRulesFile),
+      import_(editor_, papers, importWindows_, FindImportRules(exam.Services().applicationFolder)),
       pictures_(library),
       files_(editor_, PageCommands(), exam.Services().strings, pictures_, WithFittingFont(this)),
       examControls_(editor_, exam.Services().strings, this),
@@ -152,7 +154,7 @@ void CQuorvantisDlg::PrepareOffice() {
 
 FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
   FileButtons::PageCommands commands;
-  commands.importExam = [this] { import_.Run(); };
+  commands.importExam = [this] { import_.ImportQuestions(); };
   commands.scoreSetup = [this] { SetUpScores(); };
   commands.preview = [this] { Preview(); };
   commands.print = [this] { Print(); };
@@ -170,7 +172,7 @@ void CQuorvantisDlg::Layout() {
 /// Without the file that tells how documents are read there is no import in this run.
 void CQuorvantisDlg::OfferImport() {
   const ExamServices& services = exam_.Services();
-  if (CanRead(services.applicationFolder / kImportRulesFile)) return;
+  if (CanRead(FindImportRules(services.applicationFolder))) return;
   services.debug.Line(u"CQuorvantisDlg::!file.Open");
   files_.HideImport();
 }

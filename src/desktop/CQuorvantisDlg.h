@@ -40,7 +40,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   /// `office` office programs are left alone, else the user may be asked to close them before the window
   /// appears. Without a library, the pictures are the built-in ones. `languageId` is that of the wanted
   /// language, which previews are told.
-  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, PaperReader& papers, OfficeControl* office,
+  CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers, OfficeControl* office,
                  DocumentExport exportDocument, const LanguageLibrary* library = nullptr,
                  int languageId = kEnglish);
   ~CQuorvantisDlg() override;

@@ -3,55 +3,17 @@
 
 #include "desktop/DialogText.h"
 #include "desktop/ExamImportDlg.h"
+#include "desktop/ImportChoiceDlgs.h"
 #include "desktop/QtText.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
 #include "shell/ImportCommand.h"
 #include "text/PathText.h"
 
-#include <QLabel>
 #include <QMessageBox>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 namespace quorvantis {
 namespace {
-
-constexpr int kWidth = 280;  // pixels, so that the caption can be read
-
-/// A question with a button for each answer.
-class ChoiceDialog : public QDialog {
- public:
-  ChoiceDialog(const char* name, const DialogText& texts, QWidget* parent)
-      : QDialog(parent), texts_(texts), layout_(new QVBoxLayout(this)) {
-    setObjectName(name);
-    setWindowTitle(texts_(control_id::kCaption));
-    setMinimumWidth(kWidth);
-    for (const int label : {control_id::kFirstLabel, control_id::kSecondLabel}) {
-      const QString line = texts_(label);
-      if (!line.isEmpty()) layout_->addWidget(new QLabel(line, this));
-    }
-  }
-
-  void Offer(int control, int answer) {
-    auto* button = new QPushButton(texts_(control), this);
-    layout_->addWidget(button);
-    connect(button, &QPushButton::clicked, this, [this, answer] { done(answer); });
-  }
-
- private:
-  DialogText texts_;
-  QVBoxLayout* layout_;
-};
-
-/// A dialog that is closed otherwise gives 0, which is None.
-ChoiceResult AskWhatToDo(const char* name, const DialogText& texts, QWidget* parent) {
-  ChoiceDialog dialog(name, texts, parent);
-  dialog.Offer(control_id::kGiveUp, static_cast<int>(ChoiceResult::GiveUp));
-  dialog.Offer(control_id::kIgnoreQuestions, static_cast<int>(ChoiceResult::IgnoreRelated));
-  dialog.Offer(control_id::kForceImport, static_cast<int>(ChoiceResult::Force));
-  return static_cast<ChoiceResult>(dialog.exec());
-}
 
 QString Joined(const std::vector<std::u16string>& lines) {
   QStringList list;
@@ -62,10 +24,7 @@ QString Joined(const std::vector<std::u16string>& lines) {
 }  // namespace
 
 ImportTarget ImportWindows::AskTarget() {
-  ChoiceDialog dialog("importTarget", {language_, dialog_id::kImportTarget}, &parent_);
-  dialog.Offer(control_id::kOk, QDialog::Accepted);
-  dialog.Offer(control_id::kCancel, QDialog::Rejected);
-  return dialog.exec() == QDialog::Accepted ? ImportTarget::Continue : ImportTarget::NewExam;
+  return ImportTargetDlg(language_, &parent_).Ask();
 }
 
 bool ImportWindows::AskDocument(ExamImport& import) {
@@ -74,11 +33,11 @@ bool ImportWindows::AskDocument(ExamImport& import) {
 }
 
 ChoiceResult ImportWindows::AskPictures() {
-  return AskWhatToDo("pictures", {language_, dialog_id::kPicture}, &parent_);
+  return PictureDlg(language_, &parent_).Ask();
 }
 
 ChoiceResult ImportWindows::AskFormulas() {
-  return AskWhatToDo("formulas", {language_, dialog_id::kFormula}, &parent_);
+  return FormulaDlg(language_, &parent_).Ask();
 }
 
 void ImportWindows::ShowWait(const std::filesystem::path& document) {
@@ -98,7 +57,7 @@ void ImportWindows::ShowNotice(std::u16string_view caption, std::u16string_view 
   box.exec();
 }
 
-void ImportWindows::ShowFailure(std::u16string_view text) {
+void ImportWindows::ShowFailure(const ImportReport& /*report*/, std::u16string_view text) {
   services_.dialogs.ShowError(text);
 }
 

@@ -35,7 +35,7 @@ class ImportWindows : public ImportDialogs {
   bool IsCancelled() override { return wait_ && wait_->IsCancelled(); }
   void HideWait() override { wait_.reset(); }
   void ShowNotice(std::u16string_view caption, std::u16string_view text) override;
-  void ShowFailure(std::u16string_view text) override;
+  void ShowFailure(const ImportReport& report, std::u16string_view text) override;
   void ShowReport(const ImportReport& report, ImportCommand& import) override;
 
  private:

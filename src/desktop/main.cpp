@@ -4,7 +4,7 @@
 #include "desktop/DesktopWindows.h"
 #include "desktop/SecondStart.h"
 #include "host/ApplicationFolderClaim.h"
-#include "host/ImportRulesCopy.h"
+#include "host/ImportRules.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
 #include "platform/posix/IconvCodePage.h"

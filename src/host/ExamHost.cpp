@@ -21,6 +21,6 @@ ExamHost::ExamHost(const std::filesystem::path& applicationFolder, int languageI
                 ids_,
                 registry_,
                 pages_},
-      papers_(services_, documents_) {}
+      papers_(codePage_, documents_) {}
 
 }  // namespace quorvantis

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/ExamServices.h"
-#include "platform/office/OfficeWordReader.h"
+#include "platform/office/OfficeWordDocuments.h"
 #include "platform/office/OfficeWordWriter.h"
 #include "platform/posix/FileRegistry.h"
 #include "platform/posix/IconvCodePage.h"
@@ -10,7 +10,7 @@
 #include "platform/posix/RandomIds.h"
 #include "platform/posix/StandardErrorDebug.h"
 #include "render/ComposedPages.h"
-#include "shell/DocumentPaperReader.h"
+#include "shell/PaperDocuments.h"
 
 #include <filesystem>
 
@@ -36,7 +36,7 @@ class ExamHost {
   ExamServices& Services() { return services_; }
   const ComposedPages& Pages() const { return pages_; }
   /// Reads papers for the Import command.
-  PaperReader& Papers() { return papers_; }
+  WordDocuments& Papers() { return papers_; }
   /// Writes what the Export command makes.
   WordWriter& Documents() { return writer_; }
 
@@ -48,8 +48,8 @@ class ExamHost {
   FileRegistry registry_;
   ComposedPages pages_;
   ExamServices services_;
-  OfficeWordReader documents_;
-  DocumentPaperReader papers_;
+  OfficeWordDocuments documents_;
+  PaperDocuments papers_;
   OfficeWordWriter writer_{files_};
 };
 

@@ -3,6 +3,9 @@
 
 #include "import/RepeatedSearch.h"
 #include "text/AsciiCase.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
 
 namespace quorvantis {
 namespace {
@@ -13,19 +16,49 @@ std::u16string_view AfterLastDot(std::u16string_view answer) {
   return answer.substr(answer.rfind(u'.') + 1);
 }
 
+constexpr std::u16string_view kDigits = u"0123456789";
+constexpr std::u16string_view kAroundNumbers =
+    u" \t\r\n\v.,:;()[]\u3000\u3001\u3010\u3011\uFF08\uFF09\uFF0E\uFF1A";
+
+/// 0 for digits that no paper counts with.
+int SmallNumber(std::u16string_view digits) {
+  constexpr std::size_t kMostDigits = 4;
+  return digits.size() > kMostDigits ? 0 : ParseInteger(digits);
+}
+
+/// The number that `answer` begins with, or that `before`, the text in front of it, ends with.
+int NumberOfAnswer(std::u16string_view before, std::u16string_view answer) {
+  answer.remove_prefix(std::min(answer.find_first_not_of(kAroundNumbers), answer.size()));
+  const std::size_t leading = std::min(answer.find_first_not_of(kDigits), answer.size());
+  if (leading > 0) return SmallNumber(answer.substr(0, leading));
+  before = before.substr(0, before.find_last_not_of(kAroundNumbers) + 1);
+  const std::size_t begin = before.find_last_not_of(kDigits) + 1;
+  // "6-10" is the number of no answer.
+  constexpr std::u16string_view kDashes = u"-~\u2013\u2014\uFF0D\uFF5E";
+  const bool isRange = begin > 0 && kDashes.find(before[begin - 1]) != kDashes.npos;
+  return isRange ? 0 : SmallNumber(before.substr(begin));
+}
+
 }  // namespace
 
 int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSearch& block,
-                std::vector<std::u16string>& answers, DebugOutput& debug) {
+                std::vector<std::u16string>& answers, DebugOutput& debug, std::vector<int>* numbers) {
   const auto found = block.Find(text);
   if (!found) return 0;
   std::u16string rest = GroupText(*found, 0, text);
   debug.Line(std::u16string(kDebugPrefix) + rest);
   RepeatedSearch search(rest, item);
+  std::size_t taken = 0;  // where the last answer stood
   while (const auto match = search.Find()) {
     std::u16string answer = rest.substr(match->begin, match->Size());
     if (answer.empty()) item.Fail(ImportFailure::Reason::EmptyAnswer);
     debug.Line(std::u16string(kDebugPrefix) + answer);
+    if (numbers != nullptr) {
+      const std::size_t from = std::min(taken, match->begin);
+      const auto before = std::u16string_view(rest).substr(from, match->begin - from);
+      numbers->push_back(NumberOfAnswer(before, answer));
+    }
+    taken = match->begin;
     rest.erase(match->begin, answer.size());
     search.ChangedFrom(match->begin);
     answers.push_back(std::move(answer));

@@ -12,9 +12,11 @@
 namespace quorvantis {
 
 /// Finds the block of answers in a text and appends each answer in it to `answers`. 1 when there is a block,
-/// 0 when not. Throws ImportFailure, also when an answer is empty.
+/// 0 when not. `numbers`, if given, gets the number that stands in or before each answer, 0 for none. Throws
+/// ImportFailure, also when an answer is empty.
 int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSearch& block,
-                std::vector<std::u16string>& answers, DebugOutput& debug);
+                std::vector<std::u16string>& answers, DebugOutput& debug,
+                std::vector<int>* numbers = nullptr);
 
 /// The two symbols that true/false answers are made of ("T" and "F"): `first` is that of the first answer,
 /// numbers before a dot left out. Nothing happens unless `found` is 1 and there is a first answer.

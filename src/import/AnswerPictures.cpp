@@ -32,10 +32,20 @@ std::u16string FirstPicture(std::u16string_view text) {
   return std::u16string(before.substr(before.rfind(u' ') + 1)) += kPictureSuffix;
 }
 
+std::size_t CountIn(std::u16string_view text, std::u16string_view part) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != text.npos; at = text.find(part, at + part.size())) ++count;
+  return count;
+}
+
 }  // namespace
 
 bool AnswersHavePictures(const ExamQuestion& question) {
   return Holds(question.answerText, kPictureSuffix) || Holds(question.essayAnswer, kPictureSuffix);
+}
+
+bool ShowsPictures(const ExamQuestion& question) {
+  return Holds(question.text, kPictureSuffix) || AnswersHavePictures(question);
 }
 
 void MarkAnswerPictures(ExamQuestion& question, std::u16string_view notice) {
@@ -47,6 +57,17 @@ void MarkAnswerPictures(ExamQuestion& question, std::u16string_view notice) {
 bool HasFormula(const ExamQuestion& question) {
   return Holds(question.text, kFormulaText) || Holds(question.answerText, kFormulaText) ||
          Holds(question.essayAnswer, kFormulaText);
+}
+
+std::size_t CountFormulas(const ExamPaper& exam, int first, int last) {
+  std::size_t count = 0;
+  for (int n = first; n <= last; ++n) {
+    const ExamQuestion& question = exam.Question(n);
+    for (const std::u16string* text : {&question.text, &question.answerText, &question.essayAnswer})
+      count += CountIn(*text, kFormulaText);
+    for (const std::u16string& option : question.options) count += CountIn(option, kFormulaText);
+  }
+  return count;
 }
 
 bool AttachTextPicture(ExamQuestion& question, const std::filesystem::path& workRoot) {

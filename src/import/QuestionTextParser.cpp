@@ -17,29 +17,53 @@ constexpr auto kNotFound = std::u16string_view::npos;
 
 /// The answers that stand together at one place of the paper, taken one after the other.
 struct AnswerList {
+  std::u16string_view key{};  ///< of the rule for one of them
   int found = 0;
-  std::vector<std::u16string> answers;
-  std::size_t next = 0;
+  std::vector<std::u16string> answers{};
+  std::vector<int> numbers{};  ///< as they stand in the block; 0 for none
+  std::vector<int> places{};   ///< the questions that the answers were given to
 
-  /// Empty once there are no more.
-  std::u16string_view Next() {
-    const std::size_t index = next++;
+  /// The answer for a question of the paper. Empty once there are no more.
+  std::u16string_view TakeFor(int question) {
+    const std::size_t index = places.size();
+    places.push_back(question);
     return index < answers.size() ? std::u16string_view(answers[index]) : std::u16string_view();
+  }
+
+  /// The first answer whose number fits neither its question nor the answer before it. Papers may begin to
+  /// count anew with each part, and one that begins later fits when it has an answer for each question.
+  std::optional<MisplacedAnswer> FirstMisplaced() const {
+    for (std::size_t i = 0; i < std::min(numbers.size(), places.size()); ++i) {
+      const int before = i == 0 ? 0 : numbers[i - 1];
+      const bool isUnknown = numbers[i] == 0 || (i > 0 && before == 0);
+      const bool isFirstOfAll = i == 0 && answers.size() == places.size();
+      if (isUnknown || isFirstOfAll || numbers[i] == 1 || numbers[i] == before + 1) continue;
+      if (numbers[i] != places[i]) return MisplacedAnswer{key, numbers[i], places[i]};
+    }
+    return std::nullopt;
   }
 };
 
-/// Replaces ideographic spaces and cuts away what comes before the first question, and the answer section.
-std::u16string QuestionPart(std::u16string_view markedText) {
-  std::u16string text(markedText);
+/// A marked text without ideographic spaces, cut to its questions.
+struct QuestionsOfText {
+  std::u16string text;
+  std::u16string lost{};  ///< the beginning of the first question's part that is missing in `text`
+};
+
+/// Cuts away what comes before the first question, and the answer section.
+QuestionsOfText QuestionPart(std::u16string_view markedText) {
+  QuestionsOfText cut{std::u16string(markedText)};
+  std::u16string& text = cut.text;
   std::ranges::replace(text, u'\u3000', u' ');
   const std::size_t first = text.find(kQuestionMarker);
   // Deliberate: without any marker four characters are lost (the place that is not found counts as -1).
   constexpr std::size_t kLostWithoutMarker = 4;
+  if (first == kNotFound) cut.lost = text.substr(0, kLostWithoutMarker);
   text.erase(0, first == kNotFound ? kLostWithoutMarker : first + kQuestionMarker.size());
   const std::size_t section = text.find(kAnswerSectionMarker);
   // Deliberate: the last character survives the cut; it becomes the end of the last question's part.
   if (section != kNotFound) text.erase(section, text.size() - section - 1);
-  return text;
+  return cut;
 }
 
 /// Takes the part up to the next question marker off the front of `text`, and the marker with it.
@@ -82,13 +106,20 @@ class Reading {
 
   ReadPaper Read(std::u16string_view markedText) {
     FindAnswers(markedText);
-    const std::u16string text = QuestionPart(markedText);
+    QuestionsOfText cut = QuestionPart(markedText);
+    lost_ = std::move(cut.lost);
     // What stands behind the last marker is a part only when there is something.
-    for (std::u16string_view rest = text; !rest.empty();) ReadPart(TakePart(rest));
+    for (std::u16string_view rest = cut.text; !rest.empty(); lost_.clear()) {
+      ++question_;
+      ReadPart(TakePart(rest));
+    }
     paper_.hasChoiceBlock = choice_.found == 1;
     paper_.hasJudgementBlock = judgement_.found == 1;
     paper_.choiceAnswers = choice_.answers.size();
     paper_.judgementAnswers = judgement_.answers.size();
+    for (const AnswerList* list : {&choice_, &judgement_}) {
+      if (const auto misplaced = list->FirstMisplaced()) paper_.misplaced.push_back(*misplaced);
+    }
     return std::move(paper_);
   }
 
@@ -110,7 +141,8 @@ class Reading {
     if (block.pattern.empty()) return;
     const RuleSearch blockSearch(block.key, block.pattern, isCancelled_);
     const RuleSearch itemSearch(item.key, item.pattern, isCancelled_);
-    list.found = ParseAnswer(markedText, itemSearch, blockSearch, list.answers, debug_);
+    list.key = item.key;
+    list.found = ParseAnswer(markedText, itemSearch, blockSearch, list.answers, debug_, &list.numbers);
   }
 
   void ReadPart(std::u16string_view part) {
@@ -150,7 +182,7 @@ class Reading {
     if (!choiceText.empty()) {
       constexpr std::u16string_view kNames[] = {u"A", u"B", u"C", u"D", u"E"};
       std::ranges::transform(kNames, read.options.begin(), group);
-      SetLetters(read, choice_.found == 1 ? choice_.Next() : answer);
+      SetLetters(read, choice_.found == 1 ? choice_.TakeFor(question_) : answer);
     } else if (judgement_.found != 0) {
       ReadTrueFalse(read);
     } else {
@@ -163,7 +195,7 @@ class Reading {
   void ReadTrueFalse(ReadQuestion& read) {
     read.kind = ReadKind::TrueFalse;
     read.options = {firstSymbol_, secondSymbol_};
-    SetLetters(read, judgement_.Next().find(firstSymbol_) != kNotFound ? u"A" : u"B");
+    SetLetters(read, judgement_.TakeFor(question_).find(firstSymbol_) != kNotFound ? u"A" : u"B");
   }
 
   /// Upper-case letters only, each once and in order. They are stored as they are; whoever reads an exam
@@ -178,12 +210,14 @@ class Reading {
   }
 
   void Drop(std::u16string_view key, std::u16string_view part) {
-    paper_.dropped.push_back({key, Beginning(part)});
+    paper_.dropped.push_back({key, Beginning(lost_ + std::u16string(part))});
   }
 
   const ImportSettings& rules_;
   const RuleSearch pattern_;
-  int picture_;  ///< number of the next picture
+  int picture_;          ///< number of the next picture
+  int question_ = 0;     ///< number of the part in hand
+  std::u16string lost_;  ///< what the part in hand has lost at its beginning
   DebugOutput& debug_;
   const CancelHook& isCancelled_;
   AnswerList judgement_;

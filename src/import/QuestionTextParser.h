@@ -34,6 +34,13 @@ struct DroppedPart {
   std::u16string text;      ///< its beginning, in one line
 };
 
+/// An answer of a block whose number is not that of the question to which it was given by its order.
+struct MisplacedAnswer {
+  std::u16string_view key;  ///< of the rule that found it
+  int number = 0;
+  int question = 0;  ///< of the paper, from 1 on
+};
+
 /// What was read from a marked text.
 struct ReadPaper {
   std::vector<ReadQuestion> questions;
@@ -42,7 +49,8 @@ struct ReadPaper {
   bool hasJudgementBlock = false;  ///< those of all true/false questions do
   std::size_t choiceAnswers = 0;   ///< in these blocks
   std::size_t judgementAnswers = 0;
-  std::optional<ImportFailure> failure;  ///< there are no questions then
+  std::vector<MisplacedAnswer> misplaced;  ///< the first one of each block
+  std::optional<ImportFailure> failure;    ///< there are no questions then
 };
 
 /// Cuts a marked text at its markers into questions and recognises their parts.

@@ -40,6 +40,19 @@ std::u16string_view WithoutLabel(std::u16string_view answer, const RuleSearch& l
   return answer.substr(MatchSpan(*match).Size());
 }
 
+void MarkTable(const PaperTable& table, const ImportSettings& rules, const RuleSearch& label,
+               std::u16string& marked, int& labels) {
+  const TableColumns columns = FindColumns(table, rules);
+  // A table needs both: a question without its answer's column, or the reverse, cannot be read.
+  if (columns.question == 0 || columns.answer == 0) return;
+  for (std::size_t row = 2; row <= table.rows.size(); ++row) {
+    marked += kQuestionMarker;
+    marked += CellText(table, row, columns.question);
+    marked += kAnswerMarker;
+    marked += WithoutLabel(CellText(table, row, columns.answer), label, labels);
+  }
+}
+
 }  // namespace
 
 std::size_t PaperTable::Columns() const {
@@ -58,16 +71,11 @@ MarkedText TableToString(const std::vector<PaperTable>& tables, const ImportSett
   MarkedText marked;
   const RuleSearch label(rule_key::kPreAnswer, rules.m_strPreAnswer, isCancelled);
   int labels = 0;
-  for (const PaperTable& table : tables) {
-    const TableColumns columns = FindColumns(table, rules);
-    // A table needs both: a question without its answer's column, or the reverse, cannot be read.
-    if (columns.question == 0 || columns.answer == 0) continue;
-    for (std::size_t row = 2; row <= table.rows.size(); ++row) {
-      marked.text += kQuestionMarker;
-      marked.text += CellText(table, row, columns.question);
-      marked.text += kAnswerMarker;
-      marked.text += WithoutLabel(CellText(table, row, columns.answer), label, labels);
-    }
+  try {
+    for (const PaperTable& table : tables) MarkTable(table, rules, label, marked.text, labels);
+  } catch (const ImportFailure& failure) {
+    marked.failure = failure;
+    return marked;
   }
   marked.text += kQuestionMarker;
   marked.counts.emplace_back(rule_key::kPreAnswer, labels);

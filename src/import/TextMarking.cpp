@@ -12,7 +12,7 @@ namespace {
 class Marking {
  public:
   Marking(std::u16string_view text, const CancelHook& isCancelled)
-      : result_{std::u16string(text), {}}, isCancelled_(isCancelled) {}
+      : result_{std::u16string(text)}, isCancelled_(isCancelled) {}
 
   void ReplaceAll(std::u16string_view key, std::u16string_view pattern, std::u16string_view marker) {
     Pass(key, pattern,
@@ -26,6 +26,8 @@ class Marking {
   void DeleteTitles(std::u16string_view key, std::u16string_view pattern) {
     Pass(key, pattern, [&](const RuleSearch& rule) { return RemoveTitles(result_.text, rule); });
   }
+
+  void Fail(const ImportFailure& failure) { result_.failure = failure; }
 
   MarkedText Take() { return std::move(result_); }
 
@@ -47,13 +49,17 @@ class Marking {
 MarkedText TextToString(std::u16string_view text, const ImportSettings& rules,
                         const CancelHook& isCancelled) {
   Marking marking(TextBeforeNul(text), isCancelled);
-  marking.ReplaceAll(rule_key::kBmp, rules.m_strBmp, kPictureMarker);
-  marking.ReplaceAll(rule_key::kChoiceBmp, rules.m_strChoiceBmp, kOptionPictureMarker);
-  marking.ReplaceAll(rule_key::kPreParenQuestion, rules.m_strPreParenQuestion, kQuestionMarker);
-  marking.ReplaceAll(rule_key::kPreQuestion, rules.m_strPreQuestion, kQuestionMarker);
-  marking.DeleteTitles(rule_key::kTitle, rules.m_strTitle);
-  marking.ReplaceAll(rule_key::kPreAnswer, rules.m_strPreAnswer, kAnswerMarker);
-  marking.ReplaceFirst(rule_key::kPreAllAnswer, rules.m_strPreAllAnswer, kAnswerSectionMarker);
+  try {
+    marking.ReplaceAll(rule_key::kBmp, rules.m_strBmp, kPictureMarker);
+    marking.ReplaceAll(rule_key::kChoiceBmp, rules.m_strChoiceBmp, kOptionPictureMarker);
+    marking.ReplaceAll(rule_key::kPreParenQuestion, rules.m_strPreParenQuestion, kQuestionMarker);
+    marking.ReplaceAll(rule_key::kPreQuestion, rules.m_strPreQuestion, kQuestionMarker);
+    marking.DeleteTitles(rule_key::kTitle, rules.m_strTitle);
+    marking.ReplaceAll(rule_key::kPreAnswer, rules.m_strPreAnswer, kAnswerMarker);
+    marking.ReplaceFirst(rule_key::kPreAllAnswer, rules.m_strPreAllAnswer, kAnswerSectionMarker);
+  } catch (const ImportFailure& failure) {
+    marking.Fail(failure);
+  }
   return marking.Take();
 }
 

@@ -3,9 +3,11 @@
 // the markers of ImportMarkers.h.
 #pragma once
 
+#include "import/ImportFailure.h"
 #include "import/ImportSettings.h"
 #include "import/RuleSearch.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,13 +19,15 @@ namespace quorvantis {
 /// something are here.
 using RuleCounts = std::vector<std::pair<std::u16string, int>>;
 
-/// A paper with markers in it.
+/// A paper with markers in it. After a failure, the text is as far as the marking came, for whoever looks for
+/// the reason.
 struct MarkedText {
-  std::u16string text;
-  RuleCounts counts;
+  std::u16string text{};
+  RuleCounts counts{};
+  std::optional<ImportFailure> failure{};
 };
 
-/// Marks running text. The text ends at its first NUL. Throws ImportFailure.
+/// Marks running text. The text ends at its first NUL.
 MarkedText TextToString(std::u16string_view text, const ImportSettings& rules, const CancelHook& isCancelled);
 
 /// A table of a paper: rows of cell texts. Rows may have different lengths; a cell that is not there is
@@ -36,8 +40,7 @@ struct PaperTable {
   std::u16string_view Cell(std::size_t row, std::size_t column) const;
 };
 
-/// Marks papers that are tables: a question in each row but the first, which tells the columns. Throws
-/// ImportFailure.
+/// Marks papers that are tables: a question in each row but the first, which tells the columns.
 MarkedText TableToString(const std::vector<PaperTable>& tables, const ImportSettings& rules,
                          const CancelHook& isCancelled);
 

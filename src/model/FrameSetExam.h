@@ -6,6 +6,7 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,6 +14,8 @@
 namespace quorvantis {
 
 struct ExamServices;
+struct ImportSettings;
+struct ReadPaper;
 
 /// Whether the exam is all that its file holds.
 enum class ReadDoubt {
@@ -52,13 +55,13 @@ class FrameSetExam : public ExamPaper {
   /// Writes the exam as a paper.
   void WritePrintPage(const std::filesystem::path& page);
 
-  /// Reads questions from a marked text (import/ImportMarkers.h) into the slots from `firstSlot` on; the
-  /// patterns are rules of "ImportExam.ini". Returns the number of the slot after the last one written, at
-  /// most 501. Rules that cannot be used are told to the user, and nothing is written. Defined in import/.
+  /// Reads questions from a marked text (import/ImportMarkers.h) into the slots from `firstSlot` on, by the
+  /// question pattern and the answer patterns of `rules`. `pictureNumber` is that of the first picture.
+  /// Returns the number of the slot after the last one written, at most 501. `paper` tells what was read and
+  /// what was not; with a failure in it, nothing is written. Nothing is told to the user. `isCancelled`,
+  /// which may be empty, is asked now and then. Defined in import/.
   int ParseQuestions(int firstSlot, int pictureNumber, const std::u16string& markedText,
-                     const std::u16string& questionPattern, const std::u16string& judgementAnswer,
-                     const std::u16string& judgementBlock, const std::u16string& choiceAnswer,
-                     const std::u16string& choiceBlock);
+                     const ImportSettings& rules, const std::function<bool()>& isCancelled, ReadPaper& paper);
 
   /// Not 0: every attachment path that a page shows gets one more prefix, a copy of its first three
   /// characters, from now on; 0: one fewer. Pages take three characters off again to get a full path. The

@@ -147,6 +147,9 @@ constexpr int kPictureNotDrawn = 1154;
 constexpr int kPictureTimedOut = 1155;
 constexpr int kPictureNoFile = 1156;
 constexpr int kPicturesOfQuestion = 1157;  // within the second part
+constexpr int kQuestionAsItIs = 1158;      // of an import again
+constexpr int kAnswersByOrder = 1159;
+constexpr int kAutomaticNumbers = 1160;
 
 // Of files.
 constexpr int kAllFiles = 1127;      // a file filter behind kAttachmentFilter

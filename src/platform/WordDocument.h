@@ -14,7 +14,7 @@ enum class WordObjectKind { Picture, Equation };
 struct WordObject {
   std::size_t position = 0;  ///< in UTF-16 units: the object stands before this character, or at the end
   WordObjectKind kind = WordObjectKind::Picture;
-  std::size_t picture = 0;  ///< for `OpenWordDocument::SavePicture`; from 0, in the order of the document
+  std::size_t picture = 0;  ///< for `WordPictures::Read`; from 0, in the order of the document
 };
 
 /// The characters as a word processor's selection yields them: CR after each paragraph, VT for a line break,
@@ -34,9 +34,11 @@ struct WordTable {
 };
 
 struct WordDocument {
-  WordText runningText;           ///< without the tables
-  std::vector<WordTable> tables;  ///< in the order of the document
-  std::size_t pictures = 0;       ///< how many there are, those in tables included
+  WordText runningText;            ///< without the tables
+  std::vector<WordTable> tables;   ///< in the order of the document
+  std::size_t pictures = 0;        ///< how many there are, those in tables included
+  bool hasNumbersLeftOut = false;  ///< automatic numbers that are not part of the text
+  bool isPlainText = false;        ///< no word processor wrote it
 };
 
 }  // namespace quorvantis

@@ -55,8 +55,8 @@ int PictureTextOf(WordResult result) {
 
 }  // namespace
 
-std::u16string PictureFailureText(WordResult result, const StringTable& strings) {
-  return strings.Text(PictureTextOf(result));
+std::u16string PictureFailureText(WordResult result, std::u16string_view count, const StringTable& strings) {
+  return FillMessage(strings.Text(PictureTextOf(result)), {count});
 }
 
 std::u16string DocumentFailureText(WordResult result, const std::filesystem::path& document,

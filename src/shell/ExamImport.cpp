@@ -41,21 +41,38 @@ bool BeginsWith(std::u16string_view name, std::u16string_view chosen) {
 
 void ExamImport::Open() {
   const ProfileFile file(m_strIniPath, &codePage_);
-  const int size = std::min(ReadProfileInteger(u"Repository", u"Size", 0, file), kMostRepositories);
-  repositories_.clear();
-  for (int i = 0; i < size; ++i) {
-    repositories_.push_back(ReadProfileString(FormatInteger(i), u"Name", {}, file));
+  count_ = std::max(ReadProfileInteger(u"Repository", u"Size", 0, file), 0);
+  names_.clear();
+  for (const auto& [section, name] : ReadProfileStringOfAll(u"Name", file)) {
+    const int number = ParseInteger(section);
+    const bool isEntry = number >= 0 && number < count_ && FormatInteger(number) == section;
+    if (isEntry && !name.empty()) names_.try_emplace(number, name);
   }
-  m_strRepository = repositories_.empty() ? std::u16string() : repositories_.front();
+  m_strRepository = NameOf(0);
+}
+
+std::u16string ExamImport::NameOf(int entry) const {
+  const auto found = names_.find(entry);
+  return found == names_.end() ? std::u16string() : found->second;
+}
+
+std::vector<std::u16string> ExamImport::Repositories() const {
+  std::vector<std::u16string> list(count_ > kMostListed ? 0 : static_cast<std::size_t>(count_));
+  for (const auto& [entry, name] : names_) {
+    if (count_ > kMostListed)
+      list.push_back(name);
+    else
+      list[static_cast<std::size_t>(entry)] = name;
+  }
+  return list;
 }
 
 int ExamImport::ChosenSection() const {
-  const int count = static_cast<int>(repositories_.size());
-  for (int step = 1; step <= count; ++step) {
-    const int entry = step % count;
-    if (BeginsWith(repositories_[static_cast<std::size_t>(entry)], m_strRepository)) return entry;
+  if (m_strRepository.empty()) return count_ > 1 ? 1 : count_ - 1;  // every name begins with it
+  for (auto entry = names_.upper_bound(0); entry != names_.end(); ++entry) {
+    if (BeginsWith(entry->second, m_strRepository)) return entry->first;
   }
-  return kNoSection;
+  return BeginsWith(NameOf(0), m_strRepository) ? 0 : kNoSection;
 }
 
 int ExamImport::Accept() {

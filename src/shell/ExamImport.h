@@ -5,6 +5,7 @@
 #include "platform/CodePage.h"
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -18,8 +19,6 @@ inline constexpr const char* kImportRulesFile = "ImportExam.ini";
 /// content.
 class ExamImport : public ImportSettings {
  public:
-  /// More repositories than this are not listed.
-  static constexpr int kMostRepositories = 1000;
   static constexpr int kNoSection = -1;
 
   /// `codePage`, which must outlive this, is that of a file in 8-bit text.
@@ -28,7 +27,11 @@ class ExamImport : public ImportSettings {
 
   /// Lists the repositories in the order of the file, and selects the first one.
   void Open();
-  const std::vector<std::u16string>& Repositories() const { return repositories_; }
+
+  /// Their names, in the order of the list. There are as many as the file says, and those that it does not
+  /// name are empty; where it says more than kMostListed, only named ones are here.
+  static constexpr int kMostListed = 10'000;
+  std::vector<std::u16string> Repositories() const;
 
   /// Takes the rules of the chosen repository. 0, or the number of the text that tells what is wrong; the
   /// dialog then stays open.
@@ -47,8 +50,11 @@ class ExamImport : public ImportSettings {
   std::u16string m_strRepository;
 
  private:
+  std::u16string NameOf(int entry) const;
+
   const CodePage& codePage_;
-  std::vector<std::u16string> repositories_;
+  int count_ = 0;                        ///< of the repositories; may be far more than there are sections
+  std::map<int, std::u16string> names_;  ///< of the sections that have one
 };
 
 }  // namespace quorvantis

@@ -31,13 +31,13 @@ void ImportCommand::Begin() {
   isNewExam_ = false;
 }
 
-void ImportCommand::Run() {
+void ImportCommand::ImportQuestions() {
   Begin();
   importBase_ = editor_.state.currentQuestion;
   if (ConfirmImportTarget()) ImportHere();
 }
 
-void ImportCommand::RunAfter(int question) {
+void ImportCommand::ImportQuestionsAfter(int question) {
   Begin();
   importBase_ = editor_.state.currentQuestion = std::max(question, 1);
   editor_.questions.LoadCurrentQuestion();
@@ -87,62 +87,64 @@ void ImportCommand::ImportHere() {
   ImportReport report;
   report.rules = choice;
   const WordResult read = ReadDocument(choice, report);
-  if (read != WordResult::Done) return EndWithout(DocumentFailureText(read, choice.m_strDocPath, Strings()));
-  ReadQuestions(report);
-  if (report.paper.failure) return EndWithout(FailureText(*report.paper.failure, Strings()));
-  StoreAndFinish(report);
+  if (read != WordResult::Done)
+    return EndWithout(report, DocumentFailureText(read, choice.m_strDocPath, Strings()));
+  if (report.marked.failure) return EndWithout(report, FailureText(*report.marked.failure, Strings()));
+  firstSlot_ = editor_.state.currentQuestion;
+  nextSlot_ = Exam().ParseQuestions(
+      firstSlot_, pictureCounter_, report.marked.text, report.rules,
+      [this] { return dialogs_.IsCancelled(); }, report.paper);
+  if (report.paper.failure) return EndWithout(report, FailureText(*report.paper.failure, Strings()));
+  HandleAndFinish(report);
 }
 
+/// Reads and marks without touching the exam. A failure of the marking is in the report.
 WordResult ImportCommand::ReadDocument(const ExamImport& choice, ImportReport& report) {
-  PaperReading reading;
-  reading.firstPicture = pictureCounter_;
-  reading.listLabels = choice.listLabels;
-  reading.isCancelled = [this] { return dialogs_.IsCancelled(); };
-  reading.pictureSaved = [this](std::size_t done, std::size_t total) {
-    dialogs_.ShowPicturesRead(done, total);
-  };
-  PaperOutcome outcome = reader_.Read(choice.m_strDocPath, reading);
-  if (outcome.content) report.content = std::move(*outcome.content);
-  return outcome.result;
+  WordReader reader(
+      documents_, AttachmentWorkRoot(Exam().Services().applicationFolder),
+      {[this] { return dialogs_.IsCancelled(); },
+       [this](std::size_t done, std::size_t total) { dialogs_.ShowPicturesRead(done, total); }});
+  if (!reader.OpenDocument(choice.m_strDocPath, choice.listLabels)) return reader.Result();
+  reader.ReplaceBoxCharacters();
+  const auto nextPicture = reader.SavePictures(pictureCounter_);
+  if (!nextPicture) return reader.Result();
+  const std::size_t formulas = reader.MaskFormulas();
+  const WordDocument& document = reader.Document();
+  report.content = {document.runningText.characters, pictureCounter_,           *nextPicture, formulas,
+                    reader.LostPictures(),           document.hasNumbersLeftOut};
+  report.marked = Mark(reader, report.rules);
+  reader.CloseDocument();
+  reader.QuitWordProcessor();
+  return WordResult::Done;
 }
 
-/// Marks and parses without touching the exam. A failure is in the report's paper.
-void ImportCommand::ReadQuestions(ImportReport& report) {
-  const CancelHook isCancelled = [this] { return dialogs_.IsCancelled(); };
-  const ImportSettings& rules = report.rules;
-  try {
-    if (rules.m_nTable != 0) {
-      Debug(FillMessage(u"The dlg.m_strPreAnswer is %s", {rules.m_strPreAnswer}));
-      Debug(FillMessage(u"The dlg.m_strTableAnsKey is %s", {rules.m_strTableAnsKey}));
-      Debug(FillMessage(u"The dlg.m_strTableQuesKey is %s", {rules.m_strTableQuesKey}));
-      report.marked = TableToString(report.content.tables, rules, isCancelled);
-      Debug(u"Table To String");
-    } else {
-      report.marked = TextToString(report.content.text, rules, isCancelled);
-      Debug(u"Text To String");
-    }
-  } catch (const ImportFailure& failure) {
-    report.paper.failure = failure;
-    return;
+MarkedText ImportCommand::Mark(const WordReader& reader, const ImportSettings& rules) {
+  MarkedText marked;
+  if (rules.m_nTable != 0) {
+    Debug(FillMessage(u"The dlg.m_strPreAnswer is %s", {rules.m_strPreAnswer}));
+    Debug(FillMessage(u"The dlg.m_strTableAnsKey is %s", {rules.m_strTableAnsKey}));
+    Debug(FillMessage(u"The dlg.m_strTableQuesKey is %s", {rules.m_strTableQuesKey}));
+    marked = reader.TableToString(rules);
+    if (!marked.failure) Debug(u"Table To String");
+  } else {
+    marked = reader.TextToString(rules);
+    if (!marked.failure) Debug(u"Text To String");
   }
-  Debug(FillMessage(u"ExamDoc output %s", {report.marked.text}));
-  const QuestionTextParser parser(rules, Exam().Services().debug, isCancelled);
-  report.paper = parser.Parse(report.marked.text, pictureCounter_);
+  if (!marked.failure) Debug(FillMessage(u"ExamDoc output %s", {marked.text}));
+  return marked;
 }
 
 /// Nothing was imported, so the exam becomes what it was, also where a new one had been begun.
-void ImportCommand::EndWithout(std::u16string_view message) {
+void ImportCommand::EndWithout(const ImportReport& report, std::u16string_view message) {
   const bool wasCancelled = dialogs_.IsCancelled();
   dialogs_.HideWait();
   Undo();
-  if (!wasCancelled) dialogs_.ShowFailure(message);
+  if (!wasCancelled) dialogs_.ShowFailure(report, message);
 }
 
-void ImportCommand::StoreAndFinish(ImportReport& report) {
-  firstSlot_ = editor_.state.currentQuestion;
-  nextSlot_ = StoreQuestions(report.paper, Exam(), firstSlot_);
+void ImportCommand::HandleAndFinish(ImportReport& report) {
   const bool forced = HandleAnswerPictures();
-  pictureCounter_ = report.content.nextPicture;
+  pictureCounter_ = report.content->nextPicture;
   dialogs_.HideWait();
   Debug(u"The ExamImportDlg is gone!");
   if (importRolledBack_) {
@@ -150,7 +152,7 @@ void ImportCommand::StoreAndFinish(ImportReport& report) {
     return Report(report);
   }
   if (forced) ShowPictureList();
-  if (report.content.formulas > 0) HandleFormulas();
+  if (report.content->formulas > 0) HandleFormulas();
   editor_.state.MarkModifiedQuietly();
   GoToLastImported();
   Report(report);
@@ -167,6 +169,10 @@ void ImportCommand::Report(ImportReport& report) {
     report.filesStayed = QuestionsWithEarlierFiles(before, Exam(), firstSlot_, nextSlot_ - 1);
   }
   report.loneLineEnds = CountLoneLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
+  report.formulasKept = std::min(CountFormulas(Exam(), firstSlot_, nextSlot_ - 1), report.content->formulas);
+  const bool hasFirst = firstSlot_ == 1 && nextSlot_ > 1;
+  const int pictures = report.content->nextPicture - report.content->firstPicture;
+  if (hasFirst && pictures > 0 && ShowsPictures(Exam().Question(1))) report.questionAsItIs = 1;
   dialogs_.ShowReport(report, *this);
 }
 

@@ -3,7 +3,7 @@
 
 #include "editor/EditorSnapshot.h"
 #include "editor/ExamEditor.h"
-#include "import/PaperReader.h"
+#include "import/WordReader.h"
 #include "shell/ExamImport.h"
 #include "shell/ImportDialogs.h"
 #include "shell/ImportReport.h"
@@ -16,13 +16,19 @@ namespace quorvantis {
 class ImportCommand {
  public:
   /// All must outlive the command. `rules` is the file with the repositories.
-  ImportCommand(ExamEditor& editor, PaperReader& reader, ImportDialogs& dialogs, std::filesystem::path rules)
-      : editor_(editor), reader_(reader), dialogs_(dialogs), rules_(std::move(rules)), before_(editor) {}
+  ImportCommand(ExamEditor& editor, WordDocuments& documents, ImportDialogs& dialogs,
+                std::filesystem::path rules)
+      : editor_(editor),
+        documents_(documents),
+        dialogs_(dialogs),
+        rules_(std::move(rules)),
+        before_(editor) {}
 
-  void Run();
+  /// The whole command.
+  void ImportQuestions();
 
-  /// Imports into the slots after `question` (0 to 499) without asking for the target.
-  void RunAfter(int question);
+  /// The same, into the slots after `question` (0 to 499) without asking for the target.
+  void ImportQuestionsAfter(int question);
 
   /// From an import on until the user opens another exam, makes a new one or imports again.
   bool CanUndo() const { return before_.IsUsable(); }
@@ -37,9 +43,9 @@ class ImportCommand {
   bool ConfirmImportTarget();
   void ImportHere();
   WordResult ReadDocument(const ExamImport& choice, ImportReport& report);
-  void ReadQuestions(ImportReport& report);
-  void EndWithout(std::u16string_view message);
-  void StoreAndFinish(ImportReport& report);
+  MarkedText Mark(const WordReader& reader, const ImportSettings& rules);
+  void EndWithout(const ImportReport& report, std::u16string_view message);
+  void HandleAndFinish(ImportReport& report);
   void Report(ImportReport& report);
   bool HandleAnswerPictures();
   void HandleFormulas();
@@ -53,7 +59,7 @@ class ImportCommand {
   FrameSetExam& Exam() { return editor_.state.document; }
 
   ExamEditor& editor_;
-  PaperReader& reader_;
+  WordDocuments& documents_;
   ImportDialogs& dialogs_;
   std::filesystem::path rules_;
   EditorSnapshot before_;

@@ -37,8 +37,8 @@ class ImportDialogs {
 
   /// A message under a caption of its own.
   virtual void ShowNotice(std::u16string_view caption, std::u16string_view text) = 0;
-  /// Nothing was imported; one line that tells why.
-  virtual void ShowFailure(std::u16string_view text) = 0;
+  /// Nothing was imported; one line that tells why. The report has what was read until then.
+  virtual void ShowFailure(const ImportReport& report, std::u16string_view text) = 0;
   /// The import is over. It may have changed the exam, and `import`, which outlives the report, can undo it.
   virtual void ShowReport(const ImportReport& report, ImportCommand& import) = 0;
 };

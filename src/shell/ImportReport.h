@@ -2,20 +2,31 @@
 #pragma once
 
 #include "import/ImportSettings.h"
-#include "import/PaperReader.h"
 #include "import/QuestionTextParser.h"
 #include "import/TextMarking.h"
+#include "import/WordReader.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace quorvantis {
 
+/// What was read of a document: in the text, pictures are " <number>.bmp " and formulas "##".
+struct PaperContent {
+  std::u16string text;  ///< without the tables
+  int firstPicture = 0;
+  int nextPicture = 0;  ///< the number after that of the last picture
+  std::size_t formulas = 0;
+  std::vector<LostPicture> lostPictures;
+  bool hasNumbersLeftOut = false;  ///< automatic numbers that are not part of the text
+};
+
 /// What an import was, for the user and for whoever looks into it.
 struct ImportReport {
   bool imported = false;  ///< the exam has been changed by what was read; false when the user gave up
   ImportSettings rules;
-  PaperContent content;  ///< of the document
+  std::optional<PaperContent> content;  ///< nothing when the document could not be read
   MarkedText marked;
   ReadPaper paper;
   int firstSlot = 1;
@@ -24,6 +35,10 @@ struct ImportReport {
   std::vector<int> replaced;     ///< numbers of earlier questions that are no more
   std::vector<int> filesStayed;  ///< imported questions with attached files of earlier ones
   int loneLineEnds = 0;          ///< questions with line ends that pages do not show as they are
+  std::size_t formulasKept = 0;  ///< places of formulas in the imported questions
+  /// The question with pictures that were not looked at, because an import that begins with question 1 never
+  /// looks at its first one; 0 for none.
+  int questionAsItIs = 0;
 };
 
 /// The report as lines for the user, in the language of `strings`: the first tells what was read, the others

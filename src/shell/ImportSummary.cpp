@@ -50,22 +50,33 @@ class Summary {
     } else {
       Say(text_id::kGivenUp);
     }
-    if (!report_.replaced.empty()) Say(text_id::kQuestionsReplaced, {Ranges(report_.replaced)});
-    if (!report_.filesStayed.empty()) Say(text_id::kFilesStayed, {Ranges(report_.filesStayed)});
+    SayOfQuestions(text_id::kQuestionsReplaced, report_.replaced);
+    SayOfQuestions(text_id::kFilesStayed, report_.filesStayed);
     TellBrokenRules();
     TellIdleRules();
     TellDroppedParts();
-    TellAnswerBlocks();
     TellOwnMarkers();
-    TellLostPictures();
-    TellFormulas();
-    if (report_.loneLineEnds > 0) Say(text_id::kLineEnds, {Text(report_.loneLineEnds)});
+    if (report_.imported) TellImported();
     return std::move(lines_);
   }
 
  private:
   void Say(int text, std::initializer_list<std::u16string_view> values = {}) {
     lines_.push_back(FillMessage(strings_.Text(text), values));
+  }
+
+  /// Of a text that has first the count of the questions and then their numbers.
+  void SayOfQuestions(int text, const std::vector<int>& questions) {
+    if (!questions.empty()) Say(text, {Text(questions.size()), Ranges(questions)});
+  }
+
+  /// What is about questions that are in the exam.
+  void TellImported() {
+    TellAnswerBlocks();
+    TellLostPictures();
+    TellFormulas();
+    if (report_.questionAsItIs != 0) Say(text_id::kQuestionAsItIs, {Text(report_.questionAsItIs)});
+    if (report_.loneLineEnds > 0) Say(text_id::kLineEnds, {Text(report_.loneLineEnds)});
   }
 
   std::size_t Count(ReadKind kind) const {
@@ -83,7 +94,8 @@ class Summary {
       Say(text_id::kLeftOut, {Text(questions.size() - slots), Text(kMaxQuestions)});
     if (report_.removed > 0) Say(text_id::kQuestionsRemoved, {Text(report_.removed)});
     if (report_.firstSlot > 1 && report_.nextSlot > report_.firstSlot)
-      Say(text_id::kSlotsFilled, {Range(report_.firstSlot, report_.nextSlot - 1)});
+      Say(text_id::kSlotsFilled,
+          {Text(report_.nextSlot - report_.firstSlot), Range(report_.firstSlot, report_.nextSlot - 1)});
   }
 
   void TellBrokenRules() {
@@ -121,6 +133,17 @@ class Summary {
     if (!report_.rules.m_strJudgementAnswerPattern.empty() && !report_.paper.hasJudgementBlock)
       TellIdle(rule_key::kJudgementAnswerPattern);
     if (report_.rules.m_nTable != 0 && report_.marked.text == kQuestionMarker) Say(text_id::kNoSuchTable);
+    if (report_.content && report_.content->hasNumbersLeftOut && !HasMarkedQuestions())
+      Say(text_id::kAutomaticNumbers);
+  }
+
+  /// Whether a rule for the start of questions matched.
+  bool HasMarkedQuestions() const {
+    return report_.rules.m_nTable != 0 || std::ranges::any_of(report_.marked.counts, [](const auto& rule) {
+             const bool isOfQuestions =
+                 rule.first == rule_key::kPreQuestion || rule.first == rule_key::kPreParenQuestion;
+             return isOfQuestions && rule.second > 0;
+           });
   }
 
   void TellIdle(std::u16string_view key) { Say(text_id::kRuleIsIdle, {key}); }
@@ -131,7 +154,7 @@ class Summary {
       const auto first = std::ranges::find(dropped, key, &DroppedPart::key);
       if (first == dropped.end()) continue;
       const auto count = static_cast<std::size_t>(std::ranges::count(dropped, key, &DroppedPart::key));
-      Say(text_id::kPartsLeftOut, {Text(count), key, first->text});
+      Say(text_id::kPartsLeftOut, {Text(count), key, Text(count), first->text});
     }
   }
 
@@ -144,6 +167,8 @@ class Summary {
     if (paper.hasChoiceBlock) TellMismatch(rule_key::kChoiceAnswer, paper.choiceAnswers, ReadKind::Choice);
     if (paper.hasJudgementBlock)
       TellMismatch(rule_key::kJudgementAnswer, paper.judgementAnswers, ReadKind::TrueFalse);
+    for (const MisplacedAnswer& answer : paper.misplaced)
+      Say(text_id::kAnswersByOrder, {answer.key, Text(answer.number), Text(answer.question)});
   }
 
   void TellMismatch(std::u16string_view key, std::size_t answers, ReadKind kind) {
@@ -154,8 +179,8 @@ class Summary {
   void TellOwnMarkers() {
     for (const std::u16string_view marker :
          {kQuestionMarker, kAnswerMarker, kAnswerSectionMarker, kPictureMarker, kOptionPictureMarker}) {
-      const bool isFormulas = marker == kPictureMarker && report_.content.formulas > 0;
-      if (!isFormulas && report_.content.text.find(marker) != std::u16string::npos)
+      const bool isFormulas = marker == kPictureMarker && HasFormulas();
+      if (!isFormulas && report_.content && report_.content->text.find(marker) != std::u16string::npos)
         Say(text_id::kOwnMarker, {marker});
     }
   }
@@ -163,21 +188,24 @@ class Summary {
   void TellLostPictures() {
     for (const auto& [reason, questions] : GroupLostPictures(report_)) {
       std::u16string list;
+      std::size_t count = 0;
       for (const auto& [question, pictures] : questions) {
         list += list.empty() ? u"" : u"; ";
+        count += pictures.size();
         list += question == kNoQuestion ? Ranges(pictures)
                                         : FillMessage(strings_.Text(text_id::kPicturesOfQuestion),
                                                       {Ranges(pictures), Text(question)});
       }
-      Say(text_id::kPicturesLost, {PictureFailureText(reason, strings_), list});
+      Say(text_id::kPicturesLost, {Text(count), PictureFailureText(reason, Text(count), strings_), list});
     }
   }
 
+  bool HasFormulas() const { return report_.content && report_.content->formulas > 0; }
+
   void TellFormulas() {
-    const PaperContent& content = report_.content;
-    if (content.formulas == 0) return;
-    Say(text_id::kFormulasMasked, {Text(content.formulas)});
-    if (content.text.find(kPictureMarker) != std::u16string::npos) Say(text_id::kFormulasAdjacent);
+    if (report_.formulasKept > 0) Say(text_id::kFormulasMasked, {Text(report_.formulasKept)});
+    if (HasFormulas() && report_.content->text.find(kPictureMarker) != std::u16string::npos)
+      Say(text_id::kFormulasAdjacent);
   }
 
   const ImportReport& report_;

@@ -2,7 +2,7 @@
 #include "shell/LostPictures.h"
 
 #include "import/ImportMarkers.h"
-#include "import/WordPaper.h"
+#include "import/WordReader.h"
 
 #include <string_view>
 #include <unordered_map>
@@ -43,9 +43,9 @@ Places PlacesOf(const ImportReport& report) {
 
 std::map<WordResult, PicturesByQuestion> GroupLostPictures(const ImportReport& report) {
   std::map<WordResult, PicturesByQuestion> groups;
-  if (report.content.lostPictures.empty()) return groups;
+  if (!report.content || report.content->lostPictures.empty()) return groups;
   const Places places = PlacesOf(report);
-  for (const LostPicture& lost : report.content.lostPictures) {
+  for (const LostPicture& lost : report.content->lostPictures) {
     const auto place = places.find(PictureFileName(lost.number));
     groups[lost.reason][place == places.end() ? kNoQuestion : place->second].push_back(lost.number);
   }

@@ -32,9 +32,9 @@ bool IsSectionLine(std::u16string_view line) {
   return Trim(line).starts_with(u'[');
 }
 
-bool BeginsSection(std::u16string_view line, std::u16string_view section) {
+std::u16string_view SectionName(std::u16string_view line) {
   const std::u16string_view text = Trim(line);
-  return EqualsIgnoringAsciiCase(Trim(text.substr(1, text.find(u']') - 1)), section);
+  return Trim(text.substr(1, text.find(u']') - 1));
 }
 
 bool IsEntry(std::u16string_view line, std::u16string_view key) {
@@ -48,6 +48,10 @@ bool IsEntry(std::u16string_view line, std::u16string_view key) {
 std::size_t ValueBegin(std::u16string_view entry) {
   const std::size_t equals = entry.find(u'=');
   return std::min(entry.find_first_not_of(kBlanks, equals + 1), entry.size());
+}
+
+std::u16string_view ValueIn(std::u16string_view entry) {
+  return Unquote(Trim(entry.substr(ValueBegin(entry))));
 }
 
 bool FitsInOneLine(std::u16string_view text) {
@@ -74,8 +78,22 @@ ProfileFile::ProfileFile(const std::filesystem::path& file, const CodePage* code
 std::optional<std::u16string> ProfileFile::Value(std::u16string_view section, std::u16string_view key) const {
   const std::optional<Line> entry = Find(section, key).entry;
   if (!entry) return std::nullopt;
-  const std::u16string line = TextOf(*entry);
-  return std::u16string(Unquote(Trim(std::u16string_view(line).substr(ValueBegin(line)))));
+  return std::u16string(ValueIn(TextOf(*entry)));
+}
+
+std::map<std::u16string, std::u16string> ProfileFile::ValuesOf(std::u16string_view key) const {
+  std::map<std::u16string, std::u16string> values;
+  std::optional<std::u16string> section;
+  for (std::size_t at = encoding_.MarkSize(); at < bytes_.size();) {
+    const Line line = LineAt(at);
+    at = line.next;
+    const std::u16string text = TextOf(line);
+    if (IsSectionLine(text))
+      section = SectionName(text);
+    else if (section && IsEntry(text, key))
+      values.try_emplace(*section, ValueIn(text));
+  }
+  return values;
 }
 
 bool ProfileFile::SetValue(std::u16string_view section, std::u16string_view key, std::u16string_view value) {
@@ -113,7 +131,7 @@ ProfileFile::Place ProfileFile::Find(std::u16string_view section, std::u16string
     at = line.next;
     const std::u16string text = TextOf(line);
     if (IsSectionLine(text)) {
-      inSection = BeginsSection(text, section);
+      inSection = EqualsIgnoringAsciiCase(SectionName(text), section);
       inFirst = inSection && !place.sectionEnd;
     }
     if (inFirst && !Trim(text).empty()) place.sectionEnd = line.next;

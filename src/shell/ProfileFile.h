@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,6 +28,9 @@ class ProfileFile {
   /// The value without blanks and one pair of quotes around it; the first one where a key stands more than
   /// once.
   std::optional<std::u16string> Value(std::u16string_view section, std::u16string_view key) const;
+
+  /// The value of a key in each section that has it, by the name of the section as it stands in the file.
+  std::map<std::u16string, std::u16string> ValuesOf(std::u16string_view key) const;
 
   /// Sets the value that `Value` finds. A new key goes to the end of its section, a new section to the end of
   /// the file. False, and nothing is changed, when the file's encoding lacks a character of it, or when a

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLineTest.h"
-#include "platform/office/OfficeWordReader.h"
+#include "platform/office/OfficeWordDocuments.h"
 #include "text/Utf.h"
 
 namespace quorvantis::test {
@@ -15,8 +15,8 @@ class ExportCommands : public CommandLineTest {
     EXPECT_EQ(run.err, message);
   }
   std::string TextOf(const char* document) const {
-    const auto outcome = OfficeWordReader().Open(folder / document, {});
-    return outcome.document ? Utf16ToUtf8(outcome.document->Content().runningText.characters) : "(not read)";
+    const auto outcome = OfficeWordDocuments().Open(folder / document, {});
+    return outcome.result == WordResult::Done ? Utf16ToUtf8(outcome.document.runningText.characters) : "(not read)";
   }
 
   const std::string exam = Path("exam.exm");

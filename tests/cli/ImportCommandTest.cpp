@@ -118,8 +118,8 @@ TEST_F(ImportCommand, TellsWhatWasNotRecognised) {
   EXPECT_EQ(
       run.out,
       "2 questions read: 1 choice, 0 true/false, 0 fill-in, 1 essay.\n"
-      "1 parts of the paper were left out because the rule \"PreAnswer\" matched nothing in them; the first "
-      "begins: lost\n"
+      "1 part of the paper was left out because the rule \"PreAnswer\" matched nothing there; it begins: "
+      "lost\n"
       "The paper itself holds \"#####\", which import takes for a mark of its own.\n");
   EXPECT_EQ(ReadText(folder / "m"), "#####!!!!!q1@@@@@B!!!!!lost\n!!!!!2@@@@@x");
   EXPECT_EQ(ReadText(folder / "t"), "#####Q;q1A;BQ;lost\nQ;2A;x");
@@ -147,6 +147,10 @@ TEST_F(ImportCommand, FailsWithOneLineAndWritesNothing) {
       Command({"import", Path("a.doc"), Path("b"), "--rules", Path("rules.ini"), "--repository", "#0"}),
       "a.doc: is no document that can be imported");
   EXPECT_EQ(Import("x", {"--repository", "#0", "--after", "1"}).status, 2);
+  EXPECT_EQ(Import("x", {"--repository", "#0", "--into", Path("in.exm"), "--after", "0x10"}).status, 2);
+  refused("exam.exm: cannot be written twice", good, {"--repository", "#0", "--text", Path("./exam.exm")});
+  WriteBytes(folder / "rules.ini", "[Repository]\nSize=2000000000\n" + good.substr(20));
+  ExpectFailure(Import("x", {"--repository", "x"}), "it has \"Math\", \"math2\"\n");
 }
 
 TEST_F(ImportCommand, ContinuesAnExam) {
@@ -159,10 +163,10 @@ TEST_F(ImportCommand, ContinuesAnExam) {
   WriteBytes(folder / "in.json", Json({{"questions", questions}}).dump());
   EXPECT_EQ(Command({"build", Path("in.json"), Path("in.exm")}).status, 0);
   EXPECT_EQ(Import("Q;newA;B", {"--repository", "#0", "--into", Path("in.exm"), "--after", "2"}).out,
-            "1 questions read: 0 choice, 0 true/false, 0 fill-in, 1 essay.\n"
-            "They are questions 3 of the exam.\n"
-            "Questions that were there before and are replaced or gone: 4.\n"
-            "Files of earlier questions are still attached to questions 3.\n");
+            "1 question read: 0 choice, 0 true/false, 0 fill-in, 1 essay.\n"
+            "It is question 3 of the exam.\n"
+            "A question that was there before and is replaced or gone: 4.\n"
+            "Files of earlier questions are still attached to question 3.\n");
   // The slot after the imported ones gets what the first of them held.
   EXPECT_EQ(Questions(), "essay: one old\nessay: two old\nessay: new B\nessay: three old\nessay: five old\n");
 }
@@ -178,7 +182,50 @@ TEST_F(ImportCommand, AsksAboutPicturesInAnswers) {
   EXPECT_EQ(Questions(), "essay: first 1.bmp\nessay: see ../../x$$ 2$$ b\n");
   const RunResult forced = Import(paper, {"--repository", "#0", "--answer-pictures", "force"});
   EXPECT_NE(forced.err.find("1,3,The answer in the exam have pictures,can not display"), std::string::npos);
-  ExpectFailure(Import(paper, {"--repository", "#0", "--answer-pictures", "give-up"}), "given up");
+  ExpectFailure(Import(paper, {"--repository", "#0", "--answer-pictures", "give-up", "--text", Path("t"),
+                               "--marked", Path("m")}),
+                "given up");
+  EXPECT_EQ(ReadText(folder / "t"), paper);
+  EXPECT_EQ(ReadText(folder / "m").substr(0, 20), "!!!!!first@@@@@1.bmp");
+}
+
+TEST_F(ImportCommand, WritesItsTextsWhenARuleFails) {
+  WriteBytes(folder / "rules.ini", Rules("Q;", ".+") + "[2]\nPattern=x\nPreQuestion=Q;\nPreAnswer=!|A;\n");
+  ExpectFailure(Import("Q;aA;b", {"--repository", "#2", "--text", Path("t"), "--marked", Path("m")}),
+                "\"PreAnswer\" in ImportExam.ini never comes to an end");
+  EXPECT_EQ(ReadText(folder / "t"), "Q;aA;b");
+  EXPECT_NE(ReadText(folder / "m").find('@'), std::string::npos);
+}
+
+TEST_F(ImportCommand, KeepsLongAnswersWhole) {
+  WriteBytes(folder / "rules.ini", Rules("Q;", "(?<Q2>.+)"));
+  const auto lengths = [this](std::size_t length) {
+    const RunResult run = Import("Q;a___A;" + std::string(length, 'x'));
+    return std::pair(run.err, Shown()["questions"][0]["answerText"].get<std::string>().size());
+  };
+  EXPECT_EQ(lengths(400), std::pair(std::string(), std::size_t{400}));
+  const auto [told, kept] = lengths(2000);
+  EXPECT_EQ(kept, 1024U);
+  EXPECT_NE(told.find("from 2000 to 1024 characters"), std::string::npos) << told;
+  EXPECT_EQ(told.find("256"), std::string::npos) << told;
+}
+
+TEST_F(ImportCommand, TellsOfAnswersThatGoByOrder) {
+  const auto told = [this](const std::string& key) {
+    WriteBytes(folder / "rules.ini",
+               "[Repository]\nSize=1\n[0]\nPreQuestion=Q;\nPreAnswer=A;\nPattern=(?<Q1>[^Q]+)\n"
+               "PreAllAnswer=Key\nChoiceAnswerPattern=Key.*\nChoiceAnswer=(?<=[.-])[A-E]\n");
+    const std::string out = Import("Q;aQ;bQ;cKey " + key).out;
+    const std::size_t at = out.find("the answer with number");
+    return at == std::string::npos ? "" : out.substr(at + 16, out.find(" of the paper", at) - at - 16);
+  };
+  EXPECT_EQ(told("1.A 2.B 3.C"), "");
+  EXPECT_EQ(told("7.A 8.B 9.C"), "");
+  EXPECT_EQ(told("1.A1.B2.C"), "");
+  EXPECT_EQ(told("1-3-A-B-C"), "");
+  EXPECT_EQ(told("1.A 3.B 2.C"), "number 3 went to question 2");
+  EXPECT_EQ(told("1.A 2.B 4.C"), "number 4 went to question 3");
+  EXPECT_EQ(told("2.A 3.B"), "number 2 went to question 1");
 }
 
 TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
@@ -201,13 +248,16 @@ TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
   };
   EXPECT_EQ(import({"--mend-line-ends", "--answer-pictures", "force"}).out,
             "3 questions read: 0 choice, 0 true/false, 0 fill-in, 3 essay.\n"
-            "Pictures that could not be read (of an unknown kind): 2 of question 3.\n"
-            "1 formulas cannot be kept; \"##\" stands in their places.\n");
+            "A picture that could not be read (of an unknown kind): 2 of question 3.\n"
+            "1 formula cannot be kept; \"##\" stands in its place.\n"
+            "Question 1 is imported as it is, with the names of its pictures in its texts: an import that begins "
+            "with question 1 does not look at the pictures and formulas of its first question.\n");
   EXPECT_EQ(Questions(),
             "essay: see 1.bmp there yes\nessay: two ##\nessay: lost  2.bmp(Can not show the picture) \n");
   // The first question of a new exam is never looked at.
   const RunResult continued = import({"--into", Path("exam.exm"), "--after", "3", "--formulas", "ignore"});
-  EXPECT_NE(continued.out.find("1 of them were left out again"), std::string::npos) << continued.out;
+  EXPECT_NE(continued.out.find("One of them was left out again"), std::string::npos) << continued.out;
+  EXPECT_EQ(continued.out.find("formula cannot"), std::string::npos) << continued.out;
   const Json question = Shown()["questions"][3];
   EXPECT_EQ(question["text"], "see 1$$ there");
   EXPECT_EQ(question["attachments"][0]["name"], "1.bmp");

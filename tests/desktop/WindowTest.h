@@ -5,9 +5,9 @@
 #include "desktop/CQuorvantisDlg.h"
 #include "desktop/QtProgress.h"
 #include "desktop/QtText.h"
-#include "platform/office/OfficeWordReader.h"
+#include "platform/office/OfficeWordDocuments.h"
 #include "platform/posix/PosixFiles.h"
-#include "shell/DocumentPaperReader.h"
+#include "shell/PaperDocuments.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 
@@ -91,8 +91,8 @@ class WindowTest : public testing::Test {
                         world.registry,
                         pages};
   FrameSetExam exam{services};
-  OfficeWordReader documents;
-  DocumentPaperReader papers{services, documents};
+  OfficeWordDocuments documents;
+  PaperDocuments papers{services.codePage, documents};
   OfficeControl* office = nullptr;
   DocumentExport exportDocument;
   std::unique_ptr<CQuorvantisDlg> window;

@@ -13,11 +13,18 @@
 namespace quorvantis::test {
 namespace {
 
-/// What a translation must leave as it is: the placeholders, and the patterns of file kinds.
-std::u16string FixedParts(std::u16string_view text) {
+/// What a translation must leave as it is: the placeholders, and the patterns of file kinds. The forms of a
+/// counted text stand in the place of one number.
+std::u16string FixedParts(std::u16string filled) {
   std::u16string parts;
+  for (std::size_t open = filled.find(u'{'); open != filled.npos; open = filled.find(u'{')) {
+    const std::size_t close = filled.find(u'}', open);
+    if (close == filled.npos) return u"a brace is missing";
+    filled.replace(open, close + 1 - open, u"%d");
+  }
+  std::u16string_view text = filled;
   for (std::size_t i = text.find(u'%'); i != std::u16string_view::npos; i = text.find(u'%', i + 1)) {
-    parts += text.substr(i, 2);
+    parts += text.substr(i, 2) == u"%s" ? u"%d" : text.substr(i, 2);
   }
   bool isPattern = false;
   for (std::size_t bar = text.find(u'|'); bar != std::u16string_view::npos; bar = text.find(u'|')) {

@@ -13,12 +13,11 @@ inline const CancelHook kNeverCancelled;
 
 /// The marked text, or "(reason key)" of the failure.
 inline std::u16string Marked(const ImportSettings& rules, std::u16string_view text) {
-  try {
-    return TextToString(text, rules, kNeverCancelled).text;
-  } catch (const ImportFailure& failure) {
-    constexpr std::u16string_view kReasons[] = {u"endless ", u"empty ", u"too large ", u"cancelled "};
-    return u"(" + std::u16string(kReasons[static_cast<int>(failure.reason)]) + failure.key + u")";
-  }
+  const MarkedText marked = TextToString(text, rules, kNeverCancelled);
+  if (!marked.failure) return marked.text;
+  constexpr std::u16string_view kReasons[] = {u"endless ", u"empty ", u"too large ", u"cancelled "};
+  return u"(" + std::u16string(kReasons[static_cast<int>(marked.failure->reason)]) + marked.failure->key +
+         u")";
 }
 
 inline ReadPaper Parsed(const ImportSettings& rules, std::u16string_view markedText, int firstPicture = 1) {

@@ -105,16 +105,25 @@ TEST(QuestionParsing, WritesSlotsUpToTheLastOne) {
   exam.Question(499).essayAnswer = u"kept";
   exam.Question(499).options[4] = u"gone";
   const std::u16string text = u"!!!!!q___@@@@@A!!!!!r@@@@@B!!!!!s@@@@@C";
-  EXPECT_EQ(exam.ParseQuestions(499, 1, text, u"(?<Q1>.+)", {}, {}, {}, {}), 501);
+  ImportSettings rules;
+  ReadPaper paper;
+  const auto parse = [&](int firstSlot) {
+    return exam.ParseQuestions(firstSlot, 1, text, rules, kNeverCancelled, paper);
+  };
+  rules.m_strPattern = u"(?<Q1>.+)";
+  EXPECT_EQ(parse(499), 501);
   EXPECT_EQ(exam.Question(499).text + exam.Question(499).options[4] + exam.Question(499).essayAnswer,
             u"q___kept");
   EXPECT_EQ(exam.Question(500).answerLetters, u"B");
-  EXPECT_EQ(exam.ParseQuestions(3, 1, text, u"(?<Q2>.+)", {}, {}, {}, {}), 6);
+  rules.m_strPattern = u"(?<Q2>.+)";
+  EXPECT_EQ(parse(3), 6);
   EXPECT_EQ(exam.Question(3).kind, QuestionKind::FillIn);
   EXPECT_EQ(exam.Question(3).answerText + exam.Question(4).essayAnswer, u"AB");
-  EXPECT_EQ(exam.ParseQuestions(7, 1, text, u"(?<Q2>.+)", u"x*", u".+", {}, {}), 7);
-  ASSERT_EQ(world.dialogs.errors.size(), 1u);
-  EXPECT_EQ(world.dialogs.errors[0], u"[1131 JudgementAnswer]");
+  rules.m_strJudgementAnswer = u"x*";
+  rules.m_strJudgementAnswerPattern = u".+";
+  EXPECT_EQ(parse(7), 7);
+  ASSERT_TRUE(paper.failure);
+  EXPECT_EQ(FailureText(*paper.failure, world.services.strings), u"[1131 JudgementAnswer]");
 }
 
 }  // namespace

@@ -30,7 +30,12 @@ TEST_F(ExamImportTest, ListsRepositoriesInTheirOrder) {
   EXPECT_EQ(Opened("[Repository]\nSize=x\n[0]\nName=a").Repositories(), Names());
   EXPECT_EQ(Opened("[REPOSITORY]\nsize=3x\n[2]\nname=a\n[0]\nNAME=c\n").Repositories(),
             (Names{u"c", u"", u"a"}));
-  EXPECT_EQ(Opened("[Repository]\nSize=2000000000\n").Repositories().size(), 1000u);
+  ExamImport many =
+      Opened("[Repository]\nSize=2000000000\n[1999999999]\nName=last\n[7]\nName=a\n[08]\nName=b");
+  EXPECT_EQ(many.Repositories(), (Names{u"a", u"last"}));
+  many.m_strRepository = u"LAST";
+  EXPECT_EQ(many.ChosenSection(), 1'999'999'999);
+  EXPECT_EQ(Opened("[Repository]\nSize=1001\n[1000]\nName=b").Repositories().at(1000), u"b");
   EXPECT_EQ(Opened("[Repository]\nSize=1\n[0]\nName=\xC0").Repositories(), Names{u"\u0440"});
 }
 

@@ -36,6 +36,28 @@ TEST(Utf, SurrogatesWithoutAPartnerAreReplaced) {
   check(u"\xD83D\xD83D\xDE00\xDE00", u"\uFFFD\U0001F600\uFFFD");
 }
 
+TEST(FillMessage, CountsInTheFormsOfTheText) {
+  const struct {
+    std::u16string format;
+    std::vector<std::pair<std::u16string, std::u16string>> messages;
+  } rows[] = {
+      {u"{1:%s question|%s questions} read", {{u"1", u"1 question read"}, {u"0", u"0 questions read"}}},
+      {u"{0:none|1:one|2:two|*03-10:%s few|*11-99:%s many|%s other}",
+       {{u"0", u"none"}, {u"2", u"two"}, {u"3", u"3 few"}, {u"10", u"10 few"}, {u"11", u"11 many"},
+        {u"99", u"99 many"}, {u"100", u"100 other"}, {u"102", u"102 other"}, {u"103", u"103 few"}}},
+      {u"{*11-14:%sm|*1:%so|*2-4:%sf|%sm}",
+       {{u"1", u"1o"}, {u"4", u"4f"}, {u"12", u"12m"}, {u"21", u"21o"}, {u"111", u"111m"}}},
+      {u"{1:it|0,5-7:some|}.", {{u"1", u"it."}, {u"6", u"some."}, {u"8", u"."}, {u"x", u"."}}},
+      {u"{}{a|b}{%s", {{u"1", u"{a|b}{%s"}}},
+      {u"{:a|b}{1: %d", {{u"1", u":a{1: %d"}}},
+  };
+  for (const auto& row : rows) {
+    for (const auto& [number, message] : row.messages)
+      EXPECT_EQ(FillMessage(row.format, {number}), message) << testing::PrintToString(number);
+  }
+  EXPECT_EQ(FillMessage(u"{1:a|b} %s {2:c|d} %s", {u"1", u"{", u"1", u"x"}), u"a { d x");
+}
+
 TEST(FillMessage, NoFormatBreaksAMessage) {
   EXPECT_EQ(FillMessage(u"Open file %s error!", {u"/a/%s%d"}), u"Open file /a/%s%d error!");
   EXPECT_EQ(FillMessage(u"%d of %s", {u"1"}), u"1 of %s");

@@ -2,6 +2,7 @@
 #include "platform/office/CompoundFile.h"
 
 #include "platform/office/ByteNumbers.h"
+#include "text/AsciiCase.h"
 
 #include <algorithm>
 
@@ -45,7 +46,7 @@ std::optional<std::size_t> CompoundFile::EntryOf(std::u16string_view name) const
       for (std::size_t at = 0; at < kEntryNameBytes && NumberAt(bytes_, entry + at, 2) != 0; at += 2) {
         found += static_cast<char16_t>(NumberAt(bytes_, entry + at, 2));
       }
-      if (found == name) return entry;
+      if (EqualsIgnoringAsciiCase(found, name)) return entry;
     }
   }
   return std::nullopt;

@@ -18,7 +18,8 @@ class CompoundFile {
   /// `bytes` outlive this; they may be damaged and may be only the beginning of a file.
   explicit CompoundFile(std::string_view bytes);
 
-  /// Whether a stream of that name is listed.
+  /// Whether a stream of that name is listed. Old programs write names in other letter case; it does not
+  /// count.
   bool Has(std::u16string_view name) const { return EntryOf(name).has_value(); }
 
   /// Up to `count` bytes from the beginning of a stream, at most 64; fewer when they are missing.

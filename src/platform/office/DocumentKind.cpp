@@ -14,6 +14,7 @@ constexpr std::uintmax_t kMostFileBytes = std::uintmax_t{512} << 20;
 constexpr std::size_t kMostManifestBytes = std::size_t{1} << 20;
 constexpr std::string_view kZip = "PK\x03\x04";
 constexpr std::string_view kRichText = "{\\rtf";
+constexpr std::size_t kHeadBytes = std::size_t{64} << 10;  // what stands before the root of an XML file
 
 WordResult Access(const fs::path& file) {
   std::error_code error;
@@ -26,11 +27,22 @@ WordResult Access(const fs::path& file) {
 }
 
 std::string Head(const fs::path& file) {
-  std::string head(kRichText.size(), '\0');
+  std::string head(kHeadBytes, '\0');
   std::ifstream in(file, std::ios::binary);
   in.read(head.data(), static_cast<std::streamsize>(head.size()));
   head.resize(static_cast<std::size_t>(in.gcount()));
   return head;
+}
+
+/// Whether a file begins as the XML of Word 2003. That declares no entities, which could name other files.
+bool IsWordXml(std::string head) {
+  std::erase(head, '\0');  // UTF-16
+  const std::size_t begin = head.find('<');
+  const std::size_t root = head.find("wordDocument");
+  if (begin > 3 || root == std::string::npos || !std::string_view(head).substr(begin).starts_with("<?xml"))
+    return false;
+  const std::size_t space = head.find("http://schemas.microsoft.com/office/word/2003/wordml", root);
+  return space != std::string::npos && head.find("<!DOCTYPE") > root;
 }
 
 /// Protected packages of newer documents are such files too.
@@ -69,6 +81,7 @@ DocumentKindOutcome KindOfDocument(const fs::path& file) {
   if (head.starts_with(kZip)) return KindOfPackage(file);
   if (head.starts_with(CompoundFile::kSignature)) return KindOfCompoundFile(file);
   if (head.starts_with(kRichText)) return {WordResult::Done, DocumentKind::RichText};
+  if (IsWordXml(head)) return {WordResult::Done, DocumentKind::WordXml};
   return {WordResult::UnknownFormat, {}};
 }
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/WordReader.h"
+#include "platform/WordDocuments.h"
 
 #include <filesystem>
 
 namespace quorvantis {
 
-enum class DocumentKind { Docx, Doc, OpenDocument, RichText };
+/// WordXml is the XML of Word 2003, which mostly bears a name in ".doc" or ".xml".
+enum class DocumentKind { Docx, Doc, OpenDocument, RichText, WordXml };
 
 /// What a file is. `result` is `Done` when it can be tried to read it; the reason otherwise.
 struct DocumentKindOutcome {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/PixelGrid.h"
 #include "platform/office/MetafileImages.h"
 #include "platform/office/OfficeConverter.h"
 #include "platform/office/PicturePlace.h"
-#include "platform/office/PixelGrid.h"
 #include "platform/office/ZipPackage.h"
 
 #include <map>

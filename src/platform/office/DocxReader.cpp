@@ -41,7 +41,7 @@ DocxContent ReadDocx(const ZipPackage& package, bool listLabels) {
   const pugi::xml_document listsPart = OptionalPart(package, relations.TargetOfKind("numbering"));
   const DocxStyles styles(stylesPart.document_element());
   ListLabels labels(listsPart.document_element(), styles);
-  DocxText text(body, styles, listLabels ? &labels : nullptr);
+  DocxText text(body, styles, labels, listLabels);
   text.Read();
   if (text.Result() != WordResult::Done) return {text.Result(), {}, {}};
   content.document = std::move(text.Document());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/WordReader.h"
+#include "platform/WordDocuments.h"
 #include "platform/office/PicturePlace.h"
 #include "platform/office/ZipPackage.h"
 

@@ -50,11 +50,12 @@ pugi::xml_node OleObjectIn(pugi::xml_node node, int levels = 4) {
 
 }  // namespace
 
-DocxText::DocxText(pugi::xml_node body, const DocxStyles& styles, ListLabels* labels)
+DocxText::DocxText(pugi::xml_node body, const DocxStyles& styles, ListLabels& labels, bool keepsLabels)
     : body_(body),
       styles_(styles),
       hiding_(styles),
       labels_(labels),
+      keepsLabels_(keepsLabels),
       fields_(body),
       text_(&document_.runningText) {}
 
@@ -159,8 +160,12 @@ bool DocxText::EndsLine(pugi::xml_node mark, bool isEmpty) {
 
 /// Only now, because a paragraph of which nothing is left has not been counted.
 void DocxText::InsertLabel(pugi::xml_node properties, Place start) {
-  if (labels_ == nullptr) return;
-  const std::u16string label = labels_->Next(properties);
+  if (!keepsLabels_ && document_.hasNumbersLeftOut) return;
+  const std::u16string label = labels_.Next(properties);
+  if (!keepsLabels_) {
+    document_.hasNumbersLeftOut = !label.empty();
+    return;
+  }
   text_->characters.insert(start.characters, label);
   for (std::size_t i = start.objects; i < text_->objects.size(); ++i)
     text_->objects[i].position += label.size();

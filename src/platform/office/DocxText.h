@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/WordDocument.h"
-#include "platform/WordReader.h"
+#include "platform/WordDocuments.h"
 #include "platform/office/FieldNesting.h"
 #include "platform/office/HiddenText.h"
 #include "platform/office/ListLabels.h"
@@ -18,8 +18,8 @@ namespace quorvantis {
 /// Walks the body of a document and gathers what it says.
 class DocxText {
  public:
-  /// All outlive this object. Without `labels`, automatic numbers are left out.
-  DocxText(pugi::xml_node body, const DocxStyles& styles, ListLabels* labels);
+  /// All outlive this object. Automatic numbers are part of the text with `keepsLabels` only.
+  DocxText(pugi::xml_node body, const DocxStyles& styles, ListLabels& labels, bool keepsLabels);
 
   /// Once only.
   void Read();
@@ -90,7 +90,8 @@ class DocxText {
   pugi::xml_node body_;
   const DocxStyles& styles_;
   HiddenText hiding_;
-  ListLabels* labels_;
+  ListLabels& labels_;
+  const bool keepsLabels_;
   FieldNesting fields_;
   WordDocument document_;
   std::vector<PicturePlace> pictures_;

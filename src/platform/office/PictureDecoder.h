@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/WordReader.h"
+#include "platform/PixelGrid.h"
+#include "platform/WordDocuments.h"
 #include "platform/office/PictureFormat.h"
-#include "platform/office/PixelGrid.h"
 
 #include <string_view>
 

@@ -3,7 +3,7 @@
 // program that wrote the file, and the names that matter here are the same in no two namespaces.
 #pragma once
 
-#include "platform/WordReader.h"
+#include "platform/WordDocuments.h"
 #include "platform/office/ZipPackage.h"
 
 #include <pugixml.hpp>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "WordReaderTest.h"
+#include "WordDocumentsTest.h"
 
 #include <chrono>
 #include <unistd.h>
@@ -19,13 +19,13 @@ bool IsRunning(int process) {
   return !state.empty() && state.find(") Z ") == std::string::npos;
 }
 
-class ConversionTest : public WordReaderTest {
+class ConversionTest : public WordDocumentsTest {
  protected:
   /// A program of a test in the place of LibreOffice.
-  OfficeWordReader ReaderWith(const std::string& script, std::chrono::milliseconds limit = 60s) {
+  OfficeWordDocuments ReaderWith(const std::string& script, std::chrono::milliseconds limit = 60s) {
     const fs::path program = WriteBytes(folder / "soffice", "#!/bin/sh\n" + script);
     fs::permissions(program, fs::perms::owner_all);
-    return OfficeWordReader({program, {}, limit});
+    return OfficeWordDocuments({program, {}, limit});
   }
   fs::path RichText() { return WriteBytes(folder / "a.rtf", kRichText); }
   WordReadOptions Cancelled() {
@@ -51,18 +51,19 @@ TEST_F(ConversionTest, OtherFormatsSayTheSame) {
     // The name promises something else, and no tool of the shell could take it.
     const fs::path named = folder / "\xE8\xAF\x95 'a\"%20;.docx";
     fs::rename(folder / ("source." + format), named);
-    const auto outcome = reader.Open(named, {});
+    const auto outcome = documents.Open(named, {});
     ASSERT_EQ(outcome.result, WordResult::Done) << format;
-    EXPECT_EQ(Shown(outcome.document->Content().runningText), u"First\vsecond<#>\rEnd\r") << format;
-    ASSERT_EQ(outcome.document->Content().tables.size(), 1U) << format;
-    EXPECT_EQ(outcome.document->Content().tables[0].rows[0][1].characters, u"A\r\a") << format;
+    EXPECT_EQ(Shown(outcome.document.runningText), u"First\vsecond<#>\rEnd\r") << format;
+    ASSERT_EQ(outcome.document.tables.size(), 1U) << format;
+    EXPECT_EQ(outcome.document.tables[0].rows[0][1].characters, u"A\r\a") << format;
   }
-  EXPECT_EQ(reader.Open(WriteBytes(folder / "b.rtf", "{\\rtf"), {}).result, WordResult::Damaged);
+  EXPECT_EQ(documents.Open(WriteBytes(folder / "b.rtf", "{\\rtf"), {}).result, WordResult::Damaged);
 }
 
 TEST_F(ConversionTest, FaultsOfTheWordProcessor) {
-  EXPECT_EQ(OfficeWordReader(OfficePrograms()).Open(RichText(), {}).result, WordResult::WordProcessorMissing);
-  EXPECT_EQ(OfficeWordReader({folder / "none", {}, 1s}).Open(RichText(), {}).result,
+  EXPECT_EQ(OfficeWordDocuments(OfficePrograms()).Open(RichText(), {}).result,
+            WordResult::WordProcessorMissing);
+  EXPECT_EQ(OfficeWordDocuments({folder / "none", {}, 1s}).Open(RichText(), {}).result,
             WordResult::WordProcessorMissing);
   EXPECT_EQ(ReaderWith("exit 0").Open(RichText(), {}).result, WordResult::Damaged);
   EXPECT_EQ(ReaderWith("kill -9 $$").Open(RichText(), {}).result, WordResult::Damaged);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "WordReaderTest.h"
+#include "WordDocumentsTest.h"
 
 namespace quorvantis::test {
 namespace {
 
-class DocxTest : public WordReaderTest {};
+class DocxTest : public WordDocumentsTest {};
 
 std::string P(const std::string& runs) {
   return "<w:p>" + runs + "</w:p>";
@@ -130,7 +130,7 @@ TEST_F(DocxTest, HiddenText) {
                P("<w:pPr><w:pStyle w:val=\"Hidden\"/></w:pPr>" + T("none of it")) +
                P("<w:pPr><w:rPr><w:vanish/></w:rPr></w:pPr>" + T("6")) +
                P("<w:pPr><w:rPr><w:vanish/><w:specVanish/></w:rPr></w:pPr>" + T("7")) + P(T("8")));
-  EXPECT_EQ(Open(builder).document->Content().runningText.characters, u"1\r23\r4\r5\r6\r78\r");
+  EXPECT_EQ(Open(builder).document.runningText.characters, u"1\r23\r4\r5\r6\r78\r");
 }
 
 TEST_F(DocxTest, Tables) {
@@ -148,7 +148,7 @@ TEST_F(DocxTest, Tables) {
       cell(P(R(Box("<w:tbl><w:tr>" + cell(P(T("b"))) + "</w:tr></w:tbl>")))) + "</w:tr></w:tbl>";
   const auto outcome = Open(DocxBuilder().Body(body));
   ASSERT_EQ(outcome.result, WordResult::Done);
-  const WordDocument& document = outcome.document->Content();
+  const WordDocument& document = outcome.document;
   EXPECT_EQ(Shown(document.runningText), u"before<0>\rafter\r");
   EXPECT_EQ(document.pictures, 2U);
   std::vector<std::vector<std::u16string>> rows;
@@ -192,9 +192,10 @@ TEST_F(DocxTest, AutomaticNumbers) {
   builder.Body(Item("1", 0) + Item("1", 1) + Item("1", 1) + Item("1", 0) + Item("1", 1) + Item("1", 2) +
                Item("2", 0) + Item("2", 0) + P("<w:pPr><w:pStyle w:val=\"A\"/></w:pPr>" + T("s")) +
                Item("0", 0) + P("<w:pPr><w:pStyle w:val=\"none\"/></w:pPr>"));
-  EXPECT_EQ(Open(builder, {.listLabels = true, .isCancelled = {}}).document->Content().runningText.characters,
+  EXPECT_EQ(Open(builder, {.listLabels = true, .isCancelled = {}}).document.runningText.characters,
             u"一、x\r1.1\tx\r1.2\tx\r二、x\r2.1\tx\rx\r十一、x\r十二、x\r十三、s\rx\r\r");
-  EXPECT_EQ(Open(builder).document->Content().runningText.characters, u"x\rx\rx\rx\rx\rx\rx\rx\rs\rx\r\r");
+  EXPECT_EQ(Open(builder).document.runningText.characters, u"x\rx\rx\rx\rx\rx\rx\rx\rs\rx\r\r");
+  EXPECT_TRUE(Open(builder).document.hasNumbersLeftOut);
 }
 
 TEST_F(DocxTest, NumbersGoOnPastWhatIsNotCounted) {
@@ -223,7 +224,7 @@ TEST_F(DocxTest, NumbersGoOnPastWhatIsNotCounted) {
                Item("1", 0, "", "<w:sectPr/>") + Item("1", 0, T("a"), deleted) +
                Item("1", 0, "<m:oMath/>" + T("b")) + P("<w:pPr><w:pStyle w:val=\"2\"/></w:pPr>" + T("x")) +
                Item("3", 0, "<m:oMath/>") + Item("3", 0, ""));
-  EXPECT_EQ(Shown(Open(builder, {.listLabels = true, .isCancelled = {}}).document->Content().runningText),
+  EXPECT_EQ(Shown(Open(builder, {.listLabels = true, .isCancelled = {}}).document.runningText),
             u"1. x\rB. x\r\r3. a<#>b\r3.1 x\rأ. <#>\rب. \r");
 }
 
@@ -234,7 +235,7 @@ TEST_F(DocxTest, TheMainPartIsWhereThePackageSaysAndNeverOutside) {
       R"(<Relationships><Relationship Id="x" Type="a/officeDocument" Target="/../../odd/main2.xml"/></Relationships>)");
   builder.Part("odd/main2.xml",
                "<x:document><x:body><x:p><x:r><x:t>a</x:t></x:r></x:p></x:body></x:document>");
-  EXPECT_EQ(Open(builder).document->Content().runningText.characters, u"a\r");
+  EXPECT_EQ(Open(builder).document.runningText.characters, u"a\r");
 }
 
 TEST_F(DocxTest, HostilePackagesEndInAClearOutcome) {
@@ -248,8 +249,7 @@ TEST_F(DocxTest, HostilePackagesEndInAClearOutcome) {
   EXPECT_EQ(Open(DocxBuilder().Body(Repeat("<w:p/>", 5'000'000))).result, WordResult::TooLarge);
   EXPECT_EQ(Open(DocxBuilder().Body(P(Repeat("<a:blip r:embed=\"a\"/>", 10'001)))).result,
             WordResult::TooLarge);
-  EXPECT_EQ(Open(DocxBuilder().Part("word/document.xml", laughs)).document->Content().runningText.characters,
-            u"&b;\r");
+  EXPECT_EQ(Open(DocxBuilder().Part("word/document.xml", laughs)).document.runningText.characters, u"&b;\r");
   EXPECT_EQ(Open(DocxBuilder().Part("word/document.xml", "<w:document><w:body><w:p>")).result,
             WordResult::Damaged);
   EXPECT_EQ(Open(DocxBuilder().Part("word/document.xml", "<html/>")).result, WordResult::Damaged);
@@ -258,10 +258,10 @@ TEST_F(DocxTest, HostilePackagesEndInAClearOutcome) {
 
 TEST_F(DocxTest, FilesThatAreNoDocuments) {
   const auto result = [this](std::string_view bytes) {
-    return reader.Open(WriteBytes(folder / "a.docx", bytes), {}).result;
+    return documents.Open(WriteBytes(folder / "a.docx", bytes), {}).result;
   };
-  EXPECT_EQ(reader.Open(folder / "missing.docx", {}).result, WordResult::NotFound);
-  EXPECT_EQ(reader.Open(folder.Path(), {}).result, WordResult::CannotAccess);
+  EXPECT_EQ(documents.Open(folder / "missing.docx", {}).result, WordResult::NotFound);
+  EXPECT_EQ(documents.Open(folder.Path(), {}).result, WordResult::CannotAccess);
   EXPECT_EQ(result(""), WordResult::UnknownFormat);
   EXPECT_EQ(result("plain text"), WordResult::UnknownFormat);
   EXPECT_EQ(result("PK\x03\x04 and no more"), WordResult::Damaged);
@@ -290,10 +290,11 @@ std::string CompoundFileWith(std::u16string_view stream, char flags, bool isSmal
 
 TEST_F(DocxTest, PasswordsAreNoticed) {
   const auto result = [this](std::string_view bytes) {
-    return reader.Open(WriteBytes(folder / "a.doc", bytes), {}).result;
+    return documents.Open(WriteBytes(folder / "a.doc", bytes), {}).result;
   };
   EXPECT_EQ(result(CompoundFileWith(u"EncryptedPackage", 0)), WordResult::PasswordProtected);
   EXPECT_EQ(result(CompoundFileWith(u"WordDocument", 1)), WordResult::PasswordProtected);
+  EXPECT_EQ(result(CompoundFileWith(u"WORDDOCUMENT", 1)), WordResult::PasswordProtected);
   EXPECT_EQ(result(CompoundFileWith(u"WordDocument", 1, true)), WordResult::PasswordProtected);
   EXPECT_EQ(result(CompoundFileWith(u"Workbook", 0)), WordResult::UnknownFormat);
   DocxBuilder odt;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "WordReaderTest.h"
+#include "WordDocumentsTest.h"
 #include "platform/office/FlatDocument.h"
 #include "platform/office/OfficeWordWriter.h"
 #include "platform/posix/PosixFiles.h"
@@ -32,7 +32,7 @@ constexpr std::pair<std::u16string_view, std::u16string_view> kTexts[] = {
     {u"", u""},
 };
 
-class WordWriterTest : public WordReaderTest {
+class WordWriterTest : public WordDocumentsTest {
  protected:
   /// A program of a test in the place of LibreOffice. In the script, $RESULT is the file it is to make.
   OfficeWordWriter WriterWith(const std::string& script, std::chrono::milliseconds limit = 60s) {
@@ -66,9 +66,9 @@ TEST_F(WordWriterTest, EveryCharacterSurvives) {
     job.target = folder / name;
     job.format = format;
     ASSERT_EQ(OfficeWordWriter(files).Write(job).result, WordWriteResult::Done) << name;
-    const auto outcome = reader.Open(job.target, {});
+    const auto outcome = documents.Open(job.target, {});
     ASSERT_EQ(outcome.result, WordResult::Done) << name;
-    EXPECT_EQ(Utf16ToUtf8(outcome.document->Content().runningText.characters), Utf16ToUtf8(expected)) << name;
+    EXPECT_EQ(Utf16ToUtf8(outcome.document.runningText.characters), Utf16ToUtf8(expected)) << name;
   }
   EXPECT_TRUE(ReadBytes(folder / "exam.doc").starts_with("\xD0\xCF\x11\xE0"));
   job.target = folder / "exam.pdf";

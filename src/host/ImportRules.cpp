@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "host/ImportRulesCopy.h"
+#include "host/ImportRules.h"
 
+#include "platform/posix/ApplicationFolder.h"
 #include "shell/ExamImport.h"
 
 #include <system_error>
 
 namespace quorvantis {
+
+std::filesystem::path FindImportRules(const std::filesystem::path& applicationFolder) {
+  std::filesystem::path own = applicationFolder / kImportRulesFile;
+  std::error_code ignored;
+  return std::filesystem::is_regular_file(own, ignored) ? own : ExecutableFolder() / kImportRulesFile;
+}
 
 void ProvideImportRules(const std::filesystem::path& programFolder,
                         const std::filesystem::path& applicationFolder) {

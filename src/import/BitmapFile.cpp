@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/office/BitmapFile.h"
+#include "import/BitmapFile.h"
 
 namespace quorvantis {
 namespace {

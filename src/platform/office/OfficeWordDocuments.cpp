@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/office/OfficeWordReader.h"
+#include "platform/office/OfficeWordDocuments.h"
 
-#include "platform/office/BitmapFile.h"
 #include "platform/office/CompoundFile.h"
 #include "platform/office/DocumentKind.h"
 #include "platform/office/DocumentPictures.h"
@@ -9,7 +8,6 @@
 #include "platform/office/ImportFilters.h"
 #include "platform/posix/PrivateFolder.h"
 
-#include <fstream>
 #include <new>
 #include <string>
 #include <utility>
@@ -25,33 +23,14 @@ struct PackageInUse {
   std::unique_ptr<ZipPackage> package;
 };
 
-/// Without the care for power cuts that saving takes: what an import wrote is worth nothing without its
-/// questions.
-bool WriteNewFile(const fs::path& file, const std::string& bytes) {
-  std::error_code ignored;
-  fs::remove(file, ignored);
-  std::ofstream out(file, std::ios::binary);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  out.close();
-  if (out.fail()) fs::remove(file, ignored);
-  return !out.fail();
-}
-
-class OpenDocx : public OpenWordDocument {
+class DocxPictures : public WordPictures {
  public:
   // cppcheck-suppress passedByValue // its parts are moved from
-  OpenDocx(PackageInUse source, DocxContent content, OfficeConverter converter)
-      : source_(std::move(source)),
-        document_(std::move(content.document)),
-        pictures_(*source_.package, std::move(content.pictures), std::move(converter)) {}
+  DocxPictures(PackageInUse source, std::vector<PicturePlace> places, OfficeConverter converter)
+      : source_(std::move(source)), pictures_(*source_.package, std::move(places), std::move(converter)) {}
 
-  const WordDocument& Content() const override { return document_; }
-
-  WordResult SavePicture(std::size_t picture, const fs::path& file) override try {
-    PixelGrid pixels;
-    const WordResult decoded = pictures_.Decode(picture, pixels);
-    if (decoded != WordResult::Done) return decoded;
-    return WriteNewFile(file, BitmapFile(pixels).Bytes()) ? WordResult::Done : WordResult::CannotAccess;
+  WordResult Read(std::size_t picture, PixelGrid& pixels) override try {
+    return pictures_.Decode(picture, pixels);
   } catch (const std::bad_alloc&) {
     return WordResult::TooLarge;
   } catch (const fs::filesystem_error&) {
@@ -60,7 +39,6 @@ class OpenDocx : public OpenWordDocument {
 
  private:
   PackageInUse source_;
-  WordDocument document_;
   DocumentPictures pictures_;
 };
 
@@ -72,6 +50,8 @@ std::vector<std::string> FiltersOf(DocumentKind kind) {
       return ImportFiltersOf("odt", "PK\x03\x04");
     case DocumentKind::RichText:
       return ImportFiltersOf("rtf", "{\\rtf");
+    case DocumentKind::WordXml:
+      return {"MS Word 2003 XML"};
     case DocumentKind::Docx:
       break;
   }
@@ -89,27 +69,28 @@ WordResult ConvertToDocx(const fs::path& file, DocumentKind kind, const OfficeCo
 
 }  // namespace
 
-WordReadOutcome OfficeWordReader::Open(const fs::path& file, const WordReadOptions& options) try {
+WordReadOutcome OfficeWordDocuments::Open(const fs::path& file, const WordReadOptions& options) try {
   const DocumentKindOutcome kind = KindOfDocument(file);
-  if (kind.result != WordResult::Done) return {kind.result, nullptr};
+  if (kind.result != WordResult::Done) return {kind.result};
   const OfficeConverter converter(programs_, options.isCancelled);
   PackageInUse source;
   fs::path package = file;
   if (kind.kind != DocumentKind::Docx) {
     source.folder = std::make_unique<PrivateFolder>();
     const WordResult converted = ConvertToDocx(file, kind.kind, converter, source.folder->Path());
-    if (converted != WordResult::Done) return {converted, nullptr};
+    if (converted != WordResult::Done) return {converted};
     package = source.folder->Path() / "document.docx";
   }
   source.package = std::make_unique<ZipPackage>(package);
-  if (source.package->Opened() != WordResult::Done) return {source.package->Opened(), nullptr};
+  if (source.package->Opened() != WordResult::Done) return {source.package->Opened()};
   DocxContent content = ReadDocx(*source.package, options.listLabels);
-  if (content.result != WordResult::Done) return {content.result, nullptr};
-  return {WordResult::Done, std::make_unique<OpenDocx>(std::move(source), std::move(content), converter)};
+  if (content.result != WordResult::Done) return {content.result};
+  return {WordResult::Done, std::move(content.document),
+          std::make_unique<DocxPictures>(std::move(source), std::move(content.pictures), converter)};
 } catch (const std::bad_alloc&) {
-  return {WordResult::TooLarge, nullptr};
+  return {WordResult::TooLarge};
 } catch (const fs::filesystem_error&) {
-  return {WordResult::CannotAccess, nullptr};
+  return {WordResult::CannotAccess};
 }
 
 }  // namespace quorvantis

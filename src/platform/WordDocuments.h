@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/PixelGrid.h"
 #include "platform/WordDocument.h"
 
 #include <cstddef>
@@ -31,27 +32,27 @@ struct WordReadOptions {
                                       ///< processor runs, also for pictures later
 };
 
-/// A document that has been read. The file is no longer needed to be there, but should not change.
-class OpenWordDocument {
+/// The pictures of a document that has been read. The document's file is no longer needed to be there, but
+/// should not change. What had to be made of it for reading goes with this object.
+class WordPictures {
  public:
-  virtual ~OpenWordDocument() = default;
+  virtual ~WordPictures() = default;
 
-  virtual const WordDocument& Content() const = 0;
-
-  /// Writes a picture (`WordObject::picture`) to a bitmap file of 24 bits, in place of a file of that name.
-  /// Some kinds of pictures need the word processor.
-  virtual WordResult SavePicture(std::size_t picture, const std::filesystem::path& file) = 0;
+  /// The pixels of a picture (`WordObject::picture`). Some kinds of pictures need the word processor.
+  virtual WordResult Read(std::size_t picture, PixelGrid& pixels) = 0;
 };
 
+/// Without the result `Done`, the document is empty. `pictures` is null where a document has none.
 struct WordReadOutcome {
   WordResult result = WordResult::Done;
-  std::unique_ptr<OpenWordDocument> document;  ///< set if, and only if, the result is `Done`
+  WordDocument document{};
+  std::unique_ptr<WordPictures> pictures{};
 };
 
 /// Reads the documents of word processors. The document's file is never changed.
-class WordReader {
+class WordDocuments {
  public:
-  virtual ~WordReader() = default;
+  virtual ~WordDocuments() = default;
 
   virtual WordReadOutcome Open(const std::filesystem::path& file, const WordReadOptions& options) = 0;
 };

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/WordReader.h"
+#include "platform/WordDocuments.h"
 #include "platform/office/OfficeConverter.h"
 
 #include <utility>
 
 namespace quorvantis {
 
-/// Reads ".docx" itself; has LibreOffice make one of ".doc", ".odt" and ".rtf" first. What a file is tells
-/// its content, not its name.
-class OfficeWordReader : public WordReader {
+/// Reads ".docx" itself; has LibreOffice make one of ".doc", ".odt", ".rtf" and Word 2003 XML first. What a
+/// file is tells its content, not its name.
+class OfficeWordDocuments : public WordDocuments {
  public:
-  explicit OfficeWordReader(OfficePrograms programs = OfficePrograms::Find())
+  explicit OfficeWordDocuments(OfficePrograms programs = OfficePrograms::Find())
       : programs_(std::move(programs)) {}
 
   WordReadOutcome Open(const std::filesystem::path& file, const WordReadOptions& options) override;

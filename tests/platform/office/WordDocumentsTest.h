@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/office/OfficeWordReader.h"
+#include "platform/office/OfficeWordDocuments.h"
 #include "support/DocxBuilder.h"
 #include "support/TemporaryFolder.h"
 
@@ -23,18 +23,18 @@ inline std::u16string Shown(const WordText& text) {
   return shown;
 }
 
-class WordReaderTest : public testing::Test {
+class WordDocumentsTest : public testing::Test {
  protected:
   WordReadOutcome Open(const DocxBuilder& builder, const WordReadOptions& options = {}) {
-    return reader.Open(builder.Write(folder / "test.docx"), options);
+    return documents.Open(builder.Write(folder / "test.docx"), options);
   }
   std::u16string Running(const std::string& body, const WordReadOptions& options = {}) {
     const WordReadOutcome outcome = Open(DocxBuilder().Body(body), options);
-    return outcome.document ? Shown(outcome.document->Content().runningText) : u"(not read)";
+    return outcome.result == WordResult::Done ? Shown(outcome.document.runningText) : u"(not read)";
   }
 
   TemporaryFolder folder;
-  OfficeWordReader reader;
+  OfficeWordDocuments documents;
 };
 
 }  // namespace quorvantis::test

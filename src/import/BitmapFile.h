@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/office/PixelGrid.h"
+#include "platform/PixelGrid.h"
 
 #include <string>
 

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "import/WordReader.h"
+
+#include "editor/WorkCopies.h"
+#include "import/BitmapFile.h"
+#include "import/ImportMarkers.h"
+#include "text/NumberText.h"
+#include "text/PathText.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <fstream>
+#include <new>
+#include <string_view>
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char16_t kBoxCharacter = u'\u2574';
+
+/// Of all pictures together. A document of a few kilobytes can hold pictures that fill any disk.
+constexpr std::uintmax_t kMostPictureBytes = std::uintmax_t{1} << 30;
+
+template <class Visit>
+void VisitTexts(WordDocument& document, const Visit& visit) {
+  visit(document.runningText);
+  for (WordTable& table : document.tables) {
+    for (auto& row : table.rows) {
+      for (WordText& cell : row) visit(cell);
+    }
+  }
+}
+
+/// Puts a text in the place of each object of one kind; the others move along.
+template <class TextOf>
+void FillPlaces(WordText& text, WordObjectKind kind, const TextOf& textOf) {
+  const std::u16string_view characters = text.characters;
+  WordText filled;
+  std::size_t from = 0;
+  for (const WordObject& object : text.objects) {
+    const std::size_t place = std::min(object.position, characters.size());
+    filled.characters += characters.substr(from, place - from);
+    from = place;
+    if (object.kind == kind) {
+      filled.characters += textOf(object);
+    } else {
+      filled.objects.push_back(object);
+      filled.objects.back().position = filled.characters.size();
+    }
+  }
+  filled.characters += characters.substr(from);
+  text = std::move(filled);
+}
+
+/// Without the care for power cuts that saving takes: what an import wrote is worth nothing without its
+/// questions.
+bool WriteNewFile(const fs::path& file, const std::string& bytes) {
+  std::error_code ignored;
+  fs::remove(file, ignored);
+  std::ofstream out(file, std::ios::binary);
+  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  out.close();
+  if (out.fail()) fs::remove(file, ignored);
+  return !out.fail();
+}
+
+std::vector<PaperTable> PaperTables(const std::vector<WordTable>& tables) {
+  std::vector<PaperTable> paperTables;
+  for (const WordTable& table : tables) {
+    auto& rows = paperTables.emplace_back().rows;
+    for (const auto& row : table.rows) {
+      auto& cells = rows.emplace_back();
+      for (const WordText& cell : row) cells.push_back(cell.characters);
+    }
+  }
+  return paperTables;
+}
+
+}  // namespace
+
+std::u16string PictureFileName(int number) {
+  return FormatInteger(number).append(kPictureSuffix);
+}
+
+bool WordReader::OpenDocument(const fs::path& file, bool listLabels) {
+  WordReadOutcome opened = documents_.Open(file, {listLabels, watch_.isCancelled});
+  result_ = opened.result;
+  document_ = std::move(opened.document);
+  pictures_ = std::move(opened.pictures);
+  return result_ == WordResult::Done;
+}
+
+void WordReader::ReplaceBoxCharacters() {
+  if (document_.isPlainText) return;
+  VisitTexts(document_, [](WordText& text) { std::ranges::replace(text.characters, kBoxCharacter, u'_'); });
+}
+
+/// A picture that cannot be read is no reason to have none of the questions.
+std::optional<int> WordReader::SavePictures(int firstNumber) {
+  const std::size_t count = document_.pictures;
+  std::error_code ignored;
+  std::uintmax_t bytes = 0;
+  if (count > 0) MakeWorkRoot(workRoot_);
+  for (std::size_t picture = 0; picture < count; ++picture) {
+    const int number = firstNumber + static_cast<int>(picture);
+    const fs::path file = FileOf(number);
+    fs::remove(file, ignored);  // an older picture must not pass for this one
+    WordResult saved = IsCancelled() ? WordResult::Cancelled : WordResult::TooLarge;
+    if (saved != WordResult::Cancelled && bytes < kMostPictureBytes) saved = SavePicture(picture, file);
+    if (saved == WordResult::Cancelled) {
+      for (int n = firstNumber; n <= number; ++n) fs::remove(FileOf(n), ignored);
+      result_ = saved;
+      return std::nullopt;
+    }
+    if (saved == WordResult::Done) bytes += fs::file_size(file, ignored);
+    if (saved != WordResult::Done) lostPictures_.push_back({number, saved});
+    if (watch_.pictureSaved) watch_.pictureSaved(picture + 1, count);
+  }
+  VisitTexts(document_, [&](WordText& text) {
+    FillPlaces(text, WordObjectKind::Picture, [&](const WordObject& object) {
+      return u" " + PictureFileName(firstNumber + static_cast<int>(object.picture)) + u" ";
+    });
+  });
+  return firstNumber + static_cast<int>(count);
+}
+
+fs::path WordReader::FileOf(int picture) const {
+  return workRoot_ / TextToPath(PictureFileName(picture));
+}
+
+WordResult WordReader::SavePicture(std::size_t picture, const fs::path& file) {
+  std::string bitmap;
+  const WordResult read = ReadClipboardBitmap(picture, bitmap);
+  if (read != WordResult::Done) return read;
+  return WriteNewFile(file, bitmap) ? WordResult::Done : WordResult::CannotAccess;
+}
+
+/// The picture in hand as a bitmap file. A word processor would pass it on by the clipboard; here it comes
+/// straight from the document, and what the user has copied stays.
+WordResult WordReader::ReadClipboardBitmap(std::size_t picture, std::string& bitmap) {
+  if (!pictures_) return WordResult::NotFound;
+  try {
+    PixelGrid pixels;
+    const WordResult read = pictures_->Read(picture, pixels);
+    if (read == WordResult::Done) bitmap = BitmapFile(pixels).Bytes();
+    return read;
+  } catch (const std::bad_alloc&) {
+    return WordResult::TooLarge;
+  }
+}
+
+std::size_t WordReader::MaskFormulas() {
+  std::size_t found = 0;
+  VisitTexts(document_, [&found](WordText& text) {
+    FillPlaces(text, WordObjectKind::Equation, [&found](const WordObject&) {
+      ++found;
+      return kFormulaText;
+    });
+  });
+  return found;
+}
+
+MarkedText WordReader::TableToString(const ImportSettings& rules) const {
+  return quorvantis::TableToString(PaperTables(document_.tables), rules, watch_.isCancelled);
+}
+
+MarkedText WordReader::TextToString(const ImportSettings& rules) const {
+  return quorvantis::TextToString(document_.runningText.characters, rules, watch_.isCancelled);
+}
+
+void WordReader::CloseDocument() {
+  document_ = {};
+}
+
+}  // namespace quorvantis
