@@ -101,6 +101,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       question_(editor_, exam.Services().strings, pictures_, this),
       answers_(editor_, exam.Services().strings, pictures_, this),
       recoveryFails_(new WarningNotice("recoveryFails", this)),
+      scroll_(*this),
       cancel_(MakeHiddenButton("cancel", this)),
       ok_(MakeHiddenButton("ok", this)),
       printAgain_(MakeHiddenButton("printAgain", this)) {
@@ -116,6 +117,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
   connect(ok_, &QPushButton::clicked, this, &CQuorvantisDlg::EndUnasked);
   ok_->setEnabled(false);  // so that Enter does not end the window
   connect(printAgain_, &QPushButton::clicked, this, &CQuorvantisDlg::Print);
+  connect(&scroll_, &WindowScroll::Scrolled, this, &CQuorvantisDlg::Layout);
   SetFirstSize(*this);
   OfferImport();
   editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
@@ -166,7 +168,7 @@ WindowControls CQuorvantisDlg::Controls() {
 }
 
 void CQuorvantisDlg::Layout() {
-  PlaceControls(*this, Controls(), editor_, exam_.Services().debug);
+  PlaceControls(scroll_, Controls(), editor_, exam_.Services().debug);
 }
 
 /// Without the file that tells how documents are read there is no import in this run.

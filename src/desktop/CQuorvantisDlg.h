@@ -10,6 +10,7 @@
 #include "desktop/QuestionControls.h"
 #include "desktop/WarningNotice.h"
 #include "desktop/WindowLayout.h"
+#include "desktop/WindowScroll.h"
 #include "editor/ExamEditor.h"
 #include "preview/PreviewWindows.h"
 #include "recovery/RecoveryKeeper.h"
@@ -120,6 +121,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   QuestionControls question_;
   AnswerControls answers_;
   WarningNotice* recoveryFails_;
+  WindowScroll scroll_;
   QPushButton* cancel_;  ///< never seen, like the two below
   QPushButton* ok_;
   QPushButton* printAgain_;

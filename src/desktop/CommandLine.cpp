@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/CommandLine.h"
 
+#include "desktop/DialogStyle.h"
 #include "desktop/QtText.h"
 #include "shell/LanguageId.h"
 
@@ -29,7 +30,9 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
            argument == "-v";
   };
   if (std::any_of(argv, argv + argc, onlyAsks)) return std::make_unique<QCoreApplication>(argc, argv);
-  return std::make_unique<QApplication>(argc, argv);
+  auto application = std::make_unique<QApplication>(argc, argv);
+  QApplication::setStyle(new DialogStyle);
+  return application;
 }
 
 CommandLine ParseCommandLine(const QCoreApplication& application) {

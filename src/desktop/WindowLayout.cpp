@@ -21,9 +21,9 @@ PixelSize TextSize(const QLabel& label) {
   return TextSize(label, label.text());
 }
 
-LayoutInput Measure(const QWidget& window, const WindowControls& controls, const ExamEditor& editor) {
+LayoutInput Measure(PixelSize area, const WindowControls& controls, const ExamEditor& editor) {
   LayoutInput input;
-  input.client = {window.width(), window.height()};
+  input.client = area;
   for (std::size_t i = 0; i < kToolbarButtons; ++i) {
     input.enabled[i] = controls.files.InOrder()[i]->isEnabled();
   }
@@ -43,12 +43,13 @@ LayoutInput Measure(const QWidget& window, const WindowControls& controls, const
 /// Moves controls of one window to their places.
 class Placer {
  public:
-  explicit Placer(const QWidget& window) : width_(window.width()), mirrored_(window.isRightToLeft()) {}
+  Placer(PixelSize area, const WindowScroll& scroll)
+      : width_(area.width), origin_(scroll.Origin()), mirrored_(scroll.Window().isRightToLeft()) {}
 
   void Place(QWidget* control, const std::optional<PixelRect>& place) const {
     if (!place) return;
     const PixelRect at = mirrored_ ? Mirrored(*place, width_) : *place;
-    control->setGeometry(at.x, at.y, at.width, at.height);
+    control->setGeometry(origin_.x() + at.x, origin_.y() + at.y, at.width, at.height);
   }
 
   template <class Controls, class Places>
@@ -58,6 +59,7 @@ class Placer {
 
  private:
   int width_;
+  QPoint origin_;
   bool mirrored_;
 };
 
@@ -107,11 +109,11 @@ void TellDisabled(const LayoutInput& input, DebugOutput& debug) {
 
 }  // namespace
 
-void PlaceControls(const QWidget& window, const WindowControls& controls, const ExamEditor& editor,
+void PlaceControls(WindowScroll& scroll, const WindowControls& controls, const ExamEditor& editor,
                    DebugOutput& debug) {
-  const LayoutInput input = Measure(window, controls, editor);
+  const LayoutInput input = Measure(scroll.Fit(), controls, editor);
   const LayoutPlaces places = Layout(input);
-  const Placer placer(window);
+  const Placer placer(input.client, scroll);
   placer.PlaceAll(controls.files.InOrder(), places.toolbar);
   PlaceExam(placer, controls.exam, places);
   placer.Place(controls.questionArea, places.questionArea);

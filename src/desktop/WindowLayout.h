@@ -7,12 +7,13 @@
 #include "desktop/QuestionArea.h"
 #include "desktop/QuestionControls.h"
 #include "desktop/WarningNotice.h"
+#include "desktop/WindowScroll.h"
 #include "platform/DebugOutput.h"
 
 namespace quorvantis {
 
-/// Everything that the window shows. All are children of the window itself, in whose coordinates they are
-/// placed.
+/// Everything that the window shows but its scroll bars. All are children of the window itself, in whose
+/// coordinates they are placed.
 struct WindowControls {
   FileButtons& files;
   ExamControls& exam;
@@ -22,9 +23,10 @@ struct WindowControls {
   WarningNotice* notice;
 };
 
-/// Gives every control of `window` its place for the state that `editor` is in; mirrored, where the window
-/// runs from right to left. Names the buttons of the toolbar that are out of use on `debug`.
-void PlaceControls(const QWidget& window, const WindowControls& controls, const ExamEditor& editor,
+/// Gives every control of the window that `scroll` scrolls its place for the state that `editor` is in;
+/// mirrored, where the window runs from right to left. Names the buttons of the toolbar that are out of use
+/// on `debug`.
+void PlaceControls(WindowScroll& scroll, const WindowControls& controls, const ExamEditor& editor,
                    DebugOutput& debug);
 
 /// The Tab key walks along the rows of the window, from top to bottom.

@@ -11,7 +11,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <optional>
+#include <string>
 
 namespace quorvantis::test {
 namespace {
@@ -60,6 +63,27 @@ TEST(Program, EndsWithoutALanguage) {
   ASSERT_TRUE(program.waitForFinished());
   EXPECT_EQ(program.exitCode(), 2);
   EXPECT_TRUE(program.readAllStandardError().contains("Cann't find any language file!"));
+}
+
+/// What ./run builds, in a folder of its own, so that nothing else that a build makes can help.
+TEST(Program, OffersImportInTheFirstWindow) {
+  const TemporaryFolder folder;
+  const std::filesystem::path application(std::filesystem::path(kProgram).parent_path());
+  std::ifstream files(QUORVANTIS_APPLICATION);
+  for (std::string file; std::getline(files, file);) {
+    const std::filesystem::path target = folder / std::filesystem::relative(file, application);
+    std::filesystem::create_directories(target.parent_path());
+    std::filesystem::copy_file(file, target);
+  }
+  const QString picture = PathToQString(folder / "window.png");
+  QProcess program;
+  program.start(PathToQString(folder / "quorvantis"),
+                {"--debug", "--language", "0x0409", "--screenshot", picture,
+                 PathToQString(folder / "samples/world-around-us.exm")});
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_EQ(program.exitCode(), 0);
+  EXPECT_FALSE(QImage(picture).isNull());
+  EXPECT_FALSE(program.readAllStandardError().contains("!file.Open")) << "Import is hidden";
 }
 
 /// As that of a program which was killed a moment ago.

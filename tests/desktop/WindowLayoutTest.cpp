@@ -3,8 +3,10 @@
 #include "shell/Layout.h"
 
 #include <QLabel>
+#include <QScrollBar>
 
 #include <fstream>
+#include <set>
 
 namespace quorvantis::test {
 namespace {
@@ -108,6 +110,38 @@ TEST_F(WindowLayout, HasTheSmallestAndTheFirstSize) {
   EXPECT_EQ(window->minimumSize(), QSize(792, 646));
   EXPECT_EQ(window->maximumSize(), window->screen()->size());
   EXPECT_EQ(window->size(), QSize(870, 675).boundedTo(window->screen()->size()));
+}
+
+TEST_F(WindowLayout, ScrollsEveryControlIntoASmallWindow) {
+  exam.examAttachmentNames[0] = exam.Question(1).attachmentNames[0] = u"file.jpg";
+  Open();
+  window->setMinimumSize(1, 1);
+  auto &across = Control<QScrollBar>("scrollAcross"), &down = Control<QScrollBar>("scrollDown");
+  for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    window->setLayoutDirection(direction);
+    window->resize(600, 432);
+    ASSERT_TRUE(across.isVisible() && down.isVisible());
+    std::set<QWidget*> unreached;
+    for (auto* control : window->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
+      if (control->isVisible()) unreached.insert(control);
+    }
+    for (const int x : {0, across.maximum()}) {
+      for (const int y : {0, down.maximum()}) {
+        across.setValue(x);
+        down.setValue(y);
+        std::erase_if(unreached, [&](QWidget* control) {
+          const QRect at = control->geometry();
+          return window->childAt(at.topLeft()) == control && window->childAt(at.bottomRight()) == control;
+        });
+      }
+    }
+    for (const QWidget* control : unreached) ADD_FAILURE() << direction << qPrintable(control->objectName());
+    Press("questionText", Qt::Key_Backtab);  // to the last button of the row above
+    EXPECT_EQ(window->childAt(QApplication::focusWidget()->geometry().center()), QApplication::focusWidget());
+    window->resize(792, 646);
+    ASSERT_FALSE(across.isVisible() || down.isVisible());
+    ExpectLaidOut(QuestionKind::Choice, true);
+  }
 }
 
 TEST_F(WindowLayout, ImportIsThereOnlyWithItsRules) {

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <utility>
+
 namespace quorvantis {
 
 void PrintTo(const PixelRect& rect, std::ostream* out) {
@@ -128,6 +131,23 @@ TEST(SizeLimits, GiveWayToASmallScreen) {
   check(small.smallest, {792, 530});
   check(small.largest, {1024, 600});
   check(small.atStart, {870, 530});
+}
+
+TEST(ScrollIn, HasBarsOnlyWhereControlsHaveNoRoom) {
+  const std::pair<PixelSize, ScrolledView> rows[] = {
+      {{792, 646}, {{792, 646}, {792, 646}}},                                          // no bar
+      {{900, 800}, {{900, 800}, {900, 800}}}, {{791, 700}, {{792, 690}, {791, 690}}},  // across
+      {{791, 650}, {{792, 646}, {781, 640}}},  // across, for which there must be one down
+      {{900, 600}, {{890, 646}, {890, 600}}},  // down
+      {{795, 600}, {{792, 646}, {785, 590}}},  // down, for which there must be one across
+      {{640, 472}, {{792, 646}, {630, 462}}}};
+  for (const auto& [client, expected] : rows) {
+    const ScrolledView given = ScrollIn(client, 10);
+    EXPECT_EQ(
+        std::tuple(given.area.width, given.area.height, given.view.width, given.view.height),
+        std::tuple(expected.area.width, expected.area.height, expected.view.width, expected.view.height))
+        << client.width << 'x' << client.height;
+  }
 }
 
 }  // namespace
