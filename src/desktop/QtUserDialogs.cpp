@@ -29,13 +29,19 @@ void OfferFilters(QFileDialog& dialog, const std::vector<FileFilter>& filters) {
   dialog.setOption(QFileDialog::HideNameFilterDetails);  // the labels bring their own
 }
 
-QString SelectedExtension(const QFileDialog& dialog, const std::vector<FileFilter>& filters,
-                          const QString& fallback) {
+/// The chosen one; the dialog tells it with or without its patterns. Null when it is none of them.
+const FileFilter* SelectedFilter(const QFileDialog& dialog, const std::vector<FileFilter>& filters) {
   const QString selected = dialog.selectedNameFilter();
   for (const FileFilter& filter : filters) {
-    if (selected == filter.ForQt() || selected == filter.label) return filter.FirstExtension();
+    if (selected == filter.ForQt() || selected == filter.label) return &filter;
   }
-  return fallback;
+  return nullptr;
+}
+
+QString SelectedExtension(const QFileDialog& dialog, const std::vector<FileFilter>& filters,
+                          const QString& fallback) {
+  const FileFilter* const selected = SelectedFilter(dialog, filters);
+  return selected != nullptr ? selected->FirstExtension() : fallback;
 }
 
 /// Qt would begin in the folder of the program, which is nobody's.
@@ -104,14 +110,16 @@ void QtUserDialogs::BeginIn(const std::filesystem::path& folder) {
 
 std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToOpen(const FileDialogRequest& request) {
   LastUse& last = lastUses_[request.filter];
+  const std::vector<FileFilter> filters = ParseFilters(request.filter);
   QFileDialog dialog(parent_);
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setDirectory(ExistingFolder(last.folder.empty() ? folder_ : last.folder));
-  OfferFilters(dialog, ParseFilters(request.filter));
+  OfferFilters(dialog, filters);
   if (!last.filter.isEmpty()) dialog.selectNameFilter(last.filter);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   const std::filesystem::path file = QStringToPath(dialog.selectedFiles().front());
-  last = {dialog.selectedNameFilter(), file.parent_path()};
+  const FileFilter* const selected = SelectedFilter(dialog, filters);
+  last = {selected != nullptr ? selected->ForQt() : QString(), file.parent_path()};
   return file;
 }
 

@@ -114,7 +114,7 @@ TEST_F(UserDialogsTest, OpeningBeginsWithTheKindAndInTheFolderOfLastTime) {
       EXPECT_EQ(QStringToPath(files.directory().absolutePath()), where);
       EXPECT_EQ(files.selectedNameFilter(), kind);
     });
-    choose.isEmpty() ? Press(Qt::Key_Escape) : EnterName(choose, "All files");
+    choose.isEmpty() ? Press(Qt::Key_Escape) : EnterName(choose, "All files (*)");
     EXPECT_EQ(dialogs.ChooseFileToOpen(request).has_value(), !choose.isEmpty());
   };
   dialogs.BeginIn(exams);
