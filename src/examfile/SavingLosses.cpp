@@ -121,9 +121,8 @@ class LossFinder {
   /// The form of the answer tells where it is cut.
   void CheckFillInAnswer(const std::u16string& answer) {
     if (!IsCutForItsForm(exam_, number_)) return CheckText(text_id::kFillInAnswer, answer, kMaxFillInAnswer);
-    const std::u16string cut =
-        Filled(text_id::kTextCut, {strings_.Text(text_id::kFillInAnswer), Digits(answer.size()),
-                                   Digits(kMaxShortAnswer)});
+    const std::u16string cut = Filled(text_id::kTextCut, {strings_.Text(text_id::kFillInAnswer),
+                                                          Digits(answer.size()), Digits(kMaxShortAnswer)});
     losses_.push_back({number_, cut, true, true});
   }
 
