@@ -190,7 +190,7 @@ TEST_F(ImportCommand, AsksAboutPicturesInAnswers) {
 }
 
 TEST_F(ImportCommand, WritesItsTextsWhenARuleFails) {
-  WriteBytes(folder / "rules.ini", Rules("Q;", ".+") + "[2]\nPattern=x\nPreQuestion=Q;\nPreAnswer=!|A;\n");
+  WriteBytes(folder / "rules.ini", Rules("Q;", ".+") + "[2]\nPattern=x\nPreQuestion=Q;\nPreAnswer=@|A;\n");
   ExpectFailure(Import("Q;aA;b", {"--repository", "#2", "--text", Path("t"), "--marked", Path("m")}),
                 "\"PreAnswer\" in ImportExam.ini never comes to an end");
   EXPECT_EQ(ReadText(folder / "t"), "Q;aA;b");
@@ -214,7 +214,7 @@ TEST_F(ImportCommand, TellsOfAnswersThatGoByOrder) {
   const auto told = [this](const std::string& key) {
     WriteBytes(folder / "rules.ini",
                "[Repository]\nSize=1\n[0]\nPreQuestion=Q;\nPreAnswer=A;\nPattern=(?<Q1>[^Q]+)\n"
-               "PreAllAnswer=Key\nChoiceAnswerPattern=Key.*\nChoiceAnswer=(?<=[.-])[A-E]\n");
+               "PreAllAnswer=Key\nChoiceAnswerPattern=[$]{5}.*\nChoiceAnswer=(?<=[.-])[A-E]\n");
     const std::string out = Import("Q;aQ;bQ;cKey " + key).out;
     const std::size_t at = out.find("the answer with number");
     return at == std::string::npos ? "" : out.substr(at + 16, out.find(" of the paper", at) - at - 16);
