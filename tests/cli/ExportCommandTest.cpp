@@ -16,7 +16,8 @@ class ExportCommands : public CommandLineTest {
   }
   std::string TextOf(const char* document) const {
     const auto outcome = OfficeWordDocuments().Open(folder / document, {});
-    return outcome.result == WordResult::Done ? Utf16ToUtf8(outcome.document.runningText.characters) : "(not read)";
+    return outcome.result == WordResult::Done ? Utf16ToUtf8(outcome.document.runningText.characters)
+                                              : "(not read)";
   }
 
   const std::string exam = Path("exam.exm");

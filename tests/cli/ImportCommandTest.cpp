@@ -190,7 +190,7 @@ TEST_F(ImportCommand, AsksAboutPicturesInAnswers) {
 }
 
 TEST_F(ImportCommand, WritesItsTextsWhenARuleFails) {
-  WriteBytes(folder / "rules.ini", Rules("Q;", ".+") + "[2]\nPattern=x\nPreQuestion=Q;\nPreAnswer=!|A;\n");
+  WriteBytes(folder / "rules.ini", Rules("Q;", ".+") + "[2]\nPattern=x\nPreQuestion=Q;\nPreAnswer=@|A;\n");
   ExpectFailure(Import("Q;aA;b", {"--repository", "#2", "--text", Path("t"), "--marked", Path("m")}),
                 "\"PreAnswer\" in ImportExam.ini never comes to an end");
   EXPECT_EQ(ReadText(folder / "t"), "Q;aA;b");
@@ -214,7 +214,7 @@ TEST_F(ImportCommand, TellsOfAnswersThatGoByOrder) {
   const auto told = [this](const std::string& key) {
     WriteBytes(folder / "rules.ini",
                "[Repository]\nSize=1\n[0]\nPreQuestion=Q;\nPreAnswer=A;\nPattern=(?<Q1>[^Q]+)\n"
-               "PreAllAnswer=Key\nChoiceAnswerPattern=Key.*\nChoiceAnswer=(?<=[.-])[A-E]\n");
+               "PreAllAnswer=Key\nChoiceAnswerPattern=[$]{5}.*\nChoiceAnswer=(?<=[.-])[A-E]\n");
     const std::string out = Import("Q;aQ;bQ;cKey " + key).out;
     const std::size_t at = out.find("the answer with number");
     return at == std::string::npos ? "" : out.substr(at + 16, out.find(" of the paper", at) - at - 16);
@@ -246,12 +246,13 @@ TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
     arguments.insert(arguments.end(), more.begin(), more.end());
     return Command(arguments);
   };
-  EXPECT_EQ(import({"--mend-line-ends", "--answer-pictures", "force"}).out,
-            "3 questions read: 0 choice, 0 true/false, 0 fill-in, 3 essay.\n"
-            "A picture that could not be read (of an unknown kind): 2 of question 3.\n"
-            "1 formula cannot be kept; \"##\" stands in its place.\n"
-            "Question 1 is imported as it is, with the names of its pictures in its texts: an import that begins "
-            "with question 1 does not look at the pictures and formulas of its first question.\n");
+  EXPECT_EQ(
+      import({"--mend-line-ends", "--answer-pictures", "force"}).out,
+      "3 questions read: 0 choice, 0 true/false, 0 fill-in, 3 essay.\n"
+      "A picture that could not be read (of an unknown kind): 2 of question 3.\n"
+      "1 formula cannot be kept; \"##\" stands in its place.\n"
+      "Question 1 is imported as it is, with the names of its pictures in its texts: an import that begins "
+      "with question 1 does not look at the pictures and formulas of its first question.\n");
   EXPECT_EQ(Questions(),
             "essay: see 1.bmp there yes\nessay: two ##\nessay: lost  2.bmp(Can not show the picture) \n");
   // The first question of a new exam is never looked at.

@@ -81,7 +81,9 @@ TEST(TextMarking, EndsWhenItIsCancelled) {
   ImportSettings rules;
   rules.m_strPreAnswer = u"(a|a\\b|b)*\\1{0}(?R)?c";
   const CancelHook cancelled = [] { return true; };
-  EXPECT_THROW(TextToString(u"aaaa", rules, cancelled), ImportFailure);
+  const MarkedText marked = TextToString(u"aaaa", rules, cancelled);
+  ASSERT_TRUE(marked.failure);
+  EXPECT_EQ(marked.failure->reason, ImportFailure::Reason::Cancelled);
 }
 
 /// Replaces as the rule says, always from the first character.

@@ -45,6 +45,7 @@ TEST(QuestionParsing, DecidesTheKind) {
   EXPECT_EQ(Parsed(rules, u"!!!!!none@@@@@").dropped[0].key, u"Pattern");
   EXPECT_EQ(Parsed(rules, u"!!!!! \r none").dropped[0].key, u"PreAnswer");
   EXPECT_EQ(Parsed(rules, u"!!!!! \r none").dropped[0].text, u"none");
+  EXPECT_EQ(Parsed(rules, u"no question mark").dropped[0].text, u"no question mark");
 
   rules.m_strChoiceAnswerPattern = u"Keys:.*";
   rules.m_strChoiceAnswer = u"\\d\\.[A-E]+";
