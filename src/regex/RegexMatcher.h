@@ -6,6 +6,7 @@
 #include "regex/MatchResult.h"
 #include "regex/RegexProgram.h"
 
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -95,10 +96,18 @@ class RegexMatcher {
     return memory_.IsOn() && instruction.memory != kNowhere;
   }
   int Row(const Instruction& instruction, int position) const;
-  bool CanComeNext(const CharacterSet* units, bool backward, int position) const;
+  bool CanComeNext(const CharacterSet* units, bool backward, int position) const {
+    if (!units) return true;
+    const int at = backward ? position - 1 : position;
+    return at >= 0 && at < length_ && units->Contains(text_[static_cast<std::size_t>(at)]);
+  }
 
   /// Takes the fields and not an entry: copying one that was just put together waits for its parts.
-  void Push(EntryKind kind, int a, int b, int c = 0) { stack_.push_back({kind, a, b, c}); }
+  void Push(EntryKind kind, int a, int b, int c = 0) {
+    if (stack_.capacity() == 0) stack_.reserve(kUsualEntries);
+    stack_.push_back({kind, a, b, c});
+  }
+  static constexpr std::size_t kUsualEntries = 64;  ///< enough for most matches that need any
   void SetBound(int index, int value);
   void SetRegister(int index, int value);
   void Restore(const Entry& entry);
@@ -108,7 +117,8 @@ class RegexMatcher {
   MatchContext& context_;
   const int length_;
   int scanStart_ = 0;
-  std::vector<int> bounds_;
+  std::vector<int> entries_;  ///< of the result
+  std::span<int> bounds_;     ///< the part of them with the starts and ends of groups
   std::vector<int> registers_;
   std::vector<Entry> stack_;
   std::vector<Frame> frames_;
