@@ -80,7 +80,7 @@ class LookAheadFinder {
   const StartSearch* StartsAt(int place) {
     std::vector<StartSearch::Condition> conditions;
     const auto add = [&](int offset, const std::optional<CharacterSet>& units) {
-      if (units) conditions.push_back({offset, Keep(*units)});
+      if (units && *units != CharacterSet::All()) conditions.push_back({offset, Keep(*units)});
     };
     add(0, FindFirstUnits(program_, place));
     add(1, FindSecondUnits(program_, place));

@@ -25,11 +25,12 @@ RegexMatcher::RegexMatcher(const RegexProgram& program, std::u16string_view text
       text_(text),
       context_(context),
       length_(static_cast<int>(text.size())),
-      entries_(2 * static_cast<std::size_t>(program.groups) + 2, -1),
-      bounds_(std::span(entries_).subspan(2)) {
+      entries_(2 * static_cast<std::size_t>(program.groups) + 2 +
+               static_cast<std::size_t>(program.registers)),
+      bounds_(std::span(entries_).subspan(2, 2 * static_cast<std::size_t>(program.groups))),
+      registers_(std::span(entries_).last(static_cast<std::size_t>(program.registers))) {
   entries_[0] = 1;
   entries_[1] = program.groups;
-  registers_.resize(static_cast<std::size_t>(program.registers));
 }
 
 MatchResult RegexMatcher::Find(int start) {
@@ -46,6 +47,7 @@ MatchResult RegexMatcher::Find(int start) {
     if (!matches && failed) failed->Add(place, seen_);
     if (!matches) continue;
     if (failed) failed->Matched(seen_);
+    entries_.resize(entries_.size() - registers_.size());
     return MatchResult(std::move(entries_));
   }
   return MatchResult(stopped_);
@@ -321,7 +323,7 @@ bool RegexMatcher::Resume(const Entry& entry, Thread& thread) {
     case EntryKind::Failure:
       memory_.Remember(entry.a, entry.b);
       return false;
-    case EntryKind::RestoreBound:
+    case EntryKind::RestoreGroup:
     case EntryKind::RestoreRegister:
     case EntryKind::RestoreFrame:
       Restore(entry);
@@ -331,7 +333,10 @@ bool RegexMatcher::Resume(const Entry& entry, Thread& thread) {
 }
 
 void RegexMatcher::Restore(const Entry& entry) {
-  if (entry.kind == EntryKind::RestoreBound) bounds_[static_cast<std::size_t>(entry.a)] = entry.b;
+  if (entry.kind == EntryKind::RestoreGroup) {
+    bounds_[2 * static_cast<std::size_t>(entry.a)] = entry.b;
+    bounds_[2 * static_cast<std::size_t>(entry.a) + 1] = entry.c;
+  }
   if (entry.kind == EntryKind::RestoreRegister) registers_[static_cast<std::size_t>(entry.a)] = entry.b;
   if (entry.kind != EntryKind::RestoreFrame) return;
   frame_ = entry.a;
@@ -342,10 +347,13 @@ void RegexMatcher::Restore(const Entry& entry) {
 }
 
 /// Changes that no choice lies below need no way back.
-void RegexMatcher::SetBound(int index, int value) {
-  int& bound = bounds_[static_cast<std::size_t>(index)];
-  if (!stack_.empty() && bound != value) Push(EntryKind::RestoreBound, index, bound);
-  bound = value;
+void RegexMatcher::SetGroup(int group, int start, int end) {
+  int& oldStart = bounds_[2 * static_cast<std::size_t>(group)];
+  int& oldEnd = bounds_[2 * static_cast<std::size_t>(group) + 1];
+  if (!stack_.empty() && (oldStart != start || oldEnd != end))
+    Push(EntryKind::RestoreGroup, group, oldStart, oldEnd);
+  oldStart = start;
+  oldEnd = end;
 }
 
 void RegexMatcher::SetRegister(int index, int value) {
@@ -356,8 +364,7 @@ void RegexMatcher::SetRegister(int index, int value) {
 
 void RegexMatcher::Capture(const Instruction& instruction, int position) {
   const int begin = registers_[static_cast<std::size_t>(instruction.other)];
-  SetBound(2 * instruction.index, std::min(begin, position));
-  SetBound(2 * instruction.index + 1, std::max(begin, position));
+  SetGroup(instruction.index, std::min(begin, position), std::max(begin, position));
 }
 
 }  // namespace quorvantis

@@ -37,7 +37,7 @@ class RegexMatcher {
     NextIteration,  ///< enter the body of the CountedLoop at `a`, position `b`
     Barrier,        ///< the body of the Look or Atomic at `a`, begun at position `b`, has failed
     // What has to be set back on the way:
-    RestoreBound,     ///< bounds_[a] was b
+    RestoreGroup,     ///< group a was from b to c
     RestoreRegister,  ///< registers_[a] was b
     RestoreFrame,     ///< the frame was a, of b frames
     // Notes:
@@ -108,7 +108,7 @@ class RegexMatcher {
     stack_.push_back({kind, a, b, c});
   }
   static constexpr std::size_t kUsualEntries = 64;  ///< enough for most matches that need any
-  void SetBound(int index, int value);
+  void SetGroup(int group, int start, int end);
   void SetRegister(int index, int value);
   void Restore(const Entry& entry);
 
@@ -117,9 +117,9 @@ class RegexMatcher {
   MatchContext& context_;
   const int length_;
   int scanStart_ = 0;
-  std::vector<int> entries_;  ///< of the result
-  std::span<int> bounds_;     ///< the part of them with the starts and ends of groups
-  std::vector<int> registers_;
+  std::vector<int> entries_;  ///< of the result, and the registers behind them
+  std::span<int> bounds_;     ///< of these, the starts and ends of groups
+  std::span<int> registers_;
   std::vector<Entry> stack_;
   std::vector<Frame> frames_;
   std::vector<int> savedValues_;

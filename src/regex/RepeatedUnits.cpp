@@ -54,8 +54,8 @@ bool RegexMatcher::EndRepeat(const Instruction& instruction, Thread& thread, int
   thread.position = to;
   ++thread.place;
   if (instruction.index == kNowhere || low == to) return true;
-  SetBound(2 * instruction.index, instruction.backward ? to : to - 1);
-  SetBound(2 * instruction.index + 1, instruction.backward ? to + 1 : to);
+  const int last = instruction.backward ? to : to - 1;
+  SetGroup(instruction.index, last, last + 1);
   return true;
 }
 

@@ -64,10 +64,14 @@ std::size_t UnitSearch::Find(std::u16string_view text, std::size_t from) const {
 
 std::size_t UnitSearch::FirstInShort(const char16_t* block) const {
   std::array<std::uint8_t, kShort> hits{};
-  for (const Range range : ranges_) {
+  const Range only = ranges_.front();  // on its own, because one is the usual number
+  for (std::size_t i = 0; i < kShort; ++i)
+    hits[i] = static_cast<std::uint8_t>(IsInRange(block[i], only.first, only.width));
+  for (std::size_t r = 1; r < ranges_.size(); ++r) {
+    const Range range = ranges_[r];
     for (std::size_t i = 0; i < kShort; ++i)
-      hits[i] =
-          static_cast<std::uint8_t>(hits[i] | (IsInRange(block[i], range.first, range.width) ? 1U : 0U));
+      hits[i] = static_cast<std::uint8_t>(
+          hits[i] | static_cast<std::uint8_t>(IsInRange(block[i], range.first, range.width)));
   }
   return FirstSet(hits);
 }
