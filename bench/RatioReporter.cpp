@@ -53,7 +53,7 @@ void RatioReporter::Finalize() {
                                                            : ours;
     const char* unit = row.measure == Measure::Ratio ? "" : " ms";
     PrintRow(row.what, Rounded(ours, 2), Rounded(peer, 2), Rounded(result, 2) + unit,
-             "< " + Rounded(row.wanted, 1) + unit);
+             row.wanted ? "< " + Rounded(*row.wanted, 1) + unit : std::string());
   }
 }
 

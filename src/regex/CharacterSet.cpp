@@ -54,6 +54,28 @@ char16_t CharacterSet::First() const {
   return static_cast<char16_t>((word - words_.begin()) * 64 + std::countr_zero(*word));
 }
 
+std::optional<std::vector<std::pair<char16_t, char16_t>>> CharacterSet::Ranges(std::size_t most) const {
+  std::vector<std::pair<char16_t, char16_t>> ranges;
+  for (std::size_t first = Next(0, true); first < kUnits;) {
+    if (ranges.size() == most) return std::nullopt;
+    const std::size_t end = Next(first, false);
+    ranges.emplace_back(static_cast<char16_t>(first), static_cast<char16_t>(end - 1));
+    first = Next(end, true);
+  }
+  return ranges;
+}
+
+/// The first unit from `from` on that is in the set, or that is not; kUnits for none.
+std::size_t CharacterSet::Next(std::size_t from, bool isMember) const {
+  while (from < kUnits) {
+    const std::uint64_t word = words_[from / 64];
+    const std::uint64_t wanted = (isMember ? word : ~word) >> (from % 64);
+    if (wanted != 0) return from + static_cast<std::size_t>(std::countr_zero(wanted));
+    from = (from / 64 + 1) * 64;
+  }
+  return kUnits;
+}
+
 bool CharacterSet::IsDisjoint(const CharacterSet& other) const {
   return std::ranges::equal(words_, other.words_,
                             [](std::uint64_t a, std::uint64_t b) { return (a & b) == 0; });

@@ -3,7 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quorvantis {
@@ -34,12 +36,20 @@ class CharacterSet {
   /// The smallest unit; the set must not be empty.
   char16_t First() const;
 
+  /// First and last units of the ranges of the set, in ascending order; nothing where there are more than
+  /// `most`.
+  std::optional<std::vector<std::pair<char16_t, char16_t>>> Ranges(std::size_t most) const;
+
   /// Whether no unit is in both.
   bool IsDisjoint(const CharacterSet& other) const;
   bool operator==(const CharacterSet&) const = default;
 
  private:
-  static constexpr std::size_t kWords = 65536 / 64;
+  static constexpr std::size_t kUnits = 65536;
+  static constexpr std::size_t kWords = kUnits / 64;
+
+  std::size_t Next(std::size_t from, bool isMember) const;
+
   std::vector<std::uint64_t> words_;
 };
 

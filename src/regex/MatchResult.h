@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quorvantis {
@@ -21,8 +22,9 @@ enum class MatchOutcome {
 class MatchResult {
  public:
   explicit MatchResult(MatchOutcome outcome) : outcome_(outcome) {}
-  /// Of a match: start and end of every group.
-  explicit MatchResult(const std::vector<int>& bounds);
+  /// Of a match.
+  explicit MatchResult(std::vector<int> entries)
+      : outcome_(MatchOutcome::Matched), entries_(std::move(entries)) {}
 
   MatchOutcome Outcome() const { return outcome_; }
   bool IsMatched() const { return Entry(0, 0) != 0; }
@@ -31,7 +33,10 @@ class MatchResult {
   int GroupEnd(int group) const { return Entry(2 * group + 3, -1); }
 
   /// An entry of the array; `fallback` outside of it.
-  int Entry(int index, int fallback) const;
+  int Entry(int index, int fallback) const {
+    const bool exists = index >= 0 && static_cast<std::size_t>(index) < entries_.size();
+    return exists ? entries_[static_cast<std::size_t>(index)] : fallback;
+  }
 
  private:
   MatchOutcome outcome_;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "regex/RegexCompiler.h"
 
-#include "regex/FirstUnits.h"
 #include "regex/GroupDependence.h"
+#include "regex/LookAhead.h"
 #include "regex/RegexError.h"
 
 #include <algorithm>
@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t kLargestProgram = 200'000;  // instructions
 constexpr std::size_t kLargestCopies = 2'000;     // instructions that the copies of one counted body may take
+constexpr int kMostUnitCopies = 4;                // of one unit that must come several times
 constexpr int kMostMarks = 6;                     // loops around that failures may depend on
 
 /// About how many instructions a tree takes. A body that is repeated more often than copied counts once.
@@ -79,7 +80,7 @@ class RegexCompiler {
     Append({.op = Op::Match});
     ConnectCalls();
     ForgetWhatDependsOnGroups(program_);
-    FindFirstUnits(program_);
+    LookAhead(program_);
     return std::move(program_);
   }
 
@@ -125,11 +126,14 @@ class RegexCompiler {
     std::visit([&](const auto& node) { Emit(node, backward); }, tree.value);
   }
 
-  void Emit(const UnitNode& node, bool backward) {
-    if (node.set->Count() == 1) {
-      Append({.op = Op::Unit, .backward = backward, .unit = node.set->First()});
+  void Emit(const UnitNode& node, bool backward) { EmitUnit(*Keep(node.set), backward); }
+
+  /// `set` is one that the program keeps.
+  void EmitUnit(const CharacterSet& set, bool backward) {
+    if (set.Count() == 1) {
+      Append({.op = Op::Unit, .backward = backward, .unit = set.First()});
     } else {
-      Append({.op = Op::Set, .backward = backward, .set = Keep(node.set)});
+      Append({.op = Op::Set, .backward = backward, .set = &set});
     }
   }
 
@@ -216,7 +220,9 @@ class RegexCompiler {
     Instruction repeat{.op = Op::Repeat, .backward = backward, .mode = mode};
     repeat.index = RepeatedGroup(node) ? RepeatedGroup(node)->group : kNowhere;
     repeat.set = &set;
-    if (node.min > 0) {
+    if (repeat.index == kNowhere && node.min <= kMostUnitCopies) {
+      for (int i = 0; i < node.min; ++i) EmitUnit(set, backward);
+    } else if (node.min > 0) {
       repeat.min = repeat.max = node.min;
       Append(repeat);
     }

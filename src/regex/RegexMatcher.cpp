@@ -10,7 +10,6 @@ namespace {
 
 constexpr long long kWorkBetweenLooks = 200'000;        // under a millisecond
 constexpr long long kWorkPerUnitBeforeRemembering = 8;  // ordinary matches end before this
-constexpr std::size_t kUsualEntries = 64;               // enough for most matches
 constexpr std::size_t kMostEntries = std::size_t{24} * 1024 * 1024;
 constexpr std::size_t kMostSavedValues = std::size_t{32} * 1024 * 1024;
 
@@ -22,15 +21,22 @@ bool IsWordUnit(char16_t unit) {
 }  // namespace
 
 RegexMatcher::RegexMatcher(const RegexProgram& program, std::u16string_view text, MatchContext& context)
-    : program_(program), text_(text), context_(context), length_(static_cast<int>(text.size())) {
-  bounds_.resize(2 * static_cast<std::size_t>(program.groups));
-  registers_.resize(static_cast<std::size_t>(program.registers));
+    : program_(program),
+      text_(text),
+      context_(context),
+      length_(static_cast<int>(text.size())),
+      entries_(2 * static_cast<std::size_t>(program.groups) + 2 +
+               static_cast<std::size_t>(program.registers)),
+      bounds_(std::span(entries_).subspan(2, 2 * static_cast<std::size_t>(program.groups))),
+      registers_(std::span(entries_).last(static_cast<std::size_t>(program.registers))) {
+  entries_[0] = 1;
+  entries_[1] = program.groups;
 }
 
 MatchResult RegexMatcher::Find(int start) {
   scanStart_ = start;
   FailedStarts* const failed = program_.backward ? nullptr : context_.failedStarts;
-  if (failed) failed->BeginSearch(std::max(static_cast<int>(program_.prefix.size()) - 1, 0));
+  if (failed) failed->BeginSearch(program_.starts ? program_.starts->Reach() : 0);
   const int step = program_.backward ? -1 : 1;
   for (int place = start; place >= 0 && place <= length_; place += step) {
     place = FindStart(place);
@@ -41,27 +47,20 @@ MatchResult RegexMatcher::Find(int start) {
     if (!matches && failed) failed->Add(place, seen_);
     if (!matches) continue;
     if (failed) failed->Matched(seen_);
-    return MatchResult(bounds_);
+    entries_.resize(entries_.size() - registers_.size());
+    return MatchResult(std::move(entries_));
   }
   return MatchResult(stopped_);
 }
 
-/// The first position from `start` on where a match can begin, by its first unit; outside of the text for
+/// The first position from `start` on where a match can begin, by the units near it; outside of the text for
 /// none.
 int RegexMatcher::FindStart(int start) const {
-  const auto at = static_cast<std::size_t>(start);
-  if (!program_.prefix.empty()) {
-    const std::size_t found = text_.find(program_.prefix, at);
-    return found == std::u16string_view::npos ? length_ + 1 : static_cast<int>(found);
-  }
+  if (program_.onlyAtTextStart && start > 0) return length_ + 1;
+  if (program_.starts) return program_.starts->Find(text_, start).value_or(length_ + 1);
   if (!program_.first) return start;
-  const CharacterSet& first = *program_.first;
-  if (program_.backward) {
-    while (start > 0 && !first.Contains(text_[static_cast<std::size_t>(start) - 1])) --start;
-    return start > 0 ? start : -1;
-  }
-  while (start < length_ && !first.Contains(text_[static_cast<std::size_t>(start)])) ++start;
-  return start < length_ ? start : length_ + 1;
+  while (start > 0 && !program_.first->Contains(text_[static_cast<std::size_t>(start) - 1])) --start;
+  return start > 0 ? start : -1;
 }
 
 bool RegexMatcher::RunFrom(int start) {
@@ -71,7 +70,6 @@ bool RegexMatcher::RunFrom(int start) {
   if (!canBegin) return false;  // most starts end here
   std::ranges::fill(bounds_, -1);
   stack_.clear();
-  stack_.reserve(kUsualEntries);
   frames_.clear();
   savedValues_.clear();
   frame_ = kNowhere;
@@ -188,12 +186,6 @@ bool RegexMatcher::Step(Thread& thread) {
 }
 
 // --- units ---
-
-bool RegexMatcher::CanComeNext(const CharacterSet* units, bool backward, int position) const {
-  if (!units) return true;
-  const int at = backward ? position - 1 : position;
-  return at >= 0 && at < length_ && units->Contains(text_[static_cast<std::size_t>(at)]);
-}
 
 bool RegexMatcher::BackReference(const Instruction& instruction, Thread& thread) {
   const int start = bounds_[2 * static_cast<std::size_t>(instruction.index)];
@@ -331,7 +323,7 @@ bool RegexMatcher::Resume(const Entry& entry, Thread& thread) {
     case EntryKind::Failure:
       memory_.Remember(entry.a, entry.b);
       return false;
-    case EntryKind::RestoreBound:
+    case EntryKind::RestoreGroup:
     case EntryKind::RestoreRegister:
     case EntryKind::RestoreFrame:
       Restore(entry);
@@ -341,7 +333,10 @@ bool RegexMatcher::Resume(const Entry& entry, Thread& thread) {
 }
 
 void RegexMatcher::Restore(const Entry& entry) {
-  if (entry.kind == EntryKind::RestoreBound) bounds_[static_cast<std::size_t>(entry.a)] = entry.b;
+  if (entry.kind == EntryKind::RestoreGroup) {
+    bounds_[2 * static_cast<std::size_t>(entry.a)] = entry.b;
+    bounds_[2 * static_cast<std::size_t>(entry.a) + 1] = entry.c;
+  }
   if (entry.kind == EntryKind::RestoreRegister) registers_[static_cast<std::size_t>(entry.a)] = entry.b;
   if (entry.kind != EntryKind::RestoreFrame) return;
   frame_ = entry.a;
@@ -352,10 +347,13 @@ void RegexMatcher::Restore(const Entry& entry) {
 }
 
 /// Changes that no choice lies below need no way back.
-void RegexMatcher::SetBound(int index, int value) {
-  int& bound = bounds_[static_cast<std::size_t>(index)];
-  if (!stack_.empty() && bound != value) Push(EntryKind::RestoreBound, index, bound);
-  bound = value;
+void RegexMatcher::SetGroup(int group, int start, int end) {
+  int& oldStart = bounds_[2 * static_cast<std::size_t>(group)];
+  int& oldEnd = bounds_[2 * static_cast<std::size_t>(group) + 1];
+  if (!stack_.empty() && (oldStart != start || oldEnd != end))
+    Push(EntryKind::RestoreGroup, group, oldStart, oldEnd);
+  oldStart = start;
+  oldEnd = end;
 }
 
 void RegexMatcher::SetRegister(int index, int value) {
@@ -366,8 +364,7 @@ void RegexMatcher::SetRegister(int index, int value) {
 
 void RegexMatcher::Capture(const Instruction& instruction, int position) {
   const int begin = registers_[static_cast<std::size_t>(instruction.other)];
-  SetBound(2 * instruction.index, std::min(begin, position));
-  SetBound(2 * instruction.index + 1, std::max(begin, position));
+  SetGroup(instruction.index, std::min(begin, position), std::max(begin, position));
 }
 
 }  // namespace quorvantis

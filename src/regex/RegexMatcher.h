@@ -6,6 +6,7 @@
 #include "regex/MatchResult.h"
 #include "regex/RegexProgram.h"
 
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -36,7 +37,7 @@ class RegexMatcher {
     NextIteration,  ///< enter the body of the CountedLoop at `a`, position `b`
     Barrier,        ///< the body of the Look or Atomic at `a`, begun at position `b`, has failed
     // What has to be set back on the way:
-    RestoreBound,     ///< bounds_[a] was b
+    RestoreGroup,     ///< group a was from b to c
     RestoreRegister,  ///< registers_[a] was b
     RestoreFrame,     ///< the frame was a, of b frames
     // Notes:
@@ -95,11 +96,19 @@ class RegexMatcher {
     return memory_.IsOn() && instruction.memory != kNowhere;
   }
   int Row(const Instruction& instruction, int position) const;
-  bool CanComeNext(const CharacterSet* units, bool backward, int position) const;
+  bool CanComeNext(const CharacterSet* units, bool backward, int position) const {
+    if (!units) return true;
+    const int at = backward ? position - 1 : position;
+    return at >= 0 && at < length_ && units->Contains(text_[static_cast<std::size_t>(at)]);
+  }
 
   /// Takes the fields and not an entry: copying one that was just put together waits for its parts.
-  void Push(EntryKind kind, int a, int b, int c = 0) { stack_.push_back({kind, a, b, c}); }
-  void SetBound(int index, int value);
+  void Push(EntryKind kind, int a, int b, int c = 0) {
+    if (stack_.capacity() == 0) stack_.reserve(kUsualEntries);
+    stack_.push_back({kind, a, b, c});
+  }
+  static constexpr std::size_t kUsualEntries = 64;  ///< enough for most matches that need any
+  void SetGroup(int group, int start, int end);
   void SetRegister(int index, int value);
   void Restore(const Entry& entry);
 
@@ -108,8 +117,9 @@ class RegexMatcher {
   MatchContext& context_;
   const int length_;
   int scanStart_ = 0;
-  std::vector<int> bounds_;
-  std::vector<int> registers_;
+  std::vector<int> entries_;  ///< of the result, and the registers behind them
+  std::span<int> bounds_;     ///< of these, the starts and ends of groups
+  std::span<int> registers_;
   std::vector<Entry> stack_;
   std::vector<Frame> frames_;
   std::vector<int> savedValues_;

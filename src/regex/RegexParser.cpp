@@ -59,7 +59,7 @@ class RegexParser {
     while (SkipToElement()) {
       SyntaxTree element = ParseElement();
       if (!element) continue;
-      while (SkipComments(), TakeQuantifier(element)) {
+      while (SkipToMeaning(), TakeQuantifier(element)) {
       }
       parts.push_back(std::move(element));
     }
@@ -68,29 +68,32 @@ class RegexParser {
 
   /// Whether another element of the sequence comes next.
   bool SkipToElement() {
-    while (quoted_.TakeMark(cursor_)) {
-    }
-    if (quoted_.IsOn()) return !cursor_.AtEnd();
-    SkipComments();
-    return !cursor_.AtEnd() && !cursor_.LooksAt(u"|") && !cursor_.LooksAt(u")");
+    SkipToMeaning();
+    if (cursor_.AtEnd()) return false;
+    return quoted_.IsOn() || (!cursor_.LooksAt(u"|") && !cursor_.LooksAt(u")"));
   }
 
-  void SkipComments() {
-    while (quoted_.IsOn() && quoted_.TakeMark(cursor_)) {
+  /// Over all that means nothing by itself, in any order: marks of quotations, and comments outside of them.
+  void SkipToMeaning() {
+    while (quoted_.TakeMark(cursor_) || (!quoted_.IsOn() && TakeComment())) {
     }
-    if (quoted_.IsOn()) return;
-    for (;;) {
-      if (cursor_.Take(u"(?#")) {
-        if (!cursor_.TakeUntil(u")")) cursor_.Fail("the comment is not closed by )");
-      } else if (Has(regex_flag::kExtended) && !cursor_.AtEnd() && IsOneOf(cursor_.Peek(), u"\t\n\v\f\r ")) {
-        cursor_.Next();
-      } else if (Has(regex_flag::kExtended) && cursor_.Take(u"#")) {
-        while (!cursor_.AtEnd() && cursor_.Next() != u'\n') {
-        }
-      } else {
-        return;
+  }
+
+  /// A comment, or in extended mode white space or a comment to the end of the line, if one comes next.
+  bool TakeComment() {
+    if (cursor_.Take(u"(?#")) {
+      if (!cursor_.TakeUntil(u")")) cursor_.Fail("the comment is not closed by )");
+      return true;
+    }
+    if (!Has(regex_flag::kExtended) || cursor_.AtEnd()) return false;
+    if (cursor_.Take(u"#")) {
+      while (!cursor_.AtEnd() && cursor_.Next() != u'\n') {
       }
+      return true;
     }
+    const bool isSpace = IsOneOf(cursor_.Peek(), u"\t\n\v\f\r ");
+    if (isSpace) cursor_.Next();
+    return isSpace;
   }
 
   struct Counts {
@@ -103,14 +106,20 @@ class RegexParser {
     if (quoted_.IsOn()) return false;
     const std::optional<Counts> counts = TakeCounts();
     if (!counts) return false;
-    RepeatMode mode = RepeatMode::Greedy;
-    if (cursor_.Take(u"?")) mode = RepeatMode::Lazy;
-    if (mode == RepeatMode::Greedy && cursor_.Take(u"+")) mode = RepeatMode::Possessive;
+    RepeatMode mode = TakeMode();
     if (counts->min == counts->max) mode = RepeatMode::Greedy;  // after a fixed count, both change nothing
     RepeatNode repeat{counts->min, counts->max, mode, std::move(element)};
     MergeNestedRepeat(repeat);
     element = MakeTree(std::move(repeat));
     return true;
+  }
+
+  /// What stands after the counts, be it after a comment.
+  RepeatMode TakeMode() {
+    SkipToMeaning();
+    if (quoted_.IsOn()) return RepeatMode::Greedy;
+    if (cursor_.Take(u"?")) return RepeatMode::Lazy;
+    return cursor_.Take(u"+") ? RepeatMode::Possessive : RepeatMode::Greedy;
   }
 
   std::optional<Counts> TakeCounts() {

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "regex/CharacterSet.h"
+#include "regex/StartSearch.h"
 #include "regex/SyntaxTree.h"
 
 #include <cstdint>
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace quorvantis {
@@ -62,6 +62,12 @@ struct Instruction {
   /// null where any can, or none needs to.
   const CharacterSet* first = nullptr;
   const CharacterSet* otherFirst = nullptr;
+  /// Of a greedy Repeat: no number of units but the largest needs to be tried. What follows cannot begin with
+  /// a unit that is repeated, or always matches.
+  bool onlyMost = false;
+  const UnitSearch* endOfUnits = nullptr;  ///< of a Repeat that takes units forward: the first not in `set`
+  const StartSearch* endOfRepeat =
+      nullptr;  ///< of a lazy one: where it can end, or has to; null for anywhere
 };
 
 /// A compiled pattern.
@@ -73,8 +79,11 @@ struct RegexProgram {
   int registers = 0;
   int memoryRows = 0;
   bool backward = false;                ///< right-to-left
+  bool onlyAtTextStart = false;         ///< no match begins behind the start of the text
   const CharacterSet* first = nullptr;  ///< the units that a match can begin with; null for any, or none
-  std::u16string prefix;                ///< what every match begins with; empty for backward programs
+  const StartSearch* starts = nullptr;  ///< where a match can begin; null for anywhere, or if backward
+  std::vector<std::shared_ptr<const UnitSearch>> unitSearches;    ///< what the instructions point to
+  std::vector<std::shared_ptr<const StartSearch>> startSearches;  ///< likewise
 };
 
 }  // namespace quorvantis

@@ -34,6 +34,10 @@ int RegexMatcher::Extent(const Instruction& instruction, int position) {
   const bool stops = IsRemembered(instruction) && instruction.max == kUnlimited;
   int count = 0;
   int end = position;
+  if (instruction.endOfUnits && !stops) {
+    end = static_cast<int>(instruction.endOfUnits->Find(text_, static_cast<std::size_t>(position)));
+    count = end - position;
+  }
   while ((instruction.max == kUnlimited || count < instruction.max) &&
          CanComeNext(instruction.set, instruction.backward, end)) {
     if (stops && memory_.HasFailed(instruction.memory, end + step)) break;
@@ -50,14 +54,17 @@ bool RegexMatcher::EndRepeat(const Instruction& instruction, Thread& thread, int
   thread.position = to;
   ++thread.place;
   if (instruction.index == kNowhere || low == to) return true;
-  SetBound(2 * instruction.index, instruction.backward ? to : to - 1);
-  SetBound(2 * instruction.index + 1, instruction.backward ? to + 1 : to);
+  const int last = instruction.backward ? to : to - 1;
+  SetGroup(instruction.index, last, last + 1);
   return true;
 }
 
 /// Greedy: tries the positions from `from` back to `low`.
 bool RegexMatcher::RepeatFewer(const Instruction& instruction, Thread& thread, int from, int low) {
   const int step = instruction.backward ? -1 : 1;
+  if (instruction.onlyMost && !IsRemembered(instruction))
+    return CanComeNext(instruction.first, instruction.backward, from) &&
+           EndRepeat(instruction, thread, low, from);
   int to = from;
   while (to != low && !CanComeNext(instruction.first, instruction.backward, to)) to -= step;
   const bool found = to != low || CanComeNext(instruction.first, instruction.backward, to);
@@ -89,14 +96,10 @@ bool RegexMatcher::RepeatMore(const Instruction& instruction, Thread& thread, in
 
 /// The first position from `position` on at which a lazy Repeat can end, or has to.
 int RegexMatcher::SkipTo(const Instruction& instruction, int position) {
-  if (!instruction.first || instruction.backward) return position;
-  const int start = position;
-  for (; position < length_; ++position) {
-    const char16_t unit = text_[static_cast<std::size_t>(position)];
-    if (instruction.first->Contains(unit) || !instruction.set->Contains(unit)) break;
-  }
-  work_ += position - start;
-  return position;
+  if (!instruction.endOfRepeat) return position;
+  const int to = instruction.endOfRepeat->Find(text_, position).value_or(length_);
+  work_ += to - position;
+  return to;
 }
 
 bool RegexMatcher::CanTakeMore(const Instruction& instruction, int low, int position) const {

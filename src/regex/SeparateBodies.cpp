@@ -17,7 +17,7 @@ void RegexMatcher::RaiseBarrier(const Instruction& instruction, const Thread& th
 /// Removes the barrier and the choices above it, and keeps what has to be set back.
 void RegexMatcher::DropChoices(int barrier) {
   const auto isChoice = [](const Entry& entry) {
-    return entry.kind != EntryKind::RestoreBound && entry.kind != EntryKind::RestoreRegister &&
+    return entry.kind != EntryKind::RestoreGroup && entry.kind != EntryKind::RestoreRegister &&
            entry.kind != EntryKind::RestoreFrame;
   };
   stack_.erase(std::remove_if(stack_.begin() + barrier, stack_.end(), isChoice), stack_.end());
@@ -68,7 +68,7 @@ bool RegexMatcher::Return(const Instruction& instruction, Thread& thread) {
   const Frame frame = frames_[static_cast<std::size_t>(frame_)];
   Push(EntryKind::RestoreFrame, frame_, static_cast<int>(frames_.size()));
   const int* saved = savedValues_.data() + frame.saved;
-  for (int i = 0; i < static_cast<int>(bounds_.size()); ++i) SetBound(i, *saved++);
+  for (int group = 0; group < program_.groups; ++group, saved += 2) SetGroup(group, saved[0], saved[1]);
   for (int i = 0; i < static_cast<int>(registers_.size()); ++i) SetRegister(i, *saved++);
   frame_ = frame.caller;
   thread.place = frame.returnPlace;

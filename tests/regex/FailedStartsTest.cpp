@@ -55,8 +55,8 @@ TEST(FailedStarts, AreLeftOut) {
   struct {
     std::u16string pattern;
     int resume;
-  } const rows[] = {{u"\\b\\d(?=!)", 39}, {u"(?<!x)a!!", 40}, {u"x.*!", 10},   {u"(?<=1) ", 40},
-                    {u"a\\Z", 37},        {u"1!!", 38},       {u"(a )\\1", 37}};
+  } const rows[] = {{u"\\b\\d(?=!)", 39}, {u"(?<!x)a!!", 39}, {u"x.*!", 10},   {u"(?<=1) ", 40},
+                    {u"a\\Z", 37},        {u"1!!", 39},       {u"(a )\\1", 37}};
   const std::u16string text = std::u16string(10, u'a') + u"x" + std::u16string(27, u'a') + u" 1";
   for (const auto& row : rows) {
     FailedStarts failed;

@@ -24,6 +24,11 @@ class RandomPatterns {
     std::u16string text;
     for (int length = Below(12); length > 0; --length)
       text += OneOf({u"a", u"a", u"b", u"b", u"c", u"A", u"B", u"1", u" ", u"\n"});
+    if (Below(4) == 0) {  // as long as what searches leave out at once
+      const std::u16string filler = OneOf({u"-", u"a", u"\n"});
+      text.insert(static_cast<std::size_t>(Below(static_cast<int>(text.size()) + 1)),
+                  std::u16string(static_cast<std::size_t>(Below(150)), filler[0]));
+    }
     return text;
   }
 
@@ -37,7 +42,7 @@ class RandomPatterns {
   std::u16string Sequence() {
     std::u16string pattern;
     for (int parts = 1 + Below(depth_ > 0 ? 2 : 3); parts > 0; --parts) {
-      pattern += Below(6) == 0 ? Assertion() : Element() + Quantifier();
+      pattern += Marks() + (Below(6) == 0 ? Assertion() : Element() + Quantifier());
     }
     return pattern;
   }
@@ -49,8 +54,22 @@ class RandomPatterns {
   }
 
   std::u16string Quantifier() {
-    return OneOf({u"", u"", u"", u"*", u"+", u"?", u"*?", u"+?", u"??", u"{2}", u"{1,2}", u"{0,2}?", u"{2,}",
-                  u"*+", u"++", u"?+", u"{1,3}+", u"{0,1}"});
+    if (Below(3) == 0) return {};
+    if (Below(8) == 0) return Nothing() + u"{2}";
+    const std::u16string mode = OneOf({u"", u"", u"?", u"+"});
+    return Nothing() + OneOf({u"*", u"+", u"?", u"{1,2}", u"{0,2}", u"{2,}", u"{1,3}", u"{0,1}"}) +
+           (mode.empty() ? mode : Nothing() + mode);
+  }
+
+  /// What means nothing, in extended mode or in any.
+  std::u16string Nothing() {
+    if (Below(8) != 0) return {};
+    return OneOf({u"(?#a)", u"\\Q\\E", u" ", u"#b\n"}) + Nothing();
+  }
+
+  std::u16string Marks() {
+    if (Below(12) != 0) return Nothing();
+    return Nothing() + OneOf({u"(?i)", u"(?-i)", u"(?x)", u"(?-x)", u"(?s-m)"}) + Nothing();
   }
 
   std::u16string Element() {
@@ -58,13 +77,13 @@ class RandomPatterns {
       case 0:
         return OneOf({u"a", u"b", u"c", u"A", u"B", u"1", u"\\n"});
       case 1:
-        return OneOf({u"(?:ab)", u"b", u"c"});
+        return OneOf({u"(?:ab)", u"b", u"c", u"\\Qab\\E", u"\\Q(?#a)\\E"});
       case 2:
         return OneOf({u".", u"[ab]", u"[^a]", u"[a-c]", u"[b-]", u"[[:alpha:]]", u"[^\\w]"});
       case 3:
         return OneOf({u"\\w", u"\\d", u"\\s", u"\\W"});
       case 4:
-        return OneOf({u"(?:", u"(?>", u"(?i:", u"(?s-m:"}) + Inner() + u")";
+        return OneOf({u"(?:", u"(?>", u"(?i:", u"(?s-m:", u"(?x:"}) + Inner() + u")";
       case 5:
         return groups_ == 0 ? u"a" : u"(?:\\" + Group() + u")";
       case 6:

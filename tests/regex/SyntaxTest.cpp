@@ -95,6 +95,7 @@ TEST(RegexSyntax, Groups) {
   CheckMatches({
       {u"(a)(?:b)(?<x>c)(?'y'd)(?P<z>e)", u"abcde", "0-5 0-1 2-3 3-4 4-5"},
       {u"a(?#b)c(?#d)*", u"accc", "0-4"},
+      {u"(?#note)\\Qa\\E", u"a", "0-1"},
       {u"(?i)aB(?-i)c", u"AbC", "no match", 3},
       {u"a(?i:b)c|(?I)X", u"aBC x", "4-5"},
       {u"(?:(?i)a|b)c", u"Bc", "0-2"},
@@ -144,6 +145,7 @@ TEST(RegexSyntax, Extended) {
       {u"a b # note", u"ab", "0-2", 32},
       {u"a # note\n b\\ [ ]", u"ab  ", "0-4", 32},
       {u"a {2} # twice", u"aa", "0-2", 32},
+      {u"a+ ?(?#b)\\Q #\\E", u"aa #", "0-4", 32},
   });
 }
 
