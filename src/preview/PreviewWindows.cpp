@@ -13,7 +13,7 @@ namespace quorvantis {
 
 /// What all windows share. The profile has no name and therefore keeps nothing on the disk.
 struct PreviewWindows::Browser {
-  explicit Browser(const GatewaySetup& setup) : gateway(setup, guard) {
+  explicit Browser(const GatewaySetup& setup) : gateway(setup) {
     profile.setUrlRequestInterceptor(&guard);
     profile.installUrlSchemeHandler(QByteArray(kExamScheme.data()), &gateway);
     profile.scripts()->insert(PageScript({setup.texts.preparing, setup.texts.cannotShow}));
