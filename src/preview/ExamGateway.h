@@ -30,9 +30,6 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
  public:
   explicit ExamGateway(GatewaySetup setup);
 
-  /// Names the attached files that lie outside of the work folders, by full path; see `ServedFiles`.
-  void SetAttachedFiles(const std::vector<std::filesystem::path>& files) { files_.SetAttached(files); }
-
   /// `page` is going to be shown.
   void SetPage(const std::filesystem::path& page);
 

@@ -33,11 +33,6 @@ void PreviewWindows::Warm() {
   if (!window_) NewSession();
 }
 
-void PreviewWindows::SetAttachedFiles(const std::vector<std::filesystem::path>& files) {
-  attached_ = files;
-  if (browser_) browser_->gateway.SetAttachedFiles(attached_);
-}
-
 PreviewSession& PreviewWindows::NewSession() {
   Browser& browser = StartedBrowser();
   window_.reset();
@@ -47,10 +42,7 @@ PreviewSession& PreviewWindows::NewSession() {
 }
 
 PreviewWindows::Browser& PreviewWindows::StartedBrowser() {
-  if (!browser_) {
-    browser_ = std::make_unique<Browser>(setup_);
-    browser_->gateway.SetAttachedFiles(attached_);
-  }
+  if (!browser_) browser_ = std::make_unique<Browser>(setup_);
   return *browser_;
 }
 

@@ -6,9 +6,7 @@
 
 #include <QWebEngineProfile>
 
-#include <filesystem>
 #include <memory>
-#include <vector>
 
 namespace quorvantis {
 
@@ -28,9 +26,6 @@ class PreviewWindows {
   /// the main window has been painted.
   void Warm();
 
-  /// The attached files of the exam, by full path. Only those outside of the work folders need to be named.
-  void SetAttachedFiles(const std::vector<std::filesystem::path>& files);
-
   /// A fresh window for the next preview or print; the one before is gone.
   PreviewSession& NewSession();
 
@@ -47,7 +42,6 @@ class PreviewWindows {
   GatewaySetup setup_;
   PreviewOwner& owner_;
   PagePrinter::AskForPrinter ask_;
-  std::vector<std::filesystem::path> attached_;
   std::unique_ptr<Browser> browser_;
   std::unique_ptr<PreviewWindow> window_;  ///< goes before the browser
 };

@@ -16,7 +16,8 @@ using ShowPage = std::function<void(const std::filesystem::path& page)>;
 /// The Preview command: writes the exam as it would be taken, and has the first page shown.
 class PreviewCommand {
  public:
-  /// All must outlive the command; `office` may be null. `languageId` is that of the language in use.
+  /// All must outlive the command; `office` may be null. `languageId` is that of the wanted language,
+  /// which may have no library.
   PreviewCommand(QuestionEditor& questions, FrameSetExam& exam, OfficeControl* office, int languageId,
                  ShowPage show)
       : questions_(questions),

@@ -46,15 +46,6 @@ TEST_F(AttachmentTest, PicturesOfAnOpenedExamOnTheScreenAndOnPaper) {
   EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
 }
 
-TEST_F(AttachmentTest, FilesOutsideOnlyWhereTheyAreAttached) {
-  const auto attached = WriteBytes(folder / "elsewhere/a.bmp", SmallBitmap());
-  const auto beside = WriteBytes(folder / "elsewhere/b.bmp", SmallBitmap());
-  Windows().SetAttachedFiles({attached});
-  PreviewWith("<img src=\"" + attached.string() + "\"><img src=\"" + beside.string() + "\">");
-  EXPECT_EQ(Evaluate("document.images[0].naturalWidth").toInt(), 2);
-  EXPECT_EQ(Evaluate("document.images[1].naturalWidth").toInt(), 0);
-}
-
 TEST_F(AttachmentTest, NamesThatMeanSomethingInAddresses) {
   Attach("50%#1?&copy.bmp", SmallBitmap());
   PreviewWith("<img src=\"~TEMP/home/50%#1?&copy.bmp\" >");
