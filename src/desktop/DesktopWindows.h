@@ -24,10 +24,12 @@ class DesktopWindows : public ApplicationWindows {
  private:
   void Begin(CQuorvantisDlg& window);
   bool TakesPicture() const { return !options_.screenshot.isEmpty(); }
+  void TakePicture(QWidget& window);
 
   const CommandLine& options_;
   QtLanguage qtLanguage_;
   QtUserDialogs dialogs_;
+  bool pictureTaken_ = false;
 };
 
 }  // namespace quorvantis
