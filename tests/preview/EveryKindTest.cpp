@@ -80,7 +80,7 @@ TEST_F(EveryKindTest, AppearsEveryTime) {
         << "preview " << i << ": " << missing.toStdString();
     if (i % 20 == 1) SaveLook(QString("every-kind-%1").arg(i));
     if (HasFailure()) break;
-    Windows().Window()->Session().Leave();
+    Window().Leave();
   }
 }
 
