@@ -39,6 +39,7 @@ namespace quorvantis {
 namespace {
 
 constexpr int kBetweenLooks = 1000;  // milliseconds; a change is on the disk within two seconds
+constexpr int kOffScreen = 2000;     // pixels
 constexpr int kHighestLine = 18;     // of a font: one-line fields are 20 pixels high
 
 QuestionArea* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
@@ -91,7 +92,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       editor_(exam, *this, std::move(exportDocument)),
       recovery_(editor_),
       languageId_(languageId),
-      previews_(SetUpGateway(exam, pages), *this),
+      previews_(SetUpGateway(exam, pages)),
       importWindows_(exam.Services(), library, *this),
       import_(editor_, papers, importWindows_, FindImportRules(exam.Services().applicationFolder)),
       pictures_(library),
@@ -212,15 +213,33 @@ void CQuorvantisDlg::TitleChanged() {
   setWindowTitle(ToQString(editor_.state.WindowTitle()).replace("[*]", "[*][*]"));
 }
 
+void CQuorvantisDlg::WarmBrowser() {
+  if (!previewWindow_) RenewPreviewWindow();
+}
+
+void CQuorvantisDlg::RenewPreviewWindow() {
+  previewWindow_.reset();
+  previewWindow_ = previews_.Make();
+  previewWindow_->SetOwner(*this);
+}
+
 void CQuorvantisDlg::Preview() {
   PreviewCommand(editor_.questions, exam_, office_, languageId_, [this](const std::filesystem::path& page) {
-    previews_.NewSession().ShowPreview(page);
+    RenewPreviewWindow();
+    previewWindow_->Navigate(page);
+    previewWindow_->Place(0, 0);
+    previewWindow_->Show();
   }).Run();
 }
 
 void CQuorvantisDlg::Print() {
   PrintCommand(editor_.questions, exam_, [this](const std::filesystem::path& page) {
-    previews_.NewSession().PrintOffScreen(page);
+    RenewPreviewWindow();
+    previewWindow_->Navigate(page);
+    previewWindow_->Place(kOffScreen, kOffScreen);
+    previewWindow_->Show();
+    previewWindow_->StartPrintTimer();
+    previewWindow_->Hide();
   }).Run();
 }
 
@@ -234,16 +253,8 @@ void CQuorvantisDlg::SetUpScores() {
   }).Run();
 }
 
-void CQuorvantisDlg::PreviewFinished() {
-  exam_.PrefixAttachmentPaths(0);
-}
-
 void CQuorvantisDlg::PreviewFromSetup(int show) {
-  if (show != 0) {
-    Preview();
-  } else {
-    previews_.NewSession();
-  }
+  show != 0 ? Preview() : RenewPreviewWindow();
 }
 
 void CQuorvantisDlg::PostContentChanged() {
@@ -252,8 +263,7 @@ void CQuorvantisDlg::PostContentChanged() {
 
 /// A preview covers the screen, and with it the question that may come now.
 void CQuorvantisDlg::closeEvent(QCloseEvent* event) {
-  const PreviewWindow* const preview = previews_.Window();
-  if (preview != nullptr && preview->IsOnScreen()) previews_.NewSession();
+  if (previewWindow_ && previewWindow_->IsOnScreen()) RenewPreviewWindow();
   event->setAccepted(endsUnasked_ || editor_.files.ConfirmClose());
 }
 

@@ -61,7 +61,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
 
   /// Starts the browser, so that the first preview appears at once. Takes a moment: call it once the window
   /// has been painted.
-  void WarmBrowser() { previews_.Warm(); }
+  void WarmBrowser();
 
  signals:
   /// Both are handled by the window itself, once the event in hand is over.
@@ -84,7 +84,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void TitleChanged() override;
   void PostContentChanged() override;
 
-  void PreviewFinished() override;
+  void PrefixAttachmentPaths(int on) override { exam_.PrefixAttachmentPaths(on); }
   void PreviewFromSetup(int show) override;
 
   FileButtons::PageCommands PageCommands();
@@ -98,6 +98,8 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void EndUnasked();
   void ShowAbout();
   void PrepareOffice();
+  /// Discards the preview window and makes a new hidden one.
+  void RenewPreviewWindow();
   void Preview();
   void Print();
   void SetUpScores();
@@ -111,6 +113,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   QTimer recoveryTimer_;
   const int languageId_;
   PreviewWindows previews_;
+  PreviewWindows::Window previewWindow_;  ///< null until the browser has started
   ImportWindows importWindows_;
   ImportCommand import_;
   Pictures pictures_;

@@ -13,6 +13,10 @@
 #include "text/Utf.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QPixmap>
+#include <QSaveFile>
 #include <QTimer>
 
 #include <algorithm>
@@ -22,9 +26,16 @@ namespace quorvantis {
 namespace {
 
 constexpr int kUntilPainted = 300;  // milliseconds
+constexpr int kNoPicture = 1;       // exit code
 
-void SaveScreenshot(QWidget& window, const QString& file) {
-  QCoreApplication::exit(window.grab().save(file) ? 0 : 1);
+/// Whole or not at all. Tells what is wrong where the picture could not be saved, else nothing.
+QString SavePicture(const QPixmap& picture, const QString& file) {
+  QSaveFile out(file);
+  out.setDirectWriteFallback(true);  // for a folder that takes no new files
+  if (!out.open(QIODevice::WriteOnly)) return out.errorString();
+  QImageWriter writer(&out, QFileInfo(file).suffix().toLatin1());
+  if (!writer.write(picture.toImage())) return writer.errorString();
+  return out.commit() ? QString() : out.errorString();
 }
 
 /// The main window as a second start meets it.
@@ -108,7 +119,7 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   OpenWindow openWindow(window);
   const SecondStartListener secondStarts(application.ModuleFolder(), openWindow);
   if (TakesPicture()) {  // before opening: a message must not keep it from being taken
-    QTimer::singleShot(kUntilPainted, &window, [&] { SaveScreenshot(window, options_.screenshot); });
+    QTimer::singleShot(kUntilPainted, &window, [&] { TakePicture(window); });
   }
   const EndingSignals endings;
   QObject::connect(&endings, &EndingSignals::Arrived, &window, [&window] {
@@ -117,7 +128,17 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   });
   QTimer::singleShot(0, &window, [&] { Begin(window); });  // in the event loop, which a signal must find
   if (!TakesPicture()) QTimer::singleShot(kUntilPainted, &window, [&] { window.WarmBrowser(); });
-  return QApplication::exec();
+  const int exitCode = QApplication::exec();
+  if (!TakesPicture() || pictureTaken_ || exitCode != 0) return exitCode;
+  ShowFailure(u"the window was closed before its picture was taken\n");
+  return kNoPicture;
+}
+
+void DesktopWindows::TakePicture(QWidget& window) {
+  const QString problem = SavePicture(window.grab(), options_.screenshot);
+  pictureTaken_ = problem.isEmpty();
+  if (!pictureTaken_) ShowFailure((options_.screenshot + ": " + problem + '\n').toStdU16String());
+  QCoreApplication::exit(pictureTaken_ ? 0 : kNoPicture);
 }
 
 }  // namespace quorvantis

@@ -26,10 +26,12 @@ class DesktopWindows : public ApplicationWindows {
   void Begin(CQuorvantisDlg& window);
   void RememberFolders(const ExamFolderSetting& setting);
   bool TakesPicture() const { return !options_.screenshot.isEmpty(); }
+  void TakePicture(QWidget& window);
 
   const CommandLine& options_;
   QtLanguage qtLanguage_;
   QtUserDialogs dialogs_;
+  bool pictureTaken_ = false;
 };
 
 }  // namespace quorvantis

@@ -6,6 +6,7 @@
 #include "preview/MissingProgram.h"
 #include "preview/PageAddress.h"
 #include "preview/Replies.h"
+#include "preview/RequestGuard.h"
 #include "preview/SourceEscapes.h"
 
 #include <QFile>
@@ -40,9 +41,8 @@ QByteArray TextFilePage(const fs::path& file, const PreviewTexts& texts) {
 
 }  // namespace
 
-ExamGateway::ExamGateway(GatewaySetup setup, RequestGuard& guard)
+ExamGateway::ExamGateway(GatewaySetup setup)
     : setup_(std::move(setup)),
-      guard_(guard),
       files_(setup_.applicationFolder),
       conversions_(setup_.programs, setup_.applicationFolder) {}
 
@@ -59,7 +59,7 @@ bool ExamGateway::HasFlashPlayer() const {
 
 void ExamGateway::requestStarted(Job* job) {
   const QUrl address = job->requestUrl();
-  const bool forFrame = guard_.TakeForFrame(address);
+  const bool forFrame = RequestGuard::IsForFrame(*job);
   const std::optional<fs::path> asked = FileOf(address);
   if (!asked || (job->requestMethod() != "GET" && job->requestMethod() != "HEAD")) {
     return job->fail(Job::RequestDenied);

@@ -3,7 +3,6 @@
 
 #include "preview/Conversions.h"
 #include "preview/FramePages.h"
-#include "preview/RequestGuard.h"
 #include "preview/ServedFiles.h"
 #include "render/ComposedPages.h"
 
@@ -29,11 +28,7 @@ struct GatewaySetup {
 /// texts excepted.
 class ExamGateway : public QWebEngineUrlSchemeHandler {
  public:
-  /// `guard` must outlive the gateway.
-  ExamGateway(GatewaySetup setup, RequestGuard& guard);
-
-  /// Names the attached files that lie outside of the work folders, by full path; see `ServedFiles`.
-  void SetAttachedFiles(const std::vector<std::filesystem::path>& files) { files_.SetAttached(files); }
+  explicit ExamGateway(GatewaySetup setup);
 
   /// `page` is going to be shown.
   void SetPage(const std::filesystem::path& page);
@@ -67,7 +62,6 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
   bool IsPlainName(const std::filesystem::path& page, const std::filesystem::path& source) const;
 
   GatewaySetup setup_;
-  RequestGuard& guard_;
   ServedFiles files_;
   Conversions conversions_;
   QHash<QString, std::filesystem::path> pictures_;  ///< of document pages, by their own address's name

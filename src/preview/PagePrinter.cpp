@@ -32,27 +32,38 @@ PagePrinter::PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gate
   connect(&view, &QWebEngineView::printFinished, this, &PagePrinter::Finish);
 }
 
+/// A printer is written to by a thread of the browser, which nothing ends; it must find the printer there.
+PagePrinter::~PagePrinter() {
+  if (IsPrinting() && printer_->outputFormat() != QPrinter::PdfFormat) static_cast<void>(printer_.release());
+}
+
 void PagePrinter::Print() {
-  if (wanted_ || started_) return;
-  wanted_ = true;
+  if (stage_ != Stage::Idle) return;
+  stage_ = Stage::Waiting;
   GoOn();
+}
+
+/// The answer to a question that is open comes still, and is no longer wanted.
+void PagePrinter::GiveUp() {
+  if (IsPreparing()) Finish(false);
+  if (stage_ == Stage::Asking) stage_ = Stage::Idle;
 }
 
 /// Frames whose documents came later are loaded once more with the page: then it holds them for certain.
 void PagePrinter::GoOn() {
-  if (!wanted_ || !loaded_) return;
+  if (stage_ != Stage::Waiting || !loaded_) return;
   if (gateway_.ShowsUnfinished()) {
     if (gateway_.Documents().IsBusy()) return;
     loaded_ = false;
     gateway_.ExpectReload();
     return page_.Go(page_.Destination());
   }
-  wanted_ = false;
-  started_ = true;
+  stage_ = Stage::Looking;
   WaitForPictures(kMostLooks);
 }
 
 void PagePrinter::WaitForPictures(int attempts) {
+  if (stage_ != Stage::Looking) return;
   page_.runJavaScript(PrintScript(), QWebEngineScript::ApplicationWorld,
                       [held = QPointer(this), attempts](const QVariant& complete) {
                         if (!held) return;
@@ -67,13 +78,15 @@ void PagePrinter::WaitForPictures(int attempts) {
 
 /// A PDF file gets text and lines instead of a picture of the page.
 void PagePrinter::AskAndPrint() {
+  if (stage_ != Stage::Looking) return;
+  stage_ = Stage::Asking;
   printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setResolution(kDotsPerInch);
   const QPointer<PagePrinter> held(this);
-  const QUrl page = page_.Destination();
   const bool print = ask_(*printer_);
   if (!held) return;  // gone with the window while the dialog was open
-  if (!print || page_.Destination() != page) return Finish(false);
+  if (!print || stage_ != Stage::Asking) return Finish(false);
+  stage_ = Stage::Printing;
   if (printer_->outputFormat() == QPrinter::PdfFormat) {
     page_.printToPdf(printer_->outputFileName(), printer_->pageLayout(), printer_->pageRanges());
   } else {
@@ -82,7 +95,7 @@ void PagePrinter::AskAndPrint() {
 }
 
 void PagePrinter::Finish(bool succeeded) {
-  started_ = false;
+  stage_ = Stage::Idle;
   printer_.reset();
   emit Printed(succeeded);
 }

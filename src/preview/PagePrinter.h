@@ -23,14 +23,32 @@ class PagePrinter : public QObject {
 
   /// All must outlive the printer. `view` shows `page`.
   PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gateway, AskForPrinter ask);
+  ~PagePrinter() override;
 
   /// Prints once the page is loaded and its documents are converted. Ignored while a print is under way.
   void Print();
+
+  /// Calls off a print, also while the user is asked for the printer; not one that makes paper already.
+  void GiveUp();
+
+  /// Whether a print waits for its page.
+  bool IsPreparing() const { return stage_ == Stage::Waiting || stage_ == Stage::Looking; }
+
+  /// Whether paper is being made: the page must stay until `Printed`.
+  bool IsPrinting() const { return stage_ == Stage::Printing; }
 
  signals:
   void Printed(bool succeeded);
 
  private:
+  enum class Stage {
+    Idle,
+    Waiting,  ///< for the page and its documents
+    Looking,  ///< whether all pictures are there
+    Asking,   ///< which printer
+    Printing,
+  };
+
   void GoOn();
   void WaitForPictures(int attempts);
   void AskAndPrint();
@@ -42,8 +60,7 @@ class PagePrinter : public QObject {
   AskForPrinter ask_;
   std::unique_ptr<QPrinter> printer_;  ///< in use until `Printed`
   bool loaded_ = false;
-  bool wanted_ = false;   ///< to be printed as soon as possible
-  bool started_ = false;  ///< past the point where it waits for the page
+  Stage stage_ = Stage::Idle;
 };
 
 }  // namespace quorvantis

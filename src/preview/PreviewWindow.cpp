@@ -3,10 +3,11 @@
 
 #include "platform/convert/Later.h"
 #include "preview/PageAddress.h"
+#include "render/PreviewPaths.h"
+#include "text/PathText.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -17,25 +18,13 @@
 namespace quorvantis {
 namespace {
 
-/// Nobody presses a key twice within this time. A key that is held down reports itself so often, and not
-/// always as a repetition.
-constexpr qint64 kShortestPause = 100;  // milliseconds
+using std::chrono::milliseconds;
 
-bool IsEscape(const QEvent& event) {
-  const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
-                     event.type() == QEvent::ShortcutOverride;
-  return isKey && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
-}
+constexpr milliseconds kUntilPrinting{500};
+constexpr milliseconds kUntilPageEnds{1000};
 
-/// Whether a dialog takes the input of `window`: one of its own does, and one for the whole program, but not
-/// one that only another window waits for.
-bool HasDialogInFront(const QWidget& window) {
-  const QWidget* const dialog = QApplication::activeModalWidget();
-  if (dialog == nullptr) return false;
-  const QWidget* const parent = dialog->parentWidget();
-  const bool ofAnotherWindow = parent != nullptr && parent->window() != &window;
-  return dialog->windowModality() == Qt::ApplicationModal || !ofAnotherWindow;
-}
+/// Compared with the beginning of a status text only, so that a page may say more ("ExamFinished").
+constexpr std::u16string_view kFinishSignal = u"ExamFinish";
 
 /// Whether all windows are gone that keep the program running. A preview that stayed open would keep a
 /// program running that nobody sees.
@@ -51,96 +40,126 @@ QRect Screen() {
   return screen == nullptr ? QRect(0, 0, 1024, 768) : screen->geometry();
 }
 
+/// Gives `window` the keyboard: the very next key goes there. Until the window system has moved it, Qt would
+/// look for shortcuts in the window that had it.
+void GiveKeysTo(QWidget& window) {
+  window.activateWindow();
+  // Later Qt wants programs to do without it, and has nothing in its place.
+  QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&window);)
+}
+
 }  // namespace
 
-PreviewWindow::PreviewWindow(QWebEngineProfile& profile, ExamGateway& gateway, PreviewOwner& owner,
+PreviewWindow::PreviewWindow(QWebEngineProfile& profile, ExamGateway& gateway,
                              const std::filesystem::path& applicationFolder, PagePrinter::AskForPrinter ask)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       gateway_(gateway),
       page_(&profile, nullptr),
       printer_(
           view_, page_, gateway,
-          ask ? std::move(ask) : [this](QPrinter& printer) { return AskUserForPrinter(printer); }),
-      session_(*this, *this, owner, applicationFolder) {
+          ask ? std::move(ask) : [this](QPrinter& printer) { return AskUserForPrinter(printer); }) {
   setAttribute(Qt::WA_QuitOnClose, false);
   setGeometry(Screen());
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(&view_);
   view_.setContextMenuPolicy(Qt::NoContextMenu);
+  view_.setPage(&page_);
+  printTimer_.setSingleShot(true);
+  connect(&printTimer_, &QTimer::timeout, this, &PreviewWindow::PrintByKeystroke);
   connect(&page_, &ExamPage::StatusTextChanged, this,
-          [this](const QString& text) { session_.StatusTextChanged(text.toStdU16String()); });
+          [this](const QString& text) { StatusTextChange(text.toStdU16String()); });
   auto* const print = new QShortcut(QKeySequence::Print, this);
-  connect(print, &QShortcut::activated, this, [this] { session_.PrintByKeystroke(); });
+  connect(print, &QShortcut::activated, this, &PreviewWindow::PrintByKeystroke);
   connect(&printer_, &PagePrinter::Printed, this, [this] {
     if (!IsOnScreen()) gateway_.StopConversions();
   });
-  qApp->installEventFilter(this);
+  Navigate(applicationFolder / TextToPath(kStudentFolders) / "SEE.htm");
 }
 
+/// The dialog refers to the printer.
 PreviewWindow::~PreviewWindow() {
-  gateway_.StopConversions();
-}
-
-/// Seen before the browser sees it, which would give the key to the page. While the preview covers the
-/// screen, the windows below it must not get the key either: it would end them. Nor must they afterwards, as
-/// long as it is held down and repeats.
-bool PreviewWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (!IsEscape(*event)) return QWidget::eventFilter(watched, event);
-  const bool held = sinceEscape_.isValid() && sinceEscape_.elapsed() < kShortestPause;
-  sinceEscape_.start();
-  if (event->type() == QEvent::KeyRelease) return QWidget::eventFilter(watched, event);
-  const bool repeats = held || static_cast<const QKeyEvent*>(event)->isAutoRepeat();
-  if (!repeats) escapeIsOurs_ = IsOnScreen() && !HasDialogInFront(*this);
-  if (!escapeIsOurs_) return QWidget::eventFilter(watched, event);
-  session_.Leave();
-  return true;
-}
-
-void PreviewWindow::closeEvent(QCloseEvent* event) {
-  if (IsProgramEnding()) return LeavePage();
-  event->ignore();
-  session_.Leave();
+  delete printDialog_;
 }
 
 void PreviewWindow::Navigate(const std::filesystem::path& page) {
-  if (view_.page() != &page_) view_.setPage(&page_);
-  page.empty() ? LeavePage() : gateway_.SetPage(page);
+  page.empty() ? gateway_.StopConversions() : gateway_.SetPage(page);
   page_.Go(page.empty() ? QUrl(kBlankPage) : AddressOf(page));
 }
 
-/// An exam may finish while a dialog asks for the printer of its page.
-void PreviewWindow::LeavePage() {
-  gateway_.StopConversions();
-  if (!printDialog_) return;
-  for (QDialog* const question : printDialog_->findChildren<QDialog*>()) question->reject();
-  printDialog_->reject();
-}
-
-/// A place away from the corner means: out of sight. Screens are larger than they were when that place was
-/// chosen, and some systems let no window choose one, so the window is laid out without being shown.
+/// Screens are larger than they were when the place out of sight was chosen, and some systems let no window
+/// choose one, so the window is laid out without being shown.
 void PreviewWindow::Place(int x, int y) {
   setAttribute(Qt::WA_DontShowOnScreen, x != 0 || y != 0);
   move(Screen().topLeft() + QPoint(x, y));
 }
 
 void PreviewWindow::Show() {
+  const bool appears = !isVisible();
   show();
   if (!IsOnScreen()) return;
+  if (appears) below_ = QApplication::activeWindow();
   raise();
-  activateWindow();
+  GiveKeysTo(*this);
   view_.setFocus();
 }
 
-/// A preview that has been left is over, whatever scripts of its page still run; a print is only out of
-/// sight.
-void PreviewWindow::Hide() {
-  hide();
-  if (session_.Closing()) page_.setLifecycleState(QWebEnginePage::LifecycleState::Discarded);
+void PreviewWindow::StartPrintTimer() {
+  printTimer_.start(kUntilPrinting);
 }
 
-void PreviewWindow::After(std::chrono::milliseconds delay, std::function<void()> action) {
-  Later(*this, delay, std::move(action));
+void PreviewWindow::PrintByKeystroke() {
+  if (closing_) return;
+  Show();
+  printer_.Print();
+}
+
+void PreviewWindow::StatusTextChange(std::u16string_view text) {
+  if (closing_ || !text.starts_with(kFinishSignal)) return;
+  if (owner_ != nullptr) owner_->PrefixAttachmentPaths(0);
+  Leave();
+}
+
+void PreviewWindow::Leave() {
+  if (closing_) return;
+  closing_ = true;
+  printTimer_.stop();
+  printer_.GiveUp();
+  RejectPrintDialog();
+  if (isActiveWindow() && below_ && below_->isVisible())
+    GiveKeysTo(*below_);  // before the window system looks for another one
+  Hide();
+  page_.setAudioMuted(true);
+  emit Closed();
+  if (printer_.IsPrinting()) {  // the browser does not survive it when the page goes meanwhile
+    connect(&printer_, &PagePrinter::Printed, this, &PreviewWindow::EndPage);
+  } else {
+    EndPage();
+  }
+}
+
+/// The page gets a second to end what it is doing, a recording for example. Then it is over, whatever scripts
+/// of it still run.
+void PreviewWindow::EndPage() {
+  Navigate({});
+  Later(*this, kUntilPageEnds,
+        [this] { page_.setLifecycleState(QWebEnginePage::LifecycleState::Discarded); });
+}
+
+bool PreviewWindow::IsAboutToPrint() const {
+  return !IsOnScreen() && !closing_ && (printTimer_.isActive() || printer_.IsPreparing());
+}
+
+void PreviewWindow::closeEvent(QCloseEvent* event) {
+  if (!IsProgramEnding()) event->ignore();
+  Leave();
+}
+
+/// An exam may finish while a dialog asks for the printer of its page.
+void PreviewWindow::RejectPrintDialog() {
+  if (!printDialog_) return;
+  for (QDialog* const question : printDialog_->findChildren<QDialog*>()) question->reject();
+  printDialog_->reject();
 }
 
 bool PreviewWindow::AskUserForPrinter(QPrinter& printer) {

@@ -5,15 +5,24 @@
 #include "preview/PageScripts.h"
 #include "preview/RequestGuard.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QWebEngineScriptCollection>
 
+#include <chrono>
 #include <utility>
 
 namespace quorvantis {
+namespace {
+
+constexpr std::chrono::seconds kLongestPrint{20};
+constexpr int kTurn = 50;  // milliseconds
+
+}  // namespace
 
 /// What all windows share. The profile has no name and therefore keeps nothing on the disk.
 struct PreviewWindows::Browser {
-  explicit Browser(const GatewaySetup& setup) : gateway(setup, guard) {
+  explicit Browser(const GatewaySetup& setup) : gateway(setup) {
     profile.setUrlRequestInterceptor(&guard);
     profile.installUrlSchemeHandler(QByteArray(kExamScheme.data()), &gateway);
     profile.scripts()->insert(PageScript({setup.texts.preparing, setup.texts.cannotShow}));
@@ -24,34 +33,38 @@ struct PreviewWindows::Browser {
   QWebEngineProfile profile;
 };
 
-PreviewWindows::PreviewWindows(GatewaySetup setup, PreviewOwner& owner)
-    : setup_(std::move(setup)), owner_(owner) {}
+PreviewWindows::PreviewWindows(GatewaySetup setup) : setup_(std::move(setup)) {}
 
-PreviewWindows::~PreviewWindows() = default;
-
-void PreviewWindows::Warm() {
-  if (!window_) NewSession();
-}
-
-void PreviewWindows::SetAttachedFiles(const std::vector<std::filesystem::path>& files) {
-  attached_ = files;
-  if (browser_) browser_->gateway.SetAttachedFiles(attached_);
-}
-
-PreviewSession& PreviewWindows::NewSession() {
-  Browser& browser = StartedBrowser();
-  window_.reset();
-  window_ = std::make_unique<PreviewWindow>(browser.profile, browser.gateway, owner_,
-                                            setup_.applicationFolder, ask_);
-  return window_->Session();
-}
-
-PreviewWindows::Browser& PreviewWindows::StartedBrowser() {
-  if (!browser_) {
-    browser_ = std::make_unique<Browser>(setup_);
-    browser_->gateway.SetAttachedFiles(attached_);
+PreviewWindows::~PreviewWindows() {
+  const QDeadlineTimer deadline(kLongestPrint);
+  while (!printing_.empty() && !deadline.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kTurn);
   }
-  return *browser_;
+}
+
+PreviewWindows::Window PreviewWindows::Make() {
+  if (!browser_) browser_ = std::make_unique<Browser>(setup_);
+  Window window(new PreviewWindow(browser_->profile, browser_->gateway, setup_.applicationFolder, ask_),
+                Discard{this});
+  keys_.Watch(*window);
+  return window;
+}
+
+void PreviewWindows::Retire(PreviewWindow* window) {
+  std::unique_ptr<PreviewWindow> owned(window);
+  browser_->gateway.StopConversions();
+  if (!window->Printer().IsPrinting()) return;
+  window->Hide();
+  // The next window's conversions are none of its business.
+  QObject::disconnect(&window->Printer(), nullptr, window, nullptr);
+  QObject::connect(&window->Printer(), &PagePrinter::Printed, &keys_, [this, window] {
+    std::erase_if(printing_, [window](std::unique_ptr<PreviewWindow>& printed) {
+      if (printed.get() != window) return false;
+      printed.release()->deleteLater();  // it is the one that tells
+      return true;
+    });
+  });
+  printing_.push_back(std::move(owned));
 }
 
 }  // namespace quorvantis

@@ -2,54 +2,51 @@
 #pragma once
 
 #include "preview/ExamGateway.h"
+#include "preview/PreviewKeys.h"
 #include "preview/PreviewWindow.h"
 
 #include <QWebEngineProfile>
 
-#include <filesystem>
 #include <memory>
 #include <vector>
 
 namespace quorvantis {
 
-/// The previews and prints of a main window: one window at a time, made anew for each of them, over one
-/// browser profile that leaves nothing behind. The browser starts with the first window.
-/// `PrepareBrowserEngine` must have been called before the QApplication was made, and this must go before the
-/// QApplication does.
+/// Makes the preview windows of a main window, over one browser profile that leaves nothing behind. The
+/// browser starts with the first window. `PrepareBrowserEngine` must have been called before the QApplication
+/// was made, and this must go before the QApplication does.
 class PreviewWindows {
  public:
-  /// `owner` and the pages of `setup` must outlive this.
-  PreviewWindows(GatewaySetup setup, PreviewOwner& owner);
+  /// Discards a window; one whose page is being put to the printer goes, unseen, when that is done.
+  struct Discard {
+    PreviewWindows* windows;
+    void operator()(PreviewWindow* window) const { windows->Retire(window); }
+  };
+  using Window = std::unique_ptr<PreviewWindow, Discard>;
+
+  /// The pages of `setup` must outlive this.
+  explicit PreviewWindows(GatewaySetup setup);
+
+  /// All windows must have been discarded. Waits for those that print.
   ~PreviewWindows();
   PreviewWindows(const PreviewWindows&) = delete;
   PreviewWindows& operator=(const PreviewWindows&) = delete;
 
-  /// Makes the first window, hidden, so that the first preview appears at once. Takes a moment: call it when
-  /// the main window has been painted.
-  void Warm();
-
-  /// The attached files of the exam, by full path. Only those outside of the work folders need to be named.
-  void SetAttachedFiles(const std::vector<std::filesystem::path>& files);
-
-  /// A fresh window for the next preview or print; the one before is gone.
-  PreviewSession& NewSession();
-
-  /// The window of the last session, or null.
-  PreviewWindow* Window() { return window_.get(); }
+  /// A fresh window for the next preview or print. Discard the one before first.
+  Window Make();
 
   /// Who chooses the printer from the next window on; the user does where this is not called.
   void ChoosePrinterWith(PagePrinter::AskForPrinter ask) { ask_ = std::move(ask); }
 
  private:
   struct Browser;
-  Browser& StartedBrowser();
+  void Retire(PreviewWindow* window);
 
   GatewaySetup setup_;
-  PreviewOwner& owner_;
   PagePrinter::AskForPrinter ask_;
-  std::vector<std::filesystem::path> attached_;
   std::unique_ptr<Browser> browser_;
-  std::unique_ptr<PreviewWindow> window_;  ///< goes before the browser
+  PreviewKeys keys_;
+  std::vector<std::unique_ptr<PreviewWindow>> printing_;  ///< go before the browser
 };
 
 }  // namespace quorvantis

@@ -3,18 +3,24 @@
 
 #include "preview/BrowserEngine.h"
 
+#include <QByteArray>
+#include <QMap>
+
 namespace quorvantis {
+namespace {
+
+constexpr char kFrameMark[] = "X-Quorvantis-Frame";
+
+}  // namespace
 
 void RequestGuard::interceptRequest(QWebEngineUrlRequestInfo& info) {
   if (!StaysInside(info.requestUrl())) return info.block(true);
   const bool forFrame = info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeSubFrame;
-  if (forFrame && info.requestUrl().scheme() == kExamScheme) {
-    forFrames_.insert(info.requestUrl().adjusted(QUrl::RemoveFragment));
-  }
+  if (forFrame && info.requestUrl().scheme() == kExamScheme) info.setHttpHeader(kFrameMark, "1");
 }
 
-bool RequestGuard::TakeForFrame(const QUrl& address) {
-  return forFrames_.remove(address.adjusted(QUrl::RemoveFragment));
+bool RequestGuard::IsForFrame(const QWebEngineUrlRequestJob& job) {
+  return job.requestHeaders().contains(kFrameMark);
 }
 
 bool RequestGuard::StaysInside(const QUrl& address) {

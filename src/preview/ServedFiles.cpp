@@ -39,13 +39,6 @@ void AddWithoutPrefixes(std::string path, std::vector<fs::path>& places) {
 ServedFiles::ServedFiles(fs::path applicationFolder)
     : applicationFolder_(std::move(applicationFolder)), pageFolder_(applicationFolder_) {}
 
-void ServedFiles::SetAttached(const std::vector<fs::path>& files) {
-  attached_.clear();
-  for (const fs::path& file : files) {
-    if (std::optional<fs::path> real = RealPath(file)) attached_.insert(std::move(*real));
-  }
-}
-
 std::vector<fs::path> ServedFiles::Places(const fs::path& asked) const {
   std::vector<fs::path> places{asked};
   AddWithoutPrefixes(asked.native(), places);
@@ -67,7 +60,6 @@ std::optional<fs::path> ServedFiles::Find(const fs::path& asked) const {
 
 /// A work folder that is itself a link leads out of the application folder and is none of ours.
 bool ServedFiles::Permits(const fs::path& real) const {
-  if (attached_.count(real) != 0) return true;
   const std::optional<fs::path> folder = RealPath(applicationFolder_);
   return folder && std::any_of(std::begin(kWorkFolders), std::end(kWorkFolders),
                                [&](const char* name) { return IsBelow(real, *folder / name); });

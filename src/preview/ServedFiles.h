@@ -3,19 +3,16 @@
 
 #include <filesystem>
 #include <optional>
-#include <set>
 #include <vector>
 
 namespace quorvantis {
 
-/// Which files the pages of an exam may show: those below the work folders of the application folder, and the
-/// files attached to the exam. Exams come from strangers; whatever a page asks for, no other file is opened.
+/// Which files the pages of an exam may show: those below the work folders of the application folder, where
+/// there is a copy of every attached file. Exams come from strangers; whatever a page asks for, no other file
+/// is opened.
 class ServedFiles {
  public:
   explicit ServedFiles(std::filesystem::path applicationFolder);
-
-  /// The attached files that lie elsewhere, by full path. Replaces those named before.
-  void SetAttached(const std::vector<std::filesystem::path>& files);
 
   /// The folder of the page that is shown; relative addresses of its frames and files begin there.
   void SetPageFolder(const std::filesystem::path& folder) { pageFolder_ = folder.lexically_normal(); }
@@ -35,7 +32,6 @@ class ServedFiles {
 
   std::filesystem::path applicationFolder_;
   std::filesystem::path pageFolder_;
-  std::set<std::filesystem::path> attached_;  ///< real paths
 };
 
 }  // namespace quorvantis

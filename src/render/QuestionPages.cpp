@@ -11,7 +11,7 @@
 namespace quorvantis {
 namespace {
 
-/// Sets the status text that PreviewSession waits for.
+/// Sets the status text that PreviewWindow waits for.
 constexpr Template<Text> kFinishButton{
     uR"(<center><input type=BUTTON value="%s" onclick=window.status="ExamFinish"></center>\r\n)"};
 

@@ -46,15 +46,6 @@ TEST_F(AttachmentTest, PicturesOfAnOpenedExamOnTheScreenAndOnPaper) {
   EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
 }
 
-TEST_F(AttachmentTest, FilesOutsideOnlyWhereTheyAreAttached) {
-  const auto attached = WriteBytes(folder / "elsewhere/a.bmp", SmallBitmap());
-  const auto beside = WriteBytes(folder / "elsewhere/b.bmp", SmallBitmap());
-  Windows().SetAttachedFiles({attached});
-  PreviewWith("<img src=\"" + attached.string() + "\"><img src=\"" + beside.string() + "\">");
-  EXPECT_EQ(Evaluate("document.images[0].naturalWidth").toInt(), 2);
-  EXPECT_EQ(Evaluate("document.images[1].naturalWidth").toInt(), 0);
-}
-
 TEST_F(AttachmentTest, NamesThatMeanSomethingInAddresses) {
   Attach("50%#1?&copy.bmp", SmallBitmap());
   PreviewWith("<img src=\"~TEMP/home/50%#1?&copy.bmp\" >");
@@ -163,17 +154,6 @@ TEST_F(AttachmentTest, FilesThatAreNoMediaAreNamedOrShownInPlaceOfThePlayer) {
   PreviewWith(PlayerScript("~TEMP/home/data.xyz") + "<embed src=\"~TEMP/home/a.png.bmp\">");
   EXPECT_TRUE(Says("data.xyz cannot appear")) << Said();
   EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
-}
-
-/// A clip of 550 by 400 that is all red.
-std::string RedFlash() {
-  const std::string body =
-      std::string("\x78\0\x05\x5F\0\0\x0F\xA0\0", 9) +  // the size of the stage, in twips
-      std::string("\0\x0C\x01\0", 4) +                  // 12 pictures a second, 1 of them
-      std::string("\x43\x02\xFF\0\0", 5) +              // the background
-      std::string("\x40\0\0\0", 4);                     // the picture, and the end
-  const auto size = static_cast<char>(8 + body.size());
-  return std::string("FWS\x06") + size + std::string(3, '\0') + body;
 }
 
 TEST_F(AttachmentTest, FlashPlays) {

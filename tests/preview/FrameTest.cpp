@@ -52,13 +52,5 @@ TEST_F(FrameTest, FillsTheScreenOnTopOfEverythingWithoutACaption) {
   EXPECT_TRUE(Window().windowTitle().isEmpty());
 }
 
-TEST_F(FrameTest, WarmingShowsNothing) {
-  Windows().Warm();
-  EXPECT_FALSE(Window().isVisible());
-  QWidget* const first = &Window();
-  Windows().Warm();
-  EXPECT_EQ(&Window(), first);
-}
-
 }  // namespace
 }  // namespace quorvantis::test

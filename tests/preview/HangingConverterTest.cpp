@@ -48,9 +48,10 @@ TEST_F(HangingConverterTest, HoldsNothingUpAndEndsWithThePreview) {
   EXPECT_TRUE(Becomes("window.frames[1].document.images.length > 0"));
   EXPECT_TRUE(Becomes("document.querySelectorAll('video')[1].readyState > 0"));
 
-  Windows().Window()->Session().Leave();
+  Window().Leave();
   EXPECT_TRUE(WaitFor([&] { return !Window().isVisible(); }));
   for (const pid_t child : Children()) EXPECT_FALSE(IsRunning(child)) << child;
+  window.reset();
   windows.reset();
   EXPECT_TRUE(fs::is_empty(folder / "tmp"));
 }

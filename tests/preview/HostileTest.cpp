@@ -151,7 +151,7 @@ TEST_F(HostileTest, DoesNotLeaveThePreviewByNavigation) {
                             "<p id=here>here</p><a id=link href=other.htm target=_top>x</a>"
                             "<form id=form action=other.htm><input name=a></form>"
                             "<form id=post action=SEE.htm method=post><input name=a></form>");
-  Windows().Window()->Session().ShowPreview(main);
+  ShowPreview(main);
   ASSERT_TRUE(Becomes("document.getElementById('here')"));
   const std::string address = "http://" + listeners.Host();
   for (const std::string& attempt :
@@ -172,10 +172,10 @@ TEST_F(HostileTest, DoesNotLeaveThePreviewByNavigation) {
 
 TEST_F(HostileTest, IsFetchedBackThreeTimesAndThenStaysBlank) {
   int loads = 0;
-  Windows().Warm();
+  NewWindow();
   QObject::connect(&Page(), &QWebEnginePage::loadFinished,
                    [&] { loads += Page().url().fileName() == "SEE.htm"; });
-  Windows().Window()->Session().ShowPreview(Compose(
+  ShowPreview(Compose(
       "SEE.htm", "x<script>onload = () => setTimeout(() => { location = 'about:blank' }, 200)</script>"));
   EXPECT_TRUE(WaitFor([&] { return loads >= 2; }));
   for (int before = -1; before != loads; QTest::qWait(2000)) before = loads;  // until it has come to rest

@@ -19,7 +19,7 @@ namespace quorvantis::test {
 class CountingOwner : public PreviewOwner {
  public:
   int finished = 0;
-  void PreviewFinished() override { ++finished; }
+  void PrefixAttachmentPaths(int on) override { finished += on == 0; }
 };
 
 /// A browser over an application folder with pages and attached files of the test's own making.
@@ -42,20 +42,41 @@ class PreviewTest : public testing::Test {
   }
 
   PreviewWindows& Windows() {
-    if (!windows) windows.emplace(GatewaySetup{app, pages, flashPlayer, programs, texts}, owner);
+    if (!windows) windows.emplace(GatewaySetup{app, pages, flashPlayer, programs, texts});
     return *windows;
+  }
+
+  /// As the main window does for each preview and print.
+  PreviewWindow& NewWindow() {
+    window.reset();
+    window = Windows().Make();
+    window->SetOwner(owner);
+    return *window;
+  }
+  void ShowPreview(const std::filesystem::path& page) {
+    window->Navigate(page);
+    window->Place(0, 0);
+    window->Show();
+  }
+  void PrintOffScreen(const std::filesystem::path& page) {
+    NewWindow().Navigate(page);
+    window->Place(2000, 2000);
+    window->Show();
+    window->StartPrintTimer();
+    window->Hide();
   }
 
   /// Shows `page` and waits until it is loaded.
   void Preview(const std::filesystem::path& page) {
-    Windows().NewSession().ShowPreview(page);
+    NewWindow();
+    ShowPreview(page);
     ASSERT_TRUE(WaitFor([&] {
       return Evaluate("document.readyState === 'complete' && location.href").toUrl() == Page().url() &&
              Page().url().fileName() == page.filename().c_str();
     }));
   }
 
-  QWidget& Window() { return *windows->Window(); }
+  PreviewWindow& Window() { return *window; }
   QWebEnginePage& Page() { return *Window().findChild<QWebEngineView*>()->page(); }
 
   static bool WaitFor(const std::function<bool()>& condition, int limit = kLongest) {
@@ -104,6 +125,7 @@ class PreviewTest : public testing::Test {
   PreviewTexts texts{"Preparing %1", "%1 cannot appear", "%1 is gone",
                      "%1 needs %2",  "First %1",         "Beginning"};
   std::optional<PreviewWindows> windows;
+  PreviewWindows::Window window;
 };
 
 }  // namespace quorvantis::test

@@ -19,8 +19,8 @@ class PrintTest : public PreviewTest {
       printer.setOutputFileName(QString::fromStdString(pdf.string()));
       return true;
     });
-    Windows().NewSession().PrintOffScreen(page);
-    QSignalSpy printed(&Windows().Window()->Printer(), &PagePrinter::Printed);
+    PrintOffScreen(page);
+    QSignalSpy printed(&Window().Printer(), &PagePrinter::Printed);
     ASSERT_TRUE(WaitFor([&] { return !printed.isEmpty(); }));
     ASSERT_TRUE(printed.front().front().toBool());
   }
@@ -81,8 +81,8 @@ TEST_F(PrintTest, WaitsForDocumentsAndPrintsAllTheirPages) {
 TEST_F(PrintTest, TheUserIsAskedForThePrinter) {
   const auto page = app / "exam_Print.htm";
   pages.Add(page, u"<HTML><BODY>x</BODY></HTML>");
-  Windows().NewSession().PrintOffScreen(page);
-  QSignalSpy printed(&Windows().Window()->Printer(), &PagePrinter::Printed);
+  PrintOffScreen(page);
+  QSignalSpy printed(&Window().Printer(), &PagePrinter::Printed);
   bool dialogSeen = false;
   QTimer look;
   QObject::connect(&look, &QTimer::timeout, [&] {
@@ -97,10 +97,39 @@ TEST_F(PrintTest, TheUserIsAskedForThePrinter) {
   EXPECT_FALSE(printed.front().front().toBool());
 }
 
+/// The browser does not survive it when the page goes meanwhile.
+TEST_F(PrintTest, LeavingCallsOffAPrintOrLetsItsPaperBeMade) {
+  enum class Leaving { WhileAsked, WhilePrinting, AtOnce };
+  for (const Leaving leaving : {Leaving::WhileAsked, Leaving::WhilePrinting, Leaving::AtOnce}) {
+    SCOPED_TRACE(static_cast<int>(leaving));
+    pdf = folder / ("paper" + std::to_string(static_cast<int>(leaving)) + ".pdf");
+    bool over = false;
+    Windows().ChoosePrinterWith([&](QPrinter& printer) {
+      if (leaving == Leaving::WhileAsked) {
+        Window().Leave();
+        QTest::qWait(1500);
+      }
+      printer.setOutputFormat(QPrinter::PdfFormat);
+      printer.setOutputFileName(QString::fromStdString(pdf.string()));
+      QTimer::singleShot(0, [&] {
+        if (leaving == Leaving::WhilePrinting) Window().Leave();
+        if (leaving == Leaving::AtOnce) window.reset();
+        over = true;
+      });
+      return true;
+    });
+    Preview(Compose("SEE.htm", "On paper"));
+    Window().PrintByKeystroke();
+    ASSERT_TRUE(WaitFor([&] { return over; }));
+    QTest::qWait(1500);
+    EXPECT_EQ(Text().contains("On paper"), leaving != Leaving::WhileAsked);
+  }
+}
+
 TEST_F(PrintTest, TwiceInAHurryAsksOnce) {
   const auto page = app / "exam_Print.htm";
   pages.Add(page, u"<HTML><BODY>x</BODY></HTML>");
-  Windows().NewSession().PrintOffScreen(page);
+  PrintOffScreen(page);
   QTest::qWait(100);
   Print(page);
   QTest::qWait(600);

@@ -61,16 +61,5 @@ TEST_F(ServedFilesTest, PrefixesOfUnfinishedPreviewsAreLookedBehind) {
   EXPECT_EQ(files.Find("/x" + file), std::nullopt);
 }
 
-TEST_F(ServedFilesTest, AttachedFilesAreThoseOfTheLastExam) {
-  const fs::path one = WriteBytes(fs::canonical(folder.Path()) / "elsewhere/one", "x");
-  const fs::path two = WriteBytes(fs::canonical(folder.Path()) / "elsewhere/two", "x");
-  files.SetAttached({one, "/no/such/file"});
-  EXPECT_EQ(files.Find(one), one);
-  EXPECT_EQ(files.Find(two), std::nullopt);
-  files.SetAttached({two});
-  EXPECT_EQ(files.Find(one), std::nullopt);
-  EXPECT_EQ(files.Find(two), two);
-}
-
 }  // namespace
 }  // namespace quorvantis::test
