@@ -6,9 +6,11 @@
 
 #include <array>
 #include <filesystem>
+#include <memory>
 
 namespace quorvantis {
 
+struct ExamReadOutcome;
 struct ExamServices;
 
 /// Whether the exam is all that its file holds.
@@ -32,6 +34,12 @@ class FrameSetExam : public ExamPaper {
   /// Loads an exam file of any version into this document, which the caller has reset, and unpacks its
   /// attached files into the work folder. Failures are shown to the user. Defined in examfile/.
   void ReadExamFile(const std::filesystem::path& file);
+
+  /// The readers of older versions, in the order in which a file is handed on until one knows its tag. The
+  /// work folder has been emptied by ReadExamFile.
+  void ReadExamFileV202(const std::filesystem::path& file);
+  void ReadExamFile0214(const std::filesystem::path& file);
+  void ReadUntaggedExamFile(const std::filesystem::path& file);
 
   /// Saves the exam as a current-version file, replacing `file` only when the new one is complete. False when
   /// it could not be saved; the user has been told. With `backup` the old file stays under the name of a
@@ -79,7 +87,8 @@ class FrameSetExam : public ExamPaper {
   std::array<int, kMaxAttachments>
       examAttachmentTypes{};  ///< number of the preview frame that shows each file
   AttachmentPageWriter attachmentPageWriter;
-  int previewPrefixes = 0;  ///< previews of this exam that were not finished
+  int previewPrefixes = 0;                          ///< previews of this exam that were not finished
+  std::shared_ptr<const ExamReadOutcome> lastRead;  ///< examfile/ has the type; null before the first read
   ReadDoubt readDoubt = ReadDoubt::None;
   int filesNotUnpacked = 0;  ///< attached files that the last read could make no file of
   int hasOralQuestion = 0;   ///< 1 when the reader met an oral question
