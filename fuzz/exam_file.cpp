@@ -61,7 +61,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   FrameSetExam first(world.services);
   first.SetHostMode(1);
-  const ExamReadOutcome outcome = ExamFileReader(first, world.services).Read(folder / "in.exm");
+  first.ReadExamFile(folder / "in.exm");
+  const ExamReadOutcome outcome = *first.lastRead;
   Require(outcome.opened && first.questionCount >= 0 && first.questionCount <= kMaxQuestions);
   if (outcome.endsEarly)
     Require(outcome.firstMissingQuestion <= first.questionCount || first.questionCount == 0);

@@ -9,7 +9,10 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <iostream>
+#include <set>
+#include <span>
 
 namespace quorvantis::cli {
 namespace {
@@ -31,6 +34,7 @@ struct Arguments {
   ImportRequest import;
   MatchRequest match;
   std::vector<ScoreStep> scoreSteps;
+  std::set<const CLI::Option*> mayBeEmpty;  ///< options of which an empty text is a value like any other
 };
 
 /// The options of every command; they may stand before the command, too.
@@ -58,6 +62,13 @@ CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, cons
 /// An argument that names a file or folder.
 void AddPath(CLI::App& command, const char* name, std::filesystem::path& path, const char* description) {
   command.add_option(name, path, description)->required()->type_name("");
+}
+
+/// An option that may be empty, which is more than not to be there.
+CLI::Option* AddText(CLI::App& command, const char* name, std::optional<std::string>& text,
+                     const char* description, const char* type) {
+  const auto take = [&text](const std::string& given) { text = given; };
+  return command.add_option_function<std::string>(name, take, description)->type_name(type);
 }
 
 void AddShow(CLI::App& app, Arguments& arguments, Console& console) {
@@ -88,9 +99,9 @@ void AddPreview(CLI::App& app, Arguments& arguments, Console& console) {
   CLI::App* preview = AddCommand(app, arguments, "preview", "Write the pages of an exam's preview");
   AddPath(*preview, "EXAM", arguments.input, "Exam file (.exm)");
   AddPath(*preview, "DIR", arguments.output, "Application folder for the pages; made if missing");
-  preview
-      ->add_option("--student", arguments.student, "Write the pages of the student with this number instead")
-      ->type_name("ID");
+  CLI::Option* student = AddText(*preview, "--student", arguments.student,
+                                 "Write the pages of the student with this number instead", "ID");
+  arguments.mayBeEmpty.insert(student);  // it is the number 0
   preview->add_option("--responses", arguments.responses, "What the student has answered (JSON)")
       ->type_name("FILE");
   preview->footer(
@@ -245,25 +256,55 @@ void AddMatch(CLI::App& app, Arguments& arguments, Console& console) {
     return match->add_option(name, target, description)->type_name(type);
   };
   MatchRequest& request = arguments.match;
-  CLI::Option* pattern = add("PATTERN", request.pattern, "Pattern to try", "");
+  CLI::Option* pattern = AddText(*match, "PATTERN", request.pattern, "Pattern to try", "");
   add("--flags", request.flags,
       "Sum of 1 single-line, 2 multi-line, 4 global, 8 ignore case,\n16 right-to-left, 32 extended; 3 "
       "without it",
       "N")
       ->check(CLI::Range(0, 63));
   add("--start", request.start, "Where the scan begins, in UTF-16 units", "N");
-  CLI::Option* text = add("--text", request.text, "Text to search", "TEXT");
+  CLI::Option* text = AddText(*match, "--text", request.text, "Text to search", "TEXT");
   CLI::Option* file =
       add("--text-file", request.textFile, "File with the text; standard input without it", "FILE");
   CLI::Option* batch = add("--batch", request.batch,
                            "File with a {\"pattern\": …, \"flags\": …, \"text\": …} on each line", "FILE");
   text->excludes(file)->excludes(batch);
   batch->excludes(file)->excludes(pattern);
+  arguments.mayBeEmpty.insert({pattern, text});
   match->footer("Prints where the groups matched, in UTF-16 units, as one JSON object.");
   match->callback([&console, &request] {
     if (!request.pattern && !request.batch) throw CLI::RequiredError("PATTERN or --batch");
     Match(console, request);
   });
+}
+
+/// An argument left empty is a slip of the script that gives it, an unset variable most likely. It must not
+/// mean that there is none, or the current folder.
+void RefuseEmptyArguments(CLI::App& command, const std::set<const CLI::Option*>& mayBeEmpty) {
+  const auto refuse = [](const std::string& value) { return std::string(value.empty() ? "is empty" : ""); };
+  for (CLI::Option* option : command.get_options()) {
+    if (option->get_items_expected_max() > 0 && !mayBeEmpty.contains(option))
+      option->transform(CLI::Validator(refuse, ""));
+  }
+  for (CLI::App* subcommand : command.get_subcommands({})) RefuseEmptyArguments(*subcommand, mayBeEmpty);
+}
+
+/// The arguments from the last to the first, as the parser takes them. It would let "--name=" take the next
+/// argument for its value, so that is given an empty one.
+std::vector<std::string> ReversedArguments(int count, const char* const* values) {
+  std::vector<std::string> arguments;
+  bool optionsEnded = false;
+  for (const char* value : std::span(values, static_cast<std::size_t>(count)).subspan(1)) {
+    std::string argument = value;
+    optionsEnded = optionsEnded || argument == "--";
+    const bool hasEmptyValue = !optionsEnded && argument.starts_with("--") && argument.ends_with('=') &&
+                               argument.find('=') == argument.size() - 1;
+    if (hasEmptyValue) argument.pop_back();
+    arguments.push_back(std::move(argument));
+    if (hasEmptyValue) arguments.emplace_back();
+  }
+  std::ranges::reverse(arguments);
+  return arguments;
 }
 
 /// Names a command that does not exist, which CLI11 would report as a missing one.
@@ -275,7 +316,7 @@ bool IsUnknownCommand(const CLI::App& app, int argumentCount, const char* const*
 
 int Parse(CLI::App& app, int argumentCount, const char* const* arguments, Console& console) {
   try {
-    app.parse(argumentCount, arguments);
+    app.parse(ReversedArguments(argumentCount, arguments));
     return 0;
   } catch (const CLI::ParseError& problem) {
     const int status = app.exit(problem, console.out, console.err);
@@ -310,6 +351,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddLanguages(app, arguments, console);
   AddImport(app, arguments, console);
   AddMatch(app, arguments, console);
+  RefuseEmptyArguments(app, arguments.mayBeEmpty);
   if (IsUnknownCommand(app, argumentCount, argumentValues)) {
     console.Complain("unknown command \"" + std::string(argumentValues[1]) + "\"; see quorvantis-cli --help");
     return kWrongUsage;

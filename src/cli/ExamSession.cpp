@@ -55,11 +55,10 @@ void ExamSession::RequireReadable(const fs::path& file) {
 }
 
 ExamReadOutcome ExamSession::Load(const fs::path& file) {
-  const ExamReadOutcome outcome = ExamFileReader(exam, services).Read(file);
-  if (!outcome.opened) throw NotOpened(language_, file);
-  ShowReadLosses(services, outcome);
-  exam.filesNotUnpacked = outcome.filesNotCreated;
-  return outcome;
+  if (!ByteSource(file).IsOpen()) throw NotOpened(language_, file);
+  exam.ReadExamFile(file);
+  if (!exam.lastRead->opened) throw NotOpened(language_, file);
+  return *exam.lastRead;
 }
 
 void ExamSession::RequireUnpacked(const fs::path& file) const {

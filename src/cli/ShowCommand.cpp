@@ -67,12 +67,22 @@ void PrintAnswer(std::ostream& out, const ExamQuestion& question) {
   if (!question.essayAnswer.empty()) out << "   answer: " << Printable(question.essayAnswer) << "\n";
 }
 
+/// How many ranges apply: none while all questions have the same score, otherwise those before the first one
+/// that is unused or begins behind the last question.
+std::size_t RangesInUse(const ExamPaper& exam) {
+  if (exam.scoreMode == ScoreMode::Same) return 0;
+  std::size_t count = 0;
+  const auto applies = [&exam](std::size_t i) {
+    return exam.scoreTo[i] != 0 && exam.scoreFrom[i] <= exam.questionCount;
+  };
+  while (count < kScoreRanges && applies(count)) ++count;
+  return count;
+}
+
 void PrintRanges(std::ostream& out, const ExamPaper& exam) {
   out << "Scores: " << (exam.scoreMode == ScoreMode::Same ? "the same for every question" : "custom");
-  for (std::size_t i = 0; i < kScoreRanges; ++i) {
-    const bool inUse =
-        i == 0 || (exam.scoreMode != ScoreMode::Same && exam.scoreFrom[i] <= exam.questionCount);
-    if (!inUse) continue;
+  const std::size_t count = RangesInUse(exam);
+  for (std::size_t i = 0; i < count; ++i) {
     out << (i == 0 ? ": " : ", ") << exam.scoreFrom[i] << "-" << exam.scoreTo[i] << " = "
         << Utf16ToUtf8(FormatScore(exam.scoreValue[i]));
   }

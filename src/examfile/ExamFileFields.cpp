@@ -6,24 +6,24 @@
 namespace quorvantis {
 
 FieldReader::FieldReader(ByteSource& source, FieldEncoding encoding, const CodePage& codePage)
-    : source_(source), encoding_(encoding), decoder_(codePage) {
+    : source_(source), unit_(UnitOf(encoding)), decoder_(codePage) {
   decoder_.SetWide(encoding != FieldEncoding::EightBit);
 }
 
-std::u16string FieldReader::Decode(std::size_t units) {
-  return decoder_.Decode(source_.Take(units * BytesPerUnit(encoding_)));
+std::u16string FieldReader::Decode(ExamFileField field) {
+  return decoder_.Decode(source_.Take(field.Bytes(unit_)));
 }
 
-std::int64_t FieldReader::DecodeNumber(std::size_t units) {
-  return ParseInteger64(Decode(units));
+std::int64_t FieldReader::DecodeNumber(ExamFileField field) {
+  return ParseInteger64(Decode(field));
 }
 
-void FieldReader::Score(float& score, std::size_t units) {
-  if (!source_.Ended()) score = ParseScoreText(Decode(units));
+void FieldReader::Score(float& score, ExamFileField field) {
+  if (!source_.Ended()) score = ParseScoreText(Decode(field));
 }
 
-void FieldReader::WholeScore(float& score, std::size_t units) {
-  if (!source_.Ended()) score = static_cast<float>(DecodeNumber(units));
+void FieldReader::WholeScore(float& score, ExamFileField field) {
+  if (!source_.Ended()) score = static_cast<float>(DecodeNumber(field));
 }
 
 void FieldReader::OralFlag(int& flag) {
@@ -31,10 +31,10 @@ void FieldReader::OralFlag(int& flag) {
   if (!bytes.empty()) flag = bytes[0] == '\x01' ? 1 : 0;
 }
 
-void FieldWriter::Text(std::u16string_view text, std::size_t units) {
-  text = text.substr(0, units);
+void FieldWriter::Text(std::u16string_view text, ExamFileField field) {
+  text = text.substr(0, field.units);
   const std::size_t begin = bytes_.size();
-  bytes_.resize(begin + 2 * units);
+  bytes_.resize(begin + field.Bytes(kWrittenUnit));
   char* byte = bytes_.data() + begin;
   for (const char16_t unit : text) {
     *byte++ = static_cast<char>(unit & 0xFF);
@@ -42,12 +42,12 @@ void FieldWriter::Text(std::u16string_view text, std::size_t units) {
   }
 }
 
-void FieldWriter::NumberText(std::int64_t number, std::size_t units) {
-  Text(FormatInteger(number), units);
+void FieldWriter::NumberText(std::int64_t number, ExamFileField field) {
+  Text(FormatInteger(number), field);
 }
 
-void FieldWriter::Score(float score, std::size_t units) {
-  Text(FormatScore(score), units);
+void FieldWriter::Score(float score, ExamFileField field) {
+  Text(FormatScore(score), field);
 }
 
 void FieldWriter::OralFlag(int flag) {

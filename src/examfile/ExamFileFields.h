@@ -18,24 +18,24 @@ class FieldReader {
  public:
   FieldReader(ByteSource& source, FieldEncoding encoding, const CodePage& codePage);
 
-  void Text(std::u16string& text, std::size_t units) {
-    if (!source_.Ended()) text = Decode(units);
+  void Text(std::u16string& text, ExamFileField field) {
+    if (!source_.Ended()) text = Decode(field);
   }
   template <class Integer>
-  void Number(Integer& number, std::size_t units) {
-    if (!source_.Ended()) number = static_cast<Integer>(DecodeNumber(units));
+  void Number(Integer& number, ExamFileField field) {
+    if (!source_.Ended()) number = static_cast<Integer>(DecodeNumber(field));
   }
-  void Score(float& score, std::size_t units);
-  void WholeScore(float& score, std::size_t units);
-  void Reserved(std::size_t units) { source_.Take(units * BytesPerUnit(encoding_)); }
+  void Score(float& score, ExamFileField field);
+  void WholeScore(float& score, ExamFileField field);
+  void Reserved(ExamFileField field) { source_.Take(field.Bytes(unit_)); }
   void OralFlag(int& flag);
 
  private:
-  std::u16string Decode(std::size_t units);
-  std::int64_t DecodeNumber(std::size_t units);
+  std::u16string Decode(ExamFileField field);
+  std::int64_t DecodeNumber(ExamFileField field);
 
   ByteSource& source_;
-  FieldEncoding encoding_;
+  CharUnit unit_;
   FileTextDecoder decoder_;
 };
 
@@ -45,18 +45,20 @@ class FieldWriter {
   explicit FieldWriter(std::string& bytes) : bytes_(bytes) {}
 
   /// The text cut to the field's width; a shorter one is followed by zeros.
-  void Text(std::u16string_view text, std::size_t units);
+  void Text(std::u16string_view text, ExamFileField field);
   template <class Integer>
-  void Number(const Integer& number, std::size_t units) {
-    NumberText(static_cast<std::int64_t>(number), units);
+  void Number(const Integer& number, ExamFileField field) {
+    NumberText(static_cast<std::int64_t>(number), field);
   }
-  void Score(float score, std::size_t units);
-  void WholeScore(float score, std::size_t units) { NumberText(static_cast<std::int64_t>(score), units); }
-  void Reserved(std::size_t units) { bytes_.append(2 * units, '\0'); }
+  void Score(float score, ExamFileField field);
+  void WholeScore(float score, ExamFileField field) { NumberText(static_cast<std::int64_t>(score), field); }
+  void Reserved(ExamFileField field) { bytes_.append(field.Bytes(kWrittenUnit), '\0'); }
   void OralFlag(int flag);
 
  private:
-  void NumberText(std::int64_t number, std::size_t units);
+  static constexpr CharUnit kWrittenUnit = CharUnit::TwoBytes;
+
+  void NumberText(std::int64_t number, ExamFileField field);
 
   std::string& bytes_;
 };

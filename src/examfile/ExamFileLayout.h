@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The layout of exam files, told once. The functions below walk the fields of a record in file order and hand
 // each to a visitor; reading, writing and sizing are visitors, and the older versions are rows of a table.
-// Widths are in character units: two bytes in a UTF-16 file, one in every other. docs/FILE-FORMAT.md shows
-// the result as bytes.
+// docs/FILE-FORMAT.md shows the result as bytes.
 //
 // A visitor has
-//   Text(std::u16string&, units)    text, ended by NUL unless it fills the field
-//   Number(T&, units)               decimal text of an int or an enum
-//   Score(float&, units)            text with two decimals
-//   WholeScore(float&, units)       decimal text of a whole number
-//   Reserved(units)                 zeros, skipped on reading
+//   Text(std::u16string&, ExamFileField)    text, ended by NUL unless it fills the field
+//   Number(T&, ExamFileField)               decimal text of an int or an enum
+//   Score(float&, ExamFileField)            text with two decimals
+//   WholeScore(float&, ExamFileField)       decimal text of a whole number
+//   Reserved(ExamFileField)                 zeros, skipped on reading
 // each taking const references when it only reads the exam.
 #pragma once
 
@@ -28,31 +27,52 @@ enum class FieldEncoding {
   Utf16InBytes,  ///< older files: widths in bytes, which hold UTF-16 text of half as many units
 };
 
-constexpr std::size_t BytesPerUnit(FieldEncoding encoding) {
-  return encoding == FieldEncoding::Utf16 ? 2 : 1;
+/// The unit in which the widths of a file's fields are counted. Its value is its size in bytes.
+enum class CharUnit : std::size_t { OneByte = 1, TwoBytes = 2 };
+
+constexpr CharUnit UnitOf(FieldEncoding encoding) {
+  return encoding == FieldEncoding::Utf16 ? CharUnit::TwoBytes : CharUnit::OneByte;
 }
+
+/// A text field of fixed width. What is in it, and how it is written, is the visitor's business.
+struct ExamFileField {
+  std::size_t units = 0;
+
+  constexpr std::size_t Bytes(CharUnit unit) const { return units * static_cast<std::size_t>(unit); }
+};
 
 /// One version of the format.
 struct ExamFileVersion {
   std::string_view name;
-  std::u16string_view tag;     ///< first field of the file; empty when the version has none
-  bool hasAttachments;         ///< and with them the boundary question and the reserved areas
-  std::size_t attachmentName;  ///< units of an attachment's display name
-  std::size_t score;           ///< units of a score
-  bool decimalScores;          ///< scores have two decimals; whole numbers otherwise
-  bool hasOralFlag;            ///< before a question's first attachment, in UTF-16 files
-  bool hasLongAnswers;         ///< fill-in answers over the field's width, behind the attachments
-  bool notesOralQuestions;     ///< the reader records whether there are oral questions
+  std::u16string_view tag{};        ///< first field of the file; empty when the version has none
+  bool hasAttachments = false;      ///< and with them the boundary question and the reserved areas
+  ExamFileField attachmentName{};   ///< an attachment's display name
+  ExamFileField score{};            ///< a score
+  bool decimalScores = false;       ///< scores have two decimals; whole numbers otherwise
+  bool hasOralFlag = false;         ///< before a question's first attachment, in UTF-16 files
+  bool hasLongAnswers = false;      ///< fill-in answers over the field's width, behind the attachments
+  bool notesOralQuestions = false;  ///< the reader records whether there are oral questions
 };
 
-inline constexpr std::size_t kTagUnits = 16;
-inline constexpr ExamFileVersion kCurrentVersion{"current", u"Tarnwick_DB823", true, 128, 7, true, true, true,
-                                                 true};
-inline constexpr ExamFileVersion kVersion202{"v202", u"Tarnwick_v202", true, 128, 4, false, false, false,
-                                             false};
-inline constexpr ExamFileVersion kVersion0214{"0214", u"Tarnwick0214m3", true, 32, 4, false, false, false,
-                                              false};
-inline constexpr ExamFileVersion kUntaggedVersion{"untagged", u"", false, 0, 4, false, false, false, false};
+inline constexpr ExamFileField kTagField{16};
+inline constexpr ExamFileField kNumberField{4};
+inline constexpr ExamFileField kLongTextField{4096};  ///< question texts and essay answers
+inline constexpr ExamFileField kShortTextField{256};
+
+inline constexpr ExamFileVersion kCurrentVersion{.name = "current",
+                                                 .tag = u"Tarnwick_DB823",
+                                                 .hasAttachments = true,
+                                                 .attachmentName = {128},
+                                                 .score = {7},
+                                                 .decimalScores = true,
+                                                 .hasOralFlag = true,
+                                                 .hasLongAnswers = true,
+                                                 .notesOralQuestions = true};
+inline constexpr ExamFileVersion kVersion202{
+    .name = "v202", .tag = u"Tarnwick_v202", .hasAttachments = true, .attachmentName = {128}, .score = {4}};
+inline constexpr ExamFileVersion kVersion0214{
+    .name = "0214", .tag = u"Tarnwick0214m3", .hasAttachments = true, .attachmentName = {32}, .score = {4}};
+inline constexpr ExamFileVersion kUntaggedVersion{.name = "untagged", .score = {4}};
 
 inline constexpr std::string_view kByteOrderMark = "\xFF\xFE";
 
@@ -69,13 +89,13 @@ struct AttachmentEntry {
 /// From the title to the last field before the exam's attachments.
 template <class Exam, class Visitor>
 void VisitHeader(const ExamFileVersion& version, Exam& exam, Visitor& visitor) {
-  visitor.Text(exam.title, 256);
-  visitor.Number(exam.questionCount, 4);
-  visitor.Number(exam.randomMode, 4);
-  visitor.Number(exam.scoreMode, 4);
+  visitor.Text(exam.title, kShortTextField);
+  visitor.Number(exam.questionCount, kNumberField);
+  visitor.Number(exam.randomMode, kNumberField);
+  visitor.Number(exam.scoreMode, kNumberField);
   for (std::size_t i = 0; i < kScoreRanges; ++i) {
-    visitor.Number(exam.scoreFrom[i], 4);
-    visitor.Number(exam.scoreTo[i], 4);
+    visitor.Number(exam.scoreFrom[i], kNumberField);
+    visitor.Number(exam.scoreTo[i], kNumberField);
     if (version.decimalScores) {
       visitor.Score(exam.scoreValue[i], version.score);
     } else {
@@ -83,8 +103,8 @@ void VisitHeader(const ExamFileVersion& version, Exam& exam, Visitor& visitor) {
     }
   }
   if (!version.hasAttachments) return;
-  visitor.Number(exam.boundaryQuestion, 4);
-  visitor.Reserved(1020);
+  visitor.Number(exam.boundaryQuestion, kNumberField);
+  visitor.Reserved(ExamFileField{1020});
 }
 
 /// From a question's text to the last field before its attachments. `shortAnswer` is the fill-in answer or
@@ -92,19 +112,19 @@ void VisitHeader(const ExamFileVersion& version, Exam& exam, Visitor& visitor) {
 template <class Question, class Answer, class Visitor>
 void VisitQuestion(const ExamFileVersion& version, Question& question, Answer& shortAnswer,
                    Visitor& visitor) {
-  visitor.Text(question.text, 4096);
-  for (auto& option : question.options) visitor.Text(option, 256);
-  visitor.Text(question.answerLetters, 16);
-  visitor.Text(shortAnswer, 256);
-  visitor.Text(question.essayAnswer, 4096);
-  visitor.Number(question.kind, 4);
-  if (version.hasAttachments) visitor.Reserved(64);
+  visitor.Text(question.text, kLongTextField);
+  for (auto& option : question.options) visitor.Text(option, kShortTextField);
+  visitor.Text(question.answerLetters, ExamFileField{16});
+  visitor.Text(shortAnswer, kShortTextField);
+  visitor.Text(question.essayAnswer, kLongTextField);
+  visitor.Number(question.kind, kNumberField);
+  if (version.hasAttachments) visitor.Reserved(ExamFileField{64});
 }
 
 /// The number of attached files, of the exam or of a question.
 template <class Count, class Visitor>
 void VisitAttachmentCount(Count& count, Visitor& visitor) {
-  visitor.Number(count, 4);
+  visitor.Number(count, kNumberField);
 }
 
 /// The fields before an attached file's content. The oral flag is a 16-bit number: the visitor's
@@ -113,13 +133,13 @@ template <class Entry, class Visitor>
 void VisitAttachment(const ExamFileVersion& version, Entry& entry, bool withOralFlag, Visitor& visitor) {
   visitor.Text(entry.name, version.attachmentName);
   if (withOralFlag) visitor.OralFlag(entry.oralFlag);
-  visitor.Number(entry.size, 16);
+  visitor.Number(entry.size, ExamFileField{16});
 }
 
 /// The long fill-in answer, behind the question's attachments.
 template <class Answer, class Visitor>
 void VisitLongAnswer(Answer& answer, Visitor& visitor) {
-  visitor.Text(answer, 1024);
+  visitor.Text(answer, ExamFileField{1024});
 }
 
 }  // namespace quorvantis

@@ -2,10 +2,9 @@
 #include "examfile/ExamFileReader.h"
 
 #include "examfile/AttachmentUnpacker.h"
-#include "examfile/WorkFolder.h"
+#include "examfile/ExamFileTag.h"
+#include "examfile/UntaggedEncoding.h"
 #include "model/AnswerLetters.h"
-#include "platform/DebugOutput.h"
-#include "text/PathText.h"
 
 #include <algorithm>
 
@@ -100,16 +99,23 @@ class Reading {
 
 }  // namespace
 
-ExamReadOutcome ExamFileReader::Read(const std::filesystem::path& file) {
-  services_.debug.Line(PathToText(file));
+bool ExamFileReader::HasTag(const ExamFileVersion& version) {
+  return IsOpen() && EncodingByTag(source_, version).has_value();
+}
+
+FieldEncoding ExamFileReader::EncodingOf(const ExamFileVersion& version) {
+  if (version.tag.empty()) return UntaggedEncoding(source_.Peek(kUntaggedStart), services_.codePage);
+  return EncodingByTag(source_, version).value_or(FieldEncoding::EightBit);
+}
+
+ExamReadOutcome ExamFileReader::Read(const ExamFileVersion& version) {
   ExamReadOutcome outcome;
-  ByteSource source(file);
-  if (!source.IsOpen()) return outcome;
+  if (!IsOpen()) return outcome;
   outcome.opened = true;
-  PrepareWorkFolder(exam_, services_.applicationFolder, file);
-  outcome.form = RecogniseForm(source);
-  if (outcome.form.version->notesOralQuestions) exam_.hasOralQuestion = exam_.firstOralQuestion = 0;
-  Reading(exam_, services_, source, outcome.form).ReadExam(outcome);
+  outcome.form = {&version, EncodingOf(version)};
+  source_.Take(BytesBeforeTitle(outcome.form));
+  if (version.notesOralQuestions) exam_.hasOralQuestion = exam_.firstOralQuestion = 0;
+  Reading(exam_, services_, source_, outcome.form).ReadExam(outcome);
   return outcome;
 }
 

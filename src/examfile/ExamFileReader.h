@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "examfile/ByteSource.h"
 #include "examfile/ExamFileForm.h"
 #include "platform/ExamServices.h"
 
 #include <filesystem>
-#include <optional>
 
 namespace quorvantis {
 
@@ -19,19 +19,29 @@ struct ExamReadOutcome {
       0;  ///< when it ends early: the first question that is not whole, 0 when there are none
 };
 
-/// Loads an exam file of any version into a document that the caller has reset, and unpacks the attached
-/// files into the emptied work folder. Bad bytes never fail a read: it yields an exam and what was lost.
-/// Memory does not grow with the attached files, nor with any number in the file.
+/// Loads one exam file into a document that the caller has reset, and unpacks the attached files into the
+/// emptied work folder. Bad bytes never fail a read: it yields an exam and what was lost. Memory does not
+/// grow with the attached files, nor with any number in the file.
 class ExamFileReader {
  public:
-  /// Both must outlive the reader.
-  ExamFileReader(FrameSetExam& exam, const ExamServices& services) : exam_(exam), services_(services) {}
+  /// Opens `file`. Exam and services must outlive the reader.
+  ExamFileReader(FrameSetExam& exam, const ExamServices& services, const std::filesystem::path& file)
+      : exam_(exam), services_(services), source_(file) {}
 
-  ExamReadOutcome Read(const std::filesystem::path& file);
+  bool IsOpen() const { return source_.IsOpen(); }
+
+  /// Whether the file begins with the tag of `version`.
+  bool HasTag(const ExamFileVersion& version);
+
+  /// Reads the file, once: as one of `version`, whose tag it has, or as an untagged one, whatever it holds.
+  ExamReadOutcome Read(const ExamFileVersion& version);
 
  private:
+  FieldEncoding EncodingOf(const ExamFileVersion& version);
+
   FrameSetExam& exam_;
   const ExamServices& services_;
+  ByteSource source_;
 };
 
 }  // namespace quorvantis

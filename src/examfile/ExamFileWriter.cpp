@@ -66,7 +66,7 @@ void ExamFileWriter::Flush() {
 void ExamFileWriter::WriteHeader() {
   bytes_ += kByteOrderMark;
   FieldWriter fields(bytes_);
-  fields.Text(kCurrentVersion.tag, kTagUnits);
+  fields.Text(kCurrentVersion.tag, kTagField);
   VisitHeader(kCurrentVersion, std::as_const(exam_), fields);
 }
 

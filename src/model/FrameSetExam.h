@@ -7,12 +7,14 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
 namespace quorvantis {
 
+struct ExamReadOutcome;
 struct ExamServices;
 struct ImportSettings;
 struct ReadPaper;
@@ -38,6 +40,12 @@ class FrameSetExam : public ExamPaper {
   /// Loads an exam file of any version into this document, which the caller has reset, and unpacks its
   /// attached files into the work folder. Failures are shown to the user. Defined in examfile/.
   void ReadExamFile(const std::filesystem::path& file);
+
+  /// The readers of older versions, in the order in which a file is handed on until one knows its tag. The
+  /// work folder has been emptied by ReadExamFile.
+  void ReadExamFileV202(const std::filesystem::path& file);
+  void ReadExamFile0214(const std::filesystem::path& file);
+  void ReadUntaggedExamFile(const std::filesystem::path& file);
 
   /// Saves the exam as a current-version file, replacing `file` only when the new one is complete. False when
   /// it could not be saved; the user has been told. With `backup` the old file stays under the name of a
@@ -88,6 +96,7 @@ class FrameSetExam : public ExamPaper {
   int previewPrefixes = 0;  ///< previews of this exam that were not finished
   /// Paths of attached files without content: nothing lies there, and nothing is missing.
   std::set<std::u16string> pathsWithoutContent;
+  std::shared_ptr<const ExamReadOutcome> lastRead;  ///< examfile/ has the type; null before the first read
   ReadDoubt readDoubt = ReadDoubt::None;
   int filesNotUnpacked = 0;  ///< attached files that the last read could make no file of
   int hasOralQuestion = 0;   ///< 1 when the reader met an oral question

@@ -4,6 +4,8 @@
 // order, since a recovery copy does not travel.
 #pragma once
 
+#include "examfile/ExamFileLayout.h"
+
 #include <cstdint>
 #include <cstring>
 #include <string>
@@ -15,16 +17,16 @@ class SnapshotWriter {
  public:
   explicit SnapshotWriter(std::string& bytes) : bytes_(bytes) {}
 
-  void Text(std::u16string_view text, std::size_t = 0) {
+  void Text(std::u16string_view text, ExamFileField = {}) {
     Raw(static_cast<std::uint32_t>(text.size()));
     bytes_.append(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t));
   }
   template <class Integer>
-  void Number(const Integer& number, std::size_t = 0) {
+  void Number(const Integer& number, ExamFileField = {}) {
     Raw(static_cast<std::int64_t>(number));
   }
   void Score(float score) { Raw(score); }
-  void Reserved(std::size_t) {}
+  void Reserved(ExamFileField) {}
 
  private:
   template <class Value>
@@ -41,7 +43,7 @@ class SnapshotReader {
  public:
   explicit SnapshotReader(std::string_view bytes) : rest_(bytes) {}
 
-  void Text(std::u16string& text, std::size_t = 0) {
+  void Text(std::u16string& text, ExamFileField = {}) {
     std::uint32_t units = 0;
     Raw(units);
     const std::size_t size = std::size_t{units} * sizeof(char16_t);
@@ -51,13 +53,13 @@ class SnapshotReader {
     rest_.remove_prefix(size);
   }
   template <class Integer>
-  void Number(Integer& number, std::size_t = 0) {
+  void Number(Integer& number, ExamFileField = {}) {
     auto value = static_cast<std::int64_t>(number);
     Raw(value);
     number = static_cast<Integer>(value);
   }
   void Score(float& score) { Raw(score); }
-  void Reserved(std::size_t) {}
+  void Reserved(ExamFileField) {}
 
   bool Failed() const { return failed_; }
   std::string_view Rest() const { return rest_; }

@@ -166,6 +166,20 @@ TEST_F(ExamCommands, ShowIsReadable) {
     EXPECT_NE(run.out.find(part), std::string::npos) << part;
   }
   EXPECT_EQ(run.out.find('\x1b'), std::string::npos);
+  const auto scores = [this](int mode, const char* ranges) {
+    Build({{"scoreMode", mode},
+           {"scoreRanges", Json::parse(ranges)},
+           {"questions", {{{"text", "1"}}, {{"text", "2"}}}}});
+    const std::string listing = Command({"show", Path("exam.exm")}).out;
+    const std::size_t begin = listing.find("Scores: ");
+    return listing.substr(begin, listing.find('\n', begin) - begin);
+  };
+  const char* const two = R"([{"from": 1, "to": 1, "score": "2"}, {"from": 2, "to": 2, "score": "0.5"},
+    {"from": 0, "to": 0, "score": "0"}, {"from": 2, "to": 9, "score": "3"}])";
+  EXPECT_EQ(scores(1, two), "Scores: custom: 1-1 = 2.00, 2-2 = 0.50");
+  EXPECT_EQ(scores(1, "[]"), "Scores: custom: 1-10 = 1.00");
+  EXPECT_EQ(scores(1, R"([{"from": 0, "to": 0, "score": "0"}])"), "Scores: custom");
+  EXPECT_EQ(scores(0, two), "Scores: the same for every question");
   ExpectFailure(Command({"show", Path("absent.exm")}), "Open file " + Path("absent.exm") + " error!");
 }
 
@@ -188,6 +202,27 @@ TEST_F(ExamCommands, ExitStatusTellsWrongUsage) {
   check({"frobnicate"}, 2);
   check({"show", "a", "--jsn"}, 2);
   check({"show", "a", "--app-folder"}, 2);
+  for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+           {"show", ""},
+           {"build", "", "x"},
+           {"build", "x", ""},
+           {"show", "x", "--app-folder", ""},
+           {"--app-folder=", "show", "x"},
+           {"preview", "--responses=", "a", "b"},
+           {"edit", ""},
+           {"recover", ""},
+           {"import", "", "b", "--repository", "c"},
+           {"import", "a", "b", "--repository", "c", "--into", "", "--after", "1"},
+           {"import", "a", "b", "--repository", ""},
+           {"import", "a", "b", "--repository", "c", "--into", "d", "--after", ""},
+           {"match", "a", "--text-file", ""},
+           {"score", "a", "b", "--mode", ""}}) {
+    check(arguments, 2);
+    EXPECT_NE(Command(arguments).err.find("is empty"), std::string::npos)
+        << testing::PrintToString(arguments);
+  }
+  EXPECT_EQ(Json::parse(Command({"match", "", "--text", ""}, "not this").out)["groups"],
+            Json::parse("[[0, 0]]"));
   for (const char* command : {"show", "build", "unpack", "edit"}) check({command, "--help"}, 0);
   check({"--help"}, 0);
   check({"--version"}, 0);

@@ -71,6 +71,14 @@ TEST_F(PageCommands, PreviewOfAStudentShowsTheResponses) {
   EXPECT_TRUE(
       Has(ReadBytes(folder / "app/~BrelmStudent/ID7/SEE2.htm"), "src=\"~Br~BrelmStudent/ID7/~tt/a.gif\""));
   EXPECT_EQ(ReadBytes(folder / "app/~BrelmStudent/ID7/~tt/a.gif"), "content");
+  for (const std::vector<std::string>& empty :
+       std::vector<std::vector<std::string>>{{"--student", ""}, {"--student="}}) {
+    std::vector<std::string> arguments{"preview", Path("exam.exm"), Path("other")};
+    arguments.insert(arguments.begin() + 1, empty.begin(), empty.end());
+    Succeeds(arguments);
+    EXPECT_TRUE(fs::exists(folder / "other/~BrelmStudent/ID0/SEE1.htm"));
+    fs::remove_all(folder / "other");
+  }
 }
 
 TEST_F(PageCommands, PrintDependsOnAnEarlierPreview) {

@@ -111,6 +111,7 @@ struct TypedExam {
   std::u16string score = u"3";  ///< of every range
   std::vector<TypedFile> files{};
   std::vector<TypedQuestion> questions{};
+  bool shortNumbers = false;  ///< the ranges are 1 to 2 only, so that no number of the header has two digits
 };
 
 /// Random mode 2, score mode 1, ranges 1 to 51, 2 to 52, …; boundary question 7.
@@ -126,7 +127,8 @@ inline ExamBytes Type(const Form& form, const TypedExam& exam, char filler = '7'
   bytes.Raw(form.start).Text(form.titleStart + exam.title, 256);
   bytes.Number(Digits(exam.questions.size()), 4).Number(u"2", 4).Number(u"1", 4);
   for (std::size_t i = 1; i <= 10; ++i) {
-    bytes.Number(Digits(i), 4).Number(Digits(i + 50), 4).Number(exam.score, form.current ? 7 : 4);
+    const std::size_t first = exam.shortNumbers ? 1 : i, last = exam.shortNumbers ? 2 : i + 50;
+    bytes.Number(Digits(first), 4).Number(Digits(last), 4).Number(exam.score, form.current ? 7 : 4);
   }
   if (form.fileName > 0) {
     bytes.Number(u"7", 4).Reserved(1020);

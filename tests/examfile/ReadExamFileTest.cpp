@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ExamFileTest.h"
+#include "examfile/ExamFileReader.h"
 
 #include <sys/stat.h>
 
@@ -152,6 +153,22 @@ TEST_P(AnyForm, FindsTheQuestionsWhereNoFileCanBeCreated) {
 }
 
 using ReadExamFile = ExamFileTest;
+
+TEST_F(ReadExamFile, IsHandedOnByTheReadersOfOtherVersions) {
+  const auto versionReadBy = [this](auto reader, const Form& form) {
+    const auto file = WriteBytes(folder / "read.exm", Type(form, {.title = u"title"}).bytes);
+    exam.Reset();
+    (exam.*reader)(file);
+    return std::string(exam.lastRead->form.version->name);
+  };
+  const auto& forms = AllForms();
+  const Form &v202 = forms[2], &v0214 = forms[3], &untagged = forms[4];
+  EXPECT_EQ(versionReadBy(&FrameSetExam::ReadExamFileV202, v202), "v202");
+  EXPECT_EQ(versionReadBy(&FrameSetExam::ReadExamFileV202, v0214), "0214");
+  EXPECT_EQ(versionReadBy(&FrameSetExam::ReadExamFileV202, untagged), "untagged");
+  EXPECT_EQ(versionReadBy(&FrameSetExam::ReadExamFile0214, v0214), "0214");
+  EXPECT_EQ(versionReadBy(&FrameSetExam::ReadExamFile0214, v202), "untagged");
+}
 
 TEST_F(ReadExamFile, SaysWhichFileCannotBeOpened) {
   std::filesystem::create_directory(folder / "folder.exm");

@@ -3,6 +3,7 @@
 
 #include "platform/posix/FileDescriptor.h"
 #include "platform/posix/Leftover.h"
+#include "platform/posix/WriteBehind.h"
 
 #include <array>
 #include <cerrno>
@@ -96,6 +97,7 @@ class PosixPendingFile : public PendingFile {
 
   std::error_code Write(std::span<const std::byte> bytes) override {
     if (!error_) error_ = WriteAll(scratch_.Descriptor(), bytes);
+    if (!error_) error_ = writeBehind_.Written(scratch_.Descriptor(), bytes.size());
     return error_;
   }
 
@@ -115,6 +117,7 @@ class PosixPendingFile : public PendingFile {
   const fs::path target_;
 
  private:
+  WriteBehind writeBehind_;
   std::error_code error_;
   bool keepsOldFile_ = false;
 };
@@ -172,6 +175,7 @@ class OverwrittenFile : public PosixPendingFile {
 
   std::error_code CopyTo(int descriptor) {
     std::array<std::byte, std::size_t{64} * 1024> buffer;
+    WriteBehind writeBehind;
     if (::lseek(scratch_.Descriptor(), 0, SEEK_SET) != 0) return LastError();
     while (true) {
       const ssize_t count = ::read(scratch_.Descriptor(), buffer.data(), buffer.size());
@@ -180,6 +184,7 @@ class OverwrittenFile : public PosixPendingFile {
       if (count == 0) return {};
       const auto piece = std::span(buffer).first(static_cast<std::size_t>(count));
       if (const auto error = WriteAll(descriptor, piece)) return error;
+      if (const auto error = writeBehind.Written(descriptor, piece.size())) return error;
     }
   }
 };

@@ -48,6 +48,19 @@ TEST_F(ReplaceTest, MakesAFileAndReplacesOneWithItsPermissions) {
   EXPECT_EQ(Entries(), 1);
 }
 
+TEST_F(ReplaceTest, TakesLargeContentInPiecesOfAnySize) {
+  std::string content(std::size_t{40'000'000}, '\0');
+  for (std::size_t i = 0; i < content.size(); ++i) content[i] = static_cast<char>(i * i >> 7);
+  std::error_code error;
+  const auto pending = files.Replace(folder / "large", error);
+  for (std::size_t at = 0, size = 1; at < content.size(); at += size, size = 1 + (size * 7919) % 1'000'003) {
+    const std::string_view piece = std::string_view(content).substr(at, size);
+    ASSERT_FALSE(pending->Write(std::as_bytes(std::span(piece))));
+  }
+  EXPECT_FALSE(pending->Commit());
+  EXPECT_TRUE(ReadBytes(folder / "large") == content);
+}
+
 TEST_F(ReplaceTest, ReplacesWhatALinkPointsTo) {
   fs::create_directory(folder / "elsewhere");
   fs::create_symlink("elsewhere/target", folder / "link");
