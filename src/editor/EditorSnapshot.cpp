@@ -54,9 +54,9 @@ void EditorSnapshot::Restore() {
   copies_.PutBack();
   const Kept kept = *std::exchange(kept_, std::nullopt);
   EditorState& state = editor_.state;
-  const int prefixes = state.document.previewPrefixes;
+  const auto prefixes = state.document.previewPrefixes;  // previews since then count, too
   state.document = kept.exam;
-  state.document.previewPrefixes = prefixes;  // of previews, whatever they showed
+  state.document.previewPrefixes = prefixes;
   state.currentQuestion = kept.currentQuestion;
   editor_.questions.LoadCurrentQuestion(kept.form, kept.kind);
   state.SetFileName(kept.fileName);

@@ -6,6 +6,8 @@
 
 #include <array>
 #include <filesystem>
+#include <map>
+#include <string>
 
 namespace quorvantis {
 
@@ -57,10 +59,10 @@ class FrameSetExam : public ExamPaper {
                      const std::u16string& judgementBlock, const std::u16string& choiceAnswer,
                      const std::u16string& choiceBlock);
 
-  /// Not 0: every attachment path that a page shows gets one more prefix, a copy of its first three
-  /// characters, from now on; 0: one fewer. Pages take three characters off again to get a full path. The
-  /// paths themselves stay as they are, so that no prefix can get into a file; Preview and its end need not
-  /// be balanced.
+  /// Not 0: pages show every path that is attached now, to the exam or to a counted question, with one more
+  /// prefix, a copy of its first three characters; 0: with one fewer. Pages take three characters off again
+  /// to get a full path. The paths themselves stay as they are, so that no prefix can get into a file;
+  /// Preview and its end need not be balanced.
   void PrefixAttachmentPaths(int on);
 
   /// `path` as pages see it. Paths of up to three characters have no prefixes.
@@ -79,7 +81,8 @@ class FrameSetExam : public ExamPaper {
   std::array<int, kMaxAttachments>
       examAttachmentTypes{};  ///< number of the preview frame that shows each file
   AttachmentPageWriter attachmentPageWriter;
-  int previewPrefixes = 0;  ///< previews of this exam that were not finished
+  /// By attachment path, the previews that have shown it and were not finished. Others are not listed.
+  std::map<std::u16string, int> previewPrefixes;
   ReadDoubt readDoubt = ReadDoubt::None;
   int filesNotUnpacked = 0;  ///< attached files that the last read could make no file of
   int hasOralQuestion = 0;   ///< 1 when the reader met an oral question
