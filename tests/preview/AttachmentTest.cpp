@@ -162,17 +162,6 @@ TEST_F(AttachmentTest, FilesThatAreNoMediaAreNamedOrShownInPlaceOfThePlayer) {
   EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
 }
 
-/// A clip of 550 by 400 that is all red.
-std::string RedFlash() {
-  const std::string body =
-      std::string("\x78\0\x05\x5F\0\0\x0F\xA0\0", 9) +  // the size of the stage, in twips
-      std::string("\0\x0C\x01\0", 4) +                  // 12 pictures a second, 1 of them
-      std::string("\x43\x02\xFF\0\0", 5) +              // the background
-      std::string("\x40\0\0\0", 4);                     // the picture, and the end
-  const auto size = static_cast<char>(8 + body.size());
-  return std::string("FWS\x06") + size + std::string(3, '\0') + body;
-}
-
 TEST_F(AttachmentTest, FlashPlays) {
   flashPlayer = QUORVANTIS_FLASH_PLAYER;
   if (!std::filesystem::exists(flashPlayer / "ruffle.js")) GTEST_SKIP() << "see scripts/install-flash-player";

@@ -126,6 +126,25 @@ TEST_F(ExamTest, NoticesTellTheNamesThatTheUserKnows) {
   }
 }
 
+TEST_F(ExamTest, TheOralFlagMutesWhatItsQuestionPlays) {
+  for (const int oralFlag : {0, 1}) {
+    ExamQuestion& question = AddQuestion();
+    question.kind = QuestionKind::Oral;
+    question.oralFlag = oralFlag;
+    question.attachmentNames = {u"a.wav", u"clip.swf"};
+    question.attachmentPaths = {Copy("a.wav", Silence()), Copy("clip.swf", RedFlash())};
+  }
+  flashPlayer = QUORVANTIS_FLASH_PLAYER;
+  ShowPreview();
+  ASSERT_TRUE(Becomes("document.querySelectorAll('audio').length === 2"));
+  Evaluate("document.querySelectorAll('audio').forEach(a => { a.muted = false; a.volume = 0.5; a.play() })");
+  EXPECT_TRUE(Becomes("document.querySelectorAll('audio')[1].muted"));
+  EXPECT_FALSE(Evaluate("document.querySelectorAll('audio')[0].muted").toBool());
+  if (!std::filesystem::exists(flashPlayer / "ruffle.js")) GTEST_SKIP() << "see scripts/install-flash-player";
+  EXPECT_TRUE(Becomes("document.querySelectorAll('ruffle-embed')[1].volume === 0"));
+  EXPECT_EQ(Evaluate("document.querySelectorAll('ruffle-embed')[0].volume").toInt(), 1);
+}
+
 TEST_F(ExamTest, PicturesFitAndAreShownWholeByAClick) {
   ExamQuestion& question = AddQuestion();
   question.attachmentNames[0] = u"photo.bmp";

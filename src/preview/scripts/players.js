@@ -73,6 +73,12 @@
     request.send();
   }
 
+  function keepMuted(media) {
+    media.muted = true;
+    media.classList.add('quorvantis-muted');
+    media.addEventListener('volumechange', () => { media.muted = true; });
+  }
+
   function player(embed, source, name, isSound) {
     const media = document.createElement(isSound ? 'audio' : 'video');
     media.controls = true;
@@ -80,6 +86,7 @@
     const start = embed.getAttribute('autostart');
     media.autoplay = start !== null && !['0', 'false', 'no'].includes(start.toLowerCase());
     if (embed.getAttribute('width')) media.style.width = parseInt(embed.getAttribute('width'), 10) + 'px';
+    if ('muted' in embed.dataset) keepMuted(media);
     const preparing = notice(filled(host.preparing, name));
     const box = playerBox(name);
     box.append(media);
@@ -159,6 +166,10 @@
     const box = playerBox(name);
     embed.replaceWith(box);
     box.append(embed);
+    // From what stands in its place when the clip begins.
+    if ('muted' in embed.dataset) {
+      box.addEventListener('loadedmetadata', event => { event.target.volume = 0; }, true);
+    }
     askWhy(source, name, text => text === '' ? bringFlash() : embed.replaceWith(notice(text)));
   }
 
