@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "model/FrameSetExam.h"
 
+#include <set>
+
 namespace quorvantis {
+namespace {
+
+constexpr std::size_t kPrefix = 3;  // characters
+
+}  // namespace
 
 FrameSetExam::FrameSetExam(ExamServices& services) : services_(&services) {}
 
@@ -16,21 +23,30 @@ void FrameSetExam::Reset() {
   examAttachmentTypes.fill(0);
   attachmentPageWriter.frameKinds.fill(0);
   boundaryQuestion = 0;
-  previewPrefixes = 0;
+  previewPrefixes.clear();
 }
 
 void FrameSetExam::PrefixAttachmentPaths(int on) {
-  if (on != 0) {
-    ++previewPrefixes;
-  } else if (previewPrefixes > 0) {
-    --previewPrefixes;
+  std::set<std::u16string> attached(examAttachmentPaths.begin(), examAttachmentPaths.end());
+  for (int n = 1; n <= questionCount; ++n) {
+    const AttachmentList& paths = Question(n).attachmentPaths;
+    attached.insert(paths.begin(), paths.end());
+  }
+  for (const std::u16string& path : attached) {
+    if (on != 0) {
+      if (path.size() > kPrefix) ++previewPrefixes[path];
+    } else if (const auto prefixed = previewPrefixes.find(path); prefixed != previewPrefixes.end()) {
+      if (--prefixed->second == 0) previewPrefixes.erase(prefixed);
+    }
   }
 }
 
 std::u16string FrameSetExam::PathOnPages(const std::u16string& path) const {
-  constexpr std::size_t kPrefix = 3;
+  const auto prefixes = previewPrefixes.find(path);
   std::u16string prefixed;
-  for (int i = 0; i < previewPrefixes && path.size() > kPrefix; ++i) prefixed.append(path, 0, kPrefix);
+  for (int i = 0; prefixes != previewPrefixes.end() && i < prefixes->second; ++i) {
+    prefixed.append(path, 0, kPrefix);
+  }
   return prefixed + path;
 }
 

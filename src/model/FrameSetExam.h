@@ -7,6 +7,7 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -71,10 +72,10 @@ class FrameSetExam : public ExamPaper {
   int ParseQuestions(int firstSlot, int pictureNumber, const std::u16string& markedText,
                      const ImportSettings& rules, const std::function<bool()>& isCancelled, ReadPaper& paper);
 
-  /// Not 0: every attachment path that a page shows gets one more prefix, a copy of its first three
-  /// characters, from now on; 0: one fewer. Pages take three characters off again to get a full path. The
-  /// paths themselves stay as they are, so that no prefix can get into a file; Preview and its end need not
-  /// be balanced.
+  /// Not 0: pages show every path that is attached now, to the exam or to a counted question, with one more
+  /// prefix, a copy of its first three characters; 0: with one fewer. Pages take three characters off again
+  /// to get a full path. The paths themselves stay as they are, so that no prefix can get into a file;
+  /// Preview and its end need not be balanced.
   void PrefixAttachmentPaths(int on);
 
   /// `path` as pages see it. Paths of up to three characters have no prefixes.
@@ -93,7 +94,8 @@ class FrameSetExam : public ExamPaper {
   std::array<int, kMaxAttachments>
       examAttachmentTypes{};  ///< number of the preview frame that shows each file
   AttachmentPageWriter attachmentPageWriter;
-  int previewPrefixes = 0;  ///< previews of this exam that were not finished
+  /// By attachment path, the previews that have shown it and were not finished. Others are not listed.
+  std::map<std::u16string, int> previewPrefixes;
   /// Paths of attached files without content: nothing lies there, and nothing is missing.
   std::set<std::u16string> pathsWithoutContent;
   std::shared_ptr<const ExamReadOutcome> lastRead;  ///< examfile/ has the type; null before the first read

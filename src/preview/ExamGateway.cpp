@@ -23,18 +23,18 @@ constexpr qint64 kLongestText = qint64{2} << 20;
 constexpr char kFlashFolder[] = "flash";
 constexpr char kPictureFolder[] = "pictures";
 
-QString NameOf(const fs::path& file) {
+QString FileNameOf(const fs::path& file) {
   return QFile::decodeName(file.filename().c_str());
 }
 
 /// Each conversion has a folder of its own, whose name is a number.
 QString PictureName(const fs::path& picture) {
-  return NameOf(picture.parent_path()) + '-' + NameOf(picture);
+  return FileNameOf(picture.parent_path()) + '-' + FileNameOf(picture);
 }
 
-QByteArray TextFilePage(const fs::path& file, const PreviewTexts& texts) {
+QByteArray TextFilePage(const fs::path& file, const QString& name, const PreviewTexts& texts) {
   QFile in(file);
-  if (!in.open(QIODevice::ReadOnly)) return NoticePage(texts.cannotShow.arg(NameOf(file)));
+  if (!in.open(QIODevice::ReadOnly)) return NoticePage(texts.cannotShow.arg(name));
   const QByteArray bytes = in.read(kLongestText);
   return TextPage(DecodeAttachedText(bytes), in.atEnd() ? QString() : texts.onlyBeginning);
 }
@@ -75,7 +75,7 @@ void ExamGateway::requestStarted(Job* job) {
 
 /// Names of our own making have no folders but the first; whatever else is asked for there does not exist.
 void ExamGateway::AnswerOwn(Job* job, const fs::path& name) {
-  const auto picture = pictures_.constFind(NameOf(name));
+  const auto picture = pictures_.constFind(FileNameOf(name));
   if (name.parent_path() == kPictureFolder && picture != pictures_.constEnd()) {
     return ReplyWithFile(*job, "image/png", *picture);
   }
@@ -93,43 +93,35 @@ void ExamGateway::AnswerOwn(Job* job, const fs::path& name) {
 bool ExamGateway::AnswerPage(Job* job, const fs::path& asked) {
   for (const fs::path& place : files_.Places(asked)) {
     if (const std::u16string* const page = setup_.pages.Find(place)) {
-      ReplyWithPage(*job, Escaped(place, *page));
+      ReplyWithPage(*job, QString::fromStdU16String(EscapeSources(*page, setup_.pages)).toUtf8());
       return true;
     }
   }
   return false;
 }
 
-QByteArray ExamGateway::Escaped(const fs::path& page, const std::u16string& text) const {
-  const auto isPlain = [&](const fs::path& source) { return IsPlainName(page, source); };
-  return QString::fromStdU16String(EscapeSources(text, isPlain)).toUtf8();
+/// What the user calls the file that is asked for: its copy may have another name.
+QString ExamGateway::NameOf(const fs::path& asked) const {
+  const PageSource* const source = setup_.pages.FindFile(asked);
+  const bool isNamed = source != nullptr && !source->name.empty();
+  return isNamed ? QString::fromStdU16String(source->name) : FileNameOf(asked);
 }
 
-/// Whether a source names a file as it is, and not by an address. The writers of pages name attached files
-/// so, by paths that begin with a separator or a work folder; one of them may be missing. A backslash stays
-/// what browsers take it for, a separator.
-bool ExamGateway::IsPlainName(const fs::path& page, const fs::path& source) const {
-  const auto exists = [&](const fs::path& name) {
-    return files_.Find((page.parent_path() / name).lexically_normal()).has_value();
-  };
-  if (exists(source)) return true;
-  const std::string& name = source.native();
-  if (!name.starts_with('/') && !name.starts_with('~')) return false;
-  const QByteArray unescaped = QByteArray::fromPercentEncoding(QByteArray::fromStdString(name));
-  return name.find('\\') == std::string::npos && !exists(unescaped.toStdString());
+QString ExamGateway::NameOf(const Job& job) const {
+  return NameOf(FileOf(job.requestUrl()).value_or(fs::path()));
 }
 
 void ExamGateway::AnswerFile(Job* job, const fs::path& file, bool forFrame) {
   const FileKind kind = KindOf(file);
   if (forFrame && (kind == FileKind::Media || kind == FileKind::Flash)) {
-    return ReplyWithPage(*job, EmbedPage(job->requestUrl()));
+    return ReplyWithPage(*job, EmbedPage(job->requestUrl(), NameOf(*job)));
   }
   switch (kind) {
     case FileKind::Page:
     case FileKind::Picture:
       return ReplyWithFile(*job, ContentTypeOf(file), file);
     case FileKind::Text:
-      return ReplyWithPage(*job, TextFilePage(file, setup_.texts));
+      return ReplyWithPage(*job, TextFilePage(file, NameOf(*job), setup_.texts));
     case FileKind::Document:
       return AnswerDocument(job, file);
     case FileKind::Media:
@@ -137,7 +129,7 @@ void ExamGateway::AnswerFile(Job* job, const fs::path& file, bool forFrame) {
     case FileKind::Flash:
       return ReplyWithFile(*job, ContentTypeOf(file), file);
     case FileKind::Other:
-      return ReplyWithPage(*job, NoticePage(setup_.texts.cannotShow.arg(NameOf(file))));
+      return ReplyWithPage(*job, NoticePage(setup_.texts.cannotShow.arg(NameOf(*job))));
   }
 }
 
@@ -151,15 +143,15 @@ void ExamGateway::AnswerDocument(Job* job, const fs::path& document) {
   }
   if (const std::optional<Conversions::Files> pictures = conversions_.KnownPages(document)) {
     for (const fs::path& picture : *pictures) pictures_[PictureName(picture)] = picture;
-    return ReplyWithPage(*job, DocumentPage(document, *pictures));
+    return ReplyWithPage(*job, DocumentPage(*pictures, *FileOf(job->requestUrl())));
   }
   showsUnfinished_ = true;
   conversions_.WithPages(document, [](const Conversions::Files&) {});
-  ReplyWithPage(*job, WaitingPage(setup_.texts.preparing.arg(NameOf(document))));
+  ReplyWithPage(*job, WaitingPage(setup_.texts.preparing.arg(NameOf(*job))));
 }
 
-QByteArray ExamGateway::DocumentPage(const fs::path& document, const Conversions::Files& pictures) const {
-  if (pictures.empty()) return NoticePage(WhyNotShown(document));
+QByteArray ExamGateway::DocumentPage(const Conversions::Files& pictures, const fs::path& asked) const {
+  if (pictures.empty()) return NoticePage(WhyNotShown(asked));
   QList<QUrl> addresses;
   for (const fs::path& picture : pictures) {
     addresses.push_back(OwnAddress(kPictureFolder + ("/" + PictureName(picture).toStdString())));

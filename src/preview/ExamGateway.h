@@ -57,9 +57,9 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
   void AnswerMissing(Job* job, const std::filesystem::path& asked, bool forFrame);
   bool HasFlashPlayer() const;
   QString WhyNotShown(const std::filesystem::path& asked) const;
-  QByteArray DocumentPage(const std::filesystem::path& document, const Conversions::Files& pictures) const;
-  QByteArray Escaped(const std::filesystem::path& page, const std::u16string& text) const;
-  bool IsPlainName(const std::filesystem::path& page, const std::filesystem::path& source) const;
+  QByteArray DocumentPage(const Conversions::Files& pictures, const std::filesystem::path& asked) const;
+  QString NameOf(const std::filesystem::path& asked) const;
+  QString NameOf(const Job& job) const;
 
   GatewaySetup setup_;
   ServedFiles files_;

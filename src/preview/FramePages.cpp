@@ -45,8 +45,9 @@ QByteArray PicturesPage(const QList<QUrl>& pictures, const QString& remark) {
   return Page(body + Notice(remark));
 }
 
-QByteArray EmbedPage(const QUrl& file) {
-  return Page("<embed src=\"" + file.toString(QUrl::FullyEncoded).toHtmlEscaped() + "\">");
+QByteArray EmbedPage(const QUrl& file, const QString& name) {
+  return Page("<embed src=\"" + file.toString(QUrl::FullyEncoded).toHtmlEscaped() + "\" data-name=\"" +
+              name.toHtmlEscaped() + "\">");
 }
 
 QByteArray TextPage(const QString& text, const QString& remark) {

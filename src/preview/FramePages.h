@@ -28,8 +28,8 @@ QByteArray WaitingPage(const QString& text);
 /// Pictures one below the other, and `remark` under them if there is one.
 QByteArray PicturesPage(const QList<QUrl>& pictures, const QString& remark);
 
-/// An embedded file by itself, for the page scripts to show.
-QByteArray EmbedPage(const QUrl& file);
+/// An embedded file by itself, for the page scripts to show under that name.
+QByteArray EmbedPage(const QUrl& file, const QString& name);
 
 /// Lines of plain text, and `remark` under them if there is one.
 QByteArray TextPage(const QString& text, const QString& remark);

@@ -25,7 +25,8 @@ QString Script(const char* name) {
 }  // namespace
 
 QWebEngineScript PageScript(const PageScriptSetup& setup) {
-  const QJsonObject host{{"flashFolder", OwnAddress("flash/").toString()},
+  const QJsonObject host{{"style", Script("page.css")},
+                         {"flashFolder", OwnAddress("flash/").toString()},
                          {"preparing", setup.preparing},
                          {"cannotShow", setup.cannotShow}};
   const QString values = QString::fromUtf8(QJsonDocument(host).toJson(QJsonDocument::Compact));
@@ -33,7 +34,8 @@ QWebEngineScript PageScript(const PageScriptSetup& setup) {
   script.setInjectionPoint(QWebEngineScript::DocumentCreation);
   script.setWorldId(QWebEngineScript::MainWorld);  // where the page's own scripts find `window.status`
   script.setRunsOnSubFrames(true);
-  script.setSourceCode(Script("status.js") + Script("players.js") + '(' + values + ");");
+  script.setSourceCode(Script("status.js") + Script("page.js") + '(' + values + ");" + Script("players.js") +
+                       '(' + values + ");");
   return script;
 }
 

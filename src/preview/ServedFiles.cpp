@@ -24,16 +24,6 @@ std::optional<fs::path> RealPath(const fs::path& path) {
   return error ? std::nullopt : std::optional(std::move(real));
 }
 
-/// After a preview that was not finished, pages have a copy of a path's first three characters too many
-/// before it, once for each such preview.
-void AddWithoutPrefixes(std::string path, std::vector<fs::path>& places) {
-  constexpr std::size_t kPrefix = 3;
-  while (path.size() > 2 * kPrefix && path.compare(kPrefix, kPrefix, path, 0, kPrefix) == 0) {
-    path.erase(0, kPrefix);
-    places.emplace_back(path);
-  }
-}
-
 }  // namespace
 
 ServedFiles::ServedFiles(fs::path applicationFolder)
@@ -41,7 +31,6 @@ ServedFiles::ServedFiles(fs::path applicationFolder)
 
 std::vector<fs::path> ServedFiles::Places(const fs::path& asked) const {
   std::vector<fs::path> places{asked};
-  AddWithoutPrefixes(asked.native(), places);
   if (!IsBelow(asked, pageFolder_)) return places;
   const fs::path relative = asked.lexically_relative(pageFolder_);
   places.push_back(applicationFolder_ / relative);

@@ -17,8 +17,7 @@ class ServedFiles {
   /// The folder of the page that is shown; relative addresses of its frames and files begin there.
   void SetPageFolder(const std::filesystem::path& folder) { pageFolder_ = folder.lexically_normal(); }
 
-  /// The places that an absolute, normal path may mean, best first: itself; without prefixes that unfinished
-  /// previews have left before it; and where it lies below the
+  /// The places that an absolute, normal path may mean, best first: itself; and where it lies below the
   /// page's folder, so that the page may have named it by a relative address, the same place below the
   /// application folder and below the folder of the preview pages, beside which the files of an opened exam
   /// are unpacked.

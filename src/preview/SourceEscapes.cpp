@@ -2,27 +2,23 @@
 #include "preview/SourceEscapes.h"
 
 #include "preview/PageAddress.h"
-#include "text/PathText.h"
+
+#include <QString>
 
 #include <algorithm>
+#include <optional>
 
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kLongestSource = 4096;
-constexpr std::u16string_view kAttribute = u"src=";
+using View = std::u16string_view;
 
-bool IsPlain(char16_t unit) {
-  if (unit >= 0xD800 && unit <= 0xDFFF) return false;  // perhaps a byte that is no UTF-8, see PathToText
-  return unit > 0x20 && unit != u'%' && unit != u'#' && unit != u'?' && unit != u'&' && unit != u'\\';
-}
-
-bool SameLetter(char16_t a, char16_t lower) {
-  return a == lower || (a >= u'A' && a <= u'Z' && a + 0x20 == lower);
-}
+/// What stands before a source, by where it stands.
+constexpr View kAttribute = u"src=";
+constexpr View kParameter = u"value=";  // of a player that other browsers would choose
 
 /// In a script, "\\" stands for one backslash.
-std::u16string Unescaped(std::u16string_view source) {
+std::u16string Unescaped(View source) {
   std::u16string text;
   for (std::size_t i = 0; i < source.size(); ++i) {
     if (source[i] == u'\\' && i + 1 < source.size()) ++i;
@@ -31,45 +27,75 @@ std::u16string Unescaped(std::u16string_view source) {
   return text;
 }
 
-/// The value of one attribute: `page` from `begin` to `end`.
-struct Source {
-  std::size_t begin;
+/// One place in a page that names a file.
+struct Place {
+  std::size_t begin;  ///< of the text between the quotes
   std::size_t end;
-  bool inScript;
+  View quote;
+  const PageSource* source;
 };
 
-/// The value that begins at or after `from`; `begin` is past the end when there is none.
-Source NextSource(std::u16string_view page, std::size_t from) {
-  while (true) {
-    const auto at = std::search(page.begin() + static_cast<std::ptrdiff_t>(from), page.end(),
-                                kAttribute.begin(), kAttribute.end(), SameLetter);
-    if (at == page.end()) return {page.size() + 1, 0, false};
-    std::size_t begin = static_cast<std::size_t>(at - page.begin()) + kAttribute.size();
-    from = begin;
-    const bool inScript = page.substr(begin, 2) == u"\\\"";
-    if (!inScript && page.substr(begin, 1) != u"\"") continue;
-    begin += inScript ? 2 : 1;
-    const std::size_t end = page.find(inScript ? u"\\\"" : u"\"", begin);
-    if (end != std::u16string_view::npos && end - begin <= kLongestSource) return {begin, end, inScript};
+/// The place whose text begins at `begin`, if it names a file. Quotes within a name look like the one that
+/// ends it, so the longest text that is a name counts.
+std::optional<Place> PlaceAt(View page, std::size_t begin, View quote, const ComposedPages& pages) {
+  const bool inScript = quote.size() > 1;
+  const std::size_t last = begin + pages.LongestSource() * (inScript ? 2 : 1);
+  std::optional<Place> place;
+  for (std::size_t end = page.find(quote, begin); end <= last && end != View::npos;
+       end = page.find(quote, end + 1)) {
+    const View text = page.substr(begin, end - begin);
+    const PageSource* const source = inScript ? pages.FindSource(Unescaped(text)) : pages.FindSource(text);
+    if (source != nullptr) place = Place{begin, end, quote, source};
   }
+  return place;
+}
+
+bool IsLetter(char16_t unit, char16_t lower) {
+  return unit == lower || (unit >= u'A' && unit <= u'Z' && unit + 0x20 == lower);
+}
+
+/// The first place at or after `from`.
+std::optional<Place> NextPlace(View page, std::size_t from, const ComposedPages& pages) {
+  for (std::size_t at = page.find(u'=', from); at != View::npos; at = page.find(u'=', at + 1)) {
+    const View before = page.substr(from, at + 1 - from);
+    const auto isAfter = [&](View word) {
+      return before.size() >= word.size() &&
+             std::equal(word.begin(), word.end(), before.end() - static_cast<std::ptrdiff_t>(word.size()),
+                        [](char16_t lower, char16_t unit) { return IsLetter(unit, lower); });
+    };
+    if (!isAfter(kAttribute) && !isAfter(kParameter)) continue;
+    for (const View quote : {View(u"\""), View(u"\\\"")}) {
+      if (!page.substr(at + 1).starts_with(quote)) continue;
+      if (const auto place = PlaceAt(page, at + 1 + quote.size(), quote, pages)) return place;
+    }
+  }
+  return std::nullopt;
+}
+
+/// For the page scripts. Nothing that is left in a name means anything in a script or in an attribute.
+std::u16string Attributes(const PageSource& source, View quote) {
+  QString name;
+  for (const QChar unit : QString::fromStdU16String(source.name)) {
+    const bool isPlain = unit.isLetterOrNumber() || unit.isSurrogate() || unit == '.' || unit == ' ';
+    name += isPlain ? QString(unit) : QString("&#%1;").arg(unit.unicode());
+  }
+  std::u16string text = u" data-name=";
+  text.append(quote).append(name.toStdU16String()).append(quote);
+  return source.muted ? text + u" data-muted" : text;
 }
 
 }  // namespace
 
-std::u16string EscapeSources(std::u16string_view page,
-                             const std::function<bool(const std::filesystem::path&)>& isFile) {
+std::u16string EscapeSources(View page, const ComposedPages& pages) {
   std::u16string result;
   std::size_t copied = 0;
-  for (Source source = NextSource(page, 0); source.begin <= page.size();
-       source = NextSource(page, source.end)) {
-    const std::u16string_view text = page.substr(source.begin, source.end - source.begin);
-    if (std::all_of(text.begin(), text.end(), IsPlain)) continue;
-    const std::filesystem::path file = TextToPath(source.inScript ? Unescaped(text) : std::u16string(text));
-    if (!isFile(file)) continue;
-    const QByteArray escaped = EscapedPath(file);
-    result += page.substr(copied, source.begin - copied);
-    result.append(escaped.begin(), escaped.end());
-    copied = source.end;
+  while (const std::optional<Place> place = NextPlace(page, copied, pages)) {
+    const QByteArray address = EscapedPath(place->source->file);
+    result += page.substr(copied, place->begin - copied);
+    result.append(address.begin(), address.end());
+    result += place->quote;
+    if (!place->source->name.empty()) result += Attributes(*place->source, place->quote);
+    copied = place->end + place->quote.size();
   }
   result += page.substr(copied);
   return result;

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <filesystem>
-#include <functional>
+#include "render/ComposedPages.h"
+
 #include <string>
 #include <string_view>
 
 namespace quorvantis {
 
-/// `page` with the addresses in its SRC attributes escaped where they name a file as it stands. Pages name
-/// files plainly, but in an address "#", "?" and "%" have meanings of their own: "50%.jpg" would not be
-/// found. `isFile` tells of a path, perhaps relative, whether the page could mean that file. Attributes
-/// within the strings of a script, where quotes and backslashes are doubled, count too.
-std::u16string EscapeSources(std::u16string_view page,
-                             const std::function<bool(const std::filesystem::path&)>& isFile);
+/// `page` as the browser gets it: each text by which it names a file of `pages` becomes the address of that
+/// file. In a page the name stands plainly, whatever is in it: a quote would end the attribute there, and
+/// "#",
+/// "?" and "%" have meanings of their own in an address. Players within the strings of a script, where quotes
+/// and backslashes are escaped, count too. Behind each source the page scripts find what only the exam knows,
+/// in the attributes "data-name" and "data-muted".
+std::u16string EscapeSources(std::u16string_view page, const ComposedPages& pages);
 
 }  // namespace quorvantis

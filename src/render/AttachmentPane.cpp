@@ -142,6 +142,7 @@ std::u16string AttachmentPane::GroupPage(int frame) {
   if (writer_.locationMode != 0) std::filesystem::create_directory(page.parent_path(), ignored);
   PageFile file(page, services.pages);
   file.WriteHalfUtf16(kHeadWithoutEncoding() + kBodyStart() + PaneItems(frame - 1) + kBodyEnd() + kPageEnd());
+  services.pages.AddSource({PathToText(page), page, {}});
   return kFrame(PathToText(page));
 }
 

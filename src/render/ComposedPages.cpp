@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/ComposedPages.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quorvantis {
@@ -23,8 +24,27 @@ const std::u16string* ComposedPages::Find(const std::filesystem::path& file) con
   return found == pages_.end() ? nullptr : &found->second;
 }
 
+void ComposedPages::AddSource(PageSource source) {
+  longestSource_ = std::max(longestSource_, source.text.size());
+  sourceOfFile_.insert_or_assign(source.file, source.text);
+  sources_.insert_or_assign(source.text, source);
+}
+
+const PageSource* ComposedPages::FindSource(std::u16string_view text) const {
+  const auto found = sources_.find(text);
+  return found == sources_.end() ? nullptr : &found->second;
+}
+
+const PageSource* ComposedPages::FindFile(const std::filesystem::path& file) const {
+  const auto found = sourceOfFile_.find(file);
+  return found == sourceOfFile_.end() ? nullptr : FindSource(found->second);
+}
+
 void ComposedPages::Clear() {
   pages_.clear();
+  sources_.clear();
+  sourceOfFile_.clear();
+  longestSource_ = 0;
   notWritten_.clear();
 }
 

@@ -4,15 +4,17 @@
 #include "platform/PageStore.h"
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quorvantis {
 
 /// The pages of one preview or print, whole, by the absolute, lexically normal path that each was written to.
 /// The files on disk are what other programs expect to find, and some of them are cut; the browser shows
-/// these.
+/// these, in which it looks up the files that they show: a source text alone cannot tell one for certain.
 class ComposedPages : public PageStore {
  public:
   void Add(const std::filesystem::path& file, std::u16string text) override;
@@ -22,6 +24,17 @@ class ComposedPages : public PageStore {
   /// The page written to `file`, or null.
   const std::u16string* Find(const std::filesystem::path& file) const;
 
+  void AddSource(PageSource source) override;
+
+  /// The file that pages name by exactly this text, or null.
+  const PageSource* FindSource(std::u16string_view text) const;
+
+  /// The same for a full path of a file.
+  const PageSource* FindFile(const std::filesystem::path& file) const;
+
+  /// How long the texts are at most, in UTF-16 units.
+  std::size_t LongestSource() const { return longestSource_; }
+
   /// The files that do not hold their page, as they were named when it was added.
   const std::vector<std::filesystem::path>& Unwritten() const { return notWritten_; }
 
@@ -30,6 +43,9 @@ class ComposedPages : public PageStore {
  private:
   std::map<std::filesystem::path, std::u16string> pages_;
   std::vector<std::filesystem::path> notWritten_;
+  std::map<std::u16string, PageSource, std::less<>> sources_;
+  std::map<std::filesystem::path, std::u16string> sourceOfFile_;  ///< one of them
+  std::size_t longestSource_ = 0;
 };
 
 }  // namespace quorvantis

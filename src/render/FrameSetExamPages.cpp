@@ -4,11 +4,13 @@
 #include "platform/ExamServices.h"
 #include "render/FramesetPage.h"
 #include "render/PageFile.h"
+#include "render/PageSources.h"
 #include "render/QuestionPages.h"
 
 namespace quorvantis {
 
 void FrameSetExam::WritePreview(const std::filesystem::path& page) {
+  AddPageSources(*this);
   if (examAttachmentPaths[0].empty()) {
     WriteQuestionPage(page);
   } else {
@@ -31,6 +33,7 @@ void FrameSetExam::WriteResultPage(const std::filesystem::path& page) {
 }
 
 void FrameSetExam::WritePrintPage(const std::filesystem::path& page) {
+  AddPageSources(*this);
   pageRenderer.SetPrintLayout(1);
   PageFile file(page, Services().pages);
   file.WriteHalfUtf16(ComposePrintPage(*this));

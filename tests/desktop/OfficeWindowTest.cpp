@@ -22,7 +22,7 @@ TEST_F(OfficeWindow, AsksAboutOfficeProgramsAtTheStartAndAtEachPreview) {
   world.dialogs.whileAsking = [&] {
     const int previews = window ? 1 : 0;
     EXPECT_EQ(trusts(), previews == 1);
-    EXPECT_EQ(exam.previewPrefixes, previews);
+    EXPECT_EQ(exam.PathOnPages(u"/a.gif"), previews == 1 ? u"/a./a.gif" : u"/a.gif");
     EXPECT_NE(exam.pageRenderer.renderOption, 0x0409) << "before pages are written";
     EXPECT_FALSE(std::filesystem::exists(folder / "app/TEMP/ExamPreview/SEE.htm"));
   };
@@ -31,6 +31,7 @@ TEST_F(OfficeWindow, AsksAboutOfficeProgramsAtTheStartAndAtEachPreview) {
   EXPECT_EQ(world.dialogs.questions.size(), 1);
   EXPECT_TRUE(word.IsAlive());
   world.dialogs.yesNoAnswers = {true};
+  exam.examAttachmentPaths[0] = u"/a.gif";
   Click("preview");
   EXPECT_EQ(world.dialogs.questions.size(), 2);
   EXPECT_TRUE(word.Ends());

@@ -5,6 +5,7 @@
 #include "preview/PageAddress.h"
 #include "preview/RequestGuard.h"
 #include "preview/SourceEscapes.h"
+#include "text/PathText.h"
 
 #include <gtest/gtest.h>
 
@@ -41,24 +42,32 @@ TEST(RequestGuard, OnlyAddressesOfTheExamAndSuchThatCarryTheirContent) {
   }
 }
 
-std::u16string Escaped(std::u16string_view page, const std::filesystem::path& file) {
-  return EscapeSources(page, [&](const auto& asked) { return asked == file; });
+std::u16string Escaped(std::u16string_view page, const std::filesystem::path& name, bool muted = false) {
+  ComposedPages pages;
+  const std::filesystem::path file = "/~T" / name;
+  pages.AddSource({PathToText(file).substr(1), file, u"n&\"", muted});
+  return EscapeSources(page, pages);
 }
 
-TEST(SourceEscapes, NamesThatStandPlainInAPage) {
-  EXPECT_EQ(Escaped(u"<img src=\"~TEMP/a#1.jpg\" ><FRAME  SRC=\"~TEMP/a#1.jpg\">", "~TEMP/a#1.jpg"),
-            u"<img src=\"~TEMP/a%231.jpg\" ><FRAME  SRC=\"~TEMP/a%231.jpg\">");
-  EXPECT_EQ(Escaped(u"<embed src=\\\"~TEMP/50% \\\\ x.wav\\\" autostart=\\\"0\\\">", "~TEMP/50% \\ x.wav"),
-            u"<embed src=\\\"~TEMP/50%25%20%5C%20x.wav\\\" autostart=\\\"0\\\">");
-  EXPECT_EQ(Escaped(u"src=\"~TEMP/\xDCFF.gif\"", "~TEMP/\xFF.gif"), u"src=\"~TEMP/%FF.gif\"");
+TEST(SourceEscapes, SourcesBecomeAddressesAndBringTheirNames) {
+  const std::u16string name = u" data-name=\"n&#38;&#34;\"";
+  EXPECT_EQ(Escaped(u"<img src=\"~T/a#1.jpg\" ><FRAME  SRC=\"~T/a#1.jpg\">", "a#1.jpg"),
+            u"<img src=\"/~T/a%231.jpg\"" + name + u" ><FRAME  SRC=\"/~T/a%231.jpg\"" + name + u">");
+  EXPECT_EQ(Escaped(u"<embed src=\\\"~T/50% \\\\ x.wav\\\" autostart=\\\"0\\\">", "50% \\ x.wav", true),
+            u"<embed src=\\\"/~T/50%25%20%5C%20x.wav\\\" data-name=\\\"n&#38;&#34;\\\" data-muted "
+            u"autostart=\\\"0\\\">");
+  EXPECT_EQ(Escaped(u"<img src=\"~T/a\" b\"c.gif\" >", "a\" b\"c.gif"),
+            u"<img src=\"/~T/a%22%20b%22c.gif\"" + name + u" >");
+  EXPECT_EQ(Escaped(u"src=\"~T/\xDCFF.gif\"", "\xFF.gif"), u"src=\"/~T/%FF.gif\"" + name);
 }
 
 TEST(SourceEscapes, TheRestStays) {
   for (const std::u16string_view page :
        {u"", u"src=", u"src=\"", u"src=\"a#b", u"src=a#b src=\"plain.jpg\"", u"src=\"a%20b.jpg\"",
-        u"src=\\\"a#b", u"the source=\"x#y\" and src=\"x#y\""}) {
+        u"src=\\\"a#b", u"the source=\"~T/a\" href=\"~T/a\""}) {
     EXPECT_EQ(Escaped(page, "other"), page);
   }
+  EXPECT_EQ(Escaped(u"the href=\"~T/a\"", "a"), u"the href=\"~T/a\"");
 }
 
 TEST(AttachedText, TheEncodingIsFound) {

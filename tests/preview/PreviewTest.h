@@ -3,6 +3,7 @@
 
 #include "preview/PreviewWindows.h"
 #include "support/TemporaryFolder.h"
+#include "text/PathText.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -38,7 +39,12 @@ class PreviewTest : public testing::Test {
 
   /// A file that was attached in this run.
   std::filesystem::path Attach(const std::string& name, std::string_view bytes) {
-    return WriteBytes(app / "~TEMP" / "home" / name, bytes);
+    return WriteBytes(AttachMissing(name), bytes);
+  }
+  std::filesystem::path AttachMissing(const std::string& name) {
+    const std::filesystem::path file = app / "~TEMP" / "home" / name;
+    pages.AddSource({PathToText("~TEMP/home/" + name), file, PathToText(name)});
+    return file;
   }
 
   PreviewWindows& Windows() {

@@ -53,13 +53,5 @@ TEST_F(ServedFilesTest, RelativeAddressesMeanThePageFolderFirst) {
   EXPECT_EQ(files.Find(app / "~tt/b"), app / "TEMP/ExamPreview/~tt/b");
 }
 
-TEST_F(ServedFilesTest, PrefixesOfUnfinishedPreviewsAreLookedBehind) {
-  const std::string file = Make("~TEMP/a").native();
-  const std::string prefix = file.substr(0, 3);
-  EXPECT_EQ(files.Find(prefix + file), fs::path(file));
-  EXPECT_EQ(files.Find(prefix + prefix + file), fs::path(file));
-  EXPECT_EQ(files.Find("/x" + file), std::nullopt);
-}
-
 }  // namespace
 }  // namespace quorvantis::test

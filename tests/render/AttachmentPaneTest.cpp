@@ -137,7 +137,8 @@ TEST_F(AttachmentPaneTest, StudentPagesLieUnderTheirNumbers) {
   EXPECT_TRUE(fs::exists(folder / "~BrelmStudent/ID7/SEE2_1.htm"));
 }
 
-TEST_F(RenderTest, PrefixesCountUnfinishedPreviews) {
+TEST_F(RenderTest, EachPathCountsTheUnfinishedPreviewsThatShowedIt) {
+  Attach({u"/home/a", u"abc"});
   const std::pair<int, std::u16string> rows[] = {{1, u"/ho/home/a"}, {1, u"/ho/ho/home/a"},
                                                  {0, u"/ho/home/a"}, {0, u"/home/a"},
                                                  {0, u"/home/a"},    {1, u"/ho/home/a"}};
@@ -146,6 +147,15 @@ TEST_F(RenderTest, PrefixesCountUnfinishedPreviews) {
     EXPECT_EQ(exam.PathOnPages(u"/home/a"), path);
     EXPECT_EQ(exam.PathOnPages(u"abc"), u"abc");
   }
+  Add(QuestionKind::Essay).attachmentPaths[0] = u"/tmp/b";
+  exam.Question(2).attachmentPaths[0] = u"/tmp/not counted";
+  exam.PrefixAttachmentPaths(1);
+  EXPECT_EQ(exam.PathOnPages(u"/home/a"), u"/ho/ho/home/a");
+  EXPECT_EQ(exam.PathOnPages(u"/tmp/b"), u"/tm/tmp/b") << "attached after the first preview";
+  EXPECT_EQ(exam.PathOnPages(u"/tmp/not counted"), u"/tmp/not counted");
+  exam.PrefixAttachmentPaths(0);
+  EXPECT_EQ(exam.PathOnPages(u"/home/a"), u"/ho/home/a");
+  EXPECT_EQ(exam.PathOnPages(u"/tmp/b"), u"/tmp/b");
   exam.Reset();
   EXPECT_EQ(exam.PathOnPages(u"/home/a"), u"/home/a");
 }

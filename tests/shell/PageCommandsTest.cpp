@@ -89,7 +89,7 @@ TEST_F(PageCommandsTest, PrefixesStayOutOfFiles) {
   exam.Reset();
   exam.ReadExamFile(folder / "saved.exm");
   EXPECT_EQ(ReadBytes(TextToPath(exam.Question(1).attachmentPaths[0])), "picture");
-  EXPECT_EQ(exam.previewPrefixes, 0);
+  EXPECT_TRUE(exam.previewPrefixes.empty());
 }
 
 }  // namespace

@@ -142,7 +142,12 @@ class KeptPages : public PageStore {
   void Add(const std::filesystem::path& file, std::u16string text) override { pages[file] = std::move(text); }
   std::vector<std::filesystem::path> notWritten;
   void NotWritten(const std::filesystem::path& file) override { notWritten.push_back(file); }
-  void Clear() override { pages.clear(); }
+  std::vector<PageSource> sources;
+  void AddSource(PageSource source) override { sources.push_back(std::move(source)); }
+  void Clear() override {
+    pages.clear();
+    sources.clear();
+  }
 };
 
 /// Everything a document needs, with real files below `applicationFolder`.

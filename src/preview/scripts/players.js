@@ -11,17 +11,23 @@
   ];
   const HostRequest = window.XMLHttpRequest;  // the page may put something else there
 
-  function nameOf(source) {
+  function fileNameOf(source) {
     const path = source.split(/[?#]/)[0].replace(/\\|%5c/gi, '/');
-    const name = path.substring(path.lastIndexOf('/') + 1);
+    const last = path.substring(path.lastIndexOf('/') + 1);
     try {
-      return decodeURIComponent(name);
+      return decodeURIComponent(last);
     } catch (malformed) {
-      return name;
+      return last;
     }
   }
 
-  function extensionOf(name) {
+  // What the user calls a file is known of those that are attached to the exam.
+  function nameOf(element, source) {
+    return element.dataset.name || fileNameOf(source);
+  }
+
+  function extensionOf(source) {
+    const name = fileNameOf(source);
     const dot = name.lastIndexOf('.');
     return dot < 0 ? '' : name.substring(dot + 1).toLowerCase();
   }
@@ -32,9 +38,19 @@
 
   function notice(text) {
     const box = document.createElement('div');
-    box.style.cssText = 'box-sizing:border-box;max-width:650px;padding:12px;border:1px dashed #999;color:#444;' +
-        'background:#f6f6f6;font:14px sans-serif;overflow-wrap:anywhere';
+    box.className = 'quorvantis-notice';
     box.textContent = text;
+    return box;
+  }
+
+  // For what can only be played: on paper, the name of the file stands for it.
+  function playerBox(name) {
+    const box = document.createElement('div');
+    box.className = 'quorvantis-player';
+    const label = document.createElement('div');
+    label.className = 'quorvantis-name';
+    label.textContent = name;
+    box.append(label);
     return box;
   }
 
@@ -57,6 +73,12 @@
     request.send();
   }
 
+  function keepMuted(media) {
+    media.muted = true;
+    media.classList.add('quorvantis-muted');
+    media.addEventListener('volumechange', () => { media.muted = true; });
+  }
+
   function player(embed, source, name, isSound) {
     const media = document.createElement(isSound ? 'audio' : 'video');
     media.controls = true;
@@ -64,8 +86,9 @@
     const start = embed.getAttribute('autostart');
     media.autoplay = start !== null && !['0', 'false', 'no'].includes(start.toLowerCase());
     if (embed.getAttribute('width')) media.style.width = parseInt(embed.getAttribute('width'), 10) + 'px';
+    if ('muted' in embed.dataset) keepMuted(media);
     const preparing = notice(filled(host.preparing, name));
-    const box = document.createElement('div');
+    const box = playerBox(name);
     box.append(media);
     const slow = setTimeout(() => box.append(preparing), 700);
     const stopWaiting = () => {
@@ -75,7 +98,7 @@
     media.addEventListener('loadedmetadata', stopWaiting);
     media.addEventListener('error', () => {
       stopWaiting();
-      askWhy(source, name, text => box.replaceChildren(notice(text)));
+      askWhy(source, name, text => media.replaceWith(notice(text)));
     });
     // The page counts as loaded without it: a conversion may take long.
     const begin = () => { media.src = source; };
@@ -84,8 +107,9 @@
     return box;
   }
 
-  function picture(source) {
+  function picture(source, name) {
     const image = document.createElement('img');
+    image.dataset.name = name;
     image.src = source;
     return image;
   }
@@ -99,7 +123,7 @@
   }
 
   function nothing(source, name) {
-    const box = document.createElement('div');
+    const box = playerBox(name);
     askWhy(source, name, text => box.append(notice(text)));
     return box;
   }
@@ -139,6 +163,13 @@
   }
 
   function replaceFlash(embed, source, name) {
+    const box = playerBox(name);
+    embed.replaceWith(box);
+    box.append(embed);
+    // From what stands in its place when the clip begins.
+    if ('muted' in embed.dataset) {
+      box.addEventListener('loadedmetadata', event => { event.target.volume = 0; }, true);
+    }
     askWhy(source, name, text => text === '' ? bringFlash() : embed.replaceWith(notice(text)));
   }
 
@@ -147,10 +178,10 @@
     if (seen.has(embed)) return;
     seen.add(embed);
     const source = embed.getAttribute('src') || '';
-    const name = nameOf(source);
-    const extension = extensionOf(name);
+    const name = nameOf(embed, source);
+    const extension = extensionOf(source);
     if (extension === 'swf') replaceFlash(embed, source, name);
-    else if (pictures.includes(extension)) embed.replaceWith(picture(source));
+    else if (pictures.includes(extension)) embed.replaceWith(picture(source, name));
     else if (sounds.includes(extension)) embed.replaceWith(player(embed, source, name, true));
     else if (films.includes(extension)) embed.replaceWith(player(embed, source, name, false));
     else if (documents.includes(extension)) embed.replaceWith(frame(source));
@@ -160,7 +191,7 @@
   // Paper waits for the answer, see print.js.
   function replacePicture(image) {
     const source = image.getAttribute('src') || '';
-    const name = nameOf(source);
+    const name = nameOf(image, source);
     if (name === '' || /^(data|blob):/i.test(source)) return;
     image.dataset.quorvantisAsks = '';
     askWhy(source, name, text => {

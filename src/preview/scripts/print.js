@@ -3,13 +3,7 @@
 // Called again until all pictures are there; the value tells whether they are.
 (function () {
   'use strict';
-  if (!document.getElementById('quorvantis-paper')) {
-    const style = document.createElement('style');
-    style.id = 'quorvantis-paper';
-    style.textContent = '@media screen{.quorvantis-paper{display:none}}' +
-        '@media print{iframe{display:none}.quorvantis-paper img{display:block;width:100%;break-inside:avoid}}' +
-        '.quorvantis-paper{max-width:690px}.quorvantis-paper pre{white-space:pre-wrap}';
-    document.documentElement.append(style);
+  if (!document.querySelector('.quorvantis-paper')) {
     for (const frame of document.querySelectorAll('iframe')) {
       const inner = frame.contentDocument;
       if (!inner || !inner.body) continue;

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+// Exams in the browser, composed as the window does it.
+#include "AttachmentFiles.h"
+#include "PreviewTest.h"
+#include "model/FrameSetExam.h"
+#include "platform/posix/PosixFiles.h"
+#include "support/RecordingWorld.h"
+
+#include <random>
+
+namespace quorvantis::test {
+namespace {
+
+class ExamTest : public PreviewTest {
+ protected:
+  ExamTest() {
+    // Sources in pages begin at the first "~" of a path.
+    app = std::filesystem::canonical(folder.Path()) / "a~b" / "c~d";
+    previewFolder = app / "TEMP" / "ExamPreview";
+    std::filesystem::create_directories(previewFolder);
+    exam.SetHostMode(1);
+  }
+
+  /// A copy whose name is not what the user calls the file.
+  std::u16string Copy(const std::string& name, std::string_view bytes) {
+    const std::string copy = std::to_string(++copies);
+    return PathToText(WriteBytes(app / "~TEMP" / copy / ("0" + name), bytes));
+  }
+
+  ExamQuestion& AddQuestion() { return exam.Question(++exam.questionCount); }
+
+  void ShowPrint() {
+    pages.Clear();
+    exam.WritePrintPage(app / "exam_Print.htm");
+    Preview(app / "exam_Print.htm");
+  }
+  void ShowPreview() {
+    exam.PrefixAttachmentPaths(1);
+    pages.Clear();
+    exam.WritePreview(previewFolder / "SEE.htm");
+    Preview(previewFolder / "SEE.htm");
+  }
+
+  PosixFiles files;
+  RecordingWorld world{folder / "a~b" / "c~d", files};
+  ExamServices services{world.services.applicationFolder,
+                        world.services.strings,
+                        world.services.dialogs,
+                        world.services.codePage,
+                        world.services.debug,
+                        world.services.files,
+                        world.services.progress,
+                        world.services.longAnswerFlags,
+                        world.services.ids,
+                        world.services.registry,
+                        pages};
+  FrameSetExam exam{services};
+  int copies = 0;
+};
+
+/// Of everything that means something in a page, a script or an address.
+std::string StrangeName(std::mt19937& random) {
+  static const std::vector<std::string> pieces{
+      "\"", "'", "<",       ">",  "%", "#",   "?",    "&",     "&quot;", "\\", "\n", "\t",   " ",      "=",
+      "~",  "a", "\" x=\"", "打", ";", "%41", "</b>", "`${1}", "\\\"",   "//", "..", ".jpg", "~TEMP/", "*"};
+  std::string name;
+  for (int length = std::uniform_int_distribution(1, 12)(random); length > 0; --length) {
+    name += pieces[std::uniform_int_distribution<std::size_t>(0, pieces.size() - 1)(random)];
+  }
+  std::erase(name, '/');
+  return name;
+}
+
+TEST_F(ExamTest, FilesOfAnyNameAppearOnPaperAndInPreviews) {
+  constexpr int kQuestions = 25;
+  std::mt19937 random(GTEST_FLAG_GET(random_seed));
+  QStringList names;
+  for (int n = 1; n <= kQuestions; ++n) {
+    ExamQuestion& question = AddQuestion();
+    const std::string name = StrangeName(random);
+    question.attachmentNames = {PathToText(name + ".bmp"), PathToText(name + ".wav")};
+    question.attachmentPaths = {Copy(name + ".bmp", SmallBitmap()), Copy(name + ".wav", Silence())};
+    names << QString::fromStdU16String(question.attachmentNames[1]).toUtf8();
+  }
+  const QString count = QString::number(kQuestions);
+  const auto allAppear = [&](const QString& window) {
+    const auto all = [&](const char* tag, const char* condition) {
+      const QString found = "Array.from(%1.document.querySelectorAll('%2')).filter(e => %3).length === %4";
+      return Becomes(found.arg(window, tag, condition, count));
+    };
+    EXPECT_TRUE(all("img", "e.naturalWidth === 2"));
+    EXPECT_TRUE(all("audio", "e.readyState > 0"));
+    const QString told =
+        "Array.from(" + window + ".document.querySelectorAll('.quorvantis-name'), e => e.textContent)";
+    EXPECT_EQ(Evaluate(told).toStringList(), names);
+  };
+  ShowPrint();
+  allAppear("window");
+  ShowPreview();
+  allAppear("window");
+  ShowPrint();
+  allAppear("window");
+
+  // Those of the exam, one with a frame of its own and one in a group; the other files have two prefixes now.
+  exam.examAttachmentNames = {u"\"text\".txt", u"\"picture\".bmp"};
+  exam.examAttachmentPaths = {Copy("\"text\".txt", "lines"), Copy("\"#?picture\".bmp", SmallBitmap())};
+  ShowPreview();
+  allAppear("window.frames[0]");
+  EXPECT_EQ(Evaluate("window.frames[1].frames[0].document.body.innerText.trim()").toString(), "lines");
+  EXPECT_TRUE(Becomes("window.frames[1].frames[1].document.images[0].naturalWidth === 2"));
+}
+
+TEST_F(ExamTest, NoticesTellTheNamesThatTheUserKnows) {
+  ExamQuestion& question = AddQuestion();
+  question.attachmentNames = {u"s.wav", u"p.jpg", u"d.doc", u"x.xyz"};
+  for (std::size_t i = 0; i < 4; ++i) {
+    question.attachmentPaths[i] =
+        PathToText(app / "~TEMP" / ("0" + TextToPath(question.attachmentNames[i]).native()));
+  }
+  ShowPrint();
+  for (const char* name : {"s.wav", "p.jpg", "d.doc", "x.xyz"}) {
+    EXPECT_TRUE(Becomes(QString("[window, ...Array.from(window.frames)].some(w => "
+                                "w.document.body.innerText.split('\\n').includes('%1 is gone'))")
+                            .arg(name)))
+        << name;
+  }
+}
+
+TEST_F(ExamTest, TheOralFlagMutesWhatItsQuestionPlays) {
+  for (const int oralFlag : {0, 1}) {
+    ExamQuestion& question = AddQuestion();
+    question.kind = QuestionKind::Oral;
+    question.oralFlag = oralFlag;
+    question.attachmentNames = {u"a.wav", u"clip.swf"};
+    question.attachmentPaths = {Copy("a.wav", Silence()), Copy("clip.swf", RedFlash())};
+  }
+  flashPlayer = QUORVANTIS_FLASH_PLAYER;
+  ShowPreview();
+  ASSERT_TRUE(Becomes("document.querySelectorAll('audio').length === 2"));
+  Evaluate("document.querySelectorAll('audio').forEach(a => { a.muted = false; a.volume = 0.5; a.play() })");
+  EXPECT_TRUE(Becomes("document.querySelectorAll('audio')[1].muted"));
+  EXPECT_FALSE(Evaluate("document.querySelectorAll('audio')[0].muted").toBool());
+  if (!std::filesystem::exists(flashPlayer / "ruffle.js")) GTEST_SKIP() << "see scripts/install-flash-player";
+  EXPECT_TRUE(Becomes("document.querySelectorAll('ruffle-embed')[1].volume === 0"));
+  EXPECT_EQ(Evaluate("document.querySelectorAll('ruffle-embed')[0].volume").toInt(), 1);
+}
+
+TEST_F(ExamTest, PicturesFitAndAreShownWholeByAClick) {
+  ExamQuestion& question = AddQuestion();
+  question.attachmentNames[0] = u"photo.bmp";
+  QImage photo(4000, 3000, QImage::Format_RGB32);
+  photo.fill(Qt::red);
+  const std::u16string copy = Copy("photo.bmp", "");
+  photo.save(QString::fromStdU16String(copy), "BMP");
+  question.attachmentPaths[0] = copy;
+  ShowPreview();
+  ASSERT_TRUE(Becomes("document.images[0].naturalWidth === 4000"));
+  const QString fits =
+      "document.documentElement.scrollWidth <= innerWidth && "
+      "Math.abs(document.images[0].width / document.images[0].height - 4 / 3) < 0.01";
+  EXPECT_TRUE(Becomes(fits));
+  Evaluate("document.images[0].click()");
+  EXPECT_TRUE(Becomes("document.images[1].width === 4000"));
+  Evaluate("document.images[1].click()");
+  EXPECT_TRUE(Becomes("document.images.length === 1 && " + fits));
+}
+
+}  // namespace
+}  // namespace quorvantis::test
