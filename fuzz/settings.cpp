@@ -41,9 +41,9 @@ void ReadRepositories(const std::filesystem::path& path, const CodePage& codePag
   ExamImport import(path, codePage);
   import.m_strDocPath = path;
   import.Open();
-  Require(import.Repositories().size() <= ExamImport::kMostRepositories);
-  for (std::size_t i = 0; i < std::min(kTriedRepositories, import.Repositories().size()); ++i) {
-    import.m_strRepository = import.Repositories()[i];
+  const std::vector<std::u16string> repositories = import.Repositories();
+  for (std::size_t i = 0; i < std::min(kTriedRepositories, repositories.size()); ++i) {
+    import.m_strRepository = repositories[i];
     if (import.Accept() == 0) Require(!import.m_strPattern.empty());
   }
 }

@@ -39,6 +39,10 @@ int NumberOfAnswer(std::u16string_view before, std::u16string_view answer) {
   return isRange ? 0 : SmallNumber(before.substr(begin));
 }
 
+void Tell(DebugOutput& debug, std::u16string_view found) {
+  debug.Line(std::u16string().append(kDebugPrefix).append(found));
+}
+
 }  // namespace
 
 int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSearch& block,
@@ -46,13 +50,13 @@ int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSear
   const auto found = block.Find(text);
   if (!found) return 0;
   std::u16string rest = GroupText(*found, 0, text);
-  debug.Line(std::u16string(kDebugPrefix) + rest);
+  Tell(debug, rest);
   RepeatedSearch search(rest, item);
   std::size_t taken = 0;  // where the last answer stood
   while (const auto match = search.Find()) {
     std::u16string answer = rest.substr(match->begin, match->Size());
     if (answer.empty()) item.Fail(ImportFailure::Reason::EmptyAnswer);
-    debug.Line(std::u16string(kDebugPrefix) + answer);
+    Tell(debug, answer);
     if (numbers != nullptr) {
       const std::size_t from = std::min(taken, match->begin);
       const auto before = std::u16string_view(rest).substr(from, match->begin - from);

@@ -60,7 +60,7 @@ bool FitsInOneLine(std::u16string_view text) {
 
 /// Half a unit at the end holds no text, and text behind it would be read wrong.
 std::string WithoutHalfUnit(std::string bytes, const ProfileEncoding& encoding) {
-  bytes.resize(bytes.size() - bytes.size() % encoding.UnitSize());
+  bytes.erase(bytes.size() - bytes.size() % encoding.UnitSize());
   return bytes;
 }
 

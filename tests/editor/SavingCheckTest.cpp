@@ -86,7 +86,8 @@ TEST_F(SavingCheckTest, AsksWhoWantsToSaveAndChangesNothingBefore) {
       exam.Question(4).essayAnswer = u"not stored by a file";
       Type(FormField::Title, u"typed");
       Type(FormField::Text, u"typed");
-      Type(FormField::Answer, std::u16string(300, u'x'));
+      const std::u16string longAnswer(300, u'x');
+      Type(FormField::Answer, longAnswer);
       Turn();
       const bool flagged = world.longAnswerFlags.IsSet(1);
       const auto isAsItWas = [&] {

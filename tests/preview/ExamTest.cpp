@@ -83,15 +83,15 @@ TEST_F(ExamTest, FilesOfAnyNameAppearOnPaperAndInPreviews) {
     names << QString::fromStdU16String(question.attachmentNames[1]).toUtf8();
   }
   const QString count = QString::number(kQuestions);
-  const auto allAppear = [&](const QString& window) {
+  const auto allAppear = [&](const QString& frame) {
     const auto all = [&](const char* tag, const char* condition) {
       const QString found = "Array.from(%1.document.querySelectorAll('%2')).filter(e => %3).length === %4";
-      return Becomes(found.arg(window, tag, condition, count));
+      return Becomes(found.arg(frame, tag, condition, count));
     };
     EXPECT_TRUE(all("img", "e.naturalWidth === 2"));
     EXPECT_TRUE(all("audio", "e.readyState > 0"));
     const QString told =
-        "Array.from(" + window + ".document.querySelectorAll('.quorvantis-name'), e => e.textContent)";
+        "Array.from(" + frame + ".document.querySelectorAll('.quorvantis-name'), e => e.textContent)";
     EXPECT_EQ(Evaluate(told).toStringList(), names);
   };
   ShowPrint();

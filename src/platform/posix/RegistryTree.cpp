@@ -128,7 +128,8 @@ bool RegistryTree::ParseValue(std::string_view line, std::u16string_view key) {
 }
 
 std::string RegistryTree::Format() const {
-  std::string text = std::string(kTitle) + "\n";
+  std::string text(kTitle);
+  text += '\n';
   for (const auto& [upperPath, key] : keys_) {
     text += "\n[" + Utf16ToUtf8(key.path) + "]\n";
     for (const auto& [upperName, named] : key.values) {
