@@ -26,7 +26,7 @@ class CountingOwner : public PreviewOwner {
 /// A browser over an application folder with pages and attached files of the test's own making.
 class PreviewTest : public testing::Test {
  protected:
-  static constexpr int kLongest = 20'000;  // milliseconds; documents have to be converted on slow machines
+  static constexpr int kLongest = 60'000;  // milliseconds; documents have to be converted on slow machines
 
   PreviewTest() { std::filesystem::create_directories(previewFolder); }
 

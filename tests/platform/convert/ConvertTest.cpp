@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool WaitFor(const std::function<bool()>& condition, int limit = 30'000) {
+bool WaitFor(const std::function<bool()>& condition, int limit = 100'000) {
   QElapsedTimer timer;
   timer.start();
   while (!condition() && timer.elapsed() < limit) QTest::qWait(20);
