@@ -3,7 +3,7 @@
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
-#include "platform/office/OfficeConverter.h"
+#include "platform/programs/OfficeConverter.h"
 #include "support/DocxBuilder.h"
 
 #include <filesystem>

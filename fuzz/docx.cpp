@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Feeds any bytes to the reader of packages, as the main part, the lists or a picture of one, or as the
 // package itself: the first byte tells which. What is read must hold together.
-#include "platform/office/CompoundFile.h"
-#include "platform/office/DocxReader.h"
-#include "platform/office/PictureDecoder.h"
+#include "platform/documents/CompoundFile.h"
+#include "platform/documents/DocxReader.h"
+#include "platform/documents/PictureDecoder.h"
 #include "support/TemporaryFolder.h"
 
 #include <cstdint>

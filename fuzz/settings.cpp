@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Takes any bytes for a settings file ("system.ini", "ImportExam.ini"), in UTF-8, UTF-16 or an 8-bit code
 // page. Nothing may crash, and a value that is set is read back while every other value stays.
-#include "shell/CodePageChoice.h"
-#include "shell/ExamImport.h"
-#include "shell/ProfileFile.h"
+#include "import/ExamImport.h"
+#include "ini/ProfileFile.h"
+#include "shell/settings/CodePageChoice.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 

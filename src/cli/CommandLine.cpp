@@ -5,7 +5,7 @@
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
 #include "cli/Version.h"
-#include "shell/LanguageId.h"
+#include "shell/language/LanguageId.h"
 
 #include <CLI/CLI.hpp>
 

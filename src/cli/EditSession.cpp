@@ -3,9 +3,9 @@
 
 #include "cli/CommandError.h"
 #include "host/ImportRules.h"
-#include "shell/BackupSetting.h"
-#include "shell/CloseSequence.h"
-#include "shell/ExportCommand.h"
+#include "shell/commands/ExportCommand.h"
+#include "shell/session/CloseSequence.h"
+#include "shell/settings/BackupSetting.h"
 
 #include <utility>
 

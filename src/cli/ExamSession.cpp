@@ -6,8 +6,8 @@
 #include "cli/WhyUnreadable.h"
 #include "examfile/ByteSource.h"
 #include "examfile/ExamFileMessages.h"
-#include "shell/BuiltInStrings.h"
-#include "shell/CodePageChoice.h"
+#include "shell/language/BuiltInStrings.h"
+#include "shell/settings/CodePageChoice.h"
 #include "text/Utf.h"
 
 #include <unistd.h>

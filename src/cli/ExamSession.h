@@ -10,7 +10,7 @@
 #include "model/FrameSetExam.h"
 #include "model/LongAnswerFlags.h"
 #include "platform/posix/PrivateFolder.h"
-#include "shell/LanguageInUse.h"
+#include "shell/language/LanguageInUse.h"
 
 #include <filesystem>
 #include <optional>

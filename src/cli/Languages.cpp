@@ -5,8 +5,8 @@
 #include "cli/Commands.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
-#include "shell/LanguageId.h"
-#include "shell/LanguageList.h"
+#include "shell/language/LanguageId.h"
+#include "shell/language/LanguageList.h"
 #include "text/Utf.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cli/Console.h"
-#include "shell/ImportCommand.h"
+#include "import/ImportCommand.h"
 
 #include <filesystem>
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/ExamHost.h"
 
-#include "shell/CodePageChoice.h"
+#include "shell/settings/CodePageChoice.h"
 
 namespace quorvantis {
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "import/PaperDocuments.h"
 #include "platform/ExamServices.h"
-#include "platform/office/OfficeWordDocuments.h"
-#include "platform/office/OfficeWordWriter.h"
+#include "platform/documents/OfficeWordDocuments.h"
+#include "platform/documents/OfficeWordWriter.h"
 #include "platform/posix/FileRegistry.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/RandomIds.h"
 #include "platform/posix/StandardErrorDebug.h"
 #include "render/ComposedPages.h"
-#include "shell/PaperDocuments.h"
 
 #include <filesystem>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/ImportRules.h"
 
+#include "import/ExamImport.h"
 #include "platform/posix/ApplicationFolder.h"
-#include "shell/ExamImport.h"
 
 #include <system_error>
 

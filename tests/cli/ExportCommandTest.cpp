@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLineTest.h"
-#include "platform/office/OfficeWordDocuments.h"
+#include "platform/documents/OfficeWordDocuments.h"
 #include "text/Utf.h"
 
 namespace quorvantis::test {

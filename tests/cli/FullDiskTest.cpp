@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Every command that writes, on a disk that fills up at any of its steps.
 #include "CommandLineTest.h"
-#include "platform/office/OfficeWordDocuments.h"
+#include "platform/documents/OfficeWordDocuments.h"
 #include "support/OrdinaryUser.h"
 #include "support/TinyDisk.h"
 

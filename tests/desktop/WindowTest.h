@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/AttachmentListBox.h"
-#include "desktop/CQuorvantisDlg.h"
-#include "desktop/QtProgress.h"
-#include "desktop/QtText.h"
-#include "platform/office/OfficeWordDocuments.h"
+#include "desktop/controls/AttachmentListBox.h"
+#include "desktop/controls/QtText.h"
+#include "desktop/dialogs/QtProgress.h"
+#include "desktop/main/CQuorvantisDlg.h"
+#include "import/PaperDocuments.h"
+#include "platform/documents/OfficeWordDocuments.h"
 #include "platform/posix/PosixFiles.h"
-#include "shell/PaperDocuments.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 

@@ -2,9 +2,9 @@
 // The language libraries that come with the program, as they were built.
 #include "LanguageFile.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
-#include "shell/BuiltInDialogTexts.h"
-#include "shell/BuiltInStrings.h"
-#include "shell/LanguageList.h"
+#include "shell/language/BuiltInDialogTexts.h"
+#include "shell/language/BuiltInStrings.h"
+#include "shell/language/LanguageList.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "platform/convert/Later.h"
 #include "platform/convert/OfficeFilters.h"
 #include "platform/convert/ProgramRun.h"
-#include "platform/office/OfficeProfile.h"
+#include "platform/programs/OfficeProfile.h"
 
 #include <QFile>
 #include <QUrl>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/convert/OfficeFilters.h"
 
-#include "platform/office/ImportFilters.h"
+#include "platform/documents/ImportFilters.h"
 
 namespace quorvantis {
 

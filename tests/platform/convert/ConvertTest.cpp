@@ -5,7 +5,7 @@
 #include "platform/convert/MediaConverter.h"
 #include "platform/convert/OfficeFilters.h"
 #include "platform/convert/ProgramRun.h"
-#include "platform/office/OfficeProfile.h"
+#include "platform/programs/OfficeProfile.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
 

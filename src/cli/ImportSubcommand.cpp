@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/EditSession.h"
+#include "cli/InputFile.h"
+#include "cli/LossMessages.h"
+#include "examfile/ExamFileWriter.h"
+#include "import/ImportReport.h"
+#include "model/LongAnswerFlags.h"
+#include "platform/ExamServices.h"
+#include "platform/WholeFile.h"
+#include "text/Utf.h"
+
+#include <ostream>
+
+namespace quorvantis::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+void WriteText(const fs::path& file, std::u16string_view text, PosixFiles& files) {
+  if (file.empty()) return;
+  if (const auto error = SaveWholeFile(files, file, Utf16ToUtf8(text))) {
+    throw CommandError(file.string() + ": cannot be written: " + error.message());
+  }
+}
+
+ImportAnswers Answers(const ImportRequest& request) {
+  ImportAnswers answers;
+  answers.document = fs::absolute(request.document);
+  answers.repository = Utf8ToUtf16(request.repository);
+  answers.target = ImportTarget::Continue;
+  answers.pictures = ChoiceNamed(request.pictures);
+  answers.formulas = ChoiceNamed(request.formulas);
+  return answers;
+}
+
+/// The exam to continue is in the session.
+void OpenTarget(EditSession& session, const ImportRequest& request) {
+  session.ImportAnswers().Prepare(Answers(request));
+  if (request.into.empty()) return;
+  const int errors = session.Dialogs().ErrorCount();
+  OpenInput(request.into);  // fails with one line
+  session.OpenExam(fs::absolute(request.into));
+  if (session.Dialogs().ErrorCount() > errors)
+    throw CommandError(request.into.string() + ": was not changed");
+}
+
+/// Whatever becomes of the import: what was read is wanted most when it fails.
+void WriteTexts(const ImportRequest& request, const ImportReport& report) {
+  if (!report.content) return;
+  PosixFiles files;
+  WriteText(request.textFile, report.content->text, files);
+  WriteText(request.markedFile, report.marked.text, files);
+}
+
+/// Imports; throws when nothing was.
+ImportReport RunImport(EditSession& session, const ImportRequest& request) {
+  OpenTarget(session, request);
+  if (request.into.empty())
+    session.Import().ImportQuestions();
+  else
+    session.Import().ImportQuestionsAfter(request.after);
+  ImportReport report = session.ImportAnswers().Report();
+  WriteTexts(request, report);
+  session.ImportAnswers().ThrowIfRefused();
+  if (!report.imported)
+    throw CommandError(request.target.string() + ": was not written, because the import was given up");
+  if (request.mendLineEnds) {
+    session.Import().MendLineEnds();
+    report.loneLineEnds = 0;
+  }
+  return report;
+}
+
+}  // namespace
+
+void Import(Console& console, const CommonOptions& options, const ImportRequest& request) {
+  RefuseSameTarget({request.target, request.markedFile, request.textFile});
+  for (const fs::path& target : {request.target, request.markedFile, request.textFile}) {
+    RefuseToOverwrite(request.document, target);
+    RefuseToOverwrite(request.rules, target);
+  }
+  EditSession session(console, options, request.rules);
+  const ImportReport report = RunImport(session, request);
+  FrameSetExam& exam = session.Editor().state.document;
+  exam.Services().longAnswerFlags.SetWhereNeeded(exam);
+  if (const auto error = ExamFileWriter(exam, exam.Services()).Write(request.target)) {
+    throw CommandError(request.target.string() + ": cannot be written: " + error.message());
+  }
+  TellSavingLosses(console, request.target, exam);
+  for (const std::u16string& line : ImportSummary(report, session.Texts()))
+    console.out << Utf16ToUtf8(line) << '\n';
+}
+
+}  // namespace quorvantis::cli

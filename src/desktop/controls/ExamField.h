@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/controls/FieldText.h"
+#include "editor/QuestionEditor.h"
+#include "platform/StringTable.h"
+
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// One text field of the window and its text in the form, kept in step: what the user does to the field goes
+/// into the form, what loading or a command does to the form goes into the field. The form decides what is
+/// too long.
+///
+/// The widgets derive from this class and only know what they show.
+class ExamField {
+ public:
+  /// `editor` and `strings` must outlive the field.
+  ExamField(QuestionEditor& editor, const StringTable& strings, FormField field, FieldLines lines)
+      : editor_(editor), strings_(strings), field_(field), text_(lines) {}
+  virtual ~ExamField() = default;
+  ExamField(const ExamField&) = delete;
+  ExamField& operator=(const ExamField&) = delete;
+
+  /// Shows the form's text, with nothing to undo.
+  void Load();
+
+  /// Shows the form's text if a command has changed it, as a step that can be undone.
+  void FollowForm();
+
+ protected:
+  /// The user has turned what is shown into `shown`. False when that is refused: the widget then has to show
+  /// `Shown` again. The user has been told.
+  bool Edit(std::u16string_view shown);
+
+  /// Asked before a change is made: true when it is refused because it would be too long.
+  bool Refuses(std::u16string_view shown);
+
+  const std::u16string& Shown() const { return text_.Shown(); }
+
+  /// Replaces the content of the widget and forgets what could be undone.
+  virtual void ShowAnew(const std::u16string& shown) = 0;
+
+  /// Makes one change of the widget's content, as if the user had.
+  virtual void ShowChange(const TextChange& change, const std::u16string& shown) = 0;
+
+  /// Shows `message` beside the cursor.
+  virtual void Tell(const std::u16string& message) = 0;
+
+ private:
+  QuestionEditor& editor_;
+  const StringTable& strings_;
+  FormField field_;
+  FieldText text_;
+};
+
+}  // namespace quorvantis

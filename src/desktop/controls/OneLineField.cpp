@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/controls/OneLineField.h"
+
+#include "desktop/controls/ControlPainting.h"
+#include "desktop/controls/DroppedFiles.h"
+#include "desktop/controls/FieldKeys.h"
+#include "desktop/controls/QtText.h"
+
+#include <QDropEvent>
+#include <QValidator>
+
+#include <algorithm>
+
+namespace quorvantis {
+
+/// Qt shows every new content to the validator, and takes back a change that is invalid as if it had not been
+/// made, history and cursor included. That is just what a refused change needs.
+class OneLineField::Gate : public QValidator {
+ public:
+  explicit Gate(OneLineField& field) : QValidator(&field), field_(field) {}
+  State validate(QString& content, int&) const override {
+    return field_.Takes(content) ? Acceptable : Invalid;
+  }
+
+ private:
+  OneLineField& field_;
+};
+
+OneLineField::OneLineField(QuestionEditor& editor, const StringTable& strings, FormField field,
+                           QWidget* parent)
+    : QLineEdit(parent), ExamField(editor, strings, field, FieldLines::One) {
+  setFrame(false);  // the frame of a style would leave too little room in a field that is 20 pixels high
+  setTextMargins(3, 0, 3, 0);
+  setValidator(new Gate(*this));
+  connect(this, &QLineEdit::textChanged, this, &OneLineField::RestoreIfRefused);
+}
+
+void OneLineField::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  PaintFieldEdge(painter, *this);
+}
+
+void OneLineField::keyPressEvent(QKeyEvent* event) {
+  if (IsOtherRedo(*event)) {
+    redo();
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+void OneLineField::Tell(const std::u16string& message) {
+  TellAtCursor(this, cursorRect(), message);
+}
+
+void OneLineField::dragEnterEvent(QDragEnterEvent* event) {
+  if (!HasLocalFiles(*event->mimeData())) QLineEdit::dragEnterEvent(event);
+}
+
+void OneLineField::dropEvent(QDropEvent* event) {
+  refused_ = false;
+  QLineEdit::dropEvent(event);
+  if (!refused_) return;
+  event->setDropAction(Qt::IgnoreAction);  // else the text would vanish where it was dragged from
+  event->ignore();
+}
+
+void OneLineField::ShowAnew(const std::u16string& shown) {
+  setText(ToQString(shown));
+  setCursorPosition(0);
+}
+
+void OneLineField::ShowChange(const TextChange& change, const std::u16string& shown) {
+  home(false);  // a moved cursor ends the step of the history that the user's typing belongs to
+  setSelection(static_cast<int>(change.start), static_cast<int>(change.removed));
+  insert(ToQString(std::u16string_view(shown).substr(change.start, change.added)));
+}
+
+bool OneLineField::Takes(const QString& content) {
+  refused_ = !Edit(FromQString(content));
+  return !refused_;
+}
+
+/// Undo can lead back to a loaded text that is longer than the field takes; Qt lets that pass its validator.
+void OneLineField::RestoreIfRefused() {
+  if (!refused_) return;
+  refused_ = false;
+  const int cursor = cursorPosition();
+  ShowAnew(Shown());
+  setCursorPosition(std::min(cursor, static_cast<int>(text().size())));
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/controls/ExamField.h"
+
+#include <QLineEdit>
+
+namespace quorvantis {
+
+/// A text field of one line: the exam's title and the fill-in answers.
+class OneLineField : public QLineEdit, public ExamField {
+  Q_OBJECT
+
+ public:
+  OneLineField(QuestionEditor& editor, const StringTable& strings, FormField field, QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+  void ShowAnew(const std::u16string& shown) override;
+  void ShowChange(const TextChange& change, const std::u16string& shown) override;
+  void Tell(const std::u16string& message) override;
+
+ private:
+  class Gate;
+
+  bool Takes(const QString& content);
+  void RestoreIfRefused();
+
+  bool refused_ = false;  ///< the last change was
+};
+
+}  // namespace quorvantis

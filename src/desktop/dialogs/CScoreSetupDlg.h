@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/dialogs/RangeBar.h"
+#include "desktop/dialogs/RangeRow.h"
+#include "platform/StringTable.h"
+#include "scoring/ScoreSetup.h"
+#include "scoring/SetupOwner.h"
+
+#include <QButtonGroup>
+#include <QDialog>
+#include <QGroupBox>
+
+#include <vector>
+
+namespace quorvantis {
+
+/// The dialog of the score setup, over the main window. It has no rule of its own: what the user does goes to
+/// the `ScoreSetup`, and the controls show its fields.
+///
+/// Only the main window waits for it, so that a preview can be opened and used beside it. Enter and Escape do
+/// nothing, for an end that is typed is easily finished with Enter.
+class CScoreSetupDlg final : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// All must outlive the dialog.
+  CScoreSetupDlg(ScoreSetup& setup, SetupOwner& owner, const StringTable& strings, QWidget* parent);
+
+  /// OK, Cancel and the close box. A preview that was opened from here goes first.
+  void done(int result) override;
+
+ protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QLayout* MakeModes();
+  void MakeRanges();
+  QLayout* MakeButtons();
+  void MakeMinimumQuestions();
+
+  RangeRow& Row(int range);
+  void ShowFields();
+  void ShowSums();
+  void EndChanged(int range, const QString& text);
+  void ScoreChanged(int range, const QString& text);
+
+  QString Text(int number) const;
+
+  ScoreSetup& setup_;
+  SetupOwner& owner_;
+  const StringTable& strings_;
+  bool loading_ = false;  ///< the fields change because the dialog writes into them
+  QButtonGroup* modes_;
+  QGroupBox* group_;
+  RangeBar* bar_;
+  std::vector<RangeRow> rows_;  ///< range 1 to 10
+};
+
+}  // namespace quorvantis

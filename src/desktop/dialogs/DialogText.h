@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/controls/QtText.h"
+#include "platform/DialogTexts.h"
+#include "platform/LanguageLibraries.h"
+#include "shell/language/BuiltInDialogTexts.h"
+
+namespace quorvantis {
+
+/// The texts of one dialog's controls: those of a language, or the program's own where that has none.
+class DialogText {
+ public:
+  /// `language`, which may be null, must outlive this. `dialog` is a number of platform/DialogTexts.h.
+  DialogText(const LanguageLibrary* language, int dialog) : language_(language), dialog_(dialog) {}
+
+  QString operator()(int control) const {
+    const std::u16string text =
+        language_ == nullptr ? std::u16string() : language_->DialogText(dialog_, control);
+    return ToQString(text.empty() ? BuiltInDialogText(dialog_, control) : text);
+  }
+
+ private:
+  const LanguageLibrary* language_;
+  int dialog_;
+};
+
+}  // namespace quorvantis

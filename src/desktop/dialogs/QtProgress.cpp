@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/dialogs/QtProgress.h"
+
+#include <QApplication>
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr int kPatience = 500;      // milliseconds until the bar appears
+constexpr int kPaintInterval = 50;  // and between its steps
+constexpr int kSteps = 1000;
+
+/// Without steps the bar only shows that something goes on, without a caption there is no button.
+std::unique_ptr<QProgressDialog> MakeBar(const QString& cancelCaption, int steps, QWidget* parent) {
+  auto bar = std::make_unique<QProgressDialog>(QString(), cancelCaption, 0, steps, parent);
+  bar->setWindowModality(Qt::ApplicationModal);
+  bar->setAutoClose(false);
+  bar->setAutoReset(false);
+  bar->show();
+  return bar;
+}
+
+}  // namespace
+
+/// Nobody says when work ends: it has, once the event loop turns by itself.
+QtProgress::QtProgress() {
+  end_.setInterval(0);
+  connect(&end_, &QTimer::timeout, this, [this] {
+    if (!painting_) End();
+  });
+}
+
+QtProgress::~QtProgress() = default;
+
+void QtProgress::Report(std::uint64_t done, std::uint64_t total) {
+  if (!sinceStart_.isValid()) {
+    sinceStart_.start();
+    sincePaint_.start();
+    end_.start();
+  }
+  if (painting_ || total == 0 || !sinceStart_.hasExpired(kPatience) ||
+      !sincePaint_.hasExpired(kPaintInterval))
+    return;
+  sincePaint_.start();
+  Show(done, total);
+}
+
+void QtProgress::Show(std::uint64_t done, std::uint64_t total) {
+  if (!bar_) bar_ = MakeBar(QString(), kSteps, parent_);
+  const double part = static_cast<double>(std::min(done, total)) / static_cast<double>(total);
+  bar_->setValue(static_cast<int>(part * kSteps));
+  Paint(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtProgress::Wait() {
+  if (painting_) return;
+  if (!waiting_) BeginWaiting();
+  Paint(QEventLoop::AllEvents);
+}
+
+/// The dialog stays when it is cancelled: it keeps all other input away until the work has ended.
+void QtProgress::BeginWaiting() {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  cancelled_ = false;
+  waiting_ = MakeBar(QProgressDialog::tr("Cancel"), 0, parent_);
+  waiting_->setObjectName("waiting");
+  disconnect(waiting_.get(), &QProgressDialog::canceled, waiting_.get(), &QProgressDialog::cancel);
+  connect(waiting_.get(), &QProgressDialog::canceled, this, [this] { cancelled_ = true; });
+  end_.start();
+}
+
+void QtProgress::Paint(QEventLoop::ProcessEventsFlags events) {
+  painting_ = true;
+  QCoreApplication::processEvents(events);
+  painting_ = false;
+}
+
+void QtProgress::End() {
+  end_.stop();
+  if (waiting_) QApplication::restoreOverrideCursor();
+  waiting_.reset();
+  cancelled_ = false;
+  bar_.reset();
+  sinceStart_.invalidate();
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/dialogs/DialogText.h"
+#include "import/ExamImport.h"
+#include "platform/ExamServices.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QPlainTextEdit>
+
+namespace quorvantis {
+
+/// Lets the user choose a document and a repository to import by. Its rules are those of ExamImport.
+class ExamImportDlg : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `import`, whose repositories are listed, and `services` must outlive the dialog.
+  ExamImportDlg(ExamImport& import, ExamServices& services, const DialogText& texts, QWidget* parent);
+
+  /// Closes the dialog only when the rules accept what is chosen.
+  void accept() override;
+
+ private:
+  void Browse();
+
+  ExamImport& import_;
+  ExamServices& services_;
+  QPlainTextEdit* path_;
+  QComboBox* repository_;
+};
+
+}  // namespace quorvantis

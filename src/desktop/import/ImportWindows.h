@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/import/ImportSummaryDlg.h"
+#include "desktop/import/ImportWaitDlg.h"
+#include "import/ImportDialogs.h"
+#include "platform/ExamServices.h"
+#include "platform/LanguageLibraries.h"
+
+#include <QPointer>
+
+#include <memory>
+
+namespace quorvantis {
+
+/// The dialogs of an import, over the main window.
+class ImportWindows : public ImportDialogs {
+ public:
+  /// All must outlive this. `language`, which may be null, has the texts of the dialogs.
+  ImportWindows(ExamServices& services, const LanguageLibrary* language, QWidget& parent)
+      : services_(services), language_(language), parent_(parent) {}
+
+  /// Undoes the import on the user's word.
+  void Undo(ImportCommand& import);
+
+  /// The exam has changed as a whole, so what the summary says may be out of date.
+  void ExamChanged();
+
+  ImportTarget AskTarget() override;
+  bool AskDocument(ExamImport& import) override;
+  ChoiceResult AskPictures() override;
+  ChoiceResult AskFormulas() override;
+  void ShowWait(const std::filesystem::path& document) override;
+  void ShowPicturesRead(std::size_t done, std::size_t total) override;
+  bool IsCancelled() override { return wait_ && wait_->IsCancelled(); }
+  void HideWait() override { wait_.reset(); }
+  void ShowNotice(std::u16string_view caption, std::u16string_view text) override;
+  void ShowFailure(const ImportReport& report, std::u16string_view text) override;
+  void ShowReport(const ImportReport& report, ImportCommand& import) override;
+
+ private:
+  ExamServices& services_;
+  const LanguageLibrary* language_;
+  QWidget& parent_;
+  std::unique_ptr<ImportWaitDlg> wait_;
+  QPointer<ImportSummaryDlg> summary_;
+};
+
+}  // namespace quorvantis

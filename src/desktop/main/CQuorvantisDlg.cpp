@@ -1,0 +1,347 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/main/CQuorvantisDlg.h"
+
+#include "desktop/controls/Controls.h"
+#include "desktop/controls/DroppedFiles.h"
+#include "desktop/controls/FittedCaption.h"
+#include "desktop/controls/PlacedText.h"
+#include "desktop/dialogs/AboutDlg.h"
+#include "desktop/dialogs/CScoreSetupDlg.h"
+#include "desktop/main/RecoveryQuestion.h"
+#include "desktop/main/WindowSize.h"
+#include "host/ImportRules.h"
+#include "platform/DebugOutput.h"
+#include "platform/ExamServices.h"
+#include "platform/Texts.h"
+#include "platform/UserDialogs.h"
+#include "platform/posix/ApplicationFolder.h"
+#include "shell/commands/PreviewCommand.h"
+#include "shell/commands/PrintCommand.h"
+#include "shell/commands/RecoverCommand.h"
+#include "shell/commands/ScoreSetupCommand.h"
+#include "shell/session/CloseSequence.h"
+#include "shell/settings/BackupSetting.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPointer>
+#include <QWindow>
+
+#include <algorithm>
+#include <fstream>
+
+namespace quorvantis {
+namespace {
+
+constexpr int kBetweenLooks = 1000;  // milliseconds; a change is on the disk within two seconds
+constexpr int kOffScreen = 2000;     // pixels
+constexpr int kHighestLine = 18;     // of a font: one-line fields are 20 pixels high
+
+QuestionArea* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
+  auto* area = new QuestionArea(ToQString(strings.Text(text_id::kEditArea)), parent);
+  area->setObjectName("questionArea");
+  return area;
+}
+
+/// A button of a dialog that nobody sees. Keys and assistive programs press it.
+QPushButton* MakeHiddenButton(const char* name, QWidget* parent) {
+  auto* button = new QPushButton(parent);
+  NameControl(button, name, name);
+  button->setFocusPolicy(Qt::NoFocus);
+  button->setGeometry(0, 0, 0, 0);
+  button->hide();
+  return button;
+}
+
+bool CanRead(const std::filesystem::path& file) {
+  std::error_code ignored;
+  return std::filesystem::is_regular_file(file, ignored) && std::ifstream(file).is_open();
+}
+
+/// Rows have fixed heights, so a large font of the desktop becomes smaller here, before the controls take it
+/// over.
+QWidget* WithFittingFont(QWidget* window) {
+  window->setFont(FontForHeight(window->font(), kHighestLine));
+  return window;
+}
+
+PreviewTexts TextsOfPreviews(const StringTable& strings) {
+  return {PlacedText(strings, text_id::kPreparing),      PlacedText(strings, text_id::kCannotShow),
+          PlacedText(strings, text_id::kFileMissing),    PlacedText(strings, text_id::kNeedsProgram),
+          PlacedText(strings, text_id::kFirstPagesOnly), PlacedText(strings, text_id::kBeginningOnly)};
+}
+
+GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) {
+  return {exam.Services().applicationFolder, pages, ExecutableFolder() / "flash-player",
+          ConverterPrograms::Find(), TextsOfPreviews(exam.Services().strings)};
+}
+
+}  // namespace
+
+CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers,
+                               OfficeControl* office, DocumentExport exportDocument,
+                               const LanguageLibrary* library, int languageId)
+    : exam_(exam),
+      office_(office),
+      library_(library),
+      editor_(exam, *this, std::move(exportDocument)),
+      recovery_(editor_),
+      languageId_(languageId),
+      previews_(SetUpGateway(exam, pages)),
+      importWindows_(exam.Services(), library, *this),
+      import_(editor_, papers, importWindows_, FindImportRules(exam.Services().applicationFolder)),
+      pictures_(library),
+      files_(editor_, PageCommands(), exam.Services().strings, pictures_, WithFittingFont(this)),
+      examControls_(editor_, exam.Services().strings, this),
+      questionArea_(MakeQuestionArea(exam.Services().strings, this)),
+      question_(editor_, exam.Services().strings, pictures_, this),
+      answers_(editor_, exam.Services().strings, pictures_, this),
+      recoveryFails_(new WarningNotice("recoveryFails", this)),
+      scroll_(*this),
+      cancel_(MakeHiddenButton("cancel", this)),
+      ok_(MakeHiddenButton("ok", this)),
+      printAgain_(MakeHiddenButton("printAgain", this)) {
+  exam.SetHostMode(1);
+  setWindowIcon(pictures_.Picture(kProgramIcon));
+  PrepareOffice();
+  setAcceptDrops(true);
+  SetTabOrder(Controls());
+  connect(this, &CQuorvantisDlg::FilesDropped, this, &CQuorvantisDlg::TakeFiles, Qt::QueuedConnection);
+  const auto deliver = [this] { editor_.state.DeliverContentChanged(); };
+  connect(this, &CQuorvantisDlg::ContentChangePosted, this, deliver, Qt::QueuedConnection);
+  connect(cancel_, &QPushButton::clicked, this, &CQuorvantisDlg::EndUnasked);
+  connect(ok_, &QPushButton::clicked, this, &CQuorvantisDlg::EndUnasked);
+  ok_->setEnabled(false);  // so that Enter does not end the window
+  connect(printAgain_, &QPushButton::clicked, this, &CQuorvantisDlg::Print);
+  connect(&scroll_, &WindowScroll::Scrolled, this, &CQuorvantisDlg::Layout);
+  SetFirstSize(*this);
+  OfferImport();
+  editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
+  editor_.files.SetLongAnswersWhole(true);
+  editor_.questions.LoadCurrentQuestion();
+  recovery_.Entered();
+  connect(&recoveryTimer_, &QTimer::timeout, this, [this] { KeepRecovery(); });
+  recoveryTimer_.start(kBetweenLooks);
+  TitleChanged();
+  question_.text->setFocus();
+}
+
+CQuorvantisDlg::~CQuorvantisDlg() {
+  // The controls speak to the editor until they are gone; the base class would delete them after it.
+  qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+  recovery_.Left(Parting::Leave);    // while there are work copies to keep
+  RunCloseSequence(exam_, office_);  // the preview window goes after it, with the members
+}
+
+bool CQuorvantisDlg::OfferRecovery() {
+  RecoveryQuestion question(exam_.Services().strings, this);
+  return RecoverCommand(editor_, recovery_, question).Run();
+}
+
+bool CQuorvantisDlg::Shows(const std::filesystem::path& file) const {
+  std::error_code ignored;
+  return std::filesystem::equivalent(editor_.state.FileName(), file, ignored);
+}
+
+void CQuorvantisDlg::PrepareOffice() {
+  if (office_ == nullptr) return;
+  office_->settings.RegisterBrowsableTypes();
+  office_->settings.AllowZoneAction();
+  office_->processes.AskCloseOffice();
+}
+
+FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
+  FileButtons::PageCommands commands;
+  commands.importExam = [this] { import_.ImportQuestions(); };
+  commands.scoreSetup = [this] { SetUpScores(); };
+  commands.preview = [this] { Preview(); };
+  commands.print = [this] { Print(); };
+  return commands;
+}
+
+WindowControls CQuorvantisDlg::Controls() {
+  return {files_, examControls_, questionArea_, question_, answers_, recoveryFails_};
+}
+
+void CQuorvantisDlg::Layout() {
+  PlaceControls(scroll_, Controls(), editor_, exam_.Services().debug);
+}
+
+/// Without the file that tells how documents are read there is no import in this run.
+void CQuorvantisDlg::OfferImport() {
+  const ExamServices& services = exam_.Services();
+  if (CanRead(FindImportRules(services.applicationFolder))) return;
+  services.debug.Line(u"CQuorvantisDlg::!file.Open");
+  files_.HideImport();
+}
+
+/// No message box: it would come in the middle of a word.
+void CQuorvantisDlg::KeepRecovery() {
+  recovery_.Look();
+  const std::error_code failure = recovery_.Failure();
+  if (!failure) return recoveryFails_->hide();
+  const ExamServices& services = exam_.Services();
+  const std::u16string why =
+      FillMessage(services.strings.Text(text_id::kCannotWrite),
+                  {PathToText(RecoveryRoot(services.applicationFolder)), Utf8ToUtf16(failure.message())});
+  recoveryFails_->Tell(ToQString(services.strings.Text(text_id::kRecoveryFails)), ToQString(why));
+}
+
+void CQuorvantisDlg::FormLoaded() {
+  examControls_.Load();
+  question_.Load();
+  answers_.Load();
+  importWindows_.ExamChanged();
+}
+
+void CQuorvantisDlg::FormChanged() {
+  const QPointer<QWidget> focused = focusWidget();
+  examControls_.Refresh();
+  question_.Refresh();
+  answers_.Refresh();
+  Layout();
+  if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
+}
+
+void CQuorvantisDlg::TitleChanged() {
+  // Qt gives "[*]" in a title a meaning of its own; twice, it stands for itself.
+  setWindowTitle(ToQString(editor_.state.WindowTitle()).replace("[*]", "[*][*]"));
+}
+
+void CQuorvantisDlg::WarmBrowser() {
+  if (!previewWindow_) RenewPreviewWindow();
+}
+
+void CQuorvantisDlg::RenewPreviewWindow() {
+  previewWindow_.reset();
+  previewWindow_ = previews_.Make();
+  previewWindow_->SetOwner(*this);
+}
+
+void CQuorvantisDlg::Preview() {
+  PreviewCommand(editor_.questions, exam_, office_, languageId_, [this](const std::filesystem::path& page) {
+    RenewPreviewWindow();
+    previewWindow_->Navigate(page);
+    previewWindow_->Place(0, 0);
+    previewWindow_->Show();
+  }).Run();
+}
+
+void CQuorvantisDlg::Print() {
+  PrintCommand(editor_.questions, exam_, [this](const std::filesystem::path& page) {
+    RenewPreviewWindow();
+    previewWindow_->Navigate(page);
+    previewWindow_->Place(kOffScreen, kOffScreen);
+    previewWindow_->Show();
+    previewWindow_->StartPrintTimer();
+    previewWindow_->Hide();
+  }).Run();
+}
+
+void CQuorvantisDlg::ShowAbout() {
+  AboutDlg(library_, this).exec();
+}
+
+void CQuorvantisDlg::SetUpScores() {
+  ScoreSetupCommand(editor_, [this](ScoreSetup& setup) {
+    return CScoreSetupDlg(setup, *this, exam_.Services().strings, this).exec() == QDialog::Accepted;
+  }).Run();
+}
+
+void CQuorvantisDlg::PreviewFromSetup(int show) {
+  show != 0 ? Preview() : RenewPreviewWindow();
+}
+
+void CQuorvantisDlg::PostContentChanged() {
+  emit ContentChangePosted();
+}
+
+/// A preview covers the screen, and with it the question that may come now.
+void CQuorvantisDlg::closeEvent(QCloseEvent* event) {
+  if (previewWindow_ && previewWindow_->IsOnScreen()) RenewPreviewWindow();
+  event->setAccepted(endsUnasked_ || editor_.files.ConfirmClose());
+}
+
+void CQuorvantisDlg::EndUnasked() {
+  endsUnasked_ = true;
+  close();
+}
+
+/// Comes up above the other windows, on whichever screen that is.
+void CQuorvantisDlg::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  raise();
+  connect(windowHandle(), &QWindow::screenChanged, this, &CQuorvantisDlg::ScreenChanged,
+          Qt::UniqueConnection);
+}
+
+void CQuorvantisDlg::ScreenChanged() {
+  LimitSize(*this);
+}
+
+void CQuorvantisDlg::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Layout();
+}
+
+void CQuorvantisDlg::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  const bool changesTexts = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+                            event->type() == QEvent::LayoutDirectionChange;
+  if (changesTexts && isVisible()) Layout();
+}
+
+/// There is no window menu to which a program can add on every desktop; the window's background has it
+/// instead.
+void CQuorvantisDlg::contextMenuEvent(QContextMenuEvent* event) {
+  const StringTable& strings = exam_.Services().strings;
+  const std::u16string about = strings.Text(text_id::kAbout);
+  if (about.empty() && !import_.CanUndo()) return;
+  auto* menu = new QMenu(this);
+  menu->setObjectName("windowMenu");
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  if (!about.empty())
+    connect(menu->addAction(ToQString(about)), &QAction::triggered, this, &CQuorvantisDlg::ShowAbout);
+  if (import_.CanUndo())
+    connect(menu->addAction(ToQString(strings.Text(text_id::kUndoImport))), &QAction::triggered, this,
+            [this] { importWindows_.Undo(import_); });
+  menu->popup(event->globalPos());
+}
+
+void CQuorvantisDlg::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    cancel_->click();
+  } else if (event->key() != Qt::Key_F1) {  // there is no help that F1 could open, here or behind this window
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void CQuorvantisDlg::dragEnterEvent(QDragEnterEvent* event) {
+  const bool busy = QApplication::activeModalWidget() != nullptr;
+  if (!busy && HasLocalFiles(*event->mimeData())) event->acceptProposedAction();
+}
+
+/// What the files lead to may ask questions, so it waits until the program that they come from is released.
+void CQuorvantisDlg::dropEvent(QDropEvent* event) {
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  emit FilesDropped(event->mimeData()->urls());
+}
+
+/// An exam among the files is opened; only without one are they attached to the question.
+void CQuorvantisDlg::TakeFiles(const QList<QUrl>& urls) {
+  const std::vector<std::filesystem::path> files = LocalFiles(urls);
+  const auto exam = std::ranges::find_if(files, IsExamFile);
+  if (exam != files.end()) {
+    OpenExam(*exam);
+    return;
+  }
+  for (const std::filesystem::path& file : files) editor_.attachments.AttachQuestionFile(file);
+}
+
+}  // namespace quorvantis

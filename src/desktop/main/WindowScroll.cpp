@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/main/WindowScroll.h"
+
+#include <QApplication>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace quorvantis {
+namespace {
+
+QScrollBar* MakeBar(Qt::Orientation orientation, const char* name, QWidget& window) {
+  auto* bar = new QScrollBar(orientation, &window);
+  bar->setObjectName(name);
+  bar->setSingleStep(20);
+  bar->hide();
+  return bar;
+}
+
+void SetBar(QScrollBar& bar, int area, int view) {
+  bar.setPageStep(view);
+  bar.setRange(0, area - view);
+  bar.setVisible(area > view);
+  bar.raise();
+}
+
+/// Moves a bar as little as brings a stretch into view; its beginning, if all has no room.
+void Reveal(QScrollBar& bar, int from, int to) {
+  const int last = std::min(from, to - bar.pageStep());
+  bar.setValue(std::clamp(bar.value(), last, from));
+  if (to - from > bar.pageStep()) bar.setValue(from);
+}
+
+}  // namespace
+
+WindowScroll::WindowScroll(QWidget& window)
+    : window_(window),
+      horizontal_(MakeBar(Qt::Horizontal, "scrollAcross", window)),
+      vertical_(MakeBar(Qt::Vertical, "scrollDown", window)),
+      corner_(new QWidget(&window)) {
+  corner_->setAutoFillBackground(true);
+  corner_->hide();
+  for (QScrollBar* bar : {horizontal_.data(), vertical_.data()}) {
+    connect(bar, &QScrollBar::valueChanged, this, &WindowScroll::Scrolled);
+  }
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* control) { Reveal(control); });
+  window.installEventFilter(this);
+}
+
+PixelSize WindowScroll::Fit() {
+  const int bar = vertical_->sizeHint().width();
+  shown_ = ScrollIn({window_.width(), window_.height()}, bar);
+  const auto [area, view] = shown_;
+  const int left = window_.isRightToLeft() ? window_.width() - view.width : 0;
+  const int side = window_.isRightToLeft() ? 0 : view.width;
+  horizontal_->setGeometry(left, view.height, view.width, bar);
+  vertical_->setGeometry(side, 0, bar, view.height);
+  corner_->setGeometry(side, view.height, bar, bar);
+  const QSignalBlocker across(*horizontal_), down(*vertical_);  // who asks for a fit places the controls next
+  SetBar(*horizontal_, area.width, view.width);
+  SetBar(*vertical_, area.height, view.height);
+  corner_->setVisible(horizontal_->isVisibleTo(&window_) && vertical_->isVisibleTo(&window_));
+  corner_->raise();
+  return area;
+}
+
+QPoint WindowScroll::Origin() const {
+  const auto [area, view] = shown_;
+  if (!window_.isRightToLeft()) return {-horizontal_->value(), -vertical_->value()};
+  return {window_.width() - area.width + horizontal_->value(), -vertical_->value()};
+}
+
+/// The wheel over what does not scroll itself.
+bool WindowScroll::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Wheel) return QObject::eventFilter(watched, event);
+  const QPoint turned = static_cast<QWheelEvent*>(event)->angleDelta();
+  QScrollBar* bar = std::abs(turned.x()) > std::abs(turned.y()) ? horizontal_ : vertical_;
+  if (bar == nullptr || !bar->isVisible()) return false;
+  QCoreApplication::sendEvent(bar, event);
+  return true;
+}
+
+/// Not what the mouse has pressed: it would slip away before the button is released.
+void WindowScroll::Reveal(const QWidget* control) {
+  if (control == nullptr || !horizontal_ || !vertical_ || QApplication::mouseButtons() != Qt::NoButton)
+    return;
+  if (!window_.isAncestorOf(control)) return;
+  const QRect place(control->mapTo(&window_, QPoint()) - Origin(), control->size());
+  const bool mirrored = window_.isRightToLeft();
+  const int left = mirrored ? shown_.area.width - place.x() - place.width() : place.x();
+  quorvantis::Reveal(*horizontal_, left, left + place.width());
+  quorvantis::Reveal(*vertical_, place.y(), place.y() + place.height());
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "import/ExamImport.h"
+
+#include "import/RuleKeys.h"
+#include "ini/ProfileValues.h"
+#include "platform/Texts.h"
+#include "text/AsciiCase.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+struct KeyedRule {
+  std::u16string_view key;
+  std::u16string ImportSettings::*rule;
+};
+
+constexpr KeyedRule kRules[] = {
+    {rule_key::kPattern, &ImportSettings::m_strPattern},
+    {rule_key::kPreQuestion, &ImportSettings::m_strPreQuestion},
+    {rule_key::kPreAnswer, &ImportSettings::m_strPreAnswer},
+    {rule_key::kChoiceAnswerPattern, &ImportSettings::m_strChoiceAnswerPattern},
+    {rule_key::kChoiceAnswer, &ImportSettings::m_strChoiceAnswer},
+    {rule_key::kJudgementAnswerPattern, &ImportSettings::m_strJudgementAnswerPattern},
+    {rule_key::kJudgementAnswer, &ImportSettings::m_strJudgementAnswer},
+    {rule_key::kPreAllAnswer, &ImportSettings::m_strPreAllAnswer},
+    {rule_key::kPreParenQuestion, &ImportSettings::m_strPreParenQuestion},
+    {rule_key::kTitle, &ImportSettings::m_strTitle},
+    {rule_key::kBmp, &ImportSettings::m_strBmp},
+    {rule_key::kChoiceBmp, &ImportSettings::m_strChoiceBmp},
+    {rule_key::kPreTable, &ImportSettings::m_strPreTable},
+};
+
+bool BeginsWith(std::u16string_view name, std::u16string_view chosen) {
+  return EqualsIgnoringAsciiCase(name.substr(0, chosen.size()), chosen);
+}
+
+}  // namespace
+
+void ExamImport::Open() {
+  const ProfileFile file(m_strIniPath, &codePage_);
+  count_ = std::max(ReadProfileInteger(u"Repository", u"Size", 0, file), 0);
+  names_.clear();
+  for (const auto& [section, name] : ReadProfileStringOfAll(u"Name", file)) {
+    const int number = ParseInteger(section);
+    const bool isEntry = number >= 0 && number < count_ && FormatInteger(number) == section;
+    if (isEntry && !name.empty()) names_.try_emplace(number, name);
+  }
+  m_strRepository = NameOf(0);
+}
+
+std::u16string ExamImport::NameOf(int entry) const {
+  const auto found = names_.find(entry);
+  return found == names_.end() ? std::u16string() : found->second;
+}
+
+std::vector<std::u16string> ExamImport::Repositories() const {
+  std::vector<std::u16string> list(count_ > kMostListed ? 0 : static_cast<std::size_t>(count_));
+  for (const auto& [entry, name] : names_) {
+    if (count_ > kMostListed)
+      list.push_back(name);
+    else
+      list[static_cast<std::size_t>(entry)] = name;
+  }
+  return list;
+}
+
+int ExamImport::ChosenSection() const {
+  if (m_strRepository.empty()) return count_ > 1 ? 1 : count_ - 1;  // every name begins with it
+  for (auto entry = names_.upper_bound(0); entry != names_.end(); ++entry) {
+    if (BeginsWith(entry->second, m_strRepository)) return entry->first;
+  }
+  return BeginsWith(NameOf(0), m_strRepository) ? 0 : kNoSection;
+}
+
+int ExamImport::Accept() {
+  return AcceptSection(ChosenSection());
+}
+
+int ExamImport::AcceptSection(int section) {
+  std::error_code error;
+  if (m_strDocPath.empty() || !std::filesystem::exists(m_strDocPath, error))
+    return text_id::kWrongDocumentPath;
+  const ProfileFile file(m_strIniPath, &codePage_);
+  const std::u16string name = FormatInteger(section);
+  for (const KeyedRule& keyed : kRules) this->*keyed.rule = ReadProfileString(name, keyed.key, {}, file);
+  if (m_strPattern.empty() || m_strPreAnswer.empty()) return text_id::kWrongImportRules;
+  listLabels = ReadProfileInteger(name, rule_key::kListLabels, 0, file) == 1;
+  if (ReadProfileInteger(name, rule_key::kTable, 0, file) == 1) {
+    m_nTable = 1;
+    m_strTableAnsKey = ReadProfileString(name, rule_key::kAnswerKey, {}, file);
+    m_strTableQuesKey = ReadProfileString(name, rule_key::kQuestionKey, {}, file);
+  }
+  return 0;
+}
+
+}  // namespace quorvantis

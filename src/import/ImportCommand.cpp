@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+#include "import/ImportCommand.h"
+
+#include "editor/WorkCopies.h"
+#include "import/AnswerPictures.h"
+#include "import/DocumentFailureText.h"
+#include "import/LineEnds.h"
+#include "import/ReplacedQuestions.h"
+#include "platform/DebugOutput.h"
+#include "platform/ExamServices.h"
+#include "platform/StringTable.h"
+#include "platform/Texts.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+
+const StringTable& ImportCommand::Strings() {
+  return Exam().Services().strings;
+}
+
+void ImportCommand::Debug(std::u16string_view line) {
+  Exam().Services().debug.Line(line);
+}
+
+void ImportCommand::Begin() {
+  before_.Take();
+  pictureCounterBefore_ = pictureCounter_;
+  isNewExam_ = false;
+}
+
+void ImportCommand::ImportQuestions() {
+  Begin();
+  importBase_ = editor_.state.currentQuestion;
+  if (ConfirmImportTarget()) ImportHere();
+}
+
+void ImportCommand::ImportQuestionsAfter(int question) {
+  Begin();
+  importBase_ = editor_.state.currentQuestion = std::max(question, 1);
+  editor_.questions.LoadCurrentQuestion();
+  if (question > 0) editor_.questions.GoNext();
+  ImportHere();
+}
+
+void ImportCommand::Undo() {
+  if (!CanUndo()) return;
+  before_.Restore();
+  pictureCounter_ = pictureCounterBefore_;
+}
+
+void ImportCommand::MendLineEnds() {
+  if (!CanUndo()) return;
+  editor_.questions.StoreCurrentQuestion();
+  quorvantis::MendLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
+  editor_.questions.LoadCurrentQuestion();
+  editor_.state.MarkModified();
+}
+
+/// False when the exam in hand was to be saved first and was not: it must not be lost.
+bool ImportCommand::ConfirmImportTarget() {
+  EditorState& state = editor_.state;
+  if (state.currentQuestion == 1) return true;
+  if (dialogs_.AskTarget() == ImportTarget::Continue) {
+    editor_.questions.GoNext();
+    return true;
+  }
+  if (state.Modified()) editor_.files.SaveExam();
+  if (state.Modified()) return false;
+  editor_.files.StartNewExam();
+  isNewExam_ = true;
+  pictureCounter_ = 0;
+  importBase_ = 1;
+  return true;
+}
+
+void ImportCommand::ImportHere() {
+  ExamImport choice(rules_, Exam().Services().codePage);
+  choice.Open();
+  if (!dialogs_.AskDocument(choice)) return;
+  importRolledBack_ = false;
+  removed_ = 0;
+  dialogs_.ShowWait(choice.m_strDocPath);
+  Debug(u"The ExamImportDlg is showing!");
+  ImportReport report;
+  report.rules = choice;
+  const WordResult read = ReadDocument(choice, report);
+  if (read != WordResult::Done)
+    return EndWithout(report, DocumentFailureText(read, choice.m_strDocPath, Strings()));
+  if (report.marked.failure) return EndWithout(report, FailureText(*report.marked.failure, Strings()));
+  firstSlot_ = editor_.state.currentQuestion;
+  nextSlot_ = Exam().ParseQuestions(
+      firstSlot_, pictureCounter_, report.marked.text, report.rules,
+      [this] { return dialogs_.IsCancelled(); }, report.paper);
+  if (report.paper.failure) return EndWithout(report, FailureText(*report.paper.failure, Strings()));
+  HandleAndFinish(report);
+}
+
+/// Reads and marks without touching the exam. A failure of the marking is in the report.
+WordResult ImportCommand::ReadDocument(const ExamImport& choice, ImportReport& report) {
+  WordReader reader(
+      documents_, AttachmentWorkRoot(Exam().Services().applicationFolder),
+      {[this] { return dialogs_.IsCancelled(); },
+       [this](std::size_t done, std::size_t total) { dialogs_.ShowPicturesRead(done, total); }});
+  if (!reader.OpenDocument(choice.m_strDocPath, choice.listLabels)) return reader.Result();
+  reader.ReplaceBoxCharacters();
+  const auto nextPicture = reader.SavePictures(pictureCounter_);
+  if (!nextPicture) return reader.Result();
+  const std::size_t formulas = reader.MaskFormulas();
+  const WordDocument& document = reader.Document();
+  report.content = {document.runningText.characters, pictureCounter_,           *nextPicture, formulas,
+                    reader.LostPictures(),           document.hasNumbersLeftOut};
+  report.marked = Mark(reader, report.rules);
+  reader.CloseDocument();
+  reader.QuitWordProcessor();
+  return WordResult::Done;
+}
+
+MarkedText ImportCommand::Mark(const WordReader& reader, const ImportSettings& rules) {
+  MarkedText marked;
+  if (rules.m_nTable != 0) {
+    Debug(FillMessage(u"The dlg.m_strPreAnswer is %s", {rules.m_strPreAnswer}));
+    Debug(FillMessage(u"The dlg.m_strTableAnsKey is %s", {rules.m_strTableAnsKey}));
+    Debug(FillMessage(u"The dlg.m_strTableQuesKey is %s", {rules.m_strTableQuesKey}));
+    marked = reader.TableToString(rules);
+    if (!marked.failure) Debug(u"Table To String");
+  } else {
+    marked = reader.TextToString(rules);
+    if (!marked.failure) Debug(u"Text To String");
+  }
+  if (!marked.failure) Debug(FillMessage(u"ExamDoc output %s", {marked.text}));
+  return marked;
+}
+
+/// Nothing was imported, so the exam becomes what it was, also where a new one had been begun.
+void ImportCommand::EndWithout(const ImportReport& report, std::u16string_view message) {
+  const bool wasCancelled = dialogs_.IsCancelled();
+  dialogs_.HideWait();
+  Undo();
+  if (!wasCancelled) dialogs_.ShowFailure(report, message);
+}
+
+void ImportCommand::HandleAndFinish(ImportReport& report) {
+  const bool forced = HandleAnswerPictures();
+  pictureCounter_ = report.content->nextPicture;
+  dialogs_.HideWait();
+  Debug(u"The ExamImportDlg is gone!");
+  if (importRolledBack_) {
+    editor_.questions.GoPrevious();
+    return Report(report);
+  }
+  if (forced) ShowPictureList();
+  if (report.content->formulas > 0) HandleFormulas();
+  editor_.state.MarkModifiedQuietly();
+  GoToLastImported();
+  Report(report);
+}
+
+void ImportCommand::Report(ImportReport& report) {
+  report.imported = !importRolledBack_;
+  report.firstSlot = firstSlot_;
+  report.nextSlot = nextSlot_;
+  report.removed = removed_;
+  if (!isNewExam_) {
+    const FrameSetExam before = before_.StoredExam();
+    report.replaced = MissingQuestions(before, Exam());
+    report.filesStayed = QuestionsWithEarlierFiles(before, Exam(), firstSlot_, nextSlot_ - 1);
+  }
+  report.loneLineEnds = CountLoneLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
+  report.formulasKept = std::min(CountFormulas(Exam(), firstSlot_, nextSlot_ - 1), report.content->formulas);
+  const bool hasFirst = firstSlot_ == 1 && nextSlot_ > 1;
+  const int pictures = report.content->nextPicture - report.content->firstPicture;
+  if (hasFirst && pictures > 0 && ShowsPictures(Exam().Question(1))) report.questionAsItIs = 1;
+  dialogs_.ShowReport(report, *this);
+}
+
+/// What the form holds goes to the slot after the imported ones, if there is one.
+void ImportCommand::GoToLastImported() {
+  EditorState& state = editor_.state;
+  state.currentQuestion = std::min(nextSlot_, kMaxQuestions);
+  if (nextSlot_ <= kMaxQuestions) {
+    editor_.questions.GoPrevious();
+  } else {
+    editor_.questions.LoadCurrentQuestion();
+  }
+}
+
+void ImportCommand::RemoveImported(int question) {
+  editor_.attachments.RemoveQuestionAttachments(question);
+  Exam().DeleteQuestion(question);
+  --nextSlot_;
+  ++removed_;
+}
+
+/// True when the user wants pictures in answers to be imported as their names. The question that comes first
+/// in a new exam is never looked at, which is deliberate: the base counts as a question of before.
+bool ImportCommand::HandleAnswerPictures() {
+  const ExamServices& services = Exam().Services();
+  const std::u16string notice = Strings().Text(text_id::kPictureNotice);
+  bool asked = false;
+  ChoiceResult choice = ChoiceResult::None;
+  for (int i = importBase_ + 1; i <= std::min(nextSlot_, kMaxQuestions);) {
+    ExamQuestion& question = Exam().Question(i);
+    const bool inAnswers = AnswersHavePictures(question);
+    if (inAnswers && !asked) {
+      choice = dialogs_.AskPictures();
+      asked = true;
+    }
+    Debug(u"The PictureDlg is showing!");
+    if (choice == ChoiceResult::GiveUp) {
+      RollbackImport();
+      return false;
+    }
+    MarkAnswerPictures(question, notice);
+    const auto workRoot = AttachmentWorkRoot(services.applicationFolder);
+    if (AttachTextPicture(question, workRoot)) editor_.attachments.TakeCopyNumber();
+    if (choice == ChoiceResult::IgnoreRelated && inAnswers) {
+      RemoveImported(i);
+    } else {
+      ++i;
+    }
+  }
+  return choice == ChoiceResult::Force;
+}
+
+/// Questions that were in the exam before are listed, too.
+void ImportCommand::ShowPictureList() {
+  std::u16string list;
+  for (int n = 1; n <= std::min(nextSlot_, kMaxQuestions); ++n) {
+    if (AnswersHavePictures(Exam().Question(n))) list += FormatInteger(n) + u",";
+  }
+  dialogs_.ShowNotice(Strings().Text(text_id::kNotice), list + Strings().Text(text_id::kPicturesInAnswers));
+}
+
+void ImportCommand::HandleFormulas() {
+  const ChoiceResult choice = dialogs_.AskFormulas();
+  Debug(u"The FormulaDlg is gone!");
+  if (choice == ChoiceResult::GiveUp) RollbackImport();
+  if (choice != ChoiceResult::IgnoreRelated) return;
+  for (int i = importBase_ + 1; i < nextSlot_;) {
+    if (HasFormula(Exam().Question(i))) {
+      RemoveImported(i);
+    } else {
+      ++i;
+    }
+  }
+}
+
+/// What was imported goes, and with it the slot after it. What the slots held before does not come back.
+void ImportCommand::RollbackImport() {
+  if (importBase_ == 1) {
+    editor_.files.EmptyExam();
+    nextSlot_ = 1;
+  } else {
+    editor_.state.currentQuestion = std::min(importBase_ + 1, kMaxQuestions);
+    for (int i = importBase_; i < nextSlot_; ++i) editor_.questions.DeleteHere();
+    nextSlot_ = editor_.state.currentQuestion;
+  }
+  editor_.state.MarkSaved();
+  importRolledBack_ = true;
+}
+
+}  // namespace quorvantis

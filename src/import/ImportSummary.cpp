@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "import/DocumentFailureText.h"
+#include "import/ImportMarkers.h"
+#include "import/ImportReport.h"
+#include "import/LostPictures.h"
+#include "import/RuleKeys.h"
+#include "model/ExamLimits.h"
+#include "platform/Texts.h"
+#include "regex/RegexPattern.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+std::u16string Text(std::size_t number) {
+  return FormatInteger(static_cast<std::int64_t>(number));
+}
+
+std::u16string Text(int number) {
+  return FormatInteger(number);
+}
+
+std::u16string Range(int first, int last) {
+  return first == last ? Text(first) : Text(first) + u"-" + Text(last);
+}
+
+/// "3, 7-9".
+std::u16string Ranges(const std::vector<int>& numbers) {
+  std::u16string text;
+  for (std::size_t i = 0; i < numbers.size();) {
+    std::size_t next = i + 1;
+    while (next < numbers.size() && numbers[next] == numbers[next - 1] + 1) ++next;
+    text += (text.empty() ? u"" : u", ") + Range(numbers[i], numbers[next - 1]);
+    i = next;
+  }
+  return text;
+}
+
+/// Composes the lines for one report.
+class Summary {
+ public:
+  Summary(const ImportReport& report, const StringTable& strings) : report_(report), strings_(strings) {}
+
+  std::vector<std::u16string> Lines() {
+    if (report_.imported) {
+      TellQuestions();
+    } else {
+      Say(text_id::kGivenUp);
+    }
+    SayOfQuestions(text_id::kQuestionsReplaced, report_.replaced);
+    SayOfQuestions(text_id::kFilesStayed, report_.filesStayed);
+    TellBrokenRules();
+    TellIdleRules();
+    TellDroppedParts();
+    TellOwnMarkers();
+    if (report_.imported) TellImported();
+    return std::move(lines_);
+  }
+
+ private:
+  void Say(int text, std::initializer_list<std::u16string_view> values = {}) {
+    lines_.push_back(FillMessage(strings_.Text(text), values));
+  }
+
+  /// Of a text that has first the count of the questions and then their numbers.
+  void SayOfQuestions(int text, const std::vector<int>& questions) {
+    if (!questions.empty()) Say(text, {Text(questions.size()), Ranges(questions)});
+  }
+
+  /// What is about questions that are in the exam.
+  void TellImported() {
+    TellAnswerBlocks();
+    TellLostPictures();
+    TellFormulas();
+    if (report_.questionAsItIs != 0) Say(text_id::kQuestionAsItIs, {Text(report_.questionAsItIs)});
+    if (report_.loneLineEnds > 0) Say(text_id::kLineEnds, {Text(report_.loneLineEnds)});
+  }
+
+  std::size_t Count(ReadKind kind) const {
+    return static_cast<std::size_t>(std::ranges::count(report_.paper.questions, kind, &ReadQuestion::kind));
+  }
+  std::u16string Number(ReadKind kind) const { return Text(Count(kind)); }
+
+  void TellQuestions() {
+    const auto& questions = report_.paper.questions;
+    Say(text_id::kQuestionsRead,
+        {Text(questions.size()), Number(ReadKind::Choice), Number(ReadKind::TrueFalse),
+         Number(ReadKind::FillIn), Number(ReadKind::Essay)});
+    const std::size_t slots = static_cast<std::size_t>(kMaxQuestions + 1 - report_.firstSlot);
+    if (questions.size() > slots)
+      Say(text_id::kLeftOut, {Text(questions.size() - slots), Text(kMaxQuestions)});
+    if (report_.removed > 0) Say(text_id::kQuestionsRemoved, {Text(report_.removed)});
+    if (report_.firstSlot > 1 && report_.nextSlot > report_.firstSlot)
+      Say(text_id::kSlotsFilled,
+          {Text(report_.nextSlot - report_.firstSlot), Range(report_.firstSlot, report_.nextSlot - 1)});
+  }
+
+  void TellBrokenRules() {
+    const ImportSettings& rules = report_.rules;
+    const std::pair<std::u16string_view, const std::u16string*> patterns[] = {
+        {rule_key::kPattern, &rules.m_strPattern},
+        {rule_key::kPreQuestion, &rules.m_strPreQuestion},
+        {rule_key::kPreParenQuestion, &rules.m_strPreParenQuestion},
+        {rule_key::kPreAnswer, &rules.m_strPreAnswer},
+        {rule_key::kPreAllAnswer, &rules.m_strPreAllAnswer},
+        {rule_key::kTitle, &rules.m_strTitle},
+        {rule_key::kBmp, &rules.m_strBmp},
+        {rule_key::kChoiceBmp, &rules.m_strChoiceBmp},
+        {rule_key::kChoiceAnswerPattern, &rules.m_strChoiceAnswerPattern},
+        {rule_key::kChoiceAnswer, &rules.m_strChoiceAnswer},
+        {rule_key::kJudgementAnswerPattern, &rules.m_strJudgementAnswerPattern},
+        {rule_key::kJudgementAnswer, &rules.m_strJudgementAnswer}};
+    for (const auto& [key, pattern] : patterns) {
+      const RegexPattern compiled(*pattern, 3);
+      if (const auto& error = compiled.CompileError()) {
+        const std::u16string reason(error->reason.begin(), error->reason.end());
+        Say(text_id::kRuleIsNoPattern, {key, reason, Text(error->position + 1)});
+      }
+    }
+  }
+
+  /// In a paper with blocks of answers, answers need not stand with the questions.
+  void TellIdleRules() {
+    const bool hasBlock = report_.paper.hasChoiceBlock || report_.paper.hasJudgementBlock;
+    for (const auto& [key, count] : report_.marked.counts) {
+      if (count == 0 && !(hasBlock && key == rule_key::kPreAnswer)) TellIdle(key);
+    }
+    if (!report_.rules.m_strChoiceAnswerPattern.empty() && !report_.paper.hasChoiceBlock)
+      TellIdle(rule_key::kChoiceAnswerPattern);
+    if (!report_.rules.m_strJudgementAnswerPattern.empty() && !report_.paper.hasJudgementBlock)
+      TellIdle(rule_key::kJudgementAnswerPattern);
+    if (report_.rules.m_nTable != 0 && report_.marked.text == kQuestionMarker) Say(text_id::kNoSuchTable);
+    if (report_.content && report_.content->hasNumbersLeftOut && !HasMarkedQuestions())
+      Say(text_id::kAutomaticNumbers);
+  }
+
+  /// Whether a rule for the start of questions matched.
+  bool HasMarkedQuestions() const {
+    return report_.rules.m_nTable != 0 || std::ranges::any_of(report_.marked.counts, [](const auto& rule) {
+             const bool isOfQuestions =
+                 rule.first == rule_key::kPreQuestion || rule.first == rule_key::kPreParenQuestion;
+             return isOfQuestions && rule.second > 0;
+           });
+  }
+
+  void TellIdle(std::u16string_view key) { Say(text_id::kRuleIsIdle, {key}); }
+
+  void TellDroppedParts() {
+    for (const std::u16string_view key : {rule_key::kPreAnswer, rule_key::kPattern}) {
+      const auto& dropped = report_.paper.dropped;
+      const auto first = std::ranges::find(dropped, key, &DroppedPart::key);
+      if (first == dropped.end()) continue;
+      const auto count = static_cast<std::size_t>(std::ranges::count(dropped, key, &DroppedPart::key));
+      Say(text_id::kPartsLeftOut, {Text(count), key, Text(count), first->text});
+    }
+  }
+
+  void TellAnswerBlocks() {
+    const ReadPaper& paper = report_.paper;
+    if (!paper.hasChoiceBlock && !paper.hasJudgementBlock) return;
+    const std::size_t unanswered = Count(ReadKind::FillIn) + Count(ReadKind::Essay);
+    if (unanswered > 0) Say(text_id::kUnanswered, {Text(unanswered)});
+    if (paper.hasJudgementBlock && Count(ReadKind::TrueFalse) > 0) Say(text_id::kAllTrueFalse);
+    if (paper.hasChoiceBlock) TellMismatch(rule_key::kChoiceAnswer, paper.choiceAnswers, ReadKind::Choice);
+    if (paper.hasJudgementBlock)
+      TellMismatch(rule_key::kJudgementAnswer, paper.judgementAnswers, ReadKind::TrueFalse);
+    for (const MisplacedAnswer& answer : paper.misplaced)
+      Say(text_id::kAnswersByOrder, {answer.key, Text(answer.number), Text(answer.question)});
+  }
+
+  void TellMismatch(std::u16string_view key, std::size_t answers, ReadKind kind) {
+    if (answers == Count(kind)) return;
+    Say(text_id::kAnswersDiffer, {key, Text(answers), Number(kind)});
+  }
+
+  void TellOwnMarkers() {
+    for (const std::u16string_view marker :
+         {kQuestionMarker, kAnswerMarker, kAnswerSectionMarker, kPictureMarker, kOptionPictureMarker}) {
+      const bool isFormulas = marker == kPictureMarker && HasFormulas();
+      if (!isFormulas && report_.content && report_.content->text.find(marker) != std::u16string::npos)
+        Say(text_id::kOwnMarker, {marker});
+    }
+  }
+
+  void TellLostPictures() {
+    for (const auto& [reason, questions] : GroupLostPictures(report_)) {
+      std::u16string list;
+      std::size_t count = 0;
+      for (const auto& [question, pictures] : questions) {
+        list += list.empty() ? u"" : u"; ";
+        count += pictures.size();
+        list += question == kNoQuestion ? Ranges(pictures)
+                                        : FillMessage(strings_.Text(text_id::kPicturesOfQuestion),
+                                                      {Ranges(pictures), Text(question)});
+      }
+      Say(text_id::kPicturesLost, {Text(count), PictureFailureText(reason, Text(count), strings_), list});
+    }
+  }
+
+  bool HasFormulas() const { return report_.content && report_.content->formulas > 0; }
+
+  void TellFormulas() {
+    if (report_.formulasKept > 0) Say(text_id::kFormulasMasked, {Text(report_.formulasKept)});
+    if (HasFormulas() && report_.content->text.find(kPictureMarker) != std::u16string::npos)
+      Say(text_id::kFormulasAdjacent);
+  }
+
+  const ImportReport& report_;
+  const StringTable& strings_;
+  std::vector<std::u16string> lines_;
+};
+
+}  // namespace
+
+std::vector<std::u16string> ImportSummary(const ImportReport& report, const StringTable& strings) {
+  return Summary(report, strings).Lines();
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ini/ProfileEncoding.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// A profile file in memory: "[section]" lines with "key=value" lines below them. Sections and keys are found
+/// without regard to the case of ASCII letters; lines that begin with ";" are comments. A change touches no
+/// byte of other lines.
+class ProfileFile {
+ public:
+  /// Reads `file`; a missing one has no values. `codePage`, which must outlive this, is that of 8-bit text;
+  /// without one only its ASCII characters can be told.
+  explicit ProfileFile(const std::filesystem::path& file, const CodePage* codePage = nullptr);
+
+  /// The file could be read, or does not exist: what is here may take its place. Otherwise there are no
+  /// values. Files of more than 16 MiB are not read.
+  bool IsWhole() const { return whole_; }
+
+  /// The value without blanks and one pair of quotes around it; the first one where a key stands more than
+  /// once.
+  std::optional<std::u16string> Value(std::u16string_view section, std::u16string_view key) const;
+
+  /// The value of a key in each section that has it, by the name of the section as it stands in the file.
+  std::map<std::u16string, std::u16string> ValuesOf(std::u16string_view key) const;
+
+  /// Sets the value that `Value` finds. A new key goes to the end of its section, a new section to the end of
+  /// the file. False, and nothing is changed, when the file's encoding lacks a character of it, or when a
+  /// line break or NUL in it would be more than a value.
+  bool SetValue(std::u16string_view section, std::u16string_view key, std::u16string_view value);
+
+  const std::string& Bytes() const { return bytes_; }
+
+ private:
+  /// Offsets into the bytes: the line without its line break, and where the next one begins.
+  struct Line {
+    std::size_t begin;
+    std::size_t end;
+    std::size_t next;
+  };
+  struct Place {
+    std::optional<Line> entry;              ///< the key's line
+    std::optional<std::size_t> sectionEnd;  ///< behind the last line of the section that is not blank
+  };
+
+  Line LineAt(std::size_t begin) const;
+  std::u16string TextOf(const Line& line) const;
+  Place Find(std::u16string_view section, std::u16string_view key) const;
+  bool Replace(const Line& line, std::u16string_view value);
+  bool InsertLines(std::size_t position, std::u16string lines);
+  std::u16string LineBreak() const;
+
+  bool whole_;
+  std::string bytes_;
+  ProfileEncoding encoding_;
+};
+
+}  // namespace quorvantis

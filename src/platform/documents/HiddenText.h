@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/documents/DocxStyles.h"
+
+#include <map>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// Tells what is hidden, by itself or by its styles.
+class HiddenText {
+ public:
+  /// `styles` outlive this.
+  explicit HiddenText(const DocxStyles& styles) : styles_(styles) {}
+
+  /// Whether a run or the mark of a paragraph is hidden. `properties` are its own and may be empty.
+  bool IsHidden(pugi::xml_node properties, const std::string& paragraphStyle);
+
+ private:
+  bool IsHiddenBy(const std::string& style);
+
+  const DocxStyles& styles_;
+  std::map<std::string, bool, std::less<>> known_;  ///< by style
+};
+
+}  // namespace quorvantis

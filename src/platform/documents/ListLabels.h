@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/documents/DocxStyles.h"
+
+#include <array>
+#include <map>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// Counts the automatic numbers of paragraphs, which stand in no text.
+class ListLabels {
+ public:
+  static constexpr int kLevels = 9;
+
+  /// The root of the lists, which may be empty, and the styles of a document. They outlive this.
+  ListLabels(pugi::xml_node numbering, const DocxStyles& styles);
+
+  /// The label of the next paragraph, with the tab or the blank behind it; empty when it has none.
+  /// `properties` are those of the paragraph and may be empty. Bullets are no labels.
+  std::u16string Next(pugi::xml_node properties);
+
+ private:
+  using Counters = std::array<int, kLevels>;
+
+  /// How a list instance counts, put together from the list and what the instance says otherwise.
+  struct Level {
+    bool isDefined = false;
+    int start = 1;
+    int restart = 0;       ///< it begins anew behind paragraphs of levels below this one
+    bool isLegal = false;  ///< all numbers of the label are decimal
+    std::string format = "decimal";
+    std::u16string pattern;
+    std::u16string_view separator;
+    std::string style;      ///< that stands for this level; may be empty
+    bool restarts = false;  ///< the instance begins anew
+  };
+  struct List {
+    std::string counters;  ///< whose counters it shares: those of the abstract list
+    std::array<Level, kLevels> levels;
+    std::array<bool, kLevels> begun{};
+  };
+  struct Place {
+    std::string list;
+    int level = -1;
+  };
+
+  List* ListOf(const std::string& id);
+  List MakeList(pugi::xml_node instance);
+  static Level MakeLevel(pugi::xml_node definition, int index);
+  const List& AbstractOf(pugi::xml_node instance);
+  pugi::xml_node FindAbstract(const std::string& id) const;
+  Place PlaceOf(pugi::xml_node properties);
+  Place PlaceOfStyle(const std::string& style);
+  Place FindPlaceOfStyle(const std::string& style);
+  int LevelOfStyle(const std::string& list, const std::string& style);
+  static void Count(List& list, Counters& counters, int level);
+  static std::u16string Label(const List& list, const Counters& counters, int level);
+
+  NodesById abstractLists_;
+  NodesById instances_;
+  const DocxStyles& styles_;
+  std::map<std::string, Place, std::less<>> placesOfStyles_;
+  std::map<std::string, List, std::less<>> abstracts_;  ///< as their instances begin
+  std::map<std::string, List, std::less<>> lists_;
+  std::map<std::string, Counters, std::less<>> counters_;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/documents/PictureFormat.h"
+#include "platform/posix/PrivateFolder.h"
+#include "platform/programs/OfficeConverter.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// Turns pictures that are drawing commands into pictures of pixels: LibreOffice draws all of them in one
+/// run, as pages of a document.
+class MetafileImages {
+ public:
+  /// Adds one and gives its number, from 0.
+  std::size_t Add(const PictureFormat& format, std::string_view bytes);
+
+  /// Whether so much has been added that no more should be.
+  bool IsFull() const { return count_ >= kMost || pages_.size() > kMostBytes; }
+
+  WordResult Draw(const OfficeConverter& converter);
+
+  /// The PNG file of a picture, once they have been drawn.
+  std::string Bytes(std::size_t number) const;
+
+ private:
+  static constexpr std::size_t kMost = 500;
+  static constexpr std::size_t kMostBytes = std::size_t{128} << 20;
+  static constexpr std::size_t kMostImageBytes = std::size_t{64} << 20;
+
+  std::string Document() const;
+
+  PrivateFolder folder_;
+  std::string styles_;
+  std::string masters_;
+  std::string pages_;
+  std::size_t count_ = 0;
+  std::vector<std::filesystem::path> images_;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/PixelGrid.h"
+#include "platform/WordDocuments.h"
+#include "platform/documents/PictureFormat.h"
+
+#include <string_view>
+
+namespace quorvantis {
+
+/// Decodes a picture of pixels, not a metafile. Where it is transparent it becomes white. No memory is taken
+/// before its size is known to be within `kMostPixels`.
+WordResult DecodePicture(const PictureFormat& format, std::string_view bytes, PixelGrid& pixels);
+
+}  // namespace quorvantis

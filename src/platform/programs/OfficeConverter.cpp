@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "platform/programs/OfficeConverter.h"
+
+#include "platform/posix/PrivateFolder.h"
+#include "platform/programs/ChildProgram.h"
+#include "platform/programs/OfficeProfile.h"
+
+#include <system_error>
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsThere(const fs::path& file) {
+  std::error_code error;
+  return fs::is_regular_file(file, error) && fs::file_size(file, error) > 0;
+}
+
+/// The profile's path is one of ours, without characters that an address would have to escape, unless the
+/// folder for temporary files is an odd one.
+std::string AddressOf(const fs::path& folder) {
+  static constexpr std::string_view kHexadecimal = "0123456789ABCDEF";
+  std::string address = "file://";
+  for (const char c : folder.string()) {
+    const bool isPlain =
+        (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '-' && c <= '9') || c == '_';
+    const auto byte = static_cast<unsigned char>(c);
+    if (isPlain)
+      address += c;
+    else
+      address.append({'%', kHexadecimal[byte >> 4U], kHexadecimal[byte & 15U]});
+  }
+  return address;
+}
+
+}  // namespace
+
+OfficePrograms OfficePrograms::Find() {
+  return {FindProgram("soffice"), FindProgram("pdftoppm"), std::chrono::milliseconds(60'000)};
+}
+
+OfficeConverter::OfficeConverter(OfficePrograms programs, std::function<bool()> isCancelled)
+    : programs_(std::move(programs)), isCancelled_(std::move(isCancelled)) {}
+
+WordResult OfficeConverter::Convert(const OfficeJob& job) const {
+  const PrivateFolder profile;
+  WriteOfficeProfile(profile.Path());
+  const fs::path result = fs::path(job.input).replace_extension(job.format);
+  const std::string format = job.format + (job.exportFilter.empty() ? "" : ":" + job.exportFilter);
+  for (const std::string& filter : job.filters) {
+    const WordResult run = Run(programs_.office,
+                               {"-env:UserInstallation=" + AddressOf(profile.Path()), "--headless",
+                                "--norestore", "--infilter=" + filter, "--convert-to", format, "--outdir",
+                                job.input.parent_path().string(), job.input.string()},
+                               profile.Path());
+    // The exit code says success even where nothing could be read; only the file tells.
+    if (IsThere(result)) return WordResult::Done;
+    if (run != WordResult::Done && run != WordResult::Damaged) return run;
+  }
+  return WordResult::Damaged;
+}
+
+WordResult OfficeConverter::DrawPages(const fs::path& pdf, int dotsPerInch) const {
+  return Run(programs_.pdfImages,
+             {"-png", "-r", std::to_string(dotsPerInch), pdf.string(), (pdf.parent_path() / "page").string()},
+             pdf.parent_path());
+}
+
+WordResult OfficeConverter::Run(const fs::path& program, std::vector<std::string> arguments,
+                                const fs::path& temporaryFolder) const {
+  if (program.empty()) return WordResult::WordProcessorMissing;
+  switch (RunChildProgram({program, std::move(arguments), temporaryFolder, programs_.limit, isCancelled_})) {
+    case ChildEnd::Succeeded:
+      return WordResult::Done;
+    case ChildEnd::NotStarted:
+      return WordResult::WordProcessorMissing;
+    case ChildEnd::TimedOut:
+      return WordResult::TimedOut;
+    case ChildEnd::Cancelled:
+      return WordResult::Cancelled;
+    case ChildEnd::Failed:
+      break;
+  }
+  return WordResult::Damaged;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "platform/programs/OfficeProfile.h"
+
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace quorvantis {
+namespace {
+
+struct Setting {
+  std::string_view group;
+  std::string_view name;
+  std::string_view value;
+};
+
+constexpr std::string_view kScripting = "/org.openoffice.Office.Common/Security/Scripting";
+constexpr std::string_view kInternet = "/org.openoffice.Inet/Settings";
+
+/// The proxy is one that nobody answers.
+constexpr Setting kSettings[] = {
+    {kScripting, "BlockUntrustedRefererLinks", "true"},
+    {kScripting, "DisableMacrosExecution", "true"},
+    {kScripting, "MacroSecurityLevel", "3"},
+    {kInternet, "ooInetProxyType", "2"},
+    {kInternet, "ooInetHTTPProxyName", "127.0.0.1"},
+    {kInternet, "ooInetHTTPProxyPort", "9"},
+    {kInternet, "ooInetHTTPSProxyName", "127.0.0.1"},
+    {kInternet, "ooInetHTTPSProxyPort", "9"},
+    {kInternet, "ooInetFTPProxyName", "127.0.0.1"},
+    {kInternet, "ooInetFTPProxyPort", "9"},
+    {kInternet, "ooInetNoProxy", ""},
+};
+
+}  // namespace
+
+void WriteOfficeProfile(const std::filesystem::path& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(folder / "user", error);
+  std::ofstream out(folder / "user" / "registrymodifications.xcu");
+  out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+         "<oor:items xmlns:oor=\"http://openoffice.org/2001/registry\""
+         " xmlns:xs=\"http://www.w3.org/2001/XMLSchema\""
+         " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">\n";
+  for (const Setting& setting : kSettings) {
+    out << "<item oor:path=\"" << setting.group << "\"><prop oor:name=\"" << setting.name
+        << "\" oor:op=\"fuse\"><value>" << setting.value << "</value></prop></item>\n";
+  }
+  out << "</oor:items>\n";
+}
+
+}  // namespace quorvantis

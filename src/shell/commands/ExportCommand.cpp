@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "shell/commands/ExportCommand.h"
+
+#include "platform/ExamServices.h"
+#include "platform/Progress.h"
+#include "platform/StringTable.h"
+#include "platform/Texts.h"
+#include "platform/UserDialogs.h"
+#include "shell/commands/ExportParagraphs.h"
+#include "text/MessageText.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
+
+#include <chrono>
+#include <thread>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::chrono::milliseconds kForOfficeToEnd{100};
+
+}  // namespace
+
+/// Office programs that were asked to end get a moment for it.
+void ExportCommand::ExportWordDocument(const std::filesystem::path& target) {
+  if (office_ != nullptr) {
+    office_->processes.AskCloseOffice();
+    std::this_thread::sleep_for(kForOfficeToEnd);
+  }
+  const ExamServices& services = exam_.Services();
+  if (const auto failure = Write(target, WordFormat::Doc))
+    services.dialogs.ShowError(*failure);
+  else
+    services.dialogs.ShowDone(services.strings.Text(text_id::kExported));
+}
+
+std::optional<std::u16string> ExportCommand::Write(const std::filesystem::path& target, WordFormat format) {
+  exam_.CountQuestions();
+  const ExamServices& services = exam_.Services();
+  const auto isCancelled = [&services] {
+    services.progress.Wait();
+    return services.progress.IsCancelled();
+  };
+  const WordWriteOutcome outcome =
+      writer_.Write({ExportParagraphs(exam_, services.strings), target, format, isCancelled});
+  if (outcome.result == WordWriteResult::Done) return std::nullopt;
+  return FailureText(outcome, target);
+}
+
+std::u16string ExportCommand::FailureText(const WordWriteOutcome& outcome,
+                                          const std::filesystem::path& target) const {
+  const StringTable& strings = exam_.Services().strings;
+  const auto textOf = [&](int id) { return FillMessage(strings.Text(id), {PathToText(target)}); };
+  switch (outcome.result) {
+    case WordWriteResult::WordProcessorMissing:
+      return strings.Text(text_id::kNoWordProcessor);
+    case WordWriteResult::TimedOut:
+      return textOf(text_id::kExportTimedOut);
+    case WordWriteResult::Cancelled:
+      return textOf(text_id::kExportCancelled);
+    case WordWriteResult::CannotWrite:
+      return FillMessage(strings.Text(text_id::kCannotWrite),
+                         {PathToText(outcome.place), Utf8ToUtf16(outcome.error.message())});
+    default:
+      return textOf(text_id::kCannotExport);
+  }
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/FrameSetExam.h"
+#include "platform/WordWriter.h"
+#include "shell/office/OfficeControl.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace quorvantis {
+
+/// Writes the exam as a word processor's document. The exam itself stays as it is, but for its count of
+/// questions.
+class ExportCommand {
+ public:
+  /// All must outlive the command; `office` may be null.
+  ExportCommand(FrameSetExam& exam, WordWriter& writer, OfficeControl* office)
+      : exam_(exam), writer_(writer), office_(office) {}
+
+  /// What Save As does with the name of a document. Tells the user how it went.
+  void ExportWordDocument(const std::filesystem::path& target);
+
+  /// Asks and tells nothing. Nothing when the document is there; else why it is not, one line for the user.
+  std::optional<std::u16string> Write(const std::filesystem::path& target, WordFormat format);
+
+ private:
+  std::u16string FailureText(const WordWriteOutcome& outcome, const std::filesystem::path& target) const;
+
+  FrameSetExam& exam_;
+  WordWriter& writer_;
+  OfficeControl* office_;
+};
+
+}  // namespace quorvantis

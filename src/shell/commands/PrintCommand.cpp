@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "shell/commands/PrintCommand.h"
+
+#include "platform/ExamServices.h"
+#include "platform/PageStore.h"
+
+namespace quorvantis {
+namespace {
+
+/// Deliberately in the application folder itself, not in that of a student: addresses of attached files on
+/// the page are relative to it.
+std::filesystem::path PrintPage(const FrameSetExam& exam) {
+  return exam.Services().applicationFolder / "exam_Print.htm";
+}
+
+}  // namespace
+
+void PrintCommand::Run() {
+  questions_.StoreCurrentQuestion();
+  exam_.CountQuestions();
+  exam_.Services().pages.Clear();
+  exam_.WritePrintPage(PrintPage(exam_));
+  show_(PrintPage(exam_));
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/WindowTest.h"
+
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace quorvantis::test {
+namespace {
+
+using namespace std::string_literals;
+
+class FieldEditing : public WindowTest {
+ protected:
+  void Undo(const char* name) { Press(name, Qt::Key_Z, Qt::ControlModifier); }
+  void Paste(const char* name) { Press(name, Qt::Key_V, Qt::ControlModifier); }
+
+  /// Question 1 once the user has walked away.
+  const ExamQuestion& Stored() {
+    Click("next");
+    return exam.Question(1);
+  }
+};
+
+/// A field of one line and one of several lines, which both hold 256 units.
+class LimitedField : public FieldEditing, public testing::WithParamInterface<const char*> {
+ protected:
+  void OpenWith(int size) {
+    exam.title = exam.Question(1).options[0] = std::u16string(size, u'x');
+    Open();
+  }
+  QString Shown() {
+    auto* line = dynamic_cast<OneLineField*>(&Control(name));
+    return line != nullptr ? line->text() : Lines(name).document()->toRawText();
+  }
+
+  const char* const name = GetParam();
+  const QString loaded = QString(250, 'x');
+};
+
+INSTANTIATE_TEST_SUITE_P(Fields, LimitedField, testing::Values("title", "optionA"));
+
+TEST_P(LimitedField, RefusesAnOverlongPasteAsAWhole) {
+  OpenWith(250);
+  Press(name, Qt::Key_Right, Qt::ShiftModifier);
+  Press(name, Qt::Key_Right, Qt::ShiftModifier);
+  QApplication::clipboard()->setText(QString(9, 'y'));
+  Paste(name);
+  EXPECT_EQ(Shown(), loaded);
+  Turn();
+  EXPECT_TRUE(ShowsChange());
+  QApplication::clipboard()->setText(QString(8, 'y'));
+  Paste(name);
+  EXPECT_EQ(Shown(), QString(8, 'y') + QString(248, 'x'));
+  Undo(name);
+  EXPECT_EQ(Shown(), loaded);
+}
+
+TEST_P(LimitedField, UndoesWhatWasTypedBeforeARefusedKey) {
+  OpenWith(250);
+  Press(name, Qt::Key_End);
+  Type(name, "abcdefgh");
+  Undo(name);
+  EXPECT_EQ(Shown(), loaded);
+}
+
+TEST_P(LimitedField, HoldsInputMethodsToTheLimitToo) {
+  OpenWith(250);
+  for (const QString& text : {QStringLiteral("1234567"), QStringLiteral("水😀")}) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(&Control(name), &event);
+  }
+  EXPECT_EQ(Shown(), "水😀" + loaded);
+}
+
+TEST_P(LimitedField, TakesBackWhatIsBeingComposedWhenItWouldBeTooLong) {
+  OpenWith(250);
+  QInputMethodEvent composing("1234567", {});
+  QCoreApplication::sendEvent(&Control(name), &composing);
+  EXPECT_EQ(Shown(), loaded);
+  QInputMethodEvent done;
+  done.setCommitString("1234567");
+  QCoreApplication::sendEvent(&Control(name), &done);
+  Type(name, "abc");
+  EXPECT_EQ(Shown(), "abc" + loaded);
+}
+
+TEST_P(LimitedField, TellsThatItRefuses) {
+  OpenWith(256);
+  Type(name, "y");
+  EXPECT_EQ(QToolTip::text(), "[1011 256]");
+  QToolTip::hideText();
+}
+
+TEST_P(LimitedField, RedoesWithEitherKey) {
+  OpenWith(1);
+  Type(name, "y");
+  for (const auto& [key, modifiers] : {std::pair{Qt::Key_Y, Qt::KeyboardModifiers(Qt::ControlModifier)},
+                                       std::pair{Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier}}) {
+    Undo(name);
+    EXPECT_EQ(Shown(), "x");
+    Press(name, key, modifiers);
+    EXPECT_EQ(Shown(), "yx");
+  }
+}
+
+TEST_P(LimitedField, LeavesARefusedDropWhereItCameFrom) {
+  OpenWith(250);
+  QMimeData text;
+  text.setText("1234567");
+  auto* area = dynamic_cast<QAbstractScrollArea*>(&Control(name));
+  QWidget* target = area != nullptr ? area->viewport() : &Control(name);
+  QDragEnterEvent enter({5, 5}, Qt::MoveAction, &text, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(target, &enter);
+  QDropEvent drop(QPointF(5, 5), Qt::MoveAction, &text, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(target, &drop);
+  EXPECT_FALSE(drop.isAccepted());
+  EXPECT_EQ(drop.dropAction(), Qt::IgnoreAction);
+  EXPECT_EQ(Shown(), loaded);
+}
+
+TEST_P(LimitedField, DoesNotUndoALoadedTextBeyondTheLimitBackIn) {
+  OpenWith(300);
+  Press(name, Qt::Key_A, Qt::ControlModifier);
+  Type(name, "short");
+  Undo(name);
+  Turn();
+  EXPECT_EQ(Shown(), "short");
+}
+
+TEST_F(FieldEditing, TypingMarksTheExamOnlyAfterTheEvent) {
+  Open();
+  Type("title", "T");
+  EXPECT_FALSE(ShowsChange());
+  Turn();
+  EXPECT_TRUE(ShowsChange());
+}
+
+TEST_F(FieldEditing, ALineEndCountsTwo) {
+  exam.Question(1).options[0] = std::u16string(254, u'x');
+  Open();
+  Press("optionA", Qt::Key_Return, Qt::ShiftModifier);
+  Press("optionA", Qt::Key_Return);
+  EXPECT_EQ(Stored().options[0], u"\r\n" + std::u16string(254, u'x'));
+}
+
+TEST_F(FieldEditing, UntouchedTextsComeBackUnitByUnit) {
+  const std::u16string odd = u"\uFEFF a\rb\nc\r\nd\u00A0e\0f\xD800 g\xDC00\uFDD0\uFFFC\u2028\u2029"s;
+  ExamQuestion& question = exam.Question(1);
+  exam.title = question.text = question.options[0] = question.answerText = question.essayAnswer = odd;
+  Open();
+  Press("questionText", Qt::Key_End, Qt::ControlModifier);
+  Type("questionText", "X");
+  Press("title", Qt::Key_Home);
+  Type("title", "X");
+  EXPECT_EQ(Stored().text, odd + u"X");
+  EXPECT_EQ(exam.title, u"X" + odd);
+  for (const auto& text : {question.options[0], question.answerText, question.essayAnswer}) {
+    EXPECT_EQ(text, odd);
+  }
+}
+
+TEST_F(FieldEditing, UndoingEverythingGivesTheLoadedTextBack) {
+  exam.Question(1).text = u"\rlone";
+  Open();
+  Press("questionText", Qt::Key_Delete);
+  Undo("questionText");
+  EXPECT_EQ(Stored().text, u"\rlone");
+}
+
+TEST_F(FieldEditing, WalkingForgetsWhatCouldBeUndone) {
+  Open();
+  for (const char* name : {"title", "questionText"}) Type(name, "first");
+  Click("next");
+  for (const char* name : {"title", "questionText"}) Undo(name);
+  EXPECT_EQ(Line("title").text(), "first");
+  EXPECT_EQ(Lines("questionText").toPlainText(), "");
+}
+
+TEST_F(FieldEditing, PasteTakesPlainTextAndCopyKeepsNoBreakSpaces) {
+  exam.Question(1).options[0] = u"a\u00A0b";
+  Open();
+  Press("optionA", Qt::Key_A, Qt::ControlModifier);
+  Press("optionA", Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), ToQString(u"a\u00A0b"));
+
+  auto* rich = new QMimeData;
+  rich->setHtml("<b>bold</b>");
+  rich->setText("one\r\ntwo");
+  QApplication::clipboard()->setMimeData(rich);
+  for (const char* name : {"optionA", "title"}) Paste(name);
+  EXPECT_EQ(Stored().options[0], u"one\r\ntwo");
+  EXPECT_EQ(exam.title.find_first_of(u"\r\n<"), std::u16string::npos);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

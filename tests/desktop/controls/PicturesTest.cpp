@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/controls/Pictures.h"
+#include "desktop/controls/SmallButton.h"
+
+#include <QBuffer>
+#include <QPixmap>
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace quorvantis::test {
+namespace {
+
+/// A library with pictures of one colour.
+class Library : public LanguageLibrary {
+ public:
+  void Add(const std::string& name, int scale, Qt::GlobalColor colour) {
+    QPixmap picture(73 * scale, 28 * scale);
+    picture.fill(colour);
+    QBuffer buffer(&pictures_[{name, scale}]);
+    picture.save(&buffer, "PNG");
+  }
+  std::u16string Text(int) const override { return {}; }
+  std::optional<std::uint16_t> Id() const override { return 0; }
+  std::u16string DialogText(int, int) const override { return {}; }
+  std::span<const std::byte> Bitmap(std::string_view name, int scale) const override {
+    const auto found = pictures_.find({std::string(name), scale});
+    if (found == pictures_.end()) return {};
+    return std::as_bytes(
+        std::span(found->second.constData(), static_cast<std::size_t>(found->second.size())));
+  }
+
+ private:
+  std::map<std::pair<std::string, int>, QByteArray> pictures_;
+};
+
+QColor Middle(const QIcon& icon, qreal scale = 1) {
+  const QImage image = icon.pixmap({73, 28}, scale).toImage();
+  return image.pixelColor(image.rect().center());
+}
+
+TEST(Pictures, AreAllBuiltInInTwoSizes) {
+  const Pictures pictures;
+  for (const char* name :
+       {"206", "212", "226", "227", "NextQuestion10U", "insertf", "attachqx", "ListSeparatroX"}) {
+    EXPECT_EQ(pictures.Picture(name).availableSizes().size(), 2) << name;
+  }
+  EXPECT_EQ(pictures.Picture("attachqu").pixmap({73, 28}, 2).size(), QSize(146, 56));
+  EXPECT_TRUE(pictures.Picture("ListSeparatrof").isNull());
+}
+
+TEST(Pictures, OfALanguageComeFirst) {
+  Library library;
+  library.Add("DeleteU", 1, Qt::red);
+  library.Add("DeleteU", 2, Qt::blue);
+  library.Add("insertU", 2, Qt::blue);
+  const Pictures pictures(&library);
+  EXPECT_EQ(Middle(pictures.Picture("DeleteU")), QColor(Qt::red));
+  EXPECT_EQ(Middle(pictures.Picture("DeleteU"), 2), QColor(Qt::blue));
+  EXPECT_EQ(Middle(pictures.Picture("insertU")), QColor(Qt::blue)) << "scaled down, not mixed with others";
+  EXPECT_FALSE(pictures.Picture("207").isNull());
+}
+
+TEST(SmallButton, ShowsThePictureOfItsState) {
+  Library library;
+  const std::pair<const char*, Qt::GlobalColor> pictures[] = {
+      {"up", Qt::red}, {"down", Qt::green}, {"off", Qt::blue}, {"other", Qt::yellow}};
+  for (const auto& [name, colour] : pictures) library.Add(name, 1, colour);
+  SmallButton button(Pictures(&library), {"up", "down", nullptr, "off"}, {"other", "other", nullptr, "other"},
+                     nullptr);
+  button.resize(30, 20);
+  const auto shown = [&button] { return button.grab().toImage().pixelColor(15, 10); };
+  EXPECT_EQ(shown(), QColor(Qt::red));
+  button.setDown(true);
+  EXPECT_EQ(shown(), QColor(Qt::green));
+  button.setEnabled(false);
+  EXPECT_EQ(shown(), QColor(Qt::blue));
+  button.setLayoutDirection(Qt::RightToLeft);
+  EXPECT_EQ(shown(), QColor(Qt::yellow));
+}
+
+}  // namespace
+}  // namespace quorvantis::test

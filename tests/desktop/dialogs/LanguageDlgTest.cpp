@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/dialogs/AboutDlg.h"
+#include "desktop/dialogs/LanguageDlg.h"
+#include "desktop/start/QtLanguage.h"
+#include "platform/posix/PosixFiles.h"
+#include "support/RecordingWorld.h"
+#include "support/TemporaryFolder.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace quorvantis::test {
+namespace {
+
+class LanguageDialog : public testing::Test {
+ protected:
+  void SetUp() override {
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  }
+  std::string Saved() { return ReadBytes(folder / "system.ini"); }
+
+  TemporaryFolder folder;
+  PosixFiles files;
+  TestCodePage codePage;
+  NumberStrings strings;
+  LanguageList list{{u"One", u"Two", u""}, {1, 2, 3}, {"one.dll", "two.dll", "three.dll"}};
+  LanguageSetting setting{folder.Path(), files, codePage};
+  int languageId = 0;
+  LanguageChoice choice{list, setting, languageId};
+  LanguageDlg dialog{choice, strings};
+  QComboBox& languages = *dialog.findChild<QComboBox*>("languages");
+};
+
+TEST_F(LanguageDialog, ShowsTheTextsOfTheLanguageInUse) {
+  EXPECT_EQ(dialog.windowTitle(), "[111 %s]");
+  EXPECT_EQ(dialog.findChild<QPushButton*>("ok")->text(), "[113 %s]");
+  EXPECT_EQ(dialog.findChild<QLabel*>("version")->text(), "6.4.5 2\nTarnwick_DB823");
+  const auto* cancel = dialog.findChild<QPushButton*>("cancel");
+  EXPECT_EQ(cancel->text(), "[156 %s]");
+  EXPECT_FALSE(cancel->isVisible() || cancel->isEnabled());
+  EXPECT_EQ(languages.currentIndex(), -1) << "no language of identifier 0";
+  EXPECT_EQ(languages.itemText(2), "three.dll");
+}
+
+TEST_F(LanguageDialog, TakesASelectionAtOnceAndIgnoresEscape) {
+  QTest::keyClick(&languages, Qt::Key_Down);
+  EXPECT_NE(Saved().find("Language=1"), std::string::npos);
+  QTest::keyClick(&languages, Qt::Key_End);
+  EXPECT_NE(Saved().find("Language=3"), std::string::npos);
+  EXPECT_EQ(languageId, 3);
+  QTest::keyClick(&languages, Qt::Key_Escape);
+  EXPECT_TRUE(dialog.isVisible());
+  dialog.close();
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.result(), QDialog::Rejected);
+  languageId = 2;
+  LanguageDlg again(choice, strings);
+  EXPECT_EQ(again.findChild<QComboBox*>("languages")->currentText(), "Two");
+  again.show();
+  QTest::keyClick(&again, Qt::Key_Return);
+  EXPECT_EQ(again.result(), QDialog::Accepted);
+}
+
+TEST(AboutDialog, HasItsOwnTextsWithoutALibrary) {
+  AboutDlg dialog(nullptr);
+  EXPECT_EQ(dialog.findChild<QLabel*>("line")->text(), "Quorvantis Verson 6.2");
+  EXPECT_EQ(dialog.findChild<QPushButton*>("ok")->text(), "OK");
+}
+
+TEST(QtLanguage, TurnsTheWindowsRound) {
+  QtLanguage language;
+  language.Use(0x0401);
+  EXPECT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
+  const QString yes = QCoreApplication::translate("QPlatformTheme", "&Yes");
+  EXPECT_EQ(yes.contains('&'), yes == "&Yes") << "translated, it marks no key";
+  language.Use(0x0804);
+  EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/controls/QtText.h"
+#include "desktop/dialogs/QtProgress.h"
+#include "desktop/dialogs/QtUserDialogs.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <queue>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace quorvantis::test {
+namespace {
+
+/// A user who answers the dialogs that come up, one after the other.
+class UserDialogsTest : public testing::Test {
+ protected:
+  UserDialogsTest() {
+    QObject::connect(&watch_, &QTimer::timeout, [this] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      if (dialog == nullptr || answers_.empty()) return;
+      const auto answer = answers_.front();
+      answers_.pop();
+      answer(*dialog);
+    });
+    watch_.start(20);
+  }
+  ~UserDialogsTest() override { EXPECT_TRUE(answers_.empty()); }
+
+  void Answer(QMessageBox::StandardButton button) {
+    answers_.push([button](QWidget& dialog) {
+      QTest::mouseClick(dynamic_cast<QMessageBox&>(dialog).button(button), Qt::LeftButton);
+    });
+  }
+  void EnterName(const QString& name, const QString& filter = {}) {
+    answers_.push([name, filter](QWidget& dialog) {
+      auto& files = dynamic_cast<QFileDialog&>(dialog);
+      if (!filter.isEmpty()) files.selectNameFilter(filter);
+      auto* line = files.findChild<QLineEdit*>("fileNameEdit");
+      line->setText(name);
+      QTest::keyClick(line, Qt::Key_Return);
+    });
+  }
+  void CloseWithIcon(QMessageBox::Icon icon) {
+    answers_.push([icon](QWidget& dialog) { EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), icon); });
+    Press(Qt::Key_Escape);
+  }
+  void LookAt(std::function<void(QFileDialog&)> look) {
+    answers_.push([look](QWidget& dialog) { look(dynamic_cast<QFileDialog&>(dialog)); });
+  }
+  void Press(Qt::Key key) {
+    answers_.push([key](QWidget& dialog) { QTest::keyClick(&dialog, key); });
+  }
+  QString Path(const char* name) { return PathToQString(folder / name); }
+
+  TemporaryFolder folder;
+  QtUserDialogs dialogs;
+  const FileDialogRequest save{u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|", u"exm", u"MyExam"};
+
+ private:
+  QTimer watch_;
+  std::queue<std::function<void(QWidget&)>> answers_;
+};
+
+TEST_F(UserDialogsTest, SaveQuestionHasThreeAnswers) {
+  for (const auto& [button, expected] :
+       {std::pair{QMessageBox::Yes, SaveAnswer::Yes}, std::pair{QMessageBox::No, SaveAnswer::No},
+        std::pair{QMessageBox::Cancel, SaveAnswer::Cancel}}) {
+    Answer(button);
+    EXPECT_EQ(dialogs.AskSave(u"Save <b>?</b>"), expected);
+  }
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(dialogs.AskSave(u"Save?"), SaveAnswer::Cancel);
+}
+
+TEST_F(UserDialogsTest, SavingAddsTheExtensionOfTheChosenKind) {
+  EnterName(Path("two"), "Word files (*.doc) (*.doc)");
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), folder / "two.doc");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), std::nullopt);
+}
+
+TEST_F(UserDialogsTest, OverwritingIsConfirmedUnderTheFinalName) {
+  const auto old = WriteBytes(folder / "old.exm", "exam");
+  for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
+    EnterName(Path("old"));
+    Answer(button);
+  }
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), old);
+  EnterName(Path("old.exm"));
+  EXPECT_EQ(dialogs.ChooseFileToOpen({u"Exam files, (*.exm)|*.exm|", {}, {}}), old);
+}
+
+TEST_F(UserDialogsTest, OpeningBeginsWithTheKindAndInTheFolderOfLastTime) {
+  const FileDialogRequest attach{u"Text files(*.txt)|*.txt|All files|*|", {}, {}};
+  const FileDialogRequest open{u"Exam files, (*.exm)|*.exm|", {}, {}};
+  std::vector<std::filesystem::path> kept;
+  dialogs.KeepFolders([&](const auto& start) { kept.push_back(start); });
+  const auto exams = folder / "exams", pictures = folder / "pictures";
+  WriteBytes(exams / "a.exm", "exam");
+  WriteBytes(pictures / "a.pdf", "picture");
+  const auto check = [&](const FileDialogRequest& request, const std::filesystem::path& where,
+                         const QString& kind, const QString& choose) {
+    LookAt([=](QFileDialog& files) {
+      EXPECT_EQ(QStringToPath(files.directory().absolutePath()), where);
+      EXPECT_EQ(files.selectedNameFilter(), kind);
+    });
+    choose.isEmpty() ? Press(Qt::Key_Escape) : EnterName(choose, "All files (*)");
+    EXPECT_EQ(dialogs.ChooseFileToOpen(request).has_value(), !choose.isEmpty());
+  };
+  dialogs.BeginIn(exams);
+  check(open, exams, "Exam files, (*.exm)", {});
+  check(attach, exams, "Text files(*.txt)", PathToQString(pictures / "a.pdf"));
+  check(attach, pictures, "All files", {});
+  check(open, exams, "Exam files, (*.exm)", {});
+  dialogs.BeginIn(folder.Path());
+  check(attach, folder.Path(), "All files", {});
+  dialogs.BeginIn(folder / "gone");
+  check(attach, QStringToPath(QDir::homePath()), "All files", {});
+  EXPECT_EQ(kept, (std::vector{exams, folder.Path(), folder / "gone"}));
+}
+
+TEST_F(UserDialogsTest, NothingIsLostByEnterOrEscape) {
+  const LossQuestion question{u"Saving loses something:", {u"a", u"b"}, u"Store", u"Save anyway", u"Go back"};
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+    Press(key);
+    EXPECT_EQ(dialogs.AskAboutLosses(question), LossAnswer::GoBack);
+  }
+}
+
+TEST_F(UserDialogsTest, WhatWasDoneIsToldWithTheIconOfAnError) {
+  CloseWithIcon(QMessageBox::Critical);
+  dialogs.ShowDone(u"done");
+}
+
+TEST_F(UserDialogsTest, ProgressShowsAfterHalfASecondAndEndsWithTheWork) {
+  QtProgress progress;
+  progress.Report(1, 10);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  QTest::qSleep(600);
+  progress.Report(5, 10);
+  EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+  QTest::qWait(50);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+}  // namespace
+}  // namespace quorvantis::test

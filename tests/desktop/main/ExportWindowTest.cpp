@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/WindowTest.h"
+#include "platform/documents/OfficeWordWriter.h"
+#include "shell/commands/ExportCommand.h"
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ExportWindow : public WindowTest {
+ protected:
+  /// Saves a changed exam as a document, which leaves the exam's name and change alone.
+  void SaveAsDocument(const OfficePrograms& programs) {
+    exportDocument = [this, programs](FrameSetExam& document, const fs::path& file) {
+      OfficeWordWriter writer(files, programs);
+      ExportCommand(document, writer, nullptr).ExportWordDocument(file);
+    };
+    Open();
+    Type("title", "Changed");
+    world.dialogs.filesToSave.push_back(target);
+    Press("title", Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window->windowTitle(), "[107 UnTitle] *");
+    Turn();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  }
+
+  const fs::path target = WriteBytes(folder / "Mine.doc", "old");
+};
+
+TEST_F(ExportWindow, SaveAsWritesADocument) {
+  const OfficePrograms programs = OfficePrograms::Find();
+  if (programs.office.empty()) GTEST_SKIP() << "LibreOffice is not installed";
+  SaveAsDocument(programs);
+  EXPECT_TRUE(ReadBytes(target).starts_with("\xD0\xCF\x11\xE0"));
+  EXPECT_EQ(world.dialogs.done.size(), 1U);
+}
+
+TEST_F(ExportWindow, WaitsUnderAModalBarUntilEscape) {
+  const fs::path program = WriteBytes(folder / "soffice", "#!/bin/sh\nsleep 100");
+  fs::permissions(program, fs::perms::owner_all);
+  QTimer timer;
+  timer.setSingleShot(true);
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    auto* const bar = window->findChild<QDialog*>("waiting");
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    QTest::keyClick(window->windowHandle(), Qt::Key_Escape);  // goes nowhere
+    QTest::keyClick(bar, Qt::Key_Escape);
+  });
+  timer.start(200);
+  SaveAsDocument({program, {}, std::chrono::minutes(1)});
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(world.dialogs.errors.size(), 1U);
+  EXPECT_EQ(ReadBytes(target), "old");
+  EXPECT_FALSE(progress.IsCancelled()) << "the next work is another one";
+}
+
+}  // namespace
+}  // namespace quorvantis::test

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/WindowTest.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QMenu>
+#include <QRadioButton>
+#include <QShortcut>
+
+namespace quorvantis::test {
+namespace {
+
+class Keyboard : public WindowTest {
+ protected:
+  void OpenWithLists(QuestionKind kind) {
+    exam.examAttachmentNames[0] = exam.Question(1).attachmentNames[0] = u"file.jpg";
+    exam.Question(1).kind = kind;
+    Open();
+  }
+  QString Number() { return Control<QLabel>("questionNumber").text(); }
+
+  void ExpectNames(QAccessibleInterface* part) {
+    if (part->state().focusable && !part->state().invisible) {
+      EXPECT_FALSE(part->text(QAccessible::Name).trimmed().isEmpty())
+          << part->object()->metaObject()->className() << " " << qPrintable(part->object()->objectName());
+      ++named;
+    }
+    for (int i = 0; i < part->childCount(); ++i) ExpectNames(part->child(i));
+  }
+
+  int named = 0;
+};
+
+TEST_F(Keyboard, ScreenReadersFindANameForEveryControl) {
+  for (const auto kind :
+       {QuestionKind::Choice, QuestionKind::FillIn, QuestionKind::Essay, QuestionKind::Oral}) {
+    OpenWithLists(kind);
+    ExpectNames(QAccessible::queryAccessibleInterface(window.get()));
+  }
+  EXPECT_GT(named, 4 * 20);
+}
+
+TEST_F(Keyboard, TabReachesEveryControlFromTopToBottom) {
+  for (const auto kind :
+       {QuestionKind::Choice, QuestionKind::FillIn, QuestionKind::Essay, QuestionKind::Oral}) {
+    OpenWithLists(kind);
+    Control("new").setFocus();
+    QWidgetList reached;
+    while (!reached.contains(QApplication::focusWidget())) {
+      reached << QApplication::focusWidget();
+      QTest::keyClick(reached.back(), Qt::Key_Tab);
+    }
+    for (auto* control : window->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      const bool otherKind = dynamic_cast<QRadioButton*>(control) != nullptr &&
+                             !static_cast<QRadioButton*>(control)->isChecked();
+      if (!control->isVisible() || control->focusPolicy() == Qt::NoFocus || otherKind) continue;
+      EXPECT_TRUE(reached.contains(control)) << qPrintable(control->objectName());
+    }
+    for (const auto& [first, second] :
+         {std::pair{"new", "title"}, {"title", "back10"}, {"back10", "questionText"}}) {
+      EXPECT_LT(reached.indexOf(&Control(first)), reached.indexOf(&Control(second)));
+    }
+  }
+}
+
+TEST_F(Keyboard, ArrowsChooseTheKind) {
+  Open();
+  Press("kindChoice", Qt::Key_Right);
+  EXPECT_TRUE(Control("answer").isVisible() && Control("kindFillIn").hasFocus());
+}
+
+TEST_F(Keyboard, EveryButtonHasKeysOfItsOwnAndTellsThem) {
+  Open();
+  QSet<QString> taken;
+  for (auto* button : window->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
+    if (button->focusPolicy() == Qt::NoFocus) continue;
+    const auto shortcuts = button->findChildren<QShortcut*>();
+    EXPECT_FALSE(shortcuts.isEmpty()) << qPrintable(button->objectName());
+    for (const QShortcut* shortcut : shortcuts) {
+      const QString key = shortcut->key().toString();
+      EXPECT_FALSE(taken.contains(key)) << qPrintable(key);
+      EXPECT_TRUE(button->toolTip().contains(key)) << qPrintable(button->toolTip());
+      taken << key;
+    }
+  }
+  EXPECT_TRUE(Control("save").toolTip().startsWith("[135 %s]"));
+  EXPECT_TRUE(Control("listSeparator").toolTip().startsWith("[140 %s]"));
+}
+
+TEST_F(Keyboard, AltKeysDoWhatTheButtonsDo) {
+  Open();
+  Press("questionText", Qt::Key_X, Qt::AltModifier);
+  EXPECT_EQ(Number(), "2");
+  Press("title", Qt::Key_E, Qt::AltModifier);
+  EXPECT_TRUE(Control("essay").isVisible());
+  Press("title", Qt::Key_Y, Qt::AltModifier);
+  EXPECT_TRUE(Control("essay").hasFocus());
+}
+
+TEST_F(Keyboard, PageKeysScrollAFieldThatHoldsMoreThanItShows) {
+  exam.Question(1).text = std::u16string(100, u'\n');
+  Open();
+  for (int i = 0; i < 40; ++i) Press("questionText", Qt::Key_PageDown);
+  EXPECT_EQ(Number(), "1");
+  EXPECT_GT(Lines("questionText").textCursor().blockNumber(), 90);
+  Press("questionText", Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(Number(), "11");
+}
+
+TEST_F(Keyboard, ThereIsNoHelpAndEnterDoesNotEndTheWindow) {
+  Open();
+  QKeyEvent help(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+  QCoreApplication::sendEvent(window.get(), &help);
+  EXPECT_TRUE(help.isAccepted());
+  Control<QAbstractButton>("ok").click();
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(Control("printAgain").size(), QSize(0, 0));
+  Control<QAbstractButton>("cancel").click();
+  EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(Keyboard, TheMenuOfTheWindowLeadsToTheAboutBox) {
+  Open();
+  QContextMenuEvent event(QContextMenuEvent::Mouse, {2, 2}, window->mapToGlobal(QPoint(2, 2)));
+  QCoreApplication::sendEvent(window.get(), &event);
+  const auto actions = Control<QMenu>("windowMenu").actions();
+  ASSERT_EQ(actions.size(), 1);
+  EXPECT_EQ(actions[0]->text(), "[101 %s]");
+}
+
+}  // namespace
+}  // namespace quorvantis::test

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// The real program, started as a user would.
+#include "desktop/controls/QtText.h"
+#include "platform/posix/FolderLock.h"
+#include "support/TemporaryFolder.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+
+namespace quorvantis::test {
+namespace {
+
+constexpr const char* kProgram = QUORVANTIS_PROGRAM;
+
+TEST(Program, TellsItsVersionWithoutADisplay) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(variable);
+  QProcess program;
+  program.setProcessEnvironment(environment);
+  program.start(kProgram, {"--version"});
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_TRUE(program.readAllStandardOutput().startsWith("quorvantis "));
+}
+
+TEST(Program, PaintsItsWindowOnAnXServer) {
+  if (QStandardPaths::findExecutable("xvfb-run").isEmpty()) GTEST_SKIP() << "needs xvfb-run";
+  const TemporaryFolder folder;
+  const QString picture = PathToQString(folder / "window.png");
+  QProcess program;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("QT_QPA_PLATFORM", "xcb");
+  environment.insert("LSAN_OPTIONS",
+                     "detect_leaks=0");  // of a sanitized build: the X and D-Bus libraries leak
+  program.setProcessEnvironment(environment);
+  program.setProcessChannelMode(QProcess::ForwardedChannels);
+  program.start("xvfb-run", {"-a", "-s", "-screen 0 1280x1024x24", kProgram, "--app-folder",
+                             PathToQString(folder / "app"), "--screenshot", picture});
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_EQ(program.exitCode(), 0);
+  const QImage image(picture);
+  EXPECT_GE(image.width(), 792);
+  EXPECT_GE(image.height(), 646);
+  QImage empty = image;
+  empty.fill(image.pixelColor(0, 0));
+  EXPECT_NE(image, empty);
+}
+
+TEST(Program, EndsWithoutALanguage) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directories(folder / "language/Quorvantis");
+  QProcess program;
+  program.start(kProgram, {"--app-folder", PathToQString(folder.Path()), "--screenshot",
+                           PathToQString(folder / "window.png")});
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_EQ(program.exitCode(), 2);
+  EXPECT_TRUE(program.readAllStandardError().contains("Cann't find any language file!"));
+}
+
+/// What ./run builds, in a folder of its own, so that nothing else that a build makes can help.
+TEST(Program, OffersImportInTheFirstWindow) {
+  const TemporaryFolder folder;
+  const std::filesystem::path application(std::filesystem::path(kProgram).parent_path());
+  std::ifstream files(QUORVANTIS_APPLICATION);
+  for (std::string file; std::getline(files, file);) {
+    const std::filesystem::path target = folder / std::filesystem::relative(file, application);
+    std::filesystem::create_directories(target.parent_path());
+    std::filesystem::copy_file(file, target);
+  }
+  const QString picture = PathToQString(folder / "window.png");
+  QProcess program;
+  program.start(PathToQString(folder / "quorvantis"),
+                {"--debug", "--language", "0x0409", "--screenshot", picture,
+                 PathToQString(folder / "samples/world-around-us.exm")});
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_EQ(program.exitCode(), 0);
+  EXPECT_FALSE(QImage(picture).isNull());
+  EXPECT_FALSE(program.readAllStandardError().contains("!file.Open")) << "Import is hidden";
+}
+
+TEST(Program, SaysWhyThereIsNoPicture) {
+  const TemporaryFolder folder;
+  for (const QString& picture : {QString("/no/such/folder/window.png"),
+                                 PathToQString(folder / "window.unknown"), QString("/dev/full")}) {
+    QProcess program;
+    program.start(kProgram, {"--app-folder", PathToQString(folder / "app"), "--language", "0x0409",
+                             "--screenshot", picture});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 1) << picture.toStdString();
+    EXPECT_TRUE(program.readAllStandardError().contains(picture.toUtf8())) << picture.toStdString();
+  }
+}
+
+/// As that of a program which was killed a moment ago.
+TEST(Program, WaitsForAFolderThatIsLetGo) {
+  const TemporaryFolder folder;
+  std::optional<FolderLock> other = FolderLock::Take(folder.Path());
+  const QString picture = PathToQString(folder / "window.png");
+  QProcess program;
+  program.start(kProgram, {"--app-folder", PathToQString(folder.Path()), "--language", "0x0409",
+                           "--screenshot", picture});
+  EXPECT_FALSE(program.waitForFinished(1000)) << "refused at once";
+  other.reset();
+  ASSERT_TRUE(program.waitForFinished());
+  EXPECT_EQ(program.exitCode(), 0);
+  EXPECT_FALSE(QImage(picture).isNull());
+}
+
+}  // namespace
+}  // namespace quorvantis::test
