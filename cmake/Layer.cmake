@@ -1,6 +1,6 @@
 # A layer is one folder of src/: a static library that sees the headers of the layers it names, and no others.
 #
-#   quorvantis_layer(<folder> [DEPENDS <folder>...] [LINK <library>...] [PRECOMPILE <set>...])
+#   quorvantis_layer(<folder> [DEPENDS <folder>...] [LINK <library>...])
 #
 # Code includes a header as "folder/Header.h". Each layer gets an include root of its own that holds nothing but
 # links to its own headers, so an include against the direction of the architecture does not compile.
@@ -20,7 +20,7 @@ function(quorvantis_include_root folder out)
 endfunction()
 
 function(quorvantis_layer folder)
-  cmake_parse_arguments(LAYER "" "" "DEPENDS;LINK;PRECOMPILE" ${ARGN})
+  cmake_parse_arguments(LAYER "" "" "DEPENDS;LINK" ${ARGN})
   string(REPLACE "/" "_" target "${folder}")
   quorvantis_include_root("${folder}" root)
   file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp")
@@ -29,7 +29,6 @@ function(quorvantis_layer folder)
   if(sources)
     add_library(${target} STATIC ${sources})
     target_link_libraries(${target} PRIVATE quorvantis_warnings)
-    quorvantis_precompile(${target} KIND layer SETS Standard ${LAYER_PRECOMPILE})
   else()
     set(scope INTERFACE)
     add_library(${target} INTERFACE)

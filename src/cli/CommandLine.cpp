@@ -21,7 +21,7 @@ constexpr int kCommandFailed = 1;
 constexpr int kWrongUsage = 2;
 
 /// What the options of all commands are bound to.
-struct Arguments {
+struct ParsedArguments {
   CommonOptions common;
   std::filesystem::path input;
   std::filesystem::path output;
@@ -53,7 +53,7 @@ void AddCommonOptions(CLI::App& app, CommonOptions& options) {
   app.add_flag("--debug", options.debug, "Show debug lines on standard error");
 }
 
-CLI::App* AddCommand(CLI::App& app, Arguments& arguments, const char* name, const char* description) {
+CLI::App* AddCommand(CLI::App& app, ParsedArguments& arguments, const char* name, const char* description) {
   CLI::App* command = app.add_subcommand(name, description);
   AddCommonOptions(*command, arguments.common);
   return command;
@@ -71,14 +71,14 @@ CLI::Option* AddText(CLI::App& command, const char* name, std::optional<std::str
   return command.add_option_function<std::string>(name, take, description)->type_name(type);
 }
 
-void AddShow(CLI::App& app, Arguments& arguments, Console& console) {
+void AddShow(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* show = AddCommand(app, arguments, "show", "List what is in an exam file");
   AddPath(*show, "EXAM", arguments.input, "Exam file (.exm)");
   show->add_flag("--json", arguments.json, "Print one JSON object");
   show->callback([&] { Show(console, arguments.common, arguments.input, arguments.json); });
 }
 
-void AddBuild(CLI::App& app, Arguments& arguments, Console& console) {
+void AddBuild(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* build = AddCommand(app, arguments, "build", "Make an exam file from a JSON description");
   AddPath(*build, "JSON", arguments.input, "Description, like the object that \"show --json\" prints");
   AddPath(*build, "OUT", arguments.output, "Exam file to write");
@@ -87,7 +87,7 @@ void AddBuild(CLI::App& app, Arguments& arguments, Console& console) {
   build->callback([&] { Build(console, arguments.common, arguments.input, arguments.output); });
 }
 
-void AddUnpack(CLI::App& app, Arguments& arguments, Console& console) {
+void AddUnpack(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* unpack = AddCommand(app, arguments, "unpack", "Copy the attached files of an exam into a folder");
   AddPath(*unpack, "EXAM", arguments.input, "Exam file (.exm)");
   AddPath(*unpack, "DIR", arguments.output, "Target folder; made if missing");
@@ -95,7 +95,7 @@ void AddUnpack(CLI::App& app, Arguments& arguments, Console& console) {
   unpack->callback([&] { Unpack(console, arguments.common, arguments.input, arguments.output); });
 }
 
-void AddPreview(CLI::App& app, Arguments& arguments, Console& console) {
+void AddPreview(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* preview = AddCommand(app, arguments, "preview", "Write the pages of an exam's preview");
   AddPath(*preview, "EXAM", arguments.input, "Exam file (.exm)");
   AddPath(*preview, "DIR", arguments.output, "Application folder for the pages; made if missing");
@@ -114,7 +114,7 @@ void AddPreview(CLI::App& app, Arguments& arguments, Console& console) {
   });
 }
 
-void AddPrint(CLI::App& app, Arguments& arguments, Console& console) {
+void AddPrint(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* print = AddCommand(app, arguments, "print", "Write the page of an exam that is printed");
   AddPath(*print, "EXAM", arguments.input, "Exam file (.exm)");
   AddPath(*print, "DIR", arguments.output, "Application folder for DIR/exam_Print.htm; made if missing");
@@ -138,7 +138,7 @@ void AddScoreStep(CLI::App& score, std::vector<ScoreStep>& steps, const char* na
   score.add_option_function<std::string>(name, take, description)->trigger_on_parse()->type_name(type);
 }
 
-void AddScore(CLI::App& app, Arguments& arguments, Console& console) {
+void AddScore(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* score = AddCommand(app, arguments, "score", "Change the score distribution of an exam");
   AddPath(*score, "EXAM", arguments.input, "Exam file (.exm)");
   AddPath(*score, "OUT", arguments.output, "Exam file to write");
@@ -155,7 +155,7 @@ void AddScore(CLI::App& app, Arguments& arguments, Console& console) {
       [&] { Score(console, arguments.common, arguments.input, arguments.output, arguments.scoreSteps); });
 }
 
-void AddExport(CLI::App& app, Arguments& arguments, Console& console) {
+void AddExport(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* command = AddCommand(app, arguments, "export", "Write an exam as a word-processor document");
   AddPath(*command, "EXAM", arguments.input, "Exam file (.exm)");
   AddPath(*command, "OUT", arguments.output, "Document to write: .doc, .docx or .pdf");
@@ -165,7 +165,7 @@ void AddExport(CLI::App& app, Arguments& arguments, Console& console) {
   command->callback([&] { Export(console, arguments.common, arguments.input, arguments.output); });
 }
 
-void AddEdit(CLI::App& app, Arguments& arguments, Console& console) {
+void AddEdit(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* edit = AddCommand(app, arguments, "edit", "Edit an exam by a script");
   edit->add_option("SCRIPT", arguments.input, "Script file; standard input without it")->type_name("");
   edit->add_flag("--recovery", arguments.keepsRecovery,
@@ -179,7 +179,7 @@ void AddEdit(CLI::App& app, Arguments& arguments, Console& console) {
   });
 }
 
-void AddRecover(CLI::App& app, Arguments& arguments, Console& console) {
+void AddRecover(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* recover = AddCommand(app, arguments, "recover", "List or save exams that an editor did not save");
   CLI::Option* copy =
       recover->add_option("COPY", arguments.recoveryCopy, "Copy to save, as listed")->type_name("");
@@ -193,7 +193,7 @@ void AddRecover(CLI::App& app, Arguments& arguments, Console& console) {
   recover->callback([&] { Recover(console, arguments.common, arguments.recoveryCopy, arguments.output); });
 }
 
-void AddLanguages(CLI::App& app, Arguments& arguments, Console& console) {
+void AddLanguages(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* languages = AddCommand(app, arguments, "languages", "List the languages that there are");
   languages->footer("One line each: identifier, name, file.");
   languages->callback([&] { ListLanguages(console, arguments.common); });
@@ -238,7 +238,7 @@ void AddImportOptions(CLI::App& command, ImportRequest& request) {
   command.add_option("--text", request.textFile, "Also write the document's text")->type_name("FILE");
 }
 
-void AddImport(CLI::App& app, Arguments& arguments, Console& console) {
+void AddImport(CLI::App& app, ParsedArguments& arguments, Console& console) {
   // clang-format takes a line that begins with "import" for one of a module.
   CLI::App* command = AddCommand(app, arguments, "import", "Make an exam from a question paper, by rules");
   AddPath(*command, "DOCUMENT", arguments.import.document,
@@ -250,7 +250,7 @@ void AddImport(CLI::App& app, Arguments& arguments, Console& console) {
   command->callback([&] { Import(console, arguments.common, arguments.import); });
 }
 
-void AddMatch(CLI::App& app, Arguments& arguments, Console& console) {
+void AddMatch(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* match = AddCommand(app, arguments, "match", "Try a pattern of import rules on a text");
   const auto add = [match](const char* name, auto& target, const char* description, const char* type) {
     return match->add_option(name, target, description)->type_name(type);
@@ -337,7 +337,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   CLI::App app("Reads, writes and edits Quorvantis exam files.", "quorvantis-cli");
   app.set_version_flag("--version", std::string("quorvantis-cli ") + kVersion);
   app.require_subcommand(1);
-  Arguments arguments;
+  ParsedArguments arguments;
   AddCommonOptions(app, arguments.common);
   AddShow(app, arguments, console);
   AddBuild(app, arguments, console);

@@ -95,7 +95,8 @@ TEST(IncludeGraph, SourcesFollowTheArrows) {
     if (file.extension() != ".h" && file.extension() != ".cpp") continue;
     const std::string layer = file.lexically_relative(sources).parent_path().generic_string();
     // A build without the window declares no layers for it; their sources are then not part of the program.
-    const bool ofTheWindow = layer.starts_with("desktop/") || layer == "preview" || layer == "platform/convert";
+    const bool ofTheWindow =
+        layer.starts_with("desktop/") || layer == "preview" || layer == "platform/convert";
     if (ofTheWindow && layers.count(layer) == 0) continue;
     ++files;
     EXPECT_EQ(layers.count(layer), 1u) << file << " is in a folder without a layer";

@@ -14,9 +14,9 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kMargin = 20;  // pixels
+constexpr int kDialogMargin = 20;  // pixels
 constexpr int kListWidth = 240;
-constexpr QSize kIconSize(64, 64);
+constexpr QSize kProgramIconSize(64, 64);
 constexpr const char* kVersion = "6.4.5 2";
 
 /// Version of the program and tag of the exam files that it writes, a line each.
@@ -29,7 +29,7 @@ QLabel* MakeVersionText(QWidget* parent) {
 
 QLabel* MakeIcon(QWidget* parent) {
   auto* icon = new QLabel(parent);
-  icon->setPixmap(parent->windowIcon().pixmap(kIconSize, parent->devicePixelRatio()));
+  icon->setPixmap(parent->windowIcon().pixmap(kProgramIconSize, parent->devicePixelRatio()));
   icon->setAlignment(Qt::AlignTop);
   return icon;
 }
@@ -46,12 +46,12 @@ QLayout* UpperRow(QLabel* icon, const QString& caption, QComboBox* list) {
   auto* label = new QLabel(caption);
   label->setBuddy(list);
   auto* column = new QVBoxLayout;
-  column->setSpacing(kMargin / 3);
+  column->setSpacing(kDialogMargin / 3);
   column->addWidget(label);
   column->addWidget(list);
   column->addStretch();
   auto* row = new QHBoxLayout;
-  row->setSpacing(kMargin);
+  row->setSpacing(kDialogMargin);
   row->addWidget(icon);
   row->addLayout(column);
   return row;
@@ -74,8 +74,8 @@ LanguageDlg::LanguageDlg(LanguageChoice& choice, const StringTable& strings) {
   QPushButton* ok = MakeOkButton(text(text_id::kOk));
   MakeCancelButton(text(text_id::kCancel), this);
   auto* all = new QVBoxLayout(this);
-  all->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  all->setSpacing(kMargin);
+  all->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
+  all->setSpacing(kDialogMargin);
   all->addLayout(UpperRow(MakeIcon(this), text(text_id::kSelectLanguage), list));
   all->addLayout(LowerRow(MakeVersionText(this), ok));
   all->setSizeConstraint(QLayout::SetFixedSize);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kImport = 2;
 
-struct Spec {
+struct FileButtonSpec {
   const char* name;
   const char* picture;
   int text;
@@ -23,7 +23,7 @@ struct Spec {
 FileButtons::FileButtons(ExamEditor& editor, const PageCommands& pages, const StringTable& strings,
                          const Pictures& pictures, QWidget* parent) {
   using namespace text_id;
-  const Spec specs[kCount] = {
+  const FileButtonSpec specs[kCount] = {
       {"new",
        "207",
        kNew,
@@ -55,7 +55,7 @@ FileButtons::FileButtons(ExamEditor& editor, const PageCommands& pages, const St
       {"print", "210", kPrint, {Qt::ALT | Qt::Key_P, Qt::CTRL | Qt::Key_P}, pages.print},
   };
   for (std::size_t i = 0; i < kCount; ++i) {
-    const Spec& spec = specs[i];
+    const FileButtonSpec& spec = specs[i];
     const QString caption = ToQString(strings.Text(spec.text));
     buttons_[i] = new LargeButton(caption, pictures.Picture(spec.picture), parent);
     SetUpButton(buttons_[i], spec.name, caption, spec.keys, spec.command);

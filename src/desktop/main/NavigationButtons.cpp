@@ -19,7 +19,7 @@ constexpr SmallButtonBitmaps kDelete{"DeleteU", "Deleted", "Deletef", "Deletex"}
 constexpr SmallButtonBitmaps kInsert{"insertU", "insertd", "insertf", "insertx"};
 constexpr SmallButtonBitmaps kAttach{"attachqu", "attachqd", "attachqf", "attachqx"};
 
-struct Spec {
+struct NavigationButtonSpec {
   const char* name;
   const SmallButtonBitmaps& bitmaps;
   const SmallButtonBitmaps& mirrored;
@@ -35,7 +35,7 @@ NavigationButtons::NavigationButtons(ExamEditor& editor, const StringTable& stri
   const auto run = [&editor](void (QuestionEditor::*command)()) {
     return [&editor, command] { (editor.questions.*command)(); };
   };
-  const Spec specs[kCount] = {
+  const NavigationButtonSpec specs[kCount] = {
       {"back10",
        kBack10,
        kForward10,
@@ -80,7 +80,7 @@ NavigationButtons::NavigationButtons(ExamEditor& editor, const StringTable& stri
        [&editor] { editor.attachments.AttachQuestionFile(); }},
   };
   for (std::size_t i = 0; i < kCount; ++i) {
-    const Spec& spec = specs[i];
+    const NavigationButtonSpec& spec = specs[i];
     buttons_[i] = new SmallButton(pictures, spec.bitmaps, spec.mirrored, parent);
     SetUpButton(buttons_[i], spec.name, ToQString(strings.Text(spec.tip)), spec.keys, spec.command);
   }

@@ -12,7 +12,7 @@ namespace quorvantis {
 namespace {
 
 constexpr int kIcon = 24;
-constexpr int kGap = 6;
+constexpr int kIconGap = 6;
 
 }  // namespace
 
@@ -39,7 +39,7 @@ void WarningNotice::paintEvent(QPaintEvent*) {
   };
   const QRect icon = mirrored(QRect(0, (height() - kIcon) / 2, kIcon, kIcon));
   style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).paint(&painter, icon);
-  const QRect place = mirrored(rect().adjusted(kIcon + kGap, 0, 0, 0));
+  const QRect place = mirrored(rect().adjusted(kIcon + kIconGap, 0, 0, 0));
   const FittedCaption caption = FitCaption(accessibleName(), font(), place.size());
   painter.setFont(caption.font);
   painter.setPen(palette().color(QPalette::WindowText));

@@ -93,10 +93,10 @@ void PlaceAnswers(const Placer& placer, const AnswerControls& answers, const Lay
 
 /// Beside the rows of buttons, where a window has room in every language.
 PixelRect NoticePlace(const LayoutPlaces& places) {
-  constexpr int kGap = 10;
+  constexpr int kNoticeMargin = 10;
   const PixelRect &kind = places.kinds.back(), &last = places.navigation.back();
-  const int left = std::max(kind.x + kind.width, last.x + last.width) + kGap;
-  const int right = places.questionArea.x + places.questionArea.width - kGap;
+  const int left = std::max(kind.x + kind.width, last.x + last.width) + kNoticeMargin;
+  const int right = places.questionArea.x + places.questionArea.width - kNoticeMargin;
   return {left, kind.y, std::max(right - left, 0), last.y + last.height - kind.y};
 }
 

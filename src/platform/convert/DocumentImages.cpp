@@ -24,10 +24,6 @@ constexpr int kLanes = 2;
 constexpr std::chrono::seconds kLongestConversion{30};
 constexpr std::chrono::seconds kLongestDrawing{60};
 
-QString Text(const fs::path& path) {
-  return QFile::decodeName(path.c_str());
-}
-
 QByteArray Head(const fs::path& file) {
   QFile in(file);
   return in.open(QIODevice::ReadOnly) ? in.read(kHeadBytes) : QByteArray();
@@ -85,16 +81,17 @@ void DocumentImages::TryNextFilter(const SharedJob& job, int lane) {
   if (job->filters.isEmpty()) return LeaveOffice(job, lane);
   WriteOfficeProfile(Profile(lane));
   const QString filter = job->filters.takeFirst();
-  const QStringList arguments{"-env:UserInstallation=" + QUrl::fromLocalFile(Text(Profile(lane))).toString(),
-                              "--headless",
-                              "--norestore",
-                              "--infilter=" + filter,
-                              "--convert-to",
-                              "pdf",
-                              "--outdir",
-                              Text(job->folder),
-                              Text(job->folder / "document.") + job->extension};
-  const ProgramOrder order{programs_.office, arguments, kLongestConversion, {}, Text(job->folder)};
+  const QStringList arguments{
+      "-env:UserInstallation=" + QUrl::fromLocalFile(FileArgument(Profile(lane))).toString(),
+      "--headless",
+      "--norestore",
+      "--infilter=" + filter,
+      "--convert-to",
+      "pdf",
+      "--outdir",
+      FileArgument(job->folder),
+      FileArgument(job->folder / "document.") + job->extension};
+  const ProgramOrder order{programs_.office, arguments, kLongestConversion, {}, FileArgument(job->folder)};
   RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
     // One that hung or crashed would do so again. The exit code says success even where nothing could be
     // read; only the file tells.
@@ -116,8 +113,8 @@ void DocumentImages::DrawPages(const SharedJob& job, const fs::path& pdf) {
                               QString::number(kDotsPerInch),
                               "-l",
                               QString::number(kMostPages),
-                              Text(pdf),
-                              Text(job->folder / "page")};
+                              FileArgument(pdf),
+                              FileArgument(job->folder / "page")};
   drawing_.Add([this, job, order = ProgramOrder{programs_.pdfImages, arguments, kLongestDrawing}](int lane) {
     RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
       drawing_.Leave(lane);

@@ -17,17 +17,13 @@ constexpr int kLooksAtATime = 4;
 constexpr int kConversionsAtATime = 2;
 
 /// A whole film takes its time; a clip that cannot be converted shows that by standing still.
-constexpr std::chrono::minutes kLongestConversion{30};
+constexpr std::chrono::minutes kLongestFilm{30};
 constexpr std::chrono::seconds kLongestStandstill{20};
 constexpr char kProgressMark[] = "out_time_us=";  // how much of the result is there, in microseconds
 
-QString Text(const fs::path& path) {
-  return QFile::decodeName(path.c_str());
-}
-
 /// A name that begins with "-" or looks like "http:" is still a file.
 QString Input(const fs::path& media) {
-  return "file:" + Text(media);
+  return "file:" + FileArgument(media);
 }
 
 QStringList ConversionArguments(const fs::path& media, const fs::path& result, bool hasPicture) {
@@ -49,7 +45,7 @@ QStringList ConversionArguments(const fs::path& media, const fs::path& result, b
               << "-c:a"
               << "libopus";
   }
-  return arguments << "file:" + Text(result);
+  return arguments << "file:" + FileArgument(result);
 }
 
 }  // namespace
@@ -81,7 +77,7 @@ void MediaConverter::Judge(const fs::path& media, const fs::path& folder, const 
 void MediaConverter::Convert(const fs::path& media, const fs::path& result, const MediaFormat& format,
                              const Done& done) {
   const ProgramOrder order{programs_.media, ConversionArguments(media, result, format.hasPicture),
-                           kLongestConversion, ProgressSigns{kProgressMark, kLongestStandstill}};
+                           kLongestFilm, ProgressSigns{kProgressMark, kLongestStandstill}};
   conversions_.Add([this, order, result, done](int lane) {
     RunProgram(*this, order, [this, lane, result, done](bool succeeded, const QByteArray&) {
       conversions_.Leave(lane);

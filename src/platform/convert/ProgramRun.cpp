@@ -3,6 +3,7 @@
 
 #include "platform/convert/Later.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QTimer>
 
@@ -74,6 +75,10 @@ class GroupProcess : public QProcess {
 };
 
 }  // namespace
+
+QString FileArgument(const std::filesystem::path& file) {
+  return QFile::decodeName(file.c_str());
+}
 
 void RunProgram(QObject& owner, const ProgramOrder& order, ProgramDone done) {
   auto* const process = new GroupProcess(&owner);

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <optional>
 
@@ -18,6 +19,9 @@ struct ProgressSigns {
   QByteArray mark;
   std::chrono::milliseconds patience;  ///< the longest time without a sign
 };
+
+/// A path as an argument.
+QString FileArgument(const std::filesystem::path& file);
 
 /// Another program and what it is told; no shell is in between.
 struct ProgramOrder {

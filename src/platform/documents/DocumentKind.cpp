@@ -13,7 +13,6 @@ namespace fs = std::filesystem;
 constexpr std::uintmax_t kMostFileBytes = std::uintmax_t{512} << 20;
 constexpr std::size_t kMostManifestBytes = std::size_t{1} << 20;
 constexpr std::string_view kZip = "PK\x03\x04";
-constexpr std::string_view kRichText = "{\\rtf";
 constexpr std::size_t kHeadBytes = std::size_t{64} << 10;  // what stands before the root of an XML file
 
 WordResult Access(const fs::path& file) {
@@ -80,7 +79,7 @@ DocumentKindOutcome KindOfDocument(const fs::path& file) {
   const std::string head = Head(file);
   if (head.starts_with(kZip)) return KindOfPackage(file);
   if (head.starts_with(CompoundFile::kSignature)) return KindOfCompoundFile(file);
-  if (head.starts_with(kRichText)) return {WordResult::Done, DocumentKind::RichText};
+  if (head.starts_with(kRichTextBeginning)) return {WordResult::Done, DocumentKind::RichText};
   if (IsWordXml(head)) return {WordResult::Done, DocumentKind::WordXml};
   return {WordResult::UnknownFormat, {}};
 }

@@ -4,8 +4,12 @@
 #include "platform/WordDocuments.h"
 
 #include <filesystem>
+#include <string_view>
 
 namespace quorvantis {
+
+/// With which every rich text begins.
+inline constexpr std::string_view kRichTextBeginning = "{\\rtf";
 
 /// WordXml is the XML of Word 2003, which mostly bears a name in ".doc" or ".xml".
 enum class DocumentKind { Docx, Doc, OpenDocument, RichText, WordXml };

@@ -2,6 +2,7 @@
 #include "platform/documents/ImportFilters.h"
 
 #include "platform/documents/CompoundFile.h"
+#include "platform/documents/DocumentKind.h"
 
 #include <algorithm>
 #include <array>
@@ -10,7 +11,6 @@ namespace quorvantis {
 namespace {
 
 constexpr std::string_view kPackage = "PK\x03\x04";
-constexpr std::string_view kRichText = "{\\rtf";
 
 using Filters = std::vector<std::string>;
 
@@ -41,7 +41,7 @@ Filters ImportFiltersOf(std::string_view extension, std::string_view head) {
     // What a file is tells its beginning; many a ".doc" is a newer document or rich text.
     if (head.starts_with(CompoundFile::kSignature)) return family.compoundFile;
     if (head.starts_with(kPackage)) return extension.starts_with("od") ? family.openPackage : family.package;
-    if (head.starts_with(kRichText) && &family == &Families().front()) return {"Rich Text Format"};
+    if (head.starts_with(kRichTextBeginning) && &family == &Families().front()) return {"Rich Text Format"};
   }
   return {};
 }

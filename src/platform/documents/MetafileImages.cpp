@@ -63,7 +63,7 @@ constexpr std::string_view kPage =
     R"(<text:p text:style-name="P@"><draw:frame draw:style-name="F" text:anchor-type="paragraph" svg:x="0mm" )"
     R"(svg:y="0mm" svg:width="@" svg:height="@"><draw:image><office:binary-data>@</office:binary-data>)"
     R"(</draw:image></draw:frame></text:p>)";
-constexpr std::string_view kStyles =
+constexpr std::string_view kDrawingStyles =
     R"(<office:automatic-styles><style:style style:name="F" style:family="graphic"><style:graphic-properties )"
     R"(style:wrap="run-through" style:vertical-pos="from-top" style:vertical-rel="paragraph" )"
     R"(style:horizontal-pos="from-left" style:horizontal-rel="paragraph" fo:margin="0mm" fo:padding="0mm" )"
@@ -97,7 +97,7 @@ std::size_t MetafileImages::Add(const PictureFormat& format, std::string_view by
 }
 
 std::string MetafileImages::Document() const {
-  return FlatDocument(Fill(kStyles, {styles_, masters_}), pages_);
+  return FlatDocument(Fill(kDrawingStyles, {styles_, masters_}), pages_);
 }
 
 WordResult MetafileImages::Draw(const OfficeConverter& converter) {

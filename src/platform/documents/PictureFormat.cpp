@@ -56,7 +56,7 @@ PictureFormat Bmp(std::string_view bytes) {
 
 /// Of a field that is given twice the larger value counts.
 PictureFormat Tiff(std::string_view bytes) {
-  constexpr std::size_t kEntryBytes = 12;
+  constexpr std::size_t kTagBytes = 12;
   constexpr std::uint32_t kWidthTag = 256;
   constexpr std::uint32_t kHeightTag = 257;
   constexpr std::uint32_t kShort = 3;
@@ -65,7 +65,7 @@ PictureFormat Tiff(std::string_view bytes) {
   const std::size_t directory = NumberAt(bytes, 4, 4, order);
   const std::uint32_t entries = NumberAt(bytes, directory, 2, order);
   for (std::size_t i = 0; i < entries; ++i) {
-    const std::size_t entry = directory + 2 + i * kEntryBytes;
+    const std::size_t entry = directory + 2 + i * kTagBytes;
     const std::uint32_t tag = NumberAt(bytes, entry, 2, order);
     const std::size_t size = NumberAt(bytes, entry + 2, 2, order) == kShort ? 2 : 4;
     const std::uint64_t value = NumberAt(bytes, entry + 8, size, order);

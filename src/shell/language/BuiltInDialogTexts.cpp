@@ -16,7 +16,7 @@ struct ControlText {
 };
 
 // Wording, spelling and language are what users of the program know; all stay as they are.
-constexpr ControlText kTexts[] = {
+constexpr ControlText kControlTexts[] = {
     {{dialog_id::kAbout, control_id::kCaption}, u"Quorvantis"},
     {{dialog_id::kAbout, control_id::kOk}, u"OK"},
     {{dialog_id::kAbout, control_id::kFirstLabel}, u"Quorvantis Verson 6.2"},
@@ -47,13 +47,13 @@ constexpr ControlText kTexts[] = {
 }  // namespace
 
 std::u16string BuiltInDialogText(int dialog, int control) {
-  const auto* found = std::ranges::find(kTexts, std::pair(dialog, control), &ControlText::place);
-  return found == std::end(kTexts) ? std::u16string() : std::u16string(found->text);
+  const auto* found = std::ranges::find(kControlTexts, std::pair(dialog, control), &ControlText::place);
+  return found == std::end(kControlTexts) ? std::u16string() : std::u16string(found->text);
 }
 
 std::vector<std::pair<int, int>> BuiltInDialogControls() {
   std::vector<std::pair<int, int>> places;
-  std::ranges::transform(kTexts, std::back_inserter(places), &ControlText::place);
+  std::ranges::transform(kControlTexts, std::back_inserter(places), &ControlText::place);
   return places;
 }
 

@@ -15,7 +15,7 @@ struct NumberedText {
 };
 
 // Wording and spelling are what users of the program know; both stay as they are.
-constexpr NumberedText kTexts[] = {
+constexpr NumberedText kNumberedTexts[] = {
     {text_id::kAbout, u"Oxna Quorvantis(&A)..."},
     {text_id::kOpenFileError, u"Open file %s error!"},
     {text_id::kTemporaryFileError, u"create temporary file error"},
@@ -250,13 +250,13 @@ constexpr NumberedText kTexts[] = {
 }  // namespace
 
 std::u16string BuiltInStrings::Text(int number) const {
-  const auto* found = std::ranges::find(kTexts, number, &NumberedText::number);
-  return found == std::end(kTexts) ? std::u16string() : std::u16string(found->text);
+  const auto* found = std::ranges::find(kNumberedTexts, number, &NumberedText::number);
+  return found == std::end(kNumberedTexts) ? std::u16string() : std::u16string(found->text);
 }
 
 std::vector<int> BuiltInStrings::Numbers() {
   std::vector<int> numbers;
-  std::ranges::transform(kTexts, std::back_inserter(numbers), &NumberedText::number);
+  std::ranges::transform(kNumberedTexts, std::back_inserter(numbers), &NumberedText::number);
   return numbers;
 }
 
