@@ -100,14 +100,31 @@ void EndBySignal(int signal) {
   ::raise(signal);  // is delivered when the handler returns
 }
 
+constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
+sigset_t AllSignals() {
+  sigset_t all;
+  ::sigemptyset(&all);
+  for (const int signal : kSignals) ::sigaddset(&all, signal);
+  return all;
+}
+
 }  // namespace
 
+SignalsHeld::SignalsHeld() : before_() {
+  const sigset_t all = AllSignals();
+  ::pthread_sigmask(SIG_BLOCK, &all, &before_);
+}
+
+SignalsHeld::~SignalsHeld() {
+  ::pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+}
+
 void RemoveLeftoversOnSignals() {
-  constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
   struct sigaction action {};
   action.sa_handler = EndBySignal;
   action.sa_flags = SA_RESTART;
-  for (const int signal : kSignals) ::sigaddset(&action.sa_mask, signal);
+  action.sa_mask = AllSignals();
   for (const int signal : kSignals) {
     struct sigaction before {};
     ::sigaction(signal, nullptr, &before);

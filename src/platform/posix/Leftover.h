@@ -3,6 +3,7 @@
 #pragma once
 
 #include <atomic>
+#include <csignal>
 #include <filesystem>
 #include <string>
 #include <sys/types.h>
@@ -13,6 +14,18 @@ namespace quorvantis {
 /// before they end the process, with the status that they always give. Signals that were ignored stay so. To
 /// be called once, by a program with one thread.
 void RemoveLeftoversOnSignals();
+
+/// Holds those signals back from this thread while something is made and becomes a leftover.
+class SignalsHeld {
+ public:
+  SignalsHeld();
+  ~SignalsHeld();
+  SignalsHeld(const SignalsHeld&) = delete;
+  SignalsHeld& operator=(const SignalsHeld&) = delete;
+
+ private:
+  sigset_t before_;
+};
 
 /// A file, or a folder with its content, that a signal removes as long as this lives; or other programs,
 /// which it kills. What was made last goes first, so a program is gone before the folder that it writes to.

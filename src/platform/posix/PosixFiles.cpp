@@ -49,6 +49,7 @@ class ScratchFile {
   /// `stem` should be short; it only helps a person who finds the file after a power cut.
   static std::optional<ScratchFile> Create(const fs::path& folder, const std::string& stem) {
     constexpr int kTries = 100;
+    const SignalsHeld held;
     for (int i = 0; i < kTries; ++i) {
       const fs::path path =
           folder / ("." + stem + "." + std::to_string(::getpid()) + "-" + std::to_string(i) + ".tmp");

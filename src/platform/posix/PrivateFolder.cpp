@@ -62,7 +62,14 @@ fs::path MakeFolder() {
 
 }  // namespace
 
-PrivateFolder::PrivateFolder() : path_(MakeFolder()), leftover_(path_), lock_(Lock(path_)) {}
+PrivateFolder::PrivateFolder() {
+  {
+    const SignalsHeld held;
+    path_ = MakeFolder();
+    leftover_.emplace(path_);
+  }
+  lock_ = Lock(path_);
+}
 
 PrivateFolder::~PrivateFolder() {
   std::error_code ignored;

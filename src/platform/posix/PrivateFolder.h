@@ -5,6 +5,7 @@
 #include "platform/posix/Leftover.h"
 
 #include <filesystem>
+#include <optional>
 
 namespace quorvantis {
 
@@ -21,9 +22,9 @@ class PrivateFolder {
   const std::filesystem::path& Path() const { return path_; }
 
  private:
-  const std::filesystem::path path_;
-  const Leftover leftover_;
-  const FileDescriptor lock_;  ///< tells other programs that the folder is in use
+  std::filesystem::path path_;
+  std::optional<Leftover> leftover_;
+  FileDescriptor lock_;  ///< tells other programs that the folder is in use
 };
 
 }  // namespace quorvantis

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <random>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -58,6 +59,29 @@ TEST(Leftovers, GoWithASignalThatEndsTheProcess) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 1);
     ::close(ends[0]);
     ::close(ends[1]);
+  }
+}
+
+/// At every moment between making something and being done with it.
+TEST(Leftovers, GoWheneverTheSignalComes) {
+  const TemporaryFolder folder;
+  std::minstd_rand random(5);
+  for (int round = 0; round < 200; ++round) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+      RemoveLeftoversOnSignals();
+      setenv("TMPDIR", folder.Path().c_str(),
+             1);  // NOLINT(concurrency-mt-unsafe): a forked child has one thread
+      while (true) {
+        const PrivateFolder made;
+        std::error_code error;
+        const auto pending = PosixFiles().Replace(folder / "never.exm", error);
+      }
+    }
+    ::usleep(3000 + static_cast<useconds_t>(random() % 3000));
+    ::kill(child, SIGTERM);
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    ASSERT_TRUE(fs::is_empty(folder.Path())) << *fs::directory_iterator(folder.Path());
   }
 }
 
