@@ -2,6 +2,7 @@
 #include "desktop/dialogs/QtProgress.h"
 
 #include <QApplication>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -50,14 +51,16 @@ void QtProgress::Report(std::uint64_t done, std::uint64_t total) {
 void QtProgress::Show(std::uint64_t done, std::uint64_t total) {
   if (!bar_) bar_ = MakeBar(QString(), kSteps, parent_);
   const double part = static_cast<double>(std::min(done, total)) / static_cast<double>(total);
-  bar_->setValue(static_cast<int>(part * kSteps));
-  Paint(QEventLoop::ExcludeUserInputEvents);
+  const QScopedValueRollback painting(painting_, true);
+  bar_->setValue(static_cast<int>(part * kSteps));  // which handles events, since the bar is modal
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void QtProgress::Wait() {
   if (painting_) return;
   if (!waiting_) BeginWaiting();
-  Paint(QEventLoop::AllEvents);
+  const QScopedValueRollback painting(painting_, true);
+  QCoreApplication::processEvents();
 }
 
 /// The dialog stays when it is cancelled: it keeps all other input away until the work has ended.
@@ -69,12 +72,6 @@ void QtProgress::BeginWaiting() {
   disconnect(waiting_.get(), &QProgressDialog::canceled, waiting_.get(), &QProgressDialog::cancel);
   connect(waiting_.get(), &QProgressDialog::canceled, this, [this] { cancelled_ = true; });
   end_.start();
-}
-
-void QtProgress::Paint(QEventLoop::ProcessEventsFlags events) {
-  painting_ = true;
-  QCoreApplication::processEvents(events);
-  painting_ = false;
 }
 
 void QtProgress::End() {

@@ -4,7 +4,6 @@
 #include "platform/Progress.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QPointer>
 #include <QProgressDialog>
 #include <QTimer>
@@ -32,7 +31,6 @@ class QtProgress : public QObject, public Progress {
 
  private:
   void Show(std::uint64_t done, std::uint64_t total);
-  void Paint(QEventLoop::ProcessEventsFlags events);
   void BeginWaiting();
   void End();
 
@@ -42,7 +40,7 @@ class QtProgress : public QObject, public Progress {
   QElapsedTimer sinceStart_;
   QElapsedTimer sincePaint_;
   QTimer end_;
-  bool painting_ = false;
+  bool painting_ = false;  ///< events are being handled in the middle of the work
   bool cancelled_ = false;
 };
 
