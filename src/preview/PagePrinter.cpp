@@ -38,6 +38,7 @@ PagePrinter::~PagePrinter() {
 }
 
 void PagePrinter::Print() {
+  again_ = IsPrinting();
   if (stage_ != Stage::Idle) return;
   stage_ = Stage::Waiting;
   GoOn();
@@ -45,6 +46,7 @@ void PagePrinter::Print() {
 
 /// The answer to a question that is open comes still, and is no longer wanted.
 void PagePrinter::GiveUp() {
+  again_ = false;
   if (IsPreparing()) Finish(false);
   if (stage_ == Stage::Asking) stage_ = Stage::Idle;
 }
@@ -98,6 +100,7 @@ void PagePrinter::Finish(bool succeeded) {
   stage_ = Stage::Idle;
   printer_.reset();
   emit Printed(succeeded);
+  if (again_) Print();
 }
 
 }  // namespace quorvantis

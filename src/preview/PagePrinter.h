@@ -25,7 +25,8 @@ class PagePrinter : public QObject {
   PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gateway, AskForPrinter ask);
   ~PagePrinter() override;
 
-  /// Prints once the page is loaded and its documents are converted. Ignored while a print is under way.
+  /// Prints once the page is loaded and its documents are converted. Nothing more while a print waits or
+  /// asks; while paper is being made, once that is done.
   void Print();
 
   /// Calls off a print, also while the user is asked for the printer; not one that makes paper already.
@@ -60,6 +61,7 @@ class PagePrinter : public QObject {
   AskForPrinter ask_;
   std::unique_ptr<QPrinter> printer_;  ///< in use until `Printed`
   bool loaded_ = false;
+  bool again_ = false;  ///< another print was asked for while paper was being made
   Stage stage_ = Stage::Idle;
 };
 

@@ -32,6 +32,7 @@ ImportSummaryDlg::ImportSummaryDlg(const QString& lines, Commands commands, cons
     return button;
   };
   auto* undo = makeButton("undoImport", text_id::kUndoImport);
+  undo->setVisible(commands_.canUndo());  // not after an import that was given up
   auto* close = makeButton("close", text_id::kClose);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(undo);
