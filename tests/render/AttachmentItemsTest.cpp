@@ -94,10 +94,5 @@ TEST_F(AttachmentItemsTest, WritesTheInstalledPlayer) {
   EXPECT_EQ(Item(u"a.avi").find(u"Morvell"), std::u16string::npos);
 }
 
-TEST_F(AttachmentItemsTest, GiveEachPlayerAnElementOfItsOwn) {
-  EXPECT_TRUE(Item(u"a.wav").starts_with(u"<div id=\"{00000001-"));
-  EXPECT_TRUE(Item(u"a.wav").starts_with(u"<div id=\"{00000002-"));
-}
-
 }  // namespace
 }  // namespace quorvantis::test

@@ -32,13 +32,6 @@ TEST_F(PageFileTest, CutsUtf16ToOneByteMoreThanItHasUnits) {
   }
 }
 
-TEST_F(PageFileTest, IsEmptyUntilThePageIsThere) {
-  WriteBytes(file, "earlier");
-  PageFile page(file, world.pages);
-  EXPECT_EQ(fs::file_size(file), 0);
-  EXPECT_TRUE(world.pages.pages.empty());
-}
-
 TEST_F(PageFileTest, KeepsThePageWhereNoFileCanBeMade) {
   const fs::path target = folder / "absent" / "page.htm";
   PageFile(target, world.pages).WriteUtf8(u"page");
