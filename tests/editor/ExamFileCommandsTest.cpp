@@ -26,50 +26,6 @@ class ExamFileEditing : public EditorTest {
   }
 };
 
-TEST_F(ExamFileEditing, AsksBeforeChangesAreLost) {
-  const fs::path other = MakeExamWithFiles();
-  const fs::path file = folder / "asked.exm";
-  const auto check = [&](const char* name, auto command, std::optional<SaveAnswer> reply, bool saves,
-                         bool goesOn) {
-    SCOPED_TRACE(name);
-    editor.files.NewExam();
-    SaveAs(file);
-    const std::string saved = ReadBytes(file);
-    world.dialogs.questions.clear();
-    std::vector<std::u16string> questions;
-    if (reply) {
-      editor.questions.GoNext();
-      Change();
-      world.dialogs.answers = {*reply};
-      questions.push_back(u"[105 " + AsText(file) + u"]");
-    }
-    EXPECT_EQ(command(), goesOn);
-    EXPECT_EQ(world.dialogs.questions, questions);
-    EXPECT_EQ(ReadBytes(file) != saved, saves);
-    editor.state.MarkSaved();
-  };
-  const auto newExam = [&] {
-    editor.files.NewExam();
-    return editor.state.currentQuestion == 1 && title == u"[107 UnTitle]" && exam.Question(1).text.empty();
-  };
-  const auto open = [&] {
-    Open(other);
-    world.dialogs.filesToOpen.clear();
-    return editor.state.currentQuestion == 1 && title == u"[107 " + AsText(other) + u"]" &&
-           editor.questions.Form().text == u"first";
-  };
-  const auto close = [&] { return editor.files.ConfirmClose(); };
-  const auto checkAll = [&](const char* name, auto command) {
-    check(name, command, std::nullopt, false, true);
-    check(name, command, SaveAnswer::Yes, true, true);
-    check(name, command, SaveAnswer::No, false, true);
-    check(name, command, SaveAnswer::Cancel, false, false);
-  };
-  checkAll("new", newExam);
-  checkAll("open", open);
-  checkAll("close", close);
-}
-
 TEST_F(ExamFileEditing, CancelledFileDialogs) {
   Change();
   world.dialogs.answers = {SaveAnswer::Yes, SaveAnswer::No, SaveAnswer::Yes};
@@ -197,11 +153,6 @@ TEST_F(ExamFileEditing, KeepsThePreviousVersion) {
     EXPECT_EQ(ReadBytes(backup), previous);
     previous = saved;
   }
-  fs::create_symlink(file, folder / "link.exm");
-  editor.state.SetFileName(folder / "link.exm");
-  save(u"through a link");
-  EXPECT_EQ(ReadBytes(backup), previous);
-  EXPECT_TRUE(fs::is_symlink(folder / "link.exm"));
   fs::remove(backup);
   fs::create_directories(backup / "not empty");
   previous = ReadBytes(file);

@@ -72,7 +72,7 @@ TEST_F(EveryKindTest, AppearsEveryTime) {
   flashPlayer = QUORVANTIS_FLASH_PLAYER;
   AttachEveryKind();
   const auto exam = ComposeExam();
-  const int previews = qEnvironmentVariable("QUORVANTIS_PREVIEWS", "24").toInt();
+  const int previews = qEnvironmentVariable("QUORVANTIS_PREVIEWS", "12").toInt();
   for (int i = 1; i <= previews; ++i) {
     Preview(exam);
     QString missing = "everything";

@@ -110,22 +110,6 @@ TEST_F(ExamTest, FilesOfAnyNameAppearOnPaperAndInPreviews) {
   EXPECT_TRUE(Becomes("window.frames[1].frames[1].document.images[0].naturalWidth === 2"));
 }
 
-TEST_F(ExamTest, NoticesTellTheNamesThatTheUserKnows) {
-  ExamQuestion& question = AddQuestion();
-  question.attachmentNames = {u"s.wav", u"p.jpg", u"d.doc", u"x.xyz"};
-  for (std::size_t i = 0; i < 4; ++i) {
-    question.attachmentPaths[i] =
-        PathToText(app / "~TEMP" / ("0" + TextToPath(question.attachmentNames[i]).native()));
-  }
-  ShowPrint();
-  for (const char* name : {"s.wav", "p.jpg", "d.doc", "x.xyz"}) {
-    EXPECT_TRUE(Becomes(QString("[window, ...Array.from(window.frames)].some(w => "
-                                "w.document.body.innerText.split('\\n').includes('%1 is gone'))")
-                            .arg(name)))
-        << name;
-  }
-}
-
 TEST_F(ExamTest, TheOralFlagMutesWhatItsQuestionPlays) {
   for (const int oralFlag : {0, 1}) {
     ExamQuestion& question = AddQuestion();

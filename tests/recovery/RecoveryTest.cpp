@@ -3,9 +3,7 @@
 
 #include "editor/EditorSnapshot.h"
 #include "editor/WorkCopies.h"
-#include "examfile/SavingLosses.h"
 #include "examfile/WorkFolder.h"
-#include "support/TinyDisk.h"
 
 #include <ctime>
 #include <functional>
@@ -84,19 +82,6 @@ TEST_F(RecoveryTest, BringsBackAttachedFiles) {
   EXPECT_TRUE(Copies().empty());
   EXPECT_EQ(fs::hard_link_count(run->exam.Question(1).attachmentPaths[0]), 1u);
   EXPECT_FALSE(fs::exists(RecoveryRoot(world.services.applicationFolder)));
-}
-
-TEST_F(RecoveryTest, AnEmptyFileIsNoLostOne) {
-  Attach("empty.txt", "");
-  Attach("full.txt", "full");
-  Type(FormField::Text, u"text");
-  SaveAs(folder / "named.exm");
-  Open(folder / "named.exm");
-  Type(FormField::Text, u"changed");
-  keeper.LookAndWait();
-  const auto run = Restart();
-  EXPECT_EQ(run->editor.attachments.QuestionList().missing, (std::vector<bool>{false, false}));
-  EXPECT_TRUE(FindSavingLosses(run->exam, run->world.longAnswerFlags).empty());
 }
 
 TEST_F(RecoveryTest, ACopyOfNothingIsNotOffered) {
@@ -326,36 +311,6 @@ TEST_F(RecoveryTest, TriesAgainWhenACopyCannotBeWritten) {
   keeper.LookAndWait();
   EXPECT_FALSE(keeper.Failure());
   EXPECT_EQ(Copies().size(), 1u);
-}
-
-TEST_F(RecoveryTest, OnAFullDiskTheLastCopyStaysWhole) {
-  TinyDisk disk(4096);
-  if (!disk.Works()) GTEST_SKIP() << "no disk can be mounted here";
-  Run run(disk.Path());
-  const auto look = [&](const std::u16string& typed) {
-    run.editor.questions.EditField(FormField::Title, typed);
-    run.keeper.LookAndWait();
-    const auto found = FindRecoveryCopies(run.world.services);
-    return found.damaged.empty() && found.copies.size() == 1 ? found.copies[0].title : u"none";
-  };
-  const auto filesOfCopy = [&] {
-    const fs::path copy = RecoveryRoot(disk.Path()) / "1";
-    return std::distance(fs::directory_iterator(copy), fs::directory_iterator());
-  };
-  run.editor.attachments.AttachQuestionFile(WriteBytes(folder / "a.txt", "a"));
-  EXPECT_EQ(look(u"first"), u"first");
-  run.editor.questions.EditField(FormField::Text, std::u16string(4000, u'x'));
-  disk.Leave(4);
-  run.editor.attachments.AttachQuestionFile(WriteBytes(folder / "b.txt", "b"));
-  for (int tries = 0; tries < 3; ++tries) {
-    EXPECT_EQ(look(u"second"), u"first");
-    EXPECT_TRUE(run.keeper.Failure());
-    EXPECT_EQ(filesOfCopy(), 2) << "nothing is left of an attempt";
-  }
-  disk.Leave(100);
-  EXPECT_EQ(look(u"third"), u"third");
-  EXPECT_FALSE(run.keeper.Failure());
-  EXPECT_EQ(filesOfCopy(), 3);
 }
 
 }  // namespace

@@ -50,10 +50,6 @@ class UserDialogsTest : public testing::Test {
       QTest::keyClick(line, Qt::Key_Return);
     });
   }
-  void CloseWithIcon(QMessageBox::Icon icon) {
-    answers_.push([icon](QWidget& dialog) { EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), icon); });
-    Press(Qt::Key_Escape);
-  }
   void LookAt(std::function<void(QFileDialog&)> look) {
     answers_.push([look](QWidget& dialog) { look(dynamic_cast<QFileDialog&>(dialog)); });
   }
@@ -135,11 +131,6 @@ TEST_F(UserDialogsTest, NothingIsLostByEnterOrEscape) {
     Press(key);
     EXPECT_EQ(dialogs.AskAboutLosses(question), LossAnswer::GoBack);
   }
-}
-
-TEST_F(UserDialogsTest, WhatWasDoneIsToldWithTheIconOfAnError) {
-  CloseWithIcon(QMessageBox::Critical);
-  dialogs.ShowDone(u"done");
 }
 
 TEST_F(UserDialogsTest, ProgressShowsAfterHalfASecondAndEndsWithTheWork) {

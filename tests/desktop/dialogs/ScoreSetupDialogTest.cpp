@@ -68,21 +68,6 @@ class ScoreSetupDialog : public testing::Test, public SetupOwner {
   void PreviewFromSetup(int show) override { previews.push_back(show); }
 };
 
-TEST_F(ScoreSetupDialog, TypedEndsCutTheRangesAnew) {
-  Open();
-  TypeOver("rangeTo1", "5");
-  EXPECT_EQ(Rows(), "1-5 6-25");
-  EXPECT_EQ(Control("rangeTo1").cursorPosition(), 1);
-  QTest::keyClicks(&Control("rangeTo1"), "x");  // still reads as 5
-  EXPECT_EQ(Rows(), "1-5x 6-25");
-  TypeOver("rangeTo2", "4");
-  EXPECT_EQ(Rows(), "1-5 6-25");
-  TypeOver("rangeTo2", "9");
-  EXPECT_EQ(Rows(), "1-5 6-9 10-25");
-  EXPECT_TRUE(Control("rangeTo3").isEnabled() && !Control("rangeTo3").isReadOnly());
-  EXPECT_TRUE(Control("rangeTo4").isReadOnly() && Control("rangeScore4").isReadOnly());
-}
-
 TEST_F(ScoreSetupDialog, EndsAreSteppedByKeysAndWheel) {
   Open();
   QTest::keyClick(&Control("rangeTo1"), Qt::Key_Up);
@@ -140,19 +125,6 @@ TEST_F(ScoreSetupDialog, ScoreFieldsFilterWhatIsTyped) {
   score.selectAll();
   QCoreApplication::sendEvent(&score, &composed);
   EXPECT_EQ(score.text(), "4.5");
-}
-
-TEST_F(ScoreSetupDialog, TheModeOpensAndClosesTheFields) {
-  distribution.scoreMode = ScoreMode::Same;
-  Open();
-  EXPECT_EQ(Rows(), "1-25");
-  EXPECT_EQ(Control("rangeScore1").text(), "0.00");
-  EXPECT_FALSE(Control("rangeTo1").isEnabled() || Control("rangeFrom10").isEnabled());
-  QTest::mouseClick(&Control<QRadioButton>("assignedScores"), Qt::LeftButton, {}, {10, 10});
-  EXPECT_TRUE(Control("rangeTo1").isEnabled() && Control("rangeFrom10").isEnabled());
-  EXPECT_EQ(Rows(), "1-25");
-  QTest::keyClick(&Control<QRadioButton>("assignedScores"), Qt::Key_Up);
-  EXPECT_EQ(setup.Fields().radio, 0);
 }
 
 TEST_F(ScoreSetupDialog, OnlyItsButtonsAndTheCloseBoxEndIt) {

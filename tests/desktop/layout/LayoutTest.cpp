@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -29,94 +30,59 @@ LayoutInput Window() {
   return input;
 }
 
-TEST(Layout, ToolbarClosesTheGapOfADisabledButton) {
+using Place = std::optional<PixelRect>;
+
+TEST(Layout, GivesEachControlItsPlace) {
+  const LayoutPlaces choice = Layout(Window());
   LayoutInput input = Window();
-  LayoutPlaces places = Layout(input);
-  EXPECT_EQ(places.toolbar[0], (PixelRect{10, 8, 90, 40}));
-  EXPECT_EQ(places.toolbar[8], (PixelRect{730, 8, 90, 40}));
   input.enabled[2] = false;
-  places = Layout(input);
-  EXPECT_EQ(places.toolbar[2], std::nullopt);
-  EXPECT_EQ(places.toolbar[3], (PixelRect{190, 8, 90, 40})) << "Save, without Import";
-  EXPECT_EQ(places.toolbar[8]->x, 640);
-}
-
-TEST(Layout, TitleRowMakesRoomForTheExamList) {
-  LayoutInput input = Window();  // a = 45, r = 65, v = 870 - 90 = 780
-  LayoutPlaces places = Layout(input);
-  EXPECT_EQ(places.titleLabel, (PixelRect{10, 72, 30, 16}));
-  EXPECT_EQ(places.title, (PixelRect{45, 68, 715, 20}));
-  EXPECT_EQ(places.random, (PixelRect{765, 68, 65, 20}));
-  EXPECT_FALSE(places.examAttachments || places.examAttachmentsLabel);
-
-  input.examListVisible = true;
-  input.client.width = 873;  // v = 783: 70 % are 548.1, 30 % are 234.9
-  places = Layout(input);
-  EXPECT_EQ(places.title, (PixelRect{45, 68, 483, 20}));
-  EXPECT_EQ(places.random, (PixelRect{533, 68, 65, 20}));
-  EXPECT_EQ(places.examAttachmentsLabel, (PixelRect{603, 60, 60, 16}));
-  EXPECT_EQ(places.examAttachments, (PixelRect{668, 58, 174, 40}));
-}
-
-TEST(Layout, RowsOfTheQuestionFollowItsLabel) {
-  LayoutInput input = Window();
-  LayoutPlaces places = Layout(input);
-  EXPECT_EQ(places.questionArea, (PixelRect{10, 105, 850, 560}));
-  EXPECT_EQ(places.questionLabel, (PixelRect{25, 128, 55, 16}));
-  EXPECT_EQ(places.number, (PixelRect{82, 128, 30, 20}));
-  EXPECT_EQ(places.kinds[0], (PixelRect{117, 120, 90, 30}));
-  EXPECT_EQ(places.kinds[3], (PixelRect{417, 120, 90, 30}));
-  EXPECT_EQ(places.navigation[0], (PixelRect{40, 158, 73, 28}));
-  EXPECT_EQ(places.navigation[6], (PixelRect{478, 158, 73, 28}));
-  EXPECT_EQ(places.text, (PixelRect{40, 194, 790, 80}));
-  EXPECT_FALSE(places.attachments || places.oralToggle);
-
-  input.questionLabel.height = 31;  // everything below gives way by one pixel
-  EXPECT_EQ(Layout(input).navigation[0].y, 159);
-
-  input = Window();
-  input.questionListVisible = true;
-  input.client.width = 873;  // u = 793: 70 % are 555.1, 30 % are 237.9
-  places = Layout(input);
-  EXPECT_EQ(places.text, (PixelRect{40, 194, 555, 80}));
-  EXPECT_EQ(places.attachments, (PixelRect{600, 194, 237, 80}));
-  EXPECT_EQ(places.oralToggle, (PixelRect{600, 284, 120, 25}));
-}
-
-TEST(Layout, AnswersFitTheKind) {
-  LayoutInput input = Window();  // y2 = 286
-  LayoutPlaces places = Layout(input);
-  EXPECT_EQ(places.boxes[0], (PixelRect{40, 318, 30, 20})) << "s = 329 / 5 = 65";
-  EXPECT_EQ(places.options[0], (PixelRect{80, 286, 760, 65}));
-  EXPECT_EQ(places.boxes[4], (PixelRect{40, 618, 30, 20}));
-  EXPECT_EQ(places.options[4], (PixelRect{80, 586, 760, 65}));
-  EXPECT_FALSE(places.answer || places.answerLabel || places.listSeparator || places.essay ||
-               places.essayLabel);
-  input.client.height = 339;
-  EXPECT_EQ(Layout(input).options[0]->height, -1) << "-7 / 5 goes towards zero";
-
+  input.examListVisible = input.questionListVisible = true;
+  input.client.width = 873;  // 70 % of the title's room are 548.1, of the text's 555.1
+  const LayoutPlaces lists = Layout(input);
   input = Window();
   input.kind = QuestionKind::FillIn;
-  places = Layout(input);
-  EXPECT_EQ(places.answerLabel, (PixelRect{40, 286, 22, 16}));
-  EXPECT_EQ(places.answer, (PixelRect{40, 304, 790, 20}));
-  EXPECT_EQ(places.listSeparator, (PixelRect{795, 329, 30, 20}));
-  EXPECT_FALSE(places.boxes[0] || places.options[0] || places.essay);
-
+  const LayoutPlaces fillIn = Layout(input);
   input.kind = QuestionKind::Essay;
-  places = Layout(input);
-  EXPECT_EQ(places.essayLabel, (PixelRect{40, 286, 22, 16}));
-  EXPECT_EQ(places.essay, (PixelRect{40, 304, 790, 349}));
-
-  for (const auto kind : {QuestionKind::Oral, static_cast<QuestionKind>(7)}) {
-    input.kind = kind;
-    places = Layout(input);
-    EXPECT_FALSE(places.boxes[0] || places.options[0] || places.answer || places.essay);
-  }
-}
-
-TEST(Layout, MirroringKeepsTheDistanceFromTheOtherEdge) {
-  EXPECT_EQ(Mirrored({10, 8, 90, 40}, 870), (PixelRect{770, 8, 90, 40}));
+  const LayoutPlaces essay = Layout(input);
+  input = Window();
+  input.questionLabel.height = 31;  // everything below gives way by one pixel
+  input.client.height = 340;
+  const LayoutPlaces low = Layout(input);
+  const std::pair<Place, Place> rows[] = {{choice.toolbar[0], {{10, 8, 90, 40}}},
+                                          {choice.toolbar[8], {{730, 8, 90, 40}}},
+                                          {lists.toolbar[2], {}},
+                                          {lists.toolbar[3], {{190, 8, 90, 40}}},
+                                          {choice.titleLabel, {{10, 72, 30, 16}}},
+                                          {choice.title, {{45, 68, 715, 20}}},
+                                          {choice.random, {{765, 68, 65, 20}}},
+                                          {choice.examAttachments, {}},
+                                          {lists.title, {{45, 68, 483, 20}}},
+                                          {lists.random, {{533, 68, 65, 20}}},
+                                          {lists.examAttachmentsLabel, {{603, 60, 60, 16}}},
+                                          {lists.examAttachments, {{668, 58, 174, 40}}},
+                                          {choice.questionArea, {{10, 105, 850, 560}}},
+                                          {choice.questionLabel, {{25, 128, 55, 16}}},
+                                          {choice.number, {{82, 128, 30, 20}}},
+                                          {choice.kinds[3], {{417, 120, 90, 30}}},
+                                          {choice.navigation[0], {{40, 158, 73, 28}}},
+                                          {low.navigation[6], {{478, 159, 73, 28}}},
+                                          {choice.text, {{40, 194, 790, 80}}},
+                                          {choice.attachments, {}},
+                                          {lists.text, {{40, 194, 555, 80}}},
+                                          {lists.attachments, {{600, 194, 237, 80}}},
+                                          {lists.oralToggle, {{600, 284, 120, 25}}},
+                                          {choice.boxes[0], {{40, 318, 30, 20}}},
+                                          {choice.options[4], {{80, 586, 760, 65}}},
+                                          {low.options[0], {{80, 287, 760, -1}}},  // -7 / 5 goes towards zero
+                                          {choice.answer, {}},
+                                          {fillIn.answerLabel, {{40, 286, 22, 16}}},
+                                          {fillIn.answer, {{40, 304, 790, 20}}},
+                                          {fillIn.listSeparator, {{795, 329, 30, 20}}},
+                                          {fillIn.options[0], {}},
+                                          {essay.essayLabel, {{40, 286, 22, 16}}},
+                                          {essay.essay, {{40, 304, 790, 349}}},
+                                          {Mirrored({10, 8, 90, 40}, 870), {{770, 8, 90, 40}}}};
+  for (const auto& [place, expected] : rows) EXPECT_EQ(place, expected);
 }
 
 TEST(SizeLimits, GiveWayToASmallScreen) {

@@ -105,13 +105,6 @@ TEST_F(WindowLayout, IsTheSameOnTheScreenInEverySizeAndKind) {
   }
 }
 
-TEST_F(WindowLayout, HasTheSmallestAndTheFirstSize) {
-  Open();
-  EXPECT_EQ(window->minimumSize(), QSize(792, 646));
-  EXPECT_EQ(window->maximumSize(), window->screen()->size());
-  EXPECT_EQ(window->size(), QSize(870, 675).boundedTo(window->screen()->size()));
-}
-
 TEST_F(WindowLayout, ScrollsEveryControlIntoASmallWindow) {
   exam.examAttachmentNames[0] = exam.Question(1).attachmentNames[0] = u"file.jpg";
   Open();

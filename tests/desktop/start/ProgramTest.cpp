@@ -54,17 +54,6 @@ TEST(Program, PaintsItsWindowOnAnXServer) {
   EXPECT_NE(image, empty);
 }
 
-TEST(Program, EndsWithoutALanguage) {
-  const TemporaryFolder folder;
-  std::filesystem::create_directories(folder / "language/Quorvantis");
-  QProcess program;
-  program.start(kProgram, {"--app-folder", PathToQString(folder.Path()), "--screenshot",
-                           PathToQString(folder / "window.png")});
-  ASSERT_TRUE(program.waitForFinished());
-  EXPECT_EQ(program.exitCode(), 2);
-  EXPECT_TRUE(program.readAllStandardError().contains("Cann't find any language file!"));
-}
-
 /// What ./run builds, in a folder of its own, so that nothing else that a build makes can help.
 TEST(Program, OffersImportInTheFirstWindow) {
   const TemporaryFolder folder;
