@@ -40,16 +40,6 @@ QColor Middle(const QIcon& icon, qreal scale = 1) {
   return image.pixelColor(image.rect().center());
 }
 
-TEST(Pictures, AreAllBuiltInInTwoSizes) {
-  const Pictures pictures;
-  for (const char* name :
-       {"206", "212", "226", "227", "NextQuestion10U", "insertf", "attachqx", "ListSeparatroX"}) {
-    EXPECT_EQ(pictures.Picture(name).availableSizes().size(), 2) << name;
-  }
-  EXPECT_EQ(pictures.Picture("attachqu").pixmap({73, 28}, 2).size(), QSize(146, 56));
-  EXPECT_TRUE(pictures.Picture("ListSeparatrof").isNull());
-}
-
 TEST(Pictures, OfALanguageComeFirst) {
   Library library;
   library.Add("DeleteU", 1, Qt::red);

@@ -75,19 +75,6 @@ TEST(Program, OffersImportInTheFirstWindow) {
   EXPECT_FALSE(program.readAllStandardError().contains("!file.Open")) << "Import is hidden";
 }
 
-TEST(Program, SaysWhyThereIsNoPicture) {
-  const TemporaryFolder folder;
-  for (const QString& picture : {QString("/no/such/folder/window.png"),
-                                 PathToQString(folder / "window.unknown"), QString("/dev/full")}) {
-    QProcess program;
-    program.start(kProgram, {"--app-folder", PathToQString(folder / "app"), "--language", "0x0409",
-                             "--screenshot", picture});
-    ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1) << picture.toStdString();
-    EXPECT_TRUE(program.readAllStandardError().contains(picture.toUtf8())) << picture.toStdString();
-  }
-}
-
 /// As that of a program which was killed a moment ago.
 TEST(Program, WaitsForAFolderThatIsLetGo) {
   const TemporaryFolder folder;
