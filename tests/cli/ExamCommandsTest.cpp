@@ -10,10 +10,6 @@ namespace fs = std::filesystem;
 
 class ExamCommands : public CommandLineTest {};
 
-Json OneQuestion(const Json& question) {
-  return {{"questions", {question}}};
-}
-
 TEST_F(ExamCommands, ShowGivesBackWhatWasBuilt) {
   WriteBytes(folder / "files/a.txt", "abc");
   WriteBytes(folder / "files/empty", "");
@@ -63,54 +59,6 @@ TEST_F(ExamCommands, ShowGivesBackWhatWasBuilt) {
   EXPECT_EQ(Shown()["truncated"], true);
 }
 
-TEST_F(ExamCommands, BuildTellsWhatIsDropped) {
-  WriteBytes(folder / "a.txt", "abc");
-  const Json longName = {{"path", "a.txt"}, {"name", std::string(129, 'n')}};
-  const auto question = [&](Json members) { return OneQuestion((members["text"] = "t", members)); };
-  const std::pair<Json, std::string> rows[] = {
-      {{{"title", std::string(256, 't')}}, ""},
-      {{{"title", std::string(257, 't')}}, "the title is cut from 257 to 256"},
-      {{{"boundaryQuestion", 12345}}, "boundary question 12345"},
-      {{{"attachments", {longName}}}, "name of an attached file"},
-      {question({{"kind", "FillIn"}, {"answerText", std::string(1025, 'x')}}), "the fill-in answer is cut"},
-      {question({{"kind", "Oral"}, {"options", {"", "b"}}}), "question 1: an option text is not kept"},
-      {question({{"essayAnswer", std::string("a\0b", 3)}, {"kind", "Essay"}}), "NUL"},
-      {question({{"kind", "Oral"}, {"oralFlag", 1}}), "oral flag"},
-      {OneQuestion({{"number", 5}, {"essayAnswer", "a"}}), "question 5: is not stored"}};
-  for (const auto& [exam, loss] : rows) {
-    const RunResult run = Build(exam);
-    EXPECT_EQ(run.status, 0);
-    EXPECT_NE(run.err.find(loss), std::string::npos) << run.err;
-    EXPECT_EQ(run.err.empty(), loss.empty()) << run.err;
-  }
-}
-
-TEST_F(ExamCommands, BuildNamesThePlaceOfAnError) {
-  WriteBytes(folder / "a.txt", "abc");
-  const auto check = [this](const std::string& json, const std::string& reason) {
-    SCOPED_TRACE(json);
-    WriteBytes(folder / "bad.json", json);
-    const RunResult run = Command({"build", Path("bad.json"), Path("bad.exm")});
-    ExpectFailure(run, reason);
-    EXPECT_NE(run.err.find("bad.json"), std::string::npos) << run.err;
-    EXPECT_FALSE(fs::exists(folder / "bad.exm"));
-  };
-  check("{\"title\":\n  }", "line 2, column 3");
-  check(R"({"title": 1})", "title must be a text");
-  check(R"({"scoreRanges": [{}, {"score": []}]})", "scoreRanges[1].score");
-  check(R"({"questions": [{}, {"kind": "Chioce"}]})",
-        "questions[1].kind must be Choice, FillIn, Essay or Oral");
-  check(R"({"questions": [{"number": 2}, {"number": 2}]})",
-        "questions[1] has the number of another question");
-  check(R"({"questions": [{"number": 0}]})", "questions[0] must have a number from 1 to 500");
-  check(R"({"questions": [{"options": ["", "", "", "", "", ""]}]})", "questions[0].options has more than 5");
-  check(R"({"attachments": [{"path": "a.txt"}, {"path": "b.txt"}]})", "attachments[1].path names no file");
-  ExpectFailure(Command({"build", Path("absent.json"), Path("bad.exm")}), "There is no such file");
-  ExpectFailure(Command({"build", folder.Path().string(), Path("bad.exm")}), "It is a folder");
-  WriteBytes(folder / "good.json", "{}");
-  ExpectFailure(Command({"build", Path("good.json"), Path("absent/good.exm")}), "cannot be written");
-}
-
 TEST_F(ExamCommands, UnpackStaysInItsFolder) {
   WriteBytes(folder / "a.txt", "exam's");
   WriteBytes(folder / "b/a.txt", "question's");
@@ -144,52 +92,12 @@ TEST_F(ExamCommands, UnpackStaysInItsFolder) {
   ExpectFailure(unpack("a.txt"), "a.txt");
 }
 
-TEST_F(ExamCommands, ShowIsReadable) {
-  WriteBytes(folder / "a.txt", "abc");
-  Build(Json::parse(R"({"title": "A title", "questions": [{"text": "What\u001b[2J is\r\nthis?",
-    "options": ["one"], "attachments": [{"path": "a.txt"}]}]})"));
-  const RunResult run = Command({"show", Path("exam.exm")});
-  for (const char* part : {"A title", "1. [Choice] What", "this?", "A. one", "attached: a.txt (3 bytes)"}) {
-    EXPECT_NE(run.out.find(part), std::string::npos) << part;
-  }
-  EXPECT_EQ(run.out.find('\x1b'), std::string::npos);
-  ExpectFailure(Command({"show", Path("absent.exm")}), "Open file " + Path("absent.exm") + " error!");
-}
-
 TEST_F(ExamCommands, NothingIsWrittenOverItsSourceOrBesideAnotherProgram) {
   Build({{"title", "Once"}});
   ExpectFailure(Command({"build", Path("exam.json"), Path("exam.json")}), "is the description itself");
   const auto lock = FolderLock::Take(folder.Path());
   ExpectFailure(Command({"show", Path("exam.exm"), "--app-folder", folder.Path().string()}),
                 "another program works in it");
-}
-
-TEST_F(ExamCommands, ExitStatusTellsWrongUsage) {
-  const auto check = [this](const std::vector<std::string>& arguments, int status) {
-    const RunResult run = Command(arguments);
-    EXPECT_EQ(run.status, status) << testing::PrintToString(arguments);
-    EXPECT_EQ(run.out.empty(), status != 0);
-    EXPECT_EQ(run.err.empty(), status == 0) << run.err;
-  };
-  check({}, 2);
-  check({"frobnicate"}, 2);
-  check({"show", "a", "--jsn"}, 2);
-  check({"show", "a", "--app-folder"}, 2);
-  const std::vector<std::string> empty[] = {{"show", ""},
-                                            {"--app-folder=", "show", "x"},
-                                            {"import", "a", "b", "--repository", ""},
-                                            {"score", "a", "b", "--mode", ""}};
-  for (const auto& arguments : empty) {
-    check(arguments, 2);
-    EXPECT_NE(Command(arguments).err.find("is empty"), std::string::npos)
-        << testing::PrintToString(arguments);
-  }
-  EXPECT_EQ(Json::parse(Command({"match", "", "--text", ""}, "not this").out)["groups"],
-            Json::parse("[[0, 0]]"));
-  for (const char* command : {"show", "build", "unpack", "edit"}) check({command, "--help"}, 0);
-  check({"--help"}, 0);
-  check({"--version"}, 0);
-  EXPECT_NE(Command({"shw", "x"}).err.find("unknown command \"shw\""), std::string::npos);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "EditorTest.h"
-#include "support/OrdinaryUser.h"
 
 namespace quorvantis::test {
 namespace {
@@ -112,27 +111,6 @@ TEST_F(ExamFileEditing, FailedSaveKeepsTheChange) {
             std::vector{u"[102 " + AsText(folder / "missing" / "x.exm") + u"]\n[1129 %s]"});
   EXPECT_TRUE(Modified());
   EXPECT_EQ(editor.state.FileName(), "UnTitle") << "the next save must not fail in the same way";
-}
-
-TEST_F(ExamFileEditing, AFolderMadeUnreadableMidwayIsToldBeforeASave) {
-  const fs::path app = world.services.applicationFolder, file = folder / "saved.exm";
-  for (const fs::path& place : {folder.Path(), app}) fs::permissions(place, fs::perms(0777));
-  WriteBytes(folder / "note.txt", "of the note");
-  const OrdinaryUser user;
-  editor.attachments.AttachQuestionFile(folder / "note.txt");
-  Change();
-  SaveAs(file);
-  const std::string before = ReadBytes(file);
-  fs::permissions(app / "~TEMP", fs::perms::none);
-  Type(FormField::Text, u"changed again");
-  world.dialogs.lossAnswer = LossAnswer::GoBack;
-  editor.files.SaveExam();
-  EXPECT_EQ(world.dialogs.losses.size(), 1u);
-  EXPECT_EQ(ReadBytes(file), before);
-  fs::permissions(app / "~TEMP", fs::perms::owner_all);
-  editor.files.SaveExam();
-  EXPECT_FALSE(Modified());
-  EXPECT_NE(ReadBytes(file).find("of the note"), std::string::npos);
 }
 
 TEST_F(ExamFileEditing, KeepsThePreviousVersion) {

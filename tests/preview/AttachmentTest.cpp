@@ -76,21 +76,6 @@ TEST_F(AttachmentTest, WhatIsMissingOrDamagedIsNamed) {
   SaveLook("missing");
 }
 
-TEST_F(AttachmentTest, FramesOfTheirOwn) {
-  Attach("a.wav", Silence());
-  Attach("clip.swf", "FWS");
-  std::string frames;
-  for (const char* name : {"gone.jpg", "gone.xyz", "a.wav", "clip.swf"}) {
-    frames += "<FRAME SRC=\"~TEMP/home/" + std::string(name) + "\">";
-  }
-  const auto page = previewFolder / "SEE.htm";
-  pages.Add(page, QString::fromStdString("<HTML><FRAMESET ROWS=\"*,*,*,*\">" + frames).toStdU16String());
-  Preview(page);
-  EXPECT_TRUE(Says("gone.jpg is gone") && Says("gone.xyz is gone") && Says("clip.swf needs Ruffle"))
-      << Said();
-  EXPECT_TRUE(Becomes("window.frames[2].document.querySelector('audio').readyState > 0"));
-}
-
 TEST_F(AttachmentTest, WithoutTheProgramsTheirNamesAreTold) {
   const QByteArray path = qgetenv("PATH");
   qputenv("PATH", "/nowhere");
@@ -106,14 +91,6 @@ TEST_F(AttachmentTest, WithoutTheProgramsTheirNamesAreTold) {
                            "a.avi needs ffmpeg", "a.wma needs ffmpeg", "a.swf needs Ruffle"}) {
     EXPECT_TRUE(Says(text)) << Said();
   }
-}
-
-TEST_F(AttachmentTest, TextsInTheEncodingTheyWereWrittenIn) {
-  Attach("gb.txt", "\xB4\xF2\xD3\xA1 <b>");
-  Attach("marked.txt", std::string("\xFF\xFES\x62\x70\x53", 6));
-  PreviewWith("<iframe src=\"~TEMP/home/gb.txt\"></iframe><iframe src=\"~TEMP/home/marked.txt\"></iframe>");
-  EXPECT_EQ(FrameText(), QString("打印 <b>"));
-  EXPECT_EQ(Evaluate("window.frames[1].document.body.innerText.trim()").toString(), QString("打印"));
 }
 
 TEST_F(AttachmentTest, SoundsPlayByThemselvesOnlyWhereThePageSaysSo) {

@@ -42,19 +42,9 @@ class ExamTest : public PreviewTest {
   }
 
   PosixFiles files;
-  RecordingWorld world{folder / "a~b" / "c~d", files};
-  ExamServices services{world.services.applicationFolder,
-                        world.services.strings,
-                        world.services.dialogs,
-                        world.services.codePage,
-                        world.services.debug,
-                        world.services.files,
-                        world.services.progress,
-                        world.services.longAnswerFlags,
-                        world.services.ids,
-                        world.services.registry,
-                        pages};
-  FrameSetExam exam{services};
+  InterruptedProgress progress;
+  RecordingWorld world{folder / "a~b" / "c~d", files, pages, progress};
+  FrameSetExam exam{world.services};
   int copies = 0;
 };
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/dialogs/AboutDlg.h"
 #include "desktop/dialogs/LanguageDlg.h"
 #include "desktop/start/QtLanguage.h"
 #include "platform/posix/PosixFiles.h"
@@ -7,8 +6,6 @@
 #include "support/TemporaryFolder.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -55,12 +52,6 @@ TEST_F(LanguageDialog, TakesASelectionAtOnceAndIgnoresEscape) {
   again.show();
   QTest::keyClick(&again, Qt::Key_Return);
   EXPECT_EQ(again.result(), QDialog::Accepted);
-}
-
-TEST(AboutDialog, HasItsOwnTextsWithoutALibrary) {
-  AboutDlg dialog(nullptr);
-  EXPECT_EQ(dialog.findChild<QLabel*>("line")->text(), "Quorvantis Verson 6.2");
-  EXPECT_EQ(dialog.findChild<QPushButton*>("ok")->text(), "OK");
 }
 
 TEST(QtLanguage, TurnsTheWindowsRound) {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/controls/QtText.h"
-#include "desktop/dialogs/QtProgress.h"
 #include "desktop/dialogs/QtUserDialogs.h"
 #include "support/TemporaryFolder.h"
 
@@ -131,17 +130,6 @@ TEST_F(UserDialogsTest, NothingIsLostByEnterOrEscape) {
     Press(key);
     EXPECT_EQ(dialogs.AskAboutLosses(question), LossAnswer::GoBack);
   }
-}
-
-TEST_F(UserDialogsTest, ProgressShowsAfterHalfASecondAndEndsWithTheWork) {
-  QtProgress progress;
-  progress.Report(1, 10);
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-  QTest::qSleep(600);
-  progress.Report(5, 10);
-  EXPECT_NE(QApplication::activeModalWidget(), nullptr);
-  QTest::qWait(50);
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 }  // namespace

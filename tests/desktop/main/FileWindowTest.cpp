@@ -56,15 +56,6 @@ TEST_F(FileWindow, SavedAsAndOpenedAgainTheExamIsTheSame) {
   EXPECT_TRUE(world.dialogs.questions.empty() && world.dialogs.errors.empty());
 }
 
-TEST_F(FileWindow, EscapeEndsWithoutAsking) {
-  for (const char* name : {"title", "questionText", "kindChoice", "boxA"}) {
-    OpenChanged();
-    Press(name, Qt::Key_Escape);
-    EXPECT_FALSE(window->isVisible()) << name;
-  }
-  EXPECT_TRUE(world.dialogs.questions.empty());
-}
-
 TEST_F(FileWindow, ADroppedExamIsOpened) {
   const auto sample = folder / "Other.EXM";
   FrameSetExam other(world.services);

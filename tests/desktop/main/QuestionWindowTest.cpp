@@ -46,16 +46,6 @@ TEST_F(QuestionWindow, ButtonsMoveAndShowQuestions) {
   }
 }
 
-TEST_F(QuestionWindow, PageKeysWalkFromAnyField) {
-  Open();
-  Press("questionText", Qt::Key_PageDown);
-  Press("title", Qt::Key_PageDown, Qt::ControlModifier);
-  EXPECT_EQ(Number(), "12");
-  Press("optionA", Qt::Key_PageUp);
-  Press("questionText", Qt::Key_PageUp, Qt::ControlModifier);
-  EXPECT_EQ(Number(), "1");
-}
-
 TEST_F(QuestionWindow, TheFocusNeverStaysInAFieldThatIsGone) {
   exam.Question(2).kind = QuestionKind::Essay;
   Open();
@@ -92,15 +82,6 @@ TEST_F(QuestionWindow, BoxesGiveTheAnswerAndMarkAtOnce) {
   EXPECT_EQ(Box("boxA"), Qt::Unchecked);
   EXPECT_EQ(exam.Question(1).answerLetters, u"ac");
   EXPECT_EQ(exam.Question(1).answerMask, 20);
-}
-
-TEST_F(QuestionWindow, AClickOnAGreyBoxTurnsItOff) {
-  exam.Question(1).answerMask = 32;
-  Open();
-  for (const auto state : {Qt::PartiallyChecked, Qt::Unchecked, Qt::Checked}) {
-    EXPECT_EQ(Box("boxA"), state);
-    Click("boxA");
-  }
 }
 
 TEST_F(QuestionWindow, SeparatorButtonPreparesTheNextAnswer) {

@@ -29,7 +29,6 @@ class RecoveryWindow : public WindowTest {
     return question;
   }
   std::size_t Copies() { return FindRecoveryCopies(services).copies.size(); }
-
 };
 
 TEST_F(RecoveryWindow, EscapeLosesNothing) {

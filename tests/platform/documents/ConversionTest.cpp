@@ -65,7 +65,7 @@ TEST_F(ConversionTest, FaultsOfTheWordProcessorLeaveEverythingAsItWas) {
     const WordWriteJob job{{u"text"}, target, WordFormat::Doc, isCancelled};
     EXPECT_EQ(OfficeWordWriter(files, programs).Write(job).result, written);
     EXPECT_EQ(ReadBytes(target), "old");
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "targets"), fs::directory_iterator()), 1);
+    EXPECT_EQ(CountEntries(folder / "targets"), 1);
   };
   check({}, WordResult::WordProcessorMissing, WordWriteResult::WordProcessorMissing);
   check({folder / "none", {}, 1s}, WordResult::WordProcessorMissing, WordWriteResult::WordProcessorMissing);

@@ -28,9 +28,7 @@ class ReplaceTest : public testing::Test {
     return commit && !pending->Commit();
   }
 
-  auto Entries() const {
-    return std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator());
-  }
+  auto Entries() const { return CountEntries(folder.Path()); }
 
   TemporaryFolder folder;
   PosixFiles files;

@@ -98,8 +98,6 @@ TEST(ExportCommand, AsksAboutOfficeProgramsAndTellsHowItWent) {
   EXPECT_EQ(writer.jobs.at(0).paragraphs.back(), u"2.t") << "counted anew";
   check({WordWriteResult::WordProcessorMissing}, {u"[104 %s]"});
   check({WordWriteResult::WordProcessorFailed}, {u"[1002 /x/a.doc]"});
-  check({WordWriteResult::TimedOut}, {u"[1060 /x/a.doc]"});
-  check({WordWriteResult::Cancelled}, {u"[1061 /x/a.doc]"});
   check({WordWriteResult::CannotWrite, "/tmp/b", std::make_error_code(std::errc::io_error)},
         {u"[1062 /tmp/b]"});
   EXPECT_EQ(world.dialogs.done.size(), 1U);

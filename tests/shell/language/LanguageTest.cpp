@@ -102,16 +102,6 @@ TEST_F(Languages, AreListedByFileName) {
   EXPECT_EQ(list.DisplayName(2), u"c.dLl") << "a name that can be selected";
 }
 
-TEST_F(Languages, FolderOfTheApplicationComesFirst) {
-  const TemporaryFolder program;
-  const std::filesystem::path beside = program / "language/Quorvantis";
-  EXPECT_EQ(LanguageFolder(module.Path(), program.Path()), folder) << "named when there is none";
-  std::filesystem::create_directories(beside);
-  EXPECT_EQ(LanguageFolder(module.Path(), program.Path()), beside);
-  std::filesystem::create_directories(folder);
-  EXPECT_EQ(LanguageFolder(module.Path(), program.Path()), folder);
-}
-
 TEST_F(Languages, StartUpRunsInOrder) {
   Add("a.dll", "1 First");
   Add("b.dll", "2 Second");
