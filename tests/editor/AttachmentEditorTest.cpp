@@ -44,12 +44,6 @@ TEST(WorkCopyNames, AreMadeOfFolderAndCounter) {
   }
 }
 
-TEST(WorkCopyNames, TellFilmsByTheirExtension) {
-  const std::pair<const char16_t*, int> rows[] = {{u"a.WMV", 1}, {u"b.c.swf", 1}, {u".mpeg", 1}, {u"avi", 0},
-                                                  {u"a.mpg", 0}, {u"a.asf.", 0},  {u"", 0}};
-  for (const auto& [name, expected] : rows) EXPECT_EQ(AttachmentEditor::IsVideoLike(name), expected);
-}
-
 TEST_F(Attaching, CopiesTheFileAtOnce) {
   const fs::path photo = MakeFile("photo.jpg", "picture");
   editor.attachments.AttachExamFile();  // the dialog is cancelled

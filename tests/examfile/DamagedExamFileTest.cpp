@@ -91,18 +91,5 @@ TEST_F(DamagedExamFile, NeverWritesOutsideTheWorkFolder) {
   EXPECT_EQ(ReadBytes(folder / "beside/victim"), "untouched");
 }
 
-TEST_F(DamagedExamFile, ShortensNamesThatNoFileSystemTakes) {
-  const std::u16string name = std::u16string(124, u'\u8A66') + u".doc";
-  const TypedFile rows[] = {{name, "one"}, {name, "two"}, {u"\u8A67" + name.substr(1), "three"}};
-  Read(Type(AllForms()[0], {.files = {std::begin(rows), std::end(rows)}}).bytes);
-  for (std::size_t i = 0; i < 3; ++i) {
-    const auto path = TextToPath(exam.examAttachmentPaths[i]);
-    EXPECT_EQ(path.parent_path(), work);
-    EXPECT_EQ(path.extension(), ".doc");
-    EXPECT_EQ(ReadBytes(path), rows[i].content);
-    EXPECT_EQ(exam.examAttachmentNames[i], rows[i].name);
-  }
-}
-
 }  // namespace
 }  // namespace quorvantis::test

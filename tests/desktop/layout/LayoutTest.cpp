@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/layout/Layout.h"
 #include "desktop/layout/SizeLimits.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdlib>
 #include <optional>
+#include <sstream>
+#include <string>
 #include <tuple>
 #include <utility>
 
 namespace quorvantis {
-
-void PrintTo(const PixelRect& rect, std::ostream* out) {
-  *out << rect.x << ',' << rect.y << ' ' << rect.width << 'x' << rect.height;
-}
 
 namespace {
 
@@ -30,59 +31,55 @@ LayoutInput Window() {
   return input;
 }
 
-using Place = std::optional<PixelRect>;
+void Tell(std::ostream& out, const std::optional<PixelRect>& place) {
+  if (place) out << "  " << place->x << ',' << place->y << ' ' << place->width << 'x' << place->height;
+  if (!place) out << "  -";
+}
+template <class Place, std::size_t kSize>
+void Tell(std::ostream& out, const std::array<Place, kSize>& row) {
+  for (const Place& place : row) Tell(out, place);
+}
+
+/// All places by their names, as in places.txt.
+std::string Told(const char* title, const LayoutPlaces& places) {
+  std::ostringstream out;
+  out << "# " << title << '\n';
+  const auto tell = [&](const char* name, const auto& place) { Tell(out << name, place), out << '\n'; };
+  tell("toolbar", places.toolbar);
+  tell("title", std::array{places.titleLabel, places.title, places.random});
+  tell("exam list", std::array{places.examAttachmentsLabel, places.examAttachments});
+  tell("question", std::array{places.questionArea, places.questionLabel, places.number});
+  tell("kinds", places.kinds);
+  tell("navigation", places.navigation);
+  tell("text", std::array<std::optional<PixelRect>, 3>{places.text, places.attachments, places.oralToggle});
+  tell("boxes", places.boxes);
+  tell("options", places.options);
+  tell("answer", std::array{places.answerLabel, places.answer, places.listSeparator});
+  tell("essay", std::array{places.essayLabel, places.essay});
+  return out.str();
+}
 
 TEST(Layout, GivesEachControlItsPlace) {
-  const LayoutPlaces choice = Layout(Window());
+  std::string told = Told("choice, and no files", Layout(Window()));
   LayoutInput input = Window();
   input.enabled[2] = false;
   input.examListVisible = input.questionListVisible = true;
   input.client.width = 873;  // 70 % of the title's room are 548.1, of the text's 555.1
-  const LayoutPlaces lists = Layout(input);
+  told += Told("with files, without Import", Layout(input));
   input = Window();
-  input.kind = QuestionKind::FillIn;
-  const LayoutPlaces fillIn = Layout(input);
-  input.kind = QuestionKind::Essay;
-  const LayoutPlaces essay = Layout(input);
+  for (const int kind : {1, 2, 3, 7}) {
+    input.kind = static_cast<QuestionKind>(kind);
+    told += Told(("kind " + std::to_string(kind)).c_str(), Layout(input));
+  }
   input = Window();
   input.questionLabel.height = 31;  // everything below gives way by one pixel
-  input.client.height = 340;
-  const LayoutPlaces low = Layout(input);
-  const std::pair<Place, Place> rows[] = {{choice.toolbar[0], {{10, 8, 90, 40}}},
-                                          {choice.toolbar[8], {{730, 8, 90, 40}}},
-                                          {lists.toolbar[2], {}},
-                                          {lists.toolbar[3], {{190, 8, 90, 40}}},
-                                          {choice.titleLabel, {{10, 72, 30, 16}}},
-                                          {choice.title, {{45, 68, 715, 20}}},
-                                          {choice.random, {{765, 68, 65, 20}}},
-                                          {choice.examAttachments, {}},
-                                          {lists.title, {{45, 68, 483, 20}}},
-                                          {lists.random, {{533, 68, 65, 20}}},
-                                          {lists.examAttachmentsLabel, {{603, 60, 60, 16}}},
-                                          {lists.examAttachments, {{668, 58, 174, 40}}},
-                                          {choice.questionArea, {{10, 105, 850, 560}}},
-                                          {choice.questionLabel, {{25, 128, 55, 16}}},
-                                          {choice.number, {{82, 128, 30, 20}}},
-                                          {choice.kinds[3], {{417, 120, 90, 30}}},
-                                          {choice.navigation[0], {{40, 158, 73, 28}}},
-                                          {low.navigation[6], {{478, 159, 73, 28}}},
-                                          {choice.text, {{40, 194, 790, 80}}},
-                                          {choice.attachments, {}},
-                                          {lists.text, {{40, 194, 555, 80}}},
-                                          {lists.attachments, {{600, 194, 237, 80}}},
-                                          {lists.oralToggle, {{600, 284, 120, 25}}},
-                                          {choice.boxes[0], {{40, 318, 30, 20}}},
-                                          {choice.options[4], {{80, 586, 760, 65}}},
-                                          {low.options[0], {{80, 287, 760, -1}}},  // -7 / 5 goes towards zero
-                                          {choice.answer, {}},
-                                          {fillIn.answerLabel, {{40, 286, 22, 16}}},
-                                          {fillIn.answer, {{40, 304, 790, 20}}},
-                                          {fillIn.listSeparator, {{795, 329, 30, 20}}},
-                                          {fillIn.options[0], {}},
-                                          {essay.essayLabel, {{40, 286, 22, 16}}},
-                                          {essay.essay, {{40, 304, 790, 349}}},
-                                          {Mirrored({10, 8, 90, 40}, 870), {{770, 8, 90, 40}}}};
-  for (const auto& [place, expected] : rows) EXPECT_EQ(place, expected);
+  input.client.height = 340;        // -7 / 5 goes towards zero
+  told += Told("a large font in a low window", Layout(input));
+  const char* const golden = QUORVANTIS_PROJECT "/tests/desktop/layout/places.txt";
+  if (std::getenv("QV_UPDATE_GOLDEN") != nullptr)
+    test::WriteBytes(golden, told);  // NOLINT(concurrency-mt-unsafe)
+  EXPECT_EQ(told, test::ReadBytes(golden));
+  EXPECT_EQ(Mirrored({10, 8, 90, 40}, 870), (PixelRect{770, 8, 90, 40}));
 }
 
 TEST(SizeLimits, GiveWayToASmallScreen) {

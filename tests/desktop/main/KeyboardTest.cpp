@@ -93,18 +93,6 @@ TEST_F(Keyboard, PageKeysScrollAFieldThatHoldsMoreThanItShows) {
   EXPECT_EQ(Number(), "11");
 }
 
-TEST_F(Keyboard, ThereIsNoHelpAndEnterDoesNotEndTheWindow) {
-  Open();
-  QKeyEvent help(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
-  QCoreApplication::sendEvent(window.get(), &help);
-  EXPECT_TRUE(help.isAccepted());
-  Control<QAbstractButton>("ok").click();
-  EXPECT_TRUE(window->isVisible());
-  EXPECT_EQ(Control("printAgain").size(), QSize(0, 0));
-  Control<QAbstractButton>("cancel").click();
-  EXPECT_FALSE(window->isVisible());
-}
-
 TEST_F(Keyboard, TheMenuOfTheWindowLeadsToTheAboutBox) {
   Open();
   QContextMenuEvent event(QContextMenuEvent::Mouse, {2, 2}, window->mapToGlobal(QPoint(2, 2)));
