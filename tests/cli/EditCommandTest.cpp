@@ -62,7 +62,6 @@ TEST_F(EditScripts, WorksInTheApplicationFolder) {
   EXPECT_TRUE(unpacked.starts_with(Path("app/TEMP/"))) << unpacked;
   EXPECT_FALSE(fs::exists(unpacked));
   EXPECT_TRUE(fs::exists(folder / "app"));
-  ExpectFailure(Command({"show", Path("exam.exm"), "--app-folder", Path("a.txt")}), "application folder");
 }
 
 }  // namespace

@@ -103,20 +103,6 @@ TEST_F(Attaching, TakesAnyFileNameAndItsFailures) {
   EXPECT_TRUE(world.dialogs.errors.empty());
 }
 
-TEST_F(Attaching, MarksEntriesWithoutACopy) {
-  using Marks = std::vector<bool>;
-  const ShownAttachments& list = editor.attachments.QuestionList();
-  editor.attachments.AttachQuestionFile(folder / "absent.txt");
-  editor.attachments.AttachQuestionFile(MakeFile("there.txt"));
-  EXPECT_EQ(list.missing, (Marks{true, false}));
-  editor.attachments.SelectQuestionFile(0);
-  editor.attachments.RemoveSelectedAttachment(AttachedTo::Question);
-  EXPECT_EQ(list.missing, Marks{false});
-  fs::remove_all(WorkRoot());
-  Show();
-  EXPECT_EQ(list.missing, Marks{true});
-}
-
 TEST_F(Attaching, RefusesTheEleventhFileSilently) {
   AttachmentEditor& attachments = editor.attachments;
   const fs::path file = MakeFile("x.txt");

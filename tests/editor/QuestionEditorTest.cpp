@@ -15,10 +15,9 @@ TEST_F(QuestionEditing, WalksWithinTheSlots) {
   using Step = void (QuestionEditor::*)();
   constexpr Step kNext = &QuestionEditor::GoNext, kPrevious = &QuestionEditor::GoPrevious;
   constexpr Step kForward = &QuestionEditor::GoForward10, kBack = &QuestionEditor::GoBack10;
-  const std::tuple<Step, int, int> rows[] = {{kNext, 1, 2},        {kNext, 499, 500},    {kNext, 500, 500},
-                                             {kPrevious, 2, 1},    {kPrevious, 1, 1},    {kForward, 489, 499},
-                                             {kForward, 495, 500}, {kForward, 500, 500}, {kBack, 12, 2},
-                                             {kBack, 5, 1},        {kBack, 1, 1}};
+  const std::tuple<Step, int, int> rows[] = {{kNext, 1, 2},        {kNext, 500, 500},    {kPrevious, 2, 1},
+                                             {kPrevious, 1, 1},    {kForward, 489, 499}, {kForward, 495, 500},
+                                             {kForward, 500, 500}, {kBack, 12, 2},       {kBack, 5, 1}};
   for (const auto& [step, from, to] : rows) {
     SCOPED_TRACE(testing::Message() << from << " to " << to);
     ShowQuestion(from);
@@ -184,7 +183,6 @@ TEST_F(QuestionEditing, InsertStoresFirstAndDeleteDoesNot) {
   editor.questions.DeleteHere();
   EXPECT_EQ(editor.questions.Form().text, u"first");
   EXPECT_EQ(exam.Question(2).text, u"second");
-
 }
 
 TEST_F(QuestionEditing, DeleteMovesTheBoundary) {

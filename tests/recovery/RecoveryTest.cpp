@@ -221,17 +221,6 @@ TEST_F(RecoveryTest, GoesOnlyWithASaveOrANo) {
   }
 }
 
-TEST_F(RecoveryTest, EachEditorHasItsOwnCopy) {
-  Type(FormField::Text, u"older");
-  keeper.Left(Parting::Leave);
-  Run second(world.services.applicationFolder);
-  second.editor.questions.EditField(FormField::Text, u"newer");
-  second.keeper.LookAndWait();
-  EXPECT_EQ(Copies().size(), 2u);
-  second.keeper.Left(Parting::GiveUp);
-  EXPECT_EQ(Restart()->editor.questions.Form().text, u"older");
-}
-
 TEST_F(RecoveryTest, DamagedCopiesAreKeptAside) {
   Attach("note.txt", "the note");
   Type(FormField::Text, u"text");

@@ -18,17 +18,6 @@ TEST(Template, FillsEveryKindOfPlace) {
   EXPECT_EQ(kAll(-7, u"%d <b>\\r", u'E', 7, 2.5F), u"-7|%d <b>\\r|E|007|2.50|%");
 }
 
-TEST(Template, KnowsTheEscapesOfLiterals) {
-  constexpr Template<> kEscapes{uR"(\r\n\t\\\\r "\\"" \\\r\n)"};
-  EXPECT_EQ(kEscapes(), u"\r\n\t\\\\r \"\\\"\" \\\r\n");
-}
-
-TEST(Template, FillsNumbersUpWithZeros) {
-  constexpr Template<int> kNumber{uR"(%03d)"};
-  EXPECT_EQ(kNumber(1000), u"1000");
-  EXPECT_EQ(kNumber(-5), u"-05");
-}
-
 /// Exams with lone LFs have lost these characters always.
 TEST(TextToHtml, TakesOneMoreCharacterWithEachLineEnd) {
   const std::pair<std::u16string_view, std::u16string_view> rows[] = {

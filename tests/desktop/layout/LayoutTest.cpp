@@ -76,8 +76,8 @@ TEST(Layout, GivesEachControlItsPlace) {
   input.client.height = 340;        // -7 / 5 goes towards zero
   told += Told("a large font in a low window", Layout(input));
   const char* const golden = QUORVANTIS_PROJECT "/tests/desktop/layout/places.txt";
-  if (std::getenv("QV_UPDATE_GOLDEN") != nullptr)
-    test::WriteBytes(golden, told);  // NOLINT(concurrency-mt-unsafe)
+  const char* const update = std::getenv("QV_UPDATE_GOLDEN");  // NOLINT(concurrency-mt-unsafe)
+  if (update != nullptr) test::WriteBytes(golden, told);
   EXPECT_EQ(told, test::ReadBytes(golden));
   EXPECT_EQ(Mirrored({10, 8, 90, 40}, 870), (PixelRect{770, 8, 90, 40}));
 }
