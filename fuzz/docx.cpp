@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Feeds any bytes to the reader of packages, as the main part, the lists or a picture of one, or as the
 // package itself: the first byte tells which. What is read must hold together.
+#include "Require.h"
 #include "platform/documents/CompoundFile.h"
 #include "platform/documents/DocxReader.h"
 #include "platform/documents/PictureDecoder.h"
 #include "support/TemporaryFolder.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <zip.h>
 
@@ -21,10 +21,6 @@ constexpr std::string_view kLists =
 constexpr std::string_view kListed =
     R"(<document><body><p><pPr><numPr><ilvl val="0"/><numId val="1"/></numPr></pPr></p><p><pPr><numPr>)"
     R"(<ilvl val="1"/><numId val="1"/></numPr></pPr></p><p><pPr><pStyle val="A"/></pPr></p></body></document>)";
-
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
 
 void RequireSound(const WordText& text, std::size_t pictures) {
   std::size_t last = 0;

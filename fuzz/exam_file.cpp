@@ -4,13 +4,13 @@
 //
 // An input is run-length coded, since exam files are mostly zeros: a byte 00 is followed by a count, and
 // stands for 16 times that many zero bytes; every other byte stands for itself.
+#include "Require.h"
 #include "examfile/ExamFileReader.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -30,10 +30,6 @@ std::string ExpandZeros(const std::uint8_t* data, std::size_t size) {
     }
   }
   return bytes;
-}
-
-void Require(bool condition) {
-  if (!condition) std::abort();
 }
 
 bool SameQuestion(const ExamQuestion& a, const ExamQuestion& b) {

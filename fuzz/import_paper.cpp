@@ -4,6 +4,7 @@
 //
 // An input is UTF-8; the rules come first, each ended by a line feed, in the order of kRules. The rest is the
 // paper.
+#include "Require.h"
 #include "import/QuestionTextParser.h"
 #include "import/TextMarking.h"
 #include "model/AnswerLetters.h"
@@ -11,7 +12,6 @@
 #include "text/Utf.h"
 
 #include <chrono>
-#include <cstdlib>
 
 namespace {
 
@@ -29,10 +29,6 @@ constexpr std::u16string ImportSettings::*kRules[] = {&ImportSettings::m_strPatt
                                                       &ImportSettings::m_strChoiceAnswerPattern,
                                                       &ImportSettings::m_strJudgementAnswer,
                                                       &ImportSettings::m_strJudgementAnswerPattern};
-
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
 
 }  // namespace
 

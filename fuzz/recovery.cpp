@@ -6,22 +6,12 @@
 #include "recovery/RecoveryFile.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
+#include "support/UnseenView.h"
 
 #include <cstdint>
 #include <cstdlib>
 
-namespace {
-
 using namespace quorvantis;
-
-class UnseenView : public EditorView {
-  void FormLoaded() override {}
-  void FormChanged() override {}
-  void TitleChanged() override {}
-  void PostContentChanged() override {}
-};
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const test::TemporaryFolder folder;
@@ -32,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   FrameSetExam exam(world.services);
   const auto place = ReadSnapshot(bytes, exam);
   if (!place) return 0;
-  UnseenView view;
+  test::UnseenView view;
   ExamEditor editor(exam, view, nullptr);
   editor.state.currentQuestion = place->currentQuestion;
   editor.questions.LoadCurrentQuestion();

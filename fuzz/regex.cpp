@@ -3,22 +3,18 @@
 // replaced, a search from where that is enough must find what one from the first unit finds.
 //
 // The first byte holds the flags, then comes the pattern as UTF-8 up to a byte FF, then the text.
+#include "Require.h"
 #include "regex/RegexFlags.h"
 #include "regex/RegexPattern.h"
 #include "text/Utf.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 namespace {
 
 using namespace quorvantis;
-
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
 
 void CheckBounds(const MatchResult& result, int length) {
   if (!result.IsMatched()) return;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Takes any bytes for a settings file ("system.ini", "ImportExam.ini"), in UTF-8, UTF-16 or an 8-bit code
 // page. Nothing may crash, and a value that is set is read back while every other value stays.
+#include "Require.h"
 #include "import/ExamImport.h"
 #include "ini/ProfileFile.h"
 #include "shell/settings/CodePageChoice.h"
@@ -9,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 namespace {
 
@@ -20,10 +20,6 @@ constexpr std::u16string_view kKey = u"CodePage";
 constexpr std::u16string_view kOtherKey = u"Backup";
 constexpr std::u16string_view kNewValue = u"936";
 constexpr std::size_t kTriedRepositories = 5;
-
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
 
 void ChangeOneValue(const std::filesystem::path& path, const CodePage& codePage) {
   ProfileFile file(path, &codePage);

@@ -25,9 +25,7 @@ class Ending : public CommandLineTest {
     Command({"edit"}, script);
     std::abort();
   }
-  auto Entries() const {
-    return std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator());
-  }
+  auto Entries() const { return CountEntries(folder.Path()); }
 };
 
 TEST_F(Ending, LeavesTheOldExamOrTheNewOne) {

@@ -2,8 +2,6 @@
 #include "CommandLineTest.h"
 #include "support/DocxBuilder.h"
 
-#include <fstream>
-
 namespace quorvantis::test {
 namespace {
 
@@ -17,11 +15,6 @@ const std::string kPixelPng(
     "ch\0\0\0\x82\0\x81w\xcdr\xb6\0\0\0\0IEND\xae"
     "B`\x82",
     67);
-
-std::string ReadText(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 std::string WithoutEndBreaks(std::string text) {
   return text.erase(text.find_last_not_of("\r\n") + 1);
@@ -73,7 +66,7 @@ std::string TakeBlock(const std::string& page, const std::string& name, std::siz
 }
 
 TEST_F(ImportCommand, ReadsTheExamplesOfTheManual) {
-  const std::string page = ReadText(kProject / "docs" / "IMPORT-RULES.md");
+  const std::string page = ReadBytes(kProject / "docs" / "IMPORT-RULES.md");
   int examples = 0;
   for (std::size_t at = 0;; ++examples) {
     const std::string rules = TakeBlock(page, "ini", at);
@@ -110,122 +103,6 @@ TEST_F(ImportCommand, ReadsTheSamplePapers) {
     EXPECT_TRUE(Questions().starts_with(row.first)) << Questions();
     EXPECT_EQ(Questions().find("====="), std::string::npos);
   }
-}
-
-TEST_F(ImportCommand, TellsWhatWasNotRecognised) {
-  const RunResult run = Import("#####Q;q1A;BQ;lost\nQ;2A;x",
-                               {"--repository", "#0", "--marked", Path("m"), "--text", Path("t")});
-  EXPECT_EQ(
-      run.out,
-      "2 questions read: 1 choice, 0 true/false, 0 fill-in, 1 essay.\n"
-      "1 part of the paper was left out because the rule \"PreAnswer\" matched nothing there; it begins: "
-      "lost\n"
-      "The paper itself holds \"#####\", which import takes for a mark of its own.\n");
-  EXPECT_EQ(ReadText(folder / "m"), "#####!!!!!q1@@@@@B!!!!!lost\n!!!!!2@@@@@x");
-  EXPECT_EQ(ReadText(folder / "t"), "#####Q;q1A;BQ;lost\nQ;2A;x");
-}
-
-TEST_F(ImportCommand, FailsWithOneLineAndWritesNothing) {
-  const auto refused = [this](const std::string& reason, const std::string& rules,
-                              std::vector<std::string> more) {
-    SCOPED_TRACE(reason);
-    WriteBytes(folder / "rules.ini", rules);
-    ExpectFailure(Import("Q;a.bmpA;b.bmp", std::move(more)), reason);
-    EXPECT_FALSE(fs::exists(folder / "exam.exm"));
-  };
-  const std::string good = Rules("Q;", ".+");
-  refused("\"PreQuestion\" in ImportExam.ini never comes to an end", Rules("Q?", ".+"),
-          {"--repository", "#0"});
-  refused("no repository begins with \"x\"; it has \"Math\", \"math2\"", good, {"--repository", "x"});
-  refused("section 1 needs the keys", good, {"--repository", "Math"});  // the later one is found first
-  refused("section 3 needs the keys", good, {"--repository", "#3"});
-  refused("absent.exm: cannot be opened", good,
-          {"--repository", "#0", "--into", Path("absent.exm"), "--after", "1"});
-  ExpectFailure(Command({"import", Path("a.doc"), Path("b"), "--repository", "#0"}), "There is no such file");
-  WriteBytes(folder / "a.doc", "");
-  ExpectFailure(
-      Command({"import", Path("a.doc"), Path("b"), "--rules", Path("rules.ini"), "--repository", "#0"}),
-      "a.doc: is no document that can be imported");
-  EXPECT_EQ(Import("x", {"--repository", "#0", "--after", "1"}).status, 2);
-  EXPECT_EQ(Import("x", {"--repository", "#0", "--into", Path("in.exm"), "--after", "0x10"}).status, 2);
-  refused("exam.exm: cannot be written twice", good, {"--repository", "#0", "--text", Path("./exam.exm")});
-  WriteBytes(folder / "rules.ini", "[Repository]\nSize=2000000000\n" + good.substr(20));
-  ExpectFailure(Import("x", {"--repository", "x"}), "it has \"Math\", \"math2\"\n");
-}
-
-TEST_F(ImportCommand, ContinuesAnExam) {
-  Json questions;
-  WriteBytes(folder / "file", "x");
-  for (const char* text : {"one", "two", "three", "four", "five"}) {
-    questions.push_back({{"text", text}, {"kind", "Essay"}, {"essayAnswer", "old"}});
-  }
-  questions[2]["attachments"] = {{{"path", "file"}}};
-  WriteBytes(folder / "in.json", Json({{"questions", questions}}).dump());
-  EXPECT_EQ(Command({"build", Path("in.json"), Path("in.exm")}).status, 0);
-  EXPECT_EQ(Import("Q;newA;B", {"--repository", "#0", "--into", Path("in.exm"), "--after", "2"}).out,
-            "1 question read: 0 choice, 0 true/false, 0 fill-in, 1 essay.\n"
-            "It is question 3 of the exam.\n"
-            "A question that was there before and is replaced or gone: 4.\n"
-            "Files of earlier questions are still attached to question 3.\n");
-  // The slot after the imported ones gets what the first of them held.
-  EXPECT_EQ(Questions(), "essay: one old\nessay: two old\nessay: new B\nessay: three old\nessay: five old\n");
-}
-
-TEST_F(ImportCommand, AsksAboutPicturesInAnswers) {
-  const std::string paper = "Q;firstA;1.bmpQ;see ../../x.bmp 2.bmpA;bQ;thirdA;3.bmp";
-  EXPECT_NE(Import(paper).err.find("question 2: the attached file ../../x.bmp is gone"), std::string::npos);
-  EXPECT_EQ(Questions(),
-            "essay: first 1.bmp\nessay: see ../../x$$ 2$$ b\n"
-            "essay: third 3.bmp(Can not show the picture)\n");
-  EXPECT_EQ(Shown()["questions"][1]["attachments"][0]["name"], "../../x.bmp");
-  Import(paper, {"--repository", "#0", "--answer-pictures", "ignore"});
-  EXPECT_EQ(Questions(), "essay: first 1.bmp\nessay: see ../../x$$ 2$$ b\n");
-  const RunResult forced = Import(paper, {"--repository", "#0", "--answer-pictures", "force"});
-  EXPECT_NE(forced.err.find("1,3,The answer in the exam have pictures,can not display"), std::string::npos);
-  ExpectFailure(Import(paper, {"--repository", "#0", "--answer-pictures", "give-up", "--text", Path("t"),
-                               "--marked", Path("m")}),
-                "given up");
-  EXPECT_EQ(ReadText(folder / "t"), paper);
-  EXPECT_EQ(ReadText(folder / "m").substr(0, 20), "!!!!!first@@@@@1.bmp");
-}
-
-TEST_F(ImportCommand, WritesItsTextsWhenARuleFails) {
-  WriteBytes(folder / "rules.ini", Rules("Q;", ".+") + "[2]\nPattern=x\nPreQuestion=Q;\nPreAnswer=@|A;\n");
-  ExpectFailure(Import("Q;aA;b", {"--repository", "#2", "--text", Path("t"), "--marked", Path("m")}),
-                "\"PreAnswer\" in ImportExam.ini never comes to an end");
-  EXPECT_EQ(ReadText(folder / "t"), "Q;aA;b");
-  EXPECT_NE(ReadText(folder / "m").find('@'), std::string::npos);
-}
-
-TEST_F(ImportCommand, KeepsLongAnswersWhole) {
-  WriteBytes(folder / "rules.ini", Rules("Q;", "(?<Q2>.+)"));
-  const auto lengths = [this](std::size_t length) {
-    const RunResult run = Import("Q;a___A;" + std::string(length, 'x'));
-    return std::pair(run.err, Shown()["questions"][0]["answerText"].get<std::string>().size());
-  };
-  EXPECT_EQ(lengths(400), std::pair(std::string(), std::size_t{400}));
-  const auto [told, kept] = lengths(2000);
-  EXPECT_EQ(kept, 1024U);
-  EXPECT_NE(told.find("from 2000 to 1024 characters"), std::string::npos) << told;
-  EXPECT_EQ(told.find("256"), std::string::npos) << told;
-}
-
-TEST_F(ImportCommand, TellsOfAnswersThatGoByOrder) {
-  const auto told = [this](const std::string& key) {
-    WriteBytes(folder / "rules.ini",
-               "[Repository]\nSize=1\n[0]\nPreQuestion=Q;\nPreAnswer=A;\nPattern=(?<Q1>[^Q]+)\n"
-               "PreAllAnswer=Key\nChoiceAnswerPattern=[$]{5}.*\nChoiceAnswer=(?<=[.-])[A-E]\n");
-    const std::string out = Import("Q;aQ;bQ;cKey " + key).out;
-    const std::size_t at = out.find("the answer with number");
-    return at == std::string::npos ? "" : out.substr(at + 16, out.find(" of the paper", at) - at - 16);
-  };
-  EXPECT_EQ(told("1.A 2.B 3.C"), "");
-  EXPECT_EQ(told("7.A 8.B 9.C"), "");
-  EXPECT_EQ(told("1.A1.B2.C"), "");
-  EXPECT_EQ(told("1-3-A-B-C"), "");
-  EXPECT_EQ(told("1.A 3.B 2.C"), "number 3 went to question 2");
-  EXPECT_EQ(told("1.A 2.B 4.C"), "number 4 went to question 3");
-  EXPECT_EQ(told("2.A 3.B"), "number 2 went to question 1");
 }
 
 TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
@@ -267,7 +144,7 @@ TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
 
 TEST_F(ImportCommand, CanBeUndone) {
   fs::create_directory(folder / "app");
-  WriteBytes(folder / "app" / "ImportExam.ini", ReadText(folder / "rules.ini"));
+  WriteBytes(folder / "app" / "ImportExam.ini", ReadBytes(folder / "rules.ini"));
   WriteBytes(folder / "file.bin", "bytes");
   const Json file = {{{"path", "file.bin"}}};
   Build({{"title", "T"},
@@ -290,32 +167,11 @@ TEST_F(ImportCommand, CanBeUndone) {
     EXPECT_NE(outcome(import + answers + "\n").second, untouched.second) << answers;
   }
   EXPECT_EQ(outcome(import + "new\nnext\ntext more\nundo-import\n"), untouched);
+  EXPECT_EQ(outcome(import + "continue pictures ignore\n").first["currentQuestion"], 4);
+  ExpectFailure(Command({"edit"}, "import a b c\n"), "continue or new");
   const RunResult late =
       Command({"edit", "--app-folder", Path("app")}, import + "\nreply no\nnew\nundo-import\n");
   EXPECT_NE(late.err.find("standard input:4: there is no import to undo"), std::string::npos) << late.err;
-}
-
-TEST_F(ImportCommand, IsALineOfEditScripts) {
-  fs::create_directory(folder / "app");
-  WriteBytes(folder / "app" / "ImportExam.ini", ReadText(folder / "rules.ini"));
-  WriteBytes(folder / "paper.txt", "Q;q1A;BQ;2A;x.bmp");
-  const std::string line = "import " + Path("paper.txt") + " #0";
-  const auto state = [&](const std::string& script) {
-    const RunResult run = Command({"edit", "--app-folder", Path("app")}, script + "\nstate\n");
-    EXPECT_EQ(run.status, 0) << run.err;
-    return Json::parse(run.out);
-  };
-  const Json fresh = state("text typed\n" + line);
-  EXPECT_EQ(fresh["currentQuestion"], 2);
-  EXPECT_EQ(fresh["form"]["text"], "2");
-  EXPECT_TRUE(fresh["modified"]);
-  EXPECT_EQ(state(line + "\nnext\ntext typed\n")["windowTitle"], "Quorvantis - UnTitle");
-  EXPECT_EQ(state("text typed\n" + line + "\nnext")["form"]["text"], "typed");
-  EXPECT_EQ(state("next\n" + line + " continue pictures ignore")["currentQuestion"], 3);
-  const Json gone = state("next\ntext two\nnext\nprev\n" + line + " continue pictures give-up");
-  EXPECT_EQ(gone["form"]["text"], "two");
-  EXPECT_FALSE(gone["modified"]);
-  ExpectFailure(Command({"edit"}, "import a b c\n"), "continue or new");
 }
 
 }  // namespace

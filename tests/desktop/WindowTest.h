@@ -76,20 +76,10 @@ class WindowTest : public testing::Test {
 
   TemporaryFolder folder;
   PosixFiles files;
-  RecordingWorld world{folder.Path() / "app", files};
   QtProgress progress;
   ComposedPages pages;
-  ExamServices services{world.services.applicationFolder,
-                        world.strings,
-                        world.dialogs,
-                        world.codePage,
-                        world.debug,
-                        files,
-                        progress,
-                        world.longAnswerFlags,
-                        world.ids,
-                        world.registry,
-                        pages};
+  RecordingWorld world{folder.Path() / "app", files, pages, progress};
+  ExamServices& services = world.services;
   FrameSetExam exam{services};
   OfficeWordDocuments documents;
   PaperDocuments papers{services.codePage, documents};

@@ -98,6 +98,7 @@ TEST_F(SavingCheckTest, AsksWhoWantsToSaveAndChangesNothingBefore) {
       world.dialogs.lossAnswer = row.loss;
       world.dialogs.losses.clear();
       EXPECT_EQ(command(), row.goesOn);
+      EXPECT_EQ(world.dialogs.questions.back(), u"[105 " + AsText(file) + u"]");
       EXPECT_EQ(!world.dialogs.losses.empty(), row.asksAboutLosses);
       EXPECT_TRUE(row.goesOn || isAsItWas());
       editor.files.StartNewExam();

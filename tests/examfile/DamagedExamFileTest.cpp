@@ -64,24 +64,6 @@ TEST_F(DamagedExamFile, MayShrinkWhileItIsRead) {
   EXPECT_LT(std::filesystem::file_size(work / "a.doc"), 1'000'000U);
 }
 
-TEST_F(DamagedExamFile, SurvivesAnyNumber) {
-  for (const Form& form : AllForms()) {
-    SCOPED_TRACE(form.name);
-    const ExamBytes typed = Small(form);
-    for (std::size_t i = 0; i < typed.numbers.size(); ++i) {
-      for (const std::u16string_view number : {u"-1", u"9999", u"x", u"", u"4294967296"}) {
-        SCOPED_TRACE(testing::Message() << "number " << i << " is " << testing::PrintToString(number));
-        Read(typed.WithNumber(i, number));
-        ASSERT_LE(world.dialogs.warnings.size(), 1u);
-        ASSERT_TRUE(exam.questionCount >= 0 && exam.questionCount <= 500);
-        ASSERT_TRUE(form.fileName == 0 || exam.title == u"title");
-        ASSERT_EQ(Surroundings(), kUntouched);
-      }
-      ExpectUsable(form, typed.bytes);
-    }
-  }
-}
-
 TEST_F(DamagedExamFile, NeverWritesOutsideTheWorkFolder) {
   const std::pair<std::u16string, std::string> rows[] = {
       {u"../../x", "x"},   {u"/etc/passwd", "passwd"},
@@ -107,19 +89,6 @@ TEST_F(DamagedExamFile, NeverWritesOutsideTheWorkFolder) {
   EXPECT_FALSE(std::filesystem::is_symlink(work));
   EXPECT_EQ(Surroundings(), kUntouched);
   EXPECT_EQ(ReadBytes(folder / "beside/victim"), "untouched");
-}
-
-TEST_F(DamagedExamFile, ShortensNamesThatNoFileSystemTakes) {
-  const std::u16string name = std::u16string(124, u'\u8A66') + u".doc";
-  const TypedFile rows[] = {{name, "one"}, {name, "two"}, {u"\u8A67" + name.substr(1), "three"}};
-  Read(Type(AllForms()[0], {.files = {std::begin(rows), std::end(rows)}}).bytes);
-  for (std::size_t i = 0; i < 3; ++i) {
-    const auto path = TextToPath(exam.examAttachmentPaths[i]);
-    EXPECT_EQ(path.parent_path(), work);
-    EXPECT_EQ(path.extension(), ".doc");
-    EXPECT_EQ(ReadBytes(path), rows[i].content);
-    EXPECT_EQ(exam.examAttachmentNames[i], rows[i].name);
-  }
 }
 
 }  // namespace

@@ -51,21 +51,10 @@ class ExamBytes {
   }
   ExamBytes& Reserved(std::size_t width) { return Raw(std::string(Size(width), filler_)); }
   ExamBytes& Text(std::u16string_view text, std::size_t width) { return Raw(Field(text, Size(width))); }
-  ExamBytes& Number(std::u16string_view text, std::size_t width) {
-    numbers.emplace_back(bytes.size(), Size(width));
-    return Text(text, width);
-  }
-
-  /// The file with another text in one of its number fields.
-  std::string WithNumber(std::size_t index, std::u16string_view text) const {
-    const auto [offset, size] = numbers[index];
-    return std::string(bytes).replace(offset, size, Field(text, size));
-  }
 
   std::string bytes;
-  std::vector<std::pair<std::size_t, std::size_t>> numbers;  ///< offset and size of every number field
-  std::vector<std::size_t> ends;                             ///< of every field
-  std::vector<std::size_t> questionEnds;                     ///< of every question's record
+  std::vector<std::size_t> ends;          ///< of every field
+  std::vector<std::size_t> questionEnds;  ///< of every question's record
 
  private:
   std::size_t Size(std::size_t width) const { return units_ == Units::Wide ? 2 * width : width; }
@@ -118,20 +107,20 @@ struct TypedExam {
 inline ExamBytes Type(const Form& form, const TypedExam& exam, char filler = '7') {
   ExamBytes bytes(form.units, filler);
   const auto typeFiles = [&](const std::vector<TypedFile>& files, std::string_view oralFlag) {
-    bytes.Number(Digits(files.size()), 4);
+    bytes.Text(Digits(files.size()), 4);
     for (const TypedFile& file : files) {
       bytes.Text(file.name, form.fileName).Raw(&file == &files[0] ? oralFlag : "");
-      bytes.Number(file.size, 16).Raw(file.content);
+      bytes.Text(file.size, 16).Raw(file.content);
     }
   };
   bytes.Raw(form.start).Text(form.titleStart + exam.title, 256);
-  bytes.Number(Digits(exam.questions.size()), 4).Number(u"2", 4).Number(u"1", 4);
+  bytes.Text(Digits(exam.questions.size()), 4).Text(u"2", 4).Text(u"1", 4);
   for (std::size_t i = 1; i <= 10; ++i) {
     const std::size_t first = exam.shortNumbers ? 1 : i, last = exam.shortNumbers ? 2 : i + 50;
-    bytes.Number(Digits(first), 4).Number(Digits(last), 4).Number(exam.score, form.current ? 7 : 4);
+    bytes.Text(Digits(first), 4).Text(Digits(last), 4).Text(exam.score, form.current ? 7 : 4);
   }
   if (form.fileName > 0) {
-    bytes.Number(u"7", 4).Reserved(1020);
+    bytes.Text(u"7", 4).Reserved(1020);
     typeFiles(exam.files, "");
   }
   for (const TypedQuestion& question : exam.questions) {
@@ -140,7 +129,7 @@ inline ExamBytes Type(const Form& form, const TypedExam& exam, char filler = '7'
     bytes.Text(question.letters, 16)
         .Text(question.answer, 256)
         .Text(question.essay, 4096)
-        .Number(question.kind, 4);
+        .Text(question.kind, 4);
     if (form.fileName > 0) {
       bytes.Reserved(64);
       typeFiles(question.files, form.units == Units::Wide ? question.oralFlag : "");

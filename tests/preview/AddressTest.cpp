@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Files as addresses, and addresses as files.
+// Files as addresses, addresses as files, and which files are served.
 #include "preview/AttachedText.h"
-#include "preview/FileKind.h"
 #include "preview/PageAddress.h"
 #include "preview/RequestGuard.h"
+#include "preview/ServedFiles.h"
 #include "preview/SourceEscapes.h"
+#include "support/TemporaryFolder.h"
 #include "text/PathText.h"
 
 #include <gtest/gtest.h>
@@ -61,15 +62,6 @@ TEST(SourceEscapes, SourcesBecomeAddressesAndBringTheirNames) {
   EXPECT_EQ(Escaped(u"src=\"~T/\xDCFF.gif\"", "\xFF.gif"), u"src=\"/~T/%FF.gif\"" + name);
 }
 
-TEST(SourceEscapes, TheRestStays) {
-  for (const std::u16string_view page :
-       {u"", u"src=", u"src=\"", u"src=\"a#b", u"src=a#b src=\"plain.jpg\"", u"src=\"a%20b.jpg\"",
-        u"src=\\\"a#b", u"the source=\"~T/a\" href=\"~T/a\""}) {
-    EXPECT_EQ(Escaped(page, "other"), page);
-  }
-  EXPECT_EQ(Escaped(u"the href=\"~T/a\"", "a"), u"the href=\"~T/a\"");
-}
-
 TEST(AttachedText, TheEncodingIsFound) {
   EXPECT_EQ(DecodeAttachedText("plain \xE6\x89\x93"), QString("plain 打"));
   EXPECT_EQ(DecodeAttachedText("\xEF\xBB\xBF\xE6\x89\x93"), QString("打"));
@@ -78,11 +70,50 @@ TEST(AttachedText, TheEncodingIsFound) {
   EXPECT_EQ(DecodeAttachedText(""), QString());
 }
 
-TEST(FileKind, GoesByTheLastDot) {
-  EXPECT_EQ(KindOf("/a.doc/x.y.JPG"), FileKind::Picture);
-  EXPECT_EQ(KindOf("/a/report.DocX"), FileKind::Document);
-  EXPECT_EQ(KindOf("/a.doc/passwd"), FileKind::Other);
-  EXPECT_EQ(KindOf("/a/x."), FileKind::Other);
+namespace fs = std::filesystem;
+
+struct ServedFilesTest : testing::Test {
+  TemporaryFolder folder;
+  fs::path app = fs::canonical(folder.Path()) / "app";
+  ServedFiles files{app};
+
+  fs::path Make(const fs::path& relative) { return WriteBytes(app / relative, "x"); }
+};
+
+TEST_F(ServedFilesTest, WorkFoldersAndNothingBesideThem) {
+  for (const char* name : {"TEMP/ExamPreview/~tt/a", "~TEMP/a", "~BrelmStudent/ID1/SEE.htm"}) {
+    EXPECT_EQ(files.Find(Make(name)), app / name);
+  }
+  for (const char* name : {"system.ini", "TEMPORARY/a", "~TEMP2/a", "other/TEMP/a"}) {
+    EXPECT_EQ(files.Find(Make(name)), std::nullopt) << name;
+  }
+  EXPECT_EQ(files.Find(app / "~TEMP"), std::nullopt) << "a folder is no file";
+  EXPECT_EQ(files.Find("/etc/passwd"), std::nullopt);
+}
+
+TEST_F(ServedFilesTest, DotsAndLinksLeadNowhere) {
+  Make("~TEMP/a");
+  Make("system.ini");
+  EXPECT_EQ(files.Find(app / "~TEMP" / ".." / "system.ini"), std::nullopt);
+  EXPECT_EQ(files.Find(app / "~TEMP" / ".." / "~TEMP" / "a"), app / "~TEMP" / "a");
+  fs::create_symlink("/etc/passwd", app / "~TEMP" / "link");
+  fs::create_directory_symlink("/etc", app / "~TEMP" / "etc");
+  fs::create_directory_symlink("/etc", app / "TEMP");
+  EXPECT_EQ(files.Find(app / "~TEMP" / "link"), std::nullopt);
+  EXPECT_EQ(files.Find(app / "~TEMP" / "etc" / "passwd"), std::nullopt);
+  EXPECT_EQ(files.Find(app / "TEMP" / "passwd"), std::nullopt);
+}
+
+TEST_F(ServedFilesTest, RelativeAddressesMeanThePageFolderFirst) {
+  files.SetPageFolder(app / "TEMP" / "ExamPreview");
+  Make("~TEMP/a");
+  EXPECT_EQ(files.Find(app / "TEMP/ExamPreview/~TEMP/a"), app / "~TEMP/a");
+  Make("TEMP/ExamPreview/~TEMP/a");
+  EXPECT_EQ(files.Find(app / "TEMP/ExamPreview/~TEMP/a"), app / "TEMP/ExamPreview/~TEMP/a");
+  // The page on paper lies in the application folder and names files of an opened exam by their own folder.
+  files.SetPageFolder(app);
+  Make("TEMP/ExamPreview/~tt/b");
+  EXPECT_EQ(files.Find(app / "~tt/b"), app / "TEMP/ExamPreview/~tt/b");
 }
 
 }  // namespace

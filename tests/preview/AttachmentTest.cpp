@@ -30,12 +30,6 @@ class AttachmentTest : public PreviewTest {
   }
 };
 
-TEST_F(AttachmentTest, PicturesByRelativeAddressBesideTheApplication) {
-  Attach("a.bmp", SmallBitmap());
-  PreviewWith("<img src=\"~TEMP/home/a.bmp\" ></img><br>");
-  EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
-}
-
 TEST_F(AttachmentTest, PicturesOfAnOpenedExamOnTheScreenAndOnPaper) {
   WriteBytes(previewFolder / "~tt" / "a.bmp", SmallBitmap());
   PreviewWith("<img src=\"~tt/a.bmp\" >");
@@ -82,21 +76,6 @@ TEST_F(AttachmentTest, WhatIsMissingOrDamagedIsNamed) {
   SaveLook("missing");
 }
 
-TEST_F(AttachmentTest, FramesOfTheirOwn) {
-  Attach("a.wav", Silence());
-  Attach("clip.swf", "FWS");
-  std::string frames;
-  for (const char* name : {"gone.jpg", "gone.xyz", "a.wav", "clip.swf"}) {
-    frames += "<FRAME SRC=\"~TEMP/home/" + std::string(name) + "\">";
-  }
-  const auto page = previewFolder / "SEE.htm";
-  pages.Add(page, QString::fromStdString("<HTML><FRAMESET ROWS=\"*,*,*,*\">" + frames).toStdU16String());
-  Preview(page);
-  EXPECT_TRUE(Says("gone.jpg is gone") && Says("gone.xyz is gone") && Says("clip.swf needs Ruffle"))
-      << Said();
-  EXPECT_TRUE(Becomes("window.frames[2].document.querySelector('audio').readyState > 0"));
-}
-
 TEST_F(AttachmentTest, WithoutTheProgramsTheirNamesAreTold) {
   const QByteArray path = qgetenv("PATH");
   qputenv("PATH", "/nowhere");
@@ -114,28 +93,6 @@ TEST_F(AttachmentTest, WithoutTheProgramsTheirNamesAreTold) {
   }
 }
 
-TEST_F(AttachmentTest, TextsInTheEncodingTheyWereWrittenIn) {
-  Attach("gb.txt", "\xB4\xF2\xD3\xA1 <b>");
-  Attach("marked.txt", std::string("\xFF\xFES\x62\x70\x53", 6));
-  PreviewWith("<iframe src=\"~TEMP/home/gb.txt\"></iframe><iframe src=\"~TEMP/home/marked.txt\"></iframe>");
-  EXPECT_EQ(FrameText(), QString("打印 <b>"));
-  EXPECT_EQ(Evaluate("window.frames[1].document.body.innerText.trim()").toString(), QString("打印"));
-}
-
-TEST_F(AttachmentTest, FilmsOfOldKindsPlay) {
-  if (programs.media.isEmpty()) GTEST_SKIP() << "no ffmpeg";
-  ASSERT_TRUE(MakeOldFilm(app / "~TEMP/home/old.avi"));
-  PreviewWith("<p>Watch:</p>" + PlayerScript("~TEMP/home/old.avi"));
-  ASSERT_TRUE(Becomes("document.querySelector('video').videoWidth > 0"));
-  EXPECT_EQ(Evaluate("document.querySelectorAll('embed').length").toInt(), 0);
-  EXPECT_TRUE(Evaluate("document.querySelector('video').paused && document.querySelector('video').controls")
-                  .toBool());
-  QTest::qWait(300);
-  SaveLook("film");
-  Evaluate("document.querySelector('video').play()");
-  EXPECT_TRUE(Becomes("document.querySelector('video').currentTime > 0.3"));
-}
-
 TEST_F(AttachmentTest, SoundsPlayByThemselvesOnlyWhereThePageSaysSo) {
   Attach("a.wav", Silence());
   PreviewWith(PlayerScript("~TEMP\\\\home\\\\a.wav", 1));
@@ -143,28 +100,6 @@ TEST_F(AttachmentTest, SoundsPlayByThemselvesOnlyWhereThePageSaysSo) {
   PreviewWith(PlayerScript("~TEMP/home/a.wav", 0));
   EXPECT_TRUE(Becomes("document.querySelector('audio').readyState > 0"));
   EXPECT_TRUE(Evaluate("document.querySelector('audio').paused").toBool());
-}
-
-TEST_F(AttachmentTest, FilesThatAreNoMediaAreNamedOrShownInPlaceOfThePlayer) {
-  Attach("data.xyz", "?");
-  Attach("a.png.bmp", SmallBitmap());
-  PreviewWith(PlayerScript("~TEMP/home/data.xyz") + "<embed src=\"~TEMP/home/a.png.bmp\">");
-  EXPECT_TRUE(Says("data.xyz cannot appear")) << Said();
-  EXPECT_TRUE(Becomes("document.images[0].naturalWidth === 2"));
-}
-
-TEST_F(AttachmentTest, FlashPlays) {
-  flashPlayer = QUORVANTIS_FLASH_PLAYER;
-  if (!std::filesystem::exists(flashPlayer / "ruffle.js")) GTEST_SKIP() << "see scripts/install-flash-player";
-  Attach("clip.swf", RedFlash());
-  PreviewWith(
-      "<div align=\"Left\"><embed src=\"~TEMP/home/clip.swf\" width=\"650\" height=\"400\"></div><br>");
-  const auto isRed = [&] {
-    const QColor middle = Window().grab().toImage().pixelColor(300, 200);
-    return middle.red() > 200 && middle.green() < 60 && middle.blue() < 60;
-  };
-  EXPECT_TRUE(WaitFor(isRed));
-  SaveLook("flash");
 }
 
 TEST_F(AttachmentTest, LargeFilesAreNotReadIntoMemory) {

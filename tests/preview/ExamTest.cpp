@@ -42,19 +42,9 @@ class ExamTest : public PreviewTest {
   }
 
   PosixFiles files;
-  RecordingWorld world{folder / "a~b" / "c~d", files};
-  ExamServices services{world.services.applicationFolder,
-                        world.services.strings,
-                        world.services.dialogs,
-                        world.services.codePage,
-                        world.services.debug,
-                        world.services.files,
-                        world.services.progress,
-                        world.services.longAnswerFlags,
-                        world.services.ids,
-                        world.services.registry,
-                        pages};
-  FrameSetExam exam{services};
+  InterruptedProgress progress;
+  RecordingWorld world{folder / "a~b" / "c~d", files, pages, progress};
+  FrameSetExam exam{world.services};
   int copies = 0;
 };
 
@@ -108,22 +98,6 @@ TEST_F(ExamTest, FilesOfAnyNameAppearOnPaperAndInPreviews) {
   allAppear("window.frames[0]");
   EXPECT_EQ(Evaluate("window.frames[1].frames[0].document.body.innerText.trim()").toString(), "lines");
   EXPECT_TRUE(Becomes("window.frames[1].frames[1].document.images[0].naturalWidth === 2"));
-}
-
-TEST_F(ExamTest, NoticesTellTheNamesThatTheUserKnows) {
-  ExamQuestion& question = AddQuestion();
-  question.attachmentNames = {u"s.wav", u"p.jpg", u"d.doc", u"x.xyz"};
-  for (std::size_t i = 0; i < 4; ++i) {
-    question.attachmentPaths[i] =
-        PathToText(app / "~TEMP" / ("0" + TextToPath(question.attachmentNames[i]).native()));
-  }
-  ShowPrint();
-  for (const char* name : {"s.wav", "p.jpg", "d.doc", "x.xyz"}) {
-    EXPECT_TRUE(Becomes(QString("[window, ...Array.from(window.frames)].some(w => "
-                                "w.document.body.innerText.split('\\n').includes('%1 is gone'))")
-                            .arg(name)))
-        << name;
-  }
 }
 
 TEST_F(ExamTest, TheOralFlagMutesWhatItsQuestionPlays) {

@@ -41,28 +41,14 @@ std::string Replaced(std::string text, const std::string& from, const std::strin
   return text;
 }
 
+std::string PageOf(const char* name) {
+  return ReadBytes(std::filesystem::path(QUORVANTIS_PROJECT) / "tests/preview/pages" / name);
+}
+
 class HostileTest : public PreviewTest {
  protected:
   std::filesystem::path secret = WriteBytes(folder / "secret.txt", "secret words");
 };
-
-/// Each address is asked for by a request, in a frame and as a script; all that is learned is gathered.
-const char* const kReadEverything = R"(<div id=learned></div><script>
-  const learned = text => { document.getElementById('learned').textContent += text + '\n'; };
-  for (const address of ADDRESSES) {
-    const request = new XMLHttpRequest();
-    try {
-      request.open('GET', address);
-      request.onload = () => learned(request.responseText);
-      request.send();
-    } catch (refused) {}
-    const frame = document.createElement('iframe');
-    frame.onload = () => { try { learned(frame.contentDocument.body.innerText); } catch (refused) {} };
-    frame.src = address;
-    document.body.append(frame);
-    try { fetch(address).then(answer => answer.text()).then(learned, () => {}); } catch (refused) {}
-  }
-</script>)";
 
 TEST_F(HostileTest, ReadsNoFileThatIsNotOfTheExam) {
   Attach("own.txt", "words of the exam");
@@ -77,59 +63,17 @@ TEST_F(HostileTest, ReadsNoFileThatIsNotOfTheExam) {
       "'~TEMP/..%2f..%2fsecret.txt', '~TEMP/%2e%2e/%2e%2e/secret.txt', '..%5c..%5c..%5csecret.txt',"
       "'~TEMP%2f..%2fsystem.txt', '../../system.txt', 'view-source:file://" +
       path + "', 'filesystem:" + path + "']";
-  Preview(Compose("SEE.htm", Replaced(kReadEverything, "ADDRESSES", addresses)));
+  Preview(Compose("SEE.htm", Replaced(PageOf("read-everything.htm"), "ADDRESSES", addresses)));
   EXPECT_TRUE(Becomes("document.getElementById('learned').textContent.includes('words of the exam')"));
   QTest::qWait(700);
   EXPECT_FALSE(
       Evaluate("document.getElementById('learned').textContent").toString().contains("secret words"));
 }
 
-/// Every way out of a page that is known; HOST and PACKETS are the listeners.
-const char* const kTalkToServers = R"PAGE(
-  <link rel=stylesheet href="http://HOST/css"><link rel=prefetch href="http://HOST/prefetch">
-  <link rel=preconnect href="http://HOST"><link rel=dns-prefetch href="http://HOST">
-  <img src="http://HOST/img"><iframe src="http://HOST/frame"></iframe><video src="http://HOST/video"></video>
-  <object data="http://HOST/object"></object><embed src="http://HOST/embed">
-  <iframe src="data:text/html,<img src=http://HOST/data><script>fetch('http://HOST/data2')</script>"></iframe>
-  <iframe srcdoc="<meta http-equiv=refresh content='0;url=http://HOST/refresh'><img src=http://HOST/srcdoc>">
-  </iframe>
-  <a id=link ping="http://HOST/ping" href="http://HOST/link" target=_blank>x</a>
-  <form id=form action="http://HOST/form" method=post target=_blank></form>
-  <script>
-    const attempt = action => {
-      try { const done = action(); if (done && done.catch) done.catch(() => {}); } catch (refused) {}
-    };
-    const worker = "fetch('http://HOST/worker'); importScripts('http://HOST/import')";
-    const call = frame => {
-      const peer = new frame.RTCPeerConnection({iceServers: [{urls: 'stun:PACKETS'},
-          {urls: 'turn:HOST?transport=tcp', username: 'x', credential: 'x'}]});
-      peer.createDataChannel('x');
-      return peer.createOffer().then(offer => peer.setLocalDescription(offer));
-    };
-    attempt(() => fetch('http://HOST/fetch', {mode: 'no-cors'}));
-    attempt(() => { const x = new XMLHttpRequest(); x.open('GET', 'http://HOST/xhr'); x.send(); });
-    attempt(() => navigator.sendBeacon('http://HOST/beacon', 'x'));
-    attempt(() => new WebSocket('ws://HOST/socket'));
-    attempt(() => new EventSource('http://HOST/events'));
-    attempt(() => new Worker(URL.createObjectURL(new Blob([worker]))));
-    attempt(() => navigator.serviceWorker.register('service.js'));
-    attempt(() => new WebTransport('https://PACKETS/transport').ready);
-    attempt(() => call(window));
-    attempt(() => {
-      const frame = document.createElement('iframe');
-      document.body.append(frame);
-      return call(frame.contentWindow);
-    });
-    attempt(() => document.getElementById('link').click());
-    attempt(() => document.getElementById('form').submit());
-    attempt(() => open('http://HOST/open'));
-    document.title = 'everything tried';
-  </script>)PAGE";
-
 TEST_F(HostileTest, ReachesNoServerAndOpensNoWindow) {
   Listeners listeners;
-  const std::string body =
-      Replaced(Replaced(kTalkToServers, "HOST", listeners.Host()), "PACKETS", listeners.PacketHost());
+  const std::string body = Replaced(Replaced(PageOf("talk-to-servers.htm"), "HOST", listeners.Host()),
+                                    "PACKETS", listeners.PacketHost());
   Preview(Compose("SEE.htm", body));
   const auto windowsBefore = QGuiApplication::allWindows().size();
   QTest::qWait(2500);

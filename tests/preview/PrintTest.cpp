@@ -11,6 +11,12 @@ namespace {
 
 class PrintTest : public PreviewTest {
  protected:
+  std::filesystem::path Paper(const std::u16string& body) {
+    std::filesystem::path page = app / "exam_Print.htm";
+    pages.Add(page, u"<HTML><BODY>" + body + u"</BODY></HTML>");
+    return page;
+  }
+
   /// Prints `page` as the Print command does, into a PDF file.
   void Print(const std::filesystem::path& page) {
     Windows().ChoosePrinterWith([this](QPrinter& printer) {
@@ -42,21 +48,16 @@ TEST_F(PrintTest, PutsEveryQuestionOnPaper) {
   for (int number = 1; number <= 120; ++number) {
     questions += QString("<p>Question-%1 打印</p>").arg(number).toStdU16String();
   }
-  const auto page = app / "exam_Print.htm";
-  pages.Add(page, u"<HTML><BODY>" + questions + u"</BODY></HTML>");
-  Print(page);
-  EXPECT_EQ(asked, 1);
+  PrintOffScreen(Paper(questions));
+  QTest::qWait(100);
+  Print(Paper(questions));  // twice in a hurry asks once
+  EXPECT_TRUE(Window().testAttribute(Qt::WA_DontShowOnScreen));
   const QString text = Text();
   for (int number = 1; number <= 120; ++number) {
     EXPECT_TRUE(text.contains(QString("Question-%1 打印").arg(number))) << number;
   }
-}
-
-TEST_F(PrintTest, ShowsNothingOnTheScreen) {
-  const auto page = app / "exam_Print.htm";
-  pages.Add(page, u"<HTML><BODY>x</BODY></HTML>");
-  Print(page);
-  EXPECT_TRUE(Window().testAttribute(Qt::WA_DontShowOnScreen));
+  QTest::qWait(600);
+  EXPECT_EQ(asked, 1);
 }
 
 TEST_F(PrintTest, WaitsForDocumentsAndPrintsAllTheirPages) {
@@ -64,11 +65,9 @@ TEST_F(PrintTest, WaitsForDocumentsAndPrintsAllTheirPages) {
     GTEST_SKIP() << "no LibreOffice or poppler-utils";
   Attach("long.doc", RichText("one\\page two\\page three"));
   Attach("note.txt", "lines of the note");
-  const auto page = app / "exam_Print.htm";
-  pages.Add(page,
-            u"<HTML><BODY>Read this<iframe width=690 height=350 src=\"~TEMP/home/long.doc\" ></iframe>"
-            u"<iframe width=690 height=350 src=\"~TEMP/home/note.txt\" ></iframe>End</BODY></HTML>");
-  Print(page);
+  Print(
+      Paper(u"Read this<iframe width=690 height=350 src=\"~TEMP/home/long.doc\" ></iframe>"
+            u"<iframe width=690 height=350 src=\"~TEMP/home/note.txt\" ></iframe>End"));
   const QString text = Text();
   EXPECT_TRUE(text.contains("Read this"));
   EXPECT_TRUE(text.contains("lines of the note"));
@@ -79,9 +78,7 @@ TEST_F(PrintTest, WaitsForDocumentsAndPrintsAllTheirPages) {
 }
 
 TEST_F(PrintTest, TheUserIsAskedForThePrinter) {
-  const auto page = app / "exam_Print.htm";
-  pages.Add(page, u"<HTML><BODY>x</BODY></HTML>");
-  PrintOffScreen(page);
+  PrintOffScreen(Paper(u"x"));
   QSignalSpy printed(&Window().Printer(), &PagePrinter::Printed);
   bool dialogSeen = false;
   QTimer look;
@@ -124,16 +121,6 @@ TEST_F(PrintTest, LeavingCallsOffAPrintOrLetsItsPaperBeMade) {
     QTest::qWait(1500);
     EXPECT_EQ(Text().contains("On paper"), leaving != Leaving::WhileAsked);
   }
-}
-
-TEST_F(PrintTest, TwiceInAHurryAsksOnce) {
-  const auto page = app / "exam_Print.htm";
-  pages.Add(page, u"<HTML><BODY>x</BODY></HTML>");
-  PrintOffScreen(page);
-  QTest::qWait(100);
-  Print(page);
-  QTest::qWait(600);
-  EXPECT_EQ(asked, 1);
 }
 
 }  // namespace

@@ -128,7 +128,7 @@ class Killing : public RecoveryTest {
 };
 
 TEST_F(Killing, LosesNothingThatWasKept) {
-  constexpr int kRounds = 200;
+  constexpr int kRounds = 60;
   std::minstd_rand random(7);
   int kills = 0;
   for (unsigned round = 0; round < kRounds; ++round) {

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecoveryTest.h"
 
-#include "editor/EditorSnapshot.h"
 #include "editor/WorkCopies.h"
-#include "examfile/SavingLosses.h"
 #include "examfile/WorkFolder.h"
-#include "support/TinyDisk.h"
 
 #include <ctime>
 #include <functional>
@@ -86,19 +83,6 @@ TEST_F(RecoveryTest, BringsBackAttachedFiles) {
   EXPECT_FALSE(fs::exists(RecoveryRoot(world.services.applicationFolder)));
 }
 
-TEST_F(RecoveryTest, AnEmptyFileIsNoLostOne) {
-  Attach("empty.txt", "");
-  Attach("full.txt", "full");
-  Type(FormField::Text, u"text");
-  SaveAs(folder / "named.exm");
-  Open(folder / "named.exm");
-  Type(FormField::Text, u"changed");
-  keeper.LookAndWait();
-  const auto run = Restart();
-  EXPECT_EQ(run->editor.attachments.QuestionList().missing, (std::vector<bool>{false, false}));
-  EXPECT_TRUE(FindSavingLosses(run->exam, run->world.longAnswerFlags).empty());
-}
-
 TEST_F(RecoveryTest, ACopyOfNothingIsNotOffered) {
   const std::pair<bool, std::function<void()>> rows[] = {
       {false, [&] { editor.questions.CycleRandomMode(); }},
@@ -142,34 +126,29 @@ TEST_F(RecoveryTest, ThereIsACopyWhileTheExamDiffersFromItsFile) {
     bool differs;
     std::function<void()> change;
   };
+  QuestionEditor& questions = editor.questions;
+  const auto preview = [&] {
+    questions.StoreCurrentQuestion(), exam.CountQuestions(), exam.PrefixAttachmentPaths(1);
+  };
+  const auto typeAndTakeBack = [&] {
+    Type(FormField::Text, u"x");
+    keeper.LookAndWait();
+    Type(FormField::Text, u"first");
+  };
+  const auto remove = [&] {
+    editor.attachments.SelectQuestionFile(0);
+    editor.attachments.RemoveSelectedAttachment(AttachedTo::Question);
+  };
   const Row rows[] = {
       {"nothing", false, [] {}},
       {"walking", false,
-       [&] {
-         for (int i = 0; i < 4; ++i) editor.questions.GoNext();
-       }},
-      {"previewing", false,
-       [&] {
-         editor.questions.StoreCurrentQuestion();
-         exam.CountQuestions();
-         exam.PrefixAttachmentPaths(1);
-       }},
+       [&] { questions.GoForward10(), questions.GoBack10(), questions.GoNext(), questions.GoNext(); }},
+      {"previewing", false, preview},
       {"typing", true, [&] { Type(FormField::Essay, u"x"); }},
-      {"typing and taking it back", false,
-       [&] {
-         Type(FormField::Text, u"x");
-         keeper.LookAndWait();
-         Type(FormField::Text, u"first");
-       }},
-      {"removing a file, which sets no star", true,
-       [&] {
-         editor.attachments.SelectQuestionFile(0);
-         editor.attachments.RemoveSelectedAttachment(AttachedTo::Question);
-       }},
+      {"typing and taking it back", false, typeAndTakeBack},
+      {"removing a file, which sets no star", true, remove},
       {"the score setup", true, [&] { exam.scoreValue[0] = 2; }},
-      {"the random mode", true, [&] { editor.questions.CycleRandomMode(); }},
-      {"deleting", true, [&] { editor.questions.DeleteHere(); }},
-  };
+      {"deleting", true, [&] { questions.DeleteHere(); }}};
   Type(FormField::Text, u"first");
   Attach("note.txt", "the note");
   editor.questions.GoNext();
@@ -197,31 +176,28 @@ TEST_F(RecoveryTest, ThereIsACopyWhileTheExamDiffersFromItsFile) {
 }
 
 TEST_F(RecoveryTest, GoesOnlyWithASaveOrANo) {
-  struct Row {
+  const auto answer = [&](SaveAnswer given) { world.dialogs.answers = {given}; };
+  const auto cannotSave = [&] { editor.state.SetFileName(folder / "missing" / "x.exm"); };
+  const auto close = [&](SaveAnswer given) { answer(given), editor.files.ConfirmClose(); };
+  const auto start = [&](SaveAnswer given) { answer(given), editor.files.NewExam(); };
+  const auto open = [&](SaveAnswer given) { answer(given), Open(folder / "saved.exm"); };
+  const struct {
     const char* name;
     std::function<void()> part;
     std::size_t copies;
-  };
-  const auto answer = [&](SaveAnswer given) { world.dialogs.answers = {given}; };
-  const auto cannotSave = [&] { editor.state.SetFileName(folder / "missing" / "x.exm"); };
-  const Row rows[] = {
-      {"escape", [&] { keeper.Left(Parting::Leave); }, 1},
-      {"close, no", [&] { answer(SaveAnswer::No), editor.files.ConfirmClose(); }, 0},
-      {"close, cancel", [&] { answer(SaveAnswer::Cancel), editor.files.ConfirmClose(); }, 1},
-      {"close, yes", [&] { answer(SaveAnswer::Yes), editor.files.ConfirmClose(); }, 0},
-      {"close, yes, which fails", [&] { cannotSave(), answer(SaveAnswer::Yes), editor.files.ConfirmClose(); },
-       1},
-      {"new, no", [&] { answer(SaveAnswer::No), editor.files.NewExam(); }, 0},
-      {"new, yes, which fails", [&] { cannotSave(), answer(SaveAnswer::Yes), editor.files.NewExam(); }, 1},
-      {"open, no", [&] { answer(SaveAnswer::No), Open(folder / "saved.exm"); }, 0},
-      {"open, no, but no file", [&] { answer(SaveAnswer::No), editor.files.OpenExam(); }, 1},
-      {"open, yes, which fails", [&] { cannotSave(), answer(SaveAnswer::Yes), Open(folder / "saved.exm"); },
-       1},
-      {"new without a question, after what sets no star",
-       [&] { editor.state.MarkSaved(), editor.files.NewExam(); }, 1},
-  };
+  } rows[] = {{"escape", [&] { keeper.Left(Parting::Leave); }, 1},
+              {"close, no", [&] { close(SaveAnswer::No); }, 0},
+              {"close, cancel", [&] { close(SaveAnswer::Cancel); }, 1},
+              {"close, yes", [&] { close(SaveAnswer::Yes); }, 0},
+              {"close, yes, which fails", [&] { cannotSave(), close(SaveAnswer::Yes); }, 1},
+              {"new, no", [&] { start(SaveAnswer::No); }, 0},
+              {"new, yes, which fails", [&] { cannotSave(), start(SaveAnswer::Yes); }, 1},
+              {"open, no", [&] { open(SaveAnswer::No); }, 0},
+              {"open, no, but no file", [&] { answer(SaveAnswer::No), editor.files.OpenExam(); }, 1},
+              {"open, yes, which fails", [&] { cannotSave(), open(SaveAnswer::Yes); }, 1},
+              {"new, after what sets no star", [&] { editor.state.MarkSaved(), editor.files.NewExam(); }, 1}};
   SaveAs(folder / "saved.exm");
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     Open(folder / "saved.exm");
     world.dialogs.filesToOpen.clear();
@@ -243,50 +219,6 @@ TEST_F(RecoveryTest, GoesOnlyWithASaveOrANo) {
     keeper.Entered();
     posted = false;
   }
-}
-
-TEST_F(RecoveryTest, AnExamThatComesBackIsMeasuredByItsOwnFile) {
-  SaveAs(folder / "saved.exm");
-  Attach("note.txt", "the note");
-  Type(FormField::Text, u"in the file");
-  editor.files.SaveExam();
-  EditorSnapshot before(editor);
-  const auto check = [&](const char* name, std::size_t copies, auto change) {
-    SCOPED_TRACE(name);
-    before.Take();
-    change();
-    keeper.LookAndWait();
-    before.Restore();
-    keeper.LookAndWait();
-    EXPECT_EQ(Copies().size(), copies);
-    EXPECT_EQ(Restart(copies)->editor.questions.Form().text, copies == 0 ? u"" : u"in the file");
-  };
-  check("a change", 0, [&] { Type(FormField::Text, u"x"); });
-  check("a new exam", 0, [&] {
-    editor.files.StartNewExam();
-    Type(FormField::Text, u"x");
-    keeper.LookAndWait();
-    SaveAs(folder / "new.exm");
-    exam.pageRenderer.SetMediaSuppressed(0);
-    exam.attachmentPageWriter.SetMediaSuppressed(0);
-  });
-  EXPECT_EQ(exam.pageRenderer.mediaSuppressed + exam.attachmentPageWriter.mediaSuppressed, 0)
-      << "once a preview has shown media, the whole run does";
-  check("a change that was saved", 1, [&] {
-    Type(FormField::Text, u"x");
-    editor.files.SaveExam();
-  });
-}
-
-TEST_F(RecoveryTest, EachEditorHasItsOwnCopy) {
-  Type(FormField::Text, u"older");
-  keeper.Left(Parting::Leave);
-  Run second(world.services.applicationFolder);
-  second.editor.questions.EditField(FormField::Text, u"newer");
-  second.keeper.LookAndWait();
-  EXPECT_EQ(Copies().size(), 2u);
-  second.keeper.Left(Parting::GiveUp);
-  EXPECT_EQ(Restart()->editor.questions.Form().text, u"older");
 }
 
 TEST_F(RecoveryTest, DamagedCopiesAreKeptAside) {
@@ -326,36 +258,6 @@ TEST_F(RecoveryTest, TriesAgainWhenACopyCannotBeWritten) {
   keeper.LookAndWait();
   EXPECT_FALSE(keeper.Failure());
   EXPECT_EQ(Copies().size(), 1u);
-}
-
-TEST_F(RecoveryTest, OnAFullDiskTheLastCopyStaysWhole) {
-  TinyDisk disk(4096);
-  if (!disk.Works()) GTEST_SKIP() << "no disk can be mounted here";
-  Run run(disk.Path());
-  const auto look = [&](const std::u16string& typed) {
-    run.editor.questions.EditField(FormField::Title, typed);
-    run.keeper.LookAndWait();
-    const auto found = FindRecoveryCopies(run.world.services);
-    return found.damaged.empty() && found.copies.size() == 1 ? found.copies[0].title : u"none";
-  };
-  const auto filesOfCopy = [&] {
-    const fs::path copy = RecoveryRoot(disk.Path()) / "1";
-    return std::distance(fs::directory_iterator(copy), fs::directory_iterator());
-  };
-  run.editor.attachments.AttachQuestionFile(WriteBytes(folder / "a.txt", "a"));
-  EXPECT_EQ(look(u"first"), u"first");
-  run.editor.questions.EditField(FormField::Text, std::u16string(4000, u'x'));
-  disk.Leave(4);
-  run.editor.attachments.AttachQuestionFile(WriteBytes(folder / "b.txt", "b"));
-  for (int tries = 0; tries < 3; ++tries) {
-    EXPECT_EQ(look(u"second"), u"first");
-    EXPECT_TRUE(run.keeper.Failure());
-    EXPECT_EQ(filesOfCopy(), 2) << "nothing is left of an attempt";
-  }
-  disk.Leave(100);
-  EXPECT_EQ(look(u"third"), u"third");
-  EXPECT_FALSE(run.keeper.Failure());
-  EXPECT_EQ(filesOfCopy(), 3);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "recovery/RecoveredExam.h"
 #include "recovery/RecoveryFolder.h"
 #include "recovery/RecoveryKeeper.h"
+#include "support/UnseenView.h"
 
 #include <map>
 #include <optional>
@@ -17,7 +18,7 @@ class RecoveryTest : public EditorTest {
   RecoveryTest() { keeper.Entered(); }
 
   /// What one run of the program has of an editor.
-  struct Run : private EditorView {
+  struct Run {
     explicit Run(const std::filesystem::path& applicationFolder) : world(applicationFolder, files) {
       std::filesystem::create_directories(applicationFolder);
       exam.SetHostMode(1);
@@ -27,14 +28,9 @@ class RecoveryTest : public EditorTest {
     PosixFiles files;
     RecordingWorld world;
     FrameSetExam exam{world.services};
-    ExamEditor editor{exam, *this, nullptr};
+    UnseenView view;
+    ExamEditor editor{exam, view, nullptr};
     RecoveryKeeper keeper{editor};
-
-   private:
-    void FormLoaded() override {}
-    void FormChanged() override {}
-    void TitleChanged() override {}
-    void PostContentChanged() override {}
   };
 
   std::vector<RecoveryCopy> Copies() { return FindRecoveryCopies(world.services).copies; }

@@ -51,20 +51,5 @@ TEST(FailedStarts, SeeWhatIsRemembered) {
     ExpectSameAsFromTheStart(RegexPattern(pattern, 3), as, 3990, u"ab", Utf16ToUtf8(pattern));
 }
 
-TEST(FailedStarts, AreLeftOut) {
-  struct {
-    std::u16string pattern;
-    int resume;
-  } const rows[] = {{u"\\b\\d(?=!)", 39}, {u"(?<!x)a!!", 39}, {u"x.*!", 10},   {u"(?<=1) ", 40},
-                    {u"a\\Z", 37},        {u"1!!", 39},       {u"(a )\\1", 37}};
-  const std::u16string text = std::u16string(10, u'a') + u"x" + std::u16string(27, u'a') + u" 1";
-  for (const auto& row : rows) {
-    FailedStarts failed;
-    MatchContext context{0, {}, &failed};
-    RegexPattern(row.pattern, 3).Match(text, 0, &context);
-    EXPECT_EQ(failed.ResumeAfterChange(40), row.resume) << Utf16ToUtf8(row.pattern);
-  }
-}
-
 }  // namespace
 }  // namespace quorvantis::test

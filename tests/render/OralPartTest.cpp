@@ -43,12 +43,6 @@ TEST_F(OralPartTest, DoublesBackslashesOfTheRecordersFolder) {
   EXPECT_NE(oral.OralRecorderObject(0).find(u"\"/a\\\\b/~BrelmStudent/ID7/1.wmv\""), std::u16string::npos);
 }
 
-TEST_F(OralPartTest, HasALabelBesideTheKey) {
-  for (const RenderFlags& flags : {kPreviewPage, kKeyPage}) {
-    EXPECT_EQ(Block(flags), "<font color=0000ff>[147 %s]</font><br><br>\r\n");
-  }
-}
-
 TEST_F(OralPartTest, PlaysTheStoredRecording) {
   const std::string label = "<font color=0000ff>[146 %s]  :</font><br><br>\r\n";
   EXPECT_EQ(Block(kResultPage), label);
@@ -62,7 +56,9 @@ TEST_F(OralPartTest, PlaysTheCopyOfAnOralAnswer) {
   ExpectPlays(kResponsePage, folder / "~OralAns/ID5/3", "~Ans/ID5/3");
 }
 
-TEST_F(OralPartTest, HasNothingOnOtherPages) {
+TEST_F(OralPartTest, IsALabelOrNothingOnOtherPages) {
+  for (const RenderFlags& flags : {kPreviewPage, kKeyPage})
+    EXPECT_EQ(Block(flags), "<font color=0000ff>[147 %s]</font><br><br>\r\n");
   for (const RenderFlags& flags : {RenderFlags{}, RenderFlags{true, true, true, true, true}}) {
     EXPECT_EQ(Block(flags), "");
     EXPECT_EQ(Mark(flags), OralMarkKind::Plain);

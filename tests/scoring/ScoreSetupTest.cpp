@@ -63,9 +63,7 @@ TEST(ScoreSetup, OpensWithTheRangesWithinTheExam) {
   };
   check(25, NewExam(), "1-10*1.00 11-25*2.00");
   check(20, NewExam(), "1-10*1.00 11-20*2.00");
-  check(25, NewExam(ScoreMode::Same), "1-25*0.00");
   check(5, NewExam(ScoreMode::Same), "1-5*0.00");
-  check(25, NewExam(static_cast<ScoreMode>(2)), "1-25*0.00");
   check(0, NewExam(), "");
   check(0, NewExam(ScoreMode::Same), "");
   check(5, NewExam(), "10:5-0*0.00");  // the count becomes the start of the last range
@@ -86,10 +84,7 @@ TEST(ScoreSetup, AnEndCutsItsNeighbourAnew) {
     EXPECT_EQ(setup.TypeEnd(range, text), outcome);
     EXPECT_EQ(Rows(setup), rows) << range << "=" << Utf16ToUtf8(text);
   };
-  // The first range.
-  check({10, 25}, 1, u"5", Moved, "1-5*1.00 6-25*2.00");
   check({10, 25}, 1, u"15", Moved, "1-15*1.00 16-25*2.00");
-  check({10, 25}, 1, u"25", Moved, "1-25*1.00");
   check({10, 20, 25}, 1, u"25", Moved, "1-25*1.00 3:21-25*3.00");  // only the next range goes
   check({10, 20, 25}, 1, u"20", Clamped, "1-19*1.00 20-20*2.00 21-25*3.00");
   check({10, 20, 25}, 1, u"22", Clamped, "1-19*1.00 20-20*2.00 21-25*3.00");
@@ -99,10 +94,8 @@ TEST(ScoreSetup, AnEndCutsItsNeighbourAnew) {
   }
   check({10, 25}, 1, u" 5th", Moved, "1-5*1.00 6-25*2.00");
   check({10, 25}, 1, u"010", Same, "1-010*1.00 11-25*2.00");
-  // The others.
   check({10, 20, 25}, 2, u"8", Reverted, "1-10*1.00 11-20*2.00 21-25*3.00");
   check({10, 20, 25}, 2, u"15", Moved, "1-10*1.00 11-15*2.00 16-25*3.00");
-  check({10, 20, 25}, 2, u"23", Moved, "1-10*1.00 11-23*2.00 24-25*3.00");
   check({10, 20, 25}, 2, u"25", Moved, "1-10*1.00 11-25*2.00");
   check({5, 10, 20, 25}, 2, u"20", Reverted, "1-5*1.00 6-10*2.00 11-20*3.00 21-25*4.00");
   check({5, 10, 20, 25}, 2, u"25", Reverted, "1-5*1.00 6-10*2.00 11-20*3.00 21-25*4.00");
@@ -162,35 +155,34 @@ TEST(ScoreSetup, HandsBackWhatTheFieldsHold) {
 }
 
 TEST(ScoreSetup, TheModeIsThatOfTheRadioButtons) {
-  ScoreSetup same = Opened(25, NewExam(ScoreMode::Same));
-  EXPECT_EQ(same.Fields().radio, 0);
-  EXPECT_EQ(Accepted(same).scoreTo[0], 25);  // the ranges of the exam are gone
-  same.ClickRadio(1);
-  EXPECT_EQ(Rows(same), "1-25*0.00");
-  EXPECT_EQ(Accepted(same).scoreMode, ScoreMode::Custom);
-
-  ScoreSetup custom = Opened(25, NewExam());
-  custom.ClickRadio(0);
-  EXPECT_EQ(Rows(custom), "1-10*1.00 11-25*2.00");
-  EXPECT_EQ(Accepted(custom).scoreMode, ScoreMode::Same);
-
-  ScoreSetup odd = Opened(25, NewExam(static_cast<ScoreMode>(2)));
-  EXPECT_EQ(odd.Fields().radio, 1);
-  EXPECT_EQ(Accepted(odd).scoreMode, ScoreMode::Custom);
+  const struct {
+    ScoreMode given;
+    int radio, click;
+    std::string rows;
+    ScoreMode accepted;
+  } rows[] = {{ScoreMode::Same, 0, 0, "1-25*0.00", ScoreMode::Same},
+              {ScoreMode::Same, 0, 1, "1-25*0.00", ScoreMode::Custom},  // the ranges of the exam are gone
+              {ScoreMode::Custom, 1, 0, "1-10*1.00 11-25*2.00", ScoreMode::Same},
+              {static_cast<ScoreMode>(2), 1, 1, "1-25*0.00", ScoreMode::Custom}};
+  for (const auto& row : rows) {
+    ScoreSetup setup = Opened(25, NewExam(row.given));
+    EXPECT_EQ(setup.Fields().radio, row.radio);
+    setup.ClickRadio(row.click);
+    EXPECT_EQ(Rows(setup), row.rows);
+    EXPECT_EQ(Accepted(setup).scoreMode, row.accepted);
+  }
 }
 
 TEST(ScoreFields, FiltersLetTypedCharactersThrough) {
-  const auto check = [](bool (*takes)(char16_t, std::u16string_view), std::u16string_view content,
-                        std::u16string_view taken) {
+  const auto taken = [](bool (*takes)(char16_t, std::u16string_view), std::u16string_view content) {
     std::u16string passed;
-    for (const char16_t c :
-         {u'\x01', u'\b', u'\x16', u' ', u'+', u',', u'-', u'.', u'0', u'9', u'e', u'\uFF11'})
+    for (const char16_t c : {u'\x01', u'\b', u' ', u'+', u',', u'-', u'.', u'0', u'9', u'e', u'\uFF11'})
       if (takes(c, content)) passed += c;
-    EXPECT_EQ(passed, taken);
+    return passed;
   };
-  check(ScoreFieldTakes, u"12", u"\b.09");
-  check(ScoreFieldTakes, u"1.2", u"\b09");
-  check(DigitFieldTakes, u"", u"09");
+  EXPECT_EQ(taken(ScoreFieldTakes, u"12"), u"\b.09");
+  EXPECT_EQ(taken(ScoreFieldTakes, u"1.2"), u"\b09");
+  EXPECT_EQ(taken(DigitFieldTakes, u""), u"09");
 }
 
 TEST(ScoreSegments, CoverTheExamWithoutGaps) {

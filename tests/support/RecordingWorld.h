@@ -153,6 +153,11 @@ class KeptPages : public PageStore {
 /// Everything a document needs, with real files below `applicationFolder`.
 struct RecordingWorld {
   RecordingWorld(std::filesystem::path applicationFolder, Files& files)
+      : RecordingWorld(std::move(applicationFolder), files, pages, progress) {}
+
+  /// With pages and progress of the window.
+  RecordingWorld(std::filesystem::path applicationFolder, Files& files, PageStore& shownPages,
+                 Progress& shownProgress)
       : registry(applicationFolder / kRegistryFile, files),
         services{std::move(applicationFolder),
                  strings,
@@ -160,11 +165,11 @@ struct RecordingWorld {
                  codePage,
                  debug,
                  files,
-                 progress,
+                 shownProgress,
                  longAnswerFlags,
                  ids,
                  registry,
-                 pages} {}
+                 shownPages} {}
 
   NumberStrings strings;
   RecordingDialogs dialogs;

@@ -43,4 +43,9 @@ inline std::filesystem::path WriteBytes(const std::filesystem::path& file, std::
   return file;
 }
 
+/// How many files and folders lie in one, those below not counted.
+inline std::ptrdiff_t CountEntries(const std::filesystem::path& folder) {
+  return std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator());
+}
+
 }  // namespace quorvantis::test

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/controls/Pictures.h"
-#include "desktop/controls/SmallButton.h"
 
 #include <QBuffer>
 #include <QPixmap>
@@ -40,16 +39,6 @@ QColor Middle(const QIcon& icon, qreal scale = 1) {
   return image.pixelColor(image.rect().center());
 }
 
-TEST(Pictures, AreAllBuiltInInTwoSizes) {
-  const Pictures pictures;
-  for (const char* name :
-       {"206", "212", "226", "227", "NextQuestion10U", "insertf", "attachqx", "ListSeparatroX"}) {
-    EXPECT_EQ(pictures.Picture(name).availableSizes().size(), 2) << name;
-  }
-  EXPECT_EQ(pictures.Picture("attachqu").pixmap({73, 28}, 2).size(), QSize(146, 56));
-  EXPECT_TRUE(pictures.Picture("ListSeparatrof").isNull());
-}
-
 TEST(Pictures, OfALanguageComeFirst) {
   Library library;
   library.Add("DeleteU", 1, Qt::red);
@@ -60,24 +49,6 @@ TEST(Pictures, OfALanguageComeFirst) {
   EXPECT_EQ(Middle(pictures.Picture("DeleteU"), 2), QColor(Qt::blue));
   EXPECT_EQ(Middle(pictures.Picture("insertU")), QColor(Qt::blue)) << "scaled down, not mixed with others";
   EXPECT_FALSE(pictures.Picture("207").isNull());
-}
-
-TEST(SmallButton, ShowsThePictureOfItsState) {
-  Library library;
-  const std::pair<const char*, Qt::GlobalColor> pictures[] = {
-      {"up", Qt::red}, {"down", Qt::green}, {"off", Qt::blue}, {"other", Qt::yellow}};
-  for (const auto& [name, colour] : pictures) library.Add(name, 1, colour);
-  SmallButton button(Pictures(&library), {"up", "down", nullptr, "off"}, {"other", "other", nullptr, "other"},
-                     nullptr);
-  button.resize(30, 20);
-  const auto shown = [&button] { return button.grab().toImage().pixelColor(15, 10); };
-  EXPECT_EQ(shown(), QColor(Qt::red));
-  button.setDown(true);
-  EXPECT_EQ(shown(), QColor(Qt::green));
-  button.setEnabled(false);
-  EXPECT_EQ(shown(), QColor(Qt::blue));
-  button.setLayoutDirection(Qt::RightToLeft);
-  EXPECT_EQ(shown(), QColor(Qt::yellow));
 }
 
 }  // namespace

@@ -116,15 +116,5 @@ TEST_F(ImportWindow, CanBeCancelledWhileItWorks) {
   EXPECT_EQ(window->findChild<QDialog*>("importSummary"), nullptr);
 }
 
-TEST_F(ImportWindow, AsksForTheTargetAndCanBeCancelled) {
-  OpenWithRules();
-  Click("next");
-  WhenAsked(
-      {[](QDialog& dialog) { Press(dialog, "继续导入"); }, [](QDialog& dialog) { Press(dialog, "取消"); }});
-  Click("import");
-  EXPECT_EQ(next, 2U);
-  EXPECT_EQ(exam.Question(3).text, u"");
-}
-
 }  // namespace
 }  // namespace quorvantis::test

@@ -97,6 +97,11 @@ TEST_F(AttachmentMenu, AlwaysHasTheOralSwitchOfAnOralQuestion) {
   Click("kindOral");
   EXPECT_TRUE(Choose("questionAttachments", "switchOral"));
   EXPECT_EQ(exam.Question(2).oralFlag, 1) << "whatever the state of the question before";
+  Control<AttachmentListBox>("questionAttachments").setCurrentRow(0);
+  Attach("attachToQuestion", "three.avi");
+  EXPECT_EQ(Control<QAbstractButton>("oralToggle").text(), "[173 %s]");
+  Click("oralToggle");
+  EXPECT_EQ(Control<QAbstractButton>("oralToggle").text(), "[172 %s]");
 }
 
 }  // namespace

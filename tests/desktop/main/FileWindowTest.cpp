@@ -56,39 +56,6 @@ TEST_F(FileWindow, SavedAsAndOpenedAgainTheExamIsTheSame) {
   EXPECT_TRUE(world.dialogs.questions.empty() && world.dialogs.errors.empty());
 }
 
-TEST_F(FileWindow, ClosingAsksAboutChanges) {
-  OpenChanged();
-  world.dialogs.answers = {SaveAnswer::Cancel, SaveAnswer::No};
-  EXPECT_FALSE(window->close());
-  EXPECT_TRUE(window->close());
-  OpenChanged();
-  world.dialogs.answers = {SaveAnswer::Yes};
-  world.dialogs.filesToSave.push_back(folder / "Mine.exm");
-  EXPECT_TRUE(window->close());
-  EXPECT_TRUE(std::filesystem::exists(folder / "Mine.exm"));
-  Open();
-  EXPECT_TRUE(window->close());
-  EXPECT_EQ(world.dialogs.questions.size(), 3U) << "no question where nothing has changed";
-}
-
-TEST_F(FileWindow, EscapeEndsWithoutAsking) {
-  for (const char* name : {"title", "questionText", "kindChoice", "boxA"}) {
-    OpenChanged();
-    Press(name, Qt::Key_Escape);
-    EXPECT_FALSE(window->isVisible()) << name;
-  }
-  EXPECT_TRUE(world.dialogs.questions.empty());
-}
-
-TEST_F(FileWindow, EnterInAFieldOfOneLineDoesNothing) {
-  exam.Question(1).kind = QuestionKind::FillIn;
-  Open();
-  for (const char* name : {"title", "answer"}) Press(name, Qt::Key_Return);
-  Turn();
-  EXPECT_TRUE(window->isVisible());
-  EXPECT_FALSE(ShowsChange());
-}
-
 TEST_F(FileWindow, ADroppedExamIsOpened) {
   const auto sample = folder / "Other.EXM";
   FrameSetExam other(world.services);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/WindowTest.h"
 #include "preview/PreviewWindow.h"
-#include "support/TinyDisk.h"
 
 namespace quorvantis::test {
 namespace {
@@ -57,17 +56,6 @@ TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
       "document.querySelector('input[type=button]').click()");
   ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() == nullptr; }, kPatience));
   EXPECT_EQ(exam.PathOnPages(path), path.substr(0, 3) + path) << "a finished exam takes one prefix off";
-}
-
-TEST_F(PreviewButton, ShowsAnExamOnAFullDisk) {
-  TinyDisk disk(4);
-  if (!disk.Works()) GTEST_SKIP() << "no disk can be mounted here";
-  services.applicationFolder = disk.Path();
-  WriteBytes(disk / "full", std::string(4096, 'x'));
-  Open();
-  Type("questionText", "Is there room?");
-  Click("preview");
-  EXPECT_TRUE(Appears("Is there room?"));
 }
 
 /// The question would appear behind the preview, where nobody sees it.

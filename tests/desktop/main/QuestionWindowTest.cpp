@@ -21,31 +21,29 @@ class QuestionWindow : public WindowTest {
   }
 };
 
-TEST_F(QuestionWindow, WalkingStoresAndLoadsAndMarksNothing) {
+TEST_F(QuestionWindow, ButtonsMoveAndShowQuestions) {
   exam.Question(1).text = u"first";
-  exam.Question(2).text = u"second";
+  exam.Question(2).kind = static_cast<QuestionKind>(7);
   Open();
   Click("next");
-  EXPECT_EQ(Number(), "2");
-  EXPECT_EQ(Text(), "second");
+  for (const char* name : {"kindChoice", "kindFillIn", "kindEssay", "kindOral"}) {
+    EXPECT_FALSE(Control<QAbstractButton>(name).isChecked());
+  }
   for (const char* button : {"forward10", "back10", "previous"}) Click(button);
   Turn();
   EXPECT_EQ(Number(), "1");
   EXPECT_FALSE(ShowsChange());
-
-  Type("questionText", "the ");
-  Click("next");
-  EXPECT_EQ(exam.Question(1).text, u"the first");
-}
-
-TEST_F(QuestionWindow, PageKeysWalkFromAnyField) {
-  Open();
-  Press("questionText", Qt::Key_PageDown);
-  Press("title", Qt::Key_PageDown, Qt::ControlModifier);
-  EXPECT_EQ(Number(), "12");
-  Press("optionA", Qt::Key_PageUp);
-  Press("questionText", Qt::Key_PageUp, Qt::ControlModifier);
-  EXPECT_EQ(Number(), "1");
+  Click("insertQuestion");
+  EXPECT_EQ(Text(), "");
+  EXPECT_FALSE(ShowsChange());
+  Turn();
+  EXPECT_TRUE(ShowsChange());
+  Click("deleteQuestion");
+  EXPECT_EQ(Text(), "first");
+  for (const char* caption : {"[110 %s]", "[108 %s]", "[109 %s]"}) {
+    EXPECT_EQ(Control<StateBox>("random").text(), caption);
+    Click("random");
+  }
 }
 
 TEST_F(QuestionWindow, TheFocusNeverStaysInAFieldThatIsGone) {
@@ -75,18 +73,6 @@ TEST_F(QuestionWindow, ShowsOnlyWhatFitsTheKind) {
   EXPECT_EQ(exam.Question(1).kind, QuestionKind::Essay);
 }
 
-TEST_F(QuestionWindow, AnUnknownKindHasNoButtonAndIsKept) {
-  exam.Question(2).kind = static_cast<QuestionKind>(7);
-  Open();
-  Click("next");
-  for (const char* name : {"kindChoice", "kindFillIn", "kindEssay", "kindOral"}) {
-    EXPECT_FALSE(Control<QAbstractButton>(name).isChecked());
-  }
-  EXPECT_FALSE(Shows("optionA") || Shows("answer") || Shows("essay"));
-  Click("next");
-  EXPECT_EQ(exam.Question(2).kind, static_cast<QuestionKind>(7));
-}
-
 TEST_F(QuestionWindow, BoxesGiveTheAnswerAndMarkAtOnce) {
   Open();
   Click("boxA");
@@ -96,44 +82,6 @@ TEST_F(QuestionWindow, BoxesGiveTheAnswerAndMarkAtOnce) {
   EXPECT_EQ(Box("boxA"), Qt::Unchecked);
   EXPECT_EQ(exam.Question(1).answerLetters, u"ac");
   EXPECT_EQ(exam.Question(1).answerMask, 20);
-}
-
-TEST_F(QuestionWindow, AClickOnAGreyBoxTurnsItOff) {
-  exam.Question(1).answerMask = 32;
-  Open();
-  for (const auto state : {Qt::PartiallyChecked, Qt::Unchecked, Qt::Checked}) {
-    EXPECT_EQ(Box("boxA"), state);
-    Click("boxA");
-  }
-}
-
-TEST_F(QuestionWindow, RandomBoxGoesRoundWithItsCaption) {
-  Open();
-  const auto check = [this](Qt::CheckState state, const char* caption) {
-    EXPECT_EQ(Box("random"), state);
-    EXPECT_EQ(Control<StateBox>("random").text(), caption);
-    Click("random");
-  };
-  check(Qt::Unchecked, "[110 %s]");
-  check(Qt::Checked, "[108 %s]");
-  check(Qt::PartiallyChecked, "[109 %s]");
-  check(Qt::Unchecked, "[110 %s]");
-  EXPECT_TRUE(ShowsChange());
-  Click("next");
-  EXPECT_EQ(exam.randomMode, RandomMode::Options);
-}
-
-TEST_F(QuestionWindow, InsertAndDeleteMoveQuestionsAndMarkAfterTheEvent) {
-  exam.Question(1).text = u"first";
-  Open();
-  Click("insertQuestion");
-  EXPECT_EQ(Text(), "");
-  EXPECT_FALSE(ShowsChange());
-  Turn();
-  EXPECT_TRUE(ShowsChange());
-  Type("questionText", "dropped");
-  Click("deleteQuestion");
-  EXPECT_EQ(Text(), "first");
 }
 
 TEST_F(QuestionWindow, SeparatorButtonPreparesTheNextAnswer) {
@@ -166,19 +114,10 @@ TEST_F(QuestionWindow, DeleteKeyRemovesTheSelectedFile) {
   EXPECT_EQ(exam.Question(1).attachmentNames[0], u"two.jpg");
   Press("questionAttachments", Qt::Key_Delete);
   EXPECT_EQ(list.count(), 1) << "none is selected any more";
-}
-
-TEST_F(QuestionWindow, OralToggleSwitchesTheFlag) {
-  exam.Question(1).kind = QuestionKind::Oral;
-  Open();
-  Attach("attachToQuestion", "one.avi");
-  EXPECT_FALSE(Shows("oralToggle"));
-  Control<AttachmentListBox>("questionAttachments").setCurrentRow(0);
-  Attach("attachToQuestion", "two.avi");
-  EXPECT_EQ(Control<QAbstractButton>("oralToggle").text(), "[172 %s]");
-  Click("oralToggle");
-  EXPECT_EQ(Control<QAbstractButton>("oralToggle").text(), "[173 %s]");
-  EXPECT_EQ(exam.Question(1).oralFlag, 1);
+  EXPECT_TRUE(list.item(0)->icon().isNull());
+  world.dialogs.filesToOpen.push_back(folder / "gone");
+  Click("attachToQuestion");
+  EXPECT_FALSE(list.item(1)->icon().isNull()) << "a file without a copy is marked";
 }
 
 }  // namespace

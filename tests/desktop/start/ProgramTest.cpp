@@ -54,17 +54,6 @@ TEST(Program, PaintsItsWindowOnAnXServer) {
   EXPECT_NE(image, empty);
 }
 
-TEST(Program, EndsWithoutALanguage) {
-  const TemporaryFolder folder;
-  std::filesystem::create_directories(folder / "language/Quorvantis");
-  QProcess program;
-  program.start(kProgram, {"--app-folder", PathToQString(folder.Path()), "--screenshot",
-                           PathToQString(folder / "window.png")});
-  ASSERT_TRUE(program.waitForFinished());
-  EXPECT_EQ(program.exitCode(), 2);
-  EXPECT_TRUE(program.readAllStandardError().contains("Cann't find any language file!"));
-}
-
 /// What ./run builds, in a folder of its own, so that nothing else that a build makes can help.
 TEST(Program, OffersImportInTheFirstWindow) {
   const TemporaryFolder folder;
@@ -84,19 +73,6 @@ TEST(Program, OffersImportInTheFirstWindow) {
   EXPECT_EQ(program.exitCode(), 0);
   EXPECT_FALSE(QImage(picture).isNull());
   EXPECT_FALSE(program.readAllStandardError().contains("!file.Open")) << "Import is hidden";
-}
-
-TEST(Program, SaysWhyThereIsNoPicture) {
-  const TemporaryFolder folder;
-  for (const QString& picture : {QString("/no/such/folder/window.png"),
-                                 PathToQString(folder / "window.unknown"), QString("/dev/full")}) {
-    QProcess program;
-    program.start(kProgram, {"--app-folder", PathToQString(folder / "app"), "--language", "0x0409",
-                             "--screenshot", picture});
-    ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1) << picture.toStdString();
-    EXPECT_TRUE(program.readAllStandardError().contains(picture.toUtf8())) << picture.toStdString();
-  }
 }
 
 /// As that of a program which was killed a moment ago.

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "WordDocumentsTest.h"
+#include "platform/documents/OfficeWordWriter.h"
+#include "platform/posix/PosixFiles.h"
+#include "support/Processes.h"
 
 #include <chrono>
 #include <unistd.h>
@@ -13,24 +16,16 @@ using namespace std::chrono_literals;
 const std::string kRichText =
     R"({\rtf1\ansi First\line second\par\trowd\cellx2000\cellx4000\intbl A\cell B\cell\row\pard End\par})";
 
-/// One that has ended may stay listed when nobody asks for it.
-bool IsRunning(int process) {
-  const std::string state = ReadBytes("/proc/" + std::to_string(process) + "/stat");
-  return !state.empty() && state.find(") Z ") == std::string::npos;
-}
-
 class ConversionTest : public WordDocumentsTest {
  protected:
-  /// A program of a test in the place of LibreOffice.
-  OfficeWordDocuments ReaderWith(const std::string& script, std::chrono::milliseconds limit = 60s) {
-    const fs::path program = WriteBytes(folder / "soffice", "#!/bin/sh\n" + script);
+  /// A program of a test in the place of LibreOffice. In the script, $RESULT is the document it is to write.
+  OfficePrograms Programs(const std::string& script, std::chrono::milliseconds limit = 60s) {
+    const std::string result = "RESULT=\"$7/exam.${6%%:*}\"\n";
+    const fs::path program = WriteBytes(folder / "soffice", "#!/bin/sh\n" + result + script);
     fs::permissions(program, fs::perms::owner_all);
-    return OfficeWordDocuments({program, {}, limit});
+    return {program, {}, limit};
   }
   fs::path RichText() { return WriteBytes(folder / "a.rtf", kRichText); }
-  WordReadOptions Cancelled() {
-    return {.listLabels = false, .isCancelled = [] { return true; }};
-  }
 };
 
 TEST_F(ConversionTest, OtherFormatsSayTheSame) {
@@ -60,20 +55,31 @@ TEST_F(ConversionTest, OtherFormatsSayTheSame) {
   EXPECT_EQ(documents.Open(WriteBytes(folder / "b.rtf", "{\\rtf"), {}).result, WordResult::Damaged);
 }
 
-TEST_F(ConversionTest, FaultsOfTheWordProcessor) {
-  EXPECT_EQ(OfficeWordDocuments(OfficePrograms()).Open(RichText(), {}).result,
-            WordResult::WordProcessorMissing);
-  EXPECT_EQ(OfficeWordDocuments({folder / "none", {}, 1s}).Open(RichText(), {}).result,
-            WordResult::WordProcessorMissing);
-  EXPECT_EQ(ReaderWith("exit 0").Open(RichText(), {}).result, WordResult::Damaged);
-  EXPECT_EQ(ReaderWith("kill -9 $$").Open(RichText(), {}).result, WordResult::Damaged);
-  EXPECT_EQ(ReaderWith("sleep 100").Open(RichText(), Cancelled()).result, WordResult::Cancelled);
+TEST_F(ConversionTest, FaultsOfTheWordProcessorLeaveEverythingAsItWas) {
+  PosixFiles files;
+  const fs::path target = WriteBytes(folder / "targets/old.doc", "old");
+  const auto check = [&](const OfficePrograms& programs, WordResult read, WordWriteResult written,
+                         const std::function<bool()>& isCancelled = {}) {
+    const WordReadOptions options{.listLabels = false, .isCancelled = isCancelled};
+    EXPECT_EQ(OfficeWordDocuments(programs).Open(RichText(), options).result, read);
+    const WordWriteJob job{{u"text"}, target, WordFormat::Doc, isCancelled};
+    EXPECT_EQ(OfficeWordWriter(files, programs).Write(job).result, written);
+    EXPECT_EQ(ReadBytes(target), "old");
+    EXPECT_EQ(CountEntries(folder / "targets"), 1);
+  };
+  check({}, WordResult::WordProcessorMissing, WordWriteResult::WordProcessorMissing);
+  check({folder / "none", {}, 1s}, WordResult::WordProcessorMissing, WordWriteResult::WordProcessorMissing);
+  for (const char* script :
+       {"exit 0", "kill -9 $$", "echo text > $RESULT", "printf '\\320\\317\\021\\340' > $RESULT"})
+    check(Programs(script), WordResult::Damaged, WordWriteResult::WordProcessorFailed);
+  check(Programs("sleep 100", 200ms), WordResult::TimedOut, WordWriteResult::TimedOut);
+  check(Programs("sleep 100"), WordResult::Cancelled, WordWriteResult::Cancelled, [] { return true; });
 }
 
 TEST_F(ConversionTest, AHangingOneEndsWithItsChildrenAndLeavesNothing) {
   const std::string script = "sleep 100 & echo $! > " + (folder / "child").string() + "; echo \"$8 $1\" > " +
                              (folder / "folders").string() + "; wait";
-  EXPECT_EQ(ReaderWith(script, 1s).Open(RichText(), {}).result, WordResult::TimedOut);
+  EXPECT_EQ(OfficeWordDocuments(Programs(script, 1s)).Open(RichText(), {}).result, WordResult::TimedOut);
   const int child = std::stoi(ReadBytes(folder / "child"));
   for (int i = 0; i < 100 && IsRunning(child); ++i) ::usleep(10'000);
   EXPECT_FALSE(IsRunning(child));

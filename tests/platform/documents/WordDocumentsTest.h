@@ -28,10 +28,6 @@ class WordDocumentsTest : public testing::Test {
   WordReadOutcome Open(const DocxBuilder& builder, const WordReadOptions& options = {}) {
     return documents.Open(builder.Write(folder / "test.docx"), options);
   }
-  std::u16string Running(const std::string& body, const WordReadOptions& options = {}) {
-    const WordReadOutcome outcome = Open(DocxBuilder().Body(body), options);
-    return outcome.result == WordResult::Done ? Shown(outcome.document.runningText) : u"(not read)";
-  }
 
   TemporaryFolder folder;
   OfficeWordDocuments documents;

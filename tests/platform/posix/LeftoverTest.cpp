@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <functional>
 #include <random>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -15,6 +16,29 @@ namespace quorvantis::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// Runs `work` in a process of its own until it has written a byte to the descriptor that it is given.
+pid_t Start(const std::function<void(int)>& work) {
+  int ends[2];
+  if (::pipe(ends) != 0) std::abort();
+  const pid_t child = ::fork();
+  if (child == 0) {
+    work(ends[1]);
+    std::abort();
+  }
+  char byte = 0;
+  EXPECT_EQ(::read(ends[0], &byte, 1), 1);
+  ::close(ends[0]);
+  ::close(ends[1]);
+  return child;
+}
+
+int End(pid_t child, int signal) {
+  ::kill(child, signal);
+  int status = 0;
+  EXPECT_EQ(::waitpid(child, &status, 0), child);
+  return status;
+}
 
 /// A program that writes to a folder for as long as it lives.
 pid_t StartHelper(const fs::path& folder) {
@@ -45,20 +69,11 @@ TEST(Leftovers, GoWithASignalThatEndsTheProcess) {
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
     const TemporaryFolder folder;
     WriteBytes(folder / "kept/file", "x");
-    int ends[2];
-    ASSERT_EQ(::pipe(ends), 0);
-    const pid_t child = ::fork();
-    if (child == 0) WaitForSignalWithLeftovers(folder.Path(), ends[1]);
-    char byte = 0;
-    EXPECT_EQ(::read(ends[0], &byte, 1), 1);
-    ::kill(child, signal);
-    int status = 0;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    const pid_t child = Start([&](int ready) { WaitForSignalWithLeftovers(folder.Path(), ready); });
+    const int status = End(child, signal);
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
     EXPECT_TRUE(fs::exists(folder / "kept/file")) << "behind a link";
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 1);
-    ::close(ends[0]);
-    ::close(ends[1]);
+    EXPECT_EQ(CountEntries(folder.Path()), 1);
   }
 }
 
@@ -88,28 +103,19 @@ TEST(Leftovers, GoWheneverTheSignalComes) {
 TEST(Leftovers, OfAKilledProgramGoWithTheNextPrivateFolder) {
   const TemporaryFolder folder;
   setenv("TMPDIR", folder.Path().c_str(), 1);  // NOLINT(concurrency-mt-unsafe): a test has one thread
-  const auto count = [&] {
-    return std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator());
-  };
   fs::create_directory(folder / "quorvantis-other1");
-  int ends[2];
-  ASSERT_EQ(::pipe(ends), 0);
-  const pid_t child = ::fork();
-  if (child == 0) {
+  const pid_t child = Start([](int ready) {
     const PrivateFolder made;
     WriteBytes(made.Path() / "a/file", "x");
-    if (::write(ends[1], "x", 1) == 1) ::pause();
-    std::abort();
-  }
-  char byte = 0;
-  EXPECT_EQ(::read(ends[0], &byte, 1), 1);
+    if (::write(ready, "x", 1) == 1) ::pause();
+  });
   { const PrivateFolder mine; }
-  EXPECT_EQ(count(), 2) << "it is still in use";
-  ::kill(child, SIGKILL);
-  ::waitpid(child, nullptr, 0);
+  EXPECT_EQ(CountEntries(folder.Path()), 2) << "it is still in use";
+  End(child, SIGKILL);
   const PrivateFolder mine;
   { const PrivateFolder another; }
-  EXPECT_EQ(count(), 2) << "what is not known to be ours stays, and so does what is in use";
+  EXPECT_EQ(CountEntries(folder.Path()), 2)
+      << "what is not known to be ours stays, and so does what is in use";
   EXPECT_TRUE(fs::exists(mine.Path()));
   unsetenv("TMPDIR");  // NOLINT(concurrency-mt-unsafe)
 }

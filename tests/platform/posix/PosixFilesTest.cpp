@@ -6,7 +6,20 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+std::function<void(const std::string& file)> whenSynced;  ///< called with the open file
+}
+
+/// In the place of the system's, for the whole test program.
+extern "C" int fsync(int descriptor) {
+  if (whenSynced) whenSynced("/proc/self/fd/" + std::to_string(descriptor));
+  return static_cast<int>(::syscall(SYS_fsync, descriptor));
+}
 
 namespace quorvantis::test {
 namespace {
@@ -28,9 +41,7 @@ class ReplaceTest : public testing::Test {
     return commit && !pending->Commit();
   }
 
-  auto Entries() const {
-    return std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator());
-  }
+  auto Entries() const { return CountEntries(folder.Path()); }
 
   TemporaryFolder folder;
   PosixFiles files;
@@ -46,6 +57,20 @@ TEST_F(ReplaceTest, MakesAFileAndReplacesOneWithItsPermissions) {
   EXPECT_EQ(ReadBytes(target), "second");
   EXPECT_EQ(fs::status(target).permissions(), fs::perms(0640));
   EXPECT_EQ(Entries(), 1);
+}
+
+/// After a power cut there is the old file or the new one, and no empty one under its name.
+TEST_F(ReplaceTest, TheNewContentIsOnTheDiskBeforeItTakesTheName) {
+  const fs::path target = WriteBytes(folder / "exam.exm", "old content");
+  std::vector<std::pair<std::string, std::string>> synced;  // the content, and that of the target meanwhile
+  whenSynced = [&](const std::string& file) {
+    synced.emplace_back(fs::is_directory(file) ? "" : ReadBytes(file), ReadBytes(target));
+  };
+  EXPECT_TRUE(Replace(target, "new content"));
+  whenSynced = nullptr;
+  ASSERT_EQ(synced.size(), 2U);
+  EXPECT_EQ(synced[0], std::pair(std::string("new content"), std::string("old content")));
+  EXPECT_EQ(synced[1], std::pair(std::string(), std::string("new content"))) << "the folder, for the name";
 }
 
 TEST_F(ReplaceTest, TakesLargeContentInPiecesOfAnySize) {

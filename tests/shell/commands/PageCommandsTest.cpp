@@ -1,28 +1,18 @@
 // SPDX-License-Identifier: MIT
 // The Preview and Print commands, up to the page that is shown.
-#include "editor/ExamEditor.h"
-#include "platform/posix/PosixFiles.h"
+#include "editor/EditorTest.h"
 #include "shell/commands/PreviewCommand.h"
 #include "shell/commands/PrintCommand.h"
-#include "support/RecordingWorld.h"
-#include "support/TemporaryFolder.h"
 #include "text/PathText.h"
-
-#include <gtest/gtest.h>
 
 namespace quorvantis::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-class PageCommandsTest : public testing::Test, private EditorView {
+class PageCommandsTest : public EditorTest {
  protected:
-  PageCommandsTest() {
-    fs::create_directory(folder / "app");
-    exam.SetHostMode(1);
-    editor.questions.LoadCurrentQuestion();
-    editor.questions.EditField(FormField::Text, u"Typed");
-  }
+  PageCommandsTest() { Type(FormField::Text, u"Typed"); }
 
   void Preview(int languageId = 0x0409) {
     PreviewCommand(editor.questions, exam, nullptr, languageId, Show()).Run();
@@ -33,16 +23,6 @@ class PageCommandsTest : public testing::Test, private EditorView {
     return world.pages.pages[page].find(text) != std::u16string::npos;
   }
 
-  TemporaryFolder folder;
-  const fs::path preview = folder / "app" / "TEMP" / "ExamPreview" / "SEE.htm";
-  const fs::path print = folder / "app" / "exam_Print.htm";
-  PosixFiles files;
-  RecordingWorld world{folder / "app", files};
-  FrameSetExam exam{world.services};
-  ExamEditor editor{exam, *this, nullptr};
-  std::vector<fs::path> shown;
-
- private:
   ShowPage Show() {
     return [this](const fs::path& page) {
       EXPECT_TRUE(fs::exists(page));
@@ -50,10 +30,9 @@ class PageCommandsTest : public testing::Test, private EditorView {
     };
   }
 
-  void FormLoaded() override {}
-  void FormChanged() override {}
-  void TitleChanged() override {}
-  void PostContentChanged() override {}
+  const fs::path preview = folder / "app" / "TEMP" / "ExamPreview" / "SEE.htm";
+  const fs::path print = folder / "app" / "exam_Print.htm";
+  std::vector<fs::path> shown;
 };
 
 TEST_F(PageCommandsTest, PreviewStoresCountsAndShows) {

@@ -102,16 +102,6 @@ TEST_F(Languages, AreListedByFileName) {
   EXPECT_EQ(list.DisplayName(2), u"c.dLl") << "a name that can be selected";
 }
 
-TEST_F(Languages, FolderOfTheApplicationComesFirst) {
-  const TemporaryFolder program;
-  const std::filesystem::path beside = program / "language/Quorvantis";
-  EXPECT_EQ(LanguageFolder(module.Path(), program.Path()), folder) << "named when there is none";
-  std::filesystem::create_directories(beside);
-  EXPECT_EQ(LanguageFolder(module.Path(), program.Path()), beside);
-  std::filesystem::create_directories(folder);
-  EXPECT_EQ(LanguageFolder(module.Path(), program.Path()), folder);
-}
-
 TEST_F(Languages, StartUpRunsInOrder) {
   Add("a.dll", "1 First");
   Add("b.dll", "2 Second");
@@ -136,8 +126,6 @@ TEST_F(Languages, StartUpRunsInOrder) {
   EXPECT_EQ(windows.events, (Events{"apply 2", "choose"}));
   EXPECT_NE(ReadBytes(module / "system.ini").find("Language=1"), std::string::npos)
       << "saved, though cancelled";
-  EXPECT_EQ(Run(2), 5);
-  EXPECT_EQ(windows.events, (Events{"apply 2", "apply 2", "run 2"}));
   Run(7);
   EXPECT_EQ(windows.events, (Events{"apply 1", "apply 1", "run 7"})) << "no such language: the first";
 }

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "RenderTest.h"
-#include "render/ComposedPages.h"
 #include "render/PageFile.h"
+#include "render/Template.h"
+#include "render/TextToHtml.h"
+
+#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
@@ -9,6 +12,25 @@ namespace quorvantis::test {
 namespace {
 
 using namespace std::string_literals;
+
+TEST(Template, FillsEveryKindOfPlace) {
+  constexpr Template<int, Text, char16_t, int, float> kAll{uR"(%d|%s|%c|%03d|%1.2f|%%)"};
+  EXPECT_EQ(kAll(-7, u"%d <b>\\r", u'E', 7, 2.5F), u"-7|%d <b>\\r|E|007|2.50|%");
+}
+
+/// Exams with lone LFs have lost these characters always.
+TEST(TextToHtml, TakesOneMoreCharacterWithEachLineEnd) {
+  const std::pair<std::u16string_view, std::u16string_view> rows[] = {
+      {u"", u""},
+      {u"<b>&\"", u"<b>&\"<br>"},
+      {u"one\r\ntwo\r\n", u"one<br>two<br>"},
+      {u"\r\n\r\n", u"<br><br>"},
+      {u"one\ntwo\rthree", u"one<br>wo<br>hree<br>"},
+      {u"one\n\r\ntwo\n", u"one<br><br>wo<br>"},
+      {u"a\n\U0001F600", u"a<br>\xDE00<br>"},  // half of a pair may go
+  };
+  for (const auto& [text, html] : rows) EXPECT_EQ(TextToHtml(text), html);
+}
 
 class PageFileTest : public RenderTest {
  protected:
@@ -32,13 +54,6 @@ TEST_F(PageFileTest, CutsUtf16ToOneByteMoreThanItHasUnits) {
   }
 }
 
-TEST_F(PageFileTest, IsEmptyUntilThePageIsThere) {
-  WriteBytes(file, "earlier");
-  PageFile page(file, world.pages);
-  EXPECT_EQ(fs::file_size(file), 0);
-  EXPECT_TRUE(world.pages.pages.empty());
-}
-
 TEST_F(PageFileTest, KeepsThePageWhereNoFileCanBeMade) {
   const fs::path target = folder / "absent" / "page.htm";
   PageFile(target, world.pages).WriteUtf8(u"page");
@@ -56,17 +71,6 @@ TEST_F(PageFileTest, WritesThroughNoLinkAndIntoNoPipe) {
   PageFile(file, world.pages).WriteUtf8(u"page");
   EXPECT_EQ(ReadBytes(file), "page\0"s);
   EXPECT_TRUE(world.pages.notWritten.empty());
-}
-
-TEST(ComposedPages, AreFoundByTheNormalAbsolutePath) {
-  ComposedPages pages;
-  pages.Add("/a/./b/../c.htm", u"first");
-  pages.Add("/a/c.htm", u"second");
-  pages.Add("relative.htm", u"third");
-  EXPECT_EQ(*pages.Find("/a/x/../c.htm"), u"second");
-  EXPECT_EQ(*pages.Find(fs::current_path() / "relative.htm"), u"third");
-  pages.Clear();
-  EXPECT_EQ(pages.Find("/a/c.htm"), nullptr);
 }
 
 }  // namespace

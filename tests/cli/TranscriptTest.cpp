@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+// Commands as a user types them, with all that they print: transcripts/*.txt. In a transcript, "$" begins a
+// command, "<" a line of its standard input, "=" names a file to write and "|" is a line of that. Then comes
+// what the command is expected to print: ">" on standard output, "!" on standard error, "?" its status
+// unless that is 0. DIR is the folder in which everything happens. QV_UPDATE_GOLDEN=1 writes these lines
+// anew; read them before you commit.
+#include "CommandLineTest.h"
+
+namespace quorvantis::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kTranscripts = fs::path(QUORVANTIS_PROJECT) / "tests/cli/transcripts";
+
+/// Words between blanks; quotation marks hold words together.
+std::vector<std::string> WordsOf(const std::string& line) {
+  std::vector<std::string> words;
+  bool isQuoted = false, isInside = false;
+  for (const char c : line) {
+    isQuoted ^= c == '"';
+    if (c == ' ' && !isQuoted) {
+      isInside = false;
+      continue;
+    }
+    if (!std::exchange(isInside, true)) words.emplace_back();
+    if (c != '"') words.back() += c;
+  }
+  return words;
+}
+
+class Transcript : public CommandLineTest, public testing::WithParamInterface<const char*> {
+ protected:
+  /// What was printed, each line behind its mark.
+  void Print(char mark, std::string text) {
+    for (auto at = text.find(folder.Path()); at != text.npos; at = text.find(folder.Path()))
+      text.replace(at, folder.Path().string().size(), "DIR");
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) actual += std::string{mark, ' '} + line + "\n";
+  }
+
+  void RunCommand() {
+    if (command.empty()) return;
+    const RunResult run = Command(WordsOf(std::exchange(command, {})), std::exchange(input, {}));
+    Print('>', run.out);
+    Print('!', run.err);
+    if (run.status != 0) Print('?', std::to_string(run.status));
+  }
+
+  void Replay(const std::string& line) {
+    const char mark = line.empty() ? ' ' : line[0];
+    const std::string rest = line.substr(std::min<std::size_t>(2, line.size()));
+    if (std::string_view(">!?").find(mark) != std::string_view::npos) return;
+    if (mark != '<') RunCommand();
+    actual += line + "\n";
+    if (mark == '$') command = rest;
+    if (mark == '<') input += rest + "\n";
+    if (mark == '=') WriteBytes(file = folder / rest, "");
+    if (mark == '|') WriteBytes(file, ReadBytes(file) + rest + "\n");
+  }
+
+  std::string command;
+  std::string input;
+  fs::path file;
+  std::string actual;
+};
+
+INSTANTIATE_TEST_SUITE_P(Of, Transcript, testing::Values("build", "edit", "import", "score", "show", "usage"),
+                         [](const auto& param) { return param.param; });
+
+TEST_P(Transcript, IsTrue) {
+  const fs::path golden = kTranscripts / (std::string(GetParam()) + ".txt");
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.Path());
+  std::ifstream lines(golden);
+  for (std::string line; std::getline(lines, line);) Replay(line);
+  RunCommand();
+  fs::current_path(before);
+  if (std::getenv("QV_UPDATE_GOLDEN") != nullptr)
+    WriteBytes(golden, actual);  // NOLINT(concurrency-mt-unsafe)
+  EXPECT_EQ(actual, ReadBytes(golden)) << golden;
+}
+
+}  // namespace
+}  // namespace quorvantis::test
