@@ -50,12 +50,12 @@ TEST_F(ExamFileEditing, AsksBeforeChangesAreLost) {
   };
   const auto newExam = [&] {
     editor.files.NewExam();
-    return editor.state.currentQuestion == 1 && title == u"[107 UnTitle]" && exam.Question(1).text.empty();
+    return editor.state.CurrentQuestion() == 1 && title == u"[107 UnTitle]" && exam.Question(1).text.empty();
   };
   const auto open = [&] {
     Open(other);
     world.dialogs.filesToOpen.clear();
-    return editor.state.currentQuestion == 1 && title == u"[107 " + AsText(other) + u"]" &&
+    return editor.state.CurrentQuestion() == 1 && title == u"[107 " + AsText(other) + u"]" &&
            editor.questions.Form().text == u"first";
   };
   const auto close = [&] { return editor.files.ConfirmClose(); };
@@ -225,7 +225,7 @@ TEST_F(ExamFileEditing, GoesOnWithWhatAFileHolds) {
   editor.questions.GoNext();
   Open(folder / "absent.exm");
   EXPECT_EQ(world.dialogs.errors.size(), 1u);
-  EXPECT_EQ(editor.state.currentQuestion, 1);
+  EXPECT_EQ(editor.state.CurrentQuestion(), 1);
   EXPECT_EQ(editor.questions.Form().text, u"");
   EXPECT_EQ(title, u"[107 " + AsText(folder / "absent.exm") + u"]");
 }

@@ -36,7 +36,7 @@ LayoutInput Measure(PixelSize area, const WindowControls& controls, const ExamEd
   input.oralToggle = {controls.question.oralToggle->width(), controls.question.oralToggle->height()};
   input.answerLabel = TextSize(*controls.answers.answerLabel);
   input.essayLabel = TextSize(*controls.answers.essayLabel);
-  input.kind = editor.state.currentKind;
+  input.kind = editor.state.CurrentKind();
   return input;
 }
 

@@ -23,7 +23,7 @@ class DesktopWindows : public ApplicationWindows {
   int RunMainWindow(CQuorvantisApp& application) override;
 
  private:
-  void Begin(CQuorvantisDlg& window);
+  void OpenFirstExam(CQuorvantisDlg& window);
   void RememberFolders(const ExamFolderSetting& setting);
   bool TakesPicture() const { return !options_.screenshot.isEmpty(); }
   void TakePicture(QWidget& window);

@@ -12,7 +12,7 @@ class ExportWindow : public WindowTest {
  protected:
   /// Saves a changed exam as a document, which leaves the exam's name and change alone.
   void SaveAsDocument(const OfficePrograms& programs) {
-    exportDocument = [this, programs](FrameSetExam& document, const fs::path& file) {
+    exportDocument = [this, programs](const FrameSetExam& document, const fs::path& file) {
       OfficeWordWriter writer(files, programs);
       ExportCommand(document, writer, nullptr).ExportWordDocument(file);
     };

@@ -20,7 +20,7 @@ TEST_F(OfficeWindow, AsksAboutOfficeProgramsAtTheStartAndAtEachPreview) {
     return world.registry.OpenKey(RegistryRoot::CurrentUser, locations + u"\\LocationQuorvantis") != nullptr;
   };
   world.dialogs.whileAsking = [&] {
-    const int previews = window ? 1 : 0;
+    const int previews = window->isVisible() ? 1 : 0;
     EXPECT_EQ(trusts(), previews == 1);
     EXPECT_EQ(exam.PathOnPages(u"/a.gif"), previews == 1 ? u"/a./a.gif" : u"/a.gif");
     EXPECT_NE(exam.pageRenderer.renderOption, 0x0409) << "before pages are written";
