@@ -3,8 +3,8 @@
 #include "platform/convert/ContentKey.h"
 #include "platform/convert/DocumentImages.h"
 #include "platform/convert/MediaConverter.h"
-#include "platform/convert/OfficeFilters.h"
 #include "platform/convert/ProgramRun.h"
+#include "platform/documents/ImportFilters.h"
 #include "platform/programs/OfficeProfile.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
@@ -173,11 +173,12 @@ TEST_F(ConvertTest, ConversionsQueueAndDamagedDocumentsDoNotHoldTheRest) {
 }
 
 TEST(OfficeFilters, GoByWhatAFileIsNotByItsName) {
-  EXPECT_EQ(ImportFilters("doc", "\xD0\xCF\x11\xE0"), (QStringList{"MS Word 97", "MS Word 95"}));
-  EXPECT_EQ(ImportFilters("doc", "PK\x03\x04"), QStringList{"MS Word 2007 XML"});
-  EXPECT_EQ(ImportFilters("doc", "{\\rtf1"), QStringList{"Rich Text Format"});
-  EXPECT_EQ(ImportFilters("xls", "{\\rtf1"), QStringList());
-  EXPECT_EQ(ImportFilters("doc", "plain text"), QStringList());
+  using Filters = std::vector<std::string>;
+  EXPECT_EQ(ImportFiltersOf("doc", "\xD0\xCF\x11\xE0"), (Filters{"MS Word 97", "MS Word 95"}));
+  EXPECT_EQ(ImportFiltersOf("doc", "PK\x03\x04"), Filters{"MS Word 2007 XML"});
+  EXPECT_EQ(ImportFiltersOf("doc", "{\\rtf1"), Filters{"Rich Text Format"});
+  EXPECT_EQ(ImportFiltersOf("xls", "{\\rtf1"), Filters());
+  EXPECT_EQ(ImportFiltersOf("doc", "plain text"), Filters());
 }
 
 TEST(MediaFormat, TellsWhatTheBrowserPlays) {
