@@ -23,7 +23,7 @@ EditSession::EditSession(Console& console, const CommonOptions& options,
       life_(
           session_.exam, view_,
           [this](const FrameSetExam& exam, const std::filesystem::path& target) {
-            ExportCommand(exam, session_.documents, nullptr).ExportWordDocument(target);
+            ExportCommand(exam, session_.writer, nullptr).ExportWordDocument(target);
           },
           nullptr),
       importAnswers_(session_.console),

@@ -109,7 +109,7 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   LinuxProcessTable processes;
   OfficeControl office(host.Services(), processes);
   const auto exportDocument = [&](const FrameSetExam& document, const std::filesystem::path& target) {
-    ExportCommand(document, host.Documents(), &office).ExportWordDocument(target);
+    ExportCommand(document, host.Writer(), &office).ExportWordDocument(target);
   };
   CQuorvantisDlg window(exam, host.Pages(), host.Papers(), TakesPicture() ? nullptr : &office, exportDocument,
                         &language, application.LanguageId());

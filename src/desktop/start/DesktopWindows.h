@@ -4,7 +4,7 @@
 #include "desktop/dialogs/QtUserDialogs.h"
 #include "desktop/start/QtLanguage.h"
 #include "desktop/start/WindowArguments.h"
-#include "shell/settings/ExamFolderSetting.h"
+#include "shell/settings/FileSettings.h"
 #include "shell/start/CQuorvantisApp.h"
 
 namespace quorvantis {

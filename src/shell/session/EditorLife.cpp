@@ -4,24 +4,16 @@
 #include "platform/ExamServices.h"
 #include "recovery/RecoveryFolder.h"
 #include "shell/session/CloseSequence.h"
-#include "shell/settings/BackupSetting.h"
+#include "shell/settings/FileSettings.h"
 
 #include <utility>
 
 namespace quorvantis {
-namespace {
-
-/// An exam of the editor's, before the editor has it.
-FrameSetExam& InHostMode(FrameSetExam& exam) {
-  exam.SetHostMode(1);
-  return exam;
-}
-
-}  // namespace
 
 EditorLife::EditorLife(FrameSetExam& exam, EditorView& view, DocumentExport exportDocument,
                        OfficeControl* office)
-    : office_(office), editor_(InHostMode(exam), view, std::move(exportDocument)) {
+    : office_(office), editor_(exam, view, std::move(exportDocument)) {
+  exam.SetHostMode(1);
   editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
   if (office_ == nullptr) return;
   office_->settings.RegisterBrowsableTypes();
