@@ -3,12 +3,10 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/DroppedFiles.h"
-#include "desktop/controls/FittedCaption.h"
 #include "desktop/controls/PlacedText.h"
 #include "desktop/dialogs/AboutDlg.h"
 #include "desktop/dialogs/CScoreSetupDlg.h"
 #include "desktop/main/RecoveryQuestion.h"
-#include "desktop/main/WindowSize.h"
 #include "host/ImportRules.h"
 #include "platform/DebugOutput.h"
 #include "platform/ExamServices.h"
@@ -60,13 +58,6 @@ bool CanRead(const std::filesystem::path& file) {
   return std::filesystem::is_regular_file(file, ignored) && std::ifstream(file).is_open();
 }
 
-/// Rows have fixed heights, so a large font of the desktop becomes smaller here, before the controls take it
-/// over.
-QWidget* WithFittingFont(QWidget* window) {
-  window->setFont(FontForHeight(window->font(), kHighestLine));
-  return window;
-}
-
 PreviewTexts TextsOfPreviews(const StringTable& strings) {
   return {PlacedText(strings, text_id::kPreparing),      PlacedText(strings, text_id::kCannotShow),
           PlacedText(strings, text_id::kFileMissing),    PlacedText(strings, text_id::kNeedsProgram),
@@ -83,7 +74,8 @@ GatewaySetup SetUpGateway(const ExamServices& services, const ComposedPages& pag
 CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers,
                                OfficeControl* office, DocumentExport exportDocument,
                                const LanguageLibrary* library, int languageId)
-    : library_(library),
+    : FittedWindow(kHighestLine),
+      library_(library),
       life_(exam, *this, std::move(exportDocument), office),
       editor_(life_.Editor()),
       services_(exam.Services()),
@@ -92,7 +84,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       importWindows_(exam.Services(), library, *this),
       import_(editor_, papers, importWindows_, FindImportRules(services_.applicationFolder)),
       pictures_(library),
-      files_(editor_, PageCommands(), services_.strings, pictures_, WithFittingFont(this)),
+      toolbar_(editor_, Commands(), services_.strings, pictures_, this),
       examControls_(editor_, services_.strings, this),
       questionArea_(MakeQuestionArea(services_.strings, this)),
       question_(editor_, services_.strings, pictures_, this),
@@ -143,8 +135,8 @@ bool CQuorvantisDlg::Shows(const std::filesystem::path& file) const {
   return std::filesystem::equivalent(editor_.state.FileName(), file, ignored);
 }
 
-FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
-  FileButtons::PageCommands commands;
+ToolbarButtons::WindowCommands CQuorvantisDlg::Commands() {
+  ToolbarButtons::WindowCommands commands;
   commands.importExam = [this] { import_.ImportQuestions(); };
   commands.scoreSetup = [this] { SetUpScores(); };
   commands.preview = [this] { Preview(); };
@@ -153,7 +145,7 @@ FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
 }
 
 WindowControls CQuorvantisDlg::Controls() {
-  return {files_, examControls_, questionArea_, question_, answers_, recoveryFails_};
+  return {toolbar_, examControls_, questionArea_, question_, answers_, recoveryFails_};
 }
 
 void CQuorvantisDlg::Layout() {
@@ -164,7 +156,7 @@ void CQuorvantisDlg::Layout() {
 void CQuorvantisDlg::OfferImport() {
   if (CanRead(FindImportRules(services_.applicationFolder))) return;
   services_.debug.Line(u"CQuorvantisDlg::!file.Open");
-  files_.HideImport();
+  toolbar_.HideImport();
 }
 
 /// No message box: it would come in the middle of a word.

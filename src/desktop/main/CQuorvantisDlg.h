@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/controls/FittedCaption.h"
 #include "desktop/controls/Pictures.h"
 #include "desktop/import/ImportWindows.h"
 #include "desktop/main/AnswerControls.h"
 #include "desktop/main/ExamControls.h"
-#include "desktop/main/FileButtons.h"
 #include "desktop/main/QuestionArea.h"
 #include "desktop/main/QuestionControls.h"
+#include "desktop/main/ToolbarButtons.h"
 #include "desktop/main/WarningNotice.h"
 #include "desktop/main/WindowLayout.h"
 #include "desktop/main/WindowScroll.h"
@@ -30,7 +31,10 @@ namespace quorvantis {
 /// the editor tells. Escape ends it without a question, closing it asks about unsaved changes. When the
 /// window goes, so do the work copies of attached files. As long as something is not saved, there is a
 /// recovery copy of it.
-class CQuorvantisDlg final : public QWidget, private EditorView, private PreviewOwner, private SetupOwner {
+class CQuorvantisDlg final : public FittedWindow,
+                             private EditorView,
+                             private PreviewOwner,
+                             private SetupOwner {
   Q_OBJECT
 
  public:
@@ -88,7 +92,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void PrefixAttachmentPaths(int on) override { editor_.changes.PrefixAttachmentPaths(on); }
   void PreviewFromSetup(int show) override;
 
-  FileButtons::PageCommands PageCommands();
+  ToolbarButtons::WindowCommands Commands();
   WindowControls Controls();
   /// Gives every control its place.
   void Layout();
@@ -117,7 +121,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   ImportCommand import_;
   Pictures pictures_;
   bool endsUnasked_ = false;
-  FileButtons files_;
+  ToolbarButtons toolbar_;
   ExamControls examControls_;
   QuestionArea* questionArea_;
   QuestionControls question_;
