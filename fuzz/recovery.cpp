@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Feeds any bytes to the reader of recovery copies, as a whole file and as the snapshot in one, which the
 // checksum of the file would keep from being tried. What is read must be an exam that an editor can show.
+#include "editor/UnseenView.h"
 #include "platform/posix/PosixFiles.h"
 #include "recovery/ExamSnapshot.h"
 #include "recovery/RecoveryFile.h"
@@ -24,8 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!place) return 0;
   test::UnseenView view;
   ExamEditor editor(exam, view, nullptr);
-  editor.state.currentQuestion = place->currentQuestion;
-  editor.questions.LoadCurrentQuestion();
+  editor.questions.ShowQuestion(place->currentQuestion);
   FrameSetExam again(world.services);
   if (!ReadSnapshot(TakeSnapshot(editor).content, again)) std::abort();
   return 0;

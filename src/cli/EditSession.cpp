@@ -4,8 +4,6 @@
 #include "cli/CommandError.h"
 #include "host/ImportRules.h"
 #include "shell/commands/ExportCommand.h"
-#include "shell/session/CloseSequence.h"
-#include "shell/settings/BackupSetting.h"
 
 #include <utility>
 
@@ -22,43 +20,34 @@ std::string Shortened(const std::string& word) {
 EditSession::EditSession(Console& console, const CommonOptions& options,
                          const std::filesystem::path& importRules)
     : session_(console, options),
-      editor_(session_.exam, *this,
-              [this](FrameSetExam& exam, const std::filesystem::path& target) {
-                ExportCommand(exam, session_.documents, nullptr).ExportWordDocument(target);
-              }),
+      life_(
+          session_.exam, view_,
+          [this](const FrameSetExam& exam, const std::filesystem::path& target) {
+            ExportCommand(exam, session_.writer, nullptr).ExportWordDocument(target);
+          },
+          nullptr),
       importAnswers_(session_.console),
-      import_(editor_, session_.papers, importAnswers_,
+      import_(life_.Editor(), session_.papers, importAnswers_,
               importRules.empty() ? FindImportRules(session_.services.applicationFolder) : importRules) {
-  editor_.files.SetBackups(KeepsBackups(session_.services.applicationFolder));
-  editor_.questions.LoadCurrentQuestion();
-}
-
-EditSession::~EditSession() {
-  if (recovery_) recovery_->Left(Parting::Leave);
-  RunCloseSequence(session_.exam, nullptr);
-}
-
-void EditSession::KeepRecovery() {
-  recovery_.emplace(editor_);
-  recovery_->Entered();
+  life_.Begin();
 }
 
 void EditSession::OpenExam(const std::filesystem::path& file) {
-  editor_.files.OpenExam(file);
+  Editor().files.OpenExam(file);
   session_.RequireUnpacked(file);
 }
 
 /// A script goes on without a recovery copy.
 void EditSession::TellRecovery() {
-  const std::error_code failure = recovery_->Failure();
+  const std::error_code failure = life_.RecoveryFailure();
   if (std::exchange(recoveryFails_, static_cast<bool>(failure)) || !failure) return;
-  session_.console.Complain(RecoveryRoot(session_.services.applicationFolder).string() +
+  session_.console.Complain(life_.RecoveryFolder().string() +
                             ": what is not saved cannot be kept there: " + failure.message());
 }
 
 void EditSession::Run(const EditScriptLine& line) {
   if (line.command.empty()) return;
-  editor_.state.DeliverContentChanged();
+  Editor().state.DeliverContentChanged();
   const EditCommand* command = FindEditCommand(line.command);
   if (command == nullptr) throw CommandError("unknown command \"" + Shortened(line.command) + "\"");
   const std::size_t count = line.arguments.size();
@@ -69,10 +58,8 @@ void EditSession::Run(const EditScriptLine& line) {
   if (closed_ && line.command != "state") throw CommandError("the exam is closed");
   const int errors = session_.dialogs.ErrorCount();
   command->run(*this, line.arguments);
-  if (recovery_) {
-    recovery_->LookAndWait();
-    TellRecovery();
-  }
+  life_.KeepUnsaved();
+  TellRecovery();
   if (session_.dialogs.ErrorCount() > errors) throw CommandError(line.command + " failed");
 }
 

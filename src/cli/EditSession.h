@@ -4,22 +4,20 @@
 #include "cli/EditScriptLine.h"
 #include "cli/ExamSession.h"
 #include "cli/ScriptedImport.h"
-#include "editor/ExamEditor.h"
-#include "recovery/RecoveryKeeper.h"
+#include "editor/UnseenView.h"
+#include "shell/session/EditorLife.h"
 
 namespace quorvantis::cli {
 
 /// The question editor of the window, driven by script lines instead of clicks.
-class EditSession : private EditorView {
+class EditSession {
  public:
   /// `importRules` is the file with the repositories; that of the application folder, or the one beside the
   /// program, without it.
   EditSession(Console& console, const CommonOptions& options, const std::filesystem::path& importRules = {});
-  /// Removes the work copies, as the window does when it ends.
-  ~EditSession() override;
 
   /// From now on each line leaves a recovery copy of what is not saved.
-  void KeepRecovery();
+  void KeepRecovery() { life_.KeepRecovery(); }
 
   /// Runs one line. Throws CommandError when its command is unknown, has wrong arguments or fails.
   void Run(const EditScriptLine& line);
@@ -28,7 +26,7 @@ class EditSession : private EditorView {
   /// unpacked: a save would lose them.
   void OpenExam(const std::filesystem::path& file);
 
-  ExamEditor& Editor() { return editor_; }
+  ExamEditor& Editor() { return life_.Editor(); }
   ScriptedDialogs& Dialogs() { return session_.dialogs; }
   ScriptedImport& ImportAnswers() { return importAnswers_; }
   ImportCommand& Import() { return import_; }
@@ -41,16 +39,11 @@ class EditSession : private EditorView {
  private:
   void TellRecovery();
 
-  void FormLoaded() override {}
-  void FormChanged() override {}
-  void TitleChanged() override {}
-  void PostContentChanged() override {}  // delivered before the next line
-
   ExamSession session_;
-  ExamEditor editor_;
+  UnseenView view_;
+  EditorLife life_;
   ScriptedImport importAnswers_;
   ImportCommand import_;
-  std::optional<RecoveryKeeper> recovery_;
   bool recoveryFails_ = false;  ///< and this has been told
   bool closed_ = false;
 };

@@ -74,7 +74,7 @@ void Attach(EditSession& session, AttachedTo list, const ScriptArgument& argumen
 /// The window has the switch for oral questions alone, and shows the flag of the question in hand there.
 void SwitchOral(EditSession& session, const Arguments&) {
   ExamEditor& editor = session.Editor();
-  if (editor.state.currentKind != QuestionKind::Oral)
+  if (editor.state.CurrentKind() != QuestionKind::Oral)
     session.Streams().Complain("not switched: the question is not oral");
   editor.attachments.ReadOralFlag();
   editor.attachments.ToggleOral();

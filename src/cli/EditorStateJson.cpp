@@ -33,12 +33,12 @@ Json FormToJson(const QuestionEditor& editor) {
 Json EditorStateToJson(const ExamEditor& editor) {
   const EditorState& state = editor.state;
   const AttachmentEditor& attachments = editor.attachments;
-  const ExamQuestion& question = state.document.Question(state.currentQuestion);
-  return {{"currentQuestion", state.currentQuestion},
+  const ExamQuestion& question = state.Current();
+  return {{"currentQuestion", state.CurrentQuestion()},
           {"modified", state.Modified()},
           {"fileName", Utf16ToUtf8(PathToText(state.FileName()))},
           {"windowTitle", Utf16ToUtf8(state.WindowTitle())},
-          {"currentKind", static_cast<int>(state.currentKind)},
+          {"currentKind", static_cast<int>(state.CurrentKind())},
           {"form", FormToJson(editor.questions)},
           {"questionList", ToList(attachments.QuestionList().names)},
           {"examList", ToList(attachments.ExamList().names)},

@@ -16,9 +16,8 @@ namespace quorvantis::cli {
 namespace fs = std::filesystem;
 namespace {
 
-/// The given folder, or a private one.
-ApplicationFolderClaim ClaimFolder(const fs::path& given, std::optional<PrivateFolder>& privateFolder) {
-  ApplicationFolderClaim claim(given.empty() ? privateFolder.emplace().Path() : given);
+ApplicationFolderClaim ClaimFolder(const fs::path& folder) {
+  ApplicationFolderClaim claim(folder);
   if (claim.WhatIsWrong() != ApplicationFolderClaim::Problem::None) throw CommandError(claim.Explanation());
   return claim;
 }
@@ -36,7 +35,8 @@ CommandError NotOpened(const StringTable& strings, const fs::path& file) {
 }  // namespace
 
 ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
-    : folder_(ClaimFolder(options.appFolder, privateFolder_)),
+    : privateFolder_(options.appFolder.empty() ? std::make_unique<PrivateFolder>() : nullptr),
+      folder_(ClaimFolder(privateFolder_ ? privateFolder_->Path() : options.appFolder)),
       language_(UseLanguage(options)),
       progress_(theConsole.err, ::isatty(STDERR_FILENO) != 0),
       console(theConsole),
@@ -45,7 +45,7 @@ ExamSession::ExamSession(Console& theConsole, const CommonOptions& options)
       host_(folder_.Folder(), languageId, options.debug, {language_, dialogs, progress_, longAnswerFlags_}),
       services(host_.Services()),
       papers(host_.Papers()),
-      documents(host_.Documents()),
+      writer(host_.Writer()),
       exam(services) {
   exam.SetHostMode(1);
 }

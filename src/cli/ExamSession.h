@@ -13,6 +13,7 @@
 #include "shell/language/LanguageInUse.h"
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 
 namespace quorvantis::cli {
@@ -51,7 +52,7 @@ class ExamSession {
   void RequireWrittenPages() const;
 
  private:
-  std::optional<PrivateFolder> privateFolder_;
+  const std::unique_ptr<PrivateFolder> privateFolder_;  ///< null when a folder was named
   const ApplicationFolderClaim folder_;
   LanguageInUse language_;
   TerminalProgress progress_;
@@ -68,7 +69,7 @@ class ExamSession {
  public:
   ExamServices& services;
   WordDocuments& papers;
-  WordWriter& documents;
+  WordWriter& writer;
   FrameSetExam exam;
 };
 

@@ -28,7 +28,7 @@ void Export(Console& console, const CommonOptions& options, const fs::path& exam
   RefuseToOverwrite(exam, target);
   ExamSession session(console, options);
   session.Load(exam);
-  if (const auto failure = ExportCommand(session.exam, session.documents, nullptr).Write(target, format)) {
+  if (const auto failure = ExportCommand(session.exam, session.writer, nullptr).Write(target, format)) {
     throw CommandError(Utf16ToUtf8(*failure));
   }
   // The message names the one format that the window writes.

@@ -83,7 +83,7 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
   }
   EditSession session(console, options, request.rules);
   const ImportReport report = RunImport(session, request);
-  FrameSetExam& exam = session.Editor().state.document;
+  FrameSetExam exam = session.Editor().state.document;
   exam.Services().longAnswerFlags.SetWhereNeeded(exam);
   if (const auto error = ExamFileWriter(exam, exam.Services()).Write(request.target)) {
     throw CommandError(request.target.string() + ": cannot be written: " + error.message());

@@ -81,7 +81,7 @@ void Preview(Console& console, const CommonOptions& options, const PreviewReques
   session.Load(exam);
   if (request.responses) AnswerExam(session.exam, *request.responses, responses);
   UnseenEditor editor(session.exam);
-  PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPages(session)).Run();
+  PreviewCommand(editor.Editor(), nullptr, session.languageId, CheckPages(session)).Run();
   session.RequireUnpacked(request.exam);
 }
 
@@ -91,9 +91,8 @@ void Print(Console& console, const CommonOptions& options, const fs::path& exam,
   ExamSession session(console, In(folder, options));
   session.Load(exam);
   UnseenEditor editor(session.exam);
-  if (afterPreview)
-    PreviewCommand(editor.Questions(), session.exam, nullptr, session.languageId, CheckPages(session)).Run();
-  PrintCommand(editor.Questions(), session.exam, CheckPages(session)).Run();
+  if (afterPreview) PreviewCommand(editor.Editor(), nullptr, session.languageId, CheckPages(session)).Run();
+  PrintCommand(editor.Editor(), CheckPages(session)).Run();
   session.RequireUnpacked(exam);
 }
 

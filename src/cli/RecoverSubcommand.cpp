@@ -44,7 +44,7 @@ void Restore(ExamSession& session, const RecoveryCopy& copy, const std::filesyst
   if (!lost) throw CommandError(copy.folder.string() + ": cannot be read");
   const auto error = ExamFileWriter(session.exam, session.services).Write(target);
   if (!error) TellSavingLosses(session.console, target, session.exam);
-  RunCloseSequence(session.exam, nullptr);
+  RunCloseSequence(editor.Editor(), nullptr);
   if (error) throw CommandError(target.string() + ": cannot be written: " + error.message());
   for (const std::u16string& name : *lost) {
     session.console.Complain(Utf16ToUtf8(name) + ": could not be restored; it is saved without content");

@@ -2,26 +2,22 @@
 #pragma once
 
 #include "editor/ExamEditor.h"
+#include "editor/UnseenView.h"
 
 namespace quorvantis::cli {
 
 /// An editor on a loaded exam that nobody looks at.
-class UnseenEditor : private EditorView {
+class UnseenEditor {
  public:
   /// `exam` must outlive it.
-  explicit UnseenEditor(FrameSetExam& exam) : editor_(exam, *this, nullptr) {
+  explicit UnseenEditor(FrameSetExam& exam) : editor_(exam, view_, nullptr) {
     editor_.questions.LoadCurrentQuestion();
   }
 
   ExamEditor& Editor() { return editor_; }
-  QuestionEditor& Questions() { return editor_.questions; }
 
  private:
-  void FormLoaded() override {}
-  void FormChanged() override {}
-  void TitleChanged() override {}
-  void PostContentChanged() override {}
-
+  UnseenView view_;
   ExamEditor editor_;
 };
 

@@ -90,8 +90,8 @@ void AttachmentEditor::AttachExamFile(const std::filesystem::path& source) {
   const std::u16string name = PathToText(source.filename());
   const auto copy = MakeCopy(source);
   const std::size_t index = AppendEntry(examList_, name, copy);
-  state_.document.examAttachmentPaths[index] = PathToText(copy);
-  state_.document.examAttachmentNames[index] = name;
+  exam_.Change().examAttachmentPaths[index] = PathToText(copy);
+  exam_.Change().examAttachmentNames[index] = name;
   state_.view.FormChanged();
 }
 
@@ -101,8 +101,8 @@ void AttachmentEditor::AttachQuestionFile(const std::filesystem::path& source) {
   const auto copy = MakeCopy(source);
   const std::size_t index = AppendEntry(questionList_, name, copy);
   questionList_.RequestSelection(static_cast<std::size_t>(IsVideoLike(name)), index != 0);
-  state_.Current().attachmentPaths[index] = PathToText(copy);
-  state_.Current().attachmentNames[index] = name;
+  ChangeCurrent().attachmentPaths[index] = PathToText(copy);
+  ChangeCurrent().attachmentNames[index] = name;
   UpdateOralToggle();
   state_.view.FormChanged();
 }
@@ -112,9 +112,9 @@ void AttachmentEditor::RemoveSelectedAttachment(AttachedTo list) {
   ShownAttachments& shown = ofExam ? examList_ : questionList_;
   if (!shown.selected) return;
   if (ofExam) {
-    RemoveExamAttachment(state_.document, *shown.selected, shown.names.size());
+    RemoveExamAttachment(exam_.Change(), *shown.selected, shown.names.size());
   } else {
-    RemoveQuestionAttachment(state_.Current(), *shown.selected, shown.names.size());
+    RemoveQuestionAttachment(ChangeCurrent(), *shown.selected, shown.names.size());
   }
   RemoveEntry(shown);
   if (!ofExam) UpdateOralToggle();
@@ -148,7 +148,7 @@ void AttachmentEditor::ReadOralFlag() {
 
 void AttachmentEditor::ToggleOral() {
   oralToggleState_ = oralToggleState_ == 0 ? 1 : 0;
-  state_.Current().oralFlag = oralToggleState_;
+  ChangeCurrent().oralFlag = oralToggleState_;
   UpdateOralToggle();
   state_.view.FormChanged();
 }
@@ -165,21 +165,20 @@ void AttachmentEditor::RefreshExamList() {
 }
 
 void AttachmentEditor::RemoveQuestionAttachments(int question) {
-  RemoveAttachmentLists(state_.document, question);
+  RemoveAttachmentLists(exam_.Change(), question);
   questionList_ = {};
 }
 
 void AttachmentEditor::ShiftAttachmentsForInsert(int question) {
-  ShiftAttachmentLists(state_.document, question);
+  ShiftAttachmentLists(exam_.Change(), question);
   questionList_ = {};
 }
 
 /// Refreshed by loading, attaching, removing and toggling only: selecting an entry by itself does not bring
 /// the toggle up. A question that is not oral loses its flag by being shown.
 void AttachmentEditor::UpdateOralToggle() {
-  ExamQuestion& question = state_.Current();
-  if (state_.currentKind != QuestionKind::Oral) {
-    question.oralFlag = 0;
+  if (state_.CurrentKind() != QuestionKind::Oral) {
+    ChangeCurrent().oralFlag = 0;
     oralToggleShown_ = false;
     return;
   }
@@ -188,7 +187,7 @@ void AttachmentEditor::UpdateOralToggle() {
 }
 
 bool AttachmentEditor::OralToggleVisible() const {
-  return oralToggleShown_ && questionList_.visible && state_.currentKind == QuestionKind::Oral;
+  return oralToggleShown_ && questionList_.visible && state_.CurrentKind() == QuestionKind::Oral;
 }
 
 std::u16string AttachmentEditor::OralToggleCaption() const {

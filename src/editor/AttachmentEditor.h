@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/EditedExam.h"
 #include "editor/EditorState.h"
 
 #include <filesystem>
@@ -42,7 +43,8 @@ struct AttachedFile {
 /// latter. Changes go into the document at once; removing and toggling do not count as a change of the exam.
 class AttachmentEditor {
  public:
-  explicit AttachmentEditor(EditorState& state) : state_(state) {}
+  /// Both must outlive the editor.
+  AttachmentEditor(EditorState& state, EditedExam& exam) : state_(state), exam_(exam) {}
 
   /// Lets the user choose a file and attaches it. Nothing happens when the list already has ten entries.
   void AttachExamFile();
@@ -92,6 +94,7 @@ class AttachmentEditor {
   std::u16string OralToggleCaption() const;
 
  private:
+  ExamQuestion& ChangeCurrent() { return exam_.Change().Question(state_.CurrentQuestion()); }
   bool IsMissing(const std::u16string& copy) const;
   void Fill(ShownAttachments& list, const AttachmentList& names, const AttachmentList& paths) const;
   std::size_t AppendEntry(ShownAttachments& list, const std::u16string& name,
@@ -102,6 +105,7 @@ class AttachmentEditor {
   void UpdateOralToggle();
 
   EditorState& state_;
+  EditedExam& exam_;
   ShownAttachments questionList_;
   ShownAttachments examList_;
   int attachmentCounter_ = 0;  ///< attachments of this run; never goes back, so that copy names stay unique

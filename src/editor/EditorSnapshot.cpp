@@ -46,8 +46,8 @@ EditorSnapshot::EditorSnapshot(ExamEditor& editor)
 
 void EditorSnapshot::Take() {
   const EditorState& state = editor_.state;
-  kept_.emplace(Kept{state.document, editor_.questions.Form(), state.currentKind, state.currentQuestion,
-                     state.FileName(), state.Modified(), state.examsBegun, state.saves});
+  kept_.emplace(Kept{state.document, editor_.questions.Form(), state.CurrentKind(), state.CurrentQuestion(),
+                     state.FileName(), state.Modified(), state.ExamsBegun(), state.Saves()});
   copies_.SetAside(WorkCopiesOf(state.document));
 }
 
@@ -62,12 +62,11 @@ void EditorSnapshot::Restore() {
   Kept kept = *std::exchange(kept_, std::nullopt);
   EditorState& state = editor_.state;
   KeepPreviewSettings(state.document, kept.exam);
-  state.document = std::move(kept.exam);
-  state.currentQuestion = kept.currentQuestion;
-  editor_.questions.LoadCurrentQuestion(kept.form, kept.kind);
+  editor_.changes.Replace(std::move(kept.exam));
+  editor_.questions.ShowQuestion(kept.currentQuestion, kept.form, kept.kind);
   state.SetFileName(kept.fileName);
   state.MarkSaved();
-  if (kept.modified || state.saves != kept.saves) state.MarkModified();
+  if (kept.modified || state.Saves() != kept.saves) state.MarkModified();
   copies_.Clear();
 }
 

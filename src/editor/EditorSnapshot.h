@@ -20,7 +20,7 @@ class EditorSnapshot {
   void Take();
 
   /// Something is kept, and the user has not begun with another exam since.
-  bool IsUsable() const { return kept_ && kept_->examsBegun == editor_.state.examsBegun; }
+  bool IsUsable() const { return kept_ && kept_->examsBegun == editor_.state.ExamsBegun(); }
 
   /// The kept exam as it would be with the form stored; there must be one.
   FrameSetExam StoredExam() const;

@@ -16,20 +16,27 @@ inline constexpr const char* kUntitled = "UnTitle";
 inline constexpr auto kNoKind = static_cast<QuestionKind>(-1);
 
 /// What is being edited: the document, the question shown and whether there is something to save. Shared by
-/// the classes of the editor; one for the window's whole life.
+/// the classes of the editor; one for the window's whole life. Only they change the document (see
+/// EditedExam).
 class EditorState {
  public:
   /// Both must outlive the state.
-  EditorState(FrameSetExam& exam, EditorView& editorView) : document(exam), view(editorView) {}
+  EditorState(const FrameSetExam& exam, EditorView& editorView) : document(exam), view(editorView) {}
 
-  FrameSetExam& document;
+  const FrameSetExam& document;
   EditorView& view;
-  int currentQuestion = 1;  ///< 1 to 500
-  QuestionKind currentKind = kNoKind;
-  int examsBegun = 0;  ///< counts the exams that the user has opened or made anew
-  int saves = 0;       ///< counts how often an exam has been saved
 
-  ExamQuestion& Current() { return document.Question(currentQuestion); }
+  /// 1 to 500
+  int CurrentQuestion() const { return currentQuestion_; }
+  QuestionKind CurrentKind() const { return currentKind_; }
+  const ExamQuestion& Current() const { return document.Question(currentQuestion_); }
+
+  /// Counts the exams that the user has opened or made anew.
+  int ExamsBegun() const { return examsBegun_; }
+  void CountExamBegun() { ++examsBegun_; }
+  /// Counts how often an exam has been saved.
+  int Saves() const { return saves_; }
+  void CountSave() { ++saves_; }
 
   bool Modified() const { return modified_; }
   bool IsUntitled() const { return fileName_ == kUntitled; }
@@ -53,6 +60,12 @@ class EditorState {
   void DeliverContentChanged();
 
  private:
+  friend class QuestionEditor;  // it alone walks, and changes the kind
+
+  int currentQuestion_ = 1;
+  QuestionKind currentKind_ = kNoKind;
+  int examsBegun_ = 0;
+  int saves_ = 0;
   std::filesystem::path fileName_ = kUntitled;
   bool modified_ = false;
   bool titleTells_ = false;  ///< of changes

@@ -2,24 +2,38 @@
 #pragma once
 
 #include "editor/AttachmentEditor.h"
+#include "editor/EditedExam.h"
 #include "editor/EditorState.h"
+#include "editor/ExamChanges.h"
 #include "editor/ExamFileCommands.h"
 #include "editor/QuestionEditor.h"
 
 namespace quorvantis {
 
 /// The editor as a whole, as the window and the command line drive it.
-struct ExamEditor {
+class ExamEditor {
+ public:
+  /// Both must outlive the editor. From now on the editor alone changes `document`.
   ExamEditor(FrameSetExam& document, EditorView& view, DocumentExport exportDocument)
-      : state(document, view),
-        attachments(state),
-        questions(state, attachments),
-        files(state, questions, std::move(exportDocument)) {}
+      : exam_(document),
+        state(document, view),
+        attachments(state, exam_),
+        questions(state, exam_, attachments),
+        files(state, exam_, questions, std::move(exportDocument)),
+        changes(state, exam_, attachments) {}
+  ExamEditor(const ExamEditor&) = delete;
+  ExamEditor& operator=(const ExamEditor&) = delete;
+  ~ExamEditor() = default;
 
+ private:
+  EditedExam exam_;
+
+ public:
   EditorState state;
   AttachmentEditor attachments;
   QuestionEditor questions;
   ExamFileCommands files;
+  ExamChanges changes;
 };
 
 }  // namespace quorvantis

@@ -2,7 +2,6 @@
 #include "editor/ExamFileCommands.h"
 
 #include "editor/ProposedFileName.h"
-#include "editor/WorkCopies.h"
 #include "platform/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
@@ -42,10 +41,9 @@ void ExamFileCommands::Enter() {
 }
 
 void ExamFileCommands::ClearDocument() {
-  FrameSetExam& exam = state_.document;
+  FrameSetExam& exam = exam_.Change();
   exam.Reset();
-  if (exam.questionFilesUnpacked != 0) DeleteQuestionCopies(exam);
-  if (exam.examFilesUnpacked != 0) DeleteExamCopies(exam);
+  DeleteUnpackedCopies(exam);
   exam.questionFilesUnpacked = 0;
   exam.examFilesUnpacked = 0;
 }
@@ -54,7 +52,7 @@ void ExamFileCommands::NewExam() {
   const Parting parting = AskAboutChanges();
   if (parting == Parting::Stay) return;
   Leave(parting);
-  ++state_.examsBegun;
+  state_.CountExamBegun();
   StartNewExam();
 }
 
@@ -69,8 +67,7 @@ void ExamFileCommands::StartNewExam() {
 
 void ExamFileCommands::EmptyExam() {
   ClearDocument();
-  state_.currentQuestion = 1;
-  questions_.LoadCurrentQuestion();
+  questions_.ShowQuestion(1);
 }
 
 void ExamFileCommands::OpenExam() {
@@ -92,14 +89,13 @@ void ExamFileCommands::OpenExam(const std::filesystem::path& file) {
 }
 
 void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
-  ++state_.examsBegun;
+  state_.CountExamBegun();
   ClearDocument();
-  state_.document.ReadExamFile(file);
-  RecordCopies(state_.document);
+  exam_.Change().ReadExamFile(file);
+  RecordCopies(exam_.Change());
   check_.ExamIsThatOf(file);
   state_.SetFileName(file);
-  state_.currentQuestion = 1;
-  questions_.LoadCurrentQuestion();
+  questions_.ShowQuestion(1);
   state_.MarkSaved();
   Enter();
 }
@@ -124,6 +120,7 @@ bool ExamFileCommands::SaveAs() {
   if (extension == u"exm") return StoreAndWrite(*file);
   if (extension == u"doc") {
     questions_.StoreCurrentQuestion();
+    exam_.Change().CountQuestions();
     exportDocument_(state_.document, *file);
   }
   return true;
@@ -141,7 +138,7 @@ std::optional<std::filesystem::path> ExamFileCommands::ChooseTarget() {
 bool ExamFileCommands::StoreAndWrite(const std::filesystem::path& file) {
   const LossAnswer answer = AskAboutLosses(file);
   if (answer == LossAnswer::GoBack) return false;
-  FrameSetExam& exam = state_.document;
+  FrameSetExam& exam = exam_.Change();
   questions_.StoreCurrentQuestion();
   if (longAnswersWhole_) exam.Services().longAnswerFlags.SetWhereNeeded(exam);
   if (answer == LossAnswer::StoreWhole) {
@@ -160,9 +157,9 @@ LossAnswer ExamFileCommands::AskAboutLosses(const std::filesystem::path& file) c
 }
 
 void ExamFileCommands::WriteTo(const std::filesystem::path& file) {
-  if (!state_.document.WriteExamFile(file, keepsBackups_)) return;
-  ++state_.saves;
-  state_.document.readDoubt = ReadDoubt::None;
+  if (!exam_.Change().WriteExamFile(file, keepsBackups_)) return;
+  state_.CountSave();
+  exam_.Change().readDoubt = ReadDoubt::None;
   check_.ExamIsThatOf(file);
   state_.SetFileName(file);
   state_.MarkSaved();

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/EditedExam.h"
 #include "editor/QuestionEditor.h"
 #include "editor/SavingCheck.h"
 #include "editor/UnsavedWork.h"
+#include "editor/WorkCopies.h"
 
 #include <filesystem>
 #include <functional>
@@ -12,7 +14,7 @@
 namespace quorvantis {
 
 /// Writes the exam as a word-processor document; tells the user itself how it went.
-using DocumentExport = std::function<void(FrameSetExam& exam, const std::filesystem::path& target)>;
+using DocumentExport = std::function<void(const FrameSetExam& exam, const std::filesystem::path& target)>;
 
 /// What follows the last dot of the whole path, in lower case; the whole path when it has no dot. Save As
 /// goes by it.
@@ -24,8 +26,13 @@ std::u16string LowerExtension(const std::filesystem::path& path);
 class ExamFileCommands {
  public:
   /// All must outlive the commands.
-  ExamFileCommands(EditorState& state, QuestionEditor& questions, DocumentExport exportDocument)
-      : state_(state), questions_(questions), check_(state), exportDocument_(std::move(exportDocument)) {}
+  ExamFileCommands(EditorState& state, EditedExam& exam, QuestionEditor& questions,
+                   DocumentExport exportDocument)
+      : state_(state),
+        exam_(exam),
+        questions_(questions),
+        check_(state),
+        exportDocument_(std::move(exportDocument)) {}
 
   /// From now on: who keeps what is not saved, which must outlive the commands or be taken back with null.
   void SetUnsavedWork(UnsavedWork* unsavedWork) { unsavedWork_ = unsavedWork; }
@@ -52,6 +59,9 @@ class ExamFileCommands {
   /// Asks about unsaved changes; false when the window is to stay open.
   bool ConfirmClose();
 
+  /// Deletes the files that the reader has unpacked. The exam is over then.
+  void DeleteUnpackedFiles() { DeleteUnpackedCopies(exam_.Change()); }
+
  private:
   Parting AskAboutChanges();
   void Leave(Parting parting);
@@ -66,6 +76,7 @@ class ExamFileCommands {
   void WriteTo(const std::filesystem::path& file);
 
   EditorState& state_;
+  EditedExam& exam_;
   QuestionEditor& questions_;
   SavingCheck check_;
   DocumentExport exportDocument_;

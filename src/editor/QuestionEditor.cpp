@@ -36,15 +36,16 @@ void QuestionEditor::TickAnswerBox(std::size_t index, bool on) {
 }
 
 void QuestionEditor::StoreInto(FrameSetExam& exam, LongAnswerFlags& flags) const {
-  ExamQuestion& question = exam.Question(state_.currentQuestion);
+  const int number = state_.CurrentQuestion();
+  ExamQuestion& question = exam.Question(number);
   exam.title = form_.title;
   exam.randomMode = form_.random;
-  StoreForm(form_, state_.currentKind, question);
-  if (question.answerText.size() > kMaxShortAnswer) flags.Set(state_.currentQuestion);
+  StoreForm(form_, state_.CurrentKind(), question);
+  if (question.answerText.size() > kMaxShortAnswer) flags.Set(number);
 }
 
 void QuestionEditor::StoreCurrentQuestion() {
-  StoreInto(state_.document, state_.document.Services().longAnswerFlags);
+  StoreInto(exam_.Change(), state_.document.Services().longAnswerFlags);
 }
 
 FrameSetExam QuestionEditor::StoredExam(LongAnswerFlags& flags) const {
@@ -55,21 +56,26 @@ FrameSetExam QuestionEditor::StoredExam(LongAnswerFlags& flags) const {
 
 void QuestionEditor::LoadCurrentQuestion() {
   const ExamQuestion& question = state_.Current();
-  form_.number = state_.currentQuestion;
+  form_.number = state_.CurrentQuestion();
   form_.title = state_.document.title;
   form_.random = state_.document.randomMode;
   LoadForm(question, form_);
-  state_.currentKind = question.kind;
+  state_.currentKind_ = question.kind;
   attachments_.RefreshQuestionList();
   attachments_.RefreshExamList();
   state_.view.FormLoaded();
-  ShowKindControls(state_.currentKind);
+  ShowKindControls(state_.CurrentKind());
 }
 
-void QuestionEditor::LoadCurrentQuestion(const QuestionForm& form, QuestionKind kind) {
+void QuestionEditor::ShowQuestion(int number) {
+  state_.currentQuestion_ = number;
   LoadCurrentQuestion();
+}
+
+void QuestionEditor::ShowQuestion(int number, const QuestionForm& form, QuestionKind kind) {
+  ShowQuestion(number);
   form_ = form;
-  state_.currentKind = kind;
+  state_.currentKind_ = kind;
   attachments_.RefreshQuestionList();
   state_.view.FormLoaded();
   ShowKindControls(kind);
@@ -77,46 +83,45 @@ void QuestionEditor::LoadCurrentQuestion(const QuestionForm& form, QuestionKind 
 
 void QuestionEditor::GoTo(int question) {
   StoreCurrentQuestion();
-  state_.currentQuestion = question;
-  LoadCurrentQuestion();
+  ShowQuestion(question);
 }
 
 void QuestionEditor::GoNext() {
-  if (state_.currentQuestion < kMaxQuestions) GoTo(state_.currentQuestion + 1);
+  if (state_.CurrentQuestion() < kMaxQuestions) GoTo(state_.CurrentQuestion() + 1);
 }
 
 void QuestionEditor::GoPrevious() {
-  if (state_.currentQuestion > 1) GoTo(state_.currentQuestion - 1);
+  if (state_.CurrentQuestion() > 1) GoTo(state_.CurrentQuestion() - 1);
 }
 
 void QuestionEditor::GoBack10() {
-  if (state_.currentQuestion > 1) GoTo(std::max(state_.currentQuestion - kLongStep, 1));
+  if (state_.CurrentQuestion() > 1) GoTo(std::max(state_.CurrentQuestion() - kLongStep, 1));
 }
 
 void QuestionEditor::GoForward10() {
-  if (state_.currentQuestion < kMaxQuestions)
-    GoTo(std::min(state_.currentQuestion + kLongStep, kMaxQuestions));
+  if (state_.CurrentQuestion() < kMaxQuestions)
+    GoTo(std::min(state_.CurrentQuestion() + kLongStep, kMaxQuestions));
 }
 
 void QuestionEditor::InsertHere() {
   StoreCurrentQuestion();
-  attachments_.ShiftAttachmentsForInsert(state_.currentQuestion);
-  state_.document.InsertQuestion(state_.currentQuestion);
+  attachments_.ShiftAttachmentsForInsert(state_.CurrentQuestion());
+  exam_.Change().InsertQuestion(state_.CurrentQuestion());
   LoadCurrentQuestion();
   state_.QueueContentChanged();
 }
 
 void QuestionEditor::DeleteHere() {
-  int& boundary = state_.document.boundaryQuestion;
-  if (boundary != 0 && boundary >= state_.currentQuestion) --boundary;
-  attachments_.RemoveQuestionAttachments(state_.currentQuestion);
-  state_.document.DeleteQuestion(state_.currentQuestion);
+  int& boundary = exam_.Change().boundaryQuestion;
+  if (boundary != 0 && boundary >= state_.CurrentQuestion()) --boundary;
+  attachments_.RemoveQuestionAttachments(state_.CurrentQuestion());
+  exam_.Change().DeleteQuestion(state_.CurrentQuestion());
   LoadCurrentQuestion();
   state_.QueueContentChanged();
 }
 
 void QuestionEditor::SelectKind(QuestionKind kind) {
-  state_.currentKind = kind;
+  state_.currentKind_ = kind;
   ShowKindControls(kind);
   state_.MarkModified();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/AttachmentEditor.h"
+#include "editor/EditedExam.h"
 #include "editor/EditorState.h"
 #include "editor/QuestionForm.h"
 
@@ -24,9 +25,9 @@ struct KindControls {
 /// hides fields.
 class QuestionEditor {
  public:
-  /// Both must outlive the editor.
-  QuestionEditor(EditorState& state, AttachmentEditor& attachments)
-      : state_(state), attachments_(attachments) {}
+  /// All must outlive the editor.
+  QuestionEditor(EditorState& state, EditedExam& exam, AttachmentEditor& attachments)
+      : state_(state), exam_(exam), attachments_(attachments) {}
 
   const QuestionForm& Form() const { return form_; }
   std::u16string RandomCaption() const;
@@ -43,8 +44,14 @@ class QuestionEditor {
   /// The document as storing would make it, which itself stays as it is; a long answer goes into `flags`.
   FrameSetExam StoredExam(LongAnswerFlags& flags) const;
   void LoadCurrentQuestion();
-  /// Loads it, and shows what the form held at some earlier time instead.
-  void LoadCurrentQuestion(const QuestionForm& form, QuestionKind kind);
+
+  /// Shows question `number` (1 to 500); what the form held is not stored.
+  void ShowQuestion(int number);
+  /// Shows it as the form was at some earlier time instead.
+  void ShowQuestion(int number, const QuestionForm& form, QuestionKind kind);
+  /// The form with all that it holds is that of question `number` from now on; nothing is stored or loaded.
+  /// Deliberate: an import leaves the question that was shown in the slot after the imported ones.
+  void MoveFormTo(int number) { state_.currentQuestion_ = number; }
 
   void GoNext();
   void GoPrevious();
@@ -71,6 +78,7 @@ class QuestionEditor {
   void GoTo(int question);
 
   EditorState& state_;
+  EditedExam& exam_;
   AttachmentEditor& attachments_;
   QuestionForm form_;
   KindControls shown_;

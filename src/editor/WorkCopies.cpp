@@ -125,4 +125,9 @@ void DeleteExamCopies(FrameSetExam& exam) {
   DeleteCopies(exam.examAttachmentCopies);
 }
 
+void DeleteUnpackedCopies(FrameSetExam& exam) {
+  if (exam.questionFilesUnpacked != 0) DeleteQuestionCopies(exam);
+  if (exam.examFilesUnpacked != 0) DeleteExamCopies(exam);
+}
+
 }  // namespace quorvantis

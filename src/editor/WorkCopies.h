@@ -39,4 +39,7 @@ void DeleteQuestionCopies(FrameSetExam& exam);
 /// Deletes the remembered exam-level copies.
 void DeleteExamCopies(FrameSetExam& exam);
 
+/// Deletes those of both that a reader has unpacked.
+void DeleteUnpackedCopies(FrameSetExam& exam);
+
 }  // namespace quorvantis

@@ -38,7 +38,7 @@ class ExamHost {
   /// Reads papers for the Import command.
   WordDocuments& Papers() { return papers_; }
   /// Writes what the Export command makes.
-  WordWriter& Documents() { return writer_; }
+  WordWriter& Writer() { return writer_; }
 
  private:
   IconvCodePage codePage_;

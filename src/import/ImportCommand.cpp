@@ -14,6 +14,7 @@
 #include "text/NumberText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvantis {
 
@@ -33,14 +34,14 @@ void ImportCommand::Begin() {
 
 void ImportCommand::ImportQuestions() {
   Begin();
-  importBase_ = editor_.state.currentQuestion;
+  importBase_ = editor_.state.CurrentQuestion();
   if (ConfirmImportTarget()) ImportHere();
 }
 
 void ImportCommand::ImportQuestionsAfter(int question) {
   Begin();
-  importBase_ = editor_.state.currentQuestion = std::max(question, 1);
-  editor_.questions.LoadCurrentQuestion();
+  importBase_ = std::max(question, 1);
+  editor_.questions.ShowQuestion(importBase_);
   if (question > 0) editor_.questions.GoNext();
   ImportHere();
 }
@@ -54,7 +55,9 @@ void ImportCommand::Undo() {
 void ImportCommand::MendLineEnds() {
   if (!CanUndo()) return;
   editor_.questions.StoreCurrentQuestion();
-  quorvantis::MendLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
+  FrameSetExam mended = Exam();
+  quorvantis::MendLineEnds(mended, firstSlot_, nextSlot_ - 1);
+  editor_.changes.Replace(std::move(mended));
   editor_.questions.LoadCurrentQuestion();
   editor_.state.MarkModified();
 }
@@ -62,7 +65,7 @@ void ImportCommand::MendLineEnds() {
 /// False when the exam in hand was to be saved first and was not: it must not be lost.
 bool ImportCommand::ConfirmImportTarget() {
   EditorState& state = editor_.state;
-  if (state.currentQuestion == 1) return true;
+  if (state.CurrentQuestion() == 1) return true;
   if (dialogs_.AskTarget() == ImportTarget::Continue) {
     editor_.questions.GoNext();
     return true;
@@ -90,11 +93,13 @@ void ImportCommand::ImportHere() {
   if (read != WordResult::Done)
     return EndWithout(report, DocumentFailureText(read, choice.m_strDocPath, Strings()));
   if (report.marked.failure) return EndWithout(report, FailureText(*report.marked.failure, Strings()));
-  firstSlot_ = editor_.state.currentQuestion;
-  nextSlot_ = Exam().ParseQuestions(
+  firstSlot_ = editor_.state.CurrentQuestion();
+  FrameSetExam exam = Exam();
+  nextSlot_ = exam.ParseQuestions(
       firstSlot_, pictureCounter_, report.marked.text, report.rules,
       [this] { return dialogs_.IsCancelled(); }, report.paper);
   if (report.paper.failure) return EndWithout(report, FailureText(*report.paper.failure, Strings()));
+  editor_.changes.Replace(std::move(exam));
   HandleAndFinish(report);
 }
 
@@ -178,8 +183,7 @@ void ImportCommand::Report(ImportReport& report) {
 
 /// What the form holds goes to the slot after the imported ones, if there is one.
 void ImportCommand::GoToLastImported() {
-  EditorState& state = editor_.state;
-  state.currentQuestion = std::min(nextSlot_, kMaxQuestions);
+  editor_.questions.MoveFormTo(std::min(nextSlot_, kMaxQuestions));
   if (nextSlot_ <= kMaxQuestions) {
     editor_.questions.GoPrevious();
   } else {
@@ -188,8 +192,7 @@ void ImportCommand::GoToLastImported() {
 }
 
 void ImportCommand::RemoveImported(int question) {
-  editor_.attachments.RemoveQuestionAttachments(question);
-  Exam().DeleteQuestion(question);
+  editor_.changes.RemoveQuestion(question);
   --nextSlot_;
   ++removed_;
 }
@@ -202,7 +205,7 @@ bool ImportCommand::HandleAnswerPictures() {
   bool asked = false;
   ChoiceResult choice = ChoiceResult::None;
   for (int i = importBase_ + 1; i <= std::min(nextSlot_, kMaxQuestions);) {
-    ExamQuestion& question = Exam().Question(i);
+    ExamQuestion question = Exam().Question(i);
     const bool inAnswers = AnswersHavePictures(question);
     if (inAnswers && !asked) {
       choice = dialogs_.AskPictures();
@@ -216,6 +219,7 @@ bool ImportCommand::HandleAnswerPictures() {
     MarkAnswerPictures(question, notice);
     const auto workRoot = AttachmentWorkRoot(services.applicationFolder);
     if (AttachTextPicture(question, workRoot)) editor_.attachments.TakeCopyNumber();
+    editor_.changes.SetQuestion(i, std::move(question));
     if (choice == ChoiceResult::IgnoreRelated && inAnswers) {
       RemoveImported(i);
     } else {
@@ -254,9 +258,9 @@ void ImportCommand::RollbackImport() {
     editor_.files.EmptyExam();
     nextSlot_ = 1;
   } else {
-    editor_.state.currentQuestion = std::min(importBase_ + 1, kMaxQuestions);
+    editor_.questions.MoveFormTo(std::min(importBase_ + 1, kMaxQuestions));
     for (int i = importBase_; i < nextSlot_; ++i) editor_.questions.DeleteHere();
-    nextSlot_ = editor_.state.currentQuestion;
+    nextSlot_ = editor_.state.CurrentQuestion();
   }
   editor_.state.MarkSaved();
   importRolledBack_ = true;

@@ -56,7 +56,7 @@ class ImportCommand {
   const StringTable& Strings();
   void Debug(std::u16string_view line);
 
-  FrameSetExam& Exam() { return editor_.state.document; }
+  const FrameSetExam& Exam() const { return editor_.state.document; }
 
   ExamEditor& editor_;
   WordDocuments& documents_;

@@ -2,8 +2,35 @@
 #include "import/PaperDocuments.h"
 
 #include "editor/ExamFileCommands.h"
+#include "ini/ProfileEncoding.h"
+#include "platform/WholeFile.h"
 
 namespace quorvantis {
+namespace {
+
+constexpr std::size_t kMaxBytes = std::size_t{64} * 1024 * 1024;
+
+/// Why the whole file could not be read.
+WordResult WhyUnread(const std::filesystem::path& document) {
+  std::error_code error;
+  const auto size = std::filesystem::file_size(document, error);
+  return !error && size > kMaxBytes ? WordResult::TooLarge : WordResult::CannotAccess;
+}
+
+}  // namespace
+
+WordReadOutcome TextDocuments::Open(const std::filesystem::path& file, const WordReadOptions& /*options*/) {
+  std::error_code error;
+  if (!std::filesystem::exists(file, error)) return {WordResult::NotFound};
+  const auto bytes = ReadWholeFile(file, kMaxBytes);
+  if (!bytes) return {WhyUnread(file)};
+  const ProfileEncoding encoding = ProfileEncoding::Of(*bytes, &codePage_);
+  WordDocument document;
+  document.isPlainText = true;
+  document.runningText.characters = encoding.Decode(std::string_view(*bytes).substr(encoding.MarkSize()));
+  if (document.runningText.characters.find(u'\0') != std::u16string::npos) return {WordResult::UnknownFormat};
+  return {WordResult::Done, std::move(document)};
+}
 
 WordReadOutcome PaperDocuments::Open(const std::filesystem::path& file, const WordReadOptions& options) {
   const std::u16string extension = LowerExtension(file);

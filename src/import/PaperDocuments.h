@@ -1,9 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/TextDocuments.h"
+#include "platform/CodePage.h"
+#include "platform/WordDocuments.h"
 
 namespace quorvantis {
+
+/// Reads papers that are plain text (.txt, .md): UTF-8, UTF-16 with a mark, otherwise 8-bit text of the code
+/// page. Line ends stay as they are; there are no tables, pictures or formulas.
+class TextDocuments : public WordDocuments {
+ public:
+  /// `codePage` must outlive this.
+  explicit TextDocuments(const CodePage& codePage) : codePage_(codePage) {}
+
+  WordReadOutcome Open(const std::filesystem::path& file, const WordReadOptions& options) override;
+
+ private:
+  const CodePage& codePage_;
+};
 
 /// Reads papers of every kind: files named ".txt" or ".md" as text, all others as word processors' documents,
 /// whose content tells which.

@@ -89,7 +89,7 @@ class Gathering {
   void AddPlace(const EditorState& state) {
     SnapshotWriter fields(snapshot.content);
     fields.Text(PathToText(state.FileName()));
-    fields.Number(state.currentQuestion);
+    fields.Number(state.CurrentQuestion());
     AddHash(snapshot.state, Hash(snapshot.content));
   }
 
@@ -180,11 +180,11 @@ ExamSnapshot TakeSnapshot(const ExamEditor& editor, std::size_t expectedSize) {
   gathering.AddPlace(editor.state);
   gathering.AddExam(exam, form);
   for (int n = 1; n <= kMaxQuestions; ++n) {
-    if (n != editor.state.currentQuestion) {
+    if (n != editor.state.CurrentQuestion()) {
       gathering.AddQuestion(n, exam.Question(n));
     } else {
       ExamQuestion shown = exam.Question(n);
-      StoreForm(form, editor.state.currentKind, shown);
+      StoreForm(form, editor.state.CurrentKind(), shown);
       gathering.AddQuestion(n, shown);
     }
   }

@@ -145,21 +145,17 @@ fs::path SetAside(const fs::path& damaged) {
 }
 
 std::optional<std::vector<std::u16string>> RestoreExam(const fs::path& copy, ExamEditor& editor) {
-  EditorState& state = editor.state;
-  FrameSetExam& exam = state.document;
   editor.files.EmptyExam();
+  FrameSetExam exam = editor.state.document;
   const auto file = ReadRecoveryFile(copy);
   const auto place = file ? ReadSnapshot(file->content, exam) : std::nullopt;
-  if (!place) {
-    editor.files.EmptyExam();
-    return std::nullopt;
-  }
+  if (!place) return std::nullopt;
   auto lost = RestoreAttachments(exam, copy, file->links);
   exam.Services().longAnswerFlags.SetWhereNeeded(exam);
-  state.SetFileName(TextToPath(place->fileName));
-  state.currentQuestion = place->currentQuestion;
-  editor.questions.LoadCurrentQuestion();
-  state.MarkModified();
+  editor.changes.Replace(std::move(exam));
+  editor.state.SetFileName(TextToPath(place->fileName));
+  editor.questions.ShowQuestion(place->currentQuestion);
+  editor.state.MarkModified();
   return lost;
 }
 

@@ -30,6 +30,7 @@ class WindowTest : public testing::Test {
   void Open() {
     std::filesystem::create_directories(world.services.applicationFolder);
     window = std::make_unique<CQuorvantisDlg>(exam, pages, papers, office, exportDocument);
+    window->Begin();
     progress.SetParent(window.get());
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));

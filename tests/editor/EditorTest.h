@@ -22,10 +22,7 @@ class EditorTest : public testing::Test, protected EditorView {
   }
 
   void Show() { editor.questions.LoadCurrentQuestion(); }
-  void ShowQuestion(int number) {
-    editor.state.currentQuestion = number;
-    Show();
-  }
+  void ShowQuestion(int number) { editor.questions.ShowQuestion(number); }
 
   bool Type(FormField field, std::u16string text) {
     return editor.questions.EditField(field, std::move(text));
@@ -55,7 +52,7 @@ class EditorTest : public testing::Test, protected EditorView {
   RecordingWorld world{folder / "app", files};
   FrameSetExam exam{world.services};
   std::vector<std::filesystem::path> exported;
-  ExamEditor editor{exam, *this, [this](FrameSetExam&, const auto& file) { exported.push_back(file); }};
+  ExamEditor editor{exam, *this, [this](const FrameSetExam&, const auto& file) { exported.push_back(file); }};
 
   int loads = 0;
   bool posted = false;

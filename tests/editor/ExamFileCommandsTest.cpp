@@ -154,7 +154,7 @@ TEST_F(ExamFileEditing, GoesOnWithWhatAFileHolds) {
   editor.questions.GoNext();
   Open(folder / "absent.exm");
   EXPECT_EQ(world.dialogs.errors.size(), 1u);
-  EXPECT_EQ(editor.state.currentQuestion, 1);
+  EXPECT_EQ(editor.state.CurrentQuestion(), 1);
   EXPECT_EQ(editor.questions.Form().text, u"");
   EXPECT_EQ(title, u"[107 " + AsText(folder / "absent.exm") + u"]");
 }

@@ -71,9 +71,9 @@ class Typist {
 };
 
 /// Of an exam with the content of its work copies in the place of their paths.
-std::size_t Essence(const ExamEditor& editor) {
-  FrameSetExam& exam = editor.state.document;
-  FrameSetExam original = exam;
+std::size_t Essence(ExamEditor& editor) {
+  const FrameSetExam original = editor.state.document;
+  FrameSetExam exam = original;
   const auto intoPaths = [](AttachmentList& paths) {
     for (auto& path : paths) {
       const std::string content = ReadBytes(path);
@@ -82,8 +82,9 @@ std::size_t Essence(const ExamEditor& editor) {
   };
   intoPaths(exam.examAttachmentPaths);
   for (int n = 1; n <= kMaxQuestions; ++n) intoPaths(exam.Question(n).attachmentPaths);
+  editor.changes.Replace(std::move(exam));
   const std::size_t essence = TakeSnapshot(editor).substance;
-  exam = std::move(original);
+  editor.changes.Replace(original);
   return essence;
 }
 

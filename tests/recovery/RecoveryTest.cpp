@@ -42,7 +42,7 @@ TEST_F(RecoveryTest, BringsBackWhatAnExamFileWouldLose) {
 
   const auto run = Restart();
   EXPECT_EQ(TakeSnapshot(run->editor).content, TakeSnapshot(editor).content);
-  EXPECT_EQ(run->editor.state.currentQuestion, 500);
+  EXPECT_EQ(run->editor.state.CurrentQuestion(), 500);
   EXPECT_EQ(run->editor.questions.Form().essay, odd);
   EXPECT_TRUE(run->editor.state.Modified());
   EXPECT_TRUE(run->world.longAnswerFlags.IsSet(1)) << "or saving would cut the answer";

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QSize>
 #include <QString>
+#include <QWidget>
 
 namespace quorvantis {
 
@@ -18,5 +19,13 @@ FittedCaption FitCaption(const QString& caption, const QFont& font, QSize room);
 
 /// `font`, or the largest smaller one whose lines are not higher than `height`.
 QFont FontForHeight(QFont font, int height);
+
+/// A window whose rows have fixed heights: a large font of the desktop becomes smaller in it, before its
+/// controls take it over.
+class FittedWindow : public QWidget {
+ public:
+  /// The most that a line may be high, in pixels.
+  explicit FittedWindow(int highestLine) { setFont(FontForHeight(font(), highestLine)); }
+};
 
 }  // namespace quorvantis

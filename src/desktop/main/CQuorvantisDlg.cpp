@@ -3,12 +3,10 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/DroppedFiles.h"
-#include "desktop/controls/FittedCaption.h"
 #include "desktop/controls/PlacedText.h"
 #include "desktop/dialogs/AboutDlg.h"
 #include "desktop/dialogs/CScoreSetupDlg.h"
 #include "desktop/main/RecoveryQuestion.h"
-#include "desktop/main/WindowSize.h"
 #include "host/ImportRules.h"
 #include "platform/DebugOutput.h"
 #include "platform/ExamServices.h"
@@ -17,10 +15,7 @@
 #include "platform/posix/ApplicationFolder.h"
 #include "shell/commands/PreviewCommand.h"
 #include "shell/commands/PrintCommand.h"
-#include "shell/commands/RecoverCommand.h"
 #include "shell/commands/ScoreSetupCommand.h"
-#include "shell/session/CloseSequence.h"
-#include "shell/settings/BackupSetting.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 
@@ -63,22 +58,15 @@ bool CanRead(const std::filesystem::path& file) {
   return std::filesystem::is_regular_file(file, ignored) && std::ifstream(file).is_open();
 }
 
-/// Rows have fixed heights, so a large font of the desktop becomes smaller here, before the controls take it
-/// over.
-QWidget* WithFittingFont(QWidget* window) {
-  window->setFont(FontForHeight(window->font(), kHighestLine));
-  return window;
-}
-
 PreviewTexts TextsOfPreviews(const StringTable& strings) {
   return {PlacedText(strings, text_id::kPreparing),      PlacedText(strings, text_id::kCannotShow),
           PlacedText(strings, text_id::kFileMissing),    PlacedText(strings, text_id::kNeedsProgram),
           PlacedText(strings, text_id::kFirstPagesOnly), PlacedText(strings, text_id::kBeginningOnly)};
 }
 
-GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) {
-  return {exam.Services().applicationFolder, pages, ExecutableFolder() / "flash-player",
-          ConverterPrograms::Find(), TextsOfPreviews(exam.Services().strings)};
+GatewaySetup SetUpGateway(const ExamServices& services, const ComposedPages& pages) {
+  return {services.applicationFolder, pages, ExecutableFolder() / "flash-player", ConverterPrograms::Find(),
+          TextsOfPreviews(services.strings)};
 }
 
 }  // namespace
@@ -86,29 +74,28 @@ GatewaySetup SetUpGateway(const FrameSetExam& exam, const ComposedPages& pages) 
 CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers,
                                OfficeControl* office, DocumentExport exportDocument,
                                const LanguageLibrary* library, int languageId)
-    : exam_(exam),
-      office_(office),
+    : FittedWindow(kHighestLine),
       library_(library),
-      editor_(exam, *this, std::move(exportDocument)),
-      recovery_(editor_),
+      life_(exam, *this, std::move(exportDocument), office),
+      editor_(life_.Editor()),
+      services_(exam.Services()),
       languageId_(languageId),
-      previews_(SetUpGateway(exam, pages)),
+      previews_(SetUpGateway(services_, pages)),
       importWindows_(exam.Services(), library, *this),
-      import_(editor_, papers, importWindows_, FindImportRules(exam.Services().applicationFolder)),
+      import_(editor_, papers, importWindows_, FindImportRules(services_.applicationFolder)),
       pictures_(library),
-      files_(editor_, PageCommands(), exam.Services().strings, pictures_, WithFittingFont(this)),
-      examControls_(editor_, exam.Services().strings, this),
-      questionArea_(MakeQuestionArea(exam.Services().strings, this)),
-      question_(editor_, exam.Services().strings, pictures_, this),
-      answers_(editor_, exam.Services().strings, pictures_, this),
+      toolbar_(editor_, Commands(), services_.strings, pictures_, this),
+      examControls_(editor_, services_.strings, this),
+      questionArea_(MakeQuestionArea(services_.strings, this)),
+      question_(editor_, services_.strings, pictures_, this),
+      answers_(editor_, services_.strings, pictures_, this),
       recoveryFails_(new WarningNotice("recoveryFails", this)),
       scroll_(*this),
       cancel_(MakeHiddenButton("cancel", this)),
       ok_(MakeHiddenButton("ok", this)),
       printAgain_(MakeHiddenButton("printAgain", this)) {
-  exam.SetHostMode(1);
+  editor_.files.SetLongAnswersWhole(true);
   setWindowIcon(pictures_.Picture(kProgramIcon));
-  PrepareOffice();
   setAcceptDrops(true);
   SetTabOrder(Controls());
   connect(this, &CQuorvantisDlg::FilesDropped, this, &CQuorvantisDlg::TakeFiles, Qt::QueuedConnection);
@@ -121,26 +108,26 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
   connect(&scroll_, &WindowScroll::Scrolled, this, &CQuorvantisDlg::Layout);
   SetFirstSize(*this);
   OfferImport();
-  editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
-  editor_.files.SetLongAnswersWhole(true);
-  editor_.questions.LoadCurrentQuestion();
-  recovery_.Entered();
   connect(&recoveryTimer_, &QTimer::timeout, this, [this] { KeepRecovery(); });
-  recoveryTimer_.start(kBetweenLooks);
   TitleChanged();
   question_.text->setFocus();
+}
+
+void CQuorvantisDlg::Begin() {
+  life_.Begin();
+  life_.KeepRecovery();
+  recoveryTimer_.start(kBetweenLooks);
 }
 
 CQuorvantisDlg::~CQuorvantisDlg() {
   // The controls speak to the editor until they are gone; the base class would delete them after it.
   qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
-  recovery_.Left(Parting::Leave);    // while there are work copies to keep
-  RunCloseSequence(exam_, office_);  // the preview window goes after it, with the members
+  life_.End();  // the preview window goes after it, with the members
 }
 
 bool CQuorvantisDlg::OfferRecovery() {
-  RecoveryQuestion question(exam_.Services().strings, this);
-  return RecoverCommand(editor_, recovery_, question).Run();
+  RecoveryQuestion question(services_.strings, this);
+  return life_.OfferRecovery(question);
 }
 
 bool CQuorvantisDlg::Shows(const std::filesystem::path& file) const {
@@ -148,15 +135,8 @@ bool CQuorvantisDlg::Shows(const std::filesystem::path& file) const {
   return std::filesystem::equivalent(editor_.state.FileName(), file, ignored);
 }
 
-void CQuorvantisDlg::PrepareOffice() {
-  if (office_ == nullptr) return;
-  office_->settings.RegisterBrowsableTypes();
-  office_->settings.AllowZoneAction();
-  office_->processes.AskCloseOffice();
-}
-
-FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
-  FileButtons::PageCommands commands;
+ToolbarButtons::WindowCommands CQuorvantisDlg::Commands() {
+  ToolbarButtons::WindowCommands commands;
   commands.importExam = [this] { import_.ImportQuestions(); };
   commands.scoreSetup = [this] { SetUpScores(); };
   commands.preview = [this] { Preview(); };
@@ -165,31 +145,29 @@ FileButtons::PageCommands CQuorvantisDlg::PageCommands() {
 }
 
 WindowControls CQuorvantisDlg::Controls() {
-  return {files_, examControls_, questionArea_, question_, answers_, recoveryFails_};
+  return {toolbar_, examControls_, questionArea_, question_, answers_, recoveryFails_};
 }
 
 void CQuorvantisDlg::Layout() {
-  PlaceControls(scroll_, Controls(), editor_, exam_.Services().debug);
+  PlaceControls(scroll_, Controls(), editor_, services_.debug);
 }
 
 /// Without the file that tells how documents are read there is no import in this run.
 void CQuorvantisDlg::OfferImport() {
-  const ExamServices& services = exam_.Services();
-  if (CanRead(FindImportRules(services.applicationFolder))) return;
-  services.debug.Line(u"CQuorvantisDlg::!file.Open");
-  files_.HideImport();
+  if (CanRead(FindImportRules(services_.applicationFolder))) return;
+  services_.debug.Line(u"CQuorvantisDlg::!file.Open");
+  toolbar_.HideImport();
 }
 
 /// No message box: it would come in the middle of a word.
 void CQuorvantisDlg::KeepRecovery() {
-  recovery_.Look();
-  const std::error_code failure = recovery_.Failure();
+  life_.LookAfterUnsaved();
+  const std::error_code failure = life_.RecoveryFailure();
   if (!failure) return recoveryFails_->hide();
-  const ExamServices& services = exam_.Services();
   const std::u16string why =
-      FillMessage(services.strings.Text(text_id::kCannotWrite),
-                  {PathToText(RecoveryRoot(services.applicationFolder)), Utf8ToUtf16(failure.message())});
-  recoveryFails_->Tell(ToQString(services.strings.Text(text_id::kRecoveryFails)), ToQString(why));
+      FillMessage(services_.strings.Text(text_id::kCannotWrite),
+                  {PathToText(life_.RecoveryFolder()), Utf8ToUtf16(failure.message())});
+  recoveryFails_->Tell(ToQString(services_.strings.Text(text_id::kRecoveryFails)), ToQString(why));
 }
 
 void CQuorvantisDlg::FormLoaded() {
@@ -224,7 +202,7 @@ void CQuorvantisDlg::RenewPreviewWindow() {
 }
 
 void CQuorvantisDlg::Preview() {
-  PreviewCommand(editor_.questions, exam_, office_, languageId_, [this](const std::filesystem::path& page) {
+  PreviewCommand(editor_, life_.Office(), languageId_, [this](const std::filesystem::path& page) {
     RenewPreviewWindow();
     previewWindow_->Navigate(page);
     previewWindow_->Place(0, 0);
@@ -233,7 +211,7 @@ void CQuorvantisDlg::Preview() {
 }
 
 void CQuorvantisDlg::Print() {
-  PrintCommand(editor_.questions, exam_, [this](const std::filesystem::path& page) {
+  PrintCommand(editor_, [this](const std::filesystem::path& page) {
     RenewPreviewWindow();
     previewWindow_->Navigate(page);
     previewWindow_->Place(kOffScreen, kOffScreen);
@@ -249,7 +227,7 @@ void CQuorvantisDlg::ShowAbout() {
 
 void CQuorvantisDlg::SetUpScores() {
   ScoreSetupCommand(editor_, [this](ScoreSetup& setup) {
-    return CScoreSetupDlg(setup, *this, exam_.Services().strings, this).exec() == QDialog::Accepted;
+    return CScoreSetupDlg(setup, *this, services_.strings, this).exec() == QDialog::Accepted;
   }).Run();
 }
 
@@ -299,7 +277,7 @@ void CQuorvantisDlg::changeEvent(QEvent* event) {
 /// There is no window menu to which a program can add on every desktop; the window's background has it
 /// instead.
 void CQuorvantisDlg::contextMenuEvent(QContextMenuEvent* event) {
-  const StringTable& strings = exam_.Services().strings;
+  const StringTable& strings = services_.strings;
   const std::u16string about = strings.Text(text_id::kAbout);
   if (about.empty() && !import_.CanUndo()) return;
   auto* menu = new QMenu(this);

@@ -1,22 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/controls/FittedCaption.h"
 #include "desktop/controls/Pictures.h"
 #include "desktop/import/ImportWindows.h"
 #include "desktop/main/AnswerControls.h"
 #include "desktop/main/ExamControls.h"
-#include "desktop/main/FileButtons.h"
 #include "desktop/main/QuestionArea.h"
 #include "desktop/main/QuestionControls.h"
+#include "desktop/main/ToolbarButtons.h"
 #include "desktop/main/WarningNotice.h"
 #include "desktop/main/WindowLayout.h"
 #include "desktop/main/WindowScroll.h"
-#include "editor/ExamEditor.h"
 #include "import/ImportCommand.h"
 #include "preview/PreviewWindows.h"
-#include "recovery/RecoveryKeeper.h"
 #include "scoring/SetupOwner.h"
-#include "shell/office/OfficeControl.h"
+#include "shell/session/EditorLife.h"
 #include "shell/settings/CodePageChoice.h"
 
 #include <QPushButton>
@@ -32,19 +31,25 @@ namespace quorvantis {
 /// the editor tells. Escape ends it without a question, closing it asks about unsaved changes. When the
 /// window goes, so do the work copies of attached files. As long as something is not saved, there is a
 /// recovery copy of it.
-class CQuorvantisDlg final : public QWidget, private EditorView, private PreviewOwner, private SetupOwner {
+class CQuorvantisDlg final : public FittedWindow,
+                             private EditorView,
+                             private PreviewOwner,
+                             private SetupOwner {
   Q_OBJECT
 
  public:
   /// All must outlive the window: `exam`, the pages that its previews are composed into, the reader of the
   /// documents to import, `office`, and the library that dialogs and pictures are taken from. Without
-  /// `office` office programs are left alone, else the user may be asked to close them before the window
-  /// appears. Without a library, the pictures are the built-in ones. `languageId` is that of the wanted
-  /// language, which previews are told.
+  /// `office` office programs are left alone. Without a library, the pictures are the built-in ones.
+  /// `languageId` is that of the wanted language, which previews are told.
   CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers, OfficeControl* office,
                  DocumentExport exportDocument, const LanguageLibrary* library = nullptr,
                  int languageId = kEnglish);
   ~CQuorvantisDlg() override;
+
+  /// Shows the first question and begins to keep recovery copies. The user may be asked before to close
+  /// office programs. To be called once, before the window is shown.
+  void Begin();
 
   /// Opens an exam file, a full path, as the Open command does, without a file dialog.
   void OpenExam(const std::filesystem::path& file) { editor_.files.OpenExam(file); }
@@ -57,7 +62,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   bool Shows(const std::filesystem::path& file) const;
 
   /// Brings the recovery copy up to date.
-  void KeepUnsavedWork() { recovery_.LookAndWait(); }
+  void KeepUnsavedWork() { life_.KeepUnsaved(); }
 
   /// Starts the browser, so that the first preview appears at once. Takes a moment: call it once the window
   /// has been painted.
@@ -84,10 +89,10 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void TitleChanged() override;
   void PostContentChanged() override;
 
-  void PrefixAttachmentPaths(int on) override { exam_.PrefixAttachmentPaths(on); }
+  void PrefixAttachmentPaths(int on) override { editor_.changes.PrefixAttachmentPaths(on); }
   void PreviewFromSetup(int show) override;
 
-  FileButtons::PageCommands PageCommands();
+  ToolbarButtons::WindowCommands Commands();
   WindowControls Controls();
   /// Gives every control its place.
   void Layout();
@@ -97,7 +102,6 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void ScreenChanged();
   void EndUnasked();
   void ShowAbout();
-  void PrepareOffice();
   /// Discards the preview window and makes a new hidden one.
   void RenewPreviewWindow();
   void Preview();
@@ -105,11 +109,10 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   void SetUpScores();
   void TakeFiles(const QList<QUrl>& urls);
 
-  FrameSetExam& exam_;
-  OfficeControl* office_;
   const LanguageLibrary* library_;
-  ExamEditor editor_;
-  RecoveryKeeper recovery_;
+  EditorLife life_;
+  ExamEditor& editor_;
+  const ExamServices& services_;
   QTimer recoveryTimer_;
   const int languageId_;
   PreviewWindows previews_;
@@ -118,7 +121,7 @@ class CQuorvantisDlg final : public QWidget, private EditorView, private Preview
   ImportCommand import_;
   Pictures pictures_;
   bool endsUnasked_ = false;
-  FileButtons files_;
+  ToolbarButtons toolbar_;
   ExamControls examControls_;
   QuestionArea* questionArea_;
   QuestionControls question_;

@@ -70,7 +70,7 @@ void QuestionControls::ShowMenu(const QPoint& position) {
   QMenu* menu = MakeAttachmentMenu(
       files.SelectedQuestionFile(), [&files] { files.RemoveSelectedAttachment(AttachedTo::Question); },
       editor_.state.document.Services(), attachments);
-  if (editor_.state.currentKind == QuestionKind::Oral) AddOralSwitch(*menu, files);
+  if (editor_.state.CurrentKind() == QuestionKind::Oral) AddOralSwitch(*menu, files);
   menu->popup(position);
 }
 
@@ -102,7 +102,7 @@ void QuestionControls::ShowOralToggle() {
 
 /// No button is down for a kind that has none. The Tab key stops at the one that is down.
 void QuestionControls::ShowKind() {
-  const int kind = static_cast<int>(editor_.state.currentKind);
+  const int kind = static_cast<int>(editor_.state.CurrentKind());
   const int stop = kinds->button(kind) != nullptr ? kind : static_cast<int>(QuestionKind::Choice);
   kinds->setExclusive(false);
   for (QAbstractButton* button : kinds->buttons()) {

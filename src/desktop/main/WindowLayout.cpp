@@ -2,8 +2,11 @@
 #include "desktop/main/WindowLayout.h"
 
 #include "desktop/layout/Layout.h"
+#include "desktop/layout/SizeLimits.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
+
+#include <QScreen>
 
 #include <algorithm>
 #include <optional>
@@ -12,9 +15,23 @@
 namespace quorvantis {
 namespace {
 
-PixelSize TextSize(const QWidget& control, const QString& text) {
-  const QSize size = control.fontMetrics().size(Qt::TextSingleLine, text);
+/// Frames are only known when the desktop has made them, which is too late.
+constexpr int kTitleBar = 40;
+
+PixelSize ToPixels(QSize size) {
   return {size.width(), size.height()};
+}
+
+QSize FromPixels(PixelSize size) {
+  return {size.width, size.height};
+}
+
+SizeLimits LimitsOn(const QScreen& screen) {
+  return LimitsOn(ToPixels(screen.size()), ToPixels(screen.availableSize() - QSize(0, kTitleBar)));
+}
+
+PixelSize TextSize(const QWidget& control, const QString& text) {
+  return ToPixels(control.fontMetrics().size(Qt::TextSingleLine, text));
 }
 
 PixelSize TextSize(const QLabel& label) {
@@ -25,7 +42,7 @@ LayoutInput Measure(PixelSize area, const WindowControls& controls, const ExamEd
   LayoutInput input;
   input.client = area;
   for (std::size_t i = 0; i < kToolbarButtons; ++i) {
-    input.enabled[i] = controls.files.InOrder()[i]->isEnabled();
+    input.enabled[i] = controls.toolbar.InOrder()[i]->isEnabled();
   }
   input.titleLabel = TextSize(*controls.exam.titleLabel);
   input.randomTextWidth = TextSize(*controls.exam.random, controls.exam.random->text()).width;
@@ -33,10 +50,10 @@ LayoutInput Measure(PixelSize area, const WindowControls& controls, const ExamEd
   input.examListVisible = editor.attachments.ExamList().visible;
   input.questionLabel = TextSize(*controls.question.label);
   input.questionListVisible = editor.attachments.QuestionList().visible;
-  input.oralToggle = {controls.question.oralToggle->width(), controls.question.oralToggle->height()};
+  input.oralToggle = ToPixels(controls.question.oralToggle->size());
   input.answerLabel = TextSize(*controls.answers.answerLabel);
   input.essayLabel = TextSize(*controls.answers.essayLabel);
-  input.kind = editor.state.currentKind;
+  input.kind = editor.state.CurrentKind();
   return input;
 }
 
@@ -114,7 +131,7 @@ void PlaceControls(WindowScroll& scroll, const WindowControls& controls, const E
   const LayoutInput input = Measure(scroll.Fit(), controls, editor);
   const LayoutPlaces places = Layout(input);
   const Placer placer(input.client, scroll);
-  placer.PlaceAll(controls.files.InOrder(), places.toolbar);
+  placer.PlaceAll(controls.toolbar.InOrder(), places.toolbar);
   PlaceExam(placer, controls.exam, places);
   placer.Place(controls.questionArea, places.questionArea);
   PlaceQuestion(placer, controls.question, places);
@@ -123,10 +140,21 @@ void PlaceControls(WindowScroll& scroll, const WindowControls& controls, const E
   TellDisabled(input, debug);
 }
 
+void LimitSize(QWidget& window) {
+  const SizeLimits limits = LimitsOn(*window.screen());
+  window.setMinimumSize(FromPixels(limits.smallest));
+  window.setMaximumSize(FromPixels(limits.largest));
+}
+
+void SetFirstSize(QWidget& window) {
+  LimitSize(window);
+  window.resize(FromPixels(LimitsOn(*window.screen()).atStart));
+}
+
 void SetTabOrder(const WindowControls& controls) {
   std::vector<QWidget*> order;
   const auto append = [&order](const auto& row) { order.insert(order.end(), row.begin(), row.end()); };
-  append(controls.files.InOrder());
+  append(controls.toolbar.InOrder());
   append(
       std::initializer_list<QWidget*>{controls.exam.title, controls.exam.random, controls.exam.attachments});
   append(controls.question.kinds->buttons());

@@ -91,7 +91,7 @@ void DesktopWindows::RememberFolders(const ExamFolderSetting& setting) {
 }
 
 /// An exam that was restored is not opened over itself.
-void DesktopWindows::Begin(CQuorvantisDlg& window) {
+void DesktopWindows::OpenFirstExam(CQuorvantisDlg& window) {
   const bool restored = !TakesPicture() && window.OfferRecovery();
   const std::filesystem::path& exam = options_.exam;
   if (!exam.empty() && !(restored && window.Shows(exam))) window.OpenExam(exam);
@@ -108,11 +108,12 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   RememberFolders(examFolder);
   LinuxProcessTable processes;
   OfficeControl office(host.Services(), processes);
-  const auto exportDocument = [&](FrameSetExam& document, const std::filesystem::path& target) {
-    ExportCommand(document, host.Documents(), &office).ExportWordDocument(target);
+  const auto exportDocument = [&](const FrameSetExam& document, const std::filesystem::path& target) {
+    ExportCommand(document, host.Writer(), &office).ExportWordDocument(target);
   };
   CQuorvantisDlg window(exam, host.Pages(), host.Papers(), TakesPicture() ? nullptr : &office, exportDocument,
                         &language, application.LanguageId());
+  window.Begin();
   dialogs_.SetParent(&window);
   progress.SetParent(&window);
   window.show();
@@ -126,7 +127,8 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
     window.KeepUnsavedWork();
     QCoreApplication::exit();  // leaves dialogs, too
   });
-  QTimer::singleShot(0, &window, [&] { Begin(window); });  // in the event loop, which a signal must find
+  QTimer::singleShot(0, &window,
+                     [&] { OpenFirstExam(window); });  // in the event loop, which a signal must find
   if (!TakesPicture()) QTimer::singleShot(kUntilPainted, &window, [&] { window.WarmBrowser(); });
   const int exitCode = QApplication::exec();
   if (!TakesPicture() || pictureTaken_ || exitCode != 0) return exitCode;

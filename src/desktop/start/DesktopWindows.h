@@ -4,7 +4,7 @@
 #include "desktop/dialogs/QtUserDialogs.h"
 #include "desktop/start/QtLanguage.h"
 #include "desktop/start/WindowArguments.h"
-#include "shell/settings/ExamFolderSetting.h"
+#include "shell/settings/FileSettings.h"
 #include "shell/start/CQuorvantisApp.h"
 
 namespace quorvantis {
@@ -23,7 +23,7 @@ class DesktopWindows : public ApplicationWindows {
   int RunMainWindow(CQuorvantisApp& application) override;
 
  private:
-  void Begin(CQuorvantisDlg& window);
+  void OpenFirstExam(CQuorvantisDlg& window);
   void RememberFolders(const ExamFolderSetting& setting);
   bool TakesPicture() const { return !options_.screenshot.isEmpty(); }
   void TakePicture(QWidget& window);

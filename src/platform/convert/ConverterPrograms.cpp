@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/convert/ConverterPrograms.h"
 
-#include <QStandardPaths>
+#include "platform/programs/ChildProgram.h"
+
+#include <QFile>
 
 namespace quorvantis {
 
 ConverterPrograms ConverterPrograms::Find() {
-  return {QStandardPaths::findExecutable("soffice"), QStandardPaths::findExecutable("pdftoppm"),
-          QStandardPaths::findExecutable("ffprobe"), QStandardPaths::findExecutable("ffmpeg")};
+  const auto find = [](const char* name) { return QFile::decodeName(FindProgram(name).c_str()); };
+  return {find("soffice"), find("pdftoppm"), find("ffprobe"), find("ffmpeg")};
 }
 
 }  // namespace quorvantis

@@ -2,14 +2,13 @@
 #include "platform/convert/DocumentImages.h"
 
 #include "platform/convert/Later.h"
-#include "platform/convert/OfficeFilters.h"
 #include "platform/convert/ProgramRun.h"
+#include "platform/documents/ImportFilters.h"
+#include "platform/programs/OfficeConverter.h"
 #include "platform/programs/OfficeProfile.h"
 
 #include <QFile>
-#include <QUrl>
 
-#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -19,14 +18,14 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kDotsPerInch = 120;  // sharp on the screen, legible on paper
-constexpr qint64 kHeadBytes = 8;
+constexpr std::size_t kHeadBytes = 8;
 constexpr int kLanes = 2;
 constexpr std::chrono::seconds kLongestConversion{30};
 constexpr std::chrono::seconds kLongestDrawing{60};
 
-QByteArray Head(const fs::path& file) {
+std::string Head(const fs::path& file) {
   QFile in(file);
-  return in.open(QIODevice::ReadOnly) ? in.read(kHeadBytes) : QByteArray();
+  return in.open(QIODevice::ReadOnly) ? in.read(kHeadBytes).toStdString() : std::string();
 }
 
 fs::path PdfOf(const fs::path& folder) {
@@ -36,17 +35,6 @@ fs::path PdfOf(const fs::path& folder) {
 bool IsFile(const fs::path& path) {
   std::error_code error;
   return fs::is_regular_file(path, error);
-}
-
-/// pdftoppm pads the page numbers to one width, so the order of the names is that of the pages.
-std::vector<fs::path> PagesIn(const fs::path& folder) {
-  std::vector<fs::path> pages;
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(folder, error)) {
-    if (entry.path().extension() == ".png") pages.push_back(entry.path());
-  }
-  std::sort(pages.begin(), pages.end());
-  return pages;
 }
 
 }  // namespace
@@ -62,35 +50,28 @@ void DocumentImages::Make(const fs::path& document, const QString& extension, co
 
 void DocumentImages::Begin(const SharedJob& job) {
   if (programs_.pdfImages.isEmpty()) return job->done({});
-  const QByteArray head = Head(job->document);
+  const std::string head = Head(job->document);
   if (job->extension == "pdf") {
-    return head.startsWith("%PDF") ? DrawPages(job, job->document) : job->done({});
+    return head.starts_with("%PDF") ? DrawPages(job, job->document) : job->done({});
   }
-  job->filters = ImportFilters(job->extension, head);
-  if (programs_.office.isEmpty() || job->filters.isEmpty()) return job->done({});
+  job->filters = ImportFiltersOf(job->extension.toStdString(), head);
+  if (programs_.office.isEmpty() || job->filters.empty()) return job->done({});
   office_.Add([this, job](int lane) {
     // LibreOffice fails on some names. Through a link it reads the original and leaves nothing beside it.
     std::error_code error;
-    fs::create_symlink(job->document, job->folder / ("document." + job->extension.toStdString()), error);
+    fs::create_symlink(job->document, LinkIn(*job), error);
     if (error) job->filters.clear();
     TryNextFilter(job, lane);
   });
 }
 
 void DocumentImages::TryNextFilter(const SharedJob& job, int lane) {
-  if (job->filters.isEmpty()) return LeaveOffice(job, lane);
+  if (job->filters.empty()) return LeaveOffice(job, lane);
   WriteOfficeProfile(Profile(lane));
-  const QString filter = job->filters.takeFirst();
-  const QStringList arguments{
-      "-env:UserInstallation=" + QUrl::fromLocalFile(FileArgument(Profile(lane))).toString(),
-      "--headless",
-      "--norestore",
-      "--infilter=" + filter,
-      "--convert-to",
-      "pdf",
-      "--outdir",
-      FileArgument(job->folder),
-      FileArgument(job->folder / "document.") + job->extension};
+  QStringList arguments;
+  for (const auto& argument : OfficeArguments(Profile(lane), job->filters.front(), "pdf", LinkIn(*job)))
+    arguments << FileArgument(argument);
+  job->filters.erase(job->filters.begin());
   const ProgramOrder order{programs_.office, arguments, kLongestConversion, {}, FileArgument(job->folder)};
   RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
     // One that hung or crashed would do so again. The exit code says success even where nothing could be
@@ -118,11 +99,15 @@ void DocumentImages::DrawPages(const SharedJob& job, const fs::path& pdf) {
   drawing_.Add([this, job, order = ProgramOrder{programs_.pdfImages, arguments, kLongestDrawing}](int lane) {
     RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
       drawing_.Leave(lane);
-      std::vector<fs::path> pages = PagesIn(job->folder);
+      std::vector<fs::path> pages = DrawnPages(job->folder);
       if (!ended && !pages.empty()) pages.pop_back();  // the one that was being drawn
       job->done(pages);
     });
   });
+}
+
+fs::path DocumentImages::LinkIn(const Job& job) {
+  return job.folder / ("document." + job.extension.toStdString());
 }
 
 fs::path DocumentImages::Profile(int lane) const {

@@ -6,11 +6,11 @@
 
 #include <QObject>
 #include <QString>
-#include <QStringList>
 
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace quorvantis {
@@ -39,7 +39,7 @@ class DocumentImages : public QObject {
     QString extension;
     std::filesystem::path folder;
     Done done;
-    QStringList filters;  ///< still to try
+    std::vector<std::string> filters;  ///< still to try
   };
   using SharedJob = std::shared_ptr<Job>;  ///< what waits for programs holds it
 
@@ -47,6 +47,7 @@ class DocumentImages : public QObject {
   void TryNextFilter(const SharedJob& job, int lane);
   void LeaveOffice(const SharedJob& job, int lane);
   void DrawPages(const SharedJob& job, const std::filesystem::path& pdf);
+  static std::filesystem::path LinkIn(const Job& job);
   std::filesystem::path Profile(int lane) const;
 
   const ConverterPrograms programs_;

@@ -2,76 +2,105 @@
 #include "platform/convert/ProgramRun.h"
 
 #include "platform/convert/Later.h"
+#include "platform/programs/ChildProcess.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QTimer>
 
-#include <csignal>
 #include <memory>
-#include <sys/prctl.h>
-#include <sys/resource.h>
-#include <unistd.h>
 #include <utility>
 
 namespace quorvantis {
 namespace {
 
-constexpr int kLowPriority = 10;
-constexpr rlim_t kLargestFile = rlim_t{4} << 30;  // what a crafted input could fill the disk with
+using Clock = std::chrono::steady_clock;
 
-/// Runs between fork and exec, where only async-signal-safe calls are allowed.
-void PrepareChild() {
-  ::setsid();
-  ::prctl(PR_SET_PDEATHSIG, SIGKILL);  // if this program is killed, which ends no process group
-  const rlimit largest{kLargestFile, kLargestFile};
-  ::setrlimit(RLIMIT_FSIZE, &largest);
-  ::setpriority(PRIO_PROCESS, 0, kLowPriority);
+constexpr std::chrono::milliseconds kBetweenLooks{20};
+constexpr std::uintmax_t kLargestFile = std::uintmax_t{4} << 30;  // bytes; a film may be long
+constexpr qsizetype kMostOutput = qsizetype{1} << 20;             // what lies behind it is of no use
+
+std::string ToArgument(const QString& text) {
+  return QFile::encodeName(text).toStdString();
 }
 
-/// A process whose whole group is killed with it.
-class GroupProcess : public QProcess {
+ChildOrder ChildOrderOf(const ProgramOrder& order) {
+  ChildOrder child{ToArgument(order.program), {}, ToArgument(order.temporaryFolder), kLargestFile, true};
+  for (const QString& argument : order.arguments) child.arguments.push_back(ToArgument(argument));
+  return child;
+}
+
+/// Reads the output of a program for signs of progress.
+class ProgressWatch {
  public:
-  explicit GroupProcess(QObject* parent) : QProcess(parent) {
-    setChildProcessModifier(PrepareChild);
-    setStandardInputFile(nullDevice());
-    setStandardErrorFile(nullDevice());
-  }
-  ~GroupProcess() override {
-    disconnect();
-    KillGroup();
-    waitForFinished();
-  }
-  GroupProcess(const GroupProcess&) = delete;
-  GroupProcess& operator=(const GroupProcess&) = delete;
+  explicit ProgressWatch(ProgressSigns signs) : signs_(std::move(signs)) {}
 
-  /// Only while the leader lives or is not reaped: afterwards its number may belong to somebody else.
-  void KillGroup() {
-    if (processId() > 0) ::kill(-static_cast<pid_t>(processId()), SIGKILL);
+  void Take(const QByteArray& output) {
+    begun_ += output;
+    for (qsizetype end = 0; (end = begun_.indexOf('\n')) >= 0; begun_.remove(0, end + 1)) {
+      QByteArray line = begun_.first(end);
+      if (!line.startsWith(signs_.mark) || line == last_) continue;
+      last_ = std::move(line);
+      lastTime_ = Clock::now();
+    }
+    if (begun_.size() > kMostOutput) begun_.clear();
   }
 
-  void UseTemporaryFolder(const QString& folder) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("TMPDIR", folder);
-    setProcessEnvironment(environment);
+  bool HasLostPatience() const { return Clock::now() > lastTime_ + signs_.patience; }
+
+ private:
+  const ProgressSigns signs_;
+  QByteArray begun_;  ///< the line that is not whole yet
+  QByteArray last_;
+  Clock::time_point lastTime_ = Clock::now();
+};
+
+/// A program at work. Deletes itself when it has reported.
+class ProgramRun : public QObject {
+ public:
+  ProgramRun(QObject& owner, ProgramOrder order, ProgramDone done)
+      : QObject(&owner), order_(std::move(order)), done_(std::move(done)) {
+    connect(&looks_, &QTimer::timeout, this, &ProgramRun::Look);
   }
 
-  /// Kills the group when it shows no sign of progress any more.
-  void Watch(const ProgressSigns& signs) {
-    auto* const patience = new QTimer(this);
-    patience->setSingleShot(true);
-    connect(patience, &QTimer::timeout, this, &GroupProcess::KillGroup);
-    connect(this, &QProcess::started, patience, [patience, signs] { patience->start(signs.patience); });
-    connect(this, &QProcess::readyReadStandardOutput, patience,
-            [this, patience, mark = signs.mark, last = QByteArray()]() mutable {
-              while (canReadLine()) {
-                QByteArray line = readLine();
-                if (!line.startsWith(mark) || line == last) continue;
-                last = std::move(line);
-                patience->start();
-              }
-            });
+  void Start() {
+    deadline_ = Clock::now() + order_.limit;
+    if (order_.progress) watch_.emplace(*order_.progress);
+    child_ = ChildProcess::Start(ChildOrderOf(order_));
+    if (child_ == nullptr) return Report(false);
+    looks_.start(kBetweenLooks);
   }
+
+ private:
+  void Look() {
+    const std::optional<ChildEnd> end = child_->End();
+    TakeOutput();
+    if (end) return Report(*end == ChildEnd::Succeeded);
+    if (Clock::now() > deadline_ || (watch_ && watch_->HasLostPatience())) Report(false);
+  }
+
+  void TakeOutput() {
+    const QByteArray output = QByteArray::fromStdString(child_->ReadOutput());
+    if (watch_) return watch_->Take(output);
+    if (output_.size() < kMostOutput) output_ += output;
+  }
+
+  /// The owner may go with this in the call.
+  void Report(bool succeeded) {
+    looks_.stop();
+    child_.reset();
+    deleteLater();
+    const ProgramDone done = std::exchange(done_, nullptr);
+    const QByteArray output = std::move(output_);
+    done(succeeded, output);
+  }
+
+  const ProgramOrder order_;
+  ProgramDone done_;
+  QTimer looks_;
+  Clock::time_point deadline_;
+  std::optional<ProgressWatch> watch_;
+  QByteArray output_;
+  std::unique_ptr<ChildProcess> child_;
 };
 
 }  // namespace
@@ -81,27 +110,8 @@ QString FileArgument(const std::filesystem::path& file) {
 }
 
 void RunProgram(QObject& owner, const ProgramOrder& order, ProgramDone done) {
-  auto* const process = new GroupProcess(&owner);
-  const auto report = [process, once = std::make_shared<ProgramDone>(std::move(done))](bool succeeded) {
-    const ProgramDone call = std::exchange(*once, nullptr);
-    process->deleteLater();
-    if (call) call(succeeded, process->isOpen() ? process->readAllStandardOutput() : QByteArray());
-  };
-  QObject::connect(process, &QProcess::finished, process, [report](int code, QProcess::ExitStatus status) {
-    report(status == QProcess::NormalExit && code == 0);
-  });
-  QObject::connect(process, &QProcess::errorOccurred, process, [report](QProcess::ProcessError error) {
-    if (error == QProcess::FailedToStart) report(false);
-  });
-  if (order.program.isEmpty()) {
-    Later(*process, {}, [report] { report(false); });
-    return;
-  }
-  if (order.progress) process->Watch(*order.progress);
-  if (!order.temporaryFolder.isEmpty()) process->UseTemporaryFolder(order.temporaryFolder);
-  Later(*process, order.limit, [process] { process->KillGroup(); });
-  // A program that cannot be started reports that from inside start(), which the caller would not expect.
-  Later(*process, {}, [process, order] { process->start(order.program, order.arguments); });
+  auto* const run = new ProgramRun(owner, order, std::move(done));
+  Later(*run, {}, [run] { run->Start(); });
 }
 
 }  // namespace quorvantis

@@ -13,7 +13,7 @@
 
 namespace quorvantis {
 
-/// How a program that works for long shows that it comes forward: by lines of its output that begin with
+/// How a program that works for long reports progress: by lines of its output that begin with
 /// `mark` and are never the same twice running.
 struct ProgressSigns {
   QByteArray mark;
@@ -36,9 +36,9 @@ struct ProgramOrder {
 /// output.
 using ProgramDone = std::function<void(bool succeeded, const QByteArray& output)>;
 
-/// Runs a program in the background, at low priority, in a process group of its own, so that its children end
-/// with it when its time is over or when `owner` goes. `done` is called once, later, on the thread of
-/// `owner`; never after `owner` has gone.
+/// Runs a program as a ChildProcess in the background of the event loop. It and its children end when its
+/// time is over or when `owner` goes; nothing of them runs any more when `done` is called. That happens once,
+/// later, on the thread of `owner`; never after `owner` has gone.
 void RunProgram(QObject& owner, const ProgramOrder& order, ProgramDone done);
 
 }  // namespace quorvantis

@@ -70,17 +70,6 @@ constexpr std::string_view kDrawingStyles =
     R"(fo:border="none"/></style:style>@</office:automatic-styles>)"
     R"(<office:master-styles>@</office:master-styles>)";
 
-/// The numbers of the pages are padded to one width, so the order of the names is theirs.
-std::vector<fs::path> PagesIn(const fs::path& folder) {
-  std::vector<fs::path> pages;
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(folder, error)) {
-    if (entry.path().extension() == ".png") pages.push_back(entry.path());
-  }
-  std::ranges::sort(pages);
-  return pages;
-}
-
 }  // namespace
 
 std::size_t MetafileImages::Add(const PictureFormat& format, std::string_view bytes) {
@@ -107,7 +96,7 @@ WordResult MetafileImages::Draw(const OfficeConverter& converter) {
   if (converted != WordResult::Done) return converted;
   const WordResult drawn = converter.DrawPages(folder_.Path() / "pictures.pdf", kDotsPerInch);
   if (drawn != WordResult::Done) return drawn;
-  images_ = PagesIn(folder_.Path());
+  images_ = DrawnPages(folder_.Path());
   return images_.size() == count_ ? WordResult::Done : WordResult::Damaged;
 }
 

@@ -5,6 +5,7 @@
 #include "platform/programs/ChildProgram.h"
 #include "platform/programs/OfficeProfile.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -16,23 +17,6 @@ namespace fs = std::filesystem;
 bool IsThere(const fs::path& file) {
   std::error_code error;
   return fs::is_regular_file(file, error) && fs::file_size(file, error) > 0;
-}
-
-/// The profile's path is one of ours, without characters that an address would have to escape, unless the
-/// folder for temporary files is an odd one.
-std::string AddressOf(const fs::path& folder) {
-  static constexpr std::string_view kHexadecimal = "0123456789ABCDEF";
-  std::string address = "file://";
-  for (const char c : folder.string()) {
-    const bool isPlain =
-        (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '-' && c <= '9') || c == '_';
-    const auto byte = static_cast<unsigned char>(c);
-    if (isPlain)
-      address += c;
-    else
-      address.append({'%', kHexadecimal[byte >> 4U], kHexadecimal[byte & 15U]});
-  }
-  return address;
 }
 
 }  // namespace
@@ -50,11 +34,8 @@ WordResult OfficeConverter::Convert(const OfficeJob& job) const {
   const fs::path result = fs::path(job.input).replace_extension(job.format);
   const std::string format = job.format + (job.exportFilter.empty() ? "" : ":" + job.exportFilter);
   for (const std::string& filter : job.filters) {
-    const WordResult run = Run(programs_.office,
-                               {"-env:UserInstallation=" + AddressOf(profile.Path()), "--headless",
-                                "--norestore", "--infilter=" + filter, "--convert-to", format, "--outdir",
-                                job.input.parent_path().string(), job.input.string()},
-                               profile.Path());
+    const WordResult run =
+        Run(programs_.office, OfficeArguments(profile.Path(), filter, format, job.input), profile.Path());
     // The exit code says success even where nothing could be read; only the file tells.
     if (IsThere(result)) return WordResult::Done;
     if (run != WordResult::Done && run != WordResult::Damaged) return run;
@@ -68,10 +49,20 @@ WordResult OfficeConverter::DrawPages(const fs::path& pdf, int dotsPerInch) cons
              pdf.parent_path());
 }
 
+std::vector<fs::path> DrawnPages(const fs::path& folder) {
+  std::vector<fs::path> pages;
+  std::error_code error;
+  for (const auto& entry : fs::directory_iterator(folder, error)) {
+    if (entry.path().extension() == ".png") pages.push_back(entry.path());
+  }
+  std::ranges::sort(pages);
+  return pages;
+}
+
 WordResult OfficeConverter::Run(const fs::path& program, std::vector<std::string> arguments,
                                 const fs::path& temporaryFolder) const {
   if (program.empty()) return WordResult::WordProcessorMissing;
-  switch (RunChildProgram({program, std::move(arguments), temporaryFolder, programs_.limit, isCancelled_})) {
+  switch (RunChildProgram({program, std::move(arguments), temporaryFolder}, programs_.limit, isCancelled_)) {
     case ChildEnd::Succeeded:
       return WordResult::Done;
     case ChildEnd::NotStarted:

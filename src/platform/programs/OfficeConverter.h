@@ -29,6 +29,10 @@ struct OfficeJob {
   std::string exportFilter{};        ///< the usual one for that extension when empty
 };
 
+/// The pages that poppler has drawn into `folder`, in their order: it pads the numbers in the names to one
+/// width.
+std::vector<std::filesystem::path> DrawnPages(const std::filesystem::path& folder);
+
 /// Has LibreOffice convert files, each run with a fresh profile under which documents can do nothing.
 class OfficeConverter {
  public:

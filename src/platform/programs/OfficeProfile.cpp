@@ -33,6 +33,23 @@ constexpr Setting kSettings[] = {
     {kInternet, "ooInetNoProxy", ""},
 };
 
+/// The profile's path is one of ours, without characters that an address would have to escape, unless the
+/// folder for temporary files is an odd one.
+std::string AddressOf(const std::filesystem::path& folder) {
+  static constexpr std::string_view kHexadecimal = "0123456789ABCDEF";
+  std::string address = "file://";
+  for (const char c : folder.string()) {
+    const bool isPlain =
+        (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '-' && c <= '9') || c == '_';
+    const auto byte = static_cast<unsigned char>(c);
+    if (isPlain)
+      address += c;
+    else
+      address.append({'%', kHexadecimal[byte >> 4U], kHexadecimal[byte & 15U]});
+  }
+  return address;
+}
+
 }  // namespace
 
 void WriteOfficeProfile(const std::filesystem::path& folder) {
@@ -48,6 +65,19 @@ void WriteOfficeProfile(const std::filesystem::path& folder) {
         << "\" oor:op=\"fuse\"><value>" << setting.value << "</value></prop></item>\n";
   }
   out << "</oor:items>\n";
+}
+
+std::vector<std::string> OfficeArguments(const std::filesystem::path& profile, const std::string& filter,
+                                         const std::string& format, const std::filesystem::path& input) {
+  return {"-env:UserInstallation=" + AddressOf(profile),
+          "--headless",
+          "--norestore",
+          "--infilter=" + filter,
+          "--convert-to",
+          format,
+          "--outdir",
+          input.parent_path().string(),
+          input.string()};
 }
 
 }  // namespace quorvantis

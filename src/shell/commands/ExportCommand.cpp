@@ -35,14 +35,15 @@ void ExportCommand::ExportWordDocument(const std::filesystem::path& target) {
 }
 
 std::optional<std::u16string> ExportCommand::Write(const std::filesystem::path& target, WordFormat format) {
-  exam_.CountQuestions();
   const ExamServices& services = exam_.Services();
   const auto isCancelled = [&services] {
     services.progress.Wait();
     return services.progress.IsCancelled();
   };
+  ExamPaper exam = exam_;
+  exam.CountQuestions();
   const WordWriteOutcome outcome =
-      writer_.Write({ExportParagraphs(exam_, services.strings), target, format, isCancelled});
+      writer_.Write({ExportParagraphs(exam, services.strings), target, format, isCancelled});
   if (outcome.result == WordWriteResult::Done) return std::nullopt;
   return FailureText(outcome, target);
 }

@@ -11,12 +11,11 @@
 
 namespace quorvantis {
 
-/// Writes the exam as a word processor's document. The exam itself stays as it is, but for its count of
-/// questions.
+/// Writes the exam as a word processor's document: the questions that its file would have.
 class ExportCommand {
  public:
   /// All must outlive the command; `office` may be null.
-  ExportCommand(FrameSetExam& exam, WordWriter& writer, OfficeControl* office)
+  ExportCommand(const FrameSetExam& exam, WordWriter& writer, OfficeControl* office)
       : exam_(exam), writer_(writer), office_(office) {}
 
   /// What Save As does with the name of a document. Tells the user how it went.
@@ -28,7 +27,7 @@ class ExportCommand {
  private:
   std::u16string FailureText(const WordWriteOutcome& outcome, const std::filesystem::path& target) const;
 
-  FrameSetExam& exam_;
+  const FrameSetExam& exam_;
   WordWriter& writer_;
   OfficeControl* office_;
 };

@@ -18,15 +18,17 @@ void MakePageFolder(const FrameSetExam& exam) {
 
 void PreviewCommand::Run() {
   if (office_ != nullptr) office_->TrustApplicationFolder(true);
-  questions_.StoreCurrentQuestion();
-  exam_.CountQuestions();
-  exam_.PrefixAttachmentPaths(1);
+  editor_.questions.StoreCurrentQuestion();
+  editor_.changes.CountQuestions();
+  editor_.changes.PrefixAttachmentPaths(1);
   if (office_ != nullptr) office_->processes.AskCloseOffice();
-  exam_.SetRenderOption(languageId_);
-  exam_.Services().pages.Clear();
-  MakePageFolder(exam_);
-  exam_.WritePreview(MainPage(exam_));
-  show_(MainPage(exam_));
+  editor_.changes.SetRenderOption(languageId_);
+  FrameSetExam exam = editor_.state.document;  // its writers make notes
+  exam.Services().pages.Clear();
+  MakePageFolder(exam);
+  exam.WritePreview(MainPage(exam));
+  editor_.changes.KeepPageNotes(exam);
+  show_(MainPage(exam));
 }
 
 }  // namespace quorvantis

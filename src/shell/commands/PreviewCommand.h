@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "editor/QuestionEditor.h"
-#include "model/FrameSetExam.h"
+#include "editor/ExamEditor.h"
 #include "shell/office/OfficeControl.h"
 
 #include <filesystem>
@@ -16,23 +15,17 @@ using ShowPage = std::function<void(const std::filesystem::path& page)>;
 /// The Preview command: writes the exam as it would be taken, and has the first page shown.
 class PreviewCommand {
  public:
-  /// All must outlive the command; `office` may be null. `languageId` is that of the language that is
+  /// Both must outlive the command; `office` may be null. `languageId` is that of the language that is
   /// wanted, which need not be the one in use.
-  PreviewCommand(QuestionEditor& questions, FrameSetExam& exam, OfficeControl* office, int languageId,
-                 ShowPage show)
-      : questions_(questions),
-        exam_(exam),
-        office_(office),
-        languageId_(languageId),
-        show_(std::move(show)) {}
+  PreviewCommand(ExamEditor& editor, OfficeControl* office, int languageId, ShowPage show)
+      : editor_(editor), office_(office), languageId_(languageId), show_(std::move(show)) {}
 
   /// The attachment paths have one more prefix on pages from now on, until the exam is finished (see
   /// FrameSetExam::PrefixAttachmentPaths).
   void Run();
 
  private:
-  QuestionEditor& questions_;
-  FrameSetExam& exam_;
+  ExamEditor& editor_;
   OfficeControl* office_;
   int languageId_;
   ShowPage show_;

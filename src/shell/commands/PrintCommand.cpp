@@ -16,11 +16,12 @@ std::filesystem::path PrintPage(const FrameSetExam& exam) {
 }  // namespace
 
 void PrintCommand::Run() {
-  questions_.StoreCurrentQuestion();
-  exam_.CountQuestions();
-  exam_.Services().pages.Clear();
-  exam_.WritePrintPage(PrintPage(exam_));
-  show_(PrintPage(exam_));
+  editor_.questions.StoreCurrentQuestion();
+  editor_.changes.CountQuestions();
+  FrameSetExam exam = editor_.state.document;
+  exam.Services().pages.Clear();
+  exam.WritePrintPage(PrintPage(exam));
+  show_(PrintPage(exam));
 }
 
 }  // namespace quorvantis

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "editor/QuestionEditor.h"
-#include "model/FrameSetExam.h"
 #include "shell/commands/PreviewCommand.h"
 
 namespace quorvantis {
@@ -10,15 +8,13 @@ namespace quorvantis {
 /// The Print command: writes the exam as a paper, and has it shown off the screen and printed.
 class PrintCommand {
  public:
-  /// All must outlive the command.
-  PrintCommand(QuestionEditor& questions, FrameSetExam& exam, ShowPage show)
-      : questions_(questions), exam_(exam), show_(std::move(show)) {}
+  /// `editor` must outlive the command.
+  PrintCommand(ExamEditor& editor, ShowPage show) : editor_(editor), show_(std::move(show)) {}
 
   void Run();
 
  private:
-  QuestionEditor& questions_;
-  FrameSetExam& exam_;
+  ExamEditor& editor_;
   ShowPage show_;
 };
 

@@ -4,19 +4,19 @@
 namespace quorvantis {
 
 bool ScoreSetupCommand::Run() {
-  FrameSetExam& exam = editor_.state.document;
   editor_.questions.StoreCurrentQuestion();
-  exam.CountQuestions();
+  editor_.changes.CountQuestions();
   ScoreSetup setup;
-  setup.SetQuestionCount(exam.questionCount);
-  setup.SetDistribution(DistributionOf(exam));
+  setup.SetQuestionCount(editor_.state.document.questionCount);
+  setup.SetDistribution(DistributionOf(editor_.state.document));
   const bool accepted = edit_(setup);
   setup.ReadBack();
   if (!accepted) return false;
   ScoreDistribution distribution;
   setup.GetDistribution(distribution);
-  StoreDistribution(distribution, exam);
-  editor_.state.MarkModified();
+  ExamPaper scores;
+  StoreDistribution(distribution, scores);
+  editor_.changes.SetScores(scores);
   return true;
 }
 

@@ -7,10 +7,9 @@
 
 namespace quorvantis {
 
-void RunCloseSequence(FrameSetExam& exam, OfficeControl* office) {
-  if (exam.questionFilesUnpacked != 0) DeleteQuestionCopies(exam);
-  if (exam.examFilesUnpacked != 0) DeleteExamCopies(exam);
-  RemoveFolder(AttachmentWorkRoot(exam.Services().applicationFolder));
+void RunCloseSequence(ExamEditor& editor, OfficeControl* office) {
+  editor.files.DeleteUnpackedFiles();
+  RemoveFolder(AttachmentWorkRoot(editor.state.document.Services().applicationFolder));
   if (office != nullptr) office->TrustApplicationFolder(false);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/FrameSetExam.h"
+#include "editor/ExamEditor.h"
 #include "shell/office/OfficeControl.h"
 
 namespace quorvantis {
@@ -9,6 +9,6 @@ namespace quorvantis {
 /// Removes what an editor leaves in its work folders: the unpacked files of the exam that was open, and the
 /// folder of attached files with everything in it; then what the office suite was told of the application
 /// folder (`office` may be null). Runs when the editor ends, however it ends. Failures are ignored.
-void RunCloseSequence(FrameSetExam& exam, OfficeControl* office);
+void RunCloseSequence(ExamEditor& editor, OfficeControl* office);
 
 }  // namespace quorvantis

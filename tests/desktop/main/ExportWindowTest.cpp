@@ -14,7 +14,7 @@ TEST_F(ExportWindow, WaitsUnderAModalBarUntilEscape) {
   const fs::path target = WriteBytes(folder / "Mine.doc", "old");
   const fs::path program = WriteBytes(folder / "soffice", "#!/bin/sh\nsleep 100");
   fs::permissions(program, fs::perms::owner_all);
-  exportDocument = [&](FrameSetExam& document, const fs::path& file) {
+  exportDocument = [&](const FrameSetExam& document, const fs::path& file) {
     OfficeWordWriter writer(files, {program, {}, std::chrono::minutes(1)});
     ExportCommand(document, writer, nullptr).ExportWordDocument(file);
   };

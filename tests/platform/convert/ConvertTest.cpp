@@ -2,8 +2,8 @@
 // The converting programs, run for real. A case is skipped where its program is not installed.
 #include "platform/convert/DocumentImages.h"
 #include "platform/convert/MediaConverter.h"
-#include "platform/convert/OfficeFilters.h"
 #include "platform/convert/ProgramRun.h"
+#include "platform/documents/ImportFilters.h"
 #include "platform/programs/OfficeProfile.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
@@ -140,11 +140,12 @@ TEST_F(ConvertTest, ConversionsQueueAndDamagedDocumentsDoNotHoldTheRest) {
 }
 
 TEST(OfficeFilters, GoByWhatAFileIsNotByItsName) {
-  EXPECT_EQ(ImportFilters("doc", "\xD0\xCF\x11\xE0"), (QStringList{"MS Word 97", "MS Word 95"}));
-  EXPECT_EQ(ImportFilters("doc", "PK\x03\x04"), QStringList{"MS Word 2007 XML"});
-  EXPECT_EQ(ImportFilters("doc", "{\\rtf1"), QStringList{"Rich Text Format"});
-  EXPECT_EQ(ImportFilters("xls", "{\\rtf1"), QStringList());
-  EXPECT_EQ(ImportFilters("doc", "plain text"), QStringList());
+  using Filters = std::vector<std::string>;
+  EXPECT_EQ(ImportFiltersOf("doc", "\xD0\xCF\x11\xE0"), (Filters{"MS Word 97", "MS Word 95"}));
+  EXPECT_EQ(ImportFiltersOf("doc", "PK\x03\x04"), Filters{"MS Word 2007 XML"});
+  EXPECT_EQ(ImportFiltersOf("doc", "{\\rtf1"), Filters{"Rich Text Format"});
+  EXPECT_EQ(ImportFiltersOf("xls", "{\\rtf1"), Filters());
+  EXPECT_EQ(ImportFiltersOf("doc", "plain text"), Filters());
 }
 
 TEST(MediaFormat, TellsWhatTheBrowserPlays) {

@@ -14,10 +14,8 @@ class PageCommandsTest : public EditorTest {
  protected:
   PageCommandsTest() { Type(FormField::Text, u"Typed"); }
 
-  void Preview(int languageId = 0x0409) {
-    PreviewCommand(editor.questions, exam, nullptr, languageId, Show()).Run();
-  }
-  void Print() { PrintCommand(editor.questions, exam, Show()).Run(); }
+  void Preview(int languageId = 0x0409) { PreviewCommand(editor, nullptr, languageId, Show()).Run(); }
+  void Print() { PrintCommand(editor, Show()).Run(); }
 
   bool Shows(const fs::path& page, std::u16string_view text) {
     return world.pages.pages[page].find(text) != std::u16string::npos;

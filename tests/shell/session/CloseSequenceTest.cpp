@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "editor/UnseenView.h"
 #include "platform/posix/LinuxProcessTable.h"
 #include "platform/posix/PosixFiles.h"
 #include "shell/session/CloseSequence.h"
@@ -42,19 +43,21 @@ TEST(CloseSequence, DeletesAttachedFilesAndWhatAReaderUnpacked) {
 
   LinuxProcessTable processes;
   OfficeControl office(world.services, processes);
-  RunCloseSequence(exam, &office);
+  UnseenView view;
+  ExamEditor editor(exam, view, nullptr);
+  RunCloseSequence(editor, &office);
   EXPECT_EQ(world.registry.OpenKey(RegistryRoot::CurrentUser, locations + u"LocationQuorvantis"), nullptr);
   EXPECT_FALSE(std::filesystem::exists(folder / "~TEMP"));
   EXPECT_TRUE(exists("exam.doc") && exists("one") && exists("two")) << "no reader has made them";
 
   std::filesystem::create_directory_symlink(unpacked, folder / "~TEMP");
   exam.questionFilesUnpacked = 1;
-  RunCloseSequence(exam, nullptr);
+  RunCloseSequence(editor, nullptr);
   EXPECT_FALSE(exists("one") || exists("two"));
   EXPECT_TRUE(exists("exam.doc") && exists("behind the end") && exists("not a copy to delete"));
   EXPECT_FALSE(std::filesystem::is_symlink(folder / "~TEMP"));
   exam.examFilesUnpacked = 1;
-  RunCloseSequence(exam, nullptr);
+  RunCloseSequence(editor, nullptr);
   EXPECT_FALSE(exists("exam.doc"));
 }
 

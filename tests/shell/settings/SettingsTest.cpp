@@ -2,9 +2,8 @@
 #include "ini/ProfileFile.h"
 #include "platform/posix/PosixFiles.h"
 #include "shell/language/BuiltInStrings.h"
-#include "shell/settings/BackupSetting.h"
 #include "shell/settings/CodePageChoice.h"
-#include "shell/settings/ExamFolderSetting.h"
+#include "shell/settings/FileSettings.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What "system.ini" in the application folder says about exam files.
 #pragma once
 
 #include <filesystem>
@@ -8,8 +9,11 @@ namespace quorvantis {
 class CodePage;
 class Files;
 
-/// The folder in which an exam was opened or saved last: key "ExamFolder" of section "files" of "system.ini"
-/// in the application folder.
+/// Whether saving an exam keeps the version before it: the key "Backup" of section "private", where 0 stands
+/// for no. Without it there are backups.
+bool KeepsBackups(const std::filesystem::path& applicationFolder);
+
+/// The folder in which an exam was opened or saved last: key "ExamFolder" of section "files".
 class ExamFolderSetting {
  public:
   /// All must outlive this. `codePage` is that of a file in 8-bit text.

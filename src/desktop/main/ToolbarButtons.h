@@ -11,11 +11,12 @@
 
 namespace quorvantis {
 
-/// The large buttons for the exam as a whole, at the top of the window.
-class FileButtons {
+/// The large buttons at the top of the window, which are for the exam as a whole: its file, import, scores,
+/// attached files, preview and print.
+class ToolbarButtons {
  public:
   /// What the buttons do that the editor does not.
-  struct PageCommands {
+  struct WindowCommands {
     std::function<void()> importExam;
     std::function<void()> scoreSetup;
     std::function<void()> preview;
@@ -25,8 +26,8 @@ class FileButtons {
   static constexpr std::size_t kCount = 9;
 
   /// The buttons belong to `parent`; `editor` must outlive them.
-  FileButtons(ExamEditor& editor, const PageCommands& pages, const StringTable& strings,
-              const Pictures& pictures, QWidget* parent);
+  ToolbarButtons(ExamEditor& editor, const WindowCommands& window, const StringTable& strings,
+                 const Pictures& pictures, QWidget* parent);
 
   const std::array<LargeButton*, kCount>& InOrder() const { return buttons_; }
 
@@ -35,6 +36,7 @@ class FileButtons {
 
  private:
   std::array<LargeButton*, kCount> buttons_{};
+  LargeButton* import_ = nullptr;
 };
 
 }  // namespace quorvantis

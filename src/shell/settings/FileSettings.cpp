@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/settings/ExamFolderSetting.h"
+#include "shell/settings/FileSettings.h"
 
 #include "ini/ProfileFile.h"
 #include "platform/WholeFile.h"
@@ -12,6 +12,10 @@ constexpr std::u16string_view kSection = u"files";
 constexpr std::u16string_view kKey = u"ExamFolder";
 
 }  // namespace
+
+bool KeepsBackups(const std::filesystem::path& applicationFolder) {
+  return ProfileFile(applicationFolder / "system.ini").Value(u"private", u"Backup") != u"0";
+}
 
 std::filesystem::path ExamFolderSetting::Read() const {
   const std::filesystem::path folder =

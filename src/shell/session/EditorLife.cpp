@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "shell/session/EditorLife.h"
+
+#include "platform/ExamServices.h"
+#include "recovery/RecoveryFolder.h"
+#include "shell/session/CloseSequence.h"
+#include "shell/settings/FileSettings.h"
+
+#include <utility>
+
+namespace quorvantis {
+
+EditorLife::EditorLife(FrameSetExam& exam, EditorView& view, DocumentExport exportDocument,
+                       OfficeControl* office)
+    : office_(office), editor_(exam, view, std::move(exportDocument)) {
+  exam.SetHostMode(1);
+  editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
+  if (office_ == nullptr) return;
+  office_->settings.RegisterBrowsableTypes();
+  office_->settings.AllowZoneAction();
+}
+
+void EditorLife::Begin() {
+  if (office_ != nullptr) office_->processes.AskCloseOffice();
+  editor_.questions.LoadCurrentQuestion();
+}
+
+void EditorLife::KeepRecovery() {
+  recovery_.emplace(editor_);
+  recovery_->Entered();
+}
+
+void EditorLife::LookAfterUnsaved() {
+  if (recovery_) recovery_->Look();
+}
+
+void EditorLife::KeepUnsaved() {
+  if (recovery_) recovery_->LookAndWait();
+}
+
+std::error_code EditorLife::RecoveryFailure() const {
+  return recovery_ ? recovery_->Failure() : std::error_code();
+}
+
+std::filesystem::path EditorLife::RecoveryFolder() const {
+  return RecoveryRoot(editor_.state.document.Services().applicationFolder);
+}
+
+bool EditorLife::OfferRecovery(RecoveryDialogs& dialogs) {
+  return recovery_ && RecoverCommand(editor_, *recovery_, dialogs).Run();
+}
+
+void EditorLife::End() {
+  if (std::exchange(ended_, true)) return;
+  if (recovery_) recovery_->Left(Parting::Leave);  // while there are work copies to keep
+  RunCloseSequence(editor_, office_);
+}
+
+}  // namespace quorvantis
