@@ -9,9 +9,6 @@
 
 namespace quorvantis::cli {
 
-/// The name of a kind in JSON: "Choice", "FillIn", "Essay", "Oral", or the number of any other.
-std::string KindName(QuestionKind kind);
-
 /// One attached file of a list.
 struct AttachedFile {
   std::u16string name;

@@ -3,8 +3,10 @@
 
 #include "model/ExamLimits.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace quorvantis {
 
@@ -18,13 +20,16 @@ inline constexpr std::u16string_view kListSeparator = u"<@>";
 /// A list of attached files, packed from index 0; the first empty entry ends it.
 using AttachmentList = std::array<std::u16string, kMaxAttachments>;
 
+/// The five options of a question, A to E.
+using OptionTexts = std::array<std::u16string, kOptionCount>;
+
 /// One question slot of an exam: plain data. Texts may hold any UTF-16 units and any length; the limits of
-/// ExamLimits.h are kept by the editor and by the exam file.
+/// ExamFields.h are kept by the editor and by the exam file.
 struct ExamQuestion {
   std::u16string text;
-  std::array<std::u16string, kOptionCount> options;  ///< A to E
-  std::u16string answerLetters;                      ///< the ticked boxes in order, for example "ace"
-  std::u16string answerText;                         ///< fill-in answers, several separated by kListSeparator
+  OptionTexts options;
+  std::u16string answerLetters;  ///< the ticked boxes in order, for example "ace"
+  std::u16string answerText;     ///< fill-in answers, several separated by kListSeparator
   std::u16string essayAnswer;
   std::u16string responseText;  ///< printed on the answer sheet; the editor never fills it
   int responseValue = 0;        ///< printed on the answer sheet; the editor never sets it
@@ -35,5 +40,17 @@ struct ExamQuestion {
   AttachmentList attachmentCopies;  ///< work copies to delete when the exam is closed
   int oralFlag = 0;                 ///< state of the oral toggle, 0 or 1
 };
+
+/// Whether there is something in a field. Numbers never count: every question has them.
+inline bool HoldsText(const std::u16string& text) {
+  return !text.empty();
+}
+inline bool HoldsText(const OptionTexts& options) {
+  return std::ranges::any_of(options, [](const std::u16string& option) { return !option.empty(); });
+}
+template <class Number>
+constexpr bool HoldsText(Number) {
+  return false;
+}
 
 }  // namespace quorvantis
