@@ -3,6 +3,7 @@
 
 #include "editor/AttachmentShifts.h"
 #include "editor/WorkCopies.h"
+#include "model/QuestionKinds.h"
 #include "platform/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
@@ -125,14 +126,11 @@ AttachedFile AttachmentEditor::Entry(const std::u16string& name, const std::u16s
   return {name, TextToPath(copy), !state_.document.pathsWithoutContent.contains(copy)};
 }
 
-/// A display name that stands where a path should comes from whoever wrote the exam file, and is no work
-/// copy.
 std::optional<AttachedFile> AttachmentEditor::SelectedExamFile() const {
   if (!examList_.selected) return std::nullopt;
   const std::size_t index = *examList_.selected;
   const std::u16string& path = state_.document.examAttachmentPaths[index];
-  const auto& names = state_.document.displayNamesAmongPaths;
-  if (std::ranges::find(names, path) != names.end()) return AttachedFile{examList_.names[index], {}};
+  if (!state_.document.IsPath(path)) return AttachedFile{examList_.names[index], {}};
   return Entry(examList_.names[index], path);
 }
 
@@ -178,7 +176,7 @@ void AttachmentEditor::ShiftAttachmentsForInsert(int question) {
 /// the toggle up. A question that is not oral loses its flag by being shown.
 void AttachmentEditor::UpdateOralToggle() {
   ExamQuestion& question = state_.Current();
-  if (state_.currentKind != QuestionKind::Oral) {
+  if (!AnswerOf(state_.currentKind).oral) {
     question.oralFlag = 0;
     oralToggleShown_ = false;
     return;
@@ -188,7 +186,7 @@ void AttachmentEditor::UpdateOralToggle() {
 }
 
 bool AttachmentEditor::OralToggleVisible() const {
-  return oralToggleShown_ && questionList_.visible && state_.currentKind == QuestionKind::Oral;
+  return oralToggleShown_ && questionList_.visible && AnswerOf(state_.currentKind).oral;
 }
 
 std::u16string AttachmentEditor::OralToggleCaption() const {

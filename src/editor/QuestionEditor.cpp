@@ -40,7 +40,7 @@ void QuestionEditor::StoreInto(FrameSetExam& exam, LongAnswerFlags& flags) const
   exam.title = form_.title;
   exam.randomMode = form_.random;
   StoreForm(form_, state_.currentKind, question);
-  if (question.answerText.size() > kMaxShortAnswer) flags.Set(state_.currentQuestion);
+  flags.SetIfLong(state_.currentQuestion, question.answerText);
 }
 
 void QuestionEditor::StoreCurrentQuestion() {
@@ -122,7 +122,7 @@ void QuestionEditor::SelectKind(QuestionKind kind) {
 }
 
 void QuestionEditor::ShowKindControls(QuestionKind kind) {
-  shown_ = {kind == QuestionKind::Choice, kind == QuestionKind::FillIn, kind == QuestionKind::Essay};
+  shown_ = AnswerOf(kind);
   state_.view.FormChanged();
 }
 
