@@ -7,7 +7,7 @@
 #include "model/AnswerLetters.h"
 #include "model/ExamFields.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 

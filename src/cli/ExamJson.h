@@ -3,7 +3,7 @@
 #pragma once
 
 #include "examfile/ExamFileReader.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 #include <nlohmann/json_fwd.hpp>
 

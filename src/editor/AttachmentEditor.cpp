@@ -4,7 +4,7 @@
 #include "editor/AttachmentShifts.h"
 #include "editor/WorkCopies.h"
 #include "model/QuestionKinds.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"

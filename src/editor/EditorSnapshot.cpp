@@ -2,7 +2,7 @@
 #include "editor/EditorSnapshot.h"
 
 #include "editor/WorkCopies.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "text/PathText.h"
 
 #include <utility>

@@ -3,7 +3,7 @@
 
 #include "editor/ProposedFileName.h"
 #include "editor/WorkCopies.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"

@@ -3,7 +3,7 @@
 
 #include "editor/AnswerList.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 

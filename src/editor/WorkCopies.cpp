@@ -3,7 +3,7 @@
 
 #include "editor/AttachmentShifts.h"
 #include "examfile/WorkFolder.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 

@@ -13,7 +13,7 @@
 #pragma once
 
 #include "model/ExamFields.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 #include <cstdint>
 #include <string>

@@ -5,7 +5,7 @@
 #include "examfile/ExamFileLayout.h"
 #include "model/LongAnswerFlags.h"
 #include "model/QuestionKinds.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/Texts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

@@ -6,7 +6,7 @@
 #include "examfile/SavingLosses.h"
 #include "examfile/WorkFolder.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/WholeFile.h"
 #include "recovery/ExamSnapshot.h"
 #include "recovery/RecoveryFolder.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/PageSources.h"
 
-#include "model/FrameSetExam.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/PageStore.h"
 #include "render/AttachmentPath.h"
 #include "text/PathText.h"

@@ -2,7 +2,7 @@
 #include "render/QuestionRow.h"
 
 #include "model/QuestionKinds.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "render/AnswerBlocks.h"
 #include "render/AttachmentItems.h"
 #include "render/OralPart.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "editor/QuestionEditor.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 #include "shell/office/OfficeControl.h"
 
 #include <filesystem>

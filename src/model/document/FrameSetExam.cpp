@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 #include <algorithm>
 #include <set>
