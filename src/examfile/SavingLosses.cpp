@@ -127,12 +127,14 @@ class LossFinder {
     return [this](const FieldRow& field, const auto& value) { Check(field.name, value); };
   }
 
+  bool CanBePacked(const std::u16string& path) const {
+    return exam_.IsPath(path) && std::ifstream(TextToPath(path)).is_open();
+  }
   void CheckFiles(const AttachmentList& paths, const AttachmentList& names) {
     for (std::size_t i = 0; i < kMaxAttachments; ++i) {
       Check(ExamFieldName::AttachmentName, names[i]);
       const bool hasContent = !paths[i].empty() && !exam_.pathsWithoutContent.contains(paths[i]);
-      if (hasContent && !std::ifstream(TextToPath(paths[i])).is_open())
-        Work(text_id::kFileStoredEmpty, {names[i]});
+      if (hasContent && !CanBePacked(paths[i])) Work(text_id::kFileStoredEmpty, {names[i]});
     }
   }
 

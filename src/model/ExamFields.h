@@ -13,11 +13,14 @@
 // A new field is a member, a name, a row and a line in a Visit function.
 #pragma once
 
-#include "model/ExamLimits.h"
+#include "model/ExamQuestion.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <iterator>
+#include <string>
+#include <type_traits>
 
 namespace quorvantis {
 
@@ -131,6 +134,18 @@ void VisitQuestionFields(Visitor&& visit, Question&... question) {
   visit(FieldNamed(ExamFieldName::Kind), question.kind...);
   visit(FieldNamed(ExamFieldName::AnswerMask), question.answerMask...);
   visit(FieldNamed(ExamFieldName::OralFlag), question.oralFlag...);
+}
+
+/// Whether somebody has written something into a field. Numbers never count: every question has them.
+inline bool HoldsText(const std::u16string& text) {
+  return !text.empty();
+}
+inline bool HoldsText(const OptionTexts& options) {
+  return std::ranges::any_of(options, [](const std::u16string& option) { return !option.empty(); });
+}
+template <class Number>
+requires(std::is_arithmetic_v<Number> || std::is_enum_v<Number>) constexpr bool HoldsText(Number) {
+  return false;
 }
 
 }  // namespace quorvantis

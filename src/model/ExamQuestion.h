@@ -3,7 +3,6 @@
 
 #include "model/ExamLimits.h"
 
-#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
@@ -40,17 +39,5 @@ struct ExamQuestion {
   AttachmentList attachmentCopies;  ///< work copies to delete when the exam is closed
   int oralFlag = 0;                 ///< state of the oral toggle, 0 or 1
 };
-
-/// Whether there is something in a field. Numbers never count: every question has them.
-inline bool HoldsText(const std::u16string& text) {
-  return !text.empty();
-}
-inline bool HoldsText(const OptionTexts& options) {
-  return std::ranges::any_of(options, [](const std::u16string& option) { return !option.empty(); });
-}
-template <class Number>
-constexpr bool HoldsText(Number) {
-  return false;
-}
 
 }  // namespace quorvantis
