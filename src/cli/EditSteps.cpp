@@ -3,6 +3,7 @@
 #include "cli/CommandError.h"
 #include "cli/EditSession.h"
 #include "cli/EditorStateJson.h"
+#include "cli/KindNames.h"
 #include "cli/ScoreSteps.h"
 #include "cli/WhyUnreadable.h"
 #include "platform/Texts.h"
@@ -74,7 +75,7 @@ void Attach(EditSession& session, AttachedTo list, const ScriptArgument& argumen
 /// The window has the switch for oral questions alone, and shows the flag of the question in hand there.
 void SwitchOral(EditSession& session, const Arguments&) {
   ExamEditor& editor = session.Editor();
-  if (editor.state.CurrentKind() != QuestionKind::Oral)
+  if (!AnswerOf(editor.state.CurrentKind()).oral)
     session.Streams().Complain("not switched: the question is not oral");
   editor.attachments.ReadOralFlag();
   editor.attachments.ToggleOral();
@@ -127,10 +128,9 @@ void Reply(EditSession& session, const Arguments& arguments) {
 }
 
 void Kind(EditSession& session, const Arguments& arguments) {
-  constexpr std::u16string_view kNames[] = {u"choice", u"fillin", u"essay", u"oral"};
-  const auto* name = std::ranges::find(kNames, arguments[0].Text());
-  if (name == std::end(kNames)) throw CommandError("usage: kind choice|fillin|essay|oral");
-  session.Editor().questions.SelectKind(static_cast<QuestionKind>(name - std::begin(kNames)));
+  const auto kind = KindOfWord(Utf16ToUtf8(arguments[0].Text()));
+  if (!kind) throw CommandError("usage: kind " + std::string(KindWords()));
+  session.Editor().questions.SelectKind(*kind);
 }
 
 void Option(EditSession& session, const Arguments& arguments) {
@@ -212,7 +212,7 @@ void State(EditSession& session, const Arguments&) {
   session.Streams().out << EditorStateToJson(session.Editor()) << std::endl;
 }
 
-constexpr EditCommand kCommands[] = {
+const EditCommand kCommands[] = {
     {"new", "", 0, [](EditSession& session, const Arguments&) { session.Editor().files.NewExam(); }},
     {"open", "FILE", 1, Open},
     {"save", "", 0, Save},
@@ -225,7 +225,7 @@ constexpr EditCommand kCommands[] = {
     {"back10", "", 0, Call<&QuestionEditor::GoBack10>},
     {"insert", "", 0, Call<&QuestionEditor::InsertHere>},
     {"delete", "", 0, Call<&QuestionEditor::DeleteHere>},
-    {"kind", "choice|fillin|essay|oral", 1, Kind},
+    {"kind", KindWords(), 1, Kind},
     {"random", "", 0, Call<&QuestionEditor::CycleRandomMode>},
     {"separator", "", 0, Call<&QuestionEditor::AppendListSeparator>},
     {"title", "TEXT", 1, EditText<FormField::Title>},

@@ -3,25 +3,44 @@
 
 #include "cli/CommandError.h"
 #include "cli/JsonNode.h"
+#include "cli/KindNames.h"
 #include "model/AnswerLetters.h"
+#include "model/ExamFields.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
-#include "text/NumberText.h"
+#include "model/document/ExamServices.h"
 #include "text/PathText.h"
+#include "text/Utf.h"
 
 namespace quorvantis::cli {
 namespace {
 
-QuestionKind KindNamed(const JsonNode& node) {
-  const std::u16string name = node.Text();
-  if (name == u"Choice") return QuestionKind::Choice;
-  if (name == u"FillIn") return QuestionKind::FillIn;
-  if (name == u"Essay") return QuestionKind::Essay;
-  if (name == u"Oral") return QuestionKind::Oral;
-  const int number = ParseInteger(name);
-  if (FormatInteger(number) != name) node.Fail("must be Choice, FillIn, Essay or Oral");
-  return static_cast<QuestionKind>(number);
-}
+/// Takes the fields that a description has. It need not tell what follows from others, and it can tell the
+/// kind in two ways (TakeKind).
+class FieldsFromJson {
+ public:
+  explicit FieldsFromJson(const JsonNode& node) : node_(node) {}
+
+  template <class Value>
+  void operator()(const FieldRow& field, Value& value) const {
+    const bool isTaken = field.name != ExamFieldName::QuestionCount &&
+                         field.name != ExamFieldName::AnswerMask && field.name != ExamFieldName::Kind;
+    if (isTaken && node_.Has(field.key)) Take(node_.Member(field.key), value);
+  }
+
+ private:
+  static void Take(const JsonNode& node, std::u16string& text) { text = node.Text(); }
+  static void Take(const JsonNode& node, OptionTexts& options) {
+    const std::vector<JsonNode> texts = node.Elements(options.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) options[i] = texts[i].Text();
+  }
+  static void Take(const JsonNode& node, float& score) { score = node.Score(); }
+  template <class Integer>
+  static void Take(const JsonNode& node, Integer& number) {
+    number = static_cast<Integer>(node.Integer());
+  }
+
+  const JsonNode& node_;
+};
 
 void TakeAttachments(const JsonNode& owner, const std::filesystem::path& baseFolder, AttachmentList& names,
                      AttachmentList& paths) {
@@ -45,25 +64,23 @@ void TakeScoreRanges(const JsonNode& node, ExamPaper& exam) {
   if (!node.Has("scoreRanges")) return;
   const std::vector<JsonNode> ranges = node.Member("scoreRanges").Elements(kScoreRanges);
   for (std::size_t i = 0; i < ranges.size(); ++i) {
-    TakeNumber(ranges[i], "from", exam.scoreFrom[i]);
-    TakeNumber(ranges[i], "to", exam.scoreTo[i]);
-    if (ranges[i].Has("score")) exam.scoreValue[i] = ranges[i].Member("score").Score();
+    VisitScoreRange(i, FieldsFromJson(ranges[i]), exam);
   }
 }
 
+/// By its name or, where there is none, by its number.
+void TakeKind(const JsonNode& node, QuestionKind& kind) {
+  if (!node.Has("kind")) return TakeNumber(node, FieldNamed(ExamFieldName::Kind).key, kind);
+  const JsonNode name = node.Member("kind");
+  const auto named = KindNamed(Utf16ToUtf8(name.Text()));
+  if (!named) name.Fail("must be " + KindNameList());
+  kind = *named;
+}
+
 void TakeQuestion(const JsonNode& node, const std::filesystem::path& baseFolder, ExamQuestion& question) {
-  if (node.Has("kind")) question.kind = KindNamed(node.Member("kind"));
-  if (!node.Has("kind")) TakeNumber(node, "kindValue", question.kind);
-  TakeText(node, "text", question.text);
-  if (node.Has("options")) {
-    const std::vector<JsonNode> options = node.Member("options").Elements(kOptionCount);
-    for (std::size_t i = 0; i < options.size(); ++i) question.options[i] = options[i].Text();
-  }
-  TakeText(node, "answerLetters", question.answerLetters);
+  TakeKind(node, question.kind);
+  VisitQuestionFields(FieldsFromJson(node), question);
   question.answerMask = AnswerLettersToMask(question.answerLetters);
-  TakeText(node, "answerText", question.answerText);
-  TakeText(node, "essayAnswer", question.essayAnswer);
-  TakeNumber(node, "oralFlag", question.oralFlag);
   TakeAttachments(node, baseFolder, question.attachmentNames, question.attachmentPaths);
 }
 
@@ -80,7 +97,7 @@ void TakeQuestions(const JsonNode& node, const std::filesystem::path& baseFolder
     }
     ExamQuestion& question = exam.Question(number);
     TakeQuestion(entry, baseFolder, question);
-    if (question.answerText.size() > kMaxShortAnswer) exam.Services().longAnswerFlags.Set(number);
+    exam.Services().longAnswerFlags.SetIfLong(number, question.answerText);
   }
 }
 
@@ -89,10 +106,8 @@ void TakeQuestions(const JsonNode& node, const std::filesystem::path& baseFolder
 void FillExam(FrameSetExam& exam, const nlohmann::json& description,
               const std::filesystem::path& baseFolder) {
   const JsonNode root(description, "");
-  TakeText(root, "title", exam.title);
-  TakeNumber(root, "randomMode", exam.randomMode);
-  TakeNumber(root, "scoreMode", exam.scoreMode);
-  TakeNumber(root, "boundaryQuestion", exam.boundaryQuestion);
+  VisitPaperFields(FieldsFromJson(root), exam);
+  VisitDocumentFields(FieldsFromJson(root), exam);
   TakeScoreRanges(root, exam);
   TakeAttachments(root, baseFolder, exam.examAttachmentNames, exam.examAttachmentPaths);
   TakeQuestions(root, baseFolder, exam);

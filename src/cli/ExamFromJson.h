@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 #include <nlohmann/json_fwd.hpp>
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ExamJson.h"
 
+#include "cli/KindNames.h"
 #include "cli/Sha256.h"
+#include "model/ExamFields.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
@@ -26,48 +28,53 @@ Json AttachmentsToJson(const AttachmentList& names, const AttachmentList& paths)
   return list;
 }
 
+/// Puts fields under their keys.
+class FieldsToJson {
+ public:
+  explicit FieldsToJson(Json& json) : json_(json) {}
+
+  template <class Value>
+  void operator()(const FieldRow& field, const Value& value) const {
+    json_[field.key] = ToJson(value);
+    // The mask is made of the letters and has its place behind them.
+    if (field.name == ExamFieldName::AnswerLetters) json_[FieldNamed(ExamFieldName::AnswerMask).key];
+  }
+
+ private:
+  static Json ToJson(const std::u16string& text) { return Utf16ToUtf8(text); }
+  static Json ToJson(const OptionTexts& options) {
+    Json list = Json::array();
+    for (const std::u16string& option : options) list.push_back(Utf16ToUtf8(option));
+    return list;
+  }
+  static Json ToJson(float score) { return Utf16ToUtf8(FormatScore(score)); }
+  template <class Integer>
+  static Json ToJson(Integer number) {
+    return static_cast<int>(number);
+  }
+
+  Json& json_;
+};
+
 Json RangesToJson(const ExamPaper& exam) {
   Json ranges = Json::array();
   for (std::size_t i = 0; i < kScoreRanges; ++i) {
-    ranges.push_back({{"from", exam.scoreFrom[i]},
-                      {"to", exam.scoreTo[i]},
-                      {"score", Utf16ToUtf8(FormatScore(exam.scoreValue[i]))}});
+    Json range;
+    VisitScoreRange(i, FieldsToJson(range), exam);
+    ranges.push_back(std::move(range));
   }
   return ranges;
 }
 
 Json QuestionToJson(const ExamQuestion& question, int number) {
-  Json options = Json::array();
-  for (const auto& option : question.options) options.push_back(Utf16ToUtf8(option));
-  return {{"number", number},
-          {"kind", KindName(question.kind)},
-          {"kindValue", static_cast<int>(question.kind)},
-          {"text", Utf16ToUtf8(question.text)},
-          {"options", std::move(options)},
-          {"answerLetters", Utf16ToUtf8(question.answerLetters)},
-          {"answerMask", question.answerMask},
-          {"answerText", Utf16ToUtf8(question.answerText)},
-          {"essayAnswer", Utf16ToUtf8(question.essayAnswer)},
-          {"oralFlag", question.oralFlag},
-          {"attachments", AttachmentsToJson(question.attachmentNames, question.attachmentPaths)}};
+  Json json{
+      {"number", number}, {"kind", KindName(question.kind)}, {FieldNamed(ExamFieldName::Kind).key, nullptr}};
+  VisitQuestionFields(FieldsToJson(json), question);
+  json["attachments"] = AttachmentsToJson(question.attachmentNames, question.attachmentPaths);
+  return json;
 }
 
 }  // namespace
-
-std::string KindName(QuestionKind kind) {
-  switch (kind) {
-    case QuestionKind::Choice:
-      return "Choice";
-    case QuestionKind::FillIn:
-      return "FillIn";
-    case QuestionKind::Essay:
-      return "Essay";
-    case QuestionKind::Oral:
-      return "Oral";
-    default:
-      return Utf16ToUtf8(FormatInteger(static_cast<int>(kind)));
-  }
-}
 
 std::vector<AttachedFile> AttachedFiles(const AttachmentList& names, const AttachmentList& paths) {
   std::vector<AttachedFile> files;
@@ -82,19 +89,18 @@ Json ExamToJson(const FrameSetExam& exam, const ExamReadOutcome& outcome) {
   for (int number = 1; number <= exam.questionCount; ++number) {
     questions.push_back(QuestionToJson(exam.Question(number), number));
   }
-  return {{"title", Utf16ToUtf8(exam.title)},
-          {"format", outcome.form.version->name},
-          {"encoding", outcome.form.encoding == FieldEncoding::EightBit ? "8-bit" : "utf-16"},
-          {"questionCount", exam.questionCount},
-          {"randomMode", static_cast<int>(exam.randomMode)},
-          {"scoreMode", static_cast<int>(exam.scoreMode)},
-          {"boundaryQuestion", exam.boundaryQuestion},
-          {"hasOralQuestion", exam.hasOralQuestion},
-          {"firstOralQuestion", exam.firstOralQuestion},
-          {"scoreRanges", RangesToJson(exam)},
-          {"attachments", AttachmentsToJson(exam.examAttachmentNames, exam.examAttachmentPaths)},
-          {"questions", std::move(questions)},
-          {"truncated", outcome.endsEarly}};
+  Json json{{FieldNamed(ExamFieldName::Title).key, nullptr},
+            {"format", outcome.form.version->name},
+            {"encoding", outcome.form.encoding == FieldEncoding::EightBit ? "8-bit" : "utf-16"}};
+  VisitPaperFields(FieldsToJson(json), exam);
+  VisitDocumentFields(FieldsToJson(json), exam);
+  json["hasOralQuestion"] = exam.hasOralQuestion;
+  json["firstOralQuestion"] = exam.firstOralQuestion;
+  json["scoreRanges"] = RangesToJson(exam);
+  json["attachments"] = AttachmentsToJson(exam.examAttachmentNames, exam.examAttachmentPaths);
+  json["questions"] = std::move(questions);
+  json["truncated"] = outcome.endsEarly;
+  return json;
 }
 
 }  // namespace quorvantis::cli

@@ -3,14 +3,11 @@
 #pragma once
 
 #include "examfile/ExamFileReader.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 #include <nlohmann/json_fwd.hpp>
 
 namespace quorvantis::cli {
-
-/// The name of a kind in JSON: "Choice", "FillIn", "Essay", "Oral", or the number of any other.
-std::string KindName(QuestionKind kind);
 
 /// One attached file of a list.
 struct AttachedFile {

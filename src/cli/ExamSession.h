@@ -7,8 +7,8 @@
 #include "examfile/ExamFileReader.h"
 #include "host/ApplicationFolderClaim.h"
 #include "host/ExamHost.h"
-#include "model/FrameSetExam.h"
 #include "model/LongAnswerFlags.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/posix/PrivateFolder.h"
 #include "shell/language/LanguageInUse.h"
 

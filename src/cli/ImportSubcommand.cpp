@@ -7,7 +7,7 @@
 #include "examfile/ExamFileWriter.h"
 #include "import/ImportReport.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/WholeFile.h"
 #include "text/Utf.h"
 

@@ -2,7 +2,7 @@
 #include "cli/LossMessages.h"
 
 #include "examfile/SavingLosses.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "text/Utf.h"
 
 namespace quorvantis::cli {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cli/Console.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 #include <filesystem>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/ExamJson.h"
+#include "cli/KindNames.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 
@@ -61,8 +62,7 @@ void PrintAnswer(std::ostream& out, const ExamQuestion& question) {
     if (!question.options[i].empty())
       out << "   " << kLetters[i] << ". " << Printable(question.options[i]) << "\n";
   }
-  if (question.kind == QuestionKind::Choice)
-    out << "   answer: " << Printable(question.answerLetters) << "\n";
+  if (AnswerOf(question.kind).options) out << "   answer: " << Printable(question.answerLetters) << "\n";
   if (!question.answerText.empty()) out << "   answer: " << Printable(question.answerText) << "\n";
   if (!question.essayAnswer.empty()) out << "   answer: " << Printable(question.essayAnswer) << "\n";
 }

@@ -3,7 +3,8 @@
 
 #include "editor/AttachmentShifts.h"
 #include "editor/WorkCopies.h"
-#include "platform/ExamServices.h"
+#include "model/QuestionKinds.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
@@ -125,14 +126,11 @@ AttachedFile AttachmentEditor::Entry(const std::u16string& name, const std::u16s
   return {name, TextToPath(copy), !state_.document.pathsWithoutContent.contains(copy)};
 }
 
-/// A display name that stands where a path should comes from whoever wrote the exam file, and is no work
-/// copy.
 std::optional<AttachedFile> AttachmentEditor::SelectedExamFile() const {
   if (!examList_.selected) return std::nullopt;
   const std::size_t index = *examList_.selected;
   const std::u16string& path = state_.document.examAttachmentPaths[index];
-  const auto& names = state_.document.displayNamesAmongPaths;
-  if (std::ranges::find(names, path) != names.end()) return AttachedFile{examList_.names[index], {}};
+  if (!state_.document.IsPath(path)) return AttachedFile{examList_.names[index], {}};
   return Entry(examList_.names[index], path);
 }
 
@@ -177,7 +175,7 @@ void AttachmentEditor::ShiftAttachmentsForInsert(int question) {
 /// Refreshed by loading, attaching, removing and toggling only: selecting an entry by itself does not bring
 /// the toggle up. A question that is not oral loses its flag by being shown.
 void AttachmentEditor::UpdateOralToggle() {
-  if (state_.CurrentKind() != QuestionKind::Oral) {
+  if (!AnswerOf(state_.CurrentKind()).oral) {
     ChangeCurrent().oralFlag = 0;
     oralToggleShown_ = false;
     return;
@@ -187,7 +185,7 @@ void AttachmentEditor::UpdateOralToggle() {
 }
 
 bool AttachmentEditor::OralToggleVisible() const {
-  return oralToggleShown_ && questionList_.visible && state_.CurrentKind() == QuestionKind::Oral;
+  return oralToggleShown_ && questionList_.visible && AnswerOf(state_.CurrentKind()).oral;
 }
 
 std::u16string AttachmentEditor::OralToggleCaption() const {

@@ -2,7 +2,7 @@
 // How the attachment lists of the document move when an entry is removed, or a question inserted or deleted.
 #pragma once
 
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 namespace quorvantis {
 

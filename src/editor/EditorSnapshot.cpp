@@ -2,7 +2,7 @@
 #include "editor/EditorSnapshot.h"
 
 #include "editor/WorkCopies.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "text/PathText.h"
 
 #include <utility>
@@ -29,7 +29,9 @@ void KeepPreviewSettings(const FrameSetExam& latest, FrameSetExam& restored) {
 
 std::vector<std::filesystem::path> WorkCopiesOf(const FrameSetExam& exam) {
   std::vector<std::filesystem::path> files;
-  AppendPaths(exam.examAttachmentPaths, files);
+  for (const std::u16string& entry : exam.examAttachmentPaths) {
+    if (!entry.empty() && exam.IsPath(entry)) files.push_back(TextToPath(entry));
+  }
   AppendPaths(exam.examAttachmentCopies, files);
   for (const ExamQuestion& question : exam.questions) {
     AppendPaths(question.attachmentPaths, files);

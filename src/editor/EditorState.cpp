@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/EditorState.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"

@@ -2,7 +2,7 @@
 #include "editor/ExamFileCommands.h"
 
 #include "editor/ProposedFileName.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"

@@ -3,7 +3,7 @@
 
 #include "editor/AnswerList.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 
@@ -41,7 +41,7 @@ void QuestionEditor::StoreInto(FrameSetExam& exam, LongAnswerFlags& flags) const
   exam.title = form_.title;
   exam.randomMode = form_.random;
   StoreForm(form_, state_.CurrentKind(), question);
-  if (question.answerText.size() > kMaxShortAnswer) flags.Set(number);
+  flags.SetIfLong(number, question.answerText);
 }
 
 void QuestionEditor::StoreCurrentQuestion() {
@@ -127,7 +127,7 @@ void QuestionEditor::SelectKind(QuestionKind kind) {
 }
 
 void QuestionEditor::ShowKindControls(QuestionKind kind) {
-  shown_ = {kind == QuestionKind::Choice, kind == QuestionKind::FillIn, kind == QuestionKind::Essay};
+  shown_ = AnswerOf(kind);
   state_.view.FormChanged();
 }
 

@@ -5,20 +5,13 @@
 #include "editor/EditedExam.h"
 #include "editor/EditorState.h"
 #include "editor/QuestionForm.h"
+#include "model/QuestionKinds.h"
 
 #include <string>
 
 namespace quorvantis {
 
 class LongAnswerFlags;
-
-/// Which fields for answers the window shows. An oral question, and one of a kind that nobody knows, has
-/// none.
-struct KindControls {
-  bool options = false;  ///< the texts of the options A to E and their boxes
-  bool answer = false;   ///< the answer line with its caption and the list-separator button
-  bool essay = false;    ///< the essay answer with its caption
-};
 
 /// Editing of one question at a time: which question is shown, what its form holds, and how the form goes
 /// into the document (store) and back (load). All fields are stored whatever the kind; another kind only
@@ -67,7 +60,7 @@ class QuestionEditor {
   void SelectKind(QuestionKind kind);
   /// Decides which fields for answers are shown, and has the window show them.
   void ShowKindControls(QuestionKind kind);
-  const KindControls& ShownKindControls() const { return shown_; }
+  const AnswerParts& ShownKindControls() const { return shown_; }
   void CycleRandomMode();
 
   /// The list-separator button: prepares the answer line for one more answer.
@@ -81,7 +74,7 @@ class QuestionEditor {
   EditedExam& exam_;
   AttachmentEditor& attachments_;
   QuestionForm form_;
-  KindControls shown_;
+  AnswerParts shown_;
 };
 
 }  // namespace quorvantis

@@ -3,6 +3,7 @@
 
 #include "editor/AnswerList.h"
 #include "model/AnswerLetters.h"
+#include "model/ExamFields.h"
 
 #include <algorithm>
 #include <utility>
@@ -28,21 +29,39 @@ int MaskFromChecks(const std::array<CheckState, kOptionCount>& checks) {
   return mask;
 }
 
+ExamFieldName NameOf(FormField field) {
+  switch (field) {
+    case FormField::Title:
+      return ExamFieldName::Title;
+    case FormField::Text:
+      return ExamFieldName::QuestionText;
+    case FormField::OptionA:
+    case FormField::OptionB:
+    case FormField::OptionC:
+    case FormField::OptionD:
+    case FormField::OptionE:
+      return ExamFieldName::Options;
+    case FormField::Answer:
+      return ExamFieldName::FillInAnswer;
+    case FormField::Essay:
+      return ExamFieldName::EssayAnswer;
+  }
+  return {};
+}
+
+/// The texts that form and question both have, pair by pair.
+template <class Form, class Question, class Take>
+void PairTexts(Form& form, Question& question, Take take) {
+  take(form.text, question.text);
+  take(form.options, question.options);
+  take(form.answer, question.answerText);
+  take(form.essay, question.essayAnswer);
+}
+
 }  // namespace
 
 std::size_t MaxLength(FormField field) {
-  switch (field) {
-    case FormField::Title:
-      return kMaxTitle;
-    case FormField::Text:
-      return kMaxQuestionText;
-    case FormField::Answer:
-      return kMaxFillInAnswer;
-    case FormField::Essay:
-      return kMaxEssayAnswer;
-    default:
-      return kMaxOptionText;
-  }
+  return FieldNamed(NameOf(field)).limit;
 }
 
 const std::u16string& QuestionForm::Field(FormField field) const {
@@ -65,18 +84,13 @@ std::u16string& QuestionForm::Field(FormField field) {
 }
 
 void LoadForm(const ExamQuestion& question, QuestionForm& form) {
-  form.text = question.text;
-  form.options = question.options;
-  form.answer = question.answerText;
-  form.essay = question.essayAnswer;
+  PairTexts(form, question, [](auto& shown, const auto& stored) { shown = stored; });
   form.checks = ChecksFromMask(question.answerMask);
 }
 
 void StoreForm(const QuestionForm& form, QuestionKind kind, ExamQuestion& question) {
-  question.text = form.text;
-  question.options = form.options;
+  PairTexts(form, question, [](const auto& shown, auto& stored) { stored = shown; });
   question.answerText = WithoutOpenSeparator(form.answer);
-  question.essayAnswer = form.essay;
   question.kind = kind;
   question.answerMask = MaskFromChecks(form.checks);
   question.answerLetters = AnswerMaskToLetters(question.answerMask);

@@ -28,7 +28,7 @@ struct QuestionForm {
   int number = 1;  ///< of the question shown
   std::u16string title;
   std::u16string text;
-  std::array<std::u16string, kOptionCount> options;
+  OptionTexts options;
   std::array<CheckState, kOptionCount> checks{};
   std::u16string answer;  ///< the fill-in answer line
   std::u16string essay;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editor/SavingCheck.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 

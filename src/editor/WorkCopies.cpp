@@ -3,7 +3,7 @@
 
 #include "editor/AttachmentShifts.h"
 #include "examfile/WorkFolder.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 
@@ -59,6 +59,14 @@ void RememberPaths(const AttachmentList& paths, AttachmentList& copies) {
   std::copy_n(paths.begin(), CountEntries(paths), copies.begin());
 }
 
+/// Of the exam's paths, those that name a file. What else stands among them is no copy to be deleted.
+AttachmentList PathsOnly(const FrameSetExam& exam) {
+  AttachmentList paths;
+  std::ranges::copy_if(exam.examAttachmentPaths, paths.begin(),
+                       [&exam](const std::u16string& entry) { return exam.IsPath(entry); });
+  return paths;
+}
+
 /// Makes the folder `name` below `parent`; a link in its place would lead the copies elsewhere and is
 /// removed.
 fs::path MakeOwnFolder(const fs::path& parent, const fs::path& name) {
@@ -103,7 +111,7 @@ fs::path MakeWorkCopy(const fs::path& workRoot, const fs::path& source, int coun
 }
 
 void RecordCopies(FrameSetExam& exam) {
-  RememberPaths(exam.examAttachmentPaths, exam.examAttachmentCopies);
+  RememberPaths(PathsOnly(exam), exam.examAttachmentCopies);
   for (int n = 1; n <= kMaxQuestions; ++n) {
     ExamQuestion& question = exam.Question(n);
     RememberPaths(question.attachmentPaths, question.attachmentCopies);

@@ -3,7 +3,7 @@
 // these operations reports an error: a copy that could not be made is an attachment without content.
 #pragma once
 
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 #include <filesystem>
 #include <string>

@@ -4,7 +4,7 @@
 #include "examfile/AttachmentName.h"
 #include "examfile/ExamFileFields.h"
 #include "examfile/ExamFileForm.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 
 namespace quorvantis {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The layout of exam files, told once. The functions below walk the fields of a record in file order and hand
-// each to a visitor; reading, writing and sizing are visitors, and the older versions are rows of a table.
+// The layout of exam files. The functions below walk the fields of a record (model/ExamFields.h) in file
+// order and hand each with its width to a visitor; reading, writing and sizing are visitors.
 // docs/FILE-FORMAT.md shows the result as bytes.
 //
 // A visitor has
@@ -12,11 +12,13 @@
 // each taking const references when it only reads the exam.
 #pragma once
 
-#include "model/FrameSetExam.h"
+#include "model/ExamFields.h"
+#include "model/document/FrameSetExam.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace quorvantis {
 
@@ -41,38 +43,40 @@ struct ExamFileField {
   constexpr std::size_t Bytes(CharUnit unit) const { return units * static_cast<std::size_t>(unit); }
 };
 
-/// One version of the format.
+/// One version of the format. How wide its fields are stands in ExamFields.h.
 struct ExamFileVersion {
+  FileVersion version;
   std::string_view name;
   std::u16string_view tag{};        ///< first field of the file; empty when the version has none
-  bool hasAttachments = false;      ///< and with them the boundary question and the reserved areas
-  ExamFileField attachmentName{};   ///< an attachment's display name
-  ExamFileField score{};            ///< a score
   bool decimalScores = false;       ///< scores have two decimals; whole numbers otherwise
   bool hasOralFlag = false;         ///< before a question's first attachment, in UTF-16 files
-  bool hasLongAnswers = false;      ///< fill-in answers over the field's width, behind the attachments
   bool notesOralQuestions = false;  ///< the reader records whether there are oral questions
+
+  constexpr ExamFileField Width(ExamFieldName field) const { return {FieldNamed(field).Units(version)}; }
+  /// And with them the reserved areas.
+  constexpr bool HasAttachments() const { return Width(ExamFieldName::AttachmentName).units > 0; }
+  /// Behind a question's attachments.
+  constexpr bool HasLongAnswers() const { return Width(ExamFieldName::LongFillInAnswer).units > 0; }
 };
 
+// Fields that say nothing about the exam itself.
 inline constexpr ExamFileField kTagField{16};
-inline constexpr ExamFileField kNumberField{4};
-inline constexpr ExamFileField kLongTextField{4096};  ///< question texts and essay answers
-inline constexpr ExamFileField kShortTextField{256};
+inline constexpr ExamFileField kAttachmentCount{4};
+inline constexpr ExamFileField kAttachmentSize{16};
+inline constexpr ExamFileField kReservedInHeader{1020};
+inline constexpr ExamFileField kReservedInQuestion{64};
 
-inline constexpr ExamFileVersion kCurrentVersion{.name = "current",
+inline constexpr ExamFileVersion kCurrentVersion{.version = FileVersion::Current,
+                                                 .name = "current",
                                                  .tag = u"Tarnwick_DB823",
-                                                 .hasAttachments = true,
-                                                 .attachmentName = {128},
-                                                 .score = {7},
                                                  .decimalScores = true,
                                                  .hasOralFlag = true,
-                                                 .hasLongAnswers = true,
                                                  .notesOralQuestions = true};
 inline constexpr ExamFileVersion kVersion202{
-    .name = "v202", .tag = u"Tarnwick_v202", .hasAttachments = true, .attachmentName = {128}, .score = {4}};
+    .version = FileVersion::V202, .name = "v202", .tag = u"Tarnwick_v202"};
 inline constexpr ExamFileVersion kVersion0214{
-    .name = "0214", .tag = u"Tarnwick0214m3", .hasAttachments = true, .attachmentName = {32}, .score = {4}};
-inline constexpr ExamFileVersion kUntaggedVersion{.name = "untagged", .score = {4}};
+    .version = FileVersion::V0214, .name = "0214", .tag = u"Tarnwick0214m3"};
+inline constexpr ExamFileVersion kUntaggedVersion{.version = FileVersion::Untagged, .name = "untagged"};
 
 inline constexpr std::string_view kByteOrderMark = "\xFF\xFE";
 
@@ -86,25 +90,47 @@ struct AttachmentEntry {
   std::int64_t size = 0;  ///< bytes of content; a negative one in a file stands for none
 };
 
+/// Hands the fields that a version has to a visitor as above, with their widths.
+template <class Visitor>
+class FieldsInFile {
+ public:
+  FieldsInFile(const ExamFileVersion& version, Visitor& visitor) : version_(version), visitor_(visitor) {}
+
+  template <class Value>
+  void operator()(const FieldRow& field, Value& value) const {
+    const ExamFileField width = version_.Width(field.name);
+    if (width.units > 0) Visit(value, width);
+  }
+
+ private:
+  template <class Value>
+  void Visit(Value& value, ExamFileField width) const {
+    using Plain = std::remove_const_t<Value>;
+    if constexpr (std::is_same_v<Plain, std::u16string>) {
+      visitor_.Text(value, width);
+    } else if constexpr (std::is_same_v<Plain, OptionTexts>) {
+      for (auto& option : value) visitor_.Text(option, width);
+    } else if constexpr (!std::is_same_v<Plain, float>) {
+      visitor_.Number(value, width);
+    } else if (version_.decimalScores) {
+      visitor_.Score(value, width);
+    } else {
+      visitor_.WholeScore(value, width);
+    }
+  }
+
+  const ExamFileVersion& version_;
+  Visitor& visitor_;
+};
+
 /// From the title to the last field before the exam's attachments.
 template <class Exam, class Visitor>
 void VisitHeader(const ExamFileVersion& version, Exam& exam, Visitor& visitor) {
-  visitor.Text(exam.title, kShortTextField);
-  visitor.Number(exam.questionCount, kNumberField);
-  visitor.Number(exam.randomMode, kNumberField);
-  visitor.Number(exam.scoreMode, kNumberField);
-  for (std::size_t i = 0; i < kScoreRanges; ++i) {
-    visitor.Number(exam.scoreFrom[i], kNumberField);
-    visitor.Number(exam.scoreTo[i], kNumberField);
-    if (version.decimalScores) {
-      visitor.Score(exam.scoreValue[i], version.score);
-    } else {
-      visitor.WholeScore(exam.scoreValue[i], version.score);
-    }
-  }
-  if (!version.hasAttachments) return;
-  visitor.Number(exam.boundaryQuestion, kNumberField);
-  visitor.Reserved(ExamFileField{1020});
+  const FieldsInFile fields(version, visitor);
+  VisitPaperFields(fields, exam);
+  for (std::size_t i = 0; i < kScoreRanges; ++i) VisitScoreRange(i, fields, exam);
+  VisitDocumentFields(fields, exam);
+  if (version.HasAttachments()) visitor.Reserved(kReservedInHeader);
 }
 
 /// From a question's text to the last field before its attachments. `shortAnswer` is the fill-in answer or
@@ -112,34 +138,37 @@ void VisitHeader(const ExamFileVersion& version, Exam& exam, Visitor& visitor) {
 template <class Question, class Answer, class Visitor>
 void VisitQuestion(const ExamFileVersion& version, Question& question, Answer& shortAnswer,
                    Visitor& visitor) {
-  visitor.Text(question.text, kLongTextField);
-  for (auto& option : question.options) visitor.Text(option, kShortTextField);
-  visitor.Text(question.answerLetters, ExamFileField{16});
-  visitor.Text(shortAnswer, kShortTextField);
-  visitor.Text(question.essayAnswer, kLongTextField);
-  visitor.Number(question.kind, kNumberField);
-  if (version.hasAttachments) visitor.Reserved(ExamFileField{64});
+  const FieldsInFile fields(version, visitor);
+  const auto visit = [&](const FieldRow& field, auto& value) {
+    if (field.name == ExamFieldName::FillInAnswer) {
+      fields(field, shortAnswer);
+    } else {
+      fields(field, value);
+    }
+  };
+  VisitQuestionFields(visit, question);
+  if (version.HasAttachments()) visitor.Reserved(kReservedInQuestion);
 }
 
 /// The number of attached files, of the exam or of a question.
 template <class Count, class Visitor>
 void VisitAttachmentCount(Count& count, Visitor& visitor) {
-  visitor.Number(count, kNumberField);
+  visitor.Number(count, kAttachmentCount);
 }
 
 /// The fields before an attached file's content. The oral flag is a 16-bit number: the visitor's
 /// OralFlag(int&).
 template <class Entry, class Visitor>
 void VisitAttachment(const ExamFileVersion& version, Entry& entry, bool withOralFlag, Visitor& visitor) {
-  visitor.Text(entry.name, version.attachmentName);
+  visitor.Text(entry.name, version.Width(ExamFieldName::AttachmentName));
   if (withOralFlag) visitor.OralFlag(entry.oralFlag);
-  visitor.Number(entry.size, ExamFileField{16});
+  visitor.Number(entry.size, kAttachmentSize);
 }
 
 /// The long fill-in answer, behind the question's attachments.
 template <class Answer, class Visitor>
-void VisitLongAnswer(Answer& answer, Visitor& visitor) {
-  visitor.Text(answer, ExamFileField{1024});
+void VisitLongAnswer(const ExamFileVersion& version, Answer& answer, Visitor& visitor) {
+  visitor.Text(answer, version.Width(ExamFieldName::LongFillInAnswer));
 }
 
 }  // namespace quorvantis

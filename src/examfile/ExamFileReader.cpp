@@ -5,41 +5,23 @@
 #include "examfile/ExamFileTag.h"
 #include "examfile/UntaggedEncoding.h"
 #include "model/AnswerLetters.h"
+#include "model/QuestionKinds.h"
 
 #include <algorithm>
 
 namespace quorvantis {
 namespace {
 
-void ClearOptions(ExamQuestion& question) {
-  for (auto& option : question.options) option.clear();
-}
-
-/// Leaves a question what its kind has; the letters stay as they were read, for every kind.
+/// Leaves a question what its kind has, and an unknown kind everything. The letters stay as they were read,
+/// for every kind.
 void CleanByKind(ExamQuestion& question) {
-  switch (question.kind) {
-    case QuestionKind::Choice:
-      question.answerMask = AnswerLettersToMask(question.answerLetters);
-      question.answerText.clear();
-      question.essayAnswer.clear();
-      return;
-    case QuestionKind::FillIn:
-      ClearOptions(question);
-      question.essayAnswer.clear();
-      break;
-    case QuestionKind::Essay:
-      ClearOptions(question);
-      question.answerText.clear();
-      break;
-    case QuestionKind::Oral:
-      ClearOptions(question);
-      question.answerText.clear();
-      question.essayAnswer.clear();
-      break;
-    default:
-      return;  // an unknown kind keeps everything
-  }
-  question.answerMask = 0;
+  const KindRow* kind = FindKind(question.kind);
+  if (kind == nullptr) return;
+  const auto clean = [kind](const FieldRow& field, auto& value) {
+    if (!kind->Keeps(field.name)) value = {};
+  };
+  VisitQuestionFields(clean, question);
+  if (kind->answer.options) question.answerMask = AnswerLettersToMask(question.answerLetters);
 }
 
 /// Reads one file; lives for that only.
@@ -56,7 +38,7 @@ class Reading {
     VisitHeader(*form_.version, exam_, fields_);
     const bool headerMissing = source_.Ended();
     exam_.questionCount = std::clamp(exam_.questionCount, 0, kMaxQuestions);
-    if (form_.version->hasAttachments) unpacker_.ExtractExamAttachments();
+    if (form_.version->HasAttachments()) unpacker_.ExtractExamAttachments();
     int question = 1;
     while (question <= exam_.questionCount && !source_.Ended()) {
       ReadQuestion(question);
@@ -73,11 +55,11 @@ class Reading {
     std::u16string shortAnswer;
     VisitQuestion(*form_.version, question, shortAnswer, fields_);
     const bool fieldsWhole = !source_.Ended();
-    const bool longAnswer = form_.version->hasLongAnswers && shortAnswer == kLongAnswerMarker;
+    const bool longAnswer = form_.version->HasLongAnswers() && shortAnswer == kLongAnswerMarker;
     if (!longAnswer) question.answerText = shortAnswer;
-    if (form_.version->notesOralQuestions && question.kind == QuestionKind::Oral) NoteOralQuestion(number);
-    if (form_.version->hasAttachments) unpacker_.ExtractQuestionAttachments(number);
-    if (longAnswer) VisitLongAnswer(question.answerText, fields_);
+    if (form_.version->notesOralQuestions && AnswerOf(question.kind).oral) NoteOralQuestion(number);
+    if (form_.version->HasAttachments()) unpacker_.ExtractQuestionAttachments(number);
+    if (longAnswer) VisitLongAnswer(*form_.version, question.answerText, fields_);
     if (fieldsWhole) {
       CleanByKind(question);
     } else {  // the kind is missing: keep every text, and make the letters count

@@ -3,7 +3,7 @@
 
 #include "examfile/ByteSource.h"
 #include "examfile/ExamFileForm.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 
 #include <filesystem>
 

@@ -16,13 +16,6 @@ std::span<const std::byte> AsBytes(std::string_view bytes) {
   return std::as_bytes(std::span(bytes));
 }
 
-/// A display name that stands where a path should (see displayNamesAmongPaths) comes from whoever wrote the
-/// exam file, and must not bring a file of this machine into the exam.
-bool IsNameAmongPaths(const FrameSetExam& exam, const std::u16string& path) {
-  const auto& names = exam.displayNamesAmongPaths;
-  return std::ranges::find(names, path) != names.end();
-}
-
 std::uint64_t SizeOf(const AttachmentList& paths) {
   std::uint64_t size = 0;
   for (const std::u16string& path : paths) {
@@ -78,8 +71,7 @@ void ExamFileWriter::PackExamAttachments() {
   VisitAttachmentCount(count, fields);
   for (std::size_t i = 0; i < count && !error_; ++i) {
     const std::u16string& path = exam_.examAttachmentPaths[i];
-    const bool elsewhere = IsNameAmongPaths(exam_, path);
-    PackFile(names[i], elsewhere ? std::filesystem::path() : TextToPath(path), nullptr);
+    PackFile(names[i], exam_.IsPath(path) ? TextToPath(path) : std::filesystem::path(), nullptr);
   }
 }
 
@@ -91,7 +83,7 @@ void ExamFileWriter::WriteQuestion(int number) {
   FieldWriter fields(bytes_);
   VisitQuestion(kCurrentVersion, question, shortAnswer, fields);
   PackQuestionAttachments(question);
-  if (longAnswer) VisitLongAnswer(question.answerText, fields);
+  if (longAnswer) VisitLongAnswer(kCurrentVersion, question.answerText, fields);
   Flush();
 }
 

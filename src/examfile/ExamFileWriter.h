@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/Files.h"
 
 #include <filesystem>

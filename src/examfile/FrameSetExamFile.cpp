@@ -5,7 +5,7 @@
 #include "examfile/ExamFileWriter.h"
 #include "examfile/FileFailure.h"
 #include "examfile/WorkFolder.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/DebugOutput.h"
 #include "platform/UserDialogs.h"
 #include "text/PathText.h"

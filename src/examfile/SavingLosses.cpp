@@ -2,22 +2,64 @@
 #include "examfile/SavingLosses.h"
 
 #include "examfile/ExamFileFields.h"
+#include "examfile/ExamFileLayout.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
+#include "model/QuestionKinds.h"
+#include "model/document/ExamServices.h"
 #include "platform/Texts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 
-#include <algorithm>
 #include <fstream>
 #include <initializer_list>
 
 namespace quorvantis {
 namespace {
 
-bool HasOptions(const ExamQuestion& question) {
-  return std::ranges::any_of(question.options, [](const auto& option) { return !option.empty(); });
+/// What users are told that a field is; 0 for one that is made of others or of attached files, and never lost
+/// by itself.
+int TextOf(ExamFieldName field) {
+  switch (field) {
+    case ExamFieldName::Title:
+      return text_id::kTheTitle;
+    case ExamFieldName::RandomMode:
+      return text_id::kTheRandomMode;
+    case ExamFieldName::ScoreMode:
+      return text_id::kTheScoreMode;
+    case ExamFieldName::RangeStart:
+      return text_id::kRangeStart;
+    case ExamFieldName::RangeEnd:
+      return text_id::kRangeEnd;
+    case ExamFieldName::RangeScore:
+      return text_id::kAScore;
+    case ExamFieldName::BoundaryQuestion:
+      return text_id::kBoundaryQuestion;
+    case ExamFieldName::QuestionText:
+      return text_id::kTheText;
+    case ExamFieldName::Options:
+      return text_id::kOptionText;
+    case ExamFieldName::AnswerLetters:
+      return text_id::kAnswerLetters;
+    case ExamFieldName::FillInAnswer:
+    case ExamFieldName::LongFillInAnswer:
+      return text_id::kFillInAnswer;
+    case ExamFieldName::EssayAnswer:
+      return text_id::kEssayAnswer;
+    case ExamFieldName::Kind:
+      return text_id::kTheKind;
+    case ExamFieldName::AttachmentName:
+      return text_id::kAttachmentName;
+    case ExamFieldName::QuestionCount:
+    case ExamFieldName::AnswerMask:
+    case ExamFieldName::OralFlag:
+      break;
+  }
+  return 0;
+}
+
+std::size_t WidthOf(ExamFieldName field) {
+  return kCurrentVersion.Width(field).units;
 }
 
 std::u16string Digits(std::size_t number) {
@@ -53,52 +95,58 @@ class LossFinder {
     losses_.push_back({number_, Filled(text, values), false, false});
   }
 
-  void CheckText(int what, std::u16string_view text, std::size_t units) {
-    if (text.size() > units) {
-      Work(text_id::kTextCut, {strings_.Text(what), Digits(text.size()), Digits(units)});
+  /// What the writer loses of a field of the width that it has.
+  void Check(ExamFieldName field, const std::u16string& text) {
+    const bool takesLongForm = field == ExamFieldName::FillInAnswer && flags_.IsSet(number_);
+    const std::size_t width = WidthOf(takesLongForm ? ExamFieldName::LongFillInAnswer : field);
+    const std::u16string what = strings_.Text(TextOf(field));
+    if (text.size() > width) {
+      Work(text_id::kTextCut, {what, Digits(text.size()), Digits(width)});
+      losses_.back().canBeStored = field == ExamFieldName::FillInAnswer && !takesLongForm;
     } else if (text.find(u'\0') != text.npos) {
-      Work(text_id::kTextEndsAtNul, {strings_.Text(what)});
+      Work(text_id::kTextEndsAtNul, {what});
     }
   }
-  void CheckNumber(int what, std::int64_t number) {
-    const std::u16string digits = FormatInteger(number);
-    if (digits.size() > 4) Detail(text_id::kNumberCut, {strings_.Text(what), digits});
+  void Check(ExamFieldName field, const OptionTexts& options) {
+    for (const std::u16string& option : options) Check(field, option);
   }
-  void CheckScore(float score) {
+  void Check(ExamFieldName field, float score) {
     const std::u16string text = FormatScore(score);
-    CheckText(text_id::kAScore, text, 7);
+    Check(field, text);
     if (ParseScoreText(text) != score) Detail(text_id::kScoreRounded, {text});
   }
+  template <class Integer>
+  void Check(ExamFieldName field, Integer number) {
+    const std::u16string digits = FormatInteger(static_cast<std::int64_t>(number));
+    if (TextOf(field) != 0 && digits.size() > WidthOf(field))
+      Detail(text_id::kNumberCut, {strings_.Text(TextOf(field)), digits});
+  }
 
+  /// A visitor of fields.
+  auto Checker() {
+    return [this](const FieldRow& field, const auto& value) { Check(field.name, value); };
+  }
+
+  bool CanBePacked(const std::u16string& path) const {
+    return exam_.IsPath(path) && std::ifstream(TextToPath(path)).is_open();
+  }
   void CheckFiles(const AttachmentList& paths, const AttachmentList& names) {
     for (std::size_t i = 0; i < kMaxAttachments; ++i) {
-      CheckText(text_id::kAttachmentName, names[i], 128);
+      Check(ExamFieldName::AttachmentName, names[i]);
       const bool hasContent = !paths[i].empty() && !exam_.pathsWithoutContent.contains(paths[i]);
-      if (hasContent && !std::ifstream(TextToPath(paths[i])).is_open())
-        Work(text_id::kFileStoredEmpty, {names[i]});
+      if (hasContent && !CanBePacked(paths[i])) Work(text_id::kFileStoredEmpty, {names[i]});
     }
   }
 
   void CheckExam() {
-    CheckText(text_id::kTheTitle, exam_.title, kMaxTitle);
-    CheckNumber(text_id::kTheRandomMode, static_cast<int>(exam_.randomMode));
-    CheckNumber(text_id::kTheScoreMode, static_cast<int>(exam_.scoreMode));
-    CheckNumber(text_id::kBoundaryQuestion, exam_.boundaryQuestion);
-    for (std::size_t i = 0; i < kScoreRanges; ++i) {
-      CheckNumber(text_id::kRangeStart, exam_.scoreFrom[i]);
-      CheckNumber(text_id::kRangeEnd, exam_.scoreTo[i]);
-      CheckScore(exam_.scoreValue[i]);
-    }
+    VisitPaperFields(Checker(), exam_);
+    VisitDocumentFields(Checker(), exam_);
+    for (std::size_t i = 0; i < kScoreRanges; ++i) VisitScoreRange(i, Checker(), exam_);
     CheckFiles(exam_.examAttachmentPaths, exam_.examAttachmentNames);
   }
 
   void CheckQuestion(const ExamQuestion& question) {
-    CheckText(text_id::kTheText, question.text, kMaxQuestionText);
-    for (const auto& option : question.options) CheckText(text_id::kOptionText, option, kMaxOptionText);
-    CheckText(text_id::kAnswerLetters, question.answerLetters, 16);
-    CheckFillInAnswer(question.answerText);
-    CheckText(text_id::kEssayAnswer, question.essayAnswer, kMaxEssayAnswer);
-    CheckNumber(text_id::kTheKind, static_cast<int>(question.kind));
+    VisitQuestionFields(Checker(), question);
     CheckKind(question);
     if (question.oralFlag != 0 && question.attachmentPaths[0].empty()) {
       Detail(text_id::kOralFlagLost);
@@ -108,22 +156,14 @@ class LossFinder {
     CheckFiles(question.attachmentPaths, question.attachmentNames);
   }
 
-  void CheckFillInAnswer(std::u16string_view answer) {
-    const std::size_t before = losses_.size();
-    CheckText(text_id::kFillInAnswer, answer, flags_.IsSet(number_) ? kMaxFillInAnswer : kMaxShortAnswer);
-    const bool takesLongForm = answer.size() > kMaxShortAnswer && !flags_.IsSet(number_);
-    if (losses_.size() > before) losses_.back().canBeStored = takesLongForm;
-  }
-
   void CheckKind(const ExamQuestion& question) {
-    const QuestionKind kind = question.kind;
-    if (kind < QuestionKind::Choice || kind > QuestionKind::Oral) return;
-    const auto check = [this](int what, bool isThere) {
-      if (isThere) Detail(text_id::kNotForKind, {strings_.Text(what)});
+    const KindRow* kind = FindKind(question.kind);
+    if (kind == nullptr) return;
+    const auto check = [this, kind](const FieldRow& field, const auto& value) {
+      if (!kind->Keeps(field.name) && HoldsText(value))
+        Detail(text_id::kNotForKind, {strings_.Text(TextOf(field.name))});
     };
-    check(text_id::kOptionText, kind != QuestionKind::Choice && HasOptions(question));
-    check(text_id::kFillInAnswer, kind != QuestionKind::FillIn && !question.answerText.empty());
-    check(text_id::kEssayAnswer, kind != QuestionKind::Essay && !question.essayAnswer.empty());
+    VisitQuestionFields(check, question);
   }
 
   const FrameSetExam& exam_;
@@ -136,9 +176,12 @@ class LossFinder {
 }  // namespace
 
 bool HasAnything(const ExamQuestion& question) {
-  return !question.text.empty() || HasOptions(question) || !question.answerLetters.empty() ||
-         !question.answerText.empty() || !question.essayAnswer.empty() ||
-         !question.attachmentPaths[0].empty();
+  bool hasAnything = HoldsText(question.attachmentPaths[0]);
+  const auto look = [&hasAnything](const FieldRow&, const auto& value) {
+    hasAnything = hasAnything || HoldsText(value);
+  };
+  VisitQuestionFields(look, question);
+  return hasAnything;
 }
 
 std::vector<SavingLoss> FindSavingLosses(const FrameSetExam& exam, const LongAnswerFlags& flags) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/FrameSetExam.h"
 #include "model/LongAnswerFlags.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/StringTable.h"
 
 #include <string>

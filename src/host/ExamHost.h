@@ -2,7 +2,7 @@
 #pragma once
 
 #include "import/PaperDocuments.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/documents/OfficeWordDocuments.h"
 #include "platform/documents/OfficeWordWriter.h"
 #include "platform/posix/FileRegistry.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The operation of the exam document that reads questions from a marked text.
 #include "import/QuestionTextParser.h"
-#include "model/FrameSetExam.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
+#include "model/document/FrameSetExam.h"
 
 namespace quorvantis {
 

@@ -1,36 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "model/ExamPaper.h"
 
+#include "model/ExamFields.h"
+
 #include <algorithm>
 
 namespace quorvantis {
 namespace {
 
-/// The fields that move when questions are inserted or deleted. Responses, attachments and the oral flag stay
-/// with the slot: the attachment lists are moved by rules of their own (see editor/AttachmentShifts.h).
+/// Responses, attachments and the oral flag stay with the slot when questions are inserted or deleted: the
+/// attachment lists are moved by rules of their own (see editor/AttachmentShifts.h).
+constexpr bool Moves(ExamFieldName field) {
+  return field != ExamFieldName::OralFlag;
+}
+
 void CopyMovableFields(const ExamQuestion& from, ExamQuestion& to) {
-  to.text = from.text;
-  to.options = from.options;
-  to.answerLetters = from.answerLetters;
-  to.answerText = from.answerText;
-  to.essayAnswer = from.essayAnswer;
-  to.kind = from.kind;
-  to.answerMask = from.answerMask;
+  const auto copy = [](const FieldRow& field, const auto& value, auto& target) {
+    if (Moves(field.name)) target = value;
+  };
+  VisitQuestionFields(copy, from, to);
 }
 
 void ClearAnswersAndTexts(ExamQuestion& question) {
-  question.text.clear();
-  for (auto& option : question.options) option.clear();
-  question.answerLetters.clear();
-  question.answerText.clear();
-  question.essayAnswer.clear();
-  question.answerMask = 0;
+  const auto clear = [](const FieldRow& field, auto& value) {
+    if (Moves(field.name) && field.name != ExamFieldName::Kind) value = {};
+  };
+  VisitQuestionFields(clear, question);
 }
 
 bool IsCounted(const ExamQuestion& question) {
-  const auto filled = [](const std::u16string& text) { return !text.empty(); };
-  return filled(question.text) || filled(question.answerText) ||
-         std::ranges::any_of(question.options, filled);
+  return HoldsText(question.text) || HoldsText(question.answerText) || HoldsText(question.options);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace quorvantis {
 
@@ -18,13 +19,16 @@ inline constexpr std::u16string_view kListSeparator = u"<@>";
 /// A list of attached files, packed from index 0; the first empty entry ends it.
 using AttachmentList = std::array<std::u16string, kMaxAttachments>;
 
+/// The five options of a question, A to E.
+using OptionTexts = std::array<std::u16string, kOptionCount>;
+
 /// One question slot of an exam: plain data. Texts may hold any UTF-16 units and any length; the limits of
-/// ExamLimits.h are kept by the editor and by the exam file.
+/// ExamFields.h are kept by the editor and by the exam file.
 struct ExamQuestion {
   std::u16string text;
-  std::array<std::u16string, kOptionCount> options;  ///< A to E
-  std::u16string answerLetters;                      ///< the ticked boxes in order, for example "ace"
-  std::u16string answerText;                         ///< fill-in answers, several separated by kListSeparator
+  OptionTexts options;
+  std::u16string answerLetters;  ///< the ticked boxes in order, for example "ace"
+  std::u16string answerText;     ///< fill-in answers, several separated by kListSeparator
   std::u16string essayAnswer;
   std::u16string responseText;  ///< printed on the answer sheet; the editor never fills it
   int responseValue = 0;        ///< printed on the answer sheet; the editor never sets it

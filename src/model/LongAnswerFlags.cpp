@@ -7,7 +7,7 @@ namespace quorvantis {
 
 void LongAnswerFlags::SetWhereNeeded(const ExamPaper& exam) {
   for (int number = 1; number <= kMaxQuestions; ++number) {
-    if (exam.Question(number).answerText.size() > kMaxShortAnswer) Set(number);
+    SetIfLong(number, exam.Question(number).answerText);
   }
 }
 

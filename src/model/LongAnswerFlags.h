@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/ExamLimits.h"
+#include "model/ExamFields.h"
 
 #include <array>
+#include <string_view>
 
 namespace quorvantis {
 
 class ExamPaper;
+
+/// Whether the short form would cut a fill-in answer.
+constexpr bool IsLongAnswer(std::u16string_view answer) {
+  return answer.size() > kMaxShortAnswer;
+}
 
 /// Which question slots are to be saved with the long form of the fill-in answer.
 ///
@@ -21,7 +27,12 @@ class LongAnswerFlags {
     if (IsQuestionNumber(question)) flags_[Index(question)] = true;
   }
 
-  /// Sets the flags of all answers that the short form would cut.
+  /// Sets the flag of a question if its answer is a long one.
+  void SetIfLong(int question, std::u16string_view answer) {
+    if (IsLongAnswer(answer)) Set(question);
+  }
+
+  /// Does so with all questions.
   void SetWhereNeeded(const ExamPaper& exam);
 
  private:

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "recovery/ExamSnapshot.h"
 
-#include "examfile/ExamFileLayout.h"
+#include "model/ExamFields.h"
+#include "model/QuestionKinds.h"
 #include "recovery/SnapshotFields.h"
 #include "text/PathText.h"
 
@@ -18,25 +19,24 @@ void VisitTexts(Texts& texts, Visitor& visitor) {
   for (auto& text : texts) visitor.Text(text);
 }
 
-/// What belongs to the exam as a whole, but for the two fields that the form holds.
+/// What belongs to the exam as a whole, but for the fields that the form holds; questions are counted anew.
 template <class Exam, class Visitor>
 void VisitExamPart(Exam& exam, Visitor& visitor) {
-  visitor.Number(exam.scoreMode);
-  for (std::size_t i = 0; i < kScoreRanges; ++i) {
-    visitor.Number(exam.scoreFrom[i]);
-    visitor.Number(exam.scoreTo[i]);
-    visitor.Score(exam.scoreValue[i]);
-  }
-  visitor.Number(exam.boundaryQuestion);
+  const auto visit = [&visitor](const FieldRow& field, auto& value) {
+    const bool isElsewhere = field.name == ExamFieldName::Title || field.name == ExamFieldName::RandomMode ||
+                             field.name == ExamFieldName::QuestionCount;
+    if (!isElsewhere) visitor(field, value);
+  };
+  VisitPaperFields(visit, exam);
+  for (std::size_t i = 0; i < kScoreRanges; ++i) VisitScoreRange(i, visit, exam);
+  VisitDocumentFields(visit, exam);
   VisitTexts(exam.examAttachmentPaths, visitor);
   VisitTexts(exam.examAttachmentNames, visitor);
 }
 
 template <class Question, class Visitor>
 void VisitWholeQuestion(Question& question, Visitor& visitor) {
-  VisitQuestion(kCurrentVersion, question, question.answerText, visitor);
-  visitor.Number(question.answerMask);
-  visitor.Number(question.oralFlag);
+  VisitQuestionFields(visitor, question);
   VisitTexts(question.attachmentPaths, visitor);
   VisitTexts(question.attachmentNames, visitor);
 }
@@ -54,7 +54,7 @@ ExamQuestion AnswersAsShown(const ExamQuestion& question) {
   QuestionForm form;
   LoadForm(answers, form);
   StoreForm(form, question.kind, answers);
-  answers.oralFlag = question.kind == QuestionKind::Oral && question.oralFlag == 1 ? 1 : 0;
+  answers.oralFlag = AnswerOf(question.kind).oral && question.oralFlag == 1 ? 1 : 0;
   return answers;
 }
 
@@ -102,7 +102,7 @@ class Gathering {
     fields.Number(exam.displayNamesAmongPaths.size());
     VisitTexts(exam.displayNamesAmongPaths, fields);
     AddFiles(exam.examAttachmentPaths);
-    for (const auto& name : exam.displayNamesAmongPaths) std::erase(snapshot.files, name);
+    std::erase_if(snapshot.files, [&exam](const std::u16string& entry) { return !exam.IsPath(entry); });
     AddHashes(Hash(From(begin)));
   }
 

@@ -6,7 +6,7 @@
 #include "examfile/SavingLosses.h"
 #include "examfile/WorkFolder.h"
 #include "model/LongAnswerFlags.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/WholeFile.h"
 #include "recovery/ExamSnapshot.h"
 #include "recovery/RecoveryFolder.h"
@@ -99,10 +99,8 @@ std::vector<std::u16string> RestoreAttachments(FrameSetExam& exam, const fs::pat
   PrepareWorkFolder(exam, exam.Services().applicationFolder, {});
   Attachments attachments(exam, folder, links);
   for (std::size_t i = 0; i < kMaxAttachments; ++i) {
-    const auto& names = exam.displayNamesAmongPaths;
     std::u16string& path = exam.examAttachmentPaths[i];
-    const bool isPath = std::ranges::find(names, path) == names.end();
-    if (isPath) attachments.Restore(path, exam.examAttachmentNames[i]);
+    if (exam.IsPath(path)) attachments.Restore(path, exam.examAttachmentNames[i]);
     for (int n = 1; n <= kMaxQuestions; ++n) {
       ExamQuestion& question = exam.Question(n);
       attachments.Restore(question.attachmentPaths[i], question.attachmentNames[i]);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "recovery/RecoveryKeeper.h"
 
+#include "model/document/ExamServices.h"
 #include "platform/DebugOutput.h"
-#include "platform/ExamServices.h"
 
 #include <chrono>
 #include <exception>

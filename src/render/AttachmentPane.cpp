@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/AttachmentPane.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "render/AttachmentItems.h"
 #include "render/AttachmentPath.h"
 #include "render/PageFile.h"

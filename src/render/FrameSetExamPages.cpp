@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The operations of the exam document that write pages.
-#include "model/FrameSetExam.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
+#include "model/document/FrameSetExam.h"
 #include "render/FramesetPage.h"
 #include "render/PageFile.h"
 #include "render/PageSources.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/FramesetPage.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "render/AttachmentPane.h"
 #include "render/PageFile.h"
 #include "render/PageHead.h"

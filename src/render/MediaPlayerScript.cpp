@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/MediaPlayerScript.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/IdSource.h"
 #include "platform/Registry.h"
 #include "render/Template.h"

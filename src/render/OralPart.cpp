@@ -2,7 +2,7 @@
 #include "render/OralPart.h"
 
 #include "model/PageRenderer.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "render/AttachmentItems.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/PreviewPaths.h"
 
-#include "model/FrameSetExam.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
+#include "model/document/FrameSetExam.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 

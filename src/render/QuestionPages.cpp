@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/QuestionPages.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "render/PageHead.h"

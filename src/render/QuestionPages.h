@@ -2,7 +2,7 @@
 // The pages that list all questions of an exam, as text. The exam has been counted.
 #pragma once
 
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
 #include <string>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/QuestionRow.h"
 
-#include "platform/ExamServices.h"
+#include "model/QuestionKinds.h"
+#include "model/document/ExamServices.h"
 #include "render/AnswerBlocks.h"
 #include "render/AttachmentItems.h"
 #include "render/OralPart.h"
@@ -56,7 +57,7 @@ class Row {
   }
 
  private:
-  bool IsOral() const { return question_.kind == QuestionKind::Oral; }
+  bool IsOral() const { return AnswerOf(question_.kind).oral; }
 
   bool IsWrong() const {
     return !IsOral() || oral_.OralMark(index_, studentNumber_, flags_) == OralMarkKind::Wrong;
@@ -72,9 +73,10 @@ class Row {
         return blocks.FillInBlock();
       case QuestionKind::Essay:
         return blocks.EssayBlock();
-      default:
-        return {};
+      case QuestionKind::Oral:
+        break;
     }
+    return {};
   }
 
   std::u16string Attachments() const {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ExamBytes.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"

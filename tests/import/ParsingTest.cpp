@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportTest.h"
 #include "import/AnswerBlock.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/TemporaryFolder.h"
 

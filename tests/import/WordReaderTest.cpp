@@ -96,7 +96,7 @@ TEST(LineEnds, AreMendedWhereTheFieldHasRoom) {
     EXPECT_EQ(WithWholeLineEnds(row.text), row.mended);
   }
   ExamPaper exam;
-  exam.Question(2).options[4] = std::u16string(kMaxOptionText - 1, u'x') + u"\r";
+  exam.Question(2).options[4] = std::u16string(FieldNamed(ExamFieldName::Options).limit - 1, u'x') + u"\r";
   exam.Question(3).essayAnswer = u"a\rb";
   EXPECT_EQ(CountLoneLineEnds(exam, 1, 3), 2);
   MendLineEnds(exam, 1, 3);

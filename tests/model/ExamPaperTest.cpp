@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/AnswerLetters.h"
 #include "model/ExamPaper.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 #include "text/NumberText.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // Exams in the browser, composed as the window does it.
 #include "AttachmentFiles.h"
 #include "PreviewTest.h"
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/RecordingWorld.h"
 

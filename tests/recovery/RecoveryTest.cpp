@@ -118,6 +118,9 @@ TEST_F(RecoveryTest, NeverTakesAPathFromACopy) {
   EXPECT_EQ(ReadBytes(run.exam.Question(1).attachmentPaths[0]), "");
   EXPECT_EQ(run.exam.displayNamesAmongPaths, exam.displayNamesAmongPaths);
   EXPECT_EQ(run.exam.examAttachmentPaths[0], AsText(secret));
+  EXPECT_NE(FindSavingLosses(run.exam, run.world.longAnswerFlags)[0].what.find(u'y'), std::u16string::npos);
+  run.editor.files.StartNewExam();
+  EXPECT_EQ(ReadBytes(secret), "not the exam's") << "it is no work copy";
 }
 
 TEST_F(RecoveryTest, ThereIsACopyWhileTheExamDiffersFromItsFile) {

@@ -3,6 +3,7 @@
 #include "render/AttachmentPane.h"
 
 #include <algorithm>
+#include <set>
 
 namespace quorvantis::test {
 namespace {
@@ -86,6 +87,15 @@ TEST_F(AttachmentPaneTest, StudentPagesLieUnderTheirNumbers) {
                 "<FRAME  SRC=\"~BrelmStudent/ID7/~tt/x.doc\">\r\n</FRAMESET>\r\n" +
                 kEnd);
   EXPECT_TRUE(fs::exists(folder / "~BrelmStudent/ID7/SEE2_1.htm"));
+}
+
+TEST_F(RenderTest, ShowsNoFileThatADisplayNameNames) {
+  Attach({u"/etc/hostname", u"/home/a.gif"});
+  exam.displayNamesAmongPaths = {u"/etc/hostname"};
+  exam.WritePreview(pages / "SEE.htm");
+  std::set<fs::path> shown;
+  for (const PageSource& source : world.pages.sources) shown.insert(source.file);
+  EXPECT_TRUE(shown.contains("/home/a.gif") && !shown.contains("/etc/hostname"));
 }
 
 TEST_F(RenderTest, EachPathCountsTheUnfinishedPreviewsThatShowedIt) {

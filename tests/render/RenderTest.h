@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"

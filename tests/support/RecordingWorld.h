@@ -2,9 +2,9 @@
 #pragma once
 
 #include "model/LongAnswerFlags.h"
+#include "model/document/ExamServices.h"
 #include "platform/CodePage.h"
 #include "platform/DebugOutput.h"
-#include "platform/ExamServices.h"
 #include "platform/Files.h"
 #include "platform/IdSource.h"
 #include "platform/PageStore.h"

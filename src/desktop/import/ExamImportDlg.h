@@ -3,7 +3,7 @@
 
 #include "desktop/dialogs/DialogText.h"
 #include "import/ExamImport.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 
 #include <QComboBox>
 #include <QDialog>

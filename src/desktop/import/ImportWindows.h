@@ -4,7 +4,7 @@
 #include "desktop/import/ImportSummaryDlg.h"
 #include "desktop/import/ImportWaitDlg.h"
 #include "import/ImportDialogs.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/LanguageLibraries.h"
 
 #include <QPointer>

@@ -98,9 +98,10 @@ void PlaceEssay(const LayoutInput& input, int y, LayoutPlaces& places) {
 }
 
 void PlaceAnswers(const LayoutInput& input, int y, LayoutPlaces& places) {
-  if (input.kind == QuestionKind::Choice) PlaceOptions(input.client, y, places);
-  if (input.kind == QuestionKind::FillIn) PlaceAnswerLine(input, y, places);
-  if (input.kind == QuestionKind::Essay) PlaceEssay(input, y, places);
+  const AnswerParts parts = AnswerOf(input.kind);
+  if (parts.options) PlaceOptions(input.client, y, places);
+  if (parts.fillIn) PlaceAnswerLine(input, y, places);
+  if (parts.essay) PlaceEssay(input, y, places);
 }
 
 }  // namespace

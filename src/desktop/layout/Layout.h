@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/ExamQuestion.h"
+#include "model/QuestionKinds.h"
 
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 
 namespace quorvantis {
@@ -32,8 +33,8 @@ inline constexpr std::size_t kToolbarButtons = 9;
 /// Back 10, previous, next, forward 10, insert, delete and attach to the question, in this order.
 inline constexpr std::size_t kNavigationButtons = 7;
 
-/// Choice, fill-in, essay and oral, in this order.
-inline constexpr std::size_t kKindButtons = 4;
+/// In the order of their kinds.
+inline constexpr std::size_t kKindButtons = std::size(kQuestionKinds);
 
 /// What the places of the controls depend on. The sizes of captions are those of their text in the window's
 /// font.

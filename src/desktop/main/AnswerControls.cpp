@@ -93,13 +93,13 @@ void AnswerControls::AppendSeparator() {
   answer->end(false);
 }
 
-void AnswerControls::ShowControls(const KindControls& shown) {
+void AnswerControls::ShowControls(const AnswerParts& shown) {
   for (std::size_t i = 0; i < kOptionCount; ++i) {
     boxes[i]->setVisible(shown.options);
     options[i]->setVisible(shown.options);
   }
   for (QWidget* control : std::initializer_list<QWidget*>{answerLabel, answer, separator}) {
-    control->setVisible(shown.answer);
+    control->setVisible(shown.fillIn);
   }
   for (QWidget* control : std::initializer_list<QWidget*>{essayLabel, essay}) {
     control->setVisible(shown.essay);

@@ -43,7 +43,7 @@ class AnswerControls {
   void MakeEssay(const StringTable& strings, QWidget* parent);
   void TickBox(std::size_t index);
   void AppendSeparator();
-  void ShowControls(const KindControls& shown);
+  void ShowControls(const AnswerParts& shown);
 
   ExamEditor& editor_;
 };

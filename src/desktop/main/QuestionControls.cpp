@@ -4,7 +4,10 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/PlacedText.h"
 #include "desktop/main/AttachmentMenu.h"
+#include "model/QuestionKinds.h"
 #include "platform/Texts.h"
+
+#include <iterator>
 
 namespace quorvantis {
 namespace {
@@ -16,12 +19,14 @@ struct KindSpec {
   QKeySequence key;
 };
 
+/// The buttons, in the order of the kinds.
 const KindSpec kKinds[] = {
     {"kindChoice", QuestionKind::Choice, text_id::kChoice, Qt::ALT | Qt::Key_C},
     {"kindFillIn", QuestionKind::FillIn, text_id::kFillIn, Qt::ALT | Qt::Key_F},
     {"kindEssay", QuestionKind::Essay, text_id::kEssay, Qt::ALT | Qt::Key_E},
     {"kindOral", QuestionKind::Oral, text_id::kOral, Qt::ALT | Qt::Key_L},
 };
+static_assert(std::size(kKinds) == std::size(kQuestionKinds), "a button for every kind");
 
 const QKeySequence kOralKey(Qt::ALT | Qt::Key_Z);
 
@@ -70,7 +75,7 @@ void QuestionControls::ShowMenu(const QPoint& position) {
   QMenu* menu = MakeAttachmentMenu(
       files.SelectedQuestionFile(), [&files] { files.RemoveSelectedAttachment(AttachedTo::Question); },
       editor_.state.document.Services(), attachments);
-  if (editor_.state.CurrentKind() == QuestionKind::Oral) AddOralSwitch(*menu, files);
+  if (AnswerOf(editor_.state.CurrentKind()).oral) AddOralSwitch(*menu, files);
   menu->popup(position);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/commands/ExportCommand.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/Progress.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"

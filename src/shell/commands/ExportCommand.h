@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/WordWriter.h"
 #include "shell/office/OfficeControl.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/commands/ExportParagraphs.h"
 
+#include "model/QuestionKinds.h"
 #include "platform/Texts.h"
 #include "text/NumberText.h"
 
@@ -34,7 +35,7 @@ void AppendQuestion(Paragraphs& paragraphs, const ExamQuestion& question, int nu
                     const StringTable& strings) {
   if (!question.text.empty()) {
     paragraphs.push_back(FormatInteger(number) + u"." + question.text);
-    if (question.kind == QuestionKind::Oral) paragraphs.push_back(strings.Text(text_id::kOralSubject));
+    if (AnswerOf(question.kind).oral) paragraphs.push_back(strings.Text(text_id::kOralSubject));
   }
   char16_t letter = u'A';
   for (const std::u16string& option : question.options) {

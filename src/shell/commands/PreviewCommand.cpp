@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/commands/PreviewCommand.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "platform/PageStore.h"
 #include "render/PreviewPaths.h"
 

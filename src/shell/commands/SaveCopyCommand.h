@@ -2,7 +2,7 @@
 #pragma once
 
 #include "editor/AttachmentEditor.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 
 namespace quorvantis {
 

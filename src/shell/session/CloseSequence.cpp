@@ -3,7 +3,7 @@
 
 #include "editor/WorkCopies.h"
 #include "examfile/WorkFolder.h"
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 
 namespace quorvantis {
 

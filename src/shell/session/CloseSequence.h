@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/ExamEditor.h"
+#include "model/document/FrameSetExam.h"
 #include "shell/office/OfficeControl.h"
 
 namespace quorvantis {

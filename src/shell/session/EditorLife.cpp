@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/session/EditorLife.h"
 
-#include "platform/ExamServices.h"
+#include "model/document/ExamServices.h"
 #include "recovery/RecoveryFolder.h"
 #include "shell/session/CloseSequence.h"
 #include "shell/settings/FileSettings.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "model/FrameSetExam.h"
+#include "model/document/FrameSetExam.h"
 
+#include <algorithm>
 #include <set>
 
 namespace quorvantis {
@@ -39,6 +40,10 @@ void FrameSetExam::PrefixAttachmentPaths(int on) {
       if (--prefixed->second == 0) previewPrefixes.erase(prefixed);
     }
   }
+}
+
+bool FrameSetExam::IsPath(const std::u16string& entry) const {
+  return std::ranges::find(displayNamesAmongPaths, entry) == displayNamesAmongPaths.end();
 }
 
 std::u16string FrameSetExam::PathOnPages(const std::u16string& path) const {

@@ -78,6 +78,11 @@ class FrameSetExam : public ExamPaper {
   /// Preview and its end need not be balanced.
   void PrefixAttachmentPaths(int on);
 
+  /// False for a display name that stands among the exam's paths (see `displayNamesAmongPaths`). It comes
+  /// from whoever wrote the exam file, so it must never be opened, linked or copied: it may name any file of
+  /// this machine. Whoever takes an entry of `examAttachmentPaths` for a file asks here first.
+  bool IsPath(const std::u16string& entry) const;
+
   /// `path` as pages see it. Paths of up to three characters have no prefixes.
   std::u16string PathOnPages(const std::u16string& path) const;
 

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+// The kinds of questions, one row a kind. Code that asks what a kind has takes it from here; a switch over
+// QuestionKind is for what each kind does in a way of its own, and has no default, so that the compiler names
+// it when there is a new kind.
+#pragma once
+
+#include "model/ExamFields.h"
+#include "model/ExamQuestion.h"
+
+#include <iterator>
+#include <string_view>
+
+namespace quorvantis {
+
+/// Where the answer of a question stands: what the window shows for it and what a file keeps of it.
+struct AnswerParts {
+  bool options = false;  ///< the options with their ticks
+  bool fillIn = false;   ///< the fill-in answer
+  bool essay = false;    ///< the essay answer
+  bool oral = false;     ///< nowhere: it is given aloud, and the question has the oral toggle
+};
+
+struct KindRow {
+  QuestionKind kind;
+  std::string_view name;  ///< in JSON
+  std::string_view word;  ///< in scripts
+  AnswerParts answer;
+
+  /// Whether a question of this kind keeps a field when it goes through an exam file.
+  constexpr bool Keeps(ExamFieldName field) const {
+    switch (field) {
+      case ExamFieldName::Options:
+      case ExamFieldName::AnswerMask:
+        return answer.options;
+      case ExamFieldName::FillInAnswer:
+        return answer.fillIn;
+      case ExamFieldName::EssayAnswer:
+        return answer.essay;
+      default:
+        return true;
+    }
+  }
+};
+
+/// In the order of their numbers.
+inline constexpr KindRow kQuestionKinds[] = {
+    {QuestionKind::Choice, "Choice", "choice", {.options = true}},
+    {QuestionKind::FillIn, "FillIn", "fillin", {.fillIn = true}},
+    {QuestionKind::Essay, "Essay", "essay", {.essay = true}},
+    {QuestionKind::Oral, "Oral", "oral", {.oral = true}},
+};
+
+/// Whether it is one of ours; files can hold any number.
+constexpr bool IsKnown(QuestionKind kind) {
+  switch (kind) {
+    case QuestionKind::Choice:
+    case QuestionKind::FillIn:
+    case QuestionKind::Essay:
+    case QuestionKind::Oral:
+      return true;
+  }
+  return false;
+}
+
+static_assert(
+    [] {
+      for (std::size_t i = 0; i < std::size(kQuestionKinds); ++i) {
+        if (kQuestionKinds[i].kind != static_cast<QuestionKind>(i) || !IsKnown(kQuestionKinds[i].kind))
+          return false;
+      }
+      return !IsKnown(static_cast<QuestionKind>(std::size(kQuestionKinds)));
+    }(),
+    "a row for every kind, in the order of their numbers");
+
+/// The row of a kind; null for a number that is none of ours.
+constexpr const KindRow* FindKind(QuestionKind kind) {
+  return IsKnown(kind) ? &kQuestionKinds[static_cast<std::size_t>(kind)] : nullptr;
+}
+
+/// The answer of a kind; a number that is none of ours has none.
+constexpr AnswerParts AnswerOf(QuestionKind kind) {
+  const KindRow* row = FindKind(kind);
+  return row != nullptr ? row->answer : AnswerParts();
+}
+
+}  // namespace quorvantis
