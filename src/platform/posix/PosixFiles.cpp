@@ -53,9 +53,8 @@ class ScratchFile {
     for (int i = 0; i < kTries; ++i) {
       const fs::path path =
           folder / ("." + stem + "." + std::to_string(::getpid()) + "-" + std::to_string(i) + ".tmp");
-      auto leftover = std::make_unique<Leftover>(path);  // before: the signal may come while it is opened
       FileDescriptor descriptor(::open(path.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0666));
-      if (descriptor.IsOpen()) return ScratchFile(path, std::move(descriptor), std::move(leftover));
+      if (descriptor.IsOpen()) return ScratchFile(path, std::move(descriptor));
       if (errno != EEXIST) break;
     }
     return std::nullopt;
@@ -82,8 +81,10 @@ class ScratchFile {
   }
 
  private:
-  ScratchFile(fs::path path, FileDescriptor descriptor, std::unique_ptr<Leftover> leftover)
-      : path_(std::move(path)), descriptor_(std::move(descriptor)), leftover_(std::move(leftover)) {}
+  ScratchFile(fs::path path, FileDescriptor descriptor)
+      : path_(std::move(path)),
+        descriptor_(std::move(descriptor)),
+        leftover_(std::make_unique<Leftover>(path_)) {}
 
   fs::path path_;
   FileDescriptor descriptor_;
