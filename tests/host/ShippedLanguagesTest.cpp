@@ -101,5 +101,19 @@ TEST(LanguageFile, FaultsAreToldWithTheirLine) {
   EXPECT_THROW(language::ReadLanguageFile(nameless), language::LanguageFileError);
 }
 
+TEST(LanguageFile, ExceptionsAreExact) {
+  language::LanguageFile file;
+  file.texts = {{{0, 1}, "a"}, {{7, 1}, "b"}};
+  const auto replace = [&file](const std::string& exceptions) {
+    std::istringstream in(exceptions);
+    language::ReplaceTexts(file, in);
+  };
+  EXPECT_THROW(replace("[strings]\n1 = a"), language::LanguageFileError) << "no difference";
+  EXPECT_THROW(replace("[strings]\n7 = c"), language::LanguageFileError) << "no such text";
+  replace("[dialog 7]\n1 = c");
+  EXPECT_EQ(file.texts.at({0, 1}), "a");
+  EXPECT_EQ(file.texts.at({7, 1}), "c");
+}
+
 }  // namespace
 }  // namespace quorvantis::test
