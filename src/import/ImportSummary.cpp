@@ -154,7 +154,7 @@ class Summary {
       const auto first = std::ranges::find(dropped, key, &DroppedPart::key);
       if (first == dropped.end()) continue;
       const auto count = static_cast<std::size_t>(std::ranges::count(dropped, key, &DroppedPart::key));
-      Say(text_id::kPartsLeftOut, {Text(count), key, Text(count), first->text});
+      Say(text_id::kPartsLeftOut, {Text(count), key, first->text});
     }
   }
 
