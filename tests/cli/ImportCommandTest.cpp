@@ -120,7 +120,7 @@ TEST_F(ImportCommand, TellsWhatWasNotRecognised) {
       "2 questions read: 1 choice, 0 true/false, 0 fill-in, 1 essay.\n"
       "1 part of the paper was left out because the rule \"PreAnswer\" matched nothing there; it begins: "
       "lost\n"
-      "The paper itself holds \"#####\", which import takes for a mark of its own.\n");
+      "The paper itself contains \"#####\", which the import takes for one of its own markers.\n");
   EXPECT_EQ(ReadText(folder / "m"), "#####!!!!!q1@@@@@B!!!!!lost\n!!!!!2@@@@@x");
   EXPECT_EQ(ReadText(folder / "t"), "#####Q;q1A;BQ;lost\nQ;2A;x");
 }
@@ -134,8 +134,7 @@ TEST_F(ImportCommand, FailsWithOneLineAndWritesNothing) {
     EXPECT_FALSE(fs::exists(folder / "exam.exm"));
   };
   const std::string good = Rules("Q;", ".+");
-  refused("\"PreQuestion\" in ImportExam.ini never comes to an end", Rules("Q?", ".+"),
-          {"--repository", "#0"});
+  refused("\"PreQuestion\" in ImportExam.ini never ends", Rules("Q?", ".+"), {"--repository", "#0"});
   refused("no repository begins with \"x\"; it has \"Math\", \"math2\"", good, {"--repository", "x"});
   refused("section 1 needs the keys", good, {"--repository", "Math"});  // the later one is found first
   refused("section 3 needs the keys", good, {"--repository", "#3"});
@@ -145,7 +144,7 @@ TEST_F(ImportCommand, FailsWithOneLineAndWritesNothing) {
   WriteBytes(folder / "a.doc", "");
   ExpectFailure(
       Command({"import", Path("a.doc"), Path("b"), "--rules", Path("rules.ini"), "--repository", "#0"}),
-      "a.doc: is no document that can be imported");
+      "a.doc is not a document that can be imported");
   EXPECT_EQ(Import("x", {"--repository", "#0", "--after", "1"}).status, 2);
   EXPECT_EQ(Import("x", {"--repository", "#0", "--into", Path("in.exm"), "--after", "0x10"}).status, 2);
   refused("exam.exm: cannot be written twice", good, {"--repository", "#0", "--text", Path("./exam.exm")});
@@ -165,7 +164,7 @@ TEST_F(ImportCommand, ContinuesAnExam) {
   EXPECT_EQ(Import("Q;newA;B", {"--repository", "#0", "--into", Path("in.exm"), "--after", "2"}).out,
             "1 question read: 0 choice, 0 true/false, 0 fill-in, 1 essay.\n"
             "It is question 3 of the exam.\n"
-            "A question that was there before and is replaced or gone: 4.\n"
+            "Earlier question replaced or removed: 4.\n"
             "Files of earlier questions are still attached to question 3.\n");
   // The slot after the imported ones gets what the first of them held.
   EXPECT_EQ(Questions(), "essay: one old\nessay: two old\nessay: new B\nessay: three old\nessay: five old\n");
@@ -173,7 +172,8 @@ TEST_F(ImportCommand, ContinuesAnExam) {
 
 TEST_F(ImportCommand, AsksAboutPicturesInAnswers) {
   const std::string paper = "Q;firstA;1.bmpQ;see ../../x.bmp 2.bmpA;bQ;thirdA;3.bmp";
-  EXPECT_NE(Import(paper).err.find("question 2: the attached file ../../x.bmp is gone"), std::string::npos);
+  EXPECT_NE(Import(paper).err.find("question 2: the attached file ../../x.bmp is missing"),
+            std::string::npos);
   EXPECT_EQ(Questions(),
             "essay: first 1.bmp\nessay: see ../../x$$ 2$$ b\n"
             "essay: third 3.bmp(Can not show the picture)\n");
@@ -192,7 +192,7 @@ TEST_F(ImportCommand, AsksAboutPicturesInAnswers) {
 TEST_F(ImportCommand, WritesItsTextsWhenARuleFails) {
   WriteBytes(folder / "rules.ini", Rules("Q;", ".+") + "[2]\nPattern=x\nPreQuestion=Q;\nPreAnswer=@|A;\n");
   ExpectFailure(Import("Q;aA;b", {"--repository", "#2", "--text", Path("t"), "--marked", Path("m")}),
-                "\"PreAnswer\" in ImportExam.ini never comes to an end");
+                "\"PreAnswer\" in ImportExam.ini never ends");
   EXPECT_EQ(ReadText(folder / "t"), "Q;aA;b");
   EXPECT_NE(ReadText(folder / "m").find('@'), std::string::npos);
 }
@@ -252,7 +252,7 @@ TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
       "A picture that could not be read (of an unknown kind): 2 of question 3.\n"
       "1 formula cannot be kept; \"##\" stands in its place.\n"
       "Question 1 is imported as it is, with the names of its pictures in its texts: an import that begins "
-      "with question 1 does not look at the pictures and formulas of its first question.\n");
+      "with question 1 does not check the pictures and formulas of its first question.\n");
   EXPECT_EQ(Questions(),
             "essay: see 1.bmp there yes\nessay: two ##\nessay: lost  2.bmp(Can not show the picture) \n");
   // The first question of a new exam is never looked at.
