@@ -15,7 +15,7 @@ void AddSources(const FrameSetExam& exam, const AttachmentList& paths, const Att
                 bool muted) {
   for (std::size_t i = 0; i < paths.size(); ++i) {
     const std::filesystem::path file = TextToPath(paths[i]).lexically_normal();
-    if (!file.is_absolute()) continue;  // names that got among the paths, and files of students
+    if (!file.is_absolute()) continue;  // names among the paths, and files of students
     const std::u16string path = exam.PathOnPages(paths[i]);
     for (const std::u16string_view source : {RelativeSource(path), PlayerSource(path)}) {
       exam.Services().pages.AddSource({std::u16string(source), file, names[i], muted});
