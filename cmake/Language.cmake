@@ -1,9 +1,9 @@
-# Language libraries: dynamic libraries with the texts and pictures of one language, built from a text file. And the texts
-# that the program carries itself, made from the same file.
+# Language libraries: dynamic libraries with the texts and pictures of one language, built from a text file. And the
+# built-in texts, made from the same file.
 
 set(QUORVANTIS_LANGUAGE_FOLDER "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/language/Quorvantis")
 
-# Fills OUT with the name of a source file that embeds every bitmap of cmake/Bitmaps.cmake.
+# Stores in OUT the name of a source file that embeds every bitmap of cmake/Bitmaps.cmake.
 function(quorvantis_bitmap_table out)
   get_property(names GLOBAL PROPERTY QUORVANTIS_BITMAPS)
   set(embedded "")
