@@ -11,7 +11,7 @@
 
 namespace quorvantis {
 
-/// Writes the exam as a word processor's document. The exam itself stays as it is, but for its count of
+/// Writes the exam as a word-processor document. The exam itself does not change, except for its count of
 /// questions.
 class ExportCommand {
  public:
@@ -19,10 +19,10 @@ class ExportCommand {
   ExportCommand(FrameSetExam& exam, WordWriter& writer, OfficeControl* office)
       : exam_(exam), writer_(writer), office_(office) {}
 
-  /// What Save As does with the name of a document. Tells the user how it went.
+  /// What Save As does with the name of a document. Tells the user the result.
   void ExportWordDocument(const std::filesystem::path& target);
 
-  /// Asks and tells nothing. Nothing when the document is there; else why it is not, one line for the user.
+  /// Silent. Returns nothing on success, otherwise the reason, in one line for the user.
   std::optional<std::u16string> Write(const std::filesystem::path& target, WordFormat format);
 
  private:

@@ -5,8 +5,8 @@
 
 namespace quorvantis {
 
-/// Whether saving an exam keeps the version before it: the key "Backup" of section "private" in "system.ini",
-/// where 0 stands for no. Without it there are backups.
+/// Whether saving an exam keeps the previous version: the key "Backup" of section "private" in "system.ini";
+/// 0 means no. The default is yes.
 bool KeepsBackups(const std::filesystem::path& applicationFolder);
 
 }  // namespace quorvantis

@@ -8,8 +8,8 @@ namespace quorvantis {
 class CodePage;
 class Files;
 
-/// The folder in which an exam was opened or saved last: key "ExamFolder" of section "files" of "system.ini"
-/// in the application folder.
+/// The folder where an exam was last opened or saved: key "ExamFolder" of section "files" of "system.ini" in
+/// the application folder.
 class ExamFolderSetting {
  public:
   /// All must outlive this. `codePage` is that of a file in 8-bit text.
@@ -19,7 +19,7 @@ class ExamFolderSetting {
   /// Empty when there is none; the folder itself may be gone.
   std::filesystem::path Read() const;
 
-  /// What cannot be written is not kept.
+  /// Failing to write it is ignored.
   void Write(const std::filesystem::path& folder) const;
 
  private:
