@@ -12,13 +12,13 @@ namespace quorvantis::cli {
 /// The question editor of the window, driven by script lines instead of clicks.
 class EditSession : private EditorView {
  public:
-  /// `importRules` is the file with the repositories; that of the application folder, or the one beside the
-  /// program, without it.
+  /// `importRules` is the file with the repositories; by default that of the application folder, or the one
+  /// beside the program.
   EditSession(Console& console, const CommonOptions& options, const std::filesystem::path& importRules = {});
   /// Removes the work copies, as the window does when it ends.
   ~EditSession() override;
 
-  /// From now on each line leaves a recovery copy of what is not saved.
+  /// From now on each line leaves a recovery copy of unsaved work.
   void KeepRecovery();
 
   /// Runs one line. Throws CommandError when its command is unknown, has wrong arguments or fails.
@@ -35,7 +35,7 @@ class EditSession : private EditorView {
   Console& Streams() { return session_.console; }
   const StringTable& Texts() { return session_.services.strings; }
 
-  /// The window has been closed: nothing but its state can be asked for.
+  /// The window has been closed: only its state can be queried.
   void Close() { closed_ = true; }
 
  private:
@@ -51,7 +51,7 @@ class EditSession : private EditorView {
   ScriptedImport importAnswers_;
   ImportCommand import_;
   std::optional<RecoveryKeeper> recovery_;
-  bool recoveryFails_ = false;  ///< and this has been told
+  bool recoveryFails_ = false;  ///< and this has been reported
   bool closed_ = false;
 };
 

@@ -5,7 +5,7 @@
 
 namespace quorvantis::cli {
 
-/// An editor on a loaded exam that nobody looks at.
+/// An editor without a view, on a loaded exam.
 class UnseenEditor : private EditorView {
  public:
   /// `exam` must outlive it.
