@@ -1,6 +1,6 @@
 # The bitmaps of the buttons, rendered from the drawings in assets/.
 #
-# Every bitmap has a resource name, by which language libraries offer it too, and lies as <name>@1x.png and
+# Every bitmap has a resource name, also used in language libraries, and is built as <name>@1x.png and
 # <name>@2x.png in ${PROJECT_BINARY_DIR}/bitmaps: with one and two bitmap pixels to a layout pixel. The global property
 # QUORVANTIS_BITMAPS lists the names; the target `bitmaps` renders them all. The spelling of the names is fixed.
 

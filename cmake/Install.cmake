@@ -1,6 +1,6 @@
-# What "cmake --install" puts where, and the Debian package.
+# What "cmake --install" installs and where, and the Debian package.
 #
-# Programs look for their resources beside themselves, so all of the application lies in one folder, to which links in
+# Programs look for their resources beside themselves, so the whole application is in one folder, to which links in
 # the folder for programs lead.
 
 include(GNUInstallDirs)

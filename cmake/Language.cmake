@@ -1,8 +1,9 @@
-# Language libraries: dynamic libraries with the texts and pictures of one language, built from a text file.
+# Language libraries: dynamic libraries with the texts and pictures of one language, built from a text file. And the
+# built-in texts, made from the same file.
 
 set(QUORVANTIS_LANGUAGE_FOLDER "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/language/Quorvantis")
 
-# Fills OUT with the name of a source file that embeds every bitmap of cmake/Bitmaps.cmake.
+# Stores in OUT the name of a source file that embeds every bitmap of cmake/Bitmaps.cmake.
 function(quorvantis_bitmap_table out)
   get_property(names GLOBAL PROPERTY QUORVANTIS_BITMAPS)
   set(embedded "")
@@ -54,4 +55,17 @@ function(quorvantis_language name source)
     PREFIX "" SUFFIX ".dll" CXX_VISIBILITY_PRESET hidden LIBRARY_OUTPUT_DIRECTORY "${QUORVANTIS_LANGUAGE_FOLDER}")
   add_dependencies(languages ${name})
   set_property(GLOBAL APPEND PROPERTY QUORVANTIS_LANGUAGES ${name})
+endfunction()
+
+# Adds the built-in texts to TARGET: those of english.ini, with the exceptions of built-in.ini.
+function(quorvantis_built_in_texts target)
+  set(languages "${PROJECT_SOURCE_DIR}/languages")
+  set(table "${CMAKE_CURRENT_BINARY_DIR}/BuiltInTexts.cpp")
+  add_custom_command(
+    OUTPUT "${table}"
+    COMMAND language-compiler "${languages}/english.ini" "${languages}/built-in.ini" "${table}"
+    DEPENDS language-compiler "${languages}/english.ini" "${languages}/built-in.ini"
+    COMMENT "Compiling the built-in texts"
+    VERBATIM)
+  target_sources(${target} PRIVATE "${table}")
 endfunction()

@@ -5,7 +5,7 @@
 # Code includes a header as "folder/Header.h". Each layer gets an include root of its own that holds nothing but
 # links to its own headers, so an include against the direction of the architecture does not compile.
 
-# Fills OUT with the include root of FOLDER after making it anew.
+# Recreates the include root of FOLDER and stores its path in OUT.
 function(quorvantis_include_root folder out)
   string(REPLACE "/" "_" name "${folder}")
   set(root "${PROJECT_BINARY_DIR}/include/${name}")

@@ -8,9 +8,9 @@ set(CPACK_PACKAGE_CONTACT "The Quorvantis developers <developers@quorvantis.inva
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION education)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Loaded when it is needed, so that the programs do not tell of it.
+# Loaded on demand, so the programs do not depend on it visibly.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS libgd3)
-# Found by running them, so no library tells of these. Without them the program works, but shows and imports less.
+# Run as programs, so no library depends on them. Without them the program works, but shows and imports less.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "libreoffice-writer-nogui | libreoffice-writer, libreoffice-calc-nogui | libreoffice-calc, \
 libreoffice-impress-nogui | libreoffice-impress, libreoffice-math-nogui | libreoffice-math, poppler-utils, ffmpeg, \

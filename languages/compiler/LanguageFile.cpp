@@ -25,9 +25,25 @@ std::string_view Trim(std::string_view text) {
 /// Reads the file line by line and knows where it is.
 class LineReader {
  public:
-  explicit LineReader(std::istream& in) : in_(in) {}
+  explicit LineReader(std::istream& in, const LanguageFile* base = nullptr) : in_(in), base_(base) {}
 
   LanguageFile Read() {
+    ReadLines();
+    if (!hasIdentifier_)
+      Fail("there is no identifier; \"[language]\" with \"id = 0x....\" below it is missing");
+    if (!file_.texts.contains({0, kLanguageName})) Fail("string 158, the name of the language, is missing");
+    return std::move(file_);
+  }
+
+  std::map<LanguageFile::Place, std::string> ReadExceptions() {
+    ReadLines();
+    return std::move(file_.texts);
+  }
+
+ private:
+  enum class Section { None, Language, Texts };
+
+  void ReadLines() {
     for (std::string line; std::getline(in_, line);) {
       ++number_;
       CheckEncoding(line);
@@ -35,14 +51,7 @@ class LineReader {
       if (number_ == 1 && text.starts_with(kUtf8Mark)) text.remove_prefix(kUtf8Mark.size());
       TakeLine(Trim(text));
     }
-    if (!hasIdentifier_)
-      Fail("there is no identifier; \"[language]\" with \"id = 0x....\" below it is missing");
-    if (!file_.texts.contains({0, kLanguageName})) Fail("string 158, the name of the language, is missing");
-    return std::move(file_);
   }
-
- private:
-  enum class Section { None, Language, Texts };
 
   [[noreturn]] void Fail(const std::string& problem) const { throw LanguageFileError(number_, problem); }
 
@@ -99,8 +108,15 @@ class LineReader {
   }
 
   void TakeText(std::string_view key, std::string_view value) {
-    const bool isNew = file_.texts.try_emplace({dialog_, Number(key)}, Unescape(value)).second;
+    const auto [text, isNew] = file_.texts.try_emplace({dialog_, Number(key)}, Unescape(value));
     if (!isNew) Fail("there is a text of number " + std::string(key) + " already");
+    if (base_ != nullptr) CheckException(*text);
+  }
+
+  void CheckException(const std::pair<const LanguageFile::Place, std::string>& exception) const {
+    const auto text = base_->texts.find(exception.first);
+    if (text == base_->texts.end()) Fail("no exception: the language has no text of this number");
+    if (text->second == exception.second) Fail("no exception: the language has the same text");
   }
 
   int Number(std::string_view digits, int base = 10) const {
@@ -143,6 +159,7 @@ class LineReader {
   }
 
   std::istream& in_;
+  const LanguageFile* base_;  ///< of which texts are exceptions; may be null
   int number_ = 0;
   LanguageFile file_;
   Section section_ = Section::None;
@@ -154,6 +171,12 @@ class LineReader {
 
 LanguageFile ReadLanguageFile(std::istream& in) {
   return LineReader(in).Read();
+}
+
+void ReplaceTexts(LanguageFile& file, std::istream& exceptions) {
+  for (auto& [place, text] : LineReader(exceptions, &file).ReadExceptions()) {
+    file.texts.at(place) = std::move(text);
+  }
 }
 
 }  // namespace quorvantis::language

@@ -35,4 +35,8 @@ class LanguageFileError : public std::runtime_error {
 /// Reads a whole file. Throws LanguageFileError at the first line that makes no sense.
 LanguageFile ReadLanguageFile(std::istream& in);
 
+/// Puts the texts of a second file in place of those of `file`. Throws LanguageFileError at the first one
+/// that `file` lacks or has in the same words; so a list of exceptions stays exact.
+void ReplaceTexts(LanguageFile& file, std::istream& exceptions);
+
 }  // namespace quorvantis::language

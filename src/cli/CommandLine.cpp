@@ -20,7 +20,7 @@ namespace {
 constexpr int kCommandFailed = 1;
 constexpr int kWrongUsage = 2;
 
-/// What the options of all commands are bound to.
+/// The variables that options are bound to.
 struct ParsedArguments {
   CommonOptions common;
   std::filesystem::path input;
@@ -34,13 +34,13 @@ struct ParsedArguments {
   ImportRequest import;
   MatchRequest match;
   std::vector<ScoreStep> scoreSteps;
-  std::set<const CLI::Option*> mayBeEmpty;  ///< options of which an empty text is a value like any other
+  std::set<const CLI::Option*> mayBeEmpty;  ///< options for which an empty text is a valid value
 };
 
-/// The options of every command; they may stand before the command, too.
+/// The options of every command; they may also precede the command.
 void AddCommonOptions(CLI::App& app, CommonOptions& options) {
   app.add_option("--app-folder", options.appFolder,
-                 "Folder for work files and settings; a private one, removed at the end, without it")
+                 "Folder for work files and settings (default: a private one, removed at the end)")
       ->type_name("DIR");
   const auto takeLanguage = [&options](const std::string& text) {
     options.language = ParseLanguageId(text);
@@ -50,7 +50,7 @@ void AddCommonOptions(CLI::App& app, CommonOptions& options) {
          "--language", takeLanguage,
          "Show texts in the language of this identifier (\"quorvantis-cli languages\" lists them)")
       ->type_name("ID");
-  app.add_flag("--debug", options.debug, "Show debug lines on standard error");
+  app.add_flag("--debug", options.debug, "Show debug output on standard error");
 }
 
 CLI::App* AddCommand(CLI::App& app, ParsedArguments& arguments, const char* name, const char* description) {
@@ -64,7 +64,7 @@ void AddPath(CLI::App& command, const char* name, std::filesystem::path& path, c
   command.add_option(name, path, description)->required()->type_name("");
 }
 
-/// An option that may be empty, which is more than not to be there.
+/// An option that may be empty, which differs from being absent.
 CLI::Option* AddText(CLI::App& command, const char* name, std::optional<std::string>& text,
                      const char* description, const char* type) {
   const auto take = [&text](const std::string& given) { text = given; };
@@ -72,15 +72,15 @@ CLI::Option* AddText(CLI::App& command, const char* name, std::optional<std::str
 }
 
 void AddShow(CLI::App& app, ParsedArguments& arguments, Console& console) {
-  CLI::App* show = AddCommand(app, arguments, "show", "List what is in an exam file");
+  CLI::App* show = AddCommand(app, arguments, "show", "List the content of an exam file");
   AddPath(*show, "EXAM", arguments.input, "Exam file (.exm)");
   show->add_flag("--json", arguments.json, "Print one JSON object");
   show->callback([&] { Show(console, arguments.common, arguments.input, arguments.json); });
 }
 
 void AddBuild(CLI::App& app, ParsedArguments& arguments, Console& console) {
-  CLI::App* build = AddCommand(app, arguments, "build", "Make an exam file from a JSON description");
-  AddPath(*build, "JSON", arguments.input, "Description, like the object that \"show --json\" prints");
+  CLI::App* build = AddCommand(app, arguments, "build", "Make an exam file from JSON");
+  AddPath(*build, "JSON", arguments.input, "JSON file, like the object that \"show --json\" prints");
   AddPath(*build, "OUT", arguments.output, "Exam file to write");
   build->footer(
       "An attached file is {\"path\": \"file relative to the JSON file\", \"name\": \"display name\"}.");
@@ -90,7 +90,7 @@ void AddBuild(CLI::App& app, ParsedArguments& arguments, Console& console) {
 void AddUnpack(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* unpack = AddCommand(app, arguments, "unpack", "Copy the attached files of an exam into a folder");
   AddPath(*unpack, "EXAM", arguments.input, "Exam file (.exm)");
-  AddPath(*unpack, "DIR", arguments.output, "Target folder; made if missing");
+  AddPath(*unpack, "DIR", arguments.output, "Target folder; created if missing");
   unpack->footer("Files go to DIR/exam and DIR/question-007.");
   unpack->callback([&] { Unpack(console, arguments.common, arguments.input, arguments.output); });
 }
@@ -98,12 +98,11 @@ void AddUnpack(CLI::App& app, ParsedArguments& arguments, Console& console) {
 void AddPreview(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* preview = AddCommand(app, arguments, "preview", "Write the pages of an exam's preview");
   AddPath(*preview, "EXAM", arguments.input, "Exam file (.exm)");
-  AddPath(*preview, "DIR", arguments.output, "Application folder for the pages; made if missing");
+  AddPath(*preview, "DIR", arguments.output, "Application folder for the pages; created if missing");
   CLI::Option* student = AddText(*preview, "--student", arguments.student,
                                  "Write the pages of the student with this number instead", "ID");
-  arguments.mayBeEmpty.insert(student);  // it is the number 0
-  preview->add_option("--responses", arguments.responses, "What the student has answered (JSON)")
-      ->type_name("FILE");
+  arguments.mayBeEmpty.insert(student);  // empty means number 0
+  preview->add_option("--responses", arguments.responses, "The student's answers (JSON)")->type_name("FILE");
   preview->footer(
       "Pages go to DIR/TEMP/ExamPreview, those of a student to DIR/~BrelmStudent/ID<number>. Responses are\n"
       "{\"resultScore\": 7.5, \"resultPageOption\": 0, \"responses\": [{\"number\": 1, \"text\": \"ac\", "
@@ -115,17 +114,17 @@ void AddPreview(CLI::App& app, ParsedArguments& arguments, Console& console) {
 }
 
 void AddPrint(CLI::App& app, ParsedArguments& arguments, Console& console) {
-  CLI::App* print = AddCommand(app, arguments, "print", "Write the page of an exam that is printed");
+  CLI::App* print = AddCommand(app, arguments, "print", "Write the page for printing an exam");
   AddPath(*print, "EXAM", arguments.input, "Exam file (.exm)");
-  AddPath(*print, "DIR", arguments.output, "Application folder for DIR/exam_Print.htm; made if missing");
+  AddPath(*print, "DIR", arguments.output, "Application folder for DIR/exam_Print.htm; created if missing");
   print->add_flag("--after-preview", arguments.afterPreview,
                   "Write the preview first, which the print depends on");
   print->callback(
       [&] { Print(console, arguments.common, arguments.input, arguments.output, arguments.afterPreview); });
 }
 
-/// An option that is one more step of the score setup. Read as soon as it is met, so that the steps keep the
-/// order in which options of different names stand on the command line.
+/// An option that is one more step of the score setup. Parsed as soon as it is met, so that steps with
+/// different option names keep their order on the command line.
 void AddScoreStep(CLI::App& score, std::vector<ScoreStep>& steps, const char* name,
                   ScoreStep (*step)(std::string_view), const char* type, const char* description) {
   const auto take = [&steps, name, step](const std::string& text) {
@@ -146,11 +145,12 @@ void AddScore(CLI::App& app, ParsedArguments& arguments, Console& console) {
   const auto value = [](std::string_view text) { return AssignmentStep(ScoreStep::Kind::Score, text); };
   auto& steps = arguments.scoreSteps;
   AddScoreStep(*score, steps, "--mode", ModeStep, "same|custom", "One score for all questions, or ranges");
-  AddScoreStep(*score, steps, "--end", end, "RANGE=QUESTION", "Let a range (1 to 10) end with a question");
+  AddScoreStep(*score, steps, "--end", end, "RANGE=QUESTION", "End a range (1 to 10) with this question");
   AddScoreStep(*score, steps, "--value", value, "RANGE=SCORE", "The score of each question of a range");
   score->footer(
-      "The options act in the order given, as if typed into the score settings of the window, and may be\n"
-      "repeated. Ends cut the neighbouring ranges anew and put scores back, so give ends first.");
+      "Options take effect in the order given, as if typed into the score settings of the window, and may "
+      "be\n"
+      "repeated. Ends re-cut the neighbouring ranges and reset scores, so give ends first.");
   score->callback(
       [&] { Score(console, arguments.common, arguments.input, arguments.output, arguments.scoreSteps); });
 }
@@ -160,17 +160,17 @@ void AddExport(CLI::App& app, ParsedArguments& arguments, Console& console) {
   AddPath(*command, "EXAM", arguments.input, "Exam file (.exm)");
   AddPath(*command, "OUT", arguments.output, "Document to write: .doc, .docx or .pdf");
   command->footer(
-      "The document has the title, the scores and the questions with their options and typed answers.\n"
-      "LibreOffice makes it, so that must be installed.");
+      "The document has the title, the scores, and the questions with their options and typed answers.\n"
+      "Requires LibreOffice.");
   command->callback([&] { Export(console, arguments.common, arguments.input, arguments.output); });
 }
 
 void AddEdit(CLI::App& app, ParsedArguments& arguments, Console& console) {
-  CLI::App* edit = AddCommand(app, arguments, "edit", "Edit an exam by a script");
-  edit->add_option("SCRIPT", arguments.input, "Script file; standard input without it")->type_name("");
+  CLI::App* edit = AddCommand(app, arguments, "edit", "Edit an exam with a script");
+  edit->add_option("SCRIPT", arguments.input, "Script file (default: standard input)")->type_name("");
   edit->add_flag("--recovery", arguments.keepsRecovery,
-                 "After each line, keep a copy of what is not saved in the application folder");
-  edit->footer("One command a line, # begins a comment; a text with blanks or escapes is a JSON string:\n" +
+                 "After each line, keep a copy of unsaved work in the application folder");
+  edit->footer("One command per line; # begins a comment; a text with blanks or escapes is a JSON string:\n" +
                EditCommandHelp());
   edit->callback([&] {
     const bool named = !arguments.input.empty();
@@ -184,7 +184,7 @@ void AddRecover(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::Option* copy =
       recover->add_option("COPY", arguments.recoveryCopy, "Copy to save, as listed")->type_name("");
   CLI::Option* target =
-      recover->add_option("OUT", arguments.output, "Exam file to write; the copy stays")->type_name("");
+      recover->add_option("OUT", arguments.output, "Exam file to write; the copy is kept")->type_name("");
   copy->needs(target);
   recover->footer(
       "Prints a line for each: name, time, number of questions, file and title, with tabs between them. "
@@ -194,16 +194,16 @@ void AddRecover(CLI::App& app, ParsedArguments& arguments, Console& console) {
 }
 
 void AddLanguages(CLI::App& app, ParsedArguments& arguments, Console& console) {
-  CLI::App* languages = AddCommand(app, arguments, "languages", "List the languages that there are");
+  CLI::App* languages = AddCommand(app, arguments, "languages", "List the installed languages");
   languages->footer("One line each: identifier, name, file.");
   languages->callback([&] { ListLanguages(console, arguments.common); });
 }
 
-/// Digits only, where the reader of numbers would take "0x10" and "010" for others.
+/// Digits only: the reader of numbers would accept "0x10" and "010" as other numbers.
 CLI::Validator IsDecimal() {
   const auto check = [](const std::string& text) {
     const bool isDecimal = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
-    return isDecimal ? std::string() : text + " is no number";
+    return isDecimal ? std::string() : text + " is not a number";
   };
   return {check, "", "decimal"};
 }
@@ -211,16 +211,16 @@ CLI::Validator IsDecimal() {
 void AddImportOptions(CLI::App& command, ImportRequest& request) {
   const std::vector<std::string> answers{"give-up", "ignore", "force"};
   command
-      .add_option("--rules", request.rules, "The file ImportExam.ini; the one beside the program without it")
+      .add_option("--rules", request.rules, "The file ImportExam.ini (default: the one beside the program)")
       ->type_name("FILE");
   command
       .add_option("--repository", request.repository,
-                  "What the name of the repository begins with, or # and its section's number")
+                  "The beginning of the repository's name, or # and its section's number")
       ->required()
       ->type_name("NAME");
   CLI::Option* into = command.add_option("--into", request.into, "Continue in this exam")->type_name("EXAM");
   CLI::Option* after =
-      command.add_option("--after", request.after, "The question after which to continue, from 0 on")
+      command.add_option("--after", request.after, "The question after which to continue, from 0")
           ->type_name("N")
           ->check(IsDecimal())
           ->check(CLI::Range(0, kMaxQuestions - 1))
@@ -233,13 +233,13 @@ void AddImportOptions(CLI::App& command, ImportRequest& request) {
       ->type_name("X")
       ->check(CLI::IsMember(answers));
   command.add_flag("--mend-line-ends", request.mendLineEnds,
-                   "End the lines of imported texts as pages show them, with CR LF");
+                   "End the lines of imported texts with CR LF, which pages show whole");
   command.add_option("--marked", request.markedFile, "Also write the marked text")->type_name("FILE");
   command.add_option("--text", request.textFile, "Also write the document's text")->type_name("FILE");
 }
 
 void AddImport(CLI::App& app, ParsedArguments& arguments, Console& console) {
-  // clang-format takes a line that begins with "import" for one of a module.
+  // clang-format mistakes a line that begins with "import" for a module import.
   CLI::App* command = AddCommand(app, arguments, "import", "Make an exam from a question paper, by rules");
   AddPath(*command, "DOCUMENT", arguments.import.document,
           "Question paper: .doc, .docx, .odt, .rtf, .txt or .md");
@@ -258,14 +258,14 @@ void AddMatch(CLI::App& app, ParsedArguments& arguments, Console& console) {
   MatchRequest& request = arguments.match;
   CLI::Option* pattern = AddText(*match, "PATTERN", request.pattern, "Pattern to try", "");
   add("--flags", request.flags,
-      "Sum of 1 single-line, 2 multi-line, 4 global, 8 ignore case,\n16 right-to-left, 32 extended; 3 "
-      "without it",
+      "Sum of 1 single-line, 2 multi-line, 4 global, 8 ignore case,\n16 right-to-left, 32 extended; "
+      "default 3",
       "N")
       ->check(CLI::Range(0, 63));
   add("--start", request.start, "Where the scan begins, in UTF-16 units", "N");
   CLI::Option* text = AddText(*match, "--text", request.text, "Text to search", "TEXT");
   CLI::Option* file =
-      add("--text-file", request.textFile, "File with the text; standard input without it", "FILE");
+      add("--text-file", request.textFile, "File with the text (default: standard input)", "FILE");
   CLI::Option* batch = add("--batch", request.batch,
                            "File with a {\"pattern\": …, \"flags\": …, \"text\": …} on each line", "FILE");
   text->excludes(file)->excludes(batch);
@@ -278,8 +278,8 @@ void AddMatch(CLI::App& app, ParsedArguments& arguments, Console& console) {
   });
 }
 
-/// An argument left empty is a slip of the script that gives it, an unset variable most likely. It must not
-/// mean that there is none, or the current folder.
+/// An empty argument is a mistake in the calling script, most likely an unset variable. It must not count as
+/// absent, or as the current folder.
 void RefuseEmptyArguments(CLI::App& command, const std::set<const CLI::Option*>& mayBeEmpty) {
   const auto refuse = [](const std::string& value) { return std::string(value.empty() ? "is empty" : ""); };
   for (CLI::Option* option : command.get_options()) {
@@ -289,8 +289,8 @@ void RefuseEmptyArguments(CLI::App& command, const std::set<const CLI::Option*>&
   for (CLI::App* subcommand : command.get_subcommands({})) RefuseEmptyArguments(*subcommand, mayBeEmpty);
 }
 
-/// The arguments from the last to the first, as the parser takes them. It would let "--name=" take the next
-/// argument for its value, so that is given an empty one.
+/// The arguments in reverse order, as the parser wants them. It would take the argument after "--name=" as
+/// its value, so that is given an empty one.
 std::vector<std::string> ReversedArguments(int count, const char* const* values) {
   std::vector<std::string> arguments;
   bool optionsEnded = false;

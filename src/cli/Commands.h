@@ -23,18 +23,18 @@ void Build(Console& console, const CommonOptions& options, const std::filesystem
 void Unpack(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
             const std::filesystem::path& folder);
 
-/// What `preview` is asked for.
+/// The arguments of `preview`.
 struct PreviewRequest {
   std::filesystem::path exam;
   std::filesystem::path folder;                    ///< the application folder
-  std::optional<std::string> student;              ///< number of a student, whose pages are written then
-  std::optional<std::filesystem::path> responses;  ///< what the student has answered
+  std::optional<std::string> student;              ///< number of a student, to write that student's pages
+  std::optional<std::filesystem::path> responses;  ///< the student's answers
 };
 
 /// Writes the pages of a preview.
 void Preview(Console& console, const CommonOptions& options, const PreviewRequest& request);
 
-/// Writes the page that is printed; with `afterPreview` as it is after a preview in the same run.
+/// Writes the page for printing; with `afterPreview`, as it is after a preview in the same run.
 void Print(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
            const std::filesystem::path& folder, bool afterPreview);
 
@@ -54,24 +54,24 @@ void Edit(Console& console, const CommonOptions& options, const std::optional<st
           bool keepsRecovery);
 
 /// Lists the recovery copies in the application folder, or, when `copy` is the name of one, saves its exam as
-/// `target`. The copy stays.
+/// `target`. The copy is kept.
 void Recover(Console& console, CommonOptions options, const std::string& copy,
              const std::filesystem::path& target);
 
-/// Lists the language libraries that there are.
+/// Lists the installed language libraries.
 void ListLanguages(Console& console, const CommonOptions& options);
 
-/// What `import` is asked for.
+/// The arguments of `import`.
 struct ImportRequest {
   std::filesystem::path document;
   std::filesystem::path target;
   std::filesystem::path rules;  ///< "ImportExam.ini"
-  std::string repository;       ///< what its name begins with, or "#" and the number of its section
+  std::string repository;       ///< the beginning of its name, or "#" and the number of its section
   std::filesystem::path into;   ///< the exam to continue; empty for a new one
   int after = 0;                ///< the question after which to continue
   std::string pictures;         ///< the answer to a question of the import, empty for none; likewise:
   std::string formulas;
-  bool mendLineEnds = false;         ///< whether imported texts get line ends such as pages show
+  bool mendLineEnds = false;         ///< whether to give imported texts line ends that pages show whole
   std::filesystem::path markedFile;  ///< for the marked text; empty for none
   std::filesystem::path textFile;    ///< for the document's text
 };

@@ -23,7 +23,7 @@ char16_t TakeHexUnit(std::string_view& text) {
   return static_cast<char16_t>(value);
 }
 
-/// The unit for the escape at the front of `text`, behind its backslash.
+/// The unit for the escape at the front of `text`, after its backslash.
 char16_t TakeEscape(std::string_view& text) {
   if (text.empty()) throw CommandError("a JSON string has no end");
   const char escape = text.front();

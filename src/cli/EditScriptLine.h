@@ -18,28 +18,28 @@ class ScriptArgument {
   std::u16string Text() const;
   /// The full path that the argument names, from the current directory on.
   std::filesystem::path Path() const;
-  /// A whole number from 0 on, or nothing.
+  /// A whole number, at least 0, or nothing.
   std::optional<int> Index() const;
 
  private:
   ScriptArgument(std::string word, std::optional<std::u16string> quoted)
       : word_(std::move(word)), quoted_(std::move(quoted)) {}
 
-  std::string word_;  ///< as it stands: a file name need not be valid UTF-8
+  std::string word_;  ///< unchanged: a file name need not be valid UTF-8
   std::optional<std::u16string> quoted_;
 };
 
-/// A line of an editing script, taken apart. An empty `command` is a line without one.
+/// A parsed line of an editing script. An empty `command` is a line without one.
 struct EditScriptLine {
   std::string command;
   std::vector<ScriptArgument> arguments;
 };
 
-/// Takes a line apart; throws CommandError when a JSON string in it is malformed.
+/// Parses a line; throws CommandError if a JSON string in it is malformed.
 EditScriptLine ParseScriptLine(std::string_view line);
 
-/// Takes a JSON string off the front of `text`, which begins with its quote. Unlike most readers this one
-/// lets lone surrogates through ("\ud800"): exams can hold them. Throws CommandError when the string is
+/// Removes a JSON string from the front of `text`, which begins with its quote. Unlike most parsers this one
+/// accepts lone surrogates ("\ud800"): exams can contain them. Throws CommandError when the string is
 /// malformed.
 std::u16string TakeJsonString(std::string_view& text);
 

@@ -37,7 +37,7 @@ void EditSession::OpenExam(const std::filesystem::path& file) {
   session_.RequireUnpacked(file);
 }
 
-/// A script goes on without a recovery copy.
+/// A script continues without a recovery copy.
 void EditSession::TellRecovery() {
   const std::error_code failure = life_.RecoveryFailure();
   if (std::exchange(recoveryFails_, static_cast<bool>(failure)) || !failure) return;

@@ -12,11 +12,11 @@ namespace quorvantis::cli {
 /// The question editor of the window, driven by script lines instead of clicks.
 class EditSession {
  public:
-  /// `importRules` is the file with the repositories; that of the application folder, or the one beside the
-  /// program, without it.
+  /// `importRules` is the file with the repositories; by default that of the application folder, or the one
+  /// beside the program.
   EditSession(Console& console, const CommonOptions& options, const std::filesystem::path& importRules = {});
 
-  /// From now on each line leaves a recovery copy of what is not saved.
+  /// From now on each line leaves a recovery copy of unsaved work.
   void KeepRecovery() { life_.KeepRecovery(); }
 
   /// Runs one line. Throws CommandError when its command is unknown, has wrong arguments or fails.
@@ -33,7 +33,7 @@ class EditSession {
   Console& Streams() { return session_.console; }
   const StringTable& Texts() { return session_.services.strings; }
 
-  /// The window has been closed: nothing but its state can be asked for.
+  /// The window has been closed: only its state can be queried.
   void Close() { closed_ = true; }
 
  private:
@@ -44,7 +44,7 @@ class EditSession {
   EditorLife life_;
   ScriptedImport importAnswers_;
   ImportCommand import_;
-  bool recoveryFails_ = false;  ///< and this has been told
+  bool recoveryFails_ = false;  ///< and this has been reported
   bool closed_ = false;
 };
 

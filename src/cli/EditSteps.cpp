@@ -38,7 +38,7 @@ std::size_t EntryIndex(const ScriptArgument& argument, const ShownAttachments& l
   return static_cast<std::size_t>(*index);
 }
 
-/// The window's file dialogs offer nothing but files that are there.
+/// The window's file dialogs offer only existing files.
 std::filesystem::path ExistingFile(const ScriptArgument& argument) {
   std::filesystem::path file = argument.Path();
   std::error_code error;
@@ -47,7 +47,7 @@ std::filesystem::path ExistingFile(const ScriptArgument& argument) {
   return file;
 }
 
-/// A text over the limit is refused as in the window, where the field would keep its own.
+/// A text over the limit is refused as in the window, where the field would keep its old text.
 void EditField(EditSession& session, FormField field, const ScriptArgument& argument) {
   if (session.Editor().questions.EditField(field, argument.Text())) return;
   const std::u16string limit = FormatInteger(static_cast<std::int64_t>(MaxLength(field)));
@@ -72,7 +72,7 @@ void Attach(EditSession& session, AttachedTo list, const ScriptArgument& argumen
   }
 }
 
-/// The window has the switch for oral questions alone, and shows the flag of the question in hand there.
+/// The window has the switch only for oral questions, and there shows the flag of the current question.
 void SwitchOral(EditSession& session, const Arguments&) {
   ExamEditor& editor = session.Editor();
   if (!AnswerOf(editor.state.CurrentKind()).oral)
@@ -100,7 +100,7 @@ void Save(EditSession& session, const Arguments&) {
   editor.files.SaveExam();
 }
 
-/// Whether Save As does anything with a name.
+/// Whether Save As accepts a name.
 bool IsSaveable(const std::filesystem::path& file) {
   const std::u16string extension = LowerExtension(file);
   return extension == u"exm" || extension == u"doc";

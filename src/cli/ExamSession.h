@@ -22,11 +22,11 @@ namespace quorvantis::cli {
 struct CommonOptions {
   std::filesystem::path appFolder;  ///< empty: a private folder
   bool debug = false;
-  std::optional<int> language = {};  ///< identifier; without one the texts are those of the program itself
+  std::optional<int> language = {};  ///< identifier; without one the texts are the built-in ones
 };
 
-/// One exam document with the world that it lives in while a command runs: an application folder, private and
-/// removed at the end unless one was named, and the services of this machine.
+/// One exam document and its environment while a command runs: an application folder, private and removed at
+/// the end unless one was given, and the services of this machine.
 class ExamSession {
  public:
   /// Throws CommandError when the application folder cannot be used, when another program works in it, or
@@ -36,19 +36,19 @@ class ExamSession {
   ExamSession(const ExamSession&) = delete;
   ExamSession& operator=(const ExamSession&) = delete;
 
-  /// Throws what Load would throw for a file that cannot be opened: a command that makes the application
-  /// folder asks before it makes a session.
+  /// Throws what Load would throw for a file that cannot be opened: for commands that create the application
+  /// folder, before they create a session.
   static void RequireReadable(const std::filesystem::path& file);
 
-  /// Reads an exam file into the document. Throws CommandError when it cannot be opened; what is missing from
-  /// it is told on standard error.
+  /// Reads an exam file into the document. Throws CommandError if it cannot be opened; reports on standard
+  /// error what is missing from it.
   ExamReadOutcome Load(const std::filesystem::path& file);
 
-  /// Throws CommandError when attached files of the exam that was read last are not in the work folder, for
-  /// want of space or of access.
+  /// Throws CommandError if attached files of the exam read last are not in the work folder, for lack of
+  /// space or access.
   void RequireUnpacked(const std::filesystem::path& file) const;
 
-  /// Throws CommandError when one of the pages that were composed last is not in its file.
+  /// Throws CommandError if one of the pages composed last is not in its file.
   void RequireWrittenPages() const;
 
  private:

@@ -46,7 +46,7 @@ void OpenTarget(EditSession& session, const ImportRequest& request) {
     throw CommandError(request.into.string() + ": was not changed");
 }
 
-/// Whatever becomes of the import: what was read is wanted most when it fails.
+/// Even if the import fails: that is when the texts are needed most.
 void WriteTexts(const ImportRequest& request, const ImportReport& report) {
   if (!report.content) return;
   PosixFiles files;
@@ -54,7 +54,7 @@ void WriteTexts(const ImportRequest& request, const ImportReport& report) {
   WriteText(request.markedFile, report.marked.text, files);
 }
 
-/// Imports; throws when nothing was.
+/// Imports; throws if nothing was imported.
 ImportReport RunImport(EditSession& session, const ImportRequest& request) {
   OpenTarget(session, request);
   if (request.into.empty())

@@ -14,12 +14,12 @@ std::ifstream OpenInput(const std::filesystem::path& file);
 /// The whole content of a file. Throws CommandError.
 std::string ReadInput(const std::filesystem::path& file);
 
-/// Throws CommandError when both are the same file: what a command reads it must not overwrite. An empty path
-/// is no file.
+/// Throws CommandError if both are the same file: a command must not overwrite what it reads. An empty path
+/// is not a file.
 void RefuseToOverwrite(const std::filesystem::path& source, const std::filesystem::path& target);
 
-/// Throws CommandError when two of the files that a command writes are the same one, there or not. Empty
-/// paths are no files.
+/// Throws CommandError if two of the files that a command writes are the same, existing or not. Empty paths
+/// are not files.
 void RefuseSameTarget(const std::vector<std::filesystem::path>& targets);
 
 }  // namespace quorvantis::cli

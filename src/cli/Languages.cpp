@@ -30,7 +30,7 @@ LanguageList FindLanguages(const fs::path& applicationFolder) {
   return list;
 }
 
-/// Columns of a terminal that a text takes: two for characters of East Asian scripts.
+/// The terminal columns of a text: two for East Asian characters.
 std::size_t Width(std::u16string_view text) {
   constexpr char16_t kFirstWide = 0x2E80;
   constexpr auto isWide = [](char16_t unit) { return unit >= kFirstWide && !IsLowSurrogate(unit); };

@@ -8,7 +8,7 @@
 
 namespace quorvantis::cli {
 
-/// Tells what the saved exam will not have any more, one line each.
+/// Reports what the saved exam will lose, one line each.
 void TellSavingLosses(const Console& console, const std::filesystem::path& file, const FrameSetExam& exam);
 
 }  // namespace quorvantis::cli

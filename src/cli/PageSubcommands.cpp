@@ -19,7 +19,7 @@ namespace quorvantis::cli {
 namespace fs = std::filesystem;
 namespace {
 
-/// Works in another current folder for a while: the paths of a student are relative to it.
+/// Temporarily changes the current folder: the paths of a student are relative to it.
 class CurrentFolder {
  public:
   explicit CurrentFolder(const fs::path& folder) : before_(fs::current_path()) { fs::current_path(folder); }
@@ -40,7 +40,7 @@ CommonOptions In(const fs::path& folder, CommonOptions options) {
   return options;
 }
 
-/// The writers of pages are silent; a command is not. In the place of showing a page all are looked at.
+/// The writers of pages are silent; a command is not. Instead of showing a page, checks all of them.
 ShowPage CheckPages(const ExamSession& session) {
   return [&session](const fs::path&) { session.RequireWrittenPages(); };
 }
@@ -69,7 +69,7 @@ void AnswerExam(FrameSetExam& exam, const fs::path& file, const nlohmann::json& 
 
 void Preview(Console& console, const CommonOptions& options, const PreviewRequest& request) {
   ExamSession::RequireReadable(request.exam);
-  const fs::path exam = fs::absolute(request.exam);  // before the current folder is another
+  const fs::path exam = fs::absolute(request.exam);  // before the current folder changes
   const nlohmann::json responses =
       request.responses ? ParseJsonFile(*request.responses) : nlohmann::json::object();
   ExamSession session(console, In(request.folder, options));

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::u16string_view kDigits = u"0123456789";
 
-/// A score field would drop other characters one by one, and so make 25 of "2,5".
+/// A score field would drop other characters one by one, and so turn "2,5" into 25.
 bool IsScore(std::u16string_view text) {
   return text.find_first_of(kDigits) != std::u16string_view::npos &&
          text.find_first_not_of(u"0123456789.") == std::u16string_view::npos &&
@@ -23,7 +23,7 @@ bool ShowsRangesAnew(TypedEnd outcome) {
   return outcome == TypedEnd::Reverted || outcome == TypedEnd::Moved || outcome == TypedEnd::Clamped;
 }
 
-/// A user who does one step after the other.
+/// A user who takes one step after the other.
 class ScriptedUser {
  public:
   ScriptedUser(ScoreSetup& setup, const Console& console) : setup_(setup), console_(console) {}

@@ -10,23 +10,23 @@
 
 namespace quorvantis::cli {
 
-/// Something that the user of a score setup does.
+/// One step of a user of the score setup.
 struct ScoreStep {
   enum class Kind { Mode, End, Score };
 
   Kind kind = Kind::Mode;
   int radio = 0;        ///< for a mode
   int range = 0;        ///< 1 to 10, for an end or a score
-  std::u16string text;  ///< what is put into the field of an end or a score
+  std::u16string text;  ///< the text for the field of an end or a score
 };
 
-/// Makes steps of what a user wrote: "same" or "custom", a range and what to type into its field, or both as
-/// "K=V". They throw CommandError when that cannot be read.
+/// Parse what a user wrote into steps: "same" or "custom", a range and the text for its field, or both as
+/// "K=V". They throw CommandError for invalid text.
 ScoreStep ModeStep(std::string_view mode);
 ScoreStep RangeStep(ScoreStep::Kind kind, std::u16string_view range, std::u16string text);
 ScoreStep AssignmentStep(ScoreStep::Kind kind, std::string_view assignment);
 
-/// Goes through the steps in order. What the rules of the setup do not take is told in notes.
+/// Takes the steps in order. Notes report what the rules of the setup refuse.
 void TakeScoreSteps(ScoreSetup& setup, const std::vector<ScoreStep>& steps, const Console& console);
 
 }  // namespace quorvantis::cli

@@ -10,7 +10,7 @@
 namespace quorvantis::cli {
 namespace {
 
-/// Reads an exam to save it again, with long answers as long ones although nobody has edited them.
+/// Reads an exam to save it again, keeping long answers long although nobody has edited them.
 void LoadWhole(ExamSession& session, const std::filesystem::path& file) {
   session.Load(file);
   session.RequireUnpacked(file);

@@ -9,7 +9,7 @@
 namespace quorvantis::cli {
 
 /// The user of a command line: messages go to standard error, questions take the answers that a script has
-/// put ready. A save question without an answer is cancelled, a file dialog without a file is closed, and
+/// prepared. A save question without an answer is cancelled, a file dialog without a file is closed, and
 /// other programs are never closed: Yes/No questions get a No.
 class ScriptedDialogs : public UserDialogs {
  public:

@@ -22,7 +22,7 @@ std::optional<int> SectionNamed(std::u16string_view repository) {
   return FormatInteger(section) == repository ? std::optional(section) : std::nullopt;
 }
 
-/// Enough of them to see what is there, in one line.
+/// Enough names to see what there is, in one line.
 std::string NamesOf(const ExamImport& import) {
   constexpr std::size_t kMostNames = 10;
   constexpr std::size_t kMostCharacters = 40;

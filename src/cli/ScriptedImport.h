@@ -10,8 +10,8 @@
 
 namespace quorvantis::cli {
 
-/// What a command line or a script answers to the questions of an import. A dialog without an answer counts
-/// as closed, which makes a new exam and leaves pictures and formulas as they are.
+/// The answers of a command line or script to the questions of an import. A dialog without an answer counts
+/// as closed, which makes a new exam and leaves pictures and formulas unchanged.
 struct ImportAnswers {
   std::filesystem::path document;
   std::u16string repository;  ///< the beginning of its name, or "#" and the number of its section
@@ -23,7 +23,7 @@ struct ImportAnswers {
 /// "give-up", "ignore" or "force"; an empty word is None. Throws CommandError for others.
 ChoiceResult ChoiceNamed(std::string_view word);
 
-/// The dialogs of an import, answered beforehand.
+/// The dialogs of an import, with prepared answers.
 class ScriptedImport : public ImportDialogs {
  public:
   /// `console`, which gets the messages, must outlive this.

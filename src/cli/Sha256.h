@@ -6,7 +6,7 @@
 
 namespace quorvantis::cli {
 
-/// The SHA-256 of a regular file's content in lower-case hexadecimal; empty when there is no such file.
+/// The SHA-256 of a regular file's content in lower-case hexadecimal; empty if there is no such file.
 std::string Sha256OfFile(const std::filesystem::path& file);
 
 }  // namespace quorvantis::cli

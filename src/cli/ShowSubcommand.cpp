@@ -68,7 +68,7 @@ void PrintAnswer(std::ostream& out, const ExamQuestion& question) {
 }
 
 /// How many ranges apply: none while all questions have the same score, otherwise those before the first one
-/// that is unused or begins behind the last question.
+/// that is unused or begins after the last question.
 std::size_t RangesInUse(const ExamPaper& exam) {
   if (exam.scoreMode == ScoreMode::Same) return 0;
   std::size_t count = 0;

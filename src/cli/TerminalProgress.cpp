@@ -19,7 +19,7 @@ void TerminalProgress::Wait() {
   Show("working...");
 }
 
-/// Goes back to the beginning of the line, so that a message takes its place.
+/// Returns to the beginning of the line, so that a message replaces it.
 void TerminalProgress::Show(const std::string& line) {
   if (!enabled_ || Clock::now() < next_) return;
   shown_ = true;

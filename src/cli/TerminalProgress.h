@@ -9,8 +9,8 @@
 
 namespace quorvantis::cli {
 
-/// A progress line that rewrites itself, for work that takes longer than half a second on a terminal; silent
-/// where standard error is something else.
+/// A progress line that rewrites itself, for work that takes longer than half a second; silent if standard
+/// error is not a terminal.
 class TerminalProgress : public Progress {
  public:
   TerminalProgress(std::ostream& stream, bool isTerminal) : stream_(stream), enabled_(isTerminal) {}

@@ -16,7 +16,7 @@ std::string QuestionFolder(int number) {
   return "question-" + std::string(3 - digits.size(), '0') + digits;
 }
 
-/// Makes a folder that is really there: a link could lead out of the folder that was asked for.
+/// Creates a real folder: a link could lead out of the requested folder.
 void MakeFolder(const fs::path& folder) {
   std::error_code error;
   fs::create_directories(folder, error);
@@ -25,7 +25,7 @@ void MakeFolder(const fs::path& folder) {
   }
 }
 
-/// A link in the place of the file would lead out of the folder, too.
+/// A link in place of the file would lead out of the folder, too.
 void CopyInto(const fs::path& folder, const fs::path& file, Files& files) {
   std::error_code error;
   if (!fs::is_regular_file(file, error)) return;  // an attachment without content

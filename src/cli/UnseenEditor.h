@@ -6,7 +6,7 @@
 
 namespace quorvantis::cli {
 
-/// An editor on a loaded exam that nobody looks at.
+/// An editor without a window, on a loaded exam.
 class UnseenEditor {
  public:
   /// `exam` must outlive it.

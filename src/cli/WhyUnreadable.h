@@ -6,7 +6,7 @@
 
 namespace quorvantis::cli {
 
-/// Why a file cannot be read, in words that say what to do; for the end of an error line.
+/// Why a file cannot be read and what to do, for the end of an error line.
 std::string WhyUnreadable(const std::filesystem::path& file);
 
 }  // namespace quorvantis::cli

@@ -10,17 +10,17 @@
 
 namespace quorvantis {
 
-/// The application folder of a run, for this program alone as long as the claim lives.
+/// The application folder of a run, reserved for this program while the claim lives.
 class ApplicationFolderClaim {
  public:
   enum class Problem { None, NoFolder, NotWritable, InUse };
 
-  /// Makes `folder` if it is missing, tries whether it can be written, and locks it.
+  /// Creates `folder` if it is missing, checks that it can be written, and locks it.
   explicit ApplicationFolderClaim(const std::filesystem::path& folder);
 
   Problem WhatIsWrong() const { return problem_; }
 
-  /// Of a problem, in one line of English: the folder, what is wrong, what to do.
+  /// A problem, in one line of English: the folder, what is wrong, what to do.
   std::string Explanation() const;
 
   /// A full path without a separator at its end.

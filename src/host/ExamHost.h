@@ -16,7 +16,7 @@
 
 namespace quorvantis {
 
-/// What an exam document uses in every program of this machine, joined with what the program brings itself.
+/// The services of an exam document on this machine, combined with what the program provides itself.
 class ExamHost {
  public:
   /// The program's part. All must outlive the host.
@@ -37,7 +37,7 @@ class ExamHost {
   const ComposedPages& Pages() const { return pages_; }
   /// Reads papers for the Import command.
   WordDocuments& Papers() { return papers_; }
-  /// Writes what the Export command makes.
+  /// Writes the documents of the Export command.
   WordWriter& Writer() { return writer_; }
 
  private:

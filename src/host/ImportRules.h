@@ -1,17 +1,16 @@
-// SPDX-License-Identifier: MIT
-// The file with the rules of imports: which one a program uses.
+// SPDX-License-Identifier: MIT Finds the file with the import rules.
 #pragma once
 
 #include <filesystem>
 
 namespace quorvantis {
 
-/// The "ImportExam.ini" of the application folder, or, where that has none, the one beside the program. There
-/// may be neither.
+/// The "ImportExam.ini" of the application folder, or, if there is none, the one beside the program. Neither
+/// may exist.
 std::filesystem::path FindImportRules(const std::filesystem::path& applicationFolder);
 
-/// Gives an application folder that is not the program's own a copy of the "ImportExam.ini" there, once, so
-/// that the user can change it. Without either file, or when it cannot be copied, nothing happens.
+/// Copies the program's "ImportExam.ini" once into an application folder elsewhere, so that the user can
+/// change it. Does nothing if there is no such file or it cannot be copied.
 void ProvideImportRules(const std::filesystem::path& programFolder,
                         const std::filesystem::path& applicationFolder);
 

@@ -20,7 +20,7 @@ constexpr std::u16string_view kDigits = u"0123456789";
 constexpr std::u16string_view kAroundNumbers =
     u" \t\r\n\v.,:;()[]\u3000\u3001\u3010\u3011\uFF08\uFF09\uFF0E\uFF1A";
 
-/// 0 for digits that no paper counts with.
+/// 0 for numbers too large for any paper.
 int SmallNumber(std::u16string_view digits) {
   constexpr std::size_t kMostDigits = 4;
   return digits.size() > kMostDigits ? 0 : ParseInteger(digits);
@@ -33,7 +33,7 @@ int NumberOfAnswer(std::u16string_view before, std::u16string_view answer) {
   if (leading > 0) return SmallNumber(answer.substr(0, leading));
   before = before.substr(0, before.find_last_not_of(kAroundNumbers) + 1);
   const std::size_t begin = before.find_last_not_of(kDigits) + 1;
-  // "6-10" is the number of no answer.
+  // "6-10" is not the number of an answer.
   constexpr std::u16string_view kDashes = u"-~\u2013\u2014\uFF0D\uFF5E";
   const bool isRange = begin > 0 && kDashes.find(before[begin - 1]) != kDashes.npos;
   return isRange ? 0 : SmallNumber(before.substr(begin));
@@ -52,7 +52,7 @@ int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSear
   std::u16string rest = GroupText(*found, 0, text);
   Tell(debug, rest);
   RepeatedSearch search(rest, item);
-  std::size_t taken = 0;  // where the last answer stood
+  std::size_t taken = 0;  // where the last answer was
   while (const auto match = search.Find()) {
     std::u16string answer = rest.substr(match->begin, match->Size());
     if (answer.empty()) item.Fail(ImportFailure::Reason::EmptyAnswer);
@@ -76,8 +76,8 @@ void PickJudgementSymbols(const std::vector<std::u16string>& answers, std::u16st
   first = AfterLastDot(answers[0]);
   for (std::size_t i = 1; i < answers.size(); ++i) {
     const std::u16string_view symbol = AfterLastDot(answers[i]);
-    // Deliberate: compared with all of the first answer and not with its symbol, so that of numbered answers
-    // the last one counts, whatever it is. Exams have been made with it.
+    // Deliberate: compared with the whole first answer and not with its symbol, so among numbered answers the
+    // last one counts, whatever it is. Exams have been made this way.
     if (!EqualsIgnoringAsciiCase(symbol, answers[0])) second = symbol;
   }
 }

@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// Pictures in a paper are texts like " 7.bmp " by the time it has been read.
+// SPDX-License-Identifier: MIT Pictures in a paper that has been read are texts like " 7.bmp ".
 #pragma once
 
 #include "model/ExamPaper.h"
@@ -14,20 +13,20 @@ namespace quorvantis {
 /// Whether an answer of the question shows a picture, which an exam cannot.
 bool AnswersHavePictures(const ExamQuestion& question);
 
-/// Whether the question or an answer of it has the name of a picture in its text.
+/// Whether the text of the question or of an answer contains the name of a picture.
 bool ShowsPictures(const ExamQuestion& question);
 
-/// Puts `notice` behind each picture in the question's answers.
+/// Inserts `notice` after each picture in the question's answers.
 void MarkAnswerPictures(ExamQuestion& question, std::u16string_view notice);
 
 /// Whether a formula was left out of the question or its answers.
 bool HasFormula(const ExamQuestion& question);
 
-/// How many places of formulas the texts of the questions from `first` to `last` have.
+/// The number of formula places in the texts of the questions from `first` to `last`.
 std::size_t CountFormulas(const ExamPaper& exam, int first, int last);
 
-/// Takes the pictures out of the question's text, and attaches the first one as its only attachment. Its name
-/// comes from a stranger's document: whatever it says, its file is one in `workRoot`.
+/// Removes the pictures from the question's text, and attaches the first one as its only attachment. Its name
+/// comes from an untrusted document: whatever it is, the file is one in `workRoot`.
 bool AttachTextPicture(ExamQuestion& question, const std::filesystem::path& workRoot);
 
 }  // namespace quorvantis

@@ -36,7 +36,7 @@ void BitmapFile::AppendHeaders(const PixelGrid& pixels, std::size_t pictureBytes
   AppendNumber(8 * kPixelBytes, 2);  // bits of a pixel
   AppendNumber(0, 4);                // not compressed
   AppendNumber(pictureBytes, 4);
-  AppendNumber(0, 4);  // pixels per metre, and the colours of a table that there is not
+  AppendNumber(0, 4);  // pixels per metre, and an empty colour table
   AppendNumber(0, 4);
   AppendNumber(0, 4);
   AppendNumber(0, 4);

@@ -11,8 +11,8 @@ namespace quorvantis {
 /// bottom to the top.
 class BitmapFile {
  public:
-  /// Deliberate: so many zero bytes follow the picture, as in every bitmap file that exams carry; the size in
-  /// the header leaves them out.
+  /// Deliberate: this many zero bytes follow the picture, as in every bitmap file inside exams; the size in
+  /// the header does not count them.
   static constexpr std::size_t kBytesBehindPicture = 14;
 
   explicit BitmapFile(const PixelGrid& pixels);

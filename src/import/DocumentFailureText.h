@@ -14,7 +14,7 @@ namespace quorvantis {
 std::u16string DocumentFailureText(WordResult result, const std::filesystem::path& document,
                                    const StringTable& strings);
 
-/// Why so many pictures could not be read: a part of a sentence.
+/// Why `count` pictures could not be read: a part of a sentence.
 std::u16string PictureFailureText(WordResult result, std::u16string_view count, const StringTable& strings);
 
 }  // namespace quorvantis

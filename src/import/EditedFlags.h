@@ -7,8 +7,8 @@
 
 namespace quorvantis {
 
-/// A flag for each character of a text that is edited, mostly from its beginning to its end. The flags behind
-/// the place of the last edit are kept apart, so that an edit moves few of them.
+/// A flag for each character of a text that is edited, mostly from beginning to end. The flags after the last
+/// edit are kept apart, so an edit moves few of them.
 class EditedFlags {
  public:
   explicit EditedFlags(std::size_t size) : behind_(size, 0) {}
@@ -21,7 +21,7 @@ class EditedFlags {
     return (index < before_.size() ? before_[index] : behind_[Size() - 1 - index]) != 0;
   }
 
-  /// Puts `count` flags that are set in the place of those from `begin` to `end`.
+  /// Replaces the flags from `begin` to `end` by `count` set ones.
   void Replace(std::size_t begin, std::size_t end, std::size_t count) {
     Part(end);
     before_.resize(begin);

@@ -62,7 +62,7 @@ void ImportCommand::MendLineEnds() {
   editor_.state.MarkModified();
 }
 
-/// False when the exam in hand was to be saved first and was not: it must not be lost.
+/// False if the current exam was to be saved first and was not: it must not be lost.
 bool ImportCommand::ConfirmImportTarget() {
   EditorState& state = editor_.state;
   if (state.CurrentQuestion() == 1) return true;
@@ -139,7 +139,7 @@ MarkedText ImportCommand::Mark(const WordReader& reader, const ImportSettings& r
   return marked;
 }
 
-/// Nothing was imported, so the exam becomes what it was, also where a new one had been begun.
+/// Nothing was imported, so the exam is restored, even if a new one had been begun.
 void ImportCommand::EndWithout(const ImportReport& report, std::u16string_view message) {
   const bool wasCancelled = dialogs_.IsCancelled();
   dialogs_.HideWait();
@@ -181,7 +181,7 @@ void ImportCommand::Report(ImportReport& report) {
   dialogs_.ShowReport(report, *this);
 }
 
-/// What the form holds goes to the slot after the imported ones, if there is one.
+/// Stores the form in the slot after the imported ones, if there is one.
 void ImportCommand::GoToLastImported() {
   editor_.questions.MoveFormTo(std::min(nextSlot_, kMaxQuestions));
   if (nextSlot_ <= kMaxQuestions) {
@@ -197,8 +197,8 @@ void ImportCommand::RemoveImported(int question) {
   ++removed_;
 }
 
-/// True when the user wants pictures in answers to be imported as their names. The question that comes first
-/// in a new exam is never looked at, which is deliberate: the base counts as a question of before.
+/// True if the user wants pictures in answers imported as their names. Deliberate: the first question of a
+/// new exam is never checked, since the base counts as an earlier question.
 bool ImportCommand::HandleAnswerPictures() {
   const ExamServices& services = Exam().Services();
   const std::u16string notice = Strings().Text(text_id::kPictureNotice);
@@ -252,7 +252,7 @@ void ImportCommand::HandleFormulas() {
   }
 }
 
-/// What was imported goes, and with it the slot after it. What the slots held before does not come back.
+/// Removes what was imported, and the slot after it. What the slots held before does not come back.
 void ImportCommand::RollbackImport() {
   if (importBase_ == 1) {
     editor_.files.EmptyExam();

@@ -10,9 +10,9 @@
 
 namespace quorvantis {
 
-/// The Import command: asks where questions go and where they come from, reads them into slots, deals with
-/// what the exam cannot show, and can undo it all. One for the window's whole life, since picture numbers go
-/// on from import to import.
+/// The Import command: asks where questions go and where they come from, reads them into slots, handles what
+/// the exam cannot show, and can undo everything. There is one for the window's whole life, since picture
+/// numbers continue from import to import.
 class ImportCommand {
  public:
   /// All must outlive the command. `rules` is the file with the repositories.
@@ -30,12 +30,13 @@ class ImportCommand {
   /// The same, into the slots after `question` (0 to 499) without asking for the target.
   void ImportQuestionsAfter(int question);
 
-  /// From an import on until the user opens another exam, makes a new one or imports again.
+  /// From an import until the user opens another exam, makes a new one or imports again.
   bool CanUndo() const { return before_.IsUsable(); }
-  /// Makes the exam what it was before the import, whatever has been done to it since.
+  /// Restores the exam from before the import, whatever has been done to it since.
   void Undo();
 
-  /// Makes the line ends of the imported questions such as pages show. As long as the import can be undone.
+  /// Fixes the line ends of the imported questions, so that pages show them whole. As long as the import can
+  /// be undone.
   void MendLineEnds();
 
  private:

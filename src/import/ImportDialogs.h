@@ -14,10 +14,10 @@ struct ImportReport;
 /// Where imported questions go.
 enum class ImportTarget { Continue, NewExam };
 
-/// What to do with what an exam cannot show. A dialog that is closed otherwise gives None.
+/// What to do with content that an exam cannot show. None if the dialog is closed in any other way.
 enum class ChoiceResult { None = 0, GiveUp = 1, IgnoreRelated = 2, Force = 3 };
 
-/// The dialogs of an import. Each waits for the user, but the wait window and the report.
+/// The dialogs of an import. Each waits for the user, except the wait window and the report.
 class ImportDialogs {
  public:
   virtual ~ImportDialogs() = default;
@@ -29,17 +29,17 @@ class ImportDialogs {
   virtual ChoiceResult AskFormulas() = 0;
 
   virtual void ShowWait(const std::filesystem::path& document) = 0;
-  /// So many of the document's pictures have been read.
+  /// Reports how many of the document's pictures have been read.
   virtual void ShowPicturesRead(std::size_t done, std::size_t total) = 0;
-  /// Whether the user wants the import to end. Asked often while the wait window shows; it may paint.
+  /// Whether the user has cancelled. Called often while the wait window is shown; it may paint.
   virtual bool IsCancelled() = 0;
   virtual void HideWait() = 0;
 
-  /// A message under a caption of its own.
+  /// A message with its own caption.
   virtual void ShowNotice(std::u16string_view caption, std::u16string_view text) = 0;
-  /// Nothing was imported; one line that tells why. The report has what was read until then.
+  /// Nothing was imported; one line that says why. The report holds what was read until then.
   virtual void ShowFailure(const ImportReport& report, std::u16string_view text) = 0;
-  /// The import is over. It may have changed the exam, and `import`, which outlives the report, can undo it.
+  /// The import is over and may have changed the exam. `import`, which outlives the report, can undo it.
   virtual void ShowReport(const ImportReport& report, ImportCommand& import) = 0;
 };
 

@@ -8,13 +8,13 @@
 
 namespace quorvantis {
 
-/// Why an import ends without a result. Thrown inside of this folder, kept in outcomes beyond it.
+/// Why an import ends without a result. Thrown inside this folder; outside it is part of an outcome.
 struct ImportFailure {
   enum class Reason {
-    Endless,      ///< what replaces a match of the rule is matched by it again, for ever
-    EmptyAnswer,  ///< the rule finds answers that are empty, for ever
-    TooLarge,     ///< a match would take more memory than it may
-    Cancelled,    ///< the user ended it
+    Endless,      ///< the rule matches what replaces its matches, forever
+    EmptyAnswer,  ///< the rule finds empty answers, forever
+    TooLarge,     ///< a match would exceed the memory limit
+    Cancelled,    ///< the user cancelled
   };
   Reason reason;
   std::u16string key;  ///< of the rule in "ImportExam.ini"

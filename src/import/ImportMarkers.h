@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// What stands in a marked text in the place of what the rules recognised.
+// SPDX-License-Identifier: MIT What replaces the matches of rules in a marked text.
 #pragma once
 
 #include <string_view>

@@ -22,27 +22,27 @@ struct PaperContent {
   bool hasNumbersLeftOut = false;  ///< automatic numbers that are not part of the text
 };
 
-/// What an import was, for the user and for whoever looks into it.
+/// What happened in an import, for the user and for whoever examines it.
 struct ImportReport {
-  bool imported = false;  ///< the exam has been changed by what was read; false when the user gave up
+  bool imported = false;  ///< the exam was changed; false if the user gave up
   ImportSettings rules;
   std::optional<PaperContent> content;  ///< nothing when the document could not be read
   MarkedText marked;
   ReadPaper paper;
   int firstSlot = 1;
   int nextSlot = 1;              ///< the one after the last slot written
-  int removed = 0;               ///< questions taken out again, for pictures or formulas
-  std::vector<int> replaced;     ///< numbers of earlier questions that are no more
+  int removed = 0;               ///< questions removed again because of pictures or formulas
+  std::vector<int> replaced;     ///< numbers of earlier questions that are gone
   std::vector<int> filesStayed;  ///< imported questions with attached files of earlier ones
-  int loneLineEnds = 0;          ///< questions with line ends that pages do not show as they are
+  int loneLineEnds = 0;          ///< questions with line ends after which pages drop a character
   std::size_t formulasKept = 0;  ///< places of formulas in the imported questions
-  /// The question with pictures that were not looked at, because an import that begins with question 1 never
-  /// looks at its first one; 0 for none.
+  /// The question whose pictures were not checked, because an import that begins with question 1 never checks
+  /// its first one; 0 for none.
   int questionAsItIs = 0;
 };
 
-/// The report as lines for the user, in the language of `strings`: the first tells what was read, the others
-/// what was not or may surprise.
+/// The report as lines for the user, in the language of `strings`: the first says what was read, the others
+/// what was not, or may surprise.
 std::vector<std::u16string> ImportSummary(const ImportReport& report, const StringTable& strings);
 
 }  // namespace quorvantis

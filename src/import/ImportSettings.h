@@ -5,11 +5,11 @@
 
 namespace quorvantis {
 
-/// The rules of one repository of "ImportExam.ini": what the pieces of a paper look like, as patterns. An
-/// empty pattern is no rule. The members are called as in the import dialog.
+/// The rules of one repository of "ImportExam.ini": patterns for the parts of a paper. An empty pattern is
+/// not a rule. The members have the names of the import dialog.
 struct ImportSettings {
   std::u16string m_strPattern;                 ///< "Pattern": the parts of a question, as named groups
-  std::u16string m_strPreAnswer;               ///< "PreAnswer": what stands before a question's own answer
+  std::u16string m_strPreAnswer;               ///< "PreAnswer": what precedes a question's own answer
   std::u16string m_strPreQuestion;             ///< "PreQuestion": what a question begins with
   std::u16string m_strChoiceAnswerPattern;     ///< "ChoiceAnswerPattern": the key of all choice questions
   std::u16string m_strChoiceAnswer;            ///< "ChoiceAnswer": one answer in it
@@ -20,11 +20,11 @@ struct ImportSettings {
   std::u16string m_strTitle;                   ///< "Title": text to throw away
   std::u16string m_strBmp;                     ///< "Bmp": the place of a question's picture
   std::u16string m_strChoiceBmp;               ///< "ChoiceBmp": the place of a picture among the options
-  std::u16string m_strPreTable;                ///< "PreTable": kept, used by nothing
+  std::u16string m_strPreTable;                ///< "PreTable": kept, but unused
   bool listLabels = false;                     ///< "ListLabels": 1 for papers with automatic numbers
   int m_nTable = 0;                            ///< "Table": 1 for papers that are tables
-  std::u16string m_strTableQuesKey;            ///< "QuestionKey": tells the column of the questions
-  std::u16string m_strTableAnsKey;             ///< "AnswerKey": tells that of the answers
+  std::u16string m_strTableQuesKey;            ///< "QuestionKey": identifies the column of the questions
+  std::u16string m_strTableAnsKey;             ///< "AnswerKey": identifies that of the answers
 };
 
 }  // namespace quorvantis

@@ -65,12 +65,12 @@ class Summary {
     lines_.push_back(FillMessage(strings_.Text(text), values));
   }
 
-  /// Of a text that has first the count of the questions and then their numbers.
+  /// For a text with the count of the questions, then their numbers.
   void SayOfQuestions(int text, const std::vector<int>& questions) {
     if (!questions.empty()) Say(text, {Text(questions.size()), Ranges(questions)});
   }
 
-  /// What is about questions that are in the exam.
+  /// The lines about questions that are in the exam.
   void TellImported() {
     TellAnswerBlocks();
     TellLostPictures();
@@ -122,7 +122,7 @@ class Summary {
     }
   }
 
-  /// In a paper with blocks of answers, answers need not stand with the questions.
+  /// In a paper with blocks of answers, questions need no answers of their own.
   void TellIdleRules() {
     const bool hasBlock = report_.paper.hasChoiceBlock || report_.paper.hasJudgementBlock;
     for (const auto& [key, count] : report_.marked.counts) {
@@ -154,7 +154,7 @@ class Summary {
       const auto first = std::ranges::find(dropped, key, &DroppedPart::key);
       if (first == dropped.end()) continue;
       const auto count = static_cast<std::size_t>(std::ranges::count(dropped, key, &DroppedPart::key));
-      Say(text_id::kPartsLeftOut, {Text(count), key, Text(count), first->text});
+      Say(text_id::kPartsLeftOut, {Text(count), key, first->text});
     }
   }
 

@@ -8,7 +8,7 @@
 namespace quorvantis {
 namespace {
 
-/// Calls `visit` with each text of a question that pages show, and the most that its field takes.
+/// Calls `visit` with each text of a question that pages show, and the size limit of its field.
 template <class Question, class Visit>
 void VisitTexts(Question& question, const Visit& visit) {
   visit(question.text, MaxLength(FormField::Text));

@@ -10,11 +10,11 @@ namespace quorvantis {
 
 constexpr int kNoQuestion = 0;
 
-/// Numbers of pictures by the number of the question in which they stand.
+/// Numbers of pictures by the number of their question.
 using PicturesByQuestion = std::map<int, std::vector<int>>;
 
-/// The pictures of an import that could not be read, by why. Where questions have been taken out again, it
-/// is not known to which question a picture belonged, and it is listed under none.
+/// The pictures of an import that could not be read, by reason. If questions were removed again, a picture's
+/// question is unknown, and it is listed under none.
 std::map<WordResult, PicturesByQuestion> GroupLostPictures(const ImportReport& report);
 
 }  // namespace quorvantis

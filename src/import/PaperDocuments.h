@@ -19,8 +19,8 @@ class TextDocuments : public WordDocuments {
   const CodePage& codePage_;
 };
 
-/// Reads papers of every kind: files named ".txt" or ".md" as text, all others as word processors' documents,
-/// whose content tells which.
+/// Reads papers of every kind: files named ".txt" or ".md" as text, all others as word-processor documents;
+/// their content decides the type.
 class PaperDocuments : public WordDocuments {
  public:
   /// Both must outlive this. `codePage` is that of 8-bit text.

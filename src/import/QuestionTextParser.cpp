@@ -15,23 +15,23 @@ namespace {
 
 constexpr auto kNotFound = std::u16string_view::npos;
 
-/// The answers that stand together at one place of the paper, taken one after the other.
+/// A block of answers, taken one after the other.
 struct AnswerList {
   std::u16string_view key{};  ///< of the rule for one of them
   int found = 0;
   std::vector<std::u16string> answers{};
-  std::vector<int> numbers{};  ///< as they stand in the block; 0 for none
+  std::vector<int> numbers{};  ///< as written in the block; 0 for none
   std::vector<int> places{};   ///< the questions that the answers were given to
 
-  /// The answer for a question of the paper. Empty once there are no more.
+  /// The answer for a question of the paper. Empty if there are no more.
   std::u16string_view TakeFor(int question) {
     const std::size_t index = places.size();
     places.push_back(question);
     return index < answers.size() ? std::u16string_view(answers[index]) : std::u16string_view();
   }
 
-  /// The first answer whose number fits neither its question nor the answer before it. Papers may begin to
-  /// count anew with each part, and one that begins later fits when it has an answer for each question.
+  /// The first answer whose number fits neither its question nor the answer before it. Papers may restart
+  /// their numbers in each part, and later numbers fit if there is an answer for each question.
   std::optional<MisplacedAnswer> FirstMisplaced() const {
     for (std::size_t i = 0; i < std::min(numbers.size(), places.size()); ++i) {
       const int before = i == 0 ? 0 : numbers[i - 1];
@@ -47,26 +47,26 @@ struct AnswerList {
 /// A marked text without ideographic spaces, cut to its questions.
 struct QuestionsOfText {
   std::u16string text;
-  std::u16string lost{};  ///< the beginning of the first question's part that is missing in `text`
+  std::u16string lost{};  ///< the beginning of the first question's part, which `text` lacks
 };
 
-/// Cuts away what comes before the first question, and the answer section.
+/// Removes what precedes the first question, and the answer section.
 QuestionsOfText QuestionPart(std::u16string_view markedText) {
   QuestionsOfText cut{std::u16string(markedText)};
   std::u16string& text = cut.text;
   std::ranges::replace(text, u'\u3000', u' ');
   const std::size_t first = text.find(kQuestionMarker);
-  // Deliberate: without any marker four characters are lost (the place that is not found counts as -1).
+  // Deliberate: without any marker four characters are lost (a missing marker counts as position -1).
   constexpr std::size_t kLostWithoutMarker = 4;
   if (first == kNotFound) cut.lost = text.substr(0, kLostWithoutMarker);
   text.erase(0, first == kNotFound ? kLostWithoutMarker : first + kQuestionMarker.size());
   const std::size_t section = text.find(kAnswerSectionMarker);
-  // Deliberate: the last character survives the cut; it becomes the end of the last question's part.
+  // Deliberate: the last character survives; it becomes the end of the last question's part.
   if (section != kNotFound) text.erase(section, text.size() - section - 1);
   return cut;
 }
 
-/// Takes the part up to the next question marker off the front of `text`, and the marker with it.
+/// Removes the part up to the next question marker, and the marker, from the front of `text`.
 std::u16string_view TakePart(std::u16string_view& text) {
   const std::size_t end = text.find(kQuestionMarker);
   const std::u16string_view part = text.substr(0, end);
@@ -74,7 +74,7 @@ std::u16string_view TakePart(std::u16string_view& text) {
   return part;
 }
 
-/// Of two adjacent markers only the first counts: the search goes on one character behind a marker.
+/// Of two adjacent markers only the first counts: the search continues one character after a marker.
 int CountOptionPictures(std::u16string_view question) {
   int count = 0;
   std::size_t at = question.find(kOptionPictureMarker);
@@ -108,7 +108,7 @@ class Reading {
     FindAnswers(markedText);
     QuestionsOfText cut = QuestionPart(markedText);
     lost_ = std::move(cut.lost);
-    // What stands behind the last marker is a part only when there is something.
+    // The text after the last marker is a part only if it is not empty.
     for (std::u16string_view rest = cut.text; !rest.empty(); lost_.clear()) {
       ++question_;
       ReadPart(TakePart(rest));
@@ -148,7 +148,7 @@ class Reading {
   void ReadPart(std::u16string_view part) {
     std::u16string_view question = part;
     std::u16string_view answer;
-    // A block of answers makes the whole part the question, for questions of every kind.
+    // With a block of answers the whole part is the question, for every kind.
     if (judgement_.found == 0 && choice_.found == 0) {
       const std::size_t marker = part.find(kAnswerMarker);
       if (marker == kNotFound) return Drop(rule_key::kPreAnswer, part);
@@ -161,8 +161,8 @@ class Reading {
     Recognise(*match, question, pictureText, answer);
   }
 
-  /// Counts the pictures of a question, also of one that is dropped later, and cuts the question before its
-  /// own picture. Returns the text that stands for that one.
+  /// Counts the pictures of a question, even of one that is dropped later, and cuts the question before its
+  /// own picture. Returns the text that stands for that picture.
   std::u16string TakePictures(std::u16string_view& question) {
     picture_ += CountOptionPictures(question);
     const std::size_t marker = question.find(kPictureMarker);
@@ -198,8 +198,8 @@ class Reading {
     SetLetters(read, judgement_.TakeFor(question_).find(firstSymbol_) != kNotFound ? u"A" : u"B");
   }
 
-  /// Upper-case letters only, each once and in order. They are stored as they are; whoever reads an exam
-  /// takes either case.
+  /// Upper-case letters only, each once and in order. They are stored as they are; readers of exams accept
+  /// either case.
   static void SetLetters(ReadQuestion& read, std::u16string_view answer) {
     for (std::size_t box = 0; box < kOptionCount; ++box) {
       const auto letter = static_cast<char16_t>(u'A' + box);
@@ -216,8 +216,8 @@ class Reading {
   const ImportSettings& rules_;
   const RuleSearch pattern_;
   int picture_;          ///< number of the next picture
-  int question_ = 0;     ///< number of the part in hand
-  std::u16string lost_;  ///< what the part in hand has lost at its beginning
+  int question_ = 0;     ///< number of the current part
+  std::u16string lost_;  ///< what the current part has lost at its beginning
   DebugOutput& debug_;
   const CancelHook& isCancelled_;
   AnswerList judgement_;

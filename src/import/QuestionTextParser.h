@@ -15,10 +15,10 @@
 
 namespace quorvantis {
 
-/// What a paper shows a question to be. True/false questions are stored as choice questions.
+/// The kind of a question in a paper. True/false questions are stored as choice questions.
 enum class ReadKind { Choice, TrueFalse, FillIn, Essay };
 
-/// A question as it was read: what goes into a slot, and nothing of the slot's other fields.
+/// A question as it was read: only the fields that an import writes into a slot.
 struct ReadQuestion {
   ReadKind kind = ReadKind::Choice;
   std::u16string text;
@@ -28,13 +28,13 @@ struct ReadQuestion {
   std::u16string answer;  ///< of a fill-in or essay question
 };
 
-/// A part of the paper between two question markers that became no question.
+/// A part of the paper between two question markers that did not become a question.
 struct DroppedPart {
   std::u16string_view key;  ///< of the rule that matched nothing in it
   std::u16string text;      ///< its beginning, in one line
 };
 
-/// An answer of a block whose number is not that of the question to which it was given by its order.
+/// An answer of a block that by its order went to a question of another number.
 struct MisplacedAnswer {
   std::u16string_view key;  ///< of the rule that found it
   int number = 0;
@@ -45,15 +45,15 @@ struct MisplacedAnswer {
 struct ReadPaper {
   std::vector<ReadQuestion> questions;
   std::vector<DroppedPart> dropped;
-  bool hasChoiceBlock = false;     ///< the answers of all choice questions stand in one place
-  bool hasJudgementBlock = false;  ///< those of all true/false questions do
+  bool hasChoiceBlock = false;     ///< the answers of all choice questions are in one place
+  bool hasJudgementBlock = false;  ///< those of all true/false questions are
   std::size_t choiceAnswers = 0;   ///< in these blocks
   std::size_t judgementAnswers = 0;
   std::vector<MisplacedAnswer> misplaced;  ///< the first one of each block
-  std::optional<ImportFailure> failure;    ///< there are no questions then
+  std::optional<ImportFailure> failure;    ///< if set, there are no questions
 };
 
-/// Cuts a marked text at its markers into questions and recognises their parts.
+/// Cuts a marked text into questions at its markers, and recognises their parts.
 class QuestionTextParser {
  public:
   /// All must outlive the parser.
@@ -70,7 +70,7 @@ class QuestionTextParser {
 };
 
 /// Writes the questions into slots from `firstSlot` on, as many as there are slots for. Other fields of these
-/// slots stay as they are. Returns the number of the slot after the last one written: at most 501.
+/// slots stay unchanged. Returns the number of the slot after the last one written: at most 501.
 int StoreQuestions(const ReadPaper& paper, ExamPaper& exam, int firstSlot);
 
 }  // namespace quorvantis

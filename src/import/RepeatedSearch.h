@@ -10,7 +10,7 @@
 namespace quorvantis {
 
 /// Searches a text for a rule, again and again while the text changes. Each search finds what a search from
-/// the first character would, but leaves out the starts that fail as before; see FailedStarts.
+/// the first character would, but skips the starts that fail as before; see FailedStarts.
 class RepeatedSearch {
  public:
   /// Both must outlive the search.
@@ -21,7 +21,7 @@ class RepeatedSearch {
     return match ? std::optional<MatchSpan>(*match) : std::nullopt;
   }
 
-  /// The text after the last match that was found is no longer the same from `place` on.
+  /// Since the last match the text has changed, from `place` on.
   void ChangedFrom(std::size_t place) {
     start_ = static_cast<std::size_t>(failed_.ResumeAfterChange(static_cast<int>(place)));
   }

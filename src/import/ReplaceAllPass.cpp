@@ -44,10 +44,9 @@ void ReplaceAllPass::WatchForEnd(const MatchSpan& match) {
     rule_.Fail(ImportFailure::Reason::Endless);
 }
 
-/// Whether all that counted for a match will be there again when the marker is in its place: then the next
-/// search finds the same match. So do all after it. A replacement moves what follows to the right, by the
-/// same distance each time, and if the text that counts is not changed by that once, it is not changed by it
-/// again.
+/// Whether everything that mattered for a match will be there again once the marker is in place: then the
+/// next search finds the same match, and so do all later ones. Each replacement moves what follows to the
+/// right by the same distance, so text that did not change the first time never will.
 bool ReplaceAllPass::ComesUpAgain(const MatchSpan& match) const {
   if (match.Size() > marker_.size()) return false;
   const bool grows = match.Size() < marker_.size();
@@ -60,13 +59,13 @@ bool ReplaceAllPass::ComesUpAgain(const MatchSpan& match) const {
 }
 
 int RemoveTitles(std::u16string& text, const RuleSearch& rule) {
-  // Deliberate: the ten characters go with every title, and near the start of the text, where there are fewer
-  // before it, as many more go behind it. Rules are written with that in mind.
+  // Deliberate: ten characters go with every title. Near the start of the text, where there are fewer before
+  // it, the rest goes after it. Rules are written with that in mind.
   constexpr std::size_t kBefore = 10;
   RepeatedSearch search(text, rule);
   int count = 0;
   while (const auto match = search.Find()) {
-    if (text.empty()) rule.Fail(ImportFailure::Reason::Endless);  // every other removal makes it shorter
+    if (text.empty()) rule.Fail(ImportFailure::Reason::Endless);  // every other removal shortens the text
     const std::size_t begin = match->begin - std::min(match->begin, kBefore);
     text.erase(begin, match->Size() + kBefore);
     search.ChangedFrom(begin);

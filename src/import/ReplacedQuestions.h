@@ -7,11 +7,11 @@
 
 namespace quorvantis {
 
-/// The numbers of the questions in `before` that `after` holds nowhere. Attached files do not count.
+/// The numbers of the questions in `before` that are nowhere in `after`. Attached files are ignored.
 std::vector<int> MissingQuestions(const ExamPaper& before, const ExamPaper& after);
 
-/// Those of the questions from `first` to `last` in `after` that begin their list of attached files as the
-/// question of that number in `before` did.
+/// The numbers of the questions from `first` to `last` in `after` whose list of attached files begins like
+/// that of the same question in `before`.
 std::vector<int> QuestionsWithEarlierFiles(const ExamPaper& before, const ExamPaper& after, int first,
                                            int last);
 

@@ -13,8 +13,7 @@ RuleSearch::RuleSearch(std::u16string_view key, std::u16string_view pattern, con
 std::optional<MatchResult> RuleSearch::Find(std::u16string_view text, std::size_t start,
                                             FailedStarts* failed) const {
   if (isCancelled_ && isCancelled_()) Fail(ImportFailure::Reason::Cancelled);
-  // Every search of an import means one from the first character, wherever it begins, so that is where "\G"
-  // is.
+  // Wherever a search of an import begins, it stands for one from the first character, so "\G" is there.
   MatchContext context{0, isCancelled_, failed};
   MatchResult result = pattern_.Match(text, static_cast<int>(start), &context);
   if (result.Outcome() == MatchOutcome::Cancelled) Fail(ImportFailure::Reason::Cancelled);

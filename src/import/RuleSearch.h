@@ -11,18 +11,18 @@
 
 namespace quorvantis {
 
-/// Asked now and then while rules are tried; true ends the import. May be empty.
+/// Polled while rules are tried; true cancels the import. May be empty.
 using CancelHook = std::function<bool()>;
 
 /// One rule of a repository, ready to be searched for. All rules are compiled alike: "." matches line breaks
-/// and "^" and "$" match at them. A rule that is empty or does not compile matches nothing.
+/// and "^" and "$" match at them. An empty or invalid rule matches nothing.
 class RuleSearch {
  public:
   /// `key` is the name of the rule in "ImportExam.ini".
   RuleSearch(std::u16string_view key, std::u16string_view pattern, const CancelHook& isCancelled);
 
-  /// The leftmost match at `start` or after it, if any. Throws ImportFailure when there is no answer.
-  /// `failed`, if given, is told of the starts that failed.
+  /// The leftmost match at `start` or after it, if any. Throws ImportFailure if the match was cancelled or
+  /// ran out of memory. `failed`, if given, receives the failed starts.
   std::optional<MatchResult> Find(std::u16string_view text, std::size_t start = 0,
                                   FailedStarts* failed = nullptr) const;
 

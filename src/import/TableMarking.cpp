@@ -8,13 +8,13 @@
 namespace quorvantis {
 namespace {
 
-/// Columns of a table, counted from 1; 0 for one that was not found.
+/// Columns of a table, counted from 1; 0 if not found.
 struct TableColumns {
   std::size_t question = 0;
   std::size_t answer = 0;
 };
 
-/// Of several cells with a key the last counts, and every text holds an empty key.
+/// If several cells contain a key, the last counts. Every text contains an empty key.
 TableColumns FindColumns(const PaperTable& table, const ImportSettings& rules) {
   TableColumns columns;
   for (std::size_t column = 1; column <= table.Columns(); ++column) {
@@ -25,14 +25,14 @@ TableColumns FindColumns(const PaperTable& table, const ImportSettings& rules) {
   return columns;
 }
 
-/// The text of a cell without what word processors put at its end.
+/// The text of a cell without the end mark of word processors.
 std::u16string_view CellText(const PaperTable& table, std::size_t row, std::size_t column) {
   const std::u16string_view text = table.Cell(row, column);
   return TextBeforeNul(text.substr(0, text.find_last_not_of(u"\u0007\r\n\t ") + 1));
 }
 
-/// Deliberate: as many characters as the label has go from the start of the answer, wherever the label
-/// stands; rules take labels to stand there.
+/// Deliberate: as many characters as the label has are removed from the start of the answer, wherever the
+/// label is; rules assume labels there.
 std::u16string_view WithoutLabel(std::u16string_view answer, const RuleSearch& label, int& count) {
   const auto match = label.Find(answer);
   if (!match) return answer;
@@ -43,7 +43,7 @@ std::u16string_view WithoutLabel(std::u16string_view answer, const RuleSearch& l
 void MarkTable(const PaperTable& table, const ImportSettings& rules, const RuleSearch& label,
                std::u16string& marked, int& labels) {
   const TableColumns columns = FindColumns(table, rules);
-  // A table needs both: a question without its answer's column, or the reverse, cannot be read.
+  // A table needs both columns.
   if (columns.question == 0 || columns.answer == 0) return;
   for (std::size_t row = 2; row <= table.rows.size(); ++row) {
     marked += kQuestionMarker;

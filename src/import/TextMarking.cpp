@@ -32,7 +32,7 @@ class Marking {
   MarkedText Take() { return std::move(result_); }
 
  private:
-  /// A rule that is not there is no pass: an empty pattern would match everywhere for ever.
+  /// A missing rule is not a pass: an empty pattern would match everywhere, forever.
   template <class Work>
   void Pass(std::u16string_view key, std::u16string_view pattern, const Work& work) {
     if (pattern.empty()) return;

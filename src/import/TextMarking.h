@@ -1,6 +1,5 @@
-// SPDX-License-Identifier: MIT
-// From the text or the tables of a paper to marked text: the pieces that the rules recognise are replaced by
-// the markers of ImportMarkers.h.
+// SPDX-License-Identifier: MIT Turns the text or the tables of a paper into marked text: what the rules
+// recognise is replaced by the markers of ImportMarkers.h.
 #pragma once
 
 #include "import/ImportFailure.h"
@@ -15,12 +14,10 @@
 
 namespace quorvantis {
 
-/// How often each rule matched, by its key, in the order in which the rules were tried. Only rules that say
-/// something are here.
+/// How often each rule matched, by its key, in the order in which the rules were tried. Without empty rules.
 using RuleCounts = std::vector<std::pair<std::u16string, int>>;
 
-/// A paper with markers in it. After a failure, the text is as far as the marking came, for whoever looks for
-/// the reason.
+/// A paper with markers. After a failure the text shows how far the marking got, to help find the reason.
 struct MarkedText {
   std::u16string text{};
   RuleCounts counts{};
@@ -30,8 +27,7 @@ struct MarkedText {
 /// Marks running text. The text ends at its first NUL.
 MarkedText TextToString(std::u16string_view text, const ImportSettings& rules, const CancelHook& isCancelled);
 
-/// A table of a paper: rows of cell texts. Rows may have different lengths; a cell that is not there is
-/// empty.
+/// A table of a paper: rows of cell texts. Rows may have different lengths; a missing cell is empty.
 struct PaperTable {
   std::vector<std::vector<std::u16string>> rows;
 
@@ -40,7 +36,7 @@ struct PaperTable {
   std::u16string_view Cell(std::size_t row, std::size_t column) const;
 };
 
-/// Marks papers that are tables: a question in each row but the first, which tells the columns.
+/// Marks papers that are tables: one question in each row except the first, which identifies the columns.
 MarkedText TableToString(const std::vector<PaperTable>& tables, const ImportSettings& rules,
                          const CancelHook& isCancelled);
 

@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 constexpr char16_t kBoxCharacter = u'\u2574';
 
-/// Of all pictures together. A document of a few kilobytes can hold pictures that fill any disk.
+/// Of all pictures together. A document of a few kilobytes can contain pictures that fill any disk.
 constexpr std::uintmax_t kMostPictureBytes = std::uintmax_t{1} << 30;
 
 template <class Visit>
@@ -34,7 +34,7 @@ void VisitTexts(WordDocument& document, const Visit& visit) {
   }
 }
 
-/// Puts a text in the place of each object of one kind; the others move along.
+/// Replaces each object of one kind by a text; the others move along.
 template <class TextOf>
 void FillPlaces(WordText& text, WordObjectKind kind, const TextOf& textOf) {
   const std::u16string_view characters = text.characters;
@@ -55,7 +55,7 @@ void FillPlaces(WordText& text, WordObjectKind kind, const TextOf& textOf) {
   text = std::move(filled);
 }
 
-/// Without the care for power cuts that saving takes: what an import wrote is worth nothing without its
+/// Without the care for power cuts that saving takes: these files are worth nothing without the unsaved
 /// questions.
 bool WriteNewFile(const fs::path& file, const std::string& bytes) {
   std::error_code ignored;
@@ -98,7 +98,7 @@ void WordReader::ReplaceBoxCharacters() {
   VisitTexts(document_, [](WordText& text) { std::ranges::replace(text.characters, kBoxCharacter, u'_'); });
 }
 
-/// A picture that cannot be read is no reason to have none of the questions.
+/// A picture that cannot be read must not cost the user all questions.
 std::optional<int> WordReader::SavePictures(int firstNumber) {
   const std::size_t count = document_.pictures;
   std::error_code ignored;
@@ -107,7 +107,7 @@ std::optional<int> WordReader::SavePictures(int firstNumber) {
   for (std::size_t picture = 0; picture < count; ++picture) {
     const int number = firstNumber + static_cast<int>(picture);
     const fs::path file = FileOf(number);
-    fs::remove(file, ignored);  // an older picture must not pass for this one
+    fs::remove(file, ignored);  // an older picture must not be taken for this one
     WordResult saved = IsCancelled() ? WordResult::Cancelled : WordResult::TooLarge;
     if (saved != WordResult::Cancelled && bytes < kMostPictureBytes) saved = SavePicture(picture, file);
     if (saved == WordResult::Cancelled) {
@@ -138,8 +138,8 @@ WordResult WordReader::SavePicture(std::size_t picture, const fs::path& file) {
   return WriteNewFile(file, bitmap) ? WordResult::Done : WordResult::CannotAccess;
 }
 
-/// The picture in hand as a bitmap file. A word processor would pass it on by the clipboard; here it comes
-/// straight from the document, and what the user has copied stays.
+/// The current picture as a bitmap file. It comes straight from the document, not through the clipboard,
+/// whose content stays.
 WordResult WordReader::ReadClipboardBitmap(std::size_t picture, std::string& bitmap) {
   if (!pictures_) return WordResult::NotFound;
   try {

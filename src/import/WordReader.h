@@ -14,7 +14,7 @@
 
 namespace quorvantis {
 
-/// A picture that has no file, and why.
+/// A picture without a file, and the reason.
 struct LostPicture {
   int number = 0;
   WordResult reason = WordResult::Damaged;
@@ -23,9 +23,9 @@ struct LostPicture {
 /// The file of a picture: "5.bmp".
 std::u16string PictureFileName(int number);
 
-/// Reads one paper for an import as a word processor would be driven: opened, made plain text step by step,
-/// marked, closed. The steps are called in the order in which they stand here. They change what has been
-/// read, never the file, so that any document reader can stand behind them.
+/// Reads one paper for an import, in the steps in which one would drive a word processor: open, turn into
+/// plain text step by step, mark, close. The steps are called in the order of their declarations. They change
+/// what has been read, never the file, so any document reader will do.
 class WordReader {
  public:
   struct Watch {
@@ -38,39 +38,38 @@ class WordReader {
   WordReader(WordDocuments& documents, std::filesystem::path workRoot, Watch watch)
       : documents_(documents), workRoot_(std::move(workRoot)), watch_(std::move(watch)) {}
 
-  /// False when there is nothing to read; Result tells why. With `listLabels`, automatic numbers are part of
+  /// False when there is nothing to read; Result says why. With `listLabels`, automatic numbers are part of
   /// the text.
   bool OpenDocument(const std::filesystem::path& file, bool listLabels);
 
   /// `Done`, or why the last step that failed did.
   WordResult Result() const { return result_; }
 
-  /// Word processors mark an empty place with a line of U+2574, exams with "_". A text file means what it
-  /// says.
+  /// Word processors mark a blank with a line of U+2574, exams with "_". Text files stay as they are.
   void ReplaceBoxCharacters();
 
-  /// Writes the document's pictures to bitmap files, numbered from `firstNumber` on in the order of the
-  /// document, and puts " <number>.bmp " in their places. The number after the last one; nothing, and no
-  /// file, when the user cancelled it.
+  /// Writes the document's pictures to bitmap files, numbered from `firstNumber` in the order of the
+  /// document, and puts " <number>.bmp " in their places. Returns the number after the last one; nothing, and
+  /// leaves no file, if the user cancelled.
   std::optional<int> SavePictures(int firstNumber);
 
-  /// Those of them that could not be read or written. Their names stand in the text all the same.
+  /// The pictures that could not be read or written. Their names are in the text all the same.
   const std::vector<LostPicture>& LostPictures() const { return lostPictures_; }
 
-  /// Puts "##" in the place of each equation. How many there are, those in tables included.
+  /// Replaces each equation by "##". Returns their number, including those in tables.
   std::size_t MaskFormulas();
 
-  /// What has become of the document so far.
+  /// The document as the steps have left it so far.
   const WordDocument& Document() const { return document_; }
 
   /// The marked text of the tables, or of the text without them.
   MarkedText TableToString(const ImportSettings& rules) const;
   MarkedText TextToString(const ImportSettings& rules) const;
 
-  /// Lets go of what was read.
+  /// Discards what was read.
   void CloseDocument();
 
-  /// Lets go of all that the word processor made for the reading. No program runs on between the steps.
+  /// Removes everything the word processor made for reading. No program keeps running between the steps.
   void QuitWordProcessor() { pictures_.reset(); }
 
  private:

@@ -11,8 +11,8 @@ namespace quorvantis {
 class CodePage;
 class Files;
 
-/// Reads and writes single values of one section of one profile file. The file is read anew each time, so
-/// what others write meanwhile is neither missed nor lost.
+/// Reads and writes single values of one section of one profile file. The file is read again each time, so
+/// changes by others are neither missed nor lost.
 class IniProfile {
  public:
   /// Values are read into a buffer of this many UTF-16 units, the last of which is its terminator: longer
@@ -30,15 +30,15 @@ class IniProfile {
   /// wins.
   bool SetFile(const std::filesystem::path& file, std::u16string_view section);
 
-  /// True with the value, which is empty when the key or the file is absent. False with kNoKey when the key
-  /// is empty; the output stays then.
+  /// True with the value, which is empty when the key or the file is missing. False with kNoKey when the key
+  /// is empty; the output is then unchanged.
   bool GetString(std::u16string_view key, std::u16string& value);
 
-  /// Writes a value. False when either is empty, when the file cannot hold the text or be written; the file
-  /// is as it was then. A missing file is made, its folder is not.
+  /// Writes a value. False, with the file unchanged, when either is empty, or when the file cannot hold the
+  /// text or be written. A missing file is created, a missing folder is not.
   bool WriteString(std::u16string_view key, std::u16string_view value);
 
-  /// The last error of those above, 0 before the first. A success leaves it.
+  /// The last error of those above, 0 before the first. Success does not reset it.
   int LastError() const { return lastError_; }
 
  private:

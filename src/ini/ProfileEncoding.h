@@ -14,7 +14,7 @@ class CodePage;
 /// bytes, otherwise 8-bit text of a code page.
 class ProfileEncoding {
  public:
-  /// That of a file with these bytes. `codePage` may be null; it must outlive the encoding.
+  /// The encoding of a file with these bytes. `codePage` may be null; it must outlive the encoding.
   static ProfileEncoding Of(std::string_view bytes, const CodePage* codePage);
 
   /// Bytes of the mark at the beginning of the file, and of the smallest piece of text.
@@ -24,8 +24,7 @@ class ProfileEncoding {
   /// The unit at `position` of the file's bytes; line breaks and ASCII are the same in every encoding.
   char16_t UnitAt(std::string_view bytes, std::size_t position) const;
 
-  /// Whole characters without the mark. What is malformed becomes U+FFFD, and without a code page so does
-  /// 8-bit text.
+  /// The text without the mark. Malformed parts become U+FFFD, and so does 8-bit text without a code page.
   std::u16string Decode(std::string_view bytes) const;
 
   /// Nothing when the file's code page lacks a character of the text.

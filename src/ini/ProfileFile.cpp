@@ -44,7 +44,7 @@ bool IsEntry(std::u16string_view line, std::u16string_view key) {
   return EqualsIgnoringAsciiCase(Trim(text.substr(0, equals)), key);
 }
 
-/// Where the value of an entry begins in its line, behind the blanks.
+/// Where the value of an entry begins in its line, after the blanks.
 std::size_t ValueBegin(std::u16string_view entry) {
   const std::size_t equals = entry.find(u'=');
   return std::min(entry.find_first_not_of(kBlanks, equals + 1), entry.size());
@@ -58,7 +58,7 @@ bool FitsInOneLine(std::u16string_view text) {
   return std::ranges::none_of(text, [](char16_t unit) { return IsLineBreak(unit) || unit == u'\0'; });
 }
 
-/// Half a unit at the end holds no text, and text behind it would be read wrong.
+/// Half a unit at the end holds no text, and text appended to it would be read wrong.
 std::string WithoutHalfUnit(std::string bytes, const ProfileEncoding& encoding) {
   bytes.erase(bytes.size() - bytes.size() % encoding.UnitSize());
   return bytes;
@@ -161,7 +161,7 @@ bool ProfileFile::InsertLines(std::size_t position, std::u16string lines) {
   return bytes.has_value();
 }
 
-/// That of the file's first line; profile files of other programs end their lines in CR LF.
+/// The line break of the file's first line; profile files of other programs use CR LF.
 std::u16string ProfileFile::LineBreak() const {
   const Line first = LineAt(encoding_.MarkSize());
   if (first.next == first.end) return u"\r\n";

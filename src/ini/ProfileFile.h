@@ -18,18 +18,18 @@ namespace quorvantis {
 class ProfileFile {
  public:
   /// Reads `file`; a missing one has no values. `codePage`, which must outlive this, is that of 8-bit text;
-  /// without one only its ASCII characters can be told.
+  /// without one, only its ASCII characters are known.
   explicit ProfileFile(const std::filesystem::path& file, const CodePage* codePage = nullptr);
 
-  /// The file could be read, or does not exist: what is here may take its place. Otherwise there are no
-  /// values. Files of more than 16 MiB are not read.
+  /// The file could be read, or does not exist, so this may replace it. Otherwise there are no values. Files
+  /// of more than 16 MiB are not read.
   bool IsWhole() const { return whole_; }
 
   /// The value without blanks and one pair of quotes around it; the first one where a key stands more than
   /// once.
   std::optional<std::u16string> Value(std::u16string_view section, std::u16string_view key) const;
 
-  /// The value of a key in each section that has it, by the name of the section as it stands in the file.
+  /// The value of a key in each section that has it, by the name of the section as written in the file.
   std::map<std::u16string, std::u16string> ValuesOf(std::u16string_view key) const;
 
   /// Sets the value that `Value` finds. A new key goes to the end of its section, a new section to the end of
@@ -40,7 +40,7 @@ class ProfileFile {
   const std::string& Bytes() const { return bytes_; }
 
  private:
-  /// Offsets into the bytes: the line without its line break, and where the next one begins.
+  /// Offsets into the bytes: the line without its line break, and the start of the next line.
   struct Line {
     std::size_t begin;
     std::size_t end;
@@ -48,7 +48,7 @@ class ProfileFile {
   };
   struct Place {
     std::optional<Line> entry;              ///< the key's line
-    std::optional<std::size_t> sectionEnd;  ///< behind the last line of the section that is not blank
+    std::optional<std::size_t> sectionEnd;  ///< after the last line of the section that is not blank
   };
 
   Line LineAt(std::size_t begin) const;

@@ -5,7 +5,7 @@
 
 namespace quorvantis {
 
-/// Lines for the person who looks into the program, off unless asked for.
+/// Debug output, off unless asked for.
 class DebugOutput {
  public:
   virtual ~DebugOutput() = default;

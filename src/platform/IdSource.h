@@ -5,7 +5,7 @@
 
 namespace quorvantis {
 
-/// Identifiers that are never the same twice.
+/// Unique identifiers.
 class IdSource {
  public:
   virtual ~IdSource() = default;

@@ -21,7 +21,7 @@ class LanguageLibrary : public StringTable {
   /// it is no language.
   virtual std::optional<std::uint16_t> Id() const = 0;
 
-  /// Whether the library has a text of that number, be it an empty one.
+  /// Whether the library has a text of that number, even an empty one.
   virtual bool HasText(int number) const { return !Text(number).empty(); }
 
   /// The text of a control in a dialog, both by number; control 0 is the caption of the dialog itself. Empty

@@ -16,7 +16,7 @@ struct PixelGrid {
   std::vector<std::uint8_t> bytes;
 };
 
-/// The most pixels that a picture may have: a scanned sheet has 35 million at 600 per inch.
+/// The maximum number of pixels in a picture: a sheet scanned at 600 dpi has 35 million.
 inline constexpr std::uint64_t kMostPixels = 50'000'000;
 
 }  // namespace quorvantis

@@ -10,20 +10,20 @@ namespace quorvantis {
 /// A process as it was when it was found; it may have ended since.
 struct RunningProcess {
   int id = 0;
-  std::uint16_t task = 0;  ///< the 16-bit task in a process that hosts such; 0 is an ordinary process
-  std::u16string module;   ///< full path of the program, in the form of the system that it was made for
+  std::uint16_t task = 0;  ///< the 16-bit task in a process that hosts some; 0 for an ordinary process
+  std::u16string module;   ///< full path of the program, in the syntax of the system it was made for
 };
 
-/// The programs that this user runs. The own program is none of them, however often it runs.
+/// The programs this user runs, without this program itself, however often it runs.
 class ProcessTable {
  public:
   virtual ~ProcessTable() = default;
 
-  /// Those whose program can be told.
+  /// The processes whose program is known.
   virtual std::vector<RunningProcess> Processes() = 0;
 
-  /// Ends a process, without waiting for it. Nothing happens when it has ended meanwhile, even if another one
-  /// has its number now, or when it cannot be ended.
+  /// Asks a process to end, without waiting for it. Does nothing if it has ended meanwhile, even if its
+  /// number has been reused, or if it cannot be ended.
   virtual void Terminate(const RunningProcess& process) = 0;
 };
 

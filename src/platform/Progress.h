@@ -5,20 +5,20 @@
 
 namespace quorvantis {
 
-/// Told how far long work has come, so that a person who waits can see it.
+/// Reports the progress of long work to a waiting user.
 class Progress {
  public:
   virtual ~Progress() = default;
 
-  /// `done` of about `total` bytes of the file in hand. Called often. An implementation may paint, but must
+  /// `done` of about `total` bytes of the current file. Called often. An implementation may paint, but must
   /// not let the user start anything else.
   virtual void Report(std::uint64_t done, std::uint64_t total) = 0;
 
-  /// Another program works, and nobody knows for how long. Called several times a second; what holds for the
-  /// implementation of Report holds here.
+  /// Another program is working for an unknown time. Called several times a second; the same rules as for
+  /// Report apply.
   virtual void Wait() {}
 
-  /// Whether the user wants the work to end without a result. Asked by work that can be ended, now and then.
+  /// Whether the user has cancelled. Work that can be cancelled polls this.
   virtual bool IsCancelled() { return false; }
 };
 

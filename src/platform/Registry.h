@@ -12,13 +12,13 @@ namespace quorvantis {
 
 enum class RegistryRoot { ClassesRoot, CurrentUser };
 
-/// What a registry value's bytes are; other programs use further ones, which are kept.
+/// The type of a registry value. Other programs use more types, which are kept.
 enum class RegistryType : std::uint32_t {
-  String = 1,  ///< UTF-16LE, as a rule with a NUL at its end
+  String = 1,  ///< UTF-16LE, usually with a NUL at its end
   Dword = 4,   ///< 32 bits, lowest byte first
 };
 
-/// A stored value; the number of bytes is as it was written, whatever the type says.
+/// A stored value; its size is as written, whatever the type says.
 struct RegistryValue {
   RegistryType type = RegistryType::String;
   std::vector<std::byte> bytes;
@@ -27,7 +27,7 @@ struct RegistryValue {
 };
 
 /// An open key. Names are found without regard to the case of ASCII letters; the empty name is the key's
-/// default value. When the key has been deleted meanwhile, everything fails.
+/// default value. If the key has been deleted meanwhile, every operation fails.
 class RegistryKey {
  public:
   virtual ~RegistryKey() = default;
@@ -50,7 +50,7 @@ class Registry {
   /// Null when the key does not exist. Keys must not outlive the registry.
   virtual std::unique_ptr<RegistryKey> OpenKey(RegistryRoot root, std::u16string_view path) = 0;
 
-  /// Opens the key, which is made with all above it where it does not exist. Null when that fails.
+  /// Opens the key, creating it and its parents if needed. Null when that fails.
   virtual std::unique_ptr<RegistryKey> CreateKey(RegistryRoot root, std::u16string_view path) = 0;
 
   /// Deletes a key with its values. False when there is no such key, when it has keys below it, or when it

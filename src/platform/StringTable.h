@@ -5,8 +5,8 @@
 
 namespace quorvantis {
 
-/// The texts of the language in use, by number: 101 to 173 are the numbers that every language library
-/// carries, texts of later origin start at 1000.
+/// The texts of the language in use, by number: every language library has 101 to 173; later texts start at
+/// 1000.
 class StringTable {
  public:
   virtual ~StringTable() = default;

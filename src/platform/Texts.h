@@ -72,32 +72,32 @@ constexpr int kNotice = 168;             // caption of a message: "clew"
 constexpr int kOralOff = 172;            // caption of the oral toggle while the flag is 0
 constexpr int kOralOn = 173;
 
-// Texts of our own.
+// Texts of our own, from 1000 on. A new one takes a free number here and a line in every file of languages/.
 constexpr int kExamEndsEarly =
-    1000;  // "The exam file ends before its contents do; question %d and after ..."
+    1000;  // "The exam file ends before its contents do; question %1 and after ..."
 constexpr int kExamFilesEndEarly = 1001;  // the same of an exam without questions
 constexpr int kCannotExport = 1002;
 constexpr int kAnswer = 1003;          // "Ans"
-constexpr int kPreparing = 1004;       // "Preparing %s…", in the place of an attached file; likewise:
-constexpr int kCannotShow = 1005;      // "%s cannot be shown here."
-constexpr int kFileMissing = 1006;     // "%s is missing."
-constexpr int kNeedsProgram = 1007;    // "%s cannot be shown, because %s is not installed."
-constexpr int kFirstPagesOnly = 1008;  // "Only the first %s pages are shown."
+constexpr int kPreparing = 1004;       // "Preparing %1…", in the place of an attached file; likewise:
+constexpr int kCannotShow = 1005;      // "%1 cannot be shown here."
+constexpr int kFileMissing = 1006;     // "%1 is missing."
+constexpr int kNeedsProgram = 1007;    // "%1 cannot be shown because %2 is not installed."
+constexpr int kFirstPagesOnly = 1008;  // "Only the first %1 pages are shown."
 constexpr int kBeginningOnly = 1009;   // "Only the beginning is shown."
-constexpr int kTooLong = 1011;         // "Not changed: this field takes at most %d characters."
+constexpr int kTooLong = 1011;         // "Not changed: this field takes at most %1 characters."
 constexpr int kSaveCopy = 1012;        // of an attached file
 constexpr int kRemoveAttachment = 1013;
-constexpr int kNoProgramOpens = 1014;  // "No program was found that opens %s."
-constexpr int kIsRightAnswer = 1015;   // "%s is a right answer", said by screen readers
+constexpr int kNoProgramOpens = 1014;  // "No program was found that can open %1."
+constexpr int kIsRightAnswer = 1015;   // "%1 is a right answer", said by screen readers
 
-constexpr int kTotalScore = 1030;   // "Total score: %s"
+constexpr int kTotalScore = 1030;   // "Total score: %1"
 constexpr int kNoQuestions = 1031;  // "The exam has no questions yet."
 
 constexpr int kRecoveryQuestion = 1040;  // of title, number of questions, file and time
 constexpr int kRestore = 1041;           // its answers
 constexpr int kDiscard = 1042;
 constexpr int kLater = 1043;
-constexpr int kRecoveryDamaged = 1044;    // "… has been put aside: %s"
+constexpr int kRecoveryDamaged = 1044;    // "… has been moved to: %1"
 constexpr int kRecoveryFilesLost = 1045;  // names of attached files
 constexpr int kRecoveryFails = 1046;
 
@@ -197,6 +197,6 @@ constexpr int kChangedOnDisk = 1245;
 
 constexpr int kExportTimedOut = 1060;
 constexpr int kExportCancelled = 1061;
-constexpr int kCannotWrite = 1062;  // "%s cannot be written: %s", with what the system says
+constexpr int kCannotWrite = 1062;  // "%1 cannot be written: %2", with what the system says
 
 }  // namespace quorvantis::text_id

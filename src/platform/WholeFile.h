@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// Files as a whole: small ones are read and written at once, large ones copied.
+// SPDX-License-Identifier: MIT Whole files: small ones are read and written at once, large ones copied.
 #pragma once
 
 #include "platform/Files.h"
@@ -13,9 +12,9 @@
 
 namespace quorvantis {
 
-/// The bytes of a regular file, or of its link's target; none when it does not exist. Nothing when it is
-/// there but cannot be read, is something else, or has more than `limit` bytes: it must not be taken for an
-/// empty one then.
+/// The bytes of a regular file, or of its link's target; empty when it does not exist. Nothing when it exists
+/// but cannot be read, is not a regular file, or has more than `limit` bytes: it must not be taken for an
+/// empty file.
 inline std::optional<std::string> ReadWholeFile(const std::filesystem::path& file, std::size_t limit) {
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(file, error);
@@ -31,7 +30,7 @@ inline std::optional<std::string> ReadWholeFile(const std::filesystem::path& fil
   return bytes;
 }
 
-/// Puts `bytes` in the place of the file in one step. On failure the old file is as it was.
+/// Replaces the file by `bytes` in one step. On failure the old file is unchanged.
 inline std::error_code SaveWholeFile(Files& files, const std::filesystem::path& file,
                                      std::string_view bytes) {
   std::error_code error;
@@ -41,7 +40,7 @@ inline std::error_code SaveWholeFile(Files& files, const std::filesystem::path& 
   return pending->Commit();
 }
 
-/// Puts a copy of the file `from` in the place of `to` in one step. On failure the old file is as it was.
+/// Replaces `to` by a copy of `from` in one step. On failure the old file is unchanged.
 inline std::error_code CopyWholeFile(Files& files, const std::filesystem::path& from,
                                      const std::filesystem::path& to) {
   constexpr std::size_t kBlock = std::size_t{512} * 1024;

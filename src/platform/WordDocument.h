@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// What a word processor's document says, as plain values.
+// SPDX-License-Identifier: MIT The content of a word-processor document, as plain values.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +9,7 @@ namespace quorvantis {
 
 enum class WordObjectKind { Picture, Equation };
 
-/// A picture or an equation, which stands between two characters of a text.
+/// A picture or an equation between two characters of a text.
 struct WordObject {
   std::size_t position = 0;  ///< in UTF-16 units: the object stands before this character, or at the end
   WordObjectKind kind = WordObjectKind::Picture;
@@ -22,23 +21,23 @@ struct WordObject {
 /// text are left out. The text of a text box follows the paragraph to which it is anchored.
 struct WordText {
   std::u16string characters;
-  std::vector<WordObject> objects;  ///< by position; of several at one place, in their order
+  std::vector<WordObject> objects;  ///< by position; several in one place keep their order
 };
 
-/// A table that stands in no other one.
+/// A table that is not inside another one.
 struct WordTable {
   /// The cells of each row, from left to right, so rows can have different lengths where cells are merged.
-  /// The text of a cell ends in CR BEL. A cell that only continues the one above is empty but for that.
-  /// Tables within a cell are part of its text; their cells and rows end in CR BEL too.
+  /// The text of a cell ends in CR BEL. A cell that only continues the one above is otherwise empty. Tables
+  /// within a cell are part of its text; their cells and rows end in CR BEL too.
   std::vector<std::vector<WordText>> rows;
 };
 
 struct WordDocument {
   WordText runningText;            ///< without the tables
   std::vector<WordTable> tables;   ///< in the order of the document
-  std::size_t pictures = 0;        ///< how many there are, those in tables included
+  std::size_t pictures = 0;        ///< their number, including those in tables
   bool hasNumbersLeftOut = false;  ///< automatic numbers that are not part of the text
-  bool isPlainText = false;        ///< no word processor wrote it
+  bool isPlainText = false;        ///< not written by a word processor
 };
 
 }  // namespace quorvantis

@@ -11,18 +11,18 @@
 
 namespace quorvantis {
 
-/// How the reading of a document, or of one of its pictures, ended.
+/// The result of reading a document or one of its pictures.
 enum class WordResult {
   Done,
   NotFound,       ///< no such file; of a picture: the document only refers to it, or draws it from data
-  CannotAccess,   ///< no regular file, or one that must not be read or written
-  UnknownFormat,  ///< no word processor's document, no picture of a known kind
+  CannotAccess,   ///< not a regular file, or no permission to read or write it
+  UnknownFormat,  ///< not a word-processor document, or not a picture of a known kind
   Damaged,        ///< begins like one, but cannot be read
   PasswordProtected,
-  TooLarge,              ///< beyond what is read: size, pixels
-  TooDeep,               ///< tables or other parts stand within each other more often than is read
+  TooLarge,              ///< beyond the limits: size, pixels
+  TooDeep,               ///< tables or other parts are nested too deeply
   WordProcessorMissing,  ///< the word processor that this kind needs is not installed or cannot be started
-  TimedOut,              ///< the word processor took too long and was ended
+  TimedOut,              ///< the word processor took too long and was stopped
   Cancelled,
 };
 
@@ -32,8 +32,8 @@ struct WordReadOptions {
                                       ///< processor runs, also for pictures later
 };
 
-/// The pictures of a document that has been read. The document's file is no longer needed to be there, but
-/// should not change. What had to be made of it for reading goes with this object.
+/// The pictures of a document that has been read. The document's file may be gone by now, but must not have
+/// changed. Temporary files made for reading are removed with this object.
 class WordPictures {
  public:
   virtual ~WordPictures() = default;
@@ -42,14 +42,14 @@ class WordPictures {
   virtual WordResult Read(std::size_t picture, PixelGrid& pixels) = 0;
 };
 
-/// Without the result `Done`, the document is empty. `pictures` is null where a document has none.
+/// Unless the result is `Done`, the document is empty. `pictures` is null where a document has none.
 struct WordReadOutcome {
   WordResult result = WordResult::Done;
   WordDocument document{};
   std::unique_ptr<WordPictures> pictures{};
 };
 
-/// Reads the documents of word processors. The document's file is never changed.
+/// Reads word-processor documents. Their files are never changed.
 class WordDocuments {
  public:
   virtual ~WordDocuments() = default;

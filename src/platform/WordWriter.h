@@ -12,12 +12,12 @@ namespace quorvantis {
 /// Doc is the format of Word 97.
 enum class WordFormat { Doc, Docx, Pdf };
 
-/// How the writing of a document ended.
+/// The result of writing a document.
 enum class WordWriteResult {
   Done,
   WordProcessorMissing,  ///< not installed, or it cannot be started
-  WordProcessorFailed,   ///< it made no document
-  TimedOut,              ///< it took too long and was ended
+  WordProcessorFailed,   ///< it produced no document
+  TimedOut,              ///< it took too long and was stopped
   Cancelled,
   CannotWrite,  ///< a file, the target or a temporary one
 };
@@ -30,20 +30,20 @@ struct WordWriteOutcome {
 
 struct WordWriteJob {
   /// Tabs are kept; CR, LF, CR LF, VT and FF within a paragraph are line breaks. A lone surrogate becomes
-  /// U+FFFD, and what no XML file can hold, above all control characters, is left out.
+  /// U+FFFD. Characters that XML cannot hold, mainly control characters, are left out.
   std::vector<std::u16string> paragraphs;
   std::filesystem::path target;
   WordFormat format = WordFormat::Doc;
   std::function<bool()> isCancelled;  ///< asked several times a second; may be empty
 };
 
-/// Writes the documents of word processors.
+/// Writes word-processor documents.
 class WordWriter {
  public:
   virtual ~WordWriter() = default;
 
-  /// Puts a document of these paragraphs in the place of the target, in one step and not before it is whole.
-  /// Unless the result is `Done`, the target is as it was.
+  /// Replaces the target by a document of these paragraphs, in one step once it is complete. Unless the
+  /// result is `Done`, the target is unchanged.
   virtual WordWriteOutcome Write(const WordWriteJob& job) = 0;
 };
 

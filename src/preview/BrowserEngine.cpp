@@ -11,8 +11,8 @@ namespace {
 
 constexpr char kFlagsVariable[] = "QTWEBENGINE_CHROMIUM_FLAGS";
 
-/// What no interceptor sees: the packets of WebRTC and WebTransport, relays of WebRTC, and the names of hosts
-/// that are looked up for them. No host has an address here, not even one that is given as an address.
+/// What no interceptor sees: packets of WebRTC and WebTransport, relays of WebRTC, and host lookups for them.
+/// No host resolves here, not even a numeric address.
 constexpr char kNoNetwork[] =
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-blink-features=WebTransport"
     " \"--host-resolver-rules=MAP * ~NOTFOUND\"";
@@ -20,7 +20,7 @@ constexpr char kNoNetwork[] =
 }  // namespace
 
 void PrepareBrowserEngine() {
-  // A local scheme would give every frame an origin of its own; a secure one keeps media and scripts working.
+  // A local scheme would give every frame its own origin; a secure one keeps media and scripts working.
   QWebEngineUrlScheme scheme(QByteArray(kExamScheme.data(), kExamScheme.size()));
   scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
   scheme.setFlags(QWebEngineUrlScheme::SecureScheme);

@@ -8,14 +8,13 @@
 
 namespace quorvantis {
 
-/// A folder for what is made of attached files, which only this user can enter; removed with its content at
-/// the end.
+/// A private folder for converted files; removed with its content at the end.
 class ConversionFolder {
  public:
-  /// In the folder for temporary files, or in `otherwise` where that cannot be used.
+  /// In the folder for temporary files, or in `otherwise` if that cannot be used.
   explicit ConversionFolder(const std::filesystem::path& otherwise);
 
-  /// A new, empty folder in it; an empty path when none can be made.
+  /// A new, empty folder in it; an empty path if none can be created.
   std::filesystem::path New();
 
  private:

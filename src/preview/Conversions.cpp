@@ -42,7 +42,7 @@ void Conversions::WithPages(const fs::path& document, Use use) {
   });
 }
 
-/// Of media that play as they are everyone gets his own file: another copy of it may be gone.
+/// For media that play as they are, everyone gets their own file: another copy may be gone.
 void Conversions::WithPlayable(const fs::path& media, Use use) {
   const QString key = KeyOf(media);
   Use useOwn = [this, key, media, use = std::move(use)](const Files& files) {

@@ -17,34 +17,34 @@
 
 namespace quorvantis {
 
-/// What attached files were converted to in this run of the program. A content is converted once, however
-/// often and under however many names it is asked for.
+/// The converted attached files of this run. Each content is converted once, however often and under however
+/// many names it is requested.
 class Conversions : public QObject {
   Q_OBJECT
 
  public:
   using Files = std::vector<std::filesystem::path>;
 
-  /// Gets the converted files; none when the conversion failed.
+  /// Receives the converted files; none if the conversion failed.
   using Use = std::function<void(const Files& files)>;
 
-  /// Converted files lie in the folder for temporary files, or in `otherwise` where that cannot be used.
+  /// Converted files are in the folder for temporary files, or in `otherwise` if that cannot be used.
   Conversions(ConverterPrograms programs, const std::filesystem::path& otherwise);
 
-  /// The pages of a document if they are there already; none of them when it cannot be converted.
+  /// The pages of a document if they exist already; empty if it cannot be converted.
   std::optional<Files> KnownPages(const std::filesystem::path& document) const;
 
-  /// Calls `use` with the pictures of the pages of `document`, at once or when they are there.
+  /// Calls `use` with the pictures of the pages of `document`, at once or when they are ready.
   void WithPages(const std::filesystem::path& document, Use use);
 
-  /// Calls `use` with the one file that the browser plays for `media`, at once or when it is there.
+  /// Calls `use` with the one file that the browser plays for `media`, at once or when it is ready.
   void WithPlayable(const std::filesystem::path& media, Use use);
 
-  /// Lets what could not be converted be tried again when it is asked for: the machine may have been busy.
+  /// Failed conversions are tried again on the next request: the machine may have been busy.
   void ForgetFailures();
 
-  /// Ends the programs that are at work, and removes what they have made so far. Who waits is told nothing.
-  /// Not to be called by a `Use`.
+  /// Ends the running programs and removes their unfinished files. Waiting callers are not told. Must not be
+  /// called by a `Use`.
   void StopUnfinished();
 
   /// Whether a document is being converted.
@@ -56,12 +56,12 @@ class Conversions : public QObject {
 
  private:
   struct Result {
-    std::optional<Files> files;    ///< none while the conversion is under way
-    std::filesystem::path folder;  ///< where it takes place
+    std::optional<Files> files;    ///< empty while converting
+    std::filesystem::path folder;  ///< where the conversion takes place
     std::vector<Use> waiting;
   };
 
-  /// What is at work; goes to end it.
+  /// The running conversion; destroying it ends it.
   struct Converters {
     Converters(const ConverterPrograms& programs, const std::filesystem::path& officeFolder)
         : documents(programs, officeFolder), media(programs) {}
@@ -69,10 +69,10 @@ class Conversions : public QObject {
     MediaConverter media;
   };
 
-  /// The key of a conversion: the content and, because a name decides how content is read, the extension.
+  /// The key of a conversion: the content and, since it decides how content is read, the extension.
   static QString KeyOf(const std::filesystem::path& file);
 
-  /// Adds `use` to those that wait. The folder for the conversion where it must be started.
+  /// Adds `use` to those that wait. Returns the folder for the conversion if it must be started.
   std::optional<std::filesystem::path> Wait(const QString& key, Use use);
   void Complete(const QString& key, const Files& files);
 

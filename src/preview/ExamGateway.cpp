@@ -27,7 +27,7 @@ QString FileNameOf(const fs::path& file) {
   return QFile::decodeName(file.filename().c_str());
 }
 
-/// Each conversion has a folder of its own, whose name is a number.
+/// Each conversion has its own folder, named by a number.
 QString PictureName(const fs::path& picture) {
   return FileNameOf(picture.parent_path()) + '-' + FileNameOf(picture);
 }
@@ -73,7 +73,7 @@ void ExamGateway::requestStarted(Job* job) {
   file ? AnswerFile(job, *file, forFrame) : AnswerMissing(job, *asked, forFrame);
 }
 
-/// Names of our own making have no folders but the first; whatever else is asked for there does not exist.
+/// Names in our addresses have only one folder; anything else requested there does not exist.
 void ExamGateway::AnswerOwn(Job* job, const fs::path& name) {
   const auto picture = pictures_.constFind(FileNameOf(name));
   if (name.parent_path() == kPictureFolder && picture != pictures_.constEnd()) {
@@ -89,7 +89,7 @@ void ExamGateway::AnswerOwn(Job* job, const fs::path& name) {
   job->fail(Job::UrlNotFound);
 }
 
-/// Composed pages come first: a page's file may hold less than the page.
+/// Composed pages come first: a page's file may be incomplete.
 bool ExamGateway::AnswerPage(Job* job, const fs::path& asked) {
   for (const fs::path& place : files_.Places(asked)) {
     if (const std::u16string* const page = setup_.pages.Find(place)) {
@@ -100,7 +100,7 @@ bool ExamGateway::AnswerPage(Job* job, const fs::path& asked) {
   return false;
 }
 
-/// What the user calls the file that is asked for: its copy may have another name.
+/// The user's name for the requested file: its copy may have another one.
 QString ExamGateway::NameOf(const fs::path& asked) const {
   const PageSource* const source = setup_.pages.FindFile(asked);
   const bool isNamed = source != nullptr && !source->name.empty();
@@ -133,8 +133,8 @@ void ExamGateway::AnswerFile(Job* job, const fs::path& file, bool forFrame) {
   }
 }
 
-/// A frame gets an answer at once, so that the exam appears; the page in it asks again with the query "wait",
-/// which is answered when there is something to show.
+/// A frame gets an answer at once, so that the exam appears; the page in it repeats the request with the
+/// query "wait", which is answered when there is something to show.
 void ExamGateway::AnswerDocument(Job* job, const fs::path& document) {
   if (job->requestUrl().query() == "wait") {
     return conversions_.WithPages(document, [held = QPointer(job)](const Conversions::Files&) {
@@ -170,12 +170,12 @@ void ExamGateway::AnswerMedia(Job* job, const fs::path& media) {
   });
 }
 
-/// A frame must not stay empty, so it is answered with a page.
+/// A frame must not stay empty, so it gets a page.
 void ExamGateway::AnswerMissing(Job* job, const fs::path& asked, bool forFrame) {
   forFrame ? ReplyWithPage(*job, NoticePage(WhyNotShown(asked))) : job->fail(Job::UrlNotFound);
 }
 
-/// What stands in the place of a file that does not appear. Empty for a clip that a player is there for.
+/// The notice in place of a file that does not appear. Empty for a clip that has a player.
 QString ExamGateway::WhyNotShown(const fs::path& asked) const {
   const std::optional<fs::path> file = files_.Find(asked);
   if (!file) return setup_.texts.notFound.arg(NameOf(asked));

@@ -14,26 +14,25 @@
 
 namespace quorvantis {
 
-/// What a gateway is made of.
+/// The parts of a gateway.
 struct GatewaySetup {
   std::filesystem::path applicationFolder;
   const ComposedPages& pages;         ///< must outlive the gateway
-  std::filesystem::path flashPlayer;  ///< folder with "ruffle.js"; empty or missing where there is no player
+  std::filesystem::path flashPlayer;  ///< folder with "ruffle.js"; empty or missing without a player
   ConverterPrograms programs;
   PreviewTexts texts;
 };
 
-/// Answers every request of the browser: with a composed page, with a file that `ServedFiles` permits, or
-/// with a page that stands for a file that the browser cannot show. Files are never read into memory whole,
-/// texts excepted.
+/// Answers every request of the browser: with a composed page, a file that `ServedFiles` permits, or a page
+/// in place of a file that the browser cannot show. Only texts are read into memory whole.
 class ExamGateway : public QWebEngineUrlSchemeHandler {
  public:
   explicit ExamGateway(GatewaySetup setup);
 
-  /// `page` is going to be shown.
+  /// `page` is about to be shown.
   void SetPage(const std::filesystem::path& page);
 
-  /// The shown page is going to be loaded once more.
+  /// The shown page is about to be reloaded.
   void ExpectReload() { showsUnfinished_ = false; }
 
   /// Whether a frame of the shown page got a notice instead of a document that was still being converted.
@@ -41,7 +40,7 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
 
   const Conversions& Documents() const { return conversions_; }
 
-  /// The page that was shown is gone, and nobody waits for its files any more.
+  /// The shown page is gone, and nobody waits for its files any more.
   void StopConversions() { conversions_.StopUnfinished(); }
 
   void requestStarted(QWebEngineUrlRequestJob* job) override;
@@ -64,7 +63,7 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
   GatewaySetup setup_;
   ServedFiles files_;
   Conversions conversions_;
-  QHash<QString, std::filesystem::path> pictures_;  ///< of document pages, by their own address's name
+  QHash<QString, std::filesystem::path> pictures_;  ///< of document pages, by their name in our addresses
   bool showsUnfinished_ = false;
 };
 

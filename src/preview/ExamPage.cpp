@@ -10,7 +10,8 @@
 namespace quorvantis {
 namespace {
 
-/// How often a page that leaves is fetched back. One that keeps leaving stays blank instead of flickering.
+/// How often a page that navigates away is brought back. One that keeps leaving stays blank instead of
+/// flickering.
 constexpr int kMostReturns = 3;
 
 void Restrict(QWebEngineSettings& settings) {
@@ -35,7 +36,7 @@ ExamPage::ExamPage(QWebEngineProfile* profile, QObject* parent) : QWebEnginePage
           [this](const QUrl& origin, Feature feature) {
             setFeaturePermission(origin, feature, PermissionDeniedByUser);
           });
-  // The one address that a page may go to without anybody being asked.
+  // The one address that a page may go to without asking.
   connect(this, &QWebEnginePage::urlChanged, this, [this](const QUrl& url) {
     if (url == QUrl(kBlankPage) && destination_ != url && returns_++ < kMostReturns) load(destination_);
   });
@@ -47,16 +48,16 @@ void ExamPage::Go(const QUrl& address) {
   load(address);
 }
 
-/// Nobody is there to take a form; sending it would only lose what was typed. A link within the page is no
-/// other address.
+/// Nobody receives a form; sending it would only lose the input. A link within the page is not another
+/// address.
 bool ExamPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
   if (type == NavigationTypeFormSubmitted) return false;
   if (isMainFrame) return url.matches(destination_, QUrl::RemoveFragment);
   return RequestGuard::StaysInside(url);
 }
 
-/// Also asked, as a question to the user, when a page wants to stay; the program's own way must be free. A
-/// page that asks for itself gets no.
+/// Also called, as a question to the user, when a page wants to stay; the program must be free to leave. A
+/// page that asks for itself gets a no.
 bool ExamPage::javaScriptConfirm(const QUrl&, const QString&) {
   return destination_ == QUrl(kBlankPage);
 }

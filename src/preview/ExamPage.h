@@ -5,7 +5,7 @@
 
 namespace quorvantis {
 
-/// A browser page that shows exams of strangers: it goes only where the program sends it, opens nothing, and
+/// A browser page that shows untrusted exams: it goes only where the program sends it, opens nothing, and
 /// asks the user nothing.
 class ExamPage : public QWebEnginePage {
   Q_OBJECT
@@ -34,7 +34,7 @@ class ExamPage : public QWebEnginePage {
 
  private:
   QUrl destination_;
-  int returns_ = 0;  ///< to the destination, from pages that left for the blank one
+  int returns_ = 0;  ///< returns to the destination after a page left for the blank one
 };
 
 }  // namespace quorvantis

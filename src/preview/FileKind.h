@@ -8,7 +8,7 @@
 
 namespace quorvantis {
 
-/// How an attached file gets into a page.
+/// How an attached file is shown in a page.
 enum class FileKind {
   Page,      ///< hypertext
   Text,      ///< decoded and shown as lines

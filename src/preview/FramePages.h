@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// The pages that stand in a frame for what the browser cannot show itself.
+// SPDX-License-Identifier: MIT The pages that frames show for what the browser cannot show itself.
 #pragma once
 
 #include <QByteArray>
@@ -9,7 +8,7 @@
 
 namespace quorvantis {
 
-/// What these pages say; %1 is the name of the file, if not told otherwise.
+/// The texts of these pages; %1 is the name of the file unless noted otherwise.
 struct PreviewTexts {
   QString preparing;
   QString cannotShow;
@@ -22,13 +21,13 @@ struct PreviewTexts {
 /// One line of text in a box, for example why a file is not shown.
 QByteArray NoticePage(const QString& text);
 
-/// A notice that loads its own address again as soon as the address with the query "wait" has been answered.
+/// A notice that reloads itself as soon as its address with the query "wait" has been answered.
 QByteArray WaitingPage(const QString& text);
 
 /// Pictures one below the other, and `remark` under them if there is one.
 QByteArray PicturesPage(const QList<QUrl>& pictures, const QString& remark);
 
-/// An embedded file by itself, for the page scripts to show under that name.
+/// A page with just an embedded file, which the page scripts show under that name.
 QByteArray EmbedPage(const QUrl& file, const QString& name);
 
 /// Lines of plain text, and `remark` under them if there is one.

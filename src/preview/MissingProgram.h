@@ -9,8 +9,8 @@
 
 namespace quorvantis {
 
-/// The name of what would have to be installed for this file to appear, for the reader; empty when nothing is
-/// missing. Flash has a player of its own beside the converting programs.
+/// The program that must be installed for this file to appear, as users know it; empty if nothing is missing.
+/// Flash needs a player rather than a converter.
 QString MissingProgram(const std::filesystem::path& file, const ConverterPrograms& programs,
                        bool hasFlashPlayer);
 

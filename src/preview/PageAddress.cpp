@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// No file of an exam lies there.
+/// No file of an exam is there.
 constexpr std::string_view kOwnFolder = "/.quorvantis/";
 
 QUrl Address(const QByteArray& escapedPath) {
@@ -29,7 +29,7 @@ QUrl OwnAddress(std::string_view name) {
   return Address(EscapedPath(std::string(kOwnFolder) + std::string(name)));
 }
 
-/// Escapes are undone to bytes, not to text: a file's name need not be valid UTF-8.
+/// Escapes decode to bytes, not to text: a file name need not be valid UTF-8.
 std::optional<fs::path> FileOf(const QUrl& address) {
   if (address.scheme() != kExamScheme || address.host() != kExamHost) return std::nullopt;
   const QByteArray bytes = QByteArray::fromPercentEncoding(address.path(QUrl::FullyEncoded).toUtf8());

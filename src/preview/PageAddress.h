@@ -13,18 +13,18 @@ namespace quorvantis {
 
 constexpr char kBlankPage[] = "about:blank";
 
-/// `path` with every byte escaped that means something in an address, separators excepted.
+/// `path` with every byte escaped that is special in an address, except separators.
 QByteArray EscapedPath(const std::filesystem::path& path);
 
 QUrl AddressOf(const std::filesystem::path& file);
 
-/// An address of something that the program itself makes, for example "flash/ruffle.js".
+/// The address of something the program itself provides, for example "flash/ruffle.js".
 QUrl OwnAddress(std::string_view name);
 
-/// The file that an address names: absolute and lexically normal. None for other schemes and hosts.
+/// The file of an address: absolute and lexically normal. Empty for other schemes and hosts.
 std::optional<std::filesystem::path> FileOf(const QUrl& address);
 
-/// The name given to `OwnAddress`, if the address is such a one.
+/// The name given to `OwnAddress`, if that made the address.
 std::optional<std::filesystem::path> OwnNameOf(const QUrl& address);
 
 }  // namespace quorvantis

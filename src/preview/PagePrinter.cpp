@@ -13,7 +13,7 @@
 namespace quorvantis {
 namespace {
 
-/// Pages go to a printer as pictures; more dots would take long and show nothing more.
+/// Pages go to a printer as pictures; a higher resolution would be slow and no better.
 constexpr int kDotsPerInch = 300;
 constexpr std::chrono::milliseconds kUntilNextLook{100};
 constexpr int kMostLooks = 100;
@@ -23,7 +23,7 @@ constexpr int kMostLooks = 100;
 PagePrinter::PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gateway, AskForPrinter ask)
     : view_(view), page_(page), gateway_(gateway), ask_(std::move(ask)) {
   connect(&page, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo& info) {
-    if (!info.url().matches(page_.Destination(), QUrl::RemoveFragment)) return;  // of a page left meanwhile
+    if (!info.url().matches(page_.Destination(), QUrl::RemoveFragment)) return;  // for a page left meanwhile
     loaded_ = info.status() != QWebEngineLoadingInfo::LoadStartedStatus;
     GoOn();
   });
@@ -32,7 +32,7 @@ PagePrinter::PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gate
   connect(&view, &QWebEngineView::printFinished, this, &PagePrinter::Finish);
 }
 
-/// A printer is written to by a thread of the browser, which nothing ends; it must find the printer there.
+/// A thread of the browser writes to the printer and cannot be stopped, so the printer must stay.
 PagePrinter::~PagePrinter() {
   if (IsPrinting() && printer_->outputFormat() != QPrinter::PdfFormat) static_cast<void>(printer_.release());
 }
@@ -44,14 +44,14 @@ void PagePrinter::Print() {
   GoOn();
 }
 
-/// The answer to a question that is open comes still, and is no longer wanted.
+/// The answer to an open question still comes, and is no longer wanted.
 void PagePrinter::GiveUp() {
   again_ = false;
   if (IsPreparing()) Finish(false);
   if (stage_ == Stage::Asking) stage_ = Stage::Idle;
 }
 
-/// Frames whose documents came later are loaded once more with the page: then it holds them for certain.
+/// If documents became ready later, the page is reloaded: then its frames certainly show them.
 void PagePrinter::GoOn() {
   if (stage_ != Stage::Waiting || !loaded_) return;
   if (gateway_.ShowsUnfinished()) {
@@ -70,7 +70,7 @@ void PagePrinter::WaitForPictures(int attempts) {
                       [held = QPointer(this), attempts](const QVariant& complete) {
                         if (!held) return;
                         if (complete.toBool() || attempts == 0) {
-                          // Not from here: the browser stands still as long as it waits for this function.
+                          // Not from here: the browser blocks while it waits for this function.
                           return Later(*held, {}, [held] { held->AskAndPrint(); });
                         }
                         Later(*held, kUntilNextLook,

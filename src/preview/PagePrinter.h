@@ -13,26 +13,26 @@
 
 namespace quorvantis {
 
-/// Puts the page of a preview to a printer or into a PDF file, when everything in it is there.
+/// Prints the page of a preview, or writes it to a PDF file, once everything in it has loaded.
 class PagePrinter : public QObject {
   Q_OBJECT
 
  public:
-  /// Lets the user choose; false when nothing is to be printed.
+  /// Lets the user choose; false if nothing is to be printed.
   using AskForPrinter = std::function<bool(QPrinter& printer)>;
 
   /// All must outlive the printer. `view` shows `page`.
   PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gateway, AskForPrinter ask);
   ~PagePrinter() override;
 
-  /// Prints once the page is loaded and its documents are converted. Nothing more while a print waits or
+  /// Prints once the page is loaded and its documents are converted. Ignored while another print waits or
   /// asks; while paper is being made, once that is done.
   void Print();
 
-  /// Calls off a print, also while the user is asked for the printer; not one that makes paper already.
+  /// Cancels a print, even while the user is choosing a printer, but not once paper is being made.
   void GiveUp();
 
-  /// Whether a print waits for its page.
+  /// Whether a print is waiting for its page.
   bool IsPreparing() const { return stage_ == Stage::Waiting || stage_ == Stage::Looking; }
 
   /// Whether paper is being made: the page must stay until `Printed`.
@@ -45,7 +45,7 @@ class PagePrinter : public QObject {
   enum class Stage {
     Idle,
     Waiting,  ///< for the page and its documents
-    Looking,  ///< whether all pictures are there
+    Looking,  ///< whether all pictures have loaded
     Asking,   ///< which printer
     Printing,
   };

@@ -7,8 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-// A static library does not make its resources known by itself. The macro declares a function where it
-// stands, which must be outside of any namespace.
+// A static library does not register its resources by itself. The macro declares a function, so it must be
+// outside any namespace.
 static void InitializePreviewResources() {
   Q_INIT_RESOURCE(preview);
 }
@@ -32,7 +32,8 @@ QWebEngineScript PageScript(const PageScriptSetup& setup) {
   const QString values = QString::fromUtf8(QJsonDocument(host).toJson(QJsonDocument::Compact));
   QWebEngineScript script;
   script.setInjectionPoint(QWebEngineScript::DocumentCreation);
-  script.setWorldId(QWebEngineScript::MainWorld);  // where the page's own scripts find `window.status`
+  script.setWorldId(
+      QWebEngineScript::MainWorld);  // the world of the page's own scripts, which use `window.status`
   script.setRunsOnSubFrames(true);
   script.setSourceCode(Script("status.js") + Script("page.js") + '(' + values + ");" + Script("players.js") +
                        '(' + values + ");");

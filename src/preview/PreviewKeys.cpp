@@ -19,8 +19,8 @@ bool IsEscapePress(const QEvent& event) {
   return event.type() != QEvent::KeyRelease && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
-/// Whether a dialog takes the input of `window`: one of its own does, and one for the whole program, but not
-/// one that only another window waits for.
+/// Whether a dialog blocks the input of `window`: one of its own does, and an application-modal one, but not
+/// one of another window.
 bool HasDialogInFront(const QWidget& window) {
   const QWidget* const dialog = QApplication::activeModalWidget();
   if (dialog == nullptr) return false;
@@ -49,7 +49,7 @@ bool PreviewKeys::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-/// A press reports itself more than once, and again and again while the key is held.
+/// A press is reported more than once, and repeatedly while the key is held.
 bool PreviewKeys::TakesEscape() {
   if (QApplication::activePopupWidget() != nullptr) return false;
   if (IsMeantForPreview()) {
@@ -77,8 +77,7 @@ void PreviewKeys::NoteEscape() {
   dialogThen_ = QApplication::activeModalWidget();
 }
 
-/// The window that a key should have been sent to, where the window system has not caught up yet; null where
-/// it has.
+/// The window that a key should have gone to if the window system has not caught up yet; null if it has.
 QWidget* PreviewKeys::WindowFor(const QObject& watched) const {
   if (!window_ || !window_->WindowBelow()) return nullptr;
   QWidget* const below = window_->WindowBelow();

@@ -9,10 +9,9 @@
 
 namespace quorvantis {
 
-/// Sees to it that each key goes to what the user sees when pressing it, while previews come and go. Escape
-/// leaves a preview before its page sees the key, and calls off a print that has not asked for its printer
-/// yet. In the main window it would end the program; so it takes a second without Escape before one counts
-/// there again.
+/// Makes each key go to what the user sees when pressing it, while previews come and go. Escape leaves a
+/// preview before its page sees the key, and cancels a print that has not asked for its printer yet. In the
+/// main window it would end the program, so there it counts again only after a second without Escape.
 class PreviewKeys : public QObject {
  public:
   PreviewKeys();
@@ -30,7 +29,7 @@ class PreviewKeys : public QObject {
   QWidget* WindowFor(const QObject& watched) const;
 
   QPointer<PreviewWindow> window_;
-  QElapsedTimer sinceEscape_;     ///< that a preview took, or since one closed in another way
+  QElapsedTimer sinceEscape_;     ///< taken by a preview, or since one closed in another way
   QPointer<QWidget> dialogThen_;  ///< that was open at that time
 };
 

@@ -8,7 +8,7 @@ class PreviewOwner {
  public:
   virtual ~PreviewOwner() = default;
 
-  /// With 0: a previewed exam was finished by its button, and the prefixes of one preview come off the
+  /// With 0: a previewed exam was finished by its button, and one preview's prefixes are removed from the
   /// attachment paths (see FrameSetExam::PrefixAttachmentPaths).
   virtual void PrefixAttachmentPaths(int on) = 0;
 };

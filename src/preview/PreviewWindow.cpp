@@ -23,11 +23,11 @@ using std::chrono::milliseconds;
 constexpr milliseconds kUntilPrinting{500};
 constexpr milliseconds kUntilPageEnds{1000};
 
-/// Compared with the beginning of a status text only, so that a page may say more ("ExamFinished").
+/// Compared only with the beginning of a status text, so a page may say more ("ExamFinished").
 constexpr std::u16string_view kFinishSignal = u"ExamFinish";
 
-/// Whether all windows are gone that keep the program running. A preview that stayed open would keep a
-/// program running that nobody sees.
+/// Whether all windows that keep the program running are gone. A preview left open would keep an invisible
+/// program running.
 bool IsProgramEnding() {
   const QWidgetList windows = QApplication::topLevelWidgets();
   return std::none_of(windows.begin(), windows.end(), [](const QWidget* window) {
@@ -40,11 +40,11 @@ QRect Screen() {
   return screen == nullptr ? QRect(0, 0, 1024, 768) : screen->geometry();
 }
 
-/// Gives `window` the keyboard: the very next key goes there. Until the window system has moved it, Qt would
-/// look for shortcuts in the window that had it.
+/// Gives `window` the keyboard: the very next key goes there. Until the window system has moved the focus, Qt
+/// would look for shortcuts in the previous window.
 void GiveKeysTo(QWidget& window) {
   window.activateWindow();
-  // Later Qt wants programs to do without it, and has nothing in its place.
+  // Later versions of Qt deprecate it without a replacement.
   QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&window);)
 }
 
@@ -87,8 +87,8 @@ void PreviewWindow::Navigate(const std::filesystem::path& page) {
   page_.Go(page.empty() ? QUrl(kBlankPage) : AddressOf(page));
 }
 
-/// Screens are larger than they were when the place out of sight was chosen, and some systems let no window
-/// choose one, so the window is laid out without being shown.
+/// Screens are larger than when the hidden position was chosen, and some systems do not let windows choose a
+/// position, so the window is laid out without being shown.
 void PreviewWindow::Place(int x, int y) {
   setAttribute(Qt::WA_DontShowOnScreen, x != 0 || y != 0);
   move(Screen().topLeft() + QPoint(x, y));
@@ -131,15 +131,15 @@ void PreviewWindow::Leave() {
   Hide();
   page_.setAudioMuted(true);
   emit Closed();
-  if (printer_.IsPrinting()) {  // the browser does not survive it when the page goes meanwhile
+  if (printer_.IsPrinting()) {  // the browser crashes if the page goes meanwhile
     connect(&printer_, &PagePrinter::Printed, this, &PreviewWindow::EndPage);
   } else {
     EndPage();
   }
 }
 
-/// The page gets a second to end what it is doing, a recording for example. Then it is over, whatever scripts
-/// of it still run.
+/// The page gets a second to finish what it is doing, a recording for example. Then it goes, whatever scripts
+/// still run.
 void PreviewWindow::EndPage() {
   Navigate({});
   Later(*this, kUntilPageEnds,
@@ -164,7 +164,7 @@ void PreviewWindow::RejectPrintDialog() {
 
 bool PreviewWindow::AskUserForPrinter(QPrinter& printer) {
   printDialog_ = new QPrintDialog(&printer, IsOnScreen() ? this : QApplication::activeWindow());
-  const QPointer<QPrintDialog> dialog = printDialog_;  // gone if its parent goes while it is open
+  const QPointer<QPrintDialog> dialog = printDialog_;  // null if its parent goes while it is open
   const bool print = dialog->exec() == QDialog::Accepted;
   delete dialog;
   return print;

@@ -20,7 +20,7 @@ constexpr int kTurn = 50;  // milliseconds
 
 }  // namespace
 
-/// What all windows share. The profile has no name and therefore keeps nothing on the disk.
+/// Shared by all windows. The profile has no name and so keeps nothing on the disk.
 struct PreviewWindows::Browser {
   explicit Browser(const GatewaySetup& setup) : gateway(setup) {
     profile.setUrlRequestInterceptor(&guard);
@@ -55,7 +55,7 @@ void PreviewWindows::Retire(PreviewWindow* window) {
   browser_->gateway.StopConversions();
   if (!window->Printer().IsPrinting()) return;
   window->Hide();
-  // The next window's conversions are none of its business.
+  // The next window's conversions do not concern it.
   QObject::disconnect(&window->Printer(), nullptr, window, nullptr);
   QObject::connect(&window->Printer(), &PagePrinter::Printed, &keys_, [this, window] {
     std::erase_if(printing_, [window](std::unique_ptr<PreviewWindow>& printed) {

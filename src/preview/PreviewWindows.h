@@ -12,12 +12,12 @@
 
 namespace quorvantis {
 
-/// Makes the preview windows of a main window, over one browser profile that leaves nothing behind. The
-/// browser starts with the first window. `PrepareBrowserEngine` must have been called before the QApplication
-/// was made, and this must go before the QApplication does.
+/// Makes the preview windows of a main window, with one browser profile that leaves nothing behind. The
+/// browser starts with the first window. Call `PrepareBrowserEngine` before creating the QApplication, and
+/// destroy this before it.
 class PreviewWindows {
  public:
-  /// Discards a window; one whose page is being put to the printer goes, unseen, when that is done.
+  /// Discards a window; one that is printing goes, unseen, when that is done.
   struct Discard {
     PreviewWindows* windows;
     void operator()(PreviewWindow* window) const { windows->Retire(window); }
@@ -27,15 +27,15 @@ class PreviewWindows {
   /// The pages of `setup` must outlive this.
   explicit PreviewWindows(GatewaySetup setup);
 
-  /// All windows must have been discarded. Waits for those that print.
+  /// All windows must have been discarded. Waits for those that are printing.
   ~PreviewWindows();
   PreviewWindows(const PreviewWindows&) = delete;
   PreviewWindows& operator=(const PreviewWindows&) = delete;
 
-  /// A fresh window for the next preview or print. Discard the one before first.
+  /// A new window for the next preview or print. Discard the previous one first.
   Window Make();
 
-  /// Who chooses the printer from the next window on; the user does where this is not called.
+  /// Sets who chooses the printer, from the next window on; by default the user.
   void ChoosePrinterWith(PagePrinter::AskForPrinter ask) { ask_ = std::move(ask); }
 
  private:

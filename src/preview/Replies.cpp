@@ -16,7 +16,7 @@ void ReplyWithBytes(QWebEngineUrlRequestJob& job, const QByteArray& type, const 
   job.reply(type, buffer);
 }
 
-/// Without the charset the browser would take a page that does not name one for Western.
+/// Without a charset the browser would assume Western for a page that does not name one.
 void ReplyWithPage(QWebEngineUrlRequestJob& job, const QByteArray& utf8) {
   ReplyWithBytes(job, "text/html; charset=utf-8", utf8);
 }

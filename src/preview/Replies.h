@@ -12,10 +12,10 @@ namespace quorvantis {
 
 void ReplyWithBytes(QWebEngineUrlRequestJob& job, const QByteArray& type, const QByteArray& bytes);
 
-/// A page in UTF-8, whatever it says about itself.
+/// A page in UTF-8, whatever encoding it claims.
 void ReplyWithPage(QWebEngineUrlRequestJob& job, const QByteArray& utf8);
 
-/// The file as it is, read while the browser takes it.
+/// The file unchanged, streamed to the browser.
 void ReplyWithFile(QWebEngineUrlRequestJob& job, const QByteArray& type, const std::filesystem::path& file);
 
 }  // namespace quorvantis

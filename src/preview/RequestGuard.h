@@ -7,19 +7,19 @@
 
 namespace quorvantis {
 
-/// Stops every request of the browser that would leave the program, and marks those that are for the content
-/// of a frame. The mark is a header of the request itself: the same address may be asked for by a frame and
-/// by a player at one time, and either request may be given up before it is answered.
+/// Blocks every request of the browser that would leave the program, and marks those for the content of a
+/// frame. The mark is a header of the request itself: a frame and a player may request one address at the
+/// same time, and either may give up before the answer.
 class RequestGuard : public QWebEngineUrlRequestInterceptor {
  public:
   using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
 
   void interceptRequest(QWebEngineUrlRequestInfo& info) override;
 
-  /// Whether the request that is being answered is for the content of a frame.
+  /// Whether this request is for the content of a frame.
   static bool IsForFrame(const QWebEngineUrlRequestJob& job);
 
-  /// An address of the exam, or one that carries its content itself.
+  /// An address of the exam, or one that contains its content.
   static bool StaysInside(const QUrl& address);
 };
 

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* kWorkFolders[] = {"TEMP", "~TEMP", "~BrelmStudent"};
 
-/// Whether `path` lies below `folder`; both without links and dots.
+/// Whether `path` is below `folder`; both without links and dots.
 bool IsBelow(const fs::path& path, const fs::path& folder) {
   const auto [end, ignored] = std::mismatch(folder.begin(), folder.end(), path.begin(), path.end());
   return end == folder.end() && path != folder;
@@ -47,7 +47,7 @@ std::optional<fs::path> ServedFiles::Find(const fs::path& asked) const {
   return std::nullopt;
 }
 
-/// A work folder that is itself a link leads out of the application folder and is none of ours.
+/// A work folder that is itself a link leads out of the application folder and is not served.
 bool ServedFiles::Permits(const fs::path& real) const {
   const std::optional<fs::path> folder = RealPath(applicationFolder_);
   return folder && std::any_of(std::begin(kWorkFolders), std::end(kWorkFolders),

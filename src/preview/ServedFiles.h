@@ -7,20 +7,19 @@
 
 namespace quorvantis {
 
-/// Which files the pages of an exam may show: those below the work folders of the application folder, where
-/// there is a copy of every attached file. Exams come from strangers; whatever a page asks for, no other file
-/// is opened.
+/// Which files the pages of an exam may show: those below the work folders of the application folder, which
+/// hold a copy of every attached file. Exams are untrusted; whatever a page requests, no other file is
+/// opened.
 class ServedFiles {
  public:
   explicit ServedFiles(std::filesystem::path applicationFolder);
 
-  /// The folder of the page that is shown; relative addresses of its frames and files begin there.
+  /// The folder of the shown page; relative addresses of its frames and files start there.
   void SetPageFolder(const std::filesystem::path& folder) { pageFolder_ = folder.lexically_normal(); }
 
-  /// The places that an absolute, normal path may mean, best first: itself; and where it lies below the
-  /// page's folder, so that the page may have named it by a relative address, the same place below the
-  /// application folder and below the folder of the preview pages, beside which the files of an opened exam
-  /// are unpacked.
+  /// The places that an absolute, normal path may mean, best first: itself; and if it is below the page's
+  /// folder, since the page may have used a relative address, the same place below the application folder and
+  /// below the folder of the preview pages, beside which the files of an opened exam are unpacked.
   std::vector<std::filesystem::path> Places(const std::filesystem::path& asked) const;
 
   /// The real path of the first of these places that is an existing, permitted, regular file.

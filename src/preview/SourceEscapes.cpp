@@ -13,9 +13,9 @@ namespace {
 
 using View = std::u16string_view;
 
-/// What stands before a source, by where it stands.
+/// What precedes a source, by its context.
 constexpr View kAttribute = u"src=";
-constexpr View kParameter = u"value=";  // of a player that other browsers would choose
+constexpr View kParameter = u"value=";  // for a player that other browsers would choose
 
 /// In a script, "\\" stands for one backslash.
 std::u16string Unescaped(View source) {
@@ -35,7 +35,7 @@ struct Place {
   const PageSource* source;
 };
 
-/// The place whose text begins at `begin`, if it names a file. Quotes within a name look like the one that
+/// The place whose text begins at `begin`, if it names a file. A quote within a name looks like the one that
 /// ends it, so the longest text that is a name counts.
 std::optional<Place> PlaceAt(View page, std::size_t begin, View quote, const ComposedPages& pages) {
   const bool inScript = quote.size() > 1;
@@ -72,7 +72,7 @@ std::optional<Place> NextPlace(View page, std::size_t from, const ComposedPages&
   return std::nullopt;
 }
 
-/// For the page scripts. Nothing that is left in a name means anything in a script or in an attribute.
+/// For the page scripts. Nothing left in a name has a meaning in a script or an attribute.
 std::u16string Attributes(const PageSource& source, View quote) {
   QString name;
   for (const QChar unit : QString::fromStdU16String(source.name)) {

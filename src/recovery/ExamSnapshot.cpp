@@ -19,7 +19,7 @@ void VisitTexts(Texts& texts, Visitor& visitor) {
   for (auto& text : texts) visitor.Text(text);
 }
 
-/// What belongs to the exam as a whole, but for the fields that the form holds; questions are counted anew.
+/// The fields of the exam itself, except those that the form holds; questions are counted anew.
 template <class Exam, class Visitor>
 void VisitExamPart(Exam& exam, Visitor& visitor) {
   const auto visit = [&visitor](const FieldRow& field, auto& value) {
@@ -46,7 +46,7 @@ void WriteQuestion(const ExamQuestion& question, std::string& bytes) {
   VisitWholeQuestion(question, fields);
 }
 
-/// The fields that showing a question may change, as they are after it has been shown and left.
+/// The fields that showing a question may change, as they are after it was shown and left.
 ExamQuestion AnswersAsShown(const ExamQuestion& question) {
   ExamQuestion answers;
   answers.answerText = question.answerText;
@@ -80,8 +80,8 @@ void AddHash(std::size_t& sum, std::size_t hash) {
   sum = sum * kSpread + hash;
 }
 
-/// Adds the parts of an exam to its snapshot. Goes over megabytes each second, so nothing is copied that need
-/// not be.
+/// Adds the parts of an exam to its snapshot. Processes megabytes each second, so it copies as little as
+/// possible.
 class Gathering {
  public:
   Gathering() { WriteQuestion({}, empty_); }
@@ -153,7 +153,7 @@ class Gathering {
     }
   }
 
-  std::string empty_;  ///< a question that need not be written
+  std::string empty_;  ///< a question that is not written
 };
 
 void ReadNames(SnapshotReader& fields, std::vector<std::u16string>& names) {
@@ -162,7 +162,7 @@ void ReadNames(SnapshotReader& fields, std::vector<std::u16string>& names) {
   for (std::size_t i = 0; i < count && !fields.Failed(); ++i) fields.Text(names.emplace_back());
 }
 
-/// Copies of earlier versions of the program end before them.
+/// Copies by earlier versions of the program end before these.
 void ReadPathsWithoutContent(SnapshotReader& fields, std::set<std::u16string>& paths) {
   if (fields.Failed() || fields.Rest().empty()) return;
   std::vector<std::u16string> list;

@@ -29,7 +29,7 @@ std::optional<RecoveryFile> ReadRecoveryFile(const fs::path& folder) {
   return bytes ? ParseRecoveryFile(*bytes) : std::nullopt;
 }
 
-/// Settings alone are nothing that anybody would miss.
+/// Nobody would miss settings alone.
 bool HasAnything(const FrameSetExam& exam) {
   return !exam.title.empty() || !exam.examAttachmentPaths[0].empty() ||
          std::ranges::any_of(exam.questions, [](const auto& question) { return HasAnything(question); });
@@ -60,8 +60,8 @@ std::vector<fs::path> FoldersOf(const fs::path& root) {
   return folders;
 }
 
-/// Makes work copies of the links of a recovery copy, and puts their paths in the place of the old ones. An
-/// old path is never used as it is: it may name any file of this machine.
+/// Makes work copies from the links of a recovery copy, and replaces the old paths by theirs. An old path is
+/// never used itself: it may name any file on this machine.
 class Attachments {
  public:
   Attachments(FrameSetExam& exam, const fs::path& folder, const RecoveryLinks& links)
@@ -84,7 +84,7 @@ class Attachments {
     if (!hasContent) nowWithoutContent_.insert(path);
   }
 
-  std::vector<std::u16string> lost;  ///< names of files whose link is not there
+  std::vector<std::u16string> lost;  ///< names of files whose link is missing
 
  private:
   const RecoveryLinks& links_;

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT
-// The recovery copies that editors have left, and how one becomes the exam of an editor again.
+// SPDX-License-Identifier: MIT Finds the recovery copies that editors have left, and puts one back into an
+// editor.
 #pragma once
 
 #include "editor/ExamEditor.h"
@@ -27,17 +27,17 @@ struct FoundRecoveryCopies {
   std::vector<std::filesystem::path> damaged;  ///< folders that no exam can be read from
 };
 
-/// Looks for copies in the application folder. There must be no other editor on that folder. Folders in which
-/// a copy was only begun are removed, and copies with nothing to restore.
+/// Looks for copies in the application folder, which no other editor may use. Removes folders of unfinished
+/// copies, and copies with nothing to restore.
 FoundRecoveryCopies FindRecoveryCopies(ExamServices& services);
 
-/// Takes a damaged copy out of the way of later searches, and gives the folder where it is now.
+/// Moves a damaged copy where later searches do not find it, and returns its new folder.
 std::filesystem::path SetAside(const std::filesystem::path& damaged);
 
-/// Puts a copy into the editor, which must have nothing that is to be kept: the exam is modified then, under
-/// its own file name, its attached files are work copies again, and the question that was shown is shown.
-/// Gives the display names of attached files that the copy has lost. Nothing when the copy cannot be read;
-/// the editor then has an empty exam. The copy itself stays as it is.
+/// Puts a copy into the editor, whose exam is lost. The restored exam is modified, under its own file name,
+/// its attached files are work copies again, and the question that was shown is shown. Returns the display
+/// names of attached files that are missing from the copy. Nothing when the copy cannot be read; the editor
+/// then has an empty exam. The copy itself stays as it is.
 std::optional<std::vector<std::u16string>> RestoreExam(const std::filesystem::path& copy, ExamEditor& editor);
 
 }  // namespace quorvantis

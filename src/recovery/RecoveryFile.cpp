@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view kTag = "Quorvantis recovery 1\n";
 constexpr std::size_t kChecksumSize = sizeof(std::uint64_t);
 
-/// Taken eight bytes at a time, since it goes over megabytes.
+/// Eight bytes at a time, since it processes megabytes.
 std::uint64_t Checksum(std::string_view bytes) {
   constexpr std::uint64_t kPrime = 0x9E3779B97F4A7C15u;
   std::uint64_t sum = bytes.size();

@@ -1,6 +1,5 @@
-// SPDX-License-Identifier: MIT
-// The one file of a recovery copy that is not an attached file: a snapshot of the exam, when it was taken,
-// and which link stands for which work copy. A checksum tells a file that is not as it was written.
+// SPDX-License-Identifier: MIT The one file of a recovery copy that is not an attached file: a snapshot of
+// the exam, its time, and which link belongs to which work copy. A checksum detects damage.
 #pragma once
 
 #include <cstdint>

@@ -26,7 +26,7 @@ bool IsRegular(const fs::path& file) {
   return fs::is_regular_file(fs::symlink_status(file, ignored));
 }
 
-/// A copy that is no link is known by the time that it was given.
+/// A copy that is not a link is recognised by its modification time.
 bool IsCopyOf(const fs::path& copy, const fs::path& source) {
   std::error_code error;
   if (fs::equivalent(copy, source, error)) return true;
@@ -73,7 +73,7 @@ bool LinkOrCopy(const fs::path& source, const fs::path& copy) {
   return false;
 }
 
-/// The file goes first: what a sudden end leaves is no copy then.
+/// The file goes first: what a sudden end leaves behind is then not a copy.
 void RemoveRecoveryCopy(const fs::path& folder) {
   std::error_code ignored;
   fs::remove(RecoveryFilePath(folder), ignored);
@@ -97,7 +97,7 @@ std::error_code RecoveryFolder::MakeFolder() {
 }
 
 /// The number of the link to a work copy; nothing when there is neither. A link outlives its work copy, and
-/// one to its former content is better than none.
+/// one to old content is better than none.
 std::optional<int> RecoveryFolder::Link(const std::u16string& path) {
   const fs::path source = TextToPath(path);
   const auto known = links_.find(path);
@@ -114,7 +114,7 @@ std::optional<int> RecoveryFolder::Link(const std::u16string& path) {
   return lastLink_;
 }
 
-/// A file that could not be linked must not keep the texts from being safe.
+/// A file that could not be linked must not keep the texts from being saved.
 std::error_code RecoveryFolder::Write(const ExamSnapshot& snapshot) {
   if (const auto error = MakeFolder()) return error;
   RecoveryFile file{SecondsNow(), {}, snapshot.content};
@@ -136,14 +136,13 @@ std::error_code RecoveryFolder::Write(const ExamSnapshot& snapshot) {
   return missing_;
 }
 
-/// Each attempt would leave more of them, which are copies where the file system has no links, on a disk that
-/// is full.
+/// Otherwise each attempt would leave more of them on a full disk, whole copies where there are no links.
 void RecoveryFolder::RemoveNewLinks() const {
   std::error_code ignored;
   for (const fs::path& link : newLinks_) fs::remove(link, ignored);
 }
 
-/// Removes links of former copies, and what a process that was killed left half written.
+/// Removes links of earlier copies, and half-written files of a killed process.
 void RecoveryFolder::RemoveUnused() const {
   std::set<fs::path> used{RecoveryFilePath(folder_)};
   for (const auto& [path, number] : links_) used.insert(RecoveryLinkPath(folder_, number));

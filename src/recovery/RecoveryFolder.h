@@ -18,14 +18,14 @@ class Files;
 /// The folder of all recovery copies.
 std::filesystem::path RecoveryRoot(const std::filesystem::path& applicationFolder);
 
-/// The file of a recovery copy. A folder without it is none.
+/// The file of a recovery copy. A folder without it is not a copy.
 std::filesystem::path RecoveryFilePath(const std::filesystem::path& folder);
 
 /// The link with this number in a recovery copy.
 std::filesystem::path RecoveryLinkPath(const std::filesystem::path& folder, int number);
 
-/// Gives `copy` the file `source` as well, without copying it where the file system can. False when there is
-/// no such file or no room.
+/// Makes `copy` a link to the file `source`, or a copy of it where the file system has no links. False when
+/// there is no such file or no room.
 bool LinkOrCopy(const std::filesystem::path& source, const std::filesystem::path& copy);
 
 /// Removes a recovery copy, and the folder of all copies if it was the last one.
@@ -33,24 +33,24 @@ void RemoveRecoveryCopy(const std::filesystem::path& folder);
 
 /// The recovery copy of one editor: a folder with the recovery file and a link to each work copy. Whenever
 /// the process ends, the folder holds one complete copy, the old one or the new one: links are made before
-/// the file that names them takes the place of the old one, and go after it.
+/// the file that names them replaces the old one, and removed after it.
 class RecoveryFolder {
  public:
-  /// `root` is that of all copies; nothing is made before there is something to write. `files` must outlive
+  /// `root` is the folder of all copies; nothing is created before the first write. `files` must outlive
   /// this.
   RecoveryFolder(Files& files, std::filesystem::path root) : files_(files), root_(std::move(root)) {}
 
-  /// Is there a copy?
+  /// Whether there is a copy.
   bool Exists() const { return !folder_.empty(); }
 
-  /// Puts a new copy in the place of the old one. After an error the old one is still there, or the new one
-  /// lacks an attached file.
+  /// Replaces the copy by a new one. After an error the old one is still there, or the new one lacks an
+  /// attached file.
   std::error_code Write(const ExamSnapshot& snapshot);
 
-  /// There is to be no copy any more.
+  /// Removes the copy.
   void Remove();
 
-  /// The copy stays for somebody else; the next one gets a folder of its own.
+  /// Leaves the copy behind; the next one gets a new folder.
   void Release() { Adopt({}); }
 
   /// From now on this copy is the one to replace or remove.
@@ -68,8 +68,8 @@ class RecoveryFolder {
   RecoveryLinks links_;           ///< of the copy in the folder
   int lastLink_ = 0;
   std::vector<std::filesystem::path> newLinks_;  ///< made for the copy that is being written
-  std::error_code missing_;                      ///< why it lacks an attached file
-  bool tidy_ = false;                            ///< nothing but the copy is in the folder
+  std::error_code missing_;                      ///< why an attached file is missing from it
+  bool tidy_ = false;                            ///< the folder holds nothing but the copy
 };
 
 }  // namespace quorvantis

@@ -26,7 +26,7 @@ bool RecoveryKeeper::DiffersFromFile(const ExamSnapshot& snapshot) const {
   return inFile == inFiles_.end() || inFile->second != snapshot.substance;
 }
 
-/// The exam is what its file holds.
+/// The exam equals its file.
 void RecoveryKeeper::NoteFile() {
   inFiles_[editor_.state.FileName()] = TakeSnapshot(editor_).substance;
   seen_.reset();
@@ -62,7 +62,7 @@ void RecoveryKeeper::Write(ExamSnapshot snapshot) {
   writing_ = std::async(kWhereverPossible, write, std::move(snapshot));
 }
 
-/// Afterwards nothing is being written. What could not be written is tried again.
+/// Waits for the background write. What could not be written is tried again.
 void RecoveryKeeper::Wait() {
   if (!writing_.valid()) return;
   failure_ = writing_.get();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The visitors that read and write snapshots. Fields have no widths there: nothing is cut, and every number
-// and unit comes back as it was. Bytes are in the machine's own order, since a recovery copy does not travel.
+// The visitors that read and write snapshots. They walk the fields of an exam without widths: nothing is cut,
+// and every number and unit comes back unchanged. Bytes are in the machine's own order, since a recovery copy
+// does not travel.
 #pragma once
 
 #include "model/ExamFields.h"
@@ -49,8 +50,7 @@ class SnapshotWriter {
   std::string& bytes_;
 };
 
-/// Takes fields from bytes of any origin. A field that is not whole stays as it is, and so does every later
-/// one.
+/// Reads fields from untrusted bytes. An incomplete field stays unchanged, and so does every later one.
 class SnapshotReader {
  public:
   explicit SnapshotReader(std::string_view bytes) : rest_(bytes) {}

@@ -65,7 +65,7 @@ std::optional<std::vector<std::pair<char16_t, char16_t>>> CharacterSet::Ranges(s
   return ranges;
 }
 
-/// The first unit from `from` on that is in the set, or that is not; kUnits for none.
+/// The first unit from `from` on that is in the set, or is not; kUnits if there is none.
 std::size_t CharacterSet::Next(std::size_t from, bool isMember) const {
   while (from < kUnits) {
     const std::uint64_t word = words_[from / 64];

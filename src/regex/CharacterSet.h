@@ -10,7 +10,7 @@
 
 namespace quorvantis {
 
-/// A set of UTF-16 units: one bit for each of the 65536, so that asking costs the same for every class.
+/// A set of UTF-16 units: one bit for each of the 65536, so a look-up costs the same for every class.
 class CharacterSet {
  public:
   CharacterSet() : words_(kWords) {}
@@ -28,19 +28,19 @@ class CharacterSet {
   void Remove(char16_t unit) { words_[unit / 64U] &= ~(std::uint64_t{1} << (unit % 64U)); }
   void Invert();
 
-  /// Adds to every letter the letters that differ from it in case only.
+  /// Adds to every letter the letters that differ from it only in case.
   void CloseUnderCase();
 
-  /// How many units are in the set.
+  /// The number of units in the set.
   std::size_t Count() const;
   /// The smallest unit; the set must not be empty.
   char16_t First() const;
 
-  /// First and last units of the ranges of the set, in ascending order; nothing where there are more than
+  /// First and last units of the ranges of the set, in ascending order; nothing if there are more than
   /// `most`.
   std::optional<std::vector<std::pair<char16_t, char16_t>>> Ranges(std::size_t most) const;
 
-  /// Whether no unit is in both.
+  /// Whether the sets have no unit in common.
   bool IsDisjoint(const CharacterSet& other) const;
   bool operator==(const CharacterSet&) const = default;
 

@@ -52,7 +52,7 @@ class ClassParser {
       return false;
     }
     CharacterSet named = PosixClass(name);
-    if (negated && named.Count() != 0) named.Invert();  // an unknown name matches nothing either way
+    if (negated && named.Count() != 0) named.Invert();  // an unknown name matches nothing, negated or not
     set_.AddAll(named);
     return true;
   }

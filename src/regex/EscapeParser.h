@@ -8,7 +8,7 @@
 
 namespace quorvantis {
 
-/// The class that a letter after "\" stands for ("\d" and its like), or nothing.
+/// The class that a letter after "\" stands for (such as "\d"), or nothing.
 std::optional<CharacterSet> ClassEscape(char16_t letter);
 
 /// The unit that a letter after "\" stands for, with the cursor after the letter: a control character, a

@@ -8,13 +8,13 @@
 namespace quorvantis {
 
 /// Which places of a program have been tried at which positions of the text, and cannot lead to a match. One
-/// bit each, as long as the table stays in bounds; in a larger one, places share bytes that tell who was
-/// there last. To forget a failure costs time and never changes an answer.
+/// bit each while the table is within its limit; beyond it, places share bytes that hold the last one.
+/// Forgetting a failure costs time and never changes a result.
 class FailureMemory {
  public:
   bool IsOn() const { return on_; }
 
-  /// Begins to remember, for rows 0 to `rows` - 1 and positions 0 to `positions` - 1.
+  /// Starts remembering, for rows 0 to `rows` - 1 and positions 0 to `positions` - 1.
   void TurnOn(int rows, std::size_t positions) {
     on_ = rows > 0;
     positions_ = positions;
@@ -46,7 +46,7 @@ class FailureMemory {
     return static_cast<std::uint64_t>(row) * positions_ + static_cast<std::uint64_t>(position);
   }
   static std::size_t Shared(std::uint64_t key) {
-    constexpr std::uint64_t kMixer = 0x9E3779B97F4A7C15U;  // spreads keys that lie side by side
+    constexpr std::uint64_t kMixer = 0x9E3779B97F4A7C15U;  // spreads neighbouring keys
     return static_cast<std::size_t>((key * kMixer) >> 42U) % kSharedWords;
   }
 

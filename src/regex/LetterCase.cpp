@@ -8,7 +8,7 @@
 namespace quorvantis {
 namespace {
 
-/// Units from `first` to `last`, every `step`-th of them, whose folded form lies `distance` further.
+/// Every `step`-th unit from `first` to `last`, whose folded form is `distance` further.
 struct CaseRun {
   char16_t first;
   char16_t last;

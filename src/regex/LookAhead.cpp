@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kMostSearches = 2'000;  // of places in one program
 
-/// Finds out what the instructions of a program need to know, and keeps one of each in the program.
+/// Computes what the instructions of a program need to know, and stores each result once.
 class LookAheadFinder {
  public:
   explicit LookAheadFinder(RegexProgram& program) : program_(program) {}
@@ -88,8 +88,8 @@ class LookAheadFinder {
     return Keep(std::move(conditions));
   }
 
-  /// Where all units can be taken, what follows can be searched for. Else a unit that cannot be taken is the
-  /// end of the search, and neither may look beyond it: it would do so again from every start.
+  /// If all units can be taken, search for what follows. Otherwise the search ends at a unit that cannot be
+  /// taken, and must not look beyond it: it would do so again from every start.
   const StartSearch* EndsOfLazy(const Instruction& repeat, int next) {
     if (*repeat.set == CharacterSet::All()) return StartsAt(next);
     if (!repeat.first) return nullptr;

@@ -5,9 +5,8 @@
 
 namespace quorvantis {
 
-/// The third stage of compilation: tells the choices of a program which units can come first on either way,
-/// so that most of them are decided by one look at the text; repetitions where they can end; and where a
-/// match can begin at all.
+/// The third stage of compilation: finds the units with which each way of a choice can begin, so that one
+/// look at the text decides most choices; where repetitions can end; and where a match can begin at all.
 void LookAhead(RegexProgram& program);
 
 }  // namespace quorvantis

@@ -7,16 +7,16 @@
 
 namespace quorvantis {
 
-/// What a caller hands from match to match, and by which it can end one that takes too long.
+/// What a caller passes from match to match, and how it can cancel a slow one.
 struct MatchContext {
   /// Where the previous match ended, in UTF-16 units: the place of "\G". -1 before the first match, when that
   /// is where the scan begins. Match stores the end of its match here.
   int previousEnd = -1;
 
-  /// Asked now and then, about every millisecond; true ends the match without an answer. May be empty.
+  /// Polled about every millisecond; true cancels the match. May be empty.
   std::function<bool()> isCancelled;
 
-  /// Told of the starts that fail, unless the pattern runs right-to-left. May be null.
+  /// Receives the failed starts, unless the pattern runs right-to-left. May be null.
   FailedStarts* failedStarts = nullptr;
 };
 

@@ -6,7 +6,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kMostSteps = 100;  // instructions that one search looks at
+constexpr std::size_t kMostSteps = 100;  // instructions that one search visits
 
 /// Follows all ways from some places to where they take a unit.
 class NextUnitSearch {
@@ -21,7 +21,7 @@ class NextUnitSearch {
     open_.push_back(place);
   }
 
-  /// Where one of the ways leads without a unit, or is not known, there is no answer.
+  /// If one of the ways takes no unit, or is unknown, there is no result.
   bool Run() {
     while (!open_.empty()) {
       const int place = open_.back();
@@ -73,7 +73,7 @@ class NextUnitSearch {
         Go(place + 1);
         Go(instruction.target);
         return true;
-      case Op::Look:  // takes nothing, however it ends
+      case Op::Look:  // takes no unit, however it ends
         Go(program_.code[static_cast<std::size_t>(instruction.target)].target);
         Go(instruction.other);
         return true;
@@ -84,7 +84,7 @@ class NextUnitSearch {
       case Op::Atomic:
         Go(place + 1);
         return true;
-      case Op::AtomicEnd:  // its body decides by itself, whatever comes after
+      case Op::AtomicEnd:  // its body decides alone, whatever follows
       case Op::BackReference:
       case Op::LookEnd:
       case Op::Call:
@@ -103,7 +103,7 @@ class NextUnitSearch {
   CharacterSet again_;  ///< units after the first one that the same instruction takes
 };
 
-/// The units of a look-behind at `place` that looks at one unit and has to come out one way; else nothing.
+/// The units of a one-unit look-behind at `place` that must come out one way; otherwise nothing.
 std::optional<CharacterSet> UnitsOfLookBehind(const RegexProgram& program, int place) {
   const auto at = [&](int index) -> const Instruction& {
     return program.code[static_cast<std::size_t>(index)];
@@ -148,7 +148,7 @@ std::optional<CharacterSet> FindUnitsBefore(const RegexProgram& program, int pla
     const Instruction& code = program.code[static_cast<std::size_t>(place)];
     if (code.op == Op::Look) return UnitsOfLookBehind(program, place);
     if (code.op == Op::Assert && code.assertion == AssertionKind::LineStart) return CharacterSet::Of(u"\r\n");
-    // These take nothing, so what comes after them is at the same position.
+    // These take no unit, so what follows is at the same position.
     if (code.op != Op::Assert && code.op != Op::MarkPosition && code.op != Op::Atomic) return std::nullopt;
   }
 }

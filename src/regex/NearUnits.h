@@ -1,6 +1,5 @@
-// SPDX-License-Identifier: MIT
-// What units must stand where a place of a program is to match. "Nothing" means that any can, or none needs
-// to.
+// SPDX-License-Identifier: MIT The units that must be near the position where a place of a program matches.
+// "Nothing" means any unit, or none.
 #pragma once
 
 #include "regex/RegexProgram.h"
@@ -15,8 +14,8 @@ std::optional<CharacterSet> FindFirstUnits(const RegexProgram& program, int plac
 /// The units that can come second.
 std::optional<CharacterSet> FindSecondUnits(const RegexProgram& program, int place);
 
-/// The units that can stand on the other side of the position, for code that runs forward; nothing has to
-/// stand before the start of the text.
+/// The units that can be on the other side of the position, for code that runs forward; the start of the text
+/// also qualifies.
 std::optional<CharacterSet> FindUnitsBefore(const RegexProgram& program, int place);
 
 }  // namespace quorvantis

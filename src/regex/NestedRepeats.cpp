@@ -14,7 +14,7 @@ RepeatNode* OnlyRepeat(SyntaxNode& tree) {
   return std::get_if<RepeatNode>(&tree.value);
 }
 
-/// A number beyond the longest text is no limit.
+/// A number beyond the longest text is not a limit.
 int Product(int a, int b) {
   if (a == 0 || b == 0) return 0;
   if (a == kUnlimited || b == kUnlimited || a > std::numeric_limits<int>::max() / b) return kUnlimited;
@@ -38,7 +38,7 @@ void MergeNestedRepeat(RepeatNode& outer) {
   if (isFixed) outer.mode = inner->mode;
   outer.min = Product(outer.min, inner->min);
   outer.max = Product(outer.max, inner->max);
-  SyntaxTree unit = std::move(inner->body);  // what holds it goes with the old body
+  SyntaxTree unit = std::move(inner->body);  // its owner goes with the old body
   outer.body = std::move(unit);
 }
 

@@ -5,9 +5,9 @@
 
 namespace quorvantis {
 
-/// Makes one repetition of two, such as "x{0,15}" of "(?:x{0,3}){0,5}", where the text that is repeated is
-/// one unit and nothing can tell the difference. Nested repetitions have a great many ways to match the same
-/// text, and would try them all.
+/// Merges two repetitions into one, such as "(?:x{0,3}){0,5}" into "x{0,15}", if the repeated text is one
+/// unit and nothing can tell the difference. Nested repetitions can match the same text in a great many ways,
+/// and would try them all.
 void MergeNestedRepeat(RepeatNode& outer);
 
 }  // namespace quorvantis

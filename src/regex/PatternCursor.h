@@ -30,12 +30,12 @@ class PatternCursor {
     return true;
   }
 
-  /// What was taken since the cursor stood at `position`.
+  /// What was taken since the cursor was at `position`.
   std::u16string_view TextSince(std::size_t position) const {
     return pattern_.substr(position, position_ - position);
   }
 
-  /// Takes what comes before `end`, and `end` too; nothing when `end` does not come.
+  /// Takes the text before `end`, and `end`; nothing if there is no `end`.
   std::optional<std::u16string_view> TakeUntil(std::u16string_view end) {
     const std::size_t found = pattern_.find(end, position_);
     if (found == std::u16string_view::npos) return std::nullopt;
@@ -44,7 +44,7 @@ class PatternCursor {
     return text;
   }
 
-  /// Takes a decimal number; nothing when no digit comes next. Fails above `limit`.
+  /// Takes a decimal number; nothing if there is no digit. Fails above `limit`.
   std::optional<int> TakeNumber(int limit) {
     const auto atDigit = [this] { return Peek() >= u'0' && Peek() <= u'9'; };
     if (!atDigit()) return std::nullopt;

@@ -13,11 +13,11 @@ namespace quorvantis {
 namespace {
 
 constexpr std::size_t kLargestProgram = 200'000;  // instructions
-constexpr std::size_t kLargestCopies = 2'000;     // instructions that the copies of one counted body may take
-constexpr int kMostUnitCopies = 4;                // of one unit that must come several times
-constexpr int kMostMarks = 6;                     // loops around that failures may depend on
+constexpr std::size_t kLargestCopies = 2'000;     // instructions for the copies of one counted body
+constexpr int kMostUnitCopies = 4;                // of one required unit
+constexpr int kMostMarks = 6;                     // enclosing loops that failures may depend on
 
-/// About how many instructions a tree takes. A body that is repeated more often than copied counts once.
+/// About how many instructions a tree takes. A body that is counted rather than copied counts once.
 std::size_t ProgramSize(const SyntaxNode& tree) {
   return std::visit(
       [](const auto& node) {
@@ -111,8 +111,8 @@ class RegexCompiler {
     return set.get();
   }
 
-  /// Gives an instruction with a choice its rows in the memory of failures: one for each state that the marks
-  /// of the loops around can be in.
+  /// Gives an instruction with a choice its rows in the memory of failures: one for each state of the marks
+  /// of the enclosing loops.
   void Remember(Instruction& instruction) {
     if (hasRecursion_ || insideCountedLoop_ || marks_.size() > kMostMarks) return;
     instruction.memory = program_.memoryRows;
@@ -128,7 +128,7 @@ class RegexCompiler {
 
   void Emit(const UnitNode& node, bool backward) { EmitUnit(*Keep(node.set), backward); }
 
-  /// `set` is one that the program keeps.
+  /// `set` belongs to the program.
   void EmitUnit(const CharacterSet& set, bool backward) {
     if (set.Count() == 1) {
       Append({.op = Op::Unit, .backward = backward, .unit = set.First()});
@@ -176,7 +176,7 @@ class RegexCompiler {
     AppendReturn(node.group);
   }
 
-  /// Nothing comes back in a pattern that calls nothing.
+  /// A pattern without calls needs no returns.
   void AppendReturn(int group) {
     if (hasRecursion_) Append({.op = Op::Return, .index = group});
   }
@@ -199,7 +199,7 @@ class RegexCompiler {
   /// The set of a repeated element that is one unit, or a group around one; null for others.
   std::shared_ptr<const CharacterSet> RepeatedUnit(const RepeatNode& node) const {
     const CaptureNode* capture = RepeatedGroup(node);
-    if (capture && hasRecursion_) return nullptr;  // such a group could be called by itself
+    if (capture && hasRecursion_) return nullptr;  // such a group could be called separately
     return OnlyUnit(capture ? *capture->body : *node.body);
   }
 
@@ -215,7 +215,7 @@ class RegexCompiler {
     EmitOptional(node, node.max - node.min, backward, mode);
   }
 
-  /// The units that must come and those that may are two steps, so that every place in the second is alike.
+  /// The required units and the optional ones are two steps, so that every place in the second is alike.
   void EmitUnits(const RepeatNode& node, const CharacterSet& set, bool backward, RepeatMode mode) {
     Instruction repeat{.op = Op::Repeat, .backward = backward, .mode = mode};
     repeat.index = RepeatedGroup(node) ? RepeatedGroup(node)->group : kNowhere;
@@ -233,7 +233,7 @@ class RegexCompiler {
     Append(repeat);
   }
 
-  /// "x{0}" matches nothing, but what is in it may be called.
+  /// "x{0}" matches nothing, but groups in it may be called.
   void EmitNever(const RepeatNode& node, bool backward) {
     const int jump = Append({.op = Op::Jump});
     Emit(*node.body, backward);
@@ -255,7 +255,7 @@ class RegexCompiler {
     if (exit != kNowhere) At(exit).target = Here();
   }
 
-  /// One iteration or more. The first one leaves the loop too when it has taken nothing.
+  /// One iteration or more. The first one also leaves the loop if it has taken nothing.
   void EmitPlus(const RepeatNode& node, bool backward, RepeatMode mode) {
     const int body = Here();
     const int exit = EmitIteration(node, backward);
@@ -264,7 +264,7 @@ class RegexCompiler {
     if (exit != kNowhere) At(exit).target = Here();
   }
 
-  /// A body that leaves the loop when it has taken nothing: else it would go on for ever. Gives the place
+  /// A body that leaves the loop if it has taken nothing: otherwise it would go on forever. Returns the place
   /// whose target is the end of the loop, or kNowhere for a body that always takes something.
   int EmitIteration(const RepeatNode& node, bool backward) {
     if (!CanBeEmpty(*node.body)) {
@@ -310,7 +310,7 @@ class RegexCompiler {
     insideCountedLoop_ = outer;
   }
 
-  // --- bodies that are tried apart ---
+  // --- bodies matched on their own ---
 
   template <class Body>
   void EmitAtomic(const Body& body) {
@@ -331,7 +331,7 @@ class RegexCompiler {
     int end;
   };
 
-  /// Leaves open where the Look and its LookEnd go on; where they go nowhere, they fail.
+  /// Leaves the targets of the Look and its LookEnd open; without a target, they fail.
   LookPlaces EmitLookBody(const LookNode& node) {
     const int keeper = NewRegister();
     const int look = Append({.op = Op::Look, .index = keeper});
@@ -360,7 +360,7 @@ class RegexCompiler {
     EmitBranches(node, backward, look->negative ? failed : matched, look->negative ? matched : failed);
   }
 
-  /// A field of an instruction that says where to go on.
+  /// A field of an instruction that holds a target.
   struct Exit {
     int place;
     int Instruction::*field;
@@ -404,7 +404,7 @@ class RegexCompiler {
   std::vector<GroupStart> groupStarts_;
   bool hasRecursion_;
   bool insideCountedLoop_ = false;
-  std::vector<int> marks_;  ///< registers of the loops around whose bodies can be empty
+  std::vector<int> marks_;  ///< registers of the enclosing loops whose bodies can be empty
 };
 
 }  // namespace

@@ -53,8 +53,8 @@ MatchResult RegexMatcher::Find(int start) {
   return MatchResult(stopped_);
 }
 
-/// The first position from `start` on where a match can begin, by the units near it; outside of the text for
-/// none.
+/// The first position from `start` on where a match can begin, by the units near it; outside the text if
+/// there is none.
 int RegexMatcher::FindStart(int start) const {
   if (program_.onlyAtTextStart && start > 0) return length_ + 1;
   if (program_.starts) return program_.starts->Find(text_, start).value_or(length_ + 1);
@@ -106,7 +106,7 @@ void RegexMatcher::See(int position) {
   seen_ = std::max(seen_, std::min(position, length_));
 }
 
-/// Looks whether the match has to end without an answer, and turns the memory of failures on when it is time.
+/// Checks whether the match must end without a result, and turns on the memory of failures when it is time.
 bool RegexMatcher::IsStopped() {
   if (context_.isCancelled && context_.isCancelled()) stopped_ = MatchOutcome::Cancelled;
   if (stack_.size() > kMostEntries || savedValues_.size() > kMostSavedValues)
@@ -119,7 +119,7 @@ bool RegexMatcher::IsStopped() {
   return stopped_ != MatchOutcome::NoMatch;
 }
 
-/// Runs one instruction; false when it does not match. Place kNowhere tells the end of the program.
+/// Runs one instruction; false if it does not match. Place kNowhere means the end of the program.
 bool RegexMatcher::Step(Thread& thread) {
   const Instruction& instruction = program_.code[static_cast<std::size_t>(thread.place)];
   switch (instruction.op) {
@@ -242,8 +242,8 @@ bool RegexMatcher::Holds(AssertionKind kind, int position) const {
 
 // --- choices ---
 
-/// The row of a choice at `position`: another one for every set of loops around whose iteration has taken
-/// nothing yet, since those must not go round again.
+/// The row of a choice at `position`: a different one for every set of enclosing loops whose iteration has
+/// taken nothing yet, since those must not repeat.
 int RegexMatcher::Row(const Instruction& instruction, int position) const {
   int row = 0;
   const int* mark = program_.marks.data() + instruction.firstMark;
@@ -253,8 +253,8 @@ int RegexMatcher::Row(const Instruction& instruction, int position) const {
   return instruction.memory + row;
 }
 
-/// A look at the next unit decides most choices. A loop is remembered even then, or a text without an end for
-/// it would be gone through again from every start.
+/// A look at the next unit decides most choices. A loop is remembered even then; otherwise a text without an
+/// end for it would be scanned again from every start.
 bool RegexMatcher::Split(const Instruction& instruction, Thread& thread) {
   const bool canGo = CanComeNext(instruction.first, instruction.backward, thread.position);
   const bool isChoice = canGo && CanComeNext(instruction.otherFirst, instruction.backward, thread.position);
@@ -289,7 +289,7 @@ bool RegexMatcher::CountedLoop(const Instruction& instruction, Thread& thread) {
   return mayGoOn;
 }
 
-/// Goes back to the last choice that is left; false when there is none.
+/// Goes back to the last open choice; false if there is none.
 bool RegexMatcher::BackTrack(Thread& thread) {
   while (!stack_.empty()) {
     const Entry entry = stack_.back();
@@ -299,7 +299,7 @@ bool RegexMatcher::BackTrack(Thread& thread) {
   return false;
 }
 
-/// Deals with an entry that was taken from the stack; true when the program goes on there.
+/// Handles an entry taken from the stack; true if the program continues there.
 bool RegexMatcher::Resume(const Entry& entry, Thread& thread) {
   switch (entry.kind) {
     case EntryKind::Alternative:
@@ -346,7 +346,7 @@ void RegexMatcher::Restore(const Entry& entry) {
   }
 }
 
-/// Changes that no choice lies below need no way back.
+/// Changes without a choice below them need not be undone.
 void RegexMatcher::SetGroup(int group, int start, int end) {
   int& oldStart = bounds_[2 * static_cast<std::size_t>(group)];
   int& oldEnd = bounds_[2 * static_cast<std::size_t>(group) + 1];

@@ -12,7 +12,7 @@
 
 namespace quorvantis {
 
-/// Runs a program on one text. docs/MATCHER.md explains how. All that a match needs lies in vectors, so the
+/// Runs a program on one text. docs/MATCHER.md explains how. Everything a match needs is in vectors, so the
 /// depth of the machine's stack does not depend on the text.
 class RegexMatcher {
  public:
@@ -30,13 +30,13 @@ class RegexMatcher {
   };
 
   enum class EntryKind : int {
-    // Choices, to come back to:
-    Alternative,    ///< go on at place `a`, position `b`
+    // Choices to come back to:
+    Alternative,    ///< continue at place `a`, position `b`
     FewerUnits,     ///< of the Repeat at `a` that began at `b`: the positions from `c` outwards have failed
     MoreUnits,      ///< of the Repeat at `a` that began at `b`: the positions up to `c` have failed
     NextIteration,  ///< enter the body of the CountedLoop at `a`, position `b`
     Barrier,        ///< the body of the Look or Atomic at `a`, begun at position `b`, has failed
-    // What has to be set back on the way:
+    // Values to restore on the way back:
     RestoreGroup,     ///< group a was from b to c
     RestoreRegister,  ///< registers_[a] was b
     RestoreFrame,     ///< the frame was a, of b frames
@@ -51,7 +51,7 @@ class RegexMatcher {
     int c;
   };
 
-  /// A call of a group that has not come back.
+  /// A call of a group that has not returned.
   struct Frame {
     int group;
     int returnPlace;
@@ -102,7 +102,7 @@ class RegexMatcher {
     return at >= 0 && at < length_ && units->Contains(text_[static_cast<std::size_t>(at)]);
   }
 
-  /// Takes the fields and not an entry: copying one that was just put together waits for its parts.
+  /// Takes the fields rather than an entry: copying a newly built entry stalls on its parts.
   void Push(EntryKind kind, int a, int b, int c = 0) {
     if (stack_.capacity() == 0) stack_.reserve(kUsualEntries);
     stack_.push_back({kind, a, b, c});
@@ -117,7 +117,7 @@ class RegexMatcher {
   MatchContext& context_;
   const int length_;
   int scanStart_ = 0;
-  std::vector<int> entries_;  ///< of the result, and the registers behind them
+  std::vector<int> entries_;  ///< of the result, followed by the registers
   std::span<int> bounds_;     ///< of these, the starts and ends of groups
   std::span<int> registers_;
   std::vector<Entry> stack_;
@@ -127,7 +127,7 @@ class RegexMatcher {
   FailureMemory memory_;
   int seen_ = 0;            ///< the furthest index of the text that was looked at, or whether it is the end
   long long work_ = 0;      ///< steps and units so far
-  long long nextLook_ = 0;  ///< the work after which it is looked whether to go on
+  long long nextLook_ = 0;  ///< the work after which to check whether to go on
   MatchOutcome stopped_ = MatchOutcome::NoMatch;
 };
 

@@ -40,7 +40,7 @@ class RegexParser {
 
   // --- alternation, sequence, quantifiers ---
 
-  /// Up to a ")" or the end. Inline flags that stand in it hold to its end.
+  /// Up to a ")" or the end. Inline flags in it hold to its end.
   SyntaxTree ParseAlternation() {
     const int outerFlags = flags_;
     if (++depth_ > kMostNestedGroups) cursor_.Fail("groups are nested too deeply");
@@ -66,14 +66,14 @@ class RegexParser {
     return MakeTree(SequenceNode{std::move(parts)});
   }
 
-  /// Whether another element of the sequence comes next.
+  /// Whether another element of the sequence follows.
   bool SkipToElement() {
     SkipToMeaning();
     if (cursor_.AtEnd()) return false;
     return quoted_.IsOn() || (!cursor_.LooksAt(u"|") && !cursor_.LooksAt(u")"));
   }
 
-  /// Over all that means nothing by itself, in any order: marks of quotations, and comments outside of them.
+  /// Skips everything without a meaning of its own, in any order: quotation marks, and comments outside them.
   void SkipToMeaning() {
     while (quoted_.TakeMark(cursor_) || (!quoted_.IsOn() && TakeComment())) {
     }
@@ -114,7 +114,7 @@ class RegexParser {
     return true;
   }
 
-  /// What stands after the counts, be it after a comment.
+  /// What follows the counts, possibly after a comment.
   RepeatMode TakeMode() {
     SkipToMeaning();
     if (quoted_.IsOn()) return RepeatMode::Greedy;
@@ -129,7 +129,7 @@ class RegexParser {
     return TakeBracedCounts();
   }
 
-  /// "{n}", "{n,}" or "{n,m}"; any other "{" is a unit like others.
+  /// "{n}", "{n,}" or "{n,m}"; any other "{" is an ordinary unit.
   std::optional<Counts> TakeBracedCounts() {
     const std::size_t place = cursor_.Position();
     if (!cursor_.Take(u"{")) return std::nullopt;
@@ -147,7 +147,7 @@ class RegexParser {
 
   // --- elements ---
 
-  /// Null for what is no element: inline flags.
+  /// Null for inline flags, which are not an element.
   SyntaxTree ParseElement() {
     if (quoted_.IsOn()) return Literal(quoted_.Next(cursor_));
     if (cursor_.Take(u"(")) return ParseGroup();

@@ -12,10 +12,10 @@ namespace quorvantis {
 
 using GroupNames = std::vector<std::pair<std::u16string, int>>;
 
-/// A pattern that has been understood.
+/// A parsed pattern.
 struct ParsedPattern {
   SyntaxTree tree;
-  int groupCount = 0;  ///< capture groups, the whole match not counted
+  int groupCount = 0;  ///< capture groups, without the whole match
   GroupNames names;    ///< of named groups, in their order
 };
 

@@ -23,10 +23,10 @@ class RegexPattern {
   RegexPattern(std::u16string_view pattern, int flags) { Compile(pattern, flags); }
 
   /// Replaces what was compiled before. A view without data leaves the object empty, as does a pattern with a
-  /// syntax error, of which CompileError then tells. `flags` is a sum of regex_flag values.
+  /// syntax error, which CompileError then describes. `flags` is a sum of regex_flag values.
   void Compile(std::u16string_view pattern, int flags);
 
-  /// Where and why the last pattern could not be compiled; nothing after one that could.
+  /// Where and why the last pattern could not be compiled; nothing if it could.
   const std::optional<RegexError>& CompileError() const { return error_; }
   bool IsEmpty() const { return !program_; }
 
@@ -49,8 +49,8 @@ class RegexPattern {
   std::vector<std::pair<std::u16string, int>> names_;
 };
 
-/// The part of a text that is matched where texts end at their first NUL. Searching for it takes longer than
-/// most matches, so it is done once for a text and not for every match in it.
+/// The part of a text before its first NUL, for callers whose texts end there. Finding it takes longer than
+/// most matches, so do it once per text, not per match.
 std::u16string_view TextBeforeNul(std::u16string_view text);
 
 }  // namespace quorvantis

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT
-// RegexMatcher: bodies that are tried apart (look-around, atomic groups), and calls of groups.
+// SPDX-License-Identifier: MIT RegexMatcher: bodies matched on their own (look-around, atomic groups), and
+// calls of groups.
 #include "regex/RegexMatcher.h"
 
 #include <algorithm>
@@ -7,14 +7,14 @@
 namespace quorvantis {
 
 void RegexMatcher::RaiseBarrier(const Instruction& instruction, const Thread& thread) {
-  // The register must be set below the barrier, or dropping the choices would lose where it stands.
+  // The register must be set below the barrier, or dropping the choices would lose its place.
   Push(EntryKind::RestoreRegister, instruction.index,
        registers_[static_cast<std::size_t>(instruction.index)]);
   registers_[static_cast<std::size_t>(instruction.index)] = static_cast<int>(stack_.size());
   Push(EntryKind::Barrier, thread.place, thread.position);
 }
 
-/// Removes the barrier and the choices above it, and keeps what has to be set back.
+/// Removes the barrier and the choices above it, and keeps the values to restore.
 void RegexMatcher::DropChoices(int barrier) {
   const auto isChoice = [](const Entry& entry) {
     return entry.kind != EntryKind::RestoreGroup && entry.kind != EntryKind::RestoreRegister &&
@@ -23,7 +23,7 @@ void RegexMatcher::DropChoices(int barrier) {
   stack_.erase(std::remove_if(stack_.begin() + barrier, stack_.end(), isChoice), stack_.end());
 }
 
-/// Sets everything back to what it was when the stack had `size` entries, without trying what is left there.
+/// Restores everything to when the stack had `size` entries, without trying the open choices.
 void RegexMatcher::UnwindTo(int size) {
   while (stack_.size() > static_cast<std::size_t>(size)) {
     const Entry entry = stack_.back();
@@ -45,7 +45,7 @@ bool RegexMatcher::LookEnd(const Instruction& instruction, Thread& thread) {
 
 // --- recursion ---
 
-/// A group that calls itself at the same position would do so for ever, so that way fails.
+/// A group that calls itself at the same position would do so forever, so that way fails.
 bool RegexMatcher::Call(const Instruction& instruction, Thread& thread) {
   for (int index = frame_; index != kNowhere; index = frames_[static_cast<std::size_t>(index)].caller) {
     const Frame& frame = frames_[static_cast<std::size_t>(index)];
@@ -61,7 +61,7 @@ bool RegexMatcher::Call(const Instruction& instruction, Thread& thread) {
   return true;
 }
 
-/// What groups matched during a call is forgotten when it comes back.
+/// What groups matched during a call is forgotten when it returns.
 bool RegexMatcher::Return(const Instruction& instruction, Thread& thread) {
   ++thread.place;
   if (frame_ == kNowhere || frames_[static_cast<std::size_t>(frame_)].group != instruction.index) return true;

@@ -6,8 +6,8 @@
 namespace quorvantis {
 namespace {
 
-/// About how many of a thousand units in papers are in a set. It need not be right: it only tells which of
-/// two sets is better searched for.
+/// About how many of a thousand units in papers are in a set. A rough guess is enough: it only decides which
+/// of two sets to search for.
 double Frequency(const CharacterSet& units) {
   double sum = static_cast<double>(units.Count()) / 100;  // of any script
   for (char16_t unit = 0; unit < 128; ++unit) {
@@ -23,7 +23,7 @@ double Frequency(const CharacterSet& units) {
   return sum;
 }
 
-/// Puts the condition that the fewest places meet at the front, of those with few ranges if there is one.
+/// Moves the condition that the fewest places meet to the front, preferring those with few ranges.
 std::vector<StartSearch::Condition> Ordered(std::vector<StartSearch::Condition> conditions) {
   const auto cost = [](const StartSearch::Condition& condition) {
     return Frequency(*condition.units) + (UnitSearch(condition.units).IsWide() ? 0 : 1000);

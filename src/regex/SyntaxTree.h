@@ -1,6 +1,5 @@
-// SPDX-License-Identifier: MIT
-// What a pattern means, as the parser understands it. RegexParser.h makes these trees, RegexCompiler.h turns
-// them into programs.
+// SPDX-License-Identifier: MIT The meaning of a pattern. RegexParser.h makes these trees, RegexCompiler.h
+// turns them into programs.
 #pragma once
 
 #include "regex/CharacterSet.h"
@@ -28,14 +27,14 @@ enum class AssertionKind {
 
 enum class RepeatMode { Greedy, Lazy, Possessive };
 
-/// A place that stands for a group: by number where the name is empty. `at` is where the pattern says so.
+/// A reference to a group: by number if the name is empty. `at` is its position in the pattern.
 struct GroupPlace {
   std::u16string name;
   int number = 0;
   std::size_t at = 0;
 };
 
-/// One unit out of a set; shared, because many places of a pattern mean the same set.
+/// One unit of a set; shared, because many places of a pattern use the same set.
 struct UnitNode {
   std::shared_ptr<const CharacterSet> set;
 };
@@ -94,7 +93,7 @@ SyntaxTree MakeTree(Node node) {
   return std::make_unique<SyntaxNode>(SyntaxNode{std::move(node)});
 }
 
-/// Whether a tree can match without taking a unit; a tree that cannot be told of counts as one that can.
+/// Whether a tree can match without taking a unit; if unknown, it counts as one that can.
 bool CanBeEmpty(const SyntaxNode& tree);
 
 /// The set of a tree that always takes exactly one unit; null for every other tree.

@@ -9,12 +9,12 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kMostRanges = 6;  // with more, a look at each unit is as fast
-constexpr std::size_t kNear = 4;        // units that are looked at one by one first: often one of them is it
-constexpr std::size_t kShort = 16;      // units of a block in which the place is found
-constexpr std::size_t kLong = 64;       // units of a block that is left out as a whole
+constexpr std::size_t kMostRanges = 6;  // with more, checking each unit is as fast
+constexpr std::size_t kNear = 4;        // units checked one by one first: often one of them is it
+constexpr std::size_t kShort = 16;      // units of a block in which the match is located
+constexpr std::size_t kLong = 64;       // units of a block that is skipped as a whole
 
-// The loops over a block have a fixed length and no branch: compilers make them look at many units at once.
+// The loops over a block have a fixed length and no branch: compilers vectorise them.
 
 bool IsInRange(char16_t unit, std::uint16_t first, std::uint16_t width) {
   return static_cast<std::uint16_t>(unit - first) <= width;
@@ -64,7 +64,7 @@ std::size_t UnitSearch::Find(std::u16string_view text, std::size_t from) const {
 
 std::size_t UnitSearch::FirstInShort(const char16_t* block) const {
   std::array<std::uint8_t, kShort> hits{};
-  const Range only = ranges_.front();  // on its own, because one is the usual number
+  const Range only = ranges_.front();  // separate, because one is the usual number
   for (std::size_t i = 0; i < kShort; ++i)
     hits[i] = static_cast<std::uint8_t>(IsInRange(block[i], only.first, only.width));
   for (std::size_t r = 1; r < ranges_.size(); ++r) {

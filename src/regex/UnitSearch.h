@@ -16,11 +16,11 @@ class UnitSearch {
  public:
   explicit UnitSearch(std::shared_ptr<const CharacterSet> units);
 
-  /// The index of the first unit from `from` on, which may lie beyond the end, that is in the set; the size
-  /// of the text, or `from` beyond it, for none.
+  /// The index of the first unit in the set, from `from` on, which may be beyond the end. If there is none,
+  /// the size of the text, or `from` if that is larger.
   std::size_t Find(std::u16string_view text, std::size_t from) const;
 
-  /// Whether the set has few ranges, so that many units are looked at in one step.
+  /// Whether the set has few ranges, so that many units are checked in one step.
   bool IsWide() const { return isWide_; }
 
  private:

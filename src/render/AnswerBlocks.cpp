@@ -31,8 +31,7 @@ constexpr Template<Text, Text> kWrongAnswerLine{
 constexpr Template<Text> kAnswerOnly{uR"(<font color="blue">%s</font><br>)"};
 constexpr Template<Text> kWrongAnswerOnly{uR"(<font color="red">%s</font><br>)"};
 
-// Fill-in and essay. The label of the print layout is left open on purpose: the answer is written in its
-// colour.
+// Fill-in and essay. Deliberate: the label of the print layout is not closed, so the answer has its colour.
 constexpr Template<int> kOpenLabel{uR"(<label for=Q%da><font color="blue">)"};
 
 constexpr Template<int, int> kFillInInput{uR"x(<input type=text id=q%da onkeyup="doAnalysisScore%d()";>)x"};
@@ -96,8 +95,8 @@ AnswerBlocks::AnswerBlocks(const ExamQuestion& question, int number, const Rende
       yourAnswerIs_(strings.Text(text_id::kYourAnswerIs)),
       key_(LettersToFlags(question.answerLetters)) {}
 
-/// Shown options are lettered without gaps, while identifiers keep the letter of the option's place: what the
-/// student sees is a list, what is scored is the place.
+/// Shown options are lettered without gaps, while identifiers keep the letter of the option's place: the
+/// student sees a list, but the place is scored.
 std::u16string AnswerBlocks::ChoiceBlock() const {
   std::u16string html;
   char16_t letter = u'A';
@@ -161,7 +160,7 @@ std::u16string AnswerBlocks::EssayBlock() const {
   return html;
 }
 
-/// The key of an essay is the fill-in answer, deliberately: `essayAnswer` is for the teacher and in no page.
+/// Deliberate: the key of an essay is the fill-in answer; `essayAnswer` is for the teacher and on no page.
 std::u16string AnswerBlocks::EssayAnswerLine() const {
   const std::u16string& key = question_.answerText;
   const std::u16string response = TextToHtml(question_.responseText);

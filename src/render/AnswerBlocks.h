@@ -17,10 +17,11 @@ using LetterFlags = std::array<bool, kOptionCount>;
 /// The letters that occur in `text`, in either case; "null" has none.
 LetterFlags LettersToFlags(std::u16string_view text);
 
-/// The part of a question's row that its kind decides: options or input, the key, and the student's answer.
+/// The part of a question's row that depends on its kind: options or input, the key, and the student's
+/// answer.
 class AnswerBlocks {
  public:
-  /// All must outlive the blocks. `number` is the question's.
+  /// All must outlive the blocks. `number` is that of the question.
   AnswerBlocks(const ExamQuestion& question, int number, const RenderFlags& flags, bool printLayout,
                const StringTable& strings);
 

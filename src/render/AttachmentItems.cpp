@@ -25,7 +25,7 @@ constexpr Template<Text> kFlash{
     uR"(<embed src="%s" width="650" height="400">\r\n)"
     uR"(</div><br>\r\n)"};
 
-/// Flash counts as a video here, although it is never given to the player by way of its extension.
+/// Flash counts as a video here, although its extension never selects the player.
 bool HasVideoExtension(std::u16string_view source) {
   constexpr std::u16string_view kVideos[] = {u"wmv", u"avi", u"mpeg", u"asf", u"swf"};
   return std::ranges::find(kVideos, ExtensionOrNothing(source)) != std::end(kVideos);

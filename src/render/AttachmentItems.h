@@ -17,7 +17,7 @@ std::u16string FlashItem(std::u16string_view path);
 std::u16string MediaItem(const ExamServices& services, std::u16string_view path, int autostart,
                          int muteVideo);
 
-/// A file attached to a question. With `oralFlag` 1 videos are mute. What is of no known kind is left to the
+/// A file attached to a question. With `oralFlag` 1 videos are muted. Files of unknown kinds are left to the
 /// player.
 std::u16string AttachmentItem(const ExamServices& services, std::u16string_view path, int oralFlag);
 

@@ -37,7 +37,7 @@ PaneClass ClassOf(std::u16string_view path) {
   return isOneOf(kMedia) ? PaneClass::Media : PaneClass::Other;
 }
 
-/// The heights of the frames in whole percent; the last takes what is left.
+/// The heights of the frames in whole percent; the last takes the rest.
 std::u16string Rows(int frames) {
   const int percent = 100 / frames;
   std::u16string html = kRowsStart();
@@ -99,7 +99,7 @@ std::u16string AttachmentPane::BuildPaneBody(int frames) {
 }
 
 /// The first file that is not media, of whatever class. Deliberately not the document that the frame was
-/// counted for: exams with a file of another kind before their only document have always been shown so.
+/// counted for: exams with another file before their only document have always looked like this.
 std::u16string AttachmentPane::SingleFrame() const {
   for (std::size_t slot = 0; slot < count_; ++slot) {
     const std::u16string path = Path(slot);
@@ -134,7 +134,7 @@ std::u16string AttachmentPane::PaneItems(int k) const {
   return items;
 }
 
-/// Writes the page of a group and gives its frame line, with the page's whole path.
+/// Writes the page of a group and returns its frame line, with the full path of the page.
 std::u16string AttachmentPane::GroupPage(int frame) {
   const ExamServices& services = exam_.Services();
   const std::filesystem::path page = GroupPageFile(writer_, services.applicationFolder, frame);

@@ -8,9 +8,9 @@
 
 namespace quorvantis {
 
-/// The right half of a preview: the files that are attached to the exam. Each document gets a frame; pictures
-/// and media between two documents share one, whose page is written too; without a document all are shown in
-/// the pane itself. Which frame shows which file is noted in the exam.
+/// The right half of a preview: the files attached to the exam. Each document gets a frame; pictures and
+/// media between two documents share one, whose page is written too; without a document all are shown in the
+/// pane itself. Which frame shows which file is noted in the exam.
 class AttachmentPane {
  public:
   /// `exam` must outlive the pane and keep its attachments meanwhile.
@@ -18,11 +18,11 @@ class AttachmentPane {
 
   void WriteAttachmentPane(const std::filesystem::path& page);
 
-  /// Distributes the files over frames and returns how many there are. A file that gets no frame keeps the
-  /// number it had before, deliberately: a group or frame of that number may take it along.
+  /// Distributes the files over frames and returns the number of frames. Deliberate: a file without a frame
+  /// keeps its old number, so a group or frame of that number may include it.
   int CountFrames();
 
-  /// The frames or items of a pane with that many frames; the pages of groups are written on the way.
+  /// The frames or items of a pane with that many frames. Also writes the pages of groups.
   std::u16string BuildPaneBody(int frames);
 
  private:

@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// What pages make of the path of an attached file.
+// SPDX-License-Identifier: MIT How pages use the path of an attached file.
 #pragma once
 
 #include <string>
@@ -12,12 +11,12 @@ namespace quorvantis {
 /// FrameSetExam::PrefixAttachmentPaths).
 std::u16string_view RelativeSource(std::u16string_view path);
 
-/// The address that a player gets. Of the work folders only the oral answers ("~Ans") count here,
-/// deliberately: a player does not know the folder of the page and needs full paths.
+/// The address for a player. Deliberate: of the work folders only the oral answers ("~Ans") count here, since
+/// a player does not know the folder of the page and needs full paths.
 std::u16string_view PlayerSource(std::u16string_view path);
 
-/// What follows the last dot of the whole path, in lower case: in "a.b/file" that is "b/file". The two forms
-/// differ for a path without a dot on purpose, the pane and the items have always told it apart in this way.
+/// What follows the last dot of the whole path, in lower case: in "a.b/file" that is "b/file". Deliberate:
+/// the two forms differ for a path without a dot, since the pane and the items always have.
 std::u16string ExtensionOrPath(std::u16string_view path);     ///< the whole path then
 std::u16string ExtensionOrNothing(std::u16string_view path);  ///< an empty text then
 
@@ -27,8 +26,8 @@ inline constexpr std::u16string_view kPaneDocumentExtensions = u"doc,ppt,xls,txt
 inline constexpr std::u16string_view kQuestionDocumentExtensions = u"doc,docx,ppt,pptx,xls,xlsx,txt";
 inline constexpr std::u16string_view kFlashExtensions = u"swf";
 
-/// Whether `extension` stands anywhere in `list`, as a part of a word too ("pe" in "jpeg"), and an empty one
-/// in any list. Deliberate: what kind of item such a file gets depends on it.
+/// Whether `list` contains `extension`, even inside a word ("pe" in "jpeg"); any list contains an empty one.
+/// Deliberate: it decides what such a file looks like on a page.
 bool IsFoundIn(std::u16string_view list, std::u16string_view extension);
 
 }  // namespace quorvantis

@@ -13,8 +13,8 @@
 namespace quorvantis {
 
 /// The pages of one preview or print, whole, by the absolute, lexically normal path that each was written to.
-/// The files on disk are what other programs expect to find, and some of them are cut; the browser shows
-/// these, in which it looks up the files that they show: a source text alone cannot tell one for certain.
+/// The files on disk are what other programs expect, and some are cut. The browser shows these pages, which
+/// also know the files they show: a source text alone does not identify a file.
 class ComposedPages : public PageStore {
  public:
   void Add(const std::filesystem::path& file, std::u16string text) override;
@@ -32,10 +32,10 @@ class ComposedPages : public PageStore {
   /// The same for a full path of a file.
   const PageSource* FindFile(const std::filesystem::path& file) const;
 
-  /// How long the texts are at most, in UTF-16 units.
+  /// The length of the longest text, in UTF-16 units.
   std::size_t LongestSource() const { return longestSource_; }
 
-  /// The files that do not hold their page, as they were named when it was added.
+  /// The files that do not hold their whole page, as named when it was added.
   const std::vector<std::filesystem::path>& Unwritten() const { return notWritten_; }
 
   void Clear() override;

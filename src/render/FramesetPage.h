@@ -7,9 +7,9 @@
 
 namespace quorvantis {
 
-/// Writes the two-column page, and the pages that it shows beside each other: questions, and attached files.
-/// From here on media are enabled in both renderers, for the rest of the run, deliberately: a print page has
-/// recorders only after such a preview.
+/// Writes the two-column page and the pages it shows side by side: questions and attached files. Deliberate:
+/// enables media in both renderers for the rest of the run, since a print page has recorders only after such
+/// a preview.
 void WriteFrameset(FrameSetExam& exam, const std::filesystem::path& page);
 
 }  // namespace quorvantis

@@ -12,7 +12,7 @@
 namespace quorvantis {
 namespace {
 
-/// Where a player that this program's users have installed is registered.
+/// Where a player that users may have installed is registered.
 constexpr std::u16string_view kPlayerServer =
     u"CLSID\\{0133388C-C3F2-498D-BEB2-F121744ACE38}\\InprocServer32";
 constexpr std::size_t kMaxServerBytes = 260;  // of UTF-16; a longer value is not read
@@ -57,7 +57,7 @@ constexpr Template<Text, int> kOldPlayer{
     uR"(                <param name=\\"AutoPlay\\" value=\\"%d\\"> \\\r\n)"
     uR"(\t            </object>";\r\n)"};
 
-// The first line stands twice in every page that was ever written.
+// The first line occurs twice in every page ever written.
 constexpr Template<> kDetection{
     uR"x(    var IsWinXP = (navigator["userAgent"].indexOf("Windows NT 5.1") != -1);\r\n)x"
     uR"x(    var IsWinXP = (navigator["userAgent"].indexOf("Windows NT 5.1") != -1);\r\n)x"

@@ -74,9 +74,8 @@ std::u16string OralPart::OralRecorderObject(int index) const {
   return kRecorder(target, kEncoding, kMinutes, renderer_.allowVideoRecording != 0 ? u"True" : u"False");
 }
 
-/// The student's number as it stands, while the recorder and the pages read it as a number: "007" records
-/// into ID7 and is played from ID007. Deliberate: the program that collects the recordings names the folders
-/// so.
+/// The student's number as text, while the recorder and the pages read it as a number: "007" records into ID7
+/// and is played from ID007. Deliberate: the program that collects the recordings names the folders this way.
 std::u16string OralPart::StoredRecording(int index, std::u16string_view extension) const {
   return kStoredRecording(PathToText(services_.applicationFolder), kStudentFolders, renderer_.studentIdText,
                           index + 1, extension);

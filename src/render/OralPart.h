@@ -10,25 +10,23 @@ namespace quorvantis {
 class PageRenderer;
 struct ExamServices;
 
-/// The mark in the number cell of an oral question that was not judged right. The numbers are what other
-/// hosts know.
+/// The mark in the number cell of an oral question that was not judged right. Other hosts know these numbers.
 enum class OralMarkKind : int { Wrong = 1, Plain = 2 };
 
-/// What a row shows of an oral question: the recorder, a label, or the recording that the student left.
-/// `index` is the question number less one, `studentNumber` the student of a host that keeps the oral answers
-/// of several.
+/// What a row shows of an oral question: the recorder, a label, or the student's recording. `index` is the
+/// question number minus one; `studentNumber` is the student, for hosts that keep oral answers of several.
 class OralPart {
  public:
   /// Both must outlive the part.
   OralPart(const PageRenderer& renderer, const ExamServices& services)
       : renderer_(renderer), services_(services) {}
 
-  /// Empty for flags that belong to no page.
+  /// Empty for combinations of flags that no page uses.
   std::u16string OralBlock(int index, int studentNumber, const RenderFlags& flags) const;
 
   OralMarkKind OralMark(int index, int studentNumber, const RenderFlags& flags) const;
 
-  /// The recording control. Each has the same element id; it finds itself by its parameters.
+  /// The recording control. All have the same element id; each finds itself by its parameters.
   std::u16string OralRecorderObject(int index) const;
 
  private:

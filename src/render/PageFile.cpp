@@ -19,7 +19,7 @@ std::string FirstUtf16Bytes(std::u16string_view text, std::size_t size) {
   return bytes;
 }
 
-/// Makes an empty file. A link would lead the page elsewhere, and a pipe would hold the program up.
+/// Creates an empty file. A link would lead the page elsewhere, and a pipe would block the program.
 std::ofstream MakeFile(const fs::path& path) {
   std::error_code ignored;
   const fs::file_status before = fs::symlink_status(path, ignored);
@@ -52,7 +52,7 @@ void PageFile::Write(const std::string& bytes, std::u16string page) {
   if (file_) return;
   pages_.NotWritten(path_);
   std::error_code ignored;
-  if (isMade) fs::remove(path_, ignored);  // half a page must not pass for the whole one
+  if (isMade) fs::remove(path_, ignored);  // half a page must not be taken for the whole one
 }
 
 }  // namespace quorvantis

@@ -9,9 +9,9 @@
 
 namespace quorvantis {
 
-/// The file of one page. Made empty at once and filled when the page is composed. What lies in its place and
-/// is no regular file is removed first: nothing is written through a link. A file that cannot be made or
-/// written is left out, and noted in the store; the page is in the store all the same.
+/// The file of one page. Created empty at once and filled when the page is composed. Anything in its place
+/// that is not a regular file is removed first: nothing is written through a link. If the file cannot be
+/// created or written, the store notes that; the page is in the store all the same.
 class PageFile {
  public:
   /// `pages` must outlive the file.

@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// What several pages have alike.
+// SPDX-License-Identifier: MIT What several pages have in common.
 #pragma once
 
 #include "render/Template.h"

@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// Where the pages of a preview lie, and the student folders.
+// SPDX-License-Identifier: MIT Where the pages of a preview are, and the student folders.
 #pragma once
 
 #include <filesystem>
@@ -16,8 +15,8 @@ inline constexpr std::u16string_view kStudentFolders = u"~BrelmStudent";
 /// "TEMP/ExamPreview" in the application folder: the editor's pages.
 std::filesystem::path EditorPageFolder(const std::filesystem::path& applicationFolder);
 
-/// "~BrelmStudent/ID<n>", relative to the current directory: the pages of the student with that number, which
-/// is read as a decimal one ("007" is 7).
+/// "~BrelmStudent/ID<n>", relative to the current directory: the pages of the student with that number, read
+/// as a decimal ("007" is 7).
 std::filesystem::path StudentPageFolder(std::u16string_view number);
 
 /// The folder of the pages of `exam`, by its location mode.
@@ -32,8 +31,8 @@ std::filesystem::path QuestionPage(const FrameSetExam& exam);
 /// "SEE2.htm": the files that are attached to the exam.
 std::filesystem::path AttachmentPanePage(const FrameSetExam& exam);
 
-/// "SEE2_<frame>.htm": a group of pictures and media in the attachment pane. Where it lies is decided by what
-/// `writer` knows of the location and the student.
+/// "SEE2_<frame>.htm": a group of pictures and media in the attachment pane. Its folder follows from the
+/// location and student of `writer`.
 std::filesystem::path GroupPageFile(const AttachmentPageWriter& writer,
                                     const std::filesystem::path& applicationFolder, int frame);
 

@@ -22,7 +22,7 @@ constexpr Template<Text> kTitle{uR"(<center>%s</center>\r\n)"};
 constexpr Template<Text> kPrintButton{
     uR"x(<center><input type=BUTTON value="%s" onclick="doFinish();"></center>\r\n)x"};
 
-/// The print page ends its last lines with LF alone, on purpose: the cut file has to keep its length.
+/// Deliberate: the print page ends its last lines with LF alone, since the cut file has to keep its length.
 constexpr Template<> kPrintEnd{
     uR"(</BODY>\n)"
     uR"(</HTML>\n)"};

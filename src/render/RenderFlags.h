@@ -9,7 +9,7 @@ struct RenderFlags {
   bool marks;        ///< O or X beside the number; then there is no input
   bool key;          ///< the correct answer
   bool response;     ///< the student's answer
-  bool attachments;  ///< with most settings they are shown without it too; see QuestionRow
+  bool attachments;  ///< most settings show them even without it; see QuestionRow
 
   bool operator==(const RenderFlags&) const = default;
 };
@@ -18,7 +18,7 @@ inline constexpr RenderFlags kPreviewPage{true, false, true, false, true};
 inline constexpr RenderFlags kResultPage{true, true, true, true, false};
 inline constexpr RenderFlags kPrintPage{true, false, false, false, false};
 
-// Pages of other hosts: nothing here writes them, but their rows are built by the same rules.
+// Pages of other hosts: not written here, but their rows follow the same rules.
 inline constexpr RenderFlags kKeyPage{true, false, true, false, false};
 inline constexpr RenderFlags kResponsePage{false, true, false, true, false};
 

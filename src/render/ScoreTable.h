@@ -8,9 +8,8 @@
 
 namespace quorvantis {
 
-/// The block that heads every question page: how the scores are spread over the questions. A range that
-/// begins after the last question leaves an empty table, deliberately: the distances on the page are made of
-/// them.
+/// The block at the top of every question page: how the scores are distributed. Deliberate: a range that
+/// begins after the last question leaves an empty table, which makes the spacing of the page.
 std::u16string ScoreTable(const ExamPaper& exam, const StringTable& strings);
 
 }  // namespace quorvantis

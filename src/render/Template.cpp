@@ -6,7 +6,7 @@
 namespace quorvantis {
 namespace {
 
-/// At least three characters, a sign included, filled up with zeros.
+/// At least three characters including a sign, padded with zeros.
 std::u16string ThreeDigits(int value) {
   std::u16string digits = FormatInteger(value);
   if (digits.size() < 3) digits.insert(value < 0 ? 1 : 0, 3 - digits.size(), u'0');

@@ -10,11 +10,11 @@
 
 namespace quorvantis {
 
-/// A value that goes into a page; a text goes in as it is, nothing is escaped.
+/// A value for a page; texts are inserted as they are, without escaping.
 using TemplateValue = std::variant<int, float, char16_t, std::u16string_view>;
 
-/// What stands in a template for something else, and for what: a kind of value (an index of TemplateValue),
-/// or the one character `escape`.
+/// A mark in a template and its meaning: a kind of value (an index of TemplateValue), or the character
+/// `escape`.
 struct TemplateMark {
   std::u16string_view text;
   std::optional<std::size_t> value;
@@ -34,8 +34,8 @@ inline constexpr TemplateMark kTemplateMarks[] = {
     {uR"(\\)", std::nullopt, u'\\'},
 };
 
-/// The mark at the front of `rest`, or one without text. By value: gcc does not take comparisons with null
-/// pointers for constant when it also builds sanitizers in.
+/// The mark at the front of `rest`, or one without text. By value: with sanitizers, gcc does not treat
+/// comparisons with null pointers as constant.
 constexpr TemplateMark TemplateMarkAt(std::u16string_view rest) {
   for (const TemplateMark& mark : kTemplateMarks) {
     if (rest.starts_with(mark.text)) return mark;
@@ -43,9 +43,9 @@ constexpr TemplateMark TemplateMarkAt(std::u16string_view rest) {
   return {};
 }
 
-/// The first place in `text` where a mark can stand.
+/// The first place in `text` where a mark can be.
 constexpr std::size_t FindTemplateMark(std::u16string_view text) {
-  // Faster than find_first_of, which calls a search of its own for every character of a page.
+  // Faster than find_first_of, which starts a search for every character of a page.
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] == u'%' || text[i] == u'\\') return i;
   }

@@ -8,8 +8,8 @@ bool IsOutside(const ScoreDistribution& ranges, std::size_t i, int end, int ques
   return end < ranges.scoreFrom[i] || end < 1 || end > questionCount;
 }
 
-/// Deliberately not refused but passed over, and for the first range not asked at all. It takes a range that
-/// begins before the one in front of it ends, which a file can hold.
+/// Deliberately ignored rather than refused, and not checked for the first range. This needs a range that
+/// begins before the previous one ends, which a file can hold.
 bool EndsWithinRangeBefore(const ScoreDistribution& ranges, std::size_t i, int end) {
   return i > 0 && end <= ranges.scoreTo[i - 1];
 }
@@ -19,7 +19,7 @@ bool SwallowsNextRange(const ScoreDistribution& ranges, std::size_t i, int end, 
   return end == questionCount && (i == 0 || ranges.scoreTo[i + 1] == questionCount);
 }
 
-/// Deliberately only the next range: those behind it stay, even where range 1 covers them now.
+/// Deliberately only the next range: later ones stay, even if range 1 now covers them.
 void ClearNextRange(ScoreDistribution& ranges, std::size_t i) {
   ranges.scoreFrom[i + 1] = 0;
   ranges.scoreTo[i + 1] = 0;

@@ -7,8 +7,8 @@
 
 namespace quorvantis {
 
-/// How the questions of an exam are scored: all the same, or by up to ten ranges one after the other. Plain
-/// data; what an exam or a file holds need not be in order.
+/// How the questions of an exam are scored: all the same, or by up to ten consecutive ranges. Plain data; an
+/// exam or a file may hold invalid ranges.
 struct ScoreDistribution {
   std::array<int, kScoreRanges> scoreFrom{};     ///< first question of each range
   std::array<int, kScoreRanges> scoreTo{};       ///< last question of each range; 0: the range is unused

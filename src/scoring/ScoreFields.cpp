@@ -12,8 +12,8 @@ constexpr bool IsDigit(char16_t unit) {
   return unit >= u'0' && unit <= u'9';
 }
 
-/// Range 1 is told by its end, since it has no field for its start; the others are told by their start. A
-/// range with a start of its own is shown even when its end is 0.
+/// Range 1 is recognised by its end, since it has no field for its start; the others by their start. A range
+/// with a start of its own is shown even when its end is 0.
 bool IsShown(const ScoreDistribution& ranges, std::size_t i) {
   return (i == 0 ? ranges.scoreTo[i] : ranges.scoreFrom[i]) != 0;
 }
@@ -25,7 +25,7 @@ ScoreFields ShowRanges(const ScoreDistribution& ranges) {
   for (std::size_t i = 0; i < kScoreRanges; ++i) {
     if (!IsShown(ranges, i)) continue;
     if (i > 0) fields.from[i].text = FormatInteger(ranges.scoreFrom[i]);
-    // The end of the last range is never editable: there is no range behind it to be cut anew.
+    // The end of the last range is never editable: there is no next range to re-cut.
     fields.to[i] = {FormatInteger(ranges.scoreTo[i]), i == kLastRange};
     fields.score[i] = {FormatScore(ranges.scoreValue[i]), false};
   }

@@ -24,7 +24,7 @@ struct ScoreFields {
   std::array<ScoreField, kScoreRanges> score;
   int radio = 0;  ///< 0: each question the same score, 1: ranges
 
-  /// The fields of the ranges are for use; else they are there, but grey.
+  /// Whether the fields of the ranges are enabled; otherwise they are grey.
   bool Enabled() const { return radio == 1; }
 
   friend bool operator==(const ScoreFields&, const ScoreFields&) = default;
@@ -37,10 +37,10 @@ ScoreFields ShowRanges(const ScoreDistribution& ranges);
 /// checked. The start of range 1 has no field and stays.
 void ReadFields(const ScoreFields& fields, ScoreDistribution& ranges);
 
-/// Whether a score field lets a typed character through: digits, backspace, and a point while it holds none.
+/// Whether a score field accepts a typed character: digits, backspace, and one point.
 bool ScoreFieldTakes(char16_t typed, std::u16string_view content);
 
-/// Whether a field for whole numbers lets a typed character through: digits only, so not even backspace.
+/// Whether a field for whole numbers accepts a typed character: digits only, not even backspace.
 bool DigitFieldTakes(char16_t typed, std::u16string_view content);
 
 }  // namespace quorvantis

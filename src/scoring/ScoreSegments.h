@@ -7,7 +7,7 @@
 
 namespace quorvantis {
 
-/// Neighbouring questions of an exam that one range scores.
+/// Consecutive questions scored by one range.
 struct ScoreSegment {
   int range = 0;  ///< 1 to 10; 0: no range has these questions
   int first = 0;
@@ -21,7 +21,7 @@ struct ScoreSegment {
 /// ranges hold. A question that lies in several ranges belongs to the first of them.
 std::vector<ScoreSegment> SegmentsOf(const ScoreDistribution& ranges, int questionCount);
 
-/// What a student can reach.
+/// The highest score a student can reach.
 double TotalScore(const std::vector<ScoreSegment>& segments);
 
 }  // namespace quorvantis

@@ -31,8 +31,8 @@ ScoreDistribution RangesWithin(const ScoreDistribution& given, int questionCount
   return ranges;
 }
 
-/// Makes the last used range end with the exam. Where none is used, the number of questions deliberately
-/// becomes the *start* of range 10: exams whose first range is longer than they are have always come out so.
+/// Makes the last used range end with the exam. If none is used, the number of questions deliberately becomes
+/// the *start* of range 10: this has always happened to exams shorter than their first range.
 void StretchLastRange(ScoreDistribution& ranges, int questionCount) {
   const auto firstUnused = std::ranges::find(ranges.scoreTo, 0);
   if (firstUnused == ranges.scoreTo.begin()) {

@@ -44,10 +44,10 @@ class ScoreSetup {
   /// A radio button was clicked; 0 for the first and 1 for the second.
   void ClickRadio(int value);
 
-  /// Takes what the fields hold, unchecked. To be called when the dialog has gone.
+  /// Takes the values of the fields, unchecked. Call this after the dialog has closed.
   void ReadBack();
 
-  /// What ReadBack and GetDistribution would give now.
+  /// What ReadBack and GetDistribution would return now.
   ScoreDistribution Typed() const;
 
  private:
@@ -56,8 +56,7 @@ class ScoreSetup {
   ScoreFields fields_;
 };
 
-/// Has the fields of a setup edited, by a person or a script, and returns when that is over. True when it
-/// ended with OK.
+/// Lets a person or a script edit the fields of a setup, and returns when they are done. True after OK.
 using EditScoreSetup = std::function<bool(ScoreSetup& setup)>;
 
 }  // namespace quorvantis

@@ -8,8 +8,8 @@ class SetupOwner {
  public:
   virtual ~SetupOwner() = default;
 
-  /// Not 0: shows the preview of the exam as it is, while the setup stays open. 0: a preview that is still
-  /// there goes, and a fresh hidden one takes its place.
+  /// Not 0: shows the preview of the exam as it is, while the setup stays open. 0: closes a preview that is
+  /// still open and creates a new hidden one.
   virtual void PreviewFromSetup(int show) = 0;
 };
 

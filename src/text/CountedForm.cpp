@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::u16string_view kDigits = u"0123456789";
 
-/// Takes what stands before `separator` off the front of `text`, and the separator with it.
+/// Removes the part of `text` up to `separator`, and the separator, and returns the part.
 std::u16string_view TakeUpTo(char16_t separator, std::u16string_view& text) {
   const std::size_t end = text.find(separator);
   const std::u16string_view part = text.substr(0, end);
@@ -37,7 +37,7 @@ bool IsWithin(std::u16string_view range, std::u16string_view number) {
   return value && NumberOf(first) <= value && value <= NumberOf(last);
 }
 
-/// Takes the numbers that a form is for off its front; nothing when it has none.
+/// Removes the numbers that a form is for from its front and returns them; nothing if it has none.
 std::optional<std::u16string_view> TakeCondition(std::u16string_view& form) {
   const std::size_t colon = form.find_first_not_of(u"0123456789,-*");
   if (colon == 0 || colon == form.npos || form[colon] != u':') return std::nullopt;

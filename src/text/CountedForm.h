@@ -6,11 +6,11 @@
 namespace quorvantis {
 
 /// The form of a counted text that fits a number. `forms` are the forms of one text with bars between them:
-/// "1:%s question|%s questions". A form begins with the numbers that it is for and a colon: single ones,
-/// ranges ("3-10"), several ("0,5-7"); behind a star only the last digits of the number count, as many as are
-/// written there ("*2-4", "*11-14"). A form without numbers is for all. The first form that fits is taken,
-/// the last one when none does or when `number` is no number. So texts tell themselves how their language
-/// counts, and no table of languages is needed.
+/// "1:%1 question|%1 questions". A form begins with the numbers it is for and a colon: single numbers, ranges
+/// ("3-10"), several of them ("0,5-7"). After a star only the last digits count, as many as are written there
+/// ("*2-4", "*11-14"). A form without numbers fits all. The first form that fits is taken, or the last one if
+/// none does or `number` is not a number. So each text brings the plural rules of its language, and the code
+/// needs no table of languages.
 std::u16string_view CountedForm(std::u16string_view forms, std::u16string_view number);
 
 }  // namespace quorvantis

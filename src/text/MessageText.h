@@ -7,10 +7,11 @@
 
 namespace quorvantis {
 
-/// `format` with each "%s" and "%d" replaced, in order, by the next of `values`. So is a group of forms in
-/// braces, "{1:%s question|%s questions}": the next value is the number that is counted, and "%s" in the form
-/// that fits it (text/CountedForm.h). A placeholder without a value is left standing, a value without a
-/// placeholder is not shown; so no translation can break a message.
+/// Fills the placeholders of `format`: "%1" to "%9" show the value of that number, in any order and as often
+/// as the language needs; each "%s" or "%d" of older texts shows the next value. A group of forms in braces,
+/// "{%1|1:%1 question|%1 questions}", shows the form that fits the number in its first placeholder
+/// (text/CountedForm.h). A placeholder without a value stays as it is, and a value without a placeholder is
+/// not shown, so no translation can break a message.
 std::u16string FillMessage(std::u16string_view format, std::initializer_list<std::u16string_view> values);
 
 }  // namespace quorvantis

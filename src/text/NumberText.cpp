@@ -20,7 +20,7 @@ struct SignedText {
   std::u16string_view digits;
 };
 
-/// Takes leading blanks and one sign off.
+/// Removes leading blanks and one sign.
 SignedText TakeSign(std::u16string_view text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
   const bool negative = !text.empty() && text.front() == u'-';

@@ -8,22 +8,22 @@
 
 namespace quorvantis {
 
-/// Reads a number as C's atoi does: blanks, a sign, then leading digits; anything else gives 0. Values beyond
-/// the type end at its limits.
+/// Reads a number as C's atoi does: blanks, a sign, then leading digits; anything else gives 0. Values out of
+/// range become the nearest limit of the type.
 int ParseInteger(std::u16string_view text);
 std::int64_t ParseInteger64(std::u16string_view text);
 
 /// Reads a number as C's atof does for decimal text: blanks, a sign, digits with a fraction and an exponent;
-/// anything else gives 0. Words ("inf", "nan") and hexadecimal digits are no numbers here.
+/// anything else gives 0. Words ("inf", "nan") and hexadecimal digits are not numbers here.
 double ParseReal(std::u16string_view text);
 
-/// Decimal text, as "%d" gives it.
+/// Decimal text, as "%d" writes it.
 std::u16string FormatInteger(std::int64_t value);
 
-/// Hexadecimal text, as "%x" gives it.
+/// Hexadecimal text, as "%x" writes it.
 std::u16string FormatHexadecimal(std::uint32_t value);
 
-/// Text with two decimals, as "%1.2f" gives it.
+/// Text with two decimals, as "%1.2f" writes it.
 std::u16string FormatScore(double value);
 
 }  // namespace quorvantis

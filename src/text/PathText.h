@@ -7,20 +7,20 @@
 
 namespace quorvantis {
 
-/// A path as the text that the exam document keeps and the window shows. File names that are not valid UTF-8
-/// survive the way there and back: each odd byte b travels as the lone surrogate U+DC00 + b.
+/// A path as text, for the exam document and the window. File names that are not valid UTF-8 survive the
+/// round trip: each invalid byte b becomes the lone surrogate U+DC00 + b.
 std::u16string PathToText(const std::filesystem::path& path);
 
 /// The path that a text names; see `PathToText`. Any other lone surrogate becomes U+FFFD.
 std::filesystem::path TextToPath(std::u16string_view text);
 
-/// The longest name of one file or folder that common file systems take, in bytes of UTF-8.
+/// The longest file or folder name that common file systems accept, in bytes of UTF-8.
 constexpr std::size_t kMaxFileNameBytes = 255;
 
 /// `name` itself when it has at most `maxBytes` bytes in UTF-8; otherwise its beginning, a hash of the whole
 /// name and its extension, together at most `maxBytes`, which is 64 or more. Equal names give equal results
-/// and different ones different results, so a long name can stand for a file or folder that could not be made
-/// under it.
+/// and different ones different results, so the result can replace a name that is too long for the file
+/// system.
 std::u16string FitFileName(std::u16string_view name, std::size_t maxBytes = kMaxFileNameBytes);
 
 }  // namespace quorvantis

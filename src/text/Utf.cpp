@@ -8,14 +8,14 @@ constexpr bool IsSurrogate(char32_t codePoint) {
   return codePoint >= 0xD800 && codePoint <= 0xDFFF;
 }
 
-/// Takes the code point at `index` and moves `index` behind it; a lone surrogate is given as itself.
+/// Returns the code point at `index` and moves `index` past it; a lone surrogate is returned as it is.
 char32_t TakeCodePoint(std::u16string_view text, std::size_t& index) {
   const char16_t unit = text[index++];
   if (!IsHighSurrogate(unit) || index == text.size() || !IsLowSurrogate(text[index])) return unit;
   return 0x10000 + ((static_cast<char32_t>(unit) - 0xD800) << 10) + (text[index++] - 0xDC00u);
 }
 
-/// Appends the ASCII characters at the front of `text`, which most texts consist of, and gives their number.
+/// Appends the ASCII characters at the front of `text`, often all of it, and returns their number.
 template <class Result>
 std::size_t AppendAscii(Result& result, std::u16string_view text) {
   std::size_t length = 0;

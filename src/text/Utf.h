@@ -6,7 +6,8 @@
 
 namespace quorvantis {
 
-/// UTF-8 to UTF-16. Bytes that are not UTF-8 become U+FFFD, one for each byte that starts no character.
+/// UTF-8 to UTF-16. Bytes that are not UTF-8 become U+FFFD, one for each byte that does not start a
+/// character.
 std::u16string Utf8ToUtf16(std::string_view bytes);
 
 /// UTF-16 to UTF-8. A lone surrogate becomes U+FFFD (EF BF BD), so the result is always valid UTF-8.
@@ -27,7 +28,7 @@ void AppendCodePoint(std::u16string& text, char32_t codePoint);
 /// Appends one code point (0 to 10FFFF) as UTF-8, surrogates included (three bytes, as any other value).
 void AppendCodePoint(std::string& bytes, char32_t codePoint);
 
-/// One code point taken from the front of UTF-8 bytes.
+/// One code point decoded from the front of UTF-8 bytes.
 struct Utf8Step {
   char32_t codePoint;  ///< meaningless when `valid` is false
   std::size_t length;  ///< bytes taken, at least 1
@@ -38,7 +39,7 @@ struct Utf8Step {
 /// values above 10FFFF are not valid.
 Utf8Step DecodeUtf8(std::string_view bytes);
 
-/// The same text with every surrogate that has no partner replaced by U+FFFD.
+/// The same text with every lone surrogate replaced by U+FFFD.
 std::u16string ReplaceLoneSurrogates(std::u16string_view text);
 
 }  // namespace quorvantis

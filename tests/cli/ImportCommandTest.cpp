@@ -129,7 +129,7 @@ TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {
       "A picture that could not be read (of an unknown kind): 2 of question 3.\n"
       "1 formula cannot be kept; \"##\" stands in its place.\n"
       "Question 1 is imported as it is, with the names of its pictures in its texts: an import that begins "
-      "with question 1 does not look at the pictures and formulas of its first question.\n");
+      "with question 1 does not check the pictures and formulas of its first question.\n");
   EXPECT_EQ(Questions(),
             "essay: see 1.bmp there yes\nessay: two ##\nessay: lost  2.bmp(Can not show the picture) \n");
   // The first question of a new exam is never looked at.

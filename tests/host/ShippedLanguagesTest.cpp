@@ -5,40 +5,83 @@
 #include "shell/language/BuiltInDialogTexts.h"
 #include "shell/language/BuiltInStrings.h"
 #include "shell/language/LanguageList.h"
+#include "text/MessageText.h"
+#include "text/Utf.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
 #include <sstream>
 
 namespace quorvantis::test {
 namespace {
 
-/// What a translation must leave as it is: the placeholders, and the patterns of file kinds. The forms of a
-/// counted text stand in the place of one number.
-std::u16string FixedParts(std::u16string filled) {
-  std::u16string parts;
-  for (std::size_t open = filled.find(u'{'); open != filled.npos; open = filled.find(u'{')) {
-    const std::size_t close = filled.find(u'}', open);
-    if (close == filled.npos) return u"a brace is missing";
-    filled.replace(open, close + 1 - open, u"%d");
+/// The placeholders of a text, and what a translation may do with them.
+class Placeholders {
+ public:
+  explicit Placeholders(std::u16string_view text) {
+    for (std::size_t i = text.find(u'%'); i < text.size(); i = text.find(u'%', i + 1)) {
+      const char16_t kind = i + 1 < text.size() ? text[i + 1] : u' ';
+      if (kind == u's' || kind == u'd') {
+        inOrder_ += u's';
+      } else {
+        (text.substr(0, i).ends_with(u'{') ? counted_ : shown_).insert(kind);
+      }
+    }
   }
-  std::u16string_view text = filled;
-  for (std::size_t i = text.find(u'%'); i != std::u16string_view::npos; i = text.find(u'%', i + 1)) {
-    parts += text.substr(i, 2) == u"%s" ? u"%d" : text.substr(i, 2);
+
+  /// In any order, and a number that is only counted may be left out: not every language inflects.
+  bool Fit(const Placeholders& english) const {
+    std::set<char16_t> known = english.shown_;
+    known.insert(english.counted_.begin(), english.counted_.end());
+    return inOrder_ == english.inOrder_ && std::ranges::includes(shown_, english.shown_) &&
+           std::ranges::includes(known, shown_) && std::ranges::includes(known, counted_);
   }
+
+  bool AreNumbered() const { return inOrder_.empty(); }
+
+ private:
+  std::u16string inOrder_;
+  std::set<char16_t> shown_, counted_;
+};
+
+/// The patterns of file kinds, which no translation changes.
+std::u16string Patterns(std::u16string_view text) {
+  std::u16string patterns;
   bool isPattern = false;
-  for (std::size_t bar = text.find(u'|'); bar != std::u16string_view::npos; bar = text.find(u'|')) {
-    if (isPattern) parts += text.substr(0, bar + 1);
+  for (std::size_t bar = text.find(u'|'); bar != text.npos; bar = text.find(u'|')) {
+    if (isPattern) patterns += text.substr(0, bar + 1);
     isPattern = !isPattern;
     text.remove_prefix(bar + 1);
   }
-  return parts;
+  return patterns;
+}
+
+void ExpectTranslation(int number, const std::u16string& text, const std::u16string& english) {
+  SCOPED_TRACE(number);
+  const Placeholders placeholders(text);
+  EXPECT_TRUE(placeholders.Fit(Placeholders(english))) << Utf16ToUtf8(text);
+  EXPECT_TRUE(number < 1000 || placeholders.AreNumbered()) << Utf16ToUtf8(text);
+  const auto isCounted = [](std::u16string_view any) { return any.find(u'{') != any.npos; };
+  if (!isCounted(text) && !isCounted(english)) {
+    EXPECT_EQ(Patterns(text), Patterns(english));
+  }
+  for (const char16_t* count : {u"0", u"1", u"2", u"7", u"38", u"100"}) {
+    const auto filled = FillMessage(text, {count, count, count, count, count});
+    EXPECT_EQ(filled.find_first_of(isCounted(text) ? u"%{}|" : u"%{}"), filled.npos) << Utf16ToUtf8(filled);
+  }
 }
 
 void ExpectComplete(const LanguageLibrary& library) {
-  for (const int number : BuiltInStrings::Numbers()) {
-    EXPECT_TRUE(library.HasText(number)) << number << " has no text";
-    EXPECT_EQ(FixedParts(library.Text(number)), FixedParts(BuiltInStrings().Text(number))) << number;
+  const BuiltInStrings english;
+  for (int number = 0; number < 10'000; ++number) {
+    const std::u16string text = english.Text(number);
+    EXPECT_EQ(library.HasText(number), !text.empty()) << number;
+    ExpectTranslation(number, library.Text(number), text);
   }
   for (const auto& [dialog, control] : BuiltInDialogControls()) {
     EXPECT_NE(library.DialogText(dialog, control), u"") << "dialog " << dialog << ", " << control;
@@ -48,6 +91,17 @@ void ExpectComplete(const LanguageLibrary& library) {
   }
   EXPECT_TRUE(library.Bitmap("128", 3).empty());
   EXPECT_TRUE(library.Bitmap("none", 1).empty());
+}
+
+TEST(BuiltInStrings, AreTheNumberedTexts) {
+  std::ifstream header(QUORVANTIS_PROJECT "/src/platform/Texts.h");
+  const std::string code(std::istreambuf_iterator<char>(header), {});
+  const std::regex constant(R"(constexpr int k\w+\s*=\s*(\d+);)");
+  std::vector<int> numbers;
+  for (std::sregex_iterator found(code.begin(), code.end(), constant), end; found != end; ++found)
+    numbers.push_back(std::stoi((*found)[1]));
+  std::ranges::sort(numbers);
+  EXPECT_EQ(BuiltInStrings::Numbers(), numbers) << "a line of english.ini for each number, and no others";
 }
 
 TEST(ShippedLanguages, HaveAllTexts) {
@@ -99,6 +153,20 @@ TEST(LanguageFile, FaultsAreToldWithTheirLine) {
   check("[dialog x]", "not a number");
   std::istringstream nameless("[language]\nid = 0x409\n");
   EXPECT_THROW(language::ReadLanguageFile(nameless), language::LanguageFileError);
+}
+
+TEST(LanguageFile, ExceptionsAreExact) {
+  language::LanguageFile file;
+  file.texts = {{{0, 1}, "a"}, {{7, 1}, "b"}};
+  const auto replace = [&file](const std::string& exceptions) {
+    std::istringstream in(exceptions);
+    language::ReplaceTexts(file, in);
+  };
+  EXPECT_THROW(replace("[strings]\n1 = a"), language::LanguageFileError) << "no difference";
+  EXPECT_THROW(replace("[strings]\n7 = c"), language::LanguageFileError) << "no such text";
+  replace("[dialog 7]\n1 = c");
+  EXPECT_EQ(file.texts.at({0, 1}), "a");
+  EXPECT_EQ(file.texts.at({7, 1}), "c");
 }
 
 }  // namespace

@@ -136,8 +136,8 @@ TEST(FillMessage, CountsInTheFormsOfTheText) {
     std::u16string format;
     std::vector<std::pair<std::u16string, std::u16string>> messages;
   } rows[] = {
-      {u"{1:%s question|%s questions} read", {{u"1", u"1 question read"}, {u"0", u"0 questions read"}}},
-      {u"{0:none|1:one|2:two|*03-10:%s few|*11-99:%s many|%s other}",
+      {u"{%1|1:%1 question|%1 questions} read", {{u"1", u"1 question read"}, {u"0", u"0 questions read"}}},
+      {u"{%1|0:none|1:one|2:two|*03-10:%1 few|*11-99:%1 many|%1 other}",
        {{u"0", u"none"},
         {u"2", u"two"},
         {u"3", u"3 few"},
@@ -147,22 +147,23 @@ TEST(FillMessage, CountsInTheFormsOfTheText) {
         {u"100", u"100 other"},
         {u"102", u"102 other"},
         {u"103", u"103 few"}}},
-      {u"{*11-14:%sm|*1:%so|*2-4:%sf|%sm}",
+      {u"{%1|*11-14:%1m|*1:%1o|*2-4:%1f|%1m}",
        {{u"1", u"1o"}, {u"4", u"4f"}, {u"12", u"12m"}, {u"21", u"21o"}, {u"111", u"111m"}}},
-      {u"{1:it|0,5-7:some|}.", {{u"1", u"it."}, {u"6", u"some."}, {u"8", u"."}, {u"x", u"."}}},
-      {u"{}{a|b}{%s", {{u"1", u"{a|b}{%s"}}},
-      {u"{:a|b}{1: %d", {{u"1", u":a{1: %d"}}},
+      {u"{%1|1:it|0,5-7:some|}.", {{u"1", u"it."}, {u"6", u"some."}, {u"8", u"."}, {u"x", u"."}}},
+      {u"{%1}{a|b}{%1", {{u"1", u"{1}{a|b}{1"}}},
+      {u"{%1|}{%1|:a|b}{%2|c}{%1|{%1|d}", {{u"1", u":a{%2|c}{1"}}},
   };
   for (const auto& row : rows) {
     for (const auto& [number, message] : row.messages)
       EXPECT_EQ(FillMessage(row.format, {number}), message) << testing::PrintToString(number);
   }
-  EXPECT_EQ(FillMessage(u"{1:a|b} %s {2:c|d} %s", {u"1", u"{", u"1", u"x"}), u"a { d x");
+  EXPECT_EQ(FillMessage(u"{%3|1:a %2|b} %1 {%1|2:c|d} %2", {u"2", u"{%1", u"1"}), u"a {%1 2 c {%1");
 }
 
 TEST(FillMessage, NoFormatBreaksAMessage) {
   EXPECT_EQ(FillMessage(u"Open file %s error!", {u"/a/%s%d"}), u"Open file /a/%s%d error!");
   EXPECT_EQ(FillMessage(u"%d of %s", {u"1"}), u"1 of %s");
+  EXPECT_EQ(FillMessage(u"%2 %0 %3 %1", {u"%2", u"b"}), u"b %0 %3 %2");
   EXPECT_EQ(FillMessage(u"100% %x %", {u"unused"}), u"100% %x %");
 }
 

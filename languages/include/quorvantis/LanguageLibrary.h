@@ -35,8 +35,8 @@ extern "C" {
 QUORVANTIS_EXPORT int GetLanguageID(void);
 
 /* The text of that number, or null. An empty text is used as it is. The languages/ folder of the sources
- * tells the numbers; 158 is the name of the language in the language itself. Placeholders (%s, %d) must stand
- * in the order of the English text. */
+ * tells the numbers; 158 is the name of the language in the language itself. The placeholders %s and %d must
+ * stand in the order of the English text; numbered ones, %1 to %9, may stand in any order. */
 QUORVANTIS_EXPORT const char* GetLanguageText(int number);
 
 /* The text of a control in a dialog, or null. Control 0 is the caption of the dialog. */

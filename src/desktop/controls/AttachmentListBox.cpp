@@ -54,7 +54,7 @@ std::optional<std::size_t> AttachmentListBox::Selected() const {
 
 bool AttachmentListBox::event(QEvent* event) {
   if (event->type() != QEvent::Paint) return QListWidget::event(event);
-  QPainter painter(this);  // of the frame; the entries are on the viewport
+  QPainter painter(this);  // for the frame; the entries are on the viewport
   PaintFieldEdge(painter, *this);
   return true;
 }

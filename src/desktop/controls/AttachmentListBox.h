@@ -9,13 +9,13 @@
 
 namespace quorvantis {
 
-/// A list of attached files, which shows only while it has entries. The Tab key that leads into it selects an
-/// entry, so that the keyboard can do something with it.
+/// A list of attached files, shown only while it has entries. Tabbing into it selects an entry, so that it
+/// can be used from the keyboard.
 class AttachmentListBox : public QListWidget {
   Q_OBJECT
 
  public:
-  /// `missing` is the tip of an entry without a file, with "%1" in the place of its name.
+  /// `missing` is the tooltip of an entry without a file, with "%1" for its name.
   AttachmentListBox(QString missing, QWidget* parent);
 
   /// Shows the entries, the selection and the list itself as the editor has them.
@@ -28,7 +28,7 @@ class AttachmentListBox : public QListWidget {
   /// The Delete key was pressed.
   void DeletePressed();
 
-  /// The context menu is asked for, at a place on the screen.
+  /// The context menu was requested, at this place on the screen.
   void MenuRequested(const QPoint& position);
 
  protected:

@@ -24,7 +24,7 @@ void PaintPlate(QPainter& painter, const QAbstractButton& button) {
   }
 }
 
-/// Inside a plate that has the colour of the focus frame, a line in the colour of the caption tells it apart.
+/// On a plate in the colour of the focus frame, a line in the colour of the caption shows the focus.
 void PaintFocus(QPainter& painter, const QAbstractButton& button) {
   PaintFocusFrame(painter, button.rect(), button.palette());
   if (!button.isChecked()) return;

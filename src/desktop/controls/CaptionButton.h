@@ -6,26 +6,25 @@
 
 namespace quorvantis {
 
-/// Paints a button that is nothing but a caption on a plate, whatever class it is of. The plate of a checked
-/// one has the colour of selections.
+/// Paints a button of any class as a caption on a plate. The plate of a checked one has the selection colour.
 void PaintCaptionButton(QAbstractButton& button);
 
-/// A push button that looks like the others of the window.
+/// A push button in the style of the window.
 class CaptionButton : public QPushButton {
   Q_OBJECT
 
  public:
   using QPushButton::QPushButton;
 
-  /// What a button with this caption takes.
+  /// The size of a button with this caption.
   QSize SizeFor(const QString& caption) const;
 
  protected:
   void paintEvent(QPaintEvent*) override { PaintCaptionButton(*this); }
 };
 
-/// One of several things to choose from: a radio button that looks the same and stays down. A group of
-/// buttons has to see to it that only one is down; it can also have none down.
+/// One of several choices: a radio button that looks the same and stays down. Put these into a button group,
+/// so that at most one is down.
 class ChoiceButton : public QRadioButton {
   Q_OBJECT
 

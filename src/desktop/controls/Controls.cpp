@@ -8,7 +8,7 @@
 namespace quorvantis {
 namespace {
 
-/// What is still being composed in a field belongs to the text that a command finds.
+/// Text still being composed in a field is committed before a command.
 void Act(QWidget* control) {
   QGuiApplication::inputMethod()->commit();
   if (auto* button = qobject_cast<QAbstractButton*>(control)) {

@@ -10,10 +10,10 @@
 
 namespace quorvantis {
 
-/// Whether something dragged or pasted stands for files of this computer, rather than for text.
+/// Whether dragged or pasted data is files of this computer rather than text.
 bool HasLocalFiles(const QMimeData& data);
 
-/// The full paths of those of `urls` that are files of this computer and not folders.
+/// The full paths of those `urls` that are files of this computer, not folders.
 std::vector<std::filesystem::path> LocalFiles(const QList<QUrl>& urls);
 
 /// Whether a file is an exam, by its extension.

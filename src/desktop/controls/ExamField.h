@@ -10,11 +10,10 @@
 
 namespace quorvantis {
 
-/// One text field of the window and its text in the form, kept in step: what the user does to the field goes
-/// into the form, what loading or a command does to the form goes into the field. The form decides what is
-/// too long.
+/// One text field of the window and its text in the form, kept in step: edits in the field go into the form;
+/// loading and commands change the form and then the field. The form decides what is too long.
 ///
-/// The widgets derive from this class and only know what they show.
+/// The widgets derive from this class and know only what they show.
 class ExamField {
  public:
   /// `editor` and `strings` must outlive the field.
@@ -31,19 +30,19 @@ class ExamField {
   void FollowForm();
 
  protected:
-  /// The user has turned what is shown into `shown`. False when that is refused: the widget then has to show
-  /// `Shown` again. The user has been told.
+  /// The user has edited the field to `shown`. False if refused: the widget must then show `Shown` again. The
+  /// user has been told.
   bool Edit(std::u16string_view shown);
 
-  /// Asked before a change is made: true when it is refused because it would be too long.
+  /// Called before a change: true if it is refused because the text would be too long.
   bool Refuses(std::u16string_view shown);
 
   const std::u16string& Shown() const { return text_.Shown(); }
 
-  /// Replaces the content of the widget and forgets what could be undone.
+  /// Replaces the content of the widget and clears its undo history.
   virtual void ShowAnew(const std::u16string& shown) = 0;
 
-  /// Makes one change of the widget's content, as if the user had.
+  /// Makes one change to the widget's content, as a user would.
   virtual void ShowChange(const TextChange& change, const std::u16string& shown) = 0;
 
   /// Shows `message` beside the cursor.

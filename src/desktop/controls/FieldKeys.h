@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// What text fields of one and of several lines do alike.
+// SPDX-License-Identifier: MIT Common behaviour of text fields of one and of several lines.
 #pragma once
 
 #include <QKeyEvent>
@@ -9,11 +8,10 @@
 
 namespace quorvantis {
 
-/// Ctrl+Y, which Qt knows as the key for Redo on other desktops only.
+/// Ctrl+Y, which Qt uses for Redo only on other desktops.
 bool IsOtherRedo(const QKeyEvent& event);
 
-/// Beeps and shows `message` for a while at `cursor`, a place in `field`, without getting in the way of
-/// typing.
+/// Beeps and shows `message` for a while at `cursor`, a place in `field`, without interrupting typing.
 void TellAtCursor(QWidget* field, const QRect& cursor, std::u16string_view message);
 
 }  // namespace quorvantis

@@ -12,7 +12,7 @@ bool IsLineEnd(char16_t unit) {
   return unit == u'\r' || unit == u'\n' || unit == kParagraphEnd;
 }
 
-/// Two noncharacters that a Qt document takes for the borders of a frame.
+/// Two noncharacters that a Qt document treats as the borders of a frame.
 bool IsFrameMark(char16_t unit) {
   return unit == 0xFDD0 || unit == 0xFDD1;
 }

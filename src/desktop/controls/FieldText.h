@@ -7,7 +7,7 @@
 
 namespace quorvantis {
 
-/// Where two texts differ: they are equal up to `start`, and again behind `removed` units of the first and
+/// Where two texts differ: they are equal up to `start`, and again after `removed` units of the first and
 /// `added` units of the second.
 struct TextChange {
   std::size_t start = 0;
@@ -19,11 +19,11 @@ TextChange FindChange(std::u16string_view before, std::u16string_view after);
 
 enum class FieldLines { One, Many };
 
-/// A text of the form beside what a field on the screen shows of it.
+/// A text of the form, and what a field on the screen shows of it.
 ///
-/// A field cannot hold every text: of a line end it only knows that there is one, and some units mean
-/// something else to it. So an edit is taken as a change of what is shown, and all that lies outside the
-/// change stays in the text unit by unit.
+/// A field cannot hold every text: it knows only one kind of line end, and some units have a special meaning
+/// to it. So an edit counts as a change of what is shown, and everything outside the change stays in the text
+/// unit by unit.
 class FieldText {
  public:
   explicit FieldText(FieldLines lines) : lines_(lines) {}
@@ -36,11 +36,11 @@ class FieldText {
 
   const std::u16string& Text() const { return text_; }
 
-  /// What the field is to show. With many lines every line end is one U+2029, as in a Qt document.
+  /// What the field must show. With several lines every line end is one U+2029, as in a Qt document.
   const std::u16string& Shown() const { return shown_; }
 
-  /// The text once the user has turned what is shown into `shown`. New line ends are CR LF; in a field of one
-  /// line they are blanks. When all edits are taken back, the text is again the one that was loaded.
+  /// The text after the user has edited the field to `shown`. New line ends are CR LF; in a field of one line
+  /// they are blanks. When all edits are undone, the text is again the loaded one.
   std::u16string Edited(std::u16string_view shown) const;
 
  private:

@@ -9,7 +9,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kSmallestFont = 9;  // pixels; below, letters cannot be told apart
+constexpr int kSmallestFont = 9;  // pixels; below this, letters are illegible
 
 QFont Resized(QFont font, int pixels) {
   font.setPixelSize(pixels);

@@ -8,8 +8,7 @@
 
 namespace quorvantis {
 
-/// A caption made to fit a place of fixed size: wrapped at blanks, then in a smaller font, at last with dots
-/// for what has no room.
+/// A caption made to fit a place of fixed size: wrapped at blanks, then in a smaller font, finally elided.
 struct FittedCaption {
   QFont font;
   QString text;
@@ -17,7 +16,7 @@ struct FittedCaption {
 
 FittedCaption FitCaption(const QString& caption, const QFont& font, QSize room);
 
-/// `font`, or the largest smaller one whose lines are not higher than `height`.
+/// `font`, or the largest smaller one with lines no higher than `height`.
 QFont FontForHeight(QFont font, int height);
 
 /// A window whose rows have fixed heights: a large font of the desktop becomes smaller in it, before its

@@ -5,9 +5,9 @@
 
 namespace quorvantis {
 
-/// A button of the toolbar: a picture with the caption beside it, flat until the mouse or the keyboard comes
-/// to it. The caption always has room: it wraps and shrinks, and of a button that reaches beyond the window
-/// only the part inside is used.
+/// A button of the toolbar: a picture with the caption beside it, flat until it has the mouse or the focus.
+/// The caption always fits: it wraps and shrinks, and if the button extends beyond the window, only the
+/// visible part is used.
 class LargeButton : public QAbstractButton {
   Q_OBJECT
 

@@ -23,7 +23,7 @@ bool IsEnter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-/// What a key press would put into a text; empty for a key that does something else.
+/// The text that a key press would insert; empty for other keys.
 QString TextOf(const QKeyEvent& event) {
   if (IsEnter(event)) return QString(QChar::LineFeed);
   const QString text = event.text();
@@ -32,7 +32,7 @@ QString TextOf(const QKeyEvent& event) {
   return command || text.isEmpty() || text.front().category() == QChar::Other_Control ? QString() : text;
 }
 
-/// Line ends as the document of a field has them.
+/// Line ends in the form of a field's document.
 QString AsShown(QString text) {
   text.replace("\r\n", QString(QChar::ParagraphSeparator));
   text.replace('\r', QChar::ParagraphSeparator);
@@ -44,7 +44,7 @@ QString AsShown(QString text) {
 MultiLineField::MultiLineField(QuestionEditor& editor, const StringTable& strings, FormField field,
                                QWidget* parent)
     : QPlainTextEdit(parent), ExamField(editor, strings, field, FieldLines::Many) {
-  setFont(QApplication::font());  // has room for lines of any height, unlike the window
+  setFont(QApplication::font());  // lines of any height fit here, unlike in the window
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setLineWidth(2);
   setTabChangesFocus(true);
@@ -52,13 +52,13 @@ MultiLineField::MultiLineField(QuestionEditor& editor, const StringTable& string
   connect(this, &MultiLineField::Overran, this, &MultiLineField::Restore, Qt::QueuedConnection);
 }
 
-/// Asked before the keys of the window: what is accepted here is not theirs.
+/// Called before the window's shortcuts: what is accepted here does not trigger them.
 bool MultiLineField::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride && ScrollsWith(static_cast<QKeyEvent&>(*event))) {
     event->accept();
     return true;
   }
-  if (event->type() == QEvent::Paint) {  // of the frame; the text is on the viewport
+  if (event->type() == QEvent::Paint) {  // for the frame; the text is on the viewport
     QPainter painter(this);
     PaintFieldEdge(painter, *this);
     return true;
@@ -85,7 +85,7 @@ void MultiLineField::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (IsEnter(*event) && event->modifiers().testFlag(Qt::ShiftModifier)) {
-    // Qt would put in a line separator instead of a line end.
+    // Qt would insert a line separator instead of a line end.
     QKeyEvent enter(QEvent::KeyPress, event->key(), Qt::NoModifier, event->text());
     QPlainTextEdit::keyPressEvent(&enter);
     return;
@@ -119,7 +119,7 @@ void MultiLineField::insertFromMimeData(const QMimeData* source) {
   if (!RefusesInsertion(source->text())) QPlainTextEdit::insertFromMimeData(source);
 }
 
-/// Qt's own way turns no-break spaces into blanks.
+/// Qt's own copying turns no-break spaces into blanks.
 QMimeData* MultiLineField::createMimeDataFromSelection() const {
   auto copy = std::make_unique<QMimeData>();
   copy->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, '\n'));
@@ -137,8 +137,8 @@ void MultiLineField::ShowChange(const TextChange& change, const std::u16string& 
   cursor.insertText(ToQString(std::u16string_view(shown).substr(change.start, change.added)));
 }
 
-/// Asked before the document changes, because Qt joins what is typed into one step of its history: to undo
-/// only the last part of a step is not possible afterwards.
+/// Called before the document changes, because Qt merges typing into one undo step, and the last part of a
+/// step cannot be undone by itself.
 bool MultiLineField::RefusesInsertion(const QString& inserted, int offset, int replaced) {
   const QTextCursor cursor = textCursor();
   const int start = cursor.selectionStart();
@@ -149,8 +149,8 @@ bool MultiLineField::RefusesInsertion(const QString& inserted, int offset, int r
   return refused_;
 }
 
-/// Whatever way a change has come about. One that is refused only here is one that undo or a menu of Qt has
-/// made; the document is in the middle of it and must be left alone until it is through.
+/// Called however a change has come about. If one is refused only here, undo or a Qt menu has made it; the
+/// document is in the middle of it and must not be touched until it is done.
 void MultiLineField::TakeContents() {
   const QString content = document()->toRawText();
   AlignText(content);
@@ -158,7 +158,7 @@ void MultiLineField::TakeContents() {
   emit Overran();
 }
 
-/// A field of plain text puts all lines to the left, also those that run from right to left.
+/// A plain-text field aligns all lines to the left, even right-to-left ones.
 void MultiLineField::AlignText(const QString& content) {
   const Qt::Alignment alignment = content.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
   QTextOption option = document()->defaultTextOption();

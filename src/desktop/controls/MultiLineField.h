@@ -8,8 +8,8 @@
 namespace quorvantis {
 
 /// A text field of several lines. Tab leaves it, so that the keyboard reaches every control. Page Up and Page
-/// Down walk through the questions from here as from everywhere, except while the field holds more text than
-/// it shows: then they belong to the field, at its first and last page too, so that scrolling never ends in
+/// Down move between questions from here as from everywhere, except while the field holds more text than it
+/// shows: then they scroll, and do nothing on the first and last page, so that scrolling never ends in
 /// another question.
 class MultiLineField : public QPlainTextEdit, public ExamField {
   Q_OBJECT
@@ -18,7 +18,7 @@ class MultiLineField : public QPlainTextEdit, public ExamField {
   MultiLineField(QuestionEditor& editor, const StringTable& strings, FormField field, QWidget* parent);
 
  signals:
-  /// The field shows a text that it does not take; it is put right after the event.
+  /// The field shows a refused text; it is corrected after the event.
   void Overran();
 
  protected:
@@ -41,7 +41,7 @@ class MultiLineField : public QPlainTextEdit, public ExamField {
   void AlignText(const QString& content);
   void Restore();
 
-  bool refused_ = false;  ///< the last insertion was
+  bool refused_ = false;  ///< the last insertion was refused
 };
 
 }  // namespace quorvantis

@@ -13,8 +13,8 @@
 
 namespace quorvantis {
 
-/// Qt shows every new content to the validator, and takes back a change that is invalid as if it had not been
-/// made, history and cursor included. That is just what a refused change needs.
+/// Qt shows every new content to the validator, and reverts an invalid change completely, including history
+/// and cursor: just what a refused change needs.
 class OneLineField::Gate : public QValidator {
  public:
   explicit Gate(OneLineField& field) : QValidator(&field), field_(field) {}
@@ -29,7 +29,7 @@ class OneLineField::Gate : public QValidator {
 OneLineField::OneLineField(QuestionEditor& editor, const StringTable& strings, FormField field,
                            QWidget* parent)
     : QLineEdit(parent), ExamField(editor, strings, field, FieldLines::One) {
-  setFrame(false);  // the frame of a style would leave too little room in a field that is 20 pixels high
+  setFrame(false);  // a style's frame would leave too little room in a field of 20 pixels
   setTextMargins(3, 0, 3, 0);
   setValidator(new Gate(*this));
   connect(this, &QLineEdit::textChanged, this, &OneLineField::RestoreIfRefused);
@@ -71,7 +71,7 @@ void OneLineField::ShowAnew(const std::u16string& shown) {
 }
 
 void OneLineField::ShowChange(const TextChange& change, const std::u16string& shown) {
-  home(false);  // a moved cursor ends the step of the history that the user's typing belongs to
+  home(false);  // moving the cursor ends the undo step of the user's typing
   setSelection(static_cast<int>(change.start), static_cast<int>(change.removed));
   insert(ToQString(std::u16string_view(shown).substr(change.start, change.added)));
 }
@@ -81,7 +81,7 @@ bool OneLineField::Takes(const QString& content) {
   return !refused_;
 }
 
-/// Undo can lead back to a loaded text that is longer than the field takes; Qt lets that pass its validator.
+/// Undo can restore a loaded text that is too long for the field; Qt's validator lets that pass.
 void OneLineField::RestoreIfRefused() {
   if (!refused_) return;
   refused_ = false;

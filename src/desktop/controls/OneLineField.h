@@ -30,7 +30,7 @@ class OneLineField : public QLineEdit, public ExamField {
   bool Takes(const QString& content);
   void RestoreIfRefused();
 
-  bool refused_ = false;  ///< the last change was
+  bool refused_ = false;  ///< the last change was refused
 };
 
 }  // namespace quorvantis

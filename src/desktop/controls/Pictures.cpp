@@ -28,7 +28,7 @@ QIcon Pictures::Picture(const QString& name) const {
   return picture;
 }
 
-/// A language that has a picture in one size only is not mixed with built-in ones: Qt scales what there is.
+/// A language's picture in only one size is not mixed with the built-in one: Qt scales it.
 QPixmap Pictures::Bitmap(const QString& name, int scale) const {
   if (library_ == nullptr) return BuiltIn(name, scale);
   const std::string key = name.toStdString();

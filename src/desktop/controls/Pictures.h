@@ -7,18 +7,17 @@
 
 namespace quorvantis {
 
-/// The pictures of the window, by resource name ("207", "NextQuestionU"). A language may bring pictures of
-/// its own; what it lacks comes from the set that is built in.
+/// The pictures of the window, by resource name ("207", "NextQuestionU"). A language may bring its own
+/// pictures; what it lacks is built in.
 ///
-/// Arrows are drawn for languages that run from left to right, in every library: where the language runs the
-/// other way the buttons change them for each other.
+/// Every library's arrows are drawn for left-to-right languages; in right-to-left windows the buttons swap
+/// them.
 class Pictures {
  public:
-  /// `library` may be null, else it must outlive this.
+  /// `library` may be null; otherwise it must outlive this.
   explicit Pictures(const LanguageLibrary* library = nullptr) : library_(library) {}
 
-  /// Holds the bitmaps for one and for two screen pixels to a layout pixel; null when there is no such
-  /// picture.
+  /// The bitmaps for one and for two screen pixels per layout pixel; null if there is no such picture.
   QIcon Picture(const QString& name) const;
 
  private:

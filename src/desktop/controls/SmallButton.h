@@ -15,13 +15,12 @@ struct SmallButtonBitmaps {
   const char* disabled;
 };
 
-/// A button that is nothing but a picture, another one in each state. It shows the middle of its bitmap, as
-/// much as it has room for.
+/// A button that is just a picture, one for each state. It shows as much of the middle of its bitmap as fits.
 class SmallButton : public QAbstractButton {
   Q_OBJECT
 
  public:
-  /// In windows that run from right to left the button shows `mirrored`.
+  /// In right-to-left windows the button shows `mirrored`.
   SmallButton(const Pictures& pictures, const SmallButtonBitmaps& bitmaps, const SmallButtonBitmaps& mirrored,
               QWidget* parent);
 

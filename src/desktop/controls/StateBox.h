@@ -8,7 +8,7 @@
 namespace quorvantis {
 
 /// A check box with three states that does not change by itself: a click is reported by `clicked`, the editor
-/// decides what comes next, and the box shows it. The box proper takes 15 pixels beside the caption, in every
+/// decides what comes next, and the box shows it. The box itself takes 15 pixels beside the caption, in every
 /// style.
 class StateBox : public QCheckBox {
   Q_OBJECT

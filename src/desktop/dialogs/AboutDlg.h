@@ -12,7 +12,7 @@ class AboutDlg final : public QDialog {
   Q_OBJECT
 
  public:
-  /// Without a library the texts are those of the program itself.
+  /// Without a library the texts are the built-in ones.
   explicit AboutDlg(const LanguageLibrary* language, QWidget* parent = nullptr);
 };
 

@@ -19,9 +19,9 @@ namespace {
 
 constexpr int kGap = 10;
 constexpr int kModeGap = 4;
-constexpr int kTitleBar = 40;   // about what a window manager adds to the height
+constexpr int kTitleBar = 40;   // roughly what a window manager adds to the height
 constexpr int kGapColumn = 5;   // between the end of a range and its score
-constexpr int kLastColumn = 8;  // takes what the others leave
+constexpr int kLastColumn = 8;  // takes the rest
 
 RangeBar::Texts BarTexts(const StringTable& strings) {
   return {ToQString(FillMessage(strings.Text(text_id::kTotalScore), {u"%1"})),
@@ -34,7 +34,7 @@ bool IsSwallowedKey(const QEvent& event) {
   return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape;
 }
 
-/// Scrolls on a screen that is too small for all rows; everywhere else nobody sees it.
+/// Scrolls on a screen that is too small for all rows; otherwise it is invisible.
 QScrollArea* MakeScrollable(QWidget* list) {
   auto* area = new QScrollArea;
   area->setWidget(list);
@@ -46,7 +46,7 @@ QScrollArea* MakeScrollable(QWidget* list) {
   return area;
 }
 
-/// Neither the Enter key nor the dialog presses it on its own.
+/// Neither Enter nor the dialog itself presses it.
 QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption) {
   auto* button = new QPushButton(caption, parent);
   NameControl(button, name, caption);
@@ -129,7 +129,7 @@ void CScoreSetupDlg::MakeRanges() {
           [this](int range, int question) { Row(range).to->setText(QString::number(question)); });
 }
 
-/// Deliberately hidden, and neither filled nor read: language libraries still bring its caption.
+/// Deliberately hidden and unused: language libraries still have its caption.
 void CScoreSetupDlg::MakeMinimumQuestions() {
   QLabel* label = MakeLabel(this, "minimumQuestionsLabel", Text(text_id::kMinimumQuestions));
   auto* edit = new FilteredEdit(DigitFieldTakes, this);

@@ -15,11 +15,11 @@
 
 namespace quorvantis {
 
-/// The dialog of the score setup, over the main window. It has no rule of its own: what the user does goes to
-/// the `ScoreSetup`, and the controls show its fields.
+/// The dialog of the score setup, over the main window. It has no rules of its own: input goes to the
+/// `ScoreSetup`, and the controls show its fields.
 ///
-/// Only the main window waits for it, so that a preview can be opened and used beside it. Enter and Escape do
-/// nothing, for an end that is typed is easily finished with Enter.
+/// It is modal for the main window only, so a preview can be opened and used beside it. Enter and Escape do
+/// nothing, since users tend to finish typing an end with Enter.
 class CScoreSetupDlg final : public QDialog {
   Q_OBJECT
 
@@ -27,7 +27,7 @@ class CScoreSetupDlg final : public QDialog {
   /// All must outlive the dialog.
   CScoreSetupDlg(ScoreSetup& setup, SetupOwner& owner, const StringTable& strings, QWidget* parent);
 
-  /// OK, Cancel and the close box. A preview that was opened from here goes first.
+  /// OK, Cancel and the close box. A preview opened from here is closed first.
   void done(int result) override;
 
  protected:

@@ -7,7 +7,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kWidth = 280;  // pixels, so that the caption can be read
+constexpr int kWidth = 280;  // pixels, so that the caption is readable
 
 }  // namespace
 

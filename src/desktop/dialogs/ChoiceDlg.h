@@ -8,13 +8,13 @@
 
 namespace quorvantis {
 
-/// A question with a button below the other for each answer. Closed otherwise, it gives the result 0.
+/// A question with a column of buttons, one for each answer. Closed in any other way, its result is 0.
 class ChoiceDlg : public QDialog {
  protected:
-  /// `name` is the object's.
+  /// `name` is the object name.
   ChoiceDlg(const char* name, const DialogText& texts, QWidget* parent);
 
-  /// Adds the button of that control, which ends the dialog with the result `answer`.
+  /// Adds the button of that control, which closes the dialog with the result `answer`.
   void Offer(int control, int answer);
 
  private:

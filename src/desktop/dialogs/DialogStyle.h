@@ -5,8 +5,8 @@
 
 namespace quorvantis {
 
-/// The desktop's style, but for one thing that Qt draws badly: where windows run from right to left, it puts
-/// the caption of a dialog's button beside its icon onto the edge. There such buttons have no icons.
+/// The desktop's style, except for one drawing fault of Qt: in right-to-left windows, the caption of a dialog
+/// button with an icon runs onto the edge. There such buttons have no icons.
 class DialogStyle : public QProxyStyle {
   Q_OBJECT
 

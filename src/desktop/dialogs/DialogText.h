@@ -8,7 +8,7 @@
 
 namespace quorvantis {
 
-/// The texts of one dialog's controls: those of a language, or the program's own where that has none.
+/// The texts of one dialog's controls: those of a language, or the built-in ones if it has none.
 class DialogText {
  public:
   /// `language`, which may be null, must outlive this. `dialog` is a number of platform/DialogTexts.h.

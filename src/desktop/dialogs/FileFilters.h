@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// The filters of a FileDialogRequest as file dialogs of Qt need them.
+// SPDX-License-Identifier: MIT Converts the filters of a FileDialogRequest for Qt's file dialogs.
 #pragma once
 
 #include <QString>
@@ -25,8 +24,8 @@ struct FileFilter {
 /// Reads "Label|*.a;*.b|Label|*.c|".
 std::vector<FileFilter> ParseFilters(std::u16string_view text);
 
-/// `path` with an extension that a file of the chosen kind has. An extension of any of `filters` is left as
-/// it is, so that typing one overrules the choice; everything else ("Term 1.2") is part of the name.
+/// `path` with an extension of the chosen kind. An extension of any of `filters` is kept, so that typing one
+/// overrides the choice; everything else ("Term 1.2") is part of the name.
 QString WithExtension(const QString& path, const std::vector<FileFilter>& filters, const QString& extension);
 
 }  // namespace quorvantis

@@ -9,8 +9,8 @@
 namespace quorvantis {
 namespace {
 
-/// The characters that a key stands for; none for keys that move or delete. Some systems give no control
-/// characters for shortcuts, so those are told by the key.
+/// The characters of a key press; none for keys that move or delete. Some systems provide no control
+/// characters for shortcuts, so those are derived from the key.
 QString TypedBy(const QKeyEvent& event) {
   const bool isLetter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
   if (event.modifiers() == Qt::ControlModifier && isLetter) {

@@ -7,13 +7,13 @@
 
 namespace quorvantis {
 
-/// A field of one line that drops typed characters. What is pasted or dropped by mouse is not looked at, and
-/// shortcuts that are characters ("Ctrl+V") count as typed.
+/// A field of one line that filters typed characters. Pasted and dropped text is not filtered, and shortcuts
+/// with characters ("Ctrl+V") count as typed.
 class FilteredEdit : public QLineEdit {
   Q_OBJECT
 
  public:
-  /// Whether a character may be typed into a field with that content.
+  /// Whether a character may be typed into a field with this content.
   using Filter = bool (*)(char16_t typed, std::u16string_view content);
 
   FilteredEdit(Filter takes, QWidget* parent) : QLineEdit(parent), takes_(takes) {}

@@ -19,7 +19,7 @@ constexpr int kListWidth = 240;
 constexpr QSize kProgramIconSize(64, 64);
 constexpr const char* kVersion = "6.4.5 2";
 
-/// Version of the program and tag of the exam files that it writes, a line each.
+/// The version of the program and the tag of the exam files it writes, a line each.
 QLabel* MakeVersionText(QWidget* parent) {
   auto* text = new QLabel(kVersion + ("\n" + ToQString(kCurrentVersion.tag)), parent);
   text->setObjectName("version");
@@ -34,7 +34,7 @@ QLabel* MakeIcon(QWidget* parent) {
   return icon;
 }
 
-/// Never shown and out of reach; closing the window cancels.
+/// Never shown; closing the window cancels.
 void MakeCancelButton(const QString& text, QWidget* parent) {
   auto* button = new QPushButton(text, parent);
   button->setObjectName("cancel");

@@ -10,8 +10,8 @@
 
 namespace quorvantis {
 
-/// The language dialog, which opens at every start. A selection is taken at once; OK and Enter only close the
-/// dialog, Escape does nothing, and closing the window cancels.
+/// The language dialog, which opens at every start. A selection takes effect at once; OK and Enter only close
+/// the dialog, Escape does nothing, and closing the window cancels.
 class LanguageDlg final : public QDialog {
   Q_OBJECT
 

@@ -13,7 +13,7 @@ constexpr int kPatience = 500;      // milliseconds until the bar appears
 constexpr int kPaintInterval = 50;  // and between its steps
 constexpr int kSteps = 1000;
 
-/// Without steps the bar only shows that something goes on, without a caption there is no button.
+/// Without steps the bar only shows activity; without a caption there is no button.
 std::unique_ptr<QProgressDialog> MakeBar(const QString& cancelCaption, int steps, QWidget* parent) {
   auto bar = std::make_unique<QProgressDialog>(QString(), cancelCaption, 0, steps, parent);
   bar->setWindowModality(Qt::ApplicationModal);
@@ -25,7 +25,7 @@ std::unique_ptr<QProgressDialog> MakeBar(const QString& cancelCaption, int steps
 
 }  // namespace
 
-/// Nobody says when work ends: it has, once the event loop turns by itself.
+/// Nobody reports the end of work: it is over once the event loop runs by itself.
 QtProgress::QtProgress() {
   end_.setInterval(0);
   connect(&end_, &QTimer::timeout, this, [this] {
@@ -63,7 +63,7 @@ void QtProgress::Wait() {
   QCoreApplication::processEvents();
 }
 
-/// The dialog stays when it is cancelled: it keeps all other input away until the work has ended.
+/// The dialog stays after a cancel: it blocks all other input until the work has ended.
 void QtProgress::BeginWaiting() {
   QApplication::setOverrideCursor(Qt::WaitCursor);
   cancelled_ = false;

@@ -12,9 +12,9 @@
 
 namespace quorvantis {
 
-/// A bar over the main window for work that takes longer than half a second, and at once while another
-/// program is waited for. While it shows, windows are painted but take no input; only waiting can be
-/// cancelled.
+/// A bar over the main window for work that takes longer than half a second; while waiting for another
+/// program it appears at once. While it is shown, windows are painted but accept no input; only waiting can
+/// be cancelled.
 class QtProgress : public QObject, public Progress {
   Q_OBJECT
 
@@ -22,7 +22,7 @@ class QtProgress : public QObject, public Progress {
   QtProgress();
   ~QtProgress() override;
 
-  /// The window that the bar belongs to from now on; it may go before this object does.
+  /// Sets the window that the bar belongs to; it may go before this object.
   void SetParent(QWidget* parent) { parent_ = parent; }
 
   void Report(std::uint64_t done, std::uint64_t total) override;
@@ -36,7 +36,7 @@ class QtProgress : public QObject, public Progress {
 
   QPointer<QWidget> parent_;
   std::unique_ptr<QProgressDialog> bar_;
-  std::unique_ptr<QProgressDialog> waiting_;  ///< while it is there, so is the wait cursor
+  std::unique_ptr<QProgressDialog> waiting_;  ///< while it exists, the wait cursor is shown
   QElapsedTimer sinceStart_;
   QElapsedTimer sincePaint_;
   QTimer end_;

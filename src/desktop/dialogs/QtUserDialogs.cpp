@@ -26,10 +26,10 @@ void OfferFilters(QFileDialog& dialog, const std::vector<FileFilter>& filters) {
   QStringList names;
   for (const FileFilter& filter : filters) names.push_back(filter.ForQt());
   dialog.setNameFilters(names);
-  dialog.setOption(QFileDialog::HideNameFilterDetails);  // the labels bring their own
+  dialog.setOption(QFileDialog::HideNameFilterDetails);  // the labels include them
 }
 
-/// The chosen one; the dialog tells it with or without its patterns. Null when it is none of them.
+/// The chosen filter, which the dialog returns with or without its patterns. Null if it is none of them.
 const FileFilter* SelectedFilter(const QFileDialog& dialog, const std::vector<FileFilter>& filters) {
   const QString selected = dialog.selectedNameFilter();
   for (const FileFilter& filter : filters) {
@@ -44,7 +44,7 @@ QString SelectedExtension(const QFileDialog& dialog, const std::vector<FileFilte
   return selected != nullptr ? selected->FirstExtension() : fallback;
 }
 
-/// Qt would begin in the folder of the program, which is nobody's.
+/// Qt would begin in the program's folder, where users have no files.
 QString ExistingFolder(const std::filesystem::path& folder) {
   std::error_code ignored;
   if (std::filesystem::is_directory(folder, ignored)) return PathToQString(folder);
@@ -71,7 +71,7 @@ bool QtUserDialogs::AskYesNo(std::u16string_view question) {
          QMessageBox::Yes;
 }
 
-/// Many lines would make the box higher than the screen, so they have a field of their own.
+/// Many lines would make the box higher than the screen, so they get a field of their own.
 LossAnswer QtUserDialogs::AskAboutLosses(const LossQuestion& question) {
   constexpr qsizetype kMostLines = 10;
   QStringList lines;
@@ -123,7 +123,7 @@ std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToOpen(const FileD
   return file;
 }
 
-/// The dialog itself would ask about overwriting before the extension is there.
+/// The dialog would ask about overwriting before the extension is added.
 std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToSave(const FileDialogRequest& request) {
   const std::vector<FileFilter> filters = ParseFilters(request.filter);
   QFileDialog dialog(parent_);

@@ -16,28 +16,27 @@ namespace quorvantis {
 /// Questions and messages as dialogs over the main window.
 class QtUserDialogs : public UserDialogs {
  public:
-  /// The window that the dialogs belong to from now on; it may go before this object does.
+  /// Sets the window that the dialogs belong to; it may go before this object.
   void SetParent(QWidget* parent) { parent_ = parent; }
 
-  /// `keep` is told of each folder that file dialogs are to begin in.
+  /// `keep` receives each folder that file dialogs are to begin in.
   void KeepFolders(std::function<void(const std::filesystem::path&)> keep) { keepFolder_ = std::move(keep); }
 
   void ShowError(std::u16string_view text) override;
   void ShowWarning(std::u16string_view text) override;
-  /// Deliberately with the icon of an error, as users of the program know it.
+  /// Deliberately with the error icon, as users know it.
   void ShowDone(std::u16string_view text) override;
   bool AskYesNo(std::u16string_view question) override;
   LossAnswer AskAboutLosses(const LossQuestion& question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
-  /// A folder that is gone gives way to that of the user's documents.
+  /// If the folder is gone, the user's documents folder takes its place.
   void BeginIn(const std::filesystem::path& folder) override;
-  /// Begins with the kind of file that was chosen last, and, until another folder is told, where it was
-  /// found.
+  /// Begins with the kind of file chosen last and, until another folder is set, in the folder it was in.
   std::optional<std::filesystem::path> ChooseFileToOpen(const FileDialogRequest& request) override;
   std::optional<std::filesystem::path> ChooseFileToSave(const FileDialogRequest& request) override;
 
  private:
-  /// How a dialog was left.
+  /// How a dialog was last used.
   struct LastUse {
     QString filter;
     std::filesystem::path folder;

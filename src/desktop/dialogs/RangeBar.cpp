@@ -49,7 +49,7 @@ void RangeBar::Refresh() {
   setAccessibleDescription(description + TotalText());
 }
 
-/// While each question has the same score, the ranges are not shown: they do not count.
+/// While all questions have the same score, the ranges do not count and are not shown.
 void RangeBar::Show(const ScoreSetup& setup) {
   const ScoreDistribution ranges = setup.Fields().Enabled() ? setup.Typed() : ScoreDistribution();
   segments_ = SegmentsOf(ranges, setup.QuestionCount());
@@ -86,14 +86,14 @@ QRect RangeBar::RectOf(const ScoreSegment& segment) const {
   return {std::min(one, other), bar.top(), std::abs(other - one), bar.height()};
 }
 
-/// Where a question ends, in pixels; for 0 where the first one begins.
+/// Where a question ends, in pixels; for 0, where the first one begins.
 int RangeBar::EdgeBehind(int question) const {
   const QRect bar = BarRect();
   const int distance = bar.width() * question / std::max(1, setup_.QuestionCount());
   return isRightToLeft() ? bar.left() + bar.width() - distance : bar.left() + distance;
 }
 
-/// The question that ends next to `x`.
+/// The question that ends nearest to `x`.
 int RangeBar::QuestionBefore(int x) const {
   const QRect bar = BarRect();
   const int distance = isRightToLeft() ? bar.left() + bar.width() - x : x - bar.left();
@@ -104,7 +104,7 @@ bool RangeBar::IsDraggable(const ScoreSegment& segment) const {
   return segment.range != 0 && isEnabled() && setup_.IsEndEditable(segment.range);
 }
 
-/// The range whose end is next to `x`, or 0.
+/// The range whose end is near `x`, or 0.
 int RangeBar::DraggableRangeAt(int x) const {
   int range = 0;
   int nearest = kHandleReach + 1;
@@ -117,8 +117,8 @@ int RangeBar::DraggableRangeAt(int x) const {
   return range;
 }
 
-/// Keeps a dragged end between the start of its range and the next end, which it can only reach where that is
-/// the last one: there it takes the place of the next range.
+/// Keeps a dragged end between the start of its range and the next end. It can reach only the last end, and
+/// then replaces the next range.
 int RangeBar::NearestAllowedEnd(int range, int question) const {
   const ScoreDistribution ranges = setup_.Typed();
   const auto next = static_cast<std::size_t>(range);
@@ -185,7 +185,7 @@ void RangeBar::paintEvent(QPaintEvent*) {
   for (const ScoreSegment& segment : segments_) PaintHandle(painter, segment);
 }
 
-/// Numbers that have no room are left out: the fields have them.
+/// Numbers that do not fit are left out: the fields show them.
 void RangeBar::PaintSegment(QPainter& painter, const ScoreSegment& segment) const {
   const QRect area = RectOf(segment);
   const QColor colour = RangeColour(segment.range, palette());

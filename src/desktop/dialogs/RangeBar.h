@@ -12,9 +12,9 @@
 namespace quorvantis {
 
 /// The exam as a bar: a coloured piece for each score range, with the numbers of its questions and their
-/// score, and the score of the whole exam above. The end of a range can be dragged, as far as the field of
-/// that end could be typed into; while it is, the bar shows what would become of the ranges. It is for the
-/// mouse only: everything that it does and shows is in the fields as well.
+/// score, and the total score above. The end of a range can be dragged if its field is editable; meanwhile
+/// the bar shows the resulting ranges. It is for the mouse only: everything it does and shows is in the
+/// fields as well.
 class RangeBar : public QWidget {
   Q_OBJECT
 
@@ -35,7 +35,7 @@ class RangeBar : public QWidget {
   QSize minimumSizeHint() const override;
 
  signals:
-  /// The end of a range has been dragged to a question.
+  /// The end of a range was dragged to a question.
   void EndDragged(int range, int question);
 
  protected:

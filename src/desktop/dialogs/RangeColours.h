@@ -6,7 +6,7 @@
 
 namespace quorvantis {
 
-/// The colour of a score range, 1 to 10, on windows of that palette; for 0 that of questions without a range.
+/// The colour of a score range, 1 to 10, in windows of that palette; 0 is for questions without a range.
 /// Neighbours differ clearly.
 QColor RangeColour(int range, const QPalette& palette);
 

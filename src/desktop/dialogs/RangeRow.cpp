@@ -49,7 +49,7 @@ void Narrow(QLineEdit* edit, int digits) {
   edit->setFixedHeight(edit->sizeHint().height());  // the same with and without a frame
 }
 
-/// A field that nobody can type into looks like a label, and the Tab key passes it by.
+/// A read-only field looks like a label, and Tab skips it.
 void ShowReadOnly(QLineEdit* edit, bool readOnly) {
   edit->setReadOnly(readOnly);
   edit->setFrame(!readOnly);
@@ -91,8 +91,8 @@ QLabel* MakeRangeLabel(const char* role, int range, const QString& caption, QWid
 }  // namespace
 
 RangeRow::RangeRow(int range, const StringTable& strings, QWidget* parent)
-    // The widgets belong to `parent`, so a copy of the row is another way to the same ones.
-    // cppcheck-suppress [noCopyConstructor, noOperatorEq]
+    // The widgets belong to `parent`, so a copy of the row refers to the same ones. cppcheck-suppress
+    // [noCopyConstructor, noOperatorEq]
     : swatch(new Swatch(range, parent)),
       questionLabel(MakeRangeLabel("rangeQuestionLabel", range,
                                    ToQString(strings.Text(text_id::kRangeQuestion)), parent)),
@@ -145,7 +145,7 @@ void RangeRow::ShowSum(const ScoreDistribution& ranges) {
   sum->setText(QString("\u00D7 %1 = %2").arg(count).arg(ToQString(FormatScore(worth))));
 }
 
-/// A screen reader says of which questions a field is; the label beside it does not tell.
+/// Names the questions of a field for screen readers; the label beside it does not.
 void RangeRow::NameFields() {
   const QString first = from != nullptr ? from->text() : "1";
   const QString question = questionLabel->text() + " " + first;

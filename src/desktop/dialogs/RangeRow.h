@@ -20,16 +20,16 @@ class RangeRow {
   /// Puts the controls into a row of a grid.
   void AddTo(QGridLayout& grid, int row) const;
 
-  /// Shows what the fields of the range hold. A range that is not used keeps quiet.
+  /// Shows what the fields of the range hold. An unused range is inconspicuous.
   void Show(const ScoreFields& fields);
 
-  /// Shows what all questions of the range are worth together, as `ranges` has it.
+  /// Shows the total score of the range's questions, according to `ranges`.
   void ShowSum(const ScoreDistribution& ranges);
 
   QWidget* swatch;  ///< the colour of the range
   QLabel* questionLabel;
   QLineEdit* from;  ///< null for range 1, which always starts with question 1
-  QWidget* start;   ///< `from`, or what stands in its place
+  QWidget* start;   ///< `from`, or its substitute
   QLabel* toLabel;
   SteppedEdit* to;
   QLabel* scoreLabel;

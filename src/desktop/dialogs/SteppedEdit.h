@@ -5,8 +5,8 @@
 
 namespace quorvantis {
 
-/// A field of one line for a whole number that the keys Up and Down and the mouse wheel change by one, while
-/// it is editable.
+/// A field of one line for a whole number. While it is editable, Up, Down and the mouse wheel change it by
+/// one.
 class SteppedEdit : public QLineEdit {
   Q_OBJECT
 
@@ -20,7 +20,7 @@ class SteppedEdit : public QLineEdit {
  private:
   void Step(int steps);
 
-  int wheel_ = 0;  ///< turned so far, in eighths of a degree, less than a step
+  int wheel_ = 0;  ///< turned so far, in eighths of a degree; less than a step
 };
 
 }  // namespace quorvantis

@@ -54,7 +54,7 @@ ExamImportDlg::ExamImportDlg(ExamImport& import, ExamServices& services, const D
   resize(sizeHint().expandedTo({520, 0}));
 }
 
-/// A file dialog that is cancelled puts the last chosen path back.
+/// Cancelling the file dialog restores the last chosen path.
 void ExamImportDlg::Browse() {
   const StringTable& strings = services_.strings;
   const std::u16string filter = strings.Text(text_id::kImportFilter) + strings.Text(text_id::kOtherDocuments);

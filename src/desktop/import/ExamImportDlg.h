@@ -19,7 +19,7 @@ class ExamImportDlg : public QDialog {
   /// `import`, whose repositories are listed, and `services` must outlive the dialog.
   ExamImportDlg(ExamImport& import, ExamServices& services, const DialogText& texts, QWidget* parent);
 
-  /// Closes the dialog only when the rules accept what is chosen.
+  /// Closes the dialog only if the rules accept the choice.
   void accept() override;
 
  private:

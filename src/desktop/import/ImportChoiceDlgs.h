@@ -1,5 +1,4 @@
-// SPDX-License-Identifier: MIT
-// The questions that an import asks besides the one for the document.
+// SPDX-License-Identifier: MIT The questions of an import, apart from the choice of the document.
 #pragma once
 
 #include "desktop/dialogs/ChoiceDlg.h"
@@ -7,16 +6,16 @@
 
 namespace quorvantis {
 
-/// Asks whether imported questions go into the exam in hand.
+/// Asks whether imported questions go into the current exam.
 class ImportTargetDlg : public ChoiceDlg {
  public:
   ImportTargetDlg(const LanguageLibrary* language, QWidget* parent);
 
-  /// A dialog that is closed otherwise means a new exam.
+  /// Closing the dialog in any other way means a new exam.
   ImportTarget Ask() { return exec() == Accepted ? ImportTarget::Continue : ImportTarget::NewExam; }
 };
 
-/// Asks what to do with questions that an exam cannot show as they are.
+/// Asks what to do with questions that an exam cannot show unchanged.
 class RelatedQuestionsDlg : public ChoiceDlg {
  public:
   ChoiceResult Ask() { return static_cast<ChoiceResult>(exec()); }

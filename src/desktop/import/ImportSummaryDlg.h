@@ -11,13 +11,13 @@
 
 namespace quorvantis {
 
-/// What came of an import. Stands beside the main window, so that the user can look at the questions before
-/// deciding whether to keep them.
+/// The result of an import. Modeless, so that the user can look at the questions before deciding whether to
+/// keep them.
 class ImportSummaryDlg : public QDialog {
   Q_OBJECT
 
  public:
-  /// What its buttons do. Without `mendLineEnds` there is no such button.
+  /// The actions of its buttons. Without `mendLineEnds` there is no such button.
   struct Commands {
     std::function<bool()> canUndo;
     std::function<void()> undo;
@@ -26,7 +26,7 @@ class ImportSummaryDlg : public QDialog {
 
   ImportSummaryDlg(const QString& lines, Commands commands, const StringTable& strings, QWidget* parent);
 
-  /// Looks whether the import can still be undone, and closes when it cannot.
+  /// Checks whether the import can still be undone, and closes if not.
   void Refresh();
 
  private:

@@ -9,8 +9,8 @@
 
 namespace quorvantis {
 
-/// What shows while an import works: which document, how far it has come, and that Escape ends it. All other
-/// windows take no input meanwhile.
+/// The wait window of an import: shows the document, the progress, and that Escape cancels. No other window
+/// accepts input meanwhile.
 class ImportWaitDlg : public QDialog {
   Q_OBJECT
 
@@ -20,7 +20,7 @@ class ImportWaitDlg : public QDialog {
 
   void ShowPicturesRead(std::size_t done, std::size_t total);
 
-  /// Paints the windows and looks for Escape, unless it has just done so. True once the user wants to end.
+  /// Paints the windows and checks for Escape, unless it has just done so. True once the user has cancelled.
   bool IsCancelled();
 
   void reject() override { isCancelled_ = true; }

@@ -69,7 +69,7 @@ void ImportWindows::ShowReport(const ImportReport& report, ImportCommand& import
   summary_ = new ImportSummaryDlg(Joined(ImportSummary(report, services_.strings)), std::move(commands),
                                   services_.strings, &parent_);
   summary_->show();
-  summary_->activateWindow();  // Escape would end the main window
+  summary_->activateWindow();  // otherwise Escape would end the main window
 }
 
 void ImportWindows::Undo(ImportCommand& import) {

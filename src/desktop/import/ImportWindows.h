@@ -20,10 +20,10 @@ class ImportWindows : public ImportDialogs {
   ImportWindows(ExamServices& services, const LanguageLibrary* language, QWidget& parent)
       : services_(services), language_(language), parent_(parent) {}
 
-  /// Undoes the import on the user's word.
+  /// Undoes the import, with the user's consent if needed.
   void Undo(ImportCommand& import);
 
-  /// The exam has changed as a whole, so what the summary says may be out of date.
+  /// The exam has changed as a whole, so the summary may be out of date.
   void ExamChanged();
 
   ImportTarget AskTarget() override;

@@ -10,7 +10,7 @@
 
 namespace quorvantis {
 
-/// Lengths on the window are layout pixels: they do not depend on the scale of the screen.
+/// Lengths in the window are in layout pixels, independent of the scale of the screen.
 struct PixelSize {
   int width = 0;
   int height = 0;
@@ -36,8 +36,7 @@ inline constexpr std::size_t kNavigationButtons = 7;
 /// In the order of their kinds.
 inline constexpr std::size_t kKindButtons = std::size(kQuestionKinds);
 
-/// What the places of the controls depend on. The sizes of captions are those of their text in the window's
-/// font.
+/// What the places of the controls depend on. Caption sizes are those of their text in the window's font.
 struct LayoutInput {
   PixelSize client;
   std::array<bool, kToolbarButtons> enabled{};
@@ -53,7 +52,7 @@ struct LayoutInput {
   QuestionKind kind = QuestionKind::Choice;
 };
 
-/// Where the controls are. A control without a place stays where it is.
+/// The places of the controls. A control without a place stays where it is.
 struct LayoutPlaces {
   std::array<std::optional<PixelRect>, kToolbarButtons> toolbar;
   PixelRect titleLabel;
@@ -78,11 +77,11 @@ struct LayoutPlaces {
   std::optional<PixelRect> essay;
 };
 
-/// The places of the window's controls, for a language that runs from left to right. In a window that is
-/// smaller than the smallest size, places may lie outside of it or be empty.
+/// The places of the window's controls, for a language that runs from left to right. In a window below the
+/// smallest size, places may be outside it or empty.
 LayoutPlaces Layout(const LayoutInput& input);
 
-/// The place of a control where the language runs from right to left.
+/// The place of a control for a right-to-left language.
 PixelRect Mirrored(const PixelRect& place, int clientWidth);
 
 }  // namespace quorvantis

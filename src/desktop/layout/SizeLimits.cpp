@@ -23,7 +23,7 @@ ScrolledView ScrollIn(PixelSize client, int bar) {
   const bool low = client.height < kSmallestClient.height;
   const bool narrow = client.width - (low ? bar : 0) < kSmallestClient.width;
   if (narrow) view.height -= bar;
-  if (view.height < kSmallestClient.height) view.width -= bar;  // perhaps only for the other bar
+  if (view.height < kSmallestClient.height) view.width -= bar;  // perhaps only because of the other bar
   return {{std::max(view.width, kSmallestClient.width), std::max(view.height, kSmallestClient.height)}, view};
 }
 

@@ -12,23 +12,21 @@ struct SizeLimits {
   PixelSize atStart;
 };
 
-/// The smallest client area that has room for all controls.
+/// The smallest client area with room for all controls.
 inline constexpr PixelSize kSmallestClient{792, 646};
 
-/// The limits on a screen of which `room` is left for the client area of a window, without panels of the
-/// desktop and the frame of the window. On a screen without room for the smallest size the window may shrink
-/// to what there is and scroll its controls: what lies beyond the screen, perhaps its title bar among it,
-/// would be lost.
+/// The limits on a screen with this `room` for a client area, apart from desktop panels and the window frame.
+/// On a screen without room for the smallest size the window may shrink to fit and scroll its controls:
+/// anything beyond the screen, perhaps the title bar, would be lost.
 SizeLimits LimitsOn(PixelSize screen, PixelSize room);
 
-/// How a window shows the area that its controls are placed in.
+/// How a window shows the area with its controls.
 struct ScrolledView {
   PixelSize area;  ///< at least kSmallestClient
-  PixelSize view;  ///< the part of the area that is seen at a time: the client area without the scroll bars
+  PixelSize view;  ///< the visible part of the area: the client area without the scroll bars
 };
 
-/// Of a window with this client area. There are scroll bars, `bar` thick, only where the controls have no
-/// room.
+/// For a window with this client area. Scroll bars, `bar` thick, appear only if the controls do not fit.
 ScrolledView ScrollIn(PixelSize client, int bar);
 
 }  // namespace quorvantis

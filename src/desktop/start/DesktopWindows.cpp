@@ -28,23 +28,23 @@ namespace {
 constexpr int kUntilPainted = 300;  // milliseconds
 constexpr int kNoPicture = 1;       // exit code
 
-/// Whole or not at all. Tells what is wrong where the picture could not be saved, else nothing.
+/// Saves the picture whole or not at all. Returns an error message, or an empty text.
 QString SavePicture(const QPixmap& picture, const QString& file) {
   QSaveFile out(file);
-  out.setDirectWriteFallback(true);  // for a folder that takes no new files
+  out.setDirectWriteFallback(true);  // for a folder that accepts no new files
   if (!out.open(QIODevice::WriteOnly)) return out.errorString();
   QImageWriter writer(&out, QFileInfo(file).suffix().toLatin1());
   if (!writer.write(picture.toImage())) return writer.errorString();
   return out.commit() ? QString() : out.errorString();
 }
 
-/// The main window as a second start meets it.
+/// The main window, for a second start.
 class OpenWindow : public FirstStart {
  public:
   explicit OpenWindow(CQuorvantisDlg& window) : window_(window) {}
 
-  /// Nothing but the window is open: no dialog, which waits for its answer, and no preview, which shows the
-  /// exam that is open. A window that prints is not seen.
+  /// Whether only the main window is open: no dialog, which waits for its answer, and no preview, which shows
+  /// the open exam. A window that prints is invisible.
   bool IsFree() const override {
     const auto isOther = [&](const QWidget* other) {
       const bool isReal = other->windowType() == Qt::Window || other->windowType() == Qt::Dialog;
@@ -84,13 +84,13 @@ bool DesktopWindows::ChooseLanguage(LanguageChoice& choice, const LanguageInUse&
   return TakesPicture() || LanguageDlg(choice, language).exec() == QDialog::Accepted;
 }
 
-/// A run that takes a picture leaves the settings alone.
+/// A screenshot run leaves the settings alone.
 void DesktopWindows::RememberFolders(const ExamFolderSetting& setting) {
   dialogs_.BeginIn(setting.Read());
   if (!TakesPicture()) dialogs_.KeepFolders([&setting](const auto& folder) { setting.Write(folder); });
 }
 
-/// An exam that was restored is not opened over itself.
+/// A restored exam is not opened over itself.
 void DesktopWindows::OpenFirstExam(CQuorvantisDlg& window) {
   const bool restored = !TakesPicture() && window.OfferRecovery();
   const std::filesystem::path& exam = options_.exam;
@@ -119,16 +119,15 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   window.show();
   OpenWindow openWindow(window);
   const SecondStartListener secondStarts(application.ModuleFolder(), openWindow);
-  if (TakesPicture()) {  // before opening: a message must not keep it from being taken
+  if (TakesPicture()) {  // before opening: no message may get in the way
     QTimer::singleShot(kUntilPainted, &window, [&] { TakePicture(window); });
   }
   const EndingSignals endings;
   QObject::connect(&endings, &EndingSignals::Arrived, &window, [&window] {
     window.KeepUnsavedWork();
-    QCoreApplication::exit();  // leaves dialogs, too
+    QCoreApplication::exit();  // also leaves dialogs
   });
-  QTimer::singleShot(0, &window,
-                     [&] { OpenFirstExam(window); });  // in the event loop, which a signal must find
+  QTimer::singleShot(0, &window, [&] { OpenFirstExam(window); });  // in the event loop, which signals need
   if (!TakesPicture()) QTimer::singleShot(kUntilPainted, &window, [&] { window.WarmBrowser(); });
   const int exitCode = QApplication::exec();
   if (!TakesPicture() || pictureTaken_ || exitCode != 0) return exitCode;

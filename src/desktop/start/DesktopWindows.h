@@ -11,7 +11,8 @@ namespace quorvantis {
 
 class CQuorvantisDlg;
 
-/// The windows of a run. A run that only takes a picture of the main window shows no other and asks nothing.
+/// The windows of a run. A run that only takes a screenshot of the main window shows no other window and asks
+/// nothing.
 class DesktopWindows : public ApplicationWindows {
  public:
   /// `options` must outlive the windows.

@@ -16,7 +16,7 @@ std::atomic<int> pipeEnd{-1};  // global, because a signal handler can be given 
 void TellPipe(int) {
   const int error = errno;
   const char byte = 0;
-  if (::write(pipeEnd, &byte, 1) < 0) errno = error;  // it holds a byte already then
+  if (::write(pipeEnd, &byte, 1) < 0) errno = error;  // the pipe already holds a byte then
 }
 
 }  // namespace

@@ -11,8 +11,8 @@
 namespace quorvantis {
 
 /// Turns the signals of a terminal and of a shutdown (SIGINT, SIGTERM, SIGHUP) into a signal of Qt, so that
-/// the program can end in order. Each does so once: a second one ends the process at once, should the order
-/// take too long. Signals that were ignored stay so. There is one of these at a time.
+/// the program can end properly. Only the first time: a second signal ends the process at once, in case that
+/// takes too long. Signals that were ignored stay so. There is one of these at a time.
 class EndingSignals : public QObject {
   Q_OBJECT
 

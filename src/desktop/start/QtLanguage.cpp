@@ -18,8 +18,8 @@ struct Translation {
   const char* name;  ///< as in "qtbase_ar.qm"
 };
 
-// Qt translates into these. Where a language has variants its own ones stand before the language, for which
-// the low 10 bits of an identifier stand.
+// Qt translates into these. Variants of a language precede the language itself, which is the low 10 bits of
+// an identifier.
 constexpr int kLanguageBits = 0x3FF;
 constexpr Translation kTranslations[] = {
     {0x0404, "zh_TW"}, {0x0C04, "zh_TW"}, {0x1404, "zh_TW"}, {0x04, "zh_CN"}, {0x01, "ar"}, {0x02, "bg"},
@@ -45,7 +45,7 @@ void QtTexts::LoadFor(int languageId) {
   const char* name = TranslationName(languageId);
   const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
   const QString file = name == nullptr ? QString() : folder + "/qtbase_" + name + ".qm";
-  std::ignore = load(file);  // on failure it has no texts, which is what is wanted then
+  std::ignore = load(file);  // on failure it has no texts, as intended
 }
 
 QString QtTexts::translate(const char* context, const char* sourceText, const char* disambiguation,

@@ -5,11 +5,11 @@
 
 namespace quorvantis {
 
-/// A translation of Qt's. Keys of Arabic or Hebrew letters are not marked: the mark takes joined letters
-/// apart, and few keyboards have them under Alt.
+/// One of Qt's translations. Arabic and Hebrew letters are not marked as mnemonics: the mark breaks joined
+/// letters, and few keyboards have them under Alt.
 class QtTexts : public QTranslator {
  public:
-  /// Nothing is translated without a file of that language.
+  /// Translates nothing without a file of that language.
   void LoadFor(int languageId);
 
   QString translate(const char* context, const char* sourceText, const char* disambiguation,
@@ -19,8 +19,8 @@ class QtTexts : public QTranslator {
   bool marksKeys_ = true;
 };
 
-/// What Qt itself shows, in the language in use: the direction of all windows and the texts of Qt's own
-/// dialogs. Without Qt's translation of a language those stay English.
+/// Sets Qt to the language in use: the direction of all windows and the texts of Qt's own dialogs. If Qt has
+/// no translation for it, those stay English.
 class QtLanguage {
  public:
   QtLanguage() = default;
@@ -28,7 +28,7 @@ class QtLanguage {
   QtLanguage(const QtLanguage&) = delete;
   QtLanguage& operator=(const QtLanguage&) = delete;
 
-  /// From now on that language.
+  /// Switches to that language.
   void Use(int languageId);
 
  private:

@@ -10,12 +10,11 @@ namespace {
 
 constexpr int kPatience = 2000;  // milliseconds
 constexpr qint64 kLongestMessage = qint64{64} * 1024;
-constexpr char kEnd = '\0';  // the one byte that no path has
+constexpr char kEnd = '\0';  // the one byte that no path contains
 constexpr char kTaken = '+';
 constexpr char kBusy = '-';
 
-/// A socket in the user's own folder for such things. Its path must be short, so the folder stands in it as a
-/// hash.
+/// A socket in the user's runtime folder. Its path must be short, so it contains a hash of the folder.
 QString SocketOf(const std::filesystem::path& folder) {
   std::error_code error;
   const std::string path = std::filesystem::weakly_canonical(folder, error).native();
@@ -31,8 +30,8 @@ SecondStartListener::SecondStartListener(const std::filesystem::path& folder, Fi
     : first_(first) {
   connect(&server_, &QLocalServer::newConnection, this, &SecondStartListener::Accept);
   server_.setSocketOptions(QLocalServer::UserAccessOption);
-  QLocalServer::removeServer(SocketOf(folder));  // left behind by a start that was killed
-  server_.listen(SocketOf(folder));              // without it, second starts are only told to go away
+  QLocalServer::removeServer(SocketOf(folder));  // left behind by a killed program
+  server_.listen(SocketOf(folder));              // without it, second starts are only turned away
 }
 
 void SecondStartListener::Accept() {

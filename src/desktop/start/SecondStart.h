@@ -1,6 +1,5 @@
-// SPDX-License-Identifier: MIT
-// A second start on an application folder hands over to the first one: that shows its window, and opens the
-// exam that the second one was to open.
+// SPDX-License-Identifier: MIT A second start on an application folder hands over to the first one, which
+// shows its window and opens the second one's exam.
 #pragma once
 
 #include <QLocalServer>
@@ -9,7 +8,7 @@
 
 namespace quorvantis {
 
-/// The first start, as the second one needs it.
+/// What the second start needs of the first one.
 class FirstStart {
  public:
   virtual ~FirstStart() = default;
@@ -17,12 +16,11 @@ class FirstStart {
   /// Whether an exam can be opened now.
   virtual bool IsFree() const = 0;
 
-  /// Shows the window and opens the exam, if there is one, which may take as long as questions to the user
-  /// take.
+  /// Shows the window and opens the exam, if there is one. May wait for the user's answers.
   virtual void ComeForward(const std::filesystem::path& exam) = 0;
 };
 
-/// The first start's side: waits for later ones.
+/// The first start's side: listens for later ones.
 class SecondStartListener : public QObject {
   Q_OBJECT
 
@@ -41,10 +39,10 @@ class SecondStartListener : public QObject {
 enum class HandOverResult {
   Taken,
   Busy,     ///< the first one has a dialog or a preview open: the exam was not opened
-  NoAnswer  ///< what holds the folder is something else, or is about to start or end
+  NoAnswer  ///< the folder is held by something else, or by a program that is starting or ending
 };
 
-/// The second start's side. `exam` may be empty; it is a full path.
+/// The second start's side. `exam` is a full path, or empty.
 HandOverResult HandOverStart(const std::filesystem::path& folder, const std::filesystem::path& exam);
 
 }  // namespace quorvantis

@@ -37,12 +37,13 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
 
 CommandLine ParseCommandLine(const QCoreApplication& application) {
   const QCommandLineOption folder("app-folder", "Keep settings and work folders in DIR.", "DIR");
-  const QCommandLineOption debug("debug", "Write debug lines to standard error.");
-  const QCommandLineOption screenshot("screenshot", "Save a picture of the window to FILE and end.", "FILE");
+  const QCommandLineOption debug("debug", "Write debug output to standard error.");
+  const QCommandLineOption screenshot("screenshot", "Save a screenshot of the window to FILE and exit.",
+                                      "FILE");
   const QCommandLineOption language(
-      "language", "Use the language of this identifier, for example 0x0409, without asking.", "ID");
+      "language", "Use the language with this identifier, for example 0x0409, without asking.", "ID");
   QCommandLineParser parser;
-  parser.setApplicationDescription("Quorvantis, an editor for exams.");
+  parser.setApplicationDescription("Quorvantis, an exam editor.");
   parser.addOptions({folder, debug, screenshot, language});
   parser.addHelpOption();
   parser.addVersionOption();

@@ -10,20 +10,20 @@
 
 namespace quorvantis {
 
-/// What the program was asked for when it was started. Paths are full ones, empty when not given.
+/// The command-line arguments of the window program. Paths are full ones, or empty.
 struct CommandLine {
   std::filesystem::path exam;
   std::filesystem::path applicationFolder;
-  QString screenshot;           ///< save a picture of the window to this file and end
-  std::optional<int> language;  ///< identifier; the language dialog is not shown then
+  QString screenshot;           ///< save a screenshot of the window to this file and exit
+  std::optional<int> language;  ///< identifier; if set, the language dialog is not shown
   bool debug = false;
 };
 
-/// Makes the application object that the arguments need: without a window for --help and --version, so that
-/// they work where there is no display. The arguments must outlive it.
+/// Creates the application object for these arguments: without a window for --help and --version, so that
+/// they work without a display. The arguments must outlive it.
 std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv);
 
-/// Reads the arguments. Ends the program after --help and --version, and on arguments that make no sense.
+/// Reads the arguments. Ends the program after --help and --version, and on invalid arguments.
 CommandLine ParseCommandLine(const QCoreApplication& application);
 
 }  // namespace quorvantis

@@ -29,18 +29,18 @@ using namespace quorvantis;
 
 constexpr int kNoApplicationFolder = 2;
 
-/// A program that was killed a moment ago still holds the folder for as long as its memory is taken down.
+/// A program that was just killed still holds the folder until its memory is released.
 constexpr int kMostTries = 15;
 constexpr auto kPause = std::chrono::milliseconds(200);
 
-/// Has the program that works in the folder come forward.
+/// Brings the program that uses the folder to the front.
 HandOverResult HandOver(const ApplicationFolderClaim& claim, const CommandLine& options) {
   const bool inUse = claim.WhatIsWrong() == ApplicationFolderClaim::Problem::InUse;
   return inUse && options.screenshot.isEmpty() ? HandOverStart(claim.Folder(), options.exam)
                                                : HandOverResult::NoAnswer;
 }
 
-/// The folder cannot be used. Gives the exit code.
+/// The folder cannot be used. Returns the exit code.
 int Refuse(const ApplicationFolderClaim& claim, HandOverResult handOver, DesktopWindows& windows) {
   if (handOver == HandOverResult::Taken) {
     std::cerr << "quorvantis: it is open already in " << claim.Folder().string()

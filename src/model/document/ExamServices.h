@@ -16,7 +16,7 @@ class Registry;
 class StringTable;
 class UserDialogs;
 
-/// What an exam document may use of the world around it. Owned by the application, outlives every document.
+/// What an exam document needs of the outside world. Owned by the application; outlives every document.
 struct ExamServices {
   std::filesystem::path applicationFolder;  ///< holds the work folders
   const StringTable& strings;

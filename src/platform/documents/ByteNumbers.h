@@ -8,7 +8,7 @@
 
 namespace quorvantis {
 
-/// The number in `count` bytes at `offset` of bytes that may end before; what is missing counts as zero.
+/// The number in `count` bytes at `offset`; missing bytes count as zero.
 inline std::uint32_t NumberAt(std::string_view bytes, std::size_t offset, std::size_t count,
                               std::endian order = std::endian::little) {
   std::uint32_t value = 0;

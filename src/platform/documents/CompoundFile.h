@@ -9,17 +9,16 @@
 
 namespace quorvantis {
 
-/// The container of older documents, a small file system in a file. Only what tells kinds of documents apart
-/// is read.
+/// The container of older documents, a small file system in a file. Only what distinguishes kinds of
+/// documents is read.
 class CompoundFile {
  public:
   static constexpr std::string_view kSignature{"\xD0\xCF\x11\xE0", 4};
 
-  /// `bytes` outlive this; they may be damaged and may be only the beginning of a file.
+  /// `bytes` must outlive this; they may be damaged, or only the beginning of a file.
   explicit CompoundFile(std::string_view bytes);
 
-  /// Whether a stream of that name is listed. Old programs write names in other letter case; it does not
-  /// count.
+  /// Whether a stream of that name is listed. Case is ignored, since old programs differ in it.
   bool Has(std::u16string_view name) const { return EntryOf(name).has_value(); }
 
   /// Up to `count` bytes from the beginning of a stream, at most 64; fewer when they are missing.

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 constexpr std::uintmax_t kMostFileBytes = std::uintmax_t{512} << 20;
 constexpr std::size_t kMostManifestBytes = std::size_t{1} << 20;
 constexpr std::string_view kZip = "PK\x03\x04";
-constexpr std::size_t kHeadBytes = std::size_t{64} << 10;  // what stands before the root of an XML file
+constexpr std::size_t kHeadBytes = std::size_t{64} << 10;  // what precedes the root of an XML file
 
 WordResult Access(const fs::path& file) {
   std::error_code error;
@@ -33,7 +33,7 @@ std::string Head(const fs::path& file) {
   return head;
 }
 
-/// Whether a file begins as the XML of Word 2003. That declares no entities, which could name other files.
+/// Whether a file begins like the XML of Word 2003, without entities, which could name other files.
 bool IsWordXml(std::string head) {
   std::erase(head, '\0');  // UTF-16
   const std::size_t begin = head.find('<');

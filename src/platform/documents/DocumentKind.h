@@ -8,19 +8,19 @@
 
 namespace quorvantis {
 
-/// With which every rich text begins.
+/// The beginning of every rich text.
 inline constexpr std::string_view kRichTextBeginning = "{\\rtf";
 
-/// WordXml is the XML of Word 2003, which mostly bears a name in ".doc" or ".xml".
+/// WordXml is the XML of Word 2003, usually named ".doc" or ".xml".
 enum class DocumentKind { Docx, Doc, OpenDocument, RichText, WordXml };
 
-/// What a file is. `result` is `Done` when it can be tried to read it; the reason otherwise.
+/// The type of a file. `result` is `Done` if reading can be tried, otherwise the reason.
 struct DocumentKindOutcome {
   WordResult result = WordResult::Done;
   DocumentKind kind = DocumentKind::Docx;
 };
 
-/// Tells it by the content alone: many a file has a name that promises something else.
+/// A file's content decides its type; many have the wrong extension.
 DocumentKindOutcome KindOfDocument(const std::filesystem::path& file);
 
 }  // namespace quorvantis

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kMostPictureBytes = std::size_t{64} << 20;
 
-/// Metafiles in older documents do not tell their size, so that of their place counts.
+/// Metafiles in older documents do not state their size, so that of their place counts.
 PictureFormat WithSize(PictureFormat format, const PicturePlace& place) {
   if (format.width != 0 && format.height != 0) return format;
   return {format.kind, place.width, place.height};
@@ -43,7 +43,7 @@ WordResult DocumentPictures::DecodeMetafile(const std::string& part, PixelGrid& 
   return format ? DecodePicture(*format, image, pixels) : WordResult::Damaged;
 }
 
-/// All at once: most of the time goes into the start of the program.
+/// All at once: starting the program takes most of the time.
 void DocumentPictures::DrawMetafiles() {
   metafiles_.emplace();
   for (const PicturePlace& place : places_) {

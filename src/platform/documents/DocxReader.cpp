@@ -18,7 +18,7 @@ std::string MainPart(const ZipPackage& package) {
   return named.empty() ? "word/document.xml" : named;
 }
 
-/// A part that the document can be read without.
+/// A part that is not needed to read the document.
 pugi::xml_document OptionalPart(const ZipPackage& package, const std::string& part) {
   pugi::xml_document xml;
   if (!part.empty()) ParseXml(package.Read(part, kMostSideBytes), xml);

@@ -9,15 +9,15 @@
 
 namespace quorvantis {
 
-/// What a package says, and where its pictures lie.
+/// The content of a package, and where its pictures are.
 struct DocxContent {
   WordResult result = WordResult::Done;
   WordDocument document;
   std::vector<PicturePlace> pictures;  ///< their sources are names of parts
 };
 
-/// Reads the main text of a word processor's package (".docx"). It takes no more memory and time than a large
-/// real document does, whatever the package claims.
+/// Reads the main text of a word-processor package (".docx"). Takes no more memory and time than a large real
+/// document would, whatever the package claims.
 DocxContent ReadDocx(const ZipPackage& package, bool listLabels);
 
 }  // namespace quorvantis

@@ -31,7 +31,7 @@ std::string DocxStyles::OfParagraph(pugi::xml_node properties) const {
 }
 
 void DocxStyles::FollowBases(const std::string& id, const std::function<bool(pugi::xml_node)>& visit) const {
-  constexpr int kLongestChain = 20;  // a chain may lead back to where it began
+  constexpr int kLongestChain = 20;  // a chain may be circular
   pugi::xml_node style = Style(id);
   for (int i = 0; i < kLongestChain && style && !visit(style); ++i)
     style = Style(ValueOf(ChildOf(style, "basedOn")));

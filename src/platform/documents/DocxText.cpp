@@ -20,7 +20,7 @@ constexpr std::u16string_view kParagraphEnd = u"\r";
 constexpr std::u16string_view kCellEnd = u"\a";
 constexpr std::u16string_view kRowEnd = u"\r\a";
 
-/// The line breaks of the file are no line breaks of the text.
+/// Line breaks of the file are not line breaks of the text.
 std::u16string TextOf(pugi::xml_node node) {
   std::string bytes;
   for (const pugi::xml_node part : node.children()) bytes += part.value();
@@ -94,7 +94,8 @@ DocxText::Handler DocxText::HandlerOf(std::string_view localName) {
       {"txbxContent", &DocxText::TextBox},
       {"txBody", &DocxText::TextBox},
       {"AlternateContent", &DocxText::Alternatives},
-      // Properties, whose children have names that mean something else in the text, and what is not its text:
+      // Properties, whose children's names mean something else in the text, and other content that is not
+      // text:
       {"pPr", &DocxText::Skip},
       {"rPr", &DocxText::Skip},
       {"tblPr", &DocxText::Skip},
@@ -142,7 +143,7 @@ void DocxText::Paragraph(pugi::xml_node node) {
   WalkChildren(node);
   const bool isEmpty = End() == start;
   const bool endsLine = EndsLine(ChildOf(properties, "rPr"), isEmpty);
-  // The break of a section that stands alone is numbered by no word processor.
+  // Word processors do not number a section break that stands alone.
   const bool isNumbered =
       isEmpty ? endsLine && !ChildOf(properties, "sectPr") : IsLineStart(start.characters);
   if (wasShown && isNumbered) InsertLabel(properties, start);
@@ -151,8 +152,8 @@ void DocxText::Paragraph(pugi::xml_node node) {
   TextBoxes(std::exchange(textBoxes_, std::move(outerBoxes)));
 }
 
-/// A paragraph whose mark is deleted, or stands between a heading and its text in one line, goes on in the
-/// next one. One of which nothing is shown is not there.
+/// A paragraph whose mark is deleted, or separates a heading from its text in the same line, continues in the
+/// next one. A paragraph that shows nothing does not exist.
 bool DocxText::EndsLine(pugi::xml_node mark, bool isEmpty) {
   if (HasDeletion(mark)) return false;
   return !hiding_.IsHidden(mark, paragraphStyle_) || (!isEmpty && !IsOn(ChildOf(mark, "specVanish")));
@@ -176,7 +177,7 @@ bool DocxText::IsLineStart(std::size_t position) const {
   return before.empty() || before.ends_with(kParagraphEnd) || before.ends_with(kCellEnd);
 }
 
-/// Where a paragraph goes on in no other one.
+/// The end of a paragraph that does not continue in another one.
 void DocxText::EndLine() {
   if (!IsLineStart(text_->characters.size())) AppendAlways(kParagraphEnd);
 }
@@ -192,7 +193,7 @@ void DocxText::TextBoxes(const std::vector<pugi::xml_node>& boxes) {
   --enclosing_;
 }
 
-/// The first form of several that yields anything: newer ones may draw what an older one has as a picture.
+/// The first of several forms that yields anything: newer ones may draw what an older one has as a picture.
 void DocxText::Alternatives(pugi::xml_node node) {
   const std::size_t before = found_;
   for (const pugi::xml_node form : node.children()) {
@@ -261,7 +262,7 @@ void DocxText::LineBreak(pugi::xml_node /*node*/) {
   Append(u"\v");
 }
 
-/// Word processors keep control characters for the two hyphens, which no page could show.
+/// Word processors use control characters for the two hyphens, which no page can show.
 void DocxText::FixedHyphen(pugi::xml_node /*node*/) {
   Append(u"\u2011");
 }
@@ -295,7 +296,7 @@ void DocxText::Equation(pugi::xml_node /*node*/) {
   if (IsShown()) text_->objects.push_back({text_->characters.size(), WordObjectKind::Equation, 0});
 }
 
-/// The picture of an equation that another program made stands for the equation.
+/// The picture of an equation made by another program stands for the equation.
 void DocxText::EmbeddedObject(pugi::xml_node node) {
   const pugi::xml_node object = OleObjectIn(node);
   IsEquationProgram(ValueOf(object, "ProgID")) ? Equation(node) : WalkChildren(node);
@@ -321,7 +322,7 @@ void DocxText::VmlPicture(pugi::xml_node node) {
   AppendPicture(ValueOf(node, "id"));
 }
 
-/// A chart or a diagram: it has its place among the pictures, but there is no file of it.
+/// A chart or diagram: it has its place among the pictures, but no file.
 void DocxText::DrawnPicture(pugi::xml_node /*node*/) {
   AppendPicture({});
 }

@@ -15,17 +15,17 @@
 
 namespace quorvantis {
 
-/// Walks the body of a document and gathers what it says.
+/// Walks the body of a document and collects its content.
 class DocxText {
  public:
-  /// All outlive this object. Automatic numbers are part of the text with `keepsLabels` only.
+  /// All must outlive this object. Automatic numbers are part of the text only with `keepsLabels`.
   DocxText(pugi::xml_node body, const DocxStyles& styles, ListLabels& labels, bool keepsLabels);
 
   /// Once only.
   void Read();
 
-  /// `TooDeep` and `TooLarge` where the document is nested deeper or has more pictures than is read. What has
-  /// been read then is no whole.
+  /// `TooDeep` and `TooLarge` if the document is nested too deeply or has too many pictures. What has been
+  /// read is then incomplete.
   WordResult Result() const { return result_; }
 
   WordDocument& Document() { return document_; }
@@ -95,14 +95,14 @@ class DocxText {
   FieldNesting fields_;
   WordDocument document_;
   std::vector<PicturePlace> pictures_;
-  PicturePlace extent_;                    ///< the size of the drawing in hand
+  PicturePlace extent_;                    ///< the size of the current drawing
   WordText* text_;                         ///< what is being filled
-  std::vector<pugi::xml_node> textBoxes_;  ///< of the paragraph in hand
+  std::vector<pugi::xml_node> textBoxes_;  ///< of the current paragraph
   std::string paragraphStyle_;             ///< of the same
-  std::size_t found_ = 0;                  ///< grows with everything that is found
+  std::size_t found_ = 0;                  ///< grows with everything found
   int depth_ = 0;
-  int enclosing_ = 0;        ///< tables and text boxes around this place
-  bool ofTopTable_ = false;  ///< whether rows and cells at this place belong to a table of the document
+  int enclosing_ = 0;        ///< tables and text boxes around the current place
+  bool ofTopTable_ = false;  ///< whether rows and cells here belong to a table of the document
   bool hidden_ = false;
   WordResult result_ = WordResult::Done;
 };

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kMostInstruction = 64;  // the name of the field is all that matters
 
-/// The node behind `node` and its children in the order of the document; none behind `root`.
+/// The node after `node` and its children in document order; none after `root`.
 pugi::xml_node NextBeside(pugi::xml_node node, pugi::xml_node root) {
   while (node != root && !node.next_sibling()) node = node.parent();
   return node == root ? pugi::xml_node() : node.next_sibling();

@@ -11,12 +11,12 @@
 namespace quorvantis {
 
 /// Follows the fields of a document, which begin, pass from instruction to result and end at places in the
-/// text. A field that never ends is taken for none: everything behind it would count as its instruction.
+/// text. A field that never ends is ignored: everything after it would count as its instruction.
 class FieldNesting {
  public:
   explicit FieldNesting(pugi::xml_node body);
 
-  /// A `fldChar`. True when it ends an equation that was written as a field and has no result.
+  /// Handles a `fldChar`. True if it ends an equation that was written as a field and has no result.
   bool Take(pugi::xml_node fieldCharacter);
   void AddInstruction(std::string_view text);
 
@@ -33,9 +33,9 @@ class FieldNesting {
     bool isShown = false;
   };
 
-  std::unordered_set<std::size_t> complete_;  ///< hashes of the nodes that begin a field which ends
+  std::unordered_set<std::size_t> complete_;  ///< hashes of the nodes that begin a complete field
   std::vector<Field> open_;
-  std::size_t unseen_ = 0;  ///< open fields of which nothing is shown at this place
+  std::size_t unseen_ = 0;  ///< open fields that show nothing here
 };
 
 }  // namespace quorvantis

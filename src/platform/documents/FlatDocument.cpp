@@ -20,7 +20,7 @@ constexpr std::string_view kBeginning =
 constexpr std::string_view kBody = "<office:body><office:text>";
 constexpr std::string_view kEnd = "</office:text></office:body></office:document>";
 
-/// A4 and fonts that word processors have; without an Asian one, Chinese would be set in whatever is found.
+/// A4 and fonts that word processors have; without an Asian one, Chinese would use whatever font is found.
 constexpr std::string_view kStyles =
     R"(<office:font-face-decls><style:font-face style:name="Times New Roman" svg:font-family="'Times New Roman'" )"
     R"(style:font-family-generic="roman"/><style:font-face style:name="SimSun" svg:font-family="SimSun"/>)"
@@ -41,7 +41,7 @@ constexpr bool IsForbiddenInXml(char16_t unit) {
   return (unit < u' ' && unit != u'\t' && unit != u'\n') || unit == 0xFFFE || unit == 0xFFFF;
 }
 
-/// The text with LF as its only line break and without what XML forbids, as UTF-8.
+/// The text as UTF-8, with LF as its only line break and without what XML forbids.
 std::string Cleaned(std::u16string_view text) {
   std::u16string clean;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -57,7 +57,7 @@ constexpr bool IsBlank(char c) {
   return c == ' ' || c == '\t' || c == '\n';
 }
 
-/// Only single blanks between other characters stand for themselves in XML.
+/// In XML, only single blanks between other characters are kept.
 void AppendBlanks(std::string& xml, std::size_t count, bool inside) {
   if (inside && count == 1)
     xml += ' ';
@@ -100,7 +100,7 @@ void AppendText(std::string& xml, std::string_view text) {
   }
 }
 
-/// Letters of Hebrew, Arabic and their neighbours, without those beyond U+FFFF.
+/// Letters of Hebrew, Arabic and related scripts up to U+FFFF.
 constexpr bool IsRightToLeft(char16_t unit) {
   return (unit >= 0x0590 && unit <= 0x08FF) || (unit >= 0xFB1D && unit <= 0xFDFF) ||
          (unit >= 0xFE70 && unit <= 0xFEFC);

@@ -8,8 +8,8 @@
 
 namespace quorvantis {
 
-/// The content of bytes that were packed with gzip, as drawings (".emz", ".wmz") in packages are; at most
-/// `limit` bytes. Other bytes are given back as they are.
+/// Unpacks bytes packed with gzip, as drawings (".emz", ".wmz") in packages are; at most `limit` bytes.
+/// Returns other bytes unchanged.
 PackagePart Gunzip(PackagePart part, std::size_t limit);
 
 }  // namespace quorvantis

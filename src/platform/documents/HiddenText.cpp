@@ -5,14 +5,14 @@
 
 namespace quorvantis {
 
-/// Of the two styles, each turns over what the other says.
+/// The two styles toggle each other.
 bool HiddenText::IsHidden(pugi::xml_node properties, const std::string& paragraphStyle) {
   if (const pugi::xml_node own = ChildOf(properties, "vanish")) return IsOn(own);
   const std::string characterStyle(ValueOf(ChildOf(properties, "rStyle")));
   return IsHiddenBy(paragraphStyle) != IsHiddenBy(characterStyle);
 }
 
-/// Each style is looked into once, however many runs have it.
+/// Each style is evaluated once, however many runs have it.
 bool HiddenText::IsHiddenBy(const std::string& style) {
   if (style.empty()) return false;
   const auto known = known_.find(style);

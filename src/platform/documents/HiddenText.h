@@ -10,13 +10,13 @@
 
 namespace quorvantis {
 
-/// Tells what is hidden, by itself or by its styles.
+/// Recognises hidden text, whether hidden directly or by its styles.
 class HiddenText {
  public:
-  /// `styles` outlive this.
+  /// `styles` must outlive this.
   explicit HiddenText(const DocxStyles& styles) : styles_(styles) {}
 
-  /// Whether a run or the mark of a paragraph is hidden. `properties` are its own and may be empty.
+  /// Whether a run or the mark of a paragraph is hidden. `properties` are its own; they may be empty.
   bool IsHidden(pugi::xml_node properties, const std::string& paragraphStyle);
 
  private:

@@ -38,7 +38,7 @@ const std::array<DocumentFamily, 3>& Families() {
 Filters ImportFiltersOf(std::string_view extension, std::string_view head) {
   for (const DocumentFamily& family : Families()) {
     if (std::ranges::find(family.extensions, extension) == family.extensions.end()) continue;
-    // What a file is tells its beginning; many a ".doc" is a newer document or rich text.
+    // A file's beginning decides its type; many a ".doc" is a newer document or rich text.
     if (head.starts_with(CompoundFile::kSignature)) return family.compoundFile;
     if (head.starts_with(kPackage)) return extension.starts_with("od") ? family.openPackage : family.package;
     if (head.starts_with(kRichTextBeginning) && &family == &Families().front()) return {"Rich Text Format"};

@@ -15,7 +15,7 @@ constexpr std::size_t kLongestLabel = 100;
 constexpr std::string_view kNoList = "0";
 constexpr int kNone = -1;  // a level at which no paragraph has been counted
 
-/// Newer formats hide in an alternative; the name beside it is then one that every reader knows.
+/// Newer formats are in an alternative; the name beside it is then one that every reader knows.
 std::string FormatOf(pugi::xml_node level) {
   pugi::xml_node format = ChildOf(level, "numFmt");
   if (!format) format = ChildOf(ChildOf(ChildOf(level, "AlternateContent"), "Fallback"), "numFmt");
@@ -66,7 +66,7 @@ ListLabels::List ListLabels::MakeList(pugi::xml_node instance) {
     const pugi::xml_node start = ChildOf(node, "startOverride");
     if (own) level = MakeLevel(own, index);
     if (start) level.start = NumberOf(start, 1);
-    level.restarts = !start.empty();  // other looks alone go on counting
+    level.restarts = !start.empty();  // a different look alone continues the count
   }
   return list;
 }
@@ -84,7 +84,7 @@ ListLabels::Level ListLabels::MakeLevel(pugi::xml_node definition, int index) {
   return level;
 }
 
-/// Each abstract list is looked into once, however many instances it has.
+/// Each abstract list is evaluated once, however many instances it has.
 const ListLabels::List& ListLabels::AbstractOf(pugi::xml_node instance) {
   const std::string id(ValueOf(ChildOf(instance, "abstractNumId")));
   const auto known = abstracts_.find(id);
@@ -98,7 +98,7 @@ const ListLabels::List& ListLabels::AbstractOf(pugi::xml_node instance) {
   return abstracts_.emplace(id, std::move(list)).first->second;
 }
 
-/// A list may only name a style, whose list it then is.
+/// A list may just name a style, and is then the list of that style.
 pugi::xml_node ListLabels::FindAbstract(const std::string& id) const {
   const pugi::xml_node abstract = Find(abstractLists_, id);
   const pugi::xml_node link = ChildOf(abstract, "numStyleLink");
@@ -118,14 +118,14 @@ ListLabels::Place ListLabels::PlaceOf(pugi::xml_node properties) {
   return place;
 }
 
-/// Each style is looked into once, however many paragraphs have it.
+/// Each style is evaluated once, however many paragraphs have it.
 ListLabels::Place ListLabels::PlaceOfStyle(const std::string& style) {
   const auto known = placesOfStyles_.find(style);
   if (known != placesOfStyles_.end()) return known->second;
   return placesOfStyles_.emplace(style, FindPlaceOfStyle(style)).first->second;
 }
 
-/// A style may tell the level only, and leave the list to one that it is based on.
+/// A style may set only the level, and leave the list to one that it is based on.
 ListLabels::Place ListLabels::FindPlaceOfStyle(const std::string& style) {
   Place place;
   styles_.FollowBases(style, [&place](pugi::xml_node definition) {

@@ -11,32 +11,32 @@
 
 namespace quorvantis {
 
-/// Counts the automatic numbers of paragraphs, which stand in no text.
+/// Counts the automatic numbers of paragraphs, which are not part of the text.
 class ListLabels {
  public:
   static constexpr int kLevels = 9;
 
-  /// The root of the lists, which may be empty, and the styles of a document. They outlive this.
+  /// The root of the lists, which may be empty, and the styles of a document. Both must outlive this.
   ListLabels(pugi::xml_node numbering, const DocxStyles& styles);
 
-  /// The label of the next paragraph, with the tab or the blank behind it; empty when it has none.
-  /// `properties` are those of the paragraph and may be empty. Bullets are no labels.
+  /// The label of the next paragraph, with the tab or blank after it; empty if it has none. `properties` are
+  /// those of the paragraph; they may be empty. Bullets are not labels.
   std::u16string Next(pugi::xml_node properties);
 
  private:
   using Counters = std::array<int, kLevels>;
 
-  /// How a list instance counts, put together from the list and what the instance says otherwise.
+  /// How a list instance counts: the list's settings, with what the instance overrides.
   struct Level {
     bool isDefined = false;
     int start = 1;
-    int restart = 0;       ///< it begins anew behind paragraphs of levels below this one
+    int restart = 0;       ///< restarts after paragraphs of levels below this one
     bool isLegal = false;  ///< all numbers of the label are decimal
     std::string format = "decimal";
     std::u16string pattern;
     std::u16string_view separator;
-    std::string style;      ///< that stands for this level; may be empty
-    bool restarts = false;  ///< the instance begins anew
+    std::string style;      ///< bound to this level; may be empty
+    bool restarts = false;  ///< the instance restarts
   };
   struct List {
     std::string counters;  ///< whose counters it shares: those of the abstract list
@@ -64,7 +64,7 @@ class ListLabels {
   NodesById instances_;
   const DocxStyles& styles_;
   std::map<std::string, Place, std::less<>> placesOfStyles_;
-  std::map<std::string, List, std::less<>> abstracts_;  ///< as their instances begin
+  std::map<std::string, List, std::less<>> abstracts_;  ///< as their instances inherit them
   std::map<std::string, List, std::less<>> lists_;
   std::map<std::string, Counters, std::less<>> counters_;
 };

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 constexpr int kDotsPerInch = 144;              // sharp, and on a page not much larger than in the document
 constexpr std::uint64_t kSmallest = 100;       // hundredths of a millimetre
 constexpr std::uint64_t kLargest = 50'000;     // what fits on any sheet
-constexpr std::uint64_t kUsualWidth = 12'000;  // of pictures that do not tell their size
+constexpr std::uint64_t kUsualWidth = 12'000;  // for pictures of unknown size
 constexpr std::uint64_t kUsualHeight = 9'000;
 
 std::string Base64(std::string_view bytes) {
@@ -40,7 +40,7 @@ std::string Millimetres(std::uint64_t hundredths) {
   return text + std::to_string(hundredths / 10 % 10) + std::to_string(hundredths % 10) + "mm";
 }
 
-/// Replaces each "@" of a pattern by the next of the values.
+/// Replaces each "@" in a pattern by the next value.
 std::string Fill(std::string_view pattern, std::initializer_list<std::string_view> values) {
   std::string text;
   const auto* value = values.begin();

@@ -12,14 +12,13 @@
 
 namespace quorvantis {
 
-/// Turns pictures that are drawing commands into pictures of pixels: LibreOffice draws all of them in one
-/// run, as pages of a document.
+/// Turns vector drawings into pixels: LibreOffice draws all of them in one run, as pages of a document.
 class MetafileImages {
  public:
-  /// Adds one and gives its number, from 0.
+  /// Adds one and returns its number, from 0.
   std::size_t Add(const PictureFormat& format, std::string_view bytes);
 
-  /// Whether so much has been added that no more should be.
+  /// Whether the limit is reached and no more should be added.
   bool IsFull() const { return count_ >= kMost || pages_.size() > kMostBytes; }
 
   WordResult Draw(const OfficeConverter& converter);

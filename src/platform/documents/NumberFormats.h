@@ -7,7 +7,7 @@
 namespace quorvantis {
 
 /// A number as a list shows it. `format` is the name that documents use ("upperRoman"). Numbers that a format
-/// cannot show, and formats that are not known, give decimal digits.
+/// cannot show, and unknown formats, yield decimal digits.
 std::u16string FormatListNumber(int number, std::string_view format);
 
 }  // namespace quorvantis

@@ -17,9 +17,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A package in which to look for pictures, and the folder around it where it is none of the user's.
+/// A package to look for pictures in, and its folder if it is a converted copy.
 struct PackageInUse {
-  std::unique_ptr<PrivateFolder> folder;  ///< goes after the package
+  std::unique_ptr<PrivateFolder> folder;  ///< removed after the package
   std::unique_ptr<ZipPackage> package;
 };
 

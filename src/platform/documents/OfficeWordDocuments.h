@@ -8,8 +8,8 @@
 
 namespace quorvantis {
 
-/// Reads ".docx" itself; has LibreOffice make one of ".doc", ".odt", ".rtf" and Word 2003 XML first. What a
-/// file is tells its content, not its name.
+/// Reads ".docx" itself; has LibreOffice make one of ".doc", ".odt", ".rtf" and Word 2003 XML first. A file's
+/// content decides its type, not its name.
 class OfficeWordDocuments : public WordDocuments {
  public:
   explicit OfficeWordDocuments(OfficePrograms programs = OfficePrograms::Find())

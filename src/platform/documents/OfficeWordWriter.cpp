@@ -40,7 +40,7 @@ bool IsPdf(std::string_view bytes) {
   return bytes.starts_with("%PDF-") && end.find("%%EOF") != std::string_view::npos;
 }
 
-/// Whether LibreOffice has made what it was asked for.
+/// Whether LibreOffice has made the requested file.
 bool Is(WordFormat format, const fs::path& file, std::string_view bytes) {
   if (format == WordFormat::Pdf) return IsPdf(bytes);
   const DocumentKindOutcome outcome = KindOfDocument(file);
@@ -72,7 +72,7 @@ WordWriteOutcome CannotWrite(const fs::path& place, std::error_code error) {
 OfficeWordWriter::OfficeWordWriter(Files& files, OfficePrograms programs)
     : files_(files), programs_(std::move(programs)) {}
 
-/// That the target cannot be written is found before LibreOffice is waited for.
+/// Find out that the target cannot be written before waiting for LibreOffice.
 WordWriteOutcome OfficeWordWriter::Write(const WordWriteJob& job) try {
   if (programs_.office.empty()) return {WordWriteResult::WordProcessorMissing};
   std::error_code error;
@@ -93,7 +93,7 @@ WordWriteOutcome OfficeWordWriter::Write(const WordWriteJob& job) try {
   return CannotWrite(failure.path1(), failure.code());
 }
 
-/// A page takes its time to be laid out, so the limit grows with the text.
+/// Laying out pages takes time, so the limit grows with the text.
 WordWriteOutcome OfficeWordWriter::Convert(const WordWriteJob& job, const fs::path& source) const {
   const std::string text = FlatDocumentOf(job.paragraphs);
   if (const auto failure = SaveWholeFile(files_, source, text)) return CannotWrite(source, failure);

@@ -7,7 +7,7 @@
 
 namespace quorvantis {
 
-/// Has LibreOffice make the documents, from a text that holds nothing but the paragraphs.
+/// Has LibreOffice make the documents, from a file with nothing but the paragraphs.
 class OfficeWordWriter : public WordWriter {
  public:
   /// `files` outlives this.

@@ -16,7 +16,7 @@ std::string ListOf(const fs::path& source) {
   return (source.parent_path() / "_rels" / (source.filename().string() + ".rels")).string();
 }
 
-/// As a path below the root of the package, where it stays whatever it says.
+/// As a path below the root of the package, which it never leaves.
 std::string Resolved(const fs::path& folder, std::string_view target) {
   return ("/" / folder / fs::path(target)).lexically_normal().relative_path().string();
 }

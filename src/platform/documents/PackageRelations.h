@@ -9,14 +9,14 @@
 
 namespace quorvantis {
 
-/// To which other parts of the package a part refers, and how.
+/// The other parts of the package that a part refers to, and how.
 class PackageRelations {
  public:
-  /// Those of the part called `source`, or of the package itself where the name is empty. Without such a
-  /// list, or with a damaged one, there are none.
+  /// The relations of the part `source`, or of the package itself if the name is empty. None if the list is
+  /// missing or damaged.
   PackageRelations(const ZipPackage& package, const std::string& source);
 
-  /// The name of the part; empty when there is none, or when it lies outside of the package.
+  /// The name of the part; empty if there is none, or if it is outside the package.
   std::string TargetOf(std::string_view id) const;
 
   /// The same for the first relation whose type ends in "/" and `kind`.

@@ -43,7 +43,7 @@ void PutPixel(int colour, std::uint8_t* target) {
   target[2] = OnWhite(gdTrueColorGetBlue(colour), transparency);
 }
 
-/// `image` has colours of its own for each pixel, no palette.
+/// `image` has a colour per pixel, not a palette.
 PixelGrid PixelsOf(gdImage* image) {
   PixelGrid pixels{
       static_cast<std::size_t>(gdImageSX(image)), static_cast<std::size_t>(gdImageSY(image)), {}};

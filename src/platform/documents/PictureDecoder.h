@@ -9,8 +9,8 @@
 
 namespace quorvantis {
 
-/// Decodes a picture of pixels, not a metafile. Where it is transparent it becomes white. No memory is taken
-/// before its size is known to be within `kMostPixels`.
+/// Decodes a pixel image, not a metafile. Transparency becomes white. Memory is taken only once its size is
+/// known to be within `kMostPixels`.
 WordResult DecodePicture(const PictureFormat& format, std::string_view bytes, PixelGrid& pixels);
 
 }  // namespace quorvantis

@@ -21,7 +21,7 @@ PictureFormat Png(std::string_view bytes) {
   return {PictureKind::Png, NumberAt(bytes, 16, 4, kBig), NumberAt(bytes, 20, 4, kBig)};
 }
 
-/// The size stands in the header of the frame, behind segments that can be stepped over.
+/// The size is in the frame header, after segments that can be skipped.
 PictureFormat Jpeg(std::string_view bytes) {
   constexpr unsigned kFirstFrame = 0xC0;
   constexpr unsigned kLastFrame = 0xCF;
@@ -50,11 +50,11 @@ PictureFormat Bmp(std::string_view bytes) {
   constexpr std::uint32_t kOldHeaderBytes = 12;
   if (NumberAt(bytes, 14, 4) == kOldHeaderBytes)
     return {PictureKind::Bmp, NumberAt(bytes, 18, 2), NumberAt(bytes, 20, 2)};
-  // A negative height stands for rows from the top.
+  // A negative height means rows from the top.
   return {PictureKind::Bmp, NumberAt(bytes, 18, 4), Distance(0, NumberAt(bytes, 22, 4))};
 }
 
-/// Of a field that is given twice the larger value counts.
+/// If a field is given twice, the larger value counts.
 PictureFormat Tiff(std::string_view bytes) {
   constexpr std::size_t kTagBytes = 12;
   constexpr std::uint32_t kWidthTag = 256;
@@ -80,7 +80,7 @@ PictureFormat Emf(std::string_view bytes) {
           Distance(NumberAt(bytes, 28, 4), NumberAt(bytes, 36, 4))};
 }
 
-/// A metafile can have a header that tells how many of its units make an inch.
+/// A metafile can have a header with its units per inch.
 PictureFormat PlaceableWmf(std::string_view bytes) {
   constexpr std::uint64_t kHundredthsOfInch = 2540;
   const auto coordinate = [bytes](std::size_t at) {

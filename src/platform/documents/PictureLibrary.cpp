@@ -29,7 +29,7 @@ std::optional<PictureLibrary> Load() {
                        Take(library, "gdImageDestroy", gd.destroy) &&
                        Take(library, "gdSetErrorMethod", setErrorMethod);
   if (!isWhole) return std::nullopt;
-  setErrorMethod([](int, const char*, va_list) {});  // it would write to standard error
+  setErrorMethod([](int, const char*, va_list) {});  // the default one writes to standard error
   return gd;
 }
 

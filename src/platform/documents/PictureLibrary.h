@@ -5,8 +5,9 @@
 
 namespace quorvantis {
 
-/// The functions of libgd. It is loaded with the first picture and not with the program: it brings some fifty
-/// other libraries along, which take as long as everything else that a command line does to show an exam.
+/// The functions of libgd. It is loaded with the first picture, not with the program: it brings some fifty
+/// other libraries along, which take as long to load as everything else the command line does to show an
+/// exam.
 struct PictureLibrary {
   decltype(&::gdImageCreateFromPngPtr) createFromPng;
   decltype(&::gdImageCreateFromJpegPtrEx) createFromJpeg;
@@ -16,7 +17,7 @@ struct PictureLibrary {
   decltype(&::gdImagePaletteToTrueColor) paletteToTrueColor;
   decltype(&::gdImageDestroy) destroy;
 
-  /// Null when it is not installed. It stays loaded.
+  /// Null if it is not installed. It stays loaded.
   static const PictureLibrary* Get();
 };
 

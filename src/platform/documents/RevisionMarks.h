@@ -6,7 +6,7 @@
 
 namespace quorvantis {
 
-/// Whether an element stands around something that has been deleted or moved elsewhere.
+/// Whether an element encloses something that has been deleted or moved elsewhere.
 bool IsDeletion(pugi::xml_node element);
 
 /// Whether the properties of a paragraph's mark, a row or a cell say that it has been deleted.

@@ -1,6 +1,5 @@
-// SPDX-License-Identifier: MIT
-// XML of a package. Names are compared without their prefix: which one stands for a namespace is up to the
-// program that wrote the file, and the names that matter here are the same in no two namespaces.
+// SPDX-License-Identifier: MIT XML of a package. Names are compared without their prefix: prefixes are up to
+// the program that wrote the file, and none of the names that matter here occurs in two namespaces.
 #pragma once
 
 #include "platform/WordDocuments.h"
@@ -23,10 +22,10 @@ pugi::xml_node ChildOf(pugi::xml_node node, std::string_view localName);
 /// An attribute's value; empty when it is missing.
 std::string_view ValueOf(pugi::xml_node node, std::string_view localName = "val");
 
-/// A whole number of few digits; `otherwise` when the attribute is missing or no such number.
+/// A small whole number; `otherwise` if the attribute is missing or not such a number.
 int NumberOf(pugi::xml_node node, int otherwise, std::string_view localName = "val");
 
-/// Whether a property such as `<w:vanish/>` is there and not switched off.
+/// Whether a property such as `<w:vanish/>` is present and not turned off.
 bool IsOn(pugi::xml_node property);
 
 }  // namespace quorvantis

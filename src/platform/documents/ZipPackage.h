@@ -18,7 +18,7 @@ struct PackagePart {
   std::string bytes;
 };
 
-/// A zip archive, read only. Nothing is ever unpacked to a disk, so the names in it can do no harm.
+/// A zip archive, read only. Nothing is ever unpacked to the disk, so names in it are harmless.
 class ZipPackage {
  public:
   /// Check `Opened` before anything else.
@@ -27,8 +27,7 @@ class ZipPackage {
   WordResult Opened() const { return opened_; }
   bool Has(const std::string& name) const;
 
-  /// A part of at most `limit` bytes, whatever the archive claims its size to be. The case of its name does
-  /// not matter.
+  /// A part of at most `limit` bytes, whatever size the archive claims. The case of its name is ignored.
   PackagePart Read(const std::string& name, std::size_t limit) const;
 
  private:

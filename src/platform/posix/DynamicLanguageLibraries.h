@@ -6,8 +6,8 @@
 namespace quorvantis {
 
 /// Language libraries as dynamic libraries that export the functions of quorvantis/LanguageLibrary.h. A
-/// missing function is no fault: the library has then no texts or pictures of that kind. The code of a
-/// library runs in this program; one that crashes takes the program with it.
+/// function may be missing: the library then has no texts or pictures of that kind. A library's code runs in
+/// this program; if it crashes, so does the program.
 class DynamicLanguageLibraries : public LanguageLibraries {
  public:
   /// `file` is a full path.

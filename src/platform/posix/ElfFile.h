@@ -5,8 +5,8 @@
 
 namespace quorvantis {
 
-/// Whether the file is a binary of this machine's kind and holds all that its header announces. The dynamic
-/// loader takes the header's word for it: a library that was cut would end the program.
+/// Whether the file is a binary for this machine and as long as its header says. The dynamic loader trusts
+/// the header: a truncated library would crash the program.
 bool IsWholeElfFile(const std::filesystem::path& file);
 
 }  // namespace quorvantis

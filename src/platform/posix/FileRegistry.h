@@ -15,8 +15,8 @@ class RegistryTree;
 constexpr const char* kRegistryFile = "registry.txt";
 
 /// A registry in one text file (see RegistryTree), which appears when the first key is made. The file is read
-/// anew for each operation, and replaced in one step when something changes. One that cannot be read, or is
-/// damaged, has no keys and takes none, so that nothing in it is lost.
+/// again for each operation, and replaced in one step when something changes. An unreadable or damaged file
+/// has no keys and accepts none, so nothing in it is lost.
 class FileRegistry : public Registry {
  public:
   /// `files` must outlive this.

@@ -9,11 +9,11 @@
 namespace quorvantis {
 
 /// Holds an application folder for one program: two on the same folder would empty each other's work folders.
-/// Given back when the lock goes, or when the program ends in any way.
+/// Released when the lock goes, or when the program ends in any way.
 class FolderLock {
  public:
-  /// Nothing when another program holds the folder, which must exist. A file system without locks lets
-  /// everybody in.
+  /// Nothing when another program holds the folder, which must exist. On a file system without locks
+  /// everybody gets one.
   static std::optional<FolderLock> Take(const std::filesystem::path& folder);
 
  private:

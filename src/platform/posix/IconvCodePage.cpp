@@ -52,7 +52,7 @@ std::u16string IconvCodePage::Decode(std::string_view bytes) const {
     // Some code pages hold a letter back in case an accent follows.
     ::iconv(decoder_->handle, nullptr, nullptr, &output, &room);
     if (whole || room < sizeof(char16_t)) break;
-    // Malformed here, or cut off at the end: one byte is given up.
+    // Malformed, or cut off at the end: one byte is lost.
     const char16_t replacement = kReplacementCharacter;
     output = std::copy_n(reinterpret_cast<const char*>(&replacement), sizeof replacement, output);
     room -= sizeof replacement;

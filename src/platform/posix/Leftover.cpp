@@ -14,7 +14,7 @@
 namespace quorvantis {
 
 /// All leftovers of the process. The handler may interrupt any line here, and it reads the list without the
-/// lock: each step leaves a list that can be walked.
+/// lock: each step leaves a valid list.
 class LeftoverList {
  public:
   void Add(Leftover& leftover) {
@@ -47,7 +47,7 @@ namespace {
 
 constinit LeftoverList leftovers;  // global, because a signal handler can be given nothing
 
-// From here on down to the handler: only what is allowed in one, which excludes memory and streams.
+// From here down to the handler: only what is allowed in one, so no memory allocation and no streams.
 
 constexpr int kDeepestFolder = 32;
 
@@ -79,12 +79,12 @@ void RemoveTree(int parent, const char* name, int depth) {
   ::unlinkat(parent, name, AT_REMOVEDIR);
 }
 
-/// Waits a moment for all of them to be gone. Nobody may be there to reap the children of the leader.
+/// Waits a moment for all of them to end. There may be nobody to reap the leader's children.
 void KillGroup(pid_t leader) {
   constexpr int kTries = 50;
   constexpr timespec kMillisecond{0, 1'000'000};
   ::kill(-leader, SIGKILL);
-  ::kill(leader, SIGKILL);  // it may not have come to lead a group yet
+  ::kill(leader, SIGKILL);  // it may not lead a group yet
   ::waitpid(leader, nullptr, 0);
   for (int i = 0; i < kTries && ::kill(-leader, 0) == 0; ++i) ::nanosleep(&kMillisecond, nullptr);
 }
@@ -97,7 +97,7 @@ void EndBySignal(int signal) {
       RemoveTree(AT_FDCWD, path, 0);
   });
   std::signal(signal, SIG_DFL);
-  ::raise(signal);  // is delivered when the handler returns
+  ::raise(signal);  // delivered when the handler returns
 }
 
 constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};

@@ -11,8 +11,8 @@
 namespace quorvantis {
 
 /// From now on the signals of a terminal and of a shutdown (SIGINT, SIGTERM, SIGHUP) remove every leftover
-/// before they end the process, with the status that they always give. Signals that were ignored stay so. To
-/// be called once, by a program with one thread.
+/// before they end the process, with their usual status. Signals that were ignored stay so. Call this once,
+/// while the program has one thread.
 void RemoveLeftoversOnSignals();
 
 /// Holds those signals back from this thread while something is made and becomes a leftover.
@@ -28,9 +28,8 @@ class SignalsHeld {
 };
 
 /// A file, or a folder with its content, that a signal removes as long as this lives; or other programs,
-/// which it kills. What was made last goes first, so a program is gone before the folder that it writes to.
-/// Links in folders are removed and not followed. Not to be copied or moved: the signal handler finds it by
-/// its place.
+/// which it kills. The newest goes first, so a program is gone before the folder it writes to. Links in
+/// folders are removed, not followed. Cannot be copied or moved: the signal handler knows its address.
 class Leftover {
  public:
   explicit Leftover(const std::filesystem::path& path);

@@ -26,12 +26,12 @@ namespace {
 
 constexpr const char* kProcesses = "/proc";
 
-/// Programs that run Windows programs. Nothing else is believed about its name: a process can call itself
-/// what it likes.
+/// Programs that run Windows programs. Only for these is the name believed: a process can call itself
+/// anything.
 constexpr std::string_view kWindowsLoaders[] = {"wine", "wine64", "wine-preloader", "wine64-preloader"};
 
-/// The folder of a process. While it is open it stands for this process and never for a later one with the
-/// same number.
+/// The folder of a process. While open, it refers to this process and never to a later one with the same
+/// number.
 FileDescriptor OpenFolder(const std::string& name) {
   return FileDescriptor(::open((fs::path(kProcesses) / name).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
@@ -57,7 +57,7 @@ std::optional<fs::path> ExecutedFile(int folder) {
   return WithoutDeletionMark(std::string(target.data(), static_cast<std::size_t>(length)));
 }
 
-/// What the process was called with as the name of its program; its beginning when it is very long.
+/// The program name the process was called with; truncated if very long.
 std::string CalledAs(int folder) {
   std::array<char, std::size_t{8} * 1024> arguments;
   const FileDescriptor file(::openat(folder, "cmdline", O_RDONLY | O_CLOEXEC));
@@ -70,7 +70,7 @@ bool IsWindowsLoader(const fs::path& file) {
   return std::ranges::find(kWindowsLoaders, file.filename()) != std::end(kWindowsLoaders);
 }
 
-/// The program of a process that may be touched.
+/// The program of a process we may end.
 std::optional<std::u16string> ModuleOf(const std::string& process) {
   const FileDescriptor folder = OpenFolder(process);
   if (!folder.IsOpen() || !BelongsToThisUser(folder.Get())) return std::nullopt;
@@ -104,7 +104,7 @@ std::vector<RunningProcess> LinuxProcessTable::Processes() {
 void LinuxProcessTable::Terminate(const RunningProcess& process) {
   const FileDescriptor handle(::pidfd_open(process.id, 0));
   const bool kernelLacksHandles = !handle.IsOpen() && errno == ENOSYS;
-  if (ModuleOf(std::to_string(process.id)) != process.module) return;  // the number has passed to another
+  if (ModuleOf(std::to_string(process.id)) != process.module) return;  // the number has been reused
   if (handle.IsOpen()) {
     ::pidfd_send_signal(handle.Get(), SIGTERM, nullptr, 0);
   } else if (kernelLacksHandles) {

@@ -5,13 +5,13 @@
 
 namespace quorvantis {
 
-/// The processes of /proc with the effective user of this one. The program is the file that is executed;
-/// where that is a loader for Windows programs, the program is what the loader was called with.
+/// The processes of /proc with the effective user of this one. The program is the executed file, or, if that
+/// is a loader for Windows programs, what the loader was called with.
 class LinuxProcessTable : public ProcessTable {
  public:
   std::vector<RunningProcess> Processes() override;
 
-  /// Asks the process to end, so that it can still save what it needs to recover.
+  /// Asks the process to end, so that it can save what it needs to recover.
   void Terminate(const RunningProcess& process) override;
 };
 

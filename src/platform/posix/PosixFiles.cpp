@@ -36,14 +36,13 @@ std::error_code Sync(int descriptor) {
   return ::fsync(descriptor) == 0 ? std::error_code() : LastError();
 }
 
-/// Makes a renamed file's new name durable. Some file systems cannot; the content is safe all the same.
+/// Makes a renamed file's new name durable. Some file systems cannot; the content is safe anyway.
 void SyncFolder(const fs::path& folder) {
   const FileDescriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (descriptor.IsOpen()) ::fsync(descriptor.Get());
 }
 
-/// A file of this process's own with a name nobody else has; deleted, by a signal too, unless it is renamed
-/// away.
+/// A file of this process under a unique name; deleted, also by a signal, unless it is renamed.
 class ScratchFile {
  public:
   /// `stem` should be short; it only helps a person who finds the file after a power cut.
@@ -70,7 +69,7 @@ class ScratchFile {
 
   int Descriptor() const { return descriptor_.Get(); }
 
-  /// From now on it holds what may be nowhere else: a signal leaves it.
+  /// From now on it may hold the only copy: a signal does not remove it.
   void OutliveSignals() { leftover_.reset(); }
 
   std::error_code RenameTo(const fs::path& target) {
@@ -123,7 +122,7 @@ class PosixPendingFile : public PendingFile {
   bool keepsOldFile_ = false;
 };
 
-/// Gives a file its backup name as a second one. In two steps, since a link takes the place of nothing.
+/// Gives a file its backup name as a second name. In two steps, since a link replaces nothing.
 void LinkBackup(const fs::path& file) {
   fs::path backup = file;
   backup += kBackupSuffix;
@@ -148,7 +147,7 @@ class RenamedFile : public PosixPendingFile {
   }
 };
 
-/// For a writable file in a folder that is not: copies the complete content over the old one.
+/// For a writable file in a read-only folder: copies the complete content over the old one.
 class OverwrittenFile : public PosixPendingFile {
   using PosixPendingFile::PosixPendingFile;
 
@@ -163,7 +162,7 @@ class OverwrittenFile : public PosixPendingFile {
     return Sync(target.Get());
   }
 
-  /// Takes the disk space now, while the old content is still whole.
+  /// Reserves the disk space now, while the old content is intact.
   static std::error_code Reserve(int descriptor, off_t size) {
     struct stat old {};
     if (::fstat(descriptor, &old) != 0) return LastError();
@@ -195,8 +194,8 @@ bool IsLink(const fs::path& path) {
   return fs::is_symlink(fs::symlink_status(path, ignored));
 }
 
-/// Where the links that start at `path` end; the last name need not exist. Links in a circle end at one of
-/// them.
+/// The target of the links that start at `path`; the last name need not exist. A circle of links ends at one
+/// of them.
 fs::path FollowLinks(fs::path path) {
   constexpr int kMaxLinks = 40;
   std::error_code ignored;
@@ -227,7 +226,7 @@ std::unique_ptr<PendingFile> PosixFiles::Replace(const fs::path& target, std::er
     error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
     return nullptr;
   }
-  if (exists && ::access(path.c_str(), W_OK) != 0) {  // a rename would pass over a read-only file
+  if (exists && ::access(path.c_str(), W_OK) != 0) {  // a rename would ignore that it is read-only
     error = LastError();
     return nullptr;
   }

@@ -18,7 +18,7 @@ constexpr std::string_view kPrefix = "quorvantis-";
 constexpr std::string_view kRandom = "XXXXXX";
 constexpr const char* kLockFile = ".in-use";
 
-/// The lock is held before it has its name, so one that nobody holds belongs to a program that is gone.
+/// The lock is held before it has its name, so an unlocked folder belongs to a program that is gone.
 FileDescriptor Lock(const fs::path& folder) {
   const fs::path unnamed = folder / ".new";
   FileDescriptor lock(::open(unnamed.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0600));

@@ -10,8 +10,8 @@
 namespace quorvantis {
 
 /// A fresh folder that only this user can enter, in the folder for temporary files; removed with its content
-/// at the end, and by a signal (see RemoveLeftoversOnSignals); that of a program which was killed goes with
-/// the next one that is made. Throws std::filesystem::filesystem_error when it cannot be made.
+/// at the end, and by a signal (see RemoveLeftoversOnSignals). The folder of a killed program is removed when
+/// the next one is created. Throws std::filesystem::filesystem_error if it cannot be created.
 class PrivateFolder {
  public:
   PrivateFolder();

@@ -19,7 +19,7 @@ std::u16string_view RootName(RegistryRoot root) {
   return root == RegistryRoot::ClassesRoot ? u"HKEY_CLASSES_ROOT" : u"HKEY_CURRENT_USER";
 }
 
-/// The text can stand in one line of the file and is the same when it is read again.
+/// Whether the text fits in one line of the file and reads back the same.
 bool IsStorable(std::u16string_view text) {
   constexpr char16_t kFirstPrintable = 0x20;
   const bool controls = std::ranges::any_of(text, [](char16_t unit) { return unit < kFirstPrintable; });
@@ -80,7 +80,7 @@ std::optional<RegistryValue> ParseData(std::string_view text) {
   return RegistryValue{static_cast<RegistryType>(*type), *std::move(bytes)};
 }
 
-/// Takes a line off the front of `text`; both kinds of line breaks are met where people edit files.
+/// Removes a line from the front of `text`; edited files have both kinds of line breaks.
 std::string_view TakeLine(std::string_view& text) {
   const std::size_t length = text.find('\n');
   std::string_view line = text.substr(0, length);
@@ -121,7 +121,7 @@ bool RegistryTree::ParseKey(std::string_view line, std::u16string& key) {
 }
 
 bool RegistryTree::ParseValue(std::string_view line, std::u16string_view key) {
-  const std::size_t equals = line.rfind("\"=");  // a name may hold these, what follows may not
+  const std::size_t equals = line.rfind("\"=");  // a name may contain these, what follows may not
   if (line.front() != '"' || equals == std::string_view::npos || equals == 0) return false;
   std::optional<RegistryValue> value = ParseData(line.substr(equals + 2));
   return value && SetValue(key, Utf8ToUtf16(line.substr(1, equals - 1)), *std::move(value));
@@ -170,7 +170,7 @@ bool RegistryTree::DeleteKey(std::u16string_view fullPath) {
   const std::size_t parentEnd = fullPath.rfind(kSeparator);
   if (parentEnd == std::u16string_view::npos || HasKeysBelow(path)) return false;
   if (keys_.erase(path) == 0) return false;
-  CreateKey(fullPath.substr(0, parentEnd));  // it may have been there only as the way to this one
+  CreateKey(fullPath.substr(0, parentEnd));  // it may have existed only as the parent of this one
   return true;
 }
 

@@ -22,7 +22,7 @@ class RegistryTree {
  public:
   RegistryTree();
 
-  /// Nothing when the text is not one that `Format` may have written. An empty text is a tree without keys.
+  /// Nothing when `Format` cannot have written the text. An empty text is a tree without keys.
   static std::optional<RegistryTree> Parse(std::string_view text);
   std::string Format() const;
 
@@ -32,16 +32,16 @@ class RegistryTree {
 
   bool HasKey(std::u16string_view fullPath) const;
 
-  /// Makes a key of FullPath; those above it are there with it.
+  /// Creates a key of FullPath, and with it those above.
   void CreateKey(std::u16string_view fullPath);
 
-  /// False for a root, for a key that is not there and for one with keys below it.
+  /// False for a root, for a missing key and for one with keys below it.
   bool DeleteKey(std::u16string_view fullPath);
 
   /// The value, or null.
   const RegistryValue* QueryValue(std::u16string_view fullPath, std::u16string_view name) const;
 
-  /// False when there is no such key, or when the name has characters that it cannot have.
+  /// False when there is no such key, or when the name has invalid characters.
   bool SetValue(std::u16string_view fullPath, std::u16string_view name, RegistryValue value);
   bool DeleteValue(std::u16string_view fullPath, std::u16string_view name);
 
@@ -51,7 +51,7 @@ class RegistryTree {
     RegistryValue value;
   };
   struct Key {
-    std::u16string path;                          ///< in full, as it was written first
+    std::u16string path;                          ///< in full, as first written
     std::map<std::u16string, NamedValue> values;  ///< by upper-case name
   };
 
@@ -59,7 +59,7 @@ class RegistryTree {
   bool ParseKey(std::string_view line, std::u16string& key);
   bool ParseValue(std::string_view line, std::u16string_view key);
 
-  std::map<std::u16string, Key> keys_;  ///< by upper-case path; those above need not be here
+  std::map<std::u16string, Key> keys_;  ///< by upper-case path; parents may be missing
 };
 
 }  // namespace quorvantis

@@ -7,7 +7,7 @@
 namespace quorvantis {
 namespace {
 
-/// Enough for a disk to work on while the next piece is copied.
+/// Enough to keep a disk busy while the next piece is copied.
 constexpr std::uint64_t kPiece = std::uint64_t{8} * 1024 * 1024;
 
 bool IsRefusal(int error) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Gives a page of an exam its style, and shows a picture that is clicked in its own size. `host` has the style.
+// Gives a page of an exam its style, and shows a clicked picture at full size. `host` has the style.
 (function (host) {
   'use strict';
   const style = new CSSStyleSheet();
@@ -29,7 +29,7 @@
     box.append(whole);
     box.addEventListener('click', () => box.remove());
     document.body.append(box);
-    // The spot that was clicked comes to the middle.
+    // Centres the clicked spot.
     const place = picture.getBoundingClientRect();
     box.scrollLeft = (event.clientX - place.left) / place.width * box.scrollWidth - box.clientWidth / 2;
     box.scrollTop = (event.clientY - place.top) / place.height * box.scrollHeight - box.clientHeight / 2;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Puts elements that this browser shows in the place of <embed> elements, which it leaves blank for most of the
-// files that exams have, and notices in the place of pictures that do not appear. `host` has texts and places.
+// Replaces <embed> elements, which this browser leaves blank for most files in exams, by elements that it shows, and
+// pictures that do not appear by notices. `host` has texts and places.
 (function (host) {
   'use strict';
   const sounds = ['mp3', 'wav', 'wma', 'm4a', 'aac', 'aiff', 'amr', 'opus', 'flac', 'ogg', 'au'];
@@ -9,7 +9,7 @@
   const documents = [
     'doc', 'docx', 'rtf', 'odt', 'ppt', 'pptx', 'odp', 'xls', 'xlsx', 'ods', 'pdf', 'txt', 'htm', 'html',
   ];
-  const HostRequest = window.XMLHttpRequest;  // the page may put something else there
+  const HostRequest = window.XMLHttpRequest;  // the page may replace it
 
   function fileNameOf(source) {
     const path = source.split(/[?#]/)[0].replace(/\\|%5c/gi, '/');
@@ -21,7 +21,7 @@
     }
   }
 
-  // What the user calls a file is known of those that are attached to the exam.
+  // The user's names are known for the files attached to the exam.
   function nameOf(element, source) {
     return element.dataset.name || fileNameOf(source);
   }
@@ -43,7 +43,7 @@
     return box;
   }
 
-  // For what can only be played: on paper, the name of the file stands for it.
+  // For files that can only be played: on paper their name stands for them.
   function playerBox(name) {
     const box = document.createElement('div');
     box.className = 'quorvantis-player';
@@ -54,7 +54,7 @@
     return box;
   }
 
-  // Calls `use` with a text that says why a file does not appear; an empty one where nothing is in its way.
+  // Calls `use` with a text that says why a file does not appear; empty if nothing is wrong.
   function askWhy(source, name, use) {
     const useUnknown = () => use(filled(host.cannotShow, name));
     let address;
@@ -100,7 +100,7 @@
       stopWaiting();
       askWhy(source, name, text => media.replaceWith(notice(text)));
     });
-    // The page counts as loaded without it: a conversion may take long.
+    // The page counts as loaded without it: a conversion may be slow.
     const begin = () => { media.src = source; };
     if (document.readyState === 'complete') begin();
     else window.addEventListener('load', begin);
@@ -128,7 +128,7 @@
     return box;
   }
 
-  // Scripts cannot fetch under the scheme of the pages, but they can request in the old way.
+  // Scripts cannot use fetch under the scheme of the pages, but the older request works.
   function bringFetch() {
     const original = window.fetch;
     window.fetch = function (resource, options) {
@@ -166,7 +166,7 @@
     const box = playerBox(name);
     embed.replaceWith(box);
     box.append(embed);
-    // From what stands in its place when the clip begins.
+    // From the notice to the clip when it begins.
     if ('muted' in embed.dataset) {
       box.addEventListener('loadedmetadata', event => { event.target.volume = 0; }, true);
     }
@@ -188,7 +188,7 @@
     else embed.replaceWith(nothing(source, name));
   }
 
-  // Paper waits for the answer, see print.js.
+  // Printing waits for the answer, see print.js.
   function replacePicture(image) {
     const source = image.getAttribute('src') || '';
     const name = nameOf(image, source);
@@ -206,7 +206,7 @@
     if (event.target instanceof HTMLImageElement) replacePicture(event.target);
   }, true);
 
-  // Before the browser has laid out the change that brought them.
+  // Before the browser has laid out the change that added them.
   const embeds = document.getElementsByTagName('embed');
   new MutationObserver(() => Array.from(embeds).forEach(replace))
       .observe(document, {childList: true, subtree: true});

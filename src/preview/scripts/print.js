@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// On paper a frame cannot be scrolled: the content of every inline frame is put beside it, whole, for paper only.
-// Called again until all pictures are there; the value tells whether they are.
+// On paper a frame cannot be scrolled: the whole content of every inline frame is put beside it, for paper only.
+// Called repeatedly until all pictures have loaded; the value says whether they have.
 (function () {
   'use strict';
   if (!document.querySelector('.quorvantis-paper')) {

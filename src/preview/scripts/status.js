@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a page writes to the status line, which this browser does not have, goes to the host.
+// Sends what a page writes to the status line, which this browser lacks, to the host.
 (function () {
   'use strict';
   let status = '';

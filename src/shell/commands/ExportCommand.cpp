@@ -21,7 +21,7 @@ constexpr std::chrono::milliseconds kForOfficeToEnd{100};
 
 }  // namespace
 
-/// Office programs that were asked to end get a moment for it.
+/// Office programs that were asked to end get a moment to do so.
 void ExportCommand::ExportWordDocument(const std::filesystem::path& target) {
   if (office_ != nullptr) {
     office_->processes.AskCloseOffice();

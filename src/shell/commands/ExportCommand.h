@@ -11,17 +11,17 @@
 
 namespace quorvantis {
 
-/// Writes the exam as a word processor's document: the questions that its file would have.
+/// Writes the exam as a word-processor document: the questions that its file would have.
 class ExportCommand {
  public:
   /// All must outlive the command; `office` may be null.
   ExportCommand(const FrameSetExam& exam, WordWriter& writer, OfficeControl* office)
       : exam_(exam), writer_(writer), office_(office) {}
 
-  /// What Save As does with the name of a document. Tells the user how it went.
+  /// What Save As does with the name of a document. Tells the user the result.
   void ExportWordDocument(const std::filesystem::path& target);
 
-  /// Asks and tells nothing. Nothing when the document is there; else why it is not, one line for the user.
+  /// Silent. Returns nothing on success, otherwise the reason, in one line for the user.
   std::optional<std::u16string> Write(const std::filesystem::path& target, WordFormat format);
 
  private:

@@ -10,8 +10,8 @@ namespace {
 
 using Paragraphs = std::vector<std::u16string>;
 
-/// Deliberate: a range that is not in use is all zeros and counts as one that begins before the last
-/// question. Whoever reads the document sees that the exam has it.
+/// Deliberate: an unused range is all zeros and counts as one that begins before the last question. Readers
+/// of the document see that the exam has it.
 bool IsExported(int scoreFrom, int questionCount) {
   return scoreFrom <= questionCount;
 }

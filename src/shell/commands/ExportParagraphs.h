@@ -9,8 +9,8 @@
 
 namespace quorvantis {
 
-/// What an exam says on paper, one text a paragraph: title, scores, questions with options and typed answers.
-/// Call after CountQuestions. Ticked letters, attached files and the random mode are no part of it.
+/// The content of an exam on paper, one text per paragraph: title, scores, questions with options and typed
+/// answers, but without ticked letters, attached files and the random mode. Call after CountQuestions.
 std::vector<std::u16string> ExportParagraphs(const ExamPaper& exam, const StringTable& strings);
 
 }  // namespace quorvantis

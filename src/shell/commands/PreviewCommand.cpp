@@ -8,7 +8,8 @@
 namespace quorvantis {
 namespace {
 
-/// Makes the folder of the editor's pages. That of a student is there already, or the pages are not written.
+/// Creates the folder of the editor's pages. A student's folder must exist already; otherwise no pages are
+/// written.
 void MakePageFolder(const FrameSetExam& exam) {
   std::error_code ignored;
   if (exam.locationMode != 0) std::filesystem::create_directories(PageFolder(exam), ignored);

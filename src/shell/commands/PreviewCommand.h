@@ -13,15 +13,15 @@ namespace quorvantis {
 /// Shows a page that a command has written; the path of the file.
 using ShowPage = std::function<void(const std::filesystem::path& page)>;
 
-/// The Preview command: writes the exam as it would be taken, and has the first page shown.
+/// The Preview command: writes the exam as it would be taken, and shows the first page.
 class PreviewCommand {
  public:
-  /// Both must outlive the command; `office` may be null. `languageId` is that of the language that is
-  /// wanted, which need not be the one in use.
+  /// Both must outlive the command; `office` may be null. `languageId` is that of the wanted language, which
+  /// may differ from the one in use.
   PreviewCommand(ExamEditor& editor, OfficeControl* office, int languageId, ShowPage show)
       : editor_(editor), office_(office), languageId_(languageId), show_(std::move(show)) {}
 
-  /// The attachment paths have one more prefix on pages from now on, until the exam is finished (see
+  /// From now on, attachment paths have one more prefix on pages, until the exam is finished (see
   /// FrameSetExam::PrefixAttachmentPaths).
   void Run();
 

@@ -5,7 +5,7 @@
 
 namespace quorvantis {
 
-/// The Print command: writes the exam as a paper, and has it shown off the screen and printed.
+/// The Print command: writes the exam as a paper, shows it off-screen and prints it.
 class PrintCommand {
  public:
   /// `editor` must outlive the command.

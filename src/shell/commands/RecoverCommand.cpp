@@ -43,7 +43,7 @@ bool RecoverCommand::Restore(const RecoveryCopy& copy) {
     TellDamaged(copy.folder);
     return false;
   }
-  // A copy that still has what could not be restored stays for another attempt.
+  // A copy with files that could not be restored stays for another attempt.
   keeper_.Restored(lost->empty() ? copy.folder : std::filesystem::path());
   if (!lost->empty()) {
     const std::u16string text = Services().strings.Text(text_id::kRecoveryFilesLost);

@@ -7,10 +7,10 @@
 
 namespace quorvantis {
 
-/// What to do with a recovery copy. A question that is closed otherwise gives Later.
+/// What to do with a recovery copy. Closing the question in any other way means Later.
 enum class RecoveryAnswer { Restore, Discard, Later };
 
-/// The question that a recovery leads to.
+/// Asks about a recovery copy.
 class RecoveryDialogs {
  public:
   virtual ~RecoveryDialogs() = default;
@@ -18,16 +18,15 @@ class RecoveryDialogs {
   virtual RecoveryAnswer AskRestore(const RecoveryCopy& copy) = 0;
 };
 
-/// Offers the recovery copies that were left in the application folder, the newest first, until one is
-/// restored or the user has enough of it; the others are offered at the next start. Runs once, in an editor
-/// that has not been used yet.
+/// Offers the recovery copies left in the application folder, newest first, until one is restored or the user
+/// answers Later; the others are offered at the next start. Runs once, in an unused editor.
 class RecoverCommand {
  public:
   /// All must outlive the command.
   RecoverCommand(ExamEditor& editor, RecoveryKeeper& keeper, RecoveryDialogs& dialogs)
       : editor_(editor), keeper_(keeper), dialogs_(dialogs) {}
 
-  /// True when an exam has been restored.
+  /// True if an exam was restored.
   bool Run();
 
  private:

@@ -6,13 +6,13 @@
 
 namespace quorvantis {
 
-/// The Score settings command: has the score distribution of the exam edited, and takes it over on OK.
+/// The Score settings command: lets the user edit the score distribution of the exam, and applies it on OK.
 class ScoreSetupCommand {
  public:
   /// `editor` must outlive the command.
   ScoreSetupCommand(ExamEditor& editor, EditScoreSetup edit) : editor_(editor), edit_(std::move(edit)) {}
 
-  /// True when the distribution was taken over.
+  /// True if the distribution was applied.
   bool Run();
 
  private:

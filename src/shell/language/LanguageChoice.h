@@ -10,7 +10,7 @@
 
 namespace quorvantis {
 
-/// What the language dialog offers and does.
+/// The rules of the language dialog.
 class LanguageChoice {
  public:
   /// All must outlive this. `languageId` is what the choice changes.
@@ -20,10 +20,10 @@ class LanguageChoice {
   /// The names in the order of the list; none is empty.
   std::vector<std::u16string> Names() const;
 
-  /// The first language of the identifier that is wanted; nothing when there is none.
+  /// The first language with the wanted identifier; nothing if there is none.
   std::optional<std::size_t> Selected() const { return languages_.IndexOf(languageId_); }
 
-  /// The user has selected an entry. It is saved at once and stays, whatever becomes of the dialog.
+  /// The user has selected an entry. It is saved at once and stays, even if the dialog is cancelled.
   void Select(std::size_t index);
 
  private:

@@ -5,11 +5,11 @@
 
 namespace quorvantis {
 
-/// The source of everything that users see: the language library in use, and the texts that the program
-/// carries itself where that has none. Pictures come from the library only.
+/// The source of everything users see: the language library in use, and the built-in texts where that has
+/// none. Pictures come from the library only.
 class LanguageInUse : public LanguageLibrary {
  public:
-  /// From now on `library`, which may be null.
+  /// Switches to `library`, which may be null.
   void Use(std::unique_ptr<LanguageLibrary> library) { library_ = std::move(library); }
 
   bool HasLibrary() const { return library_ != nullptr; }

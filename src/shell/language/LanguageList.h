@@ -24,7 +24,7 @@ struct LanguageList {
   /// The first library of that identifier.
   std::optional<std::size_t> IndexOf(int languageId) const;
 
-  /// What a user is shown for a library: its name, or the name of its file when it has none.
+  /// What users see of a library: its name, or its file name if it has none.
   std::u16string DisplayName(std::size_t index) const;
 };
 
@@ -35,7 +35,7 @@ std::filesystem::path LanguageFolder(const std::filesystem::path& applicationFol
                                      const std::filesystem::path& programFolder);
 
 /// The libraries in `folder`, a full path, by file name: files ending in ".dll", in any case, that can be
-/// loaded and have an identifier. `error` tells when the folder cannot be listed.
+/// loaded and have an identifier. `error` is set if the folder cannot be listed.
 LanguageList ScanLanguageLibraries(const std::filesystem::path& folder, LanguageLibraries& libraries,
                                    std::error_code& error);
 

@@ -17,7 +17,7 @@ class LanguageSetting {
   /// 0 when there is none.
   int Read();
 
-  /// A file that cannot be written stays as it is.
+  /// A file that cannot be written stays unchanged.
   void Write(int languageId);
 
  private:

@@ -6,8 +6,8 @@
 
 namespace quorvantis {
 
-/// What an editor with a window does about the office suite. Who works without a window, like the command
-/// line, has none and leaves the machine as it is.
+/// What an editor with a window does about the office suite. Without a window, as on the command line, there
+/// is none, and office programs are left alone.
 struct OfficeControl {
   /// Both must outlive this.
   OfficeControl(ExamServices& services, ProcessTable& table)
@@ -16,7 +16,7 @@ struct OfficeControl {
   OfficeProcesses processes;
   OfficeSettings settings;
 
-  /// Trusts the application folder for the programs that previews open documents with, or ends that.
+  /// Makes the programs that open documents in previews trust the application folder, or stops that.
   void TrustApplicationFolder(bool enable) {
     settings.SetTrustedLocation(u"PowerPoint", enable);
     settings.SetTrustedLocation(u"Excel", enable);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::u16string_view kOfficePrograms[] = {u"WINWORD.EXE", u"EXCEL.EXE", u"POWERPNT.EXE"};
 
-/// Deliberately anywhere in the path, as users know it: a program in a folder "excel.exe" is one too.
+/// Deliberately anywhere in the path, as users know it: a program in a folder "excel.exe" counts, too.
 bool IsOfficeProgram(std::u16string_view module) {
   const std::u16string upper = AsciiUpper(module);
   return std::ranges::any_of(

@@ -12,20 +12,20 @@ namespace quorvantis {
 /// exports, so the user is asked whether it may be closed.
 class OfficeProcesses {
  public:
-  /// Told of one process; returns whether to go on.
+  /// Visits one process; returns whether to go on.
   using Visitor = std::function<bool(const RunningProcess& process)>;
 
   /// Both must outlive this.
   OfficeProcesses(ExamServices& services, ProcessTable& processes)
       : services_(services), processes_(processes) {}
 
-  /// Visits every process of this user; each 16-bit task counts as one where the system has such.
+  /// Visits every process of this user; each 16-bit task counts as one, if the system has any.
   void EnumerateProcesses(const Visitor& visit);
 
   bool IsOfficeRunning();
 
-  /// When office programs run, asks whether to end them, and does so on Yes. They may still be running when
-  /// this returns.
+  /// If office programs are running, asks whether to end them, and does so on Yes. They may still be running
+  /// when this returns.
   void AskCloseOffice();
 
  private:

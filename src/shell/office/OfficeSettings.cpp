@@ -36,8 +36,8 @@ RegistryValue Number(std::uint32_t number) {
   return value;
 }
 
-/// Deliberately as many bytes as the path has characters, which is the first half of it and no terminator:
-/// the stored value is what earlier versions have stored.
+/// Deliberately as many bytes as the path has characters, which is its first half without a terminator:
+/// earlier versions store the same value.
 RegistryValue HalfPath(const std::filesystem::path& path) {
   const std::u16string text = PathToText(path);
   RegistryValue value{RegistryType::String, {}};

@@ -8,7 +8,7 @@
 namespace quorvantis {
 
 /// Settings of the browser and of the office suite, so that they show office documents in place and without
-/// asking. Where these programs are not installed, and so have no keys, nothing is set.
+/// asking. If these programs are not installed, and so have no keys, nothing is set.
 class OfficeSettings {
  public:
   /// `services` must outlive this.
@@ -21,8 +21,8 @@ class OfficeSettings {
   /// Allows action 2103 (status bar updates by script, which end a preview) for pages of the Internet zone.
   void AllowZoneAction();
 
-  /// Makes the application folder a place whose documents `application` ("PowerPoint" or "Excel") opens
-  /// without a warning, or ends that.
+  /// Makes `application` ("PowerPoint" or "Excel") open documents in the application folder without a
+  /// warning, or stops that.
   void SetTrustedLocation(std::u16string_view application, bool enable);
 
  private:

@@ -10,7 +10,7 @@
 namespace quorvantis {
 namespace {
 
-/// Windows' numbers of code pages that have another name than "CP" and the number.
+/// Windows' numbers of code pages whose name is not "CP" and the number.
 constexpr std::pair<std::string_view, std::string_view> kNamedNumbers[] = {
     {"20866", "KOI8-R"}, {"21866", "KOI8-U"}, {"54936", "GB18030"}, {"65001", "UTF-8"}};
 

@@ -6,7 +6,7 @@
 
 namespace quorvantis {
 
-/// Language identifiers as language libraries report them.
+/// Language identifiers, as reported by language libraries.
 constexpr int kEnglish = 0x0409;
 
 /// The name of the code page that 8-bit exam files are in, for iconv: the key "CodePage" of section "private"

@@ -13,7 +13,7 @@ class Files;
 /// for no. Without it there are backups.
 bool KeepsBackups(const std::filesystem::path& applicationFolder);
 
-/// The folder in which an exam was opened or saved last: key "ExamFolder" of section "files".
+/// The folder where an exam was last opened or saved: key "ExamFolder" of section "files".
 class ExamFolderSetting {
  public:
   /// All must outlive this. `codePage` is that of a file in 8-bit text.
@@ -23,7 +23,7 @@ class ExamFolderSetting {
   /// Empty when there is none; the folder itself may be gone.
   std::filesystem::path Read() const;
 
-  /// What cannot be written is not kept.
+  /// Failing to write it is ignored.
   void Write(const std::filesystem::path& folder) const;
 
  private:

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kNoLanguage = 2;
 
-// These are shown when there is no language to take texts from. Wording and spelling stay as they are.
+// Shown when there is no language to take texts from. Wording and spelling are deliberate.
 constexpr std::u16string_view kNoLanguageFolder = u"Can't find any language file !GetLastError()=0x%s\n";
 constexpr std::u16string_view kNoLanguageFile = u"Cann't find any language file!\n";
 constexpr std::u16string_view kCannotLoad = u"Load resouce file named %s failed!\n";
@@ -47,7 +47,7 @@ bool CQuorvantisApp::ScanLanguageLibraries() {
          Fail(FillMessage(kNoLanguageFolder, {FormatHexadecimal(static_cast<std::uint32_t>(error.value()))}));
 }
 
-/// A wanted language that is not there is no failure: the first one found takes its place.
+/// A missing language is not a failure: the first one found takes its place.
 bool CQuorvantisApp::ApplyLanguage() {
   const std::size_t index = languages_.IndexOf(languageId_).value_or(0);
   if (languages_.Count() == 0) return Fail(kNoLanguageFile);
@@ -65,7 +65,7 @@ bool CQuorvantisApp::ChooseLanguage() {
   return world_.windows.ChooseLanguage(choice, resourceLibrary_);
 }
 
-/// For programs that take an exam in this folder. The editor itself puts nothing there.
+/// For programs that take an exam in this folder. The editor itself stores nothing there.
 void CQuorvantisApp::MakeStudentFolder() const {
   std::error_code ignored;
   std::filesystem::create_directory(moduleFolder_ / "~BrelmStudent", ignored);

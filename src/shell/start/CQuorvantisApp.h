@@ -22,8 +22,8 @@ class ApplicationWindows {
  public:
   virtual ~ApplicationWindows() = default;
 
-  /// Another language library is in use from now on: what no text carries, such as the direction of windows,
-  /// follows it.
+  /// Another language library is now in use: adjusts everything but texts to it, such as the direction of
+  /// windows.
   virtual void LanguageApplied(const LanguageInUse& language) = 0;
 
   /// The program cannot start; waits until the user has seen why.
@@ -32,11 +32,11 @@ class ApplicationWindows {
   /// Shows the language dialog until it is closed. False when it was cancelled.
   virtual bool ChooseLanguage(LanguageChoice& choice, const LanguageInUse& language) = 0;
 
-  /// Shows the main window until it is closed, and gives the exit code of the program.
+  /// Shows the main window until it is closed, and returns the program's exit code.
   virtual int RunMainWindow(CQuorvantisApp& application) = 0;
 };
 
-/// What start-up needs of the world. All must outlive the application.
+/// What start-up needs of the outside world. All must outlive the application.
 struct ApplicationWorld {
   LanguageLibraries& libraries;
   Files& files;
@@ -49,21 +49,20 @@ struct ApplicationWorld {
 class CQuorvantisApp {
  public:
   /// `moduleFolder` is the application folder and `languageFolder` that of the language libraries, both full
-  /// paths. `languageAskedFor` takes the place of the setting and of the language dialog.
+  /// paths. `languageAskedFor` replaces the setting and the language dialog.
   CQuorvantisApp(std::filesystem::path moduleFolder, std::filesystem::path languageFolder,
                  std::optional<int> languageAskedFor, const ApplicationWorld& world);
 
   /// Runs the program until its main window is closed. False: there is nothing to do after it.
   bool InitInstance();
 
-  /// Releases the language library and gives the exit code: 0, that of the main window, or 2 when there is no
-  /// language to start with.
+  /// Releases the language library and returns the exit code: 0, that of the main window, or 2 when there is
+  /// no language to start with.
   int ExitInstance();
 
   const std::filesystem::path& ModuleFolder() const { return moduleFolder_; }
 
-  /// The identifier of the language that is wanted. That of the library in use differs when there is no
-  /// library of the wanted one.
+  /// The identifier of the wanted language. That of the library in use differs if there is no library for it.
   int LanguageId() const { return languageId_; }
 
   /// Stays the same object whichever library is in use.

@@ -92,7 +92,7 @@ TEST(BuiltInStrings, HaveTheExactTexts) {
       {148, u"(Oral question,controled by teacher)"},
       {156, u"Scan questions"},
       {140, u"Insert ans\\' list separator \\\"<@>\\\""},
-      {1000, u"The exam file ends before its contents do; question %d and after are missing."},
+      {1000, u"The exam file ends before its contents do; question %1 and after are missing."},
       {9999, u""}};
   for (const auto& [number, text] : rows) EXPECT_EQ(BuiltInStrings().Text(number), text) << number;
 }
