@@ -3,6 +3,7 @@
 
 #include "regex/GroupDependence.h"
 #include "regex/LookAhead.h"
+#include "regex/ProgramSize.h"
 #include "regex/RegexError.h"
 
 #include <algorithm>
@@ -13,34 +14,8 @@ namespace quorvantis {
 namespace {
 
 constexpr std::size_t kLargestProgram = 200'000;  // instructions
-constexpr std::size_t kLargestCopies = 2'000;     // instructions for the copies of one counted body
 constexpr int kMostUnitCopies = 4;                // of one required unit
 constexpr int kMostMarks = 6;                     // enclosing loops that failures may depend on
-
-/// About how many instructions a tree takes. A body that is counted rather than copied counts once.
-std::size_t ProgramSize(const SyntaxNode& tree) {
-  return std::visit(
-      [](const auto& node) {
-        using Node = std::decay_t<decltype(node)>;
-        std::size_t size = 2;
-        if constexpr (std::is_same_v<Node, SequenceNode>) {
-          for (const SyntaxTree& part : node.parts) size += ProgramSize(*part);
-        } else if constexpr (std::is_same_v<Node, AlternationNode>) {
-          for (const SyntaxTree& choice : node.choices) size += ProgramSize(*choice) + 2;
-        } else if constexpr (std::is_same_v<Node, ConditionNode>) {
-          size += ProgramSize(*node.whenTrue) + ProgramSize(*node.whenFalse);
-          if (node.look) size += ProgramSize(*node.look);
-        } else if constexpr (std::is_same_v<Node, RepeatNode>) {
-          const std::size_t body = ProgramSize(*node.body);
-          const std::size_t all = body * static_cast<std::size_t>(std::max({node.min, node.max, 1}));
-          size += OnlyUnit(*node.body) || all > kLargestCopies ? body : all;
-        } else if constexpr (requires { node.body; }) {
-          size += ProgramSize(*node.body);
-        }
-        return size;
-      },
-      tree.value);
-}
 
 /// Whether a tree has a node of one of these kinds.
 template <class... Wanted>

@@ -14,4 +14,28 @@ constexpr int kRightToLeft = 16;  ///< the text is scanned from its end towards 
 constexpr int kExtended = 32;     ///< white space is ignored and "#" starts a comment
 
 }  // namespace regex_flag
+
+/// The flag that an inline letter switches; 0 for a letter that switches none.
+constexpr int InlineFlag(char16_t letter) {
+  switch (letter) {
+    case u's':
+    case u'S':
+      return regex_flag::kSingleLine;
+    case u'm':
+    case u'M':
+      return regex_flag::kMultiLine;
+    case u'g':
+    case u'G':
+      return regex_flag::kGlobal;
+    case u'i':
+    case u'I':
+      return regex_flag::kIgnoreCase;
+    case u'x':
+    case u'X':
+      return regex_flag::kExtended;
+    default:
+      return 0;
+  }
+}
+
 }  // namespace quorvantis

@@ -338,9 +338,8 @@ class RegexParser {
     return PlaceOf(*name, place);
   }
 
-  /// After "(?": letters that switch flags on, and off after "-"; then ")" for the rest of the group around,
-  /// or
-  /// ":" and a group of its own.
+  /// After "(?": letters that switch flags on, and off after "-"; then ")" for the rest of the enclosing
+  /// group, or ":" and a group of its own.
   SyntaxTree ParseInlineFlags(std::size_t place) {
     const int outerFlags = flags_;
     bool on = true;
@@ -359,28 +358,6 @@ class RegexParser {
     SyntaxTree body = Closed(ParseAlternation(), place);
     flags_ = outerFlags;
     return body;
-  }
-
-  static int InlineFlag(char16_t letter) {
-    switch (letter) {
-      case u's':
-      case u'S':
-        return regex_flag::kSingleLine;
-      case u'm':
-      case u'M':
-        return regex_flag::kMultiLine;
-      case u'g':
-      case u'G':
-        return regex_flag::kGlobal;
-      case u'i':
-      case u'I':
-        return regex_flag::kIgnoreCase;
-      case u'x':
-      case u'X':
-        return regex_flag::kExtended;
-      default:
-        return 0;
-    }
   }
 
   PatternCursor cursor_;

@@ -15,7 +15,7 @@
 namespace quorvantis::test {
 namespace {
 
-constexpr int kPatience = 30'000;  // milliseconds, for a browser on a slow machine
+constexpr int kSequencePatience = 30'000;  // milliseconds, for a browser on a slow machine
 constexpr int kLongestPause = 2000;
 constexpr int kSteps = 9;
 const char16_t* const kQuestion = u"What is asked here?";
@@ -32,9 +32,10 @@ class PreviewSequence : public WindowTest {
     timer.start();
     while (steps_ > 0 && !HasFailure()) {
       QTest::qWait(50);
-      ASSERT_LT(timer.elapsed(), kSteps * 2 * kPatience) << "it hangs";
+      ASSERT_LT(timer.elapsed(), kSteps * 2 * kSequencePatience) << "it hangs";
     }
-    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() == nullptr; }, kPatience));
+    ASSERT_TRUE(
+        QTest::qWaitFor([] { return QApplication::activeModalWidget() == nullptr; }, kSequencePatience));
     Quit();
     for (const std::filesystem::path& paper : papers_) {
       EXPECT_TRUE(ReadBytes(paper).starts_with("%PDF")) << paper << " was not printed";
@@ -75,7 +76,8 @@ class PreviewSequence : public WindowTest {
   }
 
   void Step() {
-    const bool dialogComes = print_.isValid() && PrintDialog() == nullptr && print_.elapsed() < kPatience;
+    const bool dialogComes =
+        print_.isValid() && PrintDialog() == nullptr && print_.elapsed() < kSequencePatience;
     if (--steps_ == 0 && dialogComes) steps_ = 1;
     if (steps_ <= 0 || HasFailure()) return CloseDialog();
     ASSERT_TRUE(window->isVisible()) << "the window has gone";
@@ -116,7 +118,7 @@ class PreviewSequence : public WindowTest {
         if (!loaded_) return WaitForPage();
         Shown()->findChild<QWebEngineView*>()->page()->runJavaScript(
             "document.querySelector('input[type=button]').click()");
-        EXPECT_TRUE(QTest::qWaitFor([] { return Shown() == nullptr; }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([] { return Shown() == nullptr; }, kSequencePatience));
         return Closed();
       case 1:
         Note("type");
@@ -150,7 +152,7 @@ class PreviewSequence : public WindowTest {
     timer.start();
     PreviewWindow* const shown = Shown();
     while (shown == Shown() && !loaded_) {
-      ASSERT_LT(timer.elapsed(), kPatience) << "the page does not appear";
+      ASSERT_LT(timer.elapsed(), kSequencePatience) << "the page does not appear";
       shown->findChild<QWebEngineView*>()->page()->toPlainText(
           [this](const QString& text) { loaded_ = text.contains(QString::fromUtf16(kQuestion)); });
       QTest::qWait(50);
@@ -161,13 +163,14 @@ class PreviewSequence : public WindowTest {
   /// The steps go on below it.
   void WaitForDialog() {
     Schedule();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !print_.isValid() || PrintDialog() != nullptr; }, kPatience))
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return !print_.isValid() || PrintDialog() != nullptr; }, kSequencePatience))
         << "the print does not ask for a printer";
   }
 
   void UseMainWindow() {
     const bool printing = print_.isValid();
-    ASSERT_TRUE(!printing || print_.elapsed() < kPatience) << "the print does not ask for a printer";
+    ASSERT_TRUE(!printing || print_.elapsed() < kSequencePatience) << "the print does not ask for a printer";
     // A preview takes every Escape within a second; half of it is safe on a slow machine.
     const bool escapes = printing || (closed_.isValid() && closed_.elapsed() < 500);
     switch (Random(escapes ? 7 : 6)) {
@@ -182,9 +185,9 @@ class PreviewSequence : public WindowTest {
       case 2:
       case 3:
         Note("print");
-        Press(Qt::Key_P, Qt::ControlModifier);
         print_.start();
-        break;
+        Schedule(100 + Random(kLongestPause));  // first: the dialog may appear while the key is being handled
+        return Press(Qt::Key_P, Qt::ControlModifier);
       case 4: {
         const bool opens = Random(2) == 0;
         Note(opens ? "open" : "new");
