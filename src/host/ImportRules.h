@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Finds the file with the import rules.
+// SPDX-License-Identifier: MIT
+// Finds the file with the import rules.
 #pragma once
 
 #include <filesystem>

@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Blocks of answers: many answers in one part of a paper.
+// SPDX-License-Identifier: MIT
+// Blocks of answers: many answers in one part of a paper.
 #pragma once
 
 #include "import/RuleSearch.h"

@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Pictures in a paper that has been read are texts like " 7.bmp ".
+// SPDX-License-Identifier: MIT
+// Pictures in a paper that has been read are texts like " 7.bmp ".
 #pragma once
 
 #include "model/ExamPaper.h"

@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT What replaces the matches of rules in a marked text.
+// SPDX-License-Identifier: MIT
+// What replaces the matches of rules in a marked text.
 #pragma once
 
 #include <string_view>

@@ -1,6 +1,6 @@
-// SPDX-License-Identifier: MIT The line ends of imported texts. Word processors end lines with a single CR or
-// VT, text files of many systems with a single LF; an exam ends them with CR LF, and pages drop a character
-// after any other.
+// SPDX-License-Identifier: MIT
+// The line ends of imported texts. Word processors end lines with a single CR or VT, text files of many
+// systems with a single LF; an exam ends them with CR LF, and pages drop a character after any other.
 #pragma once
 
 #include "model/ExamPaper.h"

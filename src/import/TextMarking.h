@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT Turns the text or the tables of a paper into marked text: what the rules
-// recognise is replaced by the markers of ImportMarkers.h.
+// SPDX-License-Identifier: MIT
+// Turns the text or the tables of a paper into marked text: what the rules recognise is replaced by the
+// markers of ImportMarkers.h.
 #pragma once
 
 #include "import/ImportFailure.h"

@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Whole files: small ones are read and written at once, large ones copied.
+// SPDX-License-Identifier: MIT
+// Whole files: small ones are read and written at once, large ones copied.
 #pragma once
 
 #include "platform/Files.h"

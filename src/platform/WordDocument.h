@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT The content of a word-processor document, as plain values.
+// SPDX-License-Identifier: MIT
+// The content of a word-processor document, as plain values.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Set-up of the embedded browser, before it exists.
+// SPDX-License-Identifier: MIT
+// Set-up of the embedded browser, before it exists.
 #pragma once
 
 #include <QLatin1String>

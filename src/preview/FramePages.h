@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT The pages that frames show for what the browser cannot show itself.
+// SPDX-License-Identifier: MIT
+// The pages that frames show for what the browser cannot show itself.
 #pragma once
 
 #include <QByteArray>

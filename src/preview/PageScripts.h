@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT The scripts that the browser runs in exam pages in addition to their own.
+// SPDX-License-Identifier: MIT
+// The scripts that the browser runs in exam pages in addition to their own.
 #pragma once
 
 #include <QString>

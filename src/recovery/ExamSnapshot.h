@@ -1,6 +1,6 @@
-// SPDX-License-Identifier: MIT Everything an editor holds of an exam, as bytes: including what an exam file
-// would cut or leave out, and text that is typed but not stored. Attached files are named by the paths of
-// their work copies.
+// SPDX-License-Identifier: MIT
+// Everything an editor holds of an exam, as bytes: including what an exam file would cut or leave out, and
+// text that is typed but not stored. Attached files are named by the paths of their work copies.
 #pragma once
 
 #include "editor/ExamEditor.h"

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT Finds the recovery copies that editors have left, and puts one back into an
-// editor.
+// SPDX-License-Identifier: MIT
+// Finds the recovery copies that editors have left, and puts one back into an editor.
 #pragma once
 
 #include "editor/ExamEditor.h"

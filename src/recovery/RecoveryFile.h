@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT The one file of a recovery copy that is not an attached file: a snapshot of
-// the exam, its time, and which link belongs to which work copy. A checksum detects damage.
+// SPDX-License-Identifier: MIT
+// The one file of a recovery copy that is not an attached file: a snapshot of the exam, its time, and which
+// link belongs to which work copy. A checksum detects damage.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Letters that differ only in case, the same in every locale.
+// SPDX-License-Identifier: MIT
+// Letters that differ only in case, the same in every locale.
 #pragma once
 
 #include <utility>

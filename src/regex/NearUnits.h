@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT The units that must be near the position where a place of a program matches.
-// "Nothing" means any unit, or none.
+// SPDX-License-Identifier: MIT
+// The units that must be near the position where a place of a program matches. "Nothing" means any unit, or
+// none.
 #pragma once
 
 #include "regex/RegexProgram.h"

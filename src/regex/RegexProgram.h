@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT The parts of a compiled pattern. RegexCompiler.h makes programs,
-// RegexMatcher.h runs them.
+// SPDX-License-Identifier: MIT
+// The parts of a compiled pattern. RegexCompiler.h makes programs, RegexMatcher.h runs them.
 #pragma once
 
 #include "regex/CharacterSet.h"

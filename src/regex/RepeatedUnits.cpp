@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT RegexMatcher: repetitions of one unit, which need one stack entry however many
-// units they take.
+// SPDX-License-Identifier: MIT
+// RegexMatcher: repetitions of one unit, which need one stack entry however many units they take.
 #include "regex/RegexMatcher.h"
 
 namespace quorvantis {

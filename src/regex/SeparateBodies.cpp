@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT RegexMatcher: bodies matched on their own (look-around, atomic groups), and
-// calls of groups.
+// SPDX-License-Identifier: MIT
+// RegexMatcher: bodies matched on their own (look-around, atomic groups), and calls of groups.
 #include "regex/RegexMatcher.h"
 
 #include <algorithm>

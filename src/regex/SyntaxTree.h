@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT The meaning of a pattern. RegexParser.h makes these trees, RegexCompiler.h
-// turns them into programs.
+// SPDX-License-Identifier: MIT
+// The meaning of a pattern. RegexParser.h makes these trees, RegexCompiler.h turns them into programs.
 #pragma once
 
 #include "regex/CharacterSet.h"

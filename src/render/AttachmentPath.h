@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT How pages use the path of an attached file.
+// SPDX-License-Identifier: MIT
+// How pages use the path of an attached file.
 #pragma once
 
 #include <string>

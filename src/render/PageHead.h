@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT What several pages have in common.
+// SPDX-License-Identifier: MIT
+// What several pages have in common.
 #pragma once
 
 #include "render/Template.h"

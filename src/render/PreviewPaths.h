@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Where the pages of a preview are, and the student folders.
+// SPDX-License-Identifier: MIT
+// Where the pages of a preview are, and the student folders.
 #pragma once
 
 #include <filesystem>

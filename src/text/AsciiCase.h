@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT Text without regard to the case of the letters A to Z; all other characters
-// equal only themselves.
+// SPDX-License-Identifier: MIT
+// Text without regard to the case of the letters A to Z; all other characters equal only themselves.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT The common look of the window's controls: edges, and how they show hover and
-// focus. All colours come from the palette, so they suit light and dark desktops in every style.
+// SPDX-License-Identifier: MIT
+// The common look of the window's controls: edges, and how they show hover and focus. All colours come from
+// the palette, so they suit light and dark desktops in every style.
 #pragma once
 
 #include <QPainter>

@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT The names, keys and tooltips of the window's controls. A control is owned by
-// its parent; `name` is its object name, the same in every language.
+// SPDX-License-Identifier: MIT
+// The names, keys and tooltips of the window's controls. A control is owned by its parent; `name` is its
+// object name, the same in every language.
 #pragma once
 
 #include <QAbstractButton>

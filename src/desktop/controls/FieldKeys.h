@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Common behaviour of text fields of one and of several lines.
+// SPDX-License-Identifier: MIT
+// Common behaviour of text fields of one and of several lines.
 #pragma once
 
 #include <QKeyEvent>

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT Converts texts and paths between the core and Qt, unit by unit: nothing is
-// checked, replaced or cut off.
+// SPDX-License-Identifier: MIT
+// Converts texts and paths between the core and Qt, unit by unit: nothing is checked, replaced or cut off.
 #pragma once
 
 #include "text/PathText.h"

@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT Converts the filters of a FileDialogRequest for Qt's file dialogs.
+// SPDX-License-Identifier: MIT
+// Converts the filters of a FileDialogRequest for Qt's file dialogs.
 #pragma once
 
 #include <QString>

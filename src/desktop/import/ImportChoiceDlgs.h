@@ -1,4 +1,5 @@
-// SPDX-License-Identifier: MIT The questions of an import, apart from the choice of the document.
+// SPDX-License-Identifier: MIT
+// The questions of an import, apart from the choice of the document.
 #pragma once
 
 #include "desktop/dialogs/ChoiceDlg.h"

@@ -20,9 +20,10 @@ QString MenuCaption(const std::u16string& text) {
   return ToQString(text).replace("&", "&&");
 }
 
-/// Exams come from strangers. Only files that a program shows are opened, none that is a program, or a page
-/// that runs scripts of its own.
+/// Exams are untrusted. Only files that a program shows are opened, none that is a program or that may run
+/// scripts, as pages and SVG pictures do in a browser.
 bool MayBeOpened(const AttachedFile& file) {
+  if (ExtensionOf(file.copy) == "svg") return false;
   switch (KindOf(file.copy)) {
     case FileKind::Text:
     case FileKind::Document:

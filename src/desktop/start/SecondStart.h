@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT A second start on an application folder hands over to the first one, which
-// shows its window and opens the second one's exam.
+// SPDX-License-Identifier: MIT
+// A second start on an application folder hands over to the first one, which shows its window and opens the
+// second one's exam.
 #pragma once
 
 #include <QLocalServer>

@@ -1,5 +1,5 @@
-// SPDX-License-Identifier: MIT Text documents in a single XML file, from which LibreOffice makes documents of
-// other formats.
+// SPDX-License-Identifier: MIT
+// Text documents in a single XML file, from which LibreOffice makes documents of other formats.
 #pragma once
 
 #include <string>

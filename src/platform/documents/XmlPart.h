@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT XML of a package. Names are compared without their prefix: prefixes are up to
-// the program that wrote the file, and none of the names that matter here occurs in two namespaces.
+// SPDX-License-Identifier: MIT
+// XML of a package. Names are compared without their prefix: prefixes are up to the program that wrote the
+// file, and none of the names that matter here occurs in two namespaces.
 #pragma once
 
 #include "platform/WordDocuments.h"

@@ -56,12 +56,12 @@ TEST_F(AttachmentMenu, OpensOnlyFilesThatAreShown) {
   Opener opener;
   QDesktopServices::setUrlHandler("file", &opener, "Open");
   Open();
-  for (const char* file : {"one.jpg", "two.jar", "three.html"}) Attach("attachFiles", file);
+  for (const char* file : {"one.jpg", "two.jar", "three.html", "four.svg"}) Attach("attachFiles", file);
   auto& list = Control<AttachmentListBox>("examAttachments");
   list.setCurrentRow(0);
   EXPECT_TRUE(Choose("examAttachments", "openAttachment"));
   EXPECT_TRUE(opener.opened.toLocalFile().endsWith("one.jpg"));
-  for (const int row : {1, 2}) {
+  for (const int row : {1, 2, 3}) {
     list.setCurrentRow(row);
     EXPECT_FALSE(Choose("examAttachments", "openAttachment"));
   }
