@@ -15,13 +15,13 @@
 namespace quorvantis {
 namespace {
 
-/// A caption of a menu without the meaning that "&" has there.
+/// A menu caption in which "&" stands for itself.
 QString MenuCaption(const std::u16string& text) {
   return ToQString(text).replace("&", "&&");
 }
 
-/// Exams come from strangers. Only files that a program shows are opened, none that is a program, or a page
-/// that runs scripts of its own.
+/// Exams are untrusted. Only files that a program displays are opened: no programs, and no pages that run
+/// their own scripts.
 bool MayBeOpened(const AttachedFile& file) {
   switch (KindOf(file.copy)) {
     case FileKind::Text:
