@@ -22,8 +22,7 @@ struct Comparison {
   std::string what;
   std::string ours;  ///< names of two benchmarks
   std::string peer;
-  std::optional<double>
-      wanted;  ///< the upper bound that we aim for; nothing if the peer only shows what is possible
+  std::optional<double> wanted;  ///< the upper bound that we aim for, if the peer is not just for information
   Measure measure = Measure::Ratio;
 };
 

@@ -36,7 +36,7 @@ struct ShownAttachments {
 struct AttachedFile {
   std::u16string name;         ///< the display name
   std::filesystem::path copy;  ///< empty when the entry has none
-  bool hasContent = true;      ///< otherwise there is no copy, and that is no error
+  bool hasContent = true;      ///< otherwise there is no copy, and that is not an error
 };
 
 /// The two lists of attached files (the exam's and the current question's) and the oral toggle beside the
@@ -109,8 +109,7 @@ class AttachmentEditor {
   EditedExam& exam_;
   ShownAttachments questionList_;
   ShownAttachments examList_;
-  int attachmentCounter_ =
-      0;  ///< attachments in this run; never decreases, so that names of copies stay unique
+  int attachmentCounter_ = 0;  ///< attachments in this run; never decreases, so copy names stay unique
   int oralToggleState_ = 0;
   bool oralToggleShown_ = false;
 };

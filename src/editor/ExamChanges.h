@@ -17,7 +17,7 @@ class ExamChanges {
   ExamChanges(EditorState& state, EditedExam& exam, AttachmentEditor& attachments)
       : state_(state), exam_(exam), attachments_(attachments) {}
 
-  /// Replaces the whole document by `exam`.
+  /// Replaces the whole document with `exam`.
   void Replace(FrameSetExam exam) { exam_.Change() = std::move(exam); }
 
   /// Question numbers here run from 1 to 500.

@@ -7,8 +7,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kMostUnits =
-    80;  // as much as a person reads, and never more bytes than a file system allows
+constexpr std::size_t kMostUnits = 80;  // enough to read, and never too many bytes for a file system
 constexpr std::u16string_view kForbidden = u"/\\:*?\"<>|";  // by some system
 
 char16_t AllowedUnit(char16_t unit) {

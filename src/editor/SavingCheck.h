@@ -25,7 +25,7 @@ class SavingCheck {
   /// The exam does not come from a file.
   void Forget() { known_.reset(); }
 
-  /// Asks what to do about losses when an exam is to be saved to `file`: its own and that file's. Without
+  /// Asks what to do if a save to `file` would lose parts of the exam or of what is in the file. Without
   /// losses the answer is SaveAnyway.
   LossAnswer Ask(const std::filesystem::path& file, const std::vector<SavingLoss>& losses) const;
 

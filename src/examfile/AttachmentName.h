@@ -20,8 +20,8 @@ class FreeNames {
  public:
   explicit FreeNames(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-  /// `fileName` in the folder, with the first of "0", "1", … in front of it that makes it free, if it is
-  /// taken.
+  /// The path of `fileName` in the folder. If that is taken, the first of "0", "1", … that gives a free path
+  /// is put in front of the name.
   std::filesystem::path PathFor(const std::u16string& fileName);
 
  private:

@@ -152,7 +152,7 @@ void CQuorvantisDlg::Layout() {
   PlaceControls(scroll_, Controls(), editor_, services_.debug);
 }
 
-/// Without the file of import rules there is no import in this run.
+/// Without the file with the import rules, Import is not offered in this run.
 void CQuorvantisDlg::OfferImport() {
   if (CanRead(FindImportRules(services_.applicationFolder))) return;
   services_.debug.Line(u"CQuorvantisDlg::!file.Open");

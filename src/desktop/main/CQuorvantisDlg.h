@@ -41,7 +41,7 @@ class CQuorvantisDlg final : public FittedWindow,
   /// All must outlive the window: `exam`, the pages that its previews are composed into, the reader of
   /// documents to import, `office`, and the library that provides dialogs and pictures. Without `office`,
   /// office programs are left alone. Without a library the built-in pictures are used. `languageId` is the
-  /// language the user wants; previews are told.
+  /// language that the user wants; it is passed on to previews.
   CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers, OfficeControl* office,
                  DocumentExport exportDocument, const LanguageLibrary* library = nullptr,
                  int languageId = kEnglish);

@@ -20,7 +20,7 @@ struct ExamServices;
 struct ImportSettings;
 struct ReadPaper;
 
-/// Whether the exam is everything that its file holds.
+/// Whether the exam has everything that its file holds.
 enum class ReadDoubt {
   None,
   ReadInPart,  ///< the file could not be read to its end, or not at all

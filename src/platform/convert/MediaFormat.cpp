@@ -9,8 +9,8 @@ namespace {
 
 using Names = QSet<QByteArray>;
 
-/// Containers that hold their own content. Playlists and the like, which refer to other files, are missing on
-/// purpose: an untrusted file could refer to anything.
+/// Containers that hold their own content. Playlists and the like, which refer to other files, are
+/// deliberately not listed: an untrusted file could refer to anything.
 bool IsContainer(const QByteArray& format) {
   static const Names formats{"aac",    "ac3",       "aiff", "amr", "ape", "asf", "au",  "avi",
                              "caf",    "dv",        "flac", "flv", "m4v", "mov", "mp3", "mpeg",
