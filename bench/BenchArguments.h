@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The arguments of our own that benchmark programs take, before the library sees the others.
+// Command-line options of our benchmark programs, removed before the benchmark library parses the rest.
 #pragma once
 
 #include <algorithm>
@@ -10,7 +10,7 @@
 
 namespace quorvantis::bench {
 
-/// Takes the first argument that begins with `option` off the arguments, and returns what follows that.
+/// Removes the first argument that begins with `option` and returns the rest of it.
 inline std::optional<std::string> TakeArgument(int& count, char** arguments, std::string_view option) {
   for (int i = 1; i < count; ++i) {
     if (!std::string_view(arguments[i]).starts_with(option)) continue;
@@ -26,7 +26,7 @@ inline bool TakeFlag(int& count, char** arguments, std::string_view flag) {
   return TakeArgument(count, arguments, flag).has_value();
 }
 
-/// Takes --folder=DIR: where a benchmark keeps its files. The current folder without it.
+/// Takes --folder=DIR, the folder for a benchmark's files. Default: the current folder.
 inline std::filesystem::path TakeFolder(int& count, char** arguments) {
   return std::filesystem::absolute(TakeArgument(count, arguments, "--folder=").value_or("."));
 }

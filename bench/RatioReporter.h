@@ -10,24 +10,24 @@
 
 namespace quorvantis::bench {
 
-/// What a row of the table tells in its column "result".
+/// What the column "result" of the table shows for a row.
 enum class Measure {
-  Ratio,         ///< our time by the peer's
-  Beyond,        ///< the milliseconds that we take more than the peer
-  Milliseconds,  ///< our time; the peer only shows what the machine does
+  Ratio,         ///< our time divided by the peer's
+  Beyond,        ///< by how many milliseconds we are slower than the peer
+  Milliseconds,  ///< our time; the peer only shows what the machine can do
 };
 
-/// Something of ours beside the peer that it is measured against.
+/// One of our operations and the peer that it is compared with.
 struct Comparison {
   std::string what;
   std::string ours;  ///< names of two benchmarks
   std::string peer;
-  std::optional<double> wanted;  ///< what we aim to stay below; nothing where the peer only shows what can be
+  std::optional<double> wanted;  ///< the upper bound that we aim for, if the peer is not just for information
   Measure measure = Measure::Ratio;
 };
 
-/// Keeps the times of the runs and prints each comparison of their medians as a row. Prints the runs
-/// themselves too, unless only the rows are wanted.
+/// Records the times of the runs and prints each comparison of medians as a row. Also prints the runs
+/// themselves, unless only the rows are wanted.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
   RatioReporter(std::vector<Comparison> comparisons, bool rowsOnly)
@@ -45,11 +45,11 @@ class RatioReporter : public benchmark::ConsoleReporter {
   std::map<std::string, std::vector<double>> milliseconds_;
 };
 
-/// The program of a benchmark: runs what is registered and prints the comparisons. With --rows the rows are
-/// all that is printed, so that several programs make one table.
+/// The main function of a benchmark program: runs what is registered and prints the comparisons. With --rows
+/// only the rows are printed, so that several programs make one table.
 void RunComparisons(int argumentCount, char** arguments, std::vector<Comparison> comparisons);
 
-/// Prints a row of its own. Empty texts stay blank.
+/// Prints a separate row. Empty texts stay blank.
 void PrintRow(const std::string& what, const std::string& ours, const std::string& peer,
               const std::string& result, const std::string& wanted);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Importing documents, against LibreOffice's conversion of the same documents to text.
+// Importing documents, compared with LibreOffice's conversion of the same documents to text.
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
@@ -24,7 +24,7 @@ constexpr int kPictures = 200;
 
 fs::path folder;
 
-/// A picture of the size of a screenshot, whose pixels no compression makes disappear.
+/// A picture the size of a screenshot, with pixels that do not compress well.
 std::string Photo(int seed) {
   constexpr int kWidth = 640;
   constexpr int kHeight = 400;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Opening and saving exams of growing size, against copying and reading the same bytes.
+// Opening and saving exams of growing size, compared with copying and reading the same bytes.
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
@@ -25,7 +25,7 @@ using namespace quorvantis;
 constexpr int kQuestionCounts[] = {10, 100, kMaxQuestions};
 constexpr int kMegabytes[] = {1, 30, 300, 1000};
 constexpr int kPeakMegabytes = 300;
-constexpr int kAttachments = 10;  // each of a tenth of the size
+constexpr int kAttachments = 10;  // each a tenth of the total size
 
 fs::path folder = ".";
 std::istringstream noInput;
@@ -109,7 +109,7 @@ void CopyAndSync(benchmark::State& state, const fs::path& exam) {
   }
 }
 
-/// Largest memory, in MB, of a child process that opens and saves an exam.
+/// Peak memory, in MB, of a child process that opens and saves an exam.
 int PeakMemory(const fs::path& exam) {
   const pid_t child = ::fork();
   if (child == 0) {
@@ -131,7 +131,7 @@ benchmark::internal::Benchmark* Register(const std::string& name, Body body, con
   return benchmark::RegisterBenchmark(name.c_str(), run)->UseRealTime()->Unit(benchmark::kMillisecond);
 }
 
-/// So much is written that once a round is enough.
+/// Writes so much that one iteration per repetition is enough.
 void RegisterOnce(const std::string& name, Body body, const fs::path& exam) {
   Register(name, body, exam)->Iterations(1)->Repetitions(5);
 }
@@ -142,7 +142,8 @@ std::vector<bench::Comparison> RegisterAll() {
     const std::string size = std::to_string(count) + " questions";
     Register("open " + size, Open, PlainExam(count))->Repetitions(9);
     Register("read " + size, ReadBytes, PlainExam(count))->Repetitions(9);
-    const bool isMost = count == kMaxQuestions;  // in a small exam, making its folders is most of the work
+    const bool isMost =
+        count == kMaxQuestions;  // for a small exam most of the time goes into creating its folders
     rows.push_back({"open " + size + " / read the bytes", "open " + size, "read " + size, isMost ? 3.0 : 5.0,
                     isMost ? bench::Measure::Ratio : bench::Measure::Beyond});
   }
@@ -163,7 +164,7 @@ int main(int argumentCount, char** arguments) {
   folder = bench::TakeFolder(argumentCount, arguments) / "exam-file";
   fs::create_directories(folder);
   MakeExams();
-  const int peak = PeakMemory(HeavyExam(kPeakMegabytes));  // before this process has grown itself
+  const int peak = PeakMemory(HeavyExam(kPeakMegabytes));  // before this process grows
   bench::RunComparisons(argumentCount, arguments, RegisterAll());
   bench::PrintRow("peak memory, open and save with 300 MB", "", "", std::to_string(peak) + " MB", "< 40 MB");
   fs::remove_all(folder);

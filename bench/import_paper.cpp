@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Marking and parsing a paper of 500 questions, beside another engine that substitutes by the same rules and
-// takes the questions apart, each in one sweep. And a pass of 3000 replacements whose rule looks around.
+// Marking and parsing a paper of 500 questions, compared with another engine that substitutes by the same
+// rules and splits the questions in one sweep each. Also a pass of 3000 replacements whose rule looks around.
 #include "RatioReporter.h"
 #include "import/ImportMarkers.h"
 #include "import/QuestionTextParser.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A Qt window with one label, the peer of the main window's start.
+// A Qt window with one label, to compare the start of the main window with.
 #include <QApplication>
 #include <QLabel>
 

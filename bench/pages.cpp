@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Composing and writing the pages of a preview and a print, against one write of the same bytes.
+// Composing and writing the pages of a preview and a print, compared with one write of the same bytes.
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
@@ -23,7 +23,7 @@ std::istringstream noInput;
 std::ostringstream output;
 cli::Console console{noInput, output, std::cerr};
 
-/// Questions of the four kinds, each with a picture or a film.
+/// Questions of the four kinds, each with a picture or a video.
 class Pages {
  public:
   explicit Pages(int count) : session_(console, {folder, false}) {

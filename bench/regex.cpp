@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The pattern matcher beside other engines: every match in a paper of 1 MB, for patterns of import rules.
+// The pattern matcher compared with other engines: all matches in a paper of 1 MB, for patterns from import
+// rules.
 #include "RatioReporter.h"
 #include "regex/RegexPattern.h"
 
@@ -42,7 +43,7 @@ const std::u16string& OnePaper() {
   return paper;
 }
 
-/// "." matches line breaks in rules, which this peer can only be told with a class.
+/// "." matches line breaks in rules; for this peer that takes a character class.
 std::wstring ForStandard(std::u16string_view pattern) {
   std::wstring text;
   for (std::size_t i = 0; i < pattern.size(); ++i) {

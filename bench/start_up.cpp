@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Starting the command line, beside starting a program that does nothing.
+// Starting the command line, compared with starting a program that does nothing.
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 

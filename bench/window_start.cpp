@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// From the start of the process to the first frame of the main window that is painted, beside a Qt window
-// with one label. Seen from outside, on a display with a black background and no window manager, such as
-// Xvfb.
+// The time from the start of the process to the first painted frame of the main window, compared with a Qt
+// window with one label. Measured from outside, on a display with a black background and no window manager,
+// such as Xvfb.
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 
@@ -20,7 +20,7 @@ using namespace quorvantis;
 
 constexpr int kLongest = 20000;  // milliseconds
 
-/// Windows come up in the top left corner; they have no background until they are painted.
+/// Windows appear in the top left corner; they have no background until they are painted.
 bool IsCornerBlack() {
   const QImage corner = QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 4, 4).toImage();
   return (corner.pixel(2, 2) & RGB_MASK) == 0;

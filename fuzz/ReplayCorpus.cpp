@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Runs a fuzz target on every file of a folder, so that what fuzzing once found stays found.
+// Runs a fuzz target on every file of a folder, so that faults found by fuzzing do not come back.
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>

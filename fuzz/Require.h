@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-/// What must hold whatever the input.
+/// Checks a condition that must hold for any input.
 inline void Require(bool condition) {
   if (!condition) std::abort();
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Feeds any bytes to the reader of packages, as the main part, the lists or a picture of one, or as the
-// package itself: the first byte tells which. What is read must hold together.
+// Feeds any bytes to the package reader: as the main part, the lists or a picture of a package, or as the
+// package itself, depending on the first byte. The result must be consistent.
 #include "Require.h"
 #include "platform/documents/CompoundFile.h"
 #include "platform/documents/DocxReader.h"
@@ -64,7 +64,7 @@ void ReadPart(const std::filesystem::path& file, std::string_view main, std::str
 }
 
 void ReadPicture(std::string_view bytes) {
-  constexpr std::uint64_t kMostPixelsHere = 1'000'000;  // larger ones are only slower
+  constexpr std::uint64_t kMostPixelsHere = 1'000'000;  // larger ones only take longer
   const auto format = PictureFormat::Of(bytes);
   if (!format || format->IsMetafile() || format->width * format->height > kMostPixelsHere) return;
   PixelGrid pixels;

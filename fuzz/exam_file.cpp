@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Feeds any bytes to the exam reader, saves what it made of them and reads that again. What an exam file can
-// hold must survive; and whatever the names in the file say, nothing may appear outside the work folder.
+// Feeds any bytes to the exam reader, saves the result and reads that again. Everything that an exam file can
+// hold must survive; and whatever names the file contains, nothing may appear outside the work folder.
 //
-// An input is run-length coded, since exam files are mostly zeros: a byte 00 is followed by a count, and
-// stands for 16 times that many zero bytes; every other byte stands for itself.
+// The input is run-length coded, since exam files are mostly zeros: a byte 00 is followed by a count and
+// stands for 16 times that many zero bytes, plus one; every other byte stands for itself.
 #include "Require.h"
 #include "examfile/ExamFileReader.h"
 #include "platform/posix/PosixFiles.h"
@@ -19,7 +19,7 @@ namespace {
 using namespace quorvantis;
 
 std::string ExpandZeros(const std::uint8_t* data, std::size_t size) {
-  constexpr std::size_t kMaxFile = 1 << 20;  // larger files only repeat what smaller ones do, slowly
+  constexpr std::size_t kMaxFile = 1 << 20;  // larger files do the same as smaller ones, only slower
   std::string bytes;
   for (std::size_t i = 0; i < size && bytes.size() < kMaxFile; ++i) {
     if (data[i] != 0) {
@@ -33,13 +33,13 @@ std::string ExpandZeros(const std::uint8_t* data, std::size_t size) {
 }
 
 bool SameQuestion(const ExamQuestion& a, const ExamQuestion& b) {
-  // A fill-in answer is cut to the short form unless it was stored in the long one; see ExamFileWriter.
+  // A fill-in answer is cut to the short form unless it was stored in the long form; see ExamFileWriter.
   return a.text == b.text && a.options == b.options && a.answerLetters == b.answerLetters &&
          a.answerText.substr(0, kMaxShortAnswer) == b.answerText.substr(0, kMaxShortAnswer) &&
          a.essayAnswer == b.essayAnswer && a.kind == b.kind && a.answerMask == b.answerMask;
 }
 
-/// The application folder holds "TEMP" and the file itself, and nothing lies beside it.
+/// The application folder contains "TEMP" and the file itself, and nothing else.
 void RequireNothingOutside(const std::filesystem::path& folder) {
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     const auto name = entry.path().filename();
@@ -70,7 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   second.SetHostMode(1);
   second.ReadExamFile(folder / "out.exm");
   Require(second.questionCount == count);
-  if (outcome.endsEarly) return 0;  // the last question was not cleaned by its kind
+  if (outcome.endsEarly) return 0;  // the last question was not reduced to the data of its kind
   for (int n = 1; n <= count; ++n) Require(SameQuestion(first.Question(n), second.Question(n)));
   return 0;
 }

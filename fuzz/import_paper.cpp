@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Marks and parses any paper by any rules. Nothing may crash, an import that ends without a result names a
-// rule, and whatever is read fits the exam.
+// rule, and everything that is read fits the exam.
 //
-// An input is UTF-8; the rules come first, each ended by a line feed, in the order of kRules. The rest is the
-// paper.
+// The input is UTF-8: first the rules, each ended by a line feed, in the order of kRules, then the paper.
 #include "Require.h"
 #include "import/QuestionTextParser.h"
 #include "import/TextMarking.h"
@@ -41,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     rules.*rule = rest.substr(0, end);
     rest.remove_prefix(end == rest.npos ? rest.size() : end + 1);
   }
-  // Some patterns take for ever, which is what the user's Escape is for.
+  // Some patterns take forever; the user's Escape is for those.
   const auto limit = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
   const CancelHook isCancelled = [limit] { return std::chrono::steady_clock::now() > limit; };
   test::RecordingDebug debug;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Takes any bytes for what the command line is given as JSON: the description of an exam, the responses to
-// one, and the lines of an editing script. What cannot be used is a CommandError, and an exam that was made
-// is the same after another way through its description.
+// Feeds any bytes to the JSON inputs of the command line: the description of an exam, responses to an exam,
+// and the lines of an editing script. Unusable input is a CommandError, and an exam that was built must be
+// the same after another round trip through its description.
 #include "cli/CommandError.h"
 #include "cli/EditScriptLine.h"
 #include "cli/ExamFromJson.h"
@@ -21,7 +21,7 @@ namespace {
 
 using namespace quorvantis;
 
-constexpr int kComparedQuestions = 5;  // describing all 500 would be most of the work
+constexpr int kComparedQuestions = 5;  // describing all 500 would take most of the time
 
 void FollowDescription(const nlohmann::json& json, const test::TemporaryFolder& folder) {
   static PosixFiles files;
@@ -49,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       for (const auto& argument : cli::ParseScriptLine(line).arguments) argument.Index();
     }
   } catch (const cli::CommandError&) {
-    // A line that cannot be taken apart; the whole may still be JSON.
+    // A line that cannot be split; the whole may still be JSON.
   }
   try {
     FollowDescription(cli::ParseJsonFile(test::WriteBytes(folder / "exam.json", bytes)), folder);

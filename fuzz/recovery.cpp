@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Feeds any bytes to the reader of recovery copies, as a whole file and as the snapshot in one, which the
-// checksum of the file would keep from being tried. What is read must be an exam that an editor can show.
+// Feeds any bytes to the reader of recovery copies, both as a whole file and as the snapshot inside one,
+// which the file's checksum would otherwise protect. The result must be an exam that an editor can show.
 #include "editor/UnseenView.h"
 #include "platform/posix/PosixFiles.h"
 #include "recovery/ExamSnapshot.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Compiles any bytes as a pattern and matches it. Whatever comes out must lie in the text, and when it is
-// replaced, a search from where that is enough must find what one from the first unit finds.
+// Compiles any bytes as a pattern and matches it. The result must lie within the text. After a replacement, a
+// search from the place where that is enough must find the same as a search from the first unit.
 //
-// The first byte holds the flags, then comes the pattern as UTF-8 up to a byte FF, then the text.
+// The first byte holds the flags; the pattern follows as UTF-8 up to a byte FF, then the text.
 #include "Require.h"
 #include "regex/RegexFlags.h"
 #include "regex/RegexPattern.h"
@@ -26,7 +26,8 @@ void CheckBounds(const MatchResult& result, int length) {
   }
 }
 
-/// Replaces a match, and compares the search that begins where that is enough with one from the first unit.
+/// Replaces a match, then compares the search from the place where that is enough with a search from the
+/// first unit.
 template <class Match>
 void CheckResumption(const MatchResult& result, std::u16string text, FailedStarts& failed,
                      const Match& match) {

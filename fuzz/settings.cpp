@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Takes any bytes for a settings file ("system.ini", "ImportExam.ini"), in UTF-8, UTF-16 or an 8-bit code
-// page. Nothing may crash, and a value that is set is read back while every other value stays.
+// Feeds any bytes to the settings reader ("system.ini", "ImportExam.ini"), as UTF-8, UTF-16 or an 8-bit code
+// page. Nothing may crash, and after a value is set it is read back and every other value stays.
 #include "Require.h"
 #include "import/ExamImport.h"
 #include "ini/ProfileFile.h"
@@ -28,7 +28,8 @@ void ChangeOneValue(const std::filesystem::path& path, const CodePage& codePage)
   if (!file.SetValue(kSection, kKey, kNewValue)) return;
   Require(file.Value(kSection, kOtherKey) == other);
   Require(file.Value(u"Repository", u"Size") == elsewhere);
-  // Read anew, 8-bit text may pass for UTF-8, when the only bytes that were not were in the changed line.
+  // Read again, 8-bit text may pass for UTF-8 if the only bytes that were not valid UTF-8 were in the changed
+  // line.
   test::WriteBytes(path, file.Bytes());
   Require(ProfileFile(path, &codePage).Value(kSection, kKey) == kNewValue);
 }

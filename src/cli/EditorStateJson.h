@@ -7,7 +7,7 @@
 
 namespace quorvantis::cli {
 
-/// What the window would show, and the attachment lists of the document behind it.
+/// What the window would show, and the document's attachment lists behind it.
 nlohmann::ordered_json EditorStateToJson(const ExamEditor& editor);
 
 }  // namespace quorvantis::cli

@@ -14,8 +14,8 @@
 namespace quorvantis::cli {
 namespace {
 
-/// Takes the fields that a description has. It need not tell what follows from others, and it can tell the
-/// kind in two ways (TakeKind).
+/// Takes the fields that a description contains. It may leave out derived values, and may give the kind in
+/// two ways (TakeKind).
 class FieldsFromJson {
  public:
   explicit FieldsFromJson(const JsonNode& node) : node_(node) {}
@@ -68,7 +68,7 @@ void TakeScoreRanges(const JsonNode& node, ExamPaper& exam) {
   }
 }
 
-/// By its name or, where there is none, by its number.
+/// By name or, if there is none, by number.
 void TakeKind(const JsonNode& node, QuestionKind& kind) {
   if (!node.Has("kind")) return TakeNumber(node, FieldNamed(ExamFieldName::Kind).key, kind);
   const JsonNode name = node.Member("kind");

@@ -28,7 +28,7 @@ Json AttachmentsToJson(const AttachmentList& names, const AttachmentList& paths)
   return list;
 }
 
-/// Puts fields under their keys.
+/// Writes fields under their keys.
 class FieldsToJson {
  public:
   explicit FieldsToJson(Json& json) : json_(json) {}
@@ -36,7 +36,7 @@ class FieldsToJson {
   template <class Value>
   void operator()(const FieldRow& field, const Value& value) const {
     json_[field.key] = ToJson(value);
-    // The mask is made of the letters and has its place behind them.
+    // The mask is derived from the letters and comes after them.
     if (field.name == ExamFieldName::AnswerLetters) json_[FieldNamed(ExamFieldName::AnswerMask).key];
   }
 

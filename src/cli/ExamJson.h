@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An exam as JSON, the form that `show --json` prints and `build` reads.
+// An exam as JSON: the format that `show --json` prints and `build` reads.
 #pragma once
 
 #include "examfile/ExamFileReader.h"
@@ -9,7 +9,7 @@
 
 namespace quorvantis::cli {
 
-/// One attached file of a list.
+/// One file of an attachment list.
 struct AttachedFile {
   std::u16string name;
   std::filesystem::path path;
@@ -18,7 +18,7 @@ struct AttachedFile {
 /// The entries of an attachment list that have a path.
 std::vector<AttachedFile> AttachedFiles(const AttachmentList& names, const AttachmentList& paths);
 
-/// What the exam file held, with size and hash of each unpacked file.
+/// The content of the exam file, with size and hash of each unpacked file.
 nlohmann::ordered_json ExamToJson(const FrameSetExam& exam, const ExamReadOutcome& outcome);
 
 }  // namespace quorvantis::cli

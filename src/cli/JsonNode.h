@@ -9,11 +9,11 @@
 
 namespace quorvantis::cli {
 
-/// A value of a JSON description with the place where it stands, for error messages. Every access that does
-/// not fit throws CommandError with that place.
+/// A value in a JSON description and its place there, for error messages. Any access that does not fit the
+/// value throws CommandError with that place.
 class JsonNode {
  public:
-  /// `value` must outlive the node. An empty place is the description as a whole.
+  /// `value` must outlive the node. An empty place stands for the whole description.
   JsonNode(const nlohmann::json& value, std::string place) : value_(value), place_(std::move(place)) {}
 
   [[noreturn]] void Fail(const std::string& what) const;
@@ -34,7 +34,7 @@ class JsonNode {
   std::string place_;
 };
 
-/// Takes a member over where there is one.
+/// Reads a member if there is one.
 void TakeText(const JsonNode& node, const char* member, std::u16string& text);
 
 template <class Number>
@@ -42,7 +42,7 @@ void TakeNumber(const JsonNode& node, const char* member, Number& number) {
   if (node.Has(member)) number = static_cast<Number>(node.Member(member).Integer());
 }
 
-/// Parses a whole file. Throws CommandError when it cannot be read or is no JSON.
+/// Parses a whole file. Throws CommandError if it cannot be read or is not JSON.
 nlohmann::json ParseJsonFile(const std::filesystem::path& file);
 
 }  // namespace quorvantis::cli

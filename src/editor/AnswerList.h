@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The fill-in answer line: several answers with kListSeparator between them. A separator is open when nothing
-// but blanks follows it.
+// The fill-in answer line: several answers separated by kListSeparator. A separator is open when only blanks
+// follow it.
 #pragma once
 
 #include <string>
@@ -8,10 +8,10 @@
 
 namespace quorvantis {
 
-/// The line as it is stored: an open separator at its end is cut off with the blanks behind it.
+/// The line as it is stored: without an open separator at its end and the blanks after it.
 std::u16string WithoutOpenSeparator(std::u16string_view line);
 
-/// The line prepared for one more answer: it ends in a separator, unless it is empty. A line of blanks alone
+/// The line prepared for one more answer: it ends with a separator unless it is empty. A line of only blanks
 /// becomes empty.
 std::u16string WithOpenSeparator(std::u16string_view line);
 

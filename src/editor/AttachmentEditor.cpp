@@ -42,7 +42,7 @@ bool AttachmentEditor::IsMissing(const std::u16string& copy) const {
          !std::filesystem::is_regular_file(TextToPath(copy), ignored);
 }
 
-/// Fills a list from those of the document.
+/// Fills a list from the document's.
 void AttachmentEditor::Fill(ShownAttachments& list, const AttachmentList& names,
                             const AttachmentList& paths) const {
   const auto count = static_cast<std::ptrdiff_t>(CountEntries(names));
@@ -54,7 +54,7 @@ void AttachmentEditor::Fill(ShownAttachments& list, const AttachmentList& names,
   list.visible = count > 0;
 }
 
-/// Appends an entry and gives its index, which is also its place in the document's lists.
+/// Appends an entry and returns its index, which is also its index in the document's lists.
 std::size_t AttachmentEditor::AppendEntry(ShownAttachments& list, const std::u16string& name,
                                           const std::filesystem::path& copy) const {
   list.names.push_back(name);
@@ -172,8 +172,8 @@ void AttachmentEditor::ShiftAttachmentsForInsert(int question) {
   questionList_ = {};
 }
 
-/// Refreshed by loading, attaching, removing and toggling only: selecting an entry by itself does not bring
-/// the toggle up. A question that is not oral loses its flag by being shown.
+/// Refreshed only by loading, attaching, removing and toggling: selecting an entry does not make the toggle
+/// appear by itself. A question that is not oral loses its flag when it is shown.
 void AttachmentEditor::UpdateOralToggle() {
   if (!AnswerOf(state_.CurrentKind()).oral) {
     ChangeCurrent().oralFlag = 0;

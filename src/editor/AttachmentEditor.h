@@ -18,14 +18,14 @@ enum class AttachedTo { Exam, Question };
 /// A list of attached files as the window shows it: display names, at most one of them selected.
 struct ShownAttachments {
   std::vector<std::u16string> names;
-  std::vector<bool> missing;  ///< of each entry, whether its work copy was missing when it was listed
+  std::vector<bool> missing;  ///< per entry: its work copy was missing when it was listed
   std::optional<std::size_t> selected;
-  bool visible = false;  ///< only while it holds entries
+  bool visible = false;  ///< only while it has entries
 
   bool IsFull() const { return names.size() >= kMaxAttachments; }
 
-  /// Deliberate: only a list in which several entries can be selected would obey, and these are none. Yet it
-  /// is all that a list does about the kind of a file.
+  /// Deliberate: only a list that allows several selected entries would act on this, and these lists do not.
+  /// It is also the only thing that a list does with the kind of a file.
   void RequestSelection(std::size_t entry, bool state) {
     if (selectsSeveral && entry < names.size()) selected = state ? std::optional(entry) : std::nullopt;
   }
@@ -36,60 +36,61 @@ struct ShownAttachments {
 struct AttachedFile {
   std::u16string name;         ///< the display name
   std::filesystem::path copy;  ///< empty when the entry has none
-  bool hasContent = true;      ///< otherwise there is no copy, and none is missing
+  bool hasContent = true;      ///< otherwise there is no copy, and that is not an error
 };
 
-/// The two lists of attached files, the exam's and the shown question's, and the oral toggle beside the
-/// latter. Changes go into the document at once; removing and toggling do not count as a change of the exam.
+/// The two lists of attached files (the exam's and the current question's) and the oral toggle beside the
+/// question's list. Changes go into the document at once; removing and toggling do not mark the exam as
+/// modified.
 class AttachmentEditor {
  public:
   /// Both must outlive the editor.
   AttachmentEditor(EditorState& state, EditedExam& exam) : state_(state), exam_(exam) {}
 
-  /// Lets the user choose a file and attaches it. Nothing happens when the list already has ten entries.
+  /// Lets the user choose a file and attaches it. Does nothing when the list already has ten entries.
   void AttachExamFile();
   void AttachQuestionFile();
 
-  /// Attaches the file at `source`, a full path, without asking.
+  /// Attaches the file at `source`, a full path, without a dialog.
   void AttachExamFile(const std::filesystem::path& source);
   void AttachQuestionFile(const std::filesystem::path& source);
 
   void SelectExamFile(std::optional<std::size_t> index) { examList_.selected = index; }
   void SelectQuestionFile(std::optional<std::size_t> index) { questionList_.selected = index; }
 
-  /// The Delete key in a list; nothing happens when nothing is selected. The copied file stays.
+  /// The Delete key in a list; does nothing without a selection. The work copy stays.
   void RemoveSelectedAttachment(AttachedTo list);
 
-  /// 1 for the name of a film or an animation, by its extension; else 0.
+  /// 1 if the extension is that of a film or an animation, otherwise 0.
   static int IsVideoLike(std::u16string_view fileName);
 
-  /// The selected entry; nothing when none is.
+  /// The selected entry, if there is one.
   std::optional<AttachedFile> SelectedExamFile() const;
   std::optional<AttachedFile> SelectedQuestionFile() const;
 
-  /// Switches the oral flag of the question shown.
+  /// Switches the oral flag of the current question.
   void ToggleOral();
 
-  /// Makes the oral toggle ready to be used although it does not show: its state is the flag of the question
-  /// shown.
+  /// Makes the oral toggle usable while it is hidden: it takes its state from the flag of the current
+  /// question.
   void ReadOralFlag();
 
-  /// Fill a list anew from the document.
+  /// Refill a list from the document.
   void RefreshQuestionList();
   void RefreshExamList();
 
-  /// The number for the next work copy; no other gets it.
+  /// The number for the next work copy; each is given out once.
   int TakeCopyNumber() { return ++attachmentCounter_; }
 
-  /// Keep the lists in step with a question that is deleted or inserted.
+  /// Keep the lists in step when a question is deleted or inserted.
   void RemoveQuestionAttachments(int question);
   void ShiftAttachmentsForInsert(int question);
 
   const ShownAttachments& QuestionList() const { return questionList_; }
   const ShownAttachments& ExamList() const { return examList_; }
 
-  /// The toggle can be seen: the question is oral, its list shows and an entry was selected when it last
-  /// changed.
+  /// The toggle is visible: the question is oral, its list is shown, and an entry was selected when the
+  /// toggle was last refreshed.
   bool OralToggleVisible() const;
   std::u16string OralToggleCaption() const;
 
@@ -108,7 +109,7 @@ class AttachmentEditor {
   EditedExam& exam_;
   ShownAttachments questionList_;
   ShownAttachments examList_;
-  int attachmentCounter_ = 0;  ///< attachments of this run; never goes back, so that copy names stay unique
+  int attachmentCounter_ = 0;  ///< attachments in this run; never decreases, so copy names stay unique
   int oralToggleState_ = 0;
   bool oralToggleShown_ = false;
 };

@@ -14,7 +14,7 @@ void CopyLists(const ExamQuestion& from, ExamQuestion& to) {
   to.attachmentNames = from.attachmentNames;
 }
 
-/// Empties a slot's entries up to the first one without a path; what lies behind a gap stays.
+/// Empties a slot's entries up to the first one without a path; entries after a gap stay.
 void EmptyLists(ExamQuestion& question) {
   const std::size_t count = CountEntries(question.attachmentPaths);
   for (std::size_t i = 0; i < count; ++i) {
@@ -23,7 +23,7 @@ void EmptyLists(ExamQuestion& question) {
   }
 }
 
-/// Moves the entries behind `index` down by one; entry `last` then takes `replacement`.
+/// Moves the entries after `index` down by one; entry `last` then becomes `replacement`.
 void CloseGap(AttachmentList& list, std::size_t index, std::size_t last, std::u16string replacement) {
   for (std::size_t i = index; i < last; ++i) list[i] = list[i + 1];
   list[last] = std::move(replacement);

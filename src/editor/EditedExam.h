@@ -5,12 +5,12 @@
 
 namespace quorvantis {
 
-/// The right to change the exam that is being edited. The classes of the editor have it, and nobody else:
-/// others read `EditorState::document` and have the editor change it, by its commands or by ExamChanges. So
-/// whatever has to know of every change finds it here.
+/// The right to change the exam that is being edited. Only the classes of the editor have it: everyone else
+/// reads `EditorState::document` and changes it through the editor's commands or ExamChanges. So anything
+/// that must know about every change can find it here.
 class EditedExam {
  public:
-  /// `exam` must outlive this. From now on its owner leaves it alone.
+  /// `exam` must outlive this. From now on its owner must not change it.
   explicit EditedExam(FrameSetExam& exam) : exam_(exam) {}
 
   const FrameSetExam& Read() const { return exam_; }

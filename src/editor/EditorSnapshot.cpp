@@ -11,7 +11,7 @@
 namespace quorvantis {
 namespace {
 
-/// Beside the folders that are named after where attached files come from.
+/// Lies beside the folders that are named after the origin of attached files.
 constexpr const char* kSetAsideFolder = ".set-aside";
 
 void AppendPaths(const AttachmentList& list, std::vector<std::filesystem::path>& files) {
@@ -20,7 +20,7 @@ void AppendPaths(const AttachmentList& list, std::vector<std::filesystem::path>&
   }
 }
 
-/// What previews have set counts for the run, whatever exam they showed.
+/// Settings made by previews hold for the whole run, whichever exam was shown.
 void KeepPreviewSettings(const FrameSetExam& latest, FrameSetExam& restored) {
   restored.previewPrefixes = latest.previewPrefixes;
   restored.pageRenderer.mediaSuppressed = latest.pageRenderer.mediaSuppressed;

@@ -9,24 +9,24 @@
 
 namespace quorvantis {
 
-/// The exam in an editor as it was at some time: the document, what was typed and not stored, and the work
-/// copies of attached files.
+/// The exam in an editor as it was at some point: the document, text that was typed but not stored, and the
+/// work copies of attached files.
 class EditorSnapshot {
  public:
   /// `editor` must outlive this.
   explicit EditorSnapshot(ExamEditor& editor);
 
-  /// Keeps the exam as it is now, in the place of an earlier one.
+  /// Keeps the exam as it is now, replacing an earlier snapshot.
   void Take();
 
-  /// Something is kept, and the user has not begun with another exam since.
+  /// There is a snapshot, and the user has not begun another exam since.
   bool IsUsable() const { return kept_ && kept_->examsBegun == editor_.state.ExamsBegun(); }
 
-  /// The kept exam as it would be with the form stored; there must be one.
+  /// The kept exam as it would be with the form stored. There must be a snapshot.
   FrameSetExam StoredExam() const;
 
-  /// Makes the editor's exam what is kept, which then is no more. It counts as modified if it did, or if what
-  /// came after it has been saved.
+  /// Restores the snapshot in the editor and discards it. The exam counts as modified if it was when the
+  /// snapshot was taken, or if a later state has been saved.
   void Restore();
 
  private:

@@ -32,7 +32,7 @@ void EditorState::SetFileName(std::filesystem::path fileName) {
 
 void EditorState::MarkSaved() {
   modified_ = titleTells_ = false;
-  contentChangeQueued_ = false;  // what it would report has been saved
+  contentChangeQueued_ = false;  // the change that it would report has been saved
   view.TitleChanged();
 }
 

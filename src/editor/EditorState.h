@@ -15,9 +15,9 @@ inline constexpr const char* kUntitled = "UnTitle";
 /// No question has been loaded yet.
 inline constexpr auto kNoKind = static_cast<QuestionKind>(-1);
 
-/// What is being edited: the document, the question shown and whether there is something to save. Shared by
-/// the classes of the editor; one for the window's whole life. Only they change the document (see
-/// EditedExam).
+/// What is being edited: the document, the current question, and whether there are unsaved changes. Shared by
+/// the classes of the editor; there is one for the window's whole life. Only those classes change the
+/// document (see EditedExam).
 class EditorState {
  public:
   /// Both must outlive the state.
@@ -31,10 +31,10 @@ class EditorState {
   QuestionKind CurrentKind() const { return currentKind_; }
   const ExamQuestion& Current() const { return document.Question(currentQuestion_); }
 
-  /// Counts the exams that the user has opened or made anew.
+  /// Counts the exams that the user has opened or created.
   int ExamsBegun() const { return examsBegun_; }
   void CountExamBegun() { ++examsBegun_; }
-  /// Counts how often an exam has been saved.
+  /// Counts the saves.
   int Saves() const { return saves_; }
   void CountSave() { ++saves_; }
 
@@ -43,24 +43,24 @@ class EditorState {
   /// Full path of the exam file, or kUntitled.
   const std::filesystem::path& FileName() const { return fileName_; }
 
-  /// The text for the window's title bar; " *" at its end while there is something to save.
+  /// The text of the window's title bar; ends in " *" while there are unsaved changes.
   std::u16string WindowTitle() const;
 
   void MarkModified();
-  /// Deliberate: the title does not tell, neither now nor when a field reports a change later. Import does
-  /// it.
+  /// Deliberate: the title does not show the change, neither now nor when a field reports one later. Used by
+  /// import.
   void MarkModifiedQuietly() { modified_ = true; }
-  /// File dialogs begin where the exam lies; after kUntitled, where the last one did.
+  /// File dialogs start in the folder of the exam; after kUntitled, where the last one did.
   void SetFileName(std::filesystem::path fileName);
-  /// The document is what the file holds.
+  /// The document now equals the file.
   void MarkSaved();
 
-  /// A field reports a change. It counts as MarkModified, but only after the command in hand.
+  /// A field reports a change. It counts as MarkModified, but only after the current command.
   void QueueContentChanged();
   void DeliverContentChanged();
 
  private:
-  friend class QuestionEditor;  // it alone walks, and changes the kind
+  friend class QuestionEditor;  // the only class that changes the current question and its kind
 
   int currentQuestion_ = 1;
   QuestionKind currentKind_ = kNoKind;
@@ -68,7 +68,7 @@ class EditorState {
   int saves_ = 0;
   std::filesystem::path fileName_ = kUntitled;
   bool modified_ = false;
-  bool titleTells_ = false;  ///< of changes
+  bool titleTells_ = false;  ///< the title shows changes
   bool contentChangeQueued_ = false;
 };
 

@@ -3,24 +3,23 @@
 
 namespace quorvantis {
 
-/// What the editor tells the window that shows it. The window then takes the values it needs from the editor;
+/// What the editor tells the window that shows it. The window then reads the values it needs from the editor;
 /// none of these calls may run an editor command.
 class EditorView {
  public:
   virtual ~EditorView() = default;
 
-  /// Another question is shown: fill every field anew and forget what could be undone in it. FormChanged
-  /// follows.
+  /// Another question is shown: refill every field and clear its undo history. FormChanged follows.
   virtual void FormLoaded() = 0;
 
-  /// Something beside the typed texts may have changed: kind, lists, captions, what is visible, or a text
-  /// that a command wrote. Fields that still hold the form's value are to be left alone.
+  /// Something other than the typed text may have changed: kind, lists, captions, visibility, or a text that
+  /// a command wrote. Leave fields alone that still hold the form's value.
   virtual void FormChanged() = 0;
 
   /// The window title may have changed.
   virtual void TitleChanged() = 0;
 
-  /// A field reported a change: call EditorState::DeliverContentChanged once the command in hand has ended.
+  /// A field reported a change: call EditorState::DeliverContentChanged once the current command has ended.
   virtual void PostContentChanged() = 0;
 };
 

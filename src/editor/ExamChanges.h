@@ -7,28 +7,28 @@
 
 namespace quorvantis {
 
-/// What other parts of the program change in the exam that is being edited: import, recovery, the score setup
-/// and the pages. Whoever prepares more than one field does so in a copy of the document, and hands that
-/// over. The form stays as it is, and with it what has not been stored; only removing a question empties the
-/// list of attached files that is shown.
+/// Changes to the edited exam by other parts of the program: import, recovery, score setup and the pages. To
+/// change more than one field, prepare a copy of the document and hand that over. The form stays as it is,
+/// including what has not been stored; only removing a question clears the list of attached files that is
+/// shown.
 class ExamChanges {
  public:
-  /// All must outlive this.
+  /// All must outlive this object.
   ExamChanges(EditorState& state, EditedExam& exam, AttachmentEditor& attachments)
       : state_(state), exam_(exam), attachments_(attachments) {}
 
-  /// Puts `exam` in the place of the whole document.
+  /// Replaces the whole document with `exam`.
   void Replace(FrameSetExam exam) { exam_.Change() = std::move(exam); }
 
-  /// Question numbers here are 1 to 500.
+  /// Question numbers here run from 1 to 500.
   void SetQuestion(int number, ExamQuestion question) {
     exam_.Change().Question(number) = std::move(question);
   }
 
-  /// Removes a question with its list of attached files; those after it move down.
+  /// Removes a question with its list of attached files; later ones move down.
   void RemoveQuestion(int number);
 
-  /// Takes the score mode and the score ranges of `exam`, which counts as a change by the user.
+  /// Takes over the score mode and score ranges of `exam`. This counts as a change by the user.
   void SetScores(const ExamPaper& exam);
 
   void CountQuestions() { exam_.Change().CountQuestions(); }
@@ -38,7 +38,7 @@ class ExamChanges {
 
   void SetRenderOption(int option) { exam_.Change().SetRenderOption(option); }
 
-  /// Keeps what the writers of pages have noted in a copy of the document, for the pages of later commands.
+  /// Keeps what the page writers noted in a copy of the document, for the pages of later commands.
   void KeepPageNotes(const FrameSetExam& pages);
 
  private:

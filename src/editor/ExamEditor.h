@@ -10,10 +10,10 @@
 
 namespace quorvantis {
 
-/// The editor as a whole, as the window and the command line drive it.
+/// The whole editor, as the window and the command line use it.
 class ExamEditor {
  public:
-  /// Both must outlive the editor. From now on the editor alone changes `document`.
+  /// Both must outlive the editor. From now on only the editor changes `document`.
   ExamEditor(FrameSetExam& document, EditorView& view, DocumentExport exportDocument)
       : exam_(document),
         state(document, view),

@@ -108,7 +108,8 @@ void ExamFileCommands::SaveExamAs() {
   SaveAs();
 }
 
-/// False when the user went back to the exam; a save that failed, or whose file dialog was closed, is none.
+/// False only when the user went back to the exam. A save that failed, or whose file dialog was cancelled,
+/// still gives true.
 bool ExamFileCommands::Save() {
   return state_.IsUntitled() ? SaveAs() : StoreAndWrite(state_.FileName());
 }
@@ -134,7 +135,7 @@ std::optional<std::filesystem::path> ExamFileCommands::ChooseTarget() {
   return file && !file->empty() ? file : std::nullopt;
 }
 
-/// False when the user went back to the exam, which then is as it was.
+/// False when the user went back to the exam, which is then unchanged.
 bool ExamFileCommands::StoreAndWrite(const std::filesystem::path& file) {
   const LossAnswer answer = AskAboutLosses(file);
   if (answer == LossAnswer::GoBack) return false;

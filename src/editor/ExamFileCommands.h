@@ -13,19 +13,19 @@
 
 namespace quorvantis {
 
-/// Writes the exam as a word-processor document; tells the user itself how it went.
+/// Writes the exam as a word-processor document and reports the result to the user itself.
 using DocumentExport = std::function<void(const FrameSetExam& exam, const std::filesystem::path& target)>;
 
-/// What follows the last dot of the whole path, in lower case; the whole path when it has no dot. Save As
-/// goes by it.
+/// The text after the last dot of the whole path, in lower case; the whole path when it has no dot. Decides
+/// what Save As writes.
 std::u16string LowerExtension(const std::filesystem::path& path);
 
-/// New, Open, Save, Save As and the question before an exam is left. Who wants to save is told first what
-/// that would lose, and can go back; then New, Open and closing do not go on either. Reading and writing
-/// report their own failures; the editor goes on with whatever the document holds.
+/// New, Open, Save, Save As and the question before an exam is left. Before a save the user is told what it
+/// would lose and can go back, which cancels New, Open and closing too. Reading and writing report their own
+/// failures; the editor continues with whatever the document holds.
 class ExamFileCommands {
  public:
-  /// All must outlive the commands.
+  /// All must outlive this object.
   ExamFileCommands(EditorState& state, EditedExam& exam, QuestionEditor& questions,
                    DocumentExport exportDocument)
       : state_(state),
@@ -34,16 +34,17 @@ class ExamFileCommands {
         check_(state),
         exportDocument_(std::move(exportDocument)) {}
 
-  /// From now on: who keeps what is not saved, which must outlive the commands or be taken back with null.
+  /// From now on `unsavedWork` keeps unsaved changes safe. It must outlive the commands or be reset with
+  /// null.
   void SetUnsavedWork(UnsavedWork* unsavedWork) { unsavedWork_ = unsavedWork; }
-  /// From now on: whether saving keeps the file that it replaces as a backup.
+  /// From now on: whether a save keeps the file that it replaces as a backup.
   void SetBackups(bool keepsBackups) { keepsBackups_ = keepsBackups; }
-  /// From now on: every long fill-in answer is saved whole, also one that was loaded and not shown since.
-  /// Otherwise only those that have been stored here are, as other programs expect it.
+  /// From now on every long fill-in answer is saved in full, even one that was loaded and never shown.
+  /// Otherwise only answers stored in this editor are, as other programs expect.
   void SetLongAnswersWhole(bool whole) { longAnswersWhole_ = whole; }
 
   void NewExam();
-  /// The same without a question.
+  /// The same without asking.
   void StartNewExam();
   /// Empties the exam; its file name stays.
   void EmptyExam();
@@ -52,14 +53,14 @@ class ExamFileCommands {
   /// Opens `file`, a full path, without a file dialog.
   void OpenExam(const std::filesystem::path& file);
 
-  /// An exam without a file name is saved as SaveExamAs does.
+  /// An exam without a file name is saved as by SaveExamAs.
   void SaveExam();
   void SaveExamAs();
 
-  /// Asks about unsaved changes; false when the window is to stay open.
+  /// Asks about unsaved changes; false when the window must stay open.
   bool ConfirmClose();
 
-  /// Deletes the files that the reader has unpacked. The exam is over then.
+  /// Deletes the files that the reader unpacked. The exam cannot be used afterwards.
   void DeleteUnpackedFiles() { DeleteUnpackedCopies(exam_.Change()); }
 
  private:

@@ -7,16 +7,15 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kMostUnits =
-    80;  // as much as a person reads; never more bytes than a file system takes
-constexpr std::u16string_view kForbidden = u"/\\:*?\"<>|";  // by one system or another
+constexpr std::size_t kMostUnits = 80;  // enough to read, and never too many bytes for a file system
+constexpr std::u16string_view kForbidden = u"/\\:*?\"<>|";  // by some system
 
 char16_t AllowedUnit(char16_t unit) {
   const bool isControl = unit < 0x20 || (unit >= 0x7F && unit <= 0x9F);
   return isControl || kForbidden.find(unit) != kForbidden.npos ? u' ' : unit;
 }
 
-/// Blanks run together.
+/// Runs of blanks become one.
 std::u16string OnlyAllowed(std::u16string_view title) {
   std::u16string name;
   for (const char16_t unit : ReplaceLoneSurrogates(title)) {
@@ -26,7 +25,7 @@ std::u16string OnlyAllowed(std::u16string_view title) {
   return name;
 }
 
-/// A dot in front would hide the file, and one behind is no part of a name everywhere.
+/// A leading dot would hide the file, and a trailing one is not allowed everywhere.
 std::u16string_view WithoutDotsAround(std::u16string_view name) {
   constexpr std::u16string_view kAround = u". ";
   const std::size_t begin = name.find_first_not_of(kAround);

@@ -6,8 +6,8 @@
 
 namespace quorvantis {
 
-/// The name that Save As proposes for an exam of this title: the title as far as every file system takes it,
-/// and no name of a document; "MyExam" when nothing of it is left.
+/// The name that Save As proposes for an exam with this title: the part of the title that every file system
+/// accepts, without the extension of a document; "MyExam" when nothing is left.
 std::u16string ProposedFileName(std::u16string_view title);
 
 }  // namespace quorvantis

@@ -13,8 +13,8 @@ namespace quorvantis {
 
 class LongAnswerFlags;
 
-/// Editing of one question at a time: which question is shown, what its form holds, and how the form goes
-/// into the document (store) and back (load). All fields are stored whatever the kind; another kind only
+/// Edits one question at a time: which question is shown, what its form holds, and how the form is stored
+/// into the document and loaded from it. All fields are stored whatever the kind; changing the kind only
 /// hides fields.
 class QuestionEditor {
  public:
@@ -25,24 +25,24 @@ class QuestionEditor {
   const QuestionForm& Form() const { return form_; }
   std::u16string RandomCaption() const;
 
-  /// What the user has made of a field by typing, pasting or dropping. A text longer than MaxLength is
-  /// refused as a whole: the field keeps what it held and the result is false. Either way the change is
-  /// reported.
+  /// The text of a field after the user has typed, pasted or dropped. A text longer than MaxLength is refused
+  /// as a whole: the field keeps its old text and the result is false. Either way the change is reported.
   bool EditField(FormField field, std::u16string text);
 
-  /// The user clicked the answer box `index` (0 for A to 4 for E), which now is on or off.
+  /// The user clicked answer box `index` (0 for A to 4 for E), which is now on or off.
   void TickAnswerBox(std::size_t index, bool on);
 
   void StoreCurrentQuestion();
-  /// The document as storing would make it, which itself stays as it is; a long answer goes into `flags`.
+  /// The document as it would be after storing; the document itself does not change. A long answer is noted
+  /// in `flags`.
   FrameSetExam StoredExam(LongAnswerFlags& flags) const;
   void LoadCurrentQuestion();
 
-  /// Shows question `number` (1 to 500); what the form held is not stored.
+  /// Shows question `number` (1 to 500) without storing the form.
   void ShowQuestion(int number);
-  /// Shows it as the form was at some earlier time instead.
+  /// The same, with the form as it was earlier.
   void ShowQuestion(int number, const QuestionForm& form, QuestionKind kind);
-  /// The form with all that it holds is that of question `number` from now on; nothing is stored or loaded.
+  /// From now on the form with all that it holds belongs to question `number`; nothing is stored or loaded.
   /// Deliberate: an import leaves the question that was shown in the slot after the imported ones.
   void MoveFormTo(int number) { state_.currentQuestion_ = number; }
 
@@ -51,14 +51,13 @@ class QuestionEditor {
   void GoBack10();
   void GoForward10();
 
-  /// Opens an empty question here; the one shown moves to the next number.
+  /// Opens an empty question here; the current one moves to the next number.
   void InsertHere();
-  /// Deletes the question shown, with whatever was typed into it since it was stored. There is no
-  /// confirmation.
+  /// Deletes the current question, including unstored input, without confirmation.
   void DeleteHere();
 
   void SelectKind(QuestionKind kind);
-  /// Decides which fields for answers are shown, and has the window show them.
+  /// Decides which answer fields are shown, and has the window show them.
   void ShowKindControls(QuestionKind kind);
   const AnswerParts& ShownKindControls() const { return shown_; }
   void CycleRandomMode();

@@ -11,7 +11,7 @@
 namespace quorvantis {
 namespace {
 
-/// Box A takes whatever a mask has above the others: 2 or more of it is a grey box.
+/// Box A takes whatever a mask has above the other boxes; a value of 2 or more shows as grey.
 std::array<CheckState, kOptionCount> ChecksFromMask(int mask) {
   std::array<CheckState, kOptionCount> checks;
   checks[0] = static_cast<CheckState>(std::clamp(mask / AnswerBoxWeight(0), 0, 2));
@@ -49,7 +49,7 @@ ExamFieldName NameOf(FormField field) {
   return {};
 }
 
-/// The texts that form and question both have, pair by pair.
+/// The texts that both form and question have, in pairs.
 template <class Form, class Question, class Take>
 void PairTexts(Form& form, Question& question, Take take) {
   take(form.text, question.text);

@@ -19,7 +19,7 @@ void SavingCheck::ExamIsThatOf(const std::filesystem::path& file) {
   known_ = StateOf(file);
 }
 
-/// A file that is not there any more has nothing to lose.
+/// A file that no longer exists has nothing to lose.
 std::vector<std::u16string> SavingCheck::LossesOfFile(const std::filesystem::path& file) const {
   std::vector<std::u16string> losses;
   const auto now = StateOf(file);

@@ -13,24 +13,24 @@
 
 namespace quorvantis {
 
-/// Tells the user before a save what it would lose: of the exam, which a file cannot hold as it is, and of
-/// the file, which another program may have changed or of which only a part was read. Changes nothing.
+/// Tells the user before a save what would be lost: from the exam, parts that a file cannot hold; from the
+/// file, changes by another program, or the part of it that was not read. Changes nothing.
 class SavingCheck {
  public:
   /// `state` must outlive the check.
   explicit SavingCheck(const EditorState& state) : state_(state) {}
 
-  /// The exam is what `file` holds now, as far as it could be read.
+  /// The exam is now what `file` holds, as far as it could be read.
   void ExamIsThatOf(const std::filesystem::path& file);
-  /// There is no file that the exam came from.
+  /// The exam does not come from a file.
   void Forget() { known_.reset(); }
 
-  /// Asks what to do about the losses of an exam that is to be saved to `file`, and about what that file
-  /// loses. With nothing to lose the answer is SaveAnyway.
+  /// Asks what to do if a save to `file` would lose parts of the exam or of what is in the file. Without
+  /// losses the answer is SaveAnyway.
   LossAnswer Ask(const std::filesystem::path& file, const std::vector<SavingLoss>& losses) const;
 
  private:
-  /// By which a change of a file shows.
+  /// Shows whether a file has changed.
   struct FileState {
     std::filesystem::path file;
     std::uintmax_t size;

@@ -10,7 +10,7 @@ namespace quorvantis {
 namespace fs = std::filesystem;
 namespace {
 
-/// Gives a file a second name. False when there is no file of that name then.
+/// Gives a file a second name. False when that fails, for example because the file does not exist.
 bool NameAgain(const fs::path& file, const fs::path& name) {
   std::error_code error;
   fs::create_hard_link(file, name, error);

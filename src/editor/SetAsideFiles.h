@@ -6,20 +6,20 @@
 
 namespace quorvantis {
 
-/// Files that can be put back after others have deleted or replaced them: each gets a second name in a folder
-/// of its own, or a copy where a file system knows no second names.
+/// Files that can be restored after others have deleted or replaced them. Each gets a second name in a folder
+/// of its own, or a copy on file systems without hard links.
 class SetAsideFiles {
  public:
-  /// `folder` is this object's own: made when it is needed, emptied before, and removed in the end.
+  /// `folder` belongs to this object alone: created when needed, emptied before use, removed at the end.
   explicit SetAsideFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}
   SetAsideFiles(const SetAsideFiles&) = delete;
   SetAsideFiles& operator=(const SetAsideFiles&) = delete;
   ~SetAsideFiles() { Clear(); }
 
-  /// In the place of those set aside before. What is no regular file is left out.
+  /// Replaces the files set aside before. Skips everything that is not a regular file.
   void SetAside(std::vector<std::filesystem::path> files);
 
-  /// Makes every file what it was when it was set aside. What cannot be put back is left out.
+  /// Restores every file as it was when it was set aside. Skips what cannot be restored.
   void PutBack() const;
 
   void Clear();
@@ -28,7 +28,7 @@ class SetAsideFiles {
   std::filesystem::path PlaceOf(std::size_t index) const;
 
   std::filesystem::path folder_;
-  std::vector<std::filesystem::path> files_;  ///< each has its index as its name in the folder
+  std::vector<std::filesystem::path> files_;  ///< each is named by its index in the folder
 };
 
 }  // namespace quorvantis

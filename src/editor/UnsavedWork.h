@@ -3,25 +3,25 @@
 
 namespace quorvantis {
 
-/// What becomes of an exam that the editor is about to leave.
+/// What happens to an exam that the editor is about to leave.
 enum class Parting {
   Stay,    ///< the user goes on editing it
-  Leave,   ///< it goes; whatever has not been saved was not given up
-  GiveUp,  ///< it goes, and the user does not want what has not been saved
+  Leave,   ///< it is left; unsaved changes were not given up
+  GiveUp,  ///< it is left, and the user discards unsaved changes
 };
 
-/// Keeps safe what has not been saved. The file commands tell it what becomes of the exam.
+/// Keeps unsaved changes safe. The file commands report to it what happens to the exam.
 class UnsavedWork {
  public:
   virtual ~UnsavedWork() = default;
 
-  /// The file holds the exam as it is now.
+  /// The file now equals the exam.
   virtual void Saved() = 0;
 
-  /// The exam is about to be emptied or to end; `parting` is not Stay. Its work copies are still there.
+  /// The exam is about to be emptied or closed; `parting` is not Stay. Its work copies still exist.
   virtual void Left(Parting parting) = 0;
 
-  /// Another exam is there, a new one or one that has been opened.
+  /// Another exam has begun, either new or opened.
   virtual void Entered() = 0;
 };
 

@@ -5,7 +5,7 @@
 
 namespace quorvantis {
 
-/// The view of an editor that nobody looks at. Who delivers queued changes himself needs no more.
+/// The view of an editor without a window. Enough for callers that deliver queued changes themselves.
 class UnseenView : public EditorView {
  public:
   void FormLoaded() override {}

@@ -24,7 +24,7 @@ std::u16string NumberedName(std::u16string name, int counter) {
 }
 
 /// The folders of a full path as one name: trailing characters that occur in the file name are cut off, which
-/// ends at the separator, then separators and colons go.
+/// stops at the separator, then separators and colons are removed.
 std::u16string SourceFolderKey(const fs::path& source) {
   std::u16string key = PathToText(source);
   const std::u16string name = PathToText(source.filename());
@@ -34,7 +34,7 @@ std::u16string SourceFolderKey(const fs::path& source) {
   return key;
 }
 
-/// The second component of a full path, where a student's folder has its number.
+/// The second component of a full path, where the number of a student's folder stands.
 std::u16string SecondComponent(std::u16string_view path) {
   const std::size_t first = path.find(kSeparator);
   if (first == std::u16string_view::npos) return {};
@@ -59,7 +59,7 @@ void RememberPaths(const AttachmentList& paths, AttachmentList& copies) {
   std::copy_n(paths.begin(), CountEntries(paths), copies.begin());
 }
 
-/// Of the exam's paths, those that name a file. What else stands among them is no copy to be deleted.
+/// The exam's paths that name a file. Other texts among them are not copies to delete.
 AttachmentList PathsOnly(const FrameSetExam& exam) {
   AttachmentList paths;
   std::ranges::copy_if(exam.examAttachmentPaths, paths.begin(),
@@ -67,8 +67,7 @@ AttachmentList PathsOnly(const FrameSetExam& exam) {
   return paths;
 }
 
-/// Makes the folder `name` below `parent`; a link in its place would lead the copies elsewhere and is
-/// removed.
+/// Creates the folder `name` in `parent`. A link in its place would redirect the copies and is removed.
 fs::path MakeOwnFolder(const fs::path& parent, const fs::path& name) {
   const fs::path folder = parent / name;
   std::error_code ignored;
@@ -103,7 +102,7 @@ fs::path MakeWorkCopy(const fs::path& workRoot, const fs::path& source, int coun
   std::error_code ignored;
   fs::remove(copy, ignored);
   fs::copy_file(source, copy, ignored);
-  if (ignored) fs::remove(copy, ignored);  // half a file must not pass for the whole one
+  if (ignored) fs::remove(copy, ignored);  // half a file must not pass for a whole one
   constexpr auto kExecutable = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
   fs::permissions(copy, kExecutable, fs::perm_options::remove, ignored);
   fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add, ignored);

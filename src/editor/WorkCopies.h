@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The copies of attached files that the editor keeps in work folders, from attaching to deletion. None of
-// these operations reports an error: a copy that could not be made is an attachment without content.
+// these operations reports an error: an attachment whose copy failed has no content.
 #pragma once
 
 #include "model/document/FrameSetExam.h"
@@ -10,36 +10,35 @@
 
 namespace quorvantis {
 
-/// Copies of attached files lie below this folder; it is removed when the editor ends.
+/// Contains the copies of attached files; removed when the editor ends.
 std::filesystem::path AttachmentWorkRoot(const std::filesystem::path& applicationFolder);
 
-/// Makes that folder; a link in its place, which would lead the copies elsewhere, is removed.
+/// Creates that folder. A link in its place, which would redirect the copies, is removed.
 void MakeWorkRoot(const std::filesystem::path& workRoot);
 
-/// The folder below the work root for files from one place: the folders of `source` run together ("homedocs"
-/// for /home/docs/photo.jpg), shortened where no file system would take it.
+/// The folder in the work root for files from one place: the folders of `source` joined ("homedocs" for
+/// /home/docs/photo.jpg), shortened where the name would be too long for a file system.
 std::u16string SourceFolder(const std::filesystem::path& source);
 
-/// The folder below that for one copy: the file's name with "~" and `counter` before its last dot
-/// ("photo~3.jpg"), shortened likewise.
+/// The folder in it for one copy: the file's name with "~" and `counter` before its last dot ("photo~3.jpg"),
+/// shortened likewise.
 std::u16string CopyFolder(const std::filesystem::path& source, int counter);
 
-/// Copies `source`, a full path, into the work root and returns the copy's path, whether or not that worked.
-/// The copy is an ordinary, writable, never executable file.
+/// Copies `source`, a full path, into the work root and returns the path of the copy, even if copying failed.
+/// The copy is an ordinary file, writable and never executable.
 std::filesystem::path MakeWorkCopy(const std::filesystem::path& workRoot, const std::filesystem::path& source,
                                    int counter);
 
 /// Remembers the files that a reader unpacked, for the deletions below.
 void RecordCopies(FrameSetExam& exam);
 
-/// Deletes the remembered copies of all questions, and the student folder that the last one lay in if that is
-/// empty.
+/// Deletes the remembered copies of all questions, and the student folder of the last one if it is now empty.
 void DeleteQuestionCopies(FrameSetExam& exam);
 
 /// Deletes the remembered exam-level copies.
 void DeleteExamCopies(FrameSetExam& exam);
 
-/// Deletes those of both that a reader has unpacked.
+/// Deletes the copies of both kinds that a reader unpacked.
 void DeleteUnpackedCopies(FrameSetExam& exam);
 
 }  // namespace quorvantis

@@ -25,7 +25,7 @@ int AttachmentUnpacker::ReadCount() {
   return count;
 }
 
-/// False when the data ended before there was anything of the entry.
+/// False if the data ended before the entry began.
 bool AttachmentUnpacker::ReadEntry(AttachmentEntry& entry, bool withOralFlag) {
   VisitAttachment(*form_.version, entry, withOralFlag, fields_);
   return !source_.Ended() || !entry.name.empty();
@@ -35,8 +35,8 @@ void AttachmentUnpacker::Skip(std::int64_t size) {
   if (size > 0) source_.Take(static_cast<std::uint64_t>(size), nullptr);
 }
 
-/// Writes the next `size` bytes to a new file, which nothing makes none; false when it could not be made,
-/// with the bytes skipped all the same.
+/// Writes the next `size` bytes to a new file; without content no file is created. False if the file could
+/// not be created; the bytes are skipped all the same.
 bool AttachmentUnpacker::Unpack(const std::filesystem::path& target, std::int64_t size) {
   if (size <= 0) {
     if (!source_.Ended()) exam_.pathsWithoutContent.insert(PathToText(target));

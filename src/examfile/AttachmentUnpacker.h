@@ -9,22 +9,22 @@
 namespace quorvantis {
 
 /// Reads the attachment sections of an exam file: each file goes into the work folder, its path and display
-/// name into the document. Nothing is written outside that folder, no link is followed and no file is
-/// executable, whatever the names in the file say.
+/// name into the document. Whatever names the file contains, nothing is written outside that folder, no link
+/// is followed and no file is executable.
 class AttachmentUnpacker {
  public:
   /// All must outlive the unpacker.
   AttachmentUnpacker(ByteSource& source, FieldReader& fields, const ExamFileForm& form, FrameSetExam& exam,
                      const ExamServices& services);
 
-  /// The exam-level section, its count included. After a file that cannot be created no further ones are
-  /// unpacked, but their bytes are skipped, so that the questions behind them are found.
+  /// The exam-level section with its count. After a file that cannot be created no more are unpacked, but
+  /// their bytes are skipped, so that the questions after them are found.
   void ExtractExamAttachments();
 
-  /// The section of question `question`. A file that cannot be created is left out, the others are unpacked.
+  /// The section of question `question`. A file that cannot be created is skipped; the others are unpacked.
   void ExtractQuestionAttachments(int question);
 
-  /// How many files could not be created, or not wholly written.
+  /// How many files could not be created or not completely written.
   int FilesNotCreated() const { return filesNotCreated_; }
 
  private:

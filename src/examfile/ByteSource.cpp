@@ -8,7 +8,7 @@
 namespace quorvantis {
 
 ByteSource::ByteSource(const std::filesystem::path& file) {
-  // A pipe would block here for ever, a folder would open and then fail.
+  // Opening a pipe would block forever here; a folder would open and then fail.
   std::error_code error;
   if (!std::filesystem::is_regular_file(file, error)) return;
   size_ = std::filesystem::file_size(file, error);
@@ -18,7 +18,7 @@ ByteSource::ByteSource(const std::filesystem::path& file) {
   buffer_.resize(static_cast<std::size_t>(std::clamp<std::uint64_t>(size_, kMaxTake, kBufferSize)));
 }
 
-/// Moves what is left to the front and reads behind it.
+/// Moves the unread bytes to the front and fills up the buffer.
 void ByteSource::Refill() {
   std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
   end_ -= begin_;

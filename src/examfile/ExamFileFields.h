@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The visitors of ExamFileLayout.h that read and write.
+// The visitors of ExamFileLayout.h for reading and writing.
 #pragma once
 
 #include "examfile/ByteSource.h"
@@ -13,7 +13,7 @@
 
 namespace quorvantis {
 
-/// Takes fields from a source. Past the end of the data the fields are left as they are.
+/// Reads fields from a source. After the end of the data it leaves the fields unchanged.
 class FieldReader {
  public:
   FieldReader(ByteSource& source, FieldEncoding encoding, const CodePage& codePage);
@@ -39,12 +39,12 @@ class FieldReader {
   FileTextDecoder decoder_;
 };
 
-/// Composes fields of the UTF-16 form. The bytes gather in a buffer of the caller's.
+/// Encodes fields in the UTF-16 form into a buffer of the caller.
 class FieldWriter {
  public:
   explicit FieldWriter(std::string& bytes) : bytes_(bytes) {}
 
-  /// The text cut to the field's width; a shorter one is followed by zeros.
+  /// The text cut to the field's width; a shorter one is padded with zeros.
   void Text(std::u16string_view text, ExamFileField field);
   template <class Integer>
   void Number(const Integer& number, ExamFileField field) {
@@ -63,7 +63,7 @@ class FieldWriter {
   std::string& bytes_;
 };
 
-/// Reads a score by the rules of atof; at most 256 characters of the text count.
+/// Parses a score by the rules of atof; only the first 256 characters count.
 float ParseScoreText(std::u16string_view text);
 
 }  // namespace quorvantis

@@ -5,7 +5,7 @@
 
 namespace quorvantis {
 
-/// Which version a file has and how its fields are stored.
+/// The version of a file and how its fields are stored.
 struct ExamFileForm {
   const ExamFileVersion* version;
   FieldEncoding encoding;

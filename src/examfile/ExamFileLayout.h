@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The layout of exam files. The functions below walk the fields of a record (model/ExamFields.h) in file
-// order and hand each with its width to a visitor; reading, writing and sizing are visitors.
+// The layout of exam files. The functions below visit the fields of a record (model/ExamFields.h) in file
+// order and pass each with its width to a visitor; reading, writing and measuring are visitors.
 // docs/FILE-FORMAT.md shows the result as bytes.
 //
 // A visitor has
@@ -26,7 +26,7 @@ namespace quorvantis {
 enum class FieldEncoding {
   Utf16,         ///< two bytes a unit, after a byte-order mark
   EightBit,      ///< one byte a unit, text in a code page
-  Utf16InBytes,  ///< older files: widths in bytes, which hold UTF-16 text of half as many units
+  Utf16InBytes,  ///< older files: widths in bytes, for UTF-16 text of half as many units
 };
 
 /// The unit in which the widths of a file's fields are counted. Its value is its size in bytes.
@@ -36,26 +36,26 @@ constexpr CharUnit UnitOf(FieldEncoding encoding) {
   return encoding == FieldEncoding::Utf16 ? CharUnit::TwoBytes : CharUnit::OneByte;
 }
 
-/// A text field of fixed width. What is in it, and how it is written, is the visitor's business.
+/// A text field of fixed width. The visitor decides how it is read or written.
 struct ExamFileField {
   std::size_t units = 0;
 
   constexpr std::size_t Bytes(CharUnit unit) const { return units * static_cast<std::size_t>(unit); }
 };
 
-/// One version of the format. How wide its fields are stands in ExamFields.h.
+/// One version of the format. The widths of its fields are in ExamFields.h.
 struct ExamFileVersion {
   FileVersion version;
   std::string_view name;
-  std::u16string_view tag{};        ///< first field of the file; empty when the version has none
+  std::u16string_view tag{};        ///< first field of the file; empty if the version has none
   bool decimalScores = false;       ///< scores have two decimals; whole numbers otherwise
   bool hasOralFlag = false;         ///< before a question's first attachment, in UTF-16 files
-  bool notesOralQuestions = false;  ///< the reader records whether there are oral questions
+  bool notesOralQuestions = false;  ///< the reader notes whether there are oral questions
 
   constexpr ExamFileField Width(ExamFieldName field) const { return {FieldNamed(field).Units(version)}; }
-  /// And with them the reserved areas.
+  /// A version with attachments has the reserved areas too.
   constexpr bool HasAttachments() const { return Width(ExamFieldName::AttachmentName).units > 0; }
-  /// Behind a question's attachments.
+  /// Stored after a question's attachments.
   constexpr bool HasLongAnswers() const { return Width(ExamFieldName::LongFillInAnswer).units > 0; }
 };
 
@@ -80,17 +80,17 @@ inline constexpr ExamFileVersion kUntaggedVersion{.version = FileVersion::Untagg
 
 inline constexpr std::string_view kByteOrderMark = "\xFF\xFE";
 
-/// Stands in the short answer field of a question whose fill-in answer has a field of its own.
+/// Fills the short answer field of a question whose fill-in answer has a long field.
 inline constexpr std::u16string_view kLongAnswerMarker = u"ExcessTextAns";
 
-/// What of an attached file stands in the exam file, before its content.
+/// What the exam file stores about an attached file before its content.
 struct AttachmentEntry {
   std::u16string name;
   int oralFlag = 0;
-  std::int64_t size = 0;  ///< bytes of content; a negative one in a file stands for none
+  std::int64_t size = 0;  ///< bytes of content; a negative size in a file means none
 };
 
-/// Hands the fields that a version has to a visitor as above, with their widths.
+/// Passes the fields that a version has to a visitor as above, with their widths.
 template <class Visitor>
 class FieldsInFile {
  public:
@@ -150,7 +150,7 @@ void VisitQuestion(const ExamFileVersion& version, Question& question, Answer& s
   if (version.HasAttachments()) visitor.Reserved(kReservedInQuestion);
 }
 
-/// The number of attached files, of the exam or of a question.
+/// The number of attached files of the exam or of a question.
 template <class Count, class Visitor>
 void VisitAttachmentCount(Count& count, Visitor& visitor) {
   visitor.Number(count, kAttachmentCount);
@@ -165,7 +165,7 @@ void VisitAttachment(const ExamFileVersion& version, Entry& entry, bool withOral
   visitor.Number(entry.size, kAttachmentSize);
 }
 
-/// The long fill-in answer, behind the question's attachments.
+/// The long fill-in answer, after the question's attachments.
 template <class Answer, class Visitor>
 void VisitLongAnswer(const ExamFileVersion& version, Answer& answer, Visitor& visitor) {
   visitor.Text(answer, version.Width(ExamFieldName::LongFillInAnswer));

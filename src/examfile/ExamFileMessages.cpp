@@ -29,7 +29,7 @@ std::u16string OpenFileError(const StringTable& strings, const std::filesystem::
 }
 
 void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome) {
-  // Once, however many files it were: they fail together, for want of space or of the folder.
+  // Once, however many files: they usually fail for one reason, such as a full disk or a missing folder.
   if (outcome.filesNotCreated > 0)
     services.dialogs.ShowWarning(services.strings.Text(text_id::kTemporaryFileError));
   if (outcome.endsEarly)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the user is told about an exam file, in one place.
+// All messages to the user about an exam file.
 #pragma once
 
 #include "examfile/ExamFileReader.h"
@@ -11,13 +11,13 @@
 
 namespace quorvantis {
 
-/// "Open file … error!", of a file that could not be read or saved.
+/// "Open file … error!", for a file that could not be read or saved.
 std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file);
-/// The same, with the reason in a line below.
+/// The same, with the reason on a line below.
 std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file,
                              std::error_code why);
 
-/// Shows what is missing from an exam that was read; nothing when it is whole.
+/// Shows what is missing from an exam that was read; nothing if it is complete.
 void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome);
 
 }  // namespace quorvantis

@@ -12,8 +12,8 @@
 namespace quorvantis {
 namespace {
 
-/// Leaves a question what its kind has, and an unknown kind everything. The letters stay as they were read,
-/// for every kind.
+/// Keeps only the data that a question's kind uses; an unknown kind keeps everything. The letters stay as
+/// they were read, for every kind.
 void CleanByKind(ExamQuestion& question) {
   const KindRow* kind = FindKind(question.kind);
   if (kind == nullptr) return;
@@ -24,7 +24,7 @@ void CleanByKind(ExamQuestion& question) {
   if (kind->answer.options) question.answerMask = AnswerLettersToMask(question.answerLetters);
 }
 
-/// Reads one file; lives for that only.
+/// Reads one file; lives only as long as that takes.
 class Reading {
  public:
   Reading(FrameSetExam& exam, const ExamServices& services, ByteSource& source, const ExamFileForm& form)
@@ -62,7 +62,7 @@ class Reading {
     if (longAnswer) VisitLongAnswer(*form_.version, question.answerText, fields_);
     if (fieldsWhole) {
       CleanByKind(question);
-    } else {  // the kind is missing: keep every text, and make the letters count
+    } else {  // the kind is missing: keep every text, and build the mask from the letters
       question.answerMask = AnswerLettersToMask(question.answerLetters);
     }
   }

@@ -9,22 +9,21 @@
 
 namespace quorvantis {
 
-/// What a reader has to say of a file, beside the exam that it filled.
+/// What a reader reports about a file, apart from the exam that it filled.
 struct ExamReadOutcome {
-  bool opened = false;  ///< otherwise the exam is as it was
+  bool opened = false;  ///< if false, the exam is unchanged
   ExamFileForm form{&kUntaggedVersion, FieldEncoding::Utf16InBytes};
-  int filesNotCreated = 0;  ///< attached files that could not be unpacked
-  bool endsEarly = false;   ///< the data ended before the fields did; what was read has been kept
-  int firstMissingQuestion =
-      0;  ///< when it ends early: the first question that is not whole, 0 when there are none
+  int filesNotCreated = 0;       ///< attached files that could not be unpacked
+  bool endsEarly = false;        ///< the data ended before the last field; what was read has been kept
+  int firstMissingQuestion = 0;  ///< if it ends early: the first incomplete question, 0 if there is none
 };
 
 /// Loads one exam file into a document that the caller has reset, and unpacks the attached files into the
-/// emptied work folder. Bad bytes never fail a read: it yields an exam and what was lost. Memory does not
-/// grow with the attached files, nor with any number in the file.
+/// emptied work folder. Invalid bytes never make a read fail: the result is an exam and what was lost. Memory
+/// use depends neither on the attached files nor on any number in the file.
 class ExamFileReader {
  public:
-  /// Opens `file`. Exam and services must outlive the reader.
+  /// Opens `file`. `exam` and `services` must outlive the reader.
   ExamFileReader(FrameSetExam& exam, const ExamServices& services, const std::filesystem::path& file)
       : exam_(exam), services_(services), source_(file) {}
 
@@ -33,7 +32,7 @@ class ExamFileReader {
   /// Whether the file begins with the tag of `version`.
   bool HasTag(const ExamFileVersion& version);
 
-  /// Reads the file, once: as one of `version`, whose tag it has, or as an untagged one, whatever it holds.
+  /// Reads the file, once: as `version`, whose tag it has, or as an untagged file with any content.
   ExamReadOutcome Read(const ExamFileVersion& version);
 
  private:

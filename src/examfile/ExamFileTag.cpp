@@ -29,11 +29,11 @@ std::optional<FieldEncoding> EncodingByTag(ByteSource& source, const ExamFileVer
   std::string_view start = source.Peek(kByteOrderMark.size() + kWideTag);
   if (start.starts_with(kByteOrderMark)) {
     start.remove_prefix(kByteOrderMark.size());
-    // Only the current version is written with a mark.
+    // Only the current version is written with a byte-order mark.
     const bool isCurrent = &version == &kCurrentVersion && HoldsWideTag(start, version.tag);
     return isCurrent ? std::optional(FieldEncoding::Utf16) : std::nullopt;
   }
-  // Tags of older files are 8-bit text, and so are all their fields: a UTF-16 tag does not fit the field.
+  // In older files tag and fields are 8-bit text: a UTF-16 tag does not fit the field.
   const std::string_view field = start.substr(0, kTagField.Bytes(CharUnit::OneByte));
   return HoldsEightBitTag(field, version.tag) ? std::optional(FieldEncoding::EightBit) : std::nullopt;
 }

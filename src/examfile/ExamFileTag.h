@@ -8,11 +8,11 @@
 
 namespace quorvantis {
 
-/// How the fields of `source` are stored when it begins with the tag of `version`; nothing when it does not.
-/// Takes no bytes.
+/// How the fields of `source` are stored if it begins with the tag of `version`; otherwise nothing. Takes no
+/// bytes.
 std::optional<FieldEncoding> EncodingByTag(ByteSource& source, const ExamFileVersion& version);
 
-/// The bytes of mark and tag, before the first field.
+/// The bytes of the mark and the tag, before the first field.
 std::size_t BytesBeforeTitle(const ExamFileForm& form);
 
 }  // namespace quorvantis

@@ -26,7 +26,7 @@ std::uint64_t SizeOf(const AttachmentList& paths) {
   return size;
 }
 
-/// What takes time when an exam is saved.
+/// The slow part of a save.
 std::uint64_t AttachedBytes(const FrameSetExam& exam) {
   std::uint64_t size = SizeOf(exam.examAttachmentPaths);
   for (int n = 1; n <= exam.questionCount; ++n) size += SizeOf(exam.Question(n).attachmentPaths);
@@ -77,7 +77,7 @@ void ExamFileWriter::PackExamAttachments() {
 
 void ExamFileWriter::WriteQuestion(int number) {
   const ExamQuestion& question = exam_.Question(number);
-  // An answer that reads like the marker has to take the long form, or it would be lost on reading.
+  // An answer that looks like the marker must take the long form, or it would be lost on reading.
   const bool longAnswer = services_.longAnswerFlags.IsSet(number) || question.answerText == kLongAnswerMarker;
   const std::u16string shortAnswer = longAnswer ? std::u16string(kLongAnswerMarker) : question.answerText;
   FieldWriter fields(bytes_);
@@ -100,9 +100,9 @@ void ExamFileWriter::PackQuestionAttachments(const ExamQuestion& question) {
   }
 }
 
-/// Writes one attachment entry with its content; the oral flag where one is given. The content has exactly
-/// the size that was measured, or what follows it would not be found: a file that shrinks meanwhile, or
-/// cannot be read to its end, ends the save.
+/// Writes one attachment entry with its content, and the oral flag if one is given. The content must have
+/// exactly the size that was measured, or the data after it would not be found: a file that shrinks
+/// meanwhile, or cannot be read to its end, aborts the save.
 void ExamFileWriter::PackFile(const std::u16string& name, const std::filesystem::path& path,
                               const int* oralFlag) {
   ByteSource content(path);

@@ -10,10 +10,10 @@
 
 namespace quorvantis {
 
-/// Why `file` cannot be opened for reading; none when it can.
+/// Why `file` cannot be opened for reading; no error if it can.
 std::error_code ReadFailureOf(const std::filesystem::path& file);
 
-/// A sentence. What has no text of ours is told in the words of the system.
+/// A sentence. Errors without a text of ours use the system's.
 std::u16string FileFailureText(const StringTable& strings, std::error_code failure);
 
 }  // namespace quorvantis

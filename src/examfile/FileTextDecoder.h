@@ -8,7 +8,7 @@
 
 namespace quorvantis {
 
-/// Turns the bytes of a text field into text: as UTF-16LE, or through a code page.
+/// Decodes the bytes of a text field, either as UTF-16LE or by a code page.
 class FileTextDecoder {
  public:
   /// The code page must outlive the decoder.
@@ -16,7 +16,7 @@ class FileTextDecoder {
 
   void SetWide(bool wide) { wide_ = wide; }
 
-  /// The text up to the first NUL, or all of the field when it has none. An odd last byte of a wide field is
+  /// The text up to the first NUL, or the whole field if there is none. An odd last byte of a wide field is
   /// ignored.
   std::u16string Decode(std::string_view field) const;
 

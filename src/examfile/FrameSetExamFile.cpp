@@ -16,7 +16,7 @@ namespace quorvantis {
 
 namespace {
 
-/// An untagged file is any file that has no tag, so only its content can tell.
+/// Any file without a tag counts as untagged, so only its content can tell whether it is an exam.
 ReadDoubt DoubtOf(const ExamReadOutcome& outcome, const FrameSetExam& exam) {
   const bool isUntagged = outcome.form.version == &kUntaggedVersion;
   if (outcome.opened && isUntagged && (outcome.endsEarly || exam.questionCount == 0))
@@ -24,7 +24,7 @@ ReadDoubt DoubtOf(const ExamReadOutcome& outcome, const FrameSetExam& exam) {
   return !outcome.opened || outcome.endsEarly ? ReadDoubt::ReadInPart : ReadDoubt::None;
 }
 
-/// The end of every read: the document keeps what is to be known of it later, the user is told of losses.
+/// Ends every read: the document records the outcome, and the user is told about losses.
 void TakeOutcome(FrameSetExam& exam, const std::filesystem::path& file, const ExamReadOutcome& outcome) {
   const ExamServices& services = exam.Services();
   if (!outcome.opened) services.dialogs.ShowError(OpenFileError(services.strings, file, ReadFailureOf(file)));
@@ -36,7 +36,7 @@ void TakeOutcome(FrameSetExam& exam, const std::filesystem::path& file, const Ex
 
 }  // namespace
 
-// The readers stand in a chain: each opens the file, looks at its tag and hands it on when it is not its own.
+// The readers form a chain: each opens the file, checks its tag and passes on a file that is not its own.
 
 void FrameSetExam::ReadExamFile(const std::filesystem::path& file) {
   ExamServices& services = Services();

@@ -17,8 +17,8 @@
 namespace quorvantis {
 namespace {
 
-/// What users are told that a field is; 0 for one that is made of others or of attached files, and never lost
-/// by itself.
+/// The name of a field in messages; 0 for one that is derived from others or belongs to attached files, and
+/// is never lost by itself.
 int TextOf(ExamFieldName field) {
   switch (field) {
     case ExamFieldName::Title:
@@ -66,7 +66,7 @@ std::u16string Digits(std::size_t number) {
   return FormatInteger(static_cast<std::int64_t>(number));
 }
 
-/// Gathers the losses of an exam.
+/// Collects the losses of an exam.
 class LossFinder {
  public:
   LossFinder(const FrameSetExam& exam, const LongAnswerFlags& flags)
@@ -95,7 +95,7 @@ class LossFinder {
     losses_.push_back({number_, Filled(text, values), false, false});
   }
 
-  /// What the writer loses of a field of the width that it has.
+  /// What would be lost of a field when it is written with its width.
   void Check(ExamFieldName field, const std::u16string& text) {
     const bool takesLongForm = field == ExamFieldName::FillInAnswer && flags_.IsSet(number_);
     const std::size_t width = WidthOf(takesLongForm ? ExamFieldName::LongFillInAnswer : field);

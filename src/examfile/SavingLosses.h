@@ -10,28 +10,28 @@
 
 namespace quorvantis {
 
-/// Something that a saved exam will not have any more.
+/// Something that a saved exam will no longer have.
 struct SavingLoss {
   int question = 0;       ///< 0: it belongs to the exam as a whole
   std::u16string what{};  ///< for the user, in the language of the exam's services
-  /// Somebody wrote it and would miss it. Not so what a question of its kind has no use for, and what only a
-  /// file written by other means can hold.
+  /// The author wrote it and would miss it. False for data that the question's kind does not use, and for
+  /// data that only a file from another source can hold.
   bool isWork = false;
-  bool canBeStored = false;  ///< by StoreWhole
+  bool canBeStored = false;  ///< StoreWhole can keep it
 };
 
-/// Somebody has put something into the question: a text, an answer or a file.
+/// The question has content: a text, an answer or a file.
 bool HasAnything(const ExamQuestion& question);
 
-/// What a save would lose, in the order of the questions, with the flags that the writer would go by. Whether
-/// files are there is looked up.
+/// What a save would lose, in the order of the questions, given the flags that the writer would use. Checks
+/// whether the attached files exist.
 std::vector<SavingLoss> FindSavingLosses(const FrameSetExam& exam, const LongAnswerFlags& flags);
 
 /// "question 7: the fill-in answer is cut from 300 to 256 characters".
 std::u16string LossLine(const SavingLoss& loss, const StringTable& strings);
 
-/// Makes the exam one of which a file holds more: long fill-in answers get the long form, and a question that
-/// would not be counted gets a text that says that it has none.
+/// Changes the exam so that a file can hold more of it: long fill-in answers get the long form, and a
+/// question that would not be counted gets a text saying that it has none.
 void StoreWhole(FrameSetExam& exam);
 
 }  // namespace quorvantis

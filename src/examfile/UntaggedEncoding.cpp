@@ -9,9 +9,9 @@
 namespace quorvantis {
 namespace {
 
-/// How surprising characters are in a text, as the bits that it takes to tell one: about the logarithm of how
-/// rarely it is met. Precision does not matter, since a reading in the wrong encoding is far off: words
-/// become ideographs at random, ideographs become letters mixed with control characters.
+/// How unlikely characters are in a text, in bits: roughly the logarithm of how rare they are. Precision does
+/// not matter, because reading in the wrong encoding gives nonsense: words become random ideographs,
+/// ideographs become letters mixed with control characters.
 struct Surprise {
   char16_t first, last;
   int bits;
@@ -41,11 +41,11 @@ constexpr Surprise kSurprises[] = {
 constexpr int kStrangeCharacter = 24;  ///< control characters, malformed bytes, private use and the like
 constexpr int kSupplementary = 20;     ///< a pair of surrogates
 
-/// Bytes behind a terminator may be anything, but most programs left none.
+/// Any bytes may follow a terminator, but most programs left none.
 constexpr int kLeftoverBytes = 8;
 constexpr int kLeftoverByte = 8;
 
-/// So many bits tell a text apart from a coincidence.
+/// A difference of this many bits is no coincidence.
 constexpr int kClearly = 6;
 
 int SurpriseOf(char16_t unit) {
@@ -69,7 +69,7 @@ int SurpriseOfLeftover(std::string_view bytes) {
   return last == bytes.npos ? 0 : kLeftoverBytes + kLeftoverByte * static_cast<int>(last + 1);
 }
 
-/// Where a text of units of `size` bytes ends: at its terminator, or at the end of the field.
+/// Where a text with units of `size` bytes ends: at its terminator, or at the end of the field.
 std::size_t TextBytes(std::string_view field, std::size_t size) {
   std::size_t end = 0;
   while (end + size <= field.size() && field.substr(end, size).find_first_not_of('\0') != field.npos) {
@@ -78,7 +78,7 @@ std::size_t TextBytes(std::string_view field, std::size_t size) {
   return end;
 }
 
-/// A visitor that hands each field's bytes to `Field`, whatever is in them.
+/// A visitor that passes the bytes of each field to `Field`, whatever they are.
 template <class Probe>
 class BytesOfFields {
  public:
@@ -106,8 +106,7 @@ class BytesOfFields {
   std::string_view rest_;
 };
 
-/// Whether a number field can be read as a number, character by character: empty, or a sign and digits up to
-/// NUL.
+/// Whether a number field is a valid number: empty, or a sign and digits up to NUL.
 template <class UnitAt>
 bool LooksLikeNumber(std::size_t units, UnitAt unitAt) {
   for (std::size_t i = 0; i < units && unitAt(i) != 0; ++i) {
@@ -118,7 +117,7 @@ bool LooksLikeNumber(std::size_t units, UnitAt unitAt) {
   return true;
 }
 
-/// Looks at the number fields: read as 8-bit text, and as UTF-16.
+/// Checks the number fields, read as 8-bit text and as UTF-16.
 class NumberProbe : public BytesOfFields<NumberProbe> {
  public:
   using BytesOfFields::BytesOfFields;
@@ -135,7 +134,7 @@ class NumberProbe : public BytesOfFields<NumberProbe> {
   }
 };
 
-/// Sums up how surprising all texts and numbers are in either reading.
+/// Adds up how unlikely all texts and numbers are in each encoding.
 class TextProbe : public BytesOfFields<TextProbe> {
  public:
   TextProbe(std::string_view start, const CodePage& codePage)
@@ -164,7 +163,7 @@ class TextProbe : public BytesOfFields<TextProbe> {
   int wide_ = 0;
 };
 
-/// The fields of a header without an exam around them: probes look at widths only.
+/// Fields of a header without an exam: the probes only use widths.
 struct HeaderShape {
   std::u16string title;
   int questionCount, randomMode, scoreMode, boundaryQuestion;

@@ -27,7 +27,7 @@ bool IsSameFile(const fs::path& path, const fs::path& other) {
   return !other.empty() && fs::equivalent(path, other, ignored);
 }
 
-/// The entries of a folder, listed whole before any of them is removed.
+/// The entries of a folder, listed completely before any is removed.
 std::vector<fs::path> Entries(const fs::path& folder) {
   std::error_code error;
   std::vector<fs::path> entries;
@@ -37,7 +37,7 @@ std::vector<fs::path> Entries(const fs::path& folder) {
   return entries;
 }
 
-/// Lets the owner list the folder and delete in it.
+/// Gives the owner permission to list the folder and delete in it.
 void MakeWritable(const fs::path& folder) {
   std::error_code ignored;
   fs::permissions(folder, fs::perms::owner_all, fs::perm_options::add, ignored);

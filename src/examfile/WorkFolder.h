@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The folder that the attached files of an exam are unpacked into, and the removal of folders.
+// The folder for the unpacked attached files of an exam, and the removal of folders.
 #pragma once
 
 #include "model/ExamPaper.h"
@@ -12,17 +12,16 @@ namespace quorvantis {
 /// while `locationMode` is 0, "~BrelmStudent/ID<n>/~tt" relative to the current directory.
 std::filesystem::path WorkFolder(const ExamPaper& exam, const std::filesystem::path& applicationFolder);
 
-/// Empties the work folder, or makes it; a file that is `keep`, the exam about to be read, stays. In the
-/// student location only the last folder is made. Failures are ignored: unpacking will notice.
+/// Empties or creates the work folder; `keep`, the exam about to be read, is not deleted. In the student
+/// location only the last folder is created. Failures are ignored: unpacking will notice them.
 void PrepareWorkFolder(const ExamPaper& exam, const std::filesystem::path& applicationFolder,
                        const std::filesystem::path& keep);
 
-/// Deletes every file below `folder`, read-only ones too, and every sub-folder. The folder itself stays, and
-/// so does the file that is `keep` with the folders it lies in. Links are deleted, never followed; failures
-/// are ignored.
+/// Deletes every file in `folder`, even read-only ones, and every subfolder. The folder itself stays, and so
+/// does `keep` with the folders it lies in. Links are deleted, never followed; failures are ignored.
 void ClearFolderTree(const std::filesystem::path& folder, const std::filesystem::path& keep = {});
 
-/// Clears and removes a folder; of a link only the link.
+/// Empties and removes a folder; if it is a link, removes only the link.
 void RemoveFolder(const std::filesystem::path& folder);
 
 /// Removes a folder only if it is empty.

@@ -7,8 +7,8 @@
 namespace quorvantis {
 
 /// The answer mask of a letter string: 16 for each "a" (or "A"), 8 for "b", 4 for "c", 2 for "d", 1 for "e";
-/// every other character adds nothing. Repeated letters add again on purpose ("aa" gives 32): the window
-/// shows such a mask as a grey box A.
+/// other characters add nothing. Repeated letters add up on purpose ("aa" gives 32): the window shows such a
+/// mask as a grey box A.
 int AnswerLettersToMask(std::u16string_view letters);
 
 /// The letters of the ticked boxes of `mask` (0 to 31), in order.

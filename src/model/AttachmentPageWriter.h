@@ -8,10 +8,10 @@
 
 namespace quorvantis {
 
-/// The settings and results of the pages that show the exam-level attachments.
+/// Settings and results of the pages that show the exam-level attachments.
 class AttachmentPageWriter : public PageRenderer {
  public:
-  int locationMode = 0;                           ///< the document's, as of the last attachment pane
+  int locationMode = 0;                           ///< the document's at the time of the last attachment pane
   std::array<int, kMaxAttachments> frameKinds{};  ///< of frame 1 (at index 0) to 10; 0 when unused
 
   int& FrameKind(int frame) { return frameKinds[static_cast<std::size_t>(frame - 1)]; }

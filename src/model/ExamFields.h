@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The fields of an exam and of its questions, told once: what each is called in JSON, how much of it the
-// window takes and how wide it is in exam files. Whatever goes over all fields (files, recovery copies, JSON,
-// losses of a save, moving a question) calls one of the Visit functions below, which hand each field to a
-// visitor:
+// The fields of an exam and of its questions, described once: the JSON key, the limit in the window and the
+// width in exam files. Code that goes through all fields (files, recovery copies, JSON, losses of a save,
+// moving a question) calls one of the Visit functions below, which pass each field to a visitor:
 //
 //     VisitQuestionFields([](const FieldRow& field, auto& value) { ... }, question);
 //
 // A value is a text, the texts of the options, a number (an int or an enum) or a score (a float). With
 // several records a visitor gets their values of the same field side by side. Attached files have lists and
-// rules of their own and are no fields.
+// rules of their own and do not count as fields.
 //
-// A new field is a member, a name, a row and a line in a Visit function.
+// To add a field, add a member, a name, a row and a line in a Visit function.
 #pragma once
 
 #include "model/ExamQuestion.h"
@@ -37,7 +36,7 @@ enum class ExamFieldName {
   Options,
   AnswerLetters,
   FillInAnswer,
-  LongFillInAnswer,  ///< a second place of the fill-in answer in files, with room for long ones
+  LongFillInAnswer,  ///< a second field for the fill-in answer in files, with room for long ones
   EssayAnswer,
   Kind,
   AnswerMask,
@@ -45,16 +44,16 @@ enum class ExamFieldName {
   AttachmentName,
 };
 
-/// The versions of the exam file; the current one is the one that is written.
+/// The versions of the exam file. Only the current one is written.
 enum class FileVersion { Current, V202, V0214, Untagged };
 inline constexpr std::size_t kFileVersions = 4;
 
 struct FieldRow {
   ExamFieldName name;
-  const char* key;    ///< in JSON; null where it stands in another form there
-  std::size_t limit;  ///< of what the user types, in UTF-16 units; 0 for what nobody types
+  const char* key;    ///< in JSON; null if JSON stores it in another form
+  std::size_t limit;  ///< of user input, in UTF-16 units; 0 if the user cannot type it
   std::array<std::size_t, kFileVersions>
-      units;  ///< width by file version; 0 where a version has no such field
+      units;  ///< width by file version; 0 if the version has no such field
 
   constexpr std::size_t Units(FileVersion version) const { return units[static_cast<std::size_t>(version)]; }
 };
@@ -78,7 +77,7 @@ inline constexpr FieldRow kExamFields[] = {
     {ExamFieldName::EssayAnswer,      "essayAnswer",      4096,   {4096, 4096, 4096, 4096}},
     {ExamFieldName::Kind,             "kindValue",        0,      {4, 4, 4, 4}},
     {ExamFieldName::AnswerMask,       "answerMask",       0,      {0, 0, 0, 0}},  // readers make it of the letters
-    {ExamFieldName::OralFlag,         "oralFlag",         0,      {0, 0, 0, 0}},  // stands with the attached files
+    {ExamFieldName::OralFlag,         "oralFlag",         0,      {0, 0, 0, 0}},  // is stored with the attached files
     {ExamFieldName::AttachmentName,   nullptr,            0,      {128, 128, 32, 0}},
 };
 // clang-format on
@@ -96,7 +95,7 @@ static_assert(
     }(),
     "a row for every name, in their order");
 
-/// A fill-in answer with more UTF-16 units than this is a long one (see LongAnswerFlags).
+/// A fill-in answer with more UTF-16 units than this is long (see LongAnswerFlags).
 inline constexpr std::size_t kMaxShortAnswer =
     FieldNamed(ExamFieldName::FillInAnswer).Units(FileVersion::Current);
 
@@ -117,7 +116,7 @@ void VisitScoreRange(std::size_t index, Visitor&& visit, Paper&... paper) {
   visit(FieldNamed(ExamFieldName::RangeScore), paper.scoreValue[index]...);
 }
 
-/// The fields that a FrameSetExam has besides.
+/// The additional fields of a FrameSetExam.
 template <class Visitor, class... Exam>
 void VisitDocumentFields(Visitor&& visit, Exam&... exam) {
   visit(FieldNamed(ExamFieldName::BoundaryQuestion), exam.boundaryQuestion...);
@@ -136,7 +135,7 @@ void VisitQuestionFields(Visitor&& visit, Question&... question) {
   visit(FieldNamed(ExamFieldName::OralFlag), question.oralFlag...);
 }
 
-/// Whether somebody has written something into a field. Numbers never count: every question has them.
+/// Whether a field has been filled in. Numbers never count: every question has them.
 inline bool HoldsText(const std::u16string& text) {
   return !text.empty();
 }

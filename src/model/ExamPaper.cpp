@@ -9,7 +9,7 @@ namespace quorvantis {
 namespace {
 
 /// Responses, attachments and the oral flag stay with the slot when questions are inserted or deleted: the
-/// attachment lists are moved by rules of their own (see editor/AttachmentShifts.h).
+/// attachment lists move by their own rules (see editor/AttachmentShifts.h).
 constexpr bool Moves(ExamFieldName field) {
   return field != ExamFieldName::OralFlag;
 }

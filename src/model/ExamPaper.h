@@ -15,8 +15,8 @@ enum class RandomMode : int { Off = 0, Options = 1, Sequence = 2 };
 enum class ScoreMode : int { Same = 0, Custom = 1 };
 
 /// The questions of an exam with their scores: title, 500 numbered slots, ten score ranges. Plain data with
-/// the operations that keep the slots in order. Question numbers are 1 to 500; an operation ignores any
-/// other.
+/// operations that keep the slots in order. Question numbers are 1 to 500; operations ignore any other
+/// number.
 class ExamPaper {
  public:
   ExamPaper();
@@ -24,25 +24,24 @@ class ExamPaper {
   ExamPaper& operator=(const ExamPaper&) = default;
   virtual ~ExamPaper() = default;
 
-  /// Empties the exam. `attachmentCopies` and `oralFlag` of the questions stay: the copies are still to be
+  /// Empties the exam. `attachmentCopies` and `oralFlag` of the questions stay: the copies must still be
   /// deleted, and the oral flag belongs to the slot until a question is shown or read there.
   void Reset();
 
-  /// Removes question n and closes the gap. Slot 500 becomes empty but keeps its kind: always been so, and
-  /// other programs show that kind. Attachments and the oral flag stay where they are.
+  /// Removes question n and closes the gap. Slot 500 becomes empty but keeps its kind; it has always done so,
+  /// and other programs show that kind. Attachments and the oral flag stay where they are.
   void DeleteQuestion(int n);
 
-  /// Opens an empty question at n (0 to 499) and pushes the following ones up; what was in slot 500 is lost.
+  /// Opens an empty question at n (0 to 499) and moves the later ones up; the content of slot 500 is lost.
   void InsertQuestion(int n);
 
-  /// Sets `questionCount` to the last slot with a text, an option or a fill-in answer; 0 when there is none.
+  /// Sets `questionCount` to the last slot with a text, an option or a fill-in answer; 0 if there is none.
   void CountQuestions() { questionCount = LastCountedQuestion(); }
   int LastCountedQuestion() const;
 
   void SetRenderOption(int option);
 
-  /// Tells the exam where it lives: files go under the application folder from now on, the random mode is
-  /// off.
+  /// Moves the exam to the application folder: its files go there from now on, and random mode is off.
   void SetHostMode(int mode);
 
   ExamQuestion& Question(int n) { return questions[static_cast<std::size_t>(n)]; }
@@ -52,19 +51,19 @@ class ExamPaper {
   int resultPageOption = 1;
   std::vector<std::u16string> stringList;
   PageRenderer pageRenderer;
-  int renderOption = 1;           ///< set through SetRenderOption only
+  int renderOption = 1;           ///< change it through SetRenderOption only
   int locationMode = 0;           ///< not 0: work folders lie under the application folder
-  int questionFilesUnpacked = 0;  ///< 1 when the reader unpacked attachments of questions
+  int questionFilesUnpacked = 0;  ///< 1 if the reader unpacked attachments of questions
   RandomMode randomMode = RandomMode::Off;
   std::u16string title;
-  int questionCount = 0;  ///< as of the last CountQuestions or read; stale while editing
+  int questionCount = 0;  ///< from the last CountQuestions or read; out of date while editing
   std::array<int, kScoreRanges> scoreFrom{};
   std::array<int, kScoreRanges> scoreTo{};
   std::array<float, kScoreRanges> scoreValue{};
   ScoreMode scoreMode = ScoreMode::Same;
-  std::vector<ExamQuestion> questions;  ///< 501 slots, never more or fewer
-  int hostMode = 0;                     ///< set through SetHostMode only
-  std::vector<int> questionState;       ///< one number for each slot
+  std::vector<ExamQuestion> questions;  ///< always 501 slots
+  int hostMode = 0;                     ///< change it through SetHostMode only
+  std::vector<int> questionState;       ///< one number per slot
   float resultScore = 0;                ///< score on the result page
 };
 

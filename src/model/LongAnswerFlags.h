@@ -10,16 +10,16 @@ namespace quorvantis {
 
 class ExamPaper;
 
-/// Whether the short form would cut a fill-in answer.
+/// Whether the short form would cut off part of a fill-in answer.
 constexpr bool IsLongAnswer(std::u16string_view answer) {
   return answer.size() > kMaxShortAnswer;
 }
 
-/// Which question slots are to be saved with the long form of the fill-in answer.
+/// The question slots whose fill-in answer is to be saved in the long form.
 ///
-/// The application has one instance for its whole run, beside the document. A flag that is set stays set, and
-/// stays with its slot number: New, Open, Insert and Delete leave it alone on purpose, since the exam writer
-/// has always taken the form from here. Numbers outside 1 to 500 are ignored.
+/// The application has one instance for its whole run, beside the document. A flag once set stays set, for
+/// its slot number: New, Open, Insert and Delete do not touch it, on purpose, since the exam writer has
+/// always relied on these flags. Numbers outside 1 to 500 are ignored.
 class LongAnswerFlags {
  public:
   bool IsSet(int question) const { return IsQuestionNumber(question) && flags_[Index(question)]; }
@@ -27,12 +27,12 @@ class LongAnswerFlags {
     if (IsQuestionNumber(question)) flags_[Index(question)] = true;
   }
 
-  /// Sets the flag of a question if its answer is a long one.
+  /// Sets the flag of a question if its answer is long.
   void SetIfLong(int question, std::u16string_view answer) {
     if (IsLongAnswer(answer)) Set(question);
   }
 
-  /// Does so with all questions.
+  /// The same for all questions.
   void SetWhereNeeded(const ExamPaper& exam);
 
  private:

@@ -5,8 +5,8 @@
 
 namespace quorvantis {
 
-/// How the pages of an exam are written. The document carries these settings from page to page; what they
-/// lead to is in render/.
+/// How the pages of an exam are written. The document carries these settings from page to page; render/ acts
+/// on them.
 class PageRenderer {
  public:
   PageRenderer() = default;
@@ -19,11 +19,11 @@ class PageRenderer {
   void SetRenderOption(int option) { renderOption = option; }
 
   std::u16string
-      studentIdText;        ///< number of the student, in the names of student folders; the editor has none
+      studentIdText;        ///< number of the student, used in names of student folders; empty in the editor
   int mediaSuppressed = 1;  ///< not 0: no media in the attachment pane, no recorder on the print page
   int printLayout = 0;      ///< 1 while the print page is built
-  int allowVideoRecording = 0;  ///< what the oral recorder is told
-  int renderOption = 1;         ///< the document's, for other programs; no page reads it
+  int allowVideoRecording = 0;  ///< passed to the oral recorder
+  int renderOption = 1;         ///< copied from the document for other programs; no page uses it
 };
 
 }  // namespace quorvantis

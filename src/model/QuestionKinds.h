@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The kinds of questions, one row a kind. Code that asks what a kind has takes it from here; a switch over
-// QuestionKind is for what each kind does in a way of its own, and has no default, so that the compiler names
-// it when there is a new kind.
+// The kinds of questions, one row per kind. Code that asks what a kind has looks here. A switch over
+// QuestionKind is for behaviour that differs by kind; it has no default, so that the compiler reports a new
+// kind.
 #pragma once
 
 #include "model/ExamFields.h"
@@ -12,12 +12,12 @@
 
 namespace quorvantis {
 
-/// Where the answer of a question stands: what the window shows for it and what a file keeps of it.
+/// Where the answer to a question is: what the window shows for it, and what a file keeps.
 struct AnswerParts {
   bool options = false;  ///< the options with their ticks
   bool fillIn = false;   ///< the fill-in answer
   bool essay = false;    ///< the essay answer
-  bool oral = false;     ///< nowhere: it is given aloud, and the question has the oral toggle
+  bool oral = false;     ///< not written down: the answer is spoken, and the question has the oral toggle
 };
 
 struct KindRow {
@@ -26,7 +26,7 @@ struct KindRow {
   std::string_view word;  ///< in scripts
   AnswerParts answer;
 
-  /// Whether a question of this kind keeps a field when it goes through an exam file.
+  /// Whether a question of this kind keeps a field when it is saved and read again.
   constexpr bool Keeps(ExamFieldName field) const {
     switch (field) {
       case ExamFieldName::Options:
@@ -50,7 +50,7 @@ inline constexpr KindRow kQuestionKinds[] = {
     {QuestionKind::Oral, "Oral", "oral", {.oral = true}},
 };
 
-/// Whether it is one of ours; files can hold any number.
+/// Whether it is a known kind; files can hold any number.
 constexpr bool IsKnown(QuestionKind kind) {
   switch (kind) {
     case QuestionKind::Choice:
@@ -72,12 +72,12 @@ static_assert(
     }(),
     "a row for every kind, in the order of their numbers");
 
-/// The row of a kind; null for a number that is none of ours.
+/// The row of a kind; null for an unknown number.
 constexpr const KindRow* FindKind(QuestionKind kind) {
   return IsKnown(kind) ? &kQuestionKinds[static_cast<std::size_t>(kind)] : nullptr;
 }
 
-/// The answer of a kind; a number that is none of ours has none.
+/// The answer of a kind; an unknown number has none.
 constexpr AnswerParts AnswerOf(QuestionKind kind) {
   const KindRow* row = FindKind(kind);
   return row != nullptr ? row->answer : AnswerParts();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Linked with all of model/ and with text/ and nothing else: it does not link when model/ needs more.
+// Linked with all of model/ and text/ and nothing else, so the link fails if model/ needs more.
 #include "model/ExamPaper.h"
 
 int main() {

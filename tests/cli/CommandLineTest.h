@@ -22,7 +22,7 @@ struct RunResult {
   std::string err;
 };
 
-/// Runs commands in this process. Whatever they do, nothing of them may be left in the folder for temporary
+/// Runs commands in this process. Whatever they do, they must leave nothing in the folder for temporary
 /// files.
 class CommandLineTest : public testing::Test {
  protected:
@@ -61,7 +61,7 @@ class CommandLineTest : public testing::Test {
   const std::filesystem::path temporary = folder / "tmp";
 };
 
-/// A failed command says why in one line that holds `reason`, and nothing else.
+/// A failed command prints exactly one line, which contains `reason`.
 inline void ExpectFailure(const RunResult& run, const std::string& reason) {
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.out, "");

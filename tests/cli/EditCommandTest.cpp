@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 class EditScripts : public CommandLineTest {
  protected:
-  /// Runs a script that succeeds and gives the states that it printed.
+  /// Runs a script that must succeed and returns the states that it printed.
   std::vector<Json> States(const std::string& script) {
     const RunResult run = Command({"edit"}, script);
     EXPECT_EQ(run.status, 0) << run.err;

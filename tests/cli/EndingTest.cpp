@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Commands that are ended while they save.
+// Commands that are killed while they save.
 #include "CommandLineTest.h"
 #include "platform/posix/Leftover.h"
 
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 class Ending : public CommandLineTest {
  protected:
-  /// In a process of its own: saves one version after the other.
+  /// In a separate process: saves one version after another.
   pid_t StartSaving() {
     const pid_t child = ::fork();
     if (child != 0) return child;

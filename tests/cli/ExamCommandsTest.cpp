@@ -26,7 +26,7 @@ TEST_F(ExamCommands, UnpackStaysInItsFolder) {
   const auto unpack = [this](const char* target) {
     return Command({"unpack", Path("exam.exm"), Path(target)});
   };
-  for (int i = 0; i < 2; ++i) {  // a second time over the first
+  for (int i = 0; i < 2; ++i) {  // the second time over the results of the first
     const RunResult run = unpack("new/out");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out + run.err, "");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Commands that write, on a disk that fills up at any of their steps.
+// Commands that write to a disk that fills up at any step.
 #include "CommandLineTest.h"
 #include "support/TinyDisk.h"
 
@@ -11,9 +11,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Tree = std::map<fs::path, std::string>;  ///< content of files by their paths
+using Tree = std::map<fs::path, std::string>;  ///< content of files by path
 
-/// Of a page, which names its folder, the size only.
+/// A page contains the path of its folder, so only its size counts.
 void AddTo(Tree& tree, const fs::path& folder) {
   for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     if (!entry.is_regular_file()) continue;
@@ -23,11 +23,11 @@ void AddTo(Tree& tree, const fs::path& folder) {
   }
 }
 
-enum class Small { Target, Application, Temporary };  ///< what lies on the disk that fills up
+enum class Small { Target, Application, Temporary };  ///< what is on the disk that fills up
 
 struct Trial {
   Small disk;
-  std::vector<std::string> command;  ///< "out/" is the folder of its results, "app" the application folder
+  std::vector<std::string> command;  ///< "out/" is the folder for its results, "app" the application folder
   std::string script;
 };
 
@@ -40,7 +40,7 @@ class FullDiskCommands : public CommandLineTest {
     WriteBytes(folder / "paper.txt", "1. What is it?\r\nA. yes\r\nB. no\r\nAns: A\r\n");
   }
 
-  /// With `room` KiB on the small disk; what lies in the folders before and after.
+  /// Runs with `room` KiB on the small disk; returns the content of the folders before and after.
   struct Outcome {
     RunResult result;
     Tree before;
@@ -59,7 +59,7 @@ class FullDiskCommands : public CommandLineTest {
 
   static constexpr std::size_t kPlenty = 4000;
 
-  /// Nothing where there can be no disk with so much room.
+  /// Nothing if there cannot be a disk of that size.
   std::optional<Outcome> Try(const Trial& trial, std::size_t room) {
     TinyDisk disk(kPlenty + 96);
     if (!disk.Works()) return std::nullopt;

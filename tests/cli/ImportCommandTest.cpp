@@ -56,7 +56,7 @@ class ImportCommand : public CommandLineTest {
   }
 };
 
-/// The text between "```<name>" and "```" from `at` on, which moves behind it.
+/// The text between "```<name>" and "```" after `at`, which then moves past it.
 std::string TakeBlock(const std::string& page, const std::string& name, std::size_t& at) {
   const std::string begin = "\n```" + name + "\n";
   const std::size_t found = page.find(begin, at);

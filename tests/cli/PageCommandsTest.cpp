@@ -9,7 +9,7 @@ namespace fs = std::filesystem;
 
 class PageCommands : public CommandLineTest {
  protected:
-  /// Builds exam.exm: a choice, a fill-in and an oral question, and the given files of the exam.
+  /// Builds exam.exm with a choice, a fill-in and an oral question, and attaches the given files to the exam.
   void BuildExam(const std::vector<std::string>& names = {}) {
     Json exam = Json::parse(R"({"title": "Title", "questions": [
       {"kind": "Choice", "text": "One", "options": ["a", "b"], "answerLetters": "b"},
@@ -29,7 +29,7 @@ class PageCommands : public CommandLineTest {
     EXPECT_EQ(run.out + run.err, "");
   }
 
-  /// The characters of a page written as UTF-16.
+  /// The characters of a page stored as UTF-16.
   std::string Halved(const char* file) const {
     std::string text = ReadBytes(folder / file);
     std::erase(text, '\0');

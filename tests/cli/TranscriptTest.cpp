@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Commands as a user types them, with all that they print: transcripts/*.txt. In a transcript, "$" begins a
-// command, "<" a line of its standard input, "=" names a file to write and "|" is a line of that. Then comes
-// what the command is expected to print: ">" on standard output, "!" on standard error, "?" its status
-// unless that is 0. DIR is the folder in which everything happens. QV_UPDATE_GOLDEN=1 writes these lines
-// anew; read them before you commit.
+// Commands as a user types them, with everything that they print: transcripts/*.txt. In a transcript, "$"
+// begins a command, "<" a line of its standard input, "=" names a file to write, and "|" is a line of that
+// file. The expected output follows: ">" on standard output, "!" on standard error, "?" the exit status
+// unless it is 0. DIR is the folder in which everything happens. QV_UPDATE_GOLDEN=1 rewrites the output
+// lines; read them before you commit.
 #include "CommandLineTest.h"
 
 namespace quorvantis::test {
@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 const fs::path kTranscripts = fs::path(QUORVANTIS_PROJECT) / "tests/cli/transcripts";
 
-/// Words between blanks; quotation marks hold words together.
+/// Splits at blanks; quotation marks keep words together.
 std::vector<std::string> WordsOf(const std::string& line) {
   std::vector<std::string> words;
   bool isQuoted = false, isInside = false;
@@ -31,7 +31,7 @@ std::vector<std::string> WordsOf(const std::string& line) {
 
 class Transcript : public CommandLineTest, public testing::WithParamInterface<const char*> {
  protected:
-  /// What was printed, each line behind its mark.
+  /// The output, each line after its mark.
   void Print(char mark, std::string text) {
     for (auto at = text.find(folder.Path()); at != text.npos; at = text.find(folder.Path()))
       text.replace(at, folder.Path().string().size(), "DIR");

@@ -24,7 +24,7 @@
 
 namespace quorvantis::test {
 
-/// The real window over an exam that a test can fill before it opens the window, with scripted dialogs.
+/// The real window, with scripted dialogs. A test can fill the exam before it opens the window.
 class WindowTest : public testing::Test {
  protected:
   void Open() {
@@ -55,7 +55,7 @@ class WindowTest : public testing::Test {
     QTest::keyClick(&Control(name), key, modifiers);
   }
 
-  /// Clicks a button that opens a dialog, and has `use` done while that waits for the user.
+  /// Clicks a button that opens a dialog, and runs `use` while the dialog is open.
   void ClickAndUse(const char* name, const std::function<void(QDialog&)>& use) {
     const auto useDialog = [&] {
       auto* dialog = window->findChild<QDialog*>();
@@ -70,7 +70,7 @@ class WindowTest : public testing::Test {
     Click(name);
   }
 
-  /// Lets the event loop turn once.
+  /// Runs the event loop once.
   void Turn() { QCoreApplication::processEvents(); }
   bool ShowsChange() { return window->windowTitle().endsWith(" *"); }
   std::filesystem::path MakeFile(const char* name) { return WriteBytes(folder / name, "content"); }

@@ -15,7 +15,7 @@ class Attaching : public EditorTest {
   }
   fs::path WorkRoot() const { return world.services.applicationFolder / "~TEMP"; }
 
-  /// Fills the exam's lists with ten files as if they came from an exam file.
+  /// Fills the exam's lists with ten files, as if they had been read from an exam file.
   void FillExamList() {
     for (std::size_t i = 0; i < kMaxAttachments; ++i) {
       const std::u16string digit(1, static_cast<char16_t>(u'0' + i));
@@ -35,7 +35,7 @@ TEST(WorkCopyNames, AreMadeOfFolderAndCounter) {
   const std::tuple<const char*, int, std::u16string, std::u16string> rows[] = {
       {"/home/docs/photo.jpg", 3, u"homedocs", u"photo~3.jpg"},
       {"/a:b/c.d/x.tar.gz", 12, u"abc.d", u"x.tar~12.gz"},
-      {"/lib/bill", 1, u"lib", u"~1bill"},  // folder names may share the file name's letters
+      {"/lib/bill", 1, u"lib", u"~1bill"},  // folder names may share letters with the file name
       {"/photo.jpg", 1, u"", u"photo~1.jpg"},
       {"/d/.profile", 2, u"d", u"~2.profile"}};
   for (const auto& [source, counter, from, copy] : rows) {
@@ -179,7 +179,7 @@ TEST_F(Attaching, AHostileNameBringsNoFileIntoTheExam) {
   RemoveExamFile(3);
   ASSERT_EQ(exam.examAttachmentPaths[9], AsText(secret));
   EXPECT_EQ(saved().find("TOP SECRET"), std::string::npos);
-  editor.questions.GoNext();  // walking brings the tenth entry back into the list
+  editor.questions.GoNext();  // moving on brings the tenth entry back into the list
   RemoveExamFile(1);
   ASSERT_EQ(exam.examAttachmentPaths[8], AsText(secret));
   EXPECT_EQ(saved().find("TOP SECRET"), std::string::npos);

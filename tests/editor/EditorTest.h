@@ -12,7 +12,7 @@
 
 namespace quorvantis::test {
 
-/// An editor without a window over an exam that a test can fill; Show() shows question 1 of it.
+/// An editor without a window; a test can fill the exam. Show() shows its question 1.
 class EditorTest : public testing::Test, protected EditorView {
  protected:
   EditorTest() {
@@ -28,7 +28,7 @@ class EditorTest : public testing::Test, protected EditorView {
     return editor.questions.EditField(field, std::move(text));
   }
 
-  /// The window's message loop turns once.
+  /// The window's event loop runs once.
   void Turn() {
     if (std::exchange(posted, false)) editor.state.DeliverContentChanged();
   }

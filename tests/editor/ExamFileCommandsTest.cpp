@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 class ExamFileEditing : public EditorTest {
  protected:
-  /// Saves an exam of two questions, the first with an attached file, and one attached to the exam.
+  /// Saves an exam with two questions, a file attached to the first and a file attached to the exam.
   fs::path MakeExamWithFiles() {
     editor.attachments.AttachExamFile(WriteBytes(folder / "map.txt", "the map"));
     editor.attachments.AttachQuestionFile(WriteBytes(folder / "note.txt", "the note"));
@@ -64,7 +64,7 @@ TEST_F(ExamFileEditing, SaveAsProposesTheTitleWhereTheLastExamLies) {
       {u" Biology, term 1.2 ", u"Biology, term 1.2"},
       {u"..", u"MyExam"},
       {u"../a\\b:c*d?\r\n<e>|\"f\".", u"a b c d e f"},
-      {u"letter.Doc", u"letter.Doc.exm"},  // which would be exported
+      {u"letter.Doc", u"letter.Doc.exm"},  // letter.Doc would be exported
       {u"\u751F\u7269", u"\u751F\u7269"},
       {std::u16string(79, u'x') + u"\xD83D\xDE00", std::u16string(79, u'x')},
       {std::u16string(u"a\0\xD800", 3), u"a \xFFFD"}};
@@ -167,7 +167,7 @@ TEST_F(ExamFileEditing, UnpackedFilesGoWithTheExam) {
     const std::vector<fs::path> unpacked{exam.examAttachmentPaths[0], exam.Question(1).attachmentPaths[0]};
     EXPECT_EQ(ReadBytes(unpacked[0]), "the map");
     EXPECT_EQ(ReadBytes(unpacked[1]), "the note");
-    editor.questions.DeleteHere();  // out of the list, the file is still the exam's to delete
+    editor.questions.DeleteHere();  // no longer in the list, but the file is still the exam's to delete
     editor.state.DeliverContentChanged();
     WriteBytes(unpacked[0], "used");
     world.dialogs.answers = {SaveAnswer::No};

@@ -88,7 +88,7 @@ TEST_F(QuestionEditing, SeparatorButtonOpensOneMoreAnswer) {
       {u"a<@>  ", u"a<@>", true},
       {u"a<@>b", u"a<@>b<@>", true},
       {fits, fits + u"<@>", true},
-      {fits + u"x", fits + u"x", true}};  // refused for its length, and reported like any refused change
+      {fits + u"x", fits + u"x", true}};  // too long: refused, and reported like any refused change
   for (const auto& [before, after, reported] : rows) {
     SCOPED_TRACE(testing::PrintToString(before));
     exam.Question(1).answerText = before;

@@ -12,7 +12,7 @@ using Lines = std::vector<std::u16string>;
 
 class SavingCheckTest : public EditorTest {
  protected:
-  /// What a save of the exam says, and the file after it.
+  /// The message before a save, and the file after it.
   Lines Save(LossAnswer answer) {
     world.dialogs.lossAnswer = answer;
     world.dialogs.losses.clear();
@@ -33,7 +33,7 @@ TEST_F(SavingCheckTest, StoresWholeOnTheUsersWord) {
   const std::string before = ReadBytes(file);
   exam.Question(2).text = u"two";
   exam.Question(2).kind = QuestionKind::FillIn;
-  exam.Question(2).answerText = std::u16string(300, u'x');  // was loaded, and is not stored anew
+  exam.Question(2).answerText = std::u16string(300, u'x');  // as loaded and not stored again
   exam.Question(4).kind = QuestionKind::Essay;
   exam.Question(4).essayAnswer = u"answer";
   const Lines losses{u"[1200 2]", u"[1200 4]", u"(can be stored)"};
@@ -137,7 +137,7 @@ TEST_F(SavingCheckTest, TellsOfFilesThatAreNotWhatWasRead) {
   EXPECT_EQ(Save(LossAnswer::GoBack), Lines{u"[1245 %s]"});
   EXPECT_EQ(ReadBytes(file), "another program");
 
-  Reopen();  // it is no exam
+  Reopen();  // it is not an exam
   EXPECT_EQ(Save(LossAnswer::GoBack), Lines{u"[1211 %s]"});
   EXPECT_EQ(ReadBytes(file), "another program");
   Type(FormField::Text, u"an exam");

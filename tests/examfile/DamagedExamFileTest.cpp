@@ -18,7 +18,7 @@ class DamagedExamFile : public ExamFileTest {
     return Type(form, typed);
   }
 
-  /// Reads the whole file into the document as the damaged one left it.
+  /// Reads the intact file into the document in the state that the damaged one left.
   void ExpectUsable(const Form& form, const std::string& good) {
     Read(good);
     ASSERT_TRUE(world.dialogs.errors.empty() && world.dialogs.warnings.empty());
@@ -36,7 +36,7 @@ TEST_F(DamagedExamFile, GivesWhatWasWholeWhereverItIsCut) {
     SCOPED_TRACE(form.name);
     const ExamBytes typed = Small(form);
     std::set<std::size_t> cuts;
-    // Inside the long fields, and at every edge of a field.
+    // Inside the long fields, and at both ends of every field.
     for (std::size_t cut = 0; cut < typed.bytes.size(); cut += 997) cuts.insert(cut);
     for (const std::size_t end : typed.ends) cuts.insert({end, end + 1});
     for (const std::size_t cut : cuts) {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Exam files typed by hand, field by field. Nothing here looks at the program's own description of the
-// layout.
+// Exam files written by hand, field by field. Nothing here uses the program's own description of the layout.
 #pragma once
 
 #include <array>
@@ -13,17 +12,17 @@ namespace quorvantis::test {
 
 using namespace std::string_literals;
 
-/// Text units of two bytes, of one byte, and of two bytes in fields that are half as wide.
+/// Text units of two bytes, of one byte, and of two bytes in fields of half the width.
 enum class Units { Wide, EightBit, WideInBytes };
 
-/// What tells the forms of exam files apart.
+/// What distinguishes the forms of exam files.
 struct Form {
   std::string name;
   std::string start;  ///< mark and tag
   Units units;
-  std::size_t fileName;       ///< width of an attachment's name; 0 where the form has no attachments
+  std::size_t fileName;       ///< width of an attachment's name; 0 if the form has no attachments
   bool current;               ///< has decimal scores, oral flags and long answers
-  std::u16string titleStart;  ///< what is taken for text though it is none
+  std::u16string titleStart;  ///< what is read as text although it is not
 };
 
 inline const std::vector<Form>& AllForms() {
@@ -41,7 +40,7 @@ inline const std::vector<Form>& AllForms() {
 
 class ExamBytes {
  public:
-  /// Fields are filled up with `filler` behind their terminator, where anything may stand.
+  /// Fields are padded with `filler` after their terminator, where any bytes may stand.
   ExamBytes(Units units, char filler) : units_(units), filler_(filler) {}
 
   ExamBytes& Raw(std::string_view raw) {
@@ -100,7 +99,7 @@ struct TypedExam {
   std::u16string score = u"3";  ///< of every range
   std::vector<TypedFile> files{};
   std::vector<TypedQuestion> questions{};
-  bool shortNumbers = false;  ///< the ranges are 1 to 2 only, so that no number of the header has two digits
+  bool shortNumbers = false;  ///< the ranges are 1 to 2 only, so that no number in the header has two digits
 };
 
 /// Random mode 2, score mode 1, ranges 1 to 51, 2 to 52, …; boundary question 7.

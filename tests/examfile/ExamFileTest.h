@@ -14,7 +14,7 @@
 
 namespace quorvantis::test {
 
-/// A document in an application folder of its own, with something beside it that must not change.
+/// A document in its own application folder, next to something that must not change.
 class ExamFileTest : public testing::Test {
  protected:
   ExamFileTest() {
@@ -29,7 +29,7 @@ class ExamFileTest : public testing::Test {
     exam.ReadExamFile(WriteBytes(folder / "read.exm", bytes));
   }
 
-  /// What lies below the test's folder, the unpacked files left out.
+  /// The content of the test's folder without the unpacked files.
   std::set<std::string> Surroundings() const {
     std::set<std::string> names;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path())) {

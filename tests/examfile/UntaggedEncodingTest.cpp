@@ -10,7 +10,7 @@
 namespace quorvantis::test {
 namespace {
 
-/// What the texts of an exam are made of.
+/// Words that the texts of an exam are built from.
 struct Script {
   const char* codePage;
   std::vector<std::u16string> words;
@@ -47,7 +47,7 @@ class UntaggedEncodingOf : public testing::TestWithParam<Script> {
       for (auto& option : question.options) option = Words(static_cast<int>(random() % 3));
       if (random() % 2 == 0) question.answer = Words(1);
     }
-    exam.questions[0].text = Words(8);  // so that there is something to go by
+    exam.questions[0].text = Words(8);  // so that there is something to judge by
     return exam;
   }
 

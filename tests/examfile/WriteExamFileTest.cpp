@@ -20,7 +20,7 @@ class WriteExamFile : public ExamFileTest {
     return PathToText(WriteBytes(folder / "attached" / name, content));
   }
 
-  /// Byte for byte, with nothing but zeros behind a terminator.
+  /// Byte for byte, with only zeros after a terminator.
   void ExpectWritten(TypedExam typed) {
     typed.score = u"12345.6";
     EXPECT_TRUE(exam.WriteExamFile(target));
@@ -56,7 +56,7 @@ TEST_F(WriteExamFile, WritesEveryFieldWhereItBelongs) {
   first.options = typed.questions[0].options;
   first.options[4] += cut;
   first.answerLetters = u"ae";
-  first.oralFlag = 1;  // without an attachment there is nowhere to store it
+  first.oralFlag = 1;  // cannot be stored without an attachment
   exam.Question(2).attachmentPaths[0] = PathToText(folder / "gone");
   exam.Question(2).attachmentNames[0] = u"gone.avi";
   exam.Question(2).oralFlag = 2;  // neither off nor on

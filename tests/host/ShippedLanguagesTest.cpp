@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The language libraries that come with the program, as they were built.
+// The language libraries that the program is shipped with, as built.
 #include "LanguageFile.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
 #include "shell/language/BuiltInDialogTexts.h"
@@ -34,7 +34,7 @@ class Placeholders {
     }
   }
 
-  /// In any order, and a number that is only counted may be left out: not every language inflects.
+  /// The order is free, and a number used only for the plural may be left out: not every language inflects.
   bool Fit(const Placeholders& english) const {
     std::set<char16_t> known = english.shown_;
     known.insert(english.counted_.begin(), english.counted_.end());
@@ -49,7 +49,7 @@ class Placeholders {
   std::set<char16_t> shown_, counted_;
 };
 
-/// The patterns of file kinds, which no translation changes.
+/// The file patterns of file types, which translations must not change.
 std::u16string Patterns(std::u16string_view text) {
   std::u16string patterns;
   bool isPattern = false;

@@ -25,7 +25,7 @@ inline ReadPaper Parsed(const ImportSettings& rules, std::u16string_view markedT
   return QuestionTextParser(rules, debug, kNeverCancelled).Parse(markedText, firstPicture);
 }
 
-/// The questions of a paper, one line each: kind, text, options, letters and mask, or the answer.
+/// The questions of a paper, one per line: kind, text, options, letters and mask, or the answer.
 inline std::u16string Listed(const ReadPaper& paper) {
   constexpr std::u16string_view kKinds[] = {u"choice", u"true/false", u"fill-in", u"essay"};
   std::u16string lines;

@@ -26,16 +26,16 @@ TEST(TextMarking, ReplacesMatchesInSevenPasses) {
        u"#1.bmp2.bmp",
        u"#####.bmp&&&&&"},
       {{{&ImportSettings::m_strPreAllAnswer, u"Keys"}}, u"aKeysbKeys", u"a$$$$$bKeys"},
-      // A title takes ten characters before it, and makes up for missing ones behind it.
+      // A title swallows ten characters before it, and as many after it as are missing before it.
       {{{&ImportSettings::m_strTitle, u"TITLE"}}, u"abc0123456789TITLEd", u"abcd"},
       {{{&ImportSettings::m_strTitle, u"TITLE"}}, u"abcTITLE0123456789", u"789"},
       {{{&ImportSettings::m_strTitle, u"T"}, {&ImportSettings::m_strPreQuestion, u"Q"}},
        u"QQQ0Tx",
        u"!!!!!!x"},
-      // Each search starts from the first character: what stands before a marker may match with it.
+      // Each search starts at the first character: text before a marker may match together with it.
       {{{&ImportSettings::m_strPreQuestion, u"x!*|Q"}}, u"axQb", u"a!!!!!!!!!!b"},
       {{{&ImportSettings::m_strPreQuestion, u"Q|a!{5}"}}, u"aaQb", u"!!!!!b"},
-      // A pattern that cannot be compiled matches nothing, and a text ends at its first NUL.
+      // A pattern that does not compile matches nothing, and a text ends at its first NUL.
       {{{&ImportSettings::m_strPreQuestion, u"("}}, u"(", u"("},
       {{{&ImportSettings::m_strPreQuestion, u"Q"}}, std::u16string(u"Q\0Q", 3), u"!!!!!"},
   };
@@ -57,7 +57,7 @@ TEST(TextMarking, TellsPassesThatNeverEnd) {
       {&ImportSettings::m_strPreAnswer, u"[^a]", u"(endless PreAnswer)"},
       {&ImportSettings::m_strBmp, u"(?=.)a?#{0,3}$", u"(endless Bmp)"},
       {&ImportSettings::m_strTitle, u"x*", u"(endless Title)"},
-      // These look like it and end: in the text, at their own markers, after growing markers for a while.
+      // These look endless but end: in the text, at their own markers, after markers have grown for a while.
       {&ImportSettings::m_strPreAllAnswer, u"", u"a 12\nb"},
       {&ImportSettings::m_strPreAllAnswer, u"x*", u"$$$$$a 12\nb"},
       {&ImportSettings::m_strPreQuestion, u"^!(?!!{99})|a", std::u16string(101, u'!') + u" 12\nb"},
@@ -78,7 +78,7 @@ TEST(TextMarking, EndsWhenItIsCancelled) {
   EXPECT_EQ(marked.failure->reason, ImportFailure::Reason::Cancelled);
 }
 
-/// Replaces as the rule says, always from the first character.
+/// Replaces as the rule says, always starting at the first character.
 std::u16string ReplacedNaively(std::u16string text, const std::u16string& pattern) {
   const RegexPattern compiled(pattern, 3);
   for (int count = 0; count < 300; ++count) {
@@ -96,7 +96,7 @@ TEST(TextMarking, GoingOnFromTheLastMatchChangesNothing) {
       u"(?!a)", u"(?=\\d)", u"\\s*",       u"a+?",    u"(?:1|a)",  u".",    u"|",      u"!",
       u"[^1]",  u"\\Z",     u"(?>a*)",     u"1{2}",   u"(a|1)",    u"\\1?", u"a!!",    u".*?",
       u"\\B",   u"(?g)\\G", u"(?<!1|\\r)", u"(?!.!)", u"(?<=\\b.)"};
-  std::mt19937 random(7);  // NOLINT(bugprone-random-generator-seed): the same patterns each time
+  std::mt19937 random(7);  // NOLINT(bugprone-random-generator-seed): the same patterns every time
   for (int round = 0; round < 600; ++round) {
     ImportSettings rules;
     std::u16string text;
@@ -119,7 +119,7 @@ TEST(TableMarking, TakesQuestionsFromRows) {
   EXPECT_EQ(marked({}), u"!!!!!");
   EXPECT_EQ(marked({{{{u"No", u"Question\r\u0007", u"The Answer"},
                       {u"1", u" Q 1 \t\r\u0007", u"Key:A\r\u0007"},
-                      {u"2", u"Q 2", u"see Key:B"},  // the label's length goes from the start
+                      {u"2", u"Q 2", u"see Key:B"},  // cut by the label's length
                       {u"3"}}},
                     {{{u"Question"}, {u"no answers here"}}},
                     {{{u"Question", u"Answer", u"Question Answer"}, {u"a", u"b", u"Key:c"}}}}),

@@ -26,7 +26,7 @@ TEST(QuestionParsing, CutsAtMarkers) {
       {u"!!!!!a&&&&&b&&&&&c#####d#####@@@@@A!!!!!e#####@@@@@B",
        u"choice|a&&&&&b&&&&&c  7.bmp|A16\nchoice|e  8.bmp|B8\n"},
       {u"!!!!!a&&&&&&&&&&#####@@@@@A", u"choice|a&&&&&&&&&&  6.bmp|A16\n"},
-      {u"!!!!!dropped&&&&&#####!!!!!a#####@@@@@A", u"choice|a  5.bmp|A16\n"},  // no answer: not looked into
+      {u"!!!!!dropped&&&&&#####!!!!!a#####@@@@@A", u"choice|a  5.bmp|A16\n"},  // no answer: not parsed
       {u"!!!!!a#####@@@@@A!!!!!a######@@@@@A", u"choice|a  5.bmp|A16\nchoice|a  6.bmp|A16\n"},
   };
   for (const auto& row : rows) {
@@ -56,7 +56,7 @@ TEST(QuestionParsing, DecidesTheKind) {
   EXPECT_EQ(Listed(Parsed(rules, u"!!!!!q|||!!!!!|s ___|!!!!!|t|!!!!!|u|$$$$$TF:TFT Keys:1.BD")),
             u"choice|q|BD10\ntrue/false|s ___|T;F;A16\ntrue/false|t|T;F;B8\ntrue/false|u|T;F;A16\n");
   EXPECT_EQ(Listed(Parsed(rules, u"!!!!!|s|!!!!!|t|$$$$$TF:F ")),
-            u"true/false|s|F;A16\ntrue/false|t|F;B8\n");  // answers that are not there are empty
+            u"true/false|s|F;A16\ntrue/false|t|F;B8\n");  // missing answers are empty
   rules.m_strJudgementAnswer = u"T?";
   EXPECT_EQ(Parsed(rules, u"!!!!!|s|$$$$$TF:F ").failure->key, u"JudgementAnswer");
 }
@@ -93,7 +93,7 @@ TEST(AnswerBlocks, AreTakenApartFromTheFront) {
   const RuleSearch block(u"B", u"<.*>", kNeverCancelled);
   EXPECT_EQ(ParseAnswer(u"ab", RuleSearch(u"I", u"ab", kNeverCancelled), block, answers, debug), 0);
   EXPECT_EQ(ParseAnswer(u"ab<aabb>", RuleSearch(u"I", u"ab", kNeverCancelled), block, answers, debug), 1);
-  EXPECT_EQ(answers, (std::vector<std::u16string>{u"x", u"ab", u"ab"}));  // the second is made by the first
+  EXPECT_EQ(answers, (std::vector<std::u16string>{u"x", u"ab", u"ab"}));  // erasing one makes another
   EXPECT_EQ(debug.lines[0], u"FrameSetExam::ParseAnswer<aabb>");
   EXPECT_EQ(debug.lines[1], u"FrameSetExam::ParseAnswerab");
 }

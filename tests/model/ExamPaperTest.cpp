@@ -10,7 +10,7 @@
 
 namespace quorvantis {
 
-/// The document keeps no more than its address here.
+/// Here the document only keeps the address.
 struct ExamServices {};
 
 namespace {
@@ -25,7 +25,7 @@ auto Lasting(const ExamQuestion& q) {
   return std::tie(q.attachmentCopies, q.oralFlag);
 }
 
-/// Something in every field, different for every number.
+/// A value in every field, different for every number.
 ExamQuestion Filled(int number) {
   const std::u16string id = FormatInteger(number);
   ExamQuestion q;
@@ -41,7 +41,8 @@ void FillSlots(ExamPaper& exam) {
   for (int n = 0; n <= kMaxQuestions; ++n) exam.Question(n) = Filled(n);
 }
 
-/// Every slot n holds the moving fields of question `origin(n)`, none where that is -1, and kept all others.
+/// Every slot n has the moving fields of question `origin(n)`, or empty ones if that is -1, and has kept all
+/// others.
 template <class Origin>
 void ExpectSlots(const ExamPaper& exam, Origin origin) {
   for (int n = 0; n <= kMaxQuestions; ++n) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Files as addresses, addresses as files, and which files are served.
+// URLs of files, files of URLs, and which files are served.
 #include "preview/AttachedText.h"
 #include "preview/PageAddress.h"
 #include "preview/RequestGuard.h"
@@ -110,7 +110,8 @@ TEST_F(ServedFilesTest, RelativeAddressesMeanThePageFolderFirst) {
   EXPECT_EQ(files.Find(app / "TEMP/ExamPreview/~TEMP/a"), app / "~TEMP/a");
   Make("TEMP/ExamPreview/~TEMP/a");
   EXPECT_EQ(files.Find(app / "TEMP/ExamPreview/~TEMP/a"), app / "TEMP/ExamPreview/~TEMP/a");
-  // The page on paper lies in the application folder and names files of an opened exam by their own folder.
+  // The print page lies in the application folder and refers to the files of an opened exam by their own
+  // folder.
   files.SetPageFolder(app);
   Make("TEMP/ExamPreview/~tt/b");
   EXPECT_EQ(files.Find(app / "~tt/b"), app / "TEMP/ExamPreview/~tt/b");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Small attached files of each kind, made on the spot.
+// Small attached files of each kind, created by the test.
 #pragma once
 
 #include <QProcess>
@@ -11,12 +11,12 @@
 
 namespace quorvantis::test {
 
-/// A document for a word processor with one paragraph.
+/// A word-processor document with one paragraph.
 inline std::string RichText(const std::string& paragraph) {
   return "{\\rtf1\\ansi\\fs48 " + paragraph + "\\par}";
 }
 
-/// Two seconds of a film and a tone that the browser does not play as they are.
+/// Two seconds of video with a tone, in a format that the browser does not play.
 inline bool MakeOldFilm(const std::filesystem::path& file) {
   std::filesystem::create_directories(file.parent_path());
   return QProcess::execute(
@@ -24,8 +24,7 @@ inline bool MakeOldFilm(const std::filesystem::path& file) {
                         "lavfi", "-i", "sine=d=2", "-c:v", "mpeg4", "-c:a", "adpcm_ms", file.c_str()}) == 0;
 }
 
-/// The beginning of a recording that plays everywhere, with `samples` bytes of sound to follow, 8000 a
-/// second.
+/// The start of a recording that plays everywhere; `samples` bytes of sound follow, 8000 per second.
 inline std::string RecordingHead(std::uint32_t samples) {
   const auto number = [](std::uint32_t value, int bytes) {
     std::string text;
@@ -42,7 +41,7 @@ inline std::string Silence() {
   return RecordingHead(kSamples) + std::string(kSamples, '\x80');
 }
 
-/// A picture of 2 by 1 dots.
+/// A picture of 2 by 1 pixels.
 inline std::string SmallBitmap() {
   return std::string(
       "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x02\0\0\0\x01\0\0\0\x01\0\x18\0\0\0\0\0\x08\0\0\0"
@@ -50,23 +49,23 @@ inline std::string SmallBitmap() {
       62);
 }
 
-/// A clip of 550 by 400 that is all red.
+/// A solid red clip of 550 by 400 pixels.
 inline std::string RedFlash() {
   const std::string body =
       std::string("\x78\0\x05\x5F\0\0\x0F\xA0\0", 9) +  // the size of the stage, in twips
       std::string("\0\x0C\x01\0", 4) +                  // 12 pictures a second, 1 of them
       std::string("\x43\x02\xFF\0\0", 5) +              // the background
-      std::string("\x40\0\0\0", 4);                     // the picture, and the end
+      std::string("\x40\0\0\0", 4);                     // the picture and the end
   const auto size = static_cast<char>(8 + body.size());
   return std::string("FWS\x06") + size + std::string(3, '\0') + body;
 }
 
-/// A document of one empty page.
+/// A document with one empty page.
 inline constexpr char kPortable[] =
     "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj 2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj "
     "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 595 842]>>endobj\ntrailer<</Root 1 0 R>>\n%%EOF\n";
 
-/// The player script of the pages, as far as this browser runs it.
+/// The pages' player script, as far as this browser runs it.
 inline std::string PlayerScript(const std::string& source, int autostart = 0) {
   static int number = 0;
   const std::string id = "{" + std::to_string(++number) + "}";
@@ -77,7 +76,7 @@ inline std::string PlayerScript(const std::string& source, int autostart = 0) {
          "\").innerHTML = firefoxHtml;\r\n</script>";
 }
 
-/// What pages hold for an attached file, by its name.
+/// The markup on pages for an attached file, by its name.
 inline std::string ItemOf(const std::string& source) {
   const std::string extension = source.substr(source.rfind('.') + 1);
   const auto isOneOf = [&](const char* names) {

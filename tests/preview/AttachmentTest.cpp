@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every class of attached files appears, or says why it does not.
+// Every class of attached files appears, or the page says why it does not.
 #include "AttachmentFiles.h"
 #include "PreviewTest.h"
 
@@ -13,7 +13,7 @@ class AttachmentTest : public PreviewTest {
     return Evaluate("window.frames[0].document.body ? window.frames[0].document.body.innerText.trim() : ''")
         .toString();
   }
-  /// All text of the page and of the frames in it.
+  /// All text of the page and its frames.
   std::string Said() {
     return Evaluate("[window, ...Array.from(window.frames)].map(w => w.document.body.innerText).join('\\n')")
         .toString()
@@ -49,7 +49,7 @@ TEST_F(AttachmentTest, DocumentsAsPicturesOfTheirPages) {
   EXPECT_TRUE(FrameShowsPicture());
   QTest::qWait(300);
   SaveLook("document");
-  // The content is known now, under whatever name.
+  // Now the content is known, under any name.
   Attach("copy.doc", RichText("Photosynthesis"));
   PreviewWith("<iframe width=690 height=350 src=\"~TEMP/home/copy.doc\" ></iframe><br>");
   EXPECT_EQ(Evaluate("window.frames[0].document.images.length").toInt(), 1);

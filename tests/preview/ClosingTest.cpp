@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The ways out of a preview.
+// All ways to close a preview.
 #include "PreviewTest.h"
 
 #include <QMessageBox>
@@ -12,9 +12,9 @@ const char* const kFinishButton =
 
 class ClosingTest : public PreviewTest {
  protected:
-  /// As the window system delivers a key: to the window, for whatever has the focus in it.
+  /// Sends a key as the window system does: to the window, for the widget that has the focus in it.
   void PressEscape() { QTest::keyClick(Window().windowHandle(), Qt::Key_Escape); }
-  /// A page whose script never ends, begun once it has been seen: it answers nothing from then on.
+  /// A page whose script never ends once the page has been shown: it then no longer responds.
   void PreviewForever() {
     Preview(Compose("SEE.htm", "x"));
     Page().runJavaScript("setTimeout(() => { while (true) alert('again'); }, 0)");
@@ -65,7 +65,7 @@ TEST_F(ClosingTest, EscapeLeavesAPageThatSwallowsKeys) {
                   "window.addEventListener(type, e => { e.preventDefault(); e.stopPropagation(); }, true);"
                   "onbeforeunload = () => 'stay'</script>"));
   Evaluate("document.getElementById('field').focus()");
-  // A page that was used may ask whether to stay.
+  // A page that the user has interacted with may ask whether to stay.
   QTest::mouseClick(Window().findChild<QWebEngineView*>()->focusProxy(), Qt::LeftButton, {}, {30, 20});
   QTest::keyClick(Window().windowHandle(), Qt::Key_A);
   PressEscape();
@@ -100,7 +100,7 @@ TEST_F(ClosingTest, EscapeDoesNotReachTheWindowBelow) {
   below.installEventFilter(&listener);
   QTest::keyClick(&below, Qt::Key_Escape);
   EXPECT_FALSE(Window().isVisible());
-  for (int i = 0; i < 3; ++i) {  // held, or pressed once more to be sure
+  for (int i = 0; i < 3; ++i) {  // held down, or pressed again to be sure
     QTest::qWait(500);
     QTest::keyClick(&below, Qt::Key_Escape);
     EXPECT_EQ(listener.escapes, 0);

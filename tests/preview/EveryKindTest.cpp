@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Previews in a row with every kind of file: all of it appears, every time. QUORVANTIS_PREVIEWS=200 for more.
+// Many previews with every kind of file: everything appears, every time. QUORVANTIS_PREVIEWS=200 for more.
 #include "AttachmentFiles.h"
 #include "PreviewTest.h"
 
@@ -28,7 +28,7 @@ class EveryKindTest : public PreviewTest {
               0);
   }
 
-  /// Questions on the left; on the right a group and a text, as the writers of pages arrange them.
+  /// Questions on the left; a group and a text on the right, as the page writers arrange them.
   std::filesystem::path ComposeExam() {
     std::string questions;
     for (const char* name :

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Exams in the browser, composed as the window does it.
+// Exams in the browser, composed the way the window does it.
 #include "AttachmentFiles.h"
 #include "PreviewTest.h"
 #include "model/document/FrameSetExam.h"
@@ -21,7 +21,7 @@ class ExamTest : public PreviewTest {
     exam.SetHostMode(1);
   }
 
-  /// A copy whose name is not what the user calls the file.
+  /// A copy whose name differs from the name that the user sees.
   std::u16string Copy(const std::string& name, std::string_view bytes) {
     const std::string copy = std::to_string(++copies);
     return PathToText(WriteBytes(app / "~TEMP" / copy / ("0" + name), bytes));
@@ -48,7 +48,7 @@ class ExamTest : public PreviewTest {
   int copies = 0;
 };
 
-/// Of everything that means something in a page, a script or an address.
+/// All characters that are special in a page, a script or a URL.
 std::string StrangeName(std::mt19937& random) {
   static const std::vector<std::string> pieces{
       "\"", "'", "<",       ">",  "%", "#",   "?",    "&",     "&quot;", "\\", "\n", "\t",   " ",      "=",
@@ -91,7 +91,7 @@ TEST_F(ExamTest, FilesOfAnyNameAppearOnPaperAndInPreviews) {
   ShowPrint();
   allAppear("window");
 
-  // Those of the exam, one with a frame of its own and one in a group; the other files have two prefixes now.
+  // The exam's files, one in a frame of its own and one in a group; the other files have two prefixes now.
   exam.examAttachmentNames = {u"\"text\".txt", u"\"picture\".bmp"};
   exam.examAttachmentPaths = {Copy("\"text\".txt", "lines"), Copy("\"#?picture\".bmp", SmallBitmap())};
   ShowPreview();

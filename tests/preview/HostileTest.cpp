@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Exams come from strangers: what a page cannot do.
+// Exams are untrusted: what a page cannot do.
 #include "PreviewTest.h"
 
 #include <QTcpServer>
@@ -10,7 +10,7 @@
 namespace quorvantis::test {
 namespace {
 
-/// Servers on this machine that count who talks to them.
+/// Local servers that count connections.
 class Listeners {
  public:
   Listeners() {
@@ -122,8 +122,8 @@ TEST_F(HostileTest, IsFetchedBackThreeTimesAndThenStaysBlank) {
   ShowPreview(Compose(
       "SEE.htm", "x<script>onload = () => setTimeout(() => { location = 'about:blank' }, 200)</script>"));
   EXPECT_TRUE(WaitFor([&] { return loads >= 2; }));
-  for (int before = -1; before != loads; QTest::qWait(2000)) before = loads;  // until it has come to rest
-  EXPECT_LE(loads, 4);  // on a busy machine the page may be gone before a load of it is reported
+  for (int before = -1; before != loads; QTest::qWait(2000)) before = loads;  // until it has settled
+  EXPECT_LE(loads, 4);  // on a busy machine the page may be gone before its load is reported
   EXPECT_EQ(Page().url(), QUrl("about:blank"));
 }
 

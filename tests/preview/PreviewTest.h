@@ -23,10 +23,10 @@ class CountingOwner : public PreviewOwner {
   void PrefixAttachmentPaths(int on) override { finished += on == 0; }
 };
 
-/// A browser over an application folder with pages and attached files of the test's own making.
+/// A browser on an application folder with pages and attached files created by the test.
 class PreviewTest : public testing::Test {
  protected:
-  static constexpr int kLongest = 60'000;  // milliseconds; documents have to be converted on slow machines
+  static constexpr int kLongest = 60'000;  // milliseconds; slow machines must have time to convert documents
 
   PreviewTest() { std::filesystem::create_directories(previewFolder); }
 
@@ -37,7 +37,7 @@ class PreviewTest : public testing::Test {
     return page;
   }
 
-  /// A file that was attached in this run.
+  /// A file attached in this run.
   std::filesystem::path Attach(const std::string& name, std::string_view bytes) {
     return WriteBytes(AttachMissing(name), bytes);
   }
@@ -52,7 +52,7 @@ class PreviewTest : public testing::Test {
     return *windows;
   }
 
-  /// As the main window does for each preview and print.
+  /// As the main window does for every preview and print.
   PreviewWindow& NewWindow() {
     window.reset();
     window = Windows().Make();
@@ -72,7 +72,7 @@ class PreviewTest : public testing::Test {
     window->Hide();
   }
 
-  /// Shows `page` and waits until it is loaded.
+  /// Shows `page` and waits until it has loaded.
   void Preview(const std::filesystem::path& page) {
     NewWindow();
     ShowPreview(page);
@@ -95,7 +95,7 @@ class PreviewTest : public testing::Test {
     return true;
   }
 
-  /// The value of a script in the shown page; invalid when the page does not answer.
+  /// The result of a script in the shown page; invalid if the page does not respond.
   QVariant Evaluate(const QString& script) {
     struct Answer {
       bool here = false;
@@ -110,12 +110,12 @@ class PreviewTest : public testing::Test {
     return answer->value;
   }
 
-  /// Waits until a script gives true.
+  /// Waits until a script returns true.
   bool Becomes(const QString& script, int limit = kLongest) {
     return WaitFor([&] { return Evaluate("Boolean(" + script + ")").toBool(); }, limit);
   }
 
-  /// Pictures of the window for a human to look at, where the environment names a folder for them.
+  /// Saves screenshots for people to look at, if the environment names a folder for them.
   void SaveLook(const QString& name) {
     const QString shots = qEnvironmentVariable("QUORVANTIS_TEST_PICTURES");
     if (!shots.isEmpty()) Window().grab().save(shots + '/' + name + ".png");

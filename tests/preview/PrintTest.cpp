@@ -17,7 +17,7 @@ class PrintTest : public PreviewTest {
     return page;
   }
 
-  /// Prints `page` as the Print command does, into a PDF file.
+  /// Prints `page` to a PDF file, as the Print command does.
   void Print(const std::filesystem::path& page) {
     Windows().ChoosePrinterWith([this](QPrinter& printer) {
       ++asked;
@@ -50,7 +50,7 @@ TEST_F(PrintTest, PutsEveryQuestionOnPaper) {
   }
   PrintOffScreen(Paper(questions));
   QTest::qWait(100);
-  Print(Paper(questions));  // twice in a hurry asks once
+  Print(Paper(questions));  // two quick calls ask once
   EXPECT_TRUE(Window().testAttribute(Qt::WA_DontShowOnScreen));
   const QString text = Text();
   for (int number = 1; number <= 120; ++number) {
@@ -72,7 +72,7 @@ TEST_F(PrintTest, WaitsForDocumentsAndPrintsAllTheirPages) {
   EXPECT_TRUE(text.contains("Read this"));
   EXPECT_TRUE(text.contains("lines of the note"));
   EXPECT_FALSE(text.contains("Preparing"));
-  // Two lines of heading, then one line a picture.
+  // Two lines of heading, then one line per picture.
   const QString pictures = Poppler("pdfimages", {"-list", QString::fromStdString(pdf.string())});
   EXPECT_EQ(pictures.trimmed().count('\n') - 1, 3) << pictures.toStdString();
 }
@@ -94,7 +94,7 @@ TEST_F(PrintTest, TheUserIsAskedForThePrinter) {
   EXPECT_FALSE(printed.front().front().toBool());
 }
 
-/// The browser does not survive it when the page goes meanwhile.
+/// The browser crashes if the page goes away meanwhile.
 TEST_F(PrintTest, LeavingCallsOffAPrintOrLetsItsPaperBeMade) {
   enum class Leaving { WhileAsked, WhilePrinting, AtOnce };
   for (const Leaving leaving : {Leaving::WhileAsked, Leaving::WhilePrinting, Leaving::AtOnce}) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Ends scripted editors at any moment, without a word.
+// Kills scripted editors at any moment, without warning.
 #include "RecoveryTest.h"
 #include "text/NumberText.h"
 
@@ -14,13 +14,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A person at an editor, the same for the same seed.
+/// A person at an editor; does the same for the same seed.
 class Typist {
  public:
   Typist(ExamEditor& editor, fs::path folder, unsigned seed)
       : editor_(editor), folder_(std::move(folder)), random_(seed) {}
 
-  /// The first step gives the exam a title: without anything in it, no copy would be offered.
+  /// The first step gives the exam a title: no copy is offered of an empty exam.
   void Step() {
     if (std::exchange(isFirst_, false)) {
       editor_.questions.EditField(FormField::Title, u"title");
@@ -70,7 +70,7 @@ class Typist {
   bool isFirst_ = true;
 };
 
-/// Of an exam with the content of its work copies in the place of their paths.
+/// A hash of the exam, with the content of its work copies in place of their paths.
 std::size_t Essence(ExamEditor& editor) {
   const FrameSetExam original = editor.state.document;
   FrameSetExam exam = original;
@@ -90,8 +90,7 @@ std::size_t Essence(ExamEditor& editor) {
 
 class Killing : public RecoveryTest {
  protected:
-  /// In a process of its own: works as long as it is allowed to, and says so after every step that has been
-  /// kept.
+  /// In a separate process: works until it is killed, and reports after every step that has been kept.
   pid_t StartTypist(unsigned seed, int report) {
     const pid_t child = ::fork();
     if (child != 0) return child;
@@ -106,7 +105,7 @@ class Killing : public RecoveryTest {
     ::_exit(0);
   }
 
-  /// What a typist has after `steps` steps, and after one more.
+  /// The typist's exam after `steps` steps, and after one more.
   std::pair<std::size_t, std::size_t> Expected(unsigned seed, int steps) {
     Run run(folder / "twin");
     Typist typist(run.editor, folder / "files", seed);

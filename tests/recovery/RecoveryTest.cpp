@@ -158,7 +158,7 @@ TEST_F(RecoveryTest, ThereIsACopyWhileTheExamDiffersFromItsFile) {
   editor.questions.SelectKind(QuestionKind::Oral);
   Type(FormField::Text, u"second");
   editor.questions.GoNext();
-  exam.Question(4).answerLetters = u"CA";  // of another program
+  exam.Question(4).answerLetters = u"CA";  // from another program
   exam.Question(4).answerText = u"a<@>";
   exam.Question(4).oralFlag = 1;
   exam.Question(5).text = u"last";

@@ -12,12 +12,12 @@
 
 namespace quorvantis::test {
 
-/// An editor with a keeper, and a second editor on the same application folder that takes over.
+/// An editor with a recovery keeper, and a second editor that takes over the same application folder.
 class RecoveryTest : public EditorTest {
  protected:
   RecoveryTest() { keeper.Entered(); }
 
-  /// What one run of the program has of an editor.
+  /// The editor of one run of the program.
   struct Run {
     explicit Run(const std::filesystem::path& applicationFolder) : world(applicationFolder, files) {
       std::filesystem::create_directories(applicationFolder);

@@ -8,7 +8,8 @@
 namespace quorvantis::test {
 namespace {
 
-/// Searches `text`, changes it from `place` on to `end`, and searches from where that is said to be enough.
+/// Searches `text`, replaces everything from `place` on by `end`, and searches again from the place that is
+/// said to be enough.
 void ExpectSameAsFromTheStart(const RegexPattern& pattern, std::u16string text, std::size_t place,
                               std::u16string_view end, const std::string& about) {
   FailedStarts failed;

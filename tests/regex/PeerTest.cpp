@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Random patterns and texts, against a well-known engine.
+// Random patterns and texts, compared with a well-known engine.
 #include "RandomPatterns.h"
 #include "RegexTest.h"
 #include "regex/RegexFlags.h"
@@ -21,7 +21,7 @@ struct Freed {
   void operator()(pcre2_match_data* data) const { pcre2_match_data_free(data); }
 };
 
-/// The peer, without its optimizations, some of which change results.
+/// The peer without its optimizations, some of which change results.
 class Peer {
  public:
   Peer(std::u16string_view pattern, int flags) {
@@ -40,7 +40,7 @@ class Peer {
   bool Compiled() const { return code_ != nullptr; }
   int CompileError() const { return error_; }
 
-  /// In the form of Bounds(); nothing when the peer gave up.
+  /// In the format of Bounds(); nothing if the peer gave up.
   std::optional<std::string> Match(std::u16string_view text) {
     const int found = pcre2_match(code_.get(), reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(), 0, 0,
                                   data_.get(), nullptr);
@@ -73,9 +73,9 @@ bool EndsUnbegunQuotation(std::u16string_view pattern) {
   return false;
 }
 
-/// Whether one of the two compiles a pattern that the other one rightly does not. We take quantifiers after
-/// anchors and after any quantifier, and look-behind of any length; the peer has some groups of its own, and
-/// ends a quotation that has not begun.
+/// Whether only one of the two compiles a pattern, and rightly so. We accept quantifiers after anchors and
+/// after other quantifiers, and look-behind of any length; the peer has some groups of its own, and accepts
+/// the end of a quotation that has not begun.
 bool DiffersRightfully(std::u16string_view pattern, const RegexPattern& ours, const Peer& peer) {
   if (!peer.Compiled())
     return !ours.IsEmpty() && (peer.CompileError() == PCRE2_ERROR_QUANTIFIER_INVALID ||
@@ -132,7 +132,7 @@ TEST(RegexPeer, AgreesOnRandomPatterns) {
       const std::u16string subject = random.Subject();
       const std::optional<std::string> expected = peer.Match(subject);
       if (!expected) continue;
-      int asked = 0;  // where groups decide, some patterns take too long for a test
+      int asked = 0;  // where groups affect the result, some patterns take too long for a test
       MatchContext context{-1, [&asked] { return ++asked > 10; }};
       const MatchResult result = pattern.Match(subject, -1, &context);
       if (result.Outcome() == MatchOutcome::Cancelled) continue;

@@ -7,7 +7,7 @@
 
 namespace quorvantis::test {
 
-/// Random patterns of the syntax that engines share, and random texts that they may match.
+/// Random patterns in the common syntax of both engines, and random texts that they may match.
 class RandomPatterns {
  public:
   explicit RandomPatterns(unsigned seed) : random_(seed) {}
@@ -61,7 +61,7 @@ class RandomPatterns {
            (mode.empty() ? mode : Nothing() + mode);
   }
 
-  /// What means nothing, in extended mode or in any.
+  /// Elements without effect, in extended mode or in any mode.
   std::u16string Nothing() {
     if (Below(8) != 0) return {};
     return OneOf({u"(?#a)", u"\\Q\\E", u" ", u"#b\n"}) + Nothing();

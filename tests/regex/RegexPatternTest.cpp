@@ -66,7 +66,8 @@ TEST(RegexPattern, TextEndsBeforeItsFirstNul) {
   EXPECT_FALSE(RegexPattern(u"c", 3).Match(TextBeforeNul(text)).IsMatched());
 }
 
-/// Each of these takes longer than the age of the world when every way is tried, or overflows a stack.
+/// Each of these would take longer than the age of the world if every way were tried, or would overflow a
+/// stack.
 TEST(RegexPattern, OrdinaryPatternsEnd) {
   const std::u16string as(5000, u'a');
   struct Case {

@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::string_literals;
 
-/// A column of cases.txt, where these signs make characters visible.
+/// A column of cases.txt, which shows invisible characters as signs.
 std::u16string Column(std::istream& line) {
   std::string bytes;
   std::getline(line, bytes, '\t');

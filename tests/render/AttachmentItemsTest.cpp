@@ -25,7 +25,7 @@ TEST(AttachmentPath, GivesSourcesAndExtensions) {
 
 class AttachmentItemsTest : public RenderTest {
  protected:
-  /// A player in this file, as its installation tells the registry.
+  /// A player in this file, as its installation registers it.
   void Register(const fs::path& server) {
     RegistryValue value{RegistryType::String, {}};
     for (const char c : server.string() + '\0')
@@ -40,7 +40,7 @@ class AttachmentItemsTest : public RenderTest {
   }
 };
 
-/// An empty extension is found in any list, in the first one first. Of players, the first line is enough.
+/// An empty extension is found in every list, so the first list wins. For players the first line is enough.
 TEST_F(AttachmentItemsTest, ShowsAFileByItsExtension) {
   std::u16string items;
   for (const std::u16string_view name :

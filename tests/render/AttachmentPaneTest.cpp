@@ -15,7 +15,7 @@ const std::string kEnd = "</HTML>\r\n";
 
 using AttachmentPaneTest = RenderTest;
 
-/// A file of no class keeps the frame number that a file had in its place, so the order counts.
+/// A file of no class keeps the frame number of the previous file in its place, so the order matters.
 TEST_F(AttachmentPaneTest, ArrangesFilesInFrames) {
   const std::vector<std::u16string> rows[] = {{u"a.wav", u"b.gif", u"c.avi"},
                                               {u"x.doc", u"y.doc", u"z.doc"},

@@ -16,7 +16,7 @@ class OralPartTest : public RenderTest {
   std::string Block(const RenderFlags& flags) const { return Utf16ToUtf8(oral.OralBlock(2, 5, flags)); }
   OralMarkKind Mark(const RenderFlags& flags) const { return oral.OralMark(2, 5, flags); }
 
-  /// A recording makes the answer a given one, a film comes before a sound.
+  /// A recording counts as an answer, and a video comes before a sound.
   void ExpectPlays(const RenderFlags& flags, const fs::path& recording, const std::string& source) {
     EXPECT_EQ(Mark(flags), OralMarkKind::Wrong);
     for (const char* extension : {".wma", ".wmv"}) {
@@ -46,11 +46,11 @@ TEST_F(OralPartTest, DoublesBackslashesOfTheRecordersFolder) {
 TEST_F(OralPartTest, PlaysTheStoredRecording) {
   const std::string label = "<font color=0000ff>[146 %s]  :</font><br><br>\r\n";
   EXPECT_EQ(Block(kResultPage), label);
-  ExpectPlays(kResultPage, folder / "app/~BrelmStudent/ID007/3",  // the number as it stands
+  ExpectPlays(kResultPage, folder / "app/~BrelmStudent/ID007/3",  // the number as stored
               App().substr(3) + "/~BrelmStudent/ID007/3");
 }
 
-/// Looked for in one folder, played from another: the host copies the answers there.
+/// Searched in one folder and played from another: the host copies the answers there.
 TEST_F(OralPartTest, PlaysTheCopyOfAnOralAnswer) {
   EXPECT_EQ(Block(kResponsePage), "");
   ExpectPlays(kResponsePage, folder / "~OralAns/ID5/3", "~Ans/ID5/3");

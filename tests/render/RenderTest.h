@@ -16,7 +16,7 @@ namespace quorvantis::test {
 
 namespace fs = std::filesystem;
 
-/// An exam in the editor's location, with the folders that a preview makes. Texts are their numbers: "[145
+/// An exam in the editor's location, with the folders that a preview creates. Texts are their numbers: "[145
 /// %s]".
 class RenderTest : public testing::Test {
  protected:
@@ -60,7 +60,7 @@ inline std::string Replaced(std::string text, const std::string& part, const std
   return text;
 }
 
-/// Compares a page with golden/<name>, byte by byte. QV_UPDATE_GOLDEN=1 writes the file anew instead.
+/// Compares a page with golden/<name> byte by byte. QV_UPDATE_GOLDEN=1 rewrites the file instead.
 inline void ExpectGolden(const char* name, const std::string& page) {
   const fs::path golden = fs::path(QUORVANTIS_PROJECT) / "tests" / "render" / "golden" / name;
   if (std::getenv("QV_UPDATE_GOLDEN") != nullptr) WriteBytes(golden, page);  // NOLINT(concurrency-mt-unsafe)

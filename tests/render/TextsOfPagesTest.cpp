@@ -18,7 +18,7 @@ TEST(Template, FillsEveryKindOfPlace) {
   EXPECT_EQ(kAll(-7, u"%d <b>\\r", u'E', 7, 2.5F), u"-7|%d <b>\\r|E|007|2.50|%");
 }
 
-/// Exams with lone LFs have lost these characters always.
+/// Exams with lone LFs have always lost these characters.
 TEST(TextToHtml, TakesOneMoreCharacterWithEachLineEnd) {
   const std::pair<std::u16string_view, std::u16string_view> rows[] = {
       {u"", u""},
@@ -27,7 +27,7 @@ TEST(TextToHtml, TakesOneMoreCharacterWithEachLineEnd) {
       {u"\r\n\r\n", u"<br><br>"},
       {u"one\ntwo\rthree", u"one<br>wo<br>hree<br>"},
       {u"one\n\r\ntwo\n", u"one<br><br>wo<br>"},
-      {u"a\n\U0001F600", u"a<br>\xDE00<br>"},  // half of a pair may go
+      {u"a\n\U0001F600", u"a<br>\xDE00<br>"},  // half of a pair may be removed
   };
   for (const auto& [text, html] : rows) EXPECT_EQ(TextToHtml(text), html);
 }

@@ -8,7 +8,7 @@
 namespace quorvantis::test {
 namespace {
 
-/// Ranges one after the other with these ends; range k has the score k.
+/// Adjacent ranges with these ends; range k has the score k.
 ScoreDistribution Consecutive(const std::vector<int>& ends, ScoreMode mode = ScoreMode::Custom) {
   ScoreDistribution ranges;
   int start = 1;
@@ -40,7 +40,7 @@ ScoreDistribution Accepted(ScoreSetup& setup) {
   return result;
 }
 
-/// The rows that show anything, as "from-to*score"; a row behind an empty one has its number in front.
+/// The rows that show anything, as "from-to*score"; a row after an empty one is preceded by its number.
 std::string Rows(const ScoreSetup& setup) {
   std::string rows;
   std::size_t expected = 0;
@@ -72,7 +72,7 @@ TEST(ScoreSetup, OpensWithTheRangesWithinTheExam) {
         "1-10*1.00 11-20*2.00 21-30*3.00 31-40*4.00 41-50*5.00 51-60*6.00 61-70*7.00 71-80*8.00 "
         "81-90*9.00 91-500*10.00");
   ScoreDistribution hidden = Consecutive({10, 20});
-  hidden.scoreFrom[1] = 0;  // a range without a start is not shown, whatever its end
+  hidden.scoreFrom[1] = 0;  // a range without a start is hidden, whatever its end
   check(20, hidden, "1-10*1.00");
 }
 
@@ -85,7 +85,7 @@ TEST(ScoreSetup, AnEndCutsItsNeighbourAnew) {
     EXPECT_EQ(Rows(setup), rows) << range << "=" << Utf16ToUtf8(text);
   };
   check({10, 25}, 1, u"15", Moved, "1-15*1.00 16-25*2.00");
-  check({10, 20, 25}, 1, u"25", Moved, "1-25*1.00 3:21-25*3.00");  // only the next range goes
+  check({10, 20, 25}, 1, u"25", Moved, "1-25*1.00 3:21-25*3.00");  // only the next range is removed
   check({10, 20, 25}, 1, u"20", Clamped, "1-19*1.00 20-20*2.00 21-25*3.00");
   check({10, 20, 25}, 1, u"22", Clamped, "1-19*1.00 20-20*2.00 21-25*3.00");
   check({25}, 1, u"7", Moved, "1-7*1.00 8-25*0.00");
@@ -145,7 +145,7 @@ TEST(ScoreSetup, HandsBackWhatTheFieldsHold) {
 
   ScoreSetup recut = Opened(25, Consecutive({10, 25}));
   recut.TypeScore(1, u"5");
-  recut.TypeEnd(1, u"5");  // shows the ranges anew, and with them the old scores
+  recut.TypeEnd(1, u"5");  // shows the ranges again, with the old scores
   EXPECT_EQ(Accepted(recut).scoreValue[0], 1.0F);
 
   ScoreSetup short5 = Opened(5, NewExam());

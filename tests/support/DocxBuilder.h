@@ -11,7 +11,7 @@
 
 namespace quorvantis::test {
 
-/// Writes small packages, with any content under any names.
+/// Builds small packages with any content under any names.
 class DocxBuilder {
  public:
   DocxBuilder() {
@@ -47,7 +47,7 @@ class DocxBuilder {
     relations_ += Relation(id, kind, target);
     return *this;
   }
-  /// A picture called "rId<n>", which `PictureXml` shows.
+  /// A picture called "rId<n>", which `PictureXml` displays.
   DocxBuilder& Picture(const std::string& id, std::string_view bytes) {
     return Part("word/media/" + id + ".png", bytes).Relate(id, "image", "media/" + id + ".png");
   }

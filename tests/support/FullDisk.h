@@ -6,8 +6,8 @@
 
 namespace quorvantis::test {
 
-/// While it lives, no file of this process grows beyond `bytes`, as if the disk were full. Works everywhere,
-/// unlike TinyDisk, but with another error.
+/// While this exists, no file of this process can grow beyond `bytes`, as if the disk were full. Unlike
+/// TinyDisk it works everywhere, but with another error.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) {

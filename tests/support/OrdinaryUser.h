@@ -6,8 +6,8 @@
 
 namespace quorvantis::test {
 
-/// Lets a test that runs as root feel the permissions of files: this process is somebody else meanwhile. The
-/// real user changes too, since access() asks for that one.
+/// Makes a test that runs as root respect file permissions: meanwhile the process belongs to another user.
+/// The real user changes too, since access() checks that one.
 class OrdinaryUser {
  public:
   OrdinaryUser() {

@@ -21,7 +21,7 @@
 
 namespace quorvantis::test {
 
-/// Dialogs that keep what was shown and answer from a script; an empty script cancels.
+/// Dialogs that record what was shown and answer from a script; an empty script cancels.
 class RecordingDialogs : public UserDialogs {
  public:
   std::vector<std::u16string> errors;
@@ -75,7 +75,7 @@ class RecordingDialogs : public UserDialogs {
   }
 };
 
-/// Every text is its number in brackets and its placeholder: "[102 %s]".
+/// Every text is its number and its placeholder in brackets: "[102 %s]".
 class NumberStrings : public StringTable {
  public:
   std::u16string Text(int number) const override {
@@ -135,7 +135,7 @@ class CountingIds : public IdSource {
   int count_ = 0;
 };
 
-/// The pages by the paths that they were written to.
+/// The pages, by the paths that they were written to.
 class KeptPages : public PageStore {
  public:
   std::map<std::filesystem::path, std::u16string> pages;
@@ -155,7 +155,7 @@ struct RecordingWorld {
   RecordingWorld(std::filesystem::path applicationFolder, Files& files)
       : RecordingWorld(std::move(applicationFolder), files, pages, progress) {}
 
-  /// With pages and progress of the window.
+  /// Including the window's pages and progress.
   RecordingWorld(std::filesystem::path applicationFolder, Files& files, PageStore& shownPages,
                  Progress& shownProgress)
       : registry(applicationFolder / kRegistryFile, files),

@@ -13,7 +13,7 @@
 
 namespace quorvantis::test {
 
-/// A harmless program of this test, running under any name until this goes.
+/// A harmless process of the test that runs under any name, until this object is destroyed.
 class SleepingProcess {
  public:
   explicit SleepingProcess(const std::filesystem::path& program, std::string calledAs = "sleep") {
@@ -31,7 +31,7 @@ class SleepingProcess {
 
   int Id() const { return id_; }
 
-  /// Waits for it to be ended by somebody else; a moment at most.
+  /// Waits briefly for someone else to kill it.
   bool Ends() {
     constexpr int kPatience = 500;  // times 10 milliseconds
     for (int i = 0; i < kPatience && IsAlive(); ++i) ::usleep(10'000);
@@ -47,7 +47,7 @@ class SleepingProcess {
   pid_t id_ = 0;
 };
 
-/// Only the programs in a folder: a test must not end those of the person who runs it.
+/// Only the programs in one folder: a test must not kill those of its user.
 class ProcessesBelow : public ProcessTable {
  public:
   ProcessesBelow(const std::filesystem::path& folder, ProcessTable& all)

@@ -10,7 +10,7 @@
 
 namespace quorvantis::test {
 
-/// A fresh folder that is removed with everything in it at the end of a test.
+/// A new folder, which is removed with its content at the end of the test.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
@@ -43,7 +43,7 @@ inline std::filesystem::path WriteBytes(const std::filesystem::path& file, std::
   return file;
 }
 
-/// How many files and folders lie in one, those below not counted.
+/// The number of files and folders directly in a folder.
 inline std::ptrdiff_t CountEntries(const std::filesystem::path& folder) {
   return std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator());
 }

@@ -17,9 +17,9 @@
 
 namespace quorvantis::test {
 
-/// A disk of its own with `kibibytes` of room (4 at least), which only this process sees: full is full,
-/// whoever writes and however. Takes root, or a system that gives users namespaces of their own; these need a
-/// process of one thread.
+/// A separate disk of `kibibytes` (4 at least) that only this process sees: it is full for every writer and
+/// every way of writing. Requires root, or a system where users can create namespaces, which only a
+/// single-threaded process can do.
 class TinyDisk {
  public:
   explicit TinyDisk(std::size_t kibibytes) {
@@ -32,13 +32,13 @@ class TinyDisk {
   TinyDisk(const TinyDisk&) = delete;
   TinyDisk& operator=(const TinyDisk&) = delete;
 
-  /// False where there can be no such disk: skip the test then.
+  /// False if such a disk cannot be made: then skip the test.
   bool Works() const { return mounted_; }
 
   const std::filesystem::path& Path() const { return folder_.Path(); }
   std::filesystem::path operator/(const std::filesystem::path& name) const { return folder_ / name; }
 
-  /// As if other programs wrote or removed files: there is so much room beside what is there.
+  /// As if other programs wrote or removed files: leaves this much free space.
   void Leave(std::size_t kibibytes) {
     struct statvfs disk {};
     ::statvfs(folder_.Path().c_str(), &disk);
@@ -49,7 +49,7 @@ class TinyDisk {
  private:
   static void Write(const char* file, const std::string& text) { std::ofstream(file) << text << std::flush; }
 
-  /// The owner of a namespace passes over the permissions of files.
+  /// The owner of a namespace ignores file permissions.
   static void ObeyPermissions() {
     if (::geteuid() == 0) return;
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
@@ -59,7 +59,7 @@ class TinyDisk {
     ::syscall(SYS_capset, &header, capabilities);
   }
 
-  /// Mounts of this process do not reach others from now on.
+  /// From now on mounts of this process do not affect others.
   static bool Isolate() {
     const std::string user = std::to_string(::geteuid());
     const std::string group = std::to_string(::getegid());

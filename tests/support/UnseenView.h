@@ -5,7 +5,7 @@
 
 namespace quorvantis::test {
 
-/// The view of an editor that nobody looks at.
+/// The view of an editor without a window.
 class UnseenView : public EditorView {
   void FormLoaded() override {}
   void FormChanged() override {}

@@ -47,8 +47,8 @@ TEST(ParseReal, FollowsAtofForDecimalTextOnly) {
 }
 
 TEST(FormatScore, HasTwoDecimalsOfTheWidenedValue) {
-  EXPECT_EQ(FormatScore(7.005F), u"7.01");  // as a float a little more than its text says
-  EXPECT_EQ(FormatScore(1.005F), u"1.00");  // and this one a little less
+  EXPECT_EQ(FormatScore(7.005F), u"7.01");  // as a float slightly more than its text says
+  EXPECT_EQ(FormatScore(1.005F), u"1.00");  // and this one slightly less
   EXPECT_EQ(FormatScore(0.125F), u"0.12");
   EXPECT_EQ(FormatScore(12345.67F), u"12345.67");
   EXPECT_EQ(FormatScore(std::numeric_limits<float>::max()), u"340282346638528859811704183484516925440.00");

@@ -12,7 +12,7 @@ namespace {
 
 constexpr SmallButtonBitmaps kSeparator{"ListSeparatroU", "ListSeparatroD", nullptr, "ListSeparatroX"};
 
-/// Leads to the first field for the answers, whatever the kind.
+/// Moves the focus to the first answer field, whatever the kind.
 const QKeySequence kAnswerKey(Qt::ALT | Qt::Key_Y);
 
 QString Caption(const StringTable& strings, int id) {
@@ -33,8 +33,7 @@ AnswerControls::AnswerControls(ExamEditor& editor, const StringTable& strings, c
   MakeEssay(strings, parent);
 }
 
-/// The box of an option is a tick that stands for a right answer; its caption tells a screen reader too
-/// little.
+/// Ticking the box marks the option as a right answer; its caption alone tells a screen reader too little.
 void AnswerControls::MakeOption(std::size_t index, const StringTable& strings, QWidget* parent) {
   const QString letter = Letter(index);
   const QString option = Caption(strings, text_id::kChoice) + " " + letter;
@@ -86,7 +85,7 @@ void AnswerControls::TickBox(std::size_t index) {
   boxes[index]->ShowState(editor_.questions.Form().checks[index]);
 }
 
-/// The next answer can be typed at once.
+/// So that the next answer can be typed at once.
 void AnswerControls::AppendSeparator() {
   editor_.questions.AppendListSeparator();
   answer->setFocus();

@@ -14,8 +14,7 @@
 
 namespace quorvantis {
 
-/// The controls for the answers to a question. Only those that fit its kind are shown; the others keep their
-/// texts.
+/// The answer controls of a question. Only those for its kind are shown; the others keep their text.
 class AnswerControls {
  public:
   /// The controls belong to `parent`; `editor` must outlive them.
@@ -26,7 +25,7 @@ class AnswerControls {
   /// Another question is shown.
   void Load();
 
-  /// Shows what the editor has now.
+  /// Shows the editor's current values.
   void Refresh();
 
   std::array<StateBox*, kOptionCount> boxes{};

@@ -15,12 +15,12 @@
 namespace quorvantis {
 namespace {
 
-/// A caption of a menu without the meaning that "&" has there.
+/// A menu caption in which "&" stands for itself.
 QString MenuCaption(const std::u16string& text) {
   return ToQString(text).replace("&", "&&");
 }
 
-/// Exams are untrusted. Only files that a program shows are opened, none that is a program or that may run
+/// Exams are untrusted. Only files that a program displays are opened: no programs, and nothing that may run
 /// scripts, as pages and SVG pictures do in a browser.
 bool MayBeOpened(const AttachedFile& file) {
   if (ExtensionOf(file.copy) == "svg") return false;

@@ -33,9 +33,9 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kBetweenLooks = 1000;  // milliseconds; a change is on the disk within two seconds
+constexpr int kBetweenLooks = 1000;  // milliseconds; a change reaches the disk within two seconds
 constexpr int kOffScreen = 2000;     // pixels
-constexpr int kHighestLine = 18;     // of a font: one-line fields are 20 pixels high
+constexpr int kHighestLine = 18;     // line height of a font: one-line fields are 20 pixels high
 
 QuestionArea* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
   auto* area = new QuestionArea(ToQString(strings.Text(text_id::kEditArea)), parent);
@@ -43,7 +43,7 @@ QuestionArea* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
   return area;
 }
 
-/// A button of a dialog that nobody sees. Keys and assistive programs press it.
+/// A hidden dialog button; keys and assistive technology press it.
 QPushButton* MakeHiddenButton(const char* name, QWidget* parent) {
   auto* button = new QPushButton(parent);
   NameControl(button, name, name);
@@ -103,7 +103,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
   connect(this, &CQuorvantisDlg::ContentChangePosted, this, deliver, Qt::QueuedConnection);
   connect(cancel_, &QPushButton::clicked, this, &CQuorvantisDlg::EndUnasked);
   connect(ok_, &QPushButton::clicked, this, &CQuorvantisDlg::EndUnasked);
-  ok_->setEnabled(false);  // so that Enter does not end the window
+  ok_->setEnabled(false);  // so that Enter does not close the window
   connect(printAgain_, &QPushButton::clicked, this, &CQuorvantisDlg::Print);
   connect(&scroll_, &WindowScroll::Scrolled, this, &CQuorvantisDlg::Layout);
   SetFirstSize(*this);
@@ -120,9 +120,9 @@ void CQuorvantisDlg::Begin() {
 }
 
 CQuorvantisDlg::~CQuorvantisDlg() {
-  // The controls speak to the editor until they are gone; the base class would delete them after it.
+  // The controls use the editor until they are destroyed; the base class would delete them after it.
   qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
-  life_.End();  // the preview window goes after it, with the members
+  life_.End();  // the preview window is destroyed later, with the members
 }
 
 bool CQuorvantisDlg::OfferRecovery() {
@@ -152,14 +152,14 @@ void CQuorvantisDlg::Layout() {
   PlaceControls(scroll_, Controls(), editor_, services_.debug);
 }
 
-/// Without the file that tells how documents are read there is no import in this run.
+/// Without the file with the import rules, Import is not offered in this run.
 void CQuorvantisDlg::OfferImport() {
   if (CanRead(FindImportRules(services_.applicationFolder))) return;
   services_.debug.Line(u"CQuorvantisDlg::!file.Open");
   toolbar_.HideImport();
 }
 
-/// No message box: it would come in the middle of a word.
+/// No message box: it would interrupt the user's typing.
 void CQuorvantisDlg::KeepRecovery() {
   life_.LookAfterUnsaved();
   const std::error_code failure = life_.RecoveryFailure();
@@ -187,7 +187,7 @@ void CQuorvantisDlg::FormChanged() {
 }
 
 void CQuorvantisDlg::TitleChanged() {
-  // Qt gives "[*]" in a title a meaning of its own; twice, it stands for itself.
+  // Qt treats "[*]" in a title specially; doubled, it stands for itself.
   setWindowTitle(ToQString(editor_.state.WindowTitle()).replace("[*]", "[*][*]"));
 }
 
@@ -239,7 +239,7 @@ void CQuorvantisDlg::PostContentChanged() {
   emit ContentChangePosted();
 }
 
-/// A preview covers the screen, and with it the question that may come now.
+/// A preview covers the screen, and would hide the question that may follow.
 void CQuorvantisDlg::closeEvent(QCloseEvent* event) {
   if (previewWindow_ && previewWindow_->IsOnScreen()) RenewPreviewWindow();
   event->setAccepted(endsUnasked_ || editor_.files.ConfirmClose());
@@ -250,7 +250,7 @@ void CQuorvantisDlg::EndUnasked() {
   close();
 }
 
-/// Comes up above the other windows, on whichever screen that is.
+/// Comes to the front, on whichever screen it is.
 void CQuorvantisDlg::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   raise();
@@ -274,8 +274,7 @@ void CQuorvantisDlg::changeEvent(QEvent* event) {
   if (changesTexts && isVisible()) Layout();
 }
 
-/// There is no window menu to which a program can add on every desktop; the window's background has it
-/// instead.
+/// Not every desktop has a window menu that a program can extend, so the window's background has one.
 void CQuorvantisDlg::contextMenuEvent(QContextMenuEvent* event) {
   const StringTable& strings = services_.strings;
   const std::u16string about = strings.Text(text_id::kAbout);
@@ -294,7 +293,7 @@ void CQuorvantisDlg::contextMenuEvent(QContextMenuEvent* event) {
 void CQuorvantisDlg::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     cancel_->click();
-  } else if (event->key() != Qt::Key_F1) {  // there is no help that F1 could open, here or behind this window
+  } else if (event->key() != Qt::Key_F1) {  // there is no help for F1 to open, here or in a parent window
     QWidget::keyPressEvent(event);
   }
 }
@@ -304,14 +303,15 @@ void CQuorvantisDlg::dragEnterEvent(QDragEnterEvent* event) {
   if (!busy && HasLocalFiles(*event->mimeData())) event->acceptProposedAction();
 }
 
-/// What the files lead to may ask questions, so it waits until the program that they come from is released.
+/// Handling the files may ask questions, so it waits until the program that they were dragged from is
+/// released.
 void CQuorvantisDlg::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::CopyAction);
   event->accept();
   emit FilesDropped(event->mimeData()->urls());
 }
 
-/// An exam among the files is opened; only without one are they attached to the question.
+/// If there is an exam among the files, it is opened; otherwise they are attached to the question.
 void CQuorvantisDlg::TakeFiles(const QList<QUrl>& urls) {
   const std::vector<std::filesystem::path> files = LocalFiles(urls);
   const auto exam = std::ranges::find_if(files, IsExamFile);

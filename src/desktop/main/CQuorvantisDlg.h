@@ -27,10 +27,10 @@
 
 namespace quorvantis {
 
-/// The main window. It binds the controls to the editor, which has all the rules; the window only shows what
-/// the editor tells. Escape ends it without a question, closing it asks about unsaved changes. When the
-/// window goes, so do the work copies of attached files. As long as something is not saved, there is a
-/// recovery copy of it.
+/// The main window. It connects the controls to the editor, which has all the rules; the window only shows
+/// what the editor reports. Escape closes it without asking; closing it in other ways asks about unsaved
+/// changes. When the window is destroyed, the work copies of attached files are deleted. While there are
+/// unsaved changes, there is a recovery copy.
 class CQuorvantisDlg final : public FittedWindow,
                              private EditorView,
                              private PreviewOwner,
@@ -38,38 +38,38 @@ class CQuorvantisDlg final : public FittedWindow,
   Q_OBJECT
 
  public:
-  /// All must outlive the window: `exam`, the pages that its previews are composed into, the reader of the
-  /// documents to import, `office`, and the library that dialogs and pictures are taken from. Without
-  /// `office` office programs are left alone. Without a library, the pictures are the built-in ones.
-  /// `languageId` is that of the wanted language, which previews are told.
+  /// All must outlive the window: `exam`, the pages that its previews are composed into, the reader of
+  /// documents to import, `office`, and the library that provides dialogs and pictures. Without `office`,
+  /// office programs are left alone. Without a library the built-in pictures are used. `languageId` is the
+  /// language that the user wants; it is passed on to previews.
   CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers, OfficeControl* office,
                  DocumentExport exportDocument, const LanguageLibrary* library = nullptr,
                  int languageId = kEnglish);
   ~CQuorvantisDlg() override;
 
-  /// Shows the first question and begins to keep recovery copies. The user may be asked before to close
-  /// office programs. To be called once, before the window is shown.
+  /// Shows the first question and starts keeping recovery copies. May first ask the user to close office
+  /// programs. Call once, before the window is shown.
   void Begin();
 
-  /// Opens an exam file, a full path, as the Open command does, without a file dialog.
+  /// Opens an exam file, a full path, as the Open command does but without a file dialog.
   void OpenExam(const std::filesystem::path& file) { editor_.files.OpenExam(file); }
 
-  /// Offers what earlier runs did not save; to be called before anything else is done in the window. True
-  /// when an exam has been restored.
+  /// Offers to restore unsaved work of earlier runs. Call before anything else is done in the window. True if
+  /// an exam has been restored.
   bool OfferRecovery();
 
-  /// The exam in the window is that of `file`.
+  /// The window shows the exam of `file`.
   bool Shows(const std::filesystem::path& file) const;
 
-  /// Brings the recovery copy up to date.
+  /// Updates the recovery copy.
   void KeepUnsavedWork() { life_.KeepUnsaved(); }
 
-  /// Starts the browser, so that the first preview appears at once. Takes a moment: call it once the window
-  /// has been painted.
+  /// Starts the browser, so that the first preview appears at once. Takes a moment: call once the window has
+  /// been painted.
   void WarmBrowser();
 
  signals:
-  /// Both are handled by the window itself, once the event in hand is over.
+  /// The window handles both itself, after the current event.
   void ContentChangePosted();
   void FilesDropped(const QList<QUrl>& urls);
 
@@ -94,15 +94,15 @@ class CQuorvantisDlg final : public FittedWindow,
 
   ToolbarButtons::WindowCommands Commands();
   WindowControls Controls();
-  /// Gives every control its place.
+  /// Places every control.
   void Layout();
   void OfferImport();
-  /// Has the recovery copy kept up to date, and tells when it cannot be.
+  /// Keeps the recovery copy up to date, and warns when that fails.
   void KeepRecovery();
   void ScreenChanged();
   void EndUnasked();
   void ShowAbout();
-  /// Discards the preview window and makes a new hidden one.
+  /// Discards the preview window and creates a new hidden one.
   void RenewPreviewWindow();
   void Preview();
   void Print();
@@ -128,7 +128,7 @@ class CQuorvantisDlg final : public FittedWindow,
   AnswerControls answers_;
   WarningNotice* recoveryFails_;
   WindowScroll scroll_;
-  QPushButton* cancel_;  ///< never seen, like the two below
+  QPushButton* cancel_;  ///< hidden, like the two below
   QPushButton* ok_;
   QPushButton* printAgain_;
 };

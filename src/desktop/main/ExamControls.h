@@ -11,7 +11,7 @@
 
 namespace quorvantis {
 
-/// The controls for what belongs to the exam as a whole: title, random mode and attached files.
+/// The controls for the exam as a whole: title, random mode and attached files.
 class ExamControls {
  public:
   /// The controls belong to `parent`; `editor` must outlive them.
@@ -22,7 +22,7 @@ class ExamControls {
   /// Another question is shown.
   void Load() { title->Load(); }
 
-  /// Shows what the editor has now.
+  /// Shows the editor's current values.
   void Refresh();
 
   QLabel* titleLabel;

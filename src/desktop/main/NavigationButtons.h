@@ -10,7 +10,7 @@
 
 namespace quorvantis {
 
-/// The small buttons that walk through the questions and change their list.
+/// The small buttons for moving between questions and changing their list.
 class NavigationButtons {
  public:
   static constexpr std::size_t kCount = 7;

@@ -5,8 +5,8 @@
 
 namespace quorvantis {
 
-/// The frame around the question. Its caption stands in the upper line of the frame in every style, because
-/// controls follow close below. The controls inside are not its children.
+/// The frame around the question. Its caption is on the top line of the frame in every style, because
+/// controls follow closely below. The controls inside are not its children.
 class QuestionArea : public QGroupBox {
   Q_OBJECT
 

@@ -79,7 +79,7 @@ void QuestionControls::ShowMenu(const QPoint& position) {
   menu->popup(position);
 }
 
-/// The button has room for both of its captions, and never changes its size.
+/// The button has room for both captions and never changes its size.
 void QuestionControls::MakeOralToggle(const StringTable& strings, QWidget* parent) {
   oralToggle = new CaptionButton(parent);
   const QString off = ToQString(strings.Text(text_id::kOralOff));
@@ -105,7 +105,7 @@ void QuestionControls::ShowOralToggle() {
   oralToggle->setEnabled(editor_.attachments.OralToggleVisible());
 }
 
-/// No button is down for a kind that has none. The Tab key stops at the one that is down.
+/// If the kind has no button, none is down. The Tab key stops at the button that is down.
 void QuestionControls::ShowKind() {
   const int kind = static_cast<int>(editor_.state.CurrentKind());
   const int stop = kinds->button(kind) != nullptr ? kind : static_cast<int>(QuestionKind::Choice);

@@ -13,8 +13,8 @@
 
 namespace quorvantis {
 
-/// The controls of the question shown, its answers aside: number, kind, the way to other questions, text,
-/// attached files and the oral toggle.
+/// The controls of the current question except its answers: number, kind, navigation, text, attached files
+/// and the oral toggle.
 class QuestionControls {
  public:
   /// The controls belong to `parent`; `editor` must outlive them.
@@ -25,7 +25,7 @@ class QuestionControls {
   /// Another question is shown.
   void Load() { text->Load(); }
 
-  /// Shows what the editor has now.
+  /// Shows the editor's current values.
   void Refresh();
 
   QLabel* label;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kWidestLine = 420;  // pixels
 
-/// A text of any length as a part of one line.
+/// A text of any length, shortened to fit on a line.
 std::u16string Shortened(const std::u16string& text, const QWidget& widget) {
   const QString line = ToQString(text).simplified();
   return QFontMetrics(widget.font()).elidedText(line, Qt::ElideMiddle, kWidestLine).toStdU16String();

@@ -8,7 +8,7 @@
 
 namespace quorvantis {
 
-/// Asks over the main window what to do with a recovery copy.
+/// Asks, over the main window, what to do with a recovery copy.
 class RecoveryQuestion : public RecoveryDialogs {
  public:
   /// Both must outlive the question.

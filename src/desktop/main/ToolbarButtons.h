@@ -11,11 +11,11 @@
 
 namespace quorvantis {
 
-/// The large buttons at the top of the window, which are for the exam as a whole: its file, import, scores,
-/// attached files, preview and print.
+/// The large buttons at the top of the window, for the exam as a whole: its file, import, scores, attached
+/// files, preview and print.
 class ToolbarButtons {
  public:
-  /// What the buttons do that the editor does not.
+  /// The commands that are not the editor's.
   struct WindowCommands {
     std::function<void()> importExam;
     std::function<void()> scoreSetup;
@@ -31,7 +31,7 @@ class ToolbarButtons {
 
   const std::array<LargeButton*, kCount>& InOrder() const { return buttons_; }
 
-  /// Takes the Import button away for the run.
+  /// Removes the Import button for this run.
   void HideImport();
 
  private:

@@ -5,15 +5,15 @@
 
 namespace quorvantis {
 
-/// A warning that stands in the window as long as its reason lasts. It takes no place from other controls and
-/// keeps nobody from typing.
+/// A warning that stays in the window as long as its cause does. It takes no room from other controls and
+/// does not interrupt typing.
 class WarningNotice : public QWidget {
   Q_OBJECT
 
  public:
   WarningNotice(const char* name, QWidget* parent);
 
-  /// Shows `text`, with `details` as its tooltip. Screen readers are told once, when it appears.
+  /// Shows `text`, with `details` as its tooltip. Screen readers announce it once, when it appears.
   void Tell(const QString& text, const QString& details);
 
  protected:

@@ -15,7 +15,7 @@
 namespace quorvantis {
 namespace {
 
-/// Frames are only known when the desktop has made them, which is too late.
+/// The size of a frame is only known once the desktop has made it, which is too late.
 constexpr int kTitleBar = 40;
 
 PixelSize ToPixels(QSize size) {
@@ -57,7 +57,7 @@ LayoutInput Measure(PixelSize area, const WindowControls& controls, const ExamEd
   return input;
 }
 
-/// Moves controls of one window to their places.
+/// Moves the controls of a window to their places.
 class Placer {
  public:
   Placer(PixelSize area, const WindowScroll& scroll)
@@ -108,7 +108,7 @@ void PlaceAnswers(const Placer& placer, const AnswerControls& answers, const Lay
   placer.Place(answers.essay, places.essay);
 }
 
-/// Beside the rows of buttons, where a window has room in every language.
+/// Beside the rows of buttons, where there is room in every language.
 PixelRect NoticePlace(const LayoutPlaces& places) {
   constexpr int kNoticeMargin = 10;
   const PixelRect &kind = places.kinds.back(), &last = places.navigation.back();

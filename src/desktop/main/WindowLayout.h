@@ -12,8 +12,8 @@
 
 namespace quorvantis {
 
-/// Everything that the window shows but its scroll bars. All are children of the window itself, in whose
-/// coordinates they are placed.
+/// Everything that the window shows except its scroll bars. All are children of the window and placed in its
+/// coordinates.
 struct WindowControls {
   ToolbarButtons& toolbar;
   ExamControls& exam;
@@ -23,19 +23,18 @@ struct WindowControls {
   WarningNotice* notice;
 };
 
-/// Gives every control of the window that `scroll` scrolls its place for the state that `editor` is in;
-/// mirrored, where the window runs from right to left. Names the buttons of the toolbar that are out of use
-/// on `debug`.
+/// Places every control of the window that `scroll` scrolls, for the current state of `editor`; mirrored if
+/// the window runs from right to left. Writes the names of disabled toolbar buttons to `debug`.
 void PlaceControls(WindowScroll& scroll, const WindowControls& controls, const ExamEditor& editor,
                    DebugOutput& debug);
 
-/// Gives the main window the size limits of the screen that it is on.
+/// Limits the size of the main window to the screen that it is on.
 void LimitSize(QWidget& window);
 
-/// Gives it the size that it starts with, too.
+/// Also gives it its initial size.
 void SetFirstSize(QWidget& window);
 
-/// The Tab key walks along the rows of the window, from top to bottom.
+/// The Tab key goes through the window row by row, from top to bottom.
 void SetTabOrder(const WindowControls& controls);
 
 }  // namespace quorvantis

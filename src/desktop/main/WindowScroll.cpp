@@ -25,7 +25,7 @@ void SetBar(QScrollBar& bar, int area, int view) {
   bar.raise();
 }
 
-/// Moves a bar as little as brings a stretch into view; its beginning, if all has no room.
+/// Moves a bar just far enough to show a range, or the start of a range that does not fit.
 void Reveal(QScrollBar& bar, int from, int to) {
   const int last = std::min(from, to - bar.pageStep());
   bar.setValue(std::clamp(bar.value(), last, from));
@@ -57,7 +57,7 @@ PixelSize WindowScroll::Fit() {
   horizontal_->setGeometry(left, view.height, view.width, bar);
   vertical_->setGeometry(side, 0, bar, view.height);
   corner_->setGeometry(side, view.height, bar, bar);
-  const QSignalBlocker across(*horizontal_), down(*vertical_);  // who asks for a fit places the controls next
+  const QSignalBlocker across(*horizontal_), down(*vertical_);  // the caller of Fit places the controls next
   SetBar(*horizontal_, area.width, view.width);
   SetBar(*vertical_, area.height, view.height);
   corner_->setVisible(horizontal_->isVisibleTo(&window_) && vertical_->isVisibleTo(&window_));
@@ -71,7 +71,7 @@ QPoint WindowScroll::Origin() const {
   return {window_.width() - area.width + horizontal_->value(), -vertical_->value()};
 }
 
-/// The wheel over what does not scroll itself.
+/// The wheel over widgets that do not scroll themselves.
 bool WindowScroll::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::Wheel) return QObject::eventFilter(watched, event);
   const QPoint turned = static_cast<QWheelEvent*>(event)->angleDelta();
@@ -81,7 +81,7 @@ bool WindowScroll::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-/// Not what the mouse has pressed: it would slip away before the button is released.
+/// Not while a mouse button is down: the control would move away before the button is released.
 void WindowScroll::Reveal(const QWidget* control) {
   if (control == nullptr || !horizontal_ || !vertical_ || QApplication::mouseButtons() != Qt::NoButton)
     return;

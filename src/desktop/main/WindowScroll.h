@@ -9,9 +9,9 @@
 
 namespace quorvantis {
 
-/// Scrolls the controls of a window that is smaller than they need, which it is on small screens only; it has
-/// no bars elsewhere. The wheel scrolls over the background, and what gets the focus by a key comes into
-/// view.
+/// Scrolls the controls of a window that is smaller than they need, which happens on small screens only;
+/// otherwise there are no bars. The wheel scrolls over the background, and a control that gets the focus by a
+/// key is scrolled into view.
 class WindowScroll : public QObject {
   Q_OBJECT
 
@@ -20,14 +20,14 @@ class WindowScroll : public QObject {
 
   const QWidget& Window() const { return window_; }
 
-  /// Puts the bars where the window's size wants them. Gives the size of the area to place controls in.
+  /// Places the bars for the current window size. Returns the size of the area to place controls in.
   PixelSize Fit();
 
-  /// Where the top left corner of the area is in the window, after Fit.
+  /// The position of the area's top left corner in the window, after Fit.
   QPoint Origin() const;
 
  signals:
-  /// The origin is another one.
+  /// The origin has changed.
   void Scrolled();
 
  protected:

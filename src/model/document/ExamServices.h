@@ -16,12 +16,13 @@ class Registry;
 class StringTable;
 class UserDialogs;
 
-/// What an exam document needs of the outside world. Owned by the application; outlives every document.
+/// Everything an exam document needs from the outside world. Owned by the application; outlives every
+/// document.
 struct ExamServices {
-  std::filesystem::path applicationFolder;  ///< holds the work folders
+  std::filesystem::path applicationFolder;  ///< contains the work folders
   const StringTable& strings;
   UserDialogs& dialogs;
-  const CodePage& codePage;  ///< of 8-bit exam files
+  const CodePage& codePage;  ///< for 8-bit exam files
   DebugOutput& debug;
   Files& files;
   Progress& progress;

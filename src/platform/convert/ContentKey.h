@@ -7,9 +7,9 @@
 
 namespace quorvantis {
 
-/// A name for what is in a file, made of letters and digits: copies of one attachment under several names
-/// have one key, and a changed file has another. Of a large file only the ends, the size and the time are
-/// looked at. Empty when the file cannot be read.
+/// A name for the content of a file, made of letters and digits: copies of one attachment under several names
+/// share a key, and a changed file gets another. For a large file only both ends, the size and the time
+/// count. Empty if the file cannot be read.
 QString ContentKey(const std::filesystem::path& file);
 
 }  // namespace quorvantis

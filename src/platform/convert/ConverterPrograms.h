@@ -5,14 +5,14 @@
 
 namespace quorvantis {
 
-/// The programs that convert attached files, by full path; an empty one is not installed.
+/// The programs that convert attached files, by full path; the path is empty if one is not installed.
 struct ConverterPrograms {
   QString office;     ///< soffice of LibreOffice
   QString pdfImages;  ///< pdftoppm of poppler
   QString mediaInfo;  ///< ffprobe
   QString media;      ///< ffmpeg
 
-  /// Looks in the folders of PATH.
+  /// Searches the folders of PATH.
   static ConverterPrograms Find();
 };
 

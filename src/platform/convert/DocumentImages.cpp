@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kDotsPerInch = 120;  // sharp on the screen, legible on paper
+constexpr int kDotsPerInch = 120;  // sharp on screen, legible on paper
 constexpr std::size_t kHeadBytes = 8;
 constexpr int kLanes = 2;
 constexpr std::chrono::seconds kLongestConversion{30};
@@ -74,14 +74,14 @@ void DocumentImages::TryNextFilter(const SharedJob& job, int lane) {
   job->filters.erase(job->filters.begin());
   const ProgramOrder order{programs_.office, arguments, kLongestConversion, {}, FileArgument(job->folder)};
   RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
-    // One that hung or crashed would do so again. The exit code says success even where nothing could be
-    // read; only the file tells.
+    // After a hang or a crash the next filter would do the same. The exit code is success even if nothing
+    // could be read; only the output file tells.
     if (!ended || IsFile(PdfOf(job->folder))) job->filters.clear();
     TryNextFilter(job, lane);
   });
 }
 
-/// The next document need not wait for the pictures of this one.
+/// The next document need not wait for the page images of this one.
 void DocumentImages::LeaveOffice(const SharedJob& job, int lane) {
   office_.Leave(lane);
   const fs::path pdf = PdfOf(job->folder);
@@ -100,7 +100,7 @@ void DocumentImages::DrawPages(const SharedJob& job, const fs::path& pdf) {
     RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
       drawing_.Leave(lane);
       std::vector<fs::path> pages = DrawnPages(job->folder);
-      if (!ended && !pages.empty()) pages.pop_back();  // the one that was being drawn
+      if (!ended && !pages.empty()) pages.pop_back();  // the page that was being drawn
       job->done(pages);
     });
   });

@@ -15,21 +15,21 @@
 
 namespace quorvantis {
 
-/// Turns office documents and PDF files into pictures of their pages, in the background and a few at a time.
-/// Two LibreOffice processes cannot share a profile: each lane has one of its own.
+/// Converts office documents and PDF files to images of their pages, in the background and a few at a time.
+/// Two LibreOffice processes cannot share a profile, so each lane has its own.
 class DocumentImages : public QObject {
  public:
-  /// The pictures in page order; none when the document could not be converted.
+  /// The images in page order; none if the document could not be converted.
   using Done = std::function<void(const std::vector<std::filesystem::path>& pages)>;
 
-  /// Of a longer document only so many pages are made.
+  /// Longer documents are cut after this many pages.
   static constexpr int kMostPages = 100;
 
-  /// The existing `folder` is for the profiles of LibreOffice and must be this object's own.
+  /// `folder` must exist and belong to this object alone; it holds the LibreOffice profiles.
   DocumentImages(ConverterPrograms programs, std::filesystem::path folder);
 
   /// Converts `document`, whose lower-case extension is `extension`, into the existing, empty `folder`.
-  /// `done` is called once, later, unless this object has gone by then.
+  /// `done` is called once, later, unless this object has been destroyed by then.
   void Make(const std::filesystem::path& document, const QString& extension,
             const std::filesystem::path& folder, Done done);
 
@@ -39,9 +39,9 @@ class DocumentImages : public QObject {
     QString extension;
     std::filesystem::path folder;
     Done done;
-    std::vector<std::string> filters;  ///< still to try
+    std::vector<std::string> filters;  ///< not tried yet
   };
-  using SharedJob = std::shared_ptr<Job>;  ///< what waits for programs holds it
+  using SharedJob = std::shared_ptr<Job>;  ///< shared by the programs that work on it
 
   void Begin(const SharedJob& job);
   void TryNextFilter(const SharedJob& job, int lane);

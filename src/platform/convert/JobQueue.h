@@ -7,17 +7,17 @@
 
 namespace quorvantis {
 
-/// Lets a few jobs be at work at a time; the others wait in the order they came. One that hangs takes one
-/// lane and leaves the rest to the others.
+/// Runs a few jobs at a time; the others wait in the order they arrived. A job that hangs blocks its own lane
+/// and no other.
 class JobQueue {
  public:
-  /// Begins the work, which goes on when this has returned, on a lane that is its own until `Leave`.
+  /// Starts the work, which continues after this returns. The job owns its lane until `Leave`.
   using Job = std::function<void(int lane)>;
 
-  /// Lanes have the numbers from 0 on.
+  /// Lanes are numbered from 0.
   explicit JobQueue(int lanes);
 
-  /// Begins `job`, at once where a lane is free.
+  /// Starts `job`, at once if a lane is free.
   void Add(Job job);
 
   /// The job on `lane` is done.

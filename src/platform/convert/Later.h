@@ -8,7 +8,7 @@
 
 namespace quorvantis {
 
-/// Calls `action` once from the event loop after `delay`, unless `owner` has gone by then.
+/// Calls `action` once from the event loop after `delay`, unless `owner` has been destroyed by then.
 void Later(QObject& owner, std::chrono::milliseconds delay, std::function<void()> action);
 
 }  // namespace quorvantis

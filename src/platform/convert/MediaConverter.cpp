@@ -16,12 +16,12 @@ namespace fs = std::filesystem;
 constexpr int kLooksAtATime = 4;
 constexpr int kConversionsAtATime = 2;
 
-/// A whole film takes its time; a clip that cannot be converted shows that by standing still.
+/// A whole film takes time; a clip that cannot be converted makes no progress.
 constexpr std::chrono::minutes kLongestFilm{30};
 constexpr std::chrono::seconds kLongestStandstill{20};
-constexpr char kProgressMark[] = "out_time_us=";  // how much of the result is there, in microseconds
+constexpr char kProgressMark[] = "out_time_us=";  // length of the output so far, in microseconds
 
-/// A name that begins with "-" or looks like "http:" is still a file.
+/// Treats a name that begins with "-" or looks like "http:" as a file.
 QString Input(const fs::path& media) {
   return "file:" + FileArgument(media);
 }
@@ -37,7 +37,7 @@ QStringList ConversionArguments(const fs::path& media, const fs::path& result, b
               << "-pix_fmt"
               << "yuv420p";
     arguments << "-vf"
-              << "scale=trunc(iw/2)*2:trunc(ih/2)*2";  // the codec takes even sizes only
+              << "scale=trunc(iw/2)*2:trunc(ih/2)*2";  // the codec accepts even sizes only
     arguments << "-c:a"
               << "aac";
   } else {

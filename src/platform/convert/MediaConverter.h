@@ -12,17 +12,17 @@
 
 namespace quorvantis {
 
-/// Makes media files playable in the browser, in the background and a few at a time.
+/// Converts media files so that the browser can play them, in the background and a few at a time.
 class MediaConverter : public QObject {
  public:
-  /// A file that the browser plays: the given one, or a converted one; empty when there is none.
+  /// A file that the browser can play: the original or a converted one; empty if there is none.
   using Done = std::function<void(const std::filesystem::path& playable)>;
 
   explicit MediaConverter(ConverterPrograms programs);
 
-  /// Looks at `media` and, where that is necessary, converts it into the existing, empty `folder`. `done` is
-  /// called once, later, unless this object has gone by then. Without the program that looks, a file is taken
-  /// for playable.
+  /// Checks `media` and converts it, if necessary, into the existing, empty `folder`. `done` is called once,
+  /// later, unless this object has been destroyed by then. Without the program that checks, a file is assumed
+  /// to be playable.
   void Make(const std::filesystem::path& media, const std::filesystem::path& folder, Done done);
 
  private:

@@ -9,8 +9,8 @@ namespace {
 
 using Names = QSet<QByteArray>;
 
-/// Containers that hold their content themselves. Play lists and the like, which name other files, are not
-/// here: a file from a stranger could name anything.
+/// Containers that hold their own content. Playlists and the like, which refer to other files, are
+/// deliberately not listed: an untrusted file could refer to anything.
 bool IsContainer(const QByteArray& format) {
   static const Names formats{"aac",    "ac3",       "aiff", "amr", "ape", "asf", "au",  "avi",
                              "caf",    "dv",        "flac", "flv", "m4v", "mov", "mp3", "mpeg",
@@ -18,7 +18,7 @@ bool IsContainer(const QByteArray& format) {
   return formats.contains(format);
 }
 
-/// Containers that the browser opens; the rest is converted whatever the codecs.
+/// Containers that the browser opens; all others are converted whatever their codecs.
 bool IsBrowserContainer(const QByteArray& format) {
   static const Names formats{"mov", "matroska", "mp3", "wav", "ogg", "flac", "aac"};
   return formats.contains(format);
@@ -43,8 +43,7 @@ QStringList MediaReportArguments() {
           "stream=codec_name,codec_type:stream_disposition=attached_pic:format=format_name"};
 }
 
-/// Lines as "stream|h264|video|0" and "format|avi". The last number of a stream is 1 for the cover of a
-/// record.
+/// Lines like "stream|h264|video|0" and "format|avi". The last number of a stream is 1 for cover art.
 MediaFormat ParseMediaFormat(const QByteArray& report) {
   MediaFormat format;
   QByteArray container;

@@ -17,7 +17,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kBetweenLooks{20};
 constexpr std::uintmax_t kLargestFile = std::uintmax_t{4} << 30;  // bytes; a film may be long
-constexpr qsizetype kMostOutput = qsizetype{1} << 20;             // what lies behind it is of no use
+constexpr qsizetype kMostOutput = qsizetype{1} << 20;             // anything after that is useless
 
 std::string ToArgument(const QString& text) {
   return QFile::encodeName(text).toStdString();
@@ -29,7 +29,7 @@ ChildOrder ChildOrderOf(const ProgramOrder& order) {
   return child;
 }
 
-/// Reads the output of a program for signs of progress.
+/// Watches the output of a program for progress.
 class ProgressWatch {
  public:
   explicit ProgressWatch(ProgressSigns signs) : signs_(std::move(signs)) {}
@@ -49,12 +49,12 @@ class ProgressWatch {
 
  private:
   const ProgressSigns signs_;
-  QByteArray begun_;  ///< the line that is not whole yet
+  QByteArray begun_;  ///< the incomplete last line
   QByteArray last_;
   Clock::time_point lastTime_ = Clock::now();
 };
 
-/// A program at work. Deletes itself when it has reported.
+/// A running program. Deletes itself after its report.
 class ProgramRun : public QObject {
  public:
   ProgramRun(QObject& owner, ProgramOrder order, ProgramDone done)
@@ -84,7 +84,7 @@ class ProgramRun : public QObject {
     if (output_.size() < kMostOutput) output_ += output;
   }
 
-  /// The owner may go with this in the call.
+  /// The call may destroy the owner, and this object with it.
   void Report(bool succeeded) {
     looks_.stop();
     child_.reset();

@@ -16,11 +16,11 @@ namespace quorvantis {
 namespace {
 
 constexpr int kLowPriority = 10;
-constexpr rlim_t kMostMemory = rlim_t{4} << 30;  // an office suite needs about a quarter
+constexpr rlim_t kMostMemory = rlim_t{4} << 30;  // an office suite needs about a quarter of this
 constexpr int kCannotStart = 127;                // as shells report it
-constexpr std::size_t kPipeBytes = 65536;        // which a pipe holds
+constexpr std::size_t kPipeBytes = 65536;        // the capacity of a pipe
 
-/// The texts of an argument list or an environment in the form that `execve` takes.
+/// The texts of an argument list or an environment in the form that `execve` expects.
 class TextArray {
  public:
   explicit TextArray(std::vector<std::string> texts) : texts_(std::move(texts)) {
@@ -56,17 +56,17 @@ void Limit(__rlimit_resource resource, rlim_t most) {
   ::setrlimit(resource, &limit);
 }
 
-/// Between fork and exec only async-signal-safe calls are allowed. `output` takes the place of the standard
-/// output, unless it is none.
+/// Between fork and exec only async-signal-safe calls are allowed. `output` becomes the standard output
+/// unless it is negative.
 [[noreturn]] void BecomeProgram(char* const* arguments, char* const* environment, rlim_t largestFile,
                                 int output, pid_t parent) {
   ::setsid();
-  ::prctl(PR_SET_PDEATHSIG, SIGKILL);  // if this program is killed, which ends no process group
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);  // in case this program is killed and cannot end the group
   if (::getppid() != parent) ::_exit(kCannotStart);
   sigset_t none;
   ::sigemptyset(&none);
   ::sigprocmask(SIG_SETMASK, &none, nullptr);  // NOLINT(concurrency-mt-unsafe): one thread is left
-  std::signal(SIGPIPE, SIG_DFL);               // event loops ignore it
+  std::signal(SIGPIPE, SIG_DFL);               // event loops ignore this signal
   Limit(RLIMIT_FSIZE, largestFile);
   Limit(RLIMIT_AS, kMostMemory);
   ::setpriority(PRIO_PROCESS, 0, kLowPriority);
@@ -90,7 +90,7 @@ struct Pipe {
   FileDescriptor writing;
 };
 
-/// None when there is none to be had.
+/// Nothing if the system has none to give.
 std::optional<Pipe> MakePipe() {
   std::array<int, 2> ends{};
   if (::pipe2(ends.data(), O_CLOEXEC) != 0) return std::nullopt;
@@ -120,15 +120,15 @@ ChildProcess::ChildProcess(pid_t leader, FileDescriptor output)
     : leader_(leader), output_(std::move(output)), leftover_(std::in_place, leader) {}
 
 ChildProcess::~ChildProcess() {
-  // Before the leader is reaped nobody else can get the group's number.
+  // Until the leader is reaped nobody else can get the group's number.
   ::kill(-leader_, SIGKILL);
-  ::kill(leader_, SIGKILL);  // it may not have come to lead a group yet
+  ::kill(leader_, SIGKILL);  // it may not lead a group yet
   leftover_.reset();
   while (::waitpid(leader_, nullptr, 0) < 0 && errno == EINTR) {
   }
 }
 
-/// It is not reaped here.
+/// Does not reap the process.
 std::optional<ChildEnd> ChildProcess::End() const {
   siginfo_t end{};
   const int looked = ::waitid(P_PID, static_cast<id_t>(leader_), &end, WEXITED | WNOHANG | WNOWAIT);

@@ -15,35 +15,36 @@
 
 namespace quorvantis {
 
-/// Another program and what it is told; no shell is in between.
+/// A program and its arguments; no shell is involved.
 struct ChildOrder {
-  std::filesystem::path program;  ///< full path; empty where the program is not installed
+  std::filesystem::path program;  ///< full path; empty if the program is not installed
   std::vector<std::string> arguments;
-  std::filesystem::path temporaryFolder{};               ///< for its temporary files; empty for the usual one
-  std::uintmax_t largestFile = std::uintmax_t{1} << 30;  ///< bytes that it may write into one file
-  bool readsOutput = false;                              ///< its standard output is wanted
+  std::filesystem::path temporaryFolder{};  ///< for its temporary files; empty for the default
+  std::uintmax_t largestFile = std::uintmax_t{1}
+                               << 30;  ///< limit for the size of any file that it writes, in bytes
+  bool readsOutput = false;            ///< the caller wants its standard output
 };
 
 enum class ChildEnd { Succeeded, Failed, NotStarted, TimedOut, Cancelled };
 
-/// A program that was started, at low priority, with limits on memory and on files, and without input. It has
-/// a process group of its own: whatever it has started ends with this object, and all of it with this program
-/// (see Leftover). Nobody is told of its end; who waits for it looks.
+/// A child process with low priority, limits on memory and file size, and no input. It has a process group of
+/// its own: the whole group ends with this object, and in any case with this program (see Leftover). There is
+/// no notification when it ends; the caller polls.
 class ChildProcess {
  public:
-  /// Null when it could not be started. That the file is no program shows only later, as its end.
+  /// Null if it could not be started. A file that is not a program only shows later, by how it ends.
   static std::unique_ptr<ChildProcess> Start(const ChildOrder& order);
 
-  /// Ends the whole group.
+  /// Kills the whole group.
   ~ChildProcess();
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
 
-  /// How it has ended: Succeeded, Failed or NotStarted. None while it runs.
+  /// How it ended: Succeeded, Failed or NotStarted. Nothing while it runs.
   std::optional<ChildEnd> End() const;
 
-  /// What it has written since the last call, or the beginning of that: a program that writes without end
-  /// holds nobody up. All that one has left behind that has ended.
+  /// Its output since the last call, limited per call, so that a program that writes without end blocks
+  /// nobody. After it has ended: all remaining output.
   std::string ReadOutput() const;
 
  private:

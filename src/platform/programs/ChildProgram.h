@@ -10,13 +10,13 @@
 
 namespace quorvantis {
 
-/// Runs a program and waits for its end, at most for `limit`; `isCancelled`, which may be empty, is asked
-/// several times a second. For who has no event loop, like the command line, and for the commands of the
-/// window that wait.
+/// Runs a program and waits for it, at most for `limit`; `isCancelled`, which may be empty, is polled several
+/// times a second. For callers without an event loop, like the command line, and for window commands that
+/// wait.
 ChildEnd RunChildProgram(const ChildOrder& order, std::chrono::milliseconds limit,
                          const std::function<bool()>& isCancelled);
 
-/// The full path of a program in the folders of PATH; empty when there is none.
+/// The full path of a program in the folders of PATH; empty if not found.
 std::filesystem::path FindProgram(const std::string& name);
 
 }  // namespace quorvantis

@@ -36,7 +36,7 @@ WordResult OfficeConverter::Convert(const OfficeJob& job) const {
   for (const std::string& filter : job.filters) {
     const WordResult run =
         Run(programs_.office, OfficeArguments(profile.Path(), filter, format, job.input), profile.Path());
-    // The exit code says success even where nothing could be read; only the file tells.
+    // The exit code is success even if nothing could be read; only the output file tells.
     if (IsThere(result)) return WordResult::Done;
     if (run != WordResult::Done && run != WordResult::Damaged) return run;
   }

@@ -11,7 +11,7 @@
 
 namespace quorvantis {
 
-/// The programs of the machine that the reader of documents uses, by full path; an empty one is not
+/// The installed programs that the document reader uses, by full path; the path is empty if one is not
 /// installed.
 struct OfficePrograms {
   std::filesystem::path office;     ///< soffice of LibreOffice
@@ -21,27 +21,27 @@ struct OfficePrograms {
   static OfficePrograms Find();
 };
 
-/// What LibreOffice is to make of a file.
+/// A conversion by LibreOffice.
 struct OfficeJob {
-  std::filesystem::path input;       ///< lies in a folder of its own, under a plain name
-  std::vector<std::string> filters;  ///< import filters to try, in this order
-  std::string format;                ///< extension of the result
-  std::string exportFilter{};        ///< the usual one for that extension when empty
+  std::filesystem::path input;       ///< in a folder of its own, with a plain name
+  std::vector<std::string> filters;  ///< import filters, tried in this order
+  std::string format;                ///< extension of the output file
+  std::string exportFilter{};        ///< if empty, the usual one for that extension
 };
 
-/// The pages that poppler has drawn into `folder`, in their order: it pads the numbers in the names to one
+/// The pages that poppler has drawn into `folder`, in order: it pads the numbers in the names to the same
 /// width.
 std::vector<std::filesystem::path> DrawnPages(const std::filesystem::path& folder);
 
-/// Has LibreOffice convert files, each run with a fresh profile under which documents can do nothing.
+/// Runs LibreOffice to convert files, each time with a fresh profile that forbids macros and network access.
 class OfficeConverter {
  public:
   OfficeConverter(OfficePrograms programs, std::function<bool()> isCancelled);
 
-  /// Writes the result beside the input, under its name with the other extension.
+  /// Writes the output next to the input, under the same name with the other extension.
   WordResult Convert(const OfficeJob& job) const;
 
-  /// Draws the pages of a PDF file of these pixels per inch as "page-1.png" and so on beside it.
+  /// Draws the pages of a PDF file at this many pixels per inch, as "page-1.png" and so on next to it.
   WordResult DrawPages(const std::filesystem::path& pdf, int dotsPerInch) const;
 
  private:

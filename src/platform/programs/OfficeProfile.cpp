@@ -18,7 +18,7 @@ struct Setting {
 constexpr std::string_view kScripting = "/org.openoffice.Office.Common/Security/Scripting";
 constexpr std::string_view kInternet = "/org.openoffice.Inet/Settings";
 
-/// The proxy is one that nobody answers.
+/// Nothing listens at the proxy's address.
 constexpr Setting kSettings[] = {
     {kScripting, "BlockUntrustedRefererLinks", "true"},
     {kScripting, "DisableMacrosExecution", "true"},
@@ -33,8 +33,8 @@ constexpr Setting kSettings[] = {
     {kInternet, "ooInetNoProxy", ""},
 };
 
-/// The profile's path is one of ours, without characters that an address would have to escape, unless the
-/// folder for temporary files is an odd one.
+/// We choose the profile's path, so nothing in it needs escaping in a URL unless the folder for temporary
+/// files has an unusual name.
 std::string AddressOf(const std::filesystem::path& folder) {
   static constexpr std::string_view kHexadecimal = "0123456789ABCDEF";
   std::string address = "file://";

@@ -7,9 +7,9 @@
 
 namespace quorvantis {
 
-/// Removes what an editor leaves in its work folders: the unpacked files of the exam that was open, and the
-/// folder of attached files with everything in it; then what the office suite was told of the application
-/// folder (`office` may be null). Runs when the editor ends, however it ends. Failures are ignored.
+/// Removes what an editor leaves behind: the unpacked files of the exam that was open, the folder of attached
+/// files with all its content, and then what the office suite was told about the application folder (`office`
+/// may be null). Runs when the editor ends, however it ends. Failures are ignored.
 void RunCloseSequence(ExamEditor& editor, OfficeControl* office);
 
 }  // namespace quorvantis

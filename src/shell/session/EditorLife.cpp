@@ -52,7 +52,7 @@ bool EditorLife::OfferRecovery(RecoveryDialogs& dialogs) {
 
 void EditorLife::End() {
   if (std::exchange(ended_, true)) return;
-  if (recovery_) recovery_->Left(Parting::Leave);  // while there are work copies to keep
+  if (recovery_) recovery_->Left(Parting::Leave);  // while the work copies still exist
   RunCloseSequence(editor_, office_);
 }
 

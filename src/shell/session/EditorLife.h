@@ -12,41 +12,41 @@
 
 namespace quorvantis {
 
-/// The life of an editor, with a window or without: the exam is made one of this application folder, Begin
-/// shows the first question, KeepRecovery has copies kept of what is not saved, and End removes the work
-/// copies, however it comes to that. The application folder is claimed before (ApplicationFolderClaim),
-/// because a window needs a language before it can have an editor.
+/// The life of an editor, with or without a window: the exam is assigned to this application folder, Begin
+/// shows the first question, KeepRecovery keeps recovery copies of unsaved changes, and End removes the work
+/// copies, however the end comes. The application folder is claimed earlier (ApplicationFolderClaim), because
+/// a window needs a language before it can have an editor.
 class EditorLife {
  public:
-  /// All must outlive this. Without `office`, office programs are left alone. Asks nothing.
+  /// All must outlive this object. Without `office`, office programs are left alone. Asks the user nothing.
   EditorLife(FrameSetExam& exam, EditorView& view, DocumentExport exportDocument, OfficeControl* office);
   EditorLife(const EditorLife&) = delete;
   EditorLife& operator=(const EditorLife&) = delete;
   ~EditorLife() { End(); }
 
-  /// May ask the user to close office programs; then shows the first question. To be called once, when the
-  /// view can show something.
+  /// May ask the user to close office programs; then shows the first question. Call once, when the view is
+  /// ready.
   void Begin();
 
-  /// Keeps recovery copies from now on, which is after Begin. A copy is brought up to date by the two below;
-  /// without KeepRecovery they do nothing.
+  /// Keeps recovery copies from now on; call after Begin. The two calls below update the copy; without
+  /// KeepRecovery they do nothing.
   void KeepRecovery();
 
-  /// To be called about every second; takes milliseconds.
+  /// Call about once a second; takes milliseconds.
   void LookAfterUnsaved();
-  /// The copy is up to date when this returns, if it can be written at all.
+  /// When this returns the copy is up to date, if it can be written at all.
   void KeepUnsaved();
 
-  /// Why there is no recovery copy, although one is needed; none otherwise.
+  /// Why a recovery copy that is needed is missing; no error otherwise.
   std::error_code RecoveryFailure() const;
   std::filesystem::path RecoveryFolder() const;
 
-  /// Offers what earlier runs did not save; to be called after KeepRecovery and before anything is done to
-  /// the exam. True when an exam has been restored.
+  /// Offers to restore unsaved work of earlier runs. Call after KeepRecovery and before anything is done to
+  /// the exam. True if an exam has been restored.
   bool OfferRecovery(RecoveryDialogs& dialogs);
 
-  /// What is not saved stays as a recovery copy; then the files of the exam and of the application folder go.
-  /// The editor is not to be used any more. Does nothing when it is called again.
+  /// Unsaved changes stay as a recovery copy; then the files of the exam and of the application folder are
+  /// deleted. The editor cannot be used afterwards. Further calls do nothing.
   void End();
 
   ExamEditor& Editor() { return editor_; }

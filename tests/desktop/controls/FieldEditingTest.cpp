@@ -19,14 +19,14 @@ class FieldEditing : public WindowTest {
   void Undo(const char* name) { Press(name, Qt::Key_Z, Qt::ControlModifier); }
   void Paste(const char* name) { Press(name, Qt::Key_V, Qt::ControlModifier); }
 
-  /// Question 1 once the user has walked away.
+  /// Question 1 after the user has moved to another one.
   const ExamQuestion& Stored() {
     Click("next");
     return exam.Question(1);
   }
 };
 
-/// A field of one line and one of several lines, which both hold 256 units.
+/// A single-line and a multi-line field, both limited to 256 units.
 class LimitedField : public FieldEditing, public testing::WithParamInterface<const char*> {
  protected:
   void OpenWith(int size) {

@@ -21,7 +21,7 @@
 namespace quorvantis::test {
 namespace {
 
-/// A user who answers the dialogs that come up, one after the other.
+/// A user who answers the dialogs that appear, one after another.
 class UserDialogsTest : public testing::Test {
  protected:
   UserDialogsTest() {
@@ -129,7 +129,7 @@ TEST_F(UserDialogsTest, ProgressShowsAfterHalfASecondAndEndsWithTheWork) {
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   QTest::qSleep(600);
   for (std::uint64_t done = 1; done < 5; ++done) {
-    progress.Report(done, 1000);  // which will take long
+    progress.Report(done, 1000);  // at this rate it takes long
     ASSERT_NE(QApplication::activeModalWidget(), nullptr) << done;
     QTest::qSleep(60);
   }

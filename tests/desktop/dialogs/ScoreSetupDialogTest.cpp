@@ -96,7 +96,7 @@ TEST_F(ScoreSetupDialog, EndsAreDraggedInTheBar) {
     EXPECT_EQ(Rows(), "1-4 5-20 21-25");
     Drag(4, 22);  // never beyond the end of the next range
     EXPECT_EQ(Rows(), "1-19 20-20 21-25");
-    Drag(20, 25);  // takes the place of the last one
+    Drag(20, 25);  // replaces the last one
     EXPECT_EQ(Rows(), "1-19 20-25");
     Control<QAbstractButton>("sameScores").click();
     Drag(19, 5);

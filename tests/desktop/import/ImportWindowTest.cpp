@@ -29,7 +29,7 @@ class ImportWindow : public WindowTest {
     QObject::connect(&timer, &QTimer::timeout, [this] {
       auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (dialog == nullptr || next == script.size()) return;
-      if (dialog->objectName() == "importWait" && !usesWaitWindow) return;  // seen on a busy machine only
+      if (dialog->objectName() == "importWait" && !usesWaitWindow) return;  // appears on a busy machine only
       script[next++](*dialog);
     });
     timer.start(20);

@@ -17,7 +17,7 @@ namespace quorvantis {
 
 namespace {
 
-/// A window at its first size in which all buttons are enabled, with labels whose sizes are easy to add.
+/// A window at its initial size with all buttons enabled and labels whose sizes are easy to add up.
 LayoutInput Window() {
   LayoutInput input;
   input.client = {870, 675};
@@ -40,7 +40,7 @@ void Tell(std::ostream& out, const std::array<Place, kSize>& row) {
   for (const Place& place : row) Tell(out, place);
 }
 
-/// All places by their names, as in places.txt.
+/// All places by name, as in places.txt.
 std::string Told(const char* title, const LayoutPlaces& places) {
   std::ostringstream out;
   out << "# " << title << '\n';
@@ -64,7 +64,7 @@ TEST(Layout, GivesEachControlItsPlace) {
   LayoutInput input = Window();
   input.enabled[2] = false;
   input.examListVisible = input.questionListVisible = true;
-  input.client.width = 873;  // 70 % of the title's room are 548.1, of the text's 555.1
+  input.client.width = 873;  // 70 % of the title's width is 548.1, of the text's 555.1
   told += Told("with files, without Import", Layout(input));
   input = Window();
   for (const int kind : {1, 2, 3, 7}) {
@@ -72,8 +72,8 @@ TEST(Layout, GivesEachControlItsPlace) {
     told += Told(("kind " + std::to_string(kind)).c_str(), Layout(input));
   }
   input = Window();
-  input.questionLabel.height = 31;  // everything below gives way by one pixel
-  input.client.height = 340;        // -7 / 5 goes towards zero
+  input.questionLabel.height = 31;  // everything below moves by one pixel
+  input.client.height = 340;        // -7 / 5 rounds towards zero
   told += Told("a large font in a low window", Layout(input));
   const char* const golden = QUORVANTIS_PROJECT "/tests/desktop/layout/places.txt";
   const char* const update = std::getenv("QV_UPDATE_GOLDEN");  // NOLINT(concurrency-mt-unsafe)
@@ -99,10 +99,10 @@ TEST(SizeLimits, GiveWayToASmallScreen) {
 TEST(ScrollIn, HasBarsOnlyWhereControlsHaveNoRoom) {
   const std::pair<PixelSize, ScrolledView> rows[] = {
       {{792, 646}, {{792, 646}, {792, 646}}},                                          // no bar
-      {{900, 800}, {{900, 800}, {900, 800}}}, {{791, 700}, {{792, 690}, {791, 690}}},  // across
-      {{791, 650}, {{792, 646}, {781, 640}}},  // across, for which there must be one down
-      {{900, 600}, {{890, 646}, {890, 600}}},  // down
-      {{795, 600}, {{792, 646}, {785, 590}}},  // down, for which there must be one across
+      {{900, 800}, {{900, 800}, {900, 800}}}, {{791, 700}, {{792, 690}, {791, 690}}},  // horizontal
+      {{791, 650}, {{792, 646}, {781, 640}}},  // horizontal, which makes a vertical one necessary
+      {{900, 600}, {{890, 646}, {890, 600}}},  // vertical
+      {{795, 600}, {{792, 646}, {785, 590}}},  // vertical, which makes a horizontal one necessary
       {{640, 472}, {{792, 646}, {630, 462}}}};
   for (const auto& [client, expected] : rows) {
     const ScrolledView given = ScrollIn(client, 10);

@@ -9,7 +9,7 @@
 namespace quorvantis::test {
 namespace {
 
-/// Stands for the programs of the desktop.
+/// Replaces the desktop's programs.
 class Opener : public QObject {
   Q_OBJECT
 
@@ -25,7 +25,7 @@ class AttachmentMenu : public WindowTest {
     world.dialogs.filesToOpen.push_back(MakeFile(file));
     Click(button);
   }
-  /// Chooses an entry of the menu of a list; false when it is out of use.
+  /// Chooses an entry of a list's menu; false if the entry is disabled.
   bool Choose(const char* list, const char* action) {
     auto& box = Control<AttachmentListBox>(list);
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {2, 2}, box.mapToGlobal(QPoint(2, 2)));

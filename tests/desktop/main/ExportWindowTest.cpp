@@ -27,7 +27,7 @@ TEST_F(ExportWindow, WaitsUnderAModalBarUntilEscape) {
     auto* const bar = window->findChild<QDialog*>("waiting");
     ASSERT_NE(bar, nullptr);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    QTest::keyClick(window->windowHandle(), Qt::Key_Escape);  // goes nowhere
+    QTest::keyClick(window->windowHandle(), Qt::Key_Escape);  // has no effect
     QTest::keyClick(bar, Qt::Key_Escape);
   });
   timer.start(200);

@@ -16,8 +16,8 @@ class FileWindow : public WindowTest {
     Turn();
   }
 
-  /// Drags files over a control and drops them where Qt then takes them: on the window, if the control does
-  /// not want them.
+  /// Drags files over a control and drops them where Qt delivers them: on the window, if the control does not
+  /// accept them.
   void DropFiles(QWidget& over, std::initializer_list<std::filesystem::path> paths) {
     QMimeData data;
     QList<QUrl> urls;

@@ -9,7 +9,7 @@ using PreviewButton = WindowTest;
 
 constexpr int kPatience = 20'000;  // milliseconds, for a browser on a slow machine
 
-/// The preview that is on the screen, or null.
+/// The visible preview, or null.
 PreviewWindow* ShownPreview() {
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     auto* preview = qobject_cast<PreviewWindow*>(widget);
@@ -40,7 +40,7 @@ TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
   Click("preview");
   ASSERT_TRUE(Appears("What is on the picture?"));
 
-  // Left without finishing: the paths on pages keep their prefix, the saved file never had one.
+  // Left without finishing: paths on pages keep their prefix, but the saved file never had one.
   QTest::keyClick(ShownPreview(), Qt::Key_Escape);
   ASSERT_TRUE(QTest::qWaitFor([] { return ShownPreview() == nullptr; }, kPatience));
   const std::u16string path = exam.Question(1).attachmentPaths[0];
@@ -58,7 +58,7 @@ TEST_F(PreviewButton, ShowsTheExamAndLeavesItsFilesWhole) {
   EXPECT_EQ(exam.PathOnPages(path), path.substr(0, 3) + path) << "a finished exam takes one prefix off";
 }
 
-/// The question would appear behind the preview, where nobody sees it.
+/// The question would appear behind the preview, where nobody can see it.
 TEST_F(PreviewButton, IsGoneBeforeClosingAsksAboutChanges) {
   Open();
   Type("questionText", "Not saved yet");
@@ -70,7 +70,7 @@ TEST_F(PreviewButton, IsGoneBeforeClosingAsksAboutChanges) {
   EXPECT_TRUE(world.dialogs.answers.empty()) << "the question was not asked";
 }
 
-/// The setup waits below the preview that it has opened.
+/// The setup stays open below the preview that it opened.
 TEST_F(PreviewButton, WorksBesideTheScoreSetup) {
   exam.Question(1).text = u"Worth how much?";
   Open();

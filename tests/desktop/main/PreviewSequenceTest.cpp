@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Random sequences of what a user does around previews and prints, at random distances. They need a real
-// window manager and minutes, so they run on demand:
-//   QUORVANTIS_SEQUENCES=100 QUORVANTIS_SEED=7 build/tests/test_desktop --gtest_filter='PreviewSequence*'
+// Random sequences of user actions around previews and prints, with random pauses. They need a real window
+// manager and take minutes, so they run on demand:
 #include "desktop/WindowTest.h"
 #include "preview/PreviewWindow.h"
 
@@ -20,7 +19,7 @@ constexpr int kLongestPause = 2000;
 constexpr int kSteps = 9;
 const char16_t* const kQuestion = u"What is asked here?";
 
-/// Its steps come from a timer, because a step may open a dialog that waits for the next ones.
+/// A timer runs the steps, because a step may open a dialog that waits for the next ones.
 class PreviewSequence : public WindowTest {
  protected:
   void Run(unsigned seed) {
@@ -65,7 +64,7 @@ class PreviewSequence : public WindowTest {
 
   int Random(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
 
-  /// As the window system delivers a key: to the window that has the keyboard.
+  /// Sends a key as the window system does: to the window with the keyboard focus.
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QWindow* const focus = QGuiApplication::focusWindow();
     QTest::keyClick(focus != nullptr ? focus : window->windowHandle(), key, modifiers);
@@ -106,7 +105,7 @@ class PreviewSequence : public WindowTest {
     papers_.push_back(folder / ("paper" + std::to_string(papers_.size()) + ".pdf"));
     dialog->findChild<QLineEdit*>("filename")->setText(PathToQString(papers_.back()));
     Press(Qt::Key_Return);
-    if (PrintDialog() != nullptr) papers_.pop_back();  // it has not got the keyboard yet
+    if (PrintDialog() != nullptr) papers_.pop_back();  // it does not have the keyboard yet
   }
 
   void UsePreview() {
@@ -145,7 +144,7 @@ class PreviewSequence : public WindowTest {
   }
 
   void WaitForPage() {
-    if (print_.isValid()) return Schedule();  // whose dialog would wait for a step
+    if (print_.isValid()) return Schedule();  // its dialog would wait for a step
     Note("look");
     QElapsedTimer timer;
     timer.start();
@@ -226,8 +225,8 @@ class PreviewSequence : public WindowTest {
   std::mt19937 random_;
   int steps_ = 0;
   bool loaded_ = false;
-  QElapsedTimer closed_;  ///< since a preview was left
-  QElapsedTimer print_;   ///< since a print was asked for that has not asked for its printer yet
+  QElapsedTimer closed_;  ///< time since a preview was left
+  QElapsedTimer print_;   ///< time since a print was requested that has not shown its printer dialog yet
   std::vector<std::filesystem::path> papers_;
 };
 

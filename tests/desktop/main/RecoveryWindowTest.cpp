@@ -12,7 +12,7 @@ namespace {
 
 class RecoveryWindow : public WindowTest {
  protected:
-  /// Answers the question of the start, and gives its text.
+  /// Answers the question at the start and returns its text.
   QString Restore() {
     QString question;
     const auto answer = [&] {

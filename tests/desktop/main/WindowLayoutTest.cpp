@@ -61,7 +61,7 @@ TEST_F(WindowLayout, HasNoOverlapsAndAMirrorImageInEverySizeAndKind) {
   for (const bool lists : {false, true}) {
     exam.examAttachmentNames[0] = exam.Question(1).attachmentNames[0] = lists ? u"file.jpg" : u"";
     Open();
-    window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);  // the screen of a test is small
+    window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);  // the test's screen is small
     for (const QSize size : {QSize(792, 646), QSize(1601, 1003)}) {
       window->resize(size);
       for (const char* kind : {"kindChoice", "kindFillIn", "kindEssay", "kindOral"}) {
@@ -127,7 +127,7 @@ TEST_F(WindowLayout, ImportIsThereOnlyWithItsRules) {
   EXPECT_TRUE(world.debug.lines.empty());
 }
 
-/// Distance of the brightest and the darkest spot, 0 to 255.
+/// Difference between the brightest and the darkest pixel, 0 to 255.
 int Contrast(const QImage& image) {
   int lightest = 0;
   int darkest = 255;

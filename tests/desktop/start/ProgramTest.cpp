@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The real program, started as a user would.
+// The real program, started the way a user would.
 #include "desktop/controls/QtText.h"
 #include "platform/posix/FolderLock.h"
 #include "support/TemporaryFolder.h"
@@ -39,7 +39,7 @@ TEST(Program, PaintsItsWindowOnAnXServer) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("QT_QPA_PLATFORM", "xcb");
   environment.insert("LSAN_OPTIONS",
-                     "detect_leaks=0");  // of a sanitized build: the X and D-Bus libraries leak
+                     "detect_leaks=0");  // of a sanitized build: X and D-Bus libraries leak
   program.setProcessEnvironment(environment);
   program.setProcessChannelMode(QProcess::ForwardedChannels);
   program.start("xvfb-run", {"-a", "-s", "-screen 0 1280x1024x24", kProgram, "--app-folder",
@@ -54,7 +54,7 @@ TEST(Program, PaintsItsWindowOnAnXServer) {
   EXPECT_NE(image, empty);
 }
 
-/// What ./run builds, in a folder of its own, so that nothing else that a build makes can help.
+/// The output of ./run, in a separate folder, so that nothing else from the build can help.
 TEST(Program, OffersImportInTheFirstWindow) {
   const TemporaryFolder folder;
   const std::filesystem::path application(std::filesystem::path(kProgram).parent_path());
@@ -75,7 +75,7 @@ TEST(Program, OffersImportInTheFirstWindow) {
   EXPECT_FALSE(program.readAllStandardError().contains("!file.Open")) << "Import is hidden";
 }
 
-/// As that of a program which was killed a moment ago.
+/// Like the folder of a program that has just been killed.
 TEST(Program, WaitsForAFolderThatIsLetGo) {
   const TemporaryFolder folder;
   std::optional<FolderLock> other = FolderLock::Take(folder.Path());

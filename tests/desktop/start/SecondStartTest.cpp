@@ -20,7 +20,7 @@ struct RecordingStart : FirstStart {
   void ComeForward(const std::filesystem::path& exam) override { exams.push_back(exam); }
 };
 
-/// What a start in another program is told.
+/// Starts again as from another program and returns what that start is told.
 HandOverResult StartAgain(const std::filesystem::path& folder, const std::filesystem::path& exam) {
   auto second = std::async(std::launch::async, [&] { return HandOverStart(folder, exam); });
   const auto isOver = [&] { return second.wait_for(std::chrono::seconds(0)) == std::future_status::ready; };

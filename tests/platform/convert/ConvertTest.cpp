@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The converting programs, run for real. A case is skipped where its program is not installed.
+// Runs the real conversion programs. A case is skipped if its program is not installed.
 #include "platform/convert/DocumentImages.h"
 #include "platform/convert/MediaConverter.h"
 #include "platform/convert/ProgramRun.h"
@@ -36,7 +36,7 @@ struct ConvertTest : testing::Test {
     return folder / name;
   }
 
-  /// Converts `source` with LibreOffice, beside it.
+  /// Converts `source` with LibreOffice into the same folder.
   bool MakeDocument(const fs::path& source, const char* extension) {
     const fs::path profile = folder / "profile";
     WriteOfficeProfile(profile);
@@ -87,7 +87,7 @@ TEST_F(ConvertTest, AProgramEndsWithItsOwnerAndReportsNothing) {
   EXPECT_FALSE(called);
 }
 
-/// An OpenDocument in a single file.
+/// An OpenDocument file in the flat form, a single XML file.
 std::string FlatDocument(const std::string& kind, const std::string& content) {
   return "<?xml version=\"1.0\"?><office:document office:version=\"1.2\""
          " office:mimetype=\"application/vnd.oasis.opendocument." +
@@ -161,7 +161,7 @@ TEST(MediaFormat, TellsWhatTheBrowserPlays) {
 
 TEST_F(ConvertTest, MediaArePlayableAfterwardsOrThereAreNone) {
   if (programs.media.isEmpty() || programs.mediaInfo.isEmpty()) GTEST_SKIP() << "no ffmpeg";
-  const fs::path wma = folder / "-tone: 1.wma";  // looks like an option, and like an address
+  const fs::path wma = folder / "-tone: 1.wma";  // looks like an option and like a URL
   ASSERT_EQ(QProcess::execute(
                 "ffmpeg", {"-v", "error", "-f", "lavfi", "-i", "sine=d=1", "file:" + QString(wma.c_str())}),
             0);

@@ -18,7 +18,7 @@ const std::string kRichText =
 
 class ConversionTest : public WordDocumentsTest {
  protected:
-  /// A program of a test in the place of LibreOffice. In the script, $RESULT is the document it is to write.
+  /// A test program in place of LibreOffice. In the script, $RESULT is the document to write.
   OfficePrograms Programs(const std::string& script, std::chrono::milliseconds limit = 60s) {
     const std::string result = "RESULT=\"$7/exam.${6%%:*}\"\n";
     const fs::path program = WriteBytes(folder / "soffice", "#!/bin/sh\n" + result + script);
@@ -43,7 +43,7 @@ TEST_F(ConversionTest, OtherFormatsSayTheSame) {
   const OfficeConverter converter(OfficePrograms::Find(), {});
   for (const std::string format : {"doc", "odt", "rtf"}) {
     ASSERT_EQ(converter.Convert({docx, {"MS Word 2007 XML"}, format}), WordResult::Done);
-    // The name promises something else, and no tool of the shell could take it.
+    // The name suggests another format, and shell tools could not handle it.
     const fs::path named = folder / "\xE8\xAF\x95 'a\"%20;.docx";
     fs::rename(folder / ("source." + format), named);
     const auto outcome = documents.Open(named, {});

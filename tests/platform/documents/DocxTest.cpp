@@ -28,7 +28,7 @@ std::string Repeat(const std::string& text, int times) {
   return all;
 }
 
-/// With the ends of lines and the like as in C++.
+/// With line breaks and the like as in C++.
 std::string Escaped(const std::u16string& text) {
   std::string escaped;
   for (const char c : Utf16ToUtf8(text)) {
@@ -126,15 +126,15 @@ TEST_F(DocxTest, FilesThatAreNoDocuments) {
   EXPECT_EQ(result(whole.substr(0, whole.size() - 30)), WordResult::Damaged);
 }
 
-/// The header, one sector of allocation, a directory with one stream, and a sector for the stream or, if it
-/// is small, for it and another one before it.
+/// The header, one sector of the allocation table, a directory with one stream, and a sector for the stream
+/// or, if it is small, for the mini stream and one before it.
 std::string CompoundFileWith(std::u16string_view stream, char flags, bool isSmall = false) {
   std::string bytes = "\xD0\xCF\x11\xE0";
   constexpr std::size_t kSector = 512;
   constexpr std::size_t kEntry = kSector * 2 + 128;
   bytes.resize(kSector * 4, '\0');
   bytes[30] = 9;
-  bytes[48] = 1;  // sector of the directory; that of the allocation is 0
+  bytes[48] = 1;  // sector of the directory; the allocation table is in sector 0
   bytes[57] = 16;
   bytes[kEntry - 12] = 2;  // of small streams
   for (std::size_t i = 0; i < stream.size(); ++i) bytes[kEntry + 2 * i] = static_cast<char>(stream[i]);

@@ -20,7 +20,7 @@ class DocumentPicturesTest : public WordDocumentsTest {
 
 using Writer = void* (*)(gdImage*, int*);
 
-/// Two pixels, one above the other: red and a transparent one.
+/// Two pixels, one above the other: red and transparent.
 std::string Encoded(Writer write) {
   gdImage* const image = ::gdImageCreateTrueColor(1, 2);
   ::gdImageAlphaBlending(image, 0);
@@ -60,7 +60,7 @@ TEST_F(DocumentPicturesTest, HugePicturesAreRefusedBeforeMemoryIsTaken) {
   EXPECT_EQ(linked.pictures->Read(7, pixels), WordResult::NotFound);
 }
 
-/// A window of one by one centimetre, all of it black.
+/// A window of one by one centimetre, all black.
 std::string BlackWmf() {
   using namespace std::literals;
   return "\xD7\xCD\xC6\x9A\0\0\0\0\0\0\x37\x02\x37\x02\xA0\x05\0\0\0\0\0\0"

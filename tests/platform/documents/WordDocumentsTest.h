@@ -11,7 +11,7 @@
 
 namespace quorvantis::test {
 
-/// A text with its objects visible: "<n>" is a picture, "<#>" an equation.
+/// A text in which objects are visible: "<n>" is a picture, "<#>" an equation.
 inline std::u16string Shown(const WordText& text) {
   std::u16string shown = text.characters;
   for (auto object = text.objects.rbegin(); object != text.objects.rend(); ++object) {

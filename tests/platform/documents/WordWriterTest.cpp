@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-/// A text, and how it is read again where that differs.
+/// A text, and what is read back if that differs.
 constexpr std::pair<std::u16string_view, std::u16string_view> kTexts[] = {
     {u"", u""},
     {u" leading", u""},

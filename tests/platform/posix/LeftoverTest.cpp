@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Runs `work` in a process of its own until it has written a byte to the descriptor that it is given.
+/// Runs `work` in a separate process until it has written a byte to the descriptor that it is given.
 pid_t Start(const std::function<void(int)>& work) {
   int ends[2];
   if (::pipe(ends) != 0) std::abort();
@@ -40,7 +40,7 @@ int End(pid_t child, int signal) {
   return status;
 }
 
-/// A program that writes to a folder for as long as it lives.
+/// A program that keeps writing to a folder until it is killed.
 pid_t StartHelper(const fs::path& folder) {
   const pid_t helper = ::fork();
   if (helper != 0) return helper;
@@ -48,7 +48,7 @@ pid_t StartHelper(const fs::path& folder) {
   while (true) WriteBytes(folder / "helper/file", "x");
 }
 
-/// What a command has made when a signal comes.
+/// The files of a command when a signal arrives.
 [[noreturn]] void WaitForSignalWithLeftovers(const fs::path& folder, int ready) {
   RemoveLeftoversOnSignals();
   setenv("TMPDIR", folder.c_str(), 1);  // NOLINT(concurrency-mt-unsafe): a forked child has one thread
@@ -77,7 +77,7 @@ TEST(Leftovers, GoWithASignalThatEndsTheProcess) {
   }
 }
 
-/// At every moment between making something and being done with it.
+/// At every moment between creating something and finishing it.
 TEST(Leftovers, GoWheneverTheSignalComes) {
   const TemporaryFolder folder;
   std::minstd_rand random(5);

@@ -15,7 +15,7 @@ namespace {
 std::function<void(const std::string& file)> whenSynced;  ///< called with the open file
 }
 
-/// In the place of the system's, for the whole test program.
+/// Replaces the system's function in the whole test program.
 extern "C" int fsync(int descriptor) {
   if (whenSynced) whenSynced("/proc/self/fd/" + std::to_string(descriptor));
   return static_cast<int>(::syscall(SYS_fsync, descriptor));
@@ -59,10 +59,10 @@ TEST_F(ReplaceTest, MakesAFileAndReplacesOneWithItsPermissions) {
   EXPECT_EQ(Entries(), 1);
 }
 
-/// After a power cut there is the old file or the new one, and no empty one under its name.
+/// After a power cut the file has its old or its new content, and is never empty.
 TEST_F(ReplaceTest, TheNewContentIsOnTheDiskBeforeItTakesTheName) {
   const fs::path target = WriteBytes(folder / "exam.exm", "old content");
-  std::vector<std::pair<std::string, std::string>> synced;  // the content, and that of the target meanwhile
+  std::vector<std::pair<std::string, std::string>> synced;  // its content, and the target's at that time
   whenSynced = [&](const std::string& file) {
     synced.emplace_back(fs::is_directory(file) ? "" : ReadBytes(file), ReadBytes(target));
   };

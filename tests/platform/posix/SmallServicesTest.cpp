@@ -24,7 +24,7 @@ TEST(IconvCodePage, DecodesAndReplacesWhatIsMalformed) {
   check("GBK", "\xC4\xE3\xBA", u"\u4F60\uFFFD");       // cut off
   check("GBK", "\xFF\xC4\xE3", u"\uFFFD\u4F60");       // no lead byte
   check("GBK", "\xC4\x20\xC4\xE3", u"\uFFFD \u4F60");  // the blank is not swallowed
-  check("CP1258", "a\xE9", u"a\u00E9");                // held back in case an accent follows
+  check("CP1258", "a\xE9", u"a\u00E9");                // held back, because an accent may follow
   check("CP932", "\x83\x41\xB1", u"\u30A2\uFF71");
   check("CP1252", "\x80\x81\xE9", u"\u20AC\uFFFD\u00E9");
   check("UTF-8", "\xF0\x9F\x98\x80\xF0\x9F", u"\U0001F600\uFFFD\uFFFD");
@@ -78,7 +78,7 @@ TEST(DynamicLanguageLibraries, LoadNothingThatIsNoLibrary) {
   EXPECT_EQ(Load(folder / "pipe.dll"), nullptr);
   EXPECT_EQ(Load(WriteBytes(folder / "text.dll", "English = 1033")), nullptr);
   for (std::size_t size = 0; size < whole.size(); size += whole.size() / 50) {
-    // A cut behind everything that the loader uses leaves a library that works.
+    // Cut after everything that the loader uses, a library still works.
     const auto cut = Load(WriteBytes(folder / "cut.dll", std::string_view(whole).substr(0, size)));
     EXPECT_TRUE(!cut || cut->Text(133) == u"\u05E9\uFFFD") << size;
   }

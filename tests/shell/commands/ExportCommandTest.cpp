@@ -15,7 +15,7 @@ namespace {
 
 using Paragraphs = std::vector<std::u16string>;
 
-/// Ranges that the score setup has left unused are all zeros, and are told like others.
+/// Ranges that the score setup left unused are all zeros, and are exported like the others.
 TEST(ExportParagraphs, OfQuestionsAndScores) {
   ExamPaper exam;
   exam.title = u"Title";
@@ -55,7 +55,7 @@ TEST(ExportParagraphs, OfQuestionsAndScores) {
   EXPECT_EQ(ExportParagraphs(exam, BuiltInStrings()), expected);
 }
 
-/// A writer that ends as a test wants.
+/// A writer whose result the test chooses.
 struct RecordingWriter : WordWriter {
   WordWriteOutcome outcome;
   std::vector<WordWriteJob> jobs;

@@ -44,7 +44,7 @@ TEST_F(PageCommandsTest, PreviewStoresCountsAndShows) {
   EXPECT_EQ(world.pages.pages.size(), 1);
 }
 
-/// Pages count the previews that were not finished; what is saved knows nothing of them.
+/// Pages reflect the previews that were not finished; a saved file does not.
 TEST_F(PageCommandsTest, PrefixesStayOutOfFiles) {
   const std::u16string path = PathToText(WriteBytes(folder / "map.gif", "picture"));
   exam.Question(1).attachmentPaths[0] = path;

@@ -25,7 +25,8 @@ struct FakeLibrary : LanguageLibrary {
   std::span<const std::byte> Bitmap(std::string_view, int) const override { return {}; }
 };
 
-/// A file's content is its library: "1033 Name", or only one of the two; "broken" cannot be loaded.
+/// The content of a file stands for its library: "1033 Name" or only one of the two; "broken" cannot be
+/// loaded.
 class FakeLibraries : public LanguageLibraries {
  public:
   std::unique_ptr<LanguageLibrary> Load(const std::filesystem::path& file) override {
@@ -40,7 +41,7 @@ class FakeLibraries : public LanguageLibraries {
   }
 };
 
-/// Windows that write down what happens, and do what a test says.
+/// Windows that record what happens and do what the test says.
 class FakeWindows : public ApplicationWindows {
  public:
   std::vector<std::string> events;
@@ -67,7 +68,7 @@ class Languages : public testing::Test {
  protected:
   void Add(const char* name, const char* content) { WriteBytes(folder / name, content); }
 
-  /// Runs the application and gives its exit code.
+  /// Runs the application and returns its exit code.
   int Run(std::optional<int> asked = std::nullopt) {
     windows.events.clear();
     CQuorvantisApp application(module.Path(), folder, asked, {libraries, files, codePage, windows});

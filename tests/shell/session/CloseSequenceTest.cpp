@@ -12,7 +12,7 @@
 namespace quorvantis::test {
 namespace {
 
-/// Files that tell when one is about to be written.
+/// Files that report when one is about to be written.
 class WatchedFiles : public PosixFiles {
  public:
   std::function<void()> onReplace = [] {};

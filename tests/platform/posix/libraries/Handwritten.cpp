@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A language library with little to say, and some of that wrong.
+// A language library with few texts, some of them invalid.
 #include <quorvantis/LanguageLibrary.h>
 
 int GetLanguageID() {
