@@ -86,14 +86,13 @@ constexpr const FieldRow& FieldNamed(ExamFieldName name) {
   return kExamFields[static_cast<std::size_t>(name)];
 }
 
-static_assert(
-    [] {
-      for (std::size_t i = 0; i < std::size(kExamFields); ++i) {
-        if (kExamFields[i].name != static_cast<ExamFieldName>(i)) return false;
-      }
-      return FieldNamed(ExamFieldName::AttachmentName).key == nullptr;
-    }(),
-    "a row for every name, in their order");
+constexpr bool HasARowForEveryName() {
+  for (std::size_t i = 0; i < std::size(kExamFields); ++i) {
+    if (kExamFields[i].name != static_cast<ExamFieldName>(i)) return false;
+  }
+  return FieldNamed(ExamFieldName::AttachmentName).key == nullptr;
+}
+static_assert(HasARowForEveryName(), "in the order of the names");
 
 /// A fill-in answer with more UTF-16 units than this is long (see LongAnswerFlags).
 inline constexpr std::size_t kMaxShortAnswer =

@@ -62,15 +62,14 @@ constexpr bool IsKnown(QuestionKind kind) {
   return false;
 }
 
-static_assert(
-    [] {
-      for (std::size_t i = 0; i < std::size(kQuestionKinds); ++i) {
-        if (kQuestionKinds[i].kind != static_cast<QuestionKind>(i) || !IsKnown(kQuestionKinds[i].kind))
-          return false;
-      }
-      return !IsKnown(static_cast<QuestionKind>(std::size(kQuestionKinds)));
-    }(),
-    "a row for every kind, in the order of their numbers");
+constexpr bool HasARowForEveryKind() {
+  for (std::size_t i = 0; i < std::size(kQuestionKinds); ++i) {
+    if (kQuestionKinds[i].kind != static_cast<QuestionKind>(i) || !IsKnown(kQuestionKinds[i].kind))
+      return false;
+  }
+  return !IsKnown(static_cast<QuestionKind>(std::size(kQuestionKinds)));
+}
+static_assert(HasARowForEveryKind(), "a row for every kind, in the order of their numbers");
 
 /// The row of a kind; null for an unknown number.
 constexpr const KindRow* FindKind(QuestionKind kind) {

@@ -65,6 +65,7 @@ fs::path MakeFolder() {
 PrivateFolder::PrivateFolder() {
   {
     const SignalsHeld held;
+    // cppcheck-suppress useInitializationList ; signals must be held by then
     path_ = MakeFolder();
     leftover_.emplace(path_);
   }
