@@ -12,6 +12,9 @@
 
 namespace quorvantis {
 
+/// The settings of the program, in the application folder.
+inline constexpr const char* kSettingsFile = "system.ini";
+
 /// A profile file in memory: "[section]" lines with "key=value" lines below them. Sections and keys are found
 /// without regard to the case of ASCII letters; lines that begin with ";" are comments. A change touches no
 /// byte of other lines.

@@ -22,7 +22,7 @@ bool IsThere(const fs::path& file) {
 }  // namespace
 
 OfficePrograms OfficePrograms::Find() {
-  return {FindProgram("soffice"), FindProgram("pdftoppm"), std::chrono::milliseconds(60'000)};
+  return {FindProgram("soffice"), FindProgram("pdftoppm")};
 }
 
 OfficeConverter::OfficeConverter(OfficePrograms programs, std::function<bool()> isCancelled)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/language/LanguageSetting.h"
 
+#include "ini/ProfileFile.h"
 #include "text/NumberText.h"
 
 namespace quorvantis {
@@ -13,7 +14,7 @@ constexpr std::u16string_view kKey = u"Language";
 LanguageSetting::LanguageSetting(const std::filesystem::path& applicationFolder, Files& files,
                                  const CodePage& codePage)
     : profile_(files, codePage) {
-  profile_.SetFile(applicationFolder / "system.ini", u"private");
+  profile_.SetFile(applicationFolder / kSettingsFile, u"private");
 }
 
 int LanguageSetting::Read() {

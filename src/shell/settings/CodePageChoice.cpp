@@ -42,7 +42,7 @@ std::string Named(const std::string& choice) {
 }  // namespace
 
 std::string ChooseCodePage(const std::filesystem::path& applicationFolder, int languageId) {
-  const auto choice = ProfileFile(applicationFolder / "system.ini").Value(u"private", u"CodePage");
+  const auto choice = ProfileFile(applicationFolder / kSettingsFile).Value(u"private", u"CodePage");
   return choice && !choice->empty() ? Named(Utf16ToUtf8(*choice)) : OfLanguage(languageId);
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/settings/FileSettings.h"
 
-#include "ini/ProfileFile.h"
 #include "platform/WholeFile.h"
 #include "text/PathText.h"
 
@@ -14,7 +13,7 @@ constexpr std::u16string_view kKey = u"ExamFolder";
 }  // namespace
 
 bool KeepsBackups(const std::filesystem::path& applicationFolder) {
-  return ProfileFile(applicationFolder / "system.ini").Value(u"private", u"Backup") != u"0";
+  return ProfileFile(applicationFolder / kSettingsFile).Value(u"private", u"Backup") != u"0";
 }
 
 std::filesystem::path ExamFolderSetting::Read() const {

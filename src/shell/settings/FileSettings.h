@@ -2,6 +2,8 @@
 // What "system.ini" in the application folder says about exam files.
 #pragma once
 
+#include "ini/ProfileFile.h"
+
 #include <filesystem>
 
 namespace quorvantis {
@@ -18,7 +20,7 @@ class ExamFolderSetting {
  public:
   /// All must outlive this. `codePage` is that of a file in 8-bit text.
   ExamFolderSetting(const std::filesystem::path& applicationFolder, Files& files, const CodePage& codePage)
-      : file_(applicationFolder / "system.ini"), files_(files), codePage_(codePage) {}
+      : file_(applicationFolder / kSettingsFile), files_(files), codePage_(codePage) {}
 
   /// Empty when there is none; the folder itself may be gone.
   std::filesystem::path Read() const;
