@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Random sequences of user actions around previews and prints, with random pauses. They need a real window
 // manager and take minutes, so they run on demand, on a display of their own:
-//   QT_QPA_PLATFORM=xcb QUORVANTIS_SEQUENCES=100 QUORVANTIS_SEED=7 build/tests/test_desktop \
-//     --gtest_filter='PreviewSequence*'
+//   export QT_QPA_PLATFORM=xcb QUORVANTIS_SEQUENCES=100 QUORVANTIS_SEED=7
+//   build/tests/test_desktop --gtest_filter='PreviewSequence*'
 #include "desktop/WindowTest.h"
 #include "preview/PreviewWindow.h"
 
