@@ -7,6 +7,7 @@
 #include "editor/ExamChanges.h"
 #include "editor/ExamFileCommands.h"
 #include "editor/QuestionEditor.h"
+#include "editor/QuestionOrder.h"
 
 namespace quorvantis {
 
@@ -19,6 +20,7 @@ class ExamEditor {
         state(document, view),
         attachments(state, exam_),
         questions(state, exam_, attachments),
+        order(state, exam_, attachments, questions),
         files(state, exam_, questions, std::move(exportDocument)),
         changes(state, exam_, attachments) {}
   ExamEditor(const ExamEditor&) = delete;
@@ -32,6 +34,7 @@ class ExamEditor {
   EditorState state;
   AttachmentEditor attachments;
   QuestionEditor questions;
+  QuestionOrder order;
   ExamFileCommands files;
   ExamChanges changes;
 };

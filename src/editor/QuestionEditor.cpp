@@ -103,6 +103,10 @@ void QuestionEditor::GoForward10() {
     GoTo(std::min(state_.CurrentQuestion() + kLongStep, kMaxQuestions));
 }
 
+void QuestionEditor::GoToQuestion(int number) {
+  if (IsQuestionNumber(number) && number != state_.CurrentQuestion()) GoTo(number);
+}
+
 void QuestionEditor::InsertHere() {
   StoreCurrentQuestion();
   attachments_.ShiftAttachmentsForInsert(state_.CurrentQuestion());

@@ -50,6 +50,8 @@ class QuestionEditor {
   void GoPrevious();
   void GoBack10();
   void GoForward10();
+  /// Walks straight to question `number`; does nothing if it is shown already or there is no such slot.
+  void GoToQuestion(int number);
 
   /// Opens an empty question here; the current one moves to the next number.
   void InsertHere();

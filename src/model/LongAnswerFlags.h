@@ -19,12 +19,18 @@ constexpr bool IsLongAnswer(std::u16string_view answer) {
 ///
 /// The application has one instance for its whole run, beside the document. A flag once set stays set, for
 /// its slot number: New, Open, Insert and Delete do not touch it, on purpose, since the exam writer has
-/// always relied on these flags. Numbers outside 1 to 500 are ignored.
+/// always relied on these flags. Only a question that moves as a whole (editor/QuestionOrder.h) takes its flag
+/// along. Numbers outside 1 to 500 are ignored.
 class LongAnswerFlags {
  public:
   bool IsSet(int question) const { return IsQuestionNumber(question) && flags_[Index(question)]; }
   void Set(int question) {
     if (IsQuestionNumber(question)) flags_[Index(question)] = true;
+  }
+
+  /// Sets or clears a flag: for a question that moves to another slot as a whole.
+  void Assign(int question, bool isLong) {
+    if (IsQuestionNumber(question)) flags_[Index(question)] = isLong;
   }
 
   /// Sets the flag of a question if its answer is long.
