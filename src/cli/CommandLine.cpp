@@ -26,6 +26,7 @@ struct ParsedArguments {
   std::filesystem::path input;
   std::filesystem::path output;
   bool json = false;
+  bool table = false;
   bool afterPreview = false;
   bool keepsRecovery = false;
   std::string recoveryCopy;
@@ -74,8 +75,14 @@ CLI::Option* AddText(CLI::App& command, const char* name, std::optional<std::str
 void AddShow(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* show = AddCommand(app, arguments, "show", "List the content of an exam file");
   AddPath(*show, "EXAM", arguments.input, "Exam file (.exm)");
-  show->add_flag("--json", arguments.json, "Print one JSON object");
-  show->callback([&] { Show(console, arguments.common, arguments.input, arguments.json); });
+  CLI::Option* json = show->add_flag("--json", arguments.json, "Print one JSON object");
+  show->add_flag("--table", arguments.table, "Print a table with a line for each question")->excludes(json);
+  show->callback([&] {
+    const ShowForm form = arguments.json    ? ShowForm::Json
+                          : arguments.table ? ShowForm::Table
+                                            : ShowForm::Text;
+    Show(console, arguments.common, arguments.input, form);
+  });
 }
 
 void AddBuild(CLI::App& app, ParsedArguments& arguments, Console& console) {

@@ -12,8 +12,10 @@
 
 namespace quorvantis::cli {
 
-/// Lists an exam: readable text, or one JSON object.
-void Show(Console& console, const CommonOptions& options, const std::filesystem::path& exam, bool json);
+enum class ShowForm { Text, Json, Table };
+
+/// Lists an exam: readable text, one JSON object, or a table with a line for each question.
+void Show(Console& console, const CommonOptions& options, const std::filesystem::path& exam, ShowForm form);
 
 /// Makes an exam file from a JSON description.
 void Build(Console& console, const CommonOptions& options, const std::filesystem::path& description,

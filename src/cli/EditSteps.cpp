@@ -4,6 +4,7 @@
 #include "cli/EditSession.h"
 #include "cli/EditorStateJson.h"
 #include "cli/KindNames.h"
+#include "cli/OrderSteps.h"
 #include "cli/ScoreSteps.h"
 #include "cli/WhyUnreadable.h"
 #include "platform/Texts.h"
@@ -225,6 +226,10 @@ const EditCommand kCommands[] = {
     {"back10", "", 0, Call<&QuestionEditor::GoBack10>},
     {"insert", "", 0, Call<&QuestionEditor::InsertHere>},
     {"delete", "", 0, Call<&QuestionEditor::DeleteHere>},
+    {"move", "A B   (question A gets number B)", 2, MoveQuestion},
+    {"duplicate", "N", 1, DuplicateQuestion},
+    {"take", "FILE M-K [after N]   (questions of another exam; default: after the current question)", 2,
+     TakeQuestions, 2},
     {"kind", KindWords(), 1, Kind},
     {"random", "", 0, Call<&QuestionEditor::CycleRandomMode>},
     {"separator", "", 0, Call<&QuestionEditor::AppendListSeparator>},

@@ -2,6 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/ExamJson.h"
 #include "cli/KindNames.h"
+#include "cli/OverviewTable.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 
@@ -108,13 +109,19 @@ void PrintExam(std::ostream& out, const FrameSetExam& exam, const ExamReadOutcom
 
 }  // namespace
 
-void Show(Console& console, const CommonOptions& options, const std::filesystem::path& exam, bool json) {
+void Show(Console& console, const CommonOptions& options, const std::filesystem::path& exam, ShowForm form) {
   ExamSession session(console, options);
   const ExamReadOutcome outcome = session.Load(exam);
-  if (json) {
-    console.out << ExamToJson(session.exam, outcome) << "\n";
-  } else {
-    PrintExam(console.out, session.exam, outcome);
+  switch (form) {
+    case ShowForm::Json:
+      console.out << ExamToJson(session.exam, outcome) << "\n";
+      break;
+    case ShowForm::Table:
+      PrintOverview(console.out, session.exam);
+      break;
+    case ShowForm::Text:
+      PrintExam(console.out, session.exam, outcome);
+      break;
   }
 }
 

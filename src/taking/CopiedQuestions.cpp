@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "taking/CopiedQuestions.h"
+
+#include "examfile/ExamFileWriter.h"
+#include "examfile/SavingLosses.h"
+#include "model/QuestionKinds.h"
+#include "taking/PrivateServices.h"
+#include "text/NumberText.h"
+#include "text/PathText.h"
+
+#include <string_view>
+
+namespace quorvantis {
+namespace {
+
+/// With LF as the only line break.
+std::u16string WithSimpleLineEnds(std::u16string_view text) {
+  std::u16string simple;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
+    simple += text[i] == u'\r' ? u'\n' : text[i];
+  }
+  return simple;
+}
+
+std::u16string Escaped(std::u16string_view text) {
+  std::u16string html;
+  for (const char16_t unit : WithSimpleLineEnds(text)) {
+    switch (unit) {
+      case u'&':
+        html += u"&amp;";
+        break;
+      case u'<':
+        html += u"&lt;";
+        break;
+      case u'>':
+        html += u"&gt;";
+        break;
+      case u'\n':
+        html += u"<br>";
+        break;
+      default:
+        if (unit >= 0x20 || unit == u'\t') html += unit;
+    }
+  }
+  return html;
+}
+
+/// Calls `line` with the letter and the text of each option.
+template <class Line>
+void VisitOptions(const ExamQuestion& question, const Line& line) {
+  if (!AnswerOf(question.kind).options) return;
+  char16_t letter = u'A';
+  for (const std::u16string& option : question.options) {
+    if (!option.empty()) line(std::u16string(1, letter) + u". ", option);
+    ++letter;
+  }
+}
+
+}  // namespace
+
+std::error_code WriteQuestionsFile(const ExamServices& services, const std::u16string& title,
+                                   const std::vector<CopiedQuestion>& questions,
+                                   const std::filesystem::path& file) {
+  CollectedMessages messages;
+  LongAnswerFlags flags;
+  ExamServices own = PrivateServices(services, services.applicationFolder, messages, flags);
+  FrameSetExam exam(own);
+  exam.title = title;
+  int number = 0;
+  for (const CopiedQuestion& copied : questions) {
+    exam.Question(++number) = copied.whole.question;
+    flags.Assign(number, copied.whole.longAnswer);
+  }
+  StoreWhole(exam);
+  return ExamFileWriter(exam, own).Write(file);
+}
+
+std::uint64_t AttachedBytes(const std::vector<CopiedQuestion>& questions) {
+  std::uint64_t bytes = 0;
+  for (const CopiedQuestion& copied : questions) {
+    for (const std::u16string& path : copied.whole.question.attachmentPaths) {
+      std::error_code error;
+      const auto size = path.empty() ? 0 : std::filesystem::file_size(TextToPath(path), error);
+      if (!error) bytes += size;
+    }
+  }
+  return bytes;
+}
+
+std::u16string QuestionsAsText(const std::vector<CopiedQuestion>& questions) {
+  std::u16string text;
+  for (const auto& [number, whole] : questions) {
+    if (!text.empty()) text += u'\n';
+    text += FormatInteger(number) + u". " + WithSimpleLineEnds(whole.question.text) + u'\n';
+    VisitOptions(whole.question, [&text](const std::u16string& letter, const std::u16string& option) {
+      text += letter + WithSimpleLineEnds(option) + u'\n';
+    });
+  }
+  return text;
+}
+
+std::u16string QuestionsAsHtml(const std::vector<CopiedQuestion>& questions) {
+  std::u16string html = u"<html><body>";
+  for (const auto& [number, whole] : questions) {
+    html += u"<p><b>" + FormatInteger(number) + u".</b> " + Escaped(whole.question.text);
+    VisitOptions(whole.question, [&html](const std::u16string& letter, const std::u16string& option) {
+      html += u"<br>" + letter + Escaped(option);
+    });
+    html += u"</p>";
+  }
+  return html + u"</body></html>";
+}
+
+}  // namespace quorvantis
