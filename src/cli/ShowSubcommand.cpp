@@ -2,6 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/ExamJson.h"
 #include "cli/KindNames.h"
+#include "model/AnswerLetters.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 
@@ -57,10 +58,9 @@ void PrintAttachments(std::ostream& out, std::string_view indent, const Attachme
 }
 
 void PrintAnswer(std::ostream& out, const ExamQuestion& question) {
-  constexpr std::string_view kLetters = "ABCDE";
   for (std::size_t i = 0; i < kOptionCount; ++i) {
     if (!question.options[i].empty())
-      out << "   " << kLetters[i] << ". " << Printable(question.options[i]) << "\n";
+      out << "   " << static_cast<char>(OptionLetter(i)) << ". " << Printable(question.options[i]) << "\n";
   }
   if (AnswerOf(question.kind).options) out << "   answer: " << Printable(question.answerLetters) << "\n";
   if (!question.answerText.empty()) out << "   answer: " << Printable(question.answerText) << "\n";

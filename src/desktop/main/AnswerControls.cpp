@@ -3,6 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
+#include "model/AnswerLetters.h"
 #include "platform/Texts.h"
 #include "text/MessageText.h"
 
@@ -20,7 +21,7 @@ QString Caption(const StringTable& strings, int id) {
 }
 
 QString Letter(std::size_t index) {
-  return QString(QChar(static_cast<char16_t>(u'A' + index)));
+  return QString(QChar(OptionLetter(index)));
 }
 
 }  // namespace
