@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "import/PaperDocuments.h"
 
-#include "editor/ExamFileCommands.h"
 #include "ini/ProfileEncoding.h"
 #include "platform/WholeFile.h"
+#include "text/PathText.h"
 
 namespace quorvantis {
 namespace {
@@ -33,7 +33,7 @@ WordReadOutcome TextDocuments::Open(const std::filesystem::path& file, const Wor
 }
 
 WordReadOutcome PaperDocuments::Open(const std::filesystem::path& file, const WordReadOptions& options) {
-  const std::u16string extension = LowerExtension(file);
+  const std::u16string extension = ExtensionOrPath(PathToText(file));
   const bool isText = extension == u"txt" || extension == u"md";
   return isText ? text_.Open(file, options) : word_.Open(file, options);
 }
