@@ -2,12 +2,12 @@
 #include "render/OralPart.h"
 
 #include "model/PageRenderer.h"
+#include "model/WorkFolderNames.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/Texts.h"
 #include "render/AttachmentItems.h"
 #include "render/MediaPlayerScript.h"
-#include "render/PreviewPaths.h"
 #include "render/Template.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
