@@ -25,7 +25,7 @@ ScoreFields ShowRanges(const ScoreDistribution& ranges) {
     fields.to[i] = {FormatInteger(ranges.scoreTo[i]), i == kLastRange};
     fields.score[i] = {FormatScore(ranges.scoreValue[i]), false};
   }
-  fields.radio = ranges.scoreMode != ScoreMode::Same ? 1 : 0;
+  fields.radio = HasOneScore(ranges.scoreMode) ? 0 : 1;
   return fields;
 }
 
