@@ -14,11 +14,7 @@ class DialogText {
   /// `language`, which may be null, must outlive this. `dialog` is a number of platform/DialogTexts.h.
   DialogText(const LanguageLibrary* language, int dialog) : language_(language), dialog_(dialog) {}
 
-  QString operator()(int control) const {
-    const std::u16string text =
-        language_ == nullptr ? std::u16string() : language_->DialogText(dialog_, control);
-    return ToQString(text.empty() ? BuiltInDialogText(dialog_, control) : text);
-  }
+  QString operator()(int control) const { return ToQString(DialogTextOf(language_, dialog_, control)); }
 
  private:
   const LanguageLibrary* language_;
