@@ -42,7 +42,7 @@ void CopyInto(const fs::path& folder, const fs::path& file, Files& files) {
 }
 
 void CopyAll(const fs::path& folder, const AttachmentList& names, const AttachmentList& paths, Files& files) {
-  for (const AttachedFile& file : AttachedFiles(names, paths)) CopyInto(folder, file.path, files);
+  for (const ListedFile& file : ListedFiles(names, paths)) CopyInto(folder, file.path, files);
 }
 
 }  // namespace

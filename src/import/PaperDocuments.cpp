@@ -25,7 +25,7 @@ WordReadOutcome TextDocuments::Open(const std::filesystem::path& file, const Wor
   const auto bytes = ReadWholeFile(file, kMaxBytes);
   if (!bytes) return {WhyUnread(file)};
   const ProfileEncoding encoding = ProfileEncoding::Of(*bytes, &codePage_);
-  WordDocument document;
+  WordContent document;
   document.isPlainText = true;
   document.runningText.characters = encoding.Decode(std::string_view(*bytes).substr(encoding.MarkSize()));
   if (document.runningText.characters.find(u'\0') != std::u16string::npos) return {WordResult::UnknownFormat};

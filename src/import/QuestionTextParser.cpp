@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/QuestionTextParser.h"
 
-#include "import/AnswerBlock.h"
 #include "import/ImportMarkers.h"
+#include "import/ParseAnswer.h"
 #include "import/RuleKeys.h"
 #include "model/AnswerLetters.h"
 #include "text/NumberText.h"
