@@ -7,7 +7,7 @@
 #include "cli/ScoreSteps.h"
 #include "cli/WhyUnreadable.h"
 #include "model/AnswerLetters.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "shell/commands/ScoreSetupCommand.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

@@ -3,7 +3,7 @@
 #include "cli/Commands.h"
 #include "cli/InputFile.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "shell/commands/ExportCommand.h"
 #include "text/PathText.h"
 #include "text/Utf.h"

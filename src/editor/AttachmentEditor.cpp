@@ -7,7 +7,7 @@
 #include "model/QuestionKinds.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "text/PathText.h"
 

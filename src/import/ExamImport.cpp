@@ -3,7 +3,7 @@
 
 #include "import/RuleKeys.h"
 #include "ini/ProfileValues.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
 

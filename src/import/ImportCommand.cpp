@@ -9,7 +9,7 @@
 #include "model/document/ExamServices.h"
 #include "platform/DebugOutput.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -5,7 +5,7 @@
 #include "import/LostPictures.h"
 #include "import/RuleKeys.h"
 #include "model/ExamLimits.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "regex/RegexPattern.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

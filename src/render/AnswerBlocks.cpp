@@ -2,7 +2,7 @@
 #include "render/AnswerBlocks.h"
 
 #include "model/AnswerLetters.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "render/Template.h"
 #include "render/TextToHtml.h"
 #include "text/AsciiCase.h"

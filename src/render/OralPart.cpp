@@ -5,7 +5,7 @@
 #include "model/WorkFolderNames.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "render/AttachmentItems.h"
 #include "render/MediaPlayerScript.h"
 #include "render/Template.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/controls/QtText.h"
-#include "platform/DialogTexts.h"
+#include "platform/DialogTextNumbers.h"
 #include "platform/LanguageLibraries.h"
 #include "shell/language/BuiltInDialogTexts.h"
 
@@ -11,7 +11,7 @@ namespace quorvantis {
 /// The texts of one dialog's controls: those of a language, or the built-in ones if it has none.
 class DialogText {
  public:
-  /// `language`, which may be null, must outlive this. `dialog` is a number of platform/DialogTexts.h.
+  /// `language`, which may be null, must outlive this. `dialog` is a number of platform/DialogTextNumbers.h.
   DialogText(const LanguageLibrary* language, int dialog) : language_(language), dialog_(dialog) {}
 
   QString operator()(int control) const { return ToQString(DialogTextOf(language_, dialog_, control)); }

@@ -10,7 +10,7 @@
 #include "host/ImportRules.h"
 #include "model/document/ExamServices.h"
 #include "platform/DebugOutput.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "shell/commands/PreviewCommand.h"
