@@ -4,7 +4,7 @@
 #include "editor/WorkCopies.h"
 #include "examfile/ExamFileReader.h"
 #include "examfile/WorkFolder.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "taking/PrivateServices.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
