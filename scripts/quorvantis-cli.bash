@@ -30,7 +30,7 @@ _quorvantis_cli() {
     local options="--help --app-folder --language --debug"
     [ -n "$command" ] || options+=" --version"
     case $command in
-      show) options+=" --json" ;;
+      show) options+=" --json --table" ;;
       preview) options+=" --student --responses" ;;
       print) options+=" --after-preview" ;;
       score) options+=" --mode --end --value" ;;

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -111,7 +112,7 @@ class ScoresInOrder {
  public:
   explicit ScoresInOrder(const OverviewSource& source) {
     if (source.exam.scoreMode == ScoreMode::Custom)
-      segments_ = SegmentsOf(DistributionOf(source.exam), source.lastQuestion);
+      segments_ = SegmentsOf(DistributionOf(source.exam), std::max(source.lastQuestion, source.editedNumber));
   }
 
   std::optional<float> ScoreOf(int number) {
@@ -149,12 +150,14 @@ std::vector<OverviewRow> OverviewRows(const OverviewSource& source, const Overvi
   std::vector<OverviewRow> rows;
   ScoresInOrder scores(source);
   const std::u16string text = Folded(filter.text);
-  for (int number = 1; number <= source.lastQuestion; ++number) {
+  const auto add = [&](int number) {
     OverviewRow row = RowOf(source, number);
     row.score = scores.ScoreOf(number);
     if (Passes(row, filter) && (text.empty() || Contains(source.Question(number), text)))
       rows.push_back(std::move(row));
-  }
+  };
+  for (int number = 1; number <= source.lastQuestion; ++number) add(number);
+  if (source.editedNumber > source.lastQuestion) add(source.editedNumber);
   return rows;
 }
 

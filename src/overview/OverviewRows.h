@@ -47,7 +47,7 @@ struct OverviewFilter {
 struct OverviewSource {
   const FrameSetExam& exam;
   int lastQuestion = 0;  ///< the last one to show
-  int editedNumber = 0;  ///< of `edited`; 0 if there is none
+  int editedNumber = 0;  ///< of `edited`, which is shown even after the last one; 0 if there is none
   ExamQuestion edited = {};
 
   const ExamQuestion& Question(int number) const {

@@ -25,6 +25,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
+#include <QShortcut>
 #include <QWindow>
 
 #include <algorithm>
@@ -83,6 +84,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       previews_(SetUpGateway(services_, pages)),
       importWindows_(exam.Services(), library, *this),
       import_(editor_, papers, importWindows_, FindImportRules(services_.applicationFolder)),
+      questionTools_(editor_, *this),
       pictures_(library),
       toolbar_(editor_, Commands(), services_.strings, pictures_, this),
       examControls_(editor_, services_.strings, this),
@@ -108,6 +110,8 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
   connect(&scroll_, &WindowScroll::Scrolled, this, &CQuorvantisDlg::Layout);
   SetFirstSize(*this);
   OfferImport();
+  auto* overview = new QShortcut(Qt::CTRL | Qt::Key_L, this);
+  connect(overview, &QShortcut::activated, this, [this] { questionTools_.ShowOverview(); });
   connect(&recoveryTimer_, &QTimer::timeout, this, [this] { KeepRecovery(); });
   TitleChanged();
   question_.text->setFocus();
@@ -174,6 +178,7 @@ void CQuorvantisDlg::FormLoaded() {
   question_.Load();
   answers_.Load();
   importWindows_.ExamChanged();
+  questionTools_.ExamChanged();
 }
 
 void CQuorvantisDlg::FormChanged() {
@@ -181,6 +186,7 @@ void CQuorvantisDlg::FormChanged() {
   examControls_.Refresh();
   question_.Refresh();
   answers_.Refresh();
+  questionTools_.ExamChanged();
   Layout();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
@@ -235,6 +241,7 @@ void CQuorvantisDlg::PreviewFromSetup(int show) {
 }
 
 void CQuorvantisDlg::PostContentChanged() {
+  questionTools_.ExamChanged();
   emit ContentChangePosted();
 }
 

@@ -12,6 +12,7 @@
 #include "desktop/main/WarningNotice.h"
 #include "desktop/main/WindowLayout.h"
 #include "desktop/main/WindowScroll.h"
+#include "desktop/overview/QuestionTools.h"
 #include "import/ImportCommand.h"
 #include "preview/PreviewWindows.h"
 #include "scoring/SetupOwner.h"
@@ -119,6 +120,7 @@ class CQuorvantisDlg final : public FittedWindow,
   PreviewWindows::Window previewWindow_;  ///< null until the browser has started
   ImportWindows importWindows_;
   ImportCommand import_;
+  QuestionTools questionTools_;
   Pictures pictures_;
   bool endsUnasked_ = false;
   ToolbarButtons toolbar_;

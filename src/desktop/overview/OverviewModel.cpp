@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/overview/OverviewModel.h"
+
+#include "desktop/controls/QtText.h"
+#include "desktop/overview/KindCaption.h"
+#include "platform/TextNumbers.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+#include <iterator>
+
+namespace quorvantis {
+namespace {
+
+constexpr int kHeadings[] = {text_id::kColumnNumber, text_id::kColumnKind,  text_id::kColumnText,
+                             text_id::kColumnKey,    text_id::kColumnScore, text_id::kColumnFiles,
+                             text_id::kColumnMissing};
+static_assert(std::size(kHeadings) == OverviewModel::kColumns);
+
+bool IsNumeric(int column) {
+  return column == OverviewModel::Number || column == OverviewModel::Score || column == OverviewModel::Files;
+}
+
+}  // namespace
+
+OverviewModel::OverviewModel(const StringTable& strings, QObject* parent)
+    : QAbstractTableModel(parent), strings_(strings) {}
+
+std::optional<int> OverviewModel::RowOf(int question) const {
+  const auto found = std::ranges::lower_bound(rows_, question, {}, &OverviewRow::number);
+  if (found == rows_.end() || found->number != question) return std::nullopt;
+  return static_cast<int>(found - rows_.begin());
+}
+
+void OverviewModel::Update(std::vector<OverviewRow> rows) {
+  std::size_t at = 0;
+  std::size_t next = 0;
+  while (at < rows_.size() || next < rows.size()) {
+    if (at < rows_.size() && (next == rows.size() || rows_[at].number < rows[next].number)) {
+      std::size_t end = at + 1;
+      while (end < rows_.size() && (next == rows.size() || rows_[end].number < rows[next].number)) ++end;
+      RemoveRows(at, end);
+    } else if (at == rows_.size() || rows[next].number < rows_[at].number) {
+      std::size_t end = next + 1;
+      while (end < rows.size() && (at == rows_.size() || rows[end].number < rows_[at].number)) ++end;
+      InsertRows(at, {std::make_move_iterator(rows.begin() + static_cast<std::ptrdiff_t>(next)),
+                      std::make_move_iterator(rows.begin() + static_cast<std::ptrdiff_t>(end))});
+      at += end - next;
+      next = end;
+    } else {
+      if (rows_[at] != rows[next]) {
+        rows_[at] = std::move(rows[next]);
+        emit dataChanged(index(static_cast<int>(at), 0), index(static_cast<int>(at), kColumns - 1));
+      }
+      ++at;
+      ++next;
+    }
+  }
+}
+
+void OverviewModel::InsertRows(std::size_t at, std::vector<OverviewRow> rows) {
+  beginInsertRows({}, static_cast<int>(at), static_cast<int>(at + rows.size()) - 1);
+  rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(at), std::make_move_iterator(rows.begin()),
+               std::make_move_iterator(rows.end()));
+  endInsertRows();
+}
+
+void OverviewModel::RemoveRows(std::size_t begin, std::size_t end) {
+  beginRemoveRows({}, static_cast<int>(begin), static_cast<int>(end) - 1);
+  rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(begin),
+              rows_.begin() + static_cast<std::ptrdiff_t>(end));
+  endRemoveRows();
+}
+
+int OverviewModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+int OverviewModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(kColumns);
+}
+
+QString OverviewModel::KindText(QuestionKind kind) const {
+  return KindCaption(kind, strings_);
+}
+
+QString OverviewModel::MissingText(const MissingParts& missing) const {
+  QStringList words;
+  const auto add = [&](bool lacks, int text) {
+    if (lacks) words.push_back(ToQString(strings_.Text(text)));
+  };
+  add(missing.text, text_id::kMissingText);
+  add(missing.key, text_id::kMissingKey);
+  add(missing.options, text_id::kMissingOptions);
+  add(missing.files, text_id::kMissingFile);
+  return words.join(", ");
+}
+
+QString OverviewModel::CellText(const OverviewRow& row, int column) const {
+  switch (column) {
+    case Number:
+      return QString::number(row.number);
+    case Kind:
+      return KindText(row.kind);
+    case Text:
+      return ToQString(row.firstLine);
+    case Key:
+      return ToQString(row.key);
+    case Score:
+      return ToQString(row.score ? FormatScore(*row.score) : strings_.Text(text_id::kSameScoreWord));
+    case Files:
+      return row.files == 0 ? QString() : QString::number(row.files);
+    default:
+      return MissingText(row.missing);
+  }
+}
+
+QVariant OverviewModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || index.row() >= rowCount()) return {};
+  const OverviewRow& row = rows_[static_cast<std::size_t>(index.row())];
+  switch (role) {
+    case Qt::DisplayRole:
+      return CellText(row, index.column());
+    case Qt::AccessibleTextRole: {
+      const QString heading = headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString();
+      return ToQString(FillMessage(
+          strings_.Text(text_id::kCellOfQuestion),
+          {FormatInteger(row.number), FromQString(heading), FromQString(CellText(row, index.column()))}));
+    }
+    case Qt::TextAlignmentRole:
+      return QVariant(Qt::AlignVCenter | (IsNumeric(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
+    default:
+      return {};
+  }
+}
+
+QVariant OverviewModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || section < 0 || section >= kColumns) return {};
+  if (role == Qt::DisplayRole) return ToQString(strings_.Text(kHeadings[section]));
+  if (role == Qt::TextAlignmentRole)
+    return QVariant(Qt::AlignVCenter | (IsNumeric(section) ? Qt::AlignRight : Qt::AlignLeft));
+  return {};
+}
+
+Qt::ItemFlags OverviewModel::flags(const QModelIndex& index) const {
+  // Between rows, the table itself takes what is dropped.
+  if (!index.isValid()) return Qt::ItemIsDropEnabled;
+  return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+}
+
+}  // namespace quorvantis

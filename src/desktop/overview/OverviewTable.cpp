@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/overview/OverviewTable.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr const char* kDraggedRows = "application/x-quorvantis-rows";  // means nothing to other windows
+constexpr int kRowGap = 6;                                             // pixels
+constexpr int kDropLine = 2;
+
+}  // namespace
+
+OverviewTable::OverviewTable(QWidget* parent) : QTableView(parent) {
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setWordWrap(false);
+  setShowGrid(false);
+  setAlternatingRowColors(true);
+  setTabKeyNavigation(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowGap);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setStretchLastSection(true);
+  setDragEnabled(true);
+  setAcceptDrops(true);
+  setDragDropMode(DragDrop);
+  setDropIndicatorShown(false);  // it has its own
+}
+
+std::vector<int> OverviewTable::SelectedRows() const {
+  std::vector<int> rows;
+  for (const QModelIndex& index : selectionModel()->selectedRows()) rows.push_back(index.row());
+  std::ranges::sort(rows);
+  return rows;
+}
+
+void OverviewTable::startDrag(Qt::DropActions) {
+  if (SelectedRows().empty()) return;
+  auto* drag = new QDrag(this);
+  auto* rows = new QMimeData;
+  rows->setData(kDraggedRows, {});
+  drag->setMimeData(rows);
+  drag->exec(Qt::MoveAction);
+  ShowDropAt(-1);
+}
+
+int OverviewTable::RowAtDrop(const QPoint& position) const {
+  const int row = rowAt(position.y());
+  if (row < 0) return model()->rowCount();
+  return position.y() < rowViewportPosition(row) + rowHeight(row) / 2 ? row : row + 1;
+}
+
+void OverviewTable::ShowDropAt(int row) {
+  if (dropRow_ == row) return;
+  dropRow_ = row;
+  viewport()->update();
+}
+
+void OverviewTable::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->source() != this || !event->mimeData()->hasFormat(kDraggedRows)) return;
+  setState(DraggingState);
+  event->acceptProposedAction();
+}
+
+/// The base class scrolls near the edges. It sees no place to drop there, but this class does.
+void OverviewTable::dragMoveEvent(QDragMoveEvent* event) {
+  QTableView::dragMoveEvent(event);
+  if (event->source() != this) return event->ignore();
+  ShowDropAt(RowAtDrop(event->position().toPoint()));
+  event->setDropAction(Qt::MoveAction);
+  event->accept();
+}
+
+void OverviewTable::dragLeaveEvent(QDragLeaveEvent* event) {
+  ShowDropAt(-1);
+  QTableView::dragLeaveEvent(event);
+}
+
+void OverviewTable::dropEvent(QDropEvent* event) {
+  if (event->source() != this) return event->ignore();
+  const int row = RowAtDrop(event->position().toPoint());
+  ShowDropAt(-1);
+  stopAutoScroll();
+  setState(NoState);
+  event->acceptProposedAction();
+  emit RowsDropped(row);
+}
+
+void OverviewTable::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (dropRow_ < 0) return;
+  const int last = model()->rowCount() - 1;
+  const int y = dropRow_ <= last ? rowViewportPosition(dropRow_)
+                : last >= 0      ? rowViewportPosition(last) + rowHeight(last)
+                                 : 0;
+  QPainter painter(viewport());
+  painter.fillRect(0, std::max(y - kDropLine / 2, 0), viewport()->width(), kDropLine,
+                   palette().color(QPalette::Highlight));
+}
+
+}  // namespace quorvantis

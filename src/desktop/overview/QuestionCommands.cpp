@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/overview/QuestionCommands.h"
+
+#include "desktop/controls/QtText.h"
+#include "desktop/overview/InsertFromExamDlg.h"
+#include "editor/WorkCopies.h"
+#include "overview/ScoreChanges.h"
+#include "platform/StringTable.h"
+#include "platform/TextNumbers.h"
+#include "platform/UserDialogs.h"
+#include "taking/OtherExam.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+
+#include <QInputDialog>
+
+#include <algorithm>
+#include <system_error>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::size_t kMostScoresTold = 5;
+
+std::u16string Counted(std::size_t count) {
+  return FormatInteger(static_cast<std::int64_t>(count));
+}
+
+/// A file that is removed at the end.
+class PassingFile {
+ public:
+  explicit PassingFile(std::filesystem::path file) : file_(std::move(file)) {}
+  PassingFile(const PassingFile&) = delete;
+  PassingFile& operator=(const PassingFile&) = delete;
+  ~PassingFile() {
+    std::error_code ignored;
+    std::filesystem::remove(file_, ignored);
+  }
+  const std::filesystem::path& Path() const { return file_; }
+
+ private:
+  std::filesystem::path file_;
+};
+
+}  // namespace
+
+QuestionCommands::QuestionCommands(ExamEditor& editor)
+    : editor_(editor), clipboard_(editor.state.document.Services()) {}
+
+std::u16string QuestionCommands::Text(int id) const {
+  return Services().strings.Text(id);
+}
+
+QString QuestionCommands::Refuse(std::u16string_view problem) const {
+  Services().dialogs.ShowError(problem);
+  return {};
+}
+
+QString QuestionCommands::Report(const OrderOutcome& outcome, int text, std::size_t count) {
+  if (!outcome.IsDone()) return Refuse(OrderProblemText(outcome, Services().strings));
+  changed_ = outcome.questions;
+  return ToQString(FillMessage(Text(text), {Counted(count)})) + ScoresAfter(outcome);
+}
+
+QString QuestionCommands::ScoresAfter(const OrderOutcome& outcome) const {
+  const auto former = [&outcome](int number) { return outcome.order.Source(number); };
+  const std::vector<ScoreChange> changes = ScoreChanges(editor_.state.document, LastQuestion(), former);
+  std::u16string told;
+  for (std::size_t i = 0; i < std::min(changes.size(), kMostScoresTold); ++i) {
+    told += u' ' + FillMessage(Text(text_id::kScoreChanged),
+                               {FormatInteger(changes[i].question), FormatScore(changes[i].now),
+                                FormatScore(changes[i].before)});
+  }
+  if (changes.size() > kMostScoresTold)
+    told +=
+        u' ' + FillMessage(Text(text_id::kMoreScoresChanged), {Counted(changes.size() - kMostScoresTold)});
+  return ToQString(told);
+}
+
+QString QuestionCommands::MoveTo(const std::vector<int>& numbers, int to) {
+  return Report(editor_.order.MoveMany(numbers, to), text_id::kQuestionsMoved, numbers.size());
+}
+
+QString QuestionCommands::AskAndMove(const std::vector<int>& numbers, QWidget* parent) {
+  const int highest = LastQuestion() - static_cast<int>(numbers.size()) + 1;
+  if (numbers.empty() || highest < 1) return {};
+  bool accepted = false;
+  const int to =
+      QInputDialog::getInt(parent, ToQString(Text(text_id::kMoveTo)),
+                           ToQString(FillMessage(Text(text_id::kMoveToNumber),
+                                                 {Counted(1), Counted(static_cast<std::size_t>(highest))})),
+                           std::min(numbers.front(), highest), 1, highest, 1, &accepted);
+  return accepted ? MoveTo(numbers, to) : QString();
+}
+
+QString QuestionCommands::Duplicate(const std::vector<int>& numbers) {
+  return Report(editor_.order.Duplicate(numbers), text_id::kQuestionsDuplicated, numbers.size());
+}
+
+QString QuestionCommands::Delete(const std::vector<int>& numbers) {
+  return Report(editor_.order.DeleteMany(numbers), text_id::kQuestionsDeleted, numbers.size());
+}
+
+QString QuestionCommands::Copy(const std::vector<int>& numbers) {
+  if (numbers.empty()) return {};
+  std::vector<CopiedQuestion> copied;
+  for (WholeQuestion& whole : editor_.order.Copies(numbers))
+    copied.push_back({numbers[copied.size()], std::move(whole)});
+  const std::u16string problem = clipboard_.Copy(editor_.questions.Form().title, copied);
+  if (!problem.empty()) return Refuse(problem);
+  return ToQString(FillMessage(Text(text_id::kQuestionsCopied), {Counted(numbers.size())}));
+}
+
+QString QuestionCommands::Cut(const std::vector<int>& numbers) {
+  return Copy(numbers).isEmpty() ? QString() : Delete(numbers);
+}
+
+int QuestionCommands::PlaceToInsert() const {
+  return LastQuestion() == 0 ? 0 : editor_.state.CurrentQuestion();
+}
+
+QString QuestionCommands::Insert(std::vector<WholeQuestion> questions) {
+  const std::size_t count = questions.size();
+  return Report(editor_.order.InsertWhole(std::move(questions), PlaceToInsert()), text_id::kQuestionsInserted,
+                count);
+}
+
+QString QuestionCommands::Paste() {
+  if (!clipboard_.HasQuestions()) return Refuse(Text(text_id::kNoQuestionsCopied));
+  const auto workRoot = AttachmentWorkRoot(Services().applicationFolder);
+  MakeWorkRoot(workRoot);
+  const int number = editor_.attachments.TakeCopyNumber();
+  const PassingFile file(workRoot / (".pasted-" + std::to_string(number) + ".exm"));
+  if (!clipboard_.SaveTo(file.Path())) return Refuse(Text(text_id::kPasteDamaged));
+  const OtherExam copied(Services(), workRoot, file.Path(), number);
+  if (!copied.Problem().empty()) return Refuse(Text(text_id::kPasteDamaged));
+  std::vector<int> numbers;
+  for (int n = 1; n <= copied.QuestionCount(); ++n) numbers.push_back(n);
+  TakenQuestions taken = copied.Take(numbers);
+  if (!taken.problem.empty()) return Refuse(taken.problem);
+  return Insert(std::move(taken.questions));
+}
+
+QString QuestionCommands::InsertFromExam(QWidget* parent) {
+  const auto file = Services().dialogs.ChooseFileToOpen({Text(text_id::kOpenExamFilter), {}, {}});
+  if (!file) return {};
+  const OtherExam other(Services(), AttachmentWorkRoot(Services().applicationFolder), *file,
+                        editor_.attachments.TakeCopyNumber());
+  if (other.QuestionCount() == 0) return Refuse(other.Problem());
+  InsertFromExamDlg dialog(other, editor_.order.RoomAfter(PlaceToInsert()), Services().strings, parent);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  TakenQuestions taken = other.Take(dialog.Ticked());
+  return taken.problem.empty() ? Insert(std::move(taken.questions)) : Refuse(taken.problem);
+}
+
+}  // namespace quorvantis

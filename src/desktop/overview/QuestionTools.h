@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/overview/OverviewWindow.h"
+#include "desktop/overview/QuestionCommands.h"
+
+#include <QPointer>
+
+namespace quorvantis {
+
+/// What the main window offers for whole questions: the overview, and commands for the question that is
+/// shown.
+class QuestionTools {
+ public:
+  /// Both must outlive this, but the overview goes with `window`, the main window.
+  QuestionTools(ExamEditor& editor, QWidget& window) : editor_(editor), window_(window), commands_(editor) {}
+
+  void ShowOverview();
+  /// Something in the editor may have changed.
+  void ExamChanged();
+
+  void MoveUp() { commands_.MoveTo(Shown(), editor_.state.CurrentQuestion() - 1); }
+  void MoveDown() { commands_.MoveTo(Shown(), editor_.state.CurrentQuestion() + 1); }
+  void MoveTo() { commands_.AskAndMove(Shown(), &window_); }
+  void Duplicate() { commands_.Duplicate(Shown()); }
+  void Copy() { commands_.Copy(Shown()); }
+  void Paste() { commands_.Paste(); }
+  void InsertFromExam() { commands_.InsertFromExam(&window_); }
+
+  /// Whether the commands can act. The last one looks at the clipboard, which takes a moment.
+  bool CanMoveUp() const;
+  bool CanMoveDown() const;
+  bool HasQuestion() const { return editor_.state.CurrentQuestion() <= commands_.LastQuestion(); }
+  bool CanPaste() const { return commands_.CanPaste(); }
+
+ private:
+  std::vector<int> Shown() const { return {editor_.state.CurrentQuestion()}; }
+
+  ExamEditor& editor_;
+  QWidget& window_;
+  QuestionCommands commands_;
+  QPointer<OverviewWindow> overview_;  ///< null until it is first shown
+};
+
+}  // namespace quorvantis
