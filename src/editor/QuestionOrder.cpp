@@ -227,6 +227,7 @@ std::vector<WholeQuestion> QuestionOrder::Copies(const std::vector<int>& numbers
   LongAnswerFlags flags = state_.document.Services().longAnswerFlags;
   const FrameSetExam exam = questions_.StoredExam(flags);
   std::vector<WholeQuestion> copies;
+  copies.reserve(numbers.size());
   for (const int number : numbers) copies.push_back(WholeQuestionOf(exam, flags, number));
   return copies;
 }

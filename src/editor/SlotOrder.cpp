@@ -13,6 +13,7 @@ SlotOrder::SlotOrder() : sources_(kMaxQuestions) {
 
 void SlotOrder::Move(const std::vector<int>& numbers, int to) {
   std::vector<int> moved;
+  moved.reserve(numbers.size());
   for (const int number : numbers) moved.push_back(Source(number));
   Remove(numbers);
   sources_.resize(sources_.size() - moved.size());

@@ -259,5 +259,6 @@ constexpr int kTickNone = 1523;
 constexpr int kInsertTicked = 1524;
 constexpr int kTickedAndRoom = 1525;
 constexpr int kInsertFrom = 1526;
+constexpr int kCopiedWithoutFile = 1527;
 
 }  // namespace quorvantis::text_id

@@ -88,6 +88,18 @@ std::uint64_t AttachedBytes(const std::vector<CopiedQuestion>& questions) {
   return bytes;
 }
 
+std::optional<MissingFile> FirstMissingFile(const std::vector<CopiedQuestion>& questions) {
+  for (const auto& [number, whole] : questions) {
+    for (std::size_t i = 0; i < kMaxAttachments; ++i) {
+      std::error_code ignored;
+      const bool isThere =
+          std::filesystem::is_regular_file(TextToPath(whole.question.attachmentPaths[i]), ignored);
+      if (whole.hasContent[i] && !isThere) return MissingFile{number, whole.question.attachmentNames[i]};
+    }
+  }
+  return std::nullopt;
+}
+
 std::u16string QuestionsAsText(const std::vector<CopiedQuestion>& questions) {
   std::u16string text;
   for (const auto& [number, whole] : questions) {

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -27,6 +28,15 @@ std::error_code WriteQuestionsFile(const ExamServices& services, const std::u16s
 
 /// The bytes of all attached files together.
 std::uint64_t AttachedBytes(const std::vector<CopiedQuestion>& questions);
+
+/// An attached file that should have content but does not exist.
+struct MissingFile {
+  int question = 0;          ///< the number in the exam
+  std::u16string name = {};  ///< the display name
+};
+
+/// The first one, which a copy can only have without its content.
+std::optional<MissingFile> FirstMissingFile(const std::vector<CopiedQuestion>& questions);
 
 /// What students see of the questions: numbers, texts and options, but no answers. Lines end in LF.
 std::u16string QuestionsAsText(const std::vector<CopiedQuestion>& questions);

@@ -7,9 +7,6 @@
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
-#include <QGuiApplication>
-#include <QPalette>
-
 #include <algorithm>
 #include <iterator>
 
@@ -21,8 +18,11 @@ constexpr int kHeadings[] = {text_id::kColumnNumber, text_id::kColumnKind,  text
                              text_id::kColumnMissing};
 static_assert(std::size(kHeadings) == OverviewModel::kColumns);
 
-bool IsNumeric(int column) {
-  return column == OverviewModel::Number || column == OverviewModel::Score || column == OverviewModel::Files;
+/// Numbers stand in the middle of their narrow columns.
+QVariant AlignmentOf(int column) {
+  const bool isNumeric =
+      column == OverviewModel::Number || column == OverviewModel::Score || column == OverviewModel::Files;
+  return QVariant(Qt::AlignVCenter | (isNumeric ? Qt::AlignHCenter : Qt::AlignLeft));
 }
 
 }  // namespace
@@ -132,7 +132,7 @@ QVariant OverviewModel::data(const QModelIndex& index, int role) const {
           {FormatInteger(row.number), FromQString(heading), FromQString(CellText(row, index.column()))}));
     }
     case Qt::TextAlignmentRole:
-      return QVariant(Qt::AlignVCenter | (IsNumeric(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
+      return AlignmentOf(index.column());
     default:
       return {};
   }
@@ -141,8 +141,7 @@ QVariant OverviewModel::data(const QModelIndex& index, int role) const {
 QVariant OverviewModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= kColumns) return {};
   if (role == Qt::DisplayRole) return ToQString(strings_.Text(kHeadings[section]));
-  if (role == Qt::TextAlignmentRole)
-    return QVariant(Qt::AlignVCenter | (IsNumeric(section) ? Qt::AlignRight : Qt::AlignLeft));
+  if (role == Qt::TextAlignmentRole) return AlignmentOf(section);
   return {};
 }
 

@@ -3,9 +3,11 @@
 
 #include <QDrag>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMimeData>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -16,9 +18,21 @@ constexpr const char* kDraggedRows = "application/x-quorvantis-rows";  // means 
 constexpr int kRowGap = 6;                                             // pixels
 constexpr int kDropLine = 2;
 
+/// In mirrored windows, a text of the other direction keeps its own, with its full stop at its end.
+class CellText : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QString displayText(const QVariant& value, const QLocale& locale) const override {
+    const QString text = QStyledItemDelegate::displayText(value, locale);
+    return QGuiApplication::isRightToLeft() ? QChar(0x2068) + text + QChar(0x2069) : text;
+  }
+};
+
 }  // namespace
 
 OverviewTable::OverviewTable(QWidget* parent) : QTableView(parent) {
+  setItemDelegate(new CellText(this));
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
   setEditTriggers(NoEditTriggers);

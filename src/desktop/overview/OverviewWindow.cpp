@@ -305,7 +305,21 @@ void OverviewWindow::RestorePlace() {
   }
   resize(place.width > 0 && place.height > 0 ? QSize(place.width, place.height) : kFirstSize);
   const QRect kept(place.x, place.y, width(), height());
-  if (place.width > 0 && screen()->availableVirtualGeometry().intersects(kept)) move(kept.topLeft());
+  if (place.width == 0) {
+    PlaceBeside(parentWidget()->frameGeometry());
+  } else if (screen()->availableVirtualGeometry().intersects(kept)) {
+    move(kept.topLeft());
+  }
+}
+
+/// Where there is room for it beside the main window, at the right or else at the left.
+void OverviewWindow::PlaceBeside(const QRect& window) {
+  const QRect room = parentWidget()->screen()->availableGeometry();
+  if (window.right() + width() <= room.right()) {
+    move(window.right() + 1, window.top());
+  } else if (window.left() - width() >= room.left()) {
+    move(window.left() - width(), window.top());
+  }
 }
 
 void OverviewWindow::KeepPlace() {

@@ -62,6 +62,7 @@ class OverviewWindow : public QWidget {
   void Run(const Command& command);
 
   void RestorePlace();
+  void PlaceBeside(const QRect& window);
   void KeepPlace();
   QString Text(int id) const;
 

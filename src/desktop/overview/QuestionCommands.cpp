@@ -102,13 +102,18 @@ QString QuestionCommands::Delete(const std::vector<int>& numbers) {
 }
 
 QString QuestionCommands::Copy(const std::vector<int>& numbers) {
+  changed_.clear();
   if (numbers.empty()) return {};
   std::vector<CopiedQuestion> copied;
   for (WholeQuestion& whole : editor_.order.Copies(numbers))
     copied.push_back({numbers[copied.size()], std::move(whole)});
   const std::u16string problem = clipboard_.Copy(editor_.questions.Form().title, copied);
   if (!problem.empty()) return Refuse(problem);
-  return ToQString(FillMessage(Text(text_id::kQuestionsCopied), {Counted(numbers.size())}));
+  std::u16string told = FillMessage(Text(text_id::kQuestionsCopied), {Counted(numbers.size())});
+  if (const auto missing = FirstMissingFile(copied))
+    told += u' ' +
+            FillMessage(Text(text_id::kCopiedWithoutFile), {missing->name, FormatInteger(missing->question)});
+  return ToQString(told);
 }
 
 QString QuestionCommands::Cut(const std::vector<int>& numbers) {

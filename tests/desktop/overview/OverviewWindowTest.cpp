@@ -122,9 +122,12 @@ TEST_F(OverviewTest, FiltersAndMovesAmongTheRowsThatAreLeft) {
 
 TEST_F(OverviewTest, CopiesBetweenProgramsAndAfterTheEnd) {
   OpenOverview(4);
+  Key(Qt::Key_Down, Qt::AltModifier);
+  Key(Qt::Key_Up, Qt::AltModifier);
   Key(Qt::Key_Down);
   Key(Qt::Key_Down, Qt::ShiftModifier);
   Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(table->SelectedRows(), (std::vector{1, 2})) << "not what was moved before";
   const QMimeData* copied = QApplication::clipboard()->mimeData();
   EXPECT_EQ(copied->text(), "2. question 2\nA. yes\nB. no\n\n3. question 3\nA. yes\nB. no\n");
   EXPECT_TRUE(copied->html().contains("<b>2.</b> question 2<br>A. yes"));
@@ -136,9 +139,8 @@ TEST_F(OverviewTest, CopiesBetweenProgramsAndAfterTheEnd) {
   EXPECT_EQ(Texts(), Named({1, 2, 3, 2, 2, 3, 3, 4}));
   EXPECT_TRUE(world.dialogs.errors.empty());
 
-  const QByteArray bytes = copied == nullptr ? QByteArray() : QByteArray("no exam at all");
   auto* damaged = new QMimeData;
-  damaged->setData("application/x-quorvantis-questions", bytes);
+  damaged->setData("application/x-quorvantis-questions", "no exam at all");
   QApplication::clipboard()->setMimeData(damaged);
   Key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(world.dialogs.errors.size(), 1U);
