@@ -3,7 +3,6 @@
 
 #include "editor/WorkCopies.h"
 #include "model/document/ExamServices.h"
-#include "text/PathText.h"
 
 #include <utility>
 #include <vector>
@@ -14,30 +13,11 @@ namespace {
 /// Lies beside the folders that are named after the origin of attached files.
 constexpr const char* kSetAsideFolder = ".set-aside";
 
-void AppendPaths(const AttachmentList& list, std::vector<std::filesystem::path>& files) {
-  for (const std::u16string& path : list) {
-    if (!path.empty()) files.push_back(TextToPath(path));
-  }
-}
-
 /// Settings made by previews hold for the whole run, whichever exam was shown.
 void KeepPreviewSettings(const FrameSetExam& latest, FrameSetExam& restored) {
   restored.previewPrefixes = latest.previewPrefixes;
   restored.pageRenderer.mediaSuppressed = latest.pageRenderer.mediaSuppressed;
   restored.attachmentPageWriter.mediaSuppressed = latest.attachmentPageWriter.mediaSuppressed;
-}
-
-std::vector<std::filesystem::path> WorkCopiesOf(const FrameSetExam& exam) {
-  std::vector<std::filesystem::path> files;
-  for (const std::u16string& entry : exam.examAttachmentPaths) {
-    if (!entry.empty() && exam.IsPath(entry)) files.push_back(TextToPath(entry));
-  }
-  AppendPaths(exam.examAttachmentCopies, files);
-  for (const ExamQuestion& question : exam.questions) {
-    AppendPaths(question.attachmentPaths, files);
-    AppendPaths(question.attachmentCopies, files);
-  }
-  return files;
 }
 
 }  // namespace

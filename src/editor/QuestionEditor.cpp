@@ -104,6 +104,7 @@ void QuestionEditor::GoForward10() {
 }
 
 void QuestionEditor::InsertHere() {
+  state_.NameChange({ChangeKind::InsertQuestion, state_.CurrentQuestion()});
   StoreCurrentQuestion();
   attachments_.ShiftAttachmentsForInsert(state_.CurrentQuestion());
   exam_.Change().InsertQuestion(state_.CurrentQuestion());
@@ -112,6 +113,7 @@ void QuestionEditor::InsertHere() {
 }
 
 void QuestionEditor::DeleteHere() {
+  state_.NameChange({ChangeKind::DeleteQuestion, state_.CurrentQuestion()});
   int& boundary = exam_.Change().boundaryQuestion;
   if (boundary != 0 && boundary >= state_.CurrentQuestion()) --boundary;
   attachments_.RemoveQuestionAttachments(state_.CurrentQuestion());

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "editor/ChangeName.h"
+#include "editor/ExamEditor.h"
+#include "history/ExamDifference.h"
+#include "history/ExamMoment.h"
+#include "history/KeptFiles.h"
+
+#include <chrono>
+#include <cstddef>
+#include <deque>
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+namespace quorvantis {
+
+/// Where the user should look after an undo or a redo. The question is shown already.
+struct HistorySpot {
+  std::optional<FormField> field;                ///< if a text has changed
+  std::size_t position = 0;                      ///< in that text, in UTF-16 units: where the change ends
+  std::vector<std::filesystem::path> lostFiles;  ///< work copies that could not be put back
+};
+
+/// All changes of the exam in an editor since it was opened or begun, as steps to undo and redo. Nobody
+/// reports changes: the history looks at the exam after each command and keeps what differs, so it misses
+/// none. Walking through the questions and saving are no steps. Undo and redo are changes like any other:
+/// they mark the exam as modified.
+class History {
+ public:
+  using Clock = std::chrono::steady_clock;
+
+  static constexpr std::size_t kDefaultLimit = std::size_t{64} * 1024 * 1024;
+  /// A longer pause ends a step of typing.
+  static constexpr auto kTypingPause = std::chrono::seconds(1);
+
+  /// The editor must outlive the history. More than `limit` bytes of steps are not kept: the oldest go first,
+  /// but the last step always stays.
+  explicit History(ExamEditor& editor, std::size_t limit = kDefaultLimit);
+
+  /// Forgets all steps: the exam begins as it is now.
+  void Begin();
+
+  /// Call after every command. A new exam begins a new history.
+  void Look(Clock::time_point now = Clock::now());
+
+  /// What the user types next is a step of its own.
+  void EndTyping() { isTyping_ = false; }
+
+  /// What the next Undo takes back or the next Redo repeats; nothing if there is no such step. As of the last
+  /// look.
+  std::optional<ChangeName> NextUndo() const;
+  std::optional<ChangeName> NextRedo() const;
+  /// Older steps had to be given up.
+  bool HasForgotten() const { return hasForgotten_; }
+
+  /// Nothing if there is nothing to undo or redo.
+  std::optional<HistorySpot> Undo();
+  std::optional<HistorySpot> Redo();
+
+  /// Whether there is a step of this kind to undo.
+  bool Has(ChangeKind kind) const;
+  /// Undoes the last step of this kind and all later ones.
+  std::optional<HistorySpot> UndoBackTo(ChangeKind kind);
+
+  /// Memory that the steps use, in bytes, about.
+  std::size_t Size() const { return size_; }
+
+ private:
+  struct Step {
+    ChangeName name;
+    ExamDifference change;
+    std::vector<FileChange> files;
+    std::vector<ExamDifference> walk;  ///< what was shown and stored after it, before the next step
+    std::size_t size = 0;
+  };
+
+  void AddWalk(ExamDifference walk);
+  void AddStep(Step step);
+  bool JoinTyping(const Step& step, Clock::time_point now);
+  void NoteTyping(const Step& step, Clock::time_point now);
+  void Measure(Step& step);
+  void GiveUpOldest();
+  void TakeBack(Step& step);
+  HistorySpot Show(Step& step, Direction direction);
+
+  ExamEditor& editor_;
+  std::size_t limit_;
+  KeptFiles files_;
+  ExamMoment moment_;  ///< at the last look
+  int examsBegun_ = 0;
+  std::deque<Step> steps_;
+  std::size_t done_ = 0;              ///< steps that are not undone
+  bool walkedOn_ = true;              ///< the walk of the last step that is not undone has been taken
+  std::vector<ExamDifference> walk_;  ///< since the last step, undo or redo
+  std::size_t size_ = 0;
+  bool hasForgotten_ = false;
+  bool isTyping_ = false;
+  Clock::time_point typed_;
+};
+
+}  // namespace quorvantis
