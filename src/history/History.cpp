@@ -100,6 +100,7 @@ void History::AddStep(Step step) {
   }
   walk_.clear();
   walkedOn_ = true;
+  step.number = ++lastNumber_;
   Measure(step);
   steps_.push_back(std::move(step));
   ++done_;
@@ -154,9 +155,9 @@ std::optional<ChangeName> History::NextRedo() const {
   return done_ < steps_.size() ? std::optional(steps_[done_].name) : std::nullopt;
 }
 
-bool History::Has(ChangeKind kind) const {
+bool History::CanUndo(std::uint64_t step) const {
   const auto end = steps_.begin() + static_cast<std::ptrdiff_t>(done_);
-  return std::any_of(steps_.begin(), end, [kind](const Step& step) { return step.name.kind == kind; });
+  return std::any_of(steps_.begin(), end, [step](const Step& known) { return known.number == step; });
 }
 
 /// The moment becomes that before the step.
@@ -196,37 +197,56 @@ std::optional<HistorySpot> History::Redo() {
   return Show(step, Direction::Forward);
 }
 
-std::optional<HistorySpot> History::UndoBackTo(ChangeKind kind) {
+std::optional<HistorySpot> History::UndoBackTo(std::uint64_t step) {
   Look();
   std::optional<HistorySpot> spot;
-  for (bool found = !Has(kind); !found;) {
-    found = steps_[done_ - 1].name.kind == kind;
-    spot = Undo();
-  }
+  while (CanUndo(step)) spot = Undo();
   return spot;
 }
 
-/// Puts the moment into the editor.
-HistorySpot History::Show(Step& step, Direction direction) {
-  isTyping_ = false;
-  HistorySpot spot = SpotOf(step.change, direction);
-  spot.lostFiles = files_.Take(step.files, direction == Direction::Forward);
+/// The document in the editor with what the moment has of it.
+FrameSetExam History::DocumentOf(const ExamMoment& moment) const {
   FrameSetExam exam = editor_.state.document;
-  exam.questions = moment_.questions;
+  exam.questions = moment.questions;
   for (std::size_t slot = 0; slot < exam.questions.size(); ++slot)
-    StoreSlotPart(moment_.slots[slot], exam.questions[slot]);
-  StoreHeader(moment_.header, exam);
-  if (step.change.origin) {
+    StoreSlotPart(moment.slots[slot], exam.questions[slot]);
+  StoreHeader(moment.header, exam);
+  return exam;
+}
+
+void History::PutIntoEditor(bool withOrigin) {
+  FrameSetExam exam = DocumentOf(moment_);
+  if (withOrigin) {
     exam.readDoubt = moment_.origin.readDoubt;
     exam.filesNotUnpacked = moment_.origin.filesNotUnpacked;
     exam.lastRead = moment_.origin.lastRead;
   }
   exam.Services().longAnswerFlags = moment_.longAnswers;
   editor_.changes.Replace(std::move(exam));
-  if (step.change.origin) editor_.state.SetFileName(moment_.origin.fileName);
+  if (withOrigin) editor_.state.SetFileName(moment_.origin.fileName);
   editor_.questions.ShowQuestion(moment_.current, moment_.form, moment_.kind);
+}
+
+HistorySpot History::Show(Step& step, Direction direction) {
+  isTyping_ = false;
+  HistorySpot spot = SpotOf(step.change, direction);
+  spot.lostFiles = files_.Take(step.files, direction == Direction::Forward);
+  PutIntoEditor(step.change.origin != nullptr);
   editor_.state.MarkModified();
   return spot;
+}
+
+FrameSetExam History::LastLook() const {
+  FrameSetExam exam = DocumentOf(moment_);
+  exam.title = moment_.form.title;
+  exam.randomMode = moment_.form.random;
+  StoreForm(moment_.form, moment_.kind, exam.Question(moment_.current));
+  return exam;
+}
+
+void History::Revert() {
+  files_.PutBack();
+  PutIntoEditor(true);
 }
 
 }  // namespace quorvantis

@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <filesystem>
 #include <optional>
@@ -59,10 +60,19 @@ class History {
   std::optional<HistorySpot> Undo();
   std::optional<HistorySpot> Redo();
 
-  /// Whether there is a step of this kind to undo.
-  bool Has(ChangeKind kind) const;
-  /// Undoes the last step of this kind and all later ones.
-  std::optional<HistorySpot> UndoBackTo(ChangeKind kind);
+  /// Numbers the steps: that of the one that the next Undo takes back, 0 if there is none. As of the last
+  /// look.
+  std::uint64_t LastStep() const { return done_ > 0 ? steps_[done_ - 1].number : 0; }
+  /// Whether the step of this number can be undone, after all later ones.
+  bool CanUndo(std::uint64_t step) const;
+  /// Undoes the step of this number and all later ones; nothing if it cannot be undone.
+  std::optional<HistorySpot> UndoBackTo(std::uint64_t step);
+
+  /// The exam as it was at the last look, with the form stored.
+  FrameSetExam LastLook() const;
+  /// Takes back what has happened since the last look; the files of the exam, too. Whether the exam counts as
+  /// modified does not change.
+  void Revert();
 
   /// Memory that the steps use, in bytes, about.
   std::size_t Size() const { return size_; }
@@ -74,6 +84,7 @@ class History {
     std::vector<FileChange> files;
     std::vector<ExamDifference> walk;  ///< what was shown and stored after it, before the next step
     std::size_t size = 0;
+    std::uint64_t number = 0;
   };
 
   void AddWalk(ExamDifference walk);
@@ -84,6 +95,8 @@ class History {
   void GiveUpOldest();
   void TakeBack(Step& step);
   HistorySpot Show(Step& step, Direction direction);
+  FrameSetExam DocumentOf(const ExamMoment& moment) const;
+  void PutIntoEditor(bool withOrigin);
 
   ExamEditor& editor_;
   std::size_t limit_;
@@ -95,6 +108,7 @@ class History {
   bool walkedOn_ = true;              ///< the walk of the last step that is not undone has been taken
   std::vector<ExamDifference> walk_;  ///< since the last step, undo or redo
   std::size_t size_ = 0;
+  std::uint64_t lastNumber_ = 0;
   bool hasForgotten_ = false;
   bool isTyping_ = false;
   Clock::time_point typed_;

@@ -55,6 +55,7 @@ KeptFiles::~KeptFiles() {
 SharedFile KeptFiles::Keep(const fs::path& file) {
   if (!IsFile(file)) return nullptr;
   std::error_code ignored;
+  if (lastName_ == 0) fs::remove_all(folder_, ignored);  // left by a program that was killed
   fs::create_directories(folder_, ignored);
   fs::path name = folder_ / std::to_string(++lastName_);
   return LinkTo(file, name, kLargestCopy) ? std::make_shared<const KeptFile>(std::move(name)) : nullptr;
@@ -77,6 +78,12 @@ std::vector<FileChange> KeptFiles::Follow(const std::vector<fs::path>& files, bo
     if (old != nullptr) changes.push_back({file, std::move(old), nullptr});
   }
   return changes;
+}
+
+void KeptFiles::PutBack() const {
+  for (const auto& [file, kept] : now_) {
+    if (kept != nullptr) kept->PutBack(file);
+  }
 }
 
 std::vector<fs::path> KeptFiles::Take(std::vector<FileChange>& changes, bool after) {

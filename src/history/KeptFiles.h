@@ -45,7 +45,7 @@ class KeptFiles {
  public:
   static constexpr std::uintmax_t kLargestCopy = std::uintmax_t{64} * 1024 * 1024;  ///< bytes
 
-  /// `folder` belongs to this object alone: created when needed, removed at the end.
+  /// `folder` belongs to this object alone: created when needed, emptied before, removed at the end.
   explicit KeptFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}
   ~KeptFiles();
   KeptFiles(const KeptFiles&) = delete;
@@ -54,6 +54,9 @@ class KeptFiles {
   /// From now on the exam has these files. Returns what has changed since the last call. Files that another
   /// program has replaced under the same name count only with `replaced`.
   std::vector<FileChange> Follow(const std::vector<std::filesystem::path>& files, bool replaced);
+
+  /// Puts back the files of the exam that have been deleted or replaced since.
+  void PutBack() const;
 
   /// The files are as they were before (or after) these changes. Returns those that could not be put back.
   std::vector<std::filesystem::path> Take(std::vector<FileChange>& changes, bool after);

@@ -82,7 +82,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       languageId_(languageId),
       previews_(SetUpGateway(services_, pages)),
       importWindows_(exam.Services(), library, *this),
-      import_(editor_, papers, importWindows_, FindImportRules(services_.applicationFolder)),
+      import_(editor_, life_.Steps(), papers, importWindows_, FindImportRules(services_.applicationFolder)),
       pictures_(library),
       toolbar_(editor_, Commands(), services_.strings, pictures_, this),
       examControls_(editor_, services_.strings, this),
