@@ -42,7 +42,7 @@ class WordReader {
   /// the text.
   bool OpenDocument(const std::filesystem::path& file, bool listLabels);
 
-  /// `Done`, or why the last step that failed did.
+  /// `Done`, or why the last failed step failed.
   WordResult Result() const { return result_; }
 
   /// Word processors mark a blank with a line of U+2574, exams with "_". Text files stay as they are.

@@ -159,7 +159,7 @@ bool DocxText::EndsLine(pugi::xml_node mark, bool isEmpty) {
   return !hiding_.IsHidden(mark, paragraphStyle_) || (!isEmpty && !IsOn(ChildOf(mark, "specVanish")));
 }
 
-/// Only now, because a paragraph of which nothing is left has not been counted.
+/// Only now: a paragraph of which nothing is left must not be counted.
 void DocxText::InsertLabel(pugi::xml_node properties, Place start) {
   if (!keepsLabels_ && document_.hasNumbersLeftOut) return;
   const std::u16string label = labels_.Next(properties);
