@@ -28,7 +28,7 @@ class ScoreSetup {
   void SetDistribution(const ScoreDistribution& distribution);
 
   /// The distribution as of the last ReadBack; range 1 starts with question 1 whatever it was.
-  void GetDistribution(ScoreDistribution& distribution);
+  void GetDistribution(ScoreDistribution& distribution) const;
 
   const ScoreFields& Fields() const { return fields_; }
 

@@ -94,7 +94,7 @@ void ExpectComplete(const LanguageLibrary& library) {
 }
 
 TEST(BuiltInStrings, AreTheNumberedTexts) {
-  std::ifstream header(QUORVANTIS_PROJECT "/src/platform/Texts.h");
+  std::ifstream header(QUORVANTIS_PROJECT "/src/platform/TextNumbers.h");
   const std::string code(std::istreambuf_iterator<char>(header), {});
   const std::regex constant(R"(constexpr int k\w+\s*=\s*(\d+);)");
   std::vector<int> numbers;

@@ -3,7 +3,7 @@
 #include "platform/convert/DocumentImages.h"
 #include "platform/convert/MediaConverter.h"
 #include "platform/convert/ProgramRun.h"
-#include "platform/documents/ImportFilters.h"
+#include "platform/programs/ImportFilters.h"
 #include "platform/programs/OfficeProfile.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
