@@ -24,13 +24,13 @@ void FindHeader(const ExamMoment& before, const FrameSetExam& exam, ExamDifferen
 }
 
 void FindSlotParts(const ExamMoment& before, const FrameSetExam& exam, ExamDifference& found) {
-  for (std::size_t slot = 0; slot < before.slots.size(); ++slot) {
+  for (std::size_t slot = 0; slot < before.slotParts.size(); ++slot) {
     const ExamQuestion& question = exam.questions[slot];
-    const SlotPart& known = before.slots[slot];
+    const SlotPart& known = before.slotParts[slot];
     const bool same = known.oralFlag == question.oralFlag && known.responseValue == question.responseValue &&
                       known.copies == question.attachmentCopies &&
                       known.responseText == question.responseText;
-    if (!same) found.slots.push_back({slot, known, SlotPartOf(question)});
+    if (!same) found.slotParts.push_back({slot, known, SlotPartOf(question)});
   }
 }
 
@@ -66,8 +66,8 @@ void TakeDocument(const ExamDifference& difference, Direction direction, ExamMom
   const bool forward = direction == Direction::Forward;
   if (difference.headerBefore) moment.header = forward ? *difference.headerAfter : *difference.headerBefore;
   TakeSlotChanges(difference.questions, direction, moment.questions);
-  for (const auto& change : difference.slots)
-    moment.slots[change.slot] = forward ? change.after : change.before;
+  for (const auto& change : difference.slotParts)
+    moment.slotParts[change.slot] = forward ? change.after : change.before;
   if (difference.longAnswers)
     moment.longAnswers = forward ? difference.longAnswers->after : difference.longAnswers->before;
   if (difference.origin) moment.origin = forward ? difference.origin->after : difference.origin->before;
@@ -103,7 +103,7 @@ bool ChangesAQuestion(const ExamDifference& difference, const ExamMoment& before
   return changes(static_cast<std::size_t>(difference.current.before)) ||
          changes(static_cast<std::size_t>(difference.current.after)) ||
          std::ranges::any_of(difference.questions, changes, &SlotChange::after) ||
-         std::ranges::any_of(difference.slots, changes, &ExamDifference::SlotPartChange::slot);
+         std::ranges::any_of(difference.slotParts, changes, &ExamDifference::SlotPartChange::slot);
 }
 
 }  // namespace
@@ -118,7 +118,7 @@ std::size_t ExamDifference::Size() const {
   std::size_t size = sizeof(ExamDifference) + SizeOf(questions) + form.Size() + formLoaded.Size();
   if (headerBefore != nullptr) size += 2 * kHeader;
   if (longAnswers != nullptr) size += sizeof *longAnswers;
-  return size + slots.size() * sizeof(SlotPartChange);
+  return size + slotParts.size() * sizeof(SlotPartChange);
 }
 
 ExamDifference FindDifference(const ExamMoment& before, const ExamEditor& editor, bool documentChanged,

@@ -27,7 +27,7 @@ struct ExamDifference {
   std::shared_ptr<const ExamHeader> headerBefore;  ///< null if the header is the same
   std::shared_ptr<const ExamHeader> headerAfter;
   SlotScript questions;
-  std::vector<SlotPartChange> slots;
+  std::vector<SlotPartChange> slotParts;
   std::unique_ptr<const Pair<LongAnswerFlags>> longAnswers;  ///< null if they are the same
   std::unique_ptr<const Pair<ExamOrigin>> origin;            ///< likewise
 
@@ -41,7 +41,7 @@ struct ExamDifference {
 
   /// Nothing differs in the document.
   bool OnlyForm() const {
-    return headerBefore == nullptr && questions.empty() && slots.empty() && longAnswers == nullptr &&
+    return headerBefore == nullptr && questions.empty() && slotParts.empty() && longAnswers == nullptr &&
            origin == nullptr;
   }
   /// Nothing differs but what is shown.

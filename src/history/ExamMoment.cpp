@@ -87,7 +87,7 @@ QuestionForm LoadedForm(const FrameSetExam& exam, int number) {
 
 ExamQuestion StoredQuestion(const ExamMoment& moment, std::size_t slot) {
   ExamQuestion question = moment.questions[slot];
-  StoreSlotPart(moment.slots[slot], question);
+  StoreSlotPart(moment.slotParts[slot], question);
   if (slot == static_cast<std::size_t>(moment.current)) StoreForm(moment.form, moment.kind, question);
   return question;
 }
@@ -107,7 +107,7 @@ ExamMoment MomentOf(const ExamEditor& editor) {
   moment.header = HeaderOf(exam);
   moment.questions = exam.questions;
   for (ExamQuestion& question : moment.questions) {
-    moment.slots.push_back(SlotPartOf(question));
+    moment.slotParts.push_back(SlotPartOf(question));
     StoreSlotPart({}, question);
   }
   moment.longAnswers = exam.Services().longAnswerFlags;

@@ -69,7 +69,7 @@ ExamOrigin OriginOf(const EditorState& state);
 struct ExamMoment {
   ExamHeader header;
   std::vector<ExamQuestion> questions;  ///< 501 slots, without their SlotPart
-  std::vector<SlotPart> slots;          ///< 501
+  std::vector<SlotPart> slotParts;      ///< 501
   LongAnswerFlags longAnswers;
   ExamOrigin origin;
   int current = 1;  ///< the question that is shown

@@ -30,7 +30,7 @@ HistorySpot SpotOf(const ExamDifference& change, Direction direction) {
 }
 
 bool TouchesFiles(const ExamDifference& change) {
-  return change.headerBefore != nullptr || !change.questions.empty() || !change.slots.empty();
+  return change.headerBefore != nullptr || !change.questions.empty() || !change.slotParts.empty();
 }
 
 }  // namespace
@@ -209,7 +209,7 @@ FrameSetExam History::DocumentOf(const ExamMoment& moment) const {
   FrameSetExam exam = editor_.state.document;
   exam.questions = moment.questions;
   for (std::size_t slot = 0; slot < exam.questions.size(); ++slot)
-    StoreSlotPart(moment.slots[slot], exam.questions[slot]);
+    StoreSlotPart(moment.slotParts[slot], exam.questions[slot]);
   StoreHeader(moment.header, exam);
   return exam;
 }
