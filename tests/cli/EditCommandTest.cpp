@@ -23,19 +23,11 @@ TEST_F(EditScripts, StateTellsWhatTheWindowWouldShow) {
     EXPECT_EQ(state[list].size(), 10u);
     state.erase(list);
   }
-  const Json expected = Json::parse(R"({"currentQuestion": 2, "modified": true, "fileName": "UnTitle",
+  const Json expected = Json::parse(R"-({"currentQuestion": 2, "modified": true, "fileName": "UnTitle",
     "windowTitle": "Quorvantis - UnTitle *", "currentKind": 3, "form": {"title": "My exam", "text": "",
     "options": ["", "second", "", "", ""], "checks": [1, 0, 1, 0, 0], "answer": "a<@>", "essay": "",
-    "random": 1, "randomCaption": "Random(option)"
-}
-, "questionList" : ["a b.wav"],
-                   "examList" : ["a b.wav"],
-                                "questionListVisible" : true,
-                                                        "examListVisible" : true,
-                                                                            "oralToggleVisible"
-    : true,
-      "oralFlag" : 1
-})");
+    "random": 1, "randomCaption": "Random(option)"}, "questionList": ["a b.wav"], "examList": ["a b.wav"],
+    "questionListVisible": true, "examListVisible": true, "oralToggleVisible": true, "oralFlag": 1})-");
   EXPECT_EQ(state, expected);
 }
 
