@@ -103,9 +103,9 @@ TEST(ScoreSetup, AnEndWithinTheRangeBeforeIsLeftAsTyped) {
   ScoreDistribution overlapping = Consecutive({10, 20, 25});
   overlapping.scoreFrom[1] = 5;
   ScoreSetup setup = Opened(25, overlapping);
-  EXPECT_EQ(setup.TypeEnd(2, u"7"), TypedEnd::Ignored);
-  EXPECT_EQ(Rows(setup), "1-10*1.00 5-7*2.00 21-25*3.00");
-  EXPECT_EQ(Accepted(setup).scoreTo[1], 7);
+  EXPECT_EQ(setup.TypeEnd(2, u"10"), TypedEnd::Ignored);
+  EXPECT_EQ(Rows(setup), "1-10*1.00 5-10*2.00 21-25*3.00");
+  EXPECT_EQ(Accepted(setup).scoreTo[1], 10);
 }
 
 TEST(ScoreSetup, OnlyFieldsOfUsedRangesAreOpen) {
