@@ -44,8 +44,9 @@ TEST_F(AttachmentTest, FilmsOfOldKindsPlayAndPdfPagesArePictures) {
   ASSERT_TRUE(MakeOldFilm(AttachMissing("film.avi")));
   Attach("paper.pdf", kPortable);
   PreviewWith(ItemOf("~TEMP/home/film.avi") + ItemOf("~TEMP/home/paper.pdf"));
-  EXPECT_TRUE(Becomes("document.querySelector('video').videoWidth > 0"));
-  EXPECT_TRUE(Becomes("document.images.length === 1 && document.images[0].naturalWidth > 500"));
+  const QString all = "[window, ...Array.from(window.frames)].some(w => w.document.querySelector('%1')?.%2)";
+  EXPECT_TRUE(Becomes(all.arg("video", "videoWidth > 0")));
+  EXPECT_TRUE(Becomes(all.arg("img", "naturalWidth > 500")));
 }
 
 TEST_F(AttachmentTest, WhatIsMissingOrDamagedIsNamed) {
