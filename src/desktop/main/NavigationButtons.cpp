@@ -82,7 +82,9 @@ NavigationButtons::NavigationButtons(ExamEditor& editor, const StringTable& stri
   for (std::size_t i = 0; i < kCount; ++i) {
     const NavigationButtonSpec& spec = specs[i];
     buttons_[i] = new SmallButton(pictures, spec.bitmaps, spec.mirrored, parent);
-    SetUpButton(buttons_[i], spec.name, ToQString(strings.Text(spec.tip)), spec.keys, spec.command);
+    const QString tip = ToQString(strings.Text(spec.tip));
+    SetUpButton(buttons_[i], spec.name, tip, spec.keys, spec.command);
+    buttons_[i]->setToolTip(PlainTip(tip));
   }
 }
 
