@@ -48,8 +48,8 @@ void ExamFileCommands::NewExam() {
   const Parting parting = AskAboutChanges();
   if (parting == Parting::Stay) return;
   Leave(parting);
-  state_.CountExamBegun();
   StartNewExam();
+  state_.CountExamBegun();
 }
 
 void ExamFileCommands::StartNewExam() {
@@ -85,7 +85,6 @@ void ExamFileCommands::OpenExam(const std::filesystem::path& file) {
 }
 
 void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
-  state_.CountExamBegun();
   ClearDocument();
   exam_.Change().ReadExamFile(file);
   RecordCopies(exam_.Change());
@@ -94,6 +93,7 @@ void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
   questions_.ShowQuestion(1);
   state_.MarkSaved();
   Enter();
+  state_.CountExamBegun();
 }
 
 void ExamFileCommands::SaveExam() {

@@ -33,6 +33,7 @@ bool QuestionEditor::EditField(FormField field, std::u16string text) {
 void QuestionEditor::TickAnswerBox(std::size_t index, bool on) {
   form_.checks[index] = on ? CheckState::On : CheckState::Off;
   state_.MarkModified();
+  state_.view.FormChanged();
 }
 
 void QuestionEditor::StoreInto(FrameSetExam& exam, LongAnswerFlags& flags) const {

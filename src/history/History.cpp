@@ -57,6 +57,7 @@ void History::Begin() {
 }
 
 void History::Look(Clock::time_point now) {
+  if (holds_ > 0) return;
   if (examsBegun_ != editor_.state.ExamsBegun()) return Begin();
   const ChangeName given = editor_.state.TakeChangeName();
   const bool isImport = given.kind == ChangeKind::Import;

@@ -40,6 +40,18 @@ class History {
   /// but the last step always stays.
   explicit History(ExamEditor& editor, std::size_t limit = kDefaultLimit);
 
+  /// As long as one exists, looks do nothing: the command that holds it shows windows while it is at work.
+  class Hold {
+   public:
+    explicit Hold(History& history) : history_(history) { ++history_.holds_; }
+    ~Hold() { --history_.holds_; }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+   private:
+    History& history_;
+  };
+
   /// Forgets all steps: the exam begins as it is now.
   void Begin();
 
@@ -110,6 +122,7 @@ class History {
   std::size_t size_ = 0;
   std::uint64_t lastNumber_ = 0;
   bool hasForgotten_ = false;
+  int holds_ = 0;
   bool isTyping_ = false;
   Clock::time_point typed_;
 };

@@ -113,7 +113,7 @@ ChangeName NameOf(const ExamDifference& difference) {
   if (difference.headerBefore != nullptr && difference.questions.empty())
     return {KindOfHeader(*difference.headerBefore, *difference.headerAfter)};
   if (difference.questions.size() == 1) return {KindOfQuestion(difference.questions.front().edits), question};
-  if (difference.questions.empty() && !difference.slots.empty()) return {ChangeKind::Oral, question};
+  if (difference.questions.empty() && !difference.slotParts.empty()) return {ChangeKind::Oral, question};
   return {};
 }
 

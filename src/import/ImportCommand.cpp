@@ -31,6 +31,7 @@ void ImportCommand::Begin() {
   stepBefore_ = history_.LastStep();
   step_ = 0;
   editor_.state.NameChange({ChangeKind::Import});
+  atWork_.emplace(history_);
   wasModified_ = editor_.state.Modified();
   savesBefore_ = editor_.state.Saves();
   pictureCounterBefore_ = pictureCounter_;
@@ -41,6 +42,7 @@ void ImportCommand::ImportQuestions() {
   Begin();
   importBase_ = editor_.state.CurrentQuestion();
   if (ConfirmImportTarget()) ImportHere();
+  atWork_.reset();
 }
 
 void ImportCommand::ImportQuestionsAfter(int question) {
@@ -49,10 +51,12 @@ void ImportCommand::ImportQuestionsAfter(int question) {
   editor_.questions.ShowQuestion(importBase_);
   if (question > 0) editor_.questions.GoNext();
   ImportHere();
+  atWork_.reset();
 }
 
 /// The user may undo the import from now on, even while the report is shown.
 void ImportCommand::NoteStep() {
+  atWork_.reset();
   editor_.state.NameChange({ChangeKind::Import});
   history_.Look();
   if (history_.LastStep() != stepBefore_) step_ = history_.LastStep();

@@ -8,6 +8,8 @@
 #include "import/ImportReport.h"
 #include "import/WordReader.h"
 
+#include <optional>
+
 namespace quorvantis {
 
 /// The Import command: asks where questions go and where they come from, reads them into slots, handles what
@@ -68,6 +70,7 @@ class ImportCommand {
   std::filesystem::path rules_;
   bool wasModified_ = false;  ///< before the import; likewise:
   int savesBefore_ = 0;
+  std::optional<History::Hold> atWork_;
   std::uint64_t stepBefore_ = 0;
   std::uint64_t step_ = 0;  ///< of the last import; 0 if there is none
   int pictureCounter_ = 1;  ///< number of the next picture

@@ -118,6 +118,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       questionArea_(MakeQuestionArea(services_.strings, client_)),
       question_(editor_, services_.strings, pictures_, client_),
       answers_(editor_, services_.strings, pictures_, client_),
+      history_(life_.Steps(), examControls_, question_, answers_, services_),
       recoveryFails_(new WarningNotice("recoveryFails", client_)),
       scroll_(*client_),
       cancel_(MakeHiddenButton("cancel", client_)),
@@ -182,6 +183,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.recent = [this] { return openRecent_.Entries(); };
   commands.exportPdf = [this] { ExportPdf(); };
   commands.quit = [this] { close(); };
+  commands.history = &history_;
   commands.canUndoImport = [this] { return import_.CanUndo(); };
   commands.undoImport = [this] { importWindows_.Undo(import_); };
   commands.guide = [this] { ShowGuide(); };
@@ -213,6 +215,7 @@ void CQuorvantisDlg::OfferImport() {
 
 /// No message box: it would interrupt the user's typing.
 void CQuorvantisDlg::KeepRecovery() {
+  history_.Note();
   life_.LookAfterUnsaved();
   const std::error_code failure = life_.RecoveryFailure();
   if (!failure) return recoveryFails_->hide();
@@ -226,6 +229,7 @@ void CQuorvantisDlg::FormLoaded() {
   question_.Load();
   answers_.Load();
   importWindows_.ExamChanged();
+  history_.Note();
 }
 
 void CQuorvantisDlg::FormChanged() {
@@ -234,6 +238,7 @@ void CQuorvantisDlg::FormChanged() {
   question_.Refresh();
   answers_.Refresh();
   Layout();
+  history_.Note();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
 
@@ -320,6 +325,7 @@ void CQuorvantisDlg::PreviewFromSetup(int show) {
 
 void CQuorvantisDlg::PostContentChanged() {
   emit ContentChangePosted();
+  history_.Note();
 }
 
 /// A preview covers the screen, and would hide the question that may follow.

@@ -7,6 +7,7 @@
 #include "desktop/main/AnswerControls.h"
 #include "desktop/main/ExamControls.h"
 #include "desktop/main/FocusedField.h"
+#include "desktop/main/HistoryCommands.h"
 #include "desktop/main/MenuBar.h"
 #include "desktop/main/OpenRecent.h"
 #include "desktop/main/PdfExport.h"
@@ -146,6 +147,7 @@ class CQuorvantisDlg final : public FittedWindow,
   QuestionArea* questionArea_;
   QuestionControls question_;
   AnswerControls answers_;
+  HistoryCommands history_;
   WarningNotice* recoveryFails_;
   WindowScroll scroll_;
   QPushButton* cancel_;  ///< hidden, like the two below

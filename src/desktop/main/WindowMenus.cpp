@@ -85,7 +85,27 @@ MenuTable WindowMenus::File() const {
           }};
 }
 
-/// The fields themselves react to the keys.
+MenuEntry WindowMenus::Undo() const {
+  HistoryCommands& history = *commands_.history;
+  return {.name = "editUndo",
+          .keys = {Qt::CTRL | Qt::Key_Z},
+          .ownsKeys = true,
+          .command = [&history] { history.Undo(); },
+          .canAct = [&history] { return history.CanUndo(); },
+          .captionNow = [&history] { return history.UndoCaption(); }};
+}
+
+MenuEntry WindowMenus::Redo() const {
+  HistoryCommands& history = *commands_.history;
+  return {.name = "editRedo",
+          .keys = {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
+          .ownsKeys = true,
+          .command = [&history] { history.Redo(); },
+          .canAct = [&history] { return history.CanRedo(); },
+          .captionNow = [&history] { return history.RedoCaption(); }};
+}
+
+/// The fields themselves react to the keys of the clipboard.
 MenuTable WindowMenus::Edit() const {
   using namespace text_id;
   FocusedField& field = field_;
@@ -93,6 +113,8 @@ MenuTable WindowMenus::Edit() const {
   return {"menuEdit",
           Text(kEditMenu),
           {
+              Undo(),
+              Redo(),
               {.name = "editUndoImport",
                .caption = Text(kUndoImport),
                .command = commands_.undoImport,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/main/FocusedField.h"
+#include "desktop/main/HistoryCommands.h"
 #include "desktop/main/MenuBar.h"
 #include "desktop/main/WindowLayout.h"
 #include "editor/ExamEditor.h"
@@ -22,6 +23,7 @@ class WindowMenus {
     std::function<std::vector<MenuEntry>()> recent;
     std::function<void()> exportPdf;
     std::function<void()> quit;
+    HistoryCommands* history;
     std::function<bool()> canUndoImport;
     std::function<void()> undoImport;
     std::function<void()> guide;
@@ -43,6 +45,8 @@ class WindowMenus {
  private:
   MenuTable File() const;
   MenuTable Edit() const;
+  MenuEntry Undo() const;
+  MenuEntry Redo() const;
   MenuTable Question() const;
   MenuTable Exam() const;
   MenuTable Help() const;
