@@ -7,12 +7,12 @@
 #include "platform/Texts.h"
 #include "platform/UserDialogs.h"
 #include "platform/WholeFile.h"
+#include "platform/convert/Later.h"
 #include "text/MessageText.h"
 #include "text/Utf.h"
 
 #include <QGuiApplication>
 #include <QMessageBox>
-#include <QTimer>
 
 #include <memory>
 #include <utility>
@@ -61,7 +61,7 @@ void PdfExport::Finish(bool printed, int number, const std::filesystem::path& ta
                 : FillMessage(strings.Text(text_id::kPdfNotMade), {name});
   QGuiApplication::restoreOverrideCursor();
   const bool succeeded = printed && !failure;
-  QTimer::singleShot(0, this, [this, message, succeeded] {
+  Later(*this, {}, [this, message, succeeded] {
     succeeded ? TellWritten(message) : services_.dialogs.ShowError(message);
   });
 }
