@@ -105,7 +105,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       editor_(life_.Editor()),
       services_(exam.Services()),
       languageId_(languageId),
-      pdf_(services_),
+      pdf_(services_, *this),
       previews_(SetUpGateway(services_, pages)),
       importWindows_(exam.Services(), library, *this),
       import_(editor_, life_.Steps(), papers, importWindows_, FindImportRules(services_.applicationFolder)),
@@ -362,7 +362,7 @@ void CQuorvantisDlg::changeEvent(QEvent* event) {
   const bool changesTexts = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
                             event->type() == QEvent::LayoutDirectionChange;
   if (!changesTexts || !isVisible()) return;
-  LimitSize(*this, menuBar_->Height());
+  if (menuBar_->Height() != client_->y()) LimitSize(*this, menuBar_->Height());
   PlaceParts();
   Layout();
 }

@@ -62,7 +62,7 @@ QTreeWidgetItem* KeysDlg::AddHeading(const QString& caption) {
 void KeysDlg::AddEntries(QTreeWidgetItem& heading, const QString& before,
                          const std::vector<MenuEntry>& entries) {
   for (const MenuEntry& entry : entries) {
-    if (!entry.entries.empty()) AddEntries(heading, entry.caption + ' ', entry.entries);
+    if (!entry.entries.empty()) AddEntries(heading, entry.caption + QStringLiteral(" › "), entry.entries);
     if (!entry.keys.isEmpty()) new QTreeWidgetItem(&heading, {before + entry.caption, KeyNames(entry.keys)});
   }
 }

@@ -113,6 +113,7 @@ void MenuBar::OwnKeys(const std::vector<MenuEntry>& entries) {
     if (!entry.ownsKeys) continue;
     for (const QKeySequence& key : entry.keys) {
       auto* const shortcut = new QShortcut(key, this);
+      shortcut->setContext(Qt::WindowShortcut);
       connect(shortcut, &QShortcut::activated, this, [entry] { Run(entry); });
     }
   }

@@ -11,6 +11,8 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 
+#include <iterator>
+
 namespace quorvantis {
 namespace {
 

@@ -7,13 +7,14 @@
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "platform/WholeFile.h"
+#include "platform/convert/Later.h"
 #include "text/MessageText.h"
 #include "text/Utf.h"
 
-#include <QTimer>
+#include <QGuiApplication>
+#include <QMessageBox>
 
 #include <memory>
-#include <string>
 #include <utility>
 
 namespace quorvantis {
@@ -36,6 +37,7 @@ void PdfExport::Watch(const PagePrinter& printer, const std::filesystem::path& t
   const auto finish = [this, number = drafts_, target, done = std::make_shared<bool>(false)](bool printed) {
     if (!std::exchange(*done, true)) Finish(printed, number, target);
   };
+  QGuiApplication::setOverrideCursor(Qt::BusyCursor);
   connect(&printer, &PagePrinter::Printed, this, finish);
   connect(&printer, &QObject::destroyed, this, [finish] { finish(false); });
 }
@@ -57,10 +59,22 @@ void PdfExport::Finish(bool printed, int number, const std::filesystem::path& ta
       failure   ? FillMessage(strings.Text(text_id::kCannotWrite), {name, Utf8ToUtf16(failure.message())})
       : printed ? FillMessage(strings.Text(text_id::kPdfWritten), {name})
                 : FillMessage(strings.Text(text_id::kPdfNotMade), {name});
+  QGuiApplication::restoreOverrideCursor();
   const bool succeeded = printed && !failure;
-  QTimer::singleShot(0, this, [this, message, succeeded] {
-    succeeded ? services_.dialogs.ShowDone(message) : services_.dialogs.ShowError(message);
+  Later(*this, {}, [this, message, succeeded] {
+    succeeded ? TellWritten(message) : services_.dialogs.ShowError(message);
   });
+}
+
+/// Does not hold up the window, where the user has gone on.
+void PdfExport::TellWritten(const std::u16string& message) {
+  auto* const box = new QMessageBox(QMessageBox::Information, QStringLiteral("Quorvantis"),
+                                    ToQString(message), QMessageBox::Ok, &window_);
+  box->setObjectName("pdfWritten");
+  box->setTextFormat(Qt::PlainText);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setModal(false);
+  box->show();
 }
 
 }  // namespace quorvantis

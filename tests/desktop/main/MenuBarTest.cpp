@@ -137,22 +137,41 @@ TEST_F(Menus, RecentExamsSurviveARestartAndVanishedOnesAreDropped) {
   Open();
   window->KeepRecent(recent);
   EXPECT_TRUE(Entry("fileRecent").isEnabled());
-  emit Entry("fileRecent").menu()->aboutToShow();
   EXPECT_TRUE(Entry("recent1").text().contains(QStringLiteral("12 && \"é.exm")));
   Entry("recent2").trigger();
   EXPECT_TRUE(window->Shows(folder / "11 & \"é.exm"));
   EXPECT_EQ(recent.Read()[1], folder / "12 & \"é.exm");
 
   std::filesystem::remove(folder / "12 & \"é.exm");
-  emit Entry("fileRecent").menu()->aboutToShow();
   world.dialogs.errors.clear();
   Entry("recent2").trigger();
   EXPECT_EQ(world.dialogs.errors.size(), 1);
   EXPECT_TRUE(window->Shows(folder / "11 & \"é.exm"));
   EXPECT_EQ(recent.Read()[1], folder / "10 & \"é.exm");
-  emit Entry("fileRecent").menu()->aboutToShow();
   Entry("clearRecent").trigger();
   EXPECT_FALSE(Entry("fileRecent").isEnabled());
+}
+
+TEST_F(Menus, APdfFileIsCompleteAndOneThatIsGivenUpIsTold) {
+  constexpr int kPatience = 60'000;  // milliseconds, for a browser on a slow machine
+  exam.Question(1).text = u"x";
+  Open();
+  const auto given = folder / "given up.pdf";
+  const auto target = WriteBytes(folder / "exam.pdf", "old");
+  world.dialogs.filesToSave = {given, target, folder / "no folder" / "exam.pdf"};
+  Entry("exportPdf").trigger();
+  Entry("exportPdf").trigger();
+  const auto written = [&] { return window->findChild<QDialog*>("pdfWritten") != nullptr; };
+  ASSERT_TRUE(QTest::qWaitFor(written, kPatience));
+  EXPECT_TRUE(ReadBytes(target).starts_with("%PDF"));
+  EXPECT_FALSE(std::filesystem::exists(given));
+  EXPECT_EQ(world.dialogs.errors, std::vector<std::u16string>{u"[1443 " + PathToText(given) + u"]"});
+  Entry("exportPdf").trigger();
+  const auto failed = [&] { return world.dialogs.errors.size() == 2; };
+  ASSERT_TRUE(QTest::qWaitFor(failed, kPatience));
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  for (const auto& left : std::filesystem::directory_iterator(services.applicationFolder))
+    EXPECT_NE(left.path().extension(), ".pdf");
 }
 
 TEST_F(Menus, TheListOfKeysHasEveryKeyOfTheMenus) {
