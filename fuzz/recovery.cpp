@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Feeds any bytes to the reader of recovery copies, both as a whole file and as the snapshot inside one,
 // which the file's checksum would otherwise protect. The result must be an exam that an editor can show.
+#include "editor/UnseenView.h"
 #include "platform/posix/PosixFiles.h"
 #include "recovery/ExamSnapshot.h"
 #include "recovery/RecoveryFile.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
-#include "editor/UnseenView.h"
 
 #include <cstdint>
 #include <cstdlib>

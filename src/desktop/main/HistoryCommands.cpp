@@ -35,12 +35,24 @@ std::u16string NamesOf(const std::vector<std::filesystem::path>& files) {
 HistoryCommands::HistoryCommands(History& history, ExamControls& exam, QuestionControls& question,
                                  AnswerControls& answers, const ExamServices& services)
     : history_(history), exam_(exam), question_(question), answers_(answers), services_(services) {
-  const auto look = [this] {
-    lookPosted_ = false;
-    history_.Look();
-  };
-  connect(this, &HistoryCommands::LookPosted, this, look, Qt::QueuedConnection);
+  connect(this, &HistoryCommands::LookPosted, this, &HistoryCommands::Look, Qt::QueuedConnection);
   connect(qApp, &QApplication::focusChanged, this, &HistoryCommands::EndTyping);
+  qApp->installEventFilter(this);
+}
+
+void HistoryCommands::Look() {
+  lookPosted_ = false;
+  history_.Look();
+}
+
+/// The next input may come before the look that was posted; it must not become part of the same step.
+bool HistoryCommands::eventFilter(QObject* watched, QEvent* event) {
+  const QEvent::Type type = event->type();
+  const bool isInput = type == QEvent::ShortcutOverride || type == QEvent::KeyPress ||
+                       type == QEvent::MouseButtonPress || type == QEvent::InputMethod ||
+                       type == QEvent::Drop;
+  if (isInput && lookPosted_) Look();
+  return QObject::eventFilter(watched, event);
 }
 
 bool HistoryCommands::CanUndo() {

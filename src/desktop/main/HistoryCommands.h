@@ -35,7 +35,11 @@ class HistoryCommands : public QObject {
   /// Handled here, after the current event.
   void LookPosted();
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  void Look();
   void EndTyping();
   void Show(const std::optional<HistorySpot>& spot);
   void ShowCursor(FormField field, std::size_t position);
