@@ -65,7 +65,7 @@ void TakeQuestions(EditSession& session, const Arguments& arguments) {
                         editor.attachments.TakeCopyNumber());
   TakenQuestions taken = other.Take(numbers);
   if (!taken.problem.empty()) throw CommandError(Utf16ToUtf8(taken.problem));
-  RequireDone(session, editor.order.InsertWhole(std::move(taken.questions), after));
+  RequireDone(session, editor.order.InsertWhole(std::move(taken.questions), after, ChangeKind::TakeQuestion));
 }
 
 }  // namespace quorvantis::cli

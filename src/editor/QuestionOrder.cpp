@@ -169,6 +169,7 @@ OrderOutcome QuestionOrder::MoveMany(const std::vector<int>& numbers, int to) {
   std::iota(outcome.questions.begin(), outcome.questions.end(), to);
   outcome.order.Move(numbers, to);
   if (outcome.order.IsUnchanged()) return outcome;
+  state_.NameChange({ChangeKind::MoveQuestion, numbers.front(), numbers.size()});
   questions_.StoreCurrentQuestion();
   Arrange(outcome.order, outcome.order.NumberOf(state_.CurrentQuestion()));
   return outcome;
@@ -177,12 +178,13 @@ OrderOutcome QuestionOrder::MoveMany(const std::vector<int>& numbers, int to) {
 OrderOutcome QuestionOrder::Duplicate(const std::vector<int>& numbers) {
   const OrderOutcome outcome = CheckNumbers(numbers);
   if (!outcome.IsDone() || numbers.empty()) return outcome;
-  return Insert(Copies(numbers), numbers.back(), MissingFiles::StayMissing);
+  return Insert(Copies(numbers), numbers.back(), MissingFiles::StayMissing, ChangeKind::DuplicateQuestion);
 }
 
 OrderOutcome QuestionOrder::DeleteMany(const std::vector<int>& numbers) {
   OrderOutcome outcome = CheckNumbers(numbers);
   if (!outcome.IsDone() || numbers.empty()) return outcome;
+  state_.NameChange({ChangeKind::DeleteQuestion, numbers.front(), numbers.size()});
   questions_.StoreCurrentQuestion();
   LowerBoundary(exam_.Change().boundaryQuestion, numbers);
   outcome.order.Remove(numbers);
@@ -191,11 +193,12 @@ OrderOutcome QuestionOrder::DeleteMany(const std::vector<int>& numbers) {
   return outcome;
 }
 
-OrderOutcome QuestionOrder::InsertWhole(std::vector<WholeQuestion> inserted, int after) {
-  return Insert(std::move(inserted), after, MissingFiles::AreRefused);
+OrderOutcome QuestionOrder::InsertWhole(std::vector<WholeQuestion> inserted, int after, ChangeKind how) {
+  return Insert(std::move(inserted), after, MissingFiles::AreRefused, how);
 }
 
-OrderOutcome QuestionOrder::Insert(std::vector<WholeQuestion> inserted, int after, MissingFiles missing) {
+OrderOutcome QuestionOrder::Insert(std::vector<WholeQuestion> inserted, int after, MissingFiles missing,
+                                   ChangeKind how) {
   const int count = static_cast<int>(inserted.size());
   if (after < 0 || after > kMaxQuestions) return {OrderProblem::NoSuchQuestion, after, LastQuestion()};
   if (count > RoomAfter(after)) return {OrderProblem::NoRoom, RoomAfter(after)};
@@ -205,6 +208,8 @@ OrderOutcome QuestionOrder::Insert(std::vector<WholeQuestion> inserted, int afte
     if (const auto file = copies.MakeFor(whole, missing)) return {OrderProblem::FileNotCopied, 0, 0, *file};
   }
   copies.Keep();
+  const bool duplicates = how == ChangeKind::DuplicateQuestion;
+  state_.NameChange({how, duplicates ? after - count + 1 : after + 1, inserted.size()});
   questions_.StoreCurrentQuestion();
   OrderOutcome outcome;
   outcome.order.Open(after, count);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/AttachmentEditor.h"
+#include "editor/ChangeName.h"
 #include "editor/EditedExam.h"
 #include "editor/EditorState.h"
 #include "editor/QuestionEditor.h"
@@ -74,14 +75,16 @@ class QuestionOrder {
 
   OrderOutcome DeleteMany(const std::vector<int>& numbers);
 
-  /// The questions come after question `after`, 0 to 500. Their attached files are copied.
-  OrderOutcome InsertWhole(std::vector<WholeQuestion> inserted, int after);
+  /// The questions come after question `after`, 0 to 500. Their attached files are copied. `how` names the
+  /// step for the history.
+  OrderOutcome InsertWhole(std::vector<WholeQuestion> inserted, int after,
+                           ChangeKind how = ChangeKind::PasteQuestion);
 
   /// The questions as they would be after storing; the exam does not change. Numbers are 1 to 500.
   std::vector<WholeQuestion> Copies(const std::vector<int>& numbers) const;
 
  private:
-  OrderOutcome Insert(std::vector<WholeQuestion> inserted, int after, MissingFiles missing);
+  OrderOutcome Insert(std::vector<WholeQuestion> inserted, int after, MissingFiles missing, ChangeKind how);
   OrderOutcome CheckNumbers(const std::vector<int>& numbers) const;
   /// Puts the questions in the order and shows question `shown`.
   void Arrange(const SlotOrder& order, int shown);

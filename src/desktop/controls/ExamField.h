@@ -23,11 +23,14 @@ class ExamField {
   ExamField(const ExamField&) = delete;
   ExamField& operator=(const ExamField&) = delete;
 
-  /// Shows the form's text, with nothing to undo.
+  /// Shows the form's text.
   void Load();
 
-  /// Shows the form's text if a command has changed it, as a step that can be undone.
+  /// Shows the form's text if a command has changed it. The cursor stays with the text around it.
   void FollowForm();
+
+  /// Selects a part of the form's text, in UTF-16 units. What is beyond its end is left out.
+  void Select(std::size_t start, std::size_t length);
 
  protected:
   /// The user has edited the field to `shown`. False if refused: the widget must then show `Shown` again. The
@@ -39,11 +42,14 @@ class ExamField {
 
   const std::u16string& Shown() const { return text_.Shown(); }
 
-  /// Replaces the content of the widget and clears its undo history.
+  /// Replaces the content of the widget.
   virtual void ShowAnew(const std::u16string& shown) = 0;
 
   /// Makes one change to the widget's content, as a user would.
   virtual void ShowChange(const TextChange& change, const std::u16string& shown) = 0;
+
+  /// Selects a part of the widget's content, and scrolls to it.
+  virtual void SelectShown(int start, int end) = 0;
 
   /// Shows `message` beside the cursor.
   virtual void Tell(const std::u16string& message) = 0;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/controls/FieldText.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -23,15 +23,6 @@ std::size_t StepLength(std::u16string_view text, std::size_t position) {
 }
 
 }  // namespace
-
-TextChange FindChange(std::u16string_view before, std::u16string_view after) {
-  const std::size_t shorter = std::min(before.size(), after.size());
-  std::size_t start = 0;
-  while (start < shorter && before[start] == after[start]) ++start;
-  std::size_t tail = 0;
-  while (tail < shorter - start && before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) ++tail;
-  return {start, before.size() - start - tail, after.size() - start - tail};
-}
 
 void FieldText::Load(std::u16string text) {
   Set(std::move(text));
@@ -70,6 +61,14 @@ std::size_t FieldText::OffsetOf(std::size_t shownPosition) const {
   std::size_t offset = 0;
   for (; shownPosition > 0; --shownPosition) offset += StepLength(text_, offset);
   return offset;
+}
+
+std::size_t FieldText::ShownPlace(std::size_t offset) const {
+  offset = std::min(offset, text_.size());
+  if (lines_ == FieldLines::One) return offset;
+  std::size_t shown = 0;
+  for (std::size_t at = 0; at < offset; at += StepLength(text_, at)) ++shown;
+  return shown;
 }
 
 void FieldText::AppendTyped(std::u16string& text, std::u16string_view typed) const {

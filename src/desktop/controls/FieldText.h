@@ -1,21 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "text/TextChange.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace quorvantis {
-
-/// Where two texts differ: they are equal up to `start`, and again after `removed` units of the first and
-/// `added` units of the second.
-struct TextChange {
-  std::size_t start = 0;
-  std::size_t removed = 0;
-  std::size_t added = 0;
-};
-
-TextChange FindChange(std::u16string_view before, std::u16string_view after);
 
 enum class FieldLines { One, Many };
 
@@ -42,6 +34,9 @@ class FieldText {
   /// The text after the user has edited the field to `shown`. New line ends are CR LF; in a field of one line
   /// they are blanks. When all edits are undone, the text is again the loaded one.
   std::u16string Edited(std::u16string_view shown) const;
+
+  /// The place in what is shown of a place in the text, both in UTF-16 units; the end for one beyond it.
+  std::size_t ShownPlace(std::size_t offset) const;
 
  private:
   std::u16string Show(std::u16string_view text) const;

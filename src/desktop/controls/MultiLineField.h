@@ -24,6 +24,7 @@ class MultiLineField : public QPlainTextEdit, public ExamField {
  protected:
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -32,6 +33,7 @@ class MultiLineField : public QPlainTextEdit, public ExamField {
 
   void ShowAnew(const std::u16string& shown) override;
   void ShowChange(const TextChange& change, const std::u16string& shown) override;
+  void SelectShown(int start, int end) override;
   void Tell(const std::u16string& message) override;
 
  private:

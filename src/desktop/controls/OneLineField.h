@@ -16,19 +16,21 @@ class OneLineField : public QLineEdit, public ExamField {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
   void ShowAnew(const std::u16string& shown) override;
   void ShowChange(const TextChange& change, const std::u16string& shown) override;
+  void SelectShown(int start, int end) override;
   void Tell(const std::u16string& message) override;
 
  private:
   class Gate;
 
   bool Takes(const QString& content);
-  void RestoreIfRefused();
 
   bool refused_ = false;  ///< the last change was refused
 };

@@ -113,7 +113,8 @@ void OverviewWindow::AddCommand(const char* name, int text, const QKeySequence& 
   action->setObjectName(name);
   action->setShortcut(keys);
   action->setShortcutContext(Qt::WidgetShortcut);
-  action->setToolTip(PlainTip(action->text(), keys.isEmpty() ? Keys() : Keys{keys}));
+  const QString tip = keys.isEmpty() ? action->text() : action->text() + " (" + keys.toString() + ')';
+  action->setToolTip(PlainTip(tip));
   connect(action, &QAction::triggered, this, [this, command = std::move(command)] { Run(command); });
   actions_.push_back(action);
 }

@@ -124,10 +124,10 @@ int QuestionCommands::PlaceToInsert() const {
   return LastQuestion() == 0 ? 0 : editor_.state.CurrentQuestion();
 }
 
-QString QuestionCommands::Insert(std::vector<WholeQuestion> questions) {
+QString QuestionCommands::Insert(std::vector<WholeQuestion> questions, ChangeKind how) {
   const std::size_t count = questions.size();
-  return Report(editor_.order.InsertWhole(std::move(questions), PlaceToInsert()), text_id::kQuestionsInserted,
-                count);
+  return Report(editor_.order.InsertWhole(std::move(questions), PlaceToInsert(), how),
+                text_id::kQuestionsInserted, count);
 }
 
 QString QuestionCommands::Paste() {
@@ -143,7 +143,7 @@ QString QuestionCommands::Paste() {
   for (int n = 1; n <= copied.QuestionCount(); ++n) numbers.push_back(n);
   TakenQuestions taken = copied.Take(numbers);
   if (!taken.problem.empty()) return Refuse(taken.problem);
-  return Insert(std::move(taken.questions));
+  return Insert(std::move(taken.questions), ChangeKind::PasteQuestion);
 }
 
 QString QuestionCommands::InsertFromExam(QWidget* parent) {
@@ -155,7 +155,8 @@ QString QuestionCommands::InsertFromExam(QWidget* parent) {
   InsertFromExamDlg dialog(other, editor_.order.RoomAfter(PlaceToInsert()), Services().strings, parent);
   if (dialog.exec() != QDialog::Accepted) return {};
   TakenQuestions taken = other.Take(dialog.Ticked());
-  return taken.problem.empty() ? Insert(std::move(taken.questions)) : Refuse(taken.problem);
+  return taken.problem.empty() ? Insert(std::move(taken.questions), ChangeKind::TakeQuestion)
+                               : Refuse(taken.problem);
 }
 
 }  // namespace quorvantis

@@ -40,7 +40,7 @@ class QuestionCommands {
  private:
   QString Report(const OrderOutcome& outcome, int text, std::size_t count);
   QString ScoresAfter(const OrderOutcome& outcome) const;
-  QString Insert(std::vector<WholeQuestion> questions);
+  QString Insert(std::vector<WholeQuestion> questions, ChangeKind how);
   /// An exam without questions gets them at its beginning, not after the empty question that is shown.
   int PlaceToInsert() const;
   QString Refuse(std::u16string_view problem) const;
