@@ -59,6 +59,10 @@ OverviewWindow::OverviewWindow(ExamEditor& editor, QuestionCommands& commands, Q
   layout->addLayout(below);
   RestorePlace();
   connect(filter_, &OverviewFilterLine::Changed, this, &OverviewWindow::Refresh);
+  // What was told last is out of date then.
+  connect(model_, &QAbstractItemModel::dataChanged, status_, &QLabel::clear);
+  connect(model_, &QAbstractItemModel::rowsInserted, status_, &QLabel::clear);
+  connect(model_, &QAbstractItemModel::rowsRemoved, status_, &QLabel::clear);
   connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           &OverviewWindow::CurrentChanged);
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,

@@ -98,7 +98,9 @@ QString QuestionCommands::Duplicate(const std::vector<int>& numbers) {
 }
 
 QString QuestionCommands::Delete(const std::vector<int>& numbers) {
-  return Report(editor_.order.DeleteMany(numbers), text_id::kQuestionsDeleted, numbers.size());
+  QString done = Report(editor_.order.DeleteMany(numbers), text_id::kQuestionsDeleted, numbers.size());
+  if (!done.isEmpty()) changed_ = {editor_.state.CurrentQuestion()};
+  return done;
 }
 
 QString QuestionCommands::Copy(const std::vector<int>& numbers) {

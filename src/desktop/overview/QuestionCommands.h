@@ -19,7 +19,8 @@ class QuestionCommands {
   /// `editor` must outlive this.
   explicit QuestionCommands(ExamEditor& editor);
 
-  /// Numbers of the questions that were moved or inserted last.
+  /// Numbers of the questions that the last command has moved or inserted, or of the one in the place of
+  /// those that it has deleted.
   const std::vector<int>& Changed() const { return changed_; }
 
   QString MoveTo(const std::vector<int>& numbers, int to);

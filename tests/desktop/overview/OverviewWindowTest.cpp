@@ -162,6 +162,14 @@ TEST_F(OverviewTest, DeletesDuplicatesAndTellsWhichScoresChanged) {
   EXPECT_EQ(status->text(), "[1512 1] [1516 3]") << "question 3 was question 2";
   Key(Qt::Key_Delete);
   EXPECT_EQ(Texts(), Named({1, 2, 3, 4, 5}));
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Down, Qt::ShiftModifier);
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(Texts(), Named({1, 4, 5}));
+  EXPECT_EQ(table->SelectedRows(), std::vector{1}) << "the question that is shown now";
+  QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);  // the main window's
+  QTRY_COMPARE(Texts(), Named({1, 2, 3, 4, 5}));
+  EXPECT_EQ(status->text(), "");
   Key(Qt::Key_A, Qt::ControlModifier);
   Key(Qt::Key_Delete);
   EXPECT_EQ(exam.LastCountedQuestion(), 0);
