@@ -6,6 +6,7 @@
 #include "editor/EditorState.h"
 #include "editor/ExamChanges.h"
 #include "editor/ExamFileCommands.h"
+#include "editor/FieldRewriter.h"
 #include "editor/QuestionEditor.h"
 
 namespace quorvantis {
@@ -19,6 +20,7 @@ class ExamEditor {
         state(document, view),
         attachments(state, exam_),
         questions(state, exam_, attachments),
+        texts(state, exam_, questions),
         files(state, exam_, questions, std::move(exportDocument)),
         changes(state, exam_, attachments) {}
   ExamEditor(const ExamEditor&) = delete;
@@ -32,6 +34,7 @@ class ExamEditor {
   EditorState state;
   AttachmentEditor attachments;
   QuestionEditor questions;
+  FieldRewriter texts;
   ExamFileCommands files;
   ExamChanges changes;
 };
