@@ -5,6 +5,7 @@
 #include "cli/EditorStateJson.h"
 #include "cli/KindNames.h"
 #include "cli/ScoreSteps.h"
+#include "cli/SearchSteps.h"
 #include "cli/WhyUnreadable.h"
 #include "platform/Texts.h"
 #include "shell/commands/ScoreSetupCommand.h"
@@ -253,6 +254,9 @@ const EditCommand kCommands[] = {
     {"import", "DOCUMENT REPOSITORY [continue|new] [pictures X] [formulas X]   (X: give-up|ignore|force)", 2,
      Import, 5},
     {"undo-import", "", 0, UndoImport},
+    {"find", "TEXT [--pattern] [--case] [--word]", 1, Find, 3},
+    {"replace", "TEXT REPLACEMENT [--pattern] [--case] [--word]   (\\1 to \\9: groups of the pattern)", 2,
+     Replace, 3},
     {"state", "  (prints one JSON line)", 0, State},
 };
 

@@ -66,8 +66,7 @@ class FieldPlanner {
     const std::size_t first = replacements.size();
     const std::u16string_view lineEnd = HasOneLine(place.field) ? u" " : u"\r\n";
     const auto take = [&](const SearchHit& hit, const FoundText& found) {
-      std::u16string planned = WithLineEnds(replacement_.For(found), lineEnd);
-      if (planned != HitText(text, hit)) replacements.push_back({hit, std::move(planned), {}});
+      replacements.push_back({hit, WithLineEnds(replacement_.For(found), lineEnd), {}});
     };
     const SearchEnd end = SearchPlace(place, text, search_, isCancelled_, take);
     const auto planned = std::span(replacements).subspan(first);
@@ -101,6 +100,9 @@ ReplacementPlan PlanReplacements(const FrameSetExam& exam, const TextSearch& sea
     if (plan.end != SearchEnd::Done) return;
     plan.end = planner.Plan(place, text, plan.replacements);
     if (plan.end != SearchEnd::Done) plan.stoppedAt = place;
+  });
+  std::erase_if(plan.replacements, [&](const PlannedReplacement& planned) {
+    return planned.text == HitText(*TextAt(exam, planned.hit.place), planned.hit);
   });
   return plan;
 }

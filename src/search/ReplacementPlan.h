@@ -39,8 +39,8 @@ struct ReplacementPlan {
 ReplacementPlan PlanReplacements(const FrameSetExam& exam, const TextSearch& search,
                                  const ReplacementText& replacement, const SearchCancelled& isCancelled = {});
 
-/// The replacement of one hit; nothing if there is no such hit in the exam, or if it would stay as it is, or
-/// if the search was cancelled.
+/// The replacement of one hit, even if it stays as it is; nothing if there is no such hit in the exam, or if
+/// the search was cancelled.
 std::optional<PlannedReplacement> PlanReplacement(const FrameSetExam& exam, const SearchHit& hit,
                                                   const TextSearch& search,
                                                   const ReplacementText& replacement,
