@@ -11,18 +11,22 @@ namespace {
 
 using TakeHit = std::function<void(const SearchHit&, const FoundText&)>;
 
+SearchHit HitOf(const TextPlace& place, std::size_t start, std::size_t end) {
+  return {place, static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(end - start)};
+}
+
 /// Searches a part of the text at `place`, which begins at `offset`.
 SearchEnd SearchPart(const TextPlace& place, std::u16string_view part, std::size_t offset,
                      const TextSearch& search, const SearchCancelled& isCancelled, const TakeHit& take) {
   if (!search.CanMeetLineEnds()) {
     return search.Search(part, isCancelled, [&](const FoundText& found) {
-      take({place, offset + found.start, found.end - found.start}, found);
+      take(HitOf(place, offset + found.start, offset + found.end), found);
     });
   }
   const SearchedText searched(part);
   return search.Search(searched.Text(), isCancelled, [&](const FoundText& found) {
     const std::size_t start = searched.Original(found.start);
-    take({place, offset + start, searched.Original(found.end) - start}, found);
+    take(HitOf(place, offset + start, offset + searched.Original(found.end)), found);
   });
 }
 

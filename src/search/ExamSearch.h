@@ -4,6 +4,7 @@
 #include "model/document/ExamTexts.h"
 #include "search/TextSearch.h"
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -11,11 +12,12 @@ namespace quorvantis {
 
 class FrameSetExam;
 
-/// A place in an exam that fits the query.
+/// A place in an exam that fits the query. Small, because a letter has hundreds of thousands of hits in a
+/// large exam.
 struct SearchHit {
   TextPlace place;
-  std::size_t start = 0;   ///< in the text at the place, in UTF-16 units; so is the next
-  std::size_t length = 0;  ///< at least 1; a line break (CR LF) counts as two
+  std::uint32_t start = 0;   ///< in the text at the place, in UTF-16 units; so is the next
+  std::uint32_t length = 0;  ///< at least 1; a line break (CR LF) counts as two
 
   bool operator==(const SearchHit&) const = default;
 };

@@ -1,37 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "search/SearchedText.h"
 
+#include "regex/UnitSearch.h"
+
 #include <algorithm>
 
 namespace quorvantis {
-namespace {
 
-/// Calls `plain` with each line and `end` with the units of each line end.
-template <class Plain, class End>
-void SplitLines(std::u16string_view text, Plain plain, End end) {
-  while (!text.empty()) {
-    const std::size_t size = std::min(text.find_first_of(u"\r\n"), text.size());
-    plain(text.substr(0, size));
-    text.remove_prefix(size);
-    if (text.empty()) return;
-    const std::size_t units = text.starts_with(u"\r\n") ? 2 : 1;
-    end(units);
-    text.remove_prefix(units);
+SearchedText::SearchedText(std::u16string_view original) : original_(original) {
+  static const UnitSearch kReturns(std::make_shared<const CharacterSet>(CharacterSet::Of(u"\r")));
+  std::size_t done = 0;
+  for (std::size_t at = kReturns.Find(original, 0); at < original.size();
+       at = kReturns.Find(original, done)) {
+    if (done == 0) own_.reserve(original.size());
+    own_ += original.substr(done, at - done);
+    const bool isPair = original.substr(at, 2) == u"\r\n";
+    if (isPair) pairs_.push_back(own_.size());
+    own_.push_back(u'\n');
+    done = at + (isPair ? 2 : 1);
   }
-}
-
-}  // namespace
-
-SearchedText::SearchedText(std::u16string_view original)
-    : original_(original), lineEnds_(original.find(u'\r') != std::u16string_view::npos) {
-  if (!lineEnds_) return;
-  own_.reserve(original.size());
-  SplitLines(
-      original, [this](std::u16string_view line) { own_ += line; },
-      [this](std::size_t units) {
-        if (units == 2) pairs_.push_back(own_.size());
-        own_.push_back(u'\n');
-      });
+  isOwn_ = done > 0;
+  if (isOwn_) own_ += original.substr(done);
 }
 
 std::size_t SearchedText::Original(std::size_t place) const {
@@ -40,9 +29,15 @@ std::size_t SearchedText::Original(std::size_t place) const {
 
 std::u16string WithLineEnds(std::u16string_view text, std::u16string_view lineEnd) {
   std::u16string result;
-  result.reserve(text.size());
-  SplitLines(
-      text, [&](std::u16string_view line) { result += line; }, [&](std::size_t) { result += lineEnd; });
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool isPair = text.substr(at, 2) == u"\r\n";
+    if (isPair) ++at;
+    if (text[at] == u'\r' || text[at] == u'\n') {
+      result += lineEnd;
+    } else {
+      result.push_back(text[at]);
+    }
+  }
   return result;
 }
 

@@ -15,7 +15,7 @@ class SearchedText {
   /// `original` must outlive this.
   explicit SearchedText(std::u16string_view original);
 
-  std::u16string_view Text() const { return lineEnds_ ? std::u16string_view(own_) : original_; }
+  std::u16string_view Text() const { return isOwn_ ? std::u16string_view(own_) : original_; }
 
   /// The place in the original of a place in the text, both in UTF-16 units. No result lies within a line
   /// end.
@@ -23,7 +23,7 @@ class SearchedText {
 
  private:
   std::u16string_view original_;
-  bool lineEnds_;  ///< with a CR
+  bool isOwn_ = false;  ///< the original has a CR, so the text differs from it
   std::u16string own_;
   std::vector<std::size_t> pairs_;  ///< where the text has one unit for a CR LF, in ascending order
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/WordBorders.h"
 
-#include <algorithm>
+#include "regex/CharacterSet.h"
 
 namespace quorvantis {
 namespace {
@@ -29,9 +29,16 @@ constexpr UnitRange kOutsideWords[] = {
 };
 // clang-format on
 
+CharacterSet PartsOfWords() {
+  CharacterSet units;
+  for (const UnitRange& range : kOutsideWords) units.AddRange(range.first, range.last);
+  units.Invert();
+  return units;
+}
+
 bool IsPartOfWord(char16_t unit) {
-  const auto* range = std::ranges::lower_bound(kOutsideWords, unit, {}, &UnitRange::last);
-  return range == std::end(kOutsideWords) || unit < range->first;
+  static const CharacterSet kParts = PartsOfWords();
+  return kParts.Contains(unit);
 }
 
 bool IsBorder(std::u16string_view text, std::size_t place) {

@@ -82,11 +82,11 @@ std::vector<SearchHit> FindPlainly(const std::u16string& text, const std::u16str
     return !matchCase && unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
   };
   std::vector<SearchHit> hits;
-  for (std::size_t at = 0; at + wanted.size() <= text.size();) {
-    std::size_t same = 0;
+  for (std::uint32_t at = 0; at + wanted.size() <= text.size();) {
+    std::uint32_t same = 0;
     while (same < wanted.size() && lower(text[at + same]) == lower(wanted[same])) ++same;
     if (same == wanted.size()) hits.push_back({kFirstText, at, same});
-    at += same == wanted.size() ? same : 1;
+    at += same == wanted.size() ? same : 1U;
   }
   return hits;
 }

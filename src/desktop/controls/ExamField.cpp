@@ -20,6 +20,10 @@ void ExamField::FollowForm() {
   ShowChange(FindChange(before, text_.Shown()), text_.Shown());
 }
 
+void ExamField::Select(std::size_t start, std::size_t length) {
+  SelectShown(static_cast<int>(text_.ShownPlace(start)), static_cast<int>(text_.ShownPlace(start + length)));
+}
+
 bool ExamField::Edit(std::u16string_view shown) {
   std::u16string text = text_.Edited(shown);
   if (text == text_.Text()) return true;

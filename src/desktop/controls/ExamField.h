@@ -29,6 +29,9 @@ class ExamField {
   /// Shows the form's text if a command has changed it, as a step that can be undone.
   void FollowForm();
 
+  /// Selects a part of the form's text, in UTF-16 units. What is beyond its end is left out.
+  void Select(std::size_t start, std::size_t length);
+
  protected:
   /// The user has edited the field to `shown`. False if refused: the widget must then show `Shown` again. The
   /// user has been told.
@@ -44,6 +47,9 @@ class ExamField {
 
   /// Makes one change to the widget's content, as a user would.
   virtual void ShowChange(const TextChange& change, const std::u16string& shown) = 0;
+
+  /// Selects a part of the widget's content, and scrolls to it.
+  virtual void SelectShown(int start, int end) = 0;
 
   /// Shows `message` beside the cursor.
   virtual void Tell(const std::u16string& message) = 0;

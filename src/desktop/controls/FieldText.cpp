@@ -72,6 +72,14 @@ std::size_t FieldText::OffsetOf(std::size_t shownPosition) const {
   return offset;
 }
 
+std::size_t FieldText::ShownPlace(std::size_t offset) const {
+  offset = std::min(offset, text_.size());
+  if (lines_ == FieldLines::One) return offset;
+  std::size_t shown = 0;
+  for (std::size_t at = 0; at < offset; at += StepLength(text_, at)) ++shown;
+  return shown;
+}
+
 void FieldText::AppendTyped(std::u16string& text, std::u16string_view typed) const {
   const std::u16string_view lineEnd = lines_ == FieldLines::One ? u" " : u"\r\n";
   for (const char16_t unit : typed) {

@@ -43,6 +43,9 @@ class FieldText {
   /// they are blanks. When all edits are undone, the text is again the loaded one.
   std::u16string Edited(std::u16string_view shown) const;
 
+  /// The place in what is shown of a place in the text, both in UTF-16 units; the end for one beyond it.
+  std::size_t ShownPlace(std::size_t offset) const;
+
  private:
   std::u16string Show(std::u16string_view text) const;
   std::size_t OffsetOf(std::size_t shownPosition) const;

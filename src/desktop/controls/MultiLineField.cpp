@@ -137,6 +137,13 @@ void MultiLineField::ShowChange(const TextChange& change, const std::u16string& 
   cursor.insertText(ToQString(std::u16string_view(shown).substr(change.start, change.added)));
 }
 
+void MultiLineField::SelectShown(int start, int end) {
+  QTextCursor cursor(document());
+  cursor.setPosition(start);
+  cursor.setPosition(end, QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+}
+
 /// Called before the document changes, because Qt merges typing into one undo step, and the last part of a
 /// step cannot be undone by itself.
 bool MultiLineField::RefusesInsertion(const QString& inserted, int offset, int replaced) {

@@ -32,6 +32,7 @@ class MultiLineField : public QPlainTextEdit, public ExamField {
 
   void ShowAnew(const std::u16string& shown) override;
   void ShowChange(const TextChange& change, const std::u16string& shown) override;
+  void SelectShown(int start, int end) override;
   void Tell(const std::u16string& message) override;
 
  private:

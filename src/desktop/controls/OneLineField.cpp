@@ -76,6 +76,10 @@ void OneLineField::ShowChange(const TextChange& change, const std::u16string& sh
   insert(ToQString(std::u16string_view(shown).substr(change.start, change.added)));
 }
 
+void OneLineField::SelectShown(int start, int end) {
+  setSelection(start, end - start);
+}
+
 bool OneLineField::Takes(const QString& content) {
   refused_ = !Edit(FromQString(content));
   return !refused_;

@@ -22,6 +22,7 @@ class OneLineField : public QLineEdit, public ExamField {
 
   void ShowAnew(const std::u16string& shown) override;
   void ShowChange(const TextChange& change, const std::u16string& shown) override;
+  void SelectShown(int start, int end) override;
   void Tell(const std::u16string& message) override;
 
  private:

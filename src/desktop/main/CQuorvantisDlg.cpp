@@ -89,6 +89,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       questionArea_(MakeQuestionArea(services_.strings, this)),
       question_(editor_, services_.strings, pictures_, this),
       answers_(editor_, services_.strings, pictures_, this),
+      search_(editor_, examControls_, question_, answers_, *this),
       recoveryFails_(new WarningNotice("recoveryFails", this)),
       scroll_(*this),
       cancel_(MakeHiddenButton("cancel", this)),
@@ -175,6 +176,7 @@ void CQuorvantisDlg::FormLoaded() {
   question_.Load();
   answers_.Load();
   importWindows_.ExamChanged();
+  search_.ExamChanged();
 }
 
 void CQuorvantisDlg::FormChanged() {
@@ -183,6 +185,7 @@ void CQuorvantisDlg::FormChanged() {
   question_.Refresh();
   answers_.Refresh();
   Layout();
+  search_.ExamChanged();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
 
@@ -237,6 +240,7 @@ void CQuorvantisDlg::PreviewFromSetup(int show) {
 
 void CQuorvantisDlg::PostContentChanged() {
   emit ContentChangePosted();
+  search_.ExamChanged();
 }
 
 /// A preview covers the screen, and would hide the question that may follow.

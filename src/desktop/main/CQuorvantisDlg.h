@@ -8,6 +8,7 @@
 #include "desktop/main/ExamControls.h"
 #include "desktop/main/QuestionArea.h"
 #include "desktop/main/QuestionControls.h"
+#include "desktop/main/SearchCommands.h"
 #include "desktop/main/ToolbarButtons.h"
 #include "desktop/main/WarningNotice.h"
 #include "desktop/main/WindowLayout.h"
@@ -126,6 +127,7 @@ class CQuorvantisDlg final : public FittedWindow,
   QuestionArea* questionArea_;
   QuestionControls question_;
   AnswerControls answers_;
+  SearchCommands search_;
   WarningNotice* recoveryFails_;
   WindowScroll scroll_;
   QPushButton* cancel_;  ///< hidden, like the two below

@@ -11,7 +11,7 @@ using TextVisitor = std::function<void(const TextPlace& place, const std::u16str
 
 template <class Texts>
 void VisitList(const TextPlace& place, const Texts& texts, const TextVisitor& visit) {
-  for (std::size_t index = 0; index < texts.size(); ++index) {
+  for (unsigned index = 0; index < texts.size(); ++index) {
     if (!texts[index].empty()) visit({place.question, place.field, index}, texts[index]);
   }
 }

@@ -17,7 +17,7 @@ class FrameSetExam;
 struct TextPlace {
   int question = 0;  ///< 1 to 500; 0 for a text of the exam as a whole
   ExamFieldName field = ExamFieldName::Title;
-  std::size_t index = 0;  ///< of the option (0 for A to 4 for E) or of the attached file; else 0
+  unsigned index = 0;  ///< of the option (0 for A to 4 for E) or of the attached file; else 0
 
   auto operator<=>(const TextPlace&) const = default;
 };
