@@ -9,6 +9,16 @@ namespace {
 
 constexpr int kLongestQuery = 200;  // of a selection; a longer one is hardly meant to be searched for
 
+/// So that only the hit that is shown is selected.
+void Deselect(QWidget* field) {
+  if (auto* line = qobject_cast<QLineEdit*>(field)) line->deselect();
+  if (auto* lines = qobject_cast<QPlainTextEdit*>(field)) {
+    QTextCursor cursor = lines->textCursor();
+    cursor.clearSelection();
+    lines->setTextCursor(cursor);
+  }
+}
+
 }  // namespace
 
 SearchCommands::SearchCommands(ExamEditor& editor, ExamControls& exam, QuestionControls& question,
@@ -64,6 +74,7 @@ ExamField* SearchCommands::FieldOf(const TextPlace& place, QWidget*& widget) con
 }
 
 void SearchCommands::ShowHit(const SearchHit& hit) {
+  Deselect(window_.focusWidget());
   const int question = hit.place.question;
   if (question != 0 && question != editor_.state.CurrentQuestion()) editor_.questions.GoTo(question);
   if (hit.place.field == ExamFieldName::AttachmentName) {

@@ -35,6 +35,16 @@ bool IsOnScreen(const QRect& place) {
   return QGuiApplication::screenAt(place.center()) != nullptr;
 }
 
+/// Beside the main window where there is room, else at the bottom of the screen: a hit is best not covered.
+QPoint FirstPlace(const QWidget& window, QSize size) {
+  const QRect screen = window.screen()->availableGeometry();
+  const QRect main = window.frameGeometry();
+  const int titleBar = main.height() - window.height();
+  if (screen.right() - main.right() >= size.width()) return {main.right() + 1, main.top()};
+  if (main.left() - screen.left() >= size.width()) return {main.left() - size.width(), main.top()};
+  return {screen.right() - size.width(), screen.bottom() - size.height() - titleBar};
+}
+
 SearchSetting SettingOf(const ExamServices& services) {
   return {services.applicationFolder, services.files, services.codePage};
 }
@@ -119,6 +129,7 @@ void SearchWindow::Restore(const SearchWindowState& state) {
   controls_.pattern->setChecked(state.isPattern);
   controls_.matchCase->setChecked(state.matchCase);
   controls_.wholeWords->setChecked(state.wholeWords);
+  move(FirstPlace(*parentWidget(), size()));
   if (!state.place) return;
   const QRect place(state.place->x, state.place->y, state.place->width, state.place->height);
   if (!IsOnScreen(place)) return;
@@ -132,12 +143,13 @@ void SearchWindow::Remember() const {
                   query.wholeWords});
 }
 
-/// The shortcuts of the main window work here, too. Page Up and Page Down would walk through its questions;
-/// here they belong to the list.
+/// The shortcuts of the main window work here, too, since this is a tool of it: saving, undoing, finding. But
+/// Page Up and Page Down belong to the list, and Alt with a letter would press buttons that are not in view.
 bool SearchWindow::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_PageUp || key == Qt::Key_PageDown) event->accept();
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    const bool isPageKey = key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
+    if (isPageKey || key.modifiers().testFlag(Qt::AltModifier)) event->accept();
     return true;
   }
   return QDialog::event(event);
@@ -336,7 +348,9 @@ void SearchWindow::OfferReplacements(const std::shared_ptr<const FrameSetExam>& 
   if (plan.end != SearchEnd::Done) return Tell(SearchProblem(plan.end, plan.stoppedAt, strings_));
   if (plan.replacements.empty()) return Tell(strings_.Text(text_id::kNothingToReplace));
   ReplaceAllDlg list(exam, plan.replacements, strings_, this);
-  if (list.exec() != QDialog::Accepted) return;
+  const bool isAccepted = list.exec() == QDialog::Accepted;
+  activateWindow();  // else the main window would come next
+  if (!isAccepted) return;
   std::u16string told;
   for (const std::u16string& line : ReplaceSummary(ReplaceHits(editor_, *exam, list.Chosen()), strings_))
     told += (told.empty() ? u"" : u"\n") + line;
