@@ -30,10 +30,13 @@ HitTable::HitTable(QAbstractItemModel& list, int firstWide, QWidget* parent) : Q
   setColumnWidth(1, kFieldWidth);
 }
 
-/// Enter must not reach a dialog, which would press a button.
+/// Enter must not reach a dialog, which would press a button. A blank changes the tick of a row, in whichever
+/// column the keyboard is.
 void HitTable::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && currentIndex().isValid()) return emit RowChosen(currentIndex());
+  if (event->key() == Qt::Key_Space && currentIndex().isValid())
+    setCurrentIndex(currentIndex().siblingAtColumn(0));
   QTreeView::keyPressEvent(event);
 }
 

@@ -13,6 +13,10 @@
 namespace quorvantis {
 namespace {
 
+TextPlace PlaceOf(const PlannedReplacement& replacement) {
+  return replacement.hit.place;
+}
+
 std::u16string WhyLeftAlone(const HitsLeftAlone& left, const StringTable& strings) {
   return left.why ? ObstacleText(*left.why, left.place, strings) : strings.Text(text_id::kChangedMeanwhile);
 }
@@ -28,16 +32,16 @@ ReplaceOutcome ReplaceHits(ExamEditor& editor, const FrameSetExam& planned,
                            const std::vector<PlannedReplacement>& chosen) {
   ReplaceOutcome outcome;
   const auto leaveAlone = [&](const TextPlace& place, std::optional<ReplacementObstacle> why) {
-    const auto hits = std::ranges::count(chosen, place, [](const auto& one) { return one.hit.place; });
-    outcome.leftAlone.push_back({place, static_cast<std::size_t>(hits), why});
-    outcome.replaced -= static_cast<std::size_t>(hits);
+    const auto hits = std::ranges::equal_range(chosen, place, {}, PlaceOf).size();
+    outcome.leftAlone.push_back({place, hits, why});
+    outcome.replaced -= hits;
   };
   outcome.replaced = chosen.size();
   std::vector<FieldRewrite> possible;
   for (FieldRewrite& rewrite : RewriteFields(planned, chosen)) {
     if (const auto obstacle = FindObstacle(rewrite)) {
       leaveAlone(rewrite.place, obstacle);
-    } else {
+    } else if (rewrite.after != rewrite.before) {
       possible.push_back(std::move(rewrite));
     }
   }

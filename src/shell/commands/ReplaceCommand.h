@@ -28,7 +28,7 @@ FrameSetExam SearchedExam(const ExamEditor& editor);
 
 /// Replaces hits as one command of the user. `chosen` are in the order of the document and were planned for
 /// `planned`, an earlier state of the exam. Fields that have changed since or that cannot take the result are
-/// left alone as a whole.
+/// left alone as a whole. If all stay as they are, the exam counts as unchanged.
 ReplaceOutcome ReplaceHits(ExamEditor& editor, const FrameSetExam& planned,
                            const std::vector<PlannedReplacement>& chosen);
 
