@@ -1,4 +1,5 @@
-# A layer is one folder of src/: a static library that sees the headers of the layers it names, and no others.
+# A layer is one folder of src/: a static library that sees the headers of the layers it names and of those that they
+# name, and no others.
 #
 #   quorvantis_layer(<folder> [DEPENDS <folder>...] [LINK <library>...])
 #

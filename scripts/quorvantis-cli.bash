@@ -7,7 +7,7 @@ _quorvantis_cli() {
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
       --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch | \
-        --rules | --repository | --into | --after | --answer-pictures | --formulas | --marked)
+        --rules | --repository | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses)
         ((++i)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
@@ -23,7 +23,8 @@ _quorvantis_cli() {
     mapfile -t COMPREPLY < <(compgen -W "give-up ignore force" -- "$word")
   elif [ "$previous" = --into ]; then
     mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word")
-  elif [ "$previous" = --rules ] || [ "$previous" = --marked ] || [ "$command $previous" = "import --text" ]; then
+  elif [ "$previous" = --rules ] || [ "$previous" = --marked ] || [ "$command $previous" = "import --text" ] ||
+    [ "$previous" = --text-file ] || [ "$previous" = --batch ] || [ "$previous" = --responses ]; then
     mapfile -t COMPREPLY < <(compgen -f -- "$word")
   elif [[ $word == -* ]]; then
     local options="--help --app-folder --language --debug"
@@ -33,7 +34,8 @@ _quorvantis_cli() {
       preview) options+=" --student --responses" ;;
       print) options+=" --after-preview" ;;
       score) options+=" --mode --end --value" ;;
-      import) options+=" --rules --repository --into --after --answer-pictures --formulas --marked --text" ;;
+      import) options+=" --rules --repository --into --after --answer-pictures --formulas --mend-line-ends --marked --text" ;;
+      match) options+=" --flags --start --text --text-file --batch" ;;
       edit) options+=" --recovery" ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
@@ -45,7 +47,7 @@ _quorvantis_cli() {
       build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
       unpack:1 | preview:1 | print:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;
-      import:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|doc|docx|odt|rtf)$') ;;
+      import:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|md|doc|docx|odt|rtf)$') ;;
       edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     esac
   fi

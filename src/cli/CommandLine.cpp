@@ -148,9 +148,8 @@ void AddScore(CLI::App& app, ParsedArguments& arguments, Console& console) {
   AddScoreStep(*score, steps, "--end", end, "RANGE=QUESTION", "End a range (1 to 10) with this question");
   AddScoreStep(*score, steps, "--value", value, "RANGE=SCORE", "The score of each question of a range");
   score->footer(
-      "Options take effect in the order given, as if typed into the score settings of the window, and may "
-      "be\n"
-      "repeated. Ends re-cut the neighbouring ranges and reset scores, so give ends first.");
+      "Options take effect in the order given, as if typed into the score settings of the window,\n"
+      "and may be repeated. Ends re-cut the neighbouring ranges and reset scores, so give ends first.");
   score->callback(
       [&] { Score(console, arguments.common, arguments.input, arguments.output, arguments.scoreSteps); });
 }
@@ -187,9 +186,8 @@ void AddRecover(CLI::App& app, ParsedArguments& arguments, Console& console) {
       recover->add_option("OUT", arguments.output, "Exam file to write; the copy is kept")->type_name("");
   copy->needs(target);
   recover->footer(
-      "Prints a line for each: name, time, number of questions, file and title, with tabs between them. "
-      "Without\n"
-      "--app-folder, the folder is that of the window.");
+      "Prints a line for each: name, time, number of questions, file and title, with tabs between them.\n"
+      "Without --app-folder, the folder is that of the window.");
   recover->callback([&] { Recover(console, arguments.common, arguments.recoveryCopy, arguments.output); });
 }
 
@@ -211,7 +209,9 @@ CLI::Validator IsDecimal() {
 void AddImportOptions(CLI::App& command, ImportRequest& request) {
   const std::vector<std::string> answers{"give-up", "ignore", "force"};
   command
-      .add_option("--rules", request.rules, "The file ImportExam.ini (default: the one beside the program)")
+      .add_option("--rules", request.rules,
+                  "The file with the rules (default: ImportExam.ini of the\napplication folder, or beside "
+                  "the program)")
       ->type_name("FILE");
   command
       .add_option("--repository", request.repository,

@@ -42,9 +42,7 @@ void Print(Console& console, const CommonOptions& options, const std::filesystem
 void Score(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
            const std::filesystem::path& target, const std::vector<ScoreStep>& steps);
 
-/// Writes an exam as a document for paper. What the name of `target` ends in tells the kind: ".doc", ".docx"
-/// or
-/// ".pdf".
+/// Writes an exam as a document for paper. The extension of `target` (doc, docx or pdf) decides its format.
 void Export(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
             const std::filesystem::path& target);
 
@@ -79,8 +77,8 @@ struct ImportRequest {
 /// Makes an exam from a question paper, by the rules of a repository.
 void Import(Console& console, const CommonOptions& options, const ImportRequest& request);
 
-/// What `match` is asked for: a pattern and a text, which comes from the console where there is none, or a
-/// file of both.
+/// The arguments of `match`: a pattern and a text, which is read from the console if none is given; or a file
+/// of patterns and texts.
 struct MatchRequest {
   std::optional<std::string> pattern;
   int flags = 3;

@@ -41,7 +41,7 @@ void EditSession::OpenExam(const std::filesystem::path& file) {
 void EditSession::TellRecovery() {
   const std::error_code failure = life_.RecoveryFailure();
   if (std::exchange(recoveryFails_, static_cast<bool>(failure)) || !failure) return;
-  session_.console.Complain(life_.RecoveryFolder().string() +
+  session_.console.Complain(life_.RecoveryRoot().string() +
                             ": what is not saved cannot be kept there: " + failure.message());
 }
 

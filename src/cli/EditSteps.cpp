@@ -7,10 +7,12 @@
 #include "cli/ScoreSteps.h"
 #include "cli/SearchSteps.h"
 #include "cli/WhyUnreadable.h"
-#include "platform/Texts.h"
+#include "model/AnswerLetters.h"
+#include "platform/TextNumbers.h"
 #include "shell/commands/ScoreSetupCommand.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
+#include "text/PathText.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
@@ -26,9 +28,9 @@ using Arguments = std::vector<ScriptArgument>;
 /// The index of box or option A to E.
 std::size_t BoxIndex(const ScriptArgument& argument) {
   const std::u16string letter = argument.Text();
-  const bool known = letter.size() == 1 && ((letter[0] | 0x20) >= u'a' && (letter[0] | 0x20) <= u'e');
-  if (!known) throw CommandError("a letter from A to E is needed");
-  return static_cast<std::size_t>((letter[0] | 0x20) - u'a');
+  const auto index = letter.size() == 1 ? OptionIndex(letter[0]) : std::nullopt;
+  if (!index) throw CommandError("a letter from A to E is needed");
+  return *index;
 }
 
 std::size_t EntryIndex(const ScriptArgument& argument, const ShownAttachments& list) {
@@ -103,7 +105,7 @@ void Save(EditSession& session, const Arguments&) {
 
 /// Whether Save As accepts a name.
 bool IsSaveable(const std::filesystem::path& file) {
-  const std::u16string extension = LowerExtension(file);
+  const std::u16string extension = ExtensionOrPath(PathToText(file));
   return extension == u"exm" || extension == u"doc";
 }
 

@@ -17,7 +17,7 @@ using Json = nlohmann::ordered_json;
 
 Json AttachmentsToJson(const AttachmentList& names, const AttachmentList& paths) {
   Json list = Json::array();
-  for (const auto& [name, path] : AttachedFiles(names, paths)) {
+  for (const auto& [name, path] : ListedFiles(names, paths)) {
     std::error_code error;
     const bool made = std::filesystem::is_regular_file(path, error);
     list.push_back({{"name", Utf16ToUtf8(name)},
@@ -76,8 +76,8 @@ Json QuestionToJson(const ExamQuestion& question, int number) {
 
 }  // namespace
 
-std::vector<AttachedFile> AttachedFiles(const AttachmentList& names, const AttachmentList& paths) {
-  std::vector<AttachedFile> files;
+std::vector<ListedFile> ListedFiles(const AttachmentList& names, const AttachmentList& paths) {
+  std::vector<ListedFile> files;
   for (std::size_t i = 0; i < kMaxAttachments; ++i) {
     if (!paths[i].empty()) files.push_back({names[i], TextToPath(paths[i])});
   }

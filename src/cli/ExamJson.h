@@ -10,13 +10,13 @@
 namespace quorvantis::cli {
 
 /// One file of an attachment list.
-struct AttachedFile {
+struct ListedFile {
   std::u16string name;
   std::filesystem::path path;
 };
 
 /// The entries of an attachment list that have a path.
-std::vector<AttachedFile> AttachedFiles(const AttachmentList& names, const AttachmentList& paths);
+std::vector<ListedFile> ListedFiles(const AttachmentList& names, const AttachmentList& paths);
 
 /// The content of the exam file, with size and hash of each unpacked file.
 nlohmann::ordered_json ExamToJson(const FrameSetExam& exam, const ExamReadOutcome& outcome);

@@ -2,10 +2,10 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/InputFile.h"
-#include "editor/ExamFileCommands.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "shell/commands/ExportCommand.h"
+#include "text/PathText.h"
 #include "text/Utf.h"
 
 namespace quorvantis::cli {
@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 WordFormat FormatNamed(const fs::path& target) {
-  const std::u16string extension = LowerExtension(target.extension());
+  const std::u16string extension = ExtensionOrPath(PathToText(target.extension()));
   if (extension == u"doc") return WordFormat::Doc;
   if (extension == u"docx") return WordFormat::Docx;
   if (extension == u"pdf") return WordFormat::Pdf;

@@ -10,10 +10,10 @@
 
 namespace quorvantis::cli {
 
-/// The name of a kind in JSON, or the number of one that is none of ours.
+/// The name of a kind in JSON; for an unknown kind its number.
 std::string KindName(QuestionKind kind);
 
-/// The other way round; nothing when the text is neither.
+/// The reverse; nothing if the text is neither.
 std::optional<QuestionKind> KindNamed(std::string_view name);
 
 /// "Choice, FillIn, Essay or Oral".

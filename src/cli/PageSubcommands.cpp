@@ -5,7 +5,7 @@
 #include "cli/JsonNode.h"
 #include "cli/Responses.h"
 #include "cli/UnseenEditor.h"
-#include "render/PreviewPaths.h"
+#include "model/WorkFolderNames.h"
 #include "shell/commands/PreviewCommand.h"
 #include "shell/commands/PrintCommand.h"
 #include "text/PathText.h"

@@ -23,7 +23,7 @@ bool ShowsRangesAnew(TypedEnd outcome) {
   return outcome == TypedEnd::Reverted || outcome == TypedEnd::Moved || outcome == TypedEnd::Clamped;
 }
 
-/// A user who takes one step after the other.
+/// Performs the steps as a user would, one at a time.
 class ScriptedUser {
  public:
   ScriptedUser(ScoreSetup& setup, const Console& console) : setup_(setup), console_(console) {}

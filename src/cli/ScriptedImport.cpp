@@ -3,7 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "cli/WhyUnreadable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 

@@ -2,7 +2,7 @@
 #include "cli/SearchSteps.h"
 
 #include "cli/CommandError.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "search/HitLine.h"
 #include "search/SearchTexts.h"
 #include "shell/commands/ReplaceCommand.h"

@@ -2,6 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/ExamJson.h"
 #include "cli/KindNames.h"
+#include "model/AnswerLetters.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 
@@ -44,7 +45,7 @@ std::string_view RandomModeText(RandomMode mode) {
 
 void PrintAttachments(std::ostream& out, std::string_view indent, const AttachmentList& names,
                       const AttachmentList& paths) {
-  for (const auto& [name, path] : AttachedFiles(names, paths)) {
+  for (const auto& [name, path] : ListedFiles(names, paths)) {
     std::error_code error;
     const auto size = std::filesystem::file_size(path, error);
     out << indent << "attached: " << Printable(name);
@@ -57,10 +58,9 @@ void PrintAttachments(std::ostream& out, std::string_view indent, const Attachme
 }
 
 void PrintAnswer(std::ostream& out, const ExamQuestion& question) {
-  constexpr std::string_view kLetters = "ABCDE";
   for (std::size_t i = 0; i < kOptionCount; ++i) {
     if (!question.options[i].empty())
-      out << "   " << kLetters[i] << ". " << Printable(question.options[i]) << "\n";
+      out << "   " << static_cast<char>(OptionLetter(i)) << ". " << Printable(question.options[i]) << "\n";
   }
   if (AnswerOf(question.kind).options) out << "   answer: " << Printable(question.answerLetters) << "\n";
   if (!question.answerText.empty()) out << "   answer: " << Printable(question.answerText) << "\n";
@@ -70,7 +70,7 @@ void PrintAnswer(std::ostream& out, const ExamQuestion& question) {
 /// How many ranges apply: none while all questions have the same score, otherwise those before the first one
 /// that is unused or begins after the last question.
 std::size_t RangesInUse(const ExamPaper& exam) {
-  if (exam.scoreMode == ScoreMode::Same) return 0;
+  if (HasOneScore(exam.scoreMode)) return 0;
   std::size_t count = 0;
   const auto applies = [&exam](std::size_t i) {
     return exam.scoreTo[i] != 0 && exam.scoreFrom[i] <= exam.questionCount;
@@ -80,7 +80,7 @@ std::size_t RangesInUse(const ExamPaper& exam) {
 }
 
 void PrintRanges(std::ostream& out, const ExamPaper& exam) {
-  out << "Scores: " << (exam.scoreMode == ScoreMode::Same ? "the same for every question" : "custom");
+  out << "Scores: " << (HasOneScore(exam.scoreMode) ? "the same for every question" : "custom");
   const std::size_t count = RangesInUse(exam);
   for (std::size_t i = 0; i < count; ++i) {
     out << (i == 0 ? ": " : ", ") << exam.scoreFrom[i] << "-" << exam.scoreTo[i] << " = "

@@ -3,12 +3,12 @@
 
 #include "editor/AttachmentShifts.h"
 #include "editor/WorkCopies.h"
+#include "model/MediaKinds.h"
 #include "model/QuestionKinds.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
-#include "text/AsciiCase.h"
 #include "text/PathText.h"
 
 #include <algorithm>
@@ -29,11 +29,7 @@ void RemoveEntry(ShownAttachments& list) {
 }  // namespace
 
 int AttachmentEditor::IsVideoLike(std::u16string_view fileName) {
-  constexpr std::u16string_view kExtensions[] = {u".wmv", u".avi", u".mpeg", u".asf", u".swf"};
-  const std::size_t dot = fileName.rfind(u'.');
-  const std::u16string_view extension = dot == fileName.npos ? fileName : fileName.substr(dot);
-  const auto matches = [&](std::u16string_view known) { return EqualsIgnoringAsciiCase(known, extension); };
-  return std::ranges::any_of(kExtensions, matches) ? 1 : 0;
+  return HasVideoExtension(fileName) ? 1 : 0;
 }
 
 bool AttachmentEditor::IsMissing(const std::u16string& copy) const {

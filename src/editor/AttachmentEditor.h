@@ -26,10 +26,7 @@ struct ShownAttachments {
 
   /// Deliberate: only a list that allows several selected entries would act on this, and these lists do not.
   /// It is also the only thing that a list does with the kind of a file.
-  void RequestSelection(std::size_t entry, bool state) {
-    if (selectsSeveral && entry < names.size()) selected = state ? std::optional(entry) : std::nullopt;
-  }
-  bool selectsSeveral = false;
+  void RequestSelection(std::size_t /*entry*/, bool /*state*/) const {}
 };
 
 /// An entry of a list and the work copy behind it.

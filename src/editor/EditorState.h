@@ -16,8 +16,8 @@ inline constexpr const char* kUntitled = "UnTitle";
 inline constexpr auto kNoKind = static_cast<QuestionKind>(-1);
 
 /// What is being edited: the document, the current question, and whether there are unsaved changes. Shared by
-/// the classes of the editor; there is one for the window's whole life. Only those classes change the
-/// document (see EditedExam).
+/// the classes of one editor, and lives as long as that. It gives the document to read only: who may change
+/// it has an EditedExam.
 class EditorState {
  public:
   /// Both must outlive the state.

@@ -4,18 +4,12 @@
 #include "editor/ProposedFileName.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
-#include "text/AsciiCase.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 
 namespace quorvantis {
-
-std::u16string LowerExtension(const std::filesystem::path& path) {
-  const std::u16string text = PathToText(path);
-  return AsciiLower(std::u16string_view(text).substr(text.rfind(u'.') + 1));  // npos + 1 is 0
-}
 
 Parting ExamFileCommands::AskAboutChanges() {
   if (!state_.Modified()) return Parting::Leave;
@@ -117,7 +111,7 @@ bool ExamFileCommands::Save() {
 bool ExamFileCommands::SaveAs() {
   const auto file = ChooseTarget();
   if (!file) return true;
-  const std::u16string extension = LowerExtension(*file);
+  const std::u16string extension = ExtensionOrPath(PathToText(*file));
   if (extension == u"exm") return StoreAndWrite(*file);
   if (extension == u"doc") {
     questions_.StoreCurrentQuestion();

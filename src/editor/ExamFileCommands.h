@@ -16,10 +16,6 @@ namespace quorvantis {
 /// Writes the exam as a word-processor document and reports the result to the user itself.
 using DocumentExport = std::function<void(const FrameSetExam& exam, const std::filesystem::path& target)>;
 
-/// The text after the last dot of the whole path, in lower case; the whole path when it has no dot. Decides
-/// what Save As writes.
-std::u16string LowerExtension(const std::filesystem::path& path);
-
 /// New, Open, Save, Save As and the question before an exam is left. Before a save the user is told what it
 /// would lose and can go back, which cancels New, Open and closing too. Reading and writing report their own
 /// failures; the editor continues with whatever the document holds.

@@ -3,7 +3,9 @@
 
 #include "editor/AttachmentShifts.h"
 #include "examfile/WorkFolder.h"
+#include "model/WorkFolderNames.h"
 #include "model/document/ExamServices.h"
+#include "platform/FolderEntries.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 
@@ -49,7 +51,7 @@ std::u16string DeleteCopies(AttachmentList& copies) {
   for (std::size_t i = 0; i < count; ++i) {
     std::error_code ignored;
     const fs::path copy = TextToPath(copies[i]);
-    if (!fs::is_directory(fs::symlink_status(copy, ignored))) fs::remove(copy, ignored);
+    if (!IsFolder(copy)) fs::remove(copy, ignored);
     last = std::exchange(copies[i], {});
   }
   return last;
@@ -71,7 +73,7 @@ AttachmentList PathsOnly(const FrameSetExam& exam) {
 fs::path MakeOwnFolder(const fs::path& parent, const fs::path& name) {
   const fs::path folder = parent / name;
   std::error_code ignored;
-  if (fs::is_symlink(fs::symlink_status(folder, ignored))) fs::remove(folder, ignored);
+  if (IsLink(folder)) fs::remove(folder, ignored);
   fs::create_directory(folder, ignored);
   return folder;
 }
@@ -79,7 +81,7 @@ fs::path MakeOwnFolder(const fs::path& parent, const fs::path& name) {
 }  // namespace
 
 fs::path AttachmentWorkRoot(const fs::path& applicationFolder) {
-  return applicationFolder / "~TEMP";
+  return applicationFolder / kCopyFolders;
 }
 
 void MakeWorkRoot(const fs::path& workRoot) {
@@ -125,7 +127,7 @@ void DeleteQuestionCopies(FrameSetExam& exam) {
   }
   const std::u16string folder = SecondComponent(last);
   if (folder.empty() || folder == u"." || folder == u"..") return;
-  RemoveEmptyFolder(exam.Services().applicationFolder / "~BrelmStudent" / TextToPath(folder));
+  RemoveEmptyFolder(exam.Services().applicationFolder / kStudentFolders / TextToPath(folder));
 }
 
 void DeleteExamCopies(FrameSetExam& exam) {

@@ -2,7 +2,7 @@
 #include "examfile/ExamFileMessages.h"
 
 #include "examfile/FileFailure.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

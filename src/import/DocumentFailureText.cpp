@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/DocumentFailureText.h"
 
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 

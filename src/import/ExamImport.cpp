@@ -3,7 +3,7 @@
 
 #include "import/RuleKeys.h"
 #include "ini/ProfileValues.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
 
@@ -11,27 +11,6 @@
 
 namespace quorvantis {
 namespace {
-
-struct KeyedRule {
-  std::u16string_view key;
-  std::u16string ImportSettings::*rule;
-};
-
-constexpr KeyedRule kRules[] = {
-    {rule_key::kPattern, &ImportSettings::m_strPattern},
-    {rule_key::kPreQuestion, &ImportSettings::m_strPreQuestion},
-    {rule_key::kPreAnswer, &ImportSettings::m_strPreAnswer},
-    {rule_key::kChoiceAnswerPattern, &ImportSettings::m_strChoiceAnswerPattern},
-    {rule_key::kChoiceAnswer, &ImportSettings::m_strChoiceAnswer},
-    {rule_key::kJudgementAnswerPattern, &ImportSettings::m_strJudgementAnswerPattern},
-    {rule_key::kJudgementAnswer, &ImportSettings::m_strJudgementAnswer},
-    {rule_key::kPreAllAnswer, &ImportSettings::m_strPreAllAnswer},
-    {rule_key::kPreParenQuestion, &ImportSettings::m_strPreParenQuestion},
-    {rule_key::kTitle, &ImportSettings::m_strTitle},
-    {rule_key::kBmp, &ImportSettings::m_strBmp},
-    {rule_key::kChoiceBmp, &ImportSettings::m_strChoiceBmp},
-    {rule_key::kPreTable, &ImportSettings::m_strPreTable},
-};
 
 bool BeginsWith(std::u16string_view name, std::u16string_view chosen) {
   return EqualsIgnoringAsciiCase(name.substr(0, chosen.size()), chosen);
@@ -85,7 +64,9 @@ int ExamImport::AcceptSection(int section) {
     return text_id::kWrongDocumentPath;
   const ProfileFile file(m_strIniPath, &codePage_);
   const std::u16string name = FormatInteger(section);
-  for (const KeyedRule& keyed : kRules) this->*keyed.rule = ReadProfileString(name, keyed.key, {}, file);
+  for (const PatternRule& rule : kPatternRules)
+    this->*rule.pattern = ReadProfileString(name, rule.key, {}, file);
+  m_strPreTable = ReadProfileString(name, rule_key::kPreTable, {}, file);
   if (m_strPattern.empty() || m_strPreAnswer.empty()) return text_id::kWrongImportRules;
   listLabels = ReadProfileInteger(name, rule_key::kListLabels, 0, file) == 1;
   if (ReadProfileInteger(name, rule_key::kTable, 0, file) == 1) {

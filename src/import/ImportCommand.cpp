@@ -9,7 +9,7 @@
 #include "model/document/ExamServices.h"
 #include "platform/DebugOutput.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
@@ -114,7 +114,7 @@ WordResult ImportCommand::ReadDocument(const ExamImport& choice, ImportReport& r
   const auto nextPicture = reader.SavePictures(pictureCounter_);
   if (!nextPicture) return reader.Result();
   const std::size_t formulas = reader.MaskFormulas();
-  const WordDocument& document = reader.Document();
+  const WordContent& document = reader.Document();
   report.content = {document.runningText.characters, pictureCounter_,           *nextPicture, formulas,
                     reader.LostPictures(),           document.hasNumbersLeftOut};
   report.marked = Mark(reader, report.rules);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/ImportFailure.h"
 
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {

@@ -5,7 +5,7 @@
 #include "import/LostPictures.h"
 #include "import/RuleKeys.h"
 #include "model/ExamLimits.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "regex/RegexPattern.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
@@ -99,22 +99,8 @@ class Summary {
   }
 
   void TellBrokenRules() {
-    const ImportSettings& rules = report_.rules;
-    const std::pair<std::u16string_view, const std::u16string*> patterns[] = {
-        {rule_key::kPattern, &rules.m_strPattern},
-        {rule_key::kPreQuestion, &rules.m_strPreQuestion},
-        {rule_key::kPreParenQuestion, &rules.m_strPreParenQuestion},
-        {rule_key::kPreAnswer, &rules.m_strPreAnswer},
-        {rule_key::kPreAllAnswer, &rules.m_strPreAllAnswer},
-        {rule_key::kTitle, &rules.m_strTitle},
-        {rule_key::kBmp, &rules.m_strBmp},
-        {rule_key::kChoiceBmp, &rules.m_strChoiceBmp},
-        {rule_key::kChoiceAnswerPattern, &rules.m_strChoiceAnswerPattern},
-        {rule_key::kChoiceAnswer, &rules.m_strChoiceAnswer},
-        {rule_key::kJudgementAnswerPattern, &rules.m_strJudgementAnswerPattern},
-        {rule_key::kJudgementAnswer, &rules.m_strJudgementAnswer}};
-    for (const auto& [key, pattern] : patterns) {
-      const RegexPattern compiled(*pattern, 3);
+    for (const auto& [key, pattern] : kPatternRules) {
+      const RegexPattern compiled(report_.rules.*pattern, kRuleFlags);
       if (const auto& error = compiled.CompileError()) {
         const std::u16string reason(error->reason.begin(), error->reason.end());
         Say(text_id::kRuleIsNoPattern, {key, reason, Text(error->position + 1)});

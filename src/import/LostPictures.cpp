@@ -3,16 +3,13 @@
 
 #include "import/ImportMarkers.h"
 #include "import/WordReader.h"
+#include "text/NumberText.h"
 
 #include <string_view>
 #include <unordered_map>
 
 namespace quorvantis {
 namespace {
-
-bool IsDigit(char16_t unit) {
-  return unit >= u'0' && unit <= u'9';
-}
 
 /// Where the names of pictures stand, by name.
 using Places = std::unordered_map<std::u16string, int>;

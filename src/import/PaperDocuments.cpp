@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "import/PaperDocuments.h"
 
-#include "editor/ExamFileCommands.h"
 #include "ini/ProfileEncoding.h"
 #include "platform/WholeFile.h"
+#include "text/PathText.h"
 
 namespace quorvantis {
 namespace {
@@ -25,7 +25,7 @@ WordReadOutcome TextDocuments::Open(const std::filesystem::path& file, const Wor
   const auto bytes = ReadWholeFile(file, kMaxBytes);
   if (!bytes) return {WhyUnread(file)};
   const ProfileEncoding encoding = ProfileEncoding::Of(*bytes, &codePage_);
-  WordDocument document;
+  WordContent document;
   document.isPlainText = true;
   document.runningText.characters = encoding.Decode(std::string_view(*bytes).substr(encoding.MarkSize()));
   if (document.runningText.characters.find(u'\0') != std::u16string::npos) return {WordResult::UnknownFormat};
@@ -33,7 +33,7 @@ WordReadOutcome TextDocuments::Open(const std::filesystem::path& file, const Wor
 }
 
 WordReadOutcome PaperDocuments::Open(const std::filesystem::path& file, const WordReadOptions& options) {
-  const std::u16string extension = LowerExtension(file);
+  const std::u16string extension = ExtensionOrPath(PathToText(file));
   const bool isText = extension == u"txt" || extension == u"md";
   return isText ? text_.Open(file, options) : word_.Open(file, options);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/QuestionTextParser.h"
 
-#include "import/AnswerBlock.h"
 #include "import/ImportMarkers.h"
+#include "import/ParseAnswer.h"
 #include "import/RuleKeys.h"
 #include "model/AnswerLetters.h"
 #include "text/NumberText.h"
@@ -202,7 +202,7 @@ class Reading {
   /// either case.
   static void SetLetters(ReadQuestion& read, std::u16string_view answer) {
     for (std::size_t box = 0; box < kOptionCount; ++box) {
-      const auto letter = static_cast<char16_t>(u'A' + box);
+      const char16_t letter = OptionLetter(box);
       if (answer.find(letter) == kNotFound) continue;
       read.letters += letter;
       read.mask += AnswerBoxWeight(box);

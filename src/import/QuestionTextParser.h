@@ -34,7 +34,7 @@ struct DroppedPart {
   std::u16string text;      ///< its beginning, in one line
 };
 
-/// An answer of a block that by its order went to a question of another number.
+/// An answer in a block that was given, by its order, to a question with a different number.
 struct MisplacedAnswer {
   std::u16string_view key;  ///< of the rule that found it
   int number = 0;

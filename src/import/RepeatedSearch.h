@@ -21,12 +21,12 @@ class RepeatedSearch {
     return match ? std::optional<MatchSpan>(*match) : std::nullopt;
   }
 
-  /// Since the last match the text has changed, from `place` on.
+  /// The text has changed since the last match, from `place` on.
   void ChangedFrom(std::size_t place) {
     start_ = static_cast<std::size_t>(failed_.ResumeAfterChange(static_cast<int>(place)));
   }
 
-  /// The last character that counted for the last match; the size of the text where its end did.
+  /// The last character that mattered for the last match; the size of the text if its end did.
   std::size_t Seen() const { return static_cast<std::size_t>(failed_.Seen()); }
 
  private:

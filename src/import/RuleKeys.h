@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The keys of "ImportExam.ini", as users know them.
+// The keys of "ImportExam.ini", as users know them, and the patterns that they give.
 #pragma once
+
+#include "import/ImportSettings.h"
 
 #include <string_view>
 
@@ -25,3 +27,28 @@ inline constexpr std::u16string_view kQuestionKey = u"QuestionKey";
 inline constexpr std::u16string_view kAnswerKey = u"AnswerKey";
 
 }  // namespace quorvantis::rule_key
+
+namespace quorvantis {
+
+struct PatternRule {
+  std::u16string_view key;
+  std::u16string ImportSettings::*pattern;
+};
+
+/// The rules that are patterns, in the order in which users are told about them.
+inline constexpr PatternRule kPatternRules[] = {
+    {rule_key::kPattern, &ImportSettings::m_strPattern},
+    {rule_key::kPreQuestion, &ImportSettings::m_strPreQuestion},
+    {rule_key::kPreParenQuestion, &ImportSettings::m_strPreParenQuestion},
+    {rule_key::kPreAnswer, &ImportSettings::m_strPreAnswer},
+    {rule_key::kPreAllAnswer, &ImportSettings::m_strPreAllAnswer},
+    {rule_key::kTitle, &ImportSettings::m_strTitle},
+    {rule_key::kBmp, &ImportSettings::m_strBmp},
+    {rule_key::kChoiceBmp, &ImportSettings::m_strChoiceBmp},
+    {rule_key::kChoiceAnswerPattern, &ImportSettings::m_strChoiceAnswerPattern},
+    {rule_key::kChoiceAnswer, &ImportSettings::m_strChoiceAnswer},
+    {rule_key::kJudgementAnswerPattern, &ImportSettings::m_strJudgementAnswerPattern},
+    {rule_key::kJudgementAnswer, &ImportSettings::m_strJudgementAnswer},
+};
+
+}  // namespace quorvantis

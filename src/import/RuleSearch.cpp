@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "import/RuleSearch.h"
 
-#include "regex/RegexFlags.h"
-
 namespace quorvantis {
 
 RuleSearch::RuleSearch(std::u16string_view key, std::u16string_view pattern, const CancelHook& isCancelled)
     : key_(key), isCancelled_(isCancelled) {
-  if (!pattern.empty()) pattern_.Compile(pattern, regex_flag::kSingleLine | regex_flag::kMultiLine);
+  if (!pattern.empty()) pattern_.Compile(pattern, kRuleFlags);
 }
 
 std::optional<MatchResult> RuleSearch::Find(std::u16string_view text, std::size_t start,

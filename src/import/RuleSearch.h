@@ -2,6 +2,7 @@
 #pragma once
 
 #include "import/ImportFailure.h"
+#include "regex/RegexFlags.h"
 #include "regex/RegexPattern.h"
 
 #include <functional>
@@ -14,8 +15,10 @@ namespace quorvantis {
 /// Polled while rules are tried; true cancels the import. May be empty.
 using CancelHook = std::function<bool()>;
 
-/// One rule of a repository, ready to be searched for. All rules are compiled alike: "." matches line breaks
-/// and "^" and "$" match at them. An empty or invalid rule matches nothing.
+/// All rules are compiled alike: "." matches line breaks and "^" and "$" match at them.
+inline constexpr auto kRuleFlags = regex_flag::kSingleLine | regex_flag::kMultiLine;
+
+/// One rule of a repository, ready to be searched for. An empty or invalid rule matches nothing.
 class RuleSearch {
  public:
   /// `key` is the name of the rule in "ImportExam.ini".

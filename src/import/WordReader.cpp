@@ -25,7 +25,7 @@ constexpr char16_t kBoxCharacter = u'\u2574';
 constexpr std::uintmax_t kMostPictureBytes = std::uintmax_t{1} << 30;
 
 template <class Visit>
-void VisitTexts(WordDocument& document, const Visit& visit) {
+void VisitTexts(WordContent& document, const Visit& visit) {
   visit(document.runningText);
   for (WordTable& table : document.tables) {
     for (auto& row : table.rows) {

@@ -42,7 +42,7 @@ class WordReader {
   /// the text.
   bool OpenDocument(const std::filesystem::path& file, bool listLabels);
 
-  /// `Done`, or why the last step that failed did.
+  /// `Done`, or why the last failed step failed.
   WordResult Result() const { return result_; }
 
   /// Word processors mark a blank with a line of U+2574, exams with "_". Text files stay as they are.
@@ -60,7 +60,7 @@ class WordReader {
   std::size_t MaskFormulas();
 
   /// The document as the steps have left it so far.
-  const WordDocument& Document() const { return document_; }
+  const WordContent& Document() const { return document_; }
 
   /// The marked text of the tables, or of the text without them.
   MarkedText TableToString(const ImportSettings& rules) const;
@@ -81,7 +81,7 @@ class WordReader {
   WordDocuments& documents_;
   std::filesystem::path workRoot_;
   Watch watch_;
-  WordDocument document_;
+  WordContent document_;
   std::unique_ptr<WordPictures> pictures_;
   std::vector<LostPicture> lostPictures_;
   WordResult result_ = WordResult::Done;

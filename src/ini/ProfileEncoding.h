@@ -10,8 +10,8 @@ namespace quorvantis {
 
 class CodePage;
 
-/// How the text of a profile file is stored: UTF-8 with or without a mark, UTF-16 with one in either order of
-/// bytes, otherwise 8-bit text of a code page.
+/// How the text of a profile file is stored: UTF-8 with or without a byte-order mark, UTF-16 of either byte
+/// order with one, otherwise 8-bit text of a code page.
 class ProfileEncoding {
  public:
   /// The encoding of a file with these bytes. `codePage` may be null; it must outlive the encoding.

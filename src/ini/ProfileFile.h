@@ -28,7 +28,7 @@ class ProfileFile {
   /// of more than 16 MiB are not read.
   bool IsWhole() const { return whole_; }
 
-  /// The value without blanks and one pair of quotes around it; the first one where a key stands more than
+  /// The value without blanks and one pair of quotes around it; the first one if a key occurs more than
   /// once.
   std::optional<std::u16string> Value(std::u16string_view section, std::u16string_view key) const;
 
@@ -36,8 +36,8 @@ class ProfileFile {
   std::map<std::u16string, std::u16string> ValuesOf(std::u16string_view key) const;
 
   /// Sets the value that `Value` finds. A new key goes to the end of its section, a new section to the end of
-  /// the file. False, and nothing is changed, when the file's encoding lacks a character of it, or when a
-  /// line break or NUL in it would be more than a value.
+  /// the file. False, and nothing is changed, if the file's encoding lacks one of its characters, or if it
+  /// contains a line break or NUL.
   bool SetValue(std::u16string_view section, std::u16string_view key, std::u16string_view value);
 
   const std::string& Bytes() const { return bytes_; }

@@ -24,7 +24,7 @@ int ReadProfileInteger(std::u16string_view section, std::u16string_view key, int
                        const ProfileFile& file) {
   const auto value = file.Value(section, key);
   if (!value) return fallback;
-  const bool digits = !value->empty() && value->front() >= u'0' && value->front() <= u'9';
+  const bool digits = !value->empty() && IsDigit(value->front());
   return digits ? ParseInteger(*value) : 0;
 }
 

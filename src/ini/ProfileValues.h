@@ -19,7 +19,7 @@ std::u16string ReadProfileString(std::u16string_view section, std::u16string_vie
                                  std::u16string_view fallback, const ProfileFile& file);
 
 /// The value of a key in each section that has it, by the names of the sections as written in the file; the
-/// first one where a section or a key stands more than once.
+/// first one if a section or a key occurs more than once.
 std::map<std::u16string, std::u16string> ReadProfileStringOfAll(std::u16string_view key,
                                                                 const ProfileFile& file);
 

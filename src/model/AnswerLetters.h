@@ -1,10 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace quorvantis {
+
+/// The letter of option `index` (0 to 4): "A" to "E".
+constexpr char16_t OptionLetter(std::size_t index) {
+  return static_cast<char16_t>(u'A' + index);
+}
+
+/// The index of the option with that letter, in either case; nothing for any other character.
+std::optional<std::size_t> OptionIndex(char16_t letter);
 
 /// The answer mask of a letter string: 16 for each "a" (or "A"), 8 for "b", 4 for "c", 2 for "d", 1 for "e";
 /// other characters add nothing. Repeated letters add up on purpose ("aa" gives 32): the window shows such a

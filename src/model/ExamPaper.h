@@ -12,7 +12,16 @@
 namespace quorvantis {
 
 enum class RandomMode : int { Off = 0, Options = 1, Sequence = 2 };
+/// A file can hold any other number. Deliberate: such an exam has neither one score nor ranges, so pages show
+/// nothing; whoever asks for only one of the two treats it as the other.
 enum class ScoreMode : int { Same = 0, Custom = 1 };
+
+constexpr bool HasOneScore(ScoreMode mode) {
+  return mode == ScoreMode::Same;
+}
+constexpr bool HasScoreRanges(ScoreMode mode) {
+  return mode == ScoreMode::Custom;
+}
 
 /// The questions of an exam with their scores: title, 500 numbered slots, ten score ranges. Plain data with
 /// operations that keep the slots in order. Question numbers are 1 to 500; operations ignore any other

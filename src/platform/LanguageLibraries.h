@@ -17,8 +17,8 @@ namespace quorvantis {
 /// One loaded language library: the texts and pictures of a language. It stays loaded as long as this lives.
 class LanguageLibrary : public StringTable {
  public:
-  /// What the library's `GetLanguageID` returns; nothing when the library does not export it, in which case
-  /// it is no language.
+  /// What the library's `GetLanguageID` returns; nothing if it does not export that function: then it is not
+  /// a language.
   virtual std::optional<std::uint16_t> Id() const = 0;
 
   /// Whether the library has a text of that number, even an empty one.

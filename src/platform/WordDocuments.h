@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/PixelGrid.h"
-#include "platform/WordDocument.h"
+#include "platform/WordContent.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -45,7 +45,7 @@ class WordPictures {
 /// Unless the result is `Done`, the document is empty. `pictures` is null where a document has none.
 struct WordReadOutcome {
   WordResult result = WordResult::Done;
-  WordDocument document{};
+  WordContent document{};
   std::unique_ptr<WordPictures> pictures{};
 };
 

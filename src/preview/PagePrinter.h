@@ -26,7 +26,7 @@ class PagePrinter : public QObject {
   ~PagePrinter() override;
 
   /// Prints once the page is loaded and its documents are converted. Ignored while another print waits or
-  /// asks; while paper is being made, once that is done.
+  /// asks for a printer; while pages are being printed, starts after that.
   void Print();
 
   /// Cancels a print, even while the user is choosing a printer, but not once paper is being made.

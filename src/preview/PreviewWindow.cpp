@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "preview/PreviewWindow.h"
 
+#include "model/WorkFolderNames.h"
 #include "platform/convert/Later.h"
 #include "preview/PageAddress.h"
-#include "render/PreviewPaths.h"
 #include "text/PathText.h"
 
 #include <QApplication>

@@ -60,7 +60,7 @@ void PreviewWindows::Retire(PreviewWindow* window) {
   QObject::connect(&window->Printer(), &PagePrinter::Printed, &keys_, [this, window] {
     std::erase_if(printing_, [window](std::unique_ptr<PreviewWindow>& printed) {
       if (printed.get() != window) return false;
-      printed.release()->deleteLater();  // it is the one that tells
+      printed.release()->deleteLater();  // its printer is just emitting this signal
       return true;
     });
   });

@@ -17,7 +17,7 @@ namespace quorvantis {
 /// destroy this before it.
 class PreviewWindows {
  public:
-  /// Discards a window; one that is printing goes, unseen, when that is done.
+  /// Discards a window; one that is printing is hidden, and goes when that is done.
   struct Discard {
     PreviewWindows* windows;
     void operator()(PreviewWindow* window) const { windows->Retire(window); }

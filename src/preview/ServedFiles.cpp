@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preview/ServedFiles.h"
 
+#include "model/WorkFolderNames.h"
+
 #include <algorithm>
 #include <system_error>
 #include <utility>
@@ -9,8 +11,6 @@ namespace quorvantis {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kWorkFolders[] = {"TEMP", "~TEMP", "~BrelmStudent"};
 
 /// Whether `path` is below `folder`; both without links and dots.
 bool IsBelow(const fs::path& path, const fs::path& folder) {
@@ -34,7 +34,7 @@ std::vector<fs::path> ServedFiles::Places(const fs::path& asked) const {
   if (!IsBelow(asked, pageFolder_)) return places;
   const fs::path relative = asked.lexically_relative(pageFolder_);
   places.push_back(applicationFolder_ / relative);
-  places.push_back(applicationFolder_ / "TEMP" / "ExamPreview" / relative);
+  places.push_back(EditorPageFolder(applicationFolder_) / relative);
   return places;
 }
 
@@ -50,8 +50,10 @@ std::optional<fs::path> ServedFiles::Find(const fs::path& asked) const {
 /// A work folder that is itself a link leads out of the application folder and is not served.
 bool ServedFiles::Permits(const fs::path& real) const {
   const std::optional<fs::path> folder = RealPath(applicationFolder_);
-  return folder && std::any_of(std::begin(kWorkFolders), std::end(kWorkFolders),
-                               [&](const char* name) { return IsBelow(real, *folder / name); });
+  if (!folder) return false;
+  const fs::path workFolders[] = {*folder / kPreviewFolders, *folder / kCopyFolders,
+                                  *folder / kStudentFolders};
+  return std::ranges::any_of(workFolders, [&real](const fs::path& work) { return IsBelow(real, work); });
 }
 
 }  // namespace quorvantis

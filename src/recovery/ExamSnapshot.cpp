@@ -19,7 +19,8 @@ void VisitTexts(Texts& texts, Visitor& visitor) {
   for (auto& text : texts) visitor.Text(text);
 }
 
-/// The fields of the exam itself, except those that the form holds; questions are counted anew.
+/// The fields of the exam itself, except those that are taken from the form and the number of questions,
+/// which is counted when the copy is read.
 template <class Exam, class Visitor>
 void VisitExamPart(Exam& exam, Visitor& visitor) {
   const auto visit = [&visitor](const FieldRow& field, auto& value) {
@@ -153,7 +154,7 @@ class Gathering {
     }
   }
 
-  std::string empty_;  ///< a question that is not written
+  std::string empty_;  ///< an empty question as bytes
 };
 
 void ReadNames(SnapshotReader& fields, std::vector<std::u16string>& names) {

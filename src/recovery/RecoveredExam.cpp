@@ -7,6 +7,7 @@
 #include "examfile/WorkFolder.h"
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
+#include "platform/FolderEntries.h"
 #include "platform/WholeFile.h"
 #include "recovery/ExamSnapshot.h"
 #include "recovery/RecoveryFolder.h"
@@ -51,11 +52,8 @@ bool IsNumber(const std::string& name) {
 
 std::vector<fs::path> FoldersOf(const fs::path& root) {
   std::vector<fs::path> folders;
-  std::error_code error;
-  for (fs::directory_iterator it(root, error), end; !error && it != end; it.increment(error)) {
-    std::error_code ignored;
-    const bool isFolder = fs::is_directory(it->symlink_status(ignored));
-    if (isFolder && IsNumber(it->path().filename().string())) folders.push_back(it->path());
+  for (const fs::path& entry : EntriesOf(root)) {
+    if (IsFolder(entry) && IsNumber(entry.filename().string())) folders.push_back(entry);
   }
   return folders;
 }

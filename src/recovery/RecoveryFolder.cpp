@@ -2,6 +2,7 @@
 #include "recovery/RecoveryFolder.h"
 
 #include "examfile/WorkFolder.h"
+#include "platform/FolderEntries.h"
 #include "platform/WholeFile.h"
 #include "text/PathText.h"
 
@@ -33,15 +34,6 @@ bool IsCopyOf(const fs::path& copy, const fs::path& source) {
   const auto size = fs::file_size(source, error);
   return !error && fs::file_size(copy, error) == size &&
          fs::last_write_time(copy, error) == fs::last_write_time(source, error) && !error;
-}
-
-std::vector<fs::path> EntriesOf(const fs::path& folder) {
-  std::vector<fs::path> entries;
-  std::error_code error;
-  for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
-    entries.push_back(it->path());
-  }
-  return entries;
 }
 
 }  // namespace

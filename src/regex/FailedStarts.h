@@ -24,17 +24,17 @@ class FailedStarts {
     matchSaw_ = 0;
   }
 
-  /// There is no match at `start`, as the text up to and including `seen` shows. Starts are reported in
-  /// ascending order.
+  /// There is no match at `start`; the search looked at the text up to and including `seen`. Starts are
+  /// reported in ascending order.
   void Add(int start, int seen) {
-    // Where one before it saw as far, a search that begins there tries this one again as well.
+    // If an earlier start saw as far, a search that resumes there tries this one again as well.
     if (seen > start && (starts_.empty() || seen > starts_.back().seen)) starts_.push_back({start, seen});
   }
 
   /// The search has ended with a match that looked as far as `seen`.
   void Matched(int seen) { matchSaw_ = seen; }
 
-  /// How far anything that mattered for the last match looked.
+  /// The furthest place that mattered for the last match.
   int Seen() const { return starts_.empty() ? matchSaw_ : std::max(matchSaw_, starts_.back().seen); }
 
   /// The text has changed from `place` on, which is not after the start of the last match. Returns where the

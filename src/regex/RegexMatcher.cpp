@@ -101,7 +101,8 @@ bool RegexMatcher::TakeUnits(Thread& thread) const {
   return true;
 }
 
-/// Where a place can be gone to, the unit there counts as seen, and what lies before it has been.
+/// Notes that the match has looked at the text up to `position`. The unit there counts, too: an instruction
+/// that gets there may look at it.
 void RegexMatcher::See(int position) {
   seen_ = std::max(seen_, std::min(position, length_));
 }

@@ -18,23 +18,23 @@ enum class Op : std::uint8_t {
   Unit,           ///< takes one unit, `unit`
   Set,            ///< takes one unit of `set`
   Repeat,         ///< takes `min` to `max` units of `set`; group `index`, if not kNowhere, gets the last one
-  Split,          ///< goes on at `target`, and at `other` when that fails
-  Jump,           ///< goes on at `target`
-  Assert,         ///< goes on where `assertion` holds
+  Split,          ///< continues at `target`, and at `other` when that fails
+  Jump,           ///< continues at `target`
+  Assert,         ///< continues where `assertion` holds
   MarkPosition,   ///< stores the position in register `index`
   Capture,        ///< group `index` has matched from the position in register `other` to here
-  ExitIfEmpty,    ///< goes on at `target` when the position is that in register `index`, and the count in
+  ExitIfEmpty,    ///< continues at `target` when the position is that in register `index`, and the count in
                   ///< register `other`, if not kNowhere, is at least `min`
   ResetCounter,   ///< register `index` becomes 0
   CountedLoop,    ///< counts in register `index` and enters the body below; leaves to `target` from `min` on
   BackReference,  ///< takes what group `index` matched
-  Look,       ///< tries the body below, to its LookEnd at `target`; goes on at `other` when the body fails
-  LookEnd,    ///< the body of the Look with register `index` matched: goes on at `target` from before it
+  Look,       ///< tries the body below, to its LookEnd at `target`; continues at `other` when the body fails
+  LookEnd,    ///< the body of the Look with register `index` matched: continues at `target` from before it
   Atomic,     ///< begins a body whose choices are dropped at its end
   AtomicEnd,  ///< ends the body of the Atomic with register `index`
   Call,       ///< runs the code of group `index` at `target` and comes back
   Return,     ///< comes back if the code of group `index` was called
-  IfGroup,    ///< goes on at `target` if group `index` took part, at `other` if not
+  IfGroup,    ///< continues at `target` if group `index` took part, at `other` if not
   Match,      ///< the pattern has matched
 };
 
@@ -52,18 +52,18 @@ struct Instruction {
   int index = kNowhere;
   int min = 0;
   int max = 0;
-  /// The first of this instruction's rows in the memory of failures, which depend on the marks of the loops
-  /// around, a range of RegexProgram::marks; kNowhere where failures may not be kept.
+  /// The first of this instruction's rows in the memory of failures; kNowhere if its failures must not be
+  /// kept. There is a row for each state of the marks of the enclosing loops, a range of RegexProgram::marks.
   int memory = kNowhere;
   int firstMark = 0;
   int markCount = 0;
   const CharacterSet* set = nullptr;
-  /// The units that can come first at `target` and `other` of a Split, or below a Repeat (`first` alone);
-  /// null where any can, or none needs to.
+  /// The units that can come first at `target` and `other` of a Split, or after a Repeat (`first` alone);
+  /// null where any unit can, or none is needed.
   const CharacterSet* first = nullptr;
   const CharacterSet* otherFirst = nullptr;
-  /// Of a greedy Repeat: no number of units but the largest needs to be tried. What follows cannot begin with
-  /// a unit that is repeated, or always matches.
+  /// Of a greedy Repeat: only the largest number of units needs to be tried, because what follows cannot
+  /// begin with a repeated unit, or always matches.
   bool onlyMost = false;
   const UnitSearch* endOfUnits = nullptr;  ///< of a Repeat that takes units forward: the first not in `set`
   const StartSearch* endOfRepeat =
@@ -74,12 +74,12 @@ struct Instruction {
 struct RegexProgram {
   std::vector<Instruction> code;
   std::vector<std::shared_ptr<const CharacterSet>> sets;  ///< what the instructions point to
-  std::vector<int> marks;  ///< registers with the positions where iterations began that may be empty
+  std::vector<int> marks;  ///< registers with the starts of iterations that can be empty
   int groups = 1;          ///< the whole match is group 0
   int registers = 0;
   int memoryRows = 0;
   bool backward = false;                ///< right-to-left
-  bool onlyAtTextStart = false;         ///< no match begins behind the start of the text
+  bool onlyAtTextStart = false;         ///< a match can begin only at the start of the text
   const CharacterSet* first = nullptr;  ///< the units that a match can begin with; null for any, or none
   const StartSearch* starts = nullptr;  ///< where a match can begin; null for anywhere, or if backward
   std::vector<std::shared_ptr<const UnitSearch>> unitSearches;    ///< what the instructions point to

@@ -27,8 +27,8 @@ bool RegexMatcher::RepeatExactly(const Instruction& instruction, Thread& thread)
   return EndRepeat(instruction, thread, start, end);
 }
 
-/// How far the units of a Repeat go from `position`: to the last one that can be taken, or to a position that
-/// is known to fail, and with it all behind it.
+/// The furthest position that a Repeat at `position` can get to, short of one that is known to have failed:
+/// all beyond it have failed with it.
 int RegexMatcher::Extent(const Instruction& instruction, int position) {
   const int step = instruction.backward ? -1 : 1;
   const bool stops = IsRemembered(instruction) && instruction.max == kUnlimited;

@@ -14,8 +14,8 @@ namespace quorvantis {
 /// leaves out cannot match; one that it finds need not.
 class StartSearch {
  public:
-  /// At `offset` from the place (-1, 0 or 1) a unit of a set has to stand. Nothing has to stand before the
-  /// start of the text.
+  /// At `offset` (-1, 0 or 1) from the place there must be one of these units. What would be before the start
+  /// of the text always qualifies.
   struct Condition {
     int offset;
     std::shared_ptr<const CharacterSet> units;
@@ -27,13 +27,13 @@ class StartSearch {
   /// The first such place from `from` on; nothing for none.
   std::optional<int> Find(std::u16string_view text, int from) const;
 
-  /// How far behind a place the units lie that decide whether it is left out.
+  /// How many units past a place may decide whether it is left out: 0 or 1.
   int Reach() const;
 
  private:
   bool CanBegin(std::u16string_view text, int place) const;
 
-  std::vector<Condition> conditions_;  ///< the first one is searched for, the others are looked at then
+  std::vector<Condition> conditions_;  ///< the first one is searched for, the others are checked there
   UnitSearch search_;
 };
 

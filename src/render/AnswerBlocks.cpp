@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/AnswerBlocks.h"
 
-#include "platform/Texts.h"
+#include "model/AnswerLetters.h"
+#include "platform/TextNumbers.h"
 #include "render/Template.h"
 #include "render/TextToHtml.h"
 #include "text/AsciiCase.h"
@@ -51,14 +52,10 @@ constexpr Template<Text, Text, Text, Text> kEssayKeyAndAnswer{
 constexpr Template<Text, Text> kEssayKey{
     uR"(<font color="blue">%s :</font><br><font color="black"> %s</font>)"};
 
-char16_t LetterFrom(char16_t first, std::size_t place) {
-  return static_cast<char16_t>(first + place);
-}
-
 std::u16string Capitals(const LetterFlags& letters) {
   std::u16string capitals;
   for (std::size_t place = 0; place < letters.size(); ++place) {
-    if (letters[place]) capitals += LetterFrom(u'A', place);
+    if (letters[place]) capitals += OptionLetter(place);
   }
   return capitals;
 }
@@ -79,8 +76,7 @@ LetterFlags LettersToFlags(std::u16string_view text) {
   LetterFlags flags{};
   if (text == u"null") return flags;
   for (const char16_t unit : text) {
-    const char16_t lower = AsciiLower(unit);
-    if (lower >= u'a' && lower <= u'e') flags[static_cast<std::size_t>(lower - u'a')] = true;
+    if (const auto option = OptionIndex(unit)) flags[*option] = true;
   }
   return flags;
 }
@@ -99,7 +95,7 @@ AnswerBlocks::AnswerBlocks(const ExamQuestion& question, int number, const Rende
 /// student sees a list, but the place is scored.
 std::u16string AnswerBlocks::ChoiceBlock() const {
   std::u16string html;
-  char16_t letter = u'A';
+  char16_t letter = OptionLetter(0);
   for (std::size_t option = 0; option < kOptionCount && flags_.question; ++option) {
     if (question_.options[option].empty()) continue;
     html +=
@@ -112,7 +108,7 @@ std::u16string AnswerBlocks::ChoiceBlock() const {
 }
 
 std::u16string AnswerBlocks::OptionCell(std::size_t option, char16_t letter) const {
-  const char16_t place = LetterFrom(u'a', option);
+  const char16_t place = AsciiLower(OptionLetter(option));
   if (printLayout_) return option == 0 ? kLabelOfA(number_, place, letter) : kLabel(number_, place, letter);
   if (flags_.key && key_[option]) return kKeyBox(number_, place, letter);
   return flags_.key ? kDisabledBox(number_, place, number_, letter) : kBox(number_, place, number_, letter);

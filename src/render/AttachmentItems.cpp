@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "render/AttachmentItems.h"
 
+#include "model/MediaKinds.h"
 #include "render/AttachmentPath.h"
 #include "render/MediaPlayerScript.h"
 #include "render/Template.h"
-
-#include <algorithm>
+#include "text/PathText.h"
 
 namespace quorvantis {
 namespace {
@@ -24,12 +24,6 @@ constexpr Template<Text> kFlash{
     uR"(<div align="Left">\r\n)"
     uR"(<embed src="%s" width="650" height="400">\r\n)"
     uR"(</div><br>\r\n)"};
-
-/// Flash counts as a video here, although its extension never selects the player.
-bool HasVideoExtension(std::u16string_view source) {
-  constexpr std::u16string_view kVideos[] = {u"wmv", u"avi", u"mpeg", u"asf", u"swf"};
-  return std::ranges::find(kVideos, ExtensionOrNothing(source)) != std::end(kVideos);
-}
 
 }  // namespace
 
@@ -55,7 +49,7 @@ std::u16string AttachmentItem(const ExamServices& services, std::u16string_view 
   const std::u16string extension = ExtensionOrNothing(path);
   if (IsFoundIn(kPictureExtensions, extension)) return ImageItem(path);
   if (IsFoundIn(kMediaExtensions, extension)) return MediaItem(services, path, 0, oralFlag);
-  if (IsFoundIn(kQuestionDocumentExtensions, extension)) return DocumentItem(path);
+  if (IsFoundIn(kDocumentExtensions, extension)) return DocumentItem(path);
   if (IsFoundIn(kFlashExtensions, extension)) return FlashItem(path);
   return MediaItem(services, path, 0, 0);
 }

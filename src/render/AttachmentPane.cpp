@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/AttachmentPane.h"
 
+#include "model/MediaKinds.h"
 #include "model/document/ExamServices.h"
 #include "render/AttachmentItems.h"
 #include "render/AttachmentPath.h"
@@ -27,15 +28,15 @@ constexpr Template<> kRowsEnd{uR"(</FRAMESET>\r\n)"};
 enum class PaneClass { Document, Picture, Media, Other };
 
 PaneClass ClassOf(std::u16string_view path) {
-  constexpr Text kDocuments[] = {u"doc", u"docx", u"ppt", u"pptx", u"xls", u"xlsx", u"txt"};
-  constexpr Text kPictures[] = {u"jpg", u"jpeg", u"swf", u"bmp", u"gif"};
-  constexpr Text kMedia[] = {u"mpg", u"mpeg", u"dat", u"mp3", u"asf", u"avi", u"wav", u"wmv", u"wma"};
   const std::u16string extension = ExtensionOrPath(path);
-  const auto isOneOf = [&](const auto& list) { return std::ranges::find(list, extension) != std::end(list); };
-  if (isOneOf(kDocuments)) return PaneClass::Document;
-  if (isOneOf(kPictures)) return PaneClass::Picture;
-  return isOneOf(kMedia) ? PaneClass::Media : PaneClass::Other;
+  if (IsOneOf(kDocumentExtensions, extension)) return PaneClass::Document;
+  if (IsOneOf(kPictureExtensions, extension) || IsOneOf(kFlashExtensions, extension))
+    return PaneClass::Picture;
+  return IsOneOf(kMediaExtensions, extension) ? PaneClass::Media : PaneClass::Other;
 }
+
+/// Deliberate: inside the pane newer documents ("docx") get no item.
+constexpr Text kPaneDocumentExtensions = u"doc,ppt,xls,txt";
 
 /// The heights of the frames in whole percent; the last takes the rest.
 std::u16string Rows(int frames) {

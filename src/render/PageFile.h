@@ -17,7 +17,7 @@ class PageFile {
   /// `pages` must outlive the file.
   PageFile(std::filesystem::path file, PageStore& pages);
 
-  /// As UTF-8, with one zero byte behind it; a lone surrogate becomes U+FFFD.
+  /// As UTF-8, followed by one zero byte; a lone surrogate becomes U+FFFD.
   void WriteUtf8(std::u16string page);
 
   /// As UTF-16LE without a mark, of which only the first (number of units + 1) bytes are written: little more

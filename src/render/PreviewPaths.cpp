@@ -1,23 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "render/PreviewPaths.h"
 
+#include "model/WorkFolderNames.h"
 #include "model/document/ExamServices.h"
 #include "model/document/FrameSetExam.h"
-#include "text/NumberText.h"
-#include "text/PathText.h"
 
 #include <string>
 
 namespace quorvantis {
 namespace fs = std::filesystem;
-
-fs::path EditorPageFolder(const fs::path& applicationFolder) {
-  return applicationFolder / "TEMP" / "ExamPreview";
-}
-
-fs::path StudentPageFolder(std::u16string_view number) {
-  return TextToPath(kStudentFolders) / ("ID" + std::to_string(ParseInteger(number)));
-}
 
 fs::path PageFolder(const FrameSetExam& exam) {
   return exam.locationMode != 0 ? EditorPageFolder(exam.Services().applicationFolder)

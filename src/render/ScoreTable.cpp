@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/ScoreTable.h"
 
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "render/Template.h"
 
 namespace quorvantis {
@@ -41,8 +41,8 @@ std::u16string ScoreTable(const ExamPaper& exam, const StringTable& strings) {
   const bool printLayout = exam.pageRenderer.printLayout != 0;
   const std::u16string title = strings.Text(text_id::kScoreDistribution);
   std::u16string html = printLayout ? kPrintHeading(title) : kHeading(title);
-  if (exam.scoreMode == ScoreMode::Custom) html += Ranges(exam, strings);
-  if (exam.scoreMode == ScoreMode::Same) html += kSameScores(strings.Text(text_id::kSameScores));
+  if (HasScoreRanges(exam.scoreMode)) html += Ranges(exam, strings);
+  if (HasOneScore(exam.scoreMode)) html += kSameScores(strings.Text(text_id::kSameScores));
   if (!printLayout) html += u"<br>";
   return html;
 }

@@ -56,9 +56,8 @@ std::u16string FillTemplate(std::u16string_view text, std::span<const TemplateVa
 
 /// A piece of a page with places for values. Templates are written as raw literals, so that each can be
 /// compared with the page character by character: "\r", "\n", "\t" and "\\" in them are what they are in
-/// other literals, and "%d",
-/// "%03d", "%1.2f", "%c", "%s" are the places. That these fit the types of the values is proved when
-/// compiling.
+/// other literals, and "%d", "%03d", "%1.2f", "%c" and "%s" are the places. The compiler checks that they fit
+/// the types of the values.
 template <class... Values>
 class Template {
  public:

@@ -13,7 +13,7 @@ struct ScoreDistribution {
   std::array<int, kScoreRanges> scoreFrom{};     ///< first question of each range
   std::array<int, kScoreRanges> scoreTo{};       ///< last question of each range; 0: the range is unused
   std::array<float, kScoreRanges> scoreValue{};  ///< score of each question of the range
-  ScoreMode scoreMode = ScoreMode::Same;         ///< a file can hold any number
+  ScoreMode scoreMode = ScoreMode::Same;
 };
 
 ScoreDistribution DistributionOf(const ExamPaper& exam);

@@ -8,10 +8,6 @@ namespace {
 
 constexpr std::size_t kLastRange = kScoreRanges - 1;
 
-constexpr bool IsDigit(char16_t unit) {
-  return unit >= u'0' && unit <= u'9';
-}
-
 /// Range 1 is recognised by its end, since it has no field for its start; the others by their start. A range
 /// with a start of its own is shown even when its end is 0.
 bool IsShown(const ScoreDistribution& ranges, std::size_t i) {
@@ -29,7 +25,7 @@ ScoreFields ShowRanges(const ScoreDistribution& ranges) {
     fields.to[i] = {FormatInteger(ranges.scoreTo[i]), i == kLastRange};
     fields.score[i] = {FormatScore(ranges.scoreValue[i]), false};
   }
-  fields.radio = ranges.scoreMode != ScoreMode::Same ? 1 : 0;
+  fields.radio = HasOneScore(ranges.scoreMode) ? 0 : 1;
   return fields;
 }
 

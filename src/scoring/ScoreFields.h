@@ -19,7 +19,7 @@ struct ScoreField {
 
 /// What the score setup shows: the fields of ten ranges (index 0 to 9) and the pair of radio buttons.
 struct ScoreFields {
-  std::array<ScoreField, kScoreRanges> from;  ///< never editable; that of range 1 does not exist, it is empty
+  std::array<ScoreField, kScoreRanges> from;  ///< never editable; range 1 has none, its text stays empty
   std::array<ScoreField, kScoreRanges> to;
   std::array<ScoreField, kScoreRanges> score;
   int radio = 0;  ///< 0: each question the same score, 1: ranges

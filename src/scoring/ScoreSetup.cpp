@@ -22,12 +22,12 @@ ScoreDistribution RangesWithin(const ScoreDistribution& given, int questionCount
       if (i == 0) ranges.scoreFrom[0] = given.scoreFrom[0];
       break;
     }
-    if (given.scoreMode != ScoreMode::Custom) break;
+    if (!HasScoreRanges(given.scoreMode)) break;
     ranges.scoreFrom[i] = given.scoreFrom[i];
     ranges.scoreTo[i] = given.scoreTo[i];
     ranges.scoreValue[i] = given.scoreValue[i];
   }
-  if (given.scoreMode != ScoreMode::Custom) ranges.scoreTo[0] = questionCount;
+  if (!HasScoreRanges(given.scoreMode)) ranges.scoreTo[0] = questionCount;
   return ranges;
 }
 
@@ -51,9 +51,9 @@ void ScoreSetup::SetDistribution(const ScoreDistribution& distribution) {
   fields_ = ShowRanges(ranges_);
 }
 
-void ScoreSetup::GetDistribution(ScoreDistribution& distribution) {
-  ranges_.scoreFrom[0] = 1;
+void ScoreSetup::GetDistribution(ScoreDistribution& distribution) const {
   distribution = ranges_;
+  distribution.scoreFrom[0] = 1;
 }
 
 bool ScoreSetup::IsEndEditable(int range) const {

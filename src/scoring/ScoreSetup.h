@@ -14,13 +14,13 @@ namespace quorvantis {
 /// into them, and gives the distribution back.
 ///
 /// Ranges are re-cut at every change of an end's text, so an end of two digits is best pasted, stepped or
-/// dragged. The fields hold more than the ranges do: a typed score gets into the ranges only by ReadBack, and
-/// is gone when a change of an end shows the ranges anew before that.
+/// dragged. The fields hold more than the ranges do: a typed score enters the ranges only with ReadBack, and
+/// is lost if an end changes before that, since the fields then show the ranges again.
 ///
 /// Ranges have the numbers 1 to 10.
 class ScoreSetup {
  public:
-  /// Questions of the exam, 0 to 500; to be set before the distribution.
+  /// Questions of the exam, 0 to 500. Set this before the distribution.
   void SetQuestionCount(int count) { questionCount_ = count; }
   int QuestionCount() const { return questionCount_; }
 
@@ -28,7 +28,7 @@ class ScoreSetup {
   void SetDistribution(const ScoreDistribution& distribution);
 
   /// The distribution as of the last ReadBack; range 1 starts with question 1 whatever it was.
-  void GetDistribution(ScoreDistribution& distribution);
+  void GetDistribution(ScoreDistribution& distribution) const;
 
   const ScoreFields& Fields() const { return fields_; }
 

@@ -2,7 +2,7 @@
 #include "search/SearchTexts.h"
 
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"

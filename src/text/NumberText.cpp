@@ -11,9 +11,6 @@ namespace {
 constexpr bool IsBlank(char16_t unit) {
   return unit == u' ' || (unit >= u'\t' && unit <= u'\r');
 }
-constexpr bool IsDigit(char16_t unit) {
-  return unit >= u'0' && unit <= u'9';
-}
 
 struct SignedText {
   bool negative;

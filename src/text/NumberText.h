@@ -8,6 +8,11 @@
 
 namespace quorvantis {
 
+/// A decimal digit, 0 to 9, and no digit of another script.
+constexpr bool IsDigit(char16_t unit) {
+  return unit >= u'0' && unit <= u'9';
+}
+
 /// Reads a number as C's atoi does: blanks, a sign, then leading digits; anything else gives 0. Values out of
 /// range become the nearest limit of the type.
 int ParseInteger(std::u16string_view text);

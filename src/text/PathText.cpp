@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/PathText.h"
 
+#include "text/AsciiCase.h"
 #include "text/Utf.h"
 
 #include <charconv>
@@ -71,6 +72,14 @@ std::u16string FitFileName(std::u16string_view name, std::size_t maxBytes) {
   const bool keepsExtension = dot != std::string::npos && whole.size() - dot <= kMaxExtensionBytes;
   const std::string tail = std::string(hash, end) + (keepsExtension ? whole.substr(dot) : "");
   return PathToText(std::string(CutUtf8(whole, maxBytes - tail.size())) + tail);
+}
+
+std::u16string ExtensionOrPath(std::u16string_view path) {
+  return AsciiLower(path.substr(path.rfind(u'.') + 1));  // npos + 1 is 0
+}
+
+std::u16string ExtensionOrNothing(std::u16string_view path) {
+  return path.find(u'.') == std::u16string_view::npos ? std::u16string() : ExtensionOrPath(path);
 }
 
 }  // namespace quorvantis

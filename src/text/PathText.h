@@ -23,4 +23,9 @@ constexpr std::size_t kMaxFileNameBytes = 255;
 /// system.
 std::u16string FitFileName(std::u16string_view name, std::size_t maxBytes = kMaxFileNameBytes);
 
+/// What follows the last dot of the whole path, in lower case: in "a.b/file" that is "b/file". Deliberate:
+/// the two forms differ for a path without a dot, since the places that use them always have.
+std::u16string ExtensionOrPath(std::u16string_view path);     ///< the whole path then
+std::u16string ExtensionOrNothing(std::u16string_view path);  ///< an empty text then
+
 }  // namespace quorvantis

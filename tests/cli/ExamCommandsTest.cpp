@@ -10,13 +10,6 @@ namespace fs = std::filesystem;
 
 class ExamCommands : public CommandLineTest {};
 
-TEST_F(ExamCommands, ShowTellsThatAFileIsCut) {
-  Build({{"questions", {{{"text", "a"}}}}});
-  EXPECT_EQ(Shown()["truncated"], false);
-  fs::resize_file(folder / "exam.exm", fs::file_size(folder / "exam.exm") - 10);
-  EXPECT_EQ(Shown()["truncated"], true);
-}
-
 TEST_F(ExamCommands, UnpackStaysInItsFolder) {
   WriteBytes(folder / "a.txt", "exam's");
   WriteBytes(folder / "b/a.txt", "question's");

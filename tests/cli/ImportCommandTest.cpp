@@ -84,23 +84,19 @@ TEST_F(ImportCommand, ReadsTheSamplePapers) {
   const struct {
     const char* repository;
     const char* paper;
-    std::string first;
     std::string questions;
-  } rows[] = {
-      {"English, answers after", "english-own-answers.txt", "choice: Which planet is closest to the sun? [Ve",
-       "5 questions read: 2 choice, 0 true/false, 2 fill-in, 1 essay.\n"},
-      {"English, answers at", "english-answer-key.txt", "choice: Which river flows through Cairo? [Nile] [C",
-       "6 questions read: 3 choice, 3 true/false, 0 fill-in, 0 essay.\n"},
-      {"中文，答案在题后", "chinese-own-answers.txt",
-       "choice: 离太阳最近的行星是哪一颗？ [金星] [水星] [火星] B\n",
-       "5 questions read: 2 choice, 0 true/false, 2 fill-in, 1 essay.\n"},
-      {"中文，答案在卷末", "chinese-answer-key.txt", "choice: 流经开罗的是哪条河？ [尼罗河] [刚果河] A\n",
-       "5 questions read: 2 choice, 3 true/false, 0 fill-in, 0 essay.\n"}};
+  } rows[] = {{"English, answers after", "english-own-answers.txt",
+               "5 questions read: 2 choice, 0 true/false, 2 fill-in, 1 essay.\n"},
+              {"English, answers at", "english-answer-key.txt",
+               "6 questions read: 3 choice, 3 true/false, 0 fill-in, 0 essay.\n"},
+              {"中文，答案在题后", "chinese-own-answers.txt",
+               "5 questions read: 2 choice, 0 true/false, 2 fill-in, 1 essay.\n"},
+              {"中文，答案在卷末", "chinese-answer-key.txt",
+               "5 questions read: 2 choice, 3 true/false, 0 fill-in, 0 essay.\n"}};
   for (const auto& row : rows) {
     const RunResult run = Command({"import", (papers / row.paper).string(), Path("exam.exm"), "--rules",
                                    (papers / "ImportExam.ini").string(), "--repository", row.repository});
     EXPECT_TRUE(run.out.starts_with(row.questions)) << run.out << run.err;
-    EXPECT_TRUE(Questions().starts_with(row.first)) << Questions();
     EXPECT_EQ(Questions().find("====="), std::string::npos);
   }
 }
@@ -167,7 +163,6 @@ TEST_F(ImportCommand, CanBeUndone) {
     EXPECT_NE(outcome(import + answers + "\n").second, untouched.second) << answers;
   }
   EXPECT_EQ(outcome(import + "new\nnext\ntext more\nundo-import\n"), untouched);
-  EXPECT_EQ(outcome(import + "continue pictures ignore\n").first["currentQuestion"], 4);
   ExpectFailure(Command({"edit"}, "import a b c\n"), "continue or new");
   const RunResult late =
       Command({"edit", "--app-folder", Path("app")}, import + "\nreply no\nnew\nundo-import\n");

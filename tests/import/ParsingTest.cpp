@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ImportTest.h"
-#include "import/AnswerBlock.h"
+#include "import/ParseAnswer.h"
 #include "model/document/FrameSetExam.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/TemporaryFolder.h"

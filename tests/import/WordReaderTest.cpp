@@ -18,7 +18,7 @@ class TypedDocuments : public WordDocuments {
     return {WordResult::Done, document, std::make_unique<Pictures>()};
   }
 
-  WordDocument document;
+  WordContent document;
 
  private:
   class Pictures : public WordPictures {

@@ -115,12 +115,6 @@ class PreviewTest : public testing::Test {
     return WaitFor([&] { return Evaluate("Boolean(" + script + ")").toBool(); }, limit);
   }
 
-  /// Saves screenshots for people to look at, if the environment names a folder for them.
-  void SaveLook(const QString& name) {
-    const QString shots = qEnvironmentVariable("QUORVANTIS_TEST_PICTURES");
-    if (!shots.isEmpty()) Window().grab().save(shots + '/' + name + ".png");
-  }
-
   TemporaryFolder folder;
   std::filesystem::path app = std::filesystem::canonical(folder.Path()) / "app";
   std::filesystem::path previewFolder = app / "TEMP" / "ExamPreview";

@@ -251,17 +251,5 @@ TEST_F(RecoveryTest, DamagedCopiesAreKeptAside) {
   EXPECT_FALSE(fs::exists(copy));
 }
 
-TEST_F(RecoveryTest, TriesAgainWhenACopyCannotBeWritten) {
-  const fs::path root = RecoveryRoot(world.services.applicationFolder);
-  WriteBytes(root, "a file in its place");
-  Type(FormField::Text, u"text");
-  keeper.LookAndWait();
-  EXPECT_TRUE(keeper.Failure());
-  fs::remove(root);
-  keeper.LookAndWait();
-  EXPECT_FALSE(keeper.Failure());
-  EXPECT_EQ(Copies().size(), 1u);
-}
-
 }  // namespace
 }  // namespace quorvantis::test

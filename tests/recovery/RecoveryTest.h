@@ -2,10 +2,10 @@
 #pragma once
 
 #include "../editor/EditorTest.h"
+#include "editor/UnseenView.h"
 #include "recovery/RecoveredExam.h"
 #include "recovery/RecoveryFolder.h"
 #include "recovery/RecoveryKeeper.h"
-#include "support/UnseenView.h"
 
 #include <map>
 #include <optional>

@@ -2,8 +2,6 @@
 #include "RegexTest.h"
 #include "regex/RegexFlags.h"
 
-#include <string_view>
-
 namespace quorvantis::test {
 namespace {
 
@@ -52,20 +50,6 @@ TEST(RegexPattern, ContinuesWhereTheLastMatchEnded) {
       << "without a match before, it is where the scan begins";
 }
 
-TEST(RegexPattern, EntriesOfAResult) {
-  const MatchResult result = RegexPattern(u"(a)|b", 3).Match(u"cb");
-  EXPECT_NE(result.Entry(0, 0), 0);
-  EXPECT_EQ(result.Entry(2, -1), 1);
-  EXPECT_EQ(result.Entry(4, 9), -1);
-  EXPECT_EQ(result.Entry(99, 7), 7);
-  EXPECT_EQ(RegexPattern(u"x", 3).Match(u"cb").Entry(0, 0), 0);
-}
-
-TEST(RegexPattern, TextEndsBeforeItsFirstNul) {
-  const std::u16string_view text(u"ab\0c", 4);
-  EXPECT_FALSE(RegexPattern(u"c", 3).Match(TextBeforeNul(text)).IsMatched());
-}
-
 /// Each of these would take longer than the age of the world if every way were tried, or would overflow a
 /// stack.
 TEST(RegexPattern, OrdinaryPatternsEnd) {
@@ -93,15 +77,6 @@ TEST(RegexPattern, OrdinaryPatternsEnd) {
   const std::u16string large(5'000'000, u'a');
   EXPECT_FALSE(RegexPattern(u"(a|b)*c", 3).Match(large).IsMatched());
   EXPECT_TRUE(RegexPattern(u"(?:a(b)?)*$", 3).Match(large).IsMatched());
-}
-
-TEST(RegexPattern, ACancelledMatchIsNotNoMatch) {
-  const RegexPattern pattern(u"(?:(a|aa)+\\1)+b", 3);
-  MatchContext context;
-  int asked = 0;
-  context.isCancelled = [&asked] { return ++asked > 3; };
-  EXPECT_EQ(pattern.Match(std::u16string(5000, u'a'), -1, &context).Outcome(), MatchOutcome::Cancelled);
-  EXPECT_EQ(RegexPattern(u"x", 3).Match(u"a").Outcome(), MatchOutcome::NoMatch);
 }
 
 }  // namespace

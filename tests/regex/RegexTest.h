@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace quorvantis::test {
 
@@ -21,21 +20,6 @@ inline std::string Bounds(const RegexPattern& pattern, const MatchResult& result
     bounds += result.GroupStart(group) < 0 ? "-" : start + "-" + std::to_string(result.GroupEnd(group));
   }
   return bounds;
-}
-
-struct MatchCase {
-  std::u16string pattern;
-  std::u16string text;
-  std::string bounds;
-  int flags = 3;
-};
-
-inline void CheckMatches(const std::vector<MatchCase>& cases) {
-  for (const MatchCase& row : cases) {
-    const RegexPattern pattern(row.pattern, row.flags);
-    const std::string shown(row.pattern.begin(), row.pattern.end());
-    EXPECT_EQ(Bounds(pattern, pattern.Match(row.text)), row.bounds) << shown << "  flags " << row.flags;
-  }
 }
 
 }  // namespace quorvantis::test

@@ -1,16 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "RenderTest.h"
-#include "render/AnswerBlocks.h"
 #include "render/QuestionRow.h"
 
 namespace quorvantis::test {
 namespace {
-
-TEST(LettersToFlags, TakesTheLettersAToEInEitherCase) {
-  EXPECT_EQ(LettersToFlags(u"Null"), LetterFlags{});
-  EXPECT_EQ(LettersToFlags(u"EDAA"), (LetterFlags{true, false, false, true, true}));
-  EXPECT_EQ(LettersToFlags(u"xb\u00E9"), (LetterFlags{false, true, false, false, false}));
-}
 
 using QuestionRowTest = RenderTest;
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "RenderTest.h"
 #include "render/PageFile.h"
-#include "render/Template.h"
 #include "render/TextToHtml.h"
 
 #include <gtest/gtest.h>
@@ -12,11 +11,6 @@ namespace quorvantis::test {
 namespace {
 
 using namespace std::string_literals;
-
-TEST(Template, FillsEveryKindOfPlace) {
-  constexpr Template<int, Text, char16_t, int, float> kAll{uR"(%d|%s|%c|%03d|%1.2f|%%)"};
-  EXPECT_EQ(kAll(-7, u"%d <b>\\r", u'E', 7, 2.5F), u"-7|%d <b>\\r|E|007|2.50|%");
-}
 
 /// Exams with lone LFs have always lost these characters.
 TEST(TextToHtml, TakesOneMoreCharacterWithEachLineEnd) {
@@ -36,13 +30,6 @@ class PageFileTest : public RenderTest {
  protected:
   const fs::path file = folder / "page.htm";
 };
-
-TEST_F(PageFileTest, WritesUtf8WithOneZeroByte) {
-  PageFile(file, world.pages).WriteUtf8(u"a\u00E9\u4E2D\U0001F600\xD800z");
-  EXPECT_EQ(ReadBytes(file), "a\xC3\xA9\xE4\xB8\xAD\xF0\x9F\x98\x80\xEF\xBF\xBDz\0"s);
-  PageFile(file, world.pages).WriteUtf8(u"");
-  EXPECT_EQ(ReadBytes(file), "\0"s);
-}
 
 TEST_F(PageFileTest, CutsUtf16ToOneByteMoreThanItHasUnits) {
   const std::pair<std::u16string, std::string> rows[] = {

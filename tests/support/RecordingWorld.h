@@ -32,7 +32,6 @@ class RecordingDialogs : public UserDialogs {
   LossAnswer lossAnswer = LossAnswer::SaveAnyway;
   std::deque<SaveAnswer> answers;
   std::deque<bool> yesNoAnswers;
-  std::function<void()> whileAsking;
   std::deque<std::filesystem::path> filesToOpen;
   std::deque<std::filesystem::path> filesToSave;
   std::vector<FileDialogRequest> requests;
@@ -42,7 +41,6 @@ class RecordingDialogs : public UserDialogs {
   void ShowDone(std::u16string_view text) override { done.emplace_back(text); }
   bool AskYesNo(std::u16string_view question) override {
     questions.emplace_back(question);
-    if (whileAsking) whileAsking();
     return Next(yesNoAnswers).value_or(false);
   }
   LossAnswer AskAboutLosses(const LossQuestion& question) override {

@@ -4,15 +4,12 @@
 #include "support/TemporaryFolder.h"
 
 #include <cstddef>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-#include <linux/capability.h>
 #include <sched.h>
 #include <string>
 #include <sys/mount.h>
 #include <sys/statvfs.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace quorvantis::test {
@@ -49,16 +46,6 @@ class TinyDisk {
  private:
   static void Write(const char* file, const std::string& text) { std::ofstream(file) << text << std::flush; }
 
-  /// The owner of a namespace ignores file permissions.
-  static void ObeyPermissions() {
-    if (::geteuid() == 0) return;
-    __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
-    __user_cap_data_struct capabilities[_LINUX_CAPABILITY_U32S_3];
-    ::syscall(SYS_capget, &header, capabilities);
-    capabilities[0].effective &= ~(1U << CAP_DAC_OVERRIDE | 1U << CAP_DAC_READ_SEARCH);
-    ::syscall(SYS_capset, &header, capabilities);
-  }
-
   /// From now on mounts of this process do not affect others.
   static bool Isolate() {
     const std::string user = std::to_string(::geteuid());
@@ -69,7 +56,6 @@ class TinyDisk {
       Write("/proc/self/uid_map", user + " " + user + " 1");
       Write("/proc/self/gid_map", group + " " + group + " 1");
     }
-    ObeyPermissions();
     return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
   }
 

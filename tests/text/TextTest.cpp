@@ -32,6 +32,7 @@ TEST(ParseInteger, FollowsAtoiAndStopsAtTheLimits) {
   EXPECT_EQ(ParseInteger64(u"4294967296"), 4294967296);
   constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
   ExpectAll(ParseInteger64, {u"9223372036854775807", u"9223372036854775808", u"99999999999999999999"}, kMax);
+  EXPECT_EQ(ParseInteger64(u"9223372036854775806"), kMax - 1);
   ExpectAll(ParseInteger64, {u"-9223372036854775808", u"-9223372036854775809"}, -kMax - 1);
 }
 

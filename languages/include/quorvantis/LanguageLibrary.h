@@ -39,7 +39,8 @@ QUORVANTIS_EXPORT int GetLanguageID(void);
  * stand in the order of the English text; numbered ones, %1 to %9, may stand in any order. */
 QUORVANTIS_EXPORT const char* GetLanguageText(int number);
 
-/* The text of a control in a dialog, or null. Control 0 is the caption of the dialog. */
+/* The text of a control in a dialog, or null. Control 0 is the caption of the dialog. An empty text counts as
+ * none. */
 QUORVANTIS_EXPORT const char* GetLanguageDialogText(int dialog, int control);
 
 /* The picture of that name ("NextQuestionU"; "206" for a numbered one) as a PNG file in memory of *size

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/controls/QtText.h"
-#include "platform/DialogTexts.h"
+#include "platform/DialogTextNumbers.h"
 #include "platform/LanguageLibraries.h"
 #include "shell/language/BuiltInDialogTexts.h"
 
@@ -11,14 +11,10 @@ namespace quorvantis {
 /// The texts of one dialog's controls: those of a language, or the built-in ones if it has none.
 class DialogText {
  public:
-  /// `language`, which may be null, must outlive this. `dialog` is a number of platform/DialogTexts.h.
+  /// `language`, which may be null, must outlive this. `dialog` is a number of platform/DialogTextNumbers.h.
   DialogText(const LanguageLibrary* language, int dialog) : language_(language), dialog_(dialog) {}
 
-  QString operator()(int control) const {
-    const std::u16string text =
-        language_ == nullptr ? std::u16string() : language_->DialogText(dialog_, control);
-    return ToQString(text.empty() ? BuiltInDialogText(dialog_, control) : text);
-  }
+  QString operator()(int control) const { return ToQString(DialogTextOf(language_, dialog_, control)); }
 
  private:
   const LanguageLibrary* language_;

@@ -2,8 +2,8 @@
 #include "desktop/dialogs/LanguageDlg.h"
 
 #include "desktop/controls/QtText.h"
-#include "examfile/ExamFileLayout.h"
-#include "platform/Texts.h"
+#include "examfile/ExamFileVersions.h"
+#include "platform/TextNumbers.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -17,7 +17,7 @@ namespace {
 constexpr int kDialogMargin = 20;  // pixels
 constexpr int kListWidth = 240;
 constexpr QSize kProgramIconSize(64, 64);
-constexpr const char* kVersion = "6.4.5 2";
+constexpr const char* kVersion = QUORVANTIS_VERSION " 2";  // of the version its second release
 
 /// The version of the program and the tag of the exam files it writes, a line each.
 QLabel* MakeVersionText(QWidget* parent) {

@@ -6,7 +6,7 @@
 #include "desktop/import/ExamImportDlg.h"
 #include "desktop/import/ImportChoiceDlgs.h"
 #include "import/ImportCommand.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "text/PathText.h"
 

@@ -119,6 +119,14 @@ LayoutPlaces Layout(const LayoutInput& input) {
   return places;
 }
 
+PixelRect NoticePlace(const LayoutPlaces& places) {
+  constexpr int kNoticeMargin = 10;
+  const PixelRect &kind = places.kinds.back(), &last = places.navigation.back();
+  const int left = std::max(kind.x + kind.width, last.x + last.width) + kNoticeMargin;
+  const int right = places.questionArea.x + places.questionArea.width - kNoticeMargin;
+  return {left, kind.y, std::max(right - left, 0), last.y + last.height - kind.y};
+}
+
 PixelRect Mirrored(const PixelRect& place, int clientWidth) {
   return {clientWidth - place.x - place.width, place.y, place.width, place.height};
 }

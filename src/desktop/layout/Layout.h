@@ -81,6 +81,9 @@ struct LayoutPlaces {
 /// smallest size, places may be outside it or empty.
 LayoutPlaces Layout(const LayoutInput& input);
 
+/// The place of a notice: beside the rows of buttons, where there is room in every language.
+PixelRect NoticePlace(const LayoutPlaces& places);
+
 /// The place of a control for a right-to-left language.
 PixelRect Mirrored(const PixelRect& place, int clientWidth);
 

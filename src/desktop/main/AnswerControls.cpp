@@ -3,7 +3,8 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "platform/Texts.h"
+#include "model/AnswerLetters.h"
+#include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {
@@ -20,7 +21,7 @@ QString Caption(const StringTable& strings, int id) {
 }
 
 QString Letter(std::size_t index) {
-  return QString(QChar(static_cast<char16_t>(u'A' + index)));
+  return QString(QChar(OptionLetter(index)));
 }
 
 }  // namespace

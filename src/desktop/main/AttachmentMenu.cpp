@@ -3,7 +3,7 @@
 
 #include "desktop/controls/QtText.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "preview/FileKind.h"
 #include "shell/commands/SaveCopyCommand.h"

@@ -10,7 +10,7 @@
 #include "host/ImportRules.h"
 #include "model/document/ExamServices.h"
 #include "platform/DebugOutput.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "shell/commands/PreviewCommand.h"
@@ -165,9 +165,8 @@ void CQuorvantisDlg::KeepRecovery() {
   life_.LookAfterUnsaved();
   const std::error_code failure = life_.RecoveryFailure();
   if (!failure) return recoveryFails_->hide();
-  const std::u16string why =
-      FillMessage(services_.strings.Text(text_id::kCannotWrite),
-                  {PathToText(life_.RecoveryFolder()), Utf8ToUtf16(failure.message())});
+  const std::u16string why = FillMessage(services_.strings.Text(text_id::kCannotWrite),
+                                         {PathToText(life_.RecoveryRoot()), Utf8ToUtf16(failure.message())});
   recoveryFails_->Tell(ToQString(services_.strings.Text(text_id::kRecoveryFails)), ToQString(why));
 }
 

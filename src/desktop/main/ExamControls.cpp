@@ -4,7 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/PlacedText.h"
 #include "desktop/main/AttachmentMenu.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 
 namespace quorvantis {
 

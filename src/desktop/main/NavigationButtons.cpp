@@ -3,7 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 
 namespace quorvantis {
 namespace {
@@ -19,70 +19,81 @@ constexpr SmallButtonBitmaps kDelete{"DeleteU", "Deleted", "Deletef", "Deletex"}
 constexpr SmallButtonBitmaps kInsert{"insertU", "insertd", "insertf", "insertx"};
 constexpr SmallButtonBitmaps kAttach{"attachqu", "attachqd", "attachqf", "attachqx"};
 
+using NavigationCommand = void (*)(ExamEditor& editor);
+
+template <void (QuestionEditor::*command)()>
+void RunNavigation(ExamEditor& editor) {
+  (editor.questions.*command)();
+}
+
+void AttachToQuestion(ExamEditor& editor) {
+  editor.attachments.AttachQuestionFile();
+}
+
 struct NavigationButtonSpec {
   const char* name;
   const SmallButtonBitmaps& bitmaps;
   const SmallButtonBitmaps& mirrored;
   int tip;
   Keys keys;
-  std::function<void()> command;
+  NavigationCommand command;
+};
+
+/// In the order of `InOrder`.
+const NavigationButtonSpec kNavigationSpecs[NavigationButtons::kCount] = {
+    {"back10",
+     kBack10,
+     kForward10,
+     text_id::kBackward10,
+     {Qt::ALT | Qt::Key_B, Qt::CTRL | Qt::Key_PageUp},
+     RunNavigation<&QuestionEditor::GoBack10>},
+    {"previous",
+     kPrevious,
+     kNext,
+     text_id::kPrevious,
+     {Qt::ALT | Qt::Key_U, Qt::Key_PageUp},
+     RunNavigation<&QuestionEditor::GoPrevious>},
+    {"next",
+     kNext,
+     kPrevious,
+     text_id::kNext,
+     {Qt::ALT | Qt::Key_X, Qt::Key_PageDown},
+     RunNavigation<&QuestionEditor::GoNext>},
+    {"forward10",
+     kForward10,
+     kBack10,
+     text_id::kForward10,
+     {Qt::ALT | Qt::Key_W, Qt::CTRL | Qt::Key_PageDown},
+     RunNavigation<&QuestionEditor::GoForward10>},
+    {"insertQuestion",
+     kInsert,
+     kInsert,
+     text_id::kInsertQuestion,
+     {Qt::ALT | Qt::Key_J},
+     RunNavigation<&QuestionEditor::InsertHere>},
+    {"deleteQuestion",
+     kDelete,
+     kDelete,
+     text_id::kDeleteQuestion,
+     {Qt::ALT | Qt::Key_D},
+     RunNavigation<&QuestionEditor::DeleteHere>},
+    {"attachToQuestion",
+     kAttach,
+     kAttach,
+     text_id::kAttachToQuestion,
+     {Qt::ALT | Qt::Key_K},
+     AttachToQuestion},
 };
 
 }  // namespace
 
 NavigationButtons::NavigationButtons(ExamEditor& editor, const StringTable& strings, const Pictures& pictures,
                                      QWidget* parent) {
-  const auto run = [&editor](void (QuestionEditor::*command)()) {
-    return [&editor, command] { (editor.questions.*command)(); };
-  };
-  const NavigationButtonSpec specs[kCount] = {
-      {"back10",
-       kBack10,
-       kForward10,
-       text_id::kBackward10,
-       {Qt::ALT | Qt::Key_B, Qt::CTRL | Qt::Key_PageUp},
-       run(&QuestionEditor::GoBack10)},
-      {"previous",
-       kPrevious,
-       kNext,
-       text_id::kPrevious,
-       {Qt::ALT | Qt::Key_U, Qt::Key_PageUp},
-       run(&QuestionEditor::GoPrevious)},
-      {"next",
-       kNext,
-       kPrevious,
-       text_id::kNext,
-       {Qt::ALT | Qt::Key_X, Qt::Key_PageDown},
-       run(&QuestionEditor::GoNext)},
-      {"forward10",
-       kForward10,
-       kBack10,
-       text_id::kForward10,
-       {Qt::ALT | Qt::Key_W, Qt::CTRL | Qt::Key_PageDown},
-       run(&QuestionEditor::GoForward10)},
-      {"insertQuestion",
-       kInsert,
-       kInsert,
-       text_id::kInsertQuestion,
-       {Qt::ALT | Qt::Key_J},
-       run(&QuestionEditor::InsertHere)},
-      {"deleteQuestion",
-       kDelete,
-       kDelete,
-       text_id::kDeleteQuestion,
-       {Qt::ALT | Qt::Key_D},
-       run(&QuestionEditor::DeleteHere)},
-      {"attachToQuestion",
-       kAttach,
-       kAttach,
-       text_id::kAttachToQuestion,
-       {Qt::ALT | Qt::Key_K},
-       [&editor] { editor.attachments.AttachQuestionFile(); }},
-  };
   for (std::size_t i = 0; i < kCount; ++i) {
-    const NavigationButtonSpec& spec = specs[i];
+    const NavigationButtonSpec& spec = kNavigationSpecs[i];
     buttons_[i] = new SmallButton(pictures, spec.bitmaps, spec.mirrored, parent);
-    SetUpButton(buttons_[i], spec.name, ToQString(strings.Text(spec.tip)), spec.keys, spec.command);
+    SetUpButton(buttons_[i], spec.name, ToQString(strings.Text(spec.tip)), spec.keys,
+                [&editor, command = spec.command] { command(editor); });
   }
 }
 

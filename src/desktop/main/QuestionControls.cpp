@@ -5,7 +5,7 @@
 #include "desktop/controls/PlacedText.h"
 #include "desktop/main/AttachmentMenu.h"
 #include "model/QuestionKinds.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 
 #include <iterator>
 

@@ -108,15 +108,6 @@ void PlaceAnswers(const Placer& placer, const AnswerControls& answers, const Lay
   placer.Place(answers.essay, places.essay);
 }
 
-/// Beside the rows of buttons, where there is room in every language.
-PixelRect NoticePlace(const LayoutPlaces& places) {
-  constexpr int kNoticeMargin = 10;
-  const PixelRect &kind = places.kinds.back(), &last = places.navigation.back();
-  const int left = std::max(kind.x + kind.width, last.x + last.width) + kNoticeMargin;
-  const int right = places.questionArea.x + places.questionArea.width - kNoticeMargin;
-  return {left, kind.y, std::max(right - left, 0), last.y + last.height - kind.y};
-}
-
 void TellDisabled(const LayoutInput& input, DebugOutput& debug) {
   for (std::size_t i = 0; i < kToolbarButtons; ++i) {
     if (input.enabled[i]) continue;

@@ -4,7 +4,7 @@
 #include "desktop/controls/QtText.h"
 #include "desktop/search/ReplaceAllDlg.h"
 #include "model/document/ExamServices.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "search/SearchTexts.h"
 #include "shell/commands/ReplaceCommand.h"
 #include "text/MessageText.h"

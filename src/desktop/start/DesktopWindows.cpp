@@ -67,7 +67,7 @@ class OpenWindow : public FirstStart {
 
 }  // namespace
 
-DesktopWindows::DesktopWindows(const CommandLine& options) : options_(options) {
+DesktopWindows::DesktopWindows(const WindowArguments& options) : options_(options) {
   QApplication::setWindowIcon(Pictures(nullptr).Picture(kProgramIcon));
 }
 

@@ -16,7 +16,7 @@ class CQuorvantisDlg;
 class DesktopWindows : public ApplicationWindows {
  public:
   /// `options` must outlive the windows.
-  explicit DesktopWindows(const CommandLine& options);
+  explicit DesktopWindows(const WindowArguments& options);
 
   void LanguageApplied(const LanguageInUse& language) override;
   void ShowFailure(std::u16string_view message) override;
@@ -29,7 +29,7 @@ class DesktopWindows : public ApplicationWindows {
   bool TakesPicture() const { return !options_.screenshot.isEmpty(); }
   void TakePicture(QWidget& window);
 
-  const CommandLine& options_;
+  const WindowArguments& options_;
   QtLanguage qtLanguage_;
   QtUserDialogs dialogs_;
   bool pictureTaken_ = false;

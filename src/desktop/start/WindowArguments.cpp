@@ -35,7 +35,7 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
   return application;
 }
 
-CommandLine ParseCommandLine(const QCoreApplication& application) {
+WindowArguments ParseWindowArguments(const QCoreApplication& application) {
   const QCommandLineOption folder("app-folder", "Keep settings and work folders in DIR.", "DIR");
   const QCommandLineOption debug("debug", "Write debug output to standard error.");
   const QCommandLineOption screenshot("screenshot", "Save a screenshot of the window to FILE and exit.",

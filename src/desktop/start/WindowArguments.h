@@ -11,7 +11,7 @@
 namespace quorvantis {
 
 /// The command-line arguments of the window program. Paths are full ones, or empty.
-struct CommandLine {
+struct WindowArguments {
   std::filesystem::path exam;
   std::filesystem::path applicationFolder;
   QString screenshot;           ///< save a screenshot of the window to this file and exit
@@ -24,6 +24,6 @@ struct CommandLine {
 std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv);
 
 /// Reads the arguments. Ends the program after --help and --version, and on invalid arguments.
-CommandLine ParseCommandLine(const QCoreApplication& application);
+WindowArguments ParseWindowArguments(const QCoreApplication& application);
 
 }  // namespace quorvantis

@@ -34,7 +34,7 @@ constexpr int kMostTries = 15;
 constexpr auto kPause = std::chrono::milliseconds(200);
 
 /// Brings the program that uses the folder to the front.
-HandOverResult HandOver(const ApplicationFolderClaim& claim, const CommandLine& options) {
+HandOverResult HandOver(const ApplicationFolderClaim& claim, const WindowArguments& options) {
   const bool inUse = claim.WhatIsWrong() == ApplicationFolderClaim::Problem::InUse;
   return inUse && options.screenshot.isEmpty() ? HandOverStart(claim.Folder(), options.exam)
                                                : HandOverResult::NoAnswer;
@@ -53,7 +53,7 @@ int Refuse(const ApplicationFolderClaim& claim, HandOverResult handOver, Desktop
   return kNoApplicationFolder;
 }
 
-int RunIn(const std::filesystem::path& folder, const CommandLine& options, DesktopWindows& windows) {
+int RunIn(const std::filesystem::path& folder, const WindowArguments& options, DesktopWindows& windows) {
   if (options.applicationFolder.empty()) ProvideImportRules(ExecutableFolder(), folder);
   DynamicLanguageLibraries libraries;
   PosixFiles files;
@@ -64,7 +64,7 @@ int RunIn(const std::filesystem::path& folder, const CommandLine& options, Deskt
   return application.ExitInstance();
 }
 
-int Run(const CommandLine& options) {
+int Run(const WindowArguments& options) {
   DesktopWindows windows(options);
   const bool elsewhere = !options.applicationFolder.empty();
   for (int tries = 1;; ++tries) {
@@ -89,5 +89,5 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("quorvantis");
   QApplication::setApplicationVersion(QUORVANTIS_VERSION);
   QGuiApplication::setDesktopFileName("quorvantis");
-  return Run(ParseCommandLine(*application));
+  return Run(ParseWindowArguments(*application));
 }

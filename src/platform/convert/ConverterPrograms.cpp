@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/convert/ConverterPrograms.h"
 
+#include "platform/convert/ProgramRun.h"
 #include "platform/programs/ChildProgram.h"
-
-#include <QFile>
+#include "platform/programs/OfficeConverter.h"
 
 namespace quorvantis {
 
 ConverterPrograms ConverterPrograms::Find() {
-  const auto find = [](const char* name) { return QFile::decodeName(FindProgram(name).c_str()); };
-  return {find("soffice"), find("pdftoppm"), find("ffprobe"), find("ffmpeg")};
+  const OfficePrograms found = OfficePrograms::Find();
+  return {FileArgument(found.office), FileArgument(found.pdfImages), FileArgument(FindProgram("ffprobe")),
+          FileArgument(FindProgram("ffmpeg"))};
 }
 
 }  // namespace quorvantis

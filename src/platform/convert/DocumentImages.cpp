@@ -3,9 +3,10 @@
 
 #include "platform/convert/Later.h"
 #include "platform/convert/ProgramRun.h"
-#include "platform/documents/ImportFilters.h"
-#include "platform/programs/OfficeConverter.h"
+#include "platform/programs/ImportFilters.h"
 #include "platform/programs/OfficeProfile.h"
+#include "platform/programs/PageImages.h"
+#include "platform/programs/TimeLimits.h"
 
 #include <QFile>
 
@@ -20,8 +21,6 @@ namespace fs = std::filesystem;
 constexpr int kDotsPerInch = 120;  // sharp on screen, legible on paper
 constexpr std::size_t kHeadBytes = 8;
 constexpr int kLanes = 2;
-constexpr std::chrono::seconds kLongestConversion{30};
-constexpr std::chrono::seconds kLongestDrawing{60};
 
 std::string Head(const fs::path& file) {
   QFile in(file);
@@ -68,11 +67,10 @@ void DocumentImages::Begin(const SharedJob& job) {
 void DocumentImages::TryNextFilter(const SharedJob& job, int lane) {
   if (job->filters.empty()) return LeaveOffice(job, lane);
   WriteOfficeProfile(Profile(lane));
-  QStringList arguments;
-  for (const auto& argument : OfficeArguments(Profile(lane), job->filters.front(), "pdf", LinkIn(*job)))
-    arguments << FileArgument(argument);
+  const QStringList arguments =
+      ProgramArguments(OfficeArguments(Profile(lane), job->filters.front(), "pdf", LinkIn(*job)));
   job->filters.erase(job->filters.begin());
-  const ProgramOrder order{programs_.office, arguments, kLongestConversion, {}, FileArgument(job->folder)};
+  const ProgramOrder order{programs_.office, arguments, kLongestShownDocument, {}, FileArgument(job->folder)};
   RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
     // After a hang or a crash the next filter would do the same. The exit code is success even if nothing
     // could be read; only the output file tells.
@@ -89,13 +87,8 @@ void DocumentImages::LeaveOffice(const SharedJob& job, int lane) {
 }
 
 void DocumentImages::DrawPages(const SharedJob& job, const fs::path& pdf) {
-  const QStringList arguments{"-png",
-                              "-r",
-                              QString::number(kDotsPerInch),
-                              "-l",
-                              QString::number(kMostPages),
-                              FileArgument(pdf),
-                              FileArgument(job->folder / "page")};
+  const QStringList arguments =
+      ProgramArguments(PageImageArguments(pdf, job->folder, kDotsPerInch, kMostPages));
   drawing_.Add([this, job, order = ProgramOrder{programs_.pdfImages, arguments, kLongestDrawing}](int lane) {
     RunProgram(*this, order, [this, job, lane](bool ended, const QByteArray&) {
       drawing_.Leave(lane);

@@ -16,9 +16,6 @@ namespace fs = std::filesystem;
 constexpr int kLooksAtATime = 4;
 constexpr int kConversionsAtATime = 2;
 
-/// A whole film takes time; a clip that cannot be converted makes no progress.
-constexpr std::chrono::minutes kLongestFilm{30};
-constexpr std::chrono::seconds kLongestStandstill{20};
 constexpr char kProgressMark[] = "out_time_us=";  // length of the output so far, in microseconds
 
 /// Treats a name that begins with "-" or looks like "http:" as a file.

@@ -15,7 +15,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds kBetweenLooks{20};
 constexpr std::uintmax_t kLargestFile = std::uintmax_t{4} << 30;  // bytes; a film may be long
 constexpr qsizetype kMostOutput = qsizetype{1} << 20;             // anything after that is useless
 
@@ -67,7 +66,7 @@ class ProgramRun : public QObject {
     if (order_.progress) watch_.emplace(*order_.progress);
     child_ = ChildProcess::Start(ChildOrderOf(order_));
     if (child_ == nullptr) return Report(false);
-    looks_.start(kBetweenLooks);
+    looks_.start(kBetweenLooksAtPrograms);
   }
 
  private:
@@ -107,6 +106,12 @@ class ProgramRun : public QObject {
 
 QString FileArgument(const std::filesystem::path& file) {
   return QFile::decodeName(file.c_str());
+}
+
+QStringList ProgramArguments(const std::vector<std::string>& arguments) {
+  QStringList list;
+  for (const std::string& argument : arguments) list << FileArgument(argument);
+  return list;
 }
 
 void RunProgram(QObject& owner, const ProgramOrder& order, ProgramDone done) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/programs/TimeLimits.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QString>
@@ -10,6 +12,8 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace quorvantis {
 
@@ -23,11 +27,14 @@ struct ProgressSigns {
 /// A path as an argument.
 QString FileArgument(const std::filesystem::path& file);
 
+/// Arguments whose bytes may be those of any path.
+QStringList ProgramArguments(const std::vector<std::string>& arguments);
+
 /// A program and its arguments; no shell is involved.
 struct ProgramOrder {
   QString program;  ///< full path; empty if the program is not installed
   QStringList arguments;
-  std::chrono::milliseconds limit{30'000};
+  std::chrono::milliseconds limit = kLongestLook;
   std::optional<ProgressSigns> progress{};  ///< if given, the output is watched for it and not reported
   QString temporaryFolder{};                ///< for its temporary files; empty for the default
 };

@@ -13,8 +13,6 @@ namespace quorvantis {
 /// documents is read.
 class CompoundFile {
  public:
-  static constexpr std::string_view kSignature{"\xD0\xCF\x11\xE0", 4};
-
   /// `bytes` must outlive this; they may be damaged, or only the beginning of a file.
   explicit CompoundFile(std::string_view bytes);
 

@@ -4,6 +4,7 @@
 #include "platform/WholeFile.h"
 #include "platform/documents/CompoundFile.h"
 #include "platform/documents/ZipPackage.h"
+#include "platform/programs/DocumentSignatures.h"
 
 namespace quorvantis {
 namespace {
@@ -12,7 +13,6 @@ namespace fs = std::filesystem;
 
 constexpr std::uintmax_t kMostFileBytes = std::uintmax_t{512} << 20;
 constexpr std::size_t kMostManifestBytes = std::size_t{1} << 20;
-constexpr std::string_view kZip = "PK\x03\x04";
 constexpr std::size_t kHeadBytes = std::size_t{64} << 10;  // what precedes the root of an XML file
 
 WordResult Access(const fs::path& file) {
@@ -77,9 +77,9 @@ DocumentKindOutcome KindOfDocument(const fs::path& file) {
   const WordResult access = Access(file);
   if (access != WordResult::Done) return {access, {}};
   const std::string head = Head(file);
-  if (head.starts_with(kZip)) return KindOfPackage(file);
-  if (head.starts_with(CompoundFile::kSignature)) return KindOfCompoundFile(file);
-  if (head.starts_with(kRichTextBeginning)) return {WordResult::Done, DocumentKind::RichText};
+  if (head.starts_with(kPackageSignature)) return KindOfPackage(file);
+  if (head.starts_with(kCompoundFileSignature)) return KindOfCompoundFile(file);
+  if (head.starts_with(kRichTextSignature)) return {WordResult::Done, DocumentKind::RichText};
   if (IsWordXml(head)) return {WordResult::Done, DocumentKind::WordXml};
   return {WordResult::UnknownFormat, {}};
 }

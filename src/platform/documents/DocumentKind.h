@@ -4,12 +4,8 @@
 #include "platform/WordDocuments.h"
 
 #include <filesystem>
-#include <string_view>
 
 namespace quorvantis {
-
-/// The beginning of every rich text.
-inline constexpr std::string_view kRichTextBeginning = "{\\rtf";
 
 /// WordXml is the XML of Word 2003, usually named ".doc" or ".xml".
 enum class DocumentKind { Docx, Doc, OpenDocument, RichText, WordXml };

@@ -12,7 +12,7 @@ namespace quorvantis {
 /// The content of a package, and where its pictures are.
 struct DocxContent {
   WordResult result = WordResult::Done;
-  WordDocument document;
+  WordContent document;
   std::vector<PicturePlace> pictures;  ///< their sources are names of parts
 };
 

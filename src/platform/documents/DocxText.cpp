@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <charconv>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace quorvantis {
@@ -29,6 +30,15 @@ std::u16string TextOf(pugi::xml_node node) {
     if (unit < u' ' && unit != u'\t') unit = u' ';
   }
   return text;
+}
+
+/// Properties, whose children's names mean something else in the text, and other content that is not text.
+bool IsSkipped(std::string_view localName) {
+  static const std::unordered_set<std::string_view> skipped{
+      "pPr",    "rPr",   "tblPr",    "tblPrEx",     "tblGrid",    "trPr",
+      "tcPr",   "sdtPr", "sdtEndPr", "customXmlPr", "smartTagPr", "sectPr",
+      "rubyPr", "rt",    "del",      "moveFrom",    "delText",    "delInstrText"};
+  return skipped.contains(localName);
 }
 
 bool Continues(pugi::xml_node merge) {
@@ -94,29 +104,10 @@ DocxText::Handler DocxText::HandlerOf(std::string_view localName) {
       {"txbxContent", &DocxText::TextBox},
       {"txBody", &DocxText::TextBox},
       {"AlternateContent", &DocxText::Alternatives},
-      // Properties, whose children's names mean something else in the text, and other content that is not
-      // text:
-      {"pPr", &DocxText::Skip},
-      {"rPr", &DocxText::Skip},
-      {"tblPr", &DocxText::Skip},
-      {"tblPrEx", &DocxText::Skip},
-      {"tblGrid", &DocxText::Skip},
-      {"trPr", &DocxText::Skip},
-      {"tcPr", &DocxText::Skip},
-      {"sdtPr", &DocxText::Skip},
-      {"sdtEndPr", &DocxText::Skip},
-      {"customXmlPr", &DocxText::Skip},
-      {"smartTagPr", &DocxText::Skip},
-      {"sectPr", &DocxText::Skip},
-      {"rubyPr", &DocxText::Skip},
-      {"rt", &DocxText::Skip},
-      {"del", &DocxText::Skip},
-      {"moveFrom", &DocxText::Skip},
-      {"delText", &DocxText::Skip},
-      {"delInstrText", &DocxText::Skip},
   };
   const auto found = handlers.find(localName);
-  return found == handlers.end() ? &DocxText::WalkChildren : found->second;
+  if (found != handlers.end()) return found->second;
+  return IsSkipped(localName) ? &DocxText::Skip : &DocxText::WalkChildren;
 }
 
 void DocxText::Walk(pugi::xml_node node) {
@@ -159,7 +150,7 @@ bool DocxText::EndsLine(pugi::xml_node mark, bool isEmpty) {
   return !hiding_.IsHidden(mark, paragraphStyle_) || (!isEmpty && !IsOn(ChildOf(mark, "specVanish")));
 }
 
-/// Only now, because a paragraph of which nothing is left has not been counted.
+/// Only now: a paragraph of which nothing is left must not be counted.
 void DocxText::InsertLabel(pugi::xml_node properties, Place start) {
   if (!keepsLabels_ && document_.hasNumbersLeftOut) return;
   const std::u16string label = labels_.Next(properties);

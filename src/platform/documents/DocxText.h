@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/WordDocument.h"
+#include "platform/WordContent.h"
 #include "platform/WordDocuments.h"
 #include "platform/documents/FieldNesting.h"
 #include "platform/documents/HiddenText.h"
@@ -28,7 +28,7 @@ class DocxText {
   /// read is then incomplete.
   WordResult Result() const { return result_; }
 
-  WordDocument& Document() { return document_; }
+  WordContent& Document() { return document_; }
 
   /// The sources are the ids of relations.
   std::vector<PicturePlace>& Pictures() { return pictures_; }
@@ -93,7 +93,7 @@ class DocxText {
   ListLabels& labels_;
   const bool keepsLabels_;
   FieldNesting fields_;
-  WordDocument document_;
+  WordContent document_;
   std::vector<PicturePlace> pictures_;
   PicturePlace extent_;                    ///< the size of the current drawing
   WordText* text_;                         ///< what is being filled

@@ -3,6 +3,7 @@
 
 #include "platform/WholeFile.h"
 #include "platform/documents/FlatDocument.h"
+#include "platform/programs/PageImages.h"
 
 #include <algorithm>
 #include <fstream>

@@ -37,7 +37,7 @@ std::u16string Roman(int number, bool upper) {
   return text;
 }
 
-/// One of a row of consecutive Unicode characters.
+/// One of several consecutive Unicode characters.
 std::u16string Nth(int number, char16_t first, int count) {
   if (number < 1 || number > count) return {};
   return {static_cast<char16_t>(first + number - 1)};

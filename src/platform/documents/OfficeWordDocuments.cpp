@@ -5,8 +5,9 @@
 #include "platform/documents/DocumentKind.h"
 #include "platform/documents/DocumentPictures.h"
 #include "platform/documents/DocxReader.h"
-#include "platform/documents/ImportFilters.h"
 #include "platform/posix/PrivateFolder.h"
+#include "platform/programs/DocumentSignatures.h"
+#include "platform/programs/ImportFilters.h"
 
 #include <new>
 #include <string>
@@ -45,11 +46,11 @@ class DocxPictures : public WordPictures {
 std::vector<std::string> FiltersOf(DocumentKind kind) {
   switch (kind) {
     case DocumentKind::Doc:
-      return ImportFiltersOf("doc", CompoundFile::kSignature);
+      return ImportFiltersOf("doc", kCompoundFileSignature);
     case DocumentKind::OpenDocument:
-      return ImportFiltersOf("odt", "PK\x03\x04");
+      return ImportFiltersOf("odt", kPackageSignature);
     case DocumentKind::RichText:
-      return ImportFiltersOf("rtf", "{\\rtf");
+      return ImportFiltersOf("rtf", kRichTextSignature);
     case DocumentKind::WordXml:
       return {"MS Word 2003 XML"};
     case DocumentKind::Docx:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/LinuxProcessTable.h"
 
+#include "platform/FolderEntries.h"
 #include "platform/posix/FileDescriptor.h"
 #include "text/PathText.h"
 
@@ -91,9 +92,8 @@ std::optional<int> ProcessNumber(const std::string& name) {
 
 std::vector<RunningProcess> LinuxProcessTable::Processes() {
   std::vector<RunningProcess> processes;
-  std::error_code error;
-  for (fs::directory_iterator entry(kProcesses, error), end; !error && entry != end; entry.increment(error)) {
-    const std::string name = entry->path().filename().string();
+  for (const fs::path& entry : EntriesOf(kProcesses)) {
+    const std::string name = entry.filename().string();
     const std::optional<int> id = ProcessNumber(name);
     std::optional<std::u16string> module = id ? ModuleOf(name) : std::nullopt;
     if (module) processes.push_back({*id, 0, *std::move(module)});

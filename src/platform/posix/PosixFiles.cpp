@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/PosixFiles.h"
 
+#include "platform/FolderEntries.h"
 #include "platform/posix/FileDescriptor.h"
 #include "platform/posix/Leftover.h"
 #include "platform/posix/WriteBehind.h"
@@ -188,11 +189,6 @@ class OverwrittenFile : public PosixPendingFile {
     }
   }
 };
-
-bool IsLink(const fs::path& path) {
-  std::error_code ignored;
-  return fs::is_symlink(fs::symlink_status(path, ignored));
-}
 
 /// The target of the links that start at `path`; the last name need not exist. A circle of links ends at one
 /// of them.

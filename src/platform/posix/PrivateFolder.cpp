@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/PrivateFolder.h"
 
+#include "platform/FolderEntries.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -38,10 +40,9 @@ bool IsAbandoned(const fs::path& folder) {
 }
 
 void RemoveAbandoned(const fs::path& base) {
-  std::error_code error;
-  for (fs::directory_iterator it(base, error), end; !error && it != end; it.increment(error)) {
+  for (const fs::path& entry : EntriesOf(base)) {
     std::error_code ignored;
-    if (IsAbandoned(it->path())) fs::remove_all(it->path(), ignored);
+    if (IsAbandoned(entry)) fs::remove_all(entry, ignored);
   }
 }
 

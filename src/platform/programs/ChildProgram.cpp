@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/programs/ChildProgram.h"
 
+#include "platform/programs/TimeLimits.h"
+
 #include <cstdlib>
 #include <sstream>
 #include <thread>
@@ -8,18 +10,13 @@
 
 namespace quorvantis {
 namespace fs = std::filesystem;
-namespace {
-
-constexpr std::chrono::milliseconds kBetweenLooks{20};
-
-}  // namespace
 
 ChildEnd RunChildProgram(const ChildOrder& order, std::chrono::milliseconds limit,
                          const std::function<bool()>& isCancelled) {
   const auto deadline = std::chrono::steady_clock::now() + limit;
   const auto child = ChildProcess::Start(order);
   if (child == nullptr) return ChildEnd::NotStarted;
-  for (;; std::this_thread::sleep_for(kBetweenLooks)) {
+  for (;; std::this_thread::sleep_for(kBetweenLooksAtPrograms)) {
     if (const auto end = child->End()) return *end;
     if (isCancelled && isCancelled()) return ChildEnd::Cancelled;
     if (std::chrono::steady_clock::now() > deadline) return ChildEnd::TimedOut;

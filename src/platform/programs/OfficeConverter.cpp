@@ -4,8 +4,8 @@
 #include "platform/posix/PrivateFolder.h"
 #include "platform/programs/ChildProgram.h"
 #include "platform/programs/OfficeProfile.h"
+#include "platform/programs/PageImages.h"
 
-#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -44,19 +44,8 @@ WordResult OfficeConverter::Convert(const OfficeJob& job) const {
 }
 
 WordResult OfficeConverter::DrawPages(const fs::path& pdf, int dotsPerInch) const {
-  return Run(programs_.pdfImages,
-             {"-png", "-r", std::to_string(dotsPerInch), pdf.string(), (pdf.parent_path() / "page").string()},
-             pdf.parent_path());
-}
-
-std::vector<fs::path> DrawnPages(const fs::path& folder) {
-  std::vector<fs::path> pages;
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(folder, error)) {
-    if (entry.path().extension() == ".png") pages.push_back(entry.path());
-  }
-  std::ranges::sort(pages);
-  return pages;
+  const fs::path folder = pdf.parent_path();
+  return Run(programs_.pdfImages, PageImageArguments(pdf, folder, dotsPerInch), folder);
 }
 
 WordResult OfficeConverter::Run(const fs::path& program, std::vector<std::string> arguments,

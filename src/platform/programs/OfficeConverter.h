@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/WordDocuments.h"
+#include "platform/programs/TimeLimits.h"
 
 #include <chrono>
 #include <filesystem>
@@ -16,7 +17,7 @@ namespace quorvantis {
 struct OfficePrograms {
   std::filesystem::path office;     ///< soffice of LibreOffice
   std::filesystem::path pdfImages;  ///< pdftoppm of poppler
-  std::chrono::milliseconds limit{60'000};
+  std::chrono::milliseconds limit = kLongestDocument;
 
   static OfficePrograms Find();
 };
@@ -28,10 +29,6 @@ struct OfficeJob {
   std::string format;                ///< extension of the output file
   std::string exportFilter{};        ///< if empty, the usual one for that extension
 };
-
-/// The pages that poppler has drawn into `folder`, in order: it pads the numbers in the names to the same
-/// width.
-std::vector<std::filesystem::path> DrawnPages(const std::filesystem::path& folder);
 
 /// Runs LibreOffice to convert files, each time with a fresh profile that forbids macros and network access.
 class OfficeConverter {

@@ -4,7 +4,7 @@
 #include "model/document/ExamServices.h"
 #include "platform/Progress.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "shell/commands/ExportParagraphs.h"
 #include "text/MessageText.h"

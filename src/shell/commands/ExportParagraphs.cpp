@@ -2,7 +2,7 @@
 #include "shell/commands/ExportParagraphs.h"
 
 #include "model/QuestionKinds.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/NumberText.h"
 
 namespace quorvantis {
@@ -18,7 +18,7 @@ bool IsExported(int scoreFrom, int questionCount) {
 
 void AppendScores(Paragraphs& paragraphs, const ExamPaper& exam, const StringTable& strings) {
   paragraphs.push_back(strings.Text(text_id::kScoreDistribution));
-  if (exam.scoreMode == ScoreMode::Same) {
+  if (HasOneScore(exam.scoreMode)) {
     paragraphs.push_back(strings.Text(text_id::kSameScores));
     return;
   }

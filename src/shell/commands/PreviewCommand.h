@@ -10,7 +10,7 @@
 
 namespace quorvantis {
 
-/// Shows a page that a command has written; the path of the file.
+/// Shows a page that a command has written to this file.
 using ShowPage = std::function<void(const std::filesystem::path& page)>;
 
 /// The Preview command: writes the exam as it would be taken, and shows the first page.

@@ -19,7 +19,8 @@ class RecoveryDialogs {
 };
 
 /// Offers the recovery copies left in the application folder, newest first, until one is restored or the user
-/// answers Later; the others are offered at the next start. Runs once, in an unused editor.
+/// answers Later; the others are offered at the next start. Damaged ones are moved aside first, and the user
+/// is told where they are. Runs once, in an unused editor.
 class RecoverCommand {
  public:
   /// All must outlive the command.

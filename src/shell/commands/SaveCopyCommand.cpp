@@ -4,7 +4,7 @@
 #include "examfile/AttachmentName.h"
 #include "examfile/ExamFileMessages.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "platform/WholeFile.h"
 #include "text/MessageText.h"

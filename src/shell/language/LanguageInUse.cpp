@@ -19,8 +19,7 @@ std::u16string LanguageInUse::Text(int number) const {
 }
 
 std::u16string LanguageInUse::DialogText(int dialog, int control) const {
-  const std::u16string text = library_ ? library_->DialogText(dialog, control) : std::u16string();
-  return text.empty() ? BuiltInDialogText(dialog, control) : text;
+  return DialogTextOf(library_.get(), dialog, control);
 }
 
 std::span<const std::byte> LanguageInUse::Bitmap(std::string_view name, int scale) const {

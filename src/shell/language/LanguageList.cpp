@@ -2,7 +2,7 @@
 #include "shell/language/LanguageList.h"
 
 #include "platform/LanguageLibraries.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "text/AsciiCase.h"
 #include "text/PathText.h"
 

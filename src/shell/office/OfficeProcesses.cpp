@@ -3,7 +3,7 @@
 
 #include "platform/DebugOutput.h"
 #include "platform/StringTable.h"
-#include "platform/Texts.h"
+#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "text/AsciiCase.h"
 

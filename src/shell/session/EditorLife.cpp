@@ -42,8 +42,8 @@ std::error_code EditorLife::RecoveryFailure() const {
   return recovery_ ? recovery_->Failure() : std::error_code();
 }
 
-std::filesystem::path EditorLife::RecoveryFolder() const {
-  return RecoveryRoot(editor_.state.document.Services().applicationFolder);
+std::filesystem::path EditorLife::RecoveryRoot() const {
+  return quorvantis::RecoveryRoot(editor_.state.document.Services().applicationFolder);
 }
 
 bool EditorLife::OfferRecovery(RecoveryDialogs& dialogs) {

@@ -39,7 +39,8 @@ class EditorLife {
 
   /// Why a recovery copy that is needed is missing; no error otherwise.
   std::error_code RecoveryFailure() const;
-  std::filesystem::path RecoveryFolder() const;
+  /// The folder that holds the recovery copies of all editors.
+  std::filesystem::path RecoveryRoot() const;
 
   /// Offers to restore unsaved work of earlier runs. Call after KeepRecovery and before anything is done to
   /// the exam. True if an exam has been restored.

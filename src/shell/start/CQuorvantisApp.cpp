@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/start/CQuorvantisApp.h"
 
+#include "model/WorkFolderNames.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
@@ -68,7 +69,7 @@ bool CQuorvantisApp::ChooseLanguage() {
 /// For programs that take an exam in this folder. The editor itself stores nothing there.
 void CQuorvantisApp::MakeStudentFolder() const {
   std::error_code ignored;
-  std::filesystem::create_directory(moduleFolder_ / "~BrelmStudent", ignored);
+  std::filesystem::create_directory(moduleFolder_ / kStudentFolders, ignored);
 }
 
 bool CQuorvantisApp::Fail(std::u16string_view message) {

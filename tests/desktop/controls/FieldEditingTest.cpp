@@ -146,15 +146,6 @@ TEST_F(FieldEditing, UntouchedTextsComeBackUnitByUnit) {
   }
 }
 
-TEST_F(FieldEditing, WalkingForgetsWhatCouldBeUndone) {
-  Open();
-  for (const char* name : {"title", "questionText"}) Type(name, "first");
-  Click("next");
-  for (const char* name : {"title", "questionText"}) Undo(name);
-  EXPECT_EQ(Line("title").text(), "first");
-  EXPECT_EQ(Lines("questionText").toPlainText(), "");
-}
-
 TEST_F(FieldEditing, PasteTakesPlainTextAndCopyKeepsNoBreakSpaces) {
   exam.Question(1).options[0] = u"a\u00A0b";
   Open();

@@ -31,12 +31,5 @@ TEST(FieldText, IsTheLoadedTextAgainWhenAllEditsAreTakenBack) {
   EXPECT_EQ(text.Edited(u"a\u2029bc"), u"a\r\nbc");
 }
 
-TEST(FieldText, OneLineTakesLineEndsAsBlanksButKeepsItsOwn) {
-  FieldText text(FieldLines::One);
-  text.Load(u"a\r\nb");
-  EXPECT_EQ(text.Shown(), u"a\r\nb");
-  EXPECT_EQ(text.Edited(u"a\r\nbc\nd\u2029"), u"a\r\nbc d ");
-}
-
 }  // namespace
 }  // namespace quorvantis

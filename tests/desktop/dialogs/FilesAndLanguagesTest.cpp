@@ -14,15 +14,6 @@
 namespace quorvantis::test {
 namespace {
 
-TEST(FileFilters, AreReadInPairs) {
-  const auto filters = ParseFilters(u"Pictures(*.jpg)|*.jpg;*.gif|Exam files, (*.exm)|*.exm|");
-  ASSERT_EQ(filters.size(), 2U);
-  EXPECT_EQ(filters[0].ForQt(), "Pictures(*.jpg) (*.jpg *.gif)");
-  EXPECT_EQ(filters[1].ForQt(), "Exam files, (*.exm) (*.exm)");
-  EXPECT_EQ(filters[1].FirstExtension(), "exm");
-  EXPECT_TRUE(ParseFilters(u"").empty());
-}
-
 TEST(FileFilters, AnExtensionIsAddedUnlessTheNameHasOneOfThem) {
   const auto filters = ParseFilters(u"Exam files (*.exm)|*.exm|Word files (*.doc)|*.doc|");
   const auto named = [&filters](const char* name) { return WithExtension(name, filters, "exm"); };
@@ -56,8 +47,6 @@ class LanguageDialog : public testing::Test {
 TEST_F(LanguageDialog, TakesASelectionAtOnceAndIgnoresEscape) {
   EXPECT_EQ(languages.currentIndex(), -1) << "no language of identifier 0";
   EXPECT_EQ(languages.itemText(2), "three.dll");
-  QTest::keyClick(&languages, Qt::Key_Down);
-  EXPECT_NE(Saved().find("Language=1"), std::string::npos);
   QTest::keyClick(&languages, Qt::Key_End);
   EXPECT_NE(Saved().find("Language=3"), std::string::npos);
   EXPECT_EQ(languageId, 3);
@@ -66,12 +55,6 @@ TEST_F(LanguageDialog, TakesASelectionAtOnceAndIgnoresEscape) {
   dialog.close();
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.result(), QDialog::Rejected);
-  languageId = 2;
-  LanguageDlg again(choice, strings);
-  EXPECT_EQ(again.findChild<QComboBox*>("languages")->currentText(), "Two");
-  again.show();
-  QTest::keyClick(&again, Qt::Key_Return);
-  EXPECT_EQ(again.result(), QDialog::Accepted);
 }
 
 TEST(QtLanguage, TurnsTheWindowsRound) {

@@ -67,17 +67,6 @@ class UserDialogsTest : public testing::Test {
   std::queue<std::function<void(QWidget&)>> answers_;
 };
 
-TEST_F(UserDialogsTest, SaveQuestionHasThreeAnswers) {
-  for (const auto& [button, expected] :
-       {std::pair{QMessageBox::Yes, SaveAnswer::Yes}, std::pair{QMessageBox::No, SaveAnswer::No},
-        std::pair{QMessageBox::Cancel, SaveAnswer::Cancel}}) {
-    Answer(button);
-    EXPECT_EQ(dialogs.AskSave(u"Save <b>?</b>"), expected);
-  }
-  Press(Qt::Key_Escape);
-  EXPECT_EQ(dialogs.AskSave(u"Save?"), SaveAnswer::Cancel);
-}
-
 TEST_F(UserDialogsTest, SavingAddsTheExtensionOfTheChosenKind) {
   EnterName(Path("two"), "Word files (*.doc) (*.doc)");
   EXPECT_EQ(dialogs.ChooseFileToSave(save), folder / "two.doc");

@@ -10,7 +10,6 @@
 #include <optional>
 #include <sstream>
 #include <string>
-#include <tuple>
 #include <utility>
 
 namespace quorvantis {
@@ -86,31 +85,10 @@ TEST(SizeLimits, GiveWayToASmallScreen) {
   const auto check = [](PixelSize given, PixelSize expected) {
     EXPECT_EQ(std::pair(given.width, given.height), std::pair(expected.width, expected.height));
   };
-  const SizeLimits large = LimitsOn({1920, 1080}, {1920, 1010});
-  check(large.smallest, {792, 646});
-  check(large.largest, {1920, 1080});
-  check(large.atStart, {870, 675});
   const SizeLimits small = LimitsOn({1024, 600}, {1024, 530});
   check(small.smallest, {792, 530});
   check(small.largest, {1024, 600});
   check(small.atStart, {870, 530});
-}
-
-TEST(ScrollIn, HasBarsOnlyWhereControlsHaveNoRoom) {
-  const std::pair<PixelSize, ScrolledView> rows[] = {
-      {{792, 646}, {{792, 646}, {792, 646}}},                                          // no bar
-      {{900, 800}, {{900, 800}, {900, 800}}}, {{791, 700}, {{792, 690}, {791, 690}}},  // horizontal
-      {{791, 650}, {{792, 646}, {781, 640}}},  // horizontal, which makes a vertical one necessary
-      {{900, 600}, {{890, 646}, {890, 600}}},  // vertical
-      {{795, 600}, {{792, 646}, {785, 590}}},  // vertical, which makes a horizontal one necessary
-      {{640, 472}, {{792, 646}, {630, 462}}}};
-  for (const auto& [client, expected] : rows) {
-    const ScrolledView given = ScrollIn(client, 10);
-    EXPECT_EQ(
-        std::tuple(given.area.width, given.area.height, given.view.width, given.view.height),
-        std::tuple(expected.area.width, expected.area.height, expected.view.width, expected.view.height))
-        << client.width << 'x' << client.height;
-  }
 }
 
 }  // namespace

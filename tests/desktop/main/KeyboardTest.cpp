@@ -3,7 +3,6 @@
 
 #include <QAccessible>
 #include <QLabel>
-#include <QMenu>
 #include <QRadioButton>
 #include <QShortcut>
 
@@ -91,15 +90,6 @@ TEST_F(Keyboard, PageKeysScrollAFieldThatHoldsMoreThanItShows) {
   EXPECT_GT(Lines("questionText").textCursor().blockNumber(), 90);
   Press("questionText", Qt::Key_PageDown, Qt::ControlModifier);
   EXPECT_EQ(Number(), "11");
-}
-
-TEST_F(Keyboard, TheMenuOfTheWindowLeadsToTheAboutBox) {
-  Open();
-  QContextMenuEvent event(QContextMenuEvent::Mouse, {2, 2}, window->mapToGlobal(QPoint(2, 2)));
-  QCoreApplication::sendEvent(window.get(), &event);
-  const auto actions = Control<QMenu>("windowMenu").actions();
-  ASSERT_EQ(actions.size(), 1);
-  EXPECT_EQ(actions[0]->text(), "[101 %s]");
 }
 
 }  // namespace

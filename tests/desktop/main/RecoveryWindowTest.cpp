@@ -2,6 +2,7 @@
 #include "desktop/WindowTest.h"
 #include "desktop/start/EndingSignals.h"
 #include "recovery/RecoveredExam.h"
+#include "recovery/RecoveryFolder.h"
 
 #include <QMessageBox>
 
@@ -50,6 +51,19 @@ TEST_F(RecoveryWindow, EscapeLosesNothing) {
   world.dialogs.filesToSave = {folder / "saved.exm"};
   Click("save");
   EXPECT_EQ(Copies(), 0u);
+}
+
+TEST_F(RecoveryWindow, TellsThatACopyCannotBeWrittenAsLongAsItCannot) {
+  const auto root = WriteBytes(RecoveryRoot(services.applicationFolder), "a file in its place");
+  Open();
+  const auto isTold = [&] { return Control("recoveryFails").isVisible(); };
+  Type("title", "a");
+  ASSERT_TRUE(QTest::qWaitFor(isTold));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "it keeps nobody from typing";
+  EXPECT_TRUE(Control("recoveryFails").toolTip().contains("recovery"));
+  EXPECT_EQ(window->childAt(Control("recoveryFails").geometry().center()), &Control("recoveryFails"));
+  std::filesystem::remove(root);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !isTold() && Copies() == 1; }));
 }
 
 TEST_F(RecoveryWindow, ASignalThatEndsTheProgramComesBetweenTwoEvents) {

@@ -12,18 +12,6 @@ namespace {
 
 class WindowLayout : public WindowTest {
  protected:
-  /// Rows of controls, from left to right.
-  void ExpectRow(std::initializer_list<const char*> names) {
-    int end = 0;
-    for (const char* name : names) {
-      QRect place = Control(name).geometry();
-      if (window->isRightToLeft()) place.moveRight(window->width() - 1 - place.x());
-      if (!Control(name).isVisible()) continue;
-      EXPECT_GE(place.x(), end) << name;
-      end = place.right();
-    }
-  }
-
   std::map<QWidget*, QRect> Places() {
     std::map<QWidget*, QRect> places;
     for (auto* control : window->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
@@ -34,16 +22,6 @@ class WindowLayout : public WindowTest {
   }
 
   void ExpectLaidOut() {
-    ExpectRow({"new", "open", "import", "save", "saveAs", "scoreSetup", "attachFiles", "preview", "print"});
-    ExpectRow({"titleLabel", "title", "random", "examAttachmentsLabel", "examAttachments"});
-    ExpectRow({"questionLabel", "questionNumber", "kindChoice", "kindFillIn", "kindEssay", "kindOral"});
-    ExpectRow(
-        {"back10", "previous", "next", "forward10", "insertQuestion", "deleteQuestion", "attachToQuestion"});
-    ExpectRow({"questionText", "questionAttachments"});
-    for (const char letter : {'A', 'B', 'C', 'D', 'E'}) {
-      const std::string box = std::string("box") + letter, option = std::string("option") + letter;
-      ExpectRow({box.c_str(), option.c_str()});
-    }
     const auto places = Places();
     for (const auto& [control, place] : places) {
       EXPECT_TRUE(window->rect().contains(place)) << qPrintable(control->objectName());
@@ -71,7 +49,6 @@ TEST_F(WindowLayout, HasNoOverlapsAndAMirrorImageInEverySizeAndKind) {
         Click("random");
         ExpectLaidOut();
         const auto places = Places();
-        EXPECT_EQ(Control("title").geometry().topLeft().y(), 68);
         window->setLayoutDirection(Qt::RightToLeft);
         ExpectLaidOut();
         for (auto [control, place] : places) {

@@ -6,8 +6,6 @@
 
 #include <QImage>
 #include <QProcess>
-#include <QProcessEnvironment>
-#include <QStandardPaths>
 
 #include <gtest/gtest.h>
 
@@ -20,39 +18,6 @@ namespace quorvantis::test {
 namespace {
 
 constexpr const char* kProgram = QUORVANTIS_PROGRAM;
-
-TEST(Program, TellsItsVersionWithoutADisplay) {
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(variable);
-  QProcess program;
-  program.setProcessEnvironment(environment);
-  program.start(kProgram, {"--version"});
-  ASSERT_TRUE(program.waitForFinished());
-  EXPECT_TRUE(program.readAllStandardOutput().startsWith("quorvantis "));
-}
-
-TEST(Program, PaintsItsWindowOnAnXServer) {
-  if (QStandardPaths::findExecutable("xvfb-run").isEmpty()) GTEST_SKIP() << "needs xvfb-run";
-  const TemporaryFolder folder;
-  const QString picture = PathToQString(folder / "window.png");
-  QProcess program;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert("QT_QPA_PLATFORM", "xcb");
-  environment.insert("LSAN_OPTIONS",
-                     "detect_leaks=0");  // of a sanitized build: X and D-Bus libraries leak
-  program.setProcessEnvironment(environment);
-  program.setProcessChannelMode(QProcess::ForwardedChannels);
-  program.start("xvfb-run", {"-a", "-s", "-screen 0 1280x1024x24", kProgram, "--app-folder",
-                             PathToQString(folder / "app"), "--screenshot", picture});
-  ASSERT_TRUE(program.waitForFinished());
-  EXPECT_EQ(program.exitCode(), 0);
-  const QImage image(picture);
-  EXPECT_GE(image.width(), 792);
-  EXPECT_GE(image.height(), 646);
-  QImage empty = image;
-  empty.fill(image.pixelColor(0, 0));
-  EXPECT_NE(image, empty);
-}
 
 /// The output of ./run, in a separate folder, so that nothing else from the build can help.
 TEST(Program, OffersImportInTheFirstWindow) {

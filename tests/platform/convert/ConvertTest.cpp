@@ -3,7 +3,6 @@
 #include "platform/convert/DocumentImages.h"
 #include "platform/convert/MediaConverter.h"
 #include "platform/convert/ProgramRun.h"
-#include "platform/documents/ImportFilters.h"
 #include "platform/programs/OfficeProfile.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
@@ -45,19 +44,6 @@ struct ConvertTest : testing::Test {
                                                folder.Path().c_str(), source.c_str()}) == 0;
   }
 };
-
-TEST_F(ConvertTest, AProgramAndItsChildrenEndWhenTheTimeIsOver) {
-  QObject owner;
-  std::optional<bool> success;
-  const QString mark = QString::fromStdString((folder / "child").string());
-  RunProgram(owner,
-             {"/bin/sh", {"-c", "sleep 60 & echo $! > '" + mark + "'; wait"}, std::chrono::milliseconds(500)},
-             [&](bool succeeded, const QByteArray&) { success = succeeded; });
-  ASSERT_TRUE(WaitFor([&] { return success.has_value(); }, 5000));
-  EXPECT_FALSE(*success);
-  const int child = std::stoi(ReadBytes(folder / "child"));
-  EXPECT_TRUE(WaitFor([&] { return !IsRunning(child); }, 3000)) << "the child lives";
-}
 
 TEST_F(ConvertTest, AProgramThatComesForwardLivesAndOneThatStandsStillEnds) {
   QObject owner;
@@ -137,15 +123,6 @@ TEST_F(ConvertTest, ConversionsQueueAndDamagedDocumentsDoNotHoldTheRest) {
   EXPECT_EQ(counts,
             (std::map<std::string, std::size_t>{
                 {"damaged", 0}, {"missing", 0}, {"text c'\"", 2}, {"slides.ppt", 2}, {"table.xlsx", 1}}));
-}
-
-TEST(OfficeFilters, GoByWhatAFileIsNotByItsName) {
-  using Filters = std::vector<std::string>;
-  EXPECT_EQ(ImportFiltersOf("doc", "\xD0\xCF\x11\xE0"), (Filters{"MS Word 97", "MS Word 95"}));
-  EXPECT_EQ(ImportFiltersOf("doc", "PK\x03\x04"), Filters{"MS Word 2007 XML"});
-  EXPECT_EQ(ImportFiltersOf("doc", "{\\rtf1"), Filters{"Rich Text Format"});
-  EXPECT_EQ(ImportFiltersOf("xls", "{\\rtf1"), Filters());
-  EXPECT_EQ(ImportFiltersOf("doc", "plain text"), Filters());
 }
 
 TEST(MediaFormat, TellsWhatTheBrowserPlays) {

@@ -79,7 +79,7 @@ TEST_F(DocxTest, Tables) {
       cell(P(R(Box("<w:tbl><w:tr>" + cell(P(T("b"))) + "</w:tr></w:tbl>")))) + "</w:tr></w:tbl>";
   const auto outcome = Open(DocxBuilder().Body(body));
   ASSERT_EQ(outcome.result, WordResult::Done);
-  const WordDocument& document = outcome.document;
+  const WordContent& document = outcome.document;
   EXPECT_EQ(Shown(document.runningText), u"before<0>\rafter\r");
   EXPECT_EQ(document.pictures, 2U);
   std::vector<std::vector<std::u16string>> rows;

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/FolderLock.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
@@ -73,19 +72,6 @@ TEST_F(ReplaceTest, TheNewContentIsOnTheDiskBeforeItTakesTheName) {
   EXPECT_EQ(synced[1], std::pair(std::string(), std::string("new content"))) << "the folder, for the name";
 }
 
-TEST_F(ReplaceTest, TakesLargeContentInPiecesOfAnySize) {
-  std::string content(std::size_t{40'000'000}, '\0');
-  for (std::size_t i = 0; i < content.size(); ++i) content[i] = static_cast<char>(i * i >> 7);
-  std::error_code error;
-  const auto pending = files.Replace(folder / "large", error);
-  for (std::size_t at = 0, size = 1; at < content.size(); at += size, size = 1 + (size * 7919) % 1'000'003) {
-    const std::string_view piece = std::string_view(content).substr(at, size);
-    ASSERT_FALSE(pending->Write(std::as_bytes(std::span(piece))));
-  }
-  EXPECT_FALSE(pending->Commit());
-  EXPECT_TRUE(ReadBytes(folder / "large") == content);
-}
-
 TEST_F(ReplaceTest, ReplacesWhatALinkPointsTo) {
   fs::create_directory(folder / "elsewhere");
   fs::create_symlink("elsewhere/target", folder / "link");
@@ -124,16 +110,6 @@ TEST_F(ReplaceTest, OverwritesAFileInAFolderThatTakesNoNewOnes) {
     }
   }
   fs::permissions(folder.Path(), fs::perms(0755));
-}
-
-TEST(FolderLock, LetsOneProgramIn) {
-  const TemporaryFolder folder;
-  std::optional<FolderLock> lock = FolderLock::Take(folder.Path());
-  EXPECT_TRUE(lock);
-  EXPECT_FALSE(FolderLock::Take(folder.Path()));
-  lock.reset();
-  EXPECT_TRUE(FolderLock::Take(folder.Path()));
-  EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include "editor/EditorTest.h"
 #include "shell/commands/PreviewCommand.h"
 #include "shell/commands/PrintCommand.h"
-#include "text/PathText.h"
 
 namespace quorvantis::test {
 namespace {
@@ -44,29 +43,10 @@ TEST_F(PageCommandsTest, PreviewStoresCountsAndShows) {
   EXPECT_EQ(world.pages.pages.size(), 1);
 }
 
-/// Pages reflect the previews that were not finished; a saved file does not.
-TEST_F(PageCommandsTest, PrefixesStayOutOfFiles) {
-  const std::u16string path = PathToText(WriteBytes(folder / "map.gif", "picture"));
-  exam.Question(1).attachmentPaths[0] = path;
-  exam.Question(1).attachmentNames[0] = u"map.gif";
-  const std::u16string source = u"<img src=\"";
+TEST_F(PageCommandsTest, PrintShowsWhatIsTyped) {
   Print();
   EXPECT_EQ(shown, std::vector{print});
   EXPECT_TRUE(Shows(print, u"Typed<br>"));
-  EXPECT_TRUE(Shows(print, source + path.substr(3) + u"\""));
-  Preview();
-  EXPECT_TRUE(Shows(preview, source + path + u"\""));
-  Preview();
-  EXPECT_TRUE(Shows(preview, source + path.substr(0, 3) + path + u"\""));
-  exam.PrefixAttachmentPaths(0);
-  Print();
-  EXPECT_TRUE(Shows(print, source + path + u"\""));
-  ASSERT_TRUE(exam.WriteExamFile(folder / "saved.exm"));
-  EXPECT_EQ(exam.Question(1).attachmentPaths[0], path);
-  exam.Reset();
-  exam.ReadExamFile(folder / "saved.exm");
-  EXPECT_EQ(ReadBytes(TextToPath(exam.Question(1).attachmentPaths[0])), "picture");
-  EXPECT_TRUE(exam.previewPrefixes.empty());
 }
 
 }  // namespace

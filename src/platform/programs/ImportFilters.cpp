@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "platform/documents/ImportFilters.h"
+#include "platform/programs/ImportFilters.h"
 
-#include "platform/documents/CompoundFile.h"
-#include "platform/documents/DocumentKind.h"
+#include "platform/programs/DocumentSignatures.h"
 
 #include <algorithm>
 #include <array>
 
 namespace quorvantis {
 namespace {
-
-constexpr std::string_view kPackage = "PK\x03\x04";
 
 using Filters = std::vector<std::string>;
 
@@ -39,9 +36,10 @@ Filters ImportFiltersOf(std::string_view extension, std::string_view head) {
   for (const DocumentFamily& family : Families()) {
     if (std::ranges::find(family.extensions, extension) == family.extensions.end()) continue;
     // A file's beginning decides its type; many a ".doc" is a newer document or rich text.
-    if (head.starts_with(CompoundFile::kSignature)) return family.compoundFile;
-    if (head.starts_with(kPackage)) return extension.starts_with("od") ? family.openPackage : family.package;
-    if (head.starts_with(kRichTextBeginning) && &family == &Families().front()) return {"Rich Text Format"};
+    if (head.starts_with(kCompoundFileSignature)) return family.compoundFile;
+    if (head.starts_with(kPackageSignature))
+      return extension.starts_with("od") ? family.openPackage : family.package;
+    if (head.starts_with(kRichTextSignature) && &family == &Families().front()) return {"Rich Text Format"};
   }
   return {};
 }

@@ -61,7 +61,7 @@ constexpr int kRangeScore = 154;        // "Score="
 constexpr int kMinimumQuestions = 155;  // "Minimum questions(1-500)"
 constexpr int kCancel = 156;
 constexpr int kScanQuestions = 157;
-constexpr int kLanguageName = 158;  // the language's name in itself
+constexpr int kLanguageName = 158;  // the name of the language, in that language
 constexpr int kCloseOffice = 159;   // "Close Ms Office?"
 constexpr int kImportExam = 160;
 constexpr int kPictureNotice = 161;      // "(Can not show the picture)"
@@ -75,7 +75,7 @@ constexpr int kOralOn = 173;
 // Texts of our own, from 1000 on. A new one takes a free number here and a line in every file of languages/.
 constexpr int kExamEndsEarly =
     1000;  // "The exam file ends before its contents do; question %1 and after ..."
-constexpr int kExamFilesEndEarly = 1001;  // the same of an exam without questions
+constexpr int kExamFilesEndEarly = 1001;  // the same for an exam without questions
 constexpr int kCannotExport = 1002;
 constexpr int kAnswer = 1003;          // "Ans"
 constexpr int kPreparing = 1004;       // "Preparing %1…", in the place of an attached file; likewise:
@@ -93,7 +93,7 @@ constexpr int kIsRightAnswer = 1015;   // "%1 is a right answer", said by screen
 constexpr int kTotalScore = 1030;   // "Total score: %1"
 constexpr int kNoQuestions = 1031;  // "The exam has no questions yet."
 
-constexpr int kRecoveryQuestion = 1040;  // of title, number of questions, file and time
+constexpr int kRecoveryQuestion = 1040;  // with title, number of questions, file and time
 constexpr int kRestore = 1041;           // its answers
 constexpr int kDiscard = 1042;
 constexpr int kLater = 1043;
@@ -101,7 +101,7 @@ constexpr int kRecoveryDamaged = 1044;    // "… has been moved to: %1"
 constexpr int kRecoveryFilesLost = 1045;  // names of attached files
 constexpr int kRecoveryFails = 1046;
 
-// Of import.
+// About an import.
 constexpr int kQuestionsRead = 1100;
 constexpr int kSlotsFilled = 1101;
 constexpr int kQuestionsReplaced = 1102;
@@ -127,7 +127,7 @@ constexpr int kMendLineEnds = 1122;
 constexpr int kUndoAfterChanges = 1123;
 constexpr int kEscapeCancels = 1124;
 constexpr int kClose = 1125;
-constexpr int kOtherDocuments = 1126;  // a file filter behind kImportFilter
+constexpr int kOtherDocuments = 1126;  // a file filter that follows kImportFilter
 constexpr int kRuleEndless = 1130;
 constexpr int kRuleEmptyAnswer = 1131;
 constexpr int kRuleTooLarge = 1132;
@@ -139,20 +139,20 @@ constexpr int kDocumentLocked = 1144;
 constexpr int kDocumentTooLarge = 1145;
 constexpr int kDocumentTimedOut = 1146;
 constexpr int kDocumentTooDeep = 1147;
-constexpr int kPictureElsewhere = 1150;  // why pictures were lost: the first part of kPicturesLost
+constexpr int kPictureElsewhere = 1150;  // why pictures were lost, for kPicturesLost; likewise:
 constexpr int kPictureUnknown = 1151;
 constexpr int kPictureDamaged = 1152;
 constexpr int kPictureTooLarge = 1153;
 constexpr int kPictureNotDrawn = 1154;
 constexpr int kPictureTimedOut = 1155;
 constexpr int kPictureNoFile = 1156;
-constexpr int kPicturesOfQuestion = 1157;  // within the second part
-constexpr int kQuestionAsItIs = 1158;      // of an import again
+constexpr int kPicturesOfQuestion = 1157;  // in the list of kPicturesLost
+constexpr int kQuestionAsItIs = 1158;      // lines of the summary again
 constexpr int kAnswersByOrder = 1159;
 constexpr int kAutomaticNumbers = 1160;
 
-// Of files.
-constexpr int kAllFiles = 1127;      // a file filter behind kAttachmentFilter
+// About files.
+constexpr int kAllFiles = 1127;      // a file filter that follows kAttachmentFilter
 constexpr int kNotPermitted = 1128;  // why a file could not be opened or saved; likewise:
 constexpr int kNotThere = 1129;
 constexpr int kDiskFull = 1133;
@@ -161,7 +161,7 @@ constexpr int kIsFolder = 1135;
 constexpr int kReadOrWriteFails = 1136;
 constexpr int kNameTooLong = 1137;
 
-// Of what saving loses.
+// About what a save loses.
 constexpr int kOfQuestion = 1200;
 constexpr int kTextCut = 1201;
 constexpr int kTextEndsAtNul = 1202;
