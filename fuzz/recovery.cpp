@@ -7,7 +7,6 @@
 #include "recovery/RecoveryFile.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
-#include "support/UnseenView.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -23,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   FrameSetExam exam(world.services);
   const auto place = ReadSnapshot(bytes, exam);
   if (!place) return 0;
-  test::UnseenView view;
+  UnseenView view;
   ExamEditor editor(exam, view, nullptr);
   editor.questions.ShowQuestion(place->currentQuestion);
   FrameSetExam again(world.services);

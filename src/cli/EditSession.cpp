@@ -27,7 +27,7 @@ EditSession::EditSession(Console& console, const CommonOptions& options,
           },
           nullptr),
       importAnswers_(session_.console),
-      import_(life_.Editor(), session_.papers, importAnswers_,
+      import_(life_.Editor(), life_.Steps(), session_.papers, importAnswers_,
               importRules.empty() ? FindImportRules(session_.services.applicationFolder) : importRules) {
   life_.Begin();
 }
@@ -57,7 +57,9 @@ void EditSession::Run(const EditScriptLine& line) {
   }
   if (closed_ && line.command != "state") throw CommandError("the exam is closed");
   const int errors = session_.dialogs.ErrorCount();
+  life_.Steps().EndTyping();
   command->run(*this, line.arguments);
+  life_.Steps().Look();
   life_.KeepUnsaved();
   TellRecovery();
   if (session_.dialogs.ErrorCount() > errors) throw CommandError(line.command + " failed");

@@ -27,6 +27,7 @@ class EditSession {
   void OpenExam(const std::filesystem::path& file);
 
   ExamEditor& Editor() { return life_.Editor(); }
+  History& Steps() { return life_.Steps(); }
   ScriptedDialogs& Dialogs() { return session_.dialogs; }
   ScriptedImport& ImportAnswers() { return importAnswers_; }
   ImportCommand& Import() { return import_; }

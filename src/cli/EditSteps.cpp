@@ -172,6 +172,20 @@ void UndoImport(EditSession& session, const Arguments&) {
   session.Import().Undo();
 }
 
+void TellAboutStep(EditSession& session, const std::optional<HistorySpot>& spot, const char* nothing) {
+  if (!spot) return session.Streams().Complain(nothing);
+  for (const std::filesystem::path& file : spot->lostFiles)
+    session.Streams().Complain(file.string() + ": this attached file could not be put back");
+}
+
+void Undo(EditSession& session, const Arguments&) {
+  TellAboutStep(session, session.Steps().Undo(), "there is nothing to undo");
+}
+
+void Redo(EditSession& session, const Arguments&) {
+  TellAboutStep(session, session.Steps().Redo(), "there is nothing to redo");
+}
+
 void Remove(EditSession& session, const Arguments& arguments) {
   AttachmentEditor& attachments = session.Editor().attachments;
   attachments.SelectQuestionFile(EntryIndex(arguments[0], attachments.QuestionList()));
@@ -256,6 +270,8 @@ const EditCommand kCommands[] = {
     {"import", "DOCUMENT REPOSITORY [continue|new] [pictures X] [formulas X]   (X: give-up|ignore|force)", 2,
      Import, 5},
     {"undo-import", "", 0, UndoImport},
+    {"undo", "", 0, Undo},
+    {"redo", "", 0, Redo},
     {"find", "TEXT [--pattern] [--case] [--word]", 1, Find, 3},
     {"replace", "TEXT REPLACEMENT [--pattern] [--case] [--word]   (\\1 to \\9: groups of the pattern)", 2,
      Replace, 3},

@@ -3,6 +3,8 @@
 
 #include "model/document/FrameSetExam.h"
 
+#include <utility>
+
 namespace quorvantis {
 
 /// The right to change the exam that is being edited. Only the classes of the editor have it: everyone else
@@ -14,10 +16,17 @@ class EditedExam {
   explicit EditedExam(FrameSetExam& exam) : exam_(exam) {}
 
   const FrameSetExam& Read() const { return exam_; }
-  FrameSetExam& Change() { return exam_; }
+  FrameSetExam& Change() {
+    changed_ = true;
+    return exam_;
+  }
+
+  /// Whether someone has had the exam to change since the last call.
+  bool TakeChanged() { return std::exchange(changed_, false); }
 
  private:
   FrameSetExam& exam_;
+  bool changed_ = true;
 };
 
 }  // namespace quorvantis

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/ChangeName.h"
 #include "editor/EditorView.h"
 #include "model/document/FrameSetExam.h"
 
 #include <filesystem>
 #include <string>
+#include <utility>
 
 namespace quorvantis {
 
@@ -55,6 +57,12 @@ class EditorState {
   /// The document now equals the file.
   void MarkSaved();
 
+  /// What the command that is running does. Needed only where a look at the exam before and after it would
+  /// not tell.
+  void NameChange(ChangeName name) { changeName_ = name; }
+  /// The name since the last call; Other if none was given.
+  ChangeName TakeChangeName() { return std::exchange(changeName_, {}); }
+
   /// A field reports a change. It counts as MarkModified, but only after the current command.
   void QueueContentChanged();
   void DeliverContentChanged();
@@ -70,6 +78,7 @@ class EditorState {
   bool modified_ = false;
   bool titleTells_ = false;  ///< the title shows changes
   bool contentChangeQueued_ = false;
+  ChangeName changeName_;
 };
 
 }  // namespace quorvantis

@@ -9,7 +9,7 @@ class EditorView {
  public:
   virtual ~EditorView() = default;
 
-  /// Another question is shown: refill every field and clear its undo history. FormChanged follows.
+  /// Another question is shown: refill every field. FormChanged follows.
   virtual void FormLoaded() = 0;
 
   /// Something other than the typed text may have changed: kind, lists, captions, visibility, or a text that

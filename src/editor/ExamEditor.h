@@ -27,6 +27,9 @@ class ExamEditor {
   ExamEditor& operator=(const ExamEditor&) = delete;
   ~ExamEditor() = default;
 
+  /// Whether the document may have changed since the last call; for the history, which is the only caller.
+  bool TakeDocumentChanged() { return exam_.TakeChanged(); }
+
  private:
   EditedExam exam_;
 

@@ -9,6 +9,8 @@
 #include "text/MessageText.h"
 #include "text/PathText.h"
 
+#include <utility>
+
 namespace quorvantis {
 
 Parting ExamFileCommands::AskAboutChanges() {
@@ -46,8 +48,8 @@ void ExamFileCommands::NewExam() {
   const Parting parting = AskAboutChanges();
   if (parting == Parting::Stay) return;
   Leave(parting);
-  state_.CountExamBegun();
   StartNewExam();
+  state_.CountExamBegun();
 }
 
 void ExamFileCommands::StartNewExam() {
@@ -83,7 +85,6 @@ void ExamFileCommands::OpenExam(const std::filesystem::path& file) {
 }
 
 void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
-  state_.CountExamBegun();
   ClearDocument();
   exam_.Change().ReadExamFile(file);
   RecordCopies(exam_.Change());
@@ -92,6 +93,7 @@ void ExamFileCommands::LoadFile(const std::filesystem::path& file) {
   questions_.ShowQuestion(1);
   state_.MarkSaved();
   Enter();
+  state_.CountExamBegun();
 }
 
 void ExamFileCommands::SaveExam() {
@@ -109,23 +111,29 @@ bool ExamFileCommands::Save() {
 }
 
 bool ExamFileCommands::SaveAs() {
-  const auto file = ChooseTarget();
+  const auto file = ChooseTarget(text_id::kSaveExamFilter, u"exm");
   if (!file) return true;
   const std::u16string extension = ExtensionOrPath(PathToText(*file));
   if (extension == u"exm") return StoreAndWrite(*file);
-  if (extension == u"doc") {
-    questions_.StoreCurrentQuestion();
-    exam_.Change().CountQuestions();
-    exportDocument_(state_.document, *file);
-  }
+  if (extension == u"doc") WriteDocument(*file);
   return true;
 }
 
-std::optional<std::filesystem::path> ExamFileCommands::ChooseTarget() {
+void ExamFileCommands::ExportDocument() {
+  if (const auto file = ChooseTarget(text_id::kDocumentFilter, u"doc")) WriteDocument(*file);
+}
+
+void ExamFileCommands::WriteDocument(const std::filesystem::path& file) {
+  questions_.StoreCurrentQuestion();
+  exam_.Change().CountQuestions();
+  exportDocument_(state_.document, file);
+}
+
+std::optional<std::filesystem::path> ExamFileCommands::ChooseTarget(int filterText,
+                                                                    std::u16string extension) {
   const ExamServices& services = state_.document.Services();
-  const std::u16string filter = services.strings.Text(text_id::kSaveExamFilter);
-  const auto file =
-      services.dialogs.ChooseFileToSave({filter, u"exm", ProposedFileName(questions_.Form().title)});
+  const auto file = services.dialogs.ChooseFileToSave(
+      {services.strings.Text(filterText), std::move(extension), ProposedFileName(questions_.Form().title)});
   return file && !file->empty() ? file : std::nullopt;
 }
 

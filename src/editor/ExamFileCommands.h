@@ -53,6 +53,9 @@ class ExamFileCommands {
   void SaveExam();
   void SaveExamAs();
 
+  /// Asks for the name of a document and writes it, as SaveExamAs does with such a name.
+  void ExportDocument();
+
   /// Asks about unsaved changes; false when the window must stay open.
   bool ConfirmClose();
 
@@ -67,7 +70,8 @@ class ExamFileCommands {
   void LoadFile(const std::filesystem::path& file);
   bool Save();
   bool SaveAs();
-  std::optional<std::filesystem::path> ChooseTarget();
+  std::optional<std::filesystem::path> ChooseTarget(int filterText, std::u16string extension);
+  void WriteDocument(const std::filesystem::path& file);
   bool StoreAndWrite(const std::filesystem::path& file);
   LossAnswer AskAboutLosses(const std::filesystem::path& file) const;
   void WriteTo(const std::filesystem::path& file);

@@ -33,6 +33,7 @@ bool QuestionEditor::EditField(FormField field, std::u16string text) {
 void QuestionEditor::TickAnswerBox(std::size_t index, bool on) {
   form_.checks[index] = on ? CheckState::On : CheckState::Off;
   state_.MarkModified();
+  state_.view.FormChanged();
 }
 
 void QuestionEditor::StoreInto(FrameSetExam& exam, LongAnswerFlags& flags) const {
@@ -104,6 +105,7 @@ void QuestionEditor::GoForward10() {
 }
 
 void QuestionEditor::InsertHere() {
+  state_.NameChange({ChangeKind::InsertQuestion, state_.CurrentQuestion()});
   StoreCurrentQuestion();
   attachments_.ShiftAttachmentsForInsert(state_.CurrentQuestion());
   exam_.Change().InsertQuestion(state_.CurrentQuestion());
@@ -112,6 +114,7 @@ void QuestionEditor::InsertHere() {
 }
 
 void QuestionEditor::DeleteHere() {
+  state_.NameChange({ChangeKind::DeleteQuestion, state_.CurrentQuestion()});
   int& boundary = exam_.Change().boundaryQuestion;
   if (boundary != 0 && boundary >= state_.CurrentQuestion()) --boundary;
   attachments_.RemoveQuestionAttachments(state_.CurrentQuestion());

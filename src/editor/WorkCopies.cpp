@@ -78,6 +78,12 @@ fs::path MakeOwnFolder(const fs::path& parent, const fs::path& name) {
   return folder;
 }
 
+void AppendPaths(const AttachmentList& list, std::vector<std::filesystem::path>& files) {
+  for (const std::u16string& path : list) {
+    if (!path.empty()) files.push_back(TextToPath(path));
+  }
+}
+
 }  // namespace
 
 fs::path AttachmentWorkRoot(const fs::path& applicationFolder) {
@@ -137,6 +143,19 @@ void DeleteExamCopies(FrameSetExam& exam) {
 void DeleteUnpackedCopies(FrameSetExam& exam) {
   if (exam.questionFilesUnpacked != 0) DeleteQuestionCopies(exam);
   if (exam.examFilesUnpacked != 0) DeleteExamCopies(exam);
+}
+
+std::vector<std::filesystem::path> WorkCopiesOf(const FrameSetExam& exam) {
+  std::vector<std::filesystem::path> files;
+  for (const std::u16string& entry : exam.examAttachmentPaths) {
+    if (!entry.empty() && exam.IsPath(entry)) files.push_back(TextToPath(entry));
+  }
+  AppendPaths(exam.examAttachmentCopies, files);
+  for (const ExamQuestion& question : exam.questions) {
+    AppendPaths(question.attachmentPaths, files);
+    AppendPaths(question.attachmentCopies, files);
+  }
+  return files;
 }
 
 }  // namespace quorvantis

@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace quorvantis {
 
@@ -40,5 +41,9 @@ void DeleteExamCopies(FrameSetExam& exam);
 
 /// Deletes the copies of both kinds that a reader unpacked.
 void DeleteUnpackedCopies(FrameSetExam& exam);
+
+/// The files of all attachments of an exam, of it and of its questions; may contain duplicates and files that
+/// do not exist.
+std::vector<std::filesystem::path> WorkCopiesOf(const FrameSetExam& exam);
 
 }  // namespace quorvantis

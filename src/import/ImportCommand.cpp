@@ -27,7 +27,13 @@ void ImportCommand::Debug(std::u16string_view line) {
 }
 
 void ImportCommand::Begin() {
-  before_.Take();
+  history_.Look();
+  stepBefore_ = history_.LastStep();
+  step_ = 0;
+  editor_.state.NameChange({ChangeKind::Import});
+  atWork_.emplace(history_);
+  wasModified_ = editor_.state.Modified();
+  savesBefore_ = editor_.state.Saves();
   pictureCounterBefore_ = pictureCounter_;
   isNewExam_ = false;
 }
@@ -36,6 +42,7 @@ void ImportCommand::ImportQuestions() {
   Begin();
   importBase_ = editor_.state.CurrentQuestion();
   if (ConfirmImportTarget()) ImportHere();
+  atWork_.reset();
 }
 
 void ImportCommand::ImportQuestionsAfter(int question) {
@@ -44,11 +51,29 @@ void ImportCommand::ImportQuestionsAfter(int question) {
   editor_.questions.ShowQuestion(importBase_);
   if (question > 0) editor_.questions.GoNext();
   ImportHere();
+  atWork_.reset();
+}
+
+/// The user may undo the import from now on, even while the report is shown.
+void ImportCommand::NoteStep() {
+  atWork_.reset();
+  editor_.state.NameChange({ChangeKind::Import});
+  history_.Look();
+  if (history_.LastStep() != stepBefore_) step_ = history_.LastStep();
+}
+
+/// The exam is again as it was before the import. It counts as modified if it did then, or if a later state
+/// has been saved.
+void ImportCommand::Revert() {
+  history_.Revert();
+  editor_.state.MarkSaved();
+  if (wasModified_ || editor_.state.Saves() != savesBefore_) editor_.state.MarkModified();
+  pictureCounter_ = pictureCounterBefore_;
 }
 
 void ImportCommand::Undo() {
   if (!CanUndo()) return;
-  before_.Restore();
+  history_.UndoBackTo(step_);
   pictureCounter_ = pictureCounterBefore_;
 }
 
@@ -60,6 +85,7 @@ void ImportCommand::MendLineEnds() {
   editor_.changes.Replace(std::move(mended));
   editor_.questions.LoadCurrentQuestion();
   editor_.state.MarkModified();
+  editor_.state.NameChange({ChangeKind::LineEnds});
 }
 
 /// False if the current exam was to be saved first and was not: it must not be lost.
@@ -143,7 +169,7 @@ MarkedText ImportCommand::Mark(const WordReader& reader, const ImportSettings& r
 void ImportCommand::EndWithout(const ImportReport& report, std::u16string_view message) {
   const bool wasCancelled = dialogs_.IsCancelled();
   dialogs_.HideWait();
-  Undo();
+  Revert();
   if (!wasCancelled) dialogs_.ShowFailure(report, message);
 }
 
@@ -169,7 +195,7 @@ void ImportCommand::Report(ImportReport& report) {
   report.nextSlot = nextSlot_;
   report.removed = removed_;
   if (!isNewExam_) {
-    const FrameSetExam before = before_.StoredExam();
+    const FrameSetExam before = history_.LastLook();
     report.replaced = MissingQuestions(before, Exam());
     report.filesStayed = QuestionsWithEarlierFiles(before, Exam(), firstSlot_, nextSlot_ - 1);
   }
@@ -178,6 +204,7 @@ void ImportCommand::Report(ImportReport& report) {
   const bool hasFirst = firstSlot_ == 1 && nextSlot_ > 1;
   const int pictures = report.content->nextPicture - report.content->firstPicture;
   if (hasFirst && pictures > 0 && ShowsPictures(Exam().Question(1))) report.questionAsItIs = 1;
+  NoteStep();
   dialogs_.ShowReport(report, *this);
 }
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "editor/EditorSnapshot.h"
 #include "editor/ExamEditor.h"
+#include "history/History.h"
 #include "import/ExamImport.h"
 #include "import/ImportDialogs.h"
 #include "import/ImportReport.h"
 #include "import/WordReader.h"
+
+#include <optional>
 
 namespace quorvantis {
 
@@ -16,13 +18,13 @@ namespace quorvantis {
 class ImportCommand {
  public:
   /// All must outlive the command. `rules` is the file with the repositories.
-  ImportCommand(ExamEditor& editor, WordDocuments& documents, ImportDialogs& dialogs,
+  ImportCommand(ExamEditor& editor, History& history, WordDocuments& documents, ImportDialogs& dialogs,
                 std::filesystem::path rules)
       : editor_(editor),
+        history_(history),
         documents_(documents),
         dialogs_(dialogs),
-        rules_(std::move(rules)),
-        before_(editor) {}
+        rules_(std::move(rules)) {}
 
   /// The whole command.
   void ImportQuestions();
@@ -30,9 +32,9 @@ class ImportCommand {
   /// The same, into the slots after `question` (0 to 499) without asking for the target.
   void ImportQuestionsAfter(int question);
 
-  /// From an import until the user opens another exam, makes a new one or imports again.
-  bool CanUndo() const { return before_.IsUsable(); }
-  /// Restores the exam from before the import, whatever has been done to it since.
+  /// From an import until the user undoes it, opens another exam, makes a new one or imports again.
+  bool CanUndo() const { return history_.CanUndo(step_); }
+  /// Undoes the import, and before it whatever has been done since.
   void Undo();
 
   /// Fixes the line ends of the imported questions, so that pages show them whole. As long as the import can
@@ -41,6 +43,8 @@ class ImportCommand {
 
  private:
   void Begin();
+  void NoteStep();
+  void Revert();
   bool ConfirmImportTarget();
   void ImportHere();
   WordResult ReadDocument(const ExamImport& choice, ImportReport& report);
@@ -60,10 +64,15 @@ class ImportCommand {
   const FrameSetExam& Exam() const { return editor_.state.document; }
 
   ExamEditor& editor_;
+  History& history_;
   WordDocuments& documents_;
   ImportDialogs& dialogs_;
   std::filesystem::path rules_;
-  EditorSnapshot before_;
+  bool wasModified_ = false;  ///< before the import; likewise:
+  int savesBefore_ = 0;
+  std::optional<History::Hold> atWork_;
+  std::uint64_t stepBefore_ = 0;
+  std::uint64_t step_ = 0;  ///< of the last import; 0 if there is none
   int pictureCounter_ = 1;  ///< number of the next picture
   int pictureCounterBefore_ = 1;
   int importBase_ = 1;  ///< the question that was shown when the import began

@@ -35,6 +35,8 @@ class LongAnswerFlags {
   /// The same for all questions.
   void SetWhereNeeded(const ExamPaper& exam);
 
+  bool operator==(const LongAnswerFlags&) const = default;
+
  private:
   static std::size_t Index(int question) { return static_cast<std::size_t>(question); }
 

@@ -195,6 +195,45 @@ constexpr int kGoBack = 1243;
 constexpr int kPlaceholderText = 1244;
 constexpr int kChangedOnDisk = 1245;
 
+// Of the menu bar.
+constexpr int kFileMenu = 1400;
+constexpr int kEditMenu = 1401;
+constexpr int kQuestionMenu = 1402;
+constexpr int kExamMenu = 1403;
+constexpr int kHelpMenu = 1404;
+constexpr int kOpenRecent = 1405;
+constexpr int kClearRecent = 1406;
+constexpr int kRecentGone = 1407;  // "%1 is not there any more …"
+constexpr int kExport = 1408;
+constexpr int kExportDocument = 1409;
+constexpr int kExportPdf = 1410;
+constexpr int kQuit = 1411;
+constexpr int kCut = 1412;
+constexpr int kCopy = 1413;
+constexpr int kPaste = 1414;
+constexpr int kSelectAll = 1415;
+constexpr int kRightAnswers = 1416;
+constexpr int kAnotherAnswer = 1417;
+constexpr int kAttachFile = 1418;
+constexpr int kGoToText = 1419;
+constexpr int kGoToAnswers = 1420;
+constexpr int kGoToTitle = 1421;
+constexpr int kGuide = 1422;
+constexpr int kKeys = 1423;
+constexpr int kAboutProgram = 1424;
+constexpr int kMenuBar = 1425;         // what F10 opens, in the list of keys; likewise:
+constexpr int kLeaveUnasked = 1426;    // Escape
+constexpr int kRemoveSelected = 1427;  // Delete
+constexpr int kCommandColumn = 1428;
+constexpr int kKeysColumn = 1429;
+constexpr int kNoGuide = 1430;  // "The guide %1 cannot be read."
+
+// Of export; file filters, and what came of it.
+constexpr int kDocumentFilter = 1440;
+constexpr int kPdfFilter = 1441;
+constexpr int kPdfWritten = 1442;  // "%1 has been written."
+constexpr int kPdfNotMade = 1443;  // "%1 was not written …"
+
 // Of find and replace.
 constexpr int kFindAndReplace = 1550;
 constexpr int kFindLabel = 1551;
@@ -244,5 +283,37 @@ constexpr int kHitIsGone = 1593;
 constexpr int kExportTimedOut = 1060;
 constexpr int kExportCancelled = 1061;
 constexpr int kCannotWrite = 1062;  // "%1 cannot be written: %2", with what the system says
+
+// Of the history. The name of a step: %1 is the number of the question, %2 a count.
+constexpr int kStepTitle = 1250;
+constexpr int kStepQuestionText = 1251;
+constexpr int kStepOption = 1252;
+constexpr int kStepFillInAnswer = 1253;
+constexpr int kStepEssayAnswer = 1254;
+constexpr int kStepAnswerBox = 1255;
+constexpr int kStepKind = 1256;
+constexpr int kStepRandomMode = 1257;
+constexpr int kStepOral = 1258;
+constexpr int kStepAttach = 1259;
+constexpr int kStepRemoveFile = 1260;
+constexpr int kStepAttachToExam = 1261;
+constexpr int kStepRemoveExamFile = 1262;
+constexpr int kStepScores = 1263;
+constexpr int kStepInsert = 1264;
+constexpr int kStepDelete = 1265;
+constexpr int kStepMove = 1266;
+constexpr int kStepDuplicate = 1267;
+constexpr int kStepPaste = 1268;
+constexpr int kStepTake = 1269;
+constexpr int kStepReplace = 1270;
+constexpr int kStepImport = 1271;
+constexpr int kStepLineEnds = 1272;
+constexpr int kStepOther = 1273;
+constexpr int kUndoStep = 1280;  // with the name of the step
+constexpr int kRedoStep = 1281;
+constexpr int kUndo = 1282;  // when there is nothing to undo
+constexpr int kRedo = 1283;
+constexpr int kUndoForgotten = 1284;
+constexpr int kUndoLostFiles = 1285;
 
 }  // namespace quorvantis::text_id

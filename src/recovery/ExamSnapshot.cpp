@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "recovery/ExamSnapshot.h"
 
+#include "editor/ShownAnswers.h"
 #include "model/ExamFields.h"
-#include "model/QuestionKinds.h"
 #include "recovery/SnapshotFields.h"
 #include "text/PathText.h"
 
@@ -45,31 +45,6 @@ void VisitWholeQuestion(Question& question, Visitor& visitor) {
 void WriteQuestion(const ExamQuestion& question, std::string& bytes) {
   SnapshotWriter fields(bytes);
   VisitWholeQuestion(question, fields);
-}
-
-/// The fields that showing a question may change, as they are after it was shown and left.
-ExamQuestion AnswersAsShown(const ExamQuestion& question) {
-  ExamQuestion answers;
-  answers.answerText = question.answerText;
-  answers.answerMask = question.answerMask;
-  QuestionForm form;
-  LoadForm(answers, form);
-  StoreForm(form, question.kind, answers);
-  answers.oralFlag = AnswerOf(question.kind).oral && question.oralFlag == 1 ? 1 : 0;
-  return answers;
-}
-
-bool HasAnswers(const ExamQuestion& question, const ExamQuestion& answers) {
-  return question.answerText == answers.answerText && question.answerLetters == answers.answerLetters &&
-         question.answerMask == answers.answerMask && question.oralFlag == answers.oralFlag;
-}
-
-ExamQuestion WithAnswers(ExamQuestion question, const ExamQuestion& answers) {
-  question.answerText = answers.answerText;
-  question.answerLetters = answers.answerLetters;
-  question.answerMask = answers.answerMask;
-  question.oralFlag = answers.oralFlag;
-  return question;
 }
 
 std::size_t Hash(std::string_view bytes) {

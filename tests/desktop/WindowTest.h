@@ -14,6 +14,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QMenu>
 #include <QTest>
 #include <QTimer>
 
@@ -42,6 +43,9 @@ class WindowTest : public testing::Test {
     if (control == nullptr) throw std::runtime_error(name);
     return *control;
   }
+  /// The part of the window below the menu bar.
+  QWidget& Area() { return Control("clientArea"); }
+  void ResizeArea(const QSize& size) { window->resize(size + window->size() - Area().size()); }
   OneLineField& Line(const char* name) { return Control<OneLineField>(name); }
   MultiLineField& Lines(const char* name) { return Control<MultiLineField>(name); }
 
@@ -68,6 +72,12 @@ class WindowTest : public testing::Test {
     QObject::connect(&timer, &QTimer::timeout, useDialog);
     timer.start(0);
     Click(name);
+  }
+
+  /// The entry of a menu, as it is when its menu opens.
+  QAction& Entry(const char* name) {
+    for (auto* menu : window->findChildren<QMenu*>()) emit menu->aboutToShow();
+    return Control<QAction>(name);
   }
 
   /// Runs the event loop once.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scoring/ScoreSegments.h"
 #include "scoring/ScoreSetup.h"
+#include "scoring/SetupSteps.h"
 #include "text/Utf.h"
 
 #include <gtest/gtest.h>
@@ -192,6 +193,32 @@ TEST(ScoreSegments, CoverTheExamWithoutGaps) {
   EXPECT_EQ(segments, (Segments{{1, 1, 4, 1}, {2, 5, 6, 2}, {0, 7, 7, 0}, {3, 8, 9, 3}, {0, 10, 12, 0}}));
   EXPECT_EQ(TotalScore(segments), 4 + 4 + 6);
   EXPECT_EQ(SegmentsOf(odd, 0), Segments{});
+}
+
+TEST(SetupSteps, TakeBackAndRepeatTyping) {
+  ScoreSetup setup = Opened(10, Consecutive({3, 10}));
+  SetupSteps steps(setup);
+  std::vector<ScoreFields> states{setup.Fields()};
+  const auto look = [&] {
+    steps.Look();
+    states.push_back(setup.Fields());
+  };
+  setup.TypeEnd(1, u"5");
+  look();
+  setup.TypeScore(2, u"2.5");
+  look();
+  setup.ClickRadio(0);
+  look();
+  for (std::size_t n = states.size() - 1; n > 0; --n) {
+    EXPECT_TRUE(steps.Undo());
+    EXPECT_EQ(setup.Fields(), states[n - 1]);
+  }
+  EXPECT_FALSE(steps.Undo());
+  for (std::size_t n = 1; n < states.size(); ++n) {
+    EXPECT_TRUE(steps.Redo());
+    EXPECT_EQ(setup.Fields(), states[n]);
+  }
+  EXPECT_FALSE(steps.Redo());
 }
 
 }  // namespace

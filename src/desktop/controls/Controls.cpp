@@ -6,25 +6,9 @@
 #include <QShortcut>
 
 namespace quorvantis {
-namespace {
 
-/// Text still being composed in a field is committed before a command.
-void Act(QWidget* control) {
-  QGuiApplication::inputMethod()->commit();
-  if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-    button->click();
-  } else {
-    control->setFocus(Qt::ShortcutFocusReason);
-  }
-}
-
-}  // namespace
-
-QString PlainTip(const QString& tip, const Keys& keys) {
-  QStringList names;
-  for (const QKeySequence& key : keys) names << key.toString(QKeySequence::NativeText);
-  const QString all = names.isEmpty() ? tip : tip + " (" + names.join(", ") + ")";
-  return Qt::mightBeRichText(all) ? all.toHtmlEscaped() : all;
+QString PlainTip(const QString& tip) {
+  return Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip;
 }
 
 void NameControl(QWidget* control, const char* name, const QString& spokenName) {
@@ -40,10 +24,26 @@ void AddKeys(QWidget* control, const Keys& keys) {
   }
 }
 
-void SetUpButton(QAbstractButton* button, const char* name, const QString& tip, const Keys& keys,
+Keys KeysOf(const QWidget* control) {
+  Keys keys;
+  for (const auto* shortcut : control->findChildren<QShortcut*>(Qt::FindDirectChildrenOnly)) {
+    keys << shortcut->key();
+  }
+  return keys;
+}
+
+void Act(QWidget* control) {
+  QGuiApplication::inputMethod()->commit();
+  if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+    button->click();
+  } else {
+    control->setFocus(Qt::ShortcutFocusReason);
+  }
+}
+
+void SetUpButton(QAbstractButton* button, const char* name, const QString& spokenName, const Keys& keys,
                  std::function<void()> command) {
-  NameControl(button, name, tip);
-  button->setToolTip(PlainTip(tip, keys));
+  NameControl(button, name, spokenName);
   AddKeys(button, keys);
   QObject::connect(button, &QAbstractButton::clicked, button, std::move(command));
 }
@@ -58,7 +58,6 @@ QLabel* MakeLabel(QWidget* parent, const char* name, const QString& caption) {
 void SetUpField(QWidget* field, const char* name, QLabel* label, const Keys& keys) {
   NameControl(field, name, label->text());
   label->setBuddy(field);
-  label->setToolTip(PlainTip(label->text(), keys));
   AddKeys(field, keys);
 }
 

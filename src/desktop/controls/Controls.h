@@ -14,9 +14,8 @@ namespace quorvantis {
 
 using Keys = QList<QKeySequence>;
 
-/// A tooltip that shows `tip` as plain text, whatever a translation or a file name contains, and the
-/// shortcut.
-QString PlainTip(const QString& tip, const Keys& keys = {});
+/// A tooltip that shows `tip` as plain text, whatever a translation or a file name contains.
+QString PlainTip(const QString& tip);
 
 /// Names a control for style sheets and tests, and for screen readers.
 void NameControl(QWidget* control, const char* name, const QString& spokenName);
@@ -25,13 +24,20 @@ void NameControl(QWidget* control, const char* name, const QString& spokenName);
 /// and enabled, and are the same in every language, so captions need no mnemonics.
 void AddKeys(QWidget* control, const Keys& keys);
 
-/// Names a button, gives it its tooltip and keys, and runs `command` when it is clicked.
-void SetUpButton(QAbstractButton* button, const char* name, const QString& tip, const Keys& keys,
+/// The keys that AddKeys has given to `control`.
+Keys KeysOf(const QWidget* control);
+
+/// What the keys of a control do: they click a button and focus anything else. Text still being composed in
+/// a field is committed first.
+void Act(QWidget* control);
+
+/// Names a button, gives it its keys, and runs `command` when it is clicked.
+void SetUpButton(QAbstractButton* button, const char* name, const QString& spokenName, const Keys& keys,
                  std::function<void()> command);
 
 QLabel* MakeLabel(QWidget* parent, const char* name, const QString& caption);
 
-/// Names `field` after its label, whose tooltip shows the keys that focus it.
+/// Names `field` after its label, and gives it the keys that focus it.
 void SetUpField(QWidget* field, const char* name, QLabel* label, const Keys& keys);
 
 }  // namespace quorvantis

@@ -23,10 +23,10 @@ class ExamField {
   ExamField(const ExamField&) = delete;
   ExamField& operator=(const ExamField&) = delete;
 
-  /// Shows the form's text, with nothing to undo.
+  /// Shows the form's text.
   void Load();
 
-  /// Shows the form's text if a command has changed it, as a step that can be undone.
+  /// Shows the form's text if a command has changed it. The cursor stays with the text around it.
   void FollowForm();
 
   /// Selects a part of the form's text, in UTF-16 units. What is beyond its end is left out.
@@ -42,7 +42,7 @@ class ExamField {
 
   const std::u16string& Shown() const { return text_.Shown(); }
 
-  /// Replaces the content of the widget and clears its undo history.
+  /// Replaces the content of the widget.
   virtual void ShowAnew(const std::u16string& shown) = 0;
 
   /// Makes one change to the widget's content, as a user would.

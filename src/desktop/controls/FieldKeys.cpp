@@ -9,8 +9,16 @@
 
 namespace quorvantis {
 
-bool IsOtherRedo(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+bool IsHistoryKey(const QKeyEvent& event) {
+  const bool isY = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+  const bool isZ = event.key() == Qt::Key_Z &&
+                   (event.modifiers() & ~Qt::ShiftModifier) == Qt::KeyboardModifiers(Qt::ControlModifier);
+  return isY || isZ;
+}
+
+void RemoveFieldHistory(QMenu& menu) {
+  constexpr int kUndoRedoAndSeparator = 3;
+  for (QAction* action : menu.actions().first(kUndoRedoAndSeparator)) menu.removeAction(action);
 }
 
 void TellAtCursor(QWidget* field, const QRect& cursor, std::u16string_view message) {

@@ -3,14 +3,18 @@
 #pragma once
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <QWidget>
 
 #include <string_view>
 
 namespace quorvantis {
 
-/// Ctrl+Y, which Qt uses for Redo only on other desktops.
-bool IsOtherRedo(const QKeyEvent& event);
+/// A key of Undo or Redo. The fields leave them to the window, whose history has the typing in all fields.
+bool IsHistoryKey(const QKeyEvent& event);
+
+/// Takes Undo and Redo of the field itself out of its own context menu, where they come first.
+void RemoveFieldHistory(QMenu& menu);
 
 /// Beeps and shows `message` for a while at `cursor`, a place in `field`, without interrupting typing.
 void TellAtCursor(QWidget* field, const QRect& cursor, std::u16string_view message);

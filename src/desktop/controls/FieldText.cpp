@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/controls/FieldText.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -23,15 +23,6 @@ std::size_t StepLength(std::u16string_view text, std::size_t position) {
 }
 
 }  // namespace
-
-TextChange FindChange(std::u16string_view before, std::u16string_view after) {
-  const std::size_t shorter = std::min(before.size(), after.size());
-  std::size_t start = 0;
-  while (start < shorter && before[start] == after[start]) ++start;
-  std::size_t tail = 0;
-  while (tail < shorter - start && before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) ++tail;
-  return {start, before.size() - start - tail, after.size() - start - tail};
-}
 
 void FieldText::Load(std::u16string text) {
   Set(std::move(text));

@@ -48,6 +48,7 @@ MultiLineField::MultiLineField(QuestionEditor& editor, const StringTable& string
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setLineWidth(2);
   setTabChangesFocus(true);
+  setUndoRedoEnabled(false);
   connect(document(), &QTextDocument::contentsChanged, this, &MultiLineField::TakeContents);
   connect(this, &MultiLineField::Overran, this, &MultiLineField::Restore, Qt::QueuedConnection);
 }
@@ -56,6 +57,10 @@ MultiLineField::MultiLineField(QuestionEditor& editor, const StringTable& string
 bool MultiLineField::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride && ScrollsWith(static_cast<QKeyEvent&>(*event))) {
     event->accept();
+    return true;
+  }
+  if (event->type() == QEvent::ShortcutOverride && IsHistoryKey(static_cast<QKeyEvent&>(*event))) {
+    event->ignore();
     return true;
   }
   if (event->type() == QEvent::Paint) {  // for the frame; the text is on the viewport
@@ -80,8 +85,8 @@ void MultiLineField::Tell(const std::u16string& message) {
 void MultiLineField::keyPressEvent(QKeyEvent* event) {
   const QString text = TextOf(*event);
   if (!text.isEmpty() && RefusesInsertion(text)) return;
-  if (IsOtherRedo(*event)) {
-    redo();
+  if (IsHistoryKey(*event)) {
+    event->ignore();
     return;
   }
   if (IsEnter(*event) && event->modifiers().testFlag(Qt::ShiftModifier)) {
@@ -91,6 +96,13 @@ void MultiLineField::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QPlainTextEdit::keyPressEvent(event);
+}
+
+void MultiLineField::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* menu = createStandardContextMenu(event->pos());
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  RemoveFieldHistory(*menu);
+  menu->popup(event->globalPos());
 }
 
 void MultiLineField::inputMethodEvent(QInputMethodEvent* event) {
@@ -144,8 +156,7 @@ void MultiLineField::SelectShown(int start, int end) {
   setTextCursor(cursor);
 }
 
-/// Called before the document changes, because Qt merges typing into one undo step, and the last part of a
-/// step cannot be undone by itself.
+/// Called before the document changes: afterwards there is no way back.
 bool MultiLineField::RefusesInsertion(const QString& inserted, int offset, int replaced) {
   const QTextCursor cursor = textCursor();
   const int start = cursor.selectionStart();
@@ -156,7 +167,7 @@ bool MultiLineField::RefusesInsertion(const QString& inserted, int offset, int r
   return refused_;
 }
 
-/// Called however a change has come about. If one is refused only here, undo or a Qt menu has made it; the
+/// Called however a change has come about. If one is refused only here, a Qt menu has made it; the
 /// document is in the middle of it and must not be touched until it is done.
 void MultiLineField::TakeContents() {
   const QString content = document()->toRawText();

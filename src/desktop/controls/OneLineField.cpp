@@ -32,7 +32,6 @@ OneLineField::OneLineField(QuestionEditor& editor, const StringTable& strings, F
   setFrame(false);  // a style's frame would leave too little room in a field of 20 pixels
   setTextMargins(3, 0, 3, 0);
   setValidator(new Gate(*this));
-  connect(this, &QLineEdit::textChanged, this, &OneLineField::RestoreIfRefused);
 }
 
 void OneLineField::paintEvent(QPaintEvent* event) {
@@ -41,12 +40,27 @@ void OneLineField::paintEvent(QPaintEvent* event) {
   PaintFieldEdge(painter, *this);
 }
 
+bool OneLineField::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && IsHistoryKey(static_cast<QKeyEvent&>(*event))) {
+    event->ignore();
+    return true;
+  }
+  return QLineEdit::event(event);
+}
+
 void OneLineField::keyPressEvent(QKeyEvent* event) {
-  if (IsOtherRedo(*event)) {
-    redo();
+  if (IsHistoryKey(*event)) {
+    event->ignore();
   } else {
     QLineEdit::keyPressEvent(event);
   }
+}
+
+void OneLineField::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  RemoveFieldHistory(*menu);
+  menu->popup(event->globalPos());
 }
 
 void OneLineField::Tell(const std::u16string& message) {
@@ -71,7 +85,6 @@ void OneLineField::ShowAnew(const std::u16string& shown) {
 }
 
 void OneLineField::ShowChange(const TextChange& change, const std::u16string& shown) {
-  home(false);  // moving the cursor ends the undo step of the user's typing
   setSelection(static_cast<int>(change.start), static_cast<int>(change.removed));
   insert(ToQString(std::u16string_view(shown).substr(change.start, change.added)));
 }
@@ -83,15 +96,6 @@ void OneLineField::SelectShown(int start, int end) {
 bool OneLineField::Takes(const QString& content) {
   refused_ = !Edit(FromQString(content));
   return !refused_;
-}
-
-/// Undo can restore a loaded text that is too long for the field; Qt's validator lets that pass.
-void OneLineField::RestoreIfRefused() {
-  if (!refused_) return;
-  refused_ = false;
-  const int cursor = cursorPosition();
-  ShowAnew(Shown());
-  setCursorPosition(std::min(cursor, static_cast<int>(text().size())));
 }
 
 }  // namespace quorvantis

@@ -16,7 +16,9 @@ class OneLineField : public QLineEdit, public ExamField {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -29,7 +31,6 @@ class OneLineField : public QLineEdit, public ExamField {
   class Gate;
 
   bool Takes(const QString& content);
-  void RestoreIfRefused();
 
   bool refused_ = false;  ///< the last change was refused
 };

@@ -2,6 +2,7 @@
 #include "desktop/dialogs/CScoreSetupDlg.h"
 
 #include "desktop/controls/Controls.h"
+#include "desktop/controls/FieldKeys.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
@@ -13,6 +14,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShortcut>
 
 namespace quorvantis {
 namespace {
@@ -60,6 +62,7 @@ CScoreSetupDlg::CScoreSetupDlg(ScoreSetup& setup, SetupOwner& owner, const Strin
                                QWidget* parent)
     : QDialog(parent),
       setup_(setup),
+      steps_(setup),
       owner_(owner),
       strings_(strings),
       modes_(new QButtonGroup(this)),
@@ -76,6 +79,7 @@ CScoreSetupDlg::CScoreSetupDlg(ScoreSetup& setup, SetupOwner& owner, const Strin
   column->addLayout(MakeButtons());
   MakeMinimumQuestions();
   for (QWidget* control : findChildren<QWidget*>()) control->installEventFilter(this);
+  AddHistoryKeys();
   ShowFields();
   resize(sizeHint().boundedTo(screen()->availableSize() - QSize(0, kTitleBar)));
   modes_->checkedButton()->setFocus();
@@ -98,6 +102,7 @@ QLayout* CScoreSetupDlg::MakeModes() {
   add("assignedScores", text_id::kAssignedScore, 1);
   connect(modes_, &QButtonGroup::idClicked, this, [this](int value) {
     setup_.ClickRadio(value);
+    steps_.Look();
     ShowFields();
   });
   return rows;
@@ -174,6 +179,7 @@ void CScoreSetupDlg::ShowSums() {
 void CScoreSetupDlg::EndChanged(int range, const QString& text) {
   if (!loading_) {
     setup_.TypeEnd(range, FromQString(text));
+    steps_.Look();
     ShowFields();
   }
   Row(range).to->end(false);
@@ -182,7 +188,19 @@ void CScoreSetupDlg::EndChanged(int range, const QString& text) {
 void CScoreSetupDlg::ScoreChanged(int range, const QString& text) {
   if (loading_) return;
   setup_.TypeScore(range, FromQString(text));
+  steps_.Look();
   ShowSums();
+}
+
+void CScoreSetupDlg::AddHistoryKeys() {
+  const auto add = [this](const QKeySequence& key, bool (SetupSteps::*step)()) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, step] {
+      if ((steps_.*step)()) ShowFields();
+    });
+  };
+  add(Qt::CTRL | Qt::Key_Z, &SetupSteps::Undo);
+  add(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &SetupSteps::Redo);
+  add(Qt::CTRL | Qt::Key_Y, &SetupSteps::Redo);
 }
 
 void CScoreSetupDlg::done(int result) {
@@ -195,6 +213,10 @@ bool CScoreSetupDlg::event(QEvent* event) {
 }
 
 bool CScoreSetupDlg::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && IsHistoryKey(static_cast<QKeyEvent&>(*event))) {
+    event->ignore();  // otherwise a field would take the key for itself
+    return true;
+  }
   return IsSwallowedKey(*event) || QDialog::eventFilter(watched, event);
 }
 

@@ -6,6 +6,7 @@
 #include "platform/StringTable.h"
 #include "scoring/ScoreSetup.h"
 #include "scoring/SetupOwner.h"
+#include "scoring/SetupSteps.h"
 
 #include <QButtonGroup>
 #include <QDialog>
@@ -45,10 +46,12 @@ class CScoreSetupDlg final : public QDialog {
   void ShowSums();
   void EndChanged(int range, const QString& text);
   void ScoreChanged(int range, const QString& text);
+  void AddHistoryKeys();
 
   QString Text(int number) const;
 
   ScoreSetup& setup_;
+  SetupSteps steps_;
   SetupOwner& owner_;
   const StringTable& strings_;
   bool loading_ = false;  ///< the fields change because the dialog writes into them

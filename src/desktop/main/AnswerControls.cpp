@@ -54,8 +54,9 @@ void AnswerControls::MakeAnswerLine(const StringTable& strings, const Pictures& 
   answer = new OneLineField(editor_.questions, strings, FormField::Answer, parent);
   SetUpField(answer, "answer", answerLabel, {kAnswerKey});
   separator = new SmallButton(pictures, kSeparator, kSeparator, parent);
-  SetUpButton(separator, "listSeparator", Caption(strings, text_id::kListSeparatorTip), {Qt::ALT | Qt::Key_M},
-              [this] { AppendSeparator(); });
+  const QString tip = Caption(strings, text_id::kListSeparatorTip);
+  SetUpButton(separator, "listSeparator", tip, {Qt::ALT | Qt::Key_M}, [this] { AppendSeparator(); });
+  separator->setToolTip(PlainTip(tip));
 }
 
 void AnswerControls::MakeEssay(const StringTable& strings, QWidget* parent) {
@@ -78,6 +79,13 @@ void AnswerControls::Refresh() {
   answer->FollowForm();
   essay->FollowForm();
   ShowControls(editor_.questions.ShownKindControls());
+}
+
+QWidget* AnswerControls::FirstField() const {
+  const AnswerParts& shown = editor_.questions.ShownKindControls();
+  if (shown.options) return options.front();
+  if (shown.fillIn) return answer;
+  return shown.essay ? essay : nullptr;
 }
 
 void AnswerControls::TickBox(std::size_t index) {

@@ -28,6 +28,9 @@ class AnswerControls {
   /// Shows the editor's current values.
   void Refresh();
 
+  /// The first field of the kind that is shown, or null.
+  QWidget* FirstField() const;
+
   std::array<StateBox*, kOptionCount> boxes{};
   std::array<MultiLineField*, kOptionCount> options{};
   QLabel* answerLabel = nullptr;

@@ -6,6 +6,8 @@
 #include "desktop/controls/PlacedText.h"
 #include "desktop/dialogs/AboutDlg.h"
 #include "desktop/dialogs/CScoreSetupDlg.h"
+#include "desktop/main/GuideDlg.h"
+#include "desktop/main/KeysDlg.h"
 #include "desktop/main/RecoveryQuestion.h"
 #include "host/ImportRules.h"
 #include "model/document/ExamServices.h"
@@ -22,6 +24,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
+#include <QFile>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
@@ -43,6 +46,12 @@ QuestionArea* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
   return area;
 }
 
+QWidget* MakeClientArea(QWidget* window) {
+  auto* area = new QWidget(window);
+  area->setObjectName("clientArea");
+  return area;
+}
+
 /// A hidden dialog button; keys and assistive technology press it.
 QPushButton* MakeHiddenButton(const char* name, QWidget* parent) {
   auto* button = new QPushButton(parent);
@@ -53,9 +62,25 @@ QPushButton* MakeHiddenButton(const char* name, QWidget* parent) {
   return button;
 }
 
+/// An empty text if the file cannot be read.
+QString ReadPage(const std::filesystem::path& file) {
+  QFile page(PathToQString(file));
+  return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
+}
+
 bool CanRead(const std::filesystem::path& file) {
   std::error_code ignored;
   return std::filesystem::is_regular_file(file, ignored) && std::ifstream(file).is_open();
+}
+
+/// Opens a window that may stay open, or brings it to the front.
+template <class Dialog, class... Values>
+void ShowOnce(QWidget& parent, const Values&... values) {
+  auto* dialog = parent.findChild<Dialog*>();
+  if (dialog == nullptr) dialog = new Dialog(values..., &parent);
+  dialog->show();
+  dialog->raise();
+  dialog->activateWindow();
 }
 
 PreviewTexts TextsOfPreviews(const StringTable& strings) {
@@ -80,21 +105,29 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       editor_(life_.Editor()),
       services_(exam.Services()),
       languageId_(languageId),
+      pdf_(services_, *this),
       previews_(SetUpGateway(services_, pages)),
       importWindows_(exam.Services(), library, *this),
-      import_(editor_, papers, importWindows_, FindImportRules(services_.applicationFolder)),
+      import_(editor_, life_.Steps(), papers, importWindows_, FindImportRules(services_.applicationFolder)),
       pictures_(library),
-      toolbar_(editor_, Commands(), services_.strings, pictures_, this),
-      examControls_(editor_, services_.strings, this),
-      questionArea_(MakeQuestionArea(services_.strings, this)),
-      question_(editor_, services_.strings, pictures_, this),
-      answers_(editor_, services_.strings, pictures_, this),
+      openRecent_(editor_),
+      client_(MakeClientArea(this)),
+      focusedField_(*client_),
+      toolbar_(editor_, Commands(), services_.strings, pictures_, client_),
+      examControls_(editor_, services_.strings, client_),
+      questionArea_(MakeQuestionArea(services_.strings, client_)),
+      question_(editor_, services_.strings, pictures_, client_),
+      answers_(editor_, services_.strings, pictures_, client_),
+      history_(life_.Steps(), examControls_, question_, answers_, services_),
       search_(editor_, examControls_, question_, answers_, *this),
-      recoveryFails_(new WarningNotice("recoveryFails", this)),
-      scroll_(*this),
-      cancel_(MakeHiddenButton("cancel", this)),
-      ok_(MakeHiddenButton("ok", this)),
-      printAgain_(MakeHiddenButton("printAgain", this)) {
+      recoveryFails_(new WarningNotice("recoveryFails", client_)),
+      scroll_(*client_),
+      cancel_(MakeHiddenButton("cancel", client_)),
+      ok_(MakeHiddenButton("ok", client_)),
+      printAgain_(MakeHiddenButton("printAgain", client_)),
+      menuBar_(new MenuBar(
+          WindowMenus(Controls(), editor_, focusedField_, services_.strings, MenuCommands()).Tables(),
+          ToQString(services_.strings.Text(text_id::kMenuBar)), this)) {
   editor_.files.SetLongAnswersWhole(true);
   setWindowIcon(pictures_.Picture(kProgramIcon));
   setAcceptDrops(true);
@@ -107,7 +140,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
   ok_->setEnabled(false);  // so that Enter does not close the window
   connect(printAgain_, &QPushButton::clicked, this, &CQuorvantisDlg::Print);
   connect(&scroll_, &WindowScroll::Scrolled, this, &CQuorvantisDlg::Layout);
-  SetFirstSize(*this);
+  SetFirstSize(*this, menuBar_->Height());
   OfferImport();
   connect(&recoveryTimer_, &QTimer::timeout, this, [this] { KeepRecovery(); });
   TitleChanged();
@@ -145,8 +178,30 @@ ToolbarButtons::WindowCommands CQuorvantisDlg::Commands() {
   return commands;
 }
 
+WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
+  WindowMenus::Commands commands;
+  commands.hasRecent = [this] { return !openRecent_.IsEmpty(); };
+  commands.recent = [this] { return openRecent_.Entries(); };
+  commands.exportPdf = [this] { ExportPdf(); };
+  commands.quit = [this] { close(); };
+  commands.history = &history_;
+  commands.search = &search_;
+  commands.canUndoImport = [this] { return import_.CanUndo(); };
+  commands.undoImport = [this] { importWindows_.Undo(import_); };
+  commands.guide = [this] { ShowGuide(); };
+  commands.keys = [this] { ShowKeys(); };
+  commands.about = [this] { ShowAbout(); };
+  return commands;
+}
+
 WindowControls CQuorvantisDlg::Controls() {
   return {toolbar_, examControls_, questionArea_, question_, answers_, recoveryFails_};
+}
+
+void CQuorvantisDlg::PlaceParts() {
+  const int menuHeight = menuBar_->Height();
+  menuBar_->setGeometry(0, 0, width(), menuHeight);
+  client_->setGeometry(0, menuHeight, width(), height() - menuHeight);
 }
 
 void CQuorvantisDlg::Layout() {
@@ -162,6 +217,7 @@ void CQuorvantisDlg::OfferImport() {
 
 /// No message box: it would interrupt the user's typing.
 void CQuorvantisDlg::KeepRecovery() {
+  history_.Note();
   life_.LookAfterUnsaved();
   const std::error_code failure = life_.RecoveryFailure();
   if (!failure) return recoveryFails_->hide();
@@ -175,6 +231,7 @@ void CQuorvantisDlg::FormLoaded() {
   question_.Load();
   answers_.Load();
   importWindows_.ExamChanged();
+  history_.Note();
   search_.ExamChanged();
 }
 
@@ -184,6 +241,7 @@ void CQuorvantisDlg::FormChanged() {
   question_.Refresh();
   answers_.Refresh();
   Layout();
+  history_.Note();
   search_.ExamChanged();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
@@ -191,6 +249,7 @@ void CQuorvantisDlg::FormChanged() {
 void CQuorvantisDlg::TitleChanged() {
   // Qt treats "[*]" in a title specially; doubled, it stands for itself.
   setWindowTitle(ToQString(editor_.state.WindowTitle()).replace("[*]", "[*][*]"));
+  openRecent_.Note();
 }
 
 void CQuorvantisDlg::WarmBrowser() {
@@ -215,16 +274,47 @@ void CQuorvantisDlg::Preview() {
 void CQuorvantisDlg::Print() {
   PrintCommand(editor_, [this](const std::filesystem::path& page) {
     RenewPreviewWindow();
-    previewWindow_->Navigate(page);
-    previewWindow_->Place(kOffScreen, kOffScreen);
-    previewWindow_->Show();
-    previewWindow_->StartPrintTimer();
-    previewWindow_->Hide();
+    PrintPage(page);
+  }).Run();
+}
+
+void CQuorvantisDlg::PrintPage(const std::filesystem::path& page) {
+  previewWindow_->Navigate(page);
+  previewWindow_->Place(kOffScreen, kOffScreen);
+  previewWindow_->Show();
+  previewWindow_->StartPrintTimer();
+  previewWindow_->Hide();
+}
+
+void CQuorvantisDlg::ExportPdf() {
+  const std::filesystem::path target = pdf_.ChooseTarget(editor_.questions.Form().title);
+  if (target.empty()) return;
+  PrintCommand(editor_, [this, &target](const std::filesystem::path& page) {
+    previews_.ChoosePrinterWith(pdf_.MakePrinter());
+    RenewPreviewWindow();
+    previews_.ChoosePrinterWith({});
+    pdf_.Watch(previewWindow_->Printer(), target);
+    PrintPage(page);
   }).Run();
 }
 
 void CQuorvantisDlg::ShowAbout() {
   AboutDlg(library_, this).exec();
+}
+
+void CQuorvantisDlg::ShowGuide() {
+  const std::filesystem::path guide =
+      FindGuide(library_ == nullptr ? kEnglish : library_->Id().value_or(kEnglish));
+  const QString page = ReadPage(guide);
+  const StringTable& strings = services_.strings;
+  if (page.isEmpty())
+    services_.dialogs.ShowError(FillMessage(strings.Text(text_id::kNoGuide), {PathToText(guide)}));
+  else
+    ShowOnce<GuideDlg>(*this, ToQString(strings.Text(text_id::kGuide)), page);
+}
+
+void CQuorvantisDlg::ShowKeys() {
+  ShowOnce<KeysDlg>(*this, menuBar_->Menus(), services_.strings);
 }
 
 void CQuorvantisDlg::SetUpScores() {
@@ -239,6 +329,7 @@ void CQuorvantisDlg::PreviewFromSetup(int show) {
 
 void CQuorvantisDlg::PostContentChanged() {
   emit ContentChangePosted();
+  history_.Note();
   search_.ExamChanged();
 }
 
@@ -262,11 +353,12 @@ void CQuorvantisDlg::showEvent(QShowEvent* event) {
 }
 
 void CQuorvantisDlg::ScreenChanged() {
-  LimitSize(*this);
+  LimitSize(*this, menuBar_->Height());
 }
 
 void CQuorvantisDlg::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  PlaceParts();
   Layout();
 }
 
@@ -274,7 +366,10 @@ void CQuorvantisDlg::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   const bool changesTexts = event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
                             event->type() == QEvent::LayoutDirectionChange;
-  if (changesTexts && isVisible()) Layout();
+  if (!changesTexts || !isVisible()) return;
+  if (menuBar_->Height() != client_->y()) LimitSize(*this, menuBar_->Height());
+  PlaceParts();
+  Layout();
 }
 
 /// Not every desktop has a window menu that a program can extend, so the window's background has one.

@@ -6,12 +6,18 @@
 #include "desktop/import/ImportWindows.h"
 #include "desktop/main/AnswerControls.h"
 #include "desktop/main/ExamControls.h"
+#include "desktop/main/FocusedField.h"
+#include "desktop/main/HistoryCommands.h"
+#include "desktop/main/MenuBar.h"
+#include "desktop/main/OpenRecent.h"
+#include "desktop/main/PdfExport.h"
 #include "desktop/main/QuestionArea.h"
 #include "desktop/main/QuestionControls.h"
 #include "desktop/main/SearchCommands.h"
 #include "desktop/main/ToolbarButtons.h"
 #include "desktop/main/WarningNotice.h"
 #include "desktop/main/WindowLayout.h"
+#include "desktop/main/WindowMenus.h"
 #include "desktop/main/WindowScroll.h"
 #include "import/ImportCommand.h"
 #include "preview/PreviewWindows.h"
@@ -28,10 +34,10 @@
 
 namespace quorvantis {
 
-/// The main window. It connects the controls to the editor, which has all the rules; the window only shows
-/// what the editor reports. Escape closes it without asking; closing it in other ways asks about unsaved
-/// changes. When the window is destroyed, the work copies of attached files are deleted. While there are
-/// unsaved changes, there is a recovery copy.
+/// The main window: a menu bar above the client area with all controls. It connects them to the editor, which
+/// has all the rules; the window only shows what the editor reports. Escape closes it without asking; closing
+/// it in other ways asks about unsaved changes. When the window is destroyed, the work copies of attached
+/// files are deleted. While there are unsaved changes, there is a recovery copy.
 class CQuorvantisDlg final : public FittedWindow,
                              private EditorView,
                              private PreviewOwner,
@@ -61,6 +67,9 @@ class CQuorvantisDlg final : public FittedWindow,
 
   /// The window shows the exam of `file`.
   bool Shows(const std::filesystem::path& file) const;
+
+  /// From now on the exams that are opened and saved are kept in `exams`, which must outlive the window.
+  void KeepRecent(const RecentExams& exams) { openRecent_.KeepIn(exams); }
 
   /// Updates the recovery copy.
   void KeepUnsavedWork() { life_.KeepUnsaved(); }
@@ -95,6 +104,9 @@ class CQuorvantisDlg final : public FittedWindow,
 
   ToolbarButtons::WindowCommands Commands();
   WindowControls Controls();
+  WindowMenus::Commands MenuCommands();
+  /// Places the menu bar and the client area.
+  void PlaceParts();
   /// Places every control.
   void Layout();
   void OfferImport();
@@ -103,10 +115,15 @@ class CQuorvantisDlg final : public FittedWindow,
   void ScreenChanged();
   void EndUnasked();
   void ShowAbout();
+  void ShowGuide();
+  void ShowKeys();
   /// Discards the preview window and creates a new hidden one.
   void RenewPreviewWindow();
   void Preview();
   void Print();
+  /// Loads the page out of sight and prints it.
+  void PrintPage(const std::filesystem::path& page);
+  void ExportPdf();
   void SetUpScores();
   void TakeFiles(const QList<QUrl>& urls);
 
@@ -116,23 +133,29 @@ class CQuorvantisDlg final : public FittedWindow,
   const ExamServices& services_;
   QTimer recoveryTimer_;
   const int languageId_;
+  PdfExport pdf_;
   PreviewWindows previews_;
   PreviewWindows::Window previewWindow_;  ///< null until the browser has started
   ImportWindows importWindows_;
   ImportCommand import_;
   Pictures pictures_;
   bool endsUnasked_ = false;
+  OpenRecent openRecent_;
+  QWidget* client_;
+  FocusedField focusedField_;
   ToolbarButtons toolbar_;
   ExamControls examControls_;
   QuestionArea* questionArea_;
   QuestionControls question_;
   AnswerControls answers_;
+  HistoryCommands history_;
   SearchCommands search_;
   WarningNotice* recoveryFails_;
   WindowScroll scroll_;
   QPushButton* cancel_;  ///< hidden, like the two below
   QPushButton* ok_;
   QPushButton* printAgain_;
+  MenuBar* menuBar_;
 };
 
 }  // namespace quorvantis

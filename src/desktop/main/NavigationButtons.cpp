@@ -92,8 +92,10 @@ NavigationButtons::NavigationButtons(ExamEditor& editor, const StringTable& stri
   for (std::size_t i = 0; i < kCount; ++i) {
     const NavigationButtonSpec& spec = kNavigationSpecs[i];
     buttons_[i] = new SmallButton(pictures, spec.bitmaps, spec.mirrored, parent);
-    SetUpButton(buttons_[i], spec.name, ToQString(strings.Text(spec.tip)), spec.keys,
+    const QString tip = ToQString(strings.Text(spec.tip));
+    SetUpButton(buttons_[i], spec.name, tip, spec.keys,
                 [&editor, command = spec.command] { command(editor); });
+    buttons_[i]->setToolTip(PlainTip(tip));
   }
 }
 

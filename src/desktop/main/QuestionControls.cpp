@@ -100,7 +100,6 @@ void QuestionControls::ShowOralToggle() {
   const QString caption = ToQString(editor_.attachments.OralToggleCaption());
   oralToggle->setText(caption);
   oralToggle->setAccessibleName(caption);
-  oralToggle->setToolTip(PlainTip(caption, {kOralKey}));
   oralToggle->setVisible(editor_.attachments.OralToggleVisible());
   oralToggle->setEnabled(editor_.attachments.OralToggleVisible());
 }

@@ -1,13 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/main/SearchCommands.h"
 
-#include <QShortcut>
+#include "desktop/main/FormFields.h"
+
 #include <QTextCursor>
+
+#include <optional>
 
 namespace quorvantis {
 namespace {
 
 constexpr int kLongestQuery = 200;  // of a selection; a longer one is hardly meant to be searched for
+
+std::optional<FormField> FieldOf(const TextPlace& place) {
+  switch (place.field) {
+    case ExamFieldName::Title:
+      return FormField::Title;
+    case ExamFieldName::QuestionText:
+      return FormField::Text;
+    case ExamFieldName::Options:
+      return OptionField(place.index);
+    case ExamFieldName::FillInAnswer:
+      return FormField::Answer;
+    case ExamFieldName::EssayAnswer:
+      return FormField::Essay;
+    default:
+      return std::nullopt;
+  }
+}
 
 /// So that only the hit that is shown is selected.
 void Deselect(QWidget* field) {
@@ -20,19 +40,6 @@ void Deselect(QWidget* field) {
 }
 
 }  // namespace
-
-SearchCommands::SearchCommands(ExamEditor& editor, ExamControls& exam, QuestionControls& question,
-                               AnswerControls& answers, QWidget& window)
-    : editor_(editor), exam_(exam), question_(question), answers_(answers), window_(window) {
-  const auto addKey = [&](const QKeySequence& key, void (SearchCommands::*command)()) {
-    QObject::connect(new QShortcut(key, &window), &QShortcut::activated, &window,
-                     [this, command] { (this->*command)(); });
-  };
-  addKey(Qt::CTRL | Qt::Key_F, &SearchCommands::Find);
-  addKey(Qt::CTRL | Qt::Key_H, &SearchCommands::Replace);
-  addKey(Qt::Key_F3, &SearchCommands::FindNext);
-  addKey(Qt::SHIFT | Qt::Key_F3, &SearchCommands::FindPrevious);
-}
 
 SearchWindow& SearchCommands::Window() {
   if (search_ == nullptr)
@@ -51,28 +58,6 @@ QString SearchCommands::SelectedText() const {
   return isOneLine && text.size() <= kLongestQuery ? text : QString();
 }
 
-/// `widget` becomes the control of the place.
-ExamField* SearchCommands::FieldOf(const TextPlace& place, QWidget*& widget) const {
-  const auto take = [&widget](auto* field) -> ExamField* {
-    widget = field;
-    return field;
-  };
-  switch (place.field) {
-    case ExamFieldName::Title:
-      return take(exam_.title);
-    case ExamFieldName::QuestionText:
-      return take(question_.text);
-    case ExamFieldName::Options:
-      return take(answers_.options[place.index]);
-    case ExamFieldName::FillInAnswer:
-      return take(answers_.answer);
-    case ExamFieldName::EssayAnswer:
-      return take(answers_.essay);
-    default:
-      return nullptr;
-  }
-}
-
 void SearchCommands::ShowHit(const SearchHit& hit) {
   Deselect(window_.focusWidget());
   const int question = hit.place.question;
@@ -83,11 +68,11 @@ void SearchCommands::ShowHit(const SearchHit& hit) {
     list->setCurrentRow(static_cast<int>(hit.place.index));
     return;
   }
-  QWidget* widget = nullptr;
-  ExamField* field = FieldOf(hit.place, widget);
-  if (field == nullptr) return;
-  widget->setFocus();
-  field->Select(hit.start, hit.length);
+  const std::optional<FormField> field = FieldOf(hit.place);
+  if (!field) return;
+  const ShownField shown = FieldShowing(*field, exam_, question_, answers_);
+  shown.widget->setFocus();
+  shown.field->Select(hit.start, hit.length);
 }
 
 }  // namespace quorvantis

@@ -13,7 +13,8 @@ class SearchCommands {
  public:
   /// All must outlive this object; `window` owns the window for find and replace.
   SearchCommands(ExamEditor& editor, ExamControls& exam, QuestionControls& question, AnswerControls& answers,
-                 QWidget& window);
+                 QWidget& window)
+      : editor_(editor), exam_(exam), question_(question), answers_(answers), window_(window) {}
   SearchCommands(const SearchCommands&) = delete;
   SearchCommands& operator=(const SearchCommands&) = delete;
 
@@ -32,7 +33,6 @@ class SearchCommands {
   SearchWindow& Window();
   QString SelectedText() const;
   void ShowHit(const SearchHit& hit);
-  ExamField* FieldOf(const TextPlace& place, QWidget*& widget) const;
 
   ExamEditor& editor_;
   ExamControls& exam_;

@@ -17,6 +17,7 @@ ToolbarButtons::ToolbarButtons(ExamEditor& editor, const WindowCommands& window,
     const QString caption = ToQString(strings.Text(text));
     auto* const button = new LargeButton(caption, pictures.Picture(picture), parent);
     SetUpButton(button, name, caption, keys, std::move(command));
+    button->setToolTip(PlainTip(caption));
     return button;
   };
   buttons_ = {

@@ -26,8 +26,14 @@ QSize FromPixels(PixelSize size) {
   return {size.width, size.height};
 }
 
-SizeLimits LimitsOn(const QScreen& screen) {
-  return LimitsOn(ToPixels(screen.size()), ToPixels(screen.availableSize() - QSize(0, kTitleBar)));
+/// The menu takes its height from the screen, not from the client area.
+SizeLimits ClientLimits(const QScreen& screen, int menuHeight) {
+  return LimitsOn(ToPixels(screen.size() - QSize(0, menuHeight)),
+                  ToPixels(screen.availableSize() - QSize(0, kTitleBar + menuHeight)));
+}
+
+QSize WithMenu(PixelSize client, int menuHeight) {
+  return FromPixels(client) + QSize(0, menuHeight);
 }
 
 PixelSize TextSize(const QWidget& control, const QString& text) {
@@ -57,11 +63,11 @@ LayoutInput Measure(PixelSize area, const WindowControls& controls, const ExamEd
   return input;
 }
 
-/// Moves the controls of a window to their places.
+/// Moves the controls of the client area to their places.
 class Placer {
  public:
   Placer(PixelSize area, const WindowScroll& scroll)
-      : width_(area.width), origin_(scroll.Origin()), mirrored_(scroll.Window().isRightToLeft()) {}
+      : width_(area.width), origin_(scroll.Origin()), mirrored_(scroll.Client().isRightToLeft()) {}
 
   void Place(QWidget* control, const std::optional<PixelRect>& place) const {
     if (!place) return;
@@ -131,15 +137,15 @@ void PlaceControls(WindowScroll& scroll, const WindowControls& controls, const E
   TellDisabled(input, debug);
 }
 
-void LimitSize(QWidget& window) {
-  const SizeLimits limits = LimitsOn(*window.screen());
-  window.setMinimumSize(FromPixels(limits.smallest));
-  window.setMaximumSize(FromPixels(limits.largest));
+void LimitSize(QWidget& window, int menuHeight) {
+  const SizeLimits limits = ClientLimits(*window.screen(), menuHeight);
+  window.setMinimumSize(WithMenu(limits.smallest, menuHeight));
+  window.setMaximumSize(WithMenu(limits.largest, menuHeight));
 }
 
-void SetFirstSize(QWidget& window) {
-  LimitSize(window);
-  window.resize(FromPixels(LimitsOn(*window.screen()).atStart));
+void SetFirstSize(QWidget& window, int menuHeight) {
+  LimitSize(window, menuHeight);
+  window.resize(WithMenu(ClientLimits(*window.screen(), menuHeight).atStart, menuHeight));
 }
 
 void SetTabOrder(const WindowControls& controls) {

@@ -10,8 +10,8 @@
 namespace quorvantis {
 namespace {
 
-QScrollBar* MakeBar(Qt::Orientation orientation, const char* name, QWidget& window) {
-  auto* bar = new QScrollBar(orientation, &window);
+QScrollBar* MakeBar(Qt::Orientation orientation, const char* name, QWidget& client) {
+  auto* bar = new QScrollBar(orientation, &client);
   bar->setObjectName(name);
   bar->setSingleStep(20);
   bar->hide();
@@ -34,41 +34,41 @@ void Reveal(QScrollBar& bar, int from, int to) {
 
 }  // namespace
 
-WindowScroll::WindowScroll(QWidget& window)
-    : window_(window),
-      horizontal_(MakeBar(Qt::Horizontal, "scrollAcross", window)),
-      vertical_(MakeBar(Qt::Vertical, "scrollDown", window)),
-      corner_(new QWidget(&window)) {
+WindowScroll::WindowScroll(QWidget& client)
+    : client_(client),
+      horizontal_(MakeBar(Qt::Horizontal, "scrollAcross", client)),
+      vertical_(MakeBar(Qt::Vertical, "scrollDown", client)),
+      corner_(new QWidget(&client)) {
   corner_->setAutoFillBackground(true);
   corner_->hide();
   for (QScrollBar* bar : {horizontal_.data(), vertical_.data()}) {
     connect(bar, &QScrollBar::valueChanged, this, &WindowScroll::Scrolled);
   }
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* control) { Reveal(control); });
-  window.installEventFilter(this);
+  client.installEventFilter(this);
 }
 
 PixelSize WindowScroll::Fit() {
   const int bar = vertical_->sizeHint().width();
-  shown_ = ScrollIn({window_.width(), window_.height()}, bar);
+  shown_ = ScrollIn({client_.width(), client_.height()}, bar);
   const auto [area, view] = shown_;
-  const int left = window_.isRightToLeft() ? window_.width() - view.width : 0;
-  const int side = window_.isRightToLeft() ? 0 : view.width;
+  const int left = client_.isRightToLeft() ? client_.width() - view.width : 0;
+  const int side = client_.isRightToLeft() ? 0 : view.width;
   horizontal_->setGeometry(left, view.height, view.width, bar);
   vertical_->setGeometry(side, 0, bar, view.height);
   corner_->setGeometry(side, view.height, bar, bar);
   const QSignalBlocker across(*horizontal_), down(*vertical_);  // the caller of Fit places the controls next
   SetBar(*horizontal_, area.width, view.width);
   SetBar(*vertical_, area.height, view.height);
-  corner_->setVisible(horizontal_->isVisibleTo(&window_) && vertical_->isVisibleTo(&window_));
+  corner_->setVisible(horizontal_->isVisibleTo(&client_) && vertical_->isVisibleTo(&client_));
   corner_->raise();
   return area;
 }
 
 QPoint WindowScroll::Origin() const {
   const auto [area, view] = shown_;
-  if (!window_.isRightToLeft()) return {-horizontal_->value(), -vertical_->value()};
-  return {window_.width() - area.width + horizontal_->value(), -vertical_->value()};
+  if (!client_.isRightToLeft()) return {-horizontal_->value(), -vertical_->value()};
+  return {client_.width() - area.width + horizontal_->value(), -vertical_->value()};
 }
 
 /// The wheel over widgets that do not scroll themselves.
@@ -85,9 +85,9 @@ bool WindowScroll::eventFilter(QObject* watched, QEvent* event) {
 void WindowScroll::Reveal(const QWidget* control) {
   if (control == nullptr || !horizontal_ || !vertical_ || QApplication::mouseButtons() != Qt::NoButton)
     return;
-  if (!window_.isAncestorOf(control)) return;
-  const QRect place(control->mapTo(&window_, QPoint()) - Origin(), control->size());
-  const bool mirrored = window_.isRightToLeft();
+  if (!client_.isAncestorOf(control)) return;
+  const QRect place(control->mapTo(&client_, QPoint()) - Origin(), control->size());
+  const bool mirrored = client_.isRightToLeft();
   const int left = mirrored ? shown_.area.width - place.x() - place.width() : place.x();
   quorvantis::Reveal(*horizontal_, left, left + place.width());
   quorvantis::Reveal(*vertical_, place.y(), place.y() + place.height());

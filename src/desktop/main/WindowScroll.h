@@ -9,21 +9,21 @@
 
 namespace quorvantis {
 
-/// Scrolls the controls of a window that is smaller than they need, which happens on small screens only;
+/// Scrolls the controls in a client area that is smaller than they need, which happens on small screens only;
 /// otherwise there are no bars. The wheel scrolls over the background, and a control that gets the focus by a
 /// key is scrolled into view.
 class WindowScroll : public QObject {
   Q_OBJECT
 
  public:
-  explicit WindowScroll(QWidget& window);
+  explicit WindowScroll(QWidget& client);
 
-  const QWidget& Window() const { return window_; }
+  const QWidget& Client() const { return client_; }
 
-  /// Places the bars for the current window size. Returns the size of the area to place controls in.
+  /// Places the bars for the current size. Returns the size of the area to place controls in.
   PixelSize Fit();
 
-  /// The position of the area's top left corner in the window, after Fit.
+  /// The position of the area's top left corner in the client area, after Fit.
   QPoint Origin() const;
 
  signals:
@@ -36,7 +36,7 @@ class WindowScroll : public QObject {
  private:
   void Reveal(const QWidget* control);
 
-  QWidget& window_;
+  QWidget& client_;
   ScrolledView shown_;
   QPointer<QScrollBar> horizontal_;
   QPointer<QScrollBar> vertical_;

@@ -111,8 +111,10 @@ int DesktopWindows::RunMainWindow(CQuorvantisApp& application) {
   const auto exportDocument = [&](const FrameSetExam& document, const std::filesystem::path& target) {
     ExportCommand(document, host.Writer(), &office).ExportWordDocument(target);
   };
+  const RecentExams recentExams(application.ModuleFolder(), host.Services().files, host.Services().codePage);
   CQuorvantisDlg window(exam, host.Pages(), host.Papers(), TakesPicture() ? nullptr : &office, exportDocument,
                         &language, application.LanguageId());
+  if (!TakesPicture()) window.KeepRecent(recentExams);
   window.Begin();
   dialogs_.SetParent(&window);
   progress.SetParent(&window);

@@ -46,7 +46,9 @@ ReplaceOutcome ReplaceHits(ExamEditor& editor, const FrameSetExam& planned,
     }
   }
   if (possible.empty()) return outcome;
-  for (const FieldRewrite& rewrite : editor.texts.Rewrite(possible)) leaveAlone(rewrite.place, {});
+  const std::vector<FieldRewrite> unchanged = editor.texts.Rewrite(possible);
+  for (const FieldRewrite& rewrite : unchanged) leaveAlone(rewrite.place, {});
+  if (unchanged.size() < possible.size()) editor.state.NameChange({ChangeKind::Replace, 0, outcome.replaced});
   return outcome;
 }
 

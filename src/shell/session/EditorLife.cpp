@@ -12,7 +12,7 @@ namespace quorvantis {
 
 EditorLife::EditorLife(FrameSetExam& exam, EditorView& view, DocumentExport exportDocument,
                        OfficeControl* office)
-    : office_(office), editor_(exam, view, std::move(exportDocument)) {
+    : office_(office), editor_(exam, view, std::move(exportDocument)), history_(editor_) {
   exam.SetHostMode(1);
   editor_.files.SetBackups(KeepsBackups(exam.Services().applicationFolder));
   if (office_ == nullptr) return;
@@ -23,6 +23,7 @@ EditorLife::EditorLife(FrameSetExam& exam, EditorView& view, DocumentExport expo
 void EditorLife::Begin() {
   if (office_ != nullptr) office_->processes.AskCloseOffice();
   editor_.questions.LoadCurrentQuestion();
+  history_.Begin();
 }
 
 void EditorLife::KeepRecovery() {
@@ -47,7 +48,9 @@ std::filesystem::path EditorLife::RecoveryRoot() const {
 }
 
 bool EditorLife::OfferRecovery(RecoveryDialogs& dialogs) {
-  return recovery_ && RecoverCommand(editor_, *recovery_, dialogs).Run();
+  const bool restored = recovery_ && RecoverCommand(editor_, *recovery_, dialogs).Run();
+  if (restored) history_.Begin();
+  return restored;
 }
 
 void EditorLife::End() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/ExamEditor.h"
+#include "history/History.h"
 #include "recovery/RecoveryKeeper.h"
 #include "shell/commands/RecoverCommand.h"
 #include "shell/office/OfficeControl.h"
@@ -51,12 +52,15 @@ class EditorLife {
   void End();
 
   ExamEditor& Editor() { return editor_; }
+  /// The steps to undo. Let it look after every command.
+  History& Steps() { return history_; }
   const ExamEditor& Editor() const { return editor_; }
   OfficeControl* Office() const { return office_; }
 
  private:
   OfficeControl* office_;
   ExamEditor editor_;
+  History history_;
   std::optional<RecoveryKeeper> recovery_;
   bool ended_ = false;
 };

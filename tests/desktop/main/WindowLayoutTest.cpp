@@ -14,7 +14,7 @@ class WindowLayout : public WindowTest {
  protected:
   std::map<QWidget*, QRect> Places() {
     std::map<QWidget*, QRect> places;
-    for (auto* control : window->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    for (auto* control : Area().findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       if (control->isVisible() && control->objectName() != "questionArea")
         places[control] = control->geometry();
     }
@@ -24,7 +24,7 @@ class WindowLayout : public WindowTest {
   void ExpectLaidOut() {
     const auto places = Places();
     for (const auto& [control, place] : places) {
-      EXPECT_TRUE(window->rect().contains(place)) << qPrintable(control->objectName());
+      EXPECT_TRUE(Area().rect().contains(place)) << qPrintable(control->objectName());
       for (const auto& [other, area] : places)
         EXPECT_TRUE(control == other || !place.intersects(area)) << qPrintable(control->objectName());
     }
@@ -41,7 +41,7 @@ TEST_F(WindowLayout, HasNoOverlapsAndAMirrorImageInEverySizeAndKind) {
     Open();
     window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);  // the test's screen is small
     for (const QSize size : {QSize(792, 646), QSize(1601, 1003)}) {
-      window->resize(size);
+      ResizeArea(size);
       for (const char* kind : {"kindChoice", "kindFillIn", "kindEssay", "kindOral"}) {
         SCOPED_TRACE(testing::Message() << kind << lists << size.width());
         Click(kind);
@@ -60,6 +60,25 @@ TEST_F(WindowLayout, HasNoOverlapsAndAMirrorImageInEverySizeAndKind) {
   }
 }
 
+TEST_F(WindowLayout, TheMenuIsAboveTheAreaAndTakesNothingFromIt) {
+  Open();
+  const int menu = Control("menuBar").height();
+  EXPECT_EQ(Control("menuBar").geometry(), QRect(0, 0, window->width(), menu));
+  EXPECT_EQ(Area().geometry(), window->rect().adjusted(0, menu, 0, 0));
+  const QSize screen = window->screen()->size();
+  EXPECT_EQ(window->maximumSize(), screen);
+  const QSize room = window->screen()->availableSize() - QSize(0, 40);
+  EXPECT_EQ(window->minimumSize(), QSize(792, 646 + menu).boundedTo(room));
+  EXPECT_EQ(window->size(), QSize(870, 675 + menu).boundedTo(room));
+  window->setLayoutDirection(Qt::RightToLeft);
+  QFont large = Control("menuBar").font();
+  large.setPixelSize(30);
+  Control("menuBar").setFont(large);
+  window->setFont(large);
+  EXPECT_GT(Control("menuBar").height(), menu);
+  EXPECT_EQ(Area().y(), Control("menuBar").height());
+}
+
 TEST_F(WindowLayout, ScrollsEveryControlIntoASmallWindow) {
   exam.examAttachmentNames[0] = exam.Question(1).attachmentNames[0] = u"file.jpg";
   Open();
@@ -67,10 +86,10 @@ TEST_F(WindowLayout, ScrollsEveryControlIntoASmallWindow) {
   auto &across = Control<QScrollBar>("scrollAcross"), &down = Control<QScrollBar>("scrollDown");
   for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
     window->setLayoutDirection(direction);
-    window->resize(600, 432);
+    ResizeArea({600, 432});
     ASSERT_TRUE(across.isVisible() && down.isVisible());
     std::set<QWidget*> unreached;
-    for (auto* control : window->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
+    for (auto* control : Area().findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly)) {
       if (control->isVisible()) unreached.insert(control);
     }
     for (const int x : {0, across.maximum()}) {
@@ -79,14 +98,14 @@ TEST_F(WindowLayout, ScrollsEveryControlIntoASmallWindow) {
         down.setValue(y);
         std::erase_if(unreached, [&](QWidget* control) {
           const QRect at = control->geometry();
-          return window->childAt(at.topLeft()) == control && window->childAt(at.bottomRight()) == control;
+          return Area().childAt(at.topLeft()) == control && Area().childAt(at.bottomRight()) == control;
         });
       }
     }
     for (const QWidget* control : unreached) ADD_FAILURE() << direction << qPrintable(control->objectName());
     Press("questionText", Qt::Key_Backtab);  // to the last button of the row above
-    EXPECT_EQ(window->childAt(QApplication::focusWidget()->geometry().center()), QApplication::focusWidget());
-    window->resize(792, 646);
+    EXPECT_EQ(Area().childAt(QApplication::focusWidget()->geometry().center()), QApplication::focusWidget());
+    ResizeArea({792, 646});
     ASSERT_FALSE(across.isVisible() || down.isVisible());
     ExpectLaidOut();
   }
@@ -124,7 +143,7 @@ TEST_F(WindowLayout, EverythingCanBeReadOnADarkDesktop) {
   exam.examAttachmentNames[0] = u"MMM.jpg";
   Open();
   EXPECT_LT(qGray(window->grab().toImage().pixel(2, 2)), 80);
-  for (auto* control : window->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+  for (auto* control : Area().findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     if (!control->isVisible()) continue;
     EXPECT_GT(Contrast(control->grab().toImage()), 60) << qPrintable(control->objectName());
   }

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace quorvantis {
+
+/// Where two texts differ: they are equal up to `start`, and again after `removed` units of the first and
+/// `added` units of the second.
+struct TextChange {
+  std::size_t start = 0;
+  std::size_t removed = 0;
+  std::size_t added = 0;
+};
+
+TextChange FindChange(std::u16string_view before, std::u16string_view after);
+
+}  // namespace quorvantis
