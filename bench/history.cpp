@@ -56,7 +56,10 @@ class FullExam {
 };
 
 void TypeALetter(ExamEditor& editor, int round) {
-  editor.questions.EditField(FormField::Text, std::u16string(static_cast<std::size_t>(round % 4000), u'x'));
+  std::u16string text = editor.questions.Form().text;
+  if (text.empty()) text.push_back(u' ');
+  text.back() = static_cast<char16_t>(u'a' + round % 26);
+  editor.questions.EditField(FormField::Text, std::move(text));
 }
 
 /// Stores what was typed and shows another question.

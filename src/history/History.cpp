@@ -6,7 +6,6 @@
 #include "model/document/ExamServices.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace quorvantis {
@@ -27,6 +26,11 @@ HistorySpot SpotOf(const ExamDifference& change, Direction direction) {
   spot.field = static_cast<FormField>(edit.field);
   spot.position = edit.start + (direction == Direction::Forward ? edit.added : edit.removed).size();
   return spot;
+}
+
+void TakeAllBack(const std::vector<ExamDifference>& walk, ExamMoment& moment) {
+  std::for_each(walk.rbegin(), walk.rend(),
+                [&moment](const ExamDifference& part) { TakeDifference(part, Direction::Back, moment); });
 }
 
 bool TouchesFiles(const ExamDifference& change) {
@@ -163,13 +167,9 @@ bool History::CanUndo(std::uint64_t step) const {
 
 /// The moment becomes that before the step.
 void History::TakeBack(Step& step) {
-  for (const ExamDifference& walk : std::views::reverse(walk_))
-    TakeDifference(walk, Direction::Back, moment_);
+  TakeAllBack(walk_, moment_);
   walk_.clear();
-  if (walkedOn_) {
-    for (const ExamDifference& walk : std::views::reverse(step.walk))
-      TakeDifference(walk, Direction::Back, moment_);
-  }
+  if (walkedOn_) TakeAllBack(step.walk, moment_);
   TakeDifference(step.change, Direction::Back, moment_);
 }
 
@@ -185,8 +185,7 @@ std::optional<HistorySpot> History::Undo() {
 std::optional<HistorySpot> History::Redo() {
   Look();
   if (done_ == steps_.size()) return std::nullopt;
-  for (const ExamDifference& walk : std::views::reverse(walk_))
-    TakeDifference(walk, Direction::Back, moment_);
+  TakeAllBack(walk_, moment_);
   walk_.clear();
   if (done_ > 0 && !walkedOn_) {
     for (const ExamDifference& walk : steps_[done_ - 1].walk)

@@ -2,6 +2,7 @@
 #include "history/SlotScript.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <functional>
 #include <utility>
 
@@ -41,36 +42,48 @@ class SlotWalk {
   }
 
   SlotScript Find() {
+    MeasureCommon();
     std::size_t i = begin_;
     std::size_t j = begin_;
-    while (i < end_ && j < end_) {
-      const Gap gap = SameKey(i, j) || SameKey(i + 1, j + 1) ? Gap() : NextGap(i, j);
-      for (std::size_t n = 0; n < gap.removed; ++n) Remove(i++, j);
-      for (std::size_t n = 0; n < gap.added; ++n) Add(i, j++);
-      if (gap.removed + gap.added == 0) Compare(i++, j++);
+    while (i < end_ || j < end_) {
+      std::size_t nextI = i;
+      std::size_t nextJ = j;
+      SkipDifferent(nextI, nextJ);
+      while (i < nextI && j < nextJ) Compare(i++, j++);
+      while (i < nextI) Remove(i++, j);
+      while (j < nextJ) Add(i, j++);
+      if (i < end_ && j < end_) Compare(i++, j++);
     }
-    while (i < end_) Remove(i++, j);
-    while (j < end_) Add(i, j++);
     return std::move(script_);
   }
 
  private:
-  /// How many questions were taken out or put in before the lists go on alike.
-  struct Gap {
-    std::size_t removed = 0;
-    std::size_t added = 0;
-  };
-
   bool SameKey(std::size_t i, std::size_t j) const {
-    return i < end_ && j < end_ && keysBefore_[i - begin_] == keysAfter_[j - begin_];
+    return keysBefore_[i - begin_] == keysAfter_[j - begin_];
   }
 
-  Gap NextGap(std::size_t i, std::size_t j) const {
-    for (std::size_t n = 1; i + n < end_ || j + n < end_; ++n) {
-      if (SameKey(i + n, j)) return {n, 0};
-      if (SameKey(i, j + n)) return {0, n};
+  /// How many questions the rests of the lists have in common, in the same order.
+  std::uint16_t& Common(std::size_t i, std::size_t j) {
+    return common_[(i - begin_) * (end_ - begin_ + 1) + j - begin_];
+  }
+
+  void MeasureCommon() {
+    const std::size_t size = end_ - begin_ + 1;
+    common_.assign(size * size, 0);
+    for (std::size_t i = end_; i-- > begin_;) {
+      for (std::size_t j = end_; j-- > begin_;) {
+        const int after = Common(i + 1, j + 1);
+        Common(i, j) = SameKey(i, j) ? static_cast<std::uint16_t>(after + 1)
+                                     : std::max(Common(i + 1, j), Common(i, j + 1));
+      }
     }
-    return {};
+  }
+
+  /// Goes on to the next question that both lists have.
+  void SkipDifferent(std::size_t& i, std::size_t& j) {
+    while (i < end_ && j < end_ && !SameKey(i, j)) Common(i + 1, j) >= Common(i, j + 1) ? ++i : ++j;
+    if (i < end_ && j < end_) return;
+    i = j = end_;
   }
 
   void Remove(std::size_t i, std::size_t j) { script_.push_back({i, j, ContentOf(before_[i]), nullptr, {}}); }
@@ -90,6 +103,7 @@ class SlotWalk {
   std::size_t end_ = 0;
   std::vector<std::size_t> keysBefore_;
   std::vector<std::size_t> keysAfter_;
+  std::vector<std::uint16_t> common_;
   SlotScript script_;
 };
 
