@@ -5,13 +5,16 @@
 
 namespace quorvantis {
 
+SearchRun::SearchRun(QObject* parent) : QObject(parent) {
+  connect(this, &SearchRun::Ended, this, &SearchRun::End, Qt::QueuedConnection);
+}
+
 void SearchRun::Start(Job job) {
   Drop();
   cancelled_ = std::make_shared<std::atomic_bool>(false);
   thread_ = std::thread([this, job = std::move(job), cancelled = cancelled_, number = ++number_] {
-    Finish finish = job([cancelled] { return cancelled->load(std::memory_order_relaxed); });
-    QMetaObject::invokeMethod(
-        this, [this, number, finish = std::move(finish)] { End(number, finish); }, Qt::QueuedConnection);
+    finish_ = job([cancelled] { return cancelled->load(std::memory_order_relaxed); });
+    emit Ended(number);
   });
   emit Changed();
 }
@@ -29,9 +32,10 @@ void SearchRun::Drop() {
 }
 
 /// Of a run that was dropped in the meantime, nothing is wanted.
-void SearchRun::End(int number, const Finish& finish) {
+void SearchRun::End(int number) {
   if (number != number_) return;
   thread_.join();
+  const Finish finish = std::exchange(finish_, nullptr);
   emit Changed();
   finish();
 }

@@ -24,7 +24,7 @@ class SearchRun : public QObject {
   /// milliseconds once it is cancelled.
   using Job = std::function<Finish(const SearchCancelled&)>;
 
-  explicit SearchRun(QObject* parent) : QObject(parent) {}
+  explicit SearchRun(QObject* parent);
   ~SearchRun() override { Drop(); }
 
   /// Starts a run. An earlier one that has not ended is cancelled, and never finishes.
@@ -41,12 +41,15 @@ class SearchRun : public QObject {
  signals:
   /// A run has begun or ended.
   void Changed();
+  /// Comes from the other thread, and is handled here.
+  void Ended(int number);
 
  private:
-  void End(int number, const Finish& finish);
+  void End(int number);
 
   std::shared_ptr<std::atomic_bool> cancelled_;
   std::thread thread_;
+  Finish finish_;   ///< written by the other thread, read once it has ended
   int number_ = 0;  ///< counts the runs
 };
 

@@ -19,7 +19,7 @@ struct TextPlace {
   ExamFieldName field = ExamFieldName::Title;
   unsigned index = 0;  ///< of the option (0 for A to 4 for E) or of the attached file; else 0
 
-  auto operator<=>(const TextPlace&) const = default;
+  auto operator<=>(const TextPlace&) const = default;  // NOLINT(modernize-use-nullptr): there is none
 };
 
 /// A new text for a field that has held `before`.

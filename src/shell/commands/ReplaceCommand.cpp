@@ -32,7 +32,9 @@ ReplaceOutcome ReplaceHits(ExamEditor& editor, const FrameSetExam& planned,
                            const std::vector<PlannedReplacement>& chosen) {
   ReplaceOutcome outcome;
   const auto leaveAlone = [&](const TextPlace& place, std::optional<ReplacementObstacle> why) {
-    const auto hits = std::ranges::equal_range(chosen, place, {}, PlaceOf).size();
+    const auto first = std::ranges::lower_bound(chosen, place, {}, PlaceOf);
+    const auto last = std::ranges::upper_bound(chosen, place, {}, PlaceOf);
+    const auto hits = static_cast<std::size_t>(last - first);
     outcome.leftAlone.push_back({place, hits, why});
     outcome.replaced -= hits;
   };
