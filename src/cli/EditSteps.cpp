@@ -6,6 +6,7 @@
 #include "cli/KindNames.h"
 #include "cli/OrderSteps.h"
 #include "cli/ScoreSteps.h"
+#include "cli/SearchSteps.h"
 #include "cli/WhyUnreadable.h"
 #include "model/AnswerLetters.h"
 #include "platform/TextNumbers.h"
@@ -276,6 +277,9 @@ const EditCommand kCommands[] = {
     {"undo-import", "", 0, UndoImport},
     {"undo", "", 0, Undo},
     {"redo", "", 0, Redo},
+    {"find", "TEXT [--pattern] [--case] [--word]", 1, Find, 3},
+    {"replace", "TEXT REPLACEMENT [--pattern] [--case] [--word]   (\\1 to \\9: groups of the pattern)", 2,
+     Replace, 3},
     {"state", "  (prints one JSON line)", 0, State},
 };
 

@@ -6,6 +6,7 @@
 #include "editor/EditorState.h"
 #include "editor/ExamChanges.h"
 #include "editor/ExamFileCommands.h"
+#include "editor/FieldRewriter.h"
 #include "editor/QuestionEditor.h"
 #include "editor/QuestionOrder.h"
 
@@ -21,6 +22,7 @@ class ExamEditor {
         attachments(state, exam_),
         questions(state, exam_, attachments),
         order(state, exam_, attachments, questions),
+        texts(state, exam_, questions),
         files(state, exam_, questions, std::move(exportDocument)),
         changes(state, exam_, attachments) {}
   ExamEditor(const ExamEditor&) = delete;
@@ -38,6 +40,7 @@ class ExamEditor {
   AttachmentEditor attachments;
   QuestionEditor questions;
   QuestionOrder order;
+  FieldRewriter texts;
   ExamFileCommands files;
   ExamChanges changes;
 };

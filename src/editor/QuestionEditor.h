@@ -46,6 +46,8 @@ class QuestionEditor {
   /// Deliberate: an import leaves the question that was shown in the slot after the imported ones.
   void MoveFormTo(int number) { state_.currentQuestion_ = number; }
 
+  /// Stores the form and shows question `question` (1 to 500), as walking does.
+  void GoTo(int question);
   void GoNext();
   void GoPrevious();
   void GoBack10();
@@ -69,7 +71,6 @@ class QuestionEditor {
 
  private:
   void StoreInto(FrameSetExam& exam, LongAnswerFlags& flags) const;
-  void GoTo(int question);
 
   EditorState& state_;
   EditedExam& exam_;

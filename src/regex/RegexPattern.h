@@ -30,6 +30,9 @@ class RegexPattern {
   const std::optional<RegexError>& CompileError() const { return error_; }
   bool IsEmpty() const { return !program_; }
 
+  /// The number of groups, with the whole match as one of them; 0 for an empty object.
+  int Groups() const { return program_ ? program_->groups : 0; }
+
   /// The first match, in scan order, in `text`, which ends where the view does (see TextBeforeNul). The scan
   /// begins at `start` (UTF-16 units); -1 is where the context's previous match ended, or the start of the
   /// text (its end with right-to-left). A start beyond the end gives no match, or is the end with

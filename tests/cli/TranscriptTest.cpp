@@ -65,7 +65,9 @@ class Transcript : public CommandLineTest, public testing::WithParamInterface<co
   std::string actual;
 };
 
-INSTANTIATE_TEST_SUITE_P(Of, Transcript, testing::Values("build", "edit", "import", "order", "score", "show", "usage"),
+INSTANTIATE_TEST_SUITE_P(Of, Transcript,
+                         testing::Values("build", "edit", "import", "order", "score", "search", "show",
+                                         "usage"),
                          [](const auto& param) { return param.param; });
 
 TEST_P(Transcript, IsTrue) {

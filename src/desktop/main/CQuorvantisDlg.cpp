@@ -120,6 +120,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       question_(editor_, services_.strings, pictures_, client_),
       answers_(editor_, services_.strings, pictures_, client_),
       history_(life_.Steps(), examControls_, question_, answers_, services_),
+      search_(editor_, examControls_, question_, answers_, *this),
       recoveryFails_(new WarningNotice("recoveryFails", client_)),
       scroll_(*client_),
       cancel_(MakeHiddenButton("cancel", client_)),
@@ -186,6 +187,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.exportPdf = [this] { ExportPdf(); };
   commands.quit = [this] { close(); };
   commands.history = &history_;
+  commands.search = &search_;
   commands.canUndoImport = [this] { return import_.CanUndo(); };
   commands.undoImport = [this] { importWindows_.Undo(import_); };
   commands.guide = [this] { ShowGuide(); };
@@ -233,6 +235,7 @@ void CQuorvantisDlg::FormLoaded() {
   importWindows_.ExamChanged();
   questionTools_.ExamChanged();
   history_.Note();
+  search_.ExamChanged();
 }
 
 void CQuorvantisDlg::FormChanged() {
@@ -243,6 +246,7 @@ void CQuorvantisDlg::FormChanged() {
   questionTools_.ExamChanged();
   Layout();
   history_.Note();
+  search_.ExamChanged();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
 
@@ -331,6 +335,7 @@ void CQuorvantisDlg::PostContentChanged() {
   questionTools_.ExamChanged();
   emit ContentChangePosted();
   history_.Note();
+  search_.ExamChanged();
 }
 
 /// A preview covers the screen, and would hide the question that may follow.

@@ -13,6 +13,7 @@
 #include "desktop/main/PdfExport.h"
 #include "desktop/main/QuestionArea.h"
 #include "desktop/main/QuestionControls.h"
+#include "desktop/main/SearchCommands.h"
 #include "desktop/main/ToolbarButtons.h"
 #include "desktop/main/WarningNotice.h"
 #include "desktop/main/WindowLayout.h"
@@ -150,6 +151,7 @@ class CQuorvantisDlg final : public FittedWindow,
   QuestionControls question_;
   AnswerControls answers_;
   HistoryCommands history_;
+  SearchCommands search_;
   WarningNotice* recoveryFails_;
   WindowScroll scroll_;
   QPushButton* cancel_;  ///< hidden, like the two below

@@ -106,43 +106,58 @@ MenuEntry WindowMenus::Redo() const {
           .captionNow = [&history] { return history.RedoCaption(); }};
 }
 
+MenuEntry WindowMenus::Search(const char* name, int text, const QKeySequence& key,
+                              void (SearchCommands::*command)()) const {
+  return {.name = name,
+          .caption = Text(text),
+          .keys = {key},
+          .ownsKeys = true,
+          .command = [search = commands_.search, command] { (search->*command)(); }};
+}
+
 /// The fields themselves react to the keys of the clipboard.
 MenuTable WindowMenus::Edit() const {
   using namespace text_id;
   FocusedField& field = field_;
   const auto selects = [&field] { return field.HasSelection(); };
-  return {"menuEdit",
-          Text(kEditMenu),
-          {
-              Undo(),
-              Redo(),
-              {.name = "editUndoImport",
-               .caption = Text(kUndoImport),
-               .command = commands_.undoImport,
-               .canAct = commands_.canUndoImport},
-              Separator(),
-              {.name = "editCut",
-               .caption = Text(kCut),
-               .keys = {Qt::CTRL | Qt::Key_X},
-               .command = [&field] { field.Cut(); },
-               .canAct = selects},
-              {.name = "editCopy",
-               .caption = Text(kCopy),
-               .keys = {Qt::CTRL | Qt::Key_C},
-               .command = [&field] { field.Copy(); },
-               .canAct = selects},
-              {.name = "editPaste",
-               .caption = Text(kPaste),
-               .keys = {Qt::CTRL | Qt::Key_V},
-               .command = [&field] { field.Paste(); },
-               .canAct = [&field] { return field.CanPaste(); }},
-              Separator(),
-              {.name = "editSelectAll",
-               .caption = Text(kSelectAll),
-               .keys = {Qt::CTRL | Qt::Key_A},
-               .command = [&field] { field.SelectAll(); },
-               .canAct = [&field] { return field.HasText(); }},
-          }};
+  return {
+      "menuEdit",
+      Text(kEditMenu),
+      {
+          Undo(),
+          Redo(),
+          {.name = "editUndoImport",
+           .caption = Text(kUndoImport),
+           .command = commands_.undoImport,
+           .canAct = commands_.canUndoImport},
+          Separator(),
+          {.name = "editCut",
+           .caption = Text(kCut),
+           .keys = {Qt::CTRL | Qt::Key_X},
+           .command = [&field] { field.Cut(); },
+           .canAct = selects},
+          {.name = "editCopy",
+           .caption = Text(kCopy),
+           .keys = {Qt::CTRL | Qt::Key_C},
+           .command = [&field] { field.Copy(); },
+           .canAct = selects},
+          {.name = "editPaste",
+           .caption = Text(kPaste),
+           .keys = {Qt::CTRL | Qt::Key_V},
+           .command = [&field] { field.Paste(); },
+           .canAct = [&field] { return field.CanPaste(); }},
+          Separator(),
+          {.name = "editSelectAll",
+           .caption = Text(kSelectAll),
+           .keys = {Qt::CTRL | Qt::Key_A},
+           .command = [&field] { field.SelectAll(); },
+           .canAct = [&field] { return field.HasText(); }},
+          Separator(),
+          Search("editFind", kMenuFind, Qt::CTRL | Qt::Key_F, &SearchCommands::Find),
+          Search("editReplace", kMenuReplace, Qt::CTRL | Qt::Key_H, &SearchCommands::Replace),
+          Search("editFindNext", kFindNext, Qt::Key_F3, &SearchCommands::FindNext),
+          Search("editFindPrevious", kFindPrevious, Qt::SHIFT | Qt::Key_F3, &SearchCommands::FindPrevious),
+      }};
 }
 
 MenuTable WindowMenus::Question() const {

@@ -4,6 +4,7 @@
 #include "desktop/main/FocusedField.h"
 #include "desktop/main/HistoryCommands.h"
 #include "desktop/main/MenuBar.h"
+#include "desktop/main/SearchCommands.h"
 #include "desktop/main/WindowLayout.h"
 #include "desktop/overview/QuestionTools.h"
 #include "editor/ExamEditor.h"
@@ -25,6 +26,7 @@ class WindowMenus {
     std::function<void()> exportPdf;
     std::function<void()> quit;
     HistoryCommands* history;
+    SearchCommands* search;
     std::function<bool()> canUndoImport;
     std::function<void()> undoImport;
     std::function<void()> guide;
@@ -49,6 +51,8 @@ class WindowMenus {
   MenuTable Edit() const;
   MenuEntry Undo() const;
   MenuEntry Redo() const;
+  MenuEntry Search(const char* name, int text, const QKeySequence& key,
+                   void (SearchCommands::*command)()) const;
   MenuTable Question() const;
   MenuTable Exam() const;
   MenuTable Help() const;

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "search/ExamSearch.h"
+
+#include "model/ExamQuestion.h"
+#include "search/SearchedText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+using TakeHit = std::function<void(const SearchHit&, const FoundText&)>;
+
+SearchHit HitOf(const TextPlace& place, std::size_t start, std::size_t end) {
+  return {place, static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(end - start)};
+}
+
+/// Searches a part of the text at `place`, which begins at `offset`.
+SearchEnd SearchPart(const TextPlace& place, std::u16string_view part, std::size_t offset,
+                     const TextSearch& search, const SearchCancelled& isCancelled, const TakeHit& take) {
+  if (!search.CanMeetLineEnds()) {
+    return search.Search(part, isCancelled, [&](const FoundText& found) {
+      take(HitOf(place, offset + found.start, offset + found.end), found);
+    });
+  }
+  const SearchedText searched(part);
+  return search.Search(searched.Text(), isCancelled, [&](const FoundText& found) {
+    const std::size_t start = searched.Original(found.start);
+    take(HitOf(place, offset + start, offset + searched.Original(found.end)), found);
+  });
+}
+
+}  // namespace
+
+SearchEnd SearchPlace(const TextPlace& place, const std::u16string& text, const TextSearch& search,
+                      const SearchCancelled& isCancelled, const TakeHit& take) {
+  const std::u16string_view whole = text;
+  if (place.field != ExamFieldName::FillInAnswer)
+    return SearchPart(place, whole, 0, search, isCancelled, take);
+  for (std::size_t begin = 0;;) {
+    const std::size_t end = std::min(whole.find(kListSeparator, begin), whole.size());
+    const SearchEnd ended =
+        SearchPart(place, whole.substr(begin, end - begin), begin, search, isCancelled, take);
+    if (ended != SearchEnd::Done || end == whole.size()) return ended;
+    begin = end + kListSeparator.size();
+  }
+}
+
+SearchOutcome FindAll(const FrameSetExam& exam, const TextSearch& search,
+                      const SearchCancelled& isCancelled) {
+  SearchOutcome outcome;
+  const TakeHit take = [&](const SearchHit& hit, const FoundText&) { outcome.hits.push_back(hit); };
+  VisitTexts(exam, [&](const TextPlace& place, const std::u16string& text) {
+    if (outcome.end != SearchEnd::Done) return;
+    outcome.end = SearchPlace(place, text, search, isCancelled, take);
+    if (outcome.end != SearchEnd::Done) outcome.stoppedAt = place;
+  });
+  return outcome;
+}
+
+}  // namespace quorvantis
