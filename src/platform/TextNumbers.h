@@ -271,7 +271,6 @@ constexpr int kLeftAlone = 1582;
 constexpr int kReplaceTicked = 1583;
 constexpr int kBefore = 1584;  // a column; likewise:
 constexpr int kAfter = 1585;
-constexpr int kTickAll = 1586;
 constexpr int kSearchCancelled = 1587;
 constexpr int kReplacementHint = 1588;
 constexpr int kNothingToReplace = 1589;

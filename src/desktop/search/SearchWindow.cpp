@@ -49,6 +49,10 @@ SearchSetting SettingOf(const ExamServices& services) {
   return {services.applicationFolder, services.files, services.codePage};
 }
 
+WindowPlaceSetting PlaceOf(const ExamServices& services) {
+  return {services.applicationFolder, services.files, u"search"};
+}
+
 }  // namespace
 
 SearchWindow::SearchWindow(ExamEditor& editor, ShowHit showHit, QWidget* parent)
@@ -57,6 +61,7 @@ SearchWindow::SearchWindow(ExamEditor& editor, ShowHit showHit, QWidget* parent)
       strings_(editor.state.document.Services().strings),
       showHit_(std::move(showHit)),
       setting_(SettingOf(editor.state.document.Services())),
+      place_(PlaceOf(editor.state.document.Services())),
       hits_(strings_, nullptr),
       controls_(hits_, strings_, this),
       run_(nullptr),
@@ -65,7 +70,7 @@ SearchWindow::SearchWindow(ExamEditor& editor, ShowHit showHit, QWidget* parent)
   setWindowTitle(ToQString(strings_.Text(text_id::kFindAndReplace)));
   resize(kFirstSearchSize);
   controls_.Unfold(false);
-  Restore(setting_.Read());
+  Restore();
   whenQuiet_.setSingleShot(true);
   whenQuiet_.setInterval(kQuiet);
   whenItTakes_.setSingleShot(true);
@@ -125,22 +130,23 @@ void SearchWindow::Open(const QString& text) {
   if (stale_) Search();
 }
 
-void SearchWindow::Restore(const SearchWindowState& state) {
-  controls_.pattern->setChecked(state.isPattern);
-  controls_.matchCase->setChecked(state.matchCase);
-  controls_.wholeWords->setChecked(state.wholeWords);
+void SearchWindow::Restore() {
+  const SearchSwitches switches = setting_.Read();
+  controls_.pattern->setChecked(switches.isPattern);
+  controls_.matchCase->setChecked(switches.matchCase);
+  controls_.wholeWords->setChecked(switches.wholeWords);
   move(FirstPlace(*parentWidget(), size()));
-  if (!state.place) return;
-  const QRect place(state.place->x, state.place->y, state.place->width, state.place->height);
-  if (!IsOnScreen(place)) return;
+  const WindowPlace kept = place_.Read();
+  const QRect place(kept.x, kept.y, kept.width, kept.height);
+  if (kept.width == 0 || !IsOnScreen(place)) return;
   resize(place.size().boundedTo(QGuiApplication::screenAt(place.center())->availableSize()));
   move(place.topLeft());
 }
 
 void SearchWindow::Remember() const {
   const SearchQuery query = Query();
-  setting_.Write({SearchWindowState::Place{x(), y(), width(), height()}, query.isPattern, query.matchCase,
-                  query.wholeWords});
+  setting_.Write({query.isPattern, query.matchCase, query.wholeWords});
+  place_.Write({x(), y(), width(), height()});
 }
 
 /// The shortcuts of the main window work here, too, since this is a tool of it: saving, undoing, finding. But

@@ -7,6 +7,7 @@
 #include "editor/ExamEditor.h"
 #include "search/ReplacementPlan.h"
 #include "shell/settings/SearchSetting.h"
+#include "shell/settings/WindowPlace.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -49,7 +50,7 @@ class SearchWindow : public QDialog {
  private:
   void Connect();
   void Open(const QString& text);
-  void Restore(const SearchWindowState& state);
+  void Restore();
   void Remember() const;
 
   SearchQuery Query() const;
@@ -77,6 +78,7 @@ class SearchWindow : public QDialog {
   const StringTable& strings_;
   ShowHit showHit_;
   SearchSetting setting_;
+  WindowPlaceSetting place_;
   HitList hits_;
   SearchControls controls_;
   SearchRun run_;
