@@ -232,6 +232,7 @@ HistorySpot History::Show(Step& step, Direction direction) {
   HistorySpot spot = SpotOf(step.change, direction);
   spot.lostFiles = files_.Take(step.files, direction == Direction::Forward);
   PutIntoEditor(step.change.origin != nullptr);
+  editor_.state.MarkSaved();  // otherwise an import that has not set the star would keep it from showing now
   editor_.state.MarkModified();
   return spot;
 }
