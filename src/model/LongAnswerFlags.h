@@ -19,8 +19,8 @@ constexpr bool IsLongAnswer(std::u16string_view answer) {
 ///
 /// The application has one instance for its whole run, beside the document. A flag once set stays set, for
 /// its slot number: New, Open, Insert and Delete do not touch it, on purpose, since the exam writer has
-/// always relied on these flags. Only a question that moves as a whole (editor/QuestionOrder.h) takes its flag
-/// along. Numbers outside 1 to 500 are ignored.
+/// always relied on these flags. Only a question that moves as a whole (editor/QuestionOrder.h) takes its
+/// flag along. Numbers outside 1 to 500 are ignored.
 class LongAnswerFlags {
  public:
   bool IsSet(int question) const { return IsQuestionNumber(question) && flags_[Index(question)]; }
