@@ -2,7 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/ExamJson.h"
 #include "cli/KindNames.h"
-#include "cli/OverviewTable.h"
+#include "cli/PrintedOverview.h"
 #include "model/AnswerLetters.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"

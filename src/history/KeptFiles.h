@@ -40,7 +40,8 @@ struct FileChange {
 };
 
 /// Keeps the work copies of the exam in the editor by hard links, so that a step that deletes or replaces one
-/// can be undone. File systems without hard links get copies, of files up to kLargestCopy.
+/// can be undone (History says in which folder). File systems without hard links get copies, of files up to
+/// kLargestCopy.
 class KeptFiles {
  public:
   static constexpr std::uintmax_t kLargestCopy = std::uintmax_t{64} * 1024 * 1024;  ///< bytes

@@ -10,7 +10,8 @@
 
 namespace quorvantis {
 
-/// A key of Undo or Redo. The fields leave them to the window, whose history has the typing in all fields.
+/// A key of Undo or Redo, which are those of the menu (WindowMenus::Undo, Redo). The fields leave them to the
+/// window, whose history has the typing in all fields.
 bool IsHistoryKey(const QKeyEvent& event);
 
 /// Takes Undo and Redo of the field itself out of its own context menu, where they come first.

@@ -114,8 +114,10 @@ QString OverviewModel::CellText(const OverviewRow& row, int column) const {
       return ToQString(row.score ? FormatScore(*row.score) : strings_.Text(text_id::kSameScoreWord));
     case Files:
       return row.files == 0 ? QString() : QString::number(row.files);
-    default:
+    case Missing:
       return MissingText(row.missing);
+    default:
+      return {};
   }
 }
 

@@ -17,6 +17,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <iterator>
 
 namespace quorvantis {
 namespace {
@@ -24,6 +25,7 @@ namespace {
 constexpr int kSoon = 20;        // milliseconds; several changes of one command are looked at once
 constexpr int kRegularly = 400;  // for changes that nobody reports, such as ticks and scores
 constexpr int kFirstWidths[] = {50, 90, 300, 130, 60, 50, 100};  // pixels
+static_assert(std::size(kFirstWidths) == OverviewModel::kColumns);
 constexpr QSize kFirstSize(840, 520);
 constexpr std::u16string_view kSection = u"overview";
 

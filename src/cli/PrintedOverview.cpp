@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/OverviewTable.h"
+#include "cli/PrintedOverview.h"
 
 #include "cli/KindNames.h"
 #include "overview/OverviewRows.h"
