@@ -52,8 +52,11 @@ void EditSession::Run(const EditScriptLine& line) {
   if (command == nullptr) throw CommandError("unknown command \"" + Shortened(line.command) + "\"");
   const std::size_t count = line.arguments.size();
   if (count < command->argumentCount || count > command->argumentCount + command->optionalArguments) {
-    throw CommandError("usage: " + line.command + " " + std::string(command->usage) +
-                       "; a text with blanks stands in double quotes");
+    const bool takesNone = command->usage.empty();
+    throw CommandError(
+        "usage: " + line.command +
+        (takesNone ? ""
+                   : " " + std::string(command->usage) + "; a text with blanks stands in double quotes"));
   }
   if (closed_ && line.command != "state") throw CommandError("the exam is closed");
   const int errors = session_.dialogs.ErrorCount();

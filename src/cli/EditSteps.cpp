@@ -180,7 +180,10 @@ void TellAboutStep(EditSession& session, const std::optional<HistorySpot>& spot,
 }
 
 void Undo(EditSession& session, const Arguments&) {
-  TellAboutStep(session, session.Steps().Undo(), "there is nothing to undo");
+  const bool hasForgotten = session.Steps().HasForgotten();
+  TellAboutStep(
+      session, session.Steps().Undo(),
+      hasForgotten ? "there is nothing to undo: older steps are no longer kept" : "there is nothing to undo");
 }
 
 void Redo(EditSession& session, const Arguments&) {

@@ -42,7 +42,10 @@ int PlaceToTake(EditSession& session, const Arguments& arguments) {
   if (arguments.size() == 2) return session.Editor().state.CurrentQuestion();
   if (arguments.size() != 4 || arguments[2].Text() != u"after")
     throw CommandError("usage: take FILE M-K [after N]");
-  return QuestionNumber(arguments[3]);
+  const int after = QuestionNumber(arguments[3]);
+  const int last = session.Editor().order.LastQuestion();
+  if (after > last) RequireDone(session, {OrderProblem::NoSuchQuestion, after, last});
+  return after;
 }
 
 }  // namespace

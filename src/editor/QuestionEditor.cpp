@@ -73,11 +73,13 @@ void QuestionEditor::ShowQuestion(int number) {
   LoadCurrentQuestion();
 }
 
+/// Not by way of the stored question, whose kind may differ: its oral flag would go.
 void QuestionEditor::ShowQuestion(int number, const QuestionForm& form, QuestionKind kind) {
-  ShowQuestion(number);
+  state_.currentQuestion_ = number;
   form_ = form;
   state_.currentKind_ = kind;
   attachments_.RefreshQuestionList();
+  attachments_.RefreshExamList();
   state_.view.FormLoaded();
   ShowKindControls(kind);
 }

@@ -232,9 +232,20 @@ HistorySpot History::Show(Step& step, Direction direction) {
   HistorySpot spot = SpotOf(step.change, direction);
   spot.lostFiles = files_.Take(step.files, direction == Direction::Forward);
   PutIntoEditor(step.change.origin != nullptr);
+  NoteShown();
   editor_.state.MarkSaved();  // otherwise an import that has not set the star would keep it from showing now
   editor_.state.MarkModified();
   return spot;
+}
+
+/// Showing a question may convert what another program has written. That is no step, even if it looks like
+/// one.
+void History::NoteShown() {
+  ExamDifference shown =
+      FindDifference(moment_, editor_, editor_.TakeDocumentChanged(), /*withOrigin=*/false);
+  if (shown.IsEmpty()) return;
+  TakeDifference(shown, Direction::Forward, moment_);
+  AddWalk(std::move(shown));
 }
 
 FrameSetExam History::LastLook() const {

@@ -109,6 +109,7 @@ class History {
   HistorySpot Show(Step& step, Direction direction);
   FrameSetExam DocumentOf(const ExamMoment& moment) const;
   void PutIntoEditor(bool withOrigin);
+  void NoteShown();
 
   ExamEditor& editor_;
   std::size_t limit_;

@@ -59,7 +59,7 @@ class RandomCommands {
       case 4:
         return questions.DeleteHere();
       case 5:
-        return questions.SelectKind(static_cast<QuestionKind>(Below(4)));
+        return questions.SelectKind(Below(2) == 0 ? QuestionKind::Oral : static_cast<QuestionKind>(Below(4)));
       case 6:
         return questions.CycleRandomMode();
       case 7:
@@ -144,6 +144,23 @@ TEST_F(HistoryTest, EveryStateComesBackInOrder) {
     while (history.Redo()) Note(redone, Saved());
     EXPECT_TRUE(redone == states);
   }
+}
+
+TEST_F(HistoryTest, ShowingAStepIsNoStepItself) {
+  Do([&] { editor.questions.SelectKind(QuestionKind::Oral); });
+  Do([&] { editor.attachments.AttachQuestionFile(WriteBytes(folder / "a.wav", "a")); });
+  Do([&] { editor.attachments.ToggleOral(); });
+  DoType(FormField::Title, u"one");
+  DoType(FormField::Title, u"two");
+  EXPECT_TRUE(history.Undo());
+  EXPECT_TRUE(history.Redo());
+  int undone = 0;
+  while (history.Undo()) ++undone;
+  EXPECT_EQ(undone, 5);
+  while (history.Redo()) {
+  }
+  EXPECT_EQ(exam.Question(1).oralFlag, 1);
+  EXPECT_EQ(editor.questions.Form().title, u"two");
 }
 
 TEST_F(HistoryTest, WalkingAndSavingAreNoSteps) {
