@@ -7,22 +7,14 @@
 
 namespace quorvantis {
 
-std::optional<SavingCheck::FileState> SavingCheck::StateOf(const std::filesystem::path& file) {
-  std::error_code error;
-  const auto size = std::filesystem::file_size(file, error);
-  if (error) return std::nullopt;
-  const auto written = std::filesystem::last_write_time(file, error);
-  return error ? std::nullopt : std::optional(FileState{file, size, written});
-}
-
 void SavingCheck::ExamIsThatOf(const std::filesystem::path& file) {
-  known_ = StateOf(file);
+  known_ = FileState::Of(file);
 }
 
 /// A file that no longer exists has nothing to lose.
 std::vector<std::u16string> SavingCheck::LossesOfFile(const std::filesystem::path& file) const {
   std::vector<std::u16string> losses;
-  const auto now = StateOf(file);
+  const auto now = FileState::Of(file);
   if (!now || file != state_.FileName()) return losses;
   const StringTable& strings = state_.document.Services().strings;
   if (known_ && known_->file == file && known_ != now)

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "editor/EditorState.h"
+#include "editor/FileState.h"
 #include "examfile/SavingLosses.h"
 #include "platform/UserDialogs.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -30,16 +30,6 @@ class SavingCheck {
   LossAnswer Ask(const std::filesystem::path& file, const std::vector<SavingLoss>& losses) const;
 
  private:
-  /// Shows whether a file has changed.
-  struct FileState {
-    std::filesystem::path file;
-    std::uintmax_t size;
-    std::filesystem::file_time_type written;
-
-    bool operator==(const FileState&) const = default;
-  };
-
-  static std::optional<FileState> StateOf(const std::filesystem::path& file);
   std::vector<std::u16string> LossesOfFile(const std::filesystem::path& file) const;
 
   const EditorState& state_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "history/KeptFiles.h"
 
+#include "editor/SecondNames.h"
+
 #include <string>
 #include <system_error>
 #include <utility>
@@ -12,17 +14,6 @@ namespace {
 bool IsFile(const fs::path& file) {
   std::error_code ignored;
   return fs::is_regular_file(fs::symlink_status(file, ignored));
-}
-
-/// Gives a file a second name. False when that fails.
-bool LinkTo(const fs::path& file, const fs::path& name, std::uintmax_t largestCopy) {
-  std::error_code error;
-  fs::create_hard_link(file, name, error);
-  if (!error) return true;
-  const std::uintmax_t size = fs::file_size(file, error);
-  if (error || size > largestCopy) return false;
-  fs::copy_file(file, name, error);
-  return !error;
 }
 
 }  // namespace
@@ -42,7 +33,7 @@ bool KeptFile::PutBack(const fs::path& file) const {
   std::error_code ignored;
   fs::create_directories(file.parent_path(), ignored);
   fs::remove(file, ignored);
-  return LinkTo(name_, file, KeptFiles::kLargestCopy);
+  return LinkOrCopy(name_, file, KeptFiles::kLargestCopy);
 }
 
 KeptFiles::~KeptFiles() {
@@ -58,7 +49,7 @@ SharedFile KeptFiles::Keep(const fs::path& file) {
   if (lastName_ == 0) fs::remove_all(folder_, ignored);  // left by a program that was killed
   fs::create_directories(folder_, ignored);
   fs::path name = folder_ / std::to_string(++lastName_);
-  return LinkTo(file, name, kLargestCopy) ? std::make_shared<const KeptFile>(std::move(name)) : nullptr;
+  return LinkOrCopy(file, name, kLargestCopy) ? std::make_shared<const KeptFile>(std::move(name)) : nullptr;
 }
 
 std::vector<FileChange> KeptFiles::Follow(const std::vector<fs::path>& files, bool replaced) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "history/StepName.h"
 
+#include "editor/AttachmentShifts.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
@@ -25,14 +26,8 @@ ChangeKind KindOfForm(const RecordEdits& edits) {
   return value < std::size(kOfFormValue) ? kOfFormValue[value] : ChangeKind::Other;
 }
 
-std::size_t CountFiles(const AttachmentList& names) {
-  std::size_t count = 0;
-  while (count < names.size() && !names[count].empty()) ++count;
-  return count;
-}
-
 ChangeKind KindOfHeader(const ExamHeader& before, const ExamHeader& after) {
-  if (CountFiles(before.names) < CountFiles(after.names)) return ChangeKind::AttachToExam;
+  if (CountEntries(before.names) < CountEntries(after.names)) return ChangeKind::AttachToExam;
   if (before.names != after.names) return ChangeKind::RemoveExamFile;
   return ChangeKind::Scores;
 }

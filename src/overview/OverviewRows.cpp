@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "overview/OverviewRows.h"
 
+#include "model/AnswerLetters.h"
 #include "regex/LetterCase.h"
 #include "scoring/ScoreSegments.h"
 #include "text/PathText.h"
+#include "text/Utf.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -27,8 +29,7 @@ std::u16string FirstLine(std::u16string_view text) {
   text = text.substr(0, text.find_first_of(u"\r\n"));
   text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
   if (text.size() > kLongestLine) {
-    const bool cutsPair = text[kLongestLine] >= 0xDC00 && text[kLongestLine] <= 0xDFFF;
-    text = text.substr(0, kLongestLine - (cutsPair ? 1 : 0));
+    text = text.substr(0, kLongestLine - (IsLowSurrogate(text[kLongestLine]) ? 1 : 0));
   }
   std::u16string line(text);
   std::ranges::replace_if(
@@ -39,10 +40,10 @@ std::u16string FirstLine(std::u16string_view text) {
 std::u16string LettersKey(std::u16string_view letters) {
   std::u16string key;
   for (const char16_t letter : letters) {
-    const auto upper = static_cast<char16_t>(letter & ~0x20);
-    if (upper < u'A' || upper > u'E') continue;
+    const auto option = OptionIndex(letter);
+    if (!option) continue;
     if (!key.empty()) key += u' ';
-    key += upper;
+    key += OptionLetter(*option);
   }
   return key;
 }
@@ -71,8 +72,7 @@ bool LacksOptions(const ExamQuestion& question) {
   std::size_t last = 0;  // index after the last one with a text
   for (std::size_t i = 0; i < kOptionCount; ++i) {
     if (FirstLine(question.options[i]).empty()) {
-      const auto letter = static_cast<char16_t>(u'a' + i);
-      const auto isTicked = [letter](char16_t unit) { return (unit | 0x20) == letter; };
+      const auto isTicked = [i](char16_t letter) { return OptionIndex(letter) == i; };
       if (std::ranges::any_of(question.answerLetters, isTicked)) return true;
     } else {
       ++written;

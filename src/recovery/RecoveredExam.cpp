@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "recovery/RecoveredExam.h"
 
+#include "editor/SecondNames.h"
 #include "editor/WorkCopies.h"
 #include "examfile/AttachmentName.h"
 #include "examfile/SavingLosses.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "recovery/RecoveryFolder.h"
 
+#include "editor/SecondNames.h"
 #include "examfile/WorkFolder.h"
 #include "platform/FolderEntries.h"
 #include "platform/WholeFile.h"
@@ -48,21 +49,6 @@ fs::path RecoveryFilePath(const fs::path& folder) {
 
 fs::path RecoveryLinkPath(const fs::path& folder, int number) {
   return folder / ("file-" + std::to_string(number));
-}
-
-bool LinkOrCopy(const fs::path& source, const fs::path& copy) {
-  if (!IsRegular(source)) return false;
-  std::error_code error;
-  fs::create_hard_link(source, copy, error);
-  if (!error) return true;
-  error.clear();
-  fs::copy_file(source, copy, error);
-  const auto time = fs::last_write_time(source, error);
-  if (!error) fs::last_write_time(copy, time, error);
-  if (!error) return true;
-  std::error_code ignored;
-  fs::remove(copy, ignored);
-  return false;
 }
 
 /// The file goes first: what a sudden end leaves behind is then not a copy.

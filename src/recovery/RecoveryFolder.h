@@ -24,10 +24,6 @@ std::filesystem::path RecoveryFilePath(const std::filesystem::path& folder);
 /// The link with this number in a recovery copy.
 std::filesystem::path RecoveryLinkPath(const std::filesystem::path& folder, int number);
 
-/// Makes `copy` a link to the file `source`, or a copy of it where the file system has no links. False when
-/// there is no such file or no room.
-bool LinkOrCopy(const std::filesystem::path& source, const std::filesystem::path& copy);
-
 /// Removes a recovery copy, and the folder of all copies if it was the last one.
 void RemoveRecoveryCopy(const std::filesystem::path& folder);
 

@@ -3,6 +3,7 @@
 
 #include "model/ExamQuestion.h"
 #include "search/SearchedText.h"
+#include "text/LineBreaks.h"
 
 #include <algorithm>
 #include <span>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/SearchTexts.h"
 
+#include "model/AnswerLetters.h"
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
@@ -16,7 +17,7 @@ std::u16string FieldName(const TextPlace& place, const StringTable& strings) {
     case ExamFieldName::QuestionText:
       return strings.Text(text_id::kPlaceText);
     case ExamFieldName::Options: {
-      const std::u16string letter(1, static_cast<char16_t>(u'A' + place.index));
+      const std::u16string letter(1, OptionLetter(place.index));
       return FillMessage(strings.Text(text_id::kPlaceOption), {letter});
     }
     case ExamFieldName::FillInAnswer:

@@ -28,7 +28,4 @@ class SearchedText {
   std::vector<std::size_t> pairs_;  ///< where the text has one unit for a CR LF, in ascending order
 };
 
-/// The same text with every line end as `lineEnd`.
-std::u16string WithLineEnds(std::u16string_view text, std::u16string_view lineEnd);
-
 }  // namespace quorvantis

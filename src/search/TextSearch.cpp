@@ -4,6 +4,7 @@
 #include "regex/RegexFlags.h"
 #include "search/SearchedText.h"
 #include "search/WordBorders.h"
+#include "text/LineBreaks.h"
 #include "text/Utf.h"
 
 namespace quorvantis {

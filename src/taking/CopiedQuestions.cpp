@@ -3,8 +3,10 @@
 
 #include "examfile/ExamFileWriter.h"
 #include "examfile/SavingLosses.h"
+#include "model/AnswerLetters.h"
 #include "model/QuestionKinds.h"
 #include "taking/PrivateServices.h"
+#include "text/LineBreaks.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 
@@ -13,19 +15,9 @@
 namespace quorvantis {
 namespace {
 
-/// With LF as the only line break.
-std::u16string WithSimpleLineEnds(std::u16string_view text) {
-  std::u16string simple;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') continue;
-    simple += text[i] == u'\r' ? u'\n' : text[i];
-  }
-  return simple;
-}
-
 std::u16string Escaped(std::u16string_view text) {
   std::u16string html;
-  for (const char16_t unit : WithSimpleLineEnds(text)) {
+  for (const char16_t unit : WithLineEnds(text, u"\n")) {
     switch (unit) {
       case u'&':
         html += u"&amp;";
@@ -50,10 +42,9 @@ std::u16string Escaped(std::u16string_view text) {
 template <class Line>
 void VisitOptions(const ExamQuestion& question, const Line& line) {
   if (!AnswerOf(question.kind).options) return;
-  char16_t letter = u'A';
-  for (const std::u16string& option : question.options) {
-    if (!option.empty()) line(std::u16string(1, letter) + u". ", option);
-    ++letter;
+  for (std::size_t i = 0; i < kOptionCount; ++i) {
+    const std::u16string& option = question.options[i];
+    if (!option.empty()) line(std::u16string(1, OptionLetter(i)) + u". ", option);
   }
 }
 
@@ -104,9 +95,9 @@ std::u16string QuestionsAsText(const std::vector<CopiedQuestion>& questions) {
   std::u16string text;
   for (const auto& [number, whole] : questions) {
     if (!text.empty()) text += u'\n';
-    text += FormatInteger(number) + u". " + WithSimpleLineEnds(whole.question.text) + u'\n';
+    text += FormatInteger(number) + u". " + WithLineEnds(whole.question.text, u"\n") + u'\n';
     VisitOptions(whole.question, [&text](const std::u16string& letter, const std::u16string& option) {
-      text += letter + WithSimpleLineEnds(option) + u'\n';
+      text += letter + WithLineEnds(option, u"\n") + u'\n';
     });
   }
   return text;

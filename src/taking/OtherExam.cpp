@@ -39,17 +39,8 @@ OtherExam::~OtherExam() {
   RemoveFolder(folder_);
 }
 
-std::optional<OtherExam::FileState> OtherExam::StateNow() const {
-  std::error_code error;
-  if (!fs::is_regular_file(file_, error)) return std::nullopt;
-  const auto size = fs::file_size(file_, error);
-  if (error) return std::nullopt;
-  const auto written = fs::last_write_time(file_, error);
-  return error ? std::nullopt : std::optional(FileState{size, written});
-}
-
 void OtherExam::Read() {
-  state_ = StateNow();
+  state_ = FileState::Of(file_);
   exam_.ReadExamFile(file_);
   problem_ = WhyNothing();
   if (!problem_.empty()) return;
@@ -88,7 +79,7 @@ TakenQuestions OtherExam::Take(const std::vector<int>& numbers) const {
 std::u16string OtherExam::ProblemOf(const std::vector<int>& numbers) const {
   const std::u16string name = PathToText(file_);
   if (questionCount_ == 0) return problem_;
-  const std::optional<FileState> now = StateNow();
+  const std::optional<FileState> now = FileState::Of(file_);
   if (!now) return FillMessage(Text(text_id::kTakenFileGone), {name});
   if (now != state_) return FillMessage(Text(text_id::kTakenFileChanged), {name});
   for (const int number : numbers) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editor/FileState.h"
 #include "editor/WholeQuestion.h"
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
@@ -50,14 +51,6 @@ class OtherExam {
   const std::filesystem::path& File() const { return file_; }
 
  private:
-  /// Shows whether the file has changed.
-  struct FileState {
-    std::uintmax_t size;
-    std::filesystem::file_time_type written;
-    bool operator==(const FileState&) const = default;
-  };
-
-  std::optional<FileState> StateNow() const;
   void Read();
   std::u16string WhyNothing() const;
   std::u16string ProblemOf(const std::vector<int>& numbers) const;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/controls/FieldKeys.h"
 
-#include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 
 #include <QApplication>
@@ -9,11 +8,17 @@
 
 namespace quorvantis {
 
+Keys UndoKeys() {
+  return {Qt::CTRL | Qt::Key_Z};
+}
+
+Keys RedoKeys() {
+  return {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y};
+}
+
 bool IsHistoryKey(const QKeyEvent& event) {
-  const bool isY = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
-  const bool isZ = event.key() == Qt::Key_Z &&
-                   (event.modifiers() & ~Qt::ShiftModifier) == Qt::KeyboardModifiers(Qt::ControlModifier);
-  return isY || isZ;
+  const QKeySequence key(event.keyCombination());
+  return UndoKeys().contains(key) || RedoKeys().contains(key);
 }
 
 void RemoveFieldHistory(QMenu& menu) {

@@ -2,6 +2,8 @@
 // Common behaviour of text fields of one and of several lines.
 #pragma once
 
+#include "desktop/controls/Controls.h"
+
 #include <QKeyEvent>
 #include <QMenu>
 #include <QWidget>
@@ -9,6 +11,10 @@
 #include <string_view>
 
 namespace quorvantis {
+
+/// The keys of Undo and Redo, in every window that has them.
+Keys UndoKeys();
+Keys RedoKeys();
 
 /// A key of Undo or Redo, which are those of the menu (WindowMenus::Undo, Redo). The fields leave them to the
 /// window, whose history has the typing in all fields.

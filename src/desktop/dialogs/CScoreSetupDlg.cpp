@@ -193,14 +193,14 @@ void CScoreSetupDlg::ScoreChanged(int range, const QString& text) {
 }
 
 void CScoreSetupDlg::AddHistoryKeys() {
-  const auto add = [this](const QKeySequence& key, bool (SetupSteps::*step)()) {
-    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, step] {
-      if ((steps_.*step)()) ShowFields();
-    });
+  const auto add = [this](const Keys& keys, bool (SetupSteps::*step)()) {
+    for (const QKeySequence& key : keys)
+      connect(new QShortcut(key, this), &QShortcut::activated, this, [this, step] {
+        if ((steps_.*step)()) ShowFields();
+      });
   };
-  add(Qt::CTRL | Qt::Key_Z, &SetupSteps::Undo);
-  add(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &SetupSteps::Redo);
-  add(Qt::CTRL | Qt::Key_Y, &SetupSteps::Redo);
+  add(UndoKeys(), &SetupSteps::Undo);
+  add(RedoKeys(), &SetupSteps::Redo);
 }
 
 void CScoreSetupDlg::done(int result) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/main/WindowMenus.h"
 
+#include "desktop/controls/FieldKeys.h"
 #include "desktop/controls/QtText.h"
 #include "model/QuestionKinds.h"
 #include "platform/TextNumbers.h"
@@ -89,7 +90,7 @@ MenuTable WindowMenus::File() const {
 MenuEntry WindowMenus::Undo() const {
   HistoryCommands& history = *commands_.history;
   return {.name = "editUndo",
-          .keys = {Qt::CTRL | Qt::Key_Z},
+          .keys = UndoKeys(),
           .ownsKeys = true,
           .command = [&history] { history.Undo(); },
           .canAct = [&history] { return history.CanUndo(); },
@@ -99,7 +100,7 @@ MenuEntry WindowMenus::Undo() const {
 MenuEntry WindowMenus::Redo() const {
   HistoryCommands& history = *commands_.history;
   return {.name = "editRedo",
-          .keys = {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y},
+          .keys = RedoKeys(),
           .ownsKeys = true,
           .command = [&history] { history.Redo(); },
           .canAct = [&history] { return history.CanRedo(); },
