@@ -2,9 +2,9 @@
 // Marking and parsing a paper of 500 questions, compared with another engine that substitutes by the same
 // rules and splits the questions in one sweep each. Also a pass of 3000 replacements whose rule looks around.
 #include "RatioReporter.h"
-#include "import/ImportMarkers.h"
-#include "import/QuestionTextParser.h"
-#include "import/TextMarking.h"
+#include "import/marking/ImportMarkers.h"
+#include "import/marking/QuestionTextParser.h"
+#include "import/marking/TextMarking.h"
 #include "platform/DebugOutput.h"
 
 #include <benchmark/benchmark.h>

@@ -4,8 +4,8 @@
 //
 // The input is UTF-8: first the rules, each ended by a line feed, in the order of kRules, then the paper.
 #include "Require.h"
-#include "import/QuestionTextParser.h"
-#include "import/TextMarking.h"
+#include "import/marking/QuestionTextParser.h"
+#include "import/marking/TextMarking.h"
 #include "model/AnswerLetters.h"
 #include "support/RecordingWorld.h"
 #include "text/Utf.h"

@@ -2,7 +2,7 @@
 #include "import/AnswerPictures.h"
 
 #include "examfile/AttachmentName.h"
-#include "import/ImportMarkers.h"
+#include "import/marking/ImportMarkers.h"
 #include "text/PathText.h"
 
 namespace quorvantis {

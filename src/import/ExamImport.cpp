@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/ExamImport.h"
 
-#include "import/RuleKeys.h"
+#include "import/marking/RuleKeys.h"
+#include "import/prepare/PreparationSteps.h"
 #include "ini/ProfileValues.h"
 #include "platform/TextNumbers.h"
 #include "text/AsciiCase.h"
@@ -69,6 +70,7 @@ int ExamImport::AcceptSection(int section) {
   m_strPreTable = ReadProfileString(name, rule_key::kPreTable, {}, file);
   if (m_strPattern.empty() || m_strPreAnswer.empty()) return text_id::kWrongImportRules;
   listLabels = ReadProfileInteger(name, rule_key::kListLabels, 0, file) == 1;
+  prepare = ReadPrepareList(ReadProfileString(name, rule_key::kPrepare, {}, file));
   if (ReadProfileInteger(name, rule_key::kTable, 0, file) == 1) {
     m_nTable = 1;
     m_strTableAnsKey = ReadProfileString(name, rule_key::kAnswerKey, {}, file);

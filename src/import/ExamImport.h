@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/ImportSettings.h"
+#include "import/marking/ImportSettings.h"
 #include "platform/CodePage.h"
 
 #include <filesystem>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The operation of the exam document that reads questions from a marked text.
-#include "import/QuestionTextParser.h"
+#include "import/marking/QuestionTextParser.h"
 #include "model/document/ExamServices.h"
 #include "model/document/FrameSetExam.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/ImportSettings.h"
-#include "import/QuestionTextParser.h"
-#include "import/TextMarking.h"
 #include "import/WordReader.h"
+#include "import/marking/ImportSettings.h"
+#include "import/marking/QuestionTextParser.h"
+#include "import/marking/TextMarking.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "import/DocumentFailureText.h"
-#include "import/ImportMarkers.h"
 #include "import/ImportReport.h"
 #include "import/LostPictures.h"
-#include "import/RuleKeys.h"
+#include "import/marking/ImportMarkers.h"
+#include "import/marking/RuleKeys.h"
 #include "model/ExamLimits.h"
 #include "platform/TextNumbers.h"
 #include "regex/RegexPattern.h"

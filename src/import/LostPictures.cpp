@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/LostPictures.h"
 
-#include "import/ImportMarkers.h"
 #include "import/WordReader.h"
+#include "import/marking/ImportMarkers.h"
 #include "text/NumberText.h"
 
 #include <string_view>

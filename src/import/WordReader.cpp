@@ -3,7 +3,8 @@
 
 #include "editor/WorkCopies.h"
 #include "import/BitmapFile.h"
-#include "import/ImportMarkers.h"
+#include "import/marking/ImportMarkers.h"
+#include "import/prepare/MarkedPaper.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 
@@ -34,25 +35,54 @@ void VisitTexts(WordContent& document, const Visit& visit) {
   }
 }
 
+/// Text of some size was put in at a place.
+struct Shift {
+  std::size_t place = 0;
+  std::size_t size = 0;
+};
+
+/// Where a place lies after the shifts.
+std::size_t Moved(std::size_t place, const std::vector<Shift>& shifts) {
+  std::size_t moved = place;
+  for (const Shift& shift : shifts) {
+    if (shift.place <= place) moved += shift.size;
+  }
+  return moved;
+}
+
+std::vector<EmphasisRun> Moved(std::vector<EmphasisRun> runs, const std::vector<Shift>& shifts) {
+  if (shifts.empty()) return runs;
+  for (EmphasisRun& run : runs) {
+    run.begin = Moved(run.begin, shifts);
+    run.end = Moved(run.end, shifts);
+  }
+  return runs;
+}
+
 /// Replaces each object of one kind by a text; the others move along.
 template <class TextOf>
-void FillPlaces(WordText& text, WordObjectKind kind, const TextOf& textOf) {
+std::vector<Shift> FillPlaces(WordText& text, WordObjectKind kind, const TextOf& textOf) {
   const std::u16string_view characters = text.characters;
   WordText filled;
+  std::vector<Shift> shifts;
   std::size_t from = 0;
   for (const WordObject& object : text.objects) {
     const std::size_t place = std::min(object.position, characters.size());
     filled.characters += characters.substr(from, place - from);
     from = place;
     if (object.kind == kind) {
-      filled.characters += textOf(object);
+      const std::u16string put(textOf(object));
+      filled.characters += put;
+      shifts.push_back({place, put.size()});
     } else {
       filled.objects.push_back(object);
       filled.objects.back().position = filled.characters.size();
     }
   }
   filled.characters += characters.substr(from);
+  filled.emphasis = Moved(std::move(text.emphasis), shifts);
   text = std::move(filled);
+  return shifts;
 }
 
 /// Without the care for power cuts that saving takes: these files are worth nothing without the unsaved
@@ -67,16 +97,16 @@ bool WriteNewFile(const fs::path& file, const std::string& bytes) {
   return !out.fail();
 }
 
-std::vector<PaperTable> PaperTables(const std::vector<WordTable>& tables) {
-  std::vector<PaperTable> paperTables;
-  for (const WordTable& table : tables) {
-    auto& rows = paperTables.emplace_back().rows;
-    for (const auto& row : table.rows) {
-      auto& cells = rows.emplace_back();
-      for (const WordText& cell : row) cells.push_back(cell.characters);
+/// The same in a whole document.
+template <class TextOf>
+void FillDocument(WordContent& document, WordObjectKind kind, const TextOf& textOf) {
+  const std::vector<Shift> shifts = FillPlaces(document.runningText, kind, textOf);
+  for (WordTable& table : document.tables) {
+    table.position = Moved(table.position, shifts);
+    for (auto& row : table.rows) {
+      for (WordText& cell : row) FillPlaces(cell, kind, textOf);
     }
   }
-  return paperTables;
 }
 
 }  // namespace
@@ -119,12 +149,14 @@ std::optional<int> WordReader::SavePictures(int firstNumber) {
     if (saved != WordResult::Done) lostPictures_.push_back({number, saved});
     if (watch_.pictureSaved) watch_.pictureSaved(picture + 1, count);
   }
-  VisitTexts(document_, [&](WordText& text) {
-    FillPlaces(text, WordObjectKind::Picture, [&](const WordObject& object) {
-      return u" " + PictureFileName(firstNumber + static_cast<int>(object.picture)) + u" ";
-    });
+  return NamePictures(firstNumber);
+}
+
+int WordReader::NamePictures(int firstNumber) {
+  FillDocument(document_, WordObjectKind::Picture, [firstNumber](const WordObject& object) {
+    return u" " + PictureFileName(firstNumber + static_cast<int>(object.picture)) + u" ";
   });
-  return firstNumber + static_cast<int>(count);
+  return firstNumber + static_cast<int>(document_.pictures);
 }
 
 fs::path WordReader::FileOf(int picture) const {
@@ -154,21 +186,19 @@ WordResult WordReader::ReadClipboardBitmap(std::size_t picture, std::string& bit
 
 std::size_t WordReader::MaskFormulas() {
   std::size_t found = 0;
-  VisitTexts(document_, [&found](WordText& text) {
-    FillPlaces(text, WordObjectKind::Equation, [&found](const WordObject&) {
-      ++found;
-      return kFormulaText;
-    });
+  FillDocument(document_, WordObjectKind::Equation, [&found](const WordObject&) {
+    ++found;
+    return kFormulaText;
   });
   return found;
 }
 
 MarkedText WordReader::TableToString(const ImportSettings& rules) const {
-  return quorvantis::TableToString(PaperTables(document_.tables), rules, watch_.isCancelled);
+  return MarkTables(PaperOf(document_), rules, watch_.isCancelled);
 }
 
 MarkedText WordReader::TextToString(const ImportSettings& rules) const {
-  return quorvantis::TextToString(document_.runningText.characters, rules, watch_.isCancelled);
+  return MarkText(PaperOf(document_), rules, watch_.isCancelled);
 }
 
 void WordReader::CloseDocument() {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/TextMarking.h"
+#include "import/marking/TextMarking.h"
 #include "platform/WordDocuments.h"
 
 #include <cstddef>
@@ -53,6 +53,9 @@ class WordReader {
   /// leaves no file, if the user cancelled.
   std::optional<int> SavePictures(int firstNumber);
 
+  /// Puts these names into the text without writing any file. Returns the number after the last one.
+  int NamePictures(int firstNumber);
+
   /// The pictures that could not be read or written. Their names are in the text all the same.
   const std::vector<LostPicture>& LostPictures() const { return lostPictures_; }
 
@@ -62,7 +65,7 @@ class WordReader {
   /// The document as the steps have left it so far.
   const WordContent& Document() const { return document_; }
 
-  /// The marked text of the tables, or of the text without them.
+  /// The marked text of the tables, or of the text without them as the rules' steps prepare it.
   MarkedText TableToString(const ImportSettings& rules) const;
   MarkedText TextToString(const ImportSettings& rules) const;
 

@@ -379,4 +379,8 @@ constexpr int kCopyQuestion = 1528;
 constexpr int kPasteQuestion = 1529;
 constexpr int kOverviewEntry = 1530;
 
+
+// The steps before marking.
+constexpr int kUnknownStep = 1606;
+
 }  // namespace quorvantis::text_id

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// Numbers of questions, in the digits and numerals of many scripts.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// A way of writing numbers. Decimal covers the digits 0 to 9 alone.
+enum class NumeralKind {
+  Decimal,
+  FullWidth,
+  ArabicIndic,
+  Persian,
+  Devanagari,
+  Bengali,
+  Thai,
+  Circled,
+  InBrackets,  ///< ⑴
+  WithDot,     ///< ⒈
+  UpperRoman,
+  LowerRoman,
+  Chinese,
+};
+
+/// A number in a text.
+struct Numeral {
+  NumeralKind kind = NumeralKind::Decimal;
+  int value = 0;         ///< 1 to kLargestNumeral
+  std::size_t size = 0;  ///< in UTF-16 units
+};
+
+inline constexpr int kLargestNumeral = 9'999;
+
+/// The numbers that begin at `place`, one of each kind at most, as long as they can be.
+std::vector<Numeral> NumeralsAt(std::u16string_view text, std::size_t place);
+
+/// The same of one kind; size 0 if there is none.
+Numeral NumeralAt(std::u16string_view text, std::size_t place, NumeralKind kind);
+
+/// The value of digits of any kind, the whole text; 0 if it is no number.
+int NumeralValue(std::u16string_view text);
+
+/// A pattern of import rules that finds such numbers.
+std::u16string_view NumeralPattern(NumeralKind kind);
+
+}  // namespace quorvantis

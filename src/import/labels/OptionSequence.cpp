@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "import/labels/OptionSequence.h"
+
+#include "import/labels/LineText.h"
+#include "import/labels/OptionSigns.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+/// A place that looks like a label, of one of the alphabets that its letter belongs to.
+struct Candidate {
+  std::size_t alphabet = 0;
+  bool isBracketed = false;
+  OptionLabel label;
+};
+
+bool Has(std::u16string_view units, char16_t unit) {
+  return units.find(unit) != units.npos;
+}
+
+/// A letter or digit of an alphabetic script: a label does not begin right after one. Scripts without blanks
+/// between words allow it.
+bool IsWordUnit(char16_t unit) {
+  if (unit < 0x80) return (unit >= u'0' && unit <= u'9') || ((unit | 0x20) >= u'a' && (unit | 0x20) <= u'z');
+  return unit >= 0xC0 && unit < 0x2000 && !(unit >= 0x0E00 && unit < 0x0E80);
+}
+
+/// Reads one label after the other.
+class LabelScan {
+ public:
+  LabelScan(std::u16string_view text, TextSpan within) : text_(text), within_(within) {}
+
+  std::vector<Candidate> Candidates() {
+    for (std::size_t at = within_.begin; at < within_.end; ++at) {
+      const std::vector<AlphabetLetter> letters = AlphabetLettersOf(text_[at]);
+      if (!letters.empty()) Add(at, letters);
+    }
+    return std::move(found_);
+  }
+
+ private:
+  char16_t UnitAt(std::size_t at) const { return at < within_.end ? text_[at] : u'\0'; }
+
+  void Add(std::size_t at, const std::vector<AlphabetLetter>& letters) {
+    const bool isSymbol = OptionAlphabets()[letters[0].alphabet].isSymbol;
+    OptionLabel label;
+    label.letter = {at, at + 1};
+    label.label = label.letter;
+    if (!isSymbol && !FindBrackets(label)) return;
+    TakeSign(label);
+    const std::size_t begin = label.sign.IsEmpty() ? label.label.begin : label.sign.begin;
+    label.beginsLine = BeginsLine(text_, begin);
+    if (!label.beginsLine && !isSymbol && !CanStandWithin(label, begin)) return;
+    for (const AlphabetLetter& letter : letters) {
+      label.index = letter.index;
+      found_.push_back({letter.alphabet, label.open != 0, label});
+    }
+  }
+
+  /// Finds what encloses or ends the label; false if nothing does.
+  bool FindBrackets(OptionLabel& label) const {
+    const std::size_t at = label.letter.begin;
+    std::size_t after = SkipBlanks(text_, at + 1, std::min(at + 2, within_.end));
+    const char16_t before = at > within_.begin ? text_[at - 1] : u'\0';
+    const bool isOpened = before != 0 && Has(kLabelOpens, before);
+    if (!isOpened && before != 0 && IsWordUnit(before)) return false;
+    if (Has(kLabelCloses, UnitAt(after)) && UnitAt(after) != 0) {
+      label.close = UnitAt(after);
+      label.label.end = after + 1;
+      if (isOpened) TakeOpening(label, before);
+      // "(a)." and "A.)" end in two marks.
+      if (isOpened && Has(u".:、．", UnitAt(after + 1)) && UnitAt(after + 1) != 0) ++label.label.end;
+      return true;
+    }
+    // A letter by itself, set off by a tab or by blanks.
+    if (isOpened || !BeginsLine(text_, at)) return false;
+    return UnitAt(at + 1) == u'\t' || UnitAt(at + 1) == u'\u3000' ||
+           (UnitAt(at + 1) == u' ' && (UnitAt(at + 2) == u' ' || IsCapitalAlone(at)));
+  }
+
+  /// "A Paris" at the start of a line may be a label, if "B Rome" follows; the sequence decides.
+  bool IsCapitalAlone(std::size_t at) const { return text_[at] >= u'A' && text_[at] <= u'J'; }
+
+  void TakeOpening(OptionLabel& label, char16_t before) const {
+    label.open = before;
+    label.label.begin = label.letter.begin - 1;
+  }
+
+  void TakeSign(OptionLabel& label) const {
+    std::size_t at = label.label.begin;
+    while (at > within_.begin && (text_[at - 1] == u' ' || text_[at - 1] == kVariationSelector)) --at;
+    const std::size_t end = at;
+    if (at > within_.begin && Has(u")]", text_[at - 1]) && at >= within_.begin + 3 &&
+        IsOptionSign(text_[at - 2]) && Has(u"([", text_[at - 3])) {
+      label.sign = {at - 3, end};
+      return;
+    }
+    while (at > within_.begin && IsOptionSign(text_[at - 1])) --at;
+    const bool isSetOff = at == within_.begin || IsBlank(text_[at - 1]) || IsLineEnd(text_[at - 1]);
+    if (at < end && end - at <= 3 && isSetOff) label.sign = {at, end};
+  }
+
+  /// Within a line a label needs a clear beginning and end.
+  bool CanStandWithin(const OptionLabel& label, std::size_t begin) const {
+    if (label.close == 0 || Has(u",，-–—>。", label.close)) return label.open != 0;
+    const char16_t before = begin > within_.begin ? text_[begin - 1] : u'\n';
+    // "e.g. A.B." is no label, and neither is the dot of an initial in a name.
+    if (label.close == u'.' && IsBlank(before) && UnitAt(label.label.end) == u'\0') return false;
+    return !IsWordUnit(before) || label.open != 0;
+  }
+
+  std::u16string_view text_;
+  TextSpan within_;
+  std::vector<Candidate> found_;
+};
+
+/// The longest run through the candidates of one alphabet, each the next letter.
+std::vector<OptionLabel> RunFrom(const std::vector<const Candidate*>& labels, std::size_t first) {
+  std::vector<OptionLabel> run{labels[first]->label};
+  for (std::size_t i = first + 1; i < labels.size(); ++i) {
+    const OptionLabel& label = labels[i]->label;
+    if (label.index == run.size() && label.letter.begin >= run.back().label.end) run.push_back(label);
+  }
+  return run;
+}
+
+/// Runs whose labels begin lines are options rather than letters of the text.
+std::size_t Weight(const OptionSequence& run) {
+  constexpr std::size_t kOfLine = 3;
+  constexpr std::size_t kOfOther = 1;
+  const std::size_t starts = run.LineStarts();
+  return starts * kOfLine + (run.labels.size() - starts) * kOfOther;
+}
+
+/// As many as any question has; a text without end is no question.
+std::vector<const Candidate*> LabelsOf(const std::vector<Candidate>& candidates, std::size_t alphabet,
+                                       bool isBracketed) {
+  constexpr std::size_t kMostLabels = 200;
+  std::vector<const Candidate*> labels;
+  for (const Candidate& candidate : candidates) {
+    if (candidate.alphabet != alphabet || candidate.isBracketed != isBracketed) continue;
+    labels.push_back(&candidate);
+    if (labels.size() == kMostLabels) break;
+  }
+  return labels;
+}
+
+void FillTexts(std::u16string_view text, TextSpan within, OptionSequence& run) {
+  for (std::size_t i = 0; i < run.labels.size(); ++i) {
+    const bool isLast = i + 1 == run.labels.size();
+    std::size_t end = within.end;
+    if (!isLast) {
+      const OptionLabel& next = run.labels[i + 1];
+      end = next.sign.IsEmpty() ? next.label.begin : next.sign.begin;
+    }
+    run.labels[i].text = Trimmed(text, {run.labels[i].label.end, end});
+  }
+}
+
+}  // namespace
+
+std::size_t OptionSequence::LineStarts() const {
+  return static_cast<std::size_t>(std::ranges::count_if(labels, &OptionLabel::beginsLine));
+}
+
+std::vector<OptionSequence> FindOptionRuns(std::u16string_view text, TextSpan within) {
+  const std::vector<Candidate> candidates = LabelScan(text, within).Candidates();
+  std::vector<OptionSequence> runs;
+  for (std::size_t alphabet = 0; alphabet < OptionAlphabets().size(); ++alphabet) {
+    for (const bool isBracketed : {false, true}) {
+      const std::vector<const Candidate*> labels = LabelsOf(candidates, alphabet, isBracketed);
+      OptionSequence best{alphabet};
+      for (std::size_t i = 0; i < labels.size(); ++i) {
+        if (labels[i]->label.index != 0) continue;
+        OptionSequence run{alphabet, RunFrom(labels, i)};
+        if (run.labels.size() >= 2 && Weight(run) > Weight(best)) best = std::move(run);
+      }
+      if (best.labels.size() >= 2) runs.push_back(std::move(best));
+    }
+  }
+  std::ranges::stable_sort(runs, std::greater<>(), Weight);
+  for (OptionSequence& run : runs) FillTexts(text, within, run);
+  return runs;
+}
+
+std::optional<OptionSequence> FindOptions(std::u16string_view text, TextSpan within) {
+  std::vector<OptionSequence> runs = FindOptionRuns(text, within);
+  if (runs.empty()) return std::nullopt;
+  return std::move(runs.front());
+}
+
+}  // namespace quorvantis

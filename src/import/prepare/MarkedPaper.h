@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// Prepares and marks a paper. Origins, where asked for, are places in Paper::source.
+#pragma once
+
+#include "import/marking/TextMarking.h"
+#include "import/prepare/Paper.h"
+
+namespace quorvantis {
+
+/// The running text, prepared by the steps that the rules name.
+MarkedText MarkText(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
+                    TraceOrigins trace = TraceOrigins::No);
+
+/// A paper that is tables. No steps are run.
+MarkedText MarkTables(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
+                      TraceOrigins trace = TraceOrigins::No);
+
+}  // namespace quorvantis

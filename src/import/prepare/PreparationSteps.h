@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+// The steps that prepare a text for marking: what rules alone cannot express. A repository names those it
+// needs under the key "Prepare". docs/IMPORT-RULES.md has an example of each.
+#pragma once
+
+#include "import/marking/ImportFailure.h"
+#include "import/marking/ImportSettings.h"
+#include "import/marking/RuleSearch.h"
+#include "import/prepare/Paper.h"
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// What steps may look at besides the text.
+struct PreparationContext {
+  const Paper& paper;
+  const ImportSettings& rules;
+  const CancelHook& isCancelled;
+};
+
+/// A step: changes the text, and knows nothing else. It leaves a text as it is in which it has nothing to do.
+/// May throw ImportFailure.
+struct PreparationStep {
+  std::u16string_view name;  ///< as in "ImportExam.ini"
+  void (*apply)(PaperText& text, const PreparationContext& context);
+};
+
+/// All steps, in the order in which they run, whatever the order in the file.
+std::span<const PreparationStep> PreparationSteps();
+
+/// The names in a value of "Prepare": separated by commas or blanks, in any letter case. Unknown ones are
+/// kept.
+std::vector<std::u16string> ReadPrepareList(std::u16string_view value);
+
+/// The value of "Prepare" for these names.
+std::u16string PrepareListText(const std::vector<std::u16string>& names);
+
+/// A text that is ready to be marked.
+struct PreparedText {
+  PaperText text{};
+  std::optional<ImportFailure> failure{};  ///< then the text shows how far the steps got
+};
+
+/// Runs the steps that the rules name. Without any, the result is the running text. An unknown name is a
+/// failure.
+PreparedText PreparePaper(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled);
+
+}  // namespace quorvantis

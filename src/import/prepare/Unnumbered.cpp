@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "import/prepare/Steps.h"
+
+namespace quorvantis {
+
+void step::Unnumbered(PaperText& /*text*/, const PreparationContext& /*context*/) {}
+
+}  // namespace quorvantis
