@@ -6,8 +6,8 @@
 namespace quorvantis {
 
 ReplaceAllPass::ReplaceAllPass(std::u16string& text, const RuleSearch& rule, std::u16string_view marker,
-                               TextOrigins* origins)
-    : text_(text), rule_(rule), marker_(marker), origins_(origins), search_(text, rule), made_(text.size()) {}
+                               MarkingTrace* trace)
+    : text_(text), rule_(rule), marker_(marker), trace_(trace), search_(text, rule), made_(text.size()) {}
 
 int ReplaceAllPass::Run() {
   int count = 0;
@@ -28,7 +28,7 @@ bool ReplaceAllPass::RunOnce() {
 void ReplaceAllPass::Replace(const MatchSpan& match) {
   text_.replace(match.begin, match.Size(), marker_);
   made_.Replace(match.begin, match.end, marker_.size());
-  if (origins_ != nullptr) ReplaceOrigins(*origins_, match.begin, match.Size(), marker_.size());
+  if (trace_ != nullptr) trace_->Replace(rule_.Key(), match.begin, match.Size(), marker_.size());
   search_.ChangedFrom(match.begin);
 }
 
@@ -60,7 +60,7 @@ bool ReplaceAllPass::ComesUpAgain(const MatchSpan& match) const {
   return next.starts_with(seen);
 }
 
-int RemoveTitles(std::u16string& text, const RuleSearch& rule, TextOrigins* origins) {
+int RemoveTitles(std::u16string& text, const RuleSearch& rule, MarkingTrace* trace) {
   // Deliberate: ten characters go with every title. Near the start of the text, where there are fewer before
   // it, the rest goes after it. Rules are written with that in mind.
   constexpr std::size_t kBefore = 10;
@@ -71,7 +71,7 @@ int RemoveTitles(std::u16string& text, const RuleSearch& rule, TextOrigins* orig
     const std::size_t begin = match->begin - std::min(match->begin, kBefore);
     const std::size_t removed = std::min(match->Size() + kBefore, text.size() - begin);
     text.erase(begin, removed);
-    if (origins != nullptr) ReplaceOrigins(*origins, begin, removed, 0);
+    if (trace != nullptr) trace->Replace(rule.Key(), begin, removed, 0);
     search.ChangedFrom(begin);
     ++count;
   }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "import/marking/EditedFlags.h"
+#include "import/marking/MarkingTrace.h"
 #include "import/marking/RepeatedSearch.h"
-#include "import/marking/TextOrigins.h"
 
 #include <string>
 #include <string_view>
@@ -22,10 +22,10 @@ class ReplaceAllPass {
  public:
   static constexpr int kMostFutile = 2'000;
 
-  /// `marker` is some number of the same character. `origins`, if given, follow the text. All must outlive
+  /// `marker` is some number of the same character. `trace`, if given, follows the text. All must outlive
   /// the pass.
   ReplaceAllPass(std::u16string& text, const RuleSearch& rule, std::u16string_view marker,
-                 TextOrigins* origins = nullptr);
+                 MarkingTrace* trace = nullptr);
 
   /// Replaces until nothing matches; returns the number of times. Throws ImportFailure.
   int Run();
@@ -42,14 +42,14 @@ class ReplaceAllPass {
   std::u16string& text_;
   const RuleSearch& rule_;
   const std::u16string_view marker_;
-  TextOrigins* origins_;
+  MarkingTrace* trace_;
   RepeatedSearch search_;
   EditedFlags made_;  ///< which characters of the text belong to markers
   int futile_ = 0;    ///< consecutive replacements without progress
 };
 
 /// Deletes every match of a rule together with ten characters before it; returns the number of times.
-/// `origins`, if given, follow the text.
-int RemoveTitles(std::u16string& text, const RuleSearch& rule, TextOrigins* origins = nullptr);
+/// `trace`, if given, follows the text.
+int RemoveTitles(std::u16string& text, const RuleSearch& rule, MarkingTrace* trace = nullptr);
 
 }  // namespace quorvantis

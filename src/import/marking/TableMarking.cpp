@@ -75,7 +75,7 @@ class TablesMarking {
 
   void AddMarker(std::u16string_view marker) {
     marked_.text += marker;
-    if (trace_ == TraceOrigins::Yes) marked_.origins.resize(marked_.text.size(), kInserted);
+    if (trace_ == TraceOrigins::Yes) marked_.trace.origins.resize(marked_.text.size(), kInserted);
   }
 
   /// `text` is a part of the cell's.
@@ -84,7 +84,7 @@ class TablesMarking {
     if (trace_ == TraceOrigins::No) return;
     const std::size_t begin = cell.place + static_cast<std::size_t>(text.data() - cell.text.data());
     for (std::size_t i = 0; i < text.size(); ++i)
-      marked_.origins.push_back(static_cast<std::uint32_t>(begin + i));
+      marked_.trace.origins.push_back(static_cast<std::uint32_t>(begin + i));
   }
 
   const ImportSettings& rules_;

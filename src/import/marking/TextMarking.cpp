@@ -14,21 +14,21 @@ class Marking {
   Marking(std::u16string_view text, const CancelHook& isCancelled, TraceOrigins trace)
       : result_{std::u16string(text)}, isCancelled_(isCancelled) {
     if (trace == TraceOrigins::No) return;
-    result_.origins = OriginsOfOriginal(text.size());
-    origins_ = &result_.origins;
+    result_.trace.origins = OriginsOfOriginal(text.size());
+    trace_ = &result_.trace;
   }
 
   void ReplaceAll(std::u16string_view key, std::u16string_view pattern, std::u16string_view marker) {
     Pass(key, pattern,
-         [&](const RuleSearch& rule) { return ReplaceAllPass(result_.text, rule, marker, origins_).Run(); });
+         [&](const RuleSearch& rule) { return ReplaceAllPass(result_.text, rule, marker, trace_).Run(); });
   }
   void ReplaceFirst(std::u16string_view key, std::u16string_view pattern, std::u16string_view marker) {
     Pass(key, pattern, [&](const RuleSearch& rule) {
-      return ReplaceAllPass(result_.text, rule, marker, origins_).RunOnce() ? 1 : 0;
+      return ReplaceAllPass(result_.text, rule, marker, trace_).RunOnce() ? 1 : 0;
     });
   }
   void DeleteTitles(std::u16string_view key, std::u16string_view pattern) {
-    Pass(key, pattern, [&](const RuleSearch& rule) { return RemoveTitles(result_.text, rule, origins_); });
+    Pass(key, pattern, [&](const RuleSearch& rule) { return RemoveTitles(result_.text, rule, trace_); });
   }
 
   void Fail(const ImportFailure& failure) { result_.failure = failure; }
@@ -45,7 +45,7 @@ class Marking {
   }
 
   MarkedText result_;
-  TextOrigins* origins_ = nullptr;
+  MarkingTrace* trace_ = nullptr;
   const CancelHook& isCancelled_;
 };
 

@@ -5,8 +5,8 @@
 
 #include "import/marking/ImportFailure.h"
 #include "import/marking/ImportSettings.h"
+#include "import/marking/MarkingTrace.h"
 #include "import/marking/RuleSearch.h"
-#include "import/marking/TextOrigins.h"
 
 #include <optional>
 #include <string>
@@ -24,7 +24,7 @@ struct MarkedText {
   std::u16string text{};
   RuleCounts counts{};
   std::optional<ImportFailure> failure{};
-  TextOrigins origins{};  ///< of the units of `text` in the unmarked text; empty unless asked for
+  MarkingTrace trace{};  ///< in the unmarked text; empty unless asked for
 };
 
 enum class TraceOrigins { No, Yes };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/prepare/MarkedPaper.h"
 
+#include "import/marking/RuleKeys.h"
 #include "import/prepare/PreparationSteps.h"
 
 #include <utility>
@@ -21,6 +22,26 @@ std::vector<PaperTable> TablesOf(const Paper& paper) {
   return tables;
 }
 
+/// From places in the prepared text to those in the paper.
+void MoveTo(const TextOrigins& source, TextOrigins& places) {
+  for (std::uint32_t& place : places) {
+    if (place != kInserted) place = source[place];
+  }
+}
+
+/// What of the paper the steps have left out.
+ReplacedMatch RemovedBySteps(const Paper& paper, const PaperText& prepared) {
+  std::vector<bool> isKept(paper.source.Size(), false);
+  for (const std::uint32_t place : prepared.origins) {
+    if (place != kInserted) isKept[place] = true;
+  }
+  ReplacedMatch removed{std::u16string(rule_key::kPrepare), {}};
+  for (std::size_t place = 0; place < isKept.size(); ++place) {
+    if (!isKept[place]) removed.units.push_back(static_cast<std::uint32_t>(place));
+  }
+  return removed;
+}
+
 }  // namespace
 
 MarkedText MarkText(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
@@ -28,9 +49,9 @@ MarkedText MarkText(const Paper& paper, const ImportSettings& rules, const Cance
   PreparedText prepared = PreparePaper(paper, rules, isCancelled);
   if (prepared.failure) return {std::move(prepared.text.characters), {}, std::move(prepared.failure), {}};
   MarkedText marked = TextToString(prepared.text.characters, rules, isCancelled, trace);
-  for (std::uint32_t& origin : marked.origins) {
-    if (origin != kInserted) origin = prepared.text.origins[origin];
-  }
+  MoveTo(prepared.text.origins, marked.trace.origins);
+  for (ReplacedMatch& match : marked.trace.replaced) MoveTo(prepared.text.origins, match.units);
+  if (trace == TraceOrigins::Yes) marked.trace.replaced.push_back(RemovedBySteps(paper, prepared.text));
   return marked;
 }
 

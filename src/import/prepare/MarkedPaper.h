@@ -7,7 +7,8 @@
 
 namespace quorvantis {
 
-/// The running text, prepared by the steps that the rules name.
+/// The running text, prepared by the steps that the rules name. The trace lists what they left out, tables
+/// included, under the key "Prepare".
 MarkedText MarkText(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
                     TraceOrigins trace = TraceOrigins::No);
 

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "learn/PaperReading.h"
+
+#include "import/prepare/MarkedPaper.h"
+#include "platform/DebugOutput.h"
+
+namespace quorvantis {
+namespace {
+
+/// Rules are tried too often to tell about each.
+class NoDebugOutput : public DebugOutput {
+ public:
+  void Line(std::u16string_view) override {}
+};
+
+}  // namespace
+
+PaperReading ReadByRules(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled) {
+  constexpr int kFirstPicture = 1;
+  PaperReading reading;
+  const auto mark = rules.m_nTable != 0 ? MarkTables : MarkText;
+  reading.marked = mark(paper, rules, isCancelled, TraceOrigins::Yes);
+  if (reading.marked.failure) return reading;
+  NoDebugOutput debug;
+  reading.paper = QuestionTextParser(rules, debug, isCancelled).Parse(reading.marked.text, kFirstPicture);
+  return reading;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "learn/PaperReading.h"
+#include "platform/StringTable.h"
+
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// Something about a reading that a teacher should look at.
+struct ReadingWarning {
+  enum class Kind {
+    NoKey,             ///< a choice question without a right option, though others have one
+    OptionCount,       ///< another number of options than most choice questions; `number` of them
+    OneOption,         ///< a choice question with a single option
+    EmptyOption,       ///< between others
+    TooManyOptions,    ///< options beyond the fifth stand in the text or in an option; `number` of them
+    NumberMissing,     ///< between this question and the one before it; `number` is the first that is missing
+    NumberAgain,       ///< the same number twice in a row
+    KeyNotAnOption,    ///< the paper's key names no option that there is; `text` is the key
+    KeyUnclear,        ///< the key says more than letters; `text` is the key
+    KeyVisible,        ///< what looks like the key stands in a text that pupils see; `text` is the place
+    TooLongText,       ///< a text is longer than its field
+    TwoAnswers,        ///< an own answer and one at the end that differ; `text` names both
+    NotRead,           ///< a part of the paper became no question; `text` is its beginning
+    TooManyQuestions,  ///< `number` questions; an exam takes 500
+  };
+  Kind kind = Kind::NoKey;
+  int question = -1;  ///< index in ReadPaper::questions; -1 if it is about the whole paper
+  int number = 0;
+  std::u16string text{};
+};
+
+/// All warnings, those about the whole paper first, then by question.
+std::vector<ReadingWarning> WarningsOf(const Paper& paper, const ImportSettings& rules,
+                                       const PaperReading& reading);
+
+/// One line for the user. Questions are counted from 1 as the import would number them.
+std::u16string WarningText(const ReadingWarning& warning, const StringTable& strings);
+
+}  // namespace quorvantis
