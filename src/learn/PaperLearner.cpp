@@ -1,19 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "learn/PaperLearner.h"
 
+#include "learn/BeginningAndEnd.h"
+#include "learn/LayoutFacts.h"
+#include "learn/LayoutSearch.h"
+#include "learn/MarkedPlaces.h"
+
 namespace quorvantis {
 
-LearnedRules LearnRules(const Paper& /*paper*/, const std::vector<PaperMark>& /*marks*/,
-                        const LearnOptions& /*options*/) {
+LearnedRules LearnRules(const Paper& paper, const std::vector<PaperMark>& marks,
+                        const LearnOptions& options) {
   LearnedRules learned;
-  learned.rules.m_strPreQuestion = u"\\s*^[0-9]+[.)]\\s*";
-  learned.rules.m_strPreAnswer = u"\\s*^(?:Answer:|\u27E6=\u27E7)[ \\t]*";
-  learned.rules.m_strPattern =
-      u"(?<Q1>.+?)\\s*^A[.)]\\s*(?<A>.+?)\\s*^B[.)]\\s*(?<B>.+?)(?:\\s*^C[.)]\\s*(?<C>.+?))?(?:\\s*^D[.)]\\s*"
-      u"(?<D>.+?))?"
-      u"(?:\\s*^E[.)]\\s*(?<E>.+?))?\\s*\\z|(?<Q2>.*\\S)";
-  learned.rules.prepare = {u"OpenAnswers"};
-  learned.confidence = 0.5;
+  try {
+    const BeginningAndEnd cut(paper, marks);
+    const MarkedPlaces places(cut.LookedAt(), cut.Marks());
+    TriedLayout layout = LayoutSearch(cut.LookedAt(), places, options).Search();
+    const std::vector<RolePart> roles = RolesOf(cut.LookedAt(), layout.reading);
+    learned.unfollowed = cut.OriginalIndices(places.Unfollowed(roles));
+    learned.confidence = layout.score.Confidence();
+    learned.facts = FactsOf(cut.LookedAt(), layout);
+    if (cut.IsCut()) learned.facts.push_back({text_id::kLearnedBeginning});
+    learned.rules = std::move(layout.rules);
+  } catch (const ImportFailure&) {
+    learned = {};
+    learned.wasCancelled = true;
+  }
   return learned;
 }
 

@@ -43,6 +43,6 @@ struct LearnOptions {
 LearnedRules LearnRules(const Paper& paper, const std::vector<PaperMark>& marks, const LearnOptions& options);
 
 /// In UTF-16 units.
-inline constexpr std::size_t kMostLearned = 400'000;
+inline constexpr std::size_t kMostLearned = 160'000;
 
 }  // namespace quorvantis

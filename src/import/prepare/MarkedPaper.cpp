@@ -50,7 +50,10 @@ MarkedText MarkText(const Paper& paper, const ImportSettings& rules, const Cance
   if (prepared.failure) return {std::move(prepared.text.characters), {}, std::move(prepared.failure), {}};
   MarkedText marked = TextToString(prepared.text.characters, rules, isCancelled, trace);
   MoveTo(prepared.text.origins, marked.trace.origins);
-  for (ReplacedMatch& match : marked.trace.replaced) MoveTo(prepared.text.origins, match.units);
+  for (ReplacedMatch& match : marked.trace.replaced) {
+    MoveTo(prepared.text.origins, match.units);
+    std::erase(match.units, kInserted);  // of labels that steps have put in
+  }
   if (trace == TraceOrigins::Yes) marked.trace.replaced.push_back(RemovedBySteps(paper, prepared.text));
   return marked;
 }

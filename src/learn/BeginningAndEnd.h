@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "learn/PaperLearner.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace quorvantis {
+
+/// A paper that is too long to be tried again and again is judged by its beginning, and by its end, where the
+/// answers may be. A shorter one is looked at as it is.
+class BeginningAndEnd {
+ public:
+  /// Both must outlive this.
+  BeginningAndEnd(const Paper& paper, const std::vector<PaperMark>& marks);
+
+  bool IsCut() const { return isCut_; }
+  const Paper& LookedAt() const { return isCut_ ? short_ : paper_; }
+
+  /// The marks in what is looked at, at their places there.
+  const std::vector<PaperMark>& Marks() const { return marks_; }
+
+  /// Indices of marks of the whole paper, from those of Marks.
+  std::vector<std::size_t> OriginalIndices(const std::vector<std::size_t>& indices) const;
+
+ private:
+  void Cut();
+
+  const Paper& paper_;
+  bool isCut_ = false;
+  TextSpan gap_{};  ///< what is left out
+  Paper short_;
+  std::vector<PaperMark> marks_;
+  std::vector<std::size_t> indices_;  ///< of each of these in the whole paper
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "learn/LayoutFacts.h"
+
+#include "import/labels/LineText.h"
+#include "import/marking/RuleKeys.h"
+#include "learn/ReadingRoles.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+namespace quorvantis {
+namespace {
+
+std::u16string Count(std::size_t number) {
+  return FormatInteger(static_cast<std::int64_t>(number));
+}
+
+/// A short text in one line.
+std::u16string OneLine(std::u16string_view text) {
+  constexpr std::size_t kLongest = 40;
+  const TextSpan whole = Trimmed(text, {0, text.size()});
+  std::u16string line(text.substr(whole.begin, std::min(whole.Size(), kLongest)));
+  std::ranges::replace_if(
+      line, [](char16_t unit) { return unit < u' '; }, u' ');
+  return line;
+}
+
+/// Puts the facts of one layout together.
+class FactList {
+ public:
+  FactList(const Paper& paper, const TriedLayout& layout)
+      : paper_(paper), layout_(layout), draft_(layout.draft) {}
+
+  std::vector<LearnedFact> Facts() {
+    AddQuestions();
+    if (layout_.reading.paper.questions.empty()) return std::move(facts_);
+    AddNumbers();
+    AddOptions();
+    AddAnswers();
+    AddLeftOut();
+    return std::move(facts_);
+  }
+
+ private:
+  void Add(int text, std::vector<std::u16string> values = {}) { facts_.push_back({text, std::move(values)}); }
+  bool Has(std::u16string_view step) const { return draft_.HasStep(step); }
+
+  void AddQuestions() {
+    const auto& questions = layout_.reading.paper.questions;
+    if (questions.empty()) return Add(text_id::kLearnedNothing);
+    const auto count = [&questions](auto... kinds) {
+      return Count(static_cast<std::size_t>(std::ranges::count_if(
+          questions, [=](const ReadQuestion& question) { return ((question.kind == kinds) || ...); })));
+    };
+    Add(text_id::kLearnedQuestions, {Count(questions.size())});
+    Add(text_id::kLearnedKinds,
+        {count(ReadKind::Choice, ReadKind::TrueFalse), count(ReadKind::FillIn), count(ReadKind::Essay)});
+  }
+
+  void AddNumbers() {
+    if (draft_.numbers.empty())
+      return Add(draft_.options.IsEmpty() ? text_id::kLearnedUnnumbered : text_id::kLearnedUnnumberedOptions);
+    if (draft_.numbers.size() > 1) {
+      Add(text_id::kLearnedTwoNumbers, {Example(draft_.numbers[0]), Example(draft_.numbers[1])});
+    } else {
+      Add(text_id::kLearnedNumbers, {Example(draft_.numbers[0])});
+    }
+    if (draft_.numbers[0].restarts > 0) Add(text_id::kLearnedNumbersRestart);
+  }
+
+  static std::u16string Example(const NumberFamily& family) {
+    const NumberLabel& label = family.labels.front();
+    std::u16string example = label.prefix;
+    if (!example.empty()) example += u' ';
+    if (label.open != 0) example += label.open;
+    return example + FormatInteger(label.value) + label.close;
+  }
+
+  void AddOptions() {
+    if (Has(u"TableOptions")) Add(text_id::kLearnedOptionsInTables);
+    if (Has(u"PlainOptions")) Add(text_id::kLearnedPlainOptions);
+    if (!draft_.options.IsEmpty()) {
+      Add(text_id::kLearnedOptions, {draft_.options.Example()});
+      if (!draft_.optionsAtLineStarts) Add(text_id::kLearnedOptionsInLine);
+    } else if (layout_.score.choices <= 0) {
+      Add(text_id::kLearnedNoOptions);
+    }
+    if (Has(u"MixedLetters")) Add(text_id::kLearnedMixedLetters);
+  }
+
+  void AddAnswers() {
+    struct StepFact {
+      std::u16string_view step;
+      int text;
+    };
+    constexpr StepFact kStepFacts[] = {{u"KeyAtEnd", text_id::kLearnedKeyAtEndPlain}};
+    for (const std::u16string& label : draft_.answerLabels) Add(text_id::kLearnedAnswerLabel, {label});
+    for (const StepFact& fact : kStepFacts) {
+      if (Has(fact.step)) Add(fact.text);
+    }
+    if (Has(u"EmphasisedKey")) Add(EmphasisOfKeys());
+    if (Has(u"SignedKey")) AddExample(text_id::kLearnedKeySign, ReplacedBesideAnswer());
+    if (Has(u"KeyInStem")) AddExample(text_id::kLearnedKeyInStem, ExampleOfKey());
+    if (Has(u"KeyLetters")) AddExample(text_id::kLearnedKeyLetters, ExampleOfKey());
+    AddAnswered();
+  }
+
+  void AddExample(int text, const std::u16string& example) {
+    if (!example.empty()) Add(text, {example});
+  }
+
+  void AddAnswered() {
+    const auto& questions = layout_.reading.paper.questions;
+    const auto answered =
+        static_cast<std::size_t>(std::ranges::count_if(questions, [](const ReadQuestion& question) {
+          return !question.letters.empty() || !question.answer.empty();
+        }));
+    if (answered == 0) return Add(text_id::kLearnedNoAnswers);
+    Add(text_id::kLearnedAnswered, {Count(answered), Count(questions.size())});
+  }
+
+  /// The emphasis that right options have more often than wrong ones.
+  int EmphasisOfKeys() const {
+    struct Kind {
+      std::uint8_t emphasis;
+      int text;
+    };
+    constexpr Kind kKinds[] = {{emphasis::kBold, text_id::kLearnedKeyBold},
+                               {emphasis::kColoured, text_id::kLearnedKeyColoured},
+                               {emphasis::kHighlighted, text_id::kLearnedKeyHighlighted},
+                               {emphasis::kUnderlined, text_id::kLearnedKeyUnderlined},
+                               {emphasis::kItalic, text_id::kLearnedKeyItalic}};
+    std::map<int, int> counts;
+    for (const ReadQuestion& question : layout_.reading.paper.questions) {
+      for (std::size_t i = 0; i < question.options.size(); ++i) {
+        const bool isRight = question.letters.find(static_cast<char16_t>(u'A' + i)) != std::u16string::npos;
+        for (const Kind& kind : kKinds) {
+          if (IsEmphasised(question.places.options[i], kind.emphasis)) counts[kind.text] += isRight ? 1 : -1;
+        }
+      }
+    }
+    const auto most = std::ranges::max_element(counts, {}, [](const auto& count) { return count.second; });
+    return most == counts.end() ? text_id::kLearnedKeyBold : most->first;
+  }
+
+  bool IsEmphasised(TextSpan option, std::uint8_t kind) const {
+    const TextOrigins& origins = layout_.reading.marked.trace.origins;
+    for (std::size_t at = option.begin; at < option.end; ++at) {
+      if (origins[at] != kInserted && (paper_.source.emphasis[origins[at]] & kind) != 0) return true;
+    }
+    return false;
+  }
+
+  /// How the first key stands in the paper.
+  std::u16string ExampleOfKey() const {
+    for (const ReadQuestion& question : layout_.reading.paper.questions) {
+      const TextOrigins& origins = layout_.reading.marked.trace.origins;
+      for (std::size_t at = question.places.answer.begin; at < question.places.answer.end; ++at) {
+        if (origins[at] == kInserted) continue;
+        const std::u16string_view source = paper_.source.characters;
+        const std::size_t begin = origins[at] > 1 ? origins[at] - 1 : 0;
+        return OneLine(source.substr(begin, 3));
+      }
+    }
+    return {};
+  }
+
+  /// The first sign that a step has taken away.
+  std::u16string ReplacedBesideAnswer() const {
+    for (const ReplacedMatch& match : layout_.reading.marked.trace.replaced) {
+      if (match.key != rule_key::kPrepare) continue;
+      for (const std::uint32_t place : match.units) {
+        const char16_t unit = paper_.source.characters[place];
+        if (!IsBlank(unit) && !IsLineEnd(unit)) return std::u16string(1, unit);
+      }
+    }
+    return {};
+  }
+
+  void AddLeftOut() {
+    if (const std::u16string heading = FirstWith(PaperRole::Heading); !heading.empty())
+      Add(text_id::kLearnedHeadings, {heading});
+    if (Has(u"BlankForms")) AddBlank();
+    if (Has(u"SoftBreaks")) Add(text_id::kLearnedSoftBreaks);
+  }
+
+  void AddBlank() {
+    for (const ReadQuestion& question : layout_.reading.paper.questions) {
+      if (question.kind == ReadKind::FillIn) return Add(text_id::kLearnedBlanks, {u"___"});
+    }
+  }
+
+  std::u16string FirstWith(PaperRole role) const {
+    for (const RolePart& part : RolesOf(paper_, layout_.reading)) {
+      if (part.role == role) return OneLine(part.span.Of(paper_.source.characters));
+    }
+    return {};
+  }
+
+  const Paper& paper_;
+  const TriedLayout& layout_;
+  const RuleDraft& draft_;
+  std::vector<LearnedFact> facts_;
+};
+
+}  // namespace
+
+std::vector<LearnedFact> FactsOf(const Paper& paper, const TriedLayout& layout) {
+  return FactList(paper, layout).Facts();
+}
+
+}  // namespace quorvantis

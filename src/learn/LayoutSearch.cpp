@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+#include "learn/LayoutSearch.h"
+
+#include "import/labels/LineText.h"
+#include "import/prepare/PreparationSteps.h"
+#include "learn/AnswerLabels.h"
+#include "learn/Headings.h"
+#include "learn/ReadingRoles.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+/// Steps that change how lines and questions are told apart; they are tried before anything else.
+constexpr std::u16string_view kSoftBreaks = u"SoftBreaks";
+constexpr std::u16string_view kTableOptions = u"TableOptions";
+constexpr std::u16string_view kUnnumbered = u"Unnumbered";
+constexpr std::u16string_view kPlainOptions = u"PlainOptions";
+constexpr std::u16string_view kNoise = u"Noise";
+constexpr std::u16string_view kOpenAnswers = u"OpenAnswers";
+
+/// Steps whose work makes no reading better by itself, but is right wherever they find something to do.
+constexpr std::u16string_view kHarmless[] = {u"BlankForms", u"MixedLetters", kNoise};
+
+bool HasSoftBreaks(const Paper& paper) {
+  return std::ranges::count(paper.source.characters, u'\v') > 1;
+}
+
+/// Numbers of two families that count together: "1." and "(2)".
+bool CountTogether(const NumberFamily& one, const NumberFamily& other) {
+  std::vector<std::pair<std::size_t, int>> numbers;
+  for (const NumberFamily* family : {&one, &other}) {
+    for (const NumberLabel& label : family->labels) numbers.emplace_back(label.place.begin, label.value);
+  }
+  std::ranges::sort(numbers);
+  std::size_t good = 0;
+  int before = 0;
+  for (const auto& [place, value] : numbers) {
+    good += value == before + 1 ? 1 : 0;
+    before = value;
+  }
+  const double share = static_cast<double>(good) / static_cast<double>(numbers.size());
+  return share > std::max({one.rising, other.rising, 0.6}) || share > 0.95;
+}
+
+/// A family from a label that a teacher has marked, if its line holds no other one.
+bool Covers(const NumberFamily& family, const TextSpan& mark) {
+  return std::ranges::any_of(family.labels,
+                             [&mark](const NumberLabel& label) { return label.place.Overlaps(mark); });
+}
+
+}  // namespace
+
+TriedLayout LayoutSearch::Search() {
+  Steps lines;
+  if (HasSoftBreaks(paper_)) lines.emplace(kSoftBreaks);
+  TryNumbers(lines);
+  if (!paper_.tables.empty()) {
+    lines.emplace(kTableOptions);
+    TryNumbers(lines);
+  }
+  TryKeyBeforeNumber();
+  TryAnswerLabels();
+  TryHeadings();
+  TrySteps();
+  TryHeadings();
+  Simplify();
+  return std::move(best_);
+}
+
+void LayoutSearch::Check() const {
+  if (options_.isCancelled && options_.isCancelled())
+    throw ImportFailure{ImportFailure::Reason::Cancelled, {}};
+}
+
+TriedLayout LayoutSearch::Tried(RuleDraft draft) const {
+  Check();
+  constexpr double kWeightOfMarks = 20;
+  TriedLayout tried;
+  tried.rules = RulesOf(draft);
+  tried.draft = std::move(draft);
+  tried.reading = ReadByRules(paper_, tried.rules, options_.isCancelled);
+  Check();
+  tried.score = ScoreOf(paper_, tried.reading);
+  if (!marks_.IsEmpty()) tried.followed = marks_.Followed(RolesOf(paper_, tried.reading));
+  tried.total = tried.score.Total() + kWeightOfMarks * tried.followed;
+  return tried;
+}
+
+bool LayoutSearch::Try(RuleDraft draft, bool orAsGood) {
+  TriedLayout tried = Tried(std::move(draft));
+  constexpr double kAsGood = 1e-9;
+  const bool isBetter =
+      tried.total > best_.total + kAsGood || (orAsGood && tried.total > best_.total - kAsGood);
+  if (!isBetter || !FitsFile(tried.rules)) return false;
+  best_ = std::move(tried);
+  return true;
+}
+
+PaperText LayoutSearch::Prepared(const RuleDraft& draft) const {
+  PreparedText prepared = PreparePaper(paper_, RulesOf(draft), options_.isCancelled);
+  Check();
+  return std::move(prepared.text);
+}
+
+PaperOutline LayoutSearch::Outline(const PaperText& text, const RuleDraft& draft) const {
+  return OutlineOf(text, RulesOf(draft), options_.isCancelled);
+}
+
+std::vector<TextSpan> LayoutSearch::Bodies(const PaperText& text, const RuleDraft& draft) const {
+  std::vector<TextSpan> bodies;
+  for (const OutlinedQuestion& question : Outline(text, draft).questions)
+    bodies.push_back(
+        {question.label.end, question.HasAnswer() ? question.answerLabel.begin : question.whole.end});
+  return bodies;
+}
+
+void LayoutSearch::TryNumbers(const Steps& steps) {
+  RuleDraft plain;
+  plain.steps = steps;
+  const PaperText text = Prepared(plain);
+  std::vector<NumberFamily> families = FindNumberFamilies(text.characters);
+  const std::vector<TextSpan> marked = marks_.PlacesIn(text, PaperRole::QuestionNumber);
+  if (!marked.empty()) {
+    std::ranges::stable_partition(families, [&marked](const NumberFamily& family) {
+      return std::ranges::any_of(marked, [&family](const TextSpan& mark) { return Covers(family, mark); });
+    });
+  }
+  constexpr std::size_t kMostFamilies = 4;
+  families.resize(std::min(families.size(), kMostFamilies));
+  for (std::size_t i = 0; i < families.size(); ++i) {
+    TryFamilies(text, {families[i]}, steps);
+    for (std::size_t other = i + 1; other < families.size(); ++other) {
+      if (CountTogether(families[i], families[other]))
+        TryFamilies(text, {families[i], families[other]}, steps);
+    }
+  }
+  // Few numbers, or none: blank lines and options may tell the questions apart.
+  Steps unnumbered = steps;
+  unnumbered.emplace(kUnnumbered);
+  TryFamilies(text, {}, unnumbered);
+}
+
+void LayoutSearch::TryFamilies(const PaperText& text, const std::vector<NumberFamily>& numbers,
+                               const Steps& steps) {
+  RuleDraft draft;
+  draft.numbers = numbers;
+  draft.steps = steps;
+  draft.steps.emplace(kOpenAnswers);
+  const bool changesText = steps.contains(kUnnumbered);
+  const PaperText prepared = changesText ? Prepared(draft) : PaperText{};
+  const PaperText& looked = changesText ? prepared : text;
+  draft.options = FindOptionFamily(looked.characters, Bodies(looked, draft));
+  TryOptions(std::move(draft));
+}
+
+void LayoutSearch::TryOptions(RuleDraft draft) {
+  if (draft.options.IsEmpty()) {
+    Try(draft);
+    TryPlainOptions(draft);
+    return;
+  }
+  draft.optionsAtLineStarts = true;
+  Try(draft);
+  if (draft.options.inLines > 0) {
+    draft.optionsAtLineStarts = false;
+    Try(draft);
+  }
+  TryPlainOptions(draft);
+}
+
+/// Options without labels show only when a step gives them some.
+void LayoutSearch::TryPlainOptions(const RuleDraft& draft) {
+  RuleDraft plain = draft;
+  plain.steps.emplace(kPlainOptions);
+  Try(std::move(plain));
+}
+
+void LayoutSearch::TryKeyBeforeNumber() {
+  if (best_.draft.numbers.empty()) return;
+  RuleDraft draft = best_.draft;
+  draft.keyBeforeNumber = true;
+  draft.steps.emplace(u"KeyInStem");
+  Try(std::move(draft));
+}
+
+void LayoutSearch::TryAnswerLabels() {
+  const PaperText text = Prepared(best_.draft);
+  std::vector<AnswerLabelFamily> families = FindAnswerLabels(text.characters, Bodies(text, best_.draft));
+  std::set<std::u16string> marked = marks_.Texts(PaperRole::AnswerLabel);
+  marked.merge(marks_.TextsBeforeAnswers());
+  if (!marked.empty()) TryLabels(marked, false);
+  constexpr std::size_t kMostLabels = 4;
+  families.resize(std::min(families.size(), kMostLabels));
+  std::set<std::u16string> together = marked;
+  for (const AnswerLabelFamily& family : families) {
+    TryLabels({family.label}, family.standsWithinLines);
+    // "Answer:" and "Ans.:" in one paper.
+    constexpr double kSurelyKeys = 0.6;
+    if (family.keys < kSurelyKeys) continue;
+    together.insert(family.label);
+    if (together.size() > 1) TryLabels(together, family.standsWithinLines);
+  }
+}
+
+void LayoutSearch::TryLabels(const std::set<std::u16string>& labels, bool withinLines) {
+  RuleDraft draft = best_.draft;
+  draft.answerLabels = labels;
+  draft.labelsWithinLines = withinLines;
+  Try(draft);
+  // Keys in other letters show only as capitals.
+  draft.steps.emplace(u"KeyLetters");
+  Try(draft);
+  draft.steps.emplace(u"Judgement");
+  Try(std::move(draft));
+}
+
+void LayoutSearch::TryHeadings() {
+  TryMarkedHeadings();
+  const PaperText text = Prepared(best_.draft);
+  RuleDraft draft = best_.draft;
+  for (const HeadingLine& heading : FindHeadings(text, Outline(text, draft))) {
+    RuleDraft longer = draft;
+    longer.headings.insert(heading.pattern);
+    // Instructions of many sections may be too long for one rule.
+    if (FitsFile(RulesOf(longer))) draft = std::move(longer);
+  }
+  if (draft.headings == best_.draft.headings) return;
+  draft.steps.emplace(kNoise);
+  Try(std::move(draft), true);
+}
+
+void LayoutSearch::TryMarkedHeadings() {
+  RuleDraft draft = best_.draft;
+  for (const PaperRole role : {PaperRole::Heading, PaperRole::NotExam}) {
+    for (const std::u16string& marked : marks_.Texts(role)) {
+      for (const TextSpan& line : LinesOf(marked, {0, marked.size()}))
+        draft.headings.insert(HeadingPattern(Trimmed(marked, line).Of(marked)));
+    }
+  }
+  if (draft.headings == best_.draft.headings) return;
+  draft.steps.emplace(kNoise);
+  Try(std::move(draft), true);
+}
+
+void LayoutSearch::TrySteps() {
+  constexpr int kMostRounds = 8;
+  for (int round = 0; round < kMostRounds && TryBestStep(); ++round) {
+    if (options_.progress) options_.progress(round, kMostRounds);
+  }
+  for (const std::u16string_view step : kHarmless) {
+    if (best_.draft.HasStep(step)) continue;
+    RuleDraft draft = best_.draft;
+    draft.steps.emplace(step);
+    if (Prepared(draft).characters != Prepared(best_.draft).characters) Try(std::move(draft), true);
+  }
+}
+
+/// Of all steps that change the text, takes the one that improves the reading most.
+bool LayoutSearch::TryBestStep() {
+  const std::u16string before = Prepared(best_.draft).characters;
+  TriedLayout bestStep;
+  for (const PreparationStep& step : PreparationSteps()) {
+    if (best_.draft.HasStep(step.name) || step.name == kUnnumbered || step.name == kTableOptions) continue;
+    RuleDraft draft = best_.draft;
+    draft.steps.emplace(step.name);
+    if (Prepared(draft).characters == before) continue;
+    TriedLayout tried = Tried(std::move(draft));
+    if (tried.total > bestStep.total) bestStep = std::move(tried);
+  }
+  constexpr double kWorthwhile = 0.01;
+  if (bestStep.total < best_.total + kWorthwhile || !FitsFile(bestStep.rules)) return false;
+  best_ = std::move(bestStep);
+  return true;
+}
+
+/// Leaves out what does nothing, so that the rules are as short as they can be.
+void LayoutSearch::Simplify() {
+  const Steps steps = best_.draft.steps;
+  for (const std::u16string& step : steps) {
+    RuleDraft draft = best_.draft;
+    draft.steps.erase(step);
+    if (Prepared(draft).characters == Prepared(best_.draft).characters) Try(std::move(draft), true);
+  }
+}
+
+}  // namespace quorvantis

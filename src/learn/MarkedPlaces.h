@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "import/prepare/PaperText.h"
+#include "learn/NumberFamilies.h"
+#include "learn/PaperLearner.h"
+#include "learn/ReadingRoles.h"
+
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// What marks say about a layout.
+class MarkedPlaces {
+ public:
+  /// Both must outlive this.
+  MarkedPlaces(const Paper& paper, const std::vector<PaperMark>& marks) : paper_(paper), marks_(marks) {}
+
+  bool IsEmpty() const { return marks_.empty(); }
+
+  /// Places in `text` of what has a mark of that role.
+  std::vector<TextSpan> PlacesIn(const PaperText& text, PaperRole role) const;
+
+  /// The texts with that role.
+  std::set<std::u16string> Texts(PaperRole role) const;
+
+  /// The texts in front of marked answers in their lines: labels, unless a question marks its answers
+  /// otherwise.
+  std::set<std::u16string> TextsBeforeAnswers() const;
+
+  /// Whether some of the marks that reading follows; their share, 1 without any mark.
+  double Followed(const std::vector<RolePart>& roles) const;
+
+  /// The marks that the roles do not follow, by index.
+  std::vector<std::size_t> Unfollowed(const std::vector<RolePart>& roles) const;
+
+ private:
+  bool IsFollowed(const PaperMark& mark, const std::vector<RolePart>& roles) const;
+
+  const Paper& paper_;
+  const std::vector<PaperMark>& marks_;
+};
+
+}  // namespace quorvantis

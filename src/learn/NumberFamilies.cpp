@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "learn/NumberFamilies.h"
+
+#include "import/labels/LineText.h"
+#include "learn/PatternText.h"
+#include "text/AsciiCase.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::u16string_view kOpens = u"(（[【〔〈";
+constexpr std::u16string_view kCloses = u".)）．、:：】］]〕〉,，。-–—/°º";
+/// Words that may follow a number: "第1题", "1번".
+constexpr std::u16string_view kCloseWords = u"题題問问번문제道小";
+
+bool Holds(std::u16string_view units, char16_t unit) {
+  return units.find(unit) != units.npos;
+}
+
+/// A letter of any script, as words in front of numbers have them.
+bool IsLetter(char16_t unit) {
+  if (unit < 0x80) return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z';
+  return unit >= 0xC0 && !(unit >= 0x2000 && unit < 0x3040) && unit < 0xFB00;
+}
+
+/// Reads the labels of one line.
+class LabelReading {
+ public:
+  LabelReading(std::u16string_view text, TextSpan line)
+      : text_(text.substr(0, line.end)), begin_(SkipBlanks(text, line.begin, line.end)) {}
+
+  std::vector<NumberLabel> Labels() {
+    begin_ = AfterKey(begin_);
+    Read({}, begin_);
+    // Words in front of the number, as few as possible.
+    constexpr std::size_t kLongestPrefix = 24;
+    for (std::size_t at = begin_; at < std::min(text_.size(), begin_ + kLongestPrefix); ++at) {
+      if (!IsLetter(text_[at]) && !Holds(u" .#№°º'’\u00A0*&", text_[at])) break;
+      const std::size_t next = SkipBlanks(text_, at + 1, text_.size());
+      if (at >= begin_ && IsNumberHere(next)) {
+        std::u16string prefix(text_.substr(begin_, next - begin_));
+        while (!prefix.empty() && IsBlank(prefix.back())) prefix.pop_back();
+        if (!prefix.empty() && IsLetter(prefix[prefix.find_first_not_of(u"#№*& ") == prefix.npos
+                                                   ? 0
+                                                   : prefix.find_first_not_of(u"#№*& ")]))
+          Read(prefix, next);
+        else if (prefix == u"№" || prefix == u"#")
+          Read(prefix, next);
+        break;
+      }
+    }
+    return std::move(labels_);
+  }
+
+ private:
+  /// Where the label begins if the letter of the answer stands in brackets before it: "(B) 1."
+  std::size_t AfterKey(std::size_t at) const {
+    if (at >= text_.size() || !Holds(u"(（[", text_[at])) return at;
+    std::size_t end = SkipBlanks(text_, at + 1, text_.size());
+    if (end < text_.size() && ((text_[end] | 0x20) >= u'a' && (text_[end] | 0x20) <= u'j')) ++end;
+    end = SkipBlanks(text_, end, text_.size());
+    if (end >= text_.size() || !Holds(u")）]", text_[end])) return at;
+    const std::size_t next = SkipBlanks(text_, end + 1, text_.size());
+    return IsNumberHere(next) ? next : at;
+  }
+
+  bool IsNumberHere(std::size_t at) const {
+    if (at < text_.size() && Holds(kOpens, text_[at])) ++at;
+    const std::vector<Numeral> numerals = NumeralsAt(text_, at);
+    return std::ranges::any_of(numerals, [&](const Numeral& numeral) {
+      const bool isRoman = numeral.kind == NumeralKind::UpperRoman || numeral.kind == NumeralKind::LowerRoman;
+      const std::size_t end = at + numeral.size;
+      return !isRoman || end >= text_.size() || !IsLetter(text_[end]);
+    });
+  }
+
+  void Read(const std::u16string& prefix, std::size_t at) {
+    NumberLabel label;
+    label.prefix = prefix;
+    std::size_t place = at;
+    if (place < text_.size() && Holds(kOpens, text_[place])) label.open = text_[place++];
+    place = SkipBlanks(text_, place, text_.size());
+    for (const Numeral& numeral : NumeralsAt(text_, place)) Add(label, numeral, place + numeral.size);
+  }
+
+  void Add(NumberLabel label, const Numeral& numeral, std::size_t end) {
+    label.kind = numeral.kind;
+    label.value = numeral.value;
+    std::size_t at = label.open != 0 ? SkipBlanks(text_, end, text_.size()) : end;
+    constexpr std::size_t kLongestClose = 3;
+    const std::size_t closeBegin = at;
+    while (at < text_.size() && at - closeBegin < kLongestClose &&
+           (Holds(kCloses, text_[at]) || (at == closeBegin && Holds(kCloseWords, text_[at]))))
+      ++at;
+    label.close = text_.substr(closeBegin, at - closeBegin);
+    // "1 ." has its dot apart.
+    if (label.close.empty() && at + 1 < text_.size() && text_[at] == u' ' &&
+        Holds(u".):、．", text_[at + 1])) {
+      label.close = std::u16string(1, text_[at + 1]);
+      at += 2;
+    }
+    const bool isSymbol = numeral.kind == NumeralKind::Circled || numeral.kind == NumeralKind::InBrackets ||
+                          numeral.kind == NumeralKind::WithDot;
+    const bool endsHere = at >= text_.size() || IsBlank(text_[at]);
+    if (label.close.empty() && !isSymbol) {
+      if (label.open != 0 || !endsHere) return;
+      label.isSpaced = label.prefix.empty();
+    }
+    if (IsDecimal(label.kind) && label.close == u"." && at < text_.size() && IsDigitUnit(text_[at])) return;
+    label.place = {begin_, at};
+    labels_.push_back(std::move(label));
+  }
+
+  static bool IsDecimal(NumeralKind kind) { return kind <= NumeralKind::Thai; }
+  static bool IsDigitUnit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+
+  std::u16string_view text_;
+  std::size_t begin_;
+  std::vector<NumberLabel> labels_;
+};
+
+using FamilyKey = std::tuple<std::u16string, bool, NumeralKind, bool>;
+
+FamilyKey KeyOf(const NumberLabel& label) {
+  std::u16string prefix = AsciiLower(label.prefix);
+  std::erase_if(prefix, IsBlank);
+  return {prefix, label.open != 0, label.kind, label.isSpaced};
+}
+
+/// How well the numbers follow each other.
+void Judge(NumberFamily& family) {
+  int good = 0;
+  int before = 0;
+  for (const NumberLabel& label : family.labels) {
+    const bool follows = label.value == before + 1;
+    const bool restarts = label.value == 1 && before > 1;
+    // One that was forgotten is a mistake that people make.
+    const bool skips = label.value == before + 2 && before > 0;
+    if (follows || restarts || skips) ++good;
+    if (restarts) ++family.restarts;
+    before = label.value;
+  }
+  family.rising = static_cast<double>(good) / static_cast<double>(family.labels.size());
+}
+
+/// Numbers that begin anew all the time are those of options.
+double LikelinessOfNumbers(const NumberFamily& family) {
+  const auto count = static_cast<double>(family.labels.size());
+  const double run = count / (family.restarts + 1);
+  constexpr double kShortRun = 5.5;
+  const double doubt = family.restarts >= 2 && run < kShortRun ? 0.3 : 1.0;
+  const double spaced = family.isSpaced ? 0.5 : 1.0;
+  return count * family.rising * family.rising * doubt * spaced;
+}
+
+}  // namespace
+
+std::vector<NumberLabel> NumberLabelsAt(std::u16string_view text, TextSpan line) {
+  return LabelReading(text, line).Labels();
+}
+
+std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
+  std::map<FamilyKey, NumberFamily> families;
+  for (const TextSpan& line : LinesOf(text, {0, text.size()})) {
+    for (NumberLabel& label : LabelReading(text, line).Labels()) {
+      NumberFamily& family = families[KeyOf(label)];
+      family.prefix = label.prefix;
+      family.isBracketed = label.open != 0;
+      if (label.open != 0) family.opens.insert(label.open);
+      family.kind = label.kind;
+      family.isSpaced = label.isSpaced;
+      family.closes.insert(label.close);
+      family.labels.push_back(std::move(label));
+    }
+  }
+  std::vector<NumberFamily> found;
+  for (auto& [key, family] : families) {
+    Judge(family);
+    if (family.labels.size() > 1 || family.labels.front().value == 1) found.push_back(std::move(family));
+  }
+  std::ranges::stable_sort(found, std::greater<>(), LikelinessOfNumbers);
+  return found;
+}
+
+std::u16string NumberFamily::Pattern(bool keyBefore) const {
+  // A "!" before the label stays apart from the marker, which is made of "!".
+  std::u16string pattern = u"(?<!!)\\s*^[ \\t\u00A0\u3000]*";
+  if (keyBefore) pattern += u"(?:[(（\\[][ \\t\u3000]*[A-Ja-j]?[ \\t\u3000]*[)）\\]][ \\t\u3000]*)?";
+  if (!prefix.empty()) pattern += u"(?i:" + LiteralPattern(prefix) + u")[ \\t\u00A0\u3000]*";
+  if (isBracketed) pattern += ClassPattern(opens) + u"[ \\t\u3000]*";
+  pattern += NumeralPattern(kind);
+  if (isBracketed) pattern += u"[ \\t\u3000]*";
+  if (isSpaced) return pattern + u"[ \\t\u00A0\u3000]+(?=\\S)";
+  std::set<std::u16string> patterns;
+  std::set<char16_t> units;
+  for (const std::u16string& close : closes) {
+    if (close.size() == 1)
+      units.insert(close[0]);
+    else
+      patterns.insert(LiteralPattern(close));
+  }
+  if (!units.empty()) patterns.insert((isBracketed ? u"" : u"[ ]?") + ClassPattern(units));
+  pattern += OneOfPattern(patterns);
+  if (kind == NumeralKind::Decimal && units.contains(u'.')) pattern += u"(?![0-9])";
+  return pattern + u"\\s*";
+}
+
+std::u16string NumberFamily::Example(std::u16string_view text) const {
+  if (labels.empty()) return {};
+  const TextSpan place = labels.front().place;
+  return std::u16string(place.Of(text));
+}
+
+}  // namespace quorvantis

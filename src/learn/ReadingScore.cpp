@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "learn/ReadingScore.h"
+
+#include "import/labels/LineText.h"
+#include "import/labels/Numerals.h"
+#include "import/labels/OptionSequence.h"
+#include "import/marking/ImportMarkers.h"
+#include "import/marking/RuleKeys.h"
+#include "learn/ReadingRoles.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace quorvantis {
+namespace {
+
+double Share(std::size_t part, std::size_t whole) {
+  return whole == 0 ? 0 : static_cast<double>(part) / static_cast<double>(whole);
+}
+
+/// The numbers that stood in the labels of questions, in their order.
+std::vector<int> NumbersOf(const Paper& paper, const MarkedText& marked) {
+  std::vector<std::pair<std::uint32_t, int>> numbers;
+  for (const ReplacedMatch& match : marked.trace.replaced) {
+    if (match.key != rule_key::kPreQuestion && match.key != rule_key::kPreParenQuestion) continue;
+    std::u16string label;
+    for (const std::uint32_t place : match.units) label += paper.source.characters[place];
+    int value = 0;
+    for (std::size_t at = 0; at < label.size() && value == 0; ++at) {
+      const auto numerals = NumeralsAt(label, at);
+      if (!numerals.empty()) value = numerals.front().value;
+    }
+    // Labels that a step has put in number by themselves.
+    if (!match.units.empty()) numbers.emplace_back(match.units.front(), value);
+  }
+  std::ranges::sort(numbers);
+  std::vector<int> values;
+  for (const auto& [place, value] : numbers) values.push_back(value);
+  return values;
+}
+
+double RisingShare(const std::vector<int>& numbers) {
+  constexpr double kOfStepsOwnNumbers = 0.85;
+  if (numbers.empty()) return kOfStepsOwnNumbers;
+  std::size_t good = 0;
+  int before = 0;
+  for (const int number : numbers) {
+    if (number == before + 1 || (number == 1 && before > 2)) ++good;
+    before = number;
+  }
+  return Share(good, numbers.size());
+}
+
+bool HasMarker(std::u16string_view text) {
+  return text.find(kAnswerMarker) != text.npos || text.find(kAnswerSectionMarker) != text.npos ||
+         text.find(u"\u27E6") != text.npos;
+}
+
+std::size_t OptionsOf(const ReadQuestion& question) {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(question.options, [](const auto& o) { return !o.empty(); }));
+}
+
+/// Counts what is wrong with the questions of a reading.
+class Counting {
+ public:
+  explicit Counting(const ReadPaper& paper) : paper_(paper) {
+    for (const ReadQuestion& question : paper.questions) Count(question);
+  }
+
+  void Fill(ReadingScore& score) const {
+    const std::size_t all = paper_.questions.size();
+    std::size_t usual = 0;
+    for (const auto& [options, count] : sizes_) usual = std::max(usual, count);
+    score.choices = Share(choices_, all);
+    score.regular = Share(usual, choices_);
+    score.keys = Share(keys_, choices_);
+    score.plausibleKeys = Share(plausible_, keys_);
+    score.leftOptions = Share(leftOptions_, all);
+    score.strayMarkers = Share(markers_, all);
+    score.longOptions = Share(longOptions_, choices_);
+    score.emptyParts = Share(empty_, all);
+    score.overlong = Share(Overlong(), all);
+  }
+
+ private:
+  void Count(const ReadQuestion& question) {
+    const bool isChoice = question.kind == ReadKind::Choice;
+    std::u16string all = question.text + question.answer;
+    for (const std::u16string& option : question.options) all += u"\n" + option;
+    sizesOfTexts_.push_back(question.text.size());
+    if (HasMarker(all)) ++markers_;
+    if (Trimmed(question.text, {0, question.text.size()}).IsEmpty()) ++empty_;
+    if (isChoice) CountChoice(question);
+    if (HoldsOptions(question)) ++leftOptions_;
+  }
+
+  void CountChoice(const ReadQuestion& question) {
+    ++choices_;
+    ++sizes_[OptionsOf(question)];
+    if (!question.letters.empty()) ++keys_;
+    constexpr std::size_t kOften = 2;
+    if (!question.letters.empty() && question.letters.size() <= kOften) ++plausible_;
+    bool isLong = false;
+    for (std::size_t i = 0; i < question.options.size(); ++i) {
+      isLong = isLong || question.options[i].find_first_of(kLineEnds) != std::u16string::npos;
+      const bool isGap =
+          question.options[i].empty() && i + 1 < question.options.size() && !question.options[i + 1].empty();
+      if (isGap) {
+        ++empty_;
+        break;
+      }
+    }
+    if (isLong) ++longOptions_;
+  }
+
+  static bool HoldsOptions(const ReadQuestion& question) {
+    const auto holds = [](std::u16string_view text) {
+      constexpr std::size_t kEnoughToSee = 4'000;
+      const auto options =
+          FindOptions(text.substr(0, kEnoughToSee), {0, std::min(text.size(), kEnoughToSee)});
+      return options && (options->labels.size() > 2 || options->LineStarts() == 2);
+    };
+    return holds(question.text) || std::ranges::any_of(question.options, holds) || holds(question.answer);
+  }
+
+  std::size_t Overlong() const {
+    if (sizesOfTexts_.empty()) return 0;
+    std::vector<std::size_t> sorted = sizesOfTexts_;
+    std::ranges::nth_element(sorted, sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2));
+    const std::size_t limit = std::max<std::size_t>(sorted[sorted.size() / 2] * 8, 1'200);
+    return static_cast<std::size_t>(
+        std::ranges::count_if(sizesOfTexts_, [limit](std::size_t size) { return size > limit; }));
+  }
+
+  const ReadPaper& paper_;
+  std::size_t choices_ = 0;
+  std::size_t keys_ = 0;
+  std::size_t plausible_ = 0;
+  std::size_t leftOptions_ = 0;
+  std::size_t markers_ = 0;
+  std::size_t longOptions_ = 0;
+  std::size_t empty_ = 0;
+  std::map<std::size_t, std::size_t> sizes_;  ///< how many choice questions have how many options
+  std::vector<std::size_t> sizesOfTexts_;
+};
+
+}  // namespace
+
+ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading) {
+  ReadingScore score;
+  if (reading.HasFailed()) return score;
+  score.questions = reading.paper.questions.size();
+  if (score.questions == 0) return score;
+  score.rising = RisingShare(NumbersOf(paper, reading.marked));
+  score.explained = ExplainedShare(paper, RolesOf(paper, reading));
+  score.dropped = std::min(Share(reading.paper.dropped.size(), score.questions), 1.0);
+  Counting(reading.paper).Fill(score);
+  return score;
+}
+
+double ReadingScore::Total() const {
+  if (questions == 0) return -1'000;
+  const double many = std::log2(1.0 + static_cast<double>(std::min<std::size_t>(questions, 40)));
+  return 4 * rising + 0.25 * many + choices * (1.5 * regular + 0.5) +
+         choices * keys * (0.5 + 1.5 * plausibleKeys) + 2 * explained - 5 * leftOptions - 5 * strayMarkers -
+         2 * dropped - 0.7 * longOptions - 4 * emptyParts - 2 * overlong;
+}
+
+double ReadingScore::Confidence() const {
+  if (questions == 0) return 0;
+  const double structure = rising * (1 - leftOptions) * (1 - std::min(1.0, dropped)) * (1 - emptyParts) *
+                           (1 - strayMarkers) * (1 - 0.5 * overlong);
+  const double options = choices > 0 ? 0.5 + 0.5 * regular : 1.0;
+  return std::clamp(structure * options * (0.3 + 0.7 * explained), 0.0, 1.0);
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "import/marking/ImportSettings.h"
+#include "learn/NumberFamilies.h"
+#include "learn/OptionFamily.h"
+
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// A layout, as far as it has been worked out; becomes rules.
+struct RuleDraft {
+  std::vector<NumberFamily> numbers{};  ///< none: questions get their numbers from a step
+  bool keyBeforeNumber = false;
+  OptionFamily options{};
+  bool optionsAtLineStarts = true;
+  std::set<std::u16string> answerLabels{};        ///< as they are written, "Answer:"
+  bool labelsWithinLines = false;                 ///< an answer label may stand within a line
+  std::set<std::u16string> headings{};            ///< patterns of whole lines
+  std::set<std::u16string, std::less<>> steps{};  ///< names of preparations
+
+  bool HasStep(std::u16string_view step) const { return steps.contains(step); }
+};
+
+/// The rules of a layout.
+ImportSettings RulesOf(const RuleDraft& draft);
+
+/// Whether every rule fits a line of "ImportExam.ini".
+bool FitsFile(const ImportSettings& rules);
+
+}  // namespace quorvantis
