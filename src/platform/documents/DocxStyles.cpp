@@ -18,7 +18,9 @@ pugi::xml_node Find(const NodesById& nodes, std::string_view id) {
   return found == nodes.end() ? pugi::xml_node() : found->second;
 }
 
-DocxStyles::DocxStyles(pugi::xml_node styles) : styles_(ById(styles, "style", "styleId")) {
+DocxStyles::DocxStyles(pugi::xml_node styles)
+    : styles_(ById(styles, "style", "styleId")),
+      runDefaults_(ChildOf(ChildOf(ChildOf(styles, "docDefaults"), "rPrDefault"), "rPr")) {
   for (const auto& [id, style] : styles_) {
     const std::string_view isDefault = ValueOf(style, "default");
     if (ValueOf(style, "type") == "paragraph" && (isDefault == "1" || isDefault == "true")) default_ = id;

@@ -24,6 +24,9 @@ class DocxStyles {
 
   pugi::xml_node Style(std::string_view id) const { return Find(styles_, id); }
 
+  /// The properties of text that no style and no run says anything about; may be empty.
+  pugi::xml_node RunDefaults() const { return runDefaults_; }
+
   /// The id of a paragraph's style, by default that of the default style; may be empty.
   std::string OfParagraph(pugi::xml_node properties) const;
 
@@ -32,6 +35,7 @@ class DocxStyles {
 
  private:
   NodesById styles_;
+  pugi::xml_node runDefaults_;
   std::string default_;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/documents/DocxText.h"
 
+#include "platform/documents/EmphasisRuns.h"
 #include "platform/documents/RevisionMarks.h"
 #include "platform/documents/XmlPart.h"
 #include "text/Utf.h"
@@ -64,6 +65,7 @@ DocxText::DocxText(pugi::xml_node body, const DocxStyles& styles, ListLabels& la
     : body_(body),
       styles_(styles),
       hiding_(styles),
+      look_(body, styles),
       labels_(labels),
       keepsLabels_(keepsLabels),
       fields_(body),
@@ -129,6 +131,8 @@ void DocxText::Paragraph(pugi::xml_node node) {
   const pugi::xml_node properties = ChildOf(node, "pPr");
   auto outerBoxes = std::exchange(textBoxes_, {});
   auto outerStyle = std::exchange(paragraphStyle_, styles_.OfParagraph(properties));
+  const auto outerEmphasis =
+      std::exchange(paragraphEmphasis_, look_.OfParagraph(properties, paragraphStyle_));
   const Place start = End();
   const bool wasShown = IsShown();
   WalkChildren(node);
@@ -140,6 +144,7 @@ void DocxText::Paragraph(pugi::xml_node node) {
   if (wasShown && isNumbered) InsertLabel(properties, start);
   if (endsLine) Append(kParagraphEnd);
   paragraphStyle_ = std::move(outerStyle);
+  paragraphEmphasis_ = outerEmphasis;
   TextBoxes(std::exchange(textBoxes_, std::move(outerBoxes)));
 }
 
@@ -153,12 +158,14 @@ bool DocxText::EndsLine(pugi::xml_node mark, bool isEmpty) {
 /// Only now: a paragraph of which nothing is left must not be counted.
 void DocxText::InsertLabel(pugi::xml_node properties, Place start) {
   if (!keepsLabels_ && document_.hasNumbersLeftOut) return;
-  const std::u16string label = labels_.Next(properties);
+  const auto& [label, look] = labels_.Next(properties);
+  if (!label.empty()) document_.hasAutomaticNumbers = true;
   if (!keepsLabels_) {
     document_.hasNumbersLeftOut = !label.empty();
     return;
   }
   text_->characters.insert(start.characters, label);
+  InsertEmphasis(text_->emphasis, start.characters, label.size(), look_.OfLabel(look));
   for (std::size_t i = start.objects; i < text_->objects.size(); ++i)
     text_->objects[i].position += label.size();
 }
@@ -195,7 +202,7 @@ void DocxText::Alternatives(pugi::xml_node node) {
 void DocxText::Table(pugi::xml_node node) {
   EndLine();
   const bool outer = std::exchange(ofTopTable_, enclosing_ == 0);
-  if (ofTopTable_) document_.tables.emplace_back();
+  if (ofTopTable_) document_.tables.push_back({{}, document_.runningText.characters.size()});
   ++enclosing_;
   WalkChildren(node);
   --enclosing_;
@@ -217,7 +224,9 @@ void DocxText::Cell(pugi::xml_node node) {
   WordText cell;
   WordText* const outer = std::exchange(text_, &cell);
   ofTopTable_ = false;
+  cellEmphasis_ = RunEmphasis::OfCell(properties);
   CellText(node, isEmpty);
+  cellEmphasis_ = 0;
   ofTopTable_ = true;
   text_ = outer;
   document_.tables.back().rows.back().push_back(std::move(cell));
@@ -231,8 +240,13 @@ void DocxText::CellText(pugi::xml_node node, bool isEmpty) {
 
 void DocxText::Run(pugi::xml_node node) {
   const bool outer = hidden_;
-  hidden_ = hidden_ || hiding_.IsHidden(ChildOf(node, "rPr"), paragraphStyle_);
+  const pugi::xml_node properties = ChildOf(node, "rPr");
+  hidden_ = hidden_ || hiding_.IsHidden(properties, paragraphStyle_);
+  const unsigned whole = paragraphEmphasis_ | cellEmphasis_;
+  const auto outerEmphasis =
+      std::exchange(emphasis_, static_cast<std::uint8_t>(look_.OfRun(properties, paragraphStyle_) | whole));
   WalkChildren(node);
+  emphasis_ = outerEmphasis;
   hidden_ = outer;
 }
 
@@ -320,7 +334,10 @@ void DocxText::DrawnPicture(pugi::xml_node /*node*/) {
 
 void DocxText::Append(std::u16string_view characters) {
   found_ += characters.size();
-  if (IsShown()) AppendAlways(characters);
+  if (!IsShown()) return;
+  const std::size_t begin = text_->characters.size();
+  AppendAlways(characters);
+  AppendEmphasis(text_->emphasis, begin, text_->characters.size(), emphasis_);
 }
 
 void DocxText::AppendAlways(std::u16string_view characters) {

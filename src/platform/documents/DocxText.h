@@ -7,7 +7,9 @@
 #include "platform/documents/HiddenText.h"
 #include "platform/documents/ListLabels.h"
 #include "platform/documents/PicturePlace.h"
+#include "platform/documents/RunEmphasis.h"
 
+#include <cstdint>
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
@@ -90,6 +92,7 @@ class DocxText {
   pugi::xml_node body_;
   const DocxStyles& styles_;
   HiddenText hiding_;
+  RunEmphasis look_;
   ListLabels& labels_;
   const bool keepsLabels_;
   FieldNesting fields_;
@@ -99,6 +102,9 @@ class DocxText {
   WordText* text_;                         ///< what is being filled
   std::vector<pugi::xml_node> textBoxes_;  ///< of the current paragraph
   std::string paragraphStyle_;             ///< of the same
+  std::uint8_t paragraphEmphasis_ = 0;     ///< likewise; `emphasis` values
+  std::uint8_t cellEmphasis_ = 0;          ///< of the current cell
+  std::uint8_t emphasis_ = 0;              ///< of the characters at the current place
   std::size_t found_ = 0;                  ///< grows with everything found
   int depth_ = 0;
   int enclosing_ = 0;        ///< tables and text boxes around the current place

@@ -34,7 +34,7 @@ ListLabels::ListLabels(pugi::xml_node numbering, const DocxStyles& styles)
       instances_(ById(numbering, "num", "numId")),
       styles_(styles) {}
 
-std::u16string ListLabels::Next(pugi::xml_node properties) {
+ListLabel ListLabels::Next(pugi::xml_node properties) {
   const Place place = PlaceOf(properties);
   if (place.level < 0 || place.level >= kLevels) return {};
   List* const list = ListOf(place.list);
@@ -46,7 +46,7 @@ std::u16string ListLabels::Next(pugi::xml_node properties) {
   };
   Counters& counters = counters_.try_emplace(list->counters, fresh()).first->second;
   Count(*list, counters, place.level);
-  return Label(*list, counters, place.level);
+  return {Label(*list, counters, place.level), list->levels[static_cast<std::size_t>(place.level)].look};
 }
 
 ListLabels::List* ListLabels::ListOf(const std::string& id) {
@@ -80,6 +80,7 @@ ListLabels::Level ListLabels::MakeLevel(pugi::xml_node definition, int index) {
   level.format = FormatOf(definition);
   level.pattern = Utf8ToUtf16(ValueOf(ChildOf(definition, "lvlText"))).substr(0, kLongestLabel);
   level.separator = Separator(definition);
+  level.look = ChildOf(definition, "rPr");
   level.style = ValueOf(ChildOf(definition, "pStyle"));
   return level;
 }

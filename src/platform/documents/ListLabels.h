@@ -11,6 +11,12 @@
 
 namespace quorvantis {
 
+/// An automatic number.
+struct ListLabel {
+  std::u16string text{};        ///< with the tab or blank after it
+  pugi::xml_node properties{};  ///< how its list wants it to look; may be empty
+};
+
 /// Counts the automatic numbers of paragraphs, which are not part of the text.
 class ListLabels {
  public:
@@ -19,9 +25,9 @@ class ListLabels {
   /// The root of the lists, which may be empty, and the styles of a document. Both must outlive this.
   ListLabels(pugi::xml_node numbering, const DocxStyles& styles);
 
-  /// The label of the next paragraph, with the tab or blank after it; empty if it has none. `properties` are
+  /// The label of the next paragraph; its text is empty if it has none. `properties` are
   /// those of the paragraph; they may be empty. Bullets are not labels.
-  std::u16string Next(pugi::xml_node properties);
+  ListLabel Next(pugi::xml_node properties);
 
  private:
   using Counters = std::array<int, kLevels>;
@@ -35,6 +41,7 @@ class ListLabels {
     std::string format = "decimal";
     std::u16string pattern;
     std::u16string_view separator;
+    pugi::xml_node look;
     std::string style;      ///< bound to this level; may be empty
     bool restarts = false;  ///< the instance restarts
   };
