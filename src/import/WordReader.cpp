@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <fstream>
+#include <iterator>
 #include <new>
 #include <string_view>
 #include <utility>
@@ -35,36 +36,38 @@ void VisitTexts(WordContent& document, const Visit& visit) {
   }
 }
 
-/// Text of some size was put in at a place.
+/// The texts that were put in for objects: where, and the size of all up to there. By place.
 struct Shift {
   std::size_t place = 0;
   std::size_t size = 0;
 };
+using Shifts = std::vector<Shift>;
 
-/// Where a place lies after the shifts.
-std::size_t Moved(std::size_t place, const std::vector<Shift>& shifts) {
-  std::size_t moved = place;
-  for (const Shift& shift : shifts) {
-    if (shift.place <= place) moved += shift.size;
-  }
-  return moved;
+/// Where what ended at a place ends now: before the texts that were put in there.
+std::size_t MovedEnd(std::size_t place, const Shifts& shifts) {
+  const auto next = std::ranges::lower_bound(shifts, place, {}, &Shift::place);
+  return next == shifts.begin() ? place : place + std::prev(next)->size;
 }
 
-std::vector<EmphasisRun> Moved(std::vector<EmphasisRun> runs, const std::vector<Shift>& shifts) {
-  if (shifts.empty()) return runs;
+/// Where what began at a place begins now: behind them.
+std::size_t MovedBegin(std::size_t place, const Shifts& shifts) {
+  const auto next = std::ranges::upper_bound(shifts, place, {}, &Shift::place);
+  return next == shifts.begin() ? place : place + std::prev(next)->size;
+}
+
+void MoveEmphasis(std::vector<EmphasisRun>& runs, const Shifts& shifts) {
   for (EmphasisRun& run : runs) {
-    run.begin = Moved(run.begin, shifts);
-    run.end = Moved(run.end, shifts);
+    run.begin = MovedBegin(run.begin, shifts);
+    run.end = MovedEnd(run.end, shifts);
   }
-  return runs;
 }
 
 /// Replaces each object of one kind by a text; the others move along.
 template <class TextOf>
-std::vector<Shift> FillPlaces(WordText& text, WordObjectKind kind, const TextOf& textOf) {
+Shifts FillPlaces(WordText& text, WordObjectKind kind, const TextOf& textOf) {
   const std::u16string_view characters = text.characters;
   WordText filled;
-  std::vector<Shift> shifts;
+  Shifts shifts;
   std::size_t from = 0;
   for (const WordObject& object : text.objects) {
     const std::size_t place = std::min(object.position, characters.size());
@@ -73,14 +76,15 @@ std::vector<Shift> FillPlaces(WordText& text, WordObjectKind kind, const TextOf&
     if (object.kind == kind) {
       const std::u16string put(textOf(object));
       filled.characters += put;
-      shifts.push_back({place, put.size()});
+      shifts.push_back({place, put.size() + (shifts.empty() ? 0 : shifts.back().size)});
     } else {
       filled.objects.push_back(object);
       filled.objects.back().position = filled.characters.size();
     }
   }
   filled.characters += characters.substr(from);
-  filled.emphasis = Moved(std::move(text.emphasis), shifts);
+  filled.emphasis = std::move(text.emphasis);
+  MoveEmphasis(filled.emphasis, shifts);
   text = std::move(filled);
   return shifts;
 }
@@ -97,12 +101,13 @@ bool WriteNewFile(const fs::path& file, const std::string& bytes) {
   return !out.fail();
 }
 
-/// The same in a whole document.
+/// The same in a whole document. An object at the place of a table follows it: the text before a table ends
+/// with its line.
 template <class TextOf>
 void FillDocument(WordContent& document, WordObjectKind kind, const TextOf& textOf) {
-  const std::vector<Shift> shifts = FillPlaces(document.runningText, kind, textOf);
+  const Shifts shifts = FillPlaces(document.runningText, kind, textOf);
   for (WordTable& table : document.tables) {
-    table.position = Moved(table.position, shifts);
+    table.position = MovedEnd(table.position, shifts);
     for (auto& row : table.rows) {
       for (WordText& cell : row) FillPlaces(cell, kind, textOf);
     }

@@ -31,10 +31,11 @@ class PaperMaking {
     const std::size_t begin = source.characters.size();
     source.characters += span.Of(text.characters);
     source.emphasis.resize(source.characters.size(), 0);
-    for (const EmphasisRun& run : text.emphasis) {
-      const std::size_t last = std::min(run.end, span.end);
-      for (std::size_t at = std::max(run.begin, span.begin); at < last; ++at)
-        source.emphasis[begin + at - span.begin] = run.kinds;
+    auto run = std::ranges::upper_bound(text.emphasis, span.begin, {}, &EmphasisRun::end);
+    for (; run != text.emphasis.end() && run->begin < span.end; ++run) {
+      const std::size_t last = std::min(run->end, span.end);
+      for (std::size_t at = std::max(run->begin, span.begin); at < last; ++at)
+        source.emphasis[begin + at - span.begin] = run->kinds;
     }
   }
 
