@@ -16,8 +16,9 @@ constexpr PreparationStep kSteps[] = {
     {u"Unnumbered", step::Unnumbered},       {u"PlainOptions", step::PlainOptions},
     {u"KeyAtEnd", step::KeyAtEnd},           {u"SignedKey", step::SignedKey},
     {u"EmphasisedKey", step::EmphasisedKey}, {u"KeyInStem", step::KeyInStem},
-    {u"KeyLetters", step::KeyLetters},       {u"Judgement", step::Judgement},
-    {u"BlankForms", step::BlankForms},       {u"OpenAnswers", step::OpenAnswers},
+    {u"Passages", step::Passages},           {u"KeyLetters", step::KeyLetters},
+    {u"Judgement", step::Judgement},         {u"BlankForms", step::BlankForms},
+    {u"OpenAnswers", step::OpenAnswers},
 };
 
 bool IsNamed(const ImportSettings& rules, std::u16string_view step) {

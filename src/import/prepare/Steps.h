@@ -61,6 +61,9 @@ void Judgement(PaperText& text, const PreparationContext& context);
 /// Blanks of all kinds in questions without options become "___".
 void BlankForms(PaperText& text, const PreparationContext& context);
 
+/// A text to read, between two questions, that the second one is about: it becomes the beginning of that question.
+void Passages(PaperText& text, const PreparationContext& context);
+
 /// Questions without an answer get an empty one, since the reading of papers leaves out those that have none.
 void OpenAnswers(PaperText& text, const PreparationContext& context);
 
