@@ -41,8 +41,8 @@ std::optional<OptionSequence> FindOptions(std::u16string_view text, TextSpan wit
 /// All runs of labels within the span, whatever their alphabet, the best first.
 std::vector<OptionSequence> FindOptionRuns(std::u16string_view text, TextSpan within);
 
-/// What can end a label, and what can begin one.
-inline constexpr std::u16string_view kLabelCloses = u".)）．、:：]】,，-–—>｡。〉》";
-inline constexpr std::u16string_view kLabelOpens = u"(（[【〈《<";
+/// What can end a label, and what can begin one. The last of each are those of prepared labels.
+inline constexpr std::u16string_view kLabelCloses = u".)）．、:：]】,，-–—>｡。〉》\u27E7";
+inline constexpr std::u16string_view kLabelOpens = u"(（[【〈《<\u27E6";
 
 }  // namespace quorvantis

@@ -5,26 +5,13 @@
 #include "import/labels/Numerals.h"
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/PreparedLabels.h"
+#include "import/prepare/RuleMatches.h"
 
 #include <algorithm>
 #include <string>
 
 namespace quorvantis {
 namespace {
-
-/// All matches of a rule, one after the other. An empty match is no place of anything.
-std::vector<TextSpan> MatchesOf(const RuleSearch& rule, std::u16string_view text, TextSpan within) {
-  std::vector<TextSpan> found;
-  const std::u16string_view part = text.substr(0, within.end);
-  for (std::size_t from = within.begin; from < within.end;) {
-    const auto match = rule.Find(part, from);
-    if (!match) break;
-    const MatchSpan span(*match);
-    if (span.Size() > 0) found.push_back({span.begin, span.end});
-    from = std::max(span.end, from + 1);
-  }
-  return found;
-}
 
 /// The number in a label: "第3题" is 3.
 int NumberIn(std::u16string_view label) {
@@ -68,17 +55,15 @@ class Outlining {
   void FindAnswerSection() {
     end_ = text_.size();
     outline_.answerSection = {end_, end_};
-    if (rules_.m_strPreAllAnswer.empty()) return;
-    const RuleSearch heading(rule_key::kPreAllAnswer, rules_.m_strPreAllAnswer, isCancelled_);
-    const std::vector<TextSpan> found = MatchesOf(heading, text_, {0, text_.size()});
+    const std::vector<TextSpan> found =
+        MatchesOf(rule_key::kPreAllAnswer, rules_.m_strPreAllAnswer, text_, {0, text_.size()}, isCancelled_);
     if (found.empty()) return;
     end_ = found.front().begin;
     outline_.answerSection = {end_, text_.size()};
   }
 
   std::vector<TextSpan> Matches(std::u16string_view key, const std::u16string& pattern) const {
-    if (pattern.empty()) return {};
-    return MatchesOf(RuleSearch(key, pattern, isCancelled_), text_, {0, end_});
+    return MatchesOf(key, pattern, text_, {0, end_}, isCancelled_);
   }
 
   /// Of labels that overlap the first counts.
