@@ -18,11 +18,12 @@ constexpr std::u16string_view kSoftBreaks = u"SoftBreaks";
 constexpr std::u16string_view kTableOptions = u"TableOptions";
 constexpr std::u16string_view kUnnumbered = u"Unnumbered";
 constexpr std::u16string_view kPlainOptions = u"PlainOptions";
+constexpr std::u16string_view kMixedLetters = u"MixedLetters";
 constexpr std::u16string_view kNoise = u"Noise";
 constexpr std::u16string_view kOpenAnswers = u"OpenAnswers";
 
 /// Steps whose work makes no reading better by itself, but is right wherever they find something to do.
-constexpr std::u16string_view kHarmless[] = {u"BlankForms", u"MixedLetters", kNoise};
+constexpr std::u16string_view kHarmless[] = {u"BlankForms", kNoise};
 
 bool HasSoftBreaks(const Paper& paper) {
   return std::ranges::count(paper.source.characters, u'\v') > 1;
@@ -56,12 +57,12 @@ bool Covers(const NumberFamily& family, const TextSpan& mark) {
 TriedLayout LayoutSearch::Search() {
   Steps lines;
   if (HasSoftBreaks(paper_)) lines.emplace(kSoftBreaks);
+  lines.emplace(kMixedLetters);
   TryNumbers(lines);
   if (!paper_.tables.empty()) {
     lines.emplace(kTableOptions);
     TryNumbers(lines);
   }
-  TryKeyBeforeNumber();
   TryAnswerLabels();
   TryHeadings();
   TrySteps();
@@ -176,14 +177,6 @@ void LayoutSearch::TryPlainOptions(const RuleDraft& draft) {
   RuleDraft plain = draft;
   plain.steps.emplace(kPlainOptions);
   Try(std::move(plain));
-}
-
-void LayoutSearch::TryKeyBeforeNumber() {
-  if (best_.draft.numbers.empty()) return;
-  RuleDraft draft = best_.draft;
-  draft.keyBeforeNumber = true;
-  draft.steps.emplace(u"KeyInStem");
-  Try(std::move(draft));
 }
 
 void LayoutSearch::TryAnswerLabels() {

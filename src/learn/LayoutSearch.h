@@ -46,7 +46,6 @@ class LayoutSearch {
   void TryLabels(const std::set<std::u16string>& labels, bool withinLines);
   void TryHeadings();
   void TryMarkedHeadings();
-  void TryKeyBeforeNumber();
   void TrySteps();
   bool TryBestStep();
   void Simplify();

@@ -34,7 +34,9 @@ class LabelReading {
       : text_(text.substr(0, line.end)), begin_(SkipBlanks(text, line.begin, line.end)) {}
 
   std::vector<NumberLabel> Labels() {
+    const std::size_t lineBegin = begin_;
     begin_ = AfterKey(begin_);
+    isAfterKey_ = begin_ > lineBegin;
     Read({}, begin_);
     // Words in front of the number, as few as possible.
     constexpr std::size_t kLongestPrefix = 24;
@@ -59,13 +61,28 @@ class LabelReading {
  private:
   /// Where the label begins if the letter of the answer stands in brackets before it: "(B) 1."
   std::size_t AfterKey(std::size_t at) const {
+    const std::size_t end = std::max(AfterBrackets(at), AfterLine(at));
+    const std::size_t next = SkipBlanks(text_, end, text_.size());
+    return end > at && IsNumberHere(next) ? next : at;
+  }
+
+  /// Behind "(B)" or "( )"; `at` if there is none.
+  std::size_t AfterBrackets(std::size_t at) const {
     if (at >= text_.size() || !Holds(u"(（[", text_[at])) return at;
     std::size_t end = SkipBlanks(text_, at + 1, text_.size());
-    if (end < text_.size() && ((text_[end] | 0x20) >= u'a' && (text_[end] | 0x20) <= u'j')) ++end;
+    if (end < text_.size() && Holds(u"ABCDEFGHIJabcdefghijTt√×", text_[end])) ++end;
     end = SkipBlanks(text_, end, text_.size());
-    if (end >= text_.size() || !Holds(u")）]", text_[end])) return at;
-    const std::size_t next = SkipBlanks(text_, end + 1, text_.size());
-    return IsNumberHere(next) ? next : at;
+    return end < text_.size() && Holds(u")）]", text_[end]) ? end + 1 : at;
+  }
+
+  /// Behind "___" or "__B__"; `at` if there is none.
+  std::size_t AfterLine(std::size_t at) const {
+    std::size_t end = at;
+    while (end < text_.size() && text_[end] == u'_') ++end;
+    if (end < at + 2) return at;
+    if (end < text_.size() && (text_[end] | 0x20) >= u'a' && (text_[end] | 0x20) <= u'z') ++end;
+    while (end < text_.size() && text_[end] == u'_') ++end;
+    return end;
   }
 
   bool IsNumberHere(std::size_t at) const {
@@ -81,6 +98,7 @@ class LabelReading {
   void Read(const std::u16string& prefix, std::size_t at) {
     NumberLabel label;
     label.prefix = prefix;
+    label.isAfterKey = isAfterKey_;
     std::size_t place = at;
     if (place < text_.size() && Holds(kOpens, text_[place])) label.open = text_[place++];
     place = SkipBlanks(text_, place, text_.size());
@@ -120,6 +138,7 @@ class LabelReading {
 
   std::u16string_view text_;
   std::size_t begin_;
+  bool isAfterKey_ = false;
   std::vector<NumberLabel> labels_;
 };
 
@@ -173,6 +192,7 @@ std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
       if (label.open != 0) family.opens.insert(label.open);
       family.kind = label.kind;
       family.isSpaced = label.isSpaced;
+      family.isAfterKeys = family.isAfterKeys || label.isAfterKey;
       family.closes.insert(label.close);
       family.labels.push_back(std::move(label));
     }
@@ -186,10 +206,12 @@ std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
   return found;
 }
 
-std::u16string NumberFamily::Pattern(bool keyBefore) const {
+std::u16string NumberFamily::Pattern() const {
   // A "!" before the label stays apart from the marker, which is made of "!".
   std::u16string pattern = u"(?<!!)\\s*^[ \\t\u00A0\u3000]*";
-  if (keyBefore) pattern += u"(?:[(（\\[][ \\t\u3000]*[A-Ja-j]?[ \\t\u3000]*[)）\\]][ \\t\u3000]*)?";
+  if (isAfterKeys)
+    pattern +=
+        u"(?:(?:[(（\\[][ \\t\u3000]*[A-Ja-jTt√×]?[ \\t\u3000]*[)）\\]]|_{2,}[A-Za-z]?_*)[ \\t\u3000]*)?";
   if (!prefix.empty()) pattern += u"(?i:" + LiteralPattern(prefix) + u")[ \\t\u00A0\u3000]*";
   if (isBracketed) pattern += ClassPattern(opens) + u"[ \\t\u3000]*";
   pattern += NumeralPattern(kind);

@@ -18,8 +18,9 @@ struct NumberLabel {
   std::u16string prefix{};  ///< the words before the number, without blanks at their end
   char16_t open = 0;        ///< a bracket before the number, or 0
   NumeralKind kind = NumeralKind::Decimal;
-  std::u16string close{};  ///< what follows the number directly; may be empty after a prefix or bracket
-  bool isSpaced = false;   ///< nothing but a blank follows the number
+  std::u16string close{};   ///< what follows the number directly; may be empty after a prefix or bracket
+  bool isSpaced = false;    ///< nothing but a blank follows the number
+  bool isAfterKey = false;  ///< a letter in brackets, or a blank for it, stands before it: "(B) 1."
 };
 
 /// Labels that are written alike, and what pattern finds them.
@@ -30,13 +31,13 @@ struct NumberFamily {
   NumeralKind kind = NumeralKind::Decimal;
   std::set<std::u16string> closes{};
   bool isSpaced = false;
+  bool isAfterKeys = false;           ///< letters in brackets, or blanks for them, stand before some labels
   std::vector<NumberLabel> labels{};  ///< in the order of the text
   double rising = 0;  ///< share of the labels whose number follows on the one before, or begins anew
   int restarts = 0;   ///< how often the numbers begin anew
 
-  /// A pattern for "PreQuestion". `keyBefore`: the letter of the answer, in brackets, may stand before the
-  /// number.
-  std::u16string Pattern(bool keyBefore) const;
+  /// A pattern for "PreQuestion".
+  std::u16string Pattern() const;
 
   /// "1.", "Question 12:", for telling users.
   std::u16string Example(std::u16string_view text) const;

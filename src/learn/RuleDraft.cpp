@@ -17,7 +17,7 @@ constexpr std::size_t kLongestRule = 1'023;
 
 std::u16string PreQuestion(const RuleDraft& draft) {
   if (draft.numbers.empty()) return u"\\s*^" + std::u16string(kPreparedNumberPattern) + u"[ ]*";
-  return draft.numbers.front().Pattern(draft.keyBeforeNumber);
+  return draft.numbers.front().Pattern();
 }
 
 std::u16string PreAnswer(const RuleDraft& draft) {
@@ -62,7 +62,7 @@ std::u16string Title(const RuleDraft& draft) {
 ImportSettings RulesOf(const RuleDraft& draft) {
   ImportSettings rules;
   rules.m_strPreQuestion = PreQuestion(draft);
-  if (draft.numbers.size() > 1) rules.m_strPreParenQuestion = draft.numbers[1].Pattern(draft.keyBeforeNumber);
+  if (draft.numbers.size() > 1) rules.m_strPreParenQuestion = draft.numbers[1].Pattern();
   rules.m_strPreAnswer = PreAnswer(draft);
   rules.m_strPattern = Pattern(draft);
   rules.m_strTitle = Title(draft);

@@ -15,7 +15,6 @@ namespace quorvantis {
 /// A layout, as far as it has been worked out; becomes rules.
 struct RuleDraft {
   std::vector<NumberFamily> numbers{};  ///< none: questions get their numbers from a step
-  bool keyBeforeNumber = false;
   OptionFamily options{};
   bool optionsAtLineStarts = true;
   std::set<std::u16string> answerLabels{};        ///< as they are written, "Answer:"
