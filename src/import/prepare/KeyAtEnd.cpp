@@ -1,8 +1,78 @@
 // SPDX-License-Identifier: MIT
+#include "import/labels/LineText.h"
+#include "import/prepare/FoldedText.h"
+#include "import/prepare/JudgementWords.h"
+#include "import/prepare/KeyReports.h"
+#include "import/prepare/KeySection.h"
+#include "import/prepare/OptionKey.h"
+#include "import/prepare/QuestionKey.h"
 #include "import/prepare/Steps.h"
 
-namespace quorvantis {
+#include <algorithm>
 
-void step::KeyAtEnd(PaperText& /*text*/, const PreparationContext& /*context*/) {}
+namespace quorvantis {
+namespace {
+
+/// The answer to put at a question: capital letters where it names options, else the text as it is.
+PaperText AnswerOf(const PaperText& text, const KeyEntry& entry, const OutlinedQuestion& question) {
+  if (question.HasOptions()) {
+    const OptionKey key = ReadOptionKey(text.characters, *question.options, entry.answer.Of(text.characters));
+    if (key.IsClear()) return KeyAnswer(text, entry.answer, *question.options, key);
+  }
+  return text.Part(entry.answer);
+}
+
+/// Whether two answers say the same.
+bool SayTheSame(std::u16string_view text, const OutlinedQuestion& question, std::u16string_view own,
+                std::u16string_view atEnd) {
+  if (question.HasOptions()) {
+    const OptionKey ownKey = ReadOptionKey(text, *question.options, own);
+    const OptionKey otherKey = ReadOptionKey(text, *question.options, atEnd);
+    return ownKey.IsClear() && ownKey.options == otherKey.options;
+  }
+  const std::vector<JudgementWord> ownWords = JudgementWordsAt(own);
+  const std::vector<JudgementWord> otherWords = JudgementWordsAt(atEnd);
+  if (!ownWords.empty() && !otherWords.empty()) return ownWords.front().isRight == otherWords.front().isRight;
+  return FoldedCore(own) == FoldedCore(atEnd);
+}
+
+}  // namespace
+
+void step::KeyAtEnd(PaperText& text, const PreparationContext& context) {
+  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const std::optional<KeySection> section = FindKeySection(text.characters, outline).section;
+  if (!section) return;
+  std::vector<PaperEdit> edits;
+  for (const MatchedEntry& matched : section->entries) {
+    const OutlinedQuestion& question = section->questions[matched.question];
+    if (!IsUnanswered(text.characters, question)) continue;
+    edits.push_back(AnswerEdit(text, question, section->begin, AnswerOf(text, matched.entry, question)));
+  }
+  edits.push_back({{section->begin, text.Size()}});
+  ApplyEdits(text, std::move(edits));
+}
+
+std::vector<KeyConflict> KeyConflicts(const Paper& paper, const ImportSettings& rules,
+                                      const CancelHook& isCancelled) {
+  const PaperText text = PreparedBefore(paper, rules, u"KeyAtEnd", isCancelled);
+  const PaperOutline outline = OutlineOf(text, rules, isCancelled);
+  const std::optional<KeySection> section = FindKeySection(text.characters, outline).section;
+  std::vector<KeyConflict> conflicts;
+  if (!section) return conflicts;
+  for (const MatchedEntry& matched : section->entries) {
+    const OutlinedQuestion& question = section->questions[matched.question];
+    if (IsUnanswered(text.characters, question)) continue;
+    const std::u16string_view own = question.answer.Of(text.characters);
+    const std::u16string_view atEnd = matched.entry.answer.Of(text.characters);
+    if (SayTheSame(text.characters, question, own, atEnd)) continue;
+    conflicts.push_back({matched.question, question.number, std::u16string(own), std::u16string(atEnd)});
+  }
+  return conflicts;
+}
+
+bool HasUnmatchedKey(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled) {
+  const PaperText text = PreparedBefore(paper, rules, u"KeyAtEnd", isCancelled);
+  return FindKeySection(text.characters, OutlineOf(text, rules, isCancelled)).isUnmatched;
+}
 
 }  // namespace quorvantis

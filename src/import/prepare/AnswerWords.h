@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// The words for "answer", "key", "option" and "correct" in the languages of papers.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace quorvantis {
+
+/// How much a line looks like the heading of the answers at the end of a paper.
+enum class AnswerHeading {
+  None,
+  Possible,  ///< has such a word among a few others: "Answers for the biology test"
+  Clear,     ///< says nothing else: "ANSWER KEY:", "参考答案"
+};
+
+AnswerHeading AnswerHeadingOf(std::u16string_view line);
+
+/// Whether a line is, or begins with, the title of a part: "Part B", "二、填空题", "Section 2: essays".
+bool IsPartTitle(std::u16string_view line);
+
+/// How many units at the begin of an answer only lead to it: "Option B", "The answer is B", "答案：B".
+std::size_t AnswerLeadSize(std::u16string_view text);
+
+/// Whether the text, without brackets around it, is a word for "correct".
+bool IsWordForCorrect(std::u16string_view text);
+
+/// The size of a word for "and" that the text begins with, 0 for none.
+std::size_t AndWordSize(std::u16string_view text);
+
+/// The index that a word like "second" or "第二个" names, without words around it; -1 for none.
+int OrdinalIndex(std::u16string_view text);
+
+}  // namespace quorvantis

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "import/prepare/KeyReader.h"
+
+#include "import/labels/LineText.h"
+#include "import/labels/OptionAlphabets.h"
+#include "import/prepare/AnswerWords.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+/// The cells of a row: by tabs if it has any, else by blanks and bars.
+std::vector<TextSpan> CellsOf(std::u16string_view text, TextSpan line, bool hasTabs) {
+  const std::u16string_view separators = hasTabs ? u"\t" : u" \u00A0\u3000|";
+  std::vector<TextSpan> cells;
+  std::size_t begin = line.begin;
+  for (std::size_t at = line.begin; at <= line.end; ++at) {
+    if (at < line.end && separators.find(text[at]) == separators.npos) continue;
+    const TextSpan cell = Trimmed(text, {begin, at});
+    if (hasTabs || !cell.IsEmpty()) cells.push_back(cell);
+    begin = at + 1;
+  }
+  return cells;
+}
+
+/// The number that a cell consists of, "3" or "3."; 0 if it is anything else.
+int NumberOfCell(std::u16string_view text, TextSpan cell) {
+  const auto number = KeyNumberAt(text, cell.begin, cell.end);
+  return number && number->place.end == cell.end ? number->value : 0;
+}
+
+/// Texts of several answers in one line: "11. oxygen  12. water".
+std::vector<KeyEntry> TextEntriesOfLine(std::u16string_view text, TextSpan line) {
+  std::vector<KeyEntry> entries;
+  const TextSpan trimmed = Trimmed(text, line);
+  auto number = KeyNumberAt(text, trimmed.begin, trimmed.end);
+  if (!number || !number->isSetOff) return {};
+  std::size_t begin = number->place.end;
+  for (std::size_t at = begin; at < trimmed.end; ++at) {
+    if (!IsBlank(text[at])) continue;
+    const std::size_t next = SkipBlanks(text, at, trimmed.end);
+    const auto following = KeyNumberAt(text, next, trimmed.end);
+    if (following && following->isSetOff && following->value == number->value + 1) {
+      entries.push_back({number->value, Trimmed(text, {begin, at}), false});
+      number = following;
+      begin = following->place.end;
+      at = begin;
+    }
+    at = std::max(at, next) - 1;
+  }
+  entries.push_back({number->value, Trimmed(text, {begin, trimmed.end}), false});
+  return entries;
+}
+
+/// Puts the entries of lines together.
+class KeyListReading {
+ public:
+  KeyListReading(std::u16string_view text, TextSpan within) : text_(text), within_(within), lines_(text) {}
+
+  KeyList List() {
+    for (const TextSpan& line : LinesOf(text_, within_)) {
+      Add(line);
+      if (list_.unread > kMostUnread + list_.entries.size()) break;
+    }
+    return std::move(list_);
+  }
+
+ private:
+  static constexpr std::size_t kMostUnread = 8;
+
+  void Add(TextSpan line) {
+    const KeyLineReading reading = lines_.Read(line);
+    std::vector<KeyEntry> entries = reading.entries;
+    if (reading.kind == KeyLineKind::Text) entries = TextEntriesOfLine(text_, line);
+    if (!entries.empty()) {
+      list_.entries.insert(list_.entries.end(), entries.begin(), entries.end());
+      isOpen_ = true;
+    } else if (reading.kind == KeyLineKind::Title) {
+      isOpen_ = false;
+    } else if (reading.kind == KeyLineKind::Text) {
+      if (!isOpen_) {
+        ++list_.unread;
+      } else if (!list_.entries.back().isLetters) {
+        // Behind letters, lines explain; behind a text, they go on with it.
+        list_.entries.back().answer.end = Trimmed(text_, line).end;
+      }
+    }
+  }
+
+  std::u16string_view text_;
+  TextSpan within_;
+  KeyLineReader lines_;
+  KeyList list_;
+  bool isOpen_ = false;  ///< the last entry may go on
+};
+
+}  // namespace
+
+KeyLineReading KeyLineReader::Read(TextSpan line) {
+  const TextSpan trimmed = Trimmed(text_, line);
+  if (trimmed.IsEmpty()) return {KeyLineKind::Blank};
+  if (!numbers_.empty()) {
+    std::vector<KeyEntry> entries = AnswerRow(line);
+    numbers_.clear();
+    if (!entries.empty()) return {KeyLineKind::AnswerRow, std::move(entries)};
+  }
+  if (std::vector<KeyEntry> entries = EntriesOfLine(text_, line); !entries.empty())
+    return {KeyLineKind::Entries, std::move(entries)};
+  if (ReadNumberRow(line)) return {KeyLineKind::NumberRow};
+  const std::u16string_view title = trimmed.Of(text_);
+  const bool isTitle = IsPartTitle(title) || AnswerHeadingOf(title) == AnswerHeading::Clear;
+  return {isTitle ? KeyLineKind::Title : KeyLineKind::Text};
+}
+
+bool KeyLineReader::ReadNumberRow(TextSpan line) {
+  hasTabs_ = line.Of(text_).find(u'\t') != std::u16string_view::npos;
+  const std::vector<TextSpan> cells = CellsOf(text_, line, hasTabs_);
+  std::vector<int> numbers;
+  int last = 0;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const int number = NumberOfCell(text_, cells[i]);
+    const bool isLabel = i == 0 && number == 0;
+    if (!isLabel && !cells[i].IsEmpty() && number <= last) return false;
+    last = std::max(last, number);
+    numbers.push_back(number);
+  }
+  if (std::ranges::count_if(numbers, [](int number) { return number > 0; }) < 2) return false;
+  numbers_ = std::move(numbers);
+  return true;
+}
+
+std::vector<KeyEntry> KeyLineReader::AnswerRow(TextSpan line) const {
+  std::vector<TextSpan> cells = CellsOf(text_, line, hasTabs_);
+  const bool hasLabel = numbers_.front() == 0;
+  if (!hasTabs_ && cells.size() != numbers_.size()) return {};
+  if (cells.size() > numbers_.size()) return {};
+  std::vector<KeyEntry> entries;
+  for (std::size_t i = hasLabel ? 1 : 0; i < cells.size(); ++i) {
+    if (cells[i].IsEmpty()) continue;
+    const bool isLetters = KeyTokenSize(text_, cells[i].begin, cells[i].end) == cells[i].Size();
+    if (numbers_[i] == 0 || (!isLetters && !hasTabs_)) return {};
+    entries.push_back({numbers_[i], cells[i], isLetters});
+  }
+  return entries;
+}
+
+KeyList ReadKeyList(std::u16string_view text, TextSpan within) {
+  return KeyListReading(text, within).List();
+}
+
+std::vector<KeyEntry> ReadBareKey(std::u16string_view text, TextSpan within) {
+  std::vector<KeyEntry> entries;
+  for (std::size_t at = within.begin; at < within.end; ++at) {
+    const char16_t unit = text[at];
+    if (IsBlank(unit) || IsLineEnd(unit) ||
+        std::u16string_view(u",，;；、|/").find(unit) != std::u16string_view::npos)
+      continue;
+    const bool isDigit = unit < 0x80 && (unit < u'A' || unit > u'z');
+    if (AlphabetLettersOf(unit).empty() || isDigit) return {};
+    entries.push_back({0, {at, at + 1}, true});
+  }
+  return entries;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// Reads the answers at the end of a paper, line by line.
+#pragma once
+
+#include "import/prepare/KeyTokens.h"
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// What a line of a key at the end can be.
+enum class KeyLineKind {
+  Blank,
+  Entries,    ///< numbers with answers
+  NumberRow,  ///< numbers alone; the answers stand in the row below
+  AnswerRow,  ///< those answers
+  Title,      ///< of a part, or a heading
+  Text,       ///< anything else
+};
+
+/// A line of a key, and the answers in it.
+struct KeyLineReading {
+  KeyLineKind kind = KeyLineKind::Text;
+  std::vector<KeyEntry> entries{};
+};
+
+/// Reads one line after the other; a row of numbers makes the next line a row of answers.
+class KeyLineReader {
+ public:
+  explicit KeyLineReader(std::u16string_view text) : text_(text) {}
+
+  KeyLineReading Read(TextSpan line);
+
+ private:
+  bool ReadNumberRow(TextSpan line);
+  std::vector<KeyEntry> AnswerRow(TextSpan line) const;
+
+  std::u16string_view text_;
+  std::vector<int> numbers_;  ///< of a row, 0 for a cell without; empty if the line before was no such row
+  bool hasTabs_ = false;
+};
+
+/// All that a part of a paper says as a key.
+struct KeyList {
+  std::vector<KeyEntry> entries{};
+  std::size_t unread = 0;  ///< lines that belong to no answer
+};
+
+/// Reads a key with answers in words, too: "11. photosynthesis". Lines without a number go on with the text
+/// of the entry before. Gives up, with what it has, on a text that is no key.
+KeyList ReadKeyList(std::u16string_view text, TextSpan within);
+
+/// The answers of a key that has no numbers, "BCADB", in their order; empty if there is anything else.
+std::vector<KeyEntry> ReadBareKey(std::u16string_view text, TextSpan within);
+
+}  // namespace quorvantis

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "import/prepare/KeySection.h"
+
+#include "import/labels/LineText.h"
+#include "import/prepare/AnswerWords.h"
+#include "import/prepare/KeyMatching.h"
+#include "import/prepare/KeyReader.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+/// A heading that answers may follow.
+struct HeadingPlace {
+  std::size_t begin = 0;  ///< of its line
+  std::size_t end = 0;    ///< where the answers may begin
+  AnswerHeading heading = AnswerHeading::None;
+};
+
+/// The questions that begin before a place, as if the text ended there.
+std::vector<OutlinedQuestion> QuestionsBefore(std::u16string_view text, const PaperOutline& outline,
+                                              std::size_t end) {
+  std::vector<OutlinedQuestion> questions;
+  for (const OutlinedQuestion& outlined : outline.questions) {
+    if (outlined.label.begin >= end) break;
+    OutlinedQuestion& question = questions.emplace_back(outlined);
+    question.whole.end = std::min(question.whole.end, end);
+    if (question.answerLabel.end > end) question.answerLabel = {end, end};
+    if (question.answer.end > end)
+      question.answer = Trimmed(text, {std::min(question.answer.begin, end), end});
+    if (outlined.whole.end > end && outlined.HasOptions())
+      question.options = FindOptions(text, {question.label.end, std::min(end, question.answerLabel.begin)});
+  }
+  return questions;
+}
+
+/// Searches the headings from the top of a paper, then its tail.
+class KeySectionSearch {
+ public:
+  KeySectionSearch(std::u16string_view text, const PaperOutline& outline)
+      : text_(text), outline_(outline), lines_(LinesOf(text, {0, text.size()})) {}
+
+  KeySearchResult Search() {
+    KeySearchResult result;
+    for (const HeadingPlace& heading : Headings()) {
+      if ((result.section = SectionAt(heading))) return result;
+    }
+    result.section = Tail();
+    result.isUnmatched = !result.section && hasSeenKey_;
+    return result;
+  }
+
+ private:
+  std::vector<HeadingPlace> Headings() const {
+    constexpr std::size_t kMostHeadings = 12;
+    std::vector<HeadingPlace> headings;
+    if (!outline_.answerSection.IsEmpty()) {
+      const std::size_t begin = Trimmed(text_, outline_.answerSection).begin;
+      headings.push_back({begin, LineEndAfter(text_, begin), AnswerHeading::Clear});
+      headings.push_back({begin, begin, AnswerHeading::Clear});
+    }
+    if (outline_.questions.empty()) return headings;
+    for (std::size_t i = 0; i < lines_.size() && headings.size() < kMostHeadings; ++i) {
+      if (lines_[i].end <= outline_.questions.front().label.end) continue;
+      const HeadingPlace heading = HeadingOf(lines_[i]);
+      if (heading.heading != AnswerHeading::None && IsKeyBehind(i, heading)) headings.push_back(heading);
+    }
+    return headings;
+  }
+
+  /// A line that is a heading, or begins with one: "Answers: 1-5 ABCDA".
+  HeadingPlace HeadingOf(TextSpan line) const {
+    constexpr std::size_t kLongest = 80;
+    const TextSpan trimmed = Trimmed(text_, line);
+    const std::u16string_view whole = trimmed.Of(text_);
+    if (whole.size() <= kLongest) {
+      const AnswerHeading heading = AnswerHeadingOf(whole);
+      if (heading == AnswerHeading::Clear) return {trimmed.begin, trimmed.end, heading};
+      const bool isOwnAnswer = whole.find_first_of(u":：=") != whole.npos || HasOwnAnswer(trimmed);
+      if (heading == AnswerHeading::Possible && !isOwnAnswer && EntriesOfLine(text_, line).empty())
+        return {trimmed.begin, trimmed.end, heading};
+    }
+    const std::size_t colon = whole.substr(0, kLongest).find_first_of(u":： \t1１");
+    if (colon == whole.npos) return {};
+    if (AnswerHeadingOf(whole.substr(0, colon)) != AnswerHeading::Clear) return {};
+    const std::size_t begin = trimmed.begin + colon + (whole[colon] == u'1' || whole[colon] == u'１' ? 0 : 1);
+    if (EntriesOfLine(text_, {begin, trimmed.end}).empty()) return {};
+    return {trimmed.begin, begin, AnswerHeading::Clear};
+  }
+
+  /// Whether a rule has found a question's own answer in the line.
+  bool HasOwnAnswer(TextSpan line) const {
+    const auto after =
+        std::ranges::upper_bound(outline_.questions, line.begin, {},
+                                 [](const OutlinedQuestion& question) { return question.label.begin; });
+    return after != outline_.questions.begin() && std::prev(after)->answer.Overlaps(line);
+  }
+
+  /// Whether the first lines behind a heading look like a key; saves reading to the end each time.
+  bool IsKeyBehind(std::size_t line, const HeadingPlace& heading) const {
+    constexpr std::size_t kMostLines = 8;
+    if (heading.end < lines_[line].end && !Trimmed(text_, {heading.end, lines_[line].end}).IsEmpty())
+      return true;
+    KeyLineReader reader(text_);
+    for (std::size_t i = line + 1; i < std::min(lines_.size(), line + 1 + kMostLines); ++i) {
+      const KeyLineReading reading = reader.Read(lines_[i]);
+      if (!reading.entries.empty()) return true;
+      if (reading.kind != KeyLineKind::Text) continue;
+      const TextSpan trimmed = Trimmed(text_, lines_[i]);
+      const auto number = KeyNumberAt(text_, trimmed.begin, trimmed.end);
+      return (number && number->isSetOff) || !ReadBareKey(text_, trimmed).empty();
+    }
+    return false;
+  }
+
+  std::optional<KeySection> SectionAt(const HeadingPlace& heading) {
+    const TextSpan rest{heading.end, text_.size()};
+    KeySection section{heading.begin, QuestionsBefore(text_, outline_, heading.begin), {}};
+    std::vector<KeyEntry> entries = ReadBareKey(text_, rest);
+    if (entries.empty()) {
+      KeyList list = ReadKeyList(text_, rest);
+      if (list.unread > 3 + list.entries.size() / 2) return std::nullopt;
+      entries = std::move(list.entries);
+    }
+    if (entries.empty() || AreQuestions(entries)) return std::nullopt;
+    auto matched = MatchEntries(text_, entries, section.questions);
+    if (!matched || !IsCredible(*matched, heading.heading)) {
+      hasSeenKey_ = hasSeenKey_ || std::ranges::all_of(entries, &KeyEntry::isLetters);
+      return std::nullopt;
+    }
+    section.entries = std::move(*matched);
+    return section;
+  }
+
+  /// Behind "Answers to these questions" questions may follow.
+  bool AreQuestions(const std::vector<KeyEntry>& entries) const {
+    const auto isQuestion = [this](const KeyEntry& entry) {
+      const std::u16string_view answer = entry.answer.Of(text_);
+      return !entry.isLetters && !answer.empty() &&
+             std::u16string_view(u"?？؟_:：…").find(answer.back()) != std::u16string_view::npos;
+    };
+    return std::ranges::count_if(entries, isQuestion) * 3 > std::ssize(entries);
+  }
+
+  /// Answers in words need a clear heading, for they may be questions of another part.
+  static bool IsCredible(const std::vector<MatchedEntry>& entries, AnswerHeading heading) {
+    if (heading == AnswerHeading::Clear) return !entries.empty();
+    const auto isLetters = [](const MatchedEntry& entry) { return entry.entry.isLetters; };
+    return entries.size() > 1 && std::ranges::count_if(entries, isLetters) * 2 > std::ssize(entries);
+  }
+
+  /// Without a heading: the last lines, as far as they are nothing but a key.
+  std::optional<KeySection> Tail() {
+    std::vector<KeyLineReading> readings;
+    KeyLineReader reader(text_);
+    for (const TextSpan& line : lines_) readings.push_back(reader.Read(line));
+    const std::size_t first = FirstOfTail(readings);
+    KeySection section;
+    std::vector<KeyEntry> entries;
+    for (std::size_t i = first; i < readings.size(); ++i) {
+      if (!readings[i].entries.empty() && entries.empty())
+        section.begin = lines_[BeginOfTail(readings, first, i)].begin;
+      entries.insert(entries.end(), readings[i].entries.begin(), readings[i].entries.end());
+    }
+    if (entries.size() < 2) return std::nullopt;
+    section.questions = QuestionsBefore(text_, outline_, section.begin);
+    auto matched = MatchEntries(text_, entries, section.questions);
+    if (!matched || !IsCompleteKey(*matched, entries.size(), section.questions)) return std::nullopt;
+    section.entries = std::move(*matched);
+    return section;
+  }
+
+  static std::size_t FirstOfTail(const std::vector<KeyLineReading>& readings) {
+    std::size_t first = readings.size();
+    while (first > 0) {
+      const KeyLineReading& reading = readings[first - 1];
+      const bool isEmptyRow = reading.kind == KeyLineKind::NumberRow &&
+                              (first == readings.size() || readings[first].kind != KeyLineKind::AnswerRow);
+      if (reading.kind == KeyLineKind::Text || isEmptyRow) break;
+      --first;
+    }
+    return first;
+  }
+
+  /// A row of numbers and the title of a part belong to the answers behind them.
+  static std::size_t BeginOfTail(const std::vector<KeyLineReading>& readings, std::size_t first,
+                                 std::size_t line) {
+    while (line > first && (readings[line - 1].kind == KeyLineKind::NumberRow ||
+                            readings[line - 1].kind == KeyLineKind::Title ||
+                            (line - 1 > first && readings[line - 1].kind == KeyLineKind::Blank &&
+                             readings[line - 2].kind == KeyLineKind::Title)))
+      --line;
+    return line;
+  }
+
+  /// Without a heading all answers must fit, and most choice questions have one.
+  bool IsCompleteKey(const std::vector<MatchedEntry>& matched, std::size_t entries,
+                     const std::vector<OutlinedQuestion>& questions) const {
+    const auto choices = std::ranges::count_if(questions, &OutlinedQuestion::HasOptions);
+    std::ptrdiff_t answered = 0;
+    for (const MatchedEntry& entry : matched) {
+      const OutlinedQuestion& question = questions[entry.question];
+      if (!FitsQuestion(text_, entry.entry, question)) return false;
+      if (question.HasOptions()) ++answered;
+    }
+    return matched.size() == entries && choices > 0 && answered * 5 >= choices * 3;
+  }
+
+  std::u16string_view text_;
+  const PaperOutline& outline_;
+  std::vector<TextSpan> lines_;
+  bool hasSeenKey_ = false;
+};
+
+}  // namespace
+
+KeySearchResult FindKeySection(std::u16string_view text, const PaperOutline& outline) {
+  return KeySectionSearch(text, outline).Search();
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: MIT
+#include "import/prepare/KeyTokens.h"
+
+#include "import/labels/LineText.h"
+#include "import/labels/OptionAlphabets.h"
+#include "import/prepare/AnswerWords.h"
+#include "import/prepare/FoldedText.h"
+#include "import/prepare/JudgementWords.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr NumeralKind kKeyNumerals[] = {
+    NumeralKind::Decimal,    NumeralKind::FullWidth, NumeralKind::ArabicIndic, NumeralKind::Persian,
+    NumeralKind::Devanagari, NumeralKind::Bengali,   NumeralKind::Thai,        NumeralKind::Circled,
+    NumeralKind::InBrackets, NumeralKind::WithDot};
+
+/// Folded; what may stand before a number.
+constexpr std::u16string_view kNumberPrefixes[] = {u"question", u"frage", u"aufgabe", u"вопрос", u"задание",
+                                                   u"soal",     u"câu",   u"item",    u"no.",    u"nº",
+                                                   u"n°",       u"№",     u"第",      u"q",      u"#"};
+
+constexpr std::u16string_view kRangeDashes = u"-–—－~～〜―至到";
+constexpr std::u16string_view kAfterNumber = u".．)）]】、:：=>-–—－";
+constexpr std::u16string_view kBetweenEntries = u",，;；、|/。";
+constexpr std::u16string_view kTokenOpens = u"([（【";
+constexpr std::u16string_view kTokenCloses = u")]）】.。．";
+
+bool Among(std::u16string_view units, char16_t unit) {
+  return units.find(unit) != units.npos;
+}
+
+bool IsAsciiDigit(char16_t unit) {
+  return unit >= u'0' && unit <= u'9';
+}
+
+Numeral PlainNumeralAt(std::u16string_view text, std::size_t place) {
+  for (const NumeralKind kind : kKeyNumerals) {
+    const Numeral numeral = NumeralAt(text, place, kind);
+    if (numeral.size > 0) return numeral;
+  }
+  return {};
+}
+
+bool IsDigitLetter(char16_t unit) {
+  return IsAsciiDigit(unit) || (unit >= 0xFF10 && unit <= 0xFF19) || (unit >= 0x0660 && unit <= 0x0669) ||
+         (unit >= 0x06F0 && unit <= 0x06F9);
+}
+
+bool ShareAlphabet(char16_t one, char16_t other) {
+  for (const AlphabetLetter& letter : AlphabetLettersOf(one)) {
+    for (const AlphabetLetter& second : AlphabetLettersOf(other)) {
+      if (letter.alphabet == second.alphabet) return true;
+    }
+  }
+  return false;
+}
+
+/// Reads a line of numbers and answers from left to right.
+class KeyLine {
+ public:
+  KeyLine(std::u16string_view text, TextSpan line) : text_(text.substr(0, line.end)), at_(line.begin) {}
+
+  std::vector<KeyEntry> Entries() {
+    for (SkipBetween(); at_ < text_.size(); SkipBetween()) {
+      if (!TakeRange() && !TakePair()) return {};
+    }
+    return std::move(entries_);
+  }
+
+ private:
+  void SkipBetween() {
+    while (at_ < text_.size() && (IsBlank(text_[at_]) || Among(kBetweenEntries, text_[at_]))) ++at_;
+  }
+
+  char16_t UnitAt(std::size_t at) const { return at < text_.size() ? text_[at] : u'\0'; }
+
+  /// "1-5 ABCDA"
+  bool TakeRange() {
+    std::size_t at = Among(kTokenOpens, UnitAt(at_)) ? at_ + 1 : at_;
+    const Numeral first = PlainNumeralAt(text_, at);
+    if (first.size == 0) return false;
+    at = SkipBlanks(text_, at + first.size, text_.size());
+    if (at >= text_.size() || !Among(kRangeDashes, text_[at])) return false;
+    while (at < text_.size() && Among(kRangeDashes, text_[at])) ++at;
+    at = SkipBlanks(text_, at, text_.size());
+    const Numeral last = PlainNumeralAt(text_, at);
+    constexpr int kLongestRange = 200;
+    if (last.size == 0 || last.value <= first.value || last.value - first.value > kLongestRange) return false;
+    at += last.size;
+    if (at >= text_.size() || (IsLetterOrDigit(text_[at]) && text_[at] != u'题' && !IsRangeBody(at)))
+      return false;
+    while (at < text_.size() && (IsBlank(text_[at]) || Among(kAfterNumber, text_[at]) || text_[at] == u'题'))
+      ++at;
+    return TakeBody(at, first.value, static_cast<std::size_t>(last.value - first.value) + 1);
+  }
+
+  bool IsRangeBody(std::size_t at) const {
+    return !IsDigitLetter(text_[at]) && !AlphabetLettersOf(text_[at]).empty();
+  }
+
+  /// The answers of a range: as many groups as numbers, or as many letters.
+  bool TakeBody(std::size_t begin, int first, std::size_t count) {
+    std::vector<TextSpan> groups;
+    std::size_t at = begin;
+    const bool isDigits = IsDigitLetter(UnitAt(begin));
+    while (at < text_.size()) {
+      if (IsBlank(text_[at]) || Among(kBetweenEntries, text_[at])) {
+        ++at;
+        continue;
+      }
+      std::size_t end = at;
+      while (end < text_.size() && IsDigitLetter(text_[end]) == isDigits && !IsBlank(text_[end]) &&
+             !Among(kBetweenEntries, text_[end]))
+        ++end;
+      if (end == at || (isDigits && !groups.empty() && groups.size() == count)) break;
+      groups.push_back({at, end});
+      at = end;
+      if (isDigits && UnitCount(groups) == count) break;
+    }
+    if (!AddGroups(groups, first, count)) return false;
+    at_ = at;
+    return true;
+  }
+
+  static std::size_t UnitCount(const std::vector<TextSpan>& groups) {
+    std::size_t units = 0;
+    for (const TextSpan& group : groups) units += group.Size();
+    return units;
+  }
+
+  bool AddGroups(const std::vector<TextSpan>& groups, int first, std::size_t count) {
+    std::vector<TextSpan> answers;
+    if (groups.size() == count) {
+      answers = groups;
+    } else if (UnitCount(groups) == count) {
+      for (const TextSpan& group : groups) {
+        for (std::size_t at = group.begin; at < group.end; ++at) answers.push_back({at, at + 1});
+      }
+    }
+    if (answers.empty()) return false;
+    for (const TextSpan& answer : answers) {
+      if (KeyTokenSize(text_.substr(0, answer.end), answer.begin, answer.end) != answer.Size()) return false;
+    }
+    for (const TextSpan& answer : answers) entries_.push_back({first++, answer, true});
+    return true;
+  }
+
+  /// "1. B"
+  bool TakePair() {
+    const auto number = KeyNumberAt(text_, at_, text_.size());
+    if (!number) return false;
+    std::size_t at = number->place.end;
+    while (Among(kTokenOpens, UnitAt(at)) && at < text_.size()) ++at;
+    const std::size_t begin = SkipBlanks(text_, at, text_.size());
+    std::size_t end = begin + KeyTokenSize(text_, begin, text_.size());
+    if (end == begin || (IsDigitLetter(text_[begin]) && !CanBeDigitKey(*number, end))) return false;
+    for (std::size_t next = JoinedEnd(end); next > end; next = JoinedEnd(end)) end = next;
+    entries_.push_back({number->value, {begin, end}, true});
+    at_ = end;
+    while (at_ < text_.size() && (IsBlank(text_[at_]) || Among(kTokenCloses, text_[at_]))) ++at_;
+    return true;
+  }
+
+  /// A digit is an answer if nothing shows it to be the next number.
+  bool CanBeDigitKey(const KeyNumber& number, std::size_t end) const {
+    return number.isSetOff && !Among(u".．)）、:：", UnitAt(end) == 0 ? u' ' : UnitAt(end));
+  }
+
+  /// Where the next letters of the same answer end: "B, D", "B and D". Letters only.
+  std::size_t JoinedEnd(std::size_t end) const {
+    std::size_t at = SkipBlanks(text_, end, text_.size());
+    if (at >= text_.size() || IsDigitLetter(text_[end - 1])) return end;
+    const bool isMark = Among(u",，、/&+", text_[at]);
+    const std::size_t joiner = isMark ? 1 : AndWordSize(text_.substr(at));
+    if (joiner == 0 || (!isMark && at == end)) return end;
+    at = SkipBlanks(text_, at + joiner, text_.size());
+    if (at >= text_.size() || IsDigitLetter(text_[at])) return end;
+    const std::size_t size = KeyTokenSize(text_, at, text_.size());
+    return size == 0 ? end : at + size;
+  }
+
+  std::u16string_view text_;
+  std::size_t at_;
+  std::vector<KeyEntry> entries_;
+};
+
+}  // namespace
+
+std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place, std::size_t end) {
+  const std::u16string_view part = text.substr(0, end);
+  std::size_t at = place;
+  while (at < end && Among(kTokenOpens, part[at])) ++at;
+  const std::u16string folded = Folded(part.substr(at, 12));
+  for (const std::u16string_view prefix : kNumberPrefixes) {
+    if (!folded.starts_with(prefix)) continue;
+    at = SkipBlanks(part, at + prefix.size(), end);
+    break;
+  }
+  const Numeral numeral = PlainNumeralAt(part, at);
+  if (numeral.size == 0) return std::nullopt;
+  std::size_t after = at + numeral.size;
+  const std::size_t bare = after;
+  while (after < end && (Among(kAfterNumber, part[after]) || part[after] == u'题' || part[after] == u'題' ||
+                         IsBlank(part[after])))
+    ++after;
+  const bool isSymbol = numeral.kind >= NumeralKind::Circled;
+  const bool isSetOff = isSymbol || std::ranges::any_of(part.substr(bare, after - bare),
+                                                        [](char16_t unit) { return !IsBlank(unit); });
+  // "3.5 metres" and "20th" begin with no number of a question.
+  if (after < end && IsAsciiDigit(part[after]) && after == bare + 1 && Among(u".．:-", part[bare])) {
+    const bool isSingle = after + 1 == end || !IsLetterOrDigit(part[after + 1]);
+    if (!isSingle) return std::nullopt;
+  }
+  return KeyNumber{numeral.value, {place, after}, isSetOff};
+}
+
+std::size_t KeyTokenSize(std::u16string_view text, std::size_t place, std::size_t end) {
+  constexpr std::size_t kMostLetters = 6;
+  if (place >= end) return 0;
+  const std::u16string_view part = text.substr(place, end - place);
+  const std::vector<JudgementWord> words = JudgementWordsAt(part);
+  if (AlphabetLettersOf(part.front()).empty()) return words.empty() ? 0 : words.front().size;
+  const bool isDigit = IsDigitLetter(part.front());
+  std::size_t size = 1;
+  while (!isDigit && size < part.size() && size < kMostLetters && ShareAlphabet(part.front(), part[size]))
+    ++size;
+  const bool goesOn = size < part.size() && AreInOneWord(part[size - 1], part[size]) &&
+                      (isDigit || !IsAsciiDigit(part[size]));
+  if (!goesOn && (size == 1 || words.empty() || words.front().size <= size)) return size;
+  return words.empty() ? 0 : words.front().size;
+}
+
+std::vector<KeyEntry> EntriesOfLine(std::u16string_view text, TextSpan line) {
+  constexpr std::size_t kLongestTitleBefore = 60;
+  constexpr int kMostAttempts = 3;
+  const TextSpan trimmed = Trimmed(text, line);
+  std::size_t from = trimmed.begin;
+  for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
+    if (std::vector<KeyEntry> entries = KeyLine(text, {from, trimmed.end}).Entries(); !entries.empty())
+      return entries;
+    // The title before the first number may hold a number itself: "Part 1: 1. B".
+    while (from < trimmed.end && PlainNumeralAt(text, from).size > 0) ++from;
+    while (from < trimmed.end && PlainNumeralAt(text, from).size == 0) ++from;
+    if (from >= trimmed.end || from - trimmed.begin > kLongestTitleBefore) return {};
+    const std::u16string_view title = text.substr(trimmed.begin, from - trimmed.begin);
+    if (!IsPartTitle(title) && AnswerHeadingOf(title) == AnswerHeading::None && title.back() != u':' &&
+        title.back() != u'：')
+      return {};
+  }
+  return {};
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// What a key at the end of a paper is made of: numbers of questions, and letters or marks as answers.
+#pragma once
+
+#include "import/labels/Numerals.h"
+#include "text/TextSpan.h"
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// One answer of a key.
+struct KeyEntry {
+  int number = 0;  ///< of its question; 0 in a key without numbers
+  TextSpan answer;
+  bool isLetters = false;  ///< letters of options or a judgement; else a text
+};
+
+/// A number of a question with what belongs to it: "12.", "(12)", "Q12:", "第12题".
+struct KeyNumber {
+  int value = 0;
+  TextSpan place;         ///< with prefix and what follows, blanks included
+  bool isSetOff = false;  ///< by a dot, bracket or the like, not just by blanks
+};
+
+/// The number that begins at `place`, if there is one. Roman and Chinese numerals are titles of parts.
+std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place, std::size_t end);
+
+/// The size of the letters, the digit or the judgement that begins at `place`; 0 if there is none.
+std::size_t KeyTokenSize(std::u16string_view text, std::size_t place, std::size_t end);
+
+/// The answers of a line that consists of nothing but numbers with answers, or of ranges: "1. B 2. C",
+/// "1-5 ABCDA 6-10 BBDAC". A title may precede them. Nothing if there is anything else.
+std::vector<KeyEntry> EntriesOfLine(std::u16string_view text, TextSpan line);
+
+}  // namespace quorvantis
