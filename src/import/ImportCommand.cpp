@@ -5,6 +5,7 @@
 #include "import/AnswerPictures.h"
 #include "import/DocumentFailureText.h"
 #include "import/LineEnds.h"
+#include "import/RecognisedShare.h"
 #include "import/ReplacedQuestions.h"
 #include "model/document/ExamServices.h"
 #include "platform/DebugOutput.h"
@@ -36,6 +37,7 @@ void ImportCommand::Begin() {
   savesBefore_ = editor_.state.Saves();
   pictureCounterBefore_ = pictureCounter_;
   isNewExam_ = false;
+  isChosen_ = false;
 }
 
 void ImportCommand::ImportQuestions() {
@@ -90,12 +92,15 @@ void ImportCommand::MendLineEnds() {
 
 /// False if the current exam was to be saved first and was not: it must not be lost.
 bool ImportCommand::ConfirmImportTarget() {
+  if (editor_.state.CurrentQuestion() == 1) return true;
+  if (dialogs_.AskTarget() == ImportTarget::NewExam) return BeginNewExam();
+  editor_.questions.GoNext();
+  return true;
+}
+
+/// False likewise.
+bool ImportCommand::BeginNewExam() {
   EditorState& state = editor_.state;
-  if (state.CurrentQuestion() == 1) return true;
-  if (dialogs_.AskTarget() == ImportTarget::Continue) {
-    editor_.questions.GoNext();
-    return true;
-  }
   if (state.Modified()) editor_.files.SaveExam();
   if (state.Modified()) return false;
   editor_.files.StartNewExam();
@@ -108,16 +113,20 @@ bool ImportCommand::ConfirmImportTarget() {
 void ImportCommand::ImportHere() {
   ExamImport choice(rules_, Exam().Services().codePage);
   choice.Open();
-  if (!dialogs_.AskDocument(choice)) return;
+  if (dialogs_.AskDocument(choice)) ImportDocument(choice.m_strDocPath, choice);
+}
+
+ImportOutcome ImportCommand::ImportDocument(const std::filesystem::path& document,
+                                            const ImportSettings& rules) {
   importRolledBack_ = false;
   removed_ = 0;
-  dialogs_.ShowWait(choice.m_strDocPath);
+  dialogs_.ShowWait(document);
   Debug(u"The ExamImportDlg is showing!");
   ImportReport report;
-  report.rules = choice;
-  const WordResult read = ReadDocument(choice, report);
-  if (read != WordResult::Done)
-    return EndWithout(report, DocumentFailureText(read, choice.m_strDocPath, Strings()));
+  report.document = document;
+  report.rules = rules;
+  const WordResult read = ReadDocument(report);
+  if (read != WordResult::Done) return EndWithout(report, DocumentFailureText(read, document, Strings()));
   if (report.marked.failure) return EndWithout(report, FailureText(*report.marked.failure, Strings()));
   firstSlot_ = editor_.state.CurrentQuestion();
   FrameSetExam exam = Exam();
@@ -126,23 +135,24 @@ void ImportCommand::ImportHere() {
       [this] { return dialogs_.IsCancelled(); }, report.paper);
   if (report.paper.failure) return EndWithout(report, FailureText(*report.paper.failure, Strings()));
   editor_.changes.Replace(std::move(exam));
-  HandleAndFinish(report);
+  return HandleAndFinish(report);
 }
 
 /// Reads and marks without touching the exam. A failure of the marking is in the report.
-WordResult ImportCommand::ReadDocument(const ExamImport& choice, ImportReport& report) {
+WordResult ImportCommand::ReadDocument(ImportReport& report) {
   WordReader reader(
       documents_, AttachmentWorkRoot(Exam().Services().applicationFolder),
       {[this] { return dialogs_.IsCancelled(); },
        [this](std::size_t done, std::size_t total) { dialogs_.ShowPicturesRead(done, total); }});
-  if (!reader.OpenDocument(choice.m_strDocPath, choice.listLabels)) return reader.Result();
+  if (!reader.OpenDocument(report.document, report.rules.listLabels)) return reader.Result();
   reader.ReplaceBoxCharacters();
   const auto nextPicture = reader.SavePictures(pictureCounter_);
   if (!nextPicture) return reader.Result();
   const std::size_t formulas = reader.MaskFormulas();
   const WordContent& document = reader.Document();
-  report.content = {document.runningText.characters, pictureCounter_,           *nextPicture, formulas,
-                    reader.LostPictures(),           document.hasNumbersLeftOut};
+  report.content = {
+      document.runningText.characters, pictureCounter_,        *nextPicture, formulas, reader.LostPictures(),
+      document.hasNumbersLeftOut,      UnitsOfTables(document)};
   report.marked = Mark(reader, report.rules);
   reader.CloseDocument();
   reader.QuitWordProcessor();
@@ -166,27 +176,32 @@ MarkedText ImportCommand::Mark(const WordReader& reader, const ImportSettings& r
 }
 
 /// Nothing was imported, so the exam is restored, even if a new one had been begun.
-void ImportCommand::EndWithout(const ImportReport& report, std::u16string_view message) {
+ImportOutcome ImportCommand::EndWithout(const ImportReport& report, std::u16string_view message) {
   const bool wasCancelled = dialogs_.IsCancelled();
   dialogs_.HideWait();
   Revert();
   if (!wasCancelled) dialogs_.ShowFailure(report, message);
+  return wasCancelled ? ImportOutcome::Cancelled : ImportOutcome::Failed;
 }
 
-void ImportCommand::HandleAndFinish(ImportReport& report) {
+ImportOutcome ImportCommand::HandleAndFinish(ImportReport& report) {
   const bool forced = HandleAnswerPictures();
   pictureCounter_ = report.content->nextPicture;
   dialogs_.HideWait();
   Debug(u"The ExamImportDlg is gone!");
   if (importRolledBack_) {
+    if (isChosen_) return TakeBack();
     editor_.questions.GoPrevious();
-    return Report(report);
+    Report(report);
+    return ImportOutcome::Cancelled;
   }
   if (forced) ShowPictureList();
   if (report.content->formulas > 0) HandleFormulas();
+  if (isChosen_ && importRolledBack_) return TakeBack();
   editor_.state.MarkModifiedQuietly();
   GoToLastImported();
   Report(report);
+  return importRolledBack_ ? ImportOutcome::Cancelled : ImportOutcome::Imported;
 }
 
 void ImportCommand::Report(ImportReport& report) {
@@ -208,8 +223,9 @@ void ImportCommand::Report(ImportReport& report) {
   dialogs_.ShowReport(report, *this);
 }
 
-/// Stores the form in the slot after the imported ones, if there is one.
+/// Deliberate: the whole command stores the form in the slot after the imported ones, if there is one.
 void ImportCommand::GoToLastImported() {
+  if (isChosen_) return editor_.questions.ShowQuestion(std::max(nextSlot_ - 1, importBase_));
   editor_.questions.MoveFormTo(std::min(nextSlot_, kMaxQuestions));
   if (nextSlot_ <= kMaxQuestions) {
     editor_.questions.GoPrevious();
@@ -239,7 +255,7 @@ bool ImportCommand::HandleAnswerPictures() {
       asked = true;
     }
     Debug(u"The PictureDlg is showing!");
-    if (choice == ChoiceResult::GiveUp) {
+    if (asked && IsGivenUp(choice)) {
       RollbackImport();
       return false;
     }
@@ -268,7 +284,7 @@ void ImportCommand::ShowPictureList() {
 void ImportCommand::HandleFormulas() {
   const ChoiceResult choice = dialogs_.AskFormulas();
   Debug(u"The FormulaDlg is gone!");
-  if (choice == ChoiceResult::GiveUp) RollbackImport();
+  if (IsGivenUp(choice)) RollbackImport();
   if (choice != ChoiceResult::IgnoreRelated) return;
   for (int i = importBase_ + 1; i < nextSlot_;) {
     if (HasFormula(Exam().Question(i))) {
@@ -279,8 +295,11 @@ void ImportCommand::HandleFormulas() {
   }
 }
 
-/// Removes what was imported, and the slot after it. What the slots held before does not come back.
+/// Removes what was imported, and the slot after it. What the slots held before does not come back, unless
+/// the caller takes everything back.
 void ImportCommand::RollbackImport() {
+  importRolledBack_ = true;
+  if (isChosen_) return;
   if (importBase_ == 1) {
     editor_.files.EmptyExam();
     nextSlot_ = 1;
@@ -290,7 +309,6 @@ void ImportCommand::RollbackImport() {
     nextSlot_ = editor_.state.CurrentQuestion();
   }
   editor_.state.MarkSaved();
-  importRolledBack_ = true;
 }
 
 }  // namespace quorvantis

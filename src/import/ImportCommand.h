@@ -12,6 +12,20 @@
 
 namespace quorvantis {
 
+/// Where the questions of an import go that was begun with a document and rules.
+enum class ImportPlace {
+  AfterCurrentQuestion,  ///< they replace what follows; after question 500 they replace that
+  FirstQuestion,         ///< they replace the exam's questions; for an empty exam
+  NewExam,               ///< after the present one has been saved
+};
+
+/// How an import ended. Unless it is Imported, the exam is as it was before.
+enum class ImportOutcome {
+  Imported,
+  Cancelled,  ///< by the user, in whatever dialog
+  Failed,     ///< and the user knows why
+};
+
 /// The Import command: asks where questions go and where they come from, reads them into slots, handles what
 /// the exam cannot show, and can undo everything. There is one for the window's whole life, since picture
 /// numbers continue from import to import.
@@ -32,6 +46,12 @@ class ImportCommand {
   /// The same, into the slots after `question` (0 to 499) without asking for the target.
   void ImportQuestionsAfter(int question);
 
+  /// Imports a document by these rules, which need not be in any file. Other than in the whole command, a
+  /// dialog that is closed without an answer, and giving up, end the import with the exam unchanged: there is
+  /// no report then.
+  ImportOutcome ImportChosen(const std::filesystem::path& document, const ImportSettings& rules,
+                             ImportPlace place);
+
   /// From an import until the user undoes it, opens another exam, makes a new one or imports again.
   bool CanUndo() const { return history_.CanUndo(step_); }
   /// Undoes the import, and before it whatever has been done since.
@@ -46,12 +66,17 @@ class ImportCommand {
   void NoteStep();
   void Revert();
   bool ConfirmImportTarget();
+  bool BeginNewExam();
+  bool GoToPlace(ImportPlace place);
   void ImportHere();
-  WordResult ReadDocument(const ExamImport& choice, ImportReport& report);
+  ImportOutcome ImportDocument(const std::filesystem::path& document, const ImportSettings& rules);
+  WordResult ReadDocument(ImportReport& report);
   MarkedText Mark(const WordReader& reader, const ImportSettings& rules);
-  void EndWithout(const ImportReport& report, std::u16string_view message);
-  void HandleAndFinish(ImportReport& report);
+  ImportOutcome EndWithout(const ImportReport& report, std::u16string_view message);
+  ImportOutcome HandleAndFinish(ImportReport& report);
+  ImportOutcome TakeBack();
   void Report(ImportReport& report);
+  bool IsGivenUp(ChoiceResult choice) const;
   bool HandleAnswerPictures();
   void HandleFormulas();
   void RollbackImport();
@@ -81,6 +106,7 @@ class ImportCommand {
   int removed_ = 0;
   bool isNewExam_ = false;  ///< begun by this import
   bool importRolledBack_ = false;
+  bool isChosen_ = false;  ///< document and rules were given, and a dialog that is closed ends the import
 };
 
 }  // namespace quorvantis

@@ -6,6 +6,7 @@
 #include "import/marking/QuestionTextParser.h"
 #include "import/marking/TextMarking.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,11 +21,13 @@ struct PaperContent {
   std::size_t formulas = 0;
   std::vector<LostPicture> lostPictures;
   bool hasNumbersLeftOut = false;  ///< automatic numbers that are not part of the text
+  std::size_t tableUnits = 0;      ///< size of the text in tables, without blanks
 };
 
 /// What happened in an import, for the user and for whoever examines it.
 struct ImportReport {
   bool imported = false;  ///< the exam was changed; false if the user gave up
+  std::filesystem::path document;
   ImportSettings rules;
   std::optional<PaperContent> content;  ///< nothing when the document could not be read
   MarkedText marked;
