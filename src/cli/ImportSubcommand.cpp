@@ -6,9 +6,13 @@
 #include "cli/LossMessages.h"
 #include "examfile/ExamFileWriter.h"
 #include "import/ImportReport.h"
+#include "import/RecognisedShare.h"
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
+#include "platform/TextNumbers.h"
 #include "platform/WholeFile.h"
+#include "text/MessageText.h"
+#include "text/PathText.h"
 #include "text/Utf.h"
 
 #include <ostream>
@@ -91,6 +95,11 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
   TellSavingLosses(console, request.target, exam);
   for (const std::u16string& line : ImportSummary(report, session.Texts()))
     console.out << Utf16ToUtf8(line) << '\n';
+  if (RecognisesLittle(report)) {
+    const std::u16string paper = PathToText(request.document);
+    console.out << Utf16ToUtf8(FillMessage(session.Texts().Text(text_id::kLearnOnCommandLine), {paper}))
+                << '\n';
+  }
 }
 
 }  // namespace quorvantis::cli

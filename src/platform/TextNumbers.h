@@ -476,5 +476,9 @@ constexpr int kRuleUnsafe = 1791;
 constexpr int kRulesNotEncoded = 1792;
 constexpr int kRulesFileNotRead = 1793;  // with what the system says
 constexpr int kRulesFileBusy = 1794;
+// A paper of which the rules recognised little.
+constexpr int kWorkOutRules = 1610;
+constexpr int kLittleRecognised = 1611;
+constexpr int kLearnOnCommandLine = 1612;
 
 }  // namespace quorvantis::text_id

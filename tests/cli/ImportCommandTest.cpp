@@ -98,7 +98,13 @@ TEST_F(ImportCommand, ReadsTheSamplePapers) {
                                    (papers / "ImportExam.ini").string(), "--repository", row.repository});
     EXPECT_TRUE(run.out.starts_with(row.questions)) << run.out << run.err;
     EXPECT_EQ(Questions().find("====="), std::string::npos);
+    EXPECT_EQ(run.out.find("rules learn"), std::string::npos);
   }
+}
+
+TEST_F(ImportCommand, AdvisesToLearnRulesForAPaperThatTheyDoNotFit) {
+  const RunResult run = Import("1. What is it?\nAnswer: it is this\n");
+  EXPECT_TRUE(run.out.ends_with("quorvantis-cli rules learn \"" + Path("paper.txt") + "\"\n")) << run.out;
 }
 
 TEST_F(ImportCommand, ReadsPicturesAndFormulasOfDocuments) {

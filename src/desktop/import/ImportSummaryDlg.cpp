@@ -41,6 +41,11 @@ ImportSummaryDlg::ImportSummaryDlg(const QString& lines, Commands commands, cons
     connect(mend_, &QPushButton::clicked, this, &ImportSummaryDlg::MendLineEnds);
     buttons->addWidget(mend_);
   }
+  if (commands_.workOutRules) {
+    auto* learn = makeButton("workOutRules", text_id::kWorkOutRules);
+    connect(learn, &QPushButton::clicked, this, [this] { commands_.workOutRules(); });
+    buttons->addWidget(learn);
+  }
   buttons->addStretch();
   buttons->addWidget(close);
   auto* layout = new QVBoxLayout(this);

@@ -17,11 +17,12 @@ class ImportSummaryDlg : public QDialog {
   Q_OBJECT
 
  public:
-  /// The actions of its buttons. Without `mendLineEnds` there is no such button.
+  /// The actions of its buttons. Without `mendLineEnds` or `workOutRules` there is no such button.
   struct Commands {
     std::function<bool()> canUndo;
     std::function<void()> undo;
     std::function<void()> mendLineEnds;
+    std::function<void()> workOutRules;
   };
 
   ImportSummaryDlg(const QString& lines, Commands commands, const StringTable& strings, QWidget* parent);

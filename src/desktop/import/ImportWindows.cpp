@@ -6,6 +6,7 @@
 #include "desktop/import/ExamImportDlg.h"
 #include "desktop/import/ImportChoiceDlgs.h"
 #include "import/ImportCommand.h"
+#include "import/RecognisedShare.h"
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "text/PathText.h"
@@ -66,8 +67,12 @@ void ImportWindows::ShowReport(const ImportReport& report, ImportCommand& import
   commands.canUndo = [&import] { return import.CanUndo(); };
   commands.undo = [this, &import] { Undo(import); };
   if (report.loneLineEnds > 0) commands.mendLineEnds = [&import] { import.MendLineEnds(); };
-  summary_ = new ImportSummaryDlg(Joined(ImportSummary(report, services_.strings)), std::move(commands),
-                                  services_.strings, &parent_);
+  std::vector<std::u16string> lines = ImportSummary(report, services_.strings);
+  if (workOutRules_ && RecognisesLittle(report)) {
+    lines.push_back(services_.strings.Text(text_id::kLittleRecognised));
+    commands.workOutRules = [this, document = report.document] { workOutRules_(document); };
+  }
+  summary_ = new ImportSummaryDlg(Joined(lines), std::move(commands), services_.strings, &parent_);
   summary_->show();
   summary_->activateWindow();  // otherwise Escape would end the main window
 }

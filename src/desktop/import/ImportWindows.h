@@ -9,7 +9,10 @@
 
 #include <QPointer>
 
+#include <filesystem>
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace quorvantis {
 
@@ -19,6 +22,11 @@ class ImportWindows : public ImportDialogs {
   /// All must outlive this. `language`, which may be null, has the texts of the dialogs.
   ImportWindows(ExamServices& services, const LanguageLibrary* language, QWidget& parent)
       : services_(services), language_(language), parent_(parent) {}
+
+  /// What the summary offers to do with a paper of which little was recognised. Until then it offers nothing.
+  void SetWorkOutRules(std::function<void(const std::filesystem::path& document)> workOutRules) {
+    workOutRules_ = std::move(workOutRules);
+  }
 
   /// Undoes the import, with the user's consent if needed.
   void Undo(ImportCommand& import);
@@ -42,6 +50,7 @@ class ImportWindows : public ImportDialogs {
   ExamServices& services_;
   const LanguageLibrary* language_;
   QWidget& parent_;
+  std::function<void(const std::filesystem::path&)> workOutRules_;
   std::unique_ptr<ImportWaitDlg> wait_;
   QPointer<ImportSummaryDlg> summary_;
 };

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/WindowTest.h"
+#include "desktop/import/ImportWindows.h"
+#include "editor/UnseenView.h"
+#include "history/History.h"
+#include "import/ImportCommand.h"
 
 #include <QComboBox>
 #include <QDialog>
@@ -86,6 +90,35 @@ TEST_F(ImportWindow, ReadsTheChosenPaper) {
   EXPECT_EQ(exam.Question(2).text, u"");
   EXPECT_EQ(Lines("questionText").toPlainText(), "typed");
   EXPECT_TRUE(ShowsChange());
+}
+
+TEST_F(ImportWindow, OffersToWorkOutRulesForAPaperThatTheyDoNotFit) {
+  OpenWithRules();
+  ImportWindows dialogs(services, nullptr, *window);
+  UnseenView view;
+  FrameSetExam other(services);
+  ExamEditor editor(other, view, {});
+  History history(editor);
+  ImportCommand import(editor, history, papers, dialogs, {});
+  std::filesystem::path offered;
+  const auto isOffered = [&](const std::u16string& pattern) {
+    ImportSettings rules;
+    rules.m_strPreQuestion = u"Q;";
+    rules.m_strPreAnswer = u"A;";
+    rules.m_strPattern = pattern;
+    EXPECT_EQ(import.ImportChosen(paper, rules, ImportPlace::FirstQuestion), ImportOutcome::Imported);
+    for (auto* summary : window->findChildren<QDialog*>("importSummary")) {
+      auto* button = summary->isVisible() ? summary->findChild<QPushButton*>("workOutRules") : nullptr;
+      if (button != nullptr) return button->click(), true;
+    }
+    return false;
+  };
+  WriteBytes(paper, "Q;oneA;1Q;twoA;2");
+  EXPECT_FALSE(isOffered(u"nothing like it"));
+  dialogs.SetWorkOutRules([&](const std::filesystem::path& document) { offered = document; });
+  EXPECT_FALSE(isOffered(u"(?<Q2>.+)"));
+  EXPECT_TRUE(isOffered(u"nothing like it"));
+  EXPECT_EQ(offered, paper);
 }
 
 }  // namespace

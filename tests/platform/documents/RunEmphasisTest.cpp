@@ -74,7 +74,7 @@ TEST_F(RunEmphasisTest, ComesFromRunsStylesAndDefaults) {
     std::string paragraph;  ///< its properties
     std::string run;
     std::u16string expected;
-    std::string defaults = "";
+    std::string defaults{};
   } rows[] = {
       {"", "<w:b/>", u"{b|x}"},
       {"", Value("b", "0") + Value("i", "off") + Value("u", "none"), u"x"},
