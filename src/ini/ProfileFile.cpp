@@ -3,6 +3,7 @@
 
 #include "platform/WholeFile.h"
 #include "text/AsciiCase.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 
@@ -70,9 +71,17 @@ ProfileFile::ProfileFile(const std::filesystem::path& file, const CodePage* code
     : encoding_(ProfileEncoding::Of({}, codePage)) {
   std::optional<std::string> bytes = ReadWholeFile(file, kMaxBytes);
   whole_ = bytes.has_value();
-  if (!whole_) return;
-  encoding_ = ProfileEncoding::Of(*bytes, codePage);
-  bytes_ = WithoutHalfUnit(*std::move(bytes), encoding_);
+  if (whole_) Take(*std::move(bytes), codePage);
+}
+
+ProfileFile::ProfileFile(std::string bytes, const CodePage* codePage)
+    : whole_(true), encoding_(ProfileEncoding::Of({}, codePage)) {
+  Take(std::move(bytes), codePage);
+}
+
+void ProfileFile::Take(std::string bytes, const CodePage* codePage) {
+  encoding_ = ProfileEncoding::Of(bytes, codePage);
+  bytes_ = WithoutHalfUnit(std::move(bytes), encoding_);
 }
 
 std::optional<std::u16string> ProfileFile::Value(std::u16string_view section, std::u16string_view key) const {
@@ -94,6 +103,53 @@ std::map<std::u16string, std::u16string> ProfileFile::ValuesOf(std::u16string_vi
       values.try_emplace(*section, ValueIn(text));
   }
   return values;
+}
+
+std::vector<std::u16string> ProfileFile::Sections() const {
+  std::vector<std::u16string> names;
+  for (std::size_t at = encoding_.MarkSize(); at < bytes_.size();) {
+    const Line line = LineAt(at);
+    at = line.next;
+    const std::u16string text = TextOf(line);
+    if (IsSectionLine(text)) names.emplace_back(SectionName(text));
+  }
+  return names;
+}
+
+/// Works on the bytes: the rest of the line may hold what its encoding cannot give back.
+bool ProfileFile::SetDigits(std::u16string_view section, std::u16string_view key, int number) {
+  const std::optional<Line> entry = Find(section, key).entry;
+  if (!entry) return false;
+  const std::size_t unitSize = encoding_.UnitSize();
+  const auto unit = [&](std::size_t at) { return at < entry->end ? encoding_.UnitAt(bytes_, at) : u'\0'; };
+  std::size_t begin = entry->begin;
+  while (begin < entry->end && unit(begin) != u'=') begin += unitSize;
+  do begin += unitSize;
+  while (kBlanks.find(unit(begin)) != kBlanks.npos || unit(begin) == u'"' || unit(begin) == u'\'');
+  std::size_t end = begin;
+  while (IsDigit(unit(end))) end += unitSize;
+  const std::optional<std::string> digits = encoding_.Encode(FormatInteger(number));
+  if (end == begin || !digits) return false;
+  bytes_.replace(begin, end - begin, *digits);
+  return true;
+}
+
+bool ProfileFile::Append(std::u16string_view lines) {
+  const Line first = LineAt(encoding_.MarkSize());
+  const std::u16string lineEnd = first.next == first.end ? u"\n" : LineBreak();
+  const std::size_t end = bytes_.size();
+  const bool isMidLine =
+      end > encoding_.MarkSize() && !IsLineBreak(encoding_.UnitAt(bytes_, end - encoding_.UnitSize()));
+  std::u16string text = isMidLine ? lineEnd : std::u16string();
+  for (const char16_t unit : lines) {
+    if (unit == u'\n')
+      text += lineEnd;
+    else
+      text += unit;
+  }
+  const std::optional<std::string> bytes = encoding_.Encode(text);
+  if (bytes) bytes_ += *bytes;
+  return bytes.has_value();
 }
 
 bool ProfileFile::SetValue(std::u16string_view section, std::u16string_view key, std::u16string_view value) {

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvantis {
 
@@ -24,6 +25,9 @@ class ProfileFile {
   /// without one, only its ASCII characters are known.
   explicit ProfileFile(const std::filesystem::path& file, const CodePage* codePage = nullptr);
 
+  /// The same of a file's bytes.
+  ProfileFile(std::string bytes, const CodePage* codePage);
+
   /// The file could be read, or does not exist, so this may replace it. Otherwise there are no values. Files
   /// of more than 16 MiB are not read.
   bool IsWhole() const { return whole_; }
@@ -35,10 +39,21 @@ class ProfileFile {
   /// The value of a key in each section that has it, by the name of the section as written in the file.
   std::map<std::u16string, std::u16string> ValuesOf(std::u16string_view key) const;
 
+  /// The names of all sections, as written in the file, in its order.
+  std::vector<std::u16string> Sections() const;
+
   /// Sets the value that `Value` finds. A new key goes to the end of its section, a new section to the end of
   /// the file. False, and nothing is changed, if the file's encoding lacks one of its characters, or if it
   /// contains a line break or NUL.
   bool SetValue(std::u16string_view section, std::u16string_view key, std::u16string_view value);
+
+  /// Replaces the digits that a value begins with, and leaves alone what follows them, such as a comment.
+  /// False if there is no such value.
+  bool SetDigits(std::u16string_view section, std::u16string_view key, int number);
+
+  /// Adds lines at the end of the file. LF ends a line; in the file it becomes what ends its lines, or
+  /// stays LF if it has no line end. False, and nothing is changed, if the file's encoding lacks a character.
+  bool Append(std::u16string_view lines);
 
   const std::string& Bytes() const { return bytes_; }
 
@@ -60,6 +75,7 @@ class ProfileFile {
   bool Replace(const Line& line, std::u16string_view value);
   bool InsertLines(std::size_t position, std::u16string lines);
   std::u16string LineBreak() const;
+  void Take(std::string bytes, const CodePage* codePage);
 
   bool whole_;
   std::string bytes_;
