@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "learn/VisibleKey.h"
+
+#include "import/labels/LineText.h"
+#include "import/labels/OptionSigns.h"
+#include "import/marking/ImportMarkers.h"
+#include "import/prepare/PreparedLabels.h"
+#include "model/AnswerLetters.h"
+#include "text/AsciiCase.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+/// Words that teachers put before an answer.
+constexpr std::u16string_view kAnswerWords[] = {
+    u"Answer",
+    u"Ans",
+    u"Correct answer",
+    u"Key",
+    u"Antwort",
+    u"L\u00F6sung",
+    u"R\u00E9ponse",
+    u"Respuesta",
+    u"Risposta",
+    u"Resposta",
+    u"Gabarito",
+    u"\u7B54\u6848",                                            // Chinese
+    u"\u6B63\u786E\u7B54\u6848",                                // Chinese
+    u"\u6B63\u89E3",                                            // Japanese
+    u"\uC815\uB2F5",                                            // Korean
+    u"\u041E\u0442\u0432\u0435\u0442",                          // Russian
+    u"\u0412\u0456\u0434\u043F\u043E\u0432\u0456\u0434\u044C",  // Ukrainian
+    u"\u0627\u0644\u0625\u062C\u0627\u0628\u0629",              // Arabic
+    u"\u0627\u0644\u062C\u0648\u0627\u0628",                    // Arabic
+};
+
+constexpr std::u16string_view kOpens = u"(\uFF08[\u3010";
+constexpr std::u16string_view kCloses = u")\uFF09]\u3011";
+
+/// From a place on, as much as a line of a warning shows.
+std::u16string ExcerptAt(std::u16string_view text, std::size_t place) {
+  constexpr std::size_t kEnough = 40;
+  const std::size_t end = std::min(LineEndAfter(text, place), place + kEnough);
+  return std::u16string(text.substr(place, end - place));
+}
+
+/// Letters in brackets that can be the key: of options that there are, and in the key if there is one.
+std::u16string KeyInBrackets(const ReadQuestion& question) {
+  const std::u16string_view text = question.text;
+  for (std::size_t open = text.find_first_of(kOpens); open != text.npos;
+       open = text.find_first_of(kOpens, open + 1)) {
+    const std::size_t begin = SkipBlanks(text, open + 1, text.size());
+    std::size_t end = begin;
+    while (end < text.size() && text[end] >= u'A' && text[end] <= u'E') ++end;
+    const std::size_t close = SkipBlanks(text, end, text.size());
+    if (end == begin || close >= text.size() || kCloses.find(text[close]) == kCloses.npos) continue;
+    const bool canBeKey =
+        std::all_of(text.begin() + static_cast<std::ptrdiff_t>(begin),
+                    text.begin() + static_cast<std::ptrdiff_t>(end), [&question](char16_t letter) {
+                      const auto option = OptionIndex(letter);
+                      const bool isKey =
+                          question.letters.empty() || question.letters.find(letter) != std::u16string::npos;
+                      return option && !question.options[*option].empty() && isKey;
+                    });
+    if (canBeKey) return std::u16string(text.substr(open, close + 1 - open));
+  }
+  return {};
+}
+
+/// A line that begins with the label of an answer.
+std::u16string LabelledAnswer(std::u16string_view text) {
+  for (const TextSpan& line : LinesOf(text, {0, text.size()})) {
+    std::size_t begin = SkipBlanks(text, line.begin, line.end);
+    if (begin < line.end && kOpens.find(text[begin]) != kOpens.npos) ++begin;
+    for (const std::u16string_view word : kAnswerWords) {
+      const bool isHere = EqualsIgnoringAsciiCase(text.substr(begin, word.size()), word);
+      const std::size_t after = SkipBlanks(text, begin + (isHere ? word.size() : 0), line.end);
+      constexpr std::u16string_view kAfter = u":\uFF1A.=\u3011]";
+      if (isHere && after < line.end && kAfter.find(text[after]) != kAfter.npos)
+        return ExcerptAt(text, begin);
+    }
+  }
+  return {};
+}
+
+bool HasSign(std::u16string_view option) {
+  const TextSpan span = Trimmed(option, {0, option.size()});
+  if (span.IsEmpty()) return false;
+  const auto isSign = [](char16_t unit) { return kRightSigns.find(unit) != kRightSigns.npos; };
+  return span.Size() > 1 && (isSign(option[span.begin]) || isSign(option[span.end - 1]));
+}
+
+/// A sign that some options have and others lack.
+std::u16string SignedOption(const ReadQuestion& question) {
+  const std::u16string* signedOne = nullptr;
+  bool isAtAll = true;
+  for (const std::u16string& option : question.options) {
+    if (option.empty()) continue;
+    if (!HasSign(option))
+      isAtAll = false;
+    else if (signedOne == nullptr)
+      signedOne = &option;
+  }
+  return signedOne == nullptr || isAtAll ? std::u16string() : ExcerptAt(*signedOne, 0);
+}
+
+std::u16string LeftOver(std::u16string_view text) {
+  const std::size_t place = std::min(text.find(kPreparedOpen), text.find(kAnswerMarker));
+  return place == text.npos ? LabelledAnswer(text) : ExcerptAt(text, place);
+}
+
+}  // namespace
+
+std::u16string VisibleKey(const ReadQuestion& question) {
+  std::u16string found = LeftOver(question.text);
+  for (const std::u16string& option : question.options) {
+    if (found.empty()) found = LeftOver(option);
+  }
+  if (question.kind != ReadKind::Choice) return found;
+  if (found.empty()) found = KeyInBrackets(question);
+  return found.empty() ? SignedOption(question) : found;
+}
+
+}  // namespace quorvantis
