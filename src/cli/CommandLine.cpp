@@ -4,6 +4,7 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
+#include "cli/PaperMarksFile.h"
 #include "cli/Version.h"
 #include "shell/language/LanguageId.h"
 
@@ -33,6 +34,8 @@ struct ParsedArguments {
   std::optional<std::string> student;
   std::optional<std::filesystem::path> responses;
   ImportRequest import;
+  LearnRequest learn;
+  CheckRequest check;
   MatchRequest match;
   std::vector<ScoreStep> scoreSteps;
   std::set<const CLI::Option*> mayBeEmpty;  ///< options for which an empty text is a valid value
@@ -213,18 +216,44 @@ CLI::Validator IsDecimal() {
   return {check, "", "decimal"};
 }
 
-void AddImportOptions(CLI::App& command, ImportRequest& request) {
-  const std::vector<std::string> answers{"give-up", "ignore", "force"};
-  command
-      .add_option("--rules", request.rules,
+CLI::Option* AddRulesFile(CLI::App& command, std::filesystem::path& rules) {
+  return command
+      .add_option("--rules", rules,
                   "The file with the rules (default: ImportExam.ini of the\napplication folder, or beside "
                   "the program)")
       ->type_name("FILE");
-  command
-      .add_option("--repository", request.repository,
+}
+
+CLI::Option* AddRepositoryName(CLI::App& command, std::string& repository) {
+  return command
+      .add_option("--repository", repository,
                   "The beginning of the repository's name, or # and its section's number")
-      ->required()
       ->type_name("NAME");
+}
+
+CLI::Option* AddMarks(CLI::App& command, std::filesystem::path& marks) {
+  return command.add_option("--marks", marks, "What parts of the paper are (JSON)")->type_name("FILE");
+}
+
+std::string MarksHelp() {
+  return "Marks are a list of {\"text\": \"B)\", \"nth\": 1, \"role\": \"option-label\"}, or with \"begin\" "
+         "and "
+         "\"end\" instead,\nin UTF-16 units of the text that --text writes. Roles: " +
+         RoleWordList() + ".";
+}
+
+void AddLearning(CLI::App& command, ImportRequest& request) {
+  CLI::Option* rules = AddRulesFile(command, request.rules);
+  CLI::Option* name = AddRepositoryName(command, request.repository);
+  CLI::Option* learn =
+      command.add_flag("--learn", request.learns, "Work out the rules from the paper itself");
+  learn->excludes(rules)->excludes(name);
+  AddMarks(command, request.marks)->needs(learn);
+}
+
+void AddImportOptions(CLI::App& command, ImportRequest& request) {
+  const std::vector<std::string> answers{"give-up", "ignore", "force"};
+  AddLearning(command, request);
   CLI::Option* into = command.add_option("--into", request.into, "Continue in this exam")->type_name("EXAM");
   CLI::Option* after =
       command.add_option("--after", request.after, "The question after which to continue, from 0")
@@ -253,8 +282,47 @@ void AddImport(CLI::App& app, ParsedArguments& arguments, Console& console) {
   AddPath(*command, "OUT", arguments.import.target, "Exam file to write");
   AddImportOptions(*command, arguments.import);
   command->footer(
-      "X is give-up, ignore (leave out such questions) or force. Prints what was read, and what was not.");
-  command->callback([&] { Import(console, arguments.common, arguments.import); });
+      "X is give-up, ignore (leave out such questions) or force. Prints what was read, and what was not.\n" +
+      MarksHelp());
+  command->callback([&] {
+    const bool hasRules = arguments.import.learns || !arguments.import.repository.empty();
+    if (!hasRules) throw CLI::RequiredError("--repository or --learn");
+    Import(console, arguments.common, arguments.import);
+  });
+}
+
+void AddRulesLearn(CLI::App& rules, ParsedArguments& arguments, Console& console) {
+  CLI::App* learn = AddCommand(rules, arguments, "learn", "Work out the rules of a question paper");
+  LearnRequest& request = arguments.learn;
+  AddPath(*learn, "PAPER", request.paper, "Question paper: .doc, .docx, .odt, .rtf, .txt or .md");
+  AddMarks(*learn, request.marks);
+  learn->add_option("--repository", request.repository, "The name of the rules (default: that of the paper)")
+      ->type_name("NAME");
+  learn->add_option("--ini", request.rules, "Add the rules to this file instead of printing them")
+      ->type_name("FILE");
+  learn->add_option("--text", request.text, "Also write the paper's text")->type_name("FILE");
+  learn->footer("Tells on standard error what was understood, and what to look at.\n" + MarksHelp());
+  learn->callback([&] { LearnRepository(console, arguments.common, arguments.learn); });
+}
+
+void AddRulesCheck(CLI::App& rules, ParsedArguments& arguments, Console& console) {
+  CLI::App* check = AddCommand(rules, arguments, "check", "Show what rules make of a question paper");
+  CheckRequest& request = arguments.check;
+  AddPath(*check, "PAPER", request.paper, "Question paper: .doc, .docx, .odt, .rtf, .txt or .md");
+  AddRepositoryName(*check, request.repository)->required();
+  AddRulesFile(*check, request.rules);
+  check->footer(
+      "Prints what each rule matches, the lines that nothing takes, and the questions.\n"
+      "Fails if less than 90 % of the text is explained.");
+  check->callback([&] { CheckRepository(console, arguments.common, arguments.check); });
+}
+
+void AddRules(CLI::App& app, ParsedArguments& arguments, Console& console) {
+  CLI::App* rules = app.add_subcommand("rules", "Work out or check the rules for a question paper");
+  AddCommonOptions(*rules, arguments.common);
+  rules->require_subcommand(1);
+  AddRulesLearn(*rules, arguments, console);
+  AddRulesCheck(*rules, arguments, console);
 }
 
 void AddMatch(CLI::App& app, ParsedArguments& arguments, Console& console) {
@@ -357,6 +425,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddRecover(app, arguments, console);
   AddLanguages(app, arguments, console);
   AddImport(app, arguments, console);
+  AddRules(app, arguments, console);
   AddMatch(app, arguments, console);
   RefuseEmptyArguments(app, arguments.mayBeEmpty);
   if (IsUnknownCommand(app, argumentCount, argumentValues)) {

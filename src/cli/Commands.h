@@ -74,10 +74,34 @@ struct ImportRequest {
   bool mendLineEnds = false;         ///< whether to give imported texts line ends that pages show whole
   std::filesystem::path markedFile;  ///< for the marked text; empty for none
   std::filesystem::path textFile;    ///< for the document's text
+  bool learns = false;               ///< whether to work out the rules from the paper
+  std::filesystem::path marks;       ///< what a teacher says of the paper, for that; empty for none
 };
 
 /// Makes an exam from a question paper, by the rules of a repository.
 void Import(Console& console, const CommonOptions& options, const ImportRequest& request);
+
+/// The arguments of `rules learn`.
+struct LearnRequest {
+  std::filesystem::path paper;
+  std::filesystem::path marks;  ///< empty for none
+  std::string repository;       ///< the name; empty for that of the paper's file
+  std::filesystem::path rules;  ///< the file to add the rules to; empty to print them
+  std::filesystem::path text;   ///< for the paper's text; empty for none
+};
+
+/// Works out the rules of a paper.
+void LearnRepository(Console& console, const CommonOptions& options, const LearnRequest& request);
+
+/// The arguments of `rules check`.
+struct CheckRequest {
+  std::filesystem::path paper;
+  std::filesystem::path rules;  ///< "ImportExam.ini"
+  std::string repository;       ///< as in ImportRequest
+};
+
+/// Prints what rules make of a paper. Throws CommandError if they explain too little of it.
+void CheckRepository(Console& console, const CommonOptions& options, const CheckRequest& request);
 
 /// The arguments of `match`: a pattern and a text, which is read from the console if none is given; or a file
 /// of patterns and texts.

@@ -15,6 +15,9 @@ struct Console {
 
   /// Writes "quorvantis-cli: " and the text, with line breaks and other control characters as blanks.
   void Complain(std::string_view text) const;
+
+  /// Writes a line on `err` that is no complaint, likewise.
+  void Tell(std::string_view text) const;
 };
 
 }  // namespace quorvantis::cli

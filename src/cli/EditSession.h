@@ -32,6 +32,7 @@ class EditSession {
   ScriptedImport& ImportAnswers() { return importAnswers_; }
   ImportCommand& Import() { return import_; }
   Console& Streams() { return session_.console; }
+  ExamSession& Session() { return session_; }
   const StringTable& Texts() { return session_.services.strings; }
 
   /// The window has been closed: only its state can be queried.

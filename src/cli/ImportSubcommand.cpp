@@ -4,6 +4,7 @@
 #include "cli/EditSession.h"
 #include "cli/InputFile.h"
 #include "cli/LossMessages.h"
+#include "cli/StudiedPaper.h"
 #include "examfile/ExamFileWriter.h"
 #include "import/ImportReport.h"
 #include "import/RecognisedShare.h"
@@ -16,6 +17,7 @@
 #include "text/Utf.h"
 
 #include <ostream>
+#include <utility>
 
 namespace quorvantis::cli {
 namespace {
@@ -40,8 +42,8 @@ ImportAnswers Answers(const ImportRequest& request) {
 }
 
 /// The exam to continue is in the session.
-void OpenTarget(EditSession& session, const ImportRequest& request) {
-  session.ImportAnswers().Prepare(Answers(request));
+void OpenTarget(EditSession& session, const ImportRequest& request, ImportAnswers answers) {
+  session.ImportAnswers().Prepare(std::move(answers));
   if (request.into.empty()) return;
   const int errors = session.Dialogs().ErrorCount();
   OpenInput(request.into);  // fails with one line
@@ -60,12 +62,20 @@ void WriteTexts(const ImportRequest& request, const ImportReport& report) {
 
 /// Imports; throws if nothing was imported.
 ImportReport RunImport(EditSession& session, const ImportRequest& request) {
-  OpenTarget(session, request);
+  ImportAnswers answers = Answers(request);
+  std::u16string studied;  // the text that marks refer to
+  if (request.learns) {
+    const PaperStudy study = LearnPaper(session.Session(), request.document, request.marks);
+    answers.rules = study.Rules();
+    studied = study.StudiedPaper().source.characters;
+  }
+  OpenTarget(session, request, std::move(answers));
   if (request.into.empty())
     session.Import().ImportQuestions();
   else
     session.Import().ImportQuestionsAfter(request.after);
   ImportReport report = session.ImportAnswers().Report();
+  if (report.content && request.learns) report.content->text = std::move(studied);
   WriteTexts(request, report);
   session.ImportAnswers().ThrowIfRefused();
   if (!report.imported)
@@ -84,6 +94,7 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
   for (const fs::path& target : {request.target, request.markedFile, request.textFile}) {
     RefuseToOverwrite(request.document, target);
     RefuseToOverwrite(request.rules, target);
+    RefuseToOverwrite(request.marks, target);
   }
   EditSession session(console, options, request.rules);
   const ImportReport report = RunImport(session, request);

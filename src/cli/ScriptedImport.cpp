@@ -54,6 +54,11 @@ void ScriptedImport::Prepare(ImportAnswers answers) {
 }
 
 bool ScriptedImport::AskDocument(ExamImport& import) {
+  if (answers_.rules) {
+    static_cast<ImportSettings&>(import) = *answers_.rules;
+    import.m_strDocPath = answers_.document;
+    return true;
+  }
   const std::string rules = import.m_strIniPath.string();
   std::optional<int> section = SectionNamed(answers_.repository);
   import.m_strDocPath = answers_.document;

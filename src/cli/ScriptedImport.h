@@ -5,6 +5,7 @@
 #include "import/ImportCommand.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,7 +15,8 @@ namespace quorvantis::cli {
 /// as closed, which makes a new exam and leaves pictures and formulas unchanged.
 struct ImportAnswers {
   std::filesystem::path document;
-  std::u16string repository;  ///< the beginning of its name, or "#" and the number of its section
+  std::u16string repository;              ///< the beginning of its name, or "#" and the number of its section
+  std::optional<ImportSettings> rules{};  ///< instead of a repository's
   ImportTarget target = ImportTarget::NewExam;
   ChoiceResult pictures = ChoiceResult::None;
   ChoiceResult formulas = ChoiceResult::None;

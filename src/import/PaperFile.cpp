@@ -8,11 +8,11 @@
 namespace quorvantis {
 
 PaperFile OpenPaper(WordDocuments& documents, const std::filesystem::path& file,
-                    const CancelHook& isCancelled) {
+                    const CancelHook& isCancelled, bool listLabels) {
   constexpr int kFirstPicture = 1;
   WordReader reader(documents, {}, {isCancelled, {}});
   PaperFile opened;
-  const bool isOpen = reader.OpenDocument(file, true);
+  const bool isOpen = reader.OpenDocument(file, listLabels);
   opened.result = reader.Result();
   if (!isOpen) return opened;
   reader.ReplaceBoxCharacters();

@@ -12,14 +12,14 @@ namespace quorvantis {
 /// A paper as it was read from a file, to be studied. Nothing is written.
 struct PaperFile {
   WordResult result = WordResult::Done;  ///< unless Done, the paper is empty
-  Paper paper{};  ///< with automatic numbers; pictures have the names of an import's first
+  Paper paper{};  ///< with automatic numbers if asked for; pictures have the names of an import's first
   bool hasAutomaticNumbers = false;
   std::size_t formulas = 0;
   std::size_t pictures = 0;
 };
 
-/// Reads a paper as an import with `ListLabels=1` would.
+/// Reads a paper as an import with `ListLabels=1` would, or, without `listLabels`, as one without.
 PaperFile OpenPaper(WordDocuments& documents, const std::filesystem::path& file,
-                    const CancelHook& isCancelled);
+                    const CancelHook& isCancelled, bool listLabels = true);
 
 }  // namespace quorvantis

@@ -55,7 +55,7 @@ bool BeginsLike(std::u16string_view one, std::u16string_view other) {
 
 /// "#" and a number would name a section on the command line.
 bool IsSafeName(std::u16string_view name) {
-  return IsSafeValue(name) && name.size() <= kLongestRule && name.find(u'\t') == name.npos &&
+  return IsSafeValue(name) && name.size() <= kLongestValue && name.find(u'\t') == name.npos &&
          !name.starts_with(u'#') && !name.ends_with(u';');
 }
 
@@ -114,7 +114,7 @@ class RepositoryAddition {
 
   AddedRepository WhyNotRules() const {
     for (const WrittenRule& rule : RulesOf(repository_.rules)) {
-      if (rule.value.size() > kLongestRule) return Refuse(RepositoryRefusal::RuleTooLong, rule.key);
+      if (rule.value.size() > kLongestValue) return Refuse(RepositoryRefusal::RuleTooLong, rule.key);
       if (!IsSafeValue(rule.value)) return Refuse(RepositoryRefusal::RuleUnsafe, rule.key);
     }
     return {};

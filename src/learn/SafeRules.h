@@ -11,7 +11,7 @@
 namespace quorvantis {
 
 /// In UTF-16 units.
-inline constexpr std::size_t kLongestRule = kProfileStringBuffer - 1;
+inline constexpr std::size_t kLongestValue = kProfileStringBuffer - 1;
 
 /// Whether a value is one line that begins and ends with nothing that readers of such files strip: blanks, a
 /// pair of quotes, a ";" at the beginning.

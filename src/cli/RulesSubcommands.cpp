@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/InputFile.h"
+#include "cli/PrintedOverview.h"
+#include "cli/PrintedReading.h"
+#include "cli/ScriptedImport.h"
+#include "cli/StudiedPaper.h"
+#include "host/ImportRules.h"
+#include "host/SavedRules.h"
+#include "import/ExamImport.h"
+#include "learn/RefusalText.h"
+#include "model/document/ExamServices.h"
+#include "platform/WholeFile.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
+
+#include <cmath>
+#include <ostream>
+#include <utility>
+
+namespace quorvantis::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+Repository RepositoryOf(const LearnRequest& request, const PaperStudy& study) {
+  const std::u16string name =
+      request.repository.empty() ? PathToText(request.paper.stem()) : Utf8ToUtf16(request.repository);
+  return {name, study.Rules()};
+}
+
+/// What cannot be added to a file must not be printed for one, either.
+void PrintSection(ExamSession& session, const Repository& repository) {
+  const AddedRepository added = AddRepository({}, repository, session.services.codePage);
+  if (added.refusal != RepositoryRefusal::None)
+    throw CommandError(Utf16ToUtf8(RefusalText(added, repository, session.services.strings)));
+  session.console.out << Utf16ToUtf8(RepositorySection(repository, 0));
+}
+
+void SaveSection(ExamSession& session, const fs::path& file, const Repository& repository) {
+  const SavedRules saved = SaveRules(file, repository, session.services.codePage, session.services.files);
+  if (!saved.AreSaved())
+    throw CommandError(Utf16ToUtf8(WhyNotSaved(saved, file, repository, session.services.strings)));
+}
+
+void WritePaperText(ExamSession& session, const fs::path& file, const Paper& paper) {
+  if (file.empty()) return;
+  if (const auto error = SaveWholeFile(session.services.files, file, Utf16ToUtf8(paper.source.characters)))
+    throw CommandError(file.string() + ": cannot be written: " + error.message());
+}
+
+ImportSettings RulesOf(ExamSession& session, const CheckRequest& request) {
+  const fs::path rules =
+      request.rules.empty() ? FindImportRules(session.services.applicationFolder) : request.rules;
+  ExamImport import(rules, session.services.codePage);
+  import.Open();
+  ScriptedImport answers(session.console);
+  ImportAnswers given;
+  given.document = fs::absolute(request.paper);
+  given.repository = Utf8ToUtf16(request.repository);
+  answers.Prepare(given);
+  answers.AskDocument(import);
+  answers.ThrowIfRefused();
+  return import;
+}
+
+void PrintQuestions(ExamSession& session, const ReadPaper& paper) {
+  StoreQuestions(paper, session.exam, 1);
+  session.exam.CountQuestions();
+  PrintOverview(session.console.out, session.exam);
+}
+
+}  // namespace
+
+void LearnRepository(Console& console, const CommonOptions& options, const LearnRequest& request) {
+  RefuseSameTarget({request.rules, request.text});
+  for (const fs::path& target : {request.rules, request.text}) {
+    RefuseToOverwrite(request.paper, target);
+    RefuseToOverwrite(request.marks, target);
+  }
+  ExamSession session(console, options);
+  if (!request.text.empty())
+    WritePaperText(session, request.text, ReadPaperFile(session, request.paper, true));
+  const PaperStudy study = LearnPaper(session, request.paper, request.marks);
+  const Repository repository = RepositoryOf(request, study);
+  if (request.rules.empty())
+    PrintSection(session, repository);
+  else
+    SaveSection(session, request.rules, repository);
+}
+
+void CheckRepository(Console& console, const CommonOptions& options, const CheckRequest& request) {
+  constexpr double kEnough = 0.9;
+  constexpr double kPercent = 100;
+  ExamSession session(console, options);
+  const ImportSettings rules = RulesOf(session, request);
+  PaperStudy study(ReadPaperFile(session, request.paper, rules.listLabels));
+  study.SetRules(rules);
+  RequireReading(session, request.paper, study);
+  PrintRuleMatches(console.out, study);
+  PrintUntakenLines(console.out, study);
+  PrintQuestions(session, study.Reading().paper);
+  console.out.flush();
+  TellWarnings(session, study);
+  const int percent = static_cast<int>(std::floor(study.Explained() * kPercent));
+  const std::string explained = std::to_string(percent) + " % of its text";
+  if (study.Explained() < kEnough)
+    throw CommandError(request.paper.string() + ": the rules explain only " + explained);
+  console.Tell(request.paper.string() + ": the rules explain " + explained);
+}
+
+}  // namespace quorvantis::cli
