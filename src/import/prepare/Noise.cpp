@@ -1,8 +1,169 @@
 // SPDX-License-Identifier: MIT
+#include "import/labels/LineText.h"
+#include "import/marking/RuleKeys.h"
+#include "import/prepare/NoiseLines.h"
+#include "import/prepare/PageHeads.h"
+#include "import/prepare/PaperOutline.h"
+#include "import/prepare/PaperRewrite.h"
+#include "import/prepare/RuleMatches.h"
+#include "import/prepare/ScoreText.h"
 #include "import/prepare/Steps.h"
 
-namespace quorvantis {
+#include <algorithm>
 
-void step::Noise(PaperText& /*text*/, const PreparationContext& /*context*/) {}
+namespace quorvantis {
+namespace {
+
+/// Finds what of a text is no part of the exam.
+class NoiseSearch {
+ public:
+  NoiseSearch(const PaperText& text, const PreparationContext& context)
+      : text_(text.characters),
+        outline_(OutlineOf(text, context.rules, context.isCancelled)),
+        lines_(LinesOf(text_, {0, text_.size()})),
+        isKept_(lines_.size(), false) {
+    KeepLabels();
+    isNoise_ = FindPageHeads(text_, lines_);
+    FindTitles(context);
+    FindTags();
+    FindFields();
+    FindEnds();
+    KeepOnlyTexts();
+  }
+
+  std::vector<PaperEdit> Edits() {
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+      if (!IsNoise(i)) continue;
+      TextSpan span = lines_[i];
+      while (i + 1 < lines_.size() && IsNoise(i + 1)) span.end = lines_[++i].end;
+      edits_.push_back({WithLineEnd(text_, span), {}});
+    }
+    return std::move(edits_);
+  }
+
+ private:
+  bool IsNoise(std::size_t line) const { return isNoise_[line] && !isKept_[line]; }
+  std::u16string_view Content(std::size_t line) const { return Trimmed(text_, lines_[line]).Of(text_); }
+
+  std::size_t LineAt(std::size_t place) const {
+    const auto after = std::ranges::upper_bound(lines_, place, {}, &TextSpan::begin);
+    return after == lines_.begin() ? 0 : static_cast<std::size_t>(after - lines_.begin()) - 1;
+  }
+
+  void Keep(TextSpan label) {
+    const TextSpan kept = Trimmed(text_, label);
+    if (!kept.IsEmpty()) isKept_[LineAt(kept.begin)] = true;
+  }
+
+  /// Lines with a number, an option or the label of an answer. What is after the heading of the answers is
+  /// no part of any question.
+  void KeepLabels() {
+    for (const OutlinedQuestion& question : outline_.questions) {
+      Keep(question.label);
+      if (question.HasAnswer()) Keep(question.answerLabel);
+      if (!question.options) continue;
+      for (const OptionLabel& option : question.options->labels) Keep(option.label);
+    }
+    if (outline_.answerSection.IsEmpty()) return;
+    for (std::size_t i = LineAt(outline_.answerSection.begin); i < lines_.size(); ++i) isKept_[i] = true;
+  }
+
+  /// The marking would take ten more characters before each title.
+  void FindTitles(const PreparationContext& context) {
+    const TextSpan questions{0, outline_.answerSection.begin};
+    for (const TextSpan& match :
+         MatchesOf(rule_key::kTitle, context.rules.m_strTitle, text_, questions, context.isCancelled)) {
+      const TextSpan title = Trimmed(text_, match);
+      if (title.IsEmpty()) continue;
+      const std::size_t first = LineAt(title.begin);
+      const std::size_t last = LineAt(title.end - 1);
+      const auto isKept = [this](std::size_t line) { return static_cast<bool>(isKept_[line]); };
+      bool touchesLabel = false;
+      for (std::size_t i = first; i <= last; ++i) touchesLabel = touchesLabel || isKept(i);
+      if (touchesLabel) continue;
+      if (BeginsLine(text_, title.begin)) {
+        std::fill(isNoise_.begin() + static_cast<std::ptrdiff_t>(first),
+                  isNoise_.begin() + static_cast<std::ptrdiff_t>(last) + 1, true);
+      } else {
+        edits_.push_back({title, {}});
+      }
+    }
+  }
+
+  void FindTags() {
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+      if (IsTagLine(Content(i))) isNoise_[i] = true;
+    }
+  }
+
+  /// "____/5" by itself may be a fraction to fill in, but not at every other question.
+  void FindFields() {
+    std::vector<std::size_t> bare;
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+      if (!IsScoreField(Content(i))) continue;
+      if (IsFieldWithoutWord(Content(i))) {
+        bare.push_back(i);
+      } else {
+        isNoise_[i] = true;
+      }
+    }
+    if (bare.size() < 2 || bare.size() * 2 < outline_.questions.size()) return;
+    for (const std::size_t line : bare) isNoise_[line] = true;
+  }
+
+  static bool IsFieldWithoutWord(std::u16string_view line) {
+    constexpr std::u16string_view kOfField = u"_＿…./:：()[]（）【】|- 0123456789";
+    return line.find_first_not_of(kOfField) == line.npos;
+  }
+
+  /// Separators and sources at the ends of questions, and separators in front of the first one.
+  void FindEnds() {
+    for (const OutlinedQuestion& question : outline_.questions) {
+      FindEnd(question.whole);
+      if (question.HasAnswer()) FindEnd({question.whole.begin, question.answerLabel.begin});
+    }
+    if (outline_.questions.empty()) return;
+    for (std::size_t i = 0; i < lines_.size() && lines_[i].end <= outline_.front.end; ++i) {
+      if (IsSeparatorLine(Content(i))) isNoise_[i] = true;
+    }
+  }
+
+  void FindEnd(TextSpan question) {
+    const TextSpan kept = Trimmed(text_, question);
+    if (kept.IsEmpty()) return;
+    const std::size_t first = LineAt(kept.begin);
+    for (std::size_t i = LineAt(kept.end - 1); i > first && !isKept_[i]; --i) {
+      const std::u16string_view content = Content(i);
+      if (IsSeparatorLine(content) || IsSourceLine(content)) isNoise_[i] = true;
+      if (!content.empty() && !isNoise_[i]) break;
+    }
+  }
+
+  /// A question that would have no text left keeps it.
+  void KeepOnlyTexts() {
+    for (const OutlinedQuestion& question : outline_.questions) {
+      const TextSpan body = Trimmed(text_, {question.label.end, question.answerLabel.begin});
+      if (body.IsEmpty()) continue;
+      const std::size_t first = LineAt(body.begin);
+      const std::size_t last = LineAt(body.end - 1);
+      bool hasText = false;
+      for (std::size_t i = first; i <= last && !hasText; ++i) hasText = !IsNoise(i) && !Content(i).empty();
+      for (std::size_t i = first; i <= last && !hasText; ++i) isKept_[i] = true;
+    }
+  }
+
+  std::u16string_view text_;
+  PaperOutline outline_;
+  std::vector<TextSpan> lines_;
+  std::vector<bool> isKept_;  ///< lines that must stay
+  std::vector<bool> isNoise_;
+  std::vector<PaperEdit> edits_;
+};
+
+}  // namespace
+
+void step::Noise(PaperText& text, const PreparationContext& context) {
+  ApplyEdits(text, NoiseSearch(text, context).Edits());
+}
 
 }  // namespace quorvantis

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "import/prepare/StepTable.h"
+
+namespace quorvantis::test {
+namespace {
+
+TEST(MixedLetters, AreMendedWithinRunsOfLabels) {
+  constexpr std::u16string_view kRows[][2] = {
+      // Latin "a", Cyrillic "б".
+      {u"1. Кто?|\u0061) я|б) ты|в) он", u"1. Кто?|\u0430) я|б) ты|в) он"},
+      // Cyrillic "А", "В" and "С" before a Latin "D".
+      {u"\u0410. w|\u0412. x|\u0421. y|D. z", u"A. w|B. x|C. y|D. z"},
+      {u"\u0410. w|\u0412. x|\u0421. y", u"A. w|B. x|C. y"},
+      {u"A, w|B. x|C. y|D. z", u"A. w|B. x|C. y|D. z"},
+      {u"A) w|B) x|I am long|C] y", u"A) w|B) x|I am long|C) y"},
+      {u"A w|B. x|C. y", u"A. w|B. x|C. y"},
+      // Nothing to mend, or nothing sure.
+      {u"А. я|Б. ты|В. он", u"А. я|Б. ты|В. он"},
+      {u"A dog barks|A. w|B. x|C. y", u"A dog barks|A. w|B. x|C. y"},
+      {u"\u0410 он пришёл|\u0412 доме", u"\u0410 он пришёл|\u0412 доме"},
+      {u"1, one|2. two|3. three", u"1, one|2. two|3. three"},
+      {u"A. w|B) x", u"A. w|B) x"},
+  };
+  for (const auto& row : kRows) CheckStep({u"MixedLetters", row[0], row[1]});
+}
+
+TEST(Noise, Goes) {
+  constexpr std::u16string_view kRows[][2] = {
+      {u"1. Why?|Page 1 of 2|2. How?|Page 2 of 2|", u"1. Why?|2. How?|"},
+      {u"1. 为什么？|第1页 共4页", u"1. 为什么？"},
+      {u"1. Why?|- 1 -|Biology, class 4|2. How?|- 2 -|Biology, class 4|3. Who?", u"1. Why?|2. How?|3. Who?"},
+      {u"1. Why?|Test 4, page 1|2. How?|Test 4, page 2", u"1. Why?|2. How?"},
+      {u"QuestionID 17|1. Why?|QuestionID 18|2. How?|Answer: so|Difficulty: easy",
+       u"1. Why?|2. How?|Answer: so"},
+      {u"1. Why?|A. x|B. y|(Source: the paper)|2. How?|来源：书", u"1. Why?|A. x|B. y|2. How?"},
+      {u"====|1. Why?|----||2. How?|Marks: ____|3. Who?|得分：", u"1. Why?||2. How?|3. Who?"},
+      {u"1. Why?|____/5|2. How?|____/5", u"1. Why?|2. How?"},
+      {u"1. Why?|Part B: more|2. How?", u"1. Why?|2. How?"},
+      {u"1. Why?\r\nPart B: more", u"1. Why?"},
+      // What must stay.
+      {u"1. 4/10 =|____/5|2. Why?", u"1. 4/10 =|____/5|2. Why?"},
+      {u"1. Add:|12|+ 3|----|what?", u"1. Add:|12|+ 3|----|what?"},
+      {u"1.|Page 3|2. Why?", u"1.|Page 3|2. Why?"},
+      {u"1. Page 3 of 4|2. Why?", u"1. Page 3 of 4|2. Why?"},
+      {u"1. Why?|A. page 1|B. page 2", u"1. Why?|A. page 1|B. page 2"},
+      {u"1. Why?|True|False|2. How?|True|False", u"1. Why?|True|False|2. How?|True|False"},
+      {u"1. Look at page 3 and page 4.|It is on page 3.", u"1. Look at page 3 and page 4.|It is on page 3."},
+      {u"1. Why?|________|........", u"1. Why?|________|........"},
+      {u"1. Why?|Answer key|Page 1 of 2", u"1. Why?|Answer key|Page 1 of 2"},
+  };
+  ImportSettings rules = PlainRules();
+  rules.m_strTitle = u"^Part [A-Z]:[^\\r\\n]*";
+  for (const auto& row : kRows) CheckStep({u"Noise", row[0], row[1]}, rules);
+}
+
+TEST(PlainOptions, GetLabels) {
+  constexpr std::u16string_view kRows[][2] = {
+      {u"1. Who?|he|she|2. Where?|here|there|||Part B",
+       u"1. Who?|⟦A⟧ he|⟦B⟧ she|2. Where?|⟦A⟧ here|⟦B⟧ there|||Part B"},
+      {u"1. Who|- he|- she|2. Where|- here|- there|- -3|3. Why?",
+       u"1. Who|⟦A⟧ he|⟦B⟧ she|2. Where|⟦A⟧ here|⟦B⟧ there|⟦C⟧ -3|3. Why?"},
+      // A sign for the right one stays where a label can have one.
+      {u"1. Who?|☐ he|☑ she|2. Where?|here|*there",
+       u"1. Who?|☐ ⟦A⟧ he|☑ ⟦B⟧ she|2. Where?|⟦A⟧ here|*⟦B⟧ there"},
+      {u"1. It is|big|red|old|2. He is|in|up|out|3. We are|so|no|yes",
+       u"1. It is|⟦A⟧ big|⟦B⟧ red|⟦C⟧ old|2. He is|⟦A⟧ in|⟦B⟧ up|⟦C⟧ out|3. We are|⟦A⟧ so|⟦B⟧ no|⟦C⟧ yes"},
+      {u"1. Who?||he||she||2. It is ___.|Answer: so|3. Where?||here||there|Answer: here",
+       u"1. Who?||⟦A⟧ he||⟦B⟧ she||2. It is ___.|Answer: so|3. Where?||⟦A⟧ here||⟦B⟧ there|Answer: here"},
+      // Essays.
+      {u"1. Why?|It was|so|2. How?|3. Who?", u"1. Why?|It was|so|2. How?|3. Who?"},
+      {u"1. Why?|____|____|2. How?|____|____", u"1. Why?|____|____|2. How?|____|____"},
+      {u"1. Read:|- Hello?|- Hi|2. Read:|- Who?|- He", u"1. Read:|- Hello?|- Hi|2. Read:|- Who?|- He"},
+      {u"1. Who?|A. he|B. she|2. Why?|So", u"1. Who?|A. he|B. she|2. Why?|So"},
+  };
+  for (const auto& row : kRows) CheckStep({u"PlainOptions", row[0], row[1]});
+}
+
+}  // namespace
+}  // namespace quorvantis::test
