@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "import/prepare/OptionMarks.h"
+
+#include "import/labels/LineText.h"
+#include "import/labels/OptionSigns.h"
+#include "import/prepare/AnswerWords.h"
+#include "import/prepare/QuestionKey.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::u16string_view kTicks = u"✓✔√☑✅";
+constexpr std::u16string_view kNoKey = u" -–−○□☐◯◻";
+constexpr std::u16string_view kMarkOpens = u"([（【{";
+constexpr std::u16string_view kMarkCloses = u")]）】}";
+
+constexpr char16_t kEmptyBox = u' ';
+constexpr char16_t kCorrectWord = u'c';
+
+bool IsIn(std::u16string_view units, char16_t unit) {
+  return units.find(unit) != units.npos;
+}
+
+/// The sign of what stands between brackets; 0 if it is something else.
+char16_t SignOfInner(std::u16string_view inner) {
+  if (inner.empty() || inner == u"_") return kEmptyBox;
+  if (IsOptionSign(inner.front()) &&
+      (inner.size() == 1 || inner.substr(1) == std::u16string_view(&kVariationSelector, 1)))
+    return inner.front();
+  return IsWordForCorrect(inner) ? kCorrectWord : u'\0';
+}
+
+/// A mark that ends before `end`: bracketed, or bare. `begin` bounds it.
+OptionMark MarkBefore(std::u16string_view text, std::size_t begin, std::size_t end) {
+  constexpr std::size_t kLongest = 30;
+  std::size_t at = end;
+  while (at > begin && IsBlank(text[at - 1])) --at;
+  const std::size_t last = at;
+  if (at > begin && IsIn(kMarkCloses, text[at - 1])) {
+    std::size_t open = at - 1;
+    while (open > begin && last - open < kLongest && !IsIn(kMarkOpens, text[open - 1]) &&
+           !IsLineEnd(text[open - 1]))
+      --open;
+    if (open == begin || !IsIn(kMarkOpens, text[open - 1])) return {};
+    const char16_t sign = SignOfInner(Trimmed(text, {open, last - 1}).Of(text));
+    return sign == 0 ? OptionMark{} : OptionMark{sign, {open - 1, end}};
+  }
+  while (at > begin && text[at - 1] == kVariationSelector) --at;
+  if (at == begin || !IsOptionSign(text[at - 1])) return {};
+  const char16_t sign = text[at - 1];
+  while (at > begin && text[at - 1] == sign) --at;
+  return {sign, {at, end}};
+}
+
+/// A mark that begins at `begin`.
+OptionMark MarkAfter(std::u16string_view text, std::size_t begin, std::size_t end) {
+  std::size_t at = SkipBlanks(text, begin, end);
+  if (at >= end) return {};
+  if (IsIn(kMarkOpens, text[at])) {
+    const std::size_t close = text.substr(0, end).find_first_of(kMarkCloses, at);
+    if (close == text.npos || close - at > 4) return {};
+    const char16_t sign = SignOfInner(Trimmed(text, {at + 1, close}).Of(text));
+    if (sign == 0) return {};
+    return {sign, {begin, SkipBlanks(text, close + 1, end)}};
+  }
+  const char16_t sign = text[at];
+  if (!IsOptionSign(sign)) return {};
+  while (at < end && (text[at] == sign || text[at] == kVariationSelector)) ++at;
+  // "-5" and "XVI" are texts.
+  if (MeaningOf(sign) != SignMeaning::Right && at < end && !IsBlank(text[at]) && !IsIn(u"*＊●■★○□☐☒◯◉", sign))
+    return {};
+  return {sign, {begin, SkipBlanks(text, at, end)}};
+}
+
+/// A mark at the end of a text must be set off, unless nothing else looks like it.
+OptionMark MarkAtEnd(std::u16string_view text, TextSpan line) {
+  OptionMark mark = MarkBefore(text, line.begin, line.end);
+  if (mark.sign == 0 || mark.sign == kEmptyBox || mark.span.begin == line.begin) return {};
+  const bool isSetOff = IsBlank(text[mark.span.begin - 1]);
+  if (!isSetOff && MeaningOf(mark.sign) == SignMeaning::Possible) return {};
+  if (MeaningOf(mark.sign) == SignMeaning::None) return {};
+  while (mark.span.begin > line.begin && IsBlank(text[mark.span.begin - 1])) --mark.span.begin;
+  return mark;
+}
+
+}  // namespace
+
+SignMeaning MeaningOf(char16_t sign) {
+  if (sign == kCorrectWord || IsIn(kTicks, sign)) return SignMeaning::Right;
+  if (IsIn(kNoKey, sign)) return SignMeaning::None;
+  if (IsIn(kRightSigns, sign) && !IsIn(u"✗✘☒→⇒►▶", sign)) return SignMeaning::Likely;
+  return SignMeaning::Possible;
+}
+
+OptionMark MarkOf(std::u16string_view text, const OptionLabel& option, std::size_t begin, MarkPlace place) {
+  if (place == MarkPlace::Behind) return MarkAfter(text, option.label.end, option.text.end);
+  if (place == MarkPlace::AtEnd) return MarkAtEnd(text, FirstLineOf(text, option.text));
+  const std::size_t from = std::max(begin, LineBeginBefore(text, option.label.begin));
+  OptionMark mark = MarkBefore(text, from, option.label.begin);
+  // Within a line only what is set off from the option before belongs to this one.
+  const bool isSetOff = mark.span.begin == from || (mark.sign != 0 && IsBlank(text[mark.span.begin - 1]));
+  return isSetOff ? mark : OptionMark{};
+}
+
+std::vector<OptionMark> MarksOf(std::u16string_view text, const OutlinedQuestion& question, MarkPlace place) {
+  std::vector<OptionMark> marks;
+  std::size_t begin = question.label.end;
+  for (const OptionLabel& option : question.options->labels) {
+    marks.push_back(MarkOf(text, option, begin, place));
+    begin = option.label.end;
+  }
+  return marks;
+}
+
+}  // namespace quorvantis
