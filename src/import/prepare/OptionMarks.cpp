@@ -12,7 +12,9 @@ namespace quorvantis {
 namespace {
 
 constexpr std::u16string_view kTicks = u"✓✔√☑✅";
-constexpr std::u16string_view kNoKey = u" -–−○□☐◯◻";
+constexpr std::u16string_view kMinus = u"-–−";
+constexpr std::u16string_view kEmptyShapes = u" ○□☐◯◻";
+constexpr std::u16string_view kCrosses = u"✗✘☒";
 constexpr std::u16string_view kMarkOpens = u"([（【{";
 constexpr std::u16string_view kMarkCloses = u")]）】}";
 
@@ -68,9 +70,11 @@ OptionMark MarkAfter(std::u16string_view text, std::size_t begin, std::size_t en
   const char16_t sign = text[at];
   if (!IsOptionSign(sign)) return {};
   while (at < end && (text[at] == sign || text[at] == kVariationSelector)) ++at;
-  // "-5" and "XVI" are texts.
-  if (MeaningOf(sign) != SignMeaning::Right && at < end && !IsBlank(text[at]) && !IsIn(u"*＊●■★○□☐☒◯◉", sign))
-    return {};
+  // "-5", "XVI" and "x = 3" are texts; only a plus or a minus may stand there without brackets.
+  const bool isPossible = MeaningOf(sign) == SignMeaning::Possible;
+  if (isPossible && sign != u'+') return {};
+  const bool needsBlank = isPossible || IsIn(kMinus, sign);
+  if (needsBlank && at < end && !IsBlank(text[at])) return {};
   return {sign, {begin, SkipBlanks(text, at, end)}};
 }
 
@@ -79,7 +83,9 @@ OptionMark MarkAtEnd(std::u16string_view text, TextSpan line) {
   OptionMark mark = MarkBefore(text, line.begin, line.end);
   if (mark.sign == 0 || mark.sign == kEmptyBox || mark.span.begin == line.begin) return {};
   const bool isSetOff = IsBlank(text[mark.span.begin - 1]);
-  if (!isSetOff && MeaningOf(mark.sign) == SignMeaning::Possible) return {};
+  const bool isBracketed = IsIn(kMarkOpens, text[mark.span.begin]);
+  // "O+", "f(x)" and "Malcolm X" are texts.
+  if (MeaningOf(mark.sign) == SignMeaning::Possible && !(isSetOff && isBracketed)) return {};
   if (MeaningOf(mark.sign) == SignMeaning::None) return {};
   while (mark.span.begin > line.begin && IsBlank(text[mark.span.begin - 1])) --mark.span.begin;
   return mark;
@@ -89,9 +95,15 @@ OptionMark MarkAtEnd(std::u16string_view text, TextSpan line) {
 
 SignMeaning MeaningOf(char16_t sign) {
   if (sign == kCorrectWord || IsIn(kTicks, sign)) return SignMeaning::Right;
-  if (IsIn(kNoKey, sign)) return SignMeaning::None;
+  if (IsIn(kMinus, sign) || IsIn(kEmptyShapes, sign)) return SignMeaning::None;
   if (IsIn(kRightSigns, sign) && !IsIn(u"✗✘☒→⇒►▶", sign)) return SignMeaning::Likely;
   return SignMeaning::Possible;
+}
+
+bool IsOpposite(char16_t sign, char16_t right) {
+  if (IsIn(kMinus, sign)) return right == u'+';
+  if (IsIn(kCrosses, sign)) return MeaningOf(right) == SignMeaning::Right;
+  return sign != 0 && IsIn(kEmptyShapes, sign);
 }
 
 OptionMark MarkOf(std::u16string_view text, const OptionLabel& option, std::size_t begin, MarkPlace place) {

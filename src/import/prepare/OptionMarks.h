@@ -35,4 +35,7 @@ enum class SignMeaning {
 
 SignMeaning MeaningOf(char16_t sign);
 
+/// Whether a sign is what wrong options have where `right` is at the right ones.
+bool IsOpposite(char16_t sign, char16_t right);
+
 }  // namespace quorvantis

@@ -28,9 +28,8 @@ std::vector<std::size_t> SignedOptions(const std::vector<OptionMark>& marks, cha
 
 /// Whether the options without the sign have one that means the opposite, as "-" beside "+".
 bool AreOthersSigned(const std::vector<OptionMark>& marks, char16_t sign) {
-  return std::ranges::all_of(marks, [sign](const OptionMark& mark) {
-    return mark.sign == sign || (mark.sign != 0 && MeaningOf(mark.sign) == SignMeaning::None);
-  });
+  return std::ranges::all_of(
+      marks, [sign](const OptionMark& mark) { return mark.sign == sign || IsOpposite(mark.sign, sign); });
 }
 
 bool IsSignedKey(const std::vector<OptionMark>& marks, char16_t sign) {
@@ -57,7 +56,7 @@ class SignHabits {
       for (const MarkPlace place : kMarkPlaces) Count(place, MarksOf(text, question, place));
     }
     for (const auto& [scheme, count] : counts_) {
-      if (IsHabit(scheme.sign, count)) schemes_.push_back(scheme);
+      if (IsHabit(scheme, count)) schemes_.push_back(scheme);
     }
     std::ranges::stable_sort(schemes_, [this](const SignScheme& one, const SignScheme& other) {
       return counts_[one].keys > counts_[other].keys;
@@ -82,16 +81,16 @@ class SignHabits {
     }
   }
 
-  bool IsHabit(char16_t sign, const SchemeCount& count) const {
+  bool IsHabit(const SignScheme& scheme, const SchemeCount& count) const {
     if (count.keys == 0 || count.decorated * 5 > count.keys) return false;
-    switch (MeaningOf(sign)) {
+    switch (MeaningOf(scheme.sign)) {
       case SignMeaning::Right:
         return true;
       case SignMeaning::Likely:
         return count.keys * 3 >= choices_;
       default:
-        return count.keys * 2 >= choices_ &&
-               (sign != u'+' || count.paired * 2 >= count.keys || count.keys > 1);
+        // A plus at an option is a key only beside a minus at each other one.
+        return count.keys * 2 >= choices_ && (scheme.sign != u'+' || count.paired == count.keys);
     }
   }
 
@@ -107,8 +106,7 @@ std::vector<std::size_t> TakeSigns(std::u16string_view text, const OutlinedQuest
     const std::vector<OptionMark> marks = MarksOf(text, question, scheme.place);
     if (!IsSignedKey(marks, scheme.sign)) continue;
     for (const OptionMark& mark : marks) {
-      const bool isOpposite = mark.sign != 0 && MeaningOf(mark.sign) != SignMeaning::Likely;
-      if (mark.sign != scheme.sign && !isOpposite) continue;
+      if (mark.sign != scheme.sign && !IsOpposite(mark.sign, scheme.sign)) continue;
       const bool stays = scheme.place == MarkPlace::Behind;
       edits.push_back({mark.span, stays ? InsertedText(u" ") : PaperText{}});
     }

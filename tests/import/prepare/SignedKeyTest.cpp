@@ -34,6 +34,7 @@ constexpr SignCase kSigns[] = {
     {"a heading behind", u"1. One?\nA. ant\nB. bee\nC. cat ✓\n\nPart Two\n2. Two?\nA. ant ✓\nB. bee\n",
      u"1. One?\nA. ant\nB. bee\nC. cat\n\nPart Two\n⟦=⟧ C\n2. Two?\nA. ant\nB. bee\n⟦=⟧ A\n"},
     {"decoration", u"1. One?\n* A. ant\n* B. bee\n2. Two?\n* A. ant\n* B. bee\n", u""},
+    {"texts", u"1. One?\nA. x = 3\nB. X rays\nC. O+\n2. Two?\nA. - 5\nB. + 5\nC. f (x\n", u""},
     {"bullets", u"1. One?\n- A. ant\n- B. bee\n2. Two?\n- A. ant\n- B. bee\n", u""},
     {"products", u"1. One?\nA. 2*3\nB. 4*5\n2. Two?\nA. 2*3 * 4\nB. 4*5\n", u""},
     {"one star in many", u"1. O?\nA. a*\nB. b\n2. T?\nA. a\nB. b\n3. T?\nA. a\nB. b\n4. F?\nA. a\nB. b\n",
