@@ -24,6 +24,7 @@ class BlankSearch {
   BlankSearch(const PaperText& text, TextSpan line, bool isFirst)
       : paper_(text), text_(text.characters), line_(line), isFirst_(isFirst) {
     content_ = Trimmed(text_, line);
+    start_ = AfterRun(content_.begin, u"_ ");
     hasTickBoxes_ = HasTwoOf(u"( )") || HasTwoOf(u"[ ]");
   }
 
@@ -59,6 +60,9 @@ class BlankSearch {
   char16_t At(std::size_t at) const { return at >= line_.begin && at < line_.end ? text_[at] : u'\0'; }
   char16_t Before(std::size_t at) const { return at > line_.begin ? text_[at - 1] : u'\0'; }
 
+  /// Where boxes to tick stand; the first line of a question has its number there.
+  bool IsAtStart(std::size_t at) const { return at <= start_ && !isFirst_; }
+
   std::size_t AfterRun(std::size_t at, std::u16string_view units) const {
     while (at < line_.end && units.find(text_[at]) != units.npos) ++at;
     return at;
@@ -80,7 +84,7 @@ class BlankSearch {
     if (closeKind == kCloses.npos || closeKind % 2 != kind % 2) return at;
     const std::size_t size = close - at - 1;
     if (size == 0 && kind < kNarrow) return at;
-    if (at == content_.begin && !isFirst_) return at;
+    if (IsAtStart(at)) return at;
     if (size == 1 && kind < kNarrow && (IsAlphabetic(Before(at)) || IsTickBox(close + 1))) return at;
     return close + 1;
   }
@@ -153,7 +157,7 @@ class BlankSearch {
     if (end - at > 1) return end;
     const char16_t next = At(SkipBlanks(text_, end, line_.end));
     const bool isToTick = IsLetter(next) && !IsChinese(next);
-    return (at == content_.begin && !isFirst_) || isToTick || IsChinese(next) ? at : end;
+    return IsAtStart(at) || isToTick || IsChinese(next) ? at : end;
   }
 
   bool IsUnderlined(std::size_t at) const {
@@ -207,8 +211,9 @@ class BlankSearch {
   const PaperText& paper_;
   std::u16string_view text_;
   TextSpan line_;
-  TextSpan content_;  ///< without blanks at its ends
-  bool isFirst_;      ///< it begins behind the number
+  TextSpan content_;       ///< without blanks at its ends
+  bool isFirst_;           ///< it begins behind the number
+  std::size_t start_ = 0;  ///< of what is neither blank nor "___"
   bool hasTickBoxes_ = false;
 };
 

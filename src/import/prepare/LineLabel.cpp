@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/labels/OptionSequence.h"
 #include "import/labels/OptionSigns.h"
+#include "import/prepare/LineWords.h"
 
 #include <algorithm>
 
@@ -12,7 +13,9 @@ namespace {
 
 /// In its alphabet, or in the looks of another one's.
 bool CanLabel(char16_t unit) {
+  constexpr char16_t kFirstWithoutLooks = 0x0530;  // Latin, Greek and Cyrillic letters come before it
   if (!AlphabetLettersOf(unit).empty()) return true;
+  if (unit >= kFirstWithoutLooks || !IsLetter(unit)) return false;
   return std::ranges::any_of(OptionAlphabets(), [unit](const OptionAlphabet& alphabet) {
     return IndexInAlphabet(alphabet, unit) < alphabet.letters.size();
   });

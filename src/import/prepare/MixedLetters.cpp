@@ -45,10 +45,16 @@ class LetterMending {
     return label.close.IsEmpty() ? u'\0' : text_[label.close.begin];
   }
 
+  static bool CanBegin(char16_t letter, const OptionAlphabet& alphabet) {
+    return letter == alphabet.letters[0] || (!alphabet.others.empty() && letter == alphabet.others[0]) ||
+           LookAlike(letter, alphabet.letters[0]);
+  }
+
   LookAlikeRun BestFrom(std::size_t first) const {
     LookAlikeRun best;
     for (const OptionAlphabet& alphabet : OptionAlphabets()) {
       if (alphabet.isSymbol || DigitValue(alphabet.letters[0]) >= 0) continue;
+      if (!CanBegin(LetterOf(labels_[first]), alphabet)) continue;
       LookAlikeRun run = RunFrom(first, alphabet);
       if (run.IsBetterThan(best)) best = std::move(run);
     }
@@ -56,17 +62,19 @@ class LetterMending {
   }
 
   LookAlikeRun RunFrom(std::size_t first, const OptionAlphabet& alphabet) const {
+    constexpr std::size_t kMostBetween = 3;  // lines within an option that begin with a word of one letter
     LookAlikeRun run{&alphabet, {}, 0};
+    std::size_t between = 0;
     for (std::size_t i = first; i < labels_.size(); ++i) {
       const LineLabel& label = labels_[i];
       const char16_t letter = LetterOf(label);
       const bool fits = IndexInAlphabet(alphabet, letter) == run.labels.size() &&
                         label.open == labels_[first].open && run.labels.size() < alphabet.letters.size();
       if (!fits) {
-        // The second line of an option may begin with a word of one letter.
-        if (label.close.IsEmpty() && !run.labels.empty()) continue;
+        if (label.close.IsEmpty() && !run.labels.empty() && ++between <= kMostBetween) continue;
         break;
       }
+      between = 0;
       run.labels.push_back(label);
       if (alphabet.letters.find(letter) != alphabet.letters.npos ||
           (letter != u' ' && alphabet.others.find(letter) != alphabet.others.npos))

@@ -17,7 +17,7 @@ inline ImportSettings PlainRules() {
   return rules;
 }
 
-inline PaperText AfterStep(std::u16string_view step, const Paper& paper, ImportSettings rules,
+inline PaperText AfterStep(std::u16string_view step, const Paper& paper, const ImportSettings& rules,
                            PaperText text) {
   const CancelHook never;
   const PreparationContext context{paper, rules, never};
