@@ -91,6 +91,25 @@ OptionMark MarkAtEnd(std::u16string_view text, TextSpan line) {
   return mark;
 }
 
+/// How wide blanks look.
+std::size_t WidthOf(std::u16string_view text, TextSpan blanks) {
+  constexpr std::size_t kTabWidth = 8;
+  std::size_t width = 0;
+  for (const char16_t unit : blanks.Of(text)) width += unit == u'\t' ? kTabWidth : unit == u'\u3000' ? 2 : 1;
+  return width;
+}
+
+/// A mark at the end of an option, whose text may go up to the next option in the same line.
+OptionMark MarkBetween(std::u16string_view text, TextSpan option) {
+  const TextSpan line = FirstLineOf(text, option);
+  const OptionMark mark = MarkAtEnd(text, line);
+  if (mark.sign == 0 || SkipBlanks(text, line.end, option.end) < option.end || line.end == option.end)
+    return mark;
+  const std::size_t sign = SkipBlanks(text, mark.span.begin, line.end);
+  const bool isCloser = WidthOf(text, {mark.span.begin, sign}) < WidthOf(text, {line.end, option.end});
+  return isCloser ? mark : OptionMark{};
+}
+
 }  // namespace
 
 SignMeaning MeaningOf(char16_t sign) {
@@ -106,22 +125,30 @@ bool IsOpposite(char16_t sign, char16_t right) {
   return sign != 0 && IsIn(kEmptyShapes, sign);
 }
 
-OptionMark MarkOf(std::u16string_view text, const OptionLabel& option, std::size_t begin, MarkPlace place) {
+OptionMark MarkOf(std::u16string_view text, const OptionLabel& option, TextSpan between, MarkPlace place) {
   if (place == MarkPlace::Behind) return MarkAfter(text, option.label.end, option.text.end);
-  if (place == MarkPlace::AtEnd) return MarkAtEnd(text, FirstLineOf(text, option.text));
-  const std::size_t from = std::max(begin, LineBeginBefore(text, option.label.begin));
+  if (place == MarkPlace::AtEnd) return MarkBetween(text, {option.label.end, between.end});
+  const std::size_t lineBegin = LineBeginBefore(text, option.label.begin);
+  const std::size_t from = std::max(between.begin, lineBegin);
   OptionMark mark = MarkBefore(text, from, option.label.begin);
-  // Within a line only what is set off from the option before belongs to this one.
-  const bool isSetOff = mark.span.begin == from || (mark.sign != 0 && IsBlank(text[mark.span.begin - 1]));
-  return isSetOff ? mark : OptionMark{};
+  if (mark.sign == 0) return {};
+  std::size_t signEnd = mark.span.end;
+  while (IsBlank(text[signEnd - 1]) && signEnd > mark.span.begin + 1) --signEnd;
+  std::size_t before = mark.span.begin;
+  while (before > from && IsBlank(text[before - 1])) --before;
+  // Within a line a sign belongs to the option that it is closer to.
+  const bool isCloser =
+      before == from || WidthOf(text, {before, mark.span.begin}) > WidthOf(text, {signEnd, mark.span.end});
+  return isCloser ? mark : OptionMark{};
 }
 
 std::vector<OptionMark> MarksOf(std::u16string_view text, const OutlinedQuestion& question, MarkPlace place) {
   std::vector<OptionMark> marks;
-  std::size_t begin = question.label.end;
-  for (const OptionLabel& option : question.options->labels) {
-    marks.push_back(MarkOf(text, option, begin, place));
-    begin = option.label.end;
+  const std::vector<OptionLabel>& labels = question.options->labels;
+  for (std::size_t i = 0; i < labels.size(); ++i) {
+    const std::size_t begin = i == 0 ? question.label.end : labels[i - 1].label.end;
+    const std::size_t end = i + 1 < labels.size() ? labels[i + 1].label.begin : labels[i].text.end;
+    marks.push_back(MarkOf(text, labels[i], {begin, end}, place));
   }
   return marks;
 }

@@ -19,8 +19,9 @@ struct OptionMark {
   TextSpan span{};    ///< all that belongs to it: brackets, and the blanks that set it off
 };
 
-/// What stands at one place of an option. `begin` is where the text before the option ends.
-OptionMark MarkOf(std::u16string_view text, const OptionLabel& option, std::size_t begin, MarkPlace place);
+/// What stands at one place of an option. `between` are the ends of the label before and the begin of the one
+/// behind.
+OptionMark MarkOf(std::u16string_view text, const OptionLabel& option, TextSpan between, MarkPlace place);
 
 /// What stands at one place of all options of a question.
 std::vector<OptionMark> MarksOf(std::u16string_view text, const OutlinedQuestion& question, MarkPlace place);
