@@ -24,10 +24,10 @@ std::vector<TextSpan> CellsOf(std::u16string_view text, TextSpan line, bool hasT
   return cells;
 }
 
-/// The number that a cell consists of, "3" or "3."; 0 if it is anything else.
-int NumberOfCell(std::u16string_view text, TextSpan cell) {
+/// The number that a cell consists of, "3" or "3."; its value is 0 if it is anything else.
+KeyNumber NumberInCell(std::u16string_view text, TextSpan cell) {
   const auto number = KeyNumberAt(text, cell.begin, cell.end);
-  return number && number->place.end == cell.end ? number->value : 0;
+  return number && number->place.end == cell.end ? *number : KeyNumber{};
 }
 
 /// Texts of several answers in one line: "11. oxygen  12. water".
@@ -118,13 +118,18 @@ bool KeyLineReader::ReadNumberRow(TextSpan line) {
   const std::vector<TextSpan> cells = CellsOf(text_, line, hasTabs_);
   std::vector<int> numbers;
   int last = 0;
+  int withDots = 0;
+  int bare = 0;
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    const int number = NumberOfCell(text_, cells[i]);
-    const bool isLabel = i == 0 && number == 0;
-    if (!isLabel && !cells[i].IsEmpty() && number <= last) return false;
-    last = std::max(last, number);
-    numbers.push_back(number);
+    const KeyNumber number = NumberInCell(text_, cells[i]);
+    const bool isLabel = i == 0 && number.value == 0;
+    if (!isLabel && !cells[i].IsEmpty() && number.value <= last) return false;
+    if (number.value > 0) ++(number.isSetOff ? withDots : bare);
+    last = std::max(last, number.value);
+    numbers.push_back(number.value);
   }
+  // "7. 42" is a number and an answer.
+  if (withDots > 0 && bare > 0) return false;
   if (std::ranges::count_if(numbers, [](int number) { return number > 0; }) < 2) return false;
   numbers_ = std::move(numbers);
   return true;
