@@ -2,12 +2,12 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show build unpack preview print score export edit recover import languages match"
+  local commands="show build unpack preview print score export edit recover import rules languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
       --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch | \
-        --rules | --repository | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses)
+        --rules | --repository | --marks | --ini | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses)
         ((++i)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
@@ -24,6 +24,7 @@ _quorvantis_cli() {
   elif [ "$previous" = --into ]; then
     mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word")
   elif [ "$previous" = --rules ] || [ "$previous" = --marked ] || [ "$command $previous" = "import --text" ] ||
+    [ "$command $previous" = "rules --text" ] || [ "$previous" = --ini ] || [ "$previous" = --marks ] ||
     [ "$previous" = --text-file ] || [ "$previous" = --batch ] || [ "$previous" = --responses ]; then
     mapfile -t COMPREPLY < <(compgen -f -- "$word")
   elif [[ $word == -* ]]; then
@@ -34,7 +35,8 @@ _quorvantis_cli() {
       preview) options+=" --student --responses" ;;
       print) options+=" --after-preview" ;;
       score) options+=" --mode --end --value" ;;
-      import) options+=" --rules --repository --into --after --answer-pictures --formulas --mend-line-ends --marked --text" ;;
+      import) options+=" --rules --repository --learn --marks --into --after --answer-pictures --formulas --mend-line-ends --marked --text" ;;
+      rules) options+=" --repository --rules --marks --ini --text" ;;
       match) options+=" --flags --start --text --text-file --batch" ;;
       edit) options+=" --recovery" ;;
     esac
@@ -47,7 +49,8 @@ _quorvantis_cli() {
       build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
       unpack:1 | preview:1 | print:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;
-      import:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|md|doc|docx|odt|rtf)$') ;;
+      rules:0) mapfile -t COMPREPLY < <(compgen -W "learn check" -- "$word") ;;
+      import:0 | rules:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|md|doc|docx|odt|rtf)$') ;;
       edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     esac
   fi

@@ -15,6 +15,9 @@
 namespace quorvantis::cli {
 namespace {
 
+/// In UTF-16 units: many times what any exam holds. Larger texts would take minutes.
+constexpr std::size_t kMostStudied = 3'000'000;
+
 void TellLearned(ExamSession& session, const PaperStudy& study) {
   const StringTable& strings = session.services.strings;
   for (const std::u16string& line : LearnedLines(study.Learned(), strings))
@@ -34,6 +37,11 @@ Paper ReadPaperFile(ExamSession& session, const std::filesystem::path& paper, bo
   PaperFile opened = OpenPaper(session.papers, paper, {}, listLabels);
   if (opened.result != WordResult::Done)
     throw CommandError(Utf16ToUtf8(DocumentFailureText(opened.result, paper, session.services.strings)));
+  const std::size_t size = opened.paper.source.Size();
+  if (size > kMostStudied) {
+    throw CommandError(paper.string() + ": has " + std::to_string(size) + " characters; at most " +
+                       std::to_string(kMostStudied) + " can be studied. Split it");
+  }
   return std::move(opened.paper);
 }
 
