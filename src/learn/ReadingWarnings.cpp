@@ -4,11 +4,13 @@
 #include "import/labels/LineText.h"
 #include "import/labels/OptionSequence.h"
 #include "import/marking/ImportMarkers.h"
+#include "import/prepare/KeyReports.h"
 #include "learn/PaperNumbers.h"
 #include "learn/VisibleKey.h"
 #include "model/AnswerLetters.h"
 #include "model/ExamFields.h"
 #include "platform/TextNumbers.h"
+#include "text/AsciiCase.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
@@ -45,14 +47,19 @@ std::u16string Excerpt(std::u16string_view text) {
 /// Looks at one reading.
 class WarningSearch {
  public:
-  WarningSearch(const Paper& paper, const PaperReading& reading)
-      : paper_(paper), marked_(reading.marked.text), reading_(reading), questions_(reading.paper.questions) {}
+  WarningSearch(const Paper& paper, const ImportSettings& rules, const PaperReading& reading)
+      : paper_(paper),
+        rules_(rules),
+        marked_(reading.marked.text),
+        reading_(reading),
+        questions_(reading.paper.questions) {}
 
   std::vector<ReadingWarning> Warnings() {
     for (const DroppedPart& part : reading_.paper.dropped) Add({Kind::NotRead, -1, 0, part.text});
     if (questions_.size() > static_cast<std::size_t>(kMaxQuestions))
       Add({Kind::TooManyQuestions, -1, static_cast<int>(questions_.size())});
     LookAtNumbers();
+    LookAtKeyAtEnd();
     usual_ = UsualOptions();
     hasKeys_ = std::ranges::any_of(questions_, [](const ReadQuestion& question) {
       return question.kind == ReadKind::Choice && !question.letters.empty();
@@ -95,6 +102,24 @@ class WarningSearch {
       if (last > 0 && step == 0) Add({Kind::NumberAgain, number.question, number.value});
       if (last > 0 && step > 1 && step <= kLargestGap) Add({Kind::NumberMissing, number.question, last + 1});
       last = number.value;
+    }
+  }
+
+  /// The step for it leaves alone what is not clear.
+  void LookAtKeyAtEnd() {
+    const bool isUsed = std::ranges::any_of(rules_.prepare, [](const std::u16string& step) {
+      return EqualsIgnoringAsciiCase(step, u"KeyAtEnd");
+    });
+    if (!isUsed) return;
+    try {
+      if (HasUnmatchedKey(paper_, rules_, {})) Add({Kind::KeyUnmatched});
+      for (const KeyConflict& conflict : KeyConflicts(paper_, rules_, {})) {
+        if (conflict.question >= questions_.size()) continue;
+        Add({Kind::TwoAnswers, static_cast<int>(conflict.question), 0,
+             Excerpt(conflict.own) + u" / " + Excerpt(conflict.atEnd)});
+      }
+    } catch (const ImportFailure&) {
+      return;  // the reading has succeeded, so this is for lack of memory alone
     }
   }
 
@@ -215,6 +240,7 @@ class WarningSearch {
   }
 
   const Paper& paper_;
+  const ImportSettings& rules_;
   std::u16string_view marked_;
   const PaperReading& reading_;
   const std::vector<ReadQuestion>& questions_;
@@ -242,15 +268,16 @@ constexpr std::array kKindTexts = {
     KindText{Kind::TooLongText, text_id::kWarnTooLongText},
     KindText{Kind::TwoAnswers, text_id::kWarnTwoAnswers},
     KindText{Kind::NotRead, text_id::kWarnNotRead},
+    KindText{Kind::KeyUnmatched, text_id::kWarnKeyUnmatched},
     KindText{Kind::TooManyQuestions, text_id::kWarnTooManyQuestions},
 };
 
 }  // namespace
 
-std::vector<ReadingWarning> WarningsOf(const Paper& paper, const ImportSettings& /*rules*/,
+std::vector<ReadingWarning> WarningsOf(const Paper& paper, const ImportSettings& rules,
                                        const PaperReading& reading) {
   if (reading.HasFailed()) return {};
-  return WarningSearch(paper, reading).Warnings();
+  return WarningSearch(paper, rules, reading).Warnings();
 }
 
 std::u16string WarningText(const ReadingWarning& warning, const StringTable& strings) {

@@ -25,6 +25,7 @@ struct ReadingWarning {
     TooLongText,       ///< a text is longer than its field
     TwoAnswers,        ///< an own answer and one at the end that differ; `text` names both
     NotRead,           ///< a part of the paper became no question; `text` is its beginning
+    KeyUnmatched,      ///< the answers at the end belong to no questions by their numbers; about the paper
     TooManyQuestions,  ///< `number` questions; an exam takes 500
   };
   Kind kind = Kind::NoKey;

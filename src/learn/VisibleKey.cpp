@@ -4,37 +4,14 @@
 #include "import/labels/LineText.h"
 #include "import/labels/OptionSigns.h"
 #include "import/marking/ImportMarkers.h"
+#include "import/prepare/AnswerWords.h"
 #include "import/prepare/PreparedLabels.h"
 #include "model/AnswerLetters.h"
-#include "text/AsciiCase.h"
 
 #include <algorithm>
 
 namespace quorvantis {
 namespace {
-
-/// Words that teachers put before an answer.
-constexpr std::u16string_view kAnswerWords[] = {
-    u"Answer",
-    u"Ans",
-    u"Correct answer",
-    u"Key",
-    u"Antwort",
-    u"L\u00F6sung",
-    u"R\u00E9ponse",
-    u"Respuesta",
-    u"Risposta",
-    u"Resposta",
-    u"Gabarito",
-    u"\u7B54\u6848",                                            // Chinese
-    u"\u6B63\u786E\u7B54\u6848",                                // Chinese
-    u"\u6B63\u89E3",                                            // Japanese
-    u"\uC815\uB2F5",                                            // Korean
-    u"\u041E\u0442\u0432\u0435\u0442",                          // Russian
-    u"\u0412\u0456\u0434\u043F\u043E\u0432\u0456\u0434\u044C",  // Ukrainian
-    u"\u0627\u0644\u0625\u062C\u0627\u0628\u0629",              // Arabic
-    u"\u0627\u0644\u062C\u0648\u0627\u0628",                    // Arabic
-};
 
 constexpr std::u16string_view kOpens = u"(\uFF08[\u3010";
 constexpr std::u16string_view kCloses = u")\uFF09]\u3011";
@@ -71,16 +48,13 @@ std::u16string KeyInBrackets(const ReadQuestion& question) {
 
 /// A line that begins with the label of an answer.
 std::u16string LabelledAnswer(std::u16string_view text) {
+  constexpr std::u16string_view kLabelEnds = u":\uFF1A\u3011]";
   for (const TextSpan& line : LinesOf(text, {0, text.size()})) {
-    std::size_t begin = SkipBlanks(text, line.begin, line.end);
-    if (begin < line.end && kOpens.find(text[begin]) != kOpens.npos) ++begin;
-    for (const std::u16string_view word : kAnswerWords) {
-      const bool isHere = EqualsIgnoringAsciiCase(text.substr(begin, word.size()), word);
-      const std::size_t after = SkipBlanks(text, begin + (isHere ? word.size() : 0), line.end);
-      constexpr std::u16string_view kAfter = u":\uFF1A.=\u3011]";
-      if (isHere && after < line.end && kAfter.find(text[after]) != kAfter.npos)
-        return ExcerptAt(text, begin);
-    }
+    const std::size_t begin = SkipBlanks(text, line.begin, line.end);
+    const std::u16string_view rest = TextSpan{begin, line.end}.Of(text);
+    const std::u16string_view lead = rest.substr(0, AnswerLeadSize(rest));
+    if (lead.find_first_of(kLabelEnds) != lead.npos && lead.size() < rest.size())
+      return ExcerptAt(text, begin);
   }
   return {};
 }

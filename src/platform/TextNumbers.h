@@ -454,6 +454,7 @@ constexpr int kWarnTooLongText = 1770;
 constexpr int kWarnTwoAnswers = 1771;
 constexpr int kWarnNotRead = 1772;  // %1 is its beginning
 constexpr int kWarnTooManyQuestions = 1773;
+constexpr int kWarnKeyUnmatched = 1774;
 
 // What a part of a paper is.
 constexpr int kRoleNone = 1776;

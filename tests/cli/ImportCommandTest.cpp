@@ -92,7 +92,15 @@ TEST_F(ImportCommand, ReadsTheSamplePapers) {
               {"中文，答案在题后", "chinese-own-answers.txt",
                "5 questions read: 2 choice, 0 true/false, 2 fill-in, 1 essay.\n"},
               {"中文，答案在卷末", "chinese-answer-key.txt",
-               "5 questions read: 2 choice, 3 true/false, 0 fill-in, 0 essay.\n"}};
+               "5 questions read: 2 choice, 3 true/false, 0 fill-in, 0 essay.\n"},
+              {"Automatic numbers", "automatic-numbers.docx",
+               "8 questions read: 8 choice, 0 true/false, 0 fill-in, 0 essay.\n"},
+              {"Options in one line", "options-in-one-line.txt",
+               "5 questions read: 4 choice, 0 true/false, 0 fill-in, 1 essay.\n"},
+              {"Questions without answers", "no-answers.txt",
+               "5 questions read: 3 choice, 0 true/false, 1 fill-in, 1 essay.\n"},
+              {"分大题的中文试卷", "chinese-parts.txt",
+               "5 questions read: 3 choice, 0 true/false, 2 fill-in, 0 essay.\n"}};
   for (const auto& row : rows) {
     const RunResult run = Command({"import", (papers / row.paper).string(), Path("exam.exm"), "--rules",
                                    (papers / "ImportExam.ini").string(), "--repository", row.repository});
