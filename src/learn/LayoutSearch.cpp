@@ -20,6 +20,7 @@ constexpr std::u16string_view kUnnumbered = u"Unnumbered";
 constexpr std::u16string_view kPlainOptions = u"PlainOptions";
 constexpr std::u16string_view kMixedLetters = u"MixedLetters";
 constexpr std::u16string_view kNoise = u"Noise";
+constexpr std::u16string_view kKeyAtEnd = u"KeyAtEnd";
 constexpr std::u16string_view kOpenAnswers = u"OpenAnswers";
 
 /// Steps whose work makes no reading better by itself, but is right wherever they find something to do.
@@ -149,11 +150,17 @@ void LayoutSearch::TryFamilies(const PaperText& text, const std::vector<NumberFa
   RuleDraft draft;
   draft.numbers = numbers;
   draft.steps = steps;
+  const PaperText numbered = steps.contains(kUnnumbered) ? Prepared(draft) : text;
+  draft.options = FindOptionFamily(numbered.characters, Bodies(numbered, draft));
+  RuleDraft open = draft;
+  open.steps.emplace(kOpenAnswers);
+  TryOptions(std::move(open));
+  // Answers at the end would be taken for options, or for questions.
+  draft.steps.emplace(kKeyAtEnd);
+  const PaperText withoutKey = Prepared(draft);
+  if (withoutKey.characters == numbered.characters) return;
+  draft.options = FindOptionFamily(withoutKey.characters, Bodies(withoutKey, draft));
   draft.steps.emplace(kOpenAnswers);
-  const bool changesText = steps.contains(kUnnumbered);
-  const PaperText prepared = changesText ? Prepared(draft) : PaperText{};
-  const PaperText& looked = changesText ? prepared : text;
-  draft.options = FindOptionFamily(looked.characters, Bodies(looked, draft));
   TryOptions(std::move(draft));
 }
 

@@ -26,13 +26,8 @@ std::vector<int> NumbersOf(const Paper& paper, const MarkedText& marked) {
     if (match.key != rule_key::kPreQuestion && match.key != rule_key::kPreParenQuestion) continue;
     std::u16string label;
     for (const std::uint32_t place : match.units) label += paper.source.characters[place];
-    int value = 0;
-    for (std::size_t at = 0; at < label.size() && value == 0; ++at) {
-      const auto numerals = NumeralsAt(label, at);
-      if (!numerals.empty()) value = numerals.front().value;
-    }
     // Labels that a step has put in number by themselves.
-    if (!match.units.empty()) numbers.emplace_back(match.units.front(), value);
+    if (!match.units.empty()) numbers.emplace_back(match.units.front(), NumberInLabel(label));
   }
   std::ranges::sort(numbers);
   std::vector<int> values;

@@ -153,6 +153,22 @@ int NumeralValue(std::u16string_view text) {
   return 0;
 }
 
+int NumberInLabel(std::u16string_view label) {
+  for (std::size_t at = 0; at < label.size(); ++at) {
+    const std::vector<Numeral> numerals = NumeralsAt(label, at);
+    // A word in front, as in "Question 3", must not be read as a Roman numeral.
+    for (const Numeral& numeral : numerals) {
+      const bool isRoman = numeral.kind == NumeralKind::UpperRoman || numeral.kind == NumeralKind::LowerRoman;
+      const std::size_t end = at + numeral.size;
+      const auto isLetter = [](char16_t unit) { return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z'; };
+      const bool isInWord =
+          (at > 0 && isLetter(label[at - 1])) || (end < label.size() && isLetter(label[end]));
+      if (!isRoman || !isInWord) return numeral.value;
+    }
+  }
+  return 0;
+}
+
 std::u16string_view NumeralPattern(NumeralKind kind) {
   const auto* const digits = std::ranges::find(kDigitRows, kind, &DigitRow::kind);
   if (digits != std::end(kDigitRows)) return digits->pattern;

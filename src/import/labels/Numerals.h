@@ -44,6 +44,9 @@ Numeral NumeralAt(std::u16string_view text, std::size_t place, NumeralKind kind)
 /// The value of digits of any kind, the whole text; 0 if it is no number.
 int NumeralValue(std::u16string_view text);
 
+/// The number in a label: 3 of "第3题" and of "Question 3"; 0 if there is none.
+int NumberInLabel(std::u16string_view label);
+
 /// A pattern of import rules that finds such numbers.
 std::u16string_view NumeralPattern(NumeralKind kind);
 

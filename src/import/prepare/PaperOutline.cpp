@@ -13,23 +13,6 @@
 namespace quorvantis {
 namespace {
 
-/// The number in a label: "第3题" is 3.
-int NumberIn(std::u16string_view label) {
-  for (std::size_t at = 0; at < label.size(); ++at) {
-    const std::vector<Numeral> numerals = NumeralsAt(label, at);
-    // A word in front, as in "Question 3", must not be read as a Roman numeral.
-    for (const Numeral& numeral : numerals) {
-      const bool isRoman = numeral.kind == NumeralKind::UpperRoman || numeral.kind == NumeralKind::LowerRoman;
-      const std::size_t end = at + numeral.size;
-      const auto isLetter = [](char16_t unit) { return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z'; };
-      const bool isInWord =
-          (at > 0 && isLetter(label[at - 1])) || (end < label.size() && isLetter(label[end]));
-      if (!isRoman || !isInWord) return numeral.value;
-    }
-  }
-  return 0;
-}
-
 /// One text being outlined.
 class Outlining {
  public:
@@ -98,7 +81,7 @@ class Outlining {
   void Add(TextSpan label, std::size_t end, TextSpan answerLabel) {
     OutlinedQuestion question;
     question.label = label;
-    question.number = NumberIn(label.Of(text_));
+    question.number = NumberInLabel(label.Of(text_));
     question.whole = {label.begin, end};
     question.answerLabel = answerLabel;
     question.answer = Trimmed(text_, {answerLabel.end, end});
