@@ -3,6 +3,7 @@
 
 #include "import/labels/LineText.h"
 #include "import/labels/OptionSigns.h"
+#include "import/prepare/LineBullet.h"
 #include "import/prepare/LineWords.h"
 #include "import/prepare/QuestionSigns.h"
 #include "import/prepare/ScoreText.h"
@@ -37,6 +38,9 @@ class PlainSearch {
     }
   }
 
+  /// Whether there are lines after the first one that could be options.
+  bool HasRoom() const { return lines_.size() > kFewestOptions; }
+
   PlainOptionLines Search() const {
     if (PlainOptionLines found = Bulleted(); found.evidence != PlainEvidence::None) return found;
     std::size_t stem = lines_.size();
@@ -48,23 +52,13 @@ class PlainSearch {
   }
 
  private:
-  /// The size of a bullet, without what is behind it; 0 for none.
-  std::size_t BulletSize(TextSpan line) const {
-    constexpr std::u16string_view kWithBlank = u"-–—*+o>.";
-    constexpr std::u16string_view kAlways = u"•▪▫◦‣⁃·●○◯◆◇■□☐☑☒❑❒➢✓✔";
-    const std::u16string_view content = line.Of(text_);
-    if (content.size() < 2) return 0;
-    const char16_t unit = content[0];
-    if (kAlways.find(unit) != kAlways.npos || (unit >= 0xF000 && unit <= 0xF0FF)) return 1;
-    if (kWithBlank.find(unit) != kWithBlank.npos) return IsBlank(content[1]) ? 1 : 0;
-    return content.starts_with(u"[ ]") || content.starts_with(u"( )") ? 3 : 0;
-  }
+  std::size_t BulletOf(std::size_t line) const { return BulletSize(lines_[line].span.Of(text_)); }
 
   PlainOptionLines Bulleted() const {
     std::size_t first = 1;
-    while (first < lines_.size() && BulletSize(lines_[first].span) == 0) ++first;
+    while (first < lines_.size() && BulletOf(first) == 0) ++first;
     std::size_t last = first;
-    while (last < lines_.size() && BulletSize(lines_[last].span) > 0) ++last;
+    while (last < lines_.size() && BulletOf(last) > 0) ++last;
     const std::size_t count = last - first;
     const bool isAtEnd = last == lines_.size() || lines_[last].followsBlank;
     if (count < kFewestOptions || count > kMostBullets || !isAtEnd) return {};
@@ -82,7 +76,7 @@ class PlainSearch {
     PlainOptionLines found{PlainEvidence::Bullets, {}};
     for (std::size_t i = first; i < last; ++i) {
       const TextSpan line = lines_[i].span;
-      const std::size_t text = SkipBlanks(text_, line.begin + BulletSize(line), line.end);
+      const std::size_t text = SkipBlanks(text_, line.begin + BulletOf(i), line.end);
       found.options.push_back({areEqual ? TextSpan{line.begin, text} : TextSpan{text, text}, text});
     }
     return found;
@@ -135,7 +129,10 @@ class PlainSearch {
 }  // namespace
 
 PlainOptionLines FindPlainOptions(std::u16string_view text, TextSpan body) {
-  return PlainSearch(text, body).Search();
+  const PlainSearch search(text, body);
+  PlainOptionLines found = search.Search();
+  found.hasRoom = search.HasRoom();
+  return found;
 }
 
 }  // namespace quorvantis

@@ -26,6 +26,7 @@ enum class PlainEvidence {
 struct PlainOptionLines {
   PlainEvidence evidence = PlainEvidence::None;
   std::vector<PlainOption> options;
+  bool hasRoom = false;  ///< a question of one or two lines, which cannot have any, says nothing of others
 };
 
 /// Looks at the text of one question, from behind its number up to its own answer.

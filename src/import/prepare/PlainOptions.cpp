@@ -7,18 +7,19 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace quorvantis {
 namespace {
 
-/// The questions that may have options without labels, and how many of all without labelled ones they are.
+/// The questions that may have options without labels.
 class PlainPaper {
  public:
   PlainPaper(const PaperText& text, const PaperOutline& outline) {
     for (const OutlinedQuestion& question : outline.questions) {
       if (question.HasOptions()) continue;
-      ++all_;
       found_.push_back(FindPlainOptions(text.characters, {question.label.end, question.answerLabel.begin}));
+      if (found_.back().hasRoom) ++withRoom_;
     }
   }
 
@@ -27,11 +28,12 @@ class PlainPaper {
     constexpr std::size_t kFewest = 2;
     constexpr std::size_t kFewestCounted = 3;
     std::vector<PlainOptionLines> believable = WithAtLeast(PlainEvidence::Stem);
-    if (believable.size() >= kFewest && believable.size() * 2 > all_) return believable;
+    const bool areMany = believable.size() * 2 > withRoom_ && believable.size() * 4 >= found_.size();
+    if (believable.size() >= kFewest && areMany) return believable;
     believable = WithAtLeast(PlainEvidence::Count);
     const std::size_t count = MostFrequentCount(believable);
     std::erase_if(believable, [count](const auto& lines) { return lines.options.size() != count; });
-    const bool areMost = believable.size() * 5 >= all_ * 4;
+    const bool areMost = believable.size() * 5 >= found_.size() * 4;
     return believable.size() >= kFewestCounted && areMost ? believable : std::vector<PlainOptionLines>();
   }
 
@@ -51,8 +53,8 @@ class PlainPaper {
     return static_cast<std::size_t>(std::ranges::max_element(questionsWith) - questionsWith.begin());
   }
 
-  std::size_t all_ = 0;
-  std::vector<PlainOptionLines> found_;
+  std::vector<PlainOptionLines> found_;  ///< of the questions without labelled options
+  std::size_t withRoom_ = 0;             ///< of these, those that could have others
 };
 
 }  // namespace

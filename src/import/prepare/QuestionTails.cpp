@@ -3,6 +3,7 @@
 
 #include "import/labels/OptionSequence.h"
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/LineBullet.h"
 #include "import/prepare/LineLabel.h"
 #include "import/prepare/PreparedLabels.h"
 #include "import/prepare/RuleMatches.h"
@@ -85,9 +86,21 @@ class LineClassification {
       Blocks blocks = BlocksOf(style, starts);
       if (blocks.size() > best.size()) best = std::move(blocks);
     }
+    if (best.size() < 2) best = BulletBlocks();
     for (const TextSpan& block : best) {
       for (std::size_t i = block.begin; i < block.end; ++i) lines_[i].kind = LineKind::Option;
     }
+  }
+
+  /// Lines with bullets, two or more in a row.
+  Blocks BulletBlocks() const {
+    Blocks blocks;
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+      const std::size_t begin = i;
+      while (i < lines_.size() && BulletSize(Trimmed(text_, lines_[i].span).Of(text_)) > 0) ++i;
+      if (i - begin > 1) blocks.push_back({begin, i});
+    }
+    return blocks;
   }
 
   Blocks BlocksOf(const LabelStyle& style, const std::vector<std::size_t>& starts) const {

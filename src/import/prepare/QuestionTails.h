@@ -22,7 +22,8 @@ struct ClassifiedLine {
 };
 
 /// The lines within a span. Options are told by labels at the beginning of lines that start again and again
-/// from their first letter; those of one style are looked for, the most frequent one.
+/// from their first letter; those of one style are looked for, the most frequent one. Without any, lines with
+/// bullets are options.
 std::vector<ClassifiedLine> ClassifiedLines(std::u16string_view text, TextSpan within,
                                             const PreparationContext& context);
 

@@ -8,6 +8,7 @@
 #include "import/prepare/Steps.h"
 
 #include <algorithm>
+#include <set>
 
 namespace quorvantis {
 namespace {
@@ -120,14 +121,39 @@ class StemSearch {
   void AddBlocks(const std::vector<TextBlock>& blocks) {
     constexpr std::size_t kLongest = 1'500;
     constexpr std::ptrdiff_t kFewest = 2;
-    const auto first = std::ranges::find_if(blocks, &TextBlock::asks);
+    constexpr std::size_t kFewestLines = 3;
+    auto first = std::ranges::find_if(blocks, &TextBlock::asks);
+    if (first == blocks.begin() && first != blocks.end() && HasNameField(*first))
+      first = std::find_if(first + 1, blocks.end(), [](const TextBlock& block) { return block.asks; });
     const auto asking = std::count_if(first, blocks.end(), [](const TextBlock& block) { return block.asks; });
     const bool isLong =
         std::any_of(first, blocks.end(), [](const TextBlock& block) { return block.span.Size() > kLongest; });
     if (isLong || asking < kFewest || asking * 2 < blocks.end() - first) return;
-    std::for_each(first, blocks.end(), [this](const TextBlock& block) {
-      if (block.asks || IsSentence(block)) Add(block);
+    const std::set<std::size_t> counts = AskingLineCounts(blocks);
+    std::for_each(first, blocks.end(), [this, &counts](const TextBlock& block) {
+      if (block.asks || IsSentence(block) || (block.lines >= kFewestLines && counts.contains(block.lines)))
+        Add(block);
     });
+  }
+
+  /// "Name: ______" in front of a paper is no question.
+  bool HasNameField(const TextBlock& block) const {
+    const std::u16string_view content = block.span.Of(text_.characters);
+    for (std::size_t at = content.find_first_of(u":："); at != content.npos;
+         at = content.find_first_of(u":：", at + 1)) {
+      const std::size_t next = SkipBlanks(content, at + 1, content.size());
+      if (next < content.size() && (content[next] == u'_' || content[next] == u'.')) return true;
+    }
+    return false;
+  }
+
+  /// What has as many lines as a block that asks something is a question, too: "It is", and what it may be.
+  static std::set<std::size_t> AskingLineCounts(const std::vector<TextBlock>& blocks) {
+    std::set<std::size_t> counts;
+    for (const TextBlock& block : blocks) {
+      if (block.asks) counts.insert(block.lines);
+    }
+    return counts;
   }
 
   /// A heading is none.

@@ -66,6 +66,8 @@ TEST(PlainOptions, GetLabels) {
        u"1. It is|⟦A⟧ big|⟦B⟧ red|⟦C⟧ old|2. He is|⟦A⟧ in|⟦B⟧ up|⟦C⟧ out|3. We are|⟦A⟧ so|⟦B⟧ no|⟦C⟧ yes"},
       {u"1. Who?||he||she||2. It is ___.|Answer: so|3. Where?||here||there|Answer: here",
        u"1. Who?||⟦A⟧ he||⟦B⟧ she||2. It is ___.|Answer: so|3. Where?||⟦A⟧ here||⟦B⟧ there|Answer: here"},
+      {u"1. Who|- he|- she|2. It is ___.|3. Why?|4. Where|- here|- there|5. How?",
+       u"1. Who|⟦A⟧ he|⟦B⟧ she|2. It is ___.|3. Why?|4. Where|⟦A⟧ here|⟦B⟧ there|5. How?"},
       // Essays.
       {u"1. Why?|It was|so|2. How?|3. Who?", u"1. Why?|It was|so|2. How?|3. Who?"},
       {u"1. Why?|____|____|2. How?|____|____", u"1. Why?|____|____|2. How?|____|____"},
