@@ -180,7 +180,7 @@ constexpr std::u16string_view kPartWords[] = {
     u"μέροσ",
     u"ตอนที่",
     u"deel",
-    u"del",
+
     u"multiple choice",
     u"true or false",
     u"true/false",
@@ -342,6 +342,7 @@ AnswerHeading AnswerHeadingOf(std::u16string_view line) {
 
 bool IsPartTitle(std::u16string_view line) {
   constexpr std::size_t kLongestTitle = 100;
+  constexpr int kMostParts = 20;
   const std::u16string folded = FoldedCore(line);
   if (folded.empty() || line.size() > kLongestTitle) return false;
   if (LongestWordAt(folded, kPartWords) > 0) return true;
@@ -350,7 +351,8 @@ bool IsPartTitle(std::u16string_view line) {
     if (begin == line.npos) return false;
     const Numeral numeral = NumeralAt(line, begin, kind);
     const std::size_t after = begin + numeral.size;
-    if (numeral.size == 0 || after >= line.size()) continue;
+    // "C." and "D." are options rather than parts 100 and 500.
+    if (numeral.size == 0 || numeral.value > kMostParts || after >= line.size()) continue;
     if (std::u16string_view(u"、.．)） ").find(line[after]) != std::u16string_view::npos) return true;
   }
   return false;

@@ -83,7 +83,7 @@ constexpr JudgementPair kJudgementPairs[] = {
 
 /// Whether the text begins with a word that does not go on.
 bool BeginsWithWord(std::u16string_view text, std::u16string_view word) {
-  if (text.size() < word.size()) return false;
+  if (text.size() < word.size() || Folded(text.front()) != Folded(word.front())) return false;
   if (Folded(text.substr(0, word.size())) != Folded(word)) return false;
   return text.size() == word.size() || !AreInOneWord(text[word.size() - 1], text[word.size()]);
 }
