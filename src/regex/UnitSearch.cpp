@@ -9,10 +9,10 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kMostRanges = 6;  // with more, checking each unit is as fast
-constexpr std::size_t kNear = 4;        // units checked one by one first: often one of them is it
-constexpr std::size_t kShort = 16;      // units of a block in which the match is located
-constexpr std::size_t kLong = 64;       // units of a block that is skipped as a whole
+constexpr std::size_t kMostRanges = 6;             // with more, checking each unit is as fast
+constexpr std::size_t kNear = 4;                   // units checked one by one first: often one of them is it
+constexpr std::size_t kShort = 16;                 // units of a block in which the match is located
+constexpr std::size_t kLong = UnitSearch::kBlock;  // units of a block that is skipped as a whole
 
 // The loops over a block have a fixed length and no branch: compilers vectorise them.
 
@@ -31,6 +31,14 @@ std::size_t FirstSet(const std::array<std::uint8_t, kShort>& bytes) {
     return i + static_cast<std::size_t>(zeros) / 8;
   }
   return kShort;
+}
+
+/// Eight bytes that are 0 or 1 as eight bits, the lowest for the first.
+std::uint64_t BitsOf(const std::uint8_t* bytes) {
+  std::uint64_t word = 0;
+  std::memcpy(&word, bytes, sizeof word);
+  if constexpr (std::endian::native == std::endian::little) return (word * 0x0102040810204080U) >> 56U;
+  return (word * 0x8040201008040201U) >> 56U;
 }
 
 }  // namespace
@@ -74,6 +82,22 @@ std::size_t UnitSearch::FirstInShort(const char16_t* block) const {
           hits[i] | static_cast<std::uint8_t>(IsInRange(block[i], range.first, range.width)));
   }
   return FirstSet(hits);
+}
+
+std::uint64_t UnitSearch::InBlock(const char16_t* block) const {
+  if (isWide_ && !HasOneInLong(block)) return 0;
+  std::array<std::uint8_t, kBlock> hits{};
+  if (!isWide_) {
+    for (std::size_t i = 0; i < kBlock; ++i) hits[i] = units_->Contains(block[i]) ? 1 : 0;
+  }
+  for (const Range range : ranges_) {
+    for (std::size_t i = 0; i < kBlock; ++i)
+      hits[i] = static_cast<std::uint8_t>(
+          hits[i] | static_cast<std::uint8_t>(IsInRange(block[i], range.first, range.width)));
+  }
+  std::uint64_t bits = 0;
+  for (std::size_t i = 0; i < kBlock; i += 8) bits |= BitsOf(hits.data() + i) << i;
+  return bits;
 }
 
 bool UnitSearch::HasOneInLong(const char16_t* block) const {

@@ -20,6 +20,11 @@ class UnitSearch {
   /// the size of the text, or `from` if that is larger.
   std::size_t Find(std::u16string_view text, std::size_t from) const;
 
+  static constexpr std::size_t kBlock = 64;  ///< units
+
+  /// The units of the set among the kBlock units at `block`: a bit for each unit, the lowest for the first.
+  std::uint64_t InBlock(const char16_t* block) const;
+
   /// Whether the set has few ranges, so that many units are checked in one step.
   bool IsWide() const { return isWide_; }
 

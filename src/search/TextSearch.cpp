@@ -34,7 +34,10 @@ TextSearch::TextSearch(const SearchQuery& query)
 SearchEnd TextSearch::Search(std::u16string_view text, const SearchCancelled& isCancelled,
                              const std::function<void(const FoundText&)>& take) const {
   if (IsTrue(isCancelled)) return SearchEnd::Cancelled;
-  if (literal_) return SearchLiteral(text, isCancelled, take);
+  if (literal_) {
+    SearchLiteral(text, take);
+    return SearchEnd::Done;
+  }
   return pattern_.IsEmpty() ? SearchEnd::Done : SearchPattern(text, isCancelled, take);
 }
 
@@ -43,17 +46,15 @@ bool TextSearch::IsHit(std::u16string_view text, std::size_t start, std::size_t 
   return !wholeWords_ || IsWholeWord(text, start, end);
 }
 
-SearchEnd TextSearch::SearchLiteral(std::u16string_view text, const SearchCancelled& isCancelled,
-                                    const std::function<void(const FoundText&)>& take) const {
-  for (std::size_t from = 0;;) {
-    const std::size_t start = literal_->Find(text, from);
-    if (start == std::u16string_view::npos) return SearchEnd::Done;
+void TextSearch::SearchLiteral(std::u16string_view text,
+                               const std::function<void(const FoundText&)>& take) const {
+  std::size_t from = 0;
+  literal_->VisitPlaces(text, [&](std::size_t start) {
     const std::size_t end = start + literal_->Size();
-    const bool isHit = IsHit(text, start, end);
-    if (isHit) take({start, end, text, nullptr});
-    from = isHit ? end : start + 1;
-    if (IsTrue(isCancelled)) return SearchEnd::Cancelled;
-  }
+    if (start < from || !IsHit(text, start, end)) return;
+    take({start, end, text, nullptr});
+    from = end;
+  });
 }
 
 SearchEnd TextSearch::SearchPattern(std::u16string_view text, const SearchCancelled& isCancelled,

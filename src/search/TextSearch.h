@@ -43,8 +43,7 @@ class TextSearch {
 
  private:
   bool IsHit(std::u16string_view text, std::size_t start, std::size_t end) const;
-  SearchEnd SearchLiteral(std::u16string_view text, const SearchCancelled& isCancelled,
-                          const std::function<void(const FoundText&)>& take) const;
+  void SearchLiteral(std::u16string_view text, const std::function<void(const FoundText&)>& take) const;
   SearchEnd SearchPattern(std::u16string_view text, const SearchCancelled& isCancelled,
                           const std::function<void(const FoundText&)>& take) const;
 
