@@ -7,11 +7,20 @@
 #include "editor/QuestionForm.h"
 #include "model/QuestionKinds.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace quorvantis {
 
 class LongAnswerFlags;
+
+/// Where the cursor stands in a text field.
+struct FieldCursor {
+  FormField field = FormField::Title;
+  std::size_t position = 0;  ///< in the text of the form, in UTF-16 units
+};
 
 /// Edits one question at a time: which question is shown, what its form holds, and how the form is stored
 /// into the document and loaded from it. All fields are stored whatever the kind; changing the kind only
@@ -28,6 +37,11 @@ class QuestionEditor {
   /// The text of a field after the user has typed, pasted or dropped. A text longer than MaxLength is refused
   /// as a whole: the field keeps its old text and the result is false. Either way the change is reported.
   bool EditField(FormField field, std::u16string text);
+
+  /// Where the edit has left the cursor. The text alone does not tell which of two equal letters is new.
+  void NoteCursor(FieldCursor cursor) { cursor_ = cursor; }
+  /// The last one since the last call.
+  std::optional<FieldCursor> TakeCursor() { return std::exchange(cursor_, std::nullopt); }
 
   /// The user clicked answer box `index` (0 for A to 4 for E), which is now on or off.
   void TickAnswerBox(std::size_t index, bool on);
@@ -77,6 +91,7 @@ class QuestionEditor {
   AttachmentEditor& attachments_;
   QuestionForm form_;
   AnswerParts shown_;
+  std::optional<FieldCursor> cursor_;
 };
 
 }  // namespace quorvantis

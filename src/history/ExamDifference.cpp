@@ -10,8 +10,9 @@
 namespace quorvantis {
 namespace {
 
-RecordEdits FormEdits(const QuestionForm& before, const QuestionForm& after) {
-  EditFinder finder;
+RecordEdits FormEdits(const QuestionForm& before, const QuestionForm& after,
+                      std::optional<FieldPlace> end = {}) {
+  EditFinder finder(end);
   VisitForm(finder, before, after);
   return std::move(finder.found);
 }
@@ -122,7 +123,7 @@ std::size_t ExamDifference::Size() const {
 }
 
 ExamDifference FindDifference(const ExamMoment& before, const ExamEditor& editor, bool documentChanged,
-                              bool withOrigin) {
+                              bool withOrigin, std::optional<FieldPlace> cursor) {
   const EditorState& state = editor.state;
   const FrameSetExam& exam = state.document;
   ExamDifference found;
@@ -141,7 +142,7 @@ ExamDifference FindDifference(const ExamMoment& before, const ExamEditor& editor
   const QuestionForm& form = editor.questions.Form();
   found.linked = found.current.before == found.current.after && !ChangesQuestion(found, before.current);
   if (found.linked) {
-    found.form = FormEdits(before.form, form);
+    found.form = FormEdits(before.form, form, cursor);
   } else {
     found.form = FormEdits(LoadedForm(before), before.form);
     found.formLoaded = FormEdits(LoadedForm(exam, found.current.after), form);

@@ -54,9 +54,9 @@ struct ExamDifference {
 
 /// What differs between `before` and the exam in the editor. `documentChanged`: otherwise the document is
 /// known to be the same, and only the form is compared. `withOrigin`: where the exam comes from counts as a
-/// difference.
+/// difference. `cursor`: where the last edit of the form has left it, if that is known.
 ExamDifference FindDifference(const ExamMoment& before, const ExamEditor& editor, bool documentChanged,
-                              bool withOrigin);
+                              bool withOrigin, std::optional<FieldPlace> cursor = {});
 
 /// Whether a difference that begins at `before` and ends with the exam in the editor is a change of the exam
 /// or of the form. Otherwise only other questions were shown, or the form was stored.

@@ -3,6 +3,7 @@
 
 #include "editor/WorkCopies.h"
 #include "history/StepName.h"
+#include "model/WorkFolderNames.h"
 #include "model/document/ExamServices.h"
 
 #include <algorithm>
@@ -11,8 +12,11 @@
 namespace quorvantis {
 namespace {
 
-/// Lies beside the folders that are named after the origin of attached files.
-constexpr const char* kHistoryFolder = ".history";
+/// The fields of a form come in the order of FormField.
+std::optional<FieldPlace> PlaceOf(const std::optional<FieldCursor>& cursor) {
+  if (!cursor) return std::nullopt;
+  return FieldPlace{static_cast<std::size_t>(cursor->field), cursor->position};
+}
 
 bool EndsLine(std::u16string_view typed) {
   return typed.find_first_of(u"\r\n") != typed.npos;
@@ -65,8 +69,9 @@ void History::Look(Clock::time_point now) {
   if (examsBegun_ != editor_.state.ExamsBegun()) return Begin();
   const ChangeName given = editor_.state.TakeChangeName();
   const bool isImport = given.kind == ChangeKind::Import;
+  const std::optional<FieldPlace> cursor = PlaceOf(editor_.questions.TakeCursor());
   Step step;
-  step.change = FindDifference(moment_, editor_, editor_.TakeDocumentChanged(), isImport);
+  step.change = FindDifference(moment_, editor_, editor_.TakeDocumentChanged(), isImport, cursor);
   const bool isChange = IsChange(step.change, moment_, editor_);
   moment_.origin = OriginOf(editor_.state);
   if (step.change.IsEmpty()) return;
@@ -74,7 +79,7 @@ void History::Look(Clock::time_point now) {
   if (TouchesFiles(step.change)) step.files = files_.Follow(WorkCopiesOf(editor_.state.document), isImport);
   if (!isChange) return AddWalk(std::move(step.change));
   step.name = given.kind == ChangeKind::Other ? NameOf(step.change) : given;
-  if (JoinTyping(step, now)) return;
+  if (JoinTyping(step, cursor, now)) return;
   NoteTyping(step, now);
   AddStep(std::move(step));
 }
@@ -113,7 +118,7 @@ void History::AddStep(Step step) {
 }
 
 /// True if the step goes on with the typing of the last one, and is now part of it.
-bool History::JoinTyping(const Step& step, Clock::time_point now) {
+bool History::JoinTyping(const Step& step, const std::optional<FieldPlace>& cursor, Clock::time_point now) {
   const auto field = TypedField(step.change);
   const bool goesOn = isTyping_ && done_ > 0 && done_ == steps_.size() && walk_.empty() &&
                       now - typed_ <= kTypingPause && field && steps_.back().name.kind == step.name.kind &&
@@ -123,7 +128,7 @@ bool History::JoinTyping(const Step& step, Clock::time_point now) {
   QuestionForm before = moment_.form;
   VisitForm(EditTaker(step.change.form, Direction::Back), before);
   VisitForm(EditTaker(last.change.form, Direction::Back), before);
-  EditFinder finder;
+  EditFinder finder(cursor);
   VisitForm(finder, before, moment_.form);
   last.change.form = std::move(finder.found);
   Measure(last);

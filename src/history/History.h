@@ -101,7 +101,7 @@ class History {
 
   void AddWalk(ExamDifference walk);
   void AddStep(Step step);
-  bool JoinTyping(const Step& step, Clock::time_point now);
+  bool JoinTyping(const Step& step, const std::optional<FieldPlace>& cursor, Clock::time_point now);
   void NoteTyping(const Step& step, Clock::time_point now);
   void Measure(Step& step);
   void GiveUpOldest();

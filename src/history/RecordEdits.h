@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -51,13 +52,23 @@ inline bool SameText(const std::u16string& a, const std::u16string& b) {
   return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
 }
 
+/// A place in a text field, in UTF-16 units.
+struct FieldPlace {
+  std::size_t field = 0;  ///< index among the values of the record
+  std::size_t place = 0;
+};
+
 /// A visitor for two records side by side that notes their differences.
 class EditFinder {
  public:
+  /// `end`: where the change of a text ends, if that is known.
+  explicit EditFinder(std::optional<FieldPlace> end = {}) : end_(end) {}
+
   void operator()(const std::u16string& before, const std::u16string& after) {
     const std::size_t field = field_++;
     if (SameText(before, after)) return;
-    const TextChange change = FindChange(before, after);
+    const TextChange change =
+        end_ && end_->field == field ? FindChange(before, after, end_->place) : FindChange(before, after);
     found.texts.push_back({field, change.start, before.substr(change.start, change.removed),
                            after.substr(change.start, change.added)});
   }
@@ -73,6 +84,7 @@ class EditFinder {
   RecordEdits found;
 
  private:
+  std::optional<FieldPlace> end_;
   std::size_t field_ = 0;
 };
 

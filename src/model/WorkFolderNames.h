@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The names of the folders that hold pages and attached files, as other programs and old exams know them.
+// The names of the folders that hold pages and attached files, most as other programs and old exams know
+// them.
 #pragma once
 
 #include "text/NumberText.h"
@@ -13,6 +14,13 @@ namespace quorvantis {
 inline constexpr std::string_view kPreviewFolders = "TEMP";  ///< holds the folder of the editor's pages
 inline constexpr std::string_view kCopyFolders = "~TEMP";    ///< holds the copies of attached files
 inline constexpr std::string_view kUnpackedFolder = "~tt";   ///< beside pages: what a reader unpacked
+
+/// Hidden entries of the folder of copies, beside the folders that are named after the origin of a file: the
+/// files that a step of the history can bring back, those of another exam that is open to take questions
+/// from, and pasted questions, each of the latter two with a number.
+inline constexpr std::string_view kHistoryFolder = ".history";
+inline constexpr std::string_view kOtherExamFolder = ".other-exam-";
+inline constexpr std::string_view kPastedFile = ".pasted-";
 
 /// Parent of all student folders, in the application folder or the current one.
 inline constexpr std::u16string_view kStudentFolders = u"~BrelmStudent";

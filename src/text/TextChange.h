@@ -16,4 +16,9 @@ struct TextChange {
 
 TextChange FindChange(std::u16string_view before, std::u16string_view after);
 
+/// The same, seen as the change that ends at `end` of `after`, where the cursor was left: among equal letters
+/// several places would do, and what was typed over may reappear. Where no change can end there, it is that
+/// of FindChange.
+TextChange FindChange(std::u16string_view before, std::u16string_view after, std::size_t end);
+
 }  // namespace quorvantis

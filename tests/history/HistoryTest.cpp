@@ -275,6 +275,42 @@ TEST_F(HistoryTest, TheOldestStepsGoFirst) {
   EXPECT_EQ(Text().size(), 100U - static_cast<std::size_t>(undone));
 }
 
+TEST_F(HistoryTest, AStepKnowsItsPlaceAmongEqualLetters) {
+  struct Row {
+    const char* what;
+    std::u16string before;
+    std::vector<std::pair<std::u16string, std::size_t>> edits;  ///< the text and the cursor after each
+    std::size_t undo, redo;
+  };
+  const Row rows[] = {{"typed at the front", u"aaaa", {{u"aaaaa", 1}}, 0, 1},
+                      {"typed in the middle", u"aaaa", {{u"aaaaa", 3}}, 2, 3},
+                      {"typed at the end", u"aaaa", {{u"aaaaa", 5}}, 4, 5},
+                      {"typed on", u"aaaa", {{u"aaaaa", 2}, {u"aaaaaa", 3}}, 1, 3},
+                      {"typed on after a word", u"ab ab", {{u"ab aab", 4}, {u"ab abab", 5}}, 3, 5},
+                      {"typed and deleted", u"aaaa", {{u"aaaaa", 2}, {u"aaaaaa", 3}, {u"aaaaa", 2}}, 1, 2},
+                      {"deleted in the middle", u"aaaa", {{u"aaa", 1}}, 2, 1},
+                      {"a word pasted before the same", u"no no", {{u"no no no", 3}}, 0, 3},
+                      {"pasted over a selection that ends alike", u"one cat", {{u"one bat", 7}}, 7, 7},
+                      {"no letter is new there", u"abc", {{u"abxc", 1}}, 2, 3},
+                      {"a cursor beyond the text", u"abc", {{u"abcd", 99}}, 3, 4}};
+  const auto now = History::Clock::now();
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.what);
+    DoType(FormField::Text, u"");
+    DoType(FormField::Text, row.before);
+    history.EndTyping();
+    for (const auto& [text, cursor] : row.edits) {
+      Type(FormField::Text, text);
+      editor.questions.NoteCursor({FormField::Text, cursor});
+      history.Look(now);
+    }
+    EXPECT_EQ(history.Undo()->position, row.undo);
+    EXPECT_EQ(Text(), row.before);
+    EXPECT_EQ(history.Redo()->position, row.redo);
+    EXPECT_EQ(Text(), row.edits.back().first);
+  }
+}
+
 TEST_F(HistoryTest, QuestionsThatOnlyMoveCostNothing) {
   for (int n = 1; n <= kMaxQuestions; ++n)
     exam.Question(n).text.assign(1000, static_cast<char16_t>(n % 26 + 'a'));

@@ -24,11 +24,12 @@ void ExamField::Select(std::size_t start, std::size_t length) {
   SelectShown(static_cast<int>(text_.ShownPlace(start)), static_cast<int>(text_.ShownPlace(start + length)));
 }
 
-bool ExamField::Edit(std::u16string_view shown) {
+bool ExamField::Edit(std::u16string_view shown, int cursor) {
   std::u16string text = text_.Edited(shown);
   if (text == text_.Text()) return true;
   if (editor_.EditField(field_, text)) {
     text_.Set(std::move(text));
+    editor_.NoteCursor({field_, text_.OffsetOf(static_cast<std::size_t>(cursor))});
     return true;
   }
   const auto limit = static_cast<std::int64_t>(MaxLength(field_));
@@ -38,7 +39,7 @@ bool ExamField::Edit(std::u16string_view shown) {
 
 bool ExamField::Refuses(std::u16string_view shown) {
   const bool tooLong = text_.Edited(shown).size() > MaxLength(field_);
-  return tooLong && !Edit(shown);
+  return tooLong && !Edit(shown, 0);
 }
 
 }  // namespace quorvantis

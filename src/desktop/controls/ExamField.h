@@ -33,9 +33,9 @@ class ExamField {
   void Select(std::size_t start, std::size_t length);
 
  protected:
-  /// The user has edited the field to `shown`. False if refused: the widget must then show `Shown` again. The
-  /// user has been told.
-  bool Edit(std::u16string_view shown);
+  /// The user has edited the field to `shown`, with the cursor at `cursor` now. False if refused: the widget
+  /// must then show `Shown` again. The user has been told.
+  bool Edit(std::u16string_view shown, int cursor);
 
   /// Called before a change: true if it is refused because the text would be too long.
   bool Refuses(std::u16string_view shown);

@@ -56,10 +56,11 @@ std::u16string FieldText::Show(std::u16string_view text) const {
   return shown;
 }
 
-std::size_t FieldText::OffsetOf(std::size_t shownPosition) const {
-  if (lines_ == FieldLines::One) return shownPosition;
+std::size_t FieldText::OffsetOf(std::size_t shownPlace) const {
+  shownPlace = std::min(shownPlace, shown_.size());
+  if (lines_ == FieldLines::One) return shownPlace;
   std::size_t offset = 0;
-  for (; shownPosition > 0; --shownPosition) offset += StepLength(text_, offset);
+  for (; shownPlace > 0; --shownPlace) offset += StepLength(text_, offset);
   return offset;
 }
 

@@ -38,9 +38,11 @@ class FieldText {
   /// The place in what is shown of a place in the text, both in UTF-16 units; the end for one beyond it.
   std::size_t ShownPlace(std::size_t offset) const;
 
+  /// The reverse.
+  std::size_t OffsetOf(std::size_t shownPlace) const;
+
  private:
   std::u16string Show(std::u16string_view text) const;
-  std::size_t OffsetOf(std::size_t shownPosition) const;
   void AppendTyped(std::u16string& text, std::u16string_view typed) const;
 
   FieldLines lines_;

@@ -172,7 +172,7 @@ bool MultiLineField::RefusesInsertion(const QString& inserted, int offset, int r
 void MultiLineField::TakeContents() {
   const QString content = document()->toRawText();
   AlignText(content);
-  if (Edit(FromQString(content))) return;
+  if (Edit(FromQString(content), textCursor().position())) return;
   emit Overran();
 }
 

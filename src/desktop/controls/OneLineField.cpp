@@ -18,8 +18,8 @@ namespace quorvantis {
 class OneLineField::Gate : public QValidator {
  public:
   explicit Gate(OneLineField& field) : QValidator(&field), field_(field) {}
-  State validate(QString& content, int&) const override {
-    return field_.Takes(content) ? Acceptable : Invalid;
+  State validate(QString& content, int& cursor) const override {
+    return field_.Takes(content, cursor) ? Acceptable : Invalid;
   }
 
  private:
@@ -93,8 +93,8 @@ void OneLineField::SelectShown(int start, int end) {
   setSelection(start, end - start);
 }
 
-bool OneLineField::Takes(const QString& content) {
-  refused_ = !Edit(FromQString(content));
+bool OneLineField::Takes(const QString& content, int cursor) {
+  refused_ = !Edit(FromQString(content), cursor);
   return !refused_;
 }
 

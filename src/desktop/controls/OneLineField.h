@@ -30,7 +30,7 @@ class OneLineField : public QLineEdit, public ExamField {
  private:
   class Gate;
 
-  bool Takes(const QString& content);
+  bool Takes(const QString& content, int cursor);
 
   bool refused_ = false;  ///< the last change was refused
 };

@@ -73,6 +73,31 @@ TEST_F(UndoTest, PutsTheCursorWhereItWas) {
   EXPECT_EQ(Lines("questionText").textCursor().position(), 6);
 }
 
+TEST_F(UndoTest, PutsTheCursorAmongEqualLetters) {
+  Open();
+  auto& title = Control<QLineEdit>("title");
+  auto& text = Lines("questionText");
+  Type("title", "oooo");
+  Type("questionText", "oooo");
+  title.setFocus();
+  title.setCursorPosition(2);
+  QTest::keyClicks(&title, "oo");
+  PressKey(Qt::Key_Home, Qt::NoModifier);
+  Undo();
+  EXPECT_EQ(title.cursorPosition(), 2);
+  Redo();
+  EXPECT_EQ(title.cursorPosition(), 4);
+  text.setFocus();
+  text.moveCursor(QTextCursor::Start);
+  QTest::keyClick(&text, Qt::Key_Return);
+  QTest::keyClicks(&text, "oo");
+  PressKey(Qt::Key_End, Qt::ControlModifier);
+  Undo();
+  EXPECT_EQ(text.textCursor().position(), 1) << "a line end is a step of its own";
+  Redo();
+  EXPECT_EQ(text.textCursor().position(), 3);
+}
+
 TEST_F(UndoTest, ScoresAreOneStep) {
   exam.Question(1).text = exam.Question(2).text = u"text";
   exam.scoreMode = ScoreMode::Custom;
