@@ -21,6 +21,8 @@ std::vector<std::u16string> SavingCheck::LossesOfFile(const std::filesystem::pat
     losses.push_back(strings.Text(text_id::kChangedOnDisk));
   if (state_.document.readDoubt == ReadDoubt::ReadInPart)
     losses.push_back(strings.Text(text_id::kReadInPart));
+  if (state_.document.readDoubt == ReadDoubt::PassedOver)
+    losses.push_back(strings.Text(text_id::kPassedOverIsLost));
   if (state_.document.readDoubt == ReadDoubt::NoExam) losses.push_back(strings.Text(text_id::kNoExamFile));
   return losses;
 }

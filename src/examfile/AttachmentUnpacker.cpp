@@ -65,6 +65,7 @@ void AttachmentUnpacker::ExtractExamAttachments() {
     AttachmentEntry entry;
     if (!ReadEntry(entry, false)) return;
     const auto slot = static_cast<std::size_t>(i);
+    if (slot >= kMaxAttachments) ++passedOver_.examFiles;
     unpacking = unpacking && slot < kMaxAttachments;
     if (!unpacking) {
       Skip(entry.size);
@@ -75,6 +76,10 @@ void AttachmentUnpacker::ExtractExamAttachments() {
     exam_.examAttachmentNames[slot] = entry.name;
     unpacking = Unpack(target, entry.size);
   }
+}
+
+void AttachmentUnpacker::NotePassedOver(int question) {
+  if (passedOver_.questionFiles++ == 0) passedOver_.firstQuestion = question;
 }
 
 void AttachmentUnpacker::ExtractQuestionAttachments(int question) {
@@ -88,6 +93,7 @@ void AttachmentUnpacker::ExtractQuestionAttachments(int question) {
     if (i == 0 && form_.version->hasOralFlag) target.oralFlag = entry.oralFlag;
     const auto slot = static_cast<std::size_t>(i);
     if (slot >= kMaxAttachments) {
+      NotePassedOver(question);
       Skip(entry.size);
       continue;
     }

@@ -4,6 +4,7 @@
 #include "examfile/AttachmentName.h"
 #include "examfile/ExamFileFields.h"
 #include "examfile/ExamFileForm.h"
+#include "examfile/ExamFileReader.h"
 #include "model/document/ExamServices.h"
 
 namespace quorvantis {
@@ -27,11 +28,15 @@ class AttachmentUnpacker {
   /// How many files could not be created or not completely written.
   int FilesNotCreated() const { return filesNotCreated_; }
 
+  /// The files after the tenth of a list.
+  const PassedOver& FilesPassedOver() const { return passedOver_; }
+
  private:
   int ReadCount();
   bool ReadEntry(AttachmentEntry& entry, bool withOralFlag);
   bool Unpack(const std::filesystem::path& target, std::int64_t size);
   void Skip(std::int64_t size);
+  void NotePassedOver(int question);
 
   ByteSource& source_;
   FieldReader& fields_;
@@ -40,6 +45,7 @@ class AttachmentUnpacker {
   Progress& progress_;
   FreeNames freeNames_;
   int filesNotCreated_ = 0;
+  PassedOver passedOver_;
 };
 
 }  // namespace quorvantis

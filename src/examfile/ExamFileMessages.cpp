@@ -28,12 +28,28 @@ std::u16string OpenFileError(const StringTable& strings, const std::filesystem::
   return why ? error + u'\n' + FileFailureText(strings, why) : error;
 }
 
+std::u16string PassedOverText(const StringTable& strings, const PassedOver& passedOver) {
+  std::u16string parts;
+  const auto add = [&](int count, int text, int question) {
+    if (count == 0) return;
+    const std::u16string part =
+        FillMessage(strings.Text(text), {FormatInteger(count), FormatInteger(question)});
+    parts = parts.empty() ? part : FillMessage(strings.Text(text_id::kPassedOverAnd), {parts, part});
+  };
+  add(passedOver.examFiles, text_id::kExamFilesPassedOver, 0);
+  add(passedOver.questionFiles, text_id::kQuestionFilesPassedOver, passedOver.firstQuestion);
+  add(passedOver.questions, text_id::kQuestionsPassedOver, kMaxQuestions);
+  return parts.empty() ? parts : FillMessage(strings.Text(text_id::kPassedOver), {parts});
+}
+
 void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome) {
   // Once, however many files: they usually fail for one reason, such as a full disk or a missing folder.
   if (outcome.filesNotCreated > 0)
     services.dialogs.ShowWarning(services.strings.Text(text_id::kTemporaryFileError));
   if (outcome.endsEarly)
     services.dialogs.ShowWarning(EndsEarly(services.strings, outcome.firstMissingQuestion));
+  if (outcome.passedOver.IsAnything())
+    services.dialogs.ShowWarning(PassedOverText(services.strings, outcome.passedOver));
 }
 
 }  // namespace quorvantis

@@ -17,6 +17,10 @@ std::u16string OpenFileError(const StringTable& strings, const std::filesystem::
 std::u16string OpenFileError(const StringTable& strings, const std::filesystem::path& file,
                              std::error_code why);
 
+/// What was passed over, as one sentence: "This file holds more than an exam can have, and …". Empty if
+/// nothing was.
+std::u16string PassedOverText(const StringTable& strings, const PassedOver& passedOver);
+
 /// Shows what is missing from an exam that was read; nothing if it is complete.
 void ShowReadLosses(const ExamServices& services, const ExamReadOutcome& outcome);
 

@@ -37,7 +37,8 @@ class Reading {
   void ReadExam(ExamReadOutcome& outcome) {
     VisitHeader(*form_.version, exam_, fields_);
     const bool headerMissing = source_.Ended();
-    exam_.questionCount = std::clamp(exam_.questionCount, 0, kMaxQuestions);
+    const int questionsInFile = exam_.questionCount;
+    exam_.questionCount = std::clamp(questionsInFile, 0, kMaxQuestions);
     if (form_.version->HasAttachments()) unpacker_.ExtractExamAttachments();
     int question = 1;
     while (question <= exam_.questionCount && !source_.Ended()) {
@@ -47,6 +48,9 @@ class Reading {
     outcome.endsEarly = source_.Ended();
     outcome.firstMissingQuestion = headerMissing || exam_.questionCount > 0 ? question : 0;
     outcome.filesNotCreated = unpacker_.FilesNotCreated();
+    outcome.passedOver = unpacker_.FilesPassedOver();
+    const bool goesOn = !source_.Ended() && source_.Position() < source_.Size();
+    if (goesOn) outcome.passedOver.questions = std::max(questionsInFile - kMaxQuestions, 0);
   }
 
  private:

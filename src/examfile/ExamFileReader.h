@@ -9,6 +9,16 @@
 
 namespace quorvantis {
 
+/// What a file holds beyond the limits of an exam. It is passed over.
+struct PassedOver {
+  int examFiles = 0;      ///< attached files after the tenth of the exam
+  int questionFiles = 0;  ///< attached files after the tenth of a question
+  int firstQuestion = 0;  ///< the first question with such files, 0 if there is none
+  int questions = 0;      ///< questions after the 500th, as many as the file says; 0 if it ends before them
+
+  bool IsAnything() const { return examFiles > 0 || questionFiles > 0 || questions > 0; }
+};
+
 /// What a reader reports about a file, apart from the exam that it filled.
 struct ExamReadOutcome {
   bool opened = false;  ///< if false, the exam is unchanged
@@ -16,6 +26,7 @@ struct ExamReadOutcome {
   int filesNotCreated = 0;       ///< attached files that could not be unpacked
   bool endsEarly = false;        ///< the data ended before the last field; what was read has been kept
   int firstMissingQuestion = 0;  ///< if it ends early: the first incomplete question, 0 if there is none
+  PassedOver passedOver;
 };
 
 /// Loads one exam file into a document that the caller has reset, and unpacks the attached files into the

@@ -21,7 +21,8 @@ ReadDoubt DoubtOf(const ExamReadOutcome& outcome, const FrameSetExam& exam) {
   const bool isUntagged = outcome.form.version == &kUntaggedVersion;
   if (outcome.opened && isUntagged && (outcome.endsEarly || exam.questionCount == 0))
     return ReadDoubt::NoExam;
-  return !outcome.opened || outcome.endsEarly ? ReadDoubt::ReadInPart : ReadDoubt::None;
+  if (!outcome.opened || outcome.endsEarly) return ReadDoubt::ReadInPart;
+  return outcome.passedOver.IsAnything() ? ReadDoubt::PassedOver : ReadDoubt::None;
 }
 
 /// Ends every read: the document records the outcome, and the user is told about losses.

@@ -481,5 +481,15 @@ constexpr int kRulesFileBusy = 1794;
 constexpr int kWorkOutRules = 1610;
 constexpr int kLittleRecognised = 1611;
 constexpr int kLearnOnCommandLine = 1612;
+// More in a file than an exam can have.
+constexpr int kPassedOver = 1820;
+constexpr int kExamFilesPassedOver = 1821;
+constexpr int kQuestionFilesPassedOver = 1822;
+constexpr int kQuestionsPassedOver = 1823;
+constexpr int kPassedOverAnd = 1824;
+constexpr int kPassedOverIsLost = 1825;
+
+constexpr int kReplacementIsSame = 1826;
+constexpr int kAttachedWithoutContent = 1827;
 
 }  // namespace quorvantis::text_id

@@ -2,8 +2,10 @@
 #include "taking/OtherExam.h"
 
 #include "editor/WorkCopies.h"
+#include "examfile/ExamFileMessages.h"
 #include "examfile/ExamFileReader.h"
 #include "examfile/WorkFolder.h"
+#include "model/WorkFolderNames.h"
 #include "platform/TextNumbers.h"
 #include "taking/PrivateServices.h"
 #include "text/MessageText.h"
@@ -20,13 +22,15 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Like the folders of work copies, it lies in the work root, which goes when the program ends.
-constexpr const char* kFolder = ".other-exam-";
+fs::path FolderOf(const fs::path& workRoot, int number) {
+  return workRoot / (std::string(kOtherExamFolder) + std::to_string(number));
+}
 
 }  // namespace
 
 OtherExam::OtherExam(const ExamServices& services, const fs::path& workRoot, fs::path file, int number)
     : file_(std::move(file)),
-      folder_(workRoot / (kFolder + std::to_string(number))),
+      folder_(FolderOf(workRoot, number)),
       services_(PrivateServices(services, folder_, messages_, flags_)),
       exam_(services_) {
   MakeWorkRoot(workRoot);
@@ -45,6 +49,7 @@ void OtherExam::Read() {
   problem_ = WhyNothing();
   if (!problem_.empty()) return;
   questionCount_ = exam_.LastCountedQuestion();
+  passedOver_ = PassedOverText(services_.strings, exam_.lastRead->passedOver);
   const ExamReadOutcome& outcome = *exam_.lastRead;
   if (!outcome.endsEarly || outcome.firstMissingQuestion == 0) return;
   questionCount_ = std::min(questionCount_, outcome.firstMissingQuestion - 1);

@@ -45,6 +45,9 @@ class OtherExam {
   /// nothing is.
   const std::u16string& Problem() const { return problem_; }
 
+  /// What the file holds beyond the limits of an exam and cannot be taken, for the user; empty if nothing.
+  const std::u16string& PassedOverNotice() const { return passedOver_; }
+
   /// Questions with these numbers. Their attached files exist as long as this object.
   TakenQuestions Take(const std::vector<int>& numbers) const;
 
@@ -66,6 +69,7 @@ class OtherExam {
   FrameSetExam exam_;
   int questionCount_ = 0;
   std::u16string problem_;
+  std::u16string passedOver_;
 };
 
 }  // namespace quorvantis

@@ -138,6 +138,12 @@ TEST_P(AnyForm, TakesAtMost500QuestionsAndTenFiles) {
   EXPECT_EQ(exam.examAttachmentPaths[9], hasFiles ? PathToText(work / "8f") : u"");
   EXPECT_EQ(exam.Question(1).attachmentPaths[9], hasFiles ? PathToText(work / "18f") : u"");
   EXPECT_FALSE(std::filesystem::exists(work / "19f"));
+  const PassedOver& passedOver = exam.lastRead->passedOver;
+  EXPECT_EQ(passedOver.examFiles, hasFiles ? 2 : 0);
+  EXPECT_EQ(passedOver.questionFiles, hasFiles ? 2 : 0);
+  EXPECT_EQ(passedOver.firstQuestion, hasFiles ? 1 : 0);
+  EXPECT_EQ(passedOver.questions, count == 500 ? 1 : 0);
+  EXPECT_EQ(world.dialogs.warnings.size(), passedOver.IsAnything() ? 1U : 0U);
 }
 
 TEST_P(AnyForm, FindsTheQuestionsWhereNoFileCanBeCreated) {

@@ -68,11 +68,8 @@ InsertFromExamDlg::InsertFromExamDlg(const OtherExam& other, int room, const Str
   NameControl(table_, "questionsOfExam", windowTitle());
   NameControl(count_, "tickedCount", {});
   auto* layout = new QVBoxLayout(this);
-  if (!other.Problem().empty()) {
-    auto* problem = new QLabel(ToQString(other.Problem()), this);
-    problem->setTextFormat(Qt::PlainText);
-    problem->setWordWrap(true);
-    layout->addWidget(problem);
+  for (const std::u16string& told : {other.Problem(), other.PassedOverNotice()}) {
+    if (!told.empty()) layout->addWidget(MakeNotice(told));
   }
   layout->addWidget(table_);
   layout->addWidget(count_);
@@ -99,6 +96,13 @@ InsertFromExamDlg::InsertFromExamDlg(const OtherExam& other, int room, const Str
 
 QString InsertFromExamDlg::Text(int id) const {
   return ToQString(strings_.Text(id));
+}
+
+QLabel* InsertFromExamDlg::MakeNotice(const std::u16string& text) {
+  auto* notice = new QLabel(ToQString(text), this);
+  notice->setTextFormat(Qt::PlainText);
+  notice->setWordWrap(true);
+  return notice;
 }
 
 QPushButton* InsertFromExamDlg::MakeButton(const char* name, int text) {

@@ -53,6 +53,7 @@ class InsertFromExamDlg : public QDialog {
 
  private:
   QString Text(int id) const;
+  QLabel* MakeNotice(const std::u16string& text);
   QPushButton* MakeButton(const char* name, int text);
   void TickAll(bool on);
   void TickSelected();

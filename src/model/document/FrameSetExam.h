@@ -24,6 +24,7 @@ struct ReadPaper;
 enum class ReadDoubt {
   None,
   ReadInPart,  ///< the file could not be read to its end, or not at all
+  PassedOver,  ///< the file holds more than an exam can have
   NoExam,      ///< nothing in the file suggests that it is an exam
 };
 
