@@ -3,12 +3,14 @@
 
 #include "editor/AttachmentShifts.h"
 #include "editor/WorkCopies.h"
+#include "examfile/FileFailure.h"
 #include "model/MediaKinds.h"
 #include "model/QuestionKinds.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "text/MessageText.h"
 #include "text/PathText.h"
 
 #include <algorithm>
@@ -69,20 +71,32 @@ std::optional<std::filesystem::path> AttachmentEditor::ChooseFile() const {
 std::filesystem::path AttachmentEditor::MakeCopy(const std::filesystem::path& source) {
   state_.MarkModified();
   const auto workRoot = AttachmentWorkRoot(state_.document.Services().applicationFolder);
-  return MakeWorkCopy(workRoot, source, TakeCopyNumber());
+  const std::filesystem::path copy = MakeWorkCopy(workRoot, source, TakeCopyNumber(), copyFailure_);
+  if (copyFailure_) copyFailed_ = source;
+  return copy;
+}
+
+std::u16string AttachmentEditor::CopyProblem() const {
+  if (copyFailed_.empty()) return {};
+  const StringTable& strings = state_.document.Services().strings;
+  return FillMessage(strings.Text(text_id::kAttachedWithoutContent),
+                     {PathToText(copyFailed_), FileFailureText(strings, copyFailure_)});
 }
 
 void AttachmentEditor::AttachExamFile() {
+  copyFailed_.clear();
   if (examList_.IsFull()) return;
   if (const auto source = ChooseFile()) AttachExamFile(*source);
 }
 
 void AttachmentEditor::AttachQuestionFile() {
+  copyFailed_.clear();
   if (questionList_.IsFull()) return;
   if (const auto source = ChooseFile()) AttachQuestionFile(*source);
 }
 
 void AttachmentEditor::AttachExamFile(const std::filesystem::path& source) {
+  copyFailed_.clear();
   if (examList_.IsFull()) return;
   const std::u16string name = PathToText(source.filename());
   const auto copy = MakeCopy(source);
@@ -93,6 +107,7 @@ void AttachmentEditor::AttachExamFile(const std::filesystem::path& source) {
 }
 
 void AttachmentEditor::AttachQuestionFile(const std::filesystem::path& source) {
+  copyFailed_.clear();
   if (questionList_.IsFull()) return;
   const std::u16string name = PathToText(source.filename());
   const auto copy = MakeCopy(source);

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace quorvantis {
@@ -51,6 +52,10 @@ class AttachmentEditor {
   /// Attaches the file at `source`, a full path, without a dialog.
   void AttachExamFile(const std::filesystem::path& source);
   void AttachQuestionFile(const std::filesystem::path& source);
+
+  /// Why the file attached last has no content, for the user; empty if it has. Attaching itself tells nobody:
+  /// the entry is there all the same.
+  std::u16string CopyProblem() const;
 
   void SelectExamFile(std::optional<std::size_t> index) { examList_.selected = index; }
   void SelectQuestionFile(std::optional<std::size_t> index) { questionList_.selected = index; }
@@ -106,7 +111,9 @@ class AttachmentEditor {
   EditedExam& exam_;
   ShownAttachments questionList_;
   ShownAttachments examList_;
-  int attachmentCounter_ = 0;  ///< attachments in this run; never decreases, so copy names stay unique
+  int attachmentCounter_ = 0;         ///< attachments in this run; never decreases, so copy names stay unique
+  std::filesystem::path copyFailed_;  ///< the file that could not be copied, empty for none
+  std::error_code copyFailure_;
   int oralToggleState_ = 0;
   bool oralToggleShown_ = false;
 };

@@ -85,8 +85,10 @@ class NewWorkCopies {
       const fs::path source = TextToPath(question.attachmentPaths[i]);
       if (whole.hasContent[i] && missing == MissingFiles::StayMissing && !IsFile(source)) continue;
       // Without content there is nothing to copy, but the file still gets a path that no other one has.
-      made_.push_back(MakeWorkCopy(workRoot_, source, attachments_.TakeCopyNumber()));
-      if (whole.hasContent[i] && !IsWholeCopy(made_.back(), source)) return question.attachmentNames[i];
+      std::error_code failure;
+      made_.push_back(MakeWorkCopy(workRoot_, source, attachments_.TakeCopyNumber(), failure));
+      if (whole.hasContent[i] && (failure || !IsWholeCopy(made_.back(), source)))
+        return question.attachmentNames[i];
       question.attachmentPaths[i] = PathToText(made_.back());
     }
     return std::nullopt;

@@ -78,6 +78,15 @@ fs::path MakeOwnFolder(const fs::path& parent, const fs::path& name) {
   return folder;
 }
 
+/// The library reports a full disk as any other failure to write.
+std::error_code WhyNotCopied(const fs::path& source, const fs::path& copy, std::error_code reported) {
+  if (reported != std::errc::io_error) return reported;
+  std::error_code error;
+  const auto size = fs::file_size(source, error);
+  const auto room = error ? fs::space_info{} : fs::space(copy.parent_path(), error);
+  return !error && room.available < size ? std::make_error_code(std::errc::no_space_on_device) : reported;
+}
+
 void AppendPaths(const AttachmentList& list, std::vector<std::filesystem::path>& files) {
   for (const std::u16string& path : list) {
     if (!path.empty()) files.push_back(TextToPath(path));
@@ -102,15 +111,19 @@ std::u16string CopyFolder(const fs::path& source, int counter) {
   return FitFileName(NumberedName(PathToText(source.filename()), counter));
 }
 
-fs::path MakeWorkCopy(const fs::path& workRoot, const fs::path& source, int counter) {
+fs::path MakeWorkCopy(const fs::path& workRoot, const fs::path& source, int counter,
+                      std::error_code& failure) {
   MakeWorkRoot(workRoot);
   const fs::path fromFolder = MakeOwnFolder(workRoot, TextToPath(SourceFolder(source)));
   const fs::path copy =
       MakeOwnFolder(fromFolder, TextToPath(CopyFolder(source, counter))) / source.filename();
   std::error_code ignored;
   fs::remove(copy, ignored);
-  fs::copy_file(source, copy, ignored);
-  if (ignored) fs::remove(copy, ignored);  // half a file must not pass for a whole one
+  fs::copy_file(source, copy, failure);
+  if (failure) {
+    fs::remove(copy, ignored);  // half a file must not pass for a whole one
+    failure = WhyNotCopied(source, copy, failure);
+  }
   constexpr auto kExecutable = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
   fs::permissions(copy, kExecutable, fs::perm_options::remove, ignored);
   fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add, ignored);

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The copies of attached files that the editor keeps in work folders, from attaching to deletion. None of
-// these operations reports an error: an attachment whose copy failed has no content.
+// these operations shows an error: an attachment whose copy failed has no content.
 #pragma once
 
 #include "model/document/FrameSetExam.h"
 
 #include <filesystem>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace quorvantis {
@@ -25,10 +26,11 @@ std::u16string SourceFolder(const std::filesystem::path& source);
 /// shortened likewise.
 std::u16string CopyFolder(const std::filesystem::path& source, int counter);
 
-/// Copies `source`, a full path, into the work root and returns the path of the copy, even if copying failed.
-/// The copy is an ordinary file, writable and never executable.
+/// Copies `source`, a full path, into the work root and returns the path of the copy, even if copying failed:
+/// then `failure` tells why, and there is no file. The copy is an ordinary file, writable and never
+/// executable.
 std::filesystem::path MakeWorkCopy(const std::filesystem::path& workRoot, const std::filesystem::path& source,
-                                   int counter);
+                                   int counter, std::error_code& failure);
 
 /// Remembers the files that a reader unpacked, for the deletions below.
 void RecordCopies(FrameSetExam& exam);

@@ -97,10 +97,14 @@ TEST_F(Attaching, TakesAnyFileNameAndItsFailures) {
   for (int i = 0; i < 6; ++i) deep /= std::string(60, static_cast<char>('a' + i));
   EXPECT_EQ(ReadBytes(attach(MakeFile(deep / "x"))), "content");
 
+  EXPECT_EQ(editor.attachments.CopyProblem(), u"");
   EXPECT_FALSE(fs::exists(attach(folder / "absent.txt")));
+  EXPECT_EQ(editor.attachments.CopyProblem(), u"[1827 " + AsText(folder / "absent.txt") + u"]");
   EXPECT_FALSE(fs::exists(attach(folder.Path())));
   EXPECT_EQ(editor.attachments.ExamList().names.size(), 6u);
-  EXPECT_TRUE(world.dialogs.errors.empty());
+  EXPECT_TRUE(world.dialogs.errors.empty() && world.dialogs.warnings.empty());
+  editor.attachments.AttachQuestionFile();  // cancelled
+  EXPECT_EQ(editor.attachments.CopyProblem(), u"") << "of an earlier file";
 }
 
 TEST_F(Attaching, RefusesTheEleventhFileSilently) {

@@ -6,6 +6,7 @@
 #include "desktop/controls/PlacedText.h"
 #include "desktop/dialogs/AboutDlg.h"
 #include "desktop/dialogs/CScoreSetupDlg.h"
+#include "desktop/main/Attaching.h"
 #include "desktop/main/GuideDlg.h"
 #include "desktop/main/KeysDlg.h"
 #include "desktop/main/RecoveryQuestion.h"
@@ -109,7 +110,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       previews_(SetUpGateway(services_, pages)),
       importWindows_(exam.Services(), library, *this),
       import_(editor_, life_.Steps(), papers, importWindows_, FindImportRules(services_.applicationFolder)),
-      questionTools_(editor_, *this),
+      shownQuestion_(editor_, *this),
       pictures_(library),
       openRecent_(editor_),
       client_(MakeClientArea(this)),
@@ -127,7 +128,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       ok_(MakeHiddenButton("ok", client_)),
       printAgain_(MakeHiddenButton("printAgain", client_)),
       menuBar_(new MenuBar(
-          WindowMenus(Controls(), editor_, questionTools_, focusedField_, services_.strings, MenuCommands())
+          WindowMenus(Controls(), editor_, shownQuestion_, focusedField_, services_.strings, MenuCommands())
               .Tables(),
           ToQString(services_.strings.Text(text_id::kMenuBar)), this)) {
   editor_.files.SetLongAnswersWhole(true);
@@ -233,7 +234,7 @@ void CQuorvantisDlg::FormLoaded() {
   question_.Load();
   answers_.Load();
   importWindows_.ExamChanged();
-  questionTools_.ExamChanged();
+  shownQuestion_.ExamChanged();
   history_.Note();
   search_.ExamChanged();
 }
@@ -243,7 +244,7 @@ void CQuorvantisDlg::FormChanged() {
   examControls_.Refresh();
   question_.Refresh();
   answers_.Refresh();
-  questionTools_.ExamChanged();
+  shownQuestion_.ExamChanged();
   Layout();
   history_.Note();
   search_.ExamChanged();
@@ -332,7 +333,7 @@ void CQuorvantisDlg::PreviewFromSetup(int show) {
 }
 
 void CQuorvantisDlg::PostContentChanged() {
-  questionTools_.ExamChanged();
+  shownQuestion_.ExamChanged();
   emit ContentChangePosted();
   history_.Note();
   search_.ExamChanged();
@@ -422,7 +423,7 @@ void CQuorvantisDlg::TakeFiles(const QList<QUrl>& urls) {
     OpenExam(*exam);
     return;
   }
-  for (const std::filesystem::path& file : files) editor_.attachments.AttachQuestionFile(file);
+  AttachToQuestion(editor_, files);
 }
 
 }  // namespace quorvantis

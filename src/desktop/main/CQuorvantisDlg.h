@@ -19,7 +19,7 @@
 #include "desktop/main/WindowLayout.h"
 #include "desktop/main/WindowMenus.h"
 #include "desktop/main/WindowScroll.h"
-#include "desktop/overview/QuestionTools.h"
+#include "desktop/overview/ShownQuestionCommands.h"
 #include "import/ImportCommand.h"
 #include "preview/PreviewWindows.h"
 #include "scoring/SetupOwner.h"
@@ -139,7 +139,7 @@ class CQuorvantisDlg final : public FittedWindow,
   PreviewWindows::Window previewWindow_;  ///< null until the browser has started
   ImportWindows importWindows_;
   ImportCommand import_;
-  QuestionTools questionTools_;
+  ShownQuestionCommands shownQuestion_;
   Pictures pictures_;
   bool endsUnasked_ = false;
   OpenRecent openRecent_;

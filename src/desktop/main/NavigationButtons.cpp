@@ -3,6 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
+#include "desktop/main/Attaching.h"
 #include "platform/TextNumbers.h"
 
 namespace quorvantis {
@@ -24,10 +25,6 @@ using NavigationCommand = void (*)(ExamEditor& editor);
 template <void (QuestionEditor::*command)()>
 void RunNavigation(ExamEditor& editor) {
   (editor.questions.*command)();
-}
-
-void AttachToQuestion(ExamEditor& editor) {
-  editor.attachments.AttachQuestionFile();
 }
 
 struct NavigationButtonSpec {

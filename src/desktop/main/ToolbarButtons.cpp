@@ -3,6 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
+#include "desktop/main/Attaching.h"
 #include "platform/TextNumbers.h"
 
 #include <utility>
@@ -31,8 +32,7 @@ ToolbarButtons::ToolbarButtons(ExamEditor& editor, const WindowCommands& window,
       make("saveAs", "212", kSaveAs, {Qt::ALT | Qt::Key_A, Qt::CTRL | Qt::SHIFT | Qt::Key_S},
            [&editor] { editor.files.SaveExamAs(); }),
       make("scoreSetup", "206", kScoreSettings, {Qt::ALT | Qt::Key_G}, window.scoreSetup),
-      make("attachFiles", "226", kAttachFiles, {Qt::ALT | Qt::Key_H},
-           [&editor] { editor.attachments.AttachExamFile(); }),
+      make("attachFiles", "226", kAttachFiles, {Qt::ALT | Qt::Key_H}, [&editor] { AttachToExam(editor); }),
       make("preview", "209", kPreview, {Qt::ALT | Qt::Key_V, Qt::Key_F5}, window.preview),
       make("print", "210", kPrint, {Qt::ALT | Qt::Key_P, Qt::CTRL | Qt::Key_P}, window.print),
   };

@@ -203,7 +203,7 @@ MenuTable WindowMenus::Question() const {
 /// Without keys: in the overview these act on the selected questions.
 std::vector<MenuEntry> WindowMenus::WholeQuestion() const {
   using namespace text_id;
-  QuestionTools& tools = tools_;
+  ShownQuestionCommands& tools = tools_;
   const auto any = [&tools] { return tools.HasQuestion(); };
   return {{.name = "questionDuplicate",
            .caption = Text(kDuplicateQuestion),

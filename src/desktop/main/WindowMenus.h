@@ -6,7 +6,7 @@
 #include "desktop/main/MenuBar.h"
 #include "desktop/main/SearchCommands.h"
 #include "desktop/main/WindowLayout.h"
-#include "desktop/overview/QuestionTools.h"
+#include "desktop/overview/ShownQuestionCommands.h"
 #include "editor/ExamEditor.h"
 #include "platform/StringTable.h"
 
@@ -35,8 +35,8 @@ class WindowMenus {
   };
 
   /// All must outlive the menus, which outlive this. The controls must exist already.
-  WindowMenus(const WindowControls& controls, ExamEditor& editor, QuestionTools& tools, FocusedField& field,
-              const StringTable& strings, Commands commands)
+  WindowMenus(const WindowControls& controls, ExamEditor& editor, ShownQuestionCommands& tools,
+              FocusedField& field, const StringTable& strings, Commands commands)
       : controls_(controls),
         editor_(editor),
         tools_(tools),
@@ -70,7 +70,7 @@ class WindowMenus {
 
   WindowControls controls_;
   ExamEditor& editor_;
-  QuestionTools& tools_;
+  ShownQuestionCommands& tools_;
   FocusedField& field_;
   const StringTable& strings_;
   Commands commands_;

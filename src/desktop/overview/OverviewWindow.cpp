@@ -31,7 +31,7 @@ constexpr std::u16string_view kSection = u"overview";
 
 }  // namespace
 
-OverviewWindow::OverviewWindow(ExamEditor& editor, QuestionCommands& commands, QWidget* parent)
+OverviewWindow::OverviewWindow(ExamEditor& editor, WholeQuestionCommands& commands, QWidget* parent)
     : QWidget(parent, Qt::Tool | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       editor_(editor),
       commands_(commands),

@@ -4,7 +4,7 @@
 #include "desktop/overview/OverviewFilterLine.h"
 #include "desktop/overview/OverviewModel.h"
 #include "desktop/overview/OverviewTable.h"
-#include "desktop/overview/QuestionCommands.h"
+#include "desktop/overview/WholeQuestionCommands.h"
 #include "shell/settings/WindowPlace.h"
 
 #include <QAction>
@@ -24,7 +24,7 @@ class OverviewWindow : public QWidget {
 
  public:
   /// `editor` and `commands` must outlive the window, which belongs to `parent`, the main window.
-  OverviewWindow(ExamEditor& editor, QuestionCommands& commands, QWidget* parent);
+  OverviewWindow(ExamEditor& editor, WholeQuestionCommands& commands, QWidget* parent);
   ~OverviewWindow() override;
 
   /// Shows the window, or brings it to the front.
@@ -67,7 +67,7 @@ class OverviewWindow : public QWidget {
   QString Text(int id) const;
 
   ExamEditor& editor_;
-  QuestionCommands& commands_;
+  WholeQuestionCommands& commands_;
   WindowPlaceSetting setting_;
   OverviewModel* model_;
   OverviewFilterLine* filter_;

@@ -84,6 +84,27 @@ TEST_F(AttachmentMenu, SavesACopyOrSaysWhyNot) {
   EXPECT_EQ(world.dialogs.errors.size(), 3U);
 }
 
+TEST_F(AttachmentMenu, IsToldOnceOfFilesWithoutContent) {
+  Open();
+  const std::filesystem::path gone = folder / "gone.jpg";
+  for (const char* button : {"attachFiles", "attachToQuestion"}) {
+    world.dialogs.filesToOpen.push_back(gone);
+    Click(button);
+    EXPECT_EQ(world.dialogs.warnings, std::vector{u"[1827 " + gone.u16string() + u"]"}) << button;
+    world.dialogs.warnings.clear();
+  }
+  const auto copies = folder / "app" / "~TEMP";
+  std::filesystem::remove_all(copies);
+  WriteBytes(copies, "no folder, so nothing can be copied");
+  emit window->FilesDropped(
+      {QUrl::fromLocalFile(MakeFile("one.jpg").c_str()), QUrl::fromLocalFile(MakeFile("two.jpg").c_str())});
+  Turn();
+  EXPECT_EQ(world.dialogs.warnings.size(), 1U);
+  std::filesystem::remove(copies);
+  Attach("attachFiles", "two.jpg");
+  EXPECT_EQ(world.dialogs.warnings.size(), 1U);
+}
+
 TEST_F(AttachmentMenu, AlwaysHasTheOralSwitchOfAnOralQuestion) {
   exam.Question(1).kind = QuestionKind::Oral;
   Open();

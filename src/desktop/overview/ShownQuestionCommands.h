@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/overview/OverviewWindow.h"
-#include "desktop/overview/QuestionCommands.h"
+#include "desktop/overview/WholeQuestionCommands.h"
 
 #include <QPointer>
 
@@ -10,10 +10,11 @@ namespace quorvantis {
 
 /// What the main window offers for whole questions: the overview, and commands for the question that is
 /// shown.
-class QuestionTools {
+class ShownQuestionCommands {
  public:
   /// Both must outlive this, but the overview goes with `window`, the main window.
-  QuestionTools(ExamEditor& editor, QWidget& window) : editor_(editor), window_(window), commands_(editor) {}
+  ShownQuestionCommands(ExamEditor& editor, QWidget& window)
+      : editor_(editor), window_(window), commands_(editor) {}
 
   void ShowOverview();
   /// Something in the editor may have changed.
@@ -38,7 +39,7 @@ class QuestionTools {
 
   ExamEditor& editor_;
   QWidget& window_;
-  QuestionCommands commands_;
+  WholeQuestionCommands commands_;
   QPointer<OverviewWindow> overview_;  ///< null until it is first shown
 };
 

@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/overview/QuestionTools.h"
+#include "desktop/overview/ShownQuestionCommands.h"
 
 namespace quorvantis {
 
-void QuestionTools::ShowOverview() {
+void ShownQuestionCommands::ShowOverview() {
   if (!overview_) overview_ = new OverviewWindow(editor_, commands_, &window_);
   overview_->Open();
 }
 
-void QuestionTools::ExamChanged() {
+void ShownQuestionCommands::ExamChanged() {
   if (overview_) overview_->ExamChanged();
 }
 
-bool QuestionTools::CanMoveUp() const {
+bool ShownQuestionCommands::CanMoveUp() const {
   return HasQuestion() && editor_.state.CurrentQuestion() > 1;
 }
 
-bool QuestionTools::CanMoveDown() const {
+bool ShownQuestionCommands::CanMoveDown() const {
   return editor_.state.CurrentQuestion() < commands_.LastQuestion();
 }
 

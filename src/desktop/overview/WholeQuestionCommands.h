@@ -14,10 +14,10 @@ namespace quorvantis {
 /// The commands of the windows for whole questions. Each is one command of the editor; problems are shown to
 /// the user. Lists of numbers are ascending. The results are for a status line: what was done, and which
 /// questions have another score since; empty if nothing was done.
-class QuestionCommands {
+class WholeQuestionCommands {
  public:
   /// `editor` must outlive this.
-  explicit QuestionCommands(ExamEditor& editor);
+  explicit WholeQuestionCommands(ExamEditor& editor);
 
   /// Numbers of the questions that the last command has moved or inserted, or of the one in the place of
   /// those that it has deleted.

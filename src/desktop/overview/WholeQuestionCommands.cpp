@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/overview/QuestionCommands.h"
+#include "desktop/overview/WholeQuestionCommands.h"
 
 #include "desktop/controls/QtText.h"
 #include "desktop/overview/InsertFromExamDlg.h"
 #include "editor/WorkCopies.h"
+#include "model/WorkFolderNames.h"
 #include "overview/ScoreChanges.h"
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
@@ -44,25 +45,25 @@ class PassingFile {
 
 }  // namespace
 
-QuestionCommands::QuestionCommands(ExamEditor& editor)
+WholeQuestionCommands::WholeQuestionCommands(ExamEditor& editor)
     : editor_(editor), clipboard_(editor.state.document.Services()) {}
 
-std::u16string QuestionCommands::Text(int id) const {
+std::u16string WholeQuestionCommands::Text(int id) const {
   return Services().strings.Text(id);
 }
 
-QString QuestionCommands::Refuse(std::u16string_view problem) const {
+QString WholeQuestionCommands::Refuse(std::u16string_view problem) const {
   Services().dialogs.ShowError(problem);
   return {};
 }
 
-QString QuestionCommands::Report(const OrderOutcome& outcome, int text, std::size_t count) {
+QString WholeQuestionCommands::Report(const OrderOutcome& outcome, int text, std::size_t count) {
   if (!outcome.IsDone()) return Refuse(OrderProblemText(outcome, Services().strings));
   changed_ = outcome.questions;
   return ToQString(FillMessage(Text(text), {Counted(count)})) + ScoresAfter(outcome);
 }
 
-QString QuestionCommands::ScoresAfter(const OrderOutcome& outcome) const {
+QString WholeQuestionCommands::ScoresAfter(const OrderOutcome& outcome) const {
   const auto former = [&outcome](int number) { return outcome.order.Source(number); };
   const std::vector<ScoreChange> changes = ScoreChanges(editor_.state.document, LastQuestion(), former);
   std::u16string told;
@@ -77,11 +78,11 @@ QString QuestionCommands::ScoresAfter(const OrderOutcome& outcome) const {
   return ToQString(told);
 }
 
-QString QuestionCommands::MoveTo(const std::vector<int>& numbers, int to) {
+QString WholeQuestionCommands::MoveTo(const std::vector<int>& numbers, int to) {
   return Report(editor_.order.MoveMany(numbers, to), text_id::kQuestionsMoved, numbers.size());
 }
 
-QString QuestionCommands::AskAndMove(const std::vector<int>& numbers, QWidget* parent) {
+QString WholeQuestionCommands::AskAndMove(const std::vector<int>& numbers, QWidget* parent) {
   const int highest = LastQuestion() - static_cast<int>(numbers.size()) + 1;
   if (numbers.empty() || highest < 1) return {};
   bool accepted = false;
@@ -93,17 +94,17 @@ QString QuestionCommands::AskAndMove(const std::vector<int>& numbers, QWidget* p
   return accepted ? MoveTo(numbers, to) : QString();
 }
 
-QString QuestionCommands::Duplicate(const std::vector<int>& numbers) {
+QString WholeQuestionCommands::Duplicate(const std::vector<int>& numbers) {
   return Report(editor_.order.Duplicate(numbers), text_id::kQuestionsDuplicated, numbers.size());
 }
 
-QString QuestionCommands::Delete(const std::vector<int>& numbers) {
+QString WholeQuestionCommands::Delete(const std::vector<int>& numbers) {
   QString done = Report(editor_.order.DeleteMany(numbers), text_id::kQuestionsDeleted, numbers.size());
   if (!done.isEmpty()) changed_ = {editor_.state.CurrentQuestion()};
   return done;
 }
 
-QString QuestionCommands::Copy(const std::vector<int>& numbers) {
+QString WholeQuestionCommands::Copy(const std::vector<int>& numbers) {
   changed_.clear();
   if (numbers.empty()) return {};
   std::vector<CopiedQuestion> copied;
@@ -118,26 +119,26 @@ QString QuestionCommands::Copy(const std::vector<int>& numbers) {
   return ToQString(told);
 }
 
-QString QuestionCommands::Cut(const std::vector<int>& numbers) {
+QString WholeQuestionCommands::Cut(const std::vector<int>& numbers) {
   return Copy(numbers).isEmpty() ? QString() : Delete(numbers);
 }
 
-int QuestionCommands::PlaceToInsert() const {
+int WholeQuestionCommands::PlaceToInsert() const {
   return LastQuestion() == 0 ? 0 : editor_.state.CurrentQuestion();
 }
 
-QString QuestionCommands::Insert(std::vector<WholeQuestion> questions, ChangeKind how) {
+QString WholeQuestionCommands::Insert(std::vector<WholeQuestion> questions, ChangeKind how) {
   const std::size_t count = questions.size();
   return Report(editor_.order.InsertWhole(std::move(questions), PlaceToInsert(), how),
                 text_id::kQuestionsInserted, count);
 }
 
-QString QuestionCommands::Paste() {
+QString WholeQuestionCommands::Paste() {
   if (!clipboard_.HasQuestions()) return Refuse(Text(text_id::kNoQuestionsCopied));
   const auto workRoot = AttachmentWorkRoot(Services().applicationFolder);
   MakeWorkRoot(workRoot);
   const int number = editor_.attachments.TakeCopyNumber();
-  const PassingFile file(workRoot / (".pasted-" + std::to_string(number) + ".exm"));
+  const PassingFile file(workRoot / (std::string(kPastedFile) + std::to_string(number) + ".exm"));
   if (!clipboard_.SaveTo(file.Path())) return Refuse(Text(text_id::kPasteDamaged));
   const OtherExam copied(Services(), workRoot, file.Path(), number);
   if (!copied.Problem().empty()) return Refuse(Text(text_id::kPasteDamaged));
@@ -148,7 +149,7 @@ QString QuestionCommands::Paste() {
   return Insert(std::move(taken.questions), ChangeKind::PasteQuestion);
 }
 
-QString QuestionCommands::InsertFromExam(QWidget* parent) {
+QString WholeQuestionCommands::InsertFromExam(QWidget* parent) {
   const auto file = Services().dialogs.ChooseFileToOpen({Text(text_id::kOpenExamFilter), {}, {}});
   if (!file) return {};
   const OtherExam other(Services(), AttachmentWorkRoot(Services().applicationFolder), *file,
