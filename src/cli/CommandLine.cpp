@@ -18,7 +18,6 @@
 namespace quorvantis::cli {
 namespace {
 
-constexpr int kCommandFailed = 1;
 constexpr int kWrongUsage = 2;
 
 /// The variables that options are bound to.
@@ -398,6 +397,7 @@ int Parse(CLI::App& app, int argumentCount, const char* const* arguments, Consol
     return status == 0 ? 0 : kWrongUsage;
   } catch (const CommandError& problem) {
     console.Complain(problem.what());
+    return problem.Status();
   } catch (const std::bad_alloc&) {
     console.Complain("there is not enough memory");
   } catch (const std::exception& problem) {

@@ -58,7 +58,10 @@ std::u16string ScriptArgument::Text() const {
 
 std::filesystem::path ScriptArgument::Path() const {
   const std::filesystem::path path = quoted_ ? TextToPath(*quoted_) : std::filesystem::path(word_);
-  return path.empty() ? path : std::filesystem::absolute(path).lexically_normal();
+  if (path.empty()) throw CommandError("\"\" names no file; give the path of one");
+  if (path.native().find('\0') != std::string::npos)
+    throw CommandError(path.string() + ": the name of a file cannot contain a NUL");
+  return std::filesystem::absolute(path).lexically_normal();
 }
 
 std::optional<int> ScriptArgument::Index() const {

@@ -16,7 +16,8 @@ class ScriptArgument {
   static ScriptArgument Quoted(std::u16string text) { return ScriptArgument({}, std::move(text)); }
 
   std::u16string Text() const;
-  /// The full path that the argument names, from the current directory on.
+  /// The full path that the argument names, from the current directory on. Throws CommandError if it can name
+  /// no file.
   std::filesystem::path Path() const;
   /// A whole number, at least 0, or nothing.
   std::optional<int> Index() const;

@@ -59,6 +59,7 @@ void EditSession::Run(const EditScriptLine& line) {
                    : " " + std::string(command->usage) + "; a text with blanks stands in double quotes"));
   }
   if (closed_ && line.command != "state") throw CommandError("the exam is closed");
+  lacksReply_ = false;
   const int errors = session_.dialogs.ErrorCount();
   life_.Steps().EndTyping();
   command->run(*this, line.arguments);

@@ -37,6 +37,10 @@ class EditSession {
 
   /// The window has been closed: only its state can be queried.
   void Close() { closed_ = true; }
+  /// The command that runs is a close without an answer to the save question.
+  void LackReplyToClose() { lacksReply_ = true; }
+  /// That was the last command.
+  bool LacksReplyToClose() const { return lacksReply_; }
 
  private:
   void TellRecovery();
@@ -48,6 +52,7 @@ class EditSession {
   ImportCommand import_;
   bool recoveryFails_ = false;  ///< and this has been reported
   bool closed_ = false;
+  bool lacksReply_ = false;
 };
 
 /// A command of the script language.

@@ -69,11 +69,15 @@ void Attach(EditSession& session, AttachedTo list, const ScriptArgument& argumen
   if ((list == AttachedTo::Exam ? attachments.ExamList() : attachments.QuestionList()).IsFull()) {
     session.Streams().Complain(file.string() + ": not attached; a list holds at most " +
                                std::to_string(kMaxAttachments) + " files");
-  } else if (list == AttachedTo::Exam) {
+    return;
+  }
+  if (list == AttachedTo::Exam) {
     attachments.AttachExamFile(file);
   } else {
     attachments.AttachQuestionFile(file);
   }
+  const std::u16string problem = attachments.CopyProblem();
+  if (!problem.empty()) throw CommandError(Utf16ToUtf8(problem));
 }
 
 /// The window has the switch only for oral questions, and there shows the flag of the current question.
@@ -119,7 +123,9 @@ void SaveAs(EditSession& session, const Arguments& arguments) {
 }
 
 void Close(EditSession& session, const Arguments&) {
-  if (session.Editor().files.ConfirmClose()) session.Close();
+  const bool hasReply = session.Dialogs().HasSaveAnswer();
+  if (session.Editor().files.ConfirmClose()) return session.Close();
+  if (!hasReply) session.LackReplyToClose();
 }
 
 void Reply(EditSession& session, const Arguments& arguments) {

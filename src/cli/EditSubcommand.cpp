@@ -23,10 +23,12 @@ void RunScript(EditSession& session, std::istream& script, const std::string& na
     try {
       session.Run(ParseScriptLine(line));
     } catch (const CommandError& problem) {
-      throw CommandError(name + ":" + std::to_string(number) + ": " + problem.what());
+      throw CommandError(name + ":" + std::to_string(number) + ": " + problem.what(), problem.Status());
     }
   }
   if (script.bad()) throw CommandError(name + ": cannot be read to its end");
+  if (session.LacksReplyToClose())
+    throw CommandError(name + ": the exam is not closed; say reply yes or reply no before close");
 }
 
 }  // namespace

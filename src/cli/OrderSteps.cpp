@@ -68,6 +68,8 @@ void TakeQuestions(EditSession& session, const Arguments& arguments) {
                         editor.attachments.TakeCopyNumber());
   TakenQuestions taken = other.Take(numbers);
   if (!taken.problem.empty()) throw CommandError(Utf16ToUtf8(taken.problem));
+  if (!other.PassedOverNotice().empty())
+    session.Streams().Complain(other.File().string() + ": " + Utf16ToUtf8(other.PassedOverNotice()));
   RequireDone(session, editor.order.InsertWhole(std::move(taken.questions), after, ChangeKind::TakeQuestion));
 }
 

@@ -16,6 +16,7 @@ class ScriptedDialogs : public UserDialogs {
   explicit ScriptedDialogs(Console& console) : console_(console) {}
 
   void AnswerNextSaveQuestion(SaveAnswer answer) { saveAnswers_.push_back(answer); }
+  bool HasSaveAnswer() const { return !saveAnswers_.empty(); }
   void ChooseNext(std::filesystem::path file) { nextFile_ = std::move(file); }
 
   /// Number of errors shown so far; warnings do not count.

@@ -3,6 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "platform/TextNumbers.h"
+#include "platform/posix/InterruptWatch.h"
 #include "search/HitLine.h"
 #include "search/SearchTexts.h"
 #include "shell/commands/ReplaceCommand.h"
@@ -40,6 +41,15 @@ SearchQuery QueryOf(const SearchArguments& arguments, std::size_t firstSwitch, c
   return query;
 }
 
+/// Does work that may take long. Ctrl+C ends it, and so the script, without a change to the exam.
+template <class Work>
+auto Interruptibly(const Work& work) {
+  const InterruptWatch watch;
+  auto result = work([&watch] { return watch.HasCome(); });
+  if (watch.HasCome()) throw CommandError("interrupted; the exam is unchanged", kCommandInterrupted);
+  return result;
+}
+
 void PrintLine(EditSession& session, std::u16string_view line) {
   session.Streams().out << Utf16ToUtf8(line) << '\n';
 }
@@ -56,7 +66,8 @@ void Find(EditSession& session, const SearchArguments& arguments) {
   const TextSearch search(QueryOf(arguments, 1, texts));
   ThrowIfAny(QueryProblem(search, texts));
   const FrameSetExam exam = SearchedExam(session.Editor());
-  const SearchOutcome outcome = FindAll(exam, search);
+  const SearchOutcome outcome =
+      Interruptibly([&](const SearchCancelled& isCancelled) { return FindAll(exam, search, isCancelled); });
   for (const SearchHit& hit : outcome.hits) PrintHit(session, exam, hit);
   const std::u16string count = FormatInteger(static_cast<std::int64_t>(outcome.hits.size()));
   PrintLine(session, FillMessage(texts.Text(text_id::kHits), {count}));
@@ -72,8 +83,11 @@ void Replace(EditSession& session, const SearchArguments& arguments) {
   const ReplacementText replacement(arguments[1].Text(), query.isPattern);
   ThrowIfAny(ReplacementProblem(replacement, search, texts));
   const FrameSetExam exam = SearchedExam(session.Editor());
-  const ReplacementPlan plan = PlanReplacements(exam, search, replacement);
+  const ReplacementPlan plan = Interruptibly([&](const SearchCancelled& isCancelled) {
+    return PlanReplacements(exam, search, replacement, isCancelled);
+  });
   ThrowIfAny(SearchProblem(plan.end, plan.stoppedAt, texts));
+  if (plan.replacements.empty()) return PrintLine(session, NothingToReplaceText(plan, texts));
   const ReplaceOutcome outcome = ReplaceHits(session.Editor(), exam, plan.replacements);
   for (const std::u16string& line : ReplaceSummary(outcome, texts)) PrintLine(session, line);
   session.Streams().out.flush();

@@ -102,9 +102,10 @@ ReplacementPlan PlanReplacements(const FrameSetExam& exam, const TextSearch& sea
     plan.end = planner.Plan(place, text, plan.replacements);
     if (plan.end != SearchEnd::Done) plan.stoppedAt = place;
   });
-  std::erase_if(plan.replacements, [&](const PlannedReplacement& planned) {
+  const auto same = std::erase_if(plan.replacements, [&](const PlannedReplacement& planned) {
     return planned.text == HitText(*TextAt(exam, planned.hit.place), planned.hit);
   });
+  plan.leftSame = same > 0;
   return plan;
 }
 

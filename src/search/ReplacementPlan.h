@@ -33,7 +33,8 @@ struct PlannedReplacement {
 struct ReplacementPlan {
   std::vector<PlannedReplacement> replacements;
   SearchEnd end = SearchEnd::Done;
-  TextPlace stoppedAt;  ///< the text that was not searched to its end, unless Done
+  TextPlace stoppedAt;    ///< the text that was not searched to its end, unless Done
+  bool leftSame = false;  ///< there are hits that would stay as they are
 };
 
 ReplacementPlan PlanReplacements(const FrameSetExam& exam, const TextSearch& search,

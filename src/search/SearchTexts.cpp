@@ -67,6 +67,10 @@ std::u16string ReplacementProblem(const ReplacementText& replacement, const Text
   return group ? FillMessage(strings.Text(text_id::kNoSuchGroup), {FormatInteger(*group)}) : std::u16string();
 }
 
+std::u16string NothingToReplaceText(const ReplacementPlan& plan, const StringTable& strings) {
+  return strings.Text(plan.leftSame ? text_id::kReplacementIsSame : text_id::kNothingToReplace);
+}
+
 std::u16string SearchProblem(SearchEnd end, const TextPlace& stoppedAt, const StringTable& strings) {
   switch (end) {
     case SearchEnd::Done:

@@ -24,6 +24,9 @@ std::u16string QueryProblem(const TextSearch& search, const StringTable& strings
 std::u16string ReplacementProblem(const ReplacementText& replacement, const TextSearch& search,
                                   const StringTable& strings);
 
+/// Why a plan without replacements has none.
+std::u16string NothingToReplaceText(const ReplacementPlan& plan, const StringTable& strings);
+
 /// Why a search did not get to its end at `stoppedAt`; empty if it did.
 std::u16string SearchProblem(SearchEnd end, const TextPlace& stoppedAt, const StringTable& strings);
 

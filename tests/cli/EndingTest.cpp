@@ -54,5 +54,34 @@ TEST_F(Ending, LeavesTheOldExamOrTheNewOne) {
   }
 }
 
+/// In a separate process: a search that would take minutes. Its status and messages are written to files.
+TEST_F(Ending, CtrlCEndsASlowSearchAndLeavesTheExam) {
+  Build(Json::parse(R"({"questions": [{"text": ")" + std::string(4000, 'a') + R"("}]})"));
+  const std::string bytes = ReadBytes(folder / "exam.exm");
+  const std::string pattern = R"("((a{0,1000}){0,1000}){0,1000}(\\1)*b")";
+  for (const std::string& command : {"find " + pattern, "replace " + pattern + " x"}) {
+    fs::remove(folder / "started.exm");
+    const std::string script = "open " + Path("exam.exm") + "\nsaveas " + Path("started.exm") + "\nopen " +
+                               Path("exam.exm") + "\n" + command + " --pattern\nsave\n";
+    const pid_t child = ::fork();
+    if (child == 0) {
+      RemoveLeftoversOnSignals();
+      const RunResult run = Command({"edit"}, script);
+      WriteBytes(folder / "messages", run.err);
+      ::_exit(run.status);
+    }
+    while (!fs::exists(folder / "started.exm") && ::waitpid(child, nullptr, WNOHANG) == 0) ::usleep(1000);
+    ::usleep(500'000);
+    ::kill(child, SIGINT);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 130) << status;
+    const std::string messages = ReadBytes(folder / "messages");
+    EXPECT_NE(messages.find("standard input:4: interrupted; the exam is unchanged\n"), std::string::npos)
+        << messages;
+    EXPECT_EQ(ReadBytes(folder / "exam.exm"), bytes);
+  }
+}
+
 }  // namespace
 }  // namespace quorvantis::test

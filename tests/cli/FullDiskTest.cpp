@@ -127,5 +127,24 @@ TEST_F(FullDiskCommands, LeaveEachFileOldOrNew) {
   }
 }
 
+TEST_F(FullDiskCommands, TellAtOnceThatAFileIsNotAttached) {
+  const Trial trial{Small::Application,
+                    {"edit", "--app-folder", "APP"},
+                    "open OUT/exam.exm\nattach IN/a.bin\nattach-exam IN/b.bin\nsave\n"};
+  int failures = 0;
+  for (std::size_t room = 160;; room += 20) {
+    const auto outcome = Try(trial, room);
+    if (!outcome) GTEST_SKIP() << "no disk can be mounted here";
+    const auto& [result, before, after] = *outcome;
+    if (result.status == 0) break;
+    ++failures;
+    EXPECT_NE(result.err.find("could not be copied"), std::string::npos) << result.err;
+    EXPECT_NE(result.err.find("The disk is full."), std::string::npos) << result.err;
+    EXPECT_EQ(before.size(), after.size()) << "nothing half copied, nothing saved";
+    ASSERT_LT(room, kPlenty);
+  }
+  EXPECT_GT(failures, 0);
+}
+
 }  // namespace
 }  // namespace quorvantis::test

@@ -326,7 +326,8 @@ void SearchWindow::ReplaceOne() {
   const auto planned = PlanReplacement(exam, hit, search, replacement, AfterAWhile());
   if (planned && planned->obstacle) return Tell(ObstacleText(*planned->obstacle, hit.place, strings_));
   if (planned) {
-    ReplaceHits(editor_, exam, {*planned});
+    const bool changes = ReplaceHits(editor_, exam, {*planned}).replaced > 0;
+    if (!changes) Tell(strings_.Text(text_id::kReplacementIsSame));
     resumeAt_ = SearchHit{hit.place, hit.start + static_cast<std::uint32_t>(planned->text.size()), 0};
     shown_.reset();
     pendingStep_ = 1;
@@ -352,7 +353,7 @@ void SearchWindow::ReplaceAll() {
 void SearchWindow::OfferReplacements(const std::shared_ptr<const FrameSetExam>& exam,
                                      const ReplacementPlan& plan) {
   if (plan.end != SearchEnd::Done) return Tell(SearchProblem(plan.end, plan.stoppedAt, strings_));
-  if (plan.replacements.empty()) return Tell(strings_.Text(text_id::kNothingToReplace));
+  if (plan.replacements.empty()) return Tell(NothingToReplaceText(plan, strings_));
   ReplaceAllDlg list(exam, plan.replacements, strings_, this);
   const bool isAccepted = list.exec() == QDialog::Accepted;
   activateWindow();  // else the main window would come next

@@ -31,19 +31,24 @@ FrameSetExam SearchedExam(const ExamEditor& editor) {
 ReplaceOutcome ReplaceHits(ExamEditor& editor, const FrameSetExam& planned,
                            const std::vector<PlannedReplacement>& chosen) {
   ReplaceOutcome outcome;
-  const auto leaveAlone = [&](const TextPlace& place, std::optional<ReplacementObstacle> why) {
+  const auto discount = [&](const TextPlace& place) {
     const auto first = std::ranges::lower_bound(chosen, place, {}, PlaceOf);
     const auto last = std::ranges::upper_bound(chosen, place, {}, PlaceOf);
     const auto hits = static_cast<std::size_t>(last - first);
-    outcome.leftAlone.push_back({place, hits, why});
     outcome.replaced -= hits;
+    return hits;
+  };
+  const auto leaveAlone = [&](const TextPlace& place, std::optional<ReplacementObstacle> why) {
+    outcome.leftAlone.push_back({place, discount(place), why});
   };
   outcome.replaced = chosen.size();
   std::vector<FieldRewrite> possible;
   for (FieldRewrite& rewrite : RewriteFields(planned, chosen)) {
     if (const auto obstacle = FindObstacle(rewrite)) {
       leaveAlone(rewrite.place, obstacle);
-    } else if (rewrite.after != rewrite.before) {
+    } else if (rewrite.after == rewrite.before) {
+      discount(rewrite.place);
+    } else {
       possible.push_back(std::move(rewrite));
     }
   }

@@ -19,7 +19,7 @@ struct HitsLeftAlone {
 };
 
 struct ReplaceOutcome {
-  std::size_t replaced = 0;  ///< hits
+  std::size_t replaced = 0;  ///< hits, without those of fields that read the same before and after
   std::vector<HitsLeftAlone> leftAlone;
 };
 
