@@ -3,6 +3,7 @@
 
 #include "desktop/controls/QtText.h"
 #include "desktop/dialogs/FileFilters.h"
+#include "desktop/dialogs/HarmlessFileDialog.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -113,6 +114,7 @@ std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToOpen(const FileD
   const std::vector<FileFilter> filters = ParseFilters(request.filter);
   QFileDialog dialog(parent_);
   dialog.setFileMode(QFileDialog::ExistingFile);
+  MakeHarmless(dialog);
   dialog.setDirectory(ExistingFolder(last.folder.empty() ? folder_ : last.folder));
   OfferFilters(dialog, filters);
   if (!last.filter.isEmpty()) dialog.selectNameFilter(last.filter);
@@ -129,6 +131,7 @@ std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToSave(const FileD
   QFileDialog dialog(parent_);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  MakeHarmless(dialog);
   dialog.setDirectory(ExistingFolder(folder_));
   OfferFilters(dialog, filters);
   dialog.selectFile(ToQString(request.initialName));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The desktop program. Read shell/start/CQuorvantisApp.h next, then CQuorvantisDlg.h.
+#include "desktop/dialogs/HarmlessFileDialog.h"
 #include "desktop/start/DesktopWindows.h"
 #include "desktop/start/SecondStart.h"
 #include "desktop/start/WindowArguments.h"
@@ -84,6 +85,8 @@ int Run(const WindowArguments& options) {
 int main(int argc, char** argv) {
   PrepareBrowserEngine();
   const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
+  HarmlessFileDialogs harmless;
+  application->installEventFilter(&harmless);
   // Qt has taken the format of numbers from the environment; there is no other thread yet.
   std::setlocale(LC_NUMERIC, "C");  // NOLINT(concurrency-mt-unsafe)
   QApplication::setApplicationName("quorvantis");

@@ -5,11 +5,14 @@
 #include "support/TemporaryFolder.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
 #include <queue>
@@ -102,6 +105,53 @@ TEST_F(UserDialogsTest, OpeningBeginsWithTheKindAndInTheFolderOfLastTime) {
   check(picture.parent_path(), "All files", {});
   dialogs.BeginIn(folder / "gone");
   check(QStringToPath(QDir::homePath()), "All files", {});
+}
+
+TEST_F(UserDialogsTest, NothingCanBeDeletedInAFileDialog) {
+  WriteBytes(folder / "kept/inside.exm", "exam");
+  WriteBytes(folder / "file.exm", "exam");
+  const FileDialogRequest open{u"Exam files, (*.exm)|*.exm|", {}, {}};
+  const auto tryToDelete = [](QFileDialog& files) {
+    const auto close = qScopeGuard([&files] { files.reject(); });
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&files));
+    int tries = 0;
+    QTimer confirm;  // a question would be answered with Yes
+    QObject::connect(&confirm, &QTimer::timeout, [] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box != nullptr && box->button(QMessageBox::Yes) != nullptr) box->button(QMessageBox::Yes)->click();
+    });
+    confirm.start(10);
+    for (const char* name : {"listView", "treeView"}) {
+      auto* list = files.findChild<QAbstractItemView*>(name);
+      ASSERT_NE(list, nullptr);
+      files.setViewMode(name == std::string("listView") ? QFileDialog::List : QFileDialog::Detail);
+      for (const char* entry : {"kept", "file.exm"}) {
+        QModelIndex index;
+        const auto isListed = [&] {
+          const auto found = list->model()->match(list->model()->index(0, 0, list->rootIndex()),
+                                                  Qt::DisplayRole, entry, 1, Qt::MatchExactly);
+          if (!found.isEmpty()) index = found.front();
+          return index.isValid();
+        };
+        ASSERT_TRUE(QTest::qWaitFor(isListed)) << name << entry;
+        list->setFocus();
+        list->setCurrentIndex(index);
+        QTest::keyClick(list, Qt::Key_Delete);
+        auto* action = files.findChild<QAction*>("qt_delete_action");
+        if (action != nullptr) action->setEnabled(true), action->trigger();
+        ++tries;
+        QTest::qWait(50);
+      }
+    }
+    EXPECT_EQ(tries, 4);
+  };
+  dialogs.BeginIn(folder.Path());
+  LookAt(tryToDelete);
+  EXPECT_EQ(dialogs.ChooseFileToSave(save), std::nullopt);
+  LookAt(tryToDelete);
+  EXPECT_EQ(dialogs.ChooseFileToOpen(open), std::nullopt);
+  EXPECT_EQ(ReadBytes(folder / "kept/inside.exm"), "exam");
+  EXPECT_EQ(ReadBytes(folder / "file.exm"), "exam");
 }
 
 TEST_F(UserDialogsTest, NothingIsLostByEnterOrEscape) {
