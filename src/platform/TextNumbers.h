@@ -491,5 +491,6 @@ constexpr int kPassedOverIsLost = 1825;
 
 constexpr int kReplacementIsSame = 1826;
 constexpr int kAttachedWithoutContent = 1827;
+constexpr int kTakenComeAfter = 1828;
 
 }  // namespace quorvantis::text_id

@@ -46,11 +46,11 @@ Qt::ItemFlags TickedOverviewModel::flags(const QModelIndex& index) const {
   return index.column() == Number ? flags | Qt::ItemIsUserCheckable : flags;
 }
 
-InsertFromExamDlg::InsertFromExamDlg(const OtherExam& other, int room, const StringTable& strings,
+InsertFromExamDlg::InsertFromExamDlg(const OtherExam& other, const Place& place, const StringTable& strings,
                                      QWidget* parent)
     : QDialog(parent),
       strings_(strings),
-      room_(room),
+      place_(place),
       model_(new TickedOverviewModel(strings, this)),
       table_(new OverviewTable(this)),
       count_(new QLabel(this)),
@@ -134,9 +134,12 @@ bool InsertFromExamDlg::eventFilter(QObject* watched, QEvent* event) {
 
 void InsertFromExamDlg::ShowCount() {
   const int ticked = static_cast<int>(model_->Ticked().size());
-  count_->setText(ToQString(
-      FillMessage(strings_.Text(text_id::kTickedAndRoom), {FormatInteger(ticked), FormatInteger(room_)})));
-  insert_->setEnabled(ticked > 0 && ticked <= room_);
+  std::u16string told = FillMessage(strings_.Text(text_id::kTickedAndRoom),
+                                    {FormatInteger(ticked), FormatInteger(place_.room)});
+  if (place_.after > 0)
+    told += u' ' + FillMessage(strings_.Text(text_id::kTakenComeAfter), {FormatInteger(place_.after)});
+  count_->setText(ToQString(told));
+  insert_->setEnabled(ticked > 0 && ticked <= place_.room);
 }
 
 }  // namespace quorvantis

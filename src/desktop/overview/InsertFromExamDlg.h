@@ -42,8 +42,14 @@ class InsertFromExamDlg : public QDialog {
   Q_OBJECT
 
  public:
-  /// `other` and `strings` must outlive the dialog. `room` is the number of questions that fit.
-  InsertFromExamDlg(const OtherExam& other, int room, const StringTable& strings, QWidget* parent);
+  /// Where the questions are to go.
+  struct Place {
+    int after;  ///< number of a question; 0 for the beginning
+    int room;   ///< number of questions that fit
+  };
+
+  /// `other` and `strings` must outlive the dialog.
+  InsertFromExamDlg(const OtherExam& other, const Place& place, const StringTable& strings, QWidget* parent);
 
   /// The numbers of the ticked questions, ascending.
   std::vector<int> Ticked() const { return {model_->Ticked().begin(), model_->Ticked().end()}; }
@@ -60,7 +66,7 @@ class InsertFromExamDlg : public QDialog {
   void ShowCount();
 
   const StringTable& strings_;
-  int room_;
+  Place place_;
   TickedOverviewModel* model_;
   OverviewTable* table_;
   QLabel* count_;

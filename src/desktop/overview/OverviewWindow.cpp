@@ -267,6 +267,7 @@ void OverviewWindow::MoveBefore(int row) {
 
 void OverviewWindow::Run(const Command& command) {
   const QString done = command(Selected());
+  activateWindow();  // a dialog would leave the main window active, and the next key would go there
   if (done.isEmpty()) return;
   Refresh();
   const QScopedValueRollback following(refreshing_, true);

@@ -155,7 +155,8 @@ QString WholeQuestionCommands::InsertFromExam(QWidget* parent) {
   const OtherExam other(Services(), AttachmentWorkRoot(Services().applicationFolder), *file,
                         editor_.attachments.TakeCopyNumber());
   if (other.QuestionCount() == 0) return Refuse(other.Problem());
-  InsertFromExamDlg dialog(other, editor_.order.RoomAfter(PlaceToInsert()), Services().strings, parent);
+  InsertFromExamDlg dialog(other, {PlaceToInsert(), editor_.order.RoomAfter(PlaceToInsert())},
+                           Services().strings, parent);
   if (dialog.exec() != QDialog::Accepted) return {};
   TakenQuestions taken = other.Take(dialog.Ticked());
   return taken.problem.empty() ? Insert(std::move(taken.questions), ChangeKind::TakeQuestion)

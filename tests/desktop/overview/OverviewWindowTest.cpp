@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "../../examfile/ExamBytes.h"
 #include "desktop/WindowTest.h"
 #include "desktop/overview/InsertFromExamDlg.h"
 #include "desktop/overview/OverviewWindow.h"
@@ -198,9 +199,26 @@ TEST_F(OverviewTest, InsertsTickedQuestionsOfAnotherExam) {
     QTest::mouseClick(insert, Qt::LeftButton);
   });
   overview->findChild<QAction*>("overviewInsertFrom")->trigger();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(overview)) << "the next key is for the questions";
   EXPECT_EQ(exam.Question(2).text, Name(3));
   EXPECT_EQ(exam.Question(500).text, u"mine");
   EXPECT_TRUE(world.dialogs.errors.empty());
+}
+
+TEST_F(OverviewTest, TellsWhatCannotBeInsertedBeforeItIsChosen) {
+  const TypedExam typed{
+      .questions = {{.kind = u"0", .text = u"x", .files = std::vector<TypedFile>(11, {u"f", "c"})}}};
+  OpenOverview(1);
+  world.dialogs.filesToOpen.push_back(WriteBytes(folder / "foreign.exm", Type(AllForms()[0], typed).bytes));
+  QStringList told;
+  QTimer::singleShot(0, overview, [&] {
+    auto* dialog = overview->findChild<InsertFromExamDlg*>();
+    ASSERT_NE(dialog, nullptr);
+    for (const auto* label : dialog->findChildren<QLabel*>()) told.push_back(label->text());
+    dialog->reject();
+  });
+  overview->findChild<QAction*>("overviewInsertFrom")->trigger();
+  EXPECT_TRUE(told.contains("[1820 [1822 1]]")) << qPrintable(told.join('|'));
 }
 
 TEST_F(OverviewTest, RemembersItsPlace) {
