@@ -38,10 +38,11 @@ void DialogStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
                                 const QWidget* widget) const {
   constexpr qreal kBoxRadius = 2;
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const bool isRound = element == PE_IndicatorRadioButton;
   const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
   const bool isField = element == PE_FrameLineEdit && !option->state.testFlag(State_HasFocus);
-  if ((isBox || isField) && IsDarkGround(option->palette))
-    PaintEdge(*painter, option->rect, option->palette, kBoxRadius);
+  if ((isRound || isBox || isField) && IsDarkGround(option->palette))
+    PaintEdge(*painter, option->rect, option->palette, isRound ? option->rect.width() / 2.0 : kBoxRadius);
 }
 
 }  // namespace quorvantis

@@ -7,8 +7,8 @@ namespace quorvantis {
 
 /// The desktop's style, except for drawing faults of Qt. In right-to-left windows, the caption of a dialog
 /// button with an icon runs onto the edge: there such buttons have no icons. On dark desktops, the edges of
-/// tick boxes and fields are darker than their ground, and hints in empty fields may be black: there boxes
-/// and fields get the edge of the main window's, and hints the colour of texts, faded.
+/// boxes, radio buttons and fields are darker than their ground, and hints in empty fields may be black:
+/// there they get the edge of those in the main window, and hints the colour of texts, faded.
 class DialogStyle : public QProxyStyle {
   Q_OBJECT
 

@@ -10,6 +10,7 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -88,7 +89,7 @@ InsertFromExamDlg::InsertFromExamDlg(const OtherExam& other, const Place& place,
   connect(insert_, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   connect(model_, &TickedOverviewModel::TicksChanged, this, &InsertFromExamDlg::ShowCount);
-  resize(kDialogSize);
+  resize(kDialogSize.boundedTo(screen()->availableSize()));
   ShowCount();
   table_->setFocus();
   table_->selectRow(0);

@@ -311,7 +311,8 @@ void OverviewWindow::RestorePlace() {
     const bool isKept = index < place.columns.size() && place.columns[index] > 0;
     table_->setColumnWidth(column, isKept ? place.columns[index] : kFirstWidths[index]);
   }
-  resize(place.width > 0 && place.height > 0 ? QSize(place.width, place.height) : kFirstSize);
+  const QSize wanted = place.width > 0 && place.height > 0 ? QSize(place.width, place.height) : kFirstSize;
+  resize(wanted.boundedTo(parentWidget()->screen()->availableSize()));
   const QRect kept(place.x, place.y, width(), height());
   if (place.width == 0) {
     PlaceBeside(parentWidget()->frameGeometry());

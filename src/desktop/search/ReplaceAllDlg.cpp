@@ -8,6 +8,7 @@
 #include "text/NumberText.h"
 
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -52,7 +53,7 @@ ReplaceAllDlg::ReplaceAllDlg(std::shared_ptr<const FrameSetExam> exam,
   table_->setCurrentIndex(list_.index(0, 0));
   table_->setFocus();
   ShowTicks();
-  resize(kReplaceAllSize);
+  resize(kReplaceAllSize.boundedTo(screen()->availableSize()));
 }
 
 void ReplaceAllDlg::ShowTicks() {
