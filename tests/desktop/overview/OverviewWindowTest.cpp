@@ -209,7 +209,8 @@ TEST_F(OverviewTest, TellsWhatCannotBeInsertedBeforeItIsChosen) {
   const TypedExam typed{
       .questions = {{.kind = u"0", .text = u"x", .files = std::vector<TypedFile>(11, {u"f", "c"})}}};
   OpenOverview(1);
-  world.dialogs.filesToOpen.push_back(WriteBytes(folder / "foreign.exm", Type(AllForms()[0], typed).bytes));
+  world.dialogs.filesToOpen.push_back(
+      WriteBytes(folder / "foreign.exm", test::Type(AllForms()[0], typed).bytes));
   QStringList told;
   QTimer::singleShot(0, overview, [&] {
     auto* dialog = overview->findChild<InsertFromExamDlg*>();
