@@ -37,7 +37,7 @@ TEST(DialogStyleTest, EmptyBoxesAndHintsCanBeSeenOnADarkDesktop) {
     box.palette = colours;
     box.state = QStyle::State_Enabled | QStyle::State_Off;
     QPainter painter(&image);
-    style.drawPrimitive(element, &box, &painter);
+    style.drawPrimitive(element, &box, &painter, nullptr);
     int brightest = 0;
     for (int x = 0; x < kSize; ++x)
       brightest = std::max(brightest, image.pixelColor(x, kSize / 2).lightness());
