@@ -97,7 +97,7 @@ class WarningSearch {
     constexpr int kLargestGap = 20;
     int last = 0;
     for (const PaperNumber& number : NumbersOf(paper_, reading_)) {
-      if (number.value == 0) continue;
+      if (number.value == 0 || number.question < 0) continue;
       const int step = number.value - last;
       if (last > 0 && step == 0) Add({Kind::NumberAgain, number.question, number.value});
       if (last > 0 && step > 1 && step <= kLargestGap) Add({Kind::NumberMissing, number.question, last + 1});

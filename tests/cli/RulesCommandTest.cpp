@@ -68,7 +68,7 @@ TEST_F(RulesCommand, LearnsWhatItCanCheckAndImport) {
 TEST_F(RulesCommand, AddNothingThatCannotBeChosen) {
   ASSERT_EQ(Learn({"--ini", Path("rules.ini"), "--repository", "Spring"}).status, 0);
   const std::string before = ReadBytes(folder / "rules.ini");
-  ExpectRefusal(Learn({"--ini", Path("rules.ini"), "--repository", "spring"}), "Spring");
+  ExpectRefusal(Learn({"--ini", Path("rules.ini"), "--repository", "spring"}), "already are rules");
   ExpectRefusal(Learn({"--ini", Path("rules.ini"), "--repository", "Spring 2"}), "begin alike");
   ExpectRefusal(Learn({"--repository", "#2"}), "cannot be saved");
   ExpectRefusal(Learn({"--ini", Path("paper.txt")}), "is a file to read");
