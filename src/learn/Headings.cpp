@@ -2,6 +2,7 @@
 #include "learn/Headings.h"
 
 #include "import/labels/LineText.h"
+#include "import/prepare/PreparedLabels.h"
 #include "learn/NumberFamilies.h"
 #include "learn/PatternText.h"
 #include "platform/WordContent.h"
@@ -97,7 +98,7 @@ class TailReading {
   std::vector<HeadingLine> Headings() const {
     std::vector<HeadingLine> found;
     bool isBehind = false;
-    for (const TextSpan& whole : LinesOf(characters_, {TailBegin(), question_.whole.end})) {
+    for (const TextSpan& whole : LinesOf(characters_, {TailBegin(), TailEnd()})) {
       const TextSpan line = Trimmed(characters_, whole);
       if (line.IsEmpty()) continue;
       isBehind = isBehind || IsHeading(line);
@@ -112,12 +113,22 @@ class TailReading {
  private:
   std::size_t TailBegin() const {
     std::size_t begin = question_.label.end;
-    if (question_.HasAnswer()) {
+    if (!question_.answer.IsEmpty() && !IsPreparedKey()) {
       begin = std::max(begin, question_.answer.begin);
     } else if (question_.options) {
       begin = question_.options->labels.back().text.begin;
     }
     return LineEndAfter(characters_, begin);
+  }
+
+  bool IsPreparedKey() const {
+    return question_.answerLabel.Of(characters_).find(kPreparedKey) != std::u16string_view::npos;
+  }
+
+  /// An answer that a step has put in ends the question.
+  std::size_t TailEnd() const {
+    const bool isAtEnd = question_.answer.IsEmpty() || IsPreparedKey();
+    return std::max(isAtEnd ? question_.answerLabel.begin : question_.whole.end, TailBegin());
   }
 
   bool IsHeading(TextSpan span) const {

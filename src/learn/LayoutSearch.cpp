@@ -21,10 +21,12 @@ constexpr std::u16string_view kPlainOptions = u"PlainOptions";
 constexpr std::u16string_view kMixedLetters = u"MixedLetters";
 constexpr std::u16string_view kNoise = u"Noise";
 constexpr std::u16string_view kKeyAtEnd = u"KeyAtEnd";
+constexpr std::u16string_view kKeyLetters = u"KeyLetters";
+constexpr std::u16string_view kJudgement = u"Judgement";
 constexpr std::u16string_view kOpenAnswers = u"OpenAnswers";
 
 /// Steps whose work makes no reading better by itself, but is right wherever they find something to do.
-constexpr std::u16string_view kHarmless[] = {u"BlankForms", kNoise};
+constexpr std::u16string_view kHarmless[] = {u"BlankForms", kNoise, u"KeyLetters"};
 
 bool HasSoftBreaks(const Paper& paper) {
   return std::ranges::count(paper.source.characters, u'\v') > 1;
@@ -47,7 +49,15 @@ bool CountTogether(const NumberFamily& one, const NumberFamily& other) {
   return share > std::max({one.rising, other.rising, 0.6}) || share > 0.95;
 }
 
-/// A family from a label that a teacher has marked, if its line holds no other one.
+/// Numbers that need no other way of telling questions apart.
+bool AreNumbersOfQuestions(const NumberFamily& family) {
+  constexpr std::size_t kEnough = 3;
+  constexpr double kMostlyRising = 0.85;
+  return family.labels.size() >= kEnough && family.rising >= kMostlyRising && !family.isSpaced &&
+         static_cast<std::size_t>(family.restarts) * kEnough < family.labels.size();
+}
+
+/// Whether the family has a label that a teacher has marked.
 bool Covers(const NumberFamily& family, const TextSpan& mark) {
   return std::ranges::any_of(family.labels,
                              [&mark](const NumberLabel& label) { return label.place.Overlaps(mark); });
@@ -140,6 +150,7 @@ void LayoutSearch::TryNumbers(const Steps& steps) {
     }
   }
   // Few numbers, or none: blank lines and options may tell the questions apart.
+  if (!families.empty() && AreNumbersOfQuestions(families.front())) return;
   Steps unnumbered = steps;
   unnumbered.emplace(kUnnumbered);
   TryFamilies(text, {}, unnumbered);
@@ -161,6 +172,10 @@ void LayoutSearch::TryFamilies(const PaperText& text, const std::vector<NumberFa
   if (withoutKey.characters == numbered.characters) return;
   draft.options = FindOptionFamily(withoutKey.characters, Bodies(withoutKey, draft));
   draft.steps.emplace(kOpenAnswers);
+  TryOptions(draft);
+  draft.steps.emplace(kKeyLetters);
+  TryOptions(draft);
+  draft.steps.emplace(kJudgement);
   TryOptions(std::move(draft));
 }
 
@@ -211,9 +226,9 @@ void LayoutSearch::TryLabels(const std::set<std::u16string>& labels, bool within
   draft.labelsWithinLines = withinLines;
   Try(draft);
   // Keys in other letters show only as capitals.
-  draft.steps.emplace(u"KeyLetters");
+  draft.steps.emplace(kKeyLetters);
   Try(draft);
-  draft.steps.emplace(u"Judgement");
+  draft.steps.emplace(kJudgement);
   Try(std::move(draft));
 }
 
@@ -258,7 +273,8 @@ void LayoutSearch::TrySteps() {
   }
 }
 
-/// Of all steps that change the text, takes the one that improves the reading most.
+/// Of all steps that change the text, takes the one that improves the reading most. What steps find is often
+/// read only when it has become letters, so these are tried together with them.
 bool LayoutSearch::TryBestStep() {
   const std::u16string before = Prepared(best_.draft).characters;
   TriedLayout bestStep;
@@ -267,8 +283,11 @@ bool LayoutSearch::TryBestStep() {
     RuleDraft draft = best_.draft;
     draft.steps.emplace(step.name);
     if (Prepared(draft).characters == before) continue;
-    TriedLayout tried = Tried(std::move(draft));
-    if (tried.total > bestStep.total) bestStep = std::move(tried);
+    for (const std::u16string_view reading : {step.name, kKeyLetters, kJudgement}) {
+      draft.steps.emplace(reading);
+      TriedLayout tried = Tried(draft);
+      if (tried.total > bestStep.total) bestStep = std::move(tried);
+    }
   }
   constexpr double kWorthwhile = 0.01;
   if (bestStep.total < best_.total + kWorthwhile || !FitsFile(bestStep.rules)) return false;

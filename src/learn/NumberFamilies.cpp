@@ -13,7 +13,7 @@ namespace quorvantis {
 namespace {
 
 constexpr std::u16string_view kOpens = u"(（[【〔〈";
-constexpr std::u16string_view kCloses = u".)）．、:：】］]〕〉,，。-–—/°º";
+constexpr std::u16string_view kCloses = u".)）．、:：】］]〕〉,，。।-–—/°º";
 /// Words that may follow a number: "第1题", "1번".
 constexpr std::u16string_view kCloseWords = u"题題問问번문제道小";
 
@@ -166,6 +166,17 @@ void Judge(NumberFamily& family) {
   family.rising = static_cast<double>(good) / static_cast<double>(family.labels.size());
 }
 
+/// "1." may number the questions and "1)" their options, so each is also a family by itself.
+void AddByCloses(const NumberFamily& family, std::vector<NumberFamily>& found) {
+  for (const std::u16string& close : family.closes) {
+    NumberFamily one = family;
+    one.closes = {close};
+    std::erase_if(one.labels, [&close](const NumberLabel& label) { return label.close != close; });
+    Judge(one);
+    if (one.labels.size() > 1) found.push_back(std::move(one));
+  }
+}
+
 /// Numbers that begin anew all the time are those of options.
 double LikelinessOfNumbers(const NumberFamily& family) {
   const auto count = static_cast<double>(family.labels.size());
@@ -199,6 +210,7 @@ std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
   }
   std::vector<NumberFamily> found;
   for (auto& [key, family] : families) {
+    if (family.closes.size() > 1) AddByCloses(family, found);
     Judge(family);
     if (family.labels.size() > 1 || family.labels.front().value == 1) found.push_back(std::move(family));
   }

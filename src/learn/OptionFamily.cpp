@@ -73,13 +73,23 @@ std::set<char16_t> LettersAt(std::size_t index, const std::set<std::size_t>& alp
   return letters;
 }
 
+/// One of the letters, or the word for the first letter of one of the alphabets.
+std::u16string LetterPattern(const std::set<char16_t>& letters, const std::set<std::size_t>& alphabets) {
+  std::set<std::u16string> ways{ClassPattern(letters)};
+  for (const std::size_t alphabet : alphabets) {
+    const std::u16string_view word = OptionAlphabets()[alphabet].firstAsWord;
+    if (!word.empty()) ways.insert(LiteralPattern(word));
+  }
+  return OneOfPattern(ways);
+}
+
 }  // namespace
 
 std::u16string OptionFamily::LabelPattern(std::size_t index, bool atLineStarts) const {
   const std::set<char16_t> letters = LettersAt(index, alphabets, false);
   const std::set<char16_t> symbols = LettersAt(index, alphabets, true);
   std::set<std::u16string> ways{LiteralPattern(PreparedOption(index))};
-  const std::u16string letter = ClassPattern(letters);
+  const std::u16string letter = LetterPattern(letters, index == 0 ? alphabets : std::set<std::size_t>{});
   const std::u16string close = ClassPattern(closes);
   if (!letters.empty() && isPlain && !closes.empty())
     ways.insert((atLineStarts ? u"" : u"(?<![0-9A-Za-z\u00C0-\u04FF])") + letter + u"[ ]?" + close);

@@ -27,7 +27,8 @@ std::vector<int> NumbersOf(const Paper& paper, const MarkedText& marked) {
     std::u16string label;
     for (const std::uint32_t place : match.units) label += paper.source.characters[place];
     // Labels that a step has put in number by themselves.
-    if (!match.units.empty()) numbers.emplace_back(match.units.front(), NumberInLabel(label));
+    const int value = NumberInLabel(label);
+    if (value > 0) numbers.emplace_back(match.units.front(), value);
   }
   std::ranges::sort(numbers);
   std::vector<int> values;
@@ -36,15 +37,22 @@ std::vector<int> NumbersOf(const Paper& paper, const MarkedText& marked) {
 }
 
 double RisingShare(const std::vector<int>& numbers) {
-  constexpr double kOfStepsOwnNumbers = 0.85;
+  constexpr double kOfStepsOwnNumbers = 0.7;
   if (numbers.empty()) return kOfStepsOwnNumbers;
   std::size_t good = 0;
+  std::size_t runs = 1;
   int before = 0;
   for (const int number : numbers) {
-    if (number == before + 1 || (number == 1 && before > 2)) ++good;
+    const bool isAnew = number == 1 && before > 2;
+    if (number == before + 1 || isAnew) ++good;
+    runs += isAnew ? 1 : 0;
     before = number;
   }
-  return Share(good, numbers.size());
+  // Numbers that begin anew all the time are those of options.
+  constexpr std::size_t kFewRuns = 3;
+  constexpr std::size_t kShortRun = 6;
+  const bool areOptions = runs > kFewRuns && numbers.size() < runs * kShortRun;
+  return Share(good, numbers.size()) * (areOptions ? 0.5 : 1.0);
 }
 
 bool HasMarker(std::u16string_view text) {
@@ -71,7 +79,7 @@ class Counting {
     score.choices = Share(choices_, all);
     score.regular = Share(usual, choices_);
     score.keys = Share(keys_, choices_);
-    score.plausibleKeys = Share(plausible_, keys_);
+    score.plausibleKeys = keys_ == 0 ? 0 : plausible_ / static_cast<double>(keys_);
     score.leftOptions = Share(leftOptions_, all);
     score.strayMarkers = Share(markers_, all);
     score.longOptions = Share(longOptions_, choices_);
@@ -95,8 +103,10 @@ class Counting {
     ++choices_;
     ++sizes_[OptionsOf(question)];
     if (!question.letters.empty()) ++keys_;
-    constexpr std::size_t kOften = 2;
-    if (!question.letters.empty() && question.letters.size() <= kOften) ++plausible_;
+    // Most questions have one right option, many have two.
+    if (question.letters.size() == 1) plausible_ += 1.0;
+    if (question.letters.size() == 2) plausible_ += 0.8;
+    if (question.letters.size() > 2) plausible_ += 0.3;
     bool isLong = false;
     for (std::size_t i = 0; i < question.options.size(); ++i) {
       isLong = isLong || question.options[i].find_first_of(kLineEnds) != std::u16string::npos;
@@ -132,7 +142,7 @@ class Counting {
   const ReadPaper& paper_;
   std::size_t choices_ = 0;
   std::size_t keys_ = 0;
-  std::size_t plausible_ = 0;
+  double plausible_ = 0;
   std::size_t leftOptions_ = 0;
   std::size_t markers_ = 0;
   std::size_t longOptions_ = 0;
@@ -158,8 +168,8 @@ ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading) {
 double ReadingScore::Total() const {
   if (questions == 0) return -1'000;
   const double many = std::log2(1.0 + static_cast<double>(std::min<std::size_t>(questions, 40)));
-  return 4 * rising + 0.25 * many + choices * (1.5 * regular + 0.5) +
-         choices * keys * (0.5 + 1.5 * plausibleKeys) + 2 * explained - 5 * leftOptions - 5 * strayMarkers -
+  return 4 * rising + 0.5 * many + choices * (1.5 * regular + 0.5) +
+         choices * keys * (2.5 * plausibleKeys - 0.5) + 2 * explained - 5 * leftOptions - 5 * strayMarkers -
          2 * dropped - 0.7 * longOptions - 4 * emptyParts - 2 * overlong;
 }
 

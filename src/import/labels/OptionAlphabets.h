@@ -13,9 +13,10 @@ namespace quorvantis {
 /// OptionAlphabets.cpp.
 struct OptionAlphabet {
   std::u16string_view name;
-  std::u16string_view letters;   ///< one UTF-16 unit each, at least five
-  std::u16string_view others{};  ///< other forms of the same letters in the same order; a blank for none
-  bool isSymbol = false;         ///< letters like ①, which need no bracket or dot
+  std::u16string_view letters;        ///< one UTF-16 unit each, at least five
+  std::u16string_view others{};       ///< other forms of the same letters in the same order; a blank for none
+  bool isSymbol = false;              ///< letters like ①, which need no bracket or dot
+  std::u16string_view firstAsWord{};  ///< the name of the first letter where it is written out, as "الف" is
 };
 
 std::span<const OptionAlphabet> OptionAlphabets();

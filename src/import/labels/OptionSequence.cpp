@@ -46,7 +46,7 @@ class LabelScan {
   void Add(std::size_t at, const std::vector<AlphabetLetter>& letters) {
     const bool isSymbol = OptionAlphabets()[letters[0].alphabet].isSymbol;
     OptionLabel label;
-    label.letter = {at, at + 1};
+    label.letter = {at, at + LetterSize(at, letters)};
     label.label = label.letter;
     if (!isSymbol && !FindBrackets(label)) return;
     TakeSign(label);
@@ -59,10 +59,21 @@ class LabelScan {
     }
   }
 
+  /// The first letter of an alphabet may be written out.
+  std::size_t LetterSize(std::size_t at, const std::vector<AlphabetLetter>& letters) const {
+    const std::u16string_view rest = text_.substr(at, within_.end - at);
+    for (const AlphabetLetter& letter : letters) {
+      const std::u16string_view word = OptionAlphabets()[letter.alphabet].firstAsWord;
+      if (!word.empty() && rest.starts_with(word)) return word.size();
+    }
+    return 1;
+  }
+
   /// Finds what encloses or ends the label; false if nothing does.
   bool FindBrackets(OptionLabel& label) const {
     const std::size_t at = label.letter.begin;
-    std::size_t after = SkipBlanks(text_, at + 1, std::min(at + 2, within_.end));
+    const std::size_t behind = label.letter.end;
+    const std::size_t after = SkipBlanks(text_, behind, std::min(behind + 1, within_.end));
     const char16_t before = at > within_.begin ? text_[at - 1] : u'\0';
     const bool isOpened = before != 0 && Has(kLabelOpens, before);
     if (!isOpened && before != 0 && IsWordUnit(before)) return false;
