@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "history/KeptFiles.h"
 
-#include "editor/SecondNames.h"
+#include "platform/SecondNames.h"
 
 #include <string>
 #include <system_error>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "recovery/RecoveredExam.h"
 
-#include "editor/SecondNames.h"
 #include "editor/WorkCopies.h"
 #include "examfile/AttachmentName.h"
 #include "examfile/SavingLosses.h"
@@ -9,6 +8,7 @@
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
 #include "platform/FolderEntries.h"
+#include "platform/SecondNames.h"
 #include "platform/WholeFile.h"
 #include "recovery/ExamSnapshot.h"
 #include "recovery/RecoveryFolder.h"

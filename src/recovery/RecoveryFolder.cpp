@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "recovery/RecoveryFolder.h"
 
-#include "editor/SecondNames.h"
 #include "examfile/WorkFolder.h"
 #include "platform/FolderEntries.h"
+#include "platform/SecondNames.h"
 #include "platform/WholeFile.h"
 #include "text/PathText.h"
 

@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "editor/SecondNames.h"
+#pragma once
 
+#include <cstdint>
+#include <filesystem>
+#include <limits>
 #include <system_error>
 
 namespace quorvantis {
-namespace fs = std::filesystem;
 
-bool LinkOrCopy(const fs::path& source, const fs::path& copy, std::uintmax_t largestCopy) {
+/// Makes `copy` a hard link to the file `source`, or a copy of it where the file system has no links, unless
+/// it has more than `largestCopy` bytes. False when there is no such file, it is too large or there is no
+/// room.
+inline bool LinkOrCopy(const std::filesystem::path& source, const std::filesystem::path& copy,
+                       std::uintmax_t largestCopy = std::numeric_limits<std::uintmax_t>::max()) {
+  namespace fs = std::filesystem;
   std::error_code error;
   if (!fs::is_regular_file(fs::symlink_status(source, error))) return false;
   fs::create_hard_link(source, copy, error);
