@@ -492,5 +492,7 @@ constexpr int kPassedOverIsLost = 1825;
 constexpr int kReplacementIsSame = 1826;
 constexpr int kAttachedWithoutContent = 1827;
 constexpr int kTakenComeAfter = 1828;
+constexpr int kPrintComes = 1800;  // "Preparing to print… Escape cancels."
+constexpr int kPrintWaits = 1801;  // what to expect, in its tooltip
 
 }  // namespace quorvantis::text_id

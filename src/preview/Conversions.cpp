@@ -34,11 +34,10 @@ void Conversions::WithPages(const fs::path& document, Use use) {
   const QString key = KeyOf(document);
   const std::optional<fs::path> folder = Wait(key, std::move(use));
   if (!folder) return;
-  ++waitingDocuments_;
+  results_[key].isDocument = true;
   converters_->documents.Make(document, ExtensionOf(document), *folder, [this, key](const Files& pages) {
-    --waitingDocuments_;
     Complete(key, pages);
-    if (waitingDocuments_ == 0) emit DocumentsReady();
+    if (!IsBusy()) emit DocumentsReady();
   });
 }
 
@@ -61,6 +60,21 @@ void Conversions::ForgetFailures() {
       [](QHash<QString, Result>::iterator result) { return result->files && result->files->empty(); });
 }
 
+void Conversions::BeginPage() {
+  for (Result& result : results_) result.wanted = false;
+}
+
+void Conversions::StopUnwanted() {
+  const auto goesOn = [](const Result& result) { return result.wanted && !result.files; };
+  if (std::none_of(results_.cbegin(), results_.cend(), goesOn)) StopUnfinished();
+}
+
+bool Conversions::IsBusy() const {
+  return std::any_of(results_.cbegin(), results_.cend(), [](const Result& result) {
+    return result.isDocument && result.wanted && !result.files;
+  });
+}
+
 void Conversions::StopUnfinished() {
   const auto unfinished = [](const Result& result) { return !result.files; };
   if (std::none_of(results_.cbegin(), results_.cend(), unfinished)) return;
@@ -69,7 +83,6 @@ void Conversions::StopUnfinished() {
     if (unfinished(result)) RemoveFolder(result.folder);
   }
   results_.removeIf([&](QHash<QString, Result>::iterator result) { return unfinished(*result); });
-  waitingDocuments_ = 0;
 }
 
 QString Conversions::KeyOf(const fs::path& file) {
@@ -78,6 +91,7 @@ QString Conversions::KeyOf(const fs::path& file) {
 
 std::optional<fs::path> Conversions::Wait(const QString& key, Use use) {
   Result& result = results_[key];
+  result.wanted = true;
   if (result.files) {
     use(Files(*result.files));
     return std::nullopt;

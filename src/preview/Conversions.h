@@ -43,15 +43,22 @@ class Conversions : public QObject {
   /// Failed conversions are tried again on the next request: the machine may have been busy.
   void ForgetFailures();
 
+  /// Another page begins: from now on only what is requested again is wanted.
+  void BeginPage();
+
+  /// Ends the running programs if nothing of what they convert is wanted. Otherwise all go on: what the last
+  /// page wanted as well would begin again.
+  void StopUnwanted();
+
   /// Ends the running programs and removes their unfinished files. Waiting callers are not told. Must not be
   /// called by a `Use`.
   void StopUnfinished();
 
-  /// Whether a document is being converted.
-  bool IsBusy() const { return waitingDocuments_ > 0; }
+  /// Whether a wanted document is being converted.
+  bool IsBusy() const;
 
  signals:
-  /// No document is being converted any more.
+  /// A document has been converted, and no other wanted one is being converted.
   void DocumentsReady();
 
  private:
@@ -59,6 +66,8 @@ class Conversions : public QObject {
     std::optional<Files> files;    ///< empty while converting
     std::filesystem::path folder;  ///< where the conversion takes place
     std::vector<Use> waiting;
+    bool isDocument = false;
+    bool wanted = true;  ///< by the shown page
   };
 
   /// The running conversion; destroying it ends it.
@@ -79,7 +88,6 @@ class Conversions : public QObject {
   const ConverterPrograms programs_;
   ConversionFolder folder_;
   const std::filesystem::path officeFolder_;
-  int waitingDocuments_ = 0;
   QHash<QString, Result> results_;
   QSet<QString> playAsTheyAre_;  ///< keys of media that need no conversion
   std::unique_ptr<Converters> converters_;

@@ -48,8 +48,15 @@ ExamGateway::ExamGateway(GatewaySetup setup)
 
 void ExamGateway::SetPage(const fs::path& page) {
   files_.SetPageFolder(page.parent_path());
+  for (const fs::path& file : setup_.pages.SourceFiles()) files_.Hold(file);
   conversions_.ForgetFailures();
+  conversions_.BeginPage();
   showsUnfinished_ = false;
+}
+
+void ExamGateway::PageGone() {
+  conversions_.StopUnfinished();
+  files_.Release();
 }
 
 bool ExamGateway::HasFlashPlayer() const {

@@ -29,8 +29,12 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
  public:
   explicit ExamGateway(GatewaySetup setup);
 
-  /// `page` is about to be shown.
+  /// `page` is about to be shown. Its files are held as they are now. Conversions go on for the moment: the
+  /// page may want them, too.
   void SetPage(const std::filesystem::path& page);
+
+  /// The shown page has requested all that it shows; conversions that it does not want end.
+  void PageLoaded() { conversions_.StopUnwanted(); }
 
   /// The shown page is about to be reloaded.
   void ExpectReload() { showsUnfinished_ = false; }
@@ -41,7 +45,7 @@ class ExamGateway : public QWebEngineUrlSchemeHandler {
   const Conversions& Documents() const { return conversions_; }
 
   /// The shown page is gone, and nobody waits for its files any more.
-  void StopConversions() { conversions_.StopUnfinished(); }
+  void PageGone();
 
   void requestStarted(QWebEngineUrlRequestJob* job) override;
 

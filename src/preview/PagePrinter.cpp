@@ -18,6 +18,11 @@ constexpr int kDotsPerInch = 300;
 constexpr std::chrono::milliseconds kUntilNextLook{100};
 constexpr int kMostLooks = 100;
 
+/// A page that is busy with its own scripts, or is just being replaced, does not answer. The print must not
+/// wait for ever.
+constexpr std::chrono::milliseconds kLongestAnswer{5000};
+constexpr int kLooksLostByIt = 25;
+
 }  // namespace
 
 PagePrinter::PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gateway, AskForPrinter ask)
@@ -25,6 +30,7 @@ PagePrinter::PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gate
   connect(&page, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo& info) {
     if (!info.url().matches(page_.Destination(), QUrl::RemoveFragment)) return;  // for a page left meanwhile
     loaded_ = info.status() != QWebEngineLoadingInfo::LoadStartedStatus;
+    if (loaded_) gateway_.PageLoaded();
     GoOn();
   });
   connect(&gateway.Documents(), &Conversions::DocumentsReady, this, &PagePrinter::GoOn);
@@ -40,7 +46,7 @@ PagePrinter::~PagePrinter() {
 void PagePrinter::Print() {
   again_ = IsPrinting();
   if (stage_ != Stage::Idle) return;
-  stage_ = Stage::Waiting;
+  Enter(Stage::Waiting);
   GoOn();
 }
 
@@ -48,7 +54,12 @@ void PagePrinter::Print() {
 void PagePrinter::GiveUp() {
   again_ = false;
   if (IsPreparing()) Finish(false);
-  if (stage_ == Stage::Asking) stage_ = Stage::Idle;
+  if (stage_ == Stage::Asking) Enter(Stage::Idle);
+}
+
+void PagePrinter::Enter(Stage stage) {
+  stage_ = stage;
+  emit Progressed();
 }
 
 /// If documents became ready later, the page is reloaded: then its frames certainly show them.
@@ -60,35 +71,44 @@ void PagePrinter::GoOn() {
     gateway_.ExpectReload();
     return page_.Go(page_.Destination());
   }
-  stage_ = Stage::Looking;
+  Enter(Stage::Looking);
   WaitForPictures(kMostLooks);
 }
 
 void PagePrinter::WaitForPictures(int attempts) {
   if (stage_ != Stage::Looking) return;
+  const int look = ++look_;
+  const auto looked = [held = QPointer(this), look, attempts](bool complete, int lost) {
+    if (held && look == held->look_) held->PicturesLooked(complete, attempts - lost);
+  };
   page_.runJavaScript(PrintScript(), QWebEngineScript::ApplicationWorld,
-                      [held = QPointer(this), attempts](const QVariant& complete) {
-                        if (!held) return;
-                        if (complete.toBool() || attempts == 0) {
-                          // Not from here: the browser blocks while it waits for this function.
-                          return Later(*held, {}, [held] { held->AskAndPrint(); });
-                        }
-                        Later(*held, kUntilNextLook,
-                              [held, attempts] { held->WaitForPictures(attempts - 1); });
-                      });
+                      [looked](const QVariant& complete) { looked(complete.toBool(), 1); });
+  Later(*this, kLongestAnswer, [looked] { looked(false, kLooksLostByIt); });
+}
+
+/// Nothing more is done from here: the browser blocks while it waits for this function.
+void PagePrinter::PicturesLooked(bool complete, int attempts) {
+  const int look = ++look_;
+  if (complete || attempts <= 0) return Later(*this, {}, [this, look] { AskInGoodMoment(look); });
+  Later(*this, kUntilNextLook, [this, attempts] { WaitForPictures(attempts); });
+}
+
+void PagePrinter::AskInGoodMoment(int look) {
+  if (stage_ != Stage::Looking || look != look_) return;  // given up meanwhile
+  if (!isBadMoment_ || !isBadMoment_()) return AskAndPrint();
+  Later(*this, kUntilNextLook, [this, look] { AskInGoodMoment(look); });
 }
 
 /// A PDF file gets text and lines instead of a picture of the page.
 void PagePrinter::AskAndPrint() {
-  if (stage_ != Stage::Looking) return;
-  stage_ = Stage::Asking;
+  Enter(Stage::Asking);
   printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setResolution(kDotsPerInch);
   const QPointer<PagePrinter> held(this);
   const bool print = ask_(*printer_);
   if (!held) return;  // gone with the window while the dialog was open
   if (!print || stage_ != Stage::Asking) return Finish(false);
-  stage_ = Stage::Printing;
+  Enter(Stage::Printing);
   if (printer_->outputFormat() == QPrinter::PdfFormat) {
     page_.printToPdf(printer_->outputFileName(), printer_->pageLayout(), printer_->pageRanges());
   } else {
@@ -97,8 +117,8 @@ void PagePrinter::AskAndPrint() {
 }
 
 void PagePrinter::Finish(bool succeeded) {
-  stage_ = Stage::Idle;
   printer_.reset();
+  Enter(Stage::Idle);
   emit Printed(succeeded);
   if (again_) Print();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preview/PreviewKeys.h"
 
+#include "preview/GiveKeys.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWindow>
@@ -8,7 +10,8 @@
 namespace quorvantis {
 namespace {
 
-constexpr qint64 kImpatience = 1000;  // milliseconds
+constexpr qint64 kImpatience = 1000;    // milliseconds
+constexpr qint64 kPauseInTyping = 700;  // milliseconds; longer than between two words
 
 bool IsKey(const QEvent& event) {
   return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
@@ -17,6 +20,16 @@ bool IsKey(const QEvent& event) {
 
 bool IsEscapePress(const QEvent& event) {
   return event.type() != QEvent::KeyRelease && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
+/// Whether a press changes or moves something where the keyboard is. Commands, which have Ctrl or Alt, do
+/// not.
+bool IsTyping(const QKeyEvent& press) {
+  const bool isCommand =
+      (press.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+  const bool isModifier = press.key() >= Qt::Key_Shift && press.key() <= Qt::Key_ScrollLock;
+  const bool isFunction = press.key() >= Qt::Key_F1 && press.key() <= Qt::Key_F35;
+  return !isCommand && !isModifier && !isFunction && press.key() != Qt::Key_Escape;
 }
 
 /// Whether a dialog blocks the input of `window`: one of its own does, and an application-modal one, but not
@@ -37,14 +50,39 @@ PreviewKeys::PreviewKeys() {
 
 void PreviewKeys::Watch(PreviewWindow& window) {
   window_ = &window;
-  connect(&window, &PreviewWindow::Closed, this, &PreviewKeys::NoteEscape);
+  connect(&window, &PreviewWindow::Appeared, &keyboardReturn_, &KeyboardReturn::Stop);
+  connect(&window, &PreviewWindow::Closed, this, [this, &window] {
+    NoteEscape();
+    Uncover(window);
+  });
+  connect(&window, &PreviewWindow::PrinterRefused, this, &PreviewKeys::NoteEscape);
+}
+
+void PreviewKeys::Uncover(const PreviewWindow& window) {
+  const bool covers = window.isVisible() && !window.testAttribute(Qt::WA_DontShowOnScreen);
+  if (covers && window.WindowBelow() != nullptr) keyboardReturn_.ReturnTo(*window.WindowBelow());
+}
+
+bool PreviewKeys::IsUserBusy() const {
+  if (window_ && window_->IsOnScreen()) return false;
+  const bool types = sinceTyping_.isValid() && sinceTyping_.elapsed() < kPauseInTyping;
+  return types || QApplication::activePopupWidget() != nullptr ||
+         QApplication::activeModalWidget() != nullptr;
+}
+
+void PreviewKeys::NoteTyping(const QEvent& event) {
+  const bool composes = event.type() == QEvent::InputMethod;
+  const bool presses = event.type() == QEvent::KeyPress;
+  if (composes || (presses && IsTyping(static_cast<const QKeyEvent&>(event)))) sinceTyping_.start();
 }
 
 bool PreviewKeys::eventFilter(QObject* watched, QEvent* event) {
+  NoteTyping(*event);
   if (!IsKey(*event)) return false;
   if (IsEscapePress(*event) && TakesEscape()) return true;
   QWidget* const window = WindowFor(*watched);
   if (window == nullptr) return false;
+  if (!window->isActiveWindow()) TakeKeysFor(*window);
   QCoreApplication::sendEvent(window->windowHandle(), event);
   return true;
 }
@@ -54,6 +92,8 @@ bool PreviewKeys::TakesEscape() {
   if (QApplication::activePopupWidget() != nullptr) return false;
   if (IsMeantForPreview()) {
     window_->Leave();
+  } else if (window_ && window_->RejectNewDialog()) {
+    return true;  // which is noted when the dialog returns
   } else if (!IsImpatient()) {
     return false;
   }
@@ -84,7 +124,9 @@ QWidget* PreviewKeys::WindowFor(const QObject& watched) const {
   if (window_->IsOnScreen()) {
     return &watched == below->windowHandle() && !HasDialogInFront(*window_) ? window_.data() : nullptr;
   }
-  return &watched == window_->windowHandle() && below->isVisible() ? below : nullptr;
+  if (&watched != window_->windowHandle()) return nullptr;
+  QWidget* const dialog = QApplication::activeModalWidget();
+  return dialog != nullptr ? dialog : below->isVisible() ? below : nullptr;
 }
 
 }  // namespace quorvantis

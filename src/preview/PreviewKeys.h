@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "preview/KeyboardReturn.h"
 #include "preview/PreviewWindow.h"
 
 #include <QElapsedTimer>
@@ -19,6 +20,13 @@ class PreviewKeys : public QObject {
   /// From now on `window` is the one that shows or prints.
   void Watch(PreviewWindow& window);
 
+  /// A preview goes, and the keyboard belongs to what was below it.
+  void Uncover(const PreviewWindow& window);
+
+  /// Whether a dialog that opens by itself would take keys that are not meant for it: the user is typing, or
+  /// in a menu or another dialog. Typing does not count in a preview, which takes no text.
+  bool IsUserBusy() const;
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -26,9 +34,12 @@ class PreviewKeys : public QObject {
   bool IsMeantForPreview() const;
   bool IsImpatient() const;
   void NoteEscape();
+  void NoteTyping(const QEvent& event);
   QWidget* WindowFor(const QObject& watched) const;
 
   QPointer<PreviewWindow> window_;
+  KeyboardReturn keyboardReturn_;
+  QElapsedTimer sinceTyping_;
   QElapsedTimer sinceEscape_;     ///< taken by a preview, or since one closed in another way
   QPointer<QWidget> dialogThen_;  ///< that was open at that time
 };

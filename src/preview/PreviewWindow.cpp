@@ -3,13 +3,13 @@
 
 #include "model/WorkFolderNames.h"
 #include "platform/convert/Later.h"
+#include "preview/GiveKeys.h"
 #include "preview/PageAddress.h"
 #include "text/PathText.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,6 +22,7 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds kUntilPrinting{500};
 constexpr milliseconds kUntilPageEnds{1000};
+constexpr milliseconds kLongestVanishing{400};
 
 /// Compared only with the beginning of a status text, so a page may say more ("ExamFinished").
 constexpr std::u16string_view kFinishSignal = u"ExamFinish";
@@ -40,20 +41,13 @@ QRect Screen() {
   return screen == nullptr ? QRect(0, 0, 1024, 768) : screen->geometry();
 }
 
-/// Gives `window` the keyboard: the very next key goes there. Until the window system has moved the focus, Qt
-/// would look for shortcuts in the previous window.
-void GiveKeysTo(QWidget& window) {
-  window.activateWindow();
-  // Later versions of Qt deprecate it without a replacement.
-  QT_IGNORE_DEPRECATIONS(QApplication::setActiveWindow(&window);)
-}
-
 }  // namespace
 
 PreviewWindow::PreviewWindow(QWebEngineProfile& profile, ExamGateway& gateway,
                              const std::filesystem::path& applicationFolder, PagePrinter::AskForPrinter ask)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       gateway_(gateway),
+      printKey_(new QShortcut(QKeySequence::Print, this)),
       page_(&profile, nullptr),
       printer_(
           view_, page_, gateway,
@@ -69,10 +63,11 @@ PreviewWindow::PreviewWindow(QWebEngineProfile& profile, ExamGateway& gateway,
   connect(&printTimer_, &QTimer::timeout, this, &PreviewWindow::PrintByKeystroke);
   connect(&page_, &ExamPage::StatusTextChanged, this,
           [this](const QString& text) { StatusTextChange(text.toStdU16String()); });
-  auto* const print = new QShortcut(QKeySequence::Print, this);
-  connect(print, &QShortcut::activated, this, &PreviewWindow::PrintByKeystroke);
+  connect(printKey_, &QShortcut::activated, this, &PreviewWindow::PrintByKeystroke);
+  connect(qApp, &QGuiApplication::focusWindowChanged, this, &PreviewWindow::NoteFocus);
+  connect(&printer_, &PagePrinter::Progressed, this, &PreviewWindow::PrintProgressed);
   connect(&printer_, &PagePrinter::Printed, this, [this] {
-    if (!IsOnScreen()) gateway_.StopConversions();
+    if (!IsOnScreen()) gateway_.PageGone();
   });
   Navigate(applicationFolder / TextToPath(kStudentFolders) / "SEE.htm");
 }
@@ -83,7 +78,7 @@ PreviewWindow::~PreviewWindow() {
 }
 
 void PreviewWindow::Navigate(const std::filesystem::path& page) {
-  page.empty() ? gateway_.StopConversions() : gateway_.SetPage(page);
+  page.empty() ? gateway_.PageGone() : gateway_.SetPage(page);
   page_.Go(page.empty() ? QUrl(kBlankPage) : AddressOf(page));
 }
 
@@ -98,7 +93,9 @@ void PreviewWindow::Show() {
   const bool appears = !isVisible();
   show();
   if (!IsOnScreen()) return;
-  if (appears) below_ = QApplication::activeWindow();
+  QWidget* const active = QApplication::activeWindow();
+  if (appears && active != nullptr && active != this && active->isVisible()) below_ = active;
+  if (appears) emit Appeared();
   raise();
   GiveKeysTo(*this);
   view_.setFocus();
@@ -106,6 +103,7 @@ void PreviewWindow::Show() {
 
 void PreviewWindow::StartPrintTimer() {
   printTimer_.start(kUntilPrinting);
+  emit PrintProgressed();
 }
 
 void PreviewWindow::PrintByKeystroke() {
@@ -122,20 +120,43 @@ void PreviewWindow::StatusTextChange(std::u16string_view text) {
 
 void PreviewWindow::Leave() {
   if (closing_) return;
+  const bool wasOnScreen = IsOnScreen();
   closing_ = true;
   printTimer_.stop();
+  printKey_->setEnabled(false);
   printer_.GiveUp();
   RejectPrintDialog();
-  if (isActiveWindow() && below_ && below_->isVisible())
-    GiveKeysTo(*below_);  // before the window system looks for another one
-  Hide();
+  returnsKeyboard_ = isActiveWindow() && below_ && below_->isVisible();
+  if (returnsKeyboard_) TakeKeysFor(*below_);
   page_.setAudioMuted(true);
+  if (!wasOnScreen || hadKeyboard_) {
+    Vanish();
+  } else {
+    Later(*this, kLongestVanishing, [this] { Vanish(); });
+  }
   emit Closed();
+  emit PrintProgressed();
   if (printer_.IsPrinting()) {  // the browser crashes if the page goes meanwhile
     connect(&printer_, &PagePrinter::Printed, this, &PreviewWindow::EndPage);
   } else {
     EndPage();
   }
+}
+
+/// A window that has just appeared is about to get the keyboard. If it has gone by then, no window gets it,
+/// so it goes only after that.
+void PreviewWindow::Vanish() {
+  if (!isVisible()) return;
+  const QWidget* const dialog = QApplication::activeModalWidget();  // opened meanwhile
+  if (returnsKeyboard_ && below_ && below_->isVisible() && (dialog == nullptr || dialog == below_))
+    GiveKeysTo(*below_);  // before the window system looks for another one
+  Hide();
+}
+
+void PreviewWindow::NoteFocus(const QWindow* focus) {
+  if (focus == nullptr || focus != windowHandle()) return;
+  hadKeyboard_ = true;
+  if (closing_) Later(*this, {}, [this] { Vanish(); });
 }
 
 /// The page gets a second to finish what it is doing, a recording for example. Then it goes, whatever scripts
@@ -162,11 +183,23 @@ void PreviewWindow::RejectPrintDialog() {
   printDialog_->reject();
 }
 
+bool PreviewWindow::RejectNewDialog() {
+  const QWindow* const focus = QGuiApplication::focusWindow();
+  const bool isNew =
+      focus != nullptr && (focus == windowHandle() || (below_ && focus == below_->windowHandle()));
+  if (!printDialog_ || !isNew) return false;
+  RejectPrintDialog();
+  return true;
+}
+
 bool PreviewWindow::AskUserForPrinter(QPrinter& printer) {
-  printDialog_ = new QPrintDialog(&printer, IsOnScreen() ? this : QApplication::activeWindow());
+  QWidget* const active = QApplication::activeWindow();
+  printDialog_ = new QPrintDialog(&printer, IsOnScreen() ? this : active != nullptr ? active : below_.data());
   const QPointer<QPrintDialog> dialog = printDialog_;  // null if its parent goes while it is open
   const bool print = dialog->exec() == QDialog::Accepted;
+  if (!dialog) return false;
   delete dialog;
+  if (!print) emit PrinterRefused();
   return print;
 }
 

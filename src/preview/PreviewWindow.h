@@ -8,6 +8,7 @@
 
 #include <QPointer>
 #include <QPrintDialog>
+#include <QShortcut>
 #include <QTimer>
 #include <QWebEngineView>
 #include <QWidget>
@@ -32,6 +33,9 @@ class PreviewWindow : public QWidget {
   /// `owner` must outlive the window. Without one, nobody is told of finished exams.
   void SetOwner(PreviewOwner& owner) { owner_ = &owner; }
 
+  /// What gets the keyboard after a preview, unless another window has it before.
+  void LieOver(QWidget& below) { below_ = &below; }
+
   /// Loads the page that was written to `page`, an absolute path; an empty path leaves for the blank page.
   /// Shows the whole composed page, even if the file holds only part of it (see ComposedPages).
   void Navigate(const std::filesystem::path& page);
@@ -51,12 +55,16 @@ class PreviewWindow : public QWidget {
   /// The browser's event. "ExamFinish" at the beginning of the text finishes the exam.
   void StatusTextChange(std::u16string_view text);
 
-  /// The OK command, after which the window can only be discarded: it disappears at once, and its page a
-  /// second later. A print in progress is completed. Does nothing the second time.
+  /// The OK command, after which the window can only be discarded: it disappears at once, or as soon as the
+  /// window system has seen it, and its page a second later. A print in progress is completed. Does nothing
+  /// the second time.
   void Leave();
 
-  /// Whether a preview is visible; a print is not.
-  bool IsOnScreen() const { return isVisible() && !testAttribute(Qt::WA_DontShowOnScreen); }
+  /// Whether a preview is visible; a print is not, and neither is what the user has left.
+  bool IsOnScreen() const { return isVisible() && !closing_ && !testAttribute(Qt::WA_DontShowOnScreen); }
+
+  /// Closes a print dialog that the window system has not given the keyboard yet. False if there is none.
+  bool RejectNewDialog();
 
   /// Whether a hidden print has not asked for its printer yet.
   bool IsAboutToPrint() const;
@@ -67,21 +75,35 @@ class PreviewWindow : public QWidget {
   PagePrinter& Printer() { return printer_; }
 
  signals:
+  /// A preview is on the screen.
+  void Appeared();
+
   /// The OK command has run.
   void Closed();
+
+  /// The user has closed the print dialog without printing.
+  void PrinterRefused();
+
+  /// `IsAboutToPrint` may have changed.
+  void PrintProgressed();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void Vanish();
+  void NoteFocus(const QWindow* focus);
   void EndPage();
   void RejectPrintDialog();
   bool AskUserForPrinter(QPrinter& printer);
 
   ExamGateway& gateway_;
   PreviewOwner* owner_ = nullptr;
-  bool closing_ = false;  ///< closing has begun; the page is ignored
+  bool closing_ = false;          ///< closing has begun; the page is ignored
+  bool hadKeyboard_ = false;      ///< the window system has given it to this window
+  bool returnsKeyboard_ = false;  ///< to the window below, when this one goes
   QTimer printTimer_;
+  QShortcut* printKey_;
   QPointer<QWidget> below_;
   QPointer<QPrintDialog> printDialog_;  ///< while it is open
   QWebEngineView view_;

@@ -46,13 +46,14 @@ PreviewWindows::Window PreviewWindows::Make() {
   if (!browser_) browser_ = std::make_unique<Browser>(setup_);
   Window window(new PreviewWindow(browser_->profile, browser_->gateway, setup_.applicationFolder, ask_),
                 Discard{this});
+  if (!ask_) window->Printer().AvoidAsking([this] { return keys_.IsUserBusy(); });
   keys_.Watch(*window);
   return window;
 }
 
 void PreviewWindows::Retire(PreviewWindow* window) {
   std::unique_ptr<PreviewWindow> owned(window);
-  browser_->gateway.StopConversions();
+  keys_.Uncover(*window);
   if (!window->Printer().IsPrinting()) return;
   window->Hide();
   // The next window's conversions do not concern it.

@@ -17,7 +17,8 @@ namespace quorvantis {
 /// destroy this before it.
 class PreviewWindows {
  public:
-  /// Discards a window; one that is printing is hidden, and goes when that is done.
+  /// Discards a window; one that is printing is hidden, and goes when that is done. What it was converting
+  /// goes on until the next page has said whether it wants that, too.
   struct Discard {
     PreviewWindows* windows;
     void operator()(PreviewWindow* window) const { windows->Retire(window); }

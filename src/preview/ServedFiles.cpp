@@ -27,7 +27,9 @@ std::optional<fs::path> RealPath(const fs::path& path) {
 }  // namespace
 
 ServedFiles::ServedFiles(fs::path applicationFolder)
-    : applicationFolder_(std::move(applicationFolder)), pageFolder_(applicationFolder_) {}
+    : applicationFolder_(std::move(applicationFolder)),
+      pageFolder_(applicationFolder_),
+      held_(applicationFolder_ / kCopyFolders) {}
 
 std::vector<fs::path> ServedFiles::Places(const fs::path& asked) const {
   std::vector<fs::path> places{asked};
@@ -40,11 +42,23 @@ std::vector<fs::path> ServedFiles::Places(const fs::path& asked) const {
 
 std::optional<fs::path> ServedFiles::Find(const fs::path& asked) const {
   for (const fs::path& place : Places(asked)) {
-    std::optional<fs::path> real = RealPath(place);
-    std::error_code error;
-    if (real && Permits(*real) && fs::is_regular_file(*real, error)) return real;
+    std::optional<fs::path> file = held_.Find(place);
+    if (!file) file = FileAt(place);
+    if (file) return file;
   }
   return std::nullopt;
+}
+
+void ServedFiles::Hold(const fs::path& asked) {
+  const fs::path place = asked.lexically_normal();
+  if (const std::optional<fs::path> file = FileAt(place)) held_.Hold(place, *file);
+}
+
+std::optional<fs::path> ServedFiles::FileAt(const fs::path& place) const {
+  std::optional<fs::path> real = RealPath(place);
+  std::error_code error;
+  const bool isServed = real && Permits(*real) && fs::is_regular_file(*real, error);
+  return isServed ? real : std::nullopt;
 }
 
 /// A work folder that is itself a link leads out of the application folder and is not served.

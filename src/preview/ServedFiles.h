@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "preview/HeldFiles.h"
+
 #include <filesystem>
 #include <optional>
 #include <vector>
@@ -22,14 +24,21 @@ class ServedFiles {
   /// below the folder of the preview pages, beside which the files of an opened exam are unpacked.
   std::vector<std::filesystem::path> Places(const std::filesystem::path& asked) const;
 
-  /// The real path of the first of these places that is an existing, permitted, regular file.
+  /// The real path of the first of these places that is an existing, permitted, regular file; what is held
+  /// for a place comes before what is there now.
   std::optional<std::filesystem::path> Find(const std::filesystem::path& asked) const;
 
+  /// From now on `asked`, a full path, stands for the file that it means now, until `Release`.
+  void Hold(const std::filesystem::path& asked);
+  void Release() { held_.Release(); }
+
  private:
+  std::optional<std::filesystem::path> FileAt(const std::filesystem::path& place) const;
   bool Permits(const std::filesystem::path& real) const;
 
   std::filesystem::path applicationFolder_;
   std::filesystem::path pageFolder_;
+  HeldFiles held_;
 };
 
 }  // namespace quorvantis

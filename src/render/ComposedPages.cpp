@@ -40,6 +40,13 @@ const PageSource* ComposedPages::FindFile(const std::filesystem::path& file) con
   return found == sourceOfFile_.end() ? nullptr : FindSource(found->second);
 }
 
+std::vector<std::filesystem::path> ComposedPages::SourceFiles() const {
+  std::vector<std::filesystem::path> files;
+  files.reserve(sourceOfFile_.size());
+  for (const auto& [file, text] : sourceOfFile_) files.push_back(file);
+  return files;
+}
+
 void ComposedPages::Clear() {
   pages_.clear();
   sources_.clear();

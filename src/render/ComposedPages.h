@@ -32,6 +32,9 @@ class ComposedPages : public PageStore {
   /// The same for a full path of a file.
   const PageSource* FindFile(const std::filesystem::path& file) const;
 
+  /// The full paths of the files that pages show.
+  std::vector<std::filesystem::path> SourceFiles() const;
+
   /// The length of the longest text, in UTF-16 units.
   std::size_t LongestSource() const { return longestSource_; }
 

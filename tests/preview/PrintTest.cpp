@@ -2,6 +2,8 @@
 #include "AttachmentFiles.h"
 #include "PreviewTest.h"
 
+#include <QElapsedTimer>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QSignalSpy>
 #include <QTimer>
@@ -18,7 +20,7 @@ class PrintTest : public PreviewTest {
   }
 
   /// Prints `page` to a PDF file, as the Print command does.
-  void Print(const std::filesystem::path& page) {
+  void BeginPrint(const std::filesystem::path& page) {
     Windows().ChoosePrinterWith([this](QPrinter& printer) {
       ++asked;
       printer.setOutputFormat(QPrinter::PdfFormat);
@@ -26,9 +28,15 @@ class PrintTest : public PreviewTest {
       return true;
     });
     PrintOffScreen(page);
+  }
+  void AwaitPaper() {
     QSignalSpy printed(&Window().Printer(), &PagePrinter::Printed);
     ASSERT_TRUE(WaitFor([&] { return !printed.isEmpty(); }));
     ASSERT_TRUE(printed.front().front().toBool());
+  }
+  void Print(const std::filesystem::path& page) {
+    BeginPrint(page);
+    AwaitPaper();
   }
 
   QString Poppler(const QString& program, const QStringList& arguments) {
@@ -75,6 +83,64 @@ TEST_F(PrintTest, WaitsForDocumentsAndPrintsAllTheirPages) {
   // Two lines of heading, then one line per picture.
   const QString pictures = Poppler("pdfimages", {"-list", QString::fromStdString(pdf.string())});
   EXPECT_EQ(pictures.trimmed().count('\n') - 1, 3) << pictures.toStdString();
+}
+
+/// The next exam removes the files of the last one, and may have others under the same names.
+TEST_F(PrintTest, HasTheFilesOfItsMoment) {
+  const auto picture = Attach("dot.bmp", SmallBitmap());
+  const auto note = Attach("note.txt", "lines of the note");
+  BeginPrint(Paper(
+      u"<img src=\"~TEMP/home/dot.bmp\"><iframe width=690 height=60 src=\"~TEMP/home/note.txt\" ></iframe>"));
+  std::filesystem::remove(picture);
+  std::filesystem::remove(note);
+  WriteBytes(note, "another note");
+  AwaitPaper();
+  const QString text = Text();
+  EXPECT_TRUE(text.contains("lines of the note")) << text.toStdString();
+  EXPECT_FALSE(text.contains("is gone")) << text.toStdString();
+  const auto entries = std::filesystem::directory_iterator(app / "~TEMP");
+  EXPECT_EQ(std::distance(begin(entries), end(entries)), 1) << "names are left behind";
+}
+
+TEST_F(PrintTest, AskedForAgainDoesNotConvertAgain) {
+  const auto runs = folder / "runs";
+  const auto slow = WriteBytes(folder / "slow", "#!/bin/sh\necho run >>" + runs.string() + "\nsleep 2\n");
+  std::filesystem::permissions(slow, std::filesystem::perms::owner_all);
+  programs.pdfImages = QString::fromStdString(slow.string());
+  Attach("slow.pdf", kPortable);
+  const auto withDocument = Paper(u"<iframe width=690 height=60 src=\"~TEMP/home/slow.pdf\" ></iframe>");
+  const auto count = [&] { return std::filesystem::exists(runs) ? ReadBytes(runs).size() / 4 : 0; };
+  BeginPrint(withDocument);
+  ASSERT_TRUE(WaitFor([&] { return count() == 1; }));
+  BeginPrint(withDocument);
+  AwaitPaper();
+  EXPECT_EQ(count(), 1U);
+  EXPECT_EQ(asked, 1);
+}
+
+TEST_F(PrintTest, DoesNotTakeTheKeysOfSomebodyWhoWrites) {
+  QLineEdit field;
+  field.show();
+  field.setFocus();
+  PrintOffScreen(Paper(u"x"));
+  QElapsedTimer sinceKey;
+  qint64 pause = -1;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    if (auto* const found = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget())) {
+      if (pause < 0) pause = sinceKey.elapsed();
+      found->reject();
+    }
+  });
+  look.start(20);
+  for (int i = 0; i < 20; ++i) {
+    QTest::keyClick(&field, Qt::Key_A);
+    sinceKey.start();
+    QTest::qWait(100);
+  }
+  EXPECT_LT(pause, 0) << "it came while keys were pressed";
+  EXPECT_TRUE(WaitFor([&] { return pause >= 0; })) << "it does not come";
+  EXPECT_EQ(field.text().size(), 20);
 }
 
 TEST_F(PrintTest, TheUserIsAskedForThePrinter) {

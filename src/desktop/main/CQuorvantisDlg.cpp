@@ -122,7 +122,8 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       answers_(editor_, services_.strings, pictures_, client_),
       history_(life_.Steps(), examControls_, question_, answers_, services_),
       search_(editor_, examControls_, question_, answers_, *this),
-      recoveryFails_(new WarningNotice("recoveryFails", client_)),
+      recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
+      printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
       scroll_(*client_),
       cancel_(MakeHiddenButton("cancel", client_)),
       ok_(MakeHiddenButton("ok", client_)),
@@ -198,7 +199,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
 }
 
 WindowControls CQuorvantisDlg::Controls() {
-  return {toolbar_, examControls_, questionArea_, question_, answers_, recoveryFails_};
+  return {toolbar_, examControls_, questionArea_, question_, answers_, recoveryFails_, printComes_};
 }
 
 void CQuorvantisDlg::PlaceParts() {
@@ -265,6 +266,17 @@ void CQuorvantisDlg::RenewPreviewWindow() {
   previewWindow_.reset();
   previewWindow_ = previews_.Make();
   previewWindow_->SetOwner(*this);
+  previewWindow_->LieOver(*this);
+  connect(&*previewWindow_, &PreviewWindow::PrintProgressed, this, &CQuorvantisDlg::TellOfPrint);
+  TellOfPrint();
+}
+
+/// Documents of the exam may take many seconds to convert.
+void CQuorvantisDlg::TellOfPrint() {
+  if (!previewWindow_->IsAboutToPrint()) return printComes_->hide();
+  const auto text = [this](int number) { return ToQString(services_.strings.Text(number)); };
+  printComes_->raise();
+  printComes_->Tell(text(text_id::kPrintComes), text(text_id::kPrintWaits));
 }
 
 void CQuorvantisDlg::Preview() {

@@ -15,9 +15,9 @@
 #include "desktop/main/QuestionControls.h"
 #include "desktop/main/SearchCommands.h"
 #include "desktop/main/ToolbarButtons.h"
-#include "desktop/main/WarningNotice.h"
 #include "desktop/main/WindowLayout.h"
 #include "desktop/main/WindowMenus.h"
+#include "desktop/main/WindowNotice.h"
 #include "desktop/main/WindowScroll.h"
 #include "desktop/overview/ShownQuestionCommands.h"
 #include "import/ImportCommand.h"
@@ -124,6 +124,8 @@ class CQuorvantisDlg final : public FittedWindow,
   void Print();
   /// Loads the page out of sight and prints it.
   void PrintPage(const std::filesystem::path& page);
+  /// Tells that a print is being prepared, as long as it is.
+  void TellOfPrint();
   void ExportPdf();
   void SetUpScores();
   void TakeFiles(const QList<QUrl>& urls);
@@ -152,7 +154,8 @@ class CQuorvantisDlg final : public FittedWindow,
   AnswerControls answers_;
   HistoryCommands history_;
   SearchCommands search_;
-  WarningNotice* recoveryFails_;
+  WindowNotice* recoveryFails_;
+  WindowNotice* printComes_;
   WindowScroll scroll_;
   QPushButton* cancel_;  ///< hidden, like the two below
   QPushButton* ok_;

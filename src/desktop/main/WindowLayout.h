@@ -6,7 +6,7 @@
 #include "desktop/main/QuestionArea.h"
 #include "desktop/main/QuestionControls.h"
 #include "desktop/main/ToolbarButtons.h"
-#include "desktop/main/WarningNotice.h"
+#include "desktop/main/WindowNotice.h"
 #include "desktop/main/WindowScroll.h"
 #include "platform/DebugOutput.h"
 
@@ -20,7 +20,8 @@ struct WindowControls {
   QuestionArea* questionArea;
   QuestionControls& question;
   AnswerControls& answers;
-  WarningNotice* notice;
+  WindowNotice* notice;
+  WindowNotice* printNotice;  ///< in front of it, for a moment
 };
 
 /// Places every control of the client area that `scroll` scrolls, for the current state of `editor`; mirrored

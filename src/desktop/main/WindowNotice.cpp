@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/main/WarningNotice.h"
+#include "desktop/main/WindowNotice.h"
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/FittedCaption.h"
 
 #include <QAccessible>
 #include <QPainter>
-#include <QStyle>
 
 namespace quorvantis {
 namespace {
@@ -16,12 +15,14 @@ constexpr int kIconGap = 6;
 
 }  // namespace
 
-WarningNotice::WarningNotice(const char* name, QWidget* parent) : QWidget(parent) {
+WindowNotice::WindowNotice(const char* name, QStyle::StandardPixmap icon, QWidget* parent)
+    : QWidget(parent), icon_(icon) {
   NameControl(this, name, {});
+  setAutoFillBackground(true);  // two of them may share a place
   hide();
 }
 
-void WarningNotice::Tell(const QString& text, const QString& details) {
+void WindowNotice::Tell(const QString& text, const QString& details) {
   if (isVisibleTo(parentWidget()) && accessibleName() == text && accessibleDescription() == details) return;
   setAccessibleName(text);
   setAccessibleDescription(details);
@@ -32,13 +33,13 @@ void WarningNotice::Tell(const QString& text, const QString& details) {
   QAccessible::updateAccessibility(&alert);
 }
 
-void WarningNotice::paintEvent(QPaintEvent*) {
+void WindowNotice::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const auto mirrored = [this](const QRect& place) {
     return QStyle::visualRect(layoutDirection(), rect(), place);
   };
   const QRect icon = mirrored(QRect(0, (height() - kIcon) / 2, kIcon, kIcon));
-  style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).paint(&painter, icon);
+  style()->standardIcon(icon_, nullptr, this).paint(&painter, icon);
   const QRect place = mirrored(rect().adjusted(kIcon + kIconGap, 0, 0, 0));
   const FittedCaption caption = FitCaption(accessibleName(), font(), place.size());
   painter.setFont(caption.font);
