@@ -52,6 +52,7 @@ void PreviewKeys::Watch(PreviewWindow& window) {
   window_ = &window;
   connect(&window, &PreviewWindow::Appeared, &keyboardReturn_, &KeyboardReturn::Stop);
   connect(&window, &PreviewWindow::Closed, this, [this, &window] {
+    left_ = &window;
     NoteEscape();
     Uncover(window);
   });
@@ -119,14 +120,21 @@ void PreviewKeys::NoteEscape() {
 
 /// The window that a key should have gone to if the window system has not caught up yet; null if it has.
 QWidget* PreviewKeys::WindowFor(const QObject& watched) const {
-  if (!window_ || !window_->WindowBelow()) return nullptr;
-  QWidget* const below = window_->WindowBelow();
-  if (window_->IsOnScreen()) {
-    return &watched == below->windowHandle() && !HasDialogInFront(*window_) ? window_.data() : nullptr;
+  const bool isShown = window_ && window_->IsOnScreen();
+  if (isShown && !HasDialogInFront(*window_)) {
+    const QWidget* const below = window_->WindowBelow();
+    const bool isBehind = (below != nullptr && &watched == below->windowHandle()) || IsOfLeft(watched);
+    return isBehind ? window_.data() : nullptr;
   }
-  if (&watched != window_->windowHandle()) return nullptr;
+  if (!IsOfLeft(watched)) return nullptr;
   QWidget* const dialog = QApplication::activeModalWidget();
-  return dialog != nullptr ? dialog : below->isVisible() ? below : nullptr;
+  if (dialog != nullptr) return dialog;
+  QWidget* const below = left_->WindowBelow();
+  return below != nullptr && below->isVisible() ? below : nullptr;
+}
+
+bool PreviewKeys::IsOfLeft(const QObject& watched) const {
+  return left_ && &watched == left_->windowHandle();
 }
 
 }  // namespace quorvantis

@@ -36,8 +36,10 @@ class PreviewKeys : public QObject {
   void NoteEscape();
   void NoteTyping(const QEvent& event);
   QWidget* WindowFor(const QObject& watched) const;
+  bool IsOfLeft(const QObject& watched) const;
 
   QPointer<PreviewWindow> window_;
+  QPointer<PreviewWindow> left_;  ///< the last one that the user left
   KeyboardReturn keyboardReturn_;
   QElapsedTimer sinceTyping_;
   QElapsedTimer sinceEscape_;     ///< taken by a preview, or since one closed in another way

@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -22,7 +23,7 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds kUntilPrinting{500};
 constexpr milliseconds kUntilPageEnds{1000};
-constexpr milliseconds kLongestVanishing{400};
+constexpr milliseconds kLongestHandOver{600};
 
 /// Compared only with the beginning of a status text, so a page may say more ("ExamFinished").
 constexpr std::u16string_view kFinishSignal = u"ExamFinish";
@@ -34,6 +35,11 @@ bool IsProgramEnding() {
   return std::none_of(windows.begin(), windows.end(), [](const QWidget* window) {
     return window->isVisible() && window->testAttribute(Qt::WA_QuitOnClose);
   });
+}
+
+/// Whether a window manager moves the keyboard between windows, some time after it has been asked to.
+bool IsKeyboardSlow() {
+  return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
 QRect Screen() {
@@ -126,13 +132,14 @@ void PreviewWindow::Leave() {
   printKey_->setEnabled(false);
   printer_.GiveUp();
   RejectPrintDialog();
-  returnsKeyboard_ = isActiveWindow() && below_ && below_->isVisible();
+  const bool isUserHere = isActiveWindow() || !hadKeyboard_ || QGuiApplication::focusWindow() != nullptr;
+  returnsKeyboard_ = wasOnScreen && isUserHere && below_ && below_->isVisible();
   if (returnsKeyboard_) TakeKeysFor(*below_);
   page_.setAudioMuted(true);
-  if (!wasOnScreen || hadKeyboard_) {
-    Vanish();
+  if (returnsKeyboard_ && IsKeyboardSlow()) {
+    HandOverKeyboard();
   } else {
-    Later(*this, kLongestVanishing, [this] { Vanish(); });
+    Vanish();
   }
   emit Closed();
   emit PrintProgressed();
@@ -143,20 +150,27 @@ void PreviewWindow::Leave() {
   }
 }
 
-/// A window that has just appeared is about to get the keyboard. If it has gone by then, no window gets it,
-/// so it goes only after that.
+/// The keyboard moves while both windows are there. If this one went first, keys pressed meanwhile would be
+/// lost; and if a window manager was just giving it the keyboard, no window would have it in the end.
+void PreviewWindow::HandOverKeyboard() {
+  if (hadKeyboard_) GiveKeysTo(*below_);
+  Later(*this, kLongestHandOver, [this] { Vanish(); });
+}
+
+void PreviewWindow::NoteFocus(const QWindow* focus) {
+  const bool isHere = focus != nullptr && focus == windowHandle();
+  hadKeyboard_ = hadKeyboard_ || isHere;
+  if (!IsHandingOver() || focus == nullptr) return;
+  Later(*this, {}, [this, isHere] { isHere&& IsHandingOver() && below_ ? GiveKeysTo(*below_) : Vanish(); });
+}
+
 void PreviewWindow::Vanish() {
   if (!isVisible()) return;
   const QWidget* const dialog = QApplication::activeModalWidget();  // opened meanwhile
   if (returnsKeyboard_ && below_ && below_->isVisible() && (dialog == nullptr || dialog == below_))
     GiveKeysTo(*below_);  // before the window system looks for another one
   Hide();
-}
-
-void PreviewWindow::NoteFocus(const QWindow* focus) {
-  if (focus == nullptr || focus != windowHandle()) return;
-  hadKeyboard_ = true;
-  if (closing_) Later(*this, {}, [this] { Vanish(); });
+  emit Vanished();
 }
 
 /// The page gets a second to finish what it is doing, a recording for example. Then it goes, whatever scripts

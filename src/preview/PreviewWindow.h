@@ -69,6 +69,9 @@ class PreviewWindow : public QWidget {
   /// Whether a hidden print has not asked for its printer yet.
   bool IsAboutToPrint() const;
 
+  /// Whether the user has left the preview, and it is there only until the window below has the keyboard.
+  bool IsHandingOver() const { return isVisible() && closing_ && !testAttribute(Qt::WA_DontShowOnScreen); }
+
   /// What had the keyboard focus before the preview, and gets it back.
   QWidget* WindowBelow() const { return below_; }
 
@@ -81,6 +84,9 @@ class PreviewWindow : public QWidget {
   /// The OK command has run.
   void Closed();
 
+  /// After that, the window has gone from the screen.
+  void Vanished();
+
   /// The user has closed the print dialog without printing.
   void PrinterRefused();
 
@@ -91,6 +97,7 @@ class PreviewWindow : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void HandOverKeyboard();
   void Vanish();
   void NoteFocus(const QWindow* focus);
   void EndPage();

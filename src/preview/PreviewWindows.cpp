@@ -37,7 +37,7 @@ PreviewWindows::PreviewWindows(GatewaySetup setup) : setup_(std::move(setup)) {}
 
 PreviewWindows::~PreviewWindows() {
   const QDeadlineTimer deadline(kLongestPrint);
-  while (!printing_.empty() && !deadline.hasExpired()) {
+  while (!lingering_.empty() && !deadline.hasExpired()) {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kTurn);
   }
 }
@@ -54,18 +54,23 @@ PreviewWindows::Window PreviewWindows::Make() {
 void PreviewWindows::Retire(PreviewWindow* window) {
   std::unique_ptr<PreviewWindow> owned(window);
   keys_.Uncover(*window);
-  if (!window->Printer().IsPrinting()) return;
-  window->Hide();
+  if (!window->Printer().IsPrinting() && !window->IsHandingOver()) return;
+  if (!window->IsHandingOver()) window->Hide();
   // The next window's conversions do not concern it.
   QObject::disconnect(&window->Printer(), nullptr, window, nullptr);
-  QObject::connect(&window->Printer(), &PagePrinter::Printed, &keys_, [this, window] {
-    std::erase_if(printing_, [window](std::unique_ptr<PreviewWindow>& printed) {
-      if (printed.get() != window) return false;
-      printed.release()->deleteLater();  // its printer is just emitting this signal
-      return true;
-    });
+  const auto release = [this, window] { Release(window); };
+  QObject::connect(&window->Printer(), &PagePrinter::Printed, &keys_, release);
+  QObject::connect(window, &PreviewWindow::Vanished, &keys_, release);
+  lingering_.push_back(std::move(owned));
+}
+
+void PreviewWindows::Release(PreviewWindow* window) {
+  if (window->Printer().IsPrinting() || window->IsHandingOver()) return;
+  std::erase_if(lingering_, [window](std::unique_ptr<PreviewWindow>& lingering) {
+    if (lingering.get() != window) return false;
+    lingering.release()->deleteLater();  // it is just emitting a signal
+    return true;
   });
-  printing_.push_back(std::move(owned));
 }
 
 }  // namespace quorvantis

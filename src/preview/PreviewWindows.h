@@ -17,8 +17,9 @@ namespace quorvantis {
 /// destroy this before it.
 class PreviewWindows {
  public:
-  /// Discards a window; one that is printing is hidden, and goes when that is done. What it was converting
-  /// goes on until the next page has said whether it wants that, too.
+  /// Discards a window; one that is printing is hidden, and goes when that is done, and one that hands over
+  /// the keyboard goes after that. What it was converting goes on until the next page has said whether it
+  /// wants that, too.
   struct Discard {
     PreviewWindows* windows;
     void operator()(PreviewWindow* window) const { windows->Retire(window); }
@@ -28,7 +29,7 @@ class PreviewWindows {
   /// The pages of `setup` must outlive this.
   explicit PreviewWindows(GatewaySetup setup);
 
-  /// All windows must have been discarded. Waits for those that are printing.
+  /// All windows must have been discarded. Waits for those that are still needed.
   ~PreviewWindows();
   PreviewWindows(const PreviewWindows&) = delete;
   PreviewWindows& operator=(const PreviewWindows&) = delete;
@@ -42,12 +43,13 @@ class PreviewWindows {
  private:
   struct Browser;
   void Retire(PreviewWindow* window);
+  void Release(PreviewWindow* window);
 
   GatewaySetup setup_;
   PagePrinter::AskForPrinter ask_;
   std::unique_ptr<Browser> browser_;
   PreviewKeys keys_;
-  std::vector<std::unique_ptr<PreviewWindow>> printing_;  ///< go before the browser
+  std::vector<std::unique_ptr<PreviewWindow>> lingering_;  ///< print or hand over; go before the browser
 };
 
 }  // namespace quorvantis
