@@ -95,7 +95,7 @@ TriedLayout LayoutSearch::Tried(RuleDraft draft) const {
   tried.draft = std::move(draft);
   tried.reading = ReadByRules(paper_, tried.rules, options_.isCancelled);
   Check();
-  tried.score = ScoreOf(paper_, tried.reading);
+  tried.score = ScoreOf(paper_, tried.reading, tried.draft.options.alphabets);
   if (!marks_.IsEmpty()) tried.followed = marks_.Followed(RolesOf(paper_, tried.reading));
   tried.total = tried.score.Total() + kWeightOfMarks * tried.followed;
   return tried;

@@ -43,7 +43,8 @@ class LabelReading {
     for (std::size_t at = begin_; at < std::min(text_.size(), begin_ + kLongestPrefix); ++at) {
       if (!IsLetter(text_[at]) && !Holds(u" .#№°º'’\u00A0*&", text_[at])) break;
       const std::size_t next = SkipBlanks(text_, at + 1, text_.size());
-      if (at >= begin_ && IsNumberHere(next)) {
+      const bool isApart = next > at + 1 || !IsLetter(text_[at]);
+      if (IsNumberHere(next) && (isApart || IsDigitHere(next))) {
         std::u16string prefix(text_.substr(begin_, next - begin_));
         while (!prefix.empty() && IsBlank(prefix.back())) prefix.pop_back();
         if (!prefix.empty() && IsLetter(prefix[prefix.find_first_not_of(u"#№*& ") == prefix.npos
@@ -93,6 +94,12 @@ class LabelReading {
       const std::size_t end = at + numeral.size;
       return !isRoman || end >= text_.size() || !IsLetter(text_[end]);
     });
+  }
+
+  /// Numbers of letters, as "II", need a blank before them.
+  bool IsDigitHere(std::size_t at) const {
+    const std::vector<Numeral> numerals = NumeralsAt(text_, at);
+    return std::ranges::any_of(numerals, [](const Numeral& numeral) { return IsDecimal(numeral.kind); });
   }
 
   void Read(const std::u16string& prefix, std::size_t at) {
@@ -195,7 +202,9 @@ std::vector<NumberLabel> NumberLabelsAt(std::u16string_view text, TextSpan line)
 
 std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
   std::map<FamilyKey, NumberFamily> families;
-  for (const TextSpan& line : LinesOf(text, {0, text.size()})) {
+  constexpr std::size_t kFewLines = 12;
+  const std::vector<TextSpan> lines = LinesOf(text, {0, text.size()});
+  for (const TextSpan& line : lines) {
     for (NumberLabel& label : LabelReading(text, line).Labels()) {
       NumberFamily& family = families[KeyOf(label)];
       family.prefix = label.prefix;
@@ -212,7 +221,8 @@ std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
   for (auto& [key, family] : families) {
     if (family.closes.size() > 1) AddByCloses(family, found);
     Judge(family);
-    if (family.labels.size() > 1 || family.labels.front().value == 1) found.push_back(std::move(family));
+    const bool isOnly = family.labels.front().value == 1 && lines.size() <= kFewLines;
+    if (family.labels.size() > 1 || isOnly) found.push_back(std::move(family));
   }
   std::ranges::stable_sort(found, std::greater<>(), LikelinessOfNumbers);
   return found;

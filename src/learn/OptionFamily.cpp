@@ -94,7 +94,11 @@ std::u16string OptionFamily::LabelPattern(std::size_t index, bool atLineStarts) 
   if (!letters.empty() && isPlain && !closes.empty())
     ways.insert((atLineStarts ? u"" : u"(?<![0-9A-Za-z\u00C0-\u04FF])") + letter + u"[ ]?" + close);
   if (!letters.empty() && isBracketed) ways.insert(ClassPattern(opens) + u"[ ]?" + letter + u"[ ]?" + close);
-  if (!letters.empty() && isBare) ways.insert(u"^[ \\t]*" + letter + u"[ \\t\u00A0\u3000]");
+  if (!letters.empty() && isBare) {
+    const bool isAlone = std::ranges::any_of(
+        alphabets, [](std::size_t alphabet) { return OptionAlphabets()[alphabet].standsAlone; });
+    ways.insert((isAlone ? u"(?:^|(?<=[ \\t\u3000]))" : u"^[ \\t]*") + letter + u"[ \\t\u00A0\u3000]");
+  }
   if (!symbols.empty()) ways.insert(ClassPattern(symbols) + (closes.empty() ? u"" : close + u"?"));
   return (atLineStarts ? u"^[ \\t\u00A0\u3000]*" : u"") + OneOfPattern(ways);
 }

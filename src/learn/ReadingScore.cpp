@@ -68,7 +68,8 @@ std::size_t OptionsOf(const ReadQuestion& question) {
 /// Counts what is wrong with the questions of a reading.
 class Counting {
  public:
-  explicit Counting(const ReadPaper& paper) : paper_(paper) {
+  Counting(const ReadPaper& paper, const std::set<std::size_t>& alphabets)
+      : paper_(paper), alphabets_(alphabets) {
     for (const ReadQuestion& question : paper.questions) Count(question);
   }
 
@@ -120,12 +121,14 @@ class Counting {
     if (isLong) ++longOptions_;
   }
 
-  static bool HoldsOptions(const ReadQuestion& question) {
-    const auto holds = [](std::u16string_view text) {
+  bool HoldsOptions(const ReadQuestion& question) const {
+    const auto holds = [this](std::u16string_view text) {
       constexpr std::size_t kEnoughToSee = 4'000;
-      const auto options =
-          FindOptions(text.substr(0, kEnoughToSee), {0, std::min(text.size(), kEnoughToSee)});
-      return options && (options->labels.size() > 2 || options->LineStarts() == 2);
+      const TextSpan looked{0, std::min(text.size(), kEnoughToSee)};
+      return std::ranges::any_of(FindOptionRuns(text, looked), [this](const OptionSequence& run) {
+        const bool isInUse = alphabets_.empty() || alphabets_.contains(run.alphabet);
+        return isInUse && (run.labels.size() > 2 || run.LineStarts() == 2);
+      });
     };
     return holds(question.text) || std::ranges::any_of(question.options, holds) || holds(question.answer);
   }
@@ -140,6 +143,7 @@ class Counting {
   }
 
   const ReadPaper& paper_;
+  const std::set<std::size_t>& alphabets_;
   std::size_t choices_ = 0;
   std::size_t keys_ = 0;
   double plausible_ = 0;
@@ -153,7 +157,8 @@ class Counting {
 
 }  // namespace
 
-ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading) {
+ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading,
+                     const std::set<std::size_t>& alphabets) {
   ReadingScore score;
   if (reading.HasFailed()) return score;
   score.questions = reading.paper.questions.size();
@@ -161,7 +166,7 @@ ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading) {
   score.rising = RisingShare(NumbersOf(paper, reading.marked));
   score.explained = ExplainedShare(paper, RolesOf(paper, reading));
   score.dropped = std::min(Share(reading.paper.dropped.size(), score.questions), 1.0);
-  Counting(reading.paper).Fill(score);
+  Counting(reading.paper, alphabets).Fill(score);
   return score;
 }
 

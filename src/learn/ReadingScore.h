@@ -4,6 +4,7 @@
 #include "learn/PaperReading.h"
 
 #include <cstddef>
+#include <set>
 
 namespace quorvantis {
 
@@ -30,6 +31,7 @@ struct ReadingScore {
   double Confidence() const;
 };
 
-ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading);
+/// `alphabets`: those of the options (OptionAlphabets); labels of others may stand in texts.
+ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading, const std::set<std::size_t>& alphabets);
 
 }  // namespace quorvantis

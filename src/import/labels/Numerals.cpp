@@ -160,7 +160,9 @@ int NumberInLabel(std::u16string_view label) {
     for (const Numeral& numeral : numerals) {
       const bool isRoman = numeral.kind == NumeralKind::UpperRoman || numeral.kind == NumeralKind::LowerRoman;
       const std::size_t end = at + numeral.size;
-      const auto isLetter = [](char16_t unit) { return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z'; };
+      const auto isLetter = [](char16_t unit) {
+        return ((unit | 0x20) >= u'a' && (unit | 0x20) <= u'z') || (unit >= 0xC0 && unit < 0x2000);
+      };
       const bool isInWord =
           (at > 0 && isLetter(label[at - 1])) || (end < label.size() && isLetter(label[end]));
       if (!isRoman || !isInWord) return numeral.value;

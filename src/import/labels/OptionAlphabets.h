@@ -16,6 +16,7 @@ struct OptionAlphabet {
   std::u16string_view letters;        ///< one UTF-16 unit each, at least five
   std::u16string_view others{};       ///< other forms of the same letters in the same order; a blank for none
   bool isSymbol = false;              ///< letters like ①, which need no bracket or dot
+  bool standsAlone = false;           ///< blanks around the letter are enough, even within a line
   std::u16string_view firstAsWord{};  ///< the name of the first letter where it is written out, as "الف" is
 };
 

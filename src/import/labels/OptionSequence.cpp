@@ -86,9 +86,17 @@ class LabelScan {
       return true;
     }
     // A letter by itself, set off by a tab or by blanks.
-    if (isOpened || !BeginsLine(text_, at)) return false;
+    if (isOpened) return false;
+    if (StandsAlone(at)) return IsBlank(UnitAt(at + 1)) && (IsBlank(before) || BeginsLine(text_, at));
+    if (!BeginsLine(text_, at)) return false;
     return UnitAt(at + 1) == u'\t' || UnitAt(at + 1) == u'\u3000' ||
            (UnitAt(at + 1) == u' ' && (UnitAt(at + 2) == u' ' || IsCapitalAlone(at)));
+  }
+
+  bool StandsAlone(std::size_t at) const {
+    const std::vector<AlphabetLetter>& letters = AlphabetLettersOf(text_[at]);
+    return std::ranges::any_of(
+        letters, [](const AlphabetLetter& letter) { return OptionAlphabets()[letter.alphabet].standsAlone; });
   }
 
   /// "A Paris" at the start of a line may be a label, if "B Rome" follows; the sequence decides.
@@ -115,7 +123,8 @@ class LabelScan {
 
   /// Within a line a label needs a clear beginning and end.
   bool CanStandWithin(const OptionLabel& label, std::size_t begin) const {
-    if (label.close == 0 || Has(u",，-–—>。", label.close)) return label.open != 0;
+    if (label.close == 0) return StandsAlone(label.letter.begin);
+    if (Has(u",，-–—>。", label.close)) return label.open != 0;
     const char16_t before = begin > within_.begin ? text_[begin - 1] : u'\n';
     // "e.g. A.B." is no label, and neither is the dot of an initial in a name.
     if (label.close == u'.' && IsBlank(before) && UnitAt(label.label.end) == u'\0') return false;

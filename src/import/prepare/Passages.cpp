@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
 #include "import/prepare/PaperOutline.h"
+#include "import/prepare/PreparedLabels.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>
@@ -32,8 +33,12 @@ class PassageSearch {
     if (!question.options) return {};
     const OptionLabel& last = question.options->labels.back();
     std::size_t begin = LineEndAfter(text_, last.label.end);
-    if (question.HasAnswer()) begin = LineEndAfter(text_, question.answerLabel.end);
-    const TextSpan tail = Trimmed(text_, {std::min(begin, question.whole.end), question.whole.end});
+    std::size_t end = question.whole.end;
+    // An answer that a step has put in stands at the very end.
+    const bool isPrepared = question.answerLabel.Of(text_).find(kPreparedKey) != text_.npos;
+    if (isPrepared) end = question.answerLabel.begin;
+    if (question.HasAnswer() && !isPrepared) begin = LineEndAfter(text_, question.answerLabel.end);
+    const TextSpan tail = Trimmed(text_, {std::min(begin, end), end});
     if (tail.IsEmpty()) return {};
     return IsSetOff(begin, tail, question) ? tail : TextSpan{};
   }
