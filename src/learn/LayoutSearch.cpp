@@ -3,6 +3,7 @@
 
 #include "import/labels/LineText.h"
 #include "import/prepare/PreparationSteps.h"
+#include "import/prepare/PreparedLabels.h"
 #include "learn/AnswerLabels.h"
 #include "learn/Headings.h"
 #include "learn/ReadingRoles.h"
@@ -21,6 +22,7 @@ constexpr std::u16string_view kPlainOptions = u"PlainOptions";
 constexpr std::u16string_view kMixedLetters = u"MixedLetters";
 constexpr std::u16string_view kNoise = u"Noise";
 constexpr std::u16string_view kKeyAtEnd = u"KeyAtEnd";
+constexpr std::u16string_view kSignedKey = u"SignedKey";
 constexpr std::u16string_view kKeyLetters = u"KeyLetters";
 constexpr std::u16string_view kJudgement = u"Judgement";
 constexpr std::u16string_view kOpenAnswers = u"OpenAnswers";
@@ -149,6 +151,7 @@ void LayoutSearch::TryNumbers(const Steps& steps) {
         TryFamilies(text, {families[i], families[other]}, steps);
     }
   }
+  if (text.characters.find(kPreparedOpen) != std::u16string::npos) TryFamilies(text, {}, steps);
   // Few numbers, or none: blank lines and options may tell the questions apart.
   if (!families.empty() && AreNumbersOfQuestions(families.front())) return;
   Steps unnumbered = steps;
@@ -198,6 +201,9 @@ void LayoutSearch::TryOptions(RuleDraft draft) {
 void LayoutSearch::TryPlainOptions(const RuleDraft& draft) {
   RuleDraft plain = draft;
   plain.steps.emplace(kPlainOptions);
+  Try(plain);
+  // Boxes that are ticked stay as signs in front of the labels.
+  plain.steps.emplace(kSignedKey);
   Try(std::move(plain));
 }
 

@@ -4,6 +4,7 @@
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/PreparationSteps.h"
 #include "import/prepare/PreparedLabels.h"
+#include "import/prepare/Steps.h"
 #include "learn/PatternText.h"
 #include "model/AnswerLetters.h"
 #include "model/ExamLimits.h"
@@ -16,8 +17,10 @@ namespace {
 constexpr std::size_t kLongestRule = 1'023;
 
 std::u16string PreQuestion(const RuleDraft& draft) {
-  if (draft.numbers.empty()) return u"\\s*^" + std::u16string(kPreparedNumberPattern) + u"[ ]*";
-  return draft.numbers.front().Pattern();
+  const std::u16string prepared = u"(?<!!)\\s*^" + std::u16string(kPreparedNumberPattern) + u"[ ]*";
+  if (draft.numbers.empty()) return prepared;
+  const std::u16string pattern = draft.numbers.front().Pattern();
+  return draft.HasStep(kTableStep) ? u"(?:" + pattern + u"|" + prepared + u")" : pattern;
 }
 
 std::u16string PreAnswer(const RuleDraft& draft) {
