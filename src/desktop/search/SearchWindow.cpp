@@ -107,7 +107,8 @@ void SearchWindow::Connect() {
           });
   connect(&whenQuiet_, &QTimer::timeout, this, &SearchWindow::Search);
   connect(&whenItTakes_, &QTimer::timeout, this, [this] { controls_.ShowRunning(true); });
-  for (SearchRun* run : {&run_, &planning_}) connect(run, &SearchRun::Changed, this, &SearchWindow::ShowRuns);
+  for (BackgroundRun* run : {&run_, &planning_})
+    connect(run, &BackgroundRun::Changed, this, &SearchWindow::ShowRuns);
 }
 
 void SearchWindow::OpenFind(const QString& text) {
@@ -205,7 +206,7 @@ void SearchWindow::Search() {
     return Tell(problem);
   }
   const auto exam = std::make_shared<const FrameSetExam>(SearchedExam(editor_));
-  run_.Start([this, exam, search](const SearchCancelled& isCancelled) -> SearchRun::Finish {
+  run_.Start([this, exam, search](const SearchCancelled& isCancelled) -> BackgroundRun::Finish {
     const auto outcome = std::make_shared<SearchOutcome>(FindAll(*exam, *search, isCancelled));
     return [this, exam, outcome] { TakeHits(exam, std::move(*outcome)); };
   });
@@ -343,11 +344,12 @@ void SearchWindow::ReplaceAll() {
   const ReplacementText replacement(FromQString(controls_.replacement->text()), query.isPattern);
   if (!CanReplace(*search, replacement)) return;
   const auto exam = std::make_shared<const FrameSetExam>(SearchedExam(editor_));
-  planning_.Start([this, exam, search, replacement](const SearchCancelled& isCancelled) -> SearchRun::Finish {
-    const auto plan =
-        std::make_shared<ReplacementPlan>(PlanReplacements(*exam, *search, replacement, isCancelled));
-    return [this, exam, plan] { OfferReplacements(exam, *plan); };
-  });
+  planning_.Start(
+      [this, exam, search, replacement](const SearchCancelled& isCancelled) -> BackgroundRun::Finish {
+        const auto plan =
+            std::make_shared<ReplacementPlan>(PlanReplacements(*exam, *search, replacement, isCancelled));
+        return [this, exam, plan] { OfferReplacements(exam, *plan); };
+      });
 }
 
 void SearchWindow::OfferReplacements(const std::shared_ptr<const FrameSetExam>& exam,

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/controls/BackgroundRun.h"
 #include "desktop/search/HitList.h"
 #include "desktop/search/SearchControls.h"
-#include "desktop/search/SearchRun.h"
 #include "editor/ExamEditor.h"
 #include "search/ReplacementPlan.h"
 #include "shell/settings/SearchSetting.h"
@@ -81,8 +81,8 @@ class SearchWindow : public QDialog {
   WindowPlaceSetting place_;
   HitList hits_;
   SearchControls controls_;
-  SearchRun run_;
-  SearchRun planning_;                 ///< of replacing all
+  BackgroundRun run_;
+  BackgroundRun planning_;             ///< of replacing all
   QTimer whenQuiet_;                   ///< searches once the query and the exam have not changed for a moment
   QTimer whenItTakes_;                 ///< shows that something is running
   bool stale_ = true;                  ///< the list is not that of the query and the exam

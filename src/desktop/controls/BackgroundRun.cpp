@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/search/SearchRun.h"
+#include "desktop/controls/BackgroundRun.h"
 
 #include <utility>
 
 namespace quorvantis {
 
-SearchRun::SearchRun(QObject* parent) : QObject(parent) {
-  connect(this, &SearchRun::Ended, this, &SearchRun::End, Qt::QueuedConnection);
+BackgroundRun::BackgroundRun(QObject* parent) : QObject(parent) {
+  connect(this, &BackgroundRun::Ended, this, &BackgroundRun::End, Qt::QueuedConnection);
 }
 
-void SearchRun::Start(Job job) {
+void BackgroundRun::Start(Job job) {
   Drop();
   cancelled_ = std::make_shared<std::atomic_bool>(false);
   thread_ = std::thread([this, job = std::move(job), cancelled = cancelled_, number = ++number_] {
@@ -19,11 +19,11 @@ void SearchRun::Start(Job job) {
   emit Changed();
 }
 
-void SearchRun::Cancel() {
+void BackgroundRun::Cancel() {
   if (cancelled_) *cancelled_ = true;
 }
 
-void SearchRun::Drop() {
+void BackgroundRun::Drop() {
   Cancel();
   ++number_;
   if (!thread_.joinable()) return;
@@ -32,7 +32,7 @@ void SearchRun::Drop() {
 }
 
 /// Of a run that was dropped in the meantime, nothing is wanted.
-void SearchRun::End(int number) {
+void BackgroundRun::End(int number) {
   if (number != number_) return;
   thread_.join();
   const Finish finish = std::exchange(finish_, nullptr);

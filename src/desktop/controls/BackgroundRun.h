@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "search/SearchQuery.h"
-
 #include <QObject>
 
 #include <atomic>
@@ -12,20 +10,22 @@
 
 namespace quorvantis {
 
-/// Searches beside the window, on a thread of its own, so that a pattern that runs long stops nothing. There
-/// is one run at a time.
-class SearchRun : public QObject {
+/// Works beside a window, on a thread of its own, so that what takes long stops nothing. There is one run at
+/// a time.
+class BackgroundRun : public QObject {
   Q_OBJECT
 
  public:
-  /// What to do in the window's thread once the search has ended.
+  /// Polled by a job; true once it is to end.
+  using Cancelled = std::function<bool()>;
+  /// What to do in the window's thread once the job has ended.
   using Finish = std::function<void()>;
-  /// A search. It runs on the other thread, so everything it uses must be its own, and it must end within
+  /// The work. It runs on the other thread, so everything it uses must be its own, and it must end within
   /// milliseconds once it is cancelled.
-  using Job = std::function<Finish(const SearchCancelled&)>;
+  using Job = std::function<Finish(const Cancelled&)>;
 
-  explicit SearchRun(QObject* parent);
-  ~SearchRun() override { Drop(); }
+  explicit BackgroundRun(QObject* parent);
+  ~BackgroundRun() override { Drop(); }
 
   /// Starts a run. An earlier one that has not ended is cancelled, and never finishes.
   void Start(Job job);
