@@ -7,23 +7,42 @@
 namespace quorvantis {
 
 PaperStudy::PaperStudy(Paper paper, CancelHook isCancelled)
-    : paper_(std::move(paper)), isCancelled_(std::move(isCancelled)) {
-  Read();
+    : paper_(std::make_shared<const Paper>(std::move(paper))), isCancelled_(std::move(isCancelled)) {
+  now_.roles = {{{0, paper_->source.Size()}, PaperRole::None, -1}};
 }
 
 bool PaperStudy::Learn() {
-  LearnedRules learned = LearnRules(paper_, Marks(), {isCancelled_});
-  if (learned.wasCancelled) return false;
-  learned_ = std::move(learned);
-  hasOwnRules_ = false;
-  Read();
+  StudyOutcome outcome = WorkOutRules(*paper_, Marks(), isCancelled_);
+  if (outcome.WasCancelled()) return false;
+  states_[place_].ownRules.reset();
+  states_[place_].number = ++numbers_;
+  Take(std::move(outcome));
   return true;
 }
 
 void PaperStudy::SetRules(ImportSettings rules) {
-  learned_.rules = std::move(rules);
-  hasOwnRules_ = true;
-  Read();
+  NoteRules(std::move(rules));
+  Take(TryRules(*paper_, *State().ownRules, isCancelled_));
+}
+
+void PaperStudy::NoteRules(ImportSettings rules) {
+  states_[place_].ownRules = std::move(rules);
+  states_[place_].number = ++numbers_;
+}
+
+void PaperStudy::Take(StudyOutcome outcome) {
+  now_ = std::move(outcome);
+  taken_ = State();
+}
+
+void PaperStudy::ReturnToTaken() {
+  const auto isTaken = [this](const StudyState& state) { return state.number == taken_.number; };
+  const auto found = std::find_if(states_.begin(), states_.end(), isTaken);
+  if (found == states_.end()) {
+    states_[place_] = taken_;
+  } else {
+    place_ = static_cast<std::size_t>(found - states_.begin());
+  }
 }
 
 void PaperStudy::AddMark(PaperMark mark) {
@@ -48,15 +67,9 @@ void PaperStudy::Redo() {
   if (CanRedo()) ++place_;
 }
 
-void PaperStudy::Read() {
-  reading_ = ReadByRules(paper_, learned_.rules, isCancelled_);
-  roles_ = RolesOf(paper_, reading_);
-  warnings_ = WarningsOf(paper_, learned_.rules, reading_);
-}
-
 void PaperStudy::Push(std::vector<PaperMark> marks) {
   states_.resize(place_ + 1);
-  states_.push_back(std::move(marks));
+  states_.push_back({std::move(marks), {}, ++numbers_});
   ++place_;
 }
 
