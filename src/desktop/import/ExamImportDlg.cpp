@@ -51,6 +51,11 @@ ExamImportDlg::ExamImportDlg(ExamImport& import, ExamServices& services, const D
   grid->addWidget(repositoryLabel, 1, 0);
   grid->addWidget(repository_, 1, 1);
   grid->addWidget(buttons, 2, 0, 1, 3);
+  auto* workOut = new QPushButton(ToQString(services.strings.Text(text_id::kWorkOutRules)), this);
+  workOut->setObjectName("workOutRules");
+  workOut->setAutoDefault(false);
+  connect(workOut, &QPushButton::clicked, this, &ExamImportDlg::WorkOutRules);
+  grid->addWidget(workOut, 3, 0, 1, 3, Qt::AlignLeading);
   resize(sizeHint().expandedTo({520, 0}));
 }
 
@@ -61,6 +66,11 @@ void ExamImportDlg::Browse() {
   const auto file = services_.dialogs.ChooseFileToOpen({filter, {}, {}});
   if (file) import_.m_strDocPath = *file;
   path_->setPlainText(ToQString(PathToText(import_.m_strDocPath)));
+}
+
+void ExamImportDlg::WorkOutRules() {
+  import_.m_strDocPath = TextToPath(FromQString(path_->toPlainText()));
+  done(kWorkOutRules);
 }
 
 void ExamImportDlg::accept() {

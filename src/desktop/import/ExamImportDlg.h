@@ -16,6 +16,9 @@ class ExamImportDlg : public QDialog {
   Q_OBJECT
 
  public:
+  /// The result when the user would rather have the rules worked out; the document is the one chosen so far.
+  static constexpr int kWorkOutRules = 2;
+
   /// `import`, whose repositories are listed, and `services` must outlive the dialog.
   ExamImportDlg(ExamImport& import, ExamServices& services, const DialogText& texts, QWidget* parent);
 
@@ -24,6 +27,7 @@ class ExamImportDlg : public QDialog {
 
  private:
   void Browse();
+  void WorkOutRules();
 
   ExamImport& import_;
   ExamServices& services_;

@@ -29,8 +29,9 @@ ImportTarget ImportWindows::AskTarget() {
 }
 
 bool ImportWindows::AskDocument(ExamImport& import) {
-  return ExamImportDlg(import, services_, {language_, dialog_id::kImport}, &parent_).exec() ==
-         QDialog::Accepted;
+  const int result = ExamImportDlg(import, services_, {language_, dialog_id::kImport}, &parent_).exec();
+  if (result == ExamImportDlg::kWorkOutRules) wish_ = import.m_strDocPath;
+  return result == QDialog::Accepted;
 }
 
 ChoiceResult ImportWindows::AskPictures() {

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace quorvantis {
@@ -27,6 +28,10 @@ class ImportWindows : public ImportDialogs {
   void SetWorkOutRules(std::function<void(const std::filesystem::path& document)> workOutRules) {
     workOutRules_ = std::move(workOutRules);
   }
+
+  /// The document whose rules the user would rather have worked out than choose; empty if they named none.
+  /// Nothing if they chose a repository or gave up. Forgets it.
+  std::optional<std::filesystem::path> TakeWish() { return std::exchange(wish_, std::nullopt); }
 
   /// Undoes the import, with the user's consent if needed.
   void Undo(ImportCommand& import);
@@ -53,6 +58,7 @@ class ImportWindows : public ImportDialogs {
   std::function<void(const std::filesystem::path&)> workOutRules_;
   std::unique_ptr<ImportWaitDlg> wait_;
   QPointer<ImportSummaryDlg> summary_;
+  std::optional<std::filesystem::path> wish_;
 };
 
 }  // namespace quorvantis
