@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "learn/PaperRole.h"
+#include "platform/StringTable.h"
+
+#include <QToolButton>
+#include <QWidget>
+
+#include <vector>
+
+namespace quorvantis {
+
+/// The roles that a part of a paper can have: a button for each, with its key and a sample of its look, so
+/// that the bar is the legend, too.
+class RoleBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `strings` must outlive the bar.
+  RoleBar(const StringTable& strings, QWidget* parent);
+
+  /// For a menu: the actions of the buttons, in their order, then the one that takes back a mark.
+  QList<QAction*> Actions() const { return actions_; }
+
+ signals:
+  void RolePressed(PaperRole role);
+  void TakeBackPressed();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  QWidget* MakeButton(QAction* action);
+  QAction* MakeAction(PaperRole role);
+  void ShowSamples();
+
+  const StringTable& strings_;
+  QList<QAction*> actions_;
+  QToolButton* notUnderstood_;
+};
+
+}  // namespace quorvantis
