@@ -49,12 +49,8 @@ ForeseenImport ForeseeImport(const ExamPaper& exam, int questions, const ImportW
   place.written = std::min(questions, kMaxQuestions + 1 - place.first);
   place.leftOut = questions - place.written;
   if (place.isNewExam || place.written == 0) return place;
-  // An import leaves the question that was shown in the slot behind the imported ones.
-  const int next = place.first + place.written;
-  const bool isTaken = HasContent(exam.Question(place.first));
-  if (isTaken && next <= kMaxQuestions) place.moved = place.first;
-  for (int n = place.first; n <= std::min(next, kMaxQuestions); ++n) {
-    if (n != place.moved && HasContent(exam.Question(n))) place.replaced.push_back(n);
+  for (int n = place.first; n < place.first + place.written; ++n) {
+    if (HasContent(exam.Question(n))) place.replaced.push_back(n);
   }
   return place;
 }
@@ -66,16 +62,16 @@ std::u16string ForeseenImportText(const ForeseenImport& place, const StringTable
   };
   if (place.written > 0) {
     const std::u16string range = NumberRange(place.first, place.first + place.written - 1);
+    const std::u16string written = FormatInteger(place.written);
+    const std::u16string replaced = FormatInteger(static_cast<std::int64_t>(place.replaced.size()));
     if (place.isNewExam) {
-      say(text_id::kPlaceNew, {range});
+      say(text_id::kPlaceNew, {range, written});
     } else if (place.replaced.empty()) {
-      say(text_id::kPlaceFree, {range});
+      say(text_id::kPlaceFree, {range, written});
     } else {
-      say(text_id::kPlaceReplaces, {range, FormatInteger(static_cast<std::int64_t>(place.replaced.size())),
-                                    NumberList(place.replaced)});
+      say(text_id::kPlaceReplaces, {range, replaced, NumberList(place.replaced), written});
     }
   }
-  if (place.moved != 0) say(text_id::kPlaceMoves, {FormatInteger(place.moved)});
   if (place.leftOut > 0) say(text_id::kPlaceFull, {FormatInteger(place.leftOut)});
   return text;
 }

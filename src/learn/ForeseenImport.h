@@ -22,7 +22,6 @@ struct ForeseenImport {
   int first = 1;              ///< number of the first imported question; 501 if the exam is full
   int written = 0;            ///< how many there is room for
   int leftOut = 0;            ///< how many there is none for
-  int moved = 0;              ///< the question that comes behind them; 0 for none
   std::vector<int> replaced;  ///< numbers of the questions that will be gone, ascending
 };
 

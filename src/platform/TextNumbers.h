@@ -422,7 +422,6 @@ constexpr int kTargetFrom = 1656;
 constexpr int kTargetNew = 1657;
 constexpr int kPlaceFree = 1658;
 constexpr int kPlaceReplaces = 1659;
-constexpr int kPlaceMoves = 1660;
 constexpr int kPlaceFull = 1661;
 constexpr int kPlaceNew = 1662;
 constexpr int kImportNow = 1663;

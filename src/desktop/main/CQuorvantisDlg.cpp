@@ -109,7 +109,8 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       pdf_(services_, *this),
       previews_(SetUpGateway(services_, pages)),
       importWindows_(exam.Services(), library, *this),
-      import_(editor_, life_.Steps(), papers, importWindows_, FindImportRules(services_.applicationFolder)),
+      papers_(papers),
+      import_(editor_, life_.Steps(), papers_, importWindows_, FindImportRules(services_.applicationFolder)),
       shownQuestion_(editor_, *this),
       pictures_(library),
       openRecent_(editor_),
@@ -122,6 +123,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       answers_(editor_, services_.strings, pictures_, client_),
       history_(life_.Steps(), examControls_, question_, answers_, services_),
       search_(editor_, examControls_, question_, answers_, *this),
+      studio_(editor_, import_, importWindows_, papers_, *this),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
       scroll_(*client_),
@@ -175,7 +177,10 @@ bool CQuorvantisDlg::Shows(const std::filesystem::path& file) const {
 
 ToolbarButtons::WindowCommands CQuorvantisDlg::Commands() {
   ToolbarButtons::WindowCommands commands;
-  commands.importExam = [this] { import_.ImportQuestions(); };
+  commands.importExam = [this] {
+    import_.ImportQuestions();
+    if (const auto paper = importWindows_.TakeWish()) studio_.WorkOutRules(*paper);
+  };
   commands.scoreSetup = [this] { SetUpScores(); };
   commands.preview = [this] { Preview(); };
   commands.print = [this] { Print(); };
@@ -186,6 +191,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   WindowMenus::Commands commands;
   commands.hasRecent = [this] { return !openRecent_.IsEmpty(); };
   commands.recent = [this] { return openRecent_.Entries(); };
+  commands.importPaper = [this] { studio_.ImportPaper(); };
   commands.exportPdf = [this] { ExportPdf(); };
   commands.quit = [this] { close(); };
   commands.history = &history_;
@@ -238,6 +244,7 @@ void CQuorvantisDlg::FormLoaded() {
   shownQuestion_.ExamChanged();
   history_.Note();
   search_.ExamChanged();
+  studio_.ExamChanged();
 }
 
 void CQuorvantisDlg::FormChanged() {
@@ -249,6 +256,7 @@ void CQuorvantisDlg::FormChanged() {
   Layout();
   history_.Note();
   search_.ExamChanged();
+  studio_.ExamChanged();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
 
@@ -349,6 +357,7 @@ void CQuorvantisDlg::PostContentChanged() {
   emit ContentChangePosted();
   history_.Note();
   search_.ExamChanged();
+  studio_.ExamChanged();
 }
 
 /// A preview covers the screen, and would hide the question that may follow.

@@ -14,12 +14,14 @@
 #include "desktop/main/QuestionArea.h"
 #include "desktop/main/QuestionControls.h"
 #include "desktop/main/SearchCommands.h"
+#include "desktop/main/StudioCommands.h"
 #include "desktop/main/ToolbarButtons.h"
 #include "desktop/main/WindowLayout.h"
 #include "desktop/main/WindowMenus.h"
 #include "desktop/main/WindowNotice.h"
 #include "desktop/main/WindowScroll.h"
 #include "desktop/overview/ShownQuestionCommands.h"
+#include "import/HeldPapers.h"
 #include "import/ImportCommand.h"
 #include "preview/PreviewWindows.h"
 #include "scoring/SetupOwner.h"
@@ -140,6 +142,7 @@ class CQuorvantisDlg final : public FittedWindow,
   PreviewWindows previews_;
   PreviewWindows::Window previewWindow_;  ///< null until the browser has started
   ImportWindows importWindows_;
+  HeldPapers papers_;
   ImportCommand import_;
   ShownQuestionCommands shownQuestion_;
   Pictures pictures_;
@@ -154,6 +157,7 @@ class CQuorvantisDlg final : public FittedWindow,
   AnswerControls answers_;
   HistoryCommands history_;
   SearchCommands search_;
+  StudioCommands studio_;
   WindowNotice* recoveryFails_;
   WindowNotice* printComes_;
   WindowScroll scroll_;

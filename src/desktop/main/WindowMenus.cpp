@@ -74,6 +74,7 @@ MenuTable WindowMenus::File() const {
               OfTool(kSaveAsTool, "fileSaveAs", kSaveAs),
               Separator(),
               OfTool(kImportTool, "fileImport", kImportExam),
+              {.name = "fileImportPaper", .caption = Text(kStudioEntry), .command = commands_.importPaper},
               std::move(exports),
               Separator(),
               OfTool(kPreviewTool, "filePreview", kPreview),

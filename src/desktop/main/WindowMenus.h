@@ -23,6 +23,7 @@ class WindowMenus {
   struct Commands {
     std::function<bool()> hasRecent;
     std::function<std::vector<MenuEntry>()> recent;
+    std::function<void()> importPaper;
     std::function<void()> exportPdf;
     std::function<void()> quit;
     HistoryCommands* history;

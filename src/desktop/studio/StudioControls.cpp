@@ -14,7 +14,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kQuestionWidths[] = {44, 70, 230, 180, 50, 220};  // pixels
+constexpr int kQuestionWidths[] = {40, 64, 180, 130, 56, 140};  // pixels
 static_assert(std::size(kQuestionWidths) == QuestionListModel::kColumns);
 constexpr int kFindingsLines = 5;
 

@@ -24,7 +24,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr QSize kFirstStudioSize(1100, 720);  // pixels
+constexpr QSize kFirstStudioSize(1220, 760);  // pixels
 constexpr int kPauseInTyping = 250;           // milliseconds
 constexpr int kAfterEvents = 20;              // milliseconds
 constexpr std::size_t kSideCount = 2;

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/main/StudioCommands.h"
+
+#include "host/ImportRules.h"
+#include "host/SavedRules.h"
+#include "import/ExamImport.h"
+#include "learn/ForeseenImport.h"
+#include "model/LongAnswerFlags.h"
+#include "model/document/ExamServices.h"
+#include "platform/Files.h"
+#include "platform/StringTable.h"
+#include "platform/TextNumbers.h"
+#include "platform/UserDialogs.h"
+#include "text/PathText.h"
+
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+bool CanBeWritten(Files& files, const std::filesystem::path& file) {
+  std::error_code error;
+  return files.Replace(file, error) != nullptr;
+}
+
+}  // namespace
+
+StudioWindow& StudioCommands::Window() {
+  if (studio_ == nullptr) studio_ = new StudioWindow(editor_.state.document.Services(), Services(), &window_);
+  return *studio_;
+}
+
+StudioServices StudioCommands::Services() {
+  StudioServices services;
+  services.choosePaper = [this] { return ChoosePaper(); };
+  services.readPaper = [&papers = papers_](const std::filesystem::path& paper,
+                                           const CancelHook& isCancelled) {
+    return OpenPaper(papers, paper, isCancelled);
+  };
+  services.holdText = [this](std::u16string text) { return HoldText(std::move(text)); };
+  services.exam = [this] { return Exam(); };
+  services.currentQuestion = [this] { return editor_.state.CurrentQuestion(); };
+  services.import = [this](const StudioImport& wanted) { return Import(wanted); };
+  services.saveRules = [this](const Repository& rules, std::filesystem::path& file) {
+    return SaveRules(rules, file);
+  };
+  services.askYesNo = [this](std::u16string_view question) {
+    return editor_.state.document.Services().dialogs.AskYesNo(question);
+  };
+  return services;
+}
+
+void StudioCommands::ImportPaper() {
+  WorkOutRules({});
+}
+
+void StudioCommands::WorkOutRules(const std::filesystem::path& paper) {
+  const auto chosen = paper.empty() ? ChoosePaper() : paper;
+  if (chosen) {
+    Window().OpenPaper(*chosen);
+  } else {
+    Window().Open();
+  }
+}
+
+std::optional<std::filesystem::path> StudioCommands::ChoosePaper() {
+  const ExamServices& services = editor_.state.document.Services();
+  const std::u16string filter =
+      services.strings.Text(text_id::kImportFilter) + services.strings.Text(text_id::kOtherDocuments);
+  return services.dialogs.ChooseFileToOpen({filter, {}, {}});
+}
+
+/// No file has this name: it has no folder.
+std::filesystem::path StudioCommands::HoldText(std::u16string text) {
+  std::filesystem::path name =
+      TextToPath(editor_.state.document.Services().strings.Text(text_id::kPastedPaper));
+  papers_.Hold(name, std::move(text));
+  return name;
+}
+
+ExamPaper StudioCommands::Exam() const {
+  LongAnswerFlags unused;
+  return editor_.questions.StoredExam(unused);
+}
+
+/// Unless questions come in, the exam and the question that is shown stay.
+bool StudioCommands::Import(const StudioImport& wanted) {
+  const int shown = editor_.state.CurrentQuestion();
+  const ImportPlace place = GoToPlace(wanted.wish);
+  const bool isDone = import_.ImportChosen(wanted.paper, wanted.rules, place) == ImportOutcome::Imported;
+  if (!isDone) editor_.questions.GoToQuestion(shown);
+  return isDone;
+}
+
+ImportPlace StudioCommands::GoToPlace(const ImportWish& wish) {
+  if (wish.where == ImportWish::Where::NewExam) return ImportPlace::NewExam;
+  const int before = ForeseeImport(Exam(), 0, wish).first - 1;
+  if (before == 0) return ImportPlace::FirstQuestion;
+  editor_.questions.GoToQuestion(before);
+  return ImportPlace::AfterCurrentQuestion;
+}
+
+/// The program's own file is copied to the application folder if it cannot be written.
+std::optional<std::u16string> StudioCommands::SaveRules(const Repository& rules,
+                                                        std::filesystem::path& file) {
+  const ExamServices& services = editor_.state.document.Services();
+  file = FindImportRules(services.applicationFolder);
+  std::error_code ignored;
+  if (!std::filesystem::exists(file, ignored) || !CanBeWritten(services.files, file)) {
+    ProvideImportRules(file.parent_path(), services.applicationFolder);
+    file = services.applicationFolder / kImportRulesFile;
+  }
+  const SavedRules saved = quorvantis::SaveRules(file, rules, services.codePage, services.files);
+  if (saved.AreSaved()) return std::nullopt;
+  return WhyNotSaved(saved, file, rules, services.strings);
+}
+
+}  // namespace quorvantis
