@@ -70,8 +70,9 @@ OptionMark MarkAfter(std::u16string_view text, std::size_t begin, std::size_t en
   const char16_t sign = text[at];
   if (!IsOptionSign(sign)) return {};
   while (at < end && (text[at] == sign || text[at] == kVariationSelector)) ++at;
-  // "-5", "XVI" and "x = 3" are texts; only a plus or a minus may stand there without brackets.
-  const bool isPossible = MeaningOf(sign) == SignMeaning::Possible;
+  // "-5", "XVI" and "x = 3" are texts; only a plus, a minus or a crossed box may stand there without
+  // brackets.
+  const bool isPossible = MeaningOf(sign) == SignMeaning::Possible && !IsIn(kCrosses, sign);
   if (isPossible && sign != u'+') return {};
   const bool needsBlank = isPossible || IsIn(kMinus, sign);
   if (needsBlank && at < end && !IsBlank(text[at])) return {};

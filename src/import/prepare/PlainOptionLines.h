@@ -12,6 +12,8 @@ struct PlainOption {
   TextSpan bullet;  ///< with the blanks behind it: gives way to the label; empty if there is none
   /// Where the label goes without a bullet: behind a sign for the right option, which keeps its place.
   std::size_t labelPlace = 0;
+  TextSpan gap{};  ///< blanks before an option that others precede in its line: a line end comes there
+  bool isWithinLine = false;
 };
 
 /// How sure it is that lines are options.

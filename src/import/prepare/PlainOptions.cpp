@@ -68,6 +68,8 @@ void step::PlainOptions(PaperText& text, const PreparationContext& context) {
       const std::u16string label = PreparedOption(i) + u" ";
       const TextSpan place =
           option.bullet.IsEmpty() ? TextSpan{option.labelPlace, option.labelPlace} : option.bullet;
+      if (option.isWithinLine)
+        edits.push_back({option.gap, InsertedText(LineEndNear(text.characters, option.gap.begin))});
       edits.push_back({place, Rewritten(text, place, label)});
     }
   }

@@ -61,7 +61,17 @@ TEST(PlainOptions, GetLabels) {
        u"1. Who|⟦A⟧ he|⟦B⟧ she|2. Where|⟦A⟧ here|⟦B⟧ there|⟦C⟧ -3|3. Why?"},
       // A sign for the right one stays where a label can have one.
       {u"1. Who?|☐ he|☑ she|2. Where?|here|*there",
-       u"1. Who?|☐ ⟦A⟧ he|☑ ⟦B⟧ she|2. Where?|⟦A⟧ here|*⟦B⟧ there"},
+       u"1. Who?|⟦A⟧ he|⟦B⟧ ☑ she|2. Where?|⟦A⟧ here|⟦B⟧ *there"},
+      {u"1. Who?|☐ he|☒ she|2. Where?|( ) here|(x) there|3. Which?|+ x|- y",
+       u"1. Who?|⟦A⟧ he|⟦B⟧ ☒ she|2. Where?|⟦A⟧ here|⟦B⟧ (x) there|3. Which?|⟦A⟧ + x|⟦B⟧ - y"},
+      // Several in a line, and behind the stem.
+      {u"1. Who?|□ he\t□ she|☑ it|2. He is □ in  ☑ out|3. The (  ) is ( ) than we.",
+       u"1. Who?|⟦A⟧ he|⟦B⟧ she|⟦C⟧ ☑ it|2. He is|⟦A⟧ in|⟦B⟧ ☑ out|3. The (  ) is ( ) than we."},
+      // Answers of their own whose label the rules do not name.
+      {u"1. Who?|○ he|○ she|Risposta: she|2. Where?|○ here|○ there|Risposta: here",
+       u"1. Who?|⟦A⟧ he|⟦B⟧ she|Risposta: she|2. Where?|⟦A⟧ here|⟦B⟧ there|Risposta: here"},
+      {u"1. Asks what?|( ) Who?|( ) So.|2. Where?|( ) here|( ) there",
+       u"1. Asks what?|⟦A⟧ Who?|⟦B⟧ So.|2. Where?|⟦A⟧ here|⟦B⟧ there"},
       {u"1. It is|big|red|old|2. He is|in|up|out|3. We are|so|no|yes",
        u"1. It is|⟦A⟧ big|⟦B⟧ red|⟦C⟧ old|2. He is|⟦A⟧ in|⟦B⟧ up|⟦C⟧ out|3. We are|⟦A⟧ so|⟦B⟧ no|⟦C⟧ yes"},
       {u"1. Who?||he||she||2. It is ___.|Answer: so|3. Where?||here||there|Answer: here",
