@@ -34,13 +34,19 @@ class PassageSearch {
     const OptionLabel& last = question.options->labels.back();
     std::size_t begin = LineEndAfter(text_, last.label.end);
     std::size_t end = question.whole.end;
-    // An answer that a step has put in stands at the very end.
-    const bool isPrepared = question.answerLabel.Of(text_).find(kPreparedKey) != text_.npos;
-    if (isPrepared) end = question.answerLabel.begin;
-    if (question.HasAnswer() && !isPrepared) begin = LineEndAfter(text_, question.answerLabel.end);
+    // A key that a step has put in stands behind all that precedes the next question.
+    if (HasPreparedKey(question)) {
+      end = question.answerLabel.begin;
+    } else if (question.HasAnswer()) {
+      begin = LineEndAfter(text_, question.answerLabel.end);
+    }
     const TextSpan tail = Trimmed(text_, {std::min(begin, end), end});
     if (tail.IsEmpty()) return {};
     return IsSetOff(begin, tail, question) ? tail : TextSpan{};
+  }
+
+  bool HasPreparedKey(const OutlinedQuestion& question) const {
+    return question.answerLabel.Of(text_).find(kPreparedKey) != std::u16string_view::npos;
   }
 
   /// A blank line sets a passage off, and so does its length.

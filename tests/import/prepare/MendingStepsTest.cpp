@@ -87,5 +87,18 @@ TEST(PlainOptions, GetLabels) {
   for (const auto& row : kRows) CheckStep({u"PlainOptions", row[0], row[1]});
 }
 
+TEST(Passages, GoToTheNextQuestion) {
+  constexpr std::u16string_view kRows[][2] = {
+      {u"1. Who?|A. he|B. she||Read on.|2. Why?|A. so|B. no",
+       u"1. Who?|A. he|B. she|||2. Read on.|Why?|A. so|B. no"},
+      {u"1. Who?|A. he|B. she|Answer: A||Read on.|2. Why?|A. so|B. no",
+       u"1. Who?|A. he|B. she|Answer: A|||2. Read on.|Why?|A. so|B. no"},
+      // A key that was put in stands behind the passage.
+      {u"1. Who?|A. he|B. she||Read on.|⟦=⟧ A|2. Why?|A. so|B. no",
+       u"1. Who?|A. he|B. she|||⟦=⟧ A|2. Read on.|Why?|A. so|B. no"},
+  };
+  for (const auto& row : kRows) CheckStep({u"Passages", row[0], row[1]});
+}
+
 }  // namespace
 }  // namespace quorvantis::test
