@@ -90,9 +90,20 @@ bool AddMark(PaperStudy& study, const std::vector<ExpectedQuestion>& expected) {
         const std::size_t found = source.find(option, at);
         if (found == source.npos) break;
         at = found + option.size();
-        if (mark({found, at}, PaperRole::Option)) return true;
+        if (letter == expected[i].options.rbegin()->first && mark({found, at}, PaperRole::Option))
+          return true;
       }
     }
+  }
+  // Questions that are none.
+  const auto& read = study.Reading().paper.questions;
+  if (read.size() <= expected.size()) return false;
+  for (const RolePart& part : study.Roles()) {
+    if (part.role != PaperRole::QuestionNumber || part.question < static_cast<int>(expected.size())) continue;
+    const std::size_t begin = part.span.begin;
+    study.AddMark(
+        {Trimmed(source, {LineBeginBefore(source, begin), LineEndAfter(source, begin)}), PaperRole::NotExam});
+    return true;
   }
   return false;
 }

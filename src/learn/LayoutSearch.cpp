@@ -44,7 +44,7 @@ bool CountTogether(const NumberFamily& one, const NumberFamily& other) {
   std::size_t good = 0;
   int before = 0;
   for (const auto& [place, value] : numbers) {
-    good += value == before + 1 ? 1 : 0;
+    good += value == before + 1 || value == 1 ? 1 : 0;
     before = value;
   }
   const double share = static_cast<double>(good) / static_cast<double>(numbers.size());
@@ -254,16 +254,27 @@ void LayoutSearch::TryHeadings() {
 }
 
 void LayoutSearch::TryMarkedHeadings() {
+  std::set<std::u16string> marked = marks_.LinesBehindOptions(RolesOf(paper_, best_.reading));
+  marked.merge(marks_.Texts(PaperRole::Heading));
+  marked.merge(marks_.Texts(PaperRole::NotExam));
   RuleDraft draft = best_.draft;
-  for (const PaperRole role : {PaperRole::Heading, PaperRole::NotExam}) {
-    for (const std::u16string& marked : marks_.Texts(role)) {
-      for (const TextSpan& line : LinesOf(marked, {0, marked.size()}))
-        draft.headings.insert(HeadingPattern(Trimmed(marked, line).Of(marked)));
-    }
+  for (const std::u16string& text : marked) {
+    for (const TextSpan& line : LinesOf(text, {0, text.size()}))
+      draft.headings.insert(HeadingPattern(Trimmed(text, line).Of(text)));
   }
   if (draft.headings == best_.draft.headings) return;
   draft.steps.emplace(kNoise);
-  Try(std::move(draft), true);
+  if (Try(draft, true)) return;
+  // A line that the answers follow at the end of the paper.
+  for (const std::u16string& text : marked) {
+    draft = best_.draft;
+    draft.answersFrom = HeadingPattern(Trimmed(text, {0, LineEndAfter(text, 0)}).Of(text));
+    draft.steps.emplace(kNoise);
+    for (const std::u16string_view step : {kNoise, kKeyAtEnd, kKeyLetters, kJudgement}) {
+      draft.steps.emplace(step);
+      Try(draft);
+    }
+  }
 }
 
 void LayoutSearch::TrySteps() {

@@ -68,9 +68,45 @@ bool MarkedPlaces::IsFollowed(const PaperMark& mark, const std::vector<RolePart>
       if (part->role == mark.role) ++same;
     }
   }
-  // A selection by hand is seldom exact.
+  // A selection by hand is seldom exact; but an option that goes on behind its mark holds what is none of it.
   constexpr std::size_t kTenths = 6;
-  return all > 0 && same * 10 >= all * kTenths;
+  return all > 0 && same * 10 >= all * kTenths && !GoesOnBehind(mark, roles);
+}
+
+/// Whether lines behind a marked option have become part of it.
+bool MarkedPlaces::GoesOnBehind(const PaperMark& mark, const std::vector<RolePart>& roles) const {
+  if (mark.role != PaperRole::Option) return false;
+  const std::u16string_view source = paper_.source.characters;
+  const std::size_t lineEnd = LineEndAfter(source, std::min(mark.span.end, source.size()));
+  const TextSpan behind = Trimmed(source, {lineEnd, source.size()});
+  const auto partAt = [&roles](std::size_t place) {
+    return std::ranges::lower_bound(roles, place + 1, {}, [](const RolePart& part) { return part.span.end; });
+  };
+  const auto own = partAt(mark.span.begin);
+  const auto next = partAt(behind.begin);
+  if (own == roles.end() || next == roles.end() || behind.IsEmpty()) return false;
+  return next->role == PaperRole::Option && own->role == PaperRole::Option &&
+         next->question == own->question && BelongTogether(own, next);
+}
+
+/// Whether nothing but blanks stands between two parts.
+bool MarkedPlaces::BelongTogether(std::vector<RolePart>::const_iterator one,
+                                  std::vector<RolePart>::const_iterator other) {
+  return std::all_of(one, other, [](const RolePart& part) {
+    return part.role == PaperRole::Option || part.role == PaperRole::None;
+  });
+}
+
+std::set<std::u16string> MarkedPlaces::LinesBehindOptions(const std::vector<RolePart>& roles) const {
+  std::set<std::u16string> lines;
+  const std::u16string_view source = paper_.source.characters;
+  for (const PaperMark& mark : marks_) {
+    if (!GoesOnBehind(mark, roles)) continue;
+    const std::size_t lineEnd = LineEndAfter(source, std::min(mark.span.end, source.size()));
+    const TextSpan behind = Trimmed(source, {lineEnd, source.size()});
+    lines.emplace(source.substr(behind.begin, LineEndAfter(source, behind.begin) - behind.begin));
+  }
+  return lines;
 }
 
 double MarkedPlaces::Followed(const std::vector<RolePart>& roles) const {

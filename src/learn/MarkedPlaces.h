@@ -31,7 +31,10 @@ class MarkedPlaces {
   /// otherwise.
   std::set<std::u16string> TextsBeforeAnswers() const;
 
-  /// Whether some of the marks that reading follows; their share, 1 without any mark.
+  /// Lines behind marked options that a reading has taken for a part of them.
+  std::set<std::u16string> LinesBehindOptions(const std::vector<RolePart>& roles) const;
+
+  /// The share of the marks that a reading follows; 1 without any mark.
   double Followed(const std::vector<RolePart>& roles) const;
 
   /// The marks that the roles do not follow, by index.
@@ -39,6 +42,9 @@ class MarkedPlaces {
 
  private:
   bool IsFollowed(const PaperMark& mark, const std::vector<RolePart>& roles) const;
+  bool GoesOnBehind(const PaperMark& mark, const std::vector<RolePart>& roles) const;
+  static bool BelongTogether(std::vector<RolePart>::const_iterator one,
+                             std::vector<RolePart>::const_iterator other);
 
   const Paper& paper_;
   const std::vector<PaperMark>& marks_;

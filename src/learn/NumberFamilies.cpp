@@ -67,13 +67,12 @@ class LabelReading {
     return end > at && IsNumberHere(next) ? next : at;
   }
 
-  /// Behind "(B)" or "( )"; `at` if there is none.
+  /// Behind "(B)", "(√)" or "( )"; `at` if there is none.
   std::size_t AfterBrackets(std::size_t at) const {
+    constexpr std::size_t kLongestKey = 4;
     if (at >= text_.size() || !Holds(u"(（[", text_[at])) return at;
-    std::size_t end = SkipBlanks(text_, at + 1, text_.size());
-    if (end < text_.size() && Holds(u"ABCDEFGHIJabcdefghijTt√×", text_[end])) ++end;
-    end = SkipBlanks(text_, end, text_.size());
-    return end < text_.size() && Holds(u")）]", text_[end]) ? end + 1 : at;
+    const std::size_t end = text_.find_first_of(u"()（）[]", at + 1);
+    return end != text_.npos && end - at <= kLongestKey && Holds(u")）]", text_[end]) ? end + 1 : at;
   }
 
   /// Behind "___" or "__B__"; `at` if there is none.
@@ -232,8 +231,7 @@ std::u16string NumberFamily::Pattern() const {
   // A "!" before the label stays apart from the marker, which is made of "!".
   std::u16string pattern = u"(?<!!)\\s*^[ \\t\u00A0\u3000]*";
   if (isAfterKeys)
-    pattern +=
-        u"(?:(?:[(（\\[][ \\t\u3000]*[A-Ja-jTt√×]?[ \\t\u3000]*[)）\\]]|_{2,}[A-Za-z]?_*)[ \\t\u3000]*)?";
+    pattern += u"(?:(?:[(（\\[][^()（）\\[\\]\\r\\n]{0,3}[)）\\]]|_{2,}[A-Za-z]?_*)[ \\t\u3000]*)?";
   if (!prefix.empty()) pattern += u"(?i:" + LiteralPattern(prefix) + u")[ \\t\u00A0\u3000]*";
   if (isBracketed) pattern += ClassPattern(opens) + u"[ \\t\u3000]*";
   pattern += NumeralPattern(kind);

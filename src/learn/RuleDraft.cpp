@@ -69,6 +69,7 @@ ImportSettings RulesOf(const RuleDraft& draft) {
   rules.m_strPreAnswer = PreAnswer(draft);
   rules.m_strPattern = Pattern(draft);
   rules.m_strTitle = Title(draft);
+  if (!draft.answersFrom.empty()) rules.m_strPreAllAnswer = u"\\s*^[ \\t\u3000]*" + draft.answersFrom;
   rules.listLabels = true;
   for (const PreparationStep& step : PreparationSteps()) {
     if (draft.HasStep(step.name)) rules.prepare.emplace_back(step.name);

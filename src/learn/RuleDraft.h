@@ -17,9 +17,10 @@ struct RuleDraft {
   std::vector<NumberFamily> numbers{};  ///< none: questions get their numbers from a step
   OptionFamily options{};
   bool optionsAtLineStarts = true;
-  std::set<std::u16string> answerLabels{};        ///< as they are written, "Answer:"
-  bool labelsWithinLines = false;                 ///< an answer label may stand within a line
-  std::set<std::u16string> headings{};            ///< patterns of whole lines
+  std::set<std::u16string> answerLabels{};  ///< as they are written, "Answer:"
+  bool labelsWithinLines = false;           ///< an answer label may stand within a line
+  std::set<std::u16string> headings{};      ///< patterns of whole lines
+  std::u16string answersFrom{};             ///< the pattern of the line that the answers at the end follow
   std::set<std::u16string, std::less<>> steps{};  ///< names of preparations
 
   bool HasStep(std::u16string_view step) const { return steps.contains(step); }
