@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/labels/Numerals.h"
 #include "import/labels/OptionSequence.h"
+#include "import/prepare/AnswerWords.h"
 #include "import/prepare/LineWords.h"
 #include "import/prepare/PreparedLabels.h"
 
@@ -24,6 +25,15 @@ int NumberOfCell(std::u16string_view cell) {
   const std::size_t begin = cell.find_first_not_of(kMarks);
   if (begin == cell.npos || (IsLetter(cell[begin]) && cell[begin] < 0x2E80)) return 0;
   return NumeralValue(cell.substr(begin, cell.find_last_not_of(kMarks) + 1 - begin));
+}
+
+/// The number in digits that a cell begins with, with a mark and text behind it; 0 if there is none.
+int NumberBefore(std::u16string_view cell) {
+  constexpr std::u16string_view kMarks = u".)）．、:：";
+  const Numeral number = NumeralAt(cell, 0, NumeralKind::Decimal);
+  if (number.size == 0 || number.size + 1 >= cell.size()) return 0;
+  const bool isMarked = kMarks.find(cell[number.size]) != kMarks.npos;
+  return isMarked && DigitValue(cell[number.size + 1]) < 0 ? number.value : 0;
 }
 
 /// "B", "a", "A, C", "T", "√".
@@ -54,7 +64,8 @@ struct TableColumns {
   std::size_t firstOption = 0;
   std::size_t options = 0;
   std::optional<std::size_t> key;
-  std::size_t firstRow = 0;  ///< 1 with headings
+  std::size_t firstRow = 0;       ///< 1 with headings
+  bool areStemsNumbered = false;  ///< each stem begins with its number, which stays
 };
 
 class RowReading {
@@ -81,11 +92,13 @@ class RowReading {
     constexpr std::size_t kFewestRows = 2;
     if (rows_.size() < kFewestRows || rows_.back().size() < 2) return std::nullopt;
     TableColumns columns;
-    columns.firstRow = NumberOfCell(Cell(0, 0)) > 0 ? 0 : 1;
+    columns.firstRow = NumberOfCell(Cell(0, 0)) > 0 || NumberBefore(Cell(0, 0)) > 0 ? 0 : 1;
     const bool hasLetters = FindLetters(columns);
     if (HasNumbers(columns.firstRow)) {
       columns.number = 0;
       if (!hasLetters) columns.stem = 1;
+    } else if (HasNumberedStems(columns)) {
+      columns.areStemsNumbered = true;
     } else if (!hasLetters) {
       return std::nullopt;
     }
@@ -120,9 +133,27 @@ class RowReading {
     return true;
   }
 
+  /// "1. Which?" in the first column, each the next, and no numbers in front of the other cells.
+  bool HasNumberedStems(const TableColumns& columns) const {
+    if (columns.stem != 0 || columns.firstRow >= rows_.size()) return false;
+    int next = NumberBefore(Cell(columns.firstRow, 0));
+    for (std::size_t row = columns.firstRow; row < rows_.size(); ++row, ++next) {
+      if (next == 0 || NumberBefore(Cell(row, 0)) != next) return false;
+      for (std::size_t column = 1; column < rows_[row].size(); ++column) {
+        if (NumberBefore(Cell(row, column)) > 0) return false;
+      }
+    }
+    return true;
+  }
+
   void FindKey(TableColumns& columns, std::size_t column, std::size_t width) const {
     if (column >= width || column <= columns.stem) return;
     std::size_t keys = 0;
+    // What it is called says more than what it holds.
+    if (columns.firstRow > 0 && AnswerHeadingOf(Cell(0, column)) == AnswerHeading::Clear) {
+      columns.key = column;
+      return;
+    }
     for (std::size_t row = columns.firstRow; row < rows_.size(); ++row) {
       if (Cell(row, column).empty()) continue;
       if (!IsKeyCell(Cell(row, column))) return;
@@ -152,14 +183,15 @@ class RowReading {
     const auto& cells = rows_[row];
     const TextSpan number = columns.number ? cells[*columns.number] : TextSpan{};
     const int value = columns.number ? NumberOfCell(number.Of(text_)) : count;
-    lines.push_back({PreparedNumber(value), number, {cells[columns.stem]}});
+    const std::u16string label = columns.areStemsNumbered ? u"" : PreparedNumber(value);
+    lines.push_back({label, number, {cells[columns.stem]}});
     const std::size_t end = std::min(columns.firstOption + columns.options, cells.size());
     std::size_t last = end;
     while (last > columns.firstOption && cells[last - 1].IsEmpty()) --last;
     for (std::size_t column = columns.firstOption; column < last; ++column) {
       const bool isLabelled = IsLabelled(cells[column].Of(text_), column - columns.firstOption);
-      const std::u16string label = isLabelled ? u"" : PreparedOption(column - columns.firstOption);
-      lines.push_back({label, {}, {cells[column]}});
+      const std::u16string option = isLabelled ? u"" : PreparedOption(column - columns.firstOption);
+      lines.push_back({option, {}, {cells[column]}});
     }
     if (columns.key && *columns.key < cells.size() && !cells[*columns.key].IsEmpty())
       lines.push_back({std::u16string(kPreparedKey), {}, {cells[*columns.key]}});
