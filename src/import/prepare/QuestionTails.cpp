@@ -3,8 +3,10 @@
 
 #include "import/labels/OptionSequence.h"
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/AnswerWords.h"
 #include "import/prepare/LineBullet.h"
 #include "import/prepare/LineLabel.h"
+#include "import/prepare/LineWords.h"
 #include "import/prepare/PreparedLabels.h"
 #include "import/prepare/RuleMatches.h"
 
@@ -40,6 +42,7 @@ class LineClassification {
     MarkOptions();
     MarkAnswers(rule_key::kPreAnswer, context.rules.m_strPreAnswer, context);
     MarkAnswers(rule_key::kPreAnswer, kPreparedKeyPattern, context);
+    MarkShownAnswers();
     return std::move(lines_);
   }
 
@@ -58,6 +61,60 @@ class LineClassification {
       if (!label.IsEmpty() && BeginsLine(text_, label.begin))
         lines_[LineAt(label.begin)].kind = LineKind::Answer;
     }
+  }
+
+  /// Answers whose label no rule names: behind options, a line that leads to one of them. Further lines with
+  /// labels, as of explanations, may follow if other answers have the same.
+  void MarkShownAnswers() {
+    std::vector<std::size_t> answers;
+    std::size_t block = 0;
+    for (std::size_t i = 1; i < lines_.size(); ++i) {
+      if (lines_[i].kind == LineKind::Option && lines_[i - 1].kind != LineKind::Option) block = i;
+      if (lines_[i].kind != LineKind::Text || lines_[i - 1].kind != LineKind::Option) continue;
+      const TextSpan options{lines_[block].span.begin, lines_[i - 1].span.end};
+      if (LeadsToOption(Content(i), options.Of(text_))) answers.push_back(i);
+    }
+    constexpr std::size_t kFewest = 2;
+    if (answers.size() < kFewest) return;
+    std::map<std::u16string_view, std::size_t> labels;  ///< of the lines behind the answers
+    for (const std::size_t answer : answers) {
+      for (std::size_t i = answer + 1; IsFurtherLine(i); ++i) ++labels[ColonLabel(Content(i))];
+    }
+    for (const std::size_t answer : answers) {
+      lines_[answer].kind = LineKind::Answer;
+      for (std::size_t i = answer + 1; IsFurtherLine(i); ++i) {
+        if (labels[ColonLabel(Content(i))] >= kFewest) lines_[i].kind = LineKind::Answer;
+      }
+    }
+  }
+
+  std::u16string_view Content(std::size_t line) const { return Trimmed(text_, lines_[line].span).Of(text_); }
+
+  /// A line with a label that no options follow.
+  bool IsFurtherLine(std::size_t line) const {
+    return line + 1 < lines_.size() && lines_[line].kind == LineKind::Text &&
+           lines_[line + 1].kind != LineKind::Option && !ColonLabel(Content(line)).empty();
+  }
+
+  static std::u16string_view ColonLabel(std::u16string_view line) {
+    constexpr std::size_t kLongest = 30;
+    const std::size_t colon = line.substr(0, kLongest).find_first_of(u":：");
+    return colon == line.npos ? std::u16string_view() : line.substr(0, colon);
+  }
+
+  /// "Answer: B", "答案 C", "Respuesta: the text of an option".
+  static bool LeadsToOption(std::u16string_view line, std::u16string_view options) {
+    constexpr std::size_t kLongestKey = 8;
+    const std::size_t label = ColonLabel(line).size();
+    const std::size_t lead = std::max(AnswerLeadSize(line), label > 0 ? label + 1 : 0);
+    if (lead == 0 || lead >= line.size()) return false;
+    const std::u16string_view rest = Trimmed(line, {lead, line.size()}).Of(line);
+    if (rest.empty()) return false;
+    if (label > 0 && AnswerLeadSize(line) > label) return true;
+    if (rest.size() > kLongestKey) return options.find(rest) != options.npos;
+    const LineWords words(rest);
+    return std::ranges::all_of(words.Words(), [](const std::u16string& word) { return word.size() == 1; }) ||
+           options.find(rest) != options.npos;
   }
 
   /// For each style the lines that begin with its first label.

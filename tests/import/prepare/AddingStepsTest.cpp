@@ -26,6 +26,8 @@ TEST(AddingSteps, PutInWhatIsMissing) {
        u"Quiz|Name: ____||⟦1⟧ Who?|he|she||⟦2⟧ It is|so|no||⟦3⟧ Where?|in|out||End"},
       {u"Unnumbered", u"Quiz|It is|☐ so|☐ no|Who?|☐ he|☐ she",
        u"Quiz|⟦1⟧ It is|☐ so|☐ no|⟦2⟧ Who?|☐ he|☐ she"},
+      {u"Unnumbered", u"Which?|A. x|B. y|Key B|Note: so|Who?|A. p|B. q|Key A|Note: no|Why?|A. s|B. t",
+       u"⟦1⟧ Which?|A. x|B. y|Key B|Note: so|⟦2⟧ Who?|A. p|B. q|Key A|Note: no|⟦3⟧ Why?|A. s|B. t"},
       {u"Unnumbered", u"1. Which?|A. x|B. y|2. Who?|A. p|B. q", u"1. Which?|A. x|B. y|2. Who?|A. p|B. q"},
       {u"Unnumbered", u"She left.||He stayed.||\"Why?\" she said.||Nobody knew.||It rained.",
        u"She left.||He stayed.||\"Why?\" she said.||Nobody knew.||It rained."},
