@@ -60,6 +60,10 @@ class KeyLetterScan {
 
   /// The letters of one token at `at_`, without moving; their end.
   std::size_t ReadRun(OptionIndices& run) const {
+    if (const std::size_t word = LetterWord().size(); word > 0) {
+      run.push_back(0);
+      return at_ + word;
+    }
     std::size_t at = at_;
     while (at < answer_.size()) {
       const std::size_t index = OptionNamed(options_, answer_[at], latinLetters_);
@@ -70,6 +74,15 @@ class KeyLetterScan {
     const bool goesOn = at > at_ && at < answer_.size() && AreInOneWord(answer_[at - 1], answer_[at]);
     if (run.size() > 1 && !CanBeTogether(run)) return at_;
     return goesOn ? at_ : at;
+  }
+
+  /// The first letter where it is written out, as in Arabic script.
+  std::u16string_view LetterWord() const {
+    const std::u16string_view word = OptionAlphabets()[options_.alphabet].firstAsWord;
+    const std::u16string_view rest = answer_.substr(std::min(at_, answer_.size()));
+    if (word.empty() || !rest.starts_with(word)) return {};
+    const bool goesOn = rest.size() > word.size() && AreInOneWord(word.back(), rest[word.size()]);
+    return goesOn ? std::u16string_view() : word;
   }
 
   /// "BD" is two letters and "ace" three, but "bad" is a word and "12" a number.

@@ -85,8 +85,9 @@ OptionMark MarkAtEnd(std::u16string_view text, TextSpan line) {
   if (mark.sign == 0 || mark.sign == kEmptyBox || mark.span.begin == line.begin) return {};
   const bool isSetOff = IsBlank(text[mark.span.begin - 1]);
   const bool isBracketed = IsIn(kMarkOpens, text[mark.span.begin]);
-  // "O+", "f(x)" and "Malcolm X" are texts.
-  if (MeaningOf(mark.sign) == SignMeaning::Possible && !(isSetOff && isBracketed)) return {};
+  // "O+", "f(x)" and "Malcolm X" are texts; a plus that is set off may be a sign.
+  if (MeaningOf(mark.sign) == SignMeaning::Possible && !(isSetOff && (isBracketed || mark.sign == u'+')))
+    return {};
   if (MeaningOf(mark.sign) == SignMeaning::None) return {};
   while (mark.span.begin > line.begin && IsBlank(text[mark.span.begin - 1])) --mark.span.begin;
   return mark;

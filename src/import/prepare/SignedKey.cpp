@@ -89,9 +89,15 @@ class SignHabits {
       case SignMeaning::Likely:
         return count.keys * 3 >= choices_;
       default:
-        // A plus at an option is a key only beside a minus at each other one.
-        return count.keys * 2 >= choices_ && (scheme.sign != u'+' || count.paired == count.keys);
+        if (scheme.sign == u'+' && count.paired < count.keys) return IsPlusHabit(count);
+        return count.keys * 2 >= choices_;
     }
+  }
+
+  /// A plus at an option that is not beside a minus at each other one is a key if all questions have one.
+  bool IsPlusHabit(const SchemeCount& count) const {
+    constexpr std::size_t kFewest = 3;
+    return count.keys >= kFewest && count.keys * 10 >= choices_ * 9 && count.decorated == 0;
   }
 
   std::size_t choices_ = 0;
