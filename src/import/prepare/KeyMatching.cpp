@@ -3,6 +3,7 @@
 
 #include "import/prepare/OptionKey.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace quorvantis {
@@ -24,6 +25,15 @@ std::vector<NumberedRun> RisingRuns(const std::vector<Item>& items) {
     runs.back().end = i + 1;
   }
   return runs;
+}
+
+/// Entries of a key in columns, "1. B  11. C" above "2. A  12. D", by their numbers; nothing if one occurs
+/// twice.
+std::vector<KeyEntry> ByNumber(std::vector<KeyEntry> entries) {
+  std::ranges::stable_sort(entries, {}, &KeyEntry::number);
+  const auto twice = std::ranges::adjacent_find(entries, {}, &KeyEntry::number);
+  if (twice != entries.end()) return {};
+  return entries;
 }
 
 /// Runs of entries laid on runs of questions.
@@ -137,6 +147,10 @@ std::optional<std::vector<MatchedEntry>> MatchEntries(std::u16string_view text,
                                                       const std::vector<OutlinedQuestion>& questions) {
   if (entries.empty() || questions.empty()) return std::nullopt;
   if (entries.front().number == 0) return MatchByOrder(text, entries, questions);
+  if (RisingRuns(questions).size() == 1) {
+    if (const std::vector<KeyEntry> sorted = ByNumber(entries); !sorted.empty())
+      return RunMatching(text, sorted, questions).Match();
+  }
   return RunMatching(text, entries, questions).Match();
 }
 

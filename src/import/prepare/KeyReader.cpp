@@ -30,27 +30,42 @@ KeyNumber NumberInCell(std::u16string_view text, TextSpan cell) {
   return number && number->place.end == cell.end ? *number : KeyNumber{};
 }
 
-/// Texts of several answers in one line: "11. oxygen  12. water".
-std::vector<KeyEntry> TextEntriesOfLine(std::u16string_view text, TextSpan line) {
-  std::vector<KeyEntry> entries;
-  const TextSpan trimmed = Trimmed(text, line);
-  auto number = KeyNumberAt(text, trimmed.begin, trimmed.end);
-  if (!number || !number->isSetOff) return {};
-  std::size_t begin = number->place.end;
-  for (std::size_t at = begin; at < trimmed.end; ++at) {
-    if (!IsBlank(text[at])) continue;
-    const std::size_t next = SkipBlanks(text, at, trimmed.end);
-    const auto following = KeyNumberAt(text, next, trimmed.end);
-    if (following && following->isSetOff && following->value == number->value + 1) {
-      entries.push_back({number->value, Trimmed(text, {begin, at}), false});
-      number = following;
-      begin = following->place.end;
-      at = begin;
-    }
-    at = std::max(at, next) - 1;
+/// The answer within a span, without the comma before the next one.
+KeyEntry TextEntry(std::u16string_view text, int number, TextSpan span) {
+  TextSpan answer = Trimmed(text, span);
+  while (!answer.IsEmpty() && std::u16string_view(u",;，；、").find(text[answer.end - 1]) != text.npos)
+    --answer.end;
+  const bool isLetters = !answer.IsEmpty() && KeyTokenSize(text, answer.begin, answer.end) == answer.Size();
+  return {number, answer, isLetters};
+}
+
+/// Whether a number goes on with a list: it is the next one, and set off by what the list uses.
+bool GoesOn(const KeyNumber& before, const KeyNumber& number, bool isBehindComma) {
+  const bool isNext = number.value == before.value + 1 || (number.isLettered && number.value == 1);
+  return isNext && (number.isSetOff || (!before.isSetOff && isBehindComma));
+}
+
+/// Where the answers of a line begin that the title of their part precedes: "Part C: 6 brought",
+/// "三、1．细胞".
+std::vector<std::size_t> BehindTitle(std::u16string_view text, TextSpan line) {
+  constexpr std::size_t kLongestTitle = 40;
+  std::vector<std::size_t> places;
+  const TextSpan title{line.begin, std::min(line.end, line.begin + kLongestTitle)};
+  for (std::size_t at = title.begin; at < title.end; ++at) {
+    if (std::u16string_view(u":：、.．)）").find(text[at]) != std::u16string_view::npos)
+      places.push_back(SkipBlanks(text, at + 1, line.end));
   }
-  entries.push_back({number->value, Trimmed(text, {begin, trimmed.end}), false});
-  return entries;
+  return places;
+}
+
+std::vector<KeyEntry> TitledEntriesOfLine(std::u16string_view text, TextSpan line) {
+  constexpr std::size_t kMostPlaces = 4;
+  const std::vector<std::size_t> places = BehindTitle(text, line);
+  for (std::size_t i = 0; i < std::min(places.size(), kMostPlaces); ++i) {
+    std::vector<KeyEntry> entries = TextEntriesOfLine(text, {places[i], line.end}, true);
+    if (!entries.empty()) return entries;
+  }
+  return {};
 }
 
 /// Puts the entries of lines together.
@@ -73,6 +88,7 @@ class KeyListReading {
     const KeyLineReading reading = lines_.Read(line);
     std::vector<KeyEntry> entries = reading.entries;
     if (reading.kind == KeyLineKind::Text) entries = TextEntriesOfLine(text_, line);
+    if (reading.kind == KeyLineKind::Title) entries = TitledEntriesOfLine(text_, Trimmed(text_, line));
     if (!entries.empty()) {
       list_.entries.insert(list_.entries.end(), entries.begin(), entries.end());
       isOpen_ = true;
@@ -148,6 +164,37 @@ std::vector<KeyEntry> KeyLineReader::AnswerRow(TextSpan line) const {
     entries.push_back({numbers_[i], cells[i], isLetters});
   }
   return entries;
+}
+
+std::vector<KeyEntry> TextEntriesOfLine(std::u16string_view text, TextSpan line, bool isBehindTitle) {
+  std::vector<KeyEntry> entries;
+  const TextSpan trimmed = Trimmed(text, line);
+  auto number = KeyNumberAt(text, trimmed.begin, trimmed.end);
+  if (!number || (!number->isSetOff && !isBehindTitle)) return {};
+  const bool isSetOff = number->isSetOff;
+  std::size_t begin = number->place.end;
+  for (std::size_t at = begin; at < trimmed.end; ++at) {
+    if (!IsBlank(text[at])) continue;
+    const std::size_t next = SkipBlanks(text, at, trimmed.end);
+    const auto following = KeyNumberAt(text, next, trimmed.end);
+    const bool isBehindComma = std::u16string_view(u",;，；").find(text[at - 1]) != std::u16string_view::npos;
+    if (following && GoesOn(*number, *following, isBehindComma)) {
+      entries.push_back(TextEntry(text, number->value, {begin, at}));
+      number = following;
+      begin = following->place.end;
+      at = begin;
+    }
+    at = std::max(at, next) - 1;
+  }
+  entries.push_back(TextEntry(text, number->value, {begin, trimmed.end}));
+  // "Part 2: 10 points" is no key.
+  if (!isSetOff && entries.size() < 2) return {};
+  return entries;
+}
+
+bool HoldsAnswers(std::u16string_view text, TextSpan line) {
+  if (!EntriesOfLine(text, line).empty()) return true;
+  return !TitledEntriesOfLine(text, Trimmed(text, line)).empty();
 }
 
 KeyList ReadKeyList(std::u16string_view text, TextSpan within) {

@@ -52,6 +52,13 @@ struct KeyList {
 /// of the entry before. Gives up, with what it has, on a text that is no key.
 KeyList ReadKeyList(std::u16string_view text, TextSpan within);
 
+/// Answers of one line in words or letters, each behind its number: "11. oxygen  12. water", "6 brought, 7
+/// mice". Numbers that nothing sets off count behind a title or heading only: `isBehindTitle`.
+std::vector<KeyEntry> TextEntriesOfLine(std::u16string_view text, TextSpan line, bool isBehindTitle = false);
+
+/// Whether a line has answers with their numbers, behind the title of their part or not: "一、1．B  2．C".
+bool HoldsAnswers(std::u16string_view text, TextSpan line);
+
 /// The answers of a key that has no numbers, "BCADB", in their order; empty if there is anything else.
 std::vector<KeyEntry> ReadBareKey(std::u16string_view text, TextSpan within);
 

@@ -54,6 +54,8 @@ class KeySectionSearch {
  private:
   std::vector<HeadingPlace> Headings() const {
     constexpr std::size_t kMostHeadings = 12;
+    // Places to write answers on may look like headings: the last ones count as much as the first.
+    constexpr std::size_t kMostFirst = kMostHeadings / 2;
     std::vector<HeadingPlace> headings;
     if (!outline_.answerSection.IsEmpty()) {
       const std::size_t begin = Trimmed(text_, outline_.answerSection).begin;
@@ -61,10 +63,12 @@ class KeySectionSearch {
       headings.push_back({begin, begin, AnswerHeading::Clear});
     }
     if (outline_.questions.empty()) return headings;
-    for (std::size_t i = 0; i < lines_.size() && headings.size() < kMostHeadings; ++i) {
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
       if (lines_[i].end <= outline_.questions.front().label.end) continue;
       const HeadingPlace heading = HeadingOf(lines_[i]);
-      if (heading.heading != AnswerHeading::None && IsKeyBehind(i, heading)) headings.push_back(heading);
+      if (heading.heading == AnswerHeading::None || !IsKeyBehind(i, heading)) continue;
+      if (headings.size() == kMostHeadings) headings.erase(headings.begin() + kMostFirst);
+      headings.push_back(heading);
     }
     return headings;
   }
@@ -81,12 +85,22 @@ class KeySectionSearch {
       if (heading == AnswerHeading::Possible && !isOwnAnswer && EntriesOfLine(text_, line).empty())
         return {trimmed.begin, trimmed.end, heading};
     }
-    const std::size_t colon = whole.substr(0, kLongest).find_first_of(u":： \t1１");
+    const std::size_t colon = whole.substr(0, kLongest).find_first_of(u":： \u00A0\u3000\t1１");
     if (colon == whole.npos) return {};
-    if (AnswerHeadingOf(whole.substr(0, colon)) != AnswerHeading::Clear) return {};
-    const std::size_t begin = trimmed.begin + colon + (whole[colon] == u'1' || whole[colon] == u'１' ? 0 : 1);
-    if (EntriesOfLine(text_, {begin, trimmed.end}).empty()) return {};
-    return {trimmed.begin, begin, AnswerHeading::Clear};
+    // The heading itself may have several words: "Answer key: 1. B".
+    const std::size_t words = std::max(colon, whole.substr(0, kLongest).find_first_of(u":："));
+    for (const std::size_t place : {colon, words == whole.npos ? colon : words}) {
+      if (AnswerHeadingOf(whole.substr(0, place)) != AnswerHeading::Clear) continue;
+      const std::size_t begin =
+          trimmed.begin + place + (whole[place] == u'1' || whole[place] == u'１' ? 0 : 1);
+      if (AreAnswers({begin, trimmed.end})) return {trimmed.begin, begin, AnswerHeading::Clear};
+    }
+    return {};
+  }
+
+  bool AreAnswers(TextSpan line) const {
+    if (!EntriesOfLine(text_, line).empty()) return true;
+    return TextEntriesOfLine(text_, line, true).size() > 1;
   }
 
   /// Whether a rule has found a question's own answer in the line.
@@ -102,14 +116,17 @@ class KeySectionSearch {
     constexpr std::size_t kMostLines = 8;
     if (heading.end < lines_[line].end && !Trimmed(text_, {heading.end, lines_[line].end}).IsEmpty())
       return true;
+    constexpr std::size_t kLongestCaption = 30;
     KeyLineReader reader(text_);
+    int captions = 2;  // of the columns of a table: "Question", "Answer"
     for (std::size_t i = line + 1; i < std::min(lines_.size(), line + 1 + kMostLines); ++i) {
       const KeyLineReading reading = reader.Read(lines_[i]);
       if (!reading.entries.empty()) return true;
       if (reading.kind != KeyLineKind::Text) continue;
       const TextSpan trimmed = Trimmed(text_, lines_[i]);
       const auto number = KeyNumberAt(text_, trimmed.begin, trimmed.end);
-      return (number && number->isSetOff) || !ReadBareKey(text_, trimmed).empty();
+      if ((number && number->isSetOff) || !ReadBareKey(text_, trimmed).empty()) return true;
+      if (captions-- == 0 || trimmed.Size() > kLongestCaption) return false;
     }
     return false;
   }

@@ -17,10 +17,19 @@ constexpr NumeralKind kKeyNumerals[] = {
     NumeralKind::Devanagari, NumeralKind::Bengali,   NumeralKind::Thai,        NumeralKind::Circled,
     NumeralKind::InBrackets, NumeralKind::WithDot};
 
-/// Folded; what may stand before a number.
-constexpr std::u16string_view kNumberPrefixes[] = {u"question", u"frage", u"aufgabe", u"вопрос", u"задание",
-                                                   u"soal",     u"câu",   u"item",    u"no.",    u"nº",
-                                                   u"n°",       u"№",     u"第",      u"q",      u"#"};
+/// Folded; what may stand before a number. Where a word begins another one, the longer one is first.
+constexpr std::u16string_view kNumberPrefixes[] = {
+    u"question", u"questão", u"quest.", u"frage",      u"aufgabe", u"вопрос",   u"задание",   u"завдання",
+    u"питання",  u"въпрос",  u"задача", u"питање",     u"pitanje", u"сұрақ",    u"pregunta",  u"pergunta",
+    u"domanda",  u"pytanie", u"otázka", u"vraag",      u"fråga",   u"spørsmål", u"spørgsmål", u"opgave",
+    u"tehtävä",  u"kysymys", u"kérdés", u"întrebarea", u"soru",    u"soal",     u"nomor",     u"swali",
+    u"câu hỏi",  u"câu",     u"bài",    u"item",       u"no.",     u"nr.",      u"nr",        u"no",
+    u"nº",       u"n°",      u"№",      u"प्रश्न",       u"প্রশ্ন",    u"வினா",     u"السؤال",    u"سؤال",
+    u"السوال",   u"سوال",    u"س",      u"שאלה",       u"ερώτηση", u"ερ.",      u"ข้อที่",       u"ข้อ",
+    u"問題",     u"問",      u"问",     u"문제",       u"문",      u"第",       u"q",         u"#"};
+
+/// Letters that papers number their parts with: "A1", "B2".
+constexpr std::u16string_view kPartLetters = u"ABC\u0410\u0411\u0412\u0421";
 
 constexpr std::u16string_view kRangeDashes = u"-–—－~～〜―至到";
 constexpr std::u16string_view kAfterNumber = u".．)）]】、:：=>-–—－";
@@ -42,6 +51,26 @@ Numeral PlainNumeralAt(std::u16string_view text, std::size_t place) {
     if (numeral.size > 0) return numeral;
   }
   return {};
+}
+
+/// A number of a question; Chinese ones only before a mark, for they are words, too.
+Numeral KeyNumeralAt(std::u16string_view text, std::size_t place) {
+  const Numeral plain = PlainNumeralAt(text, place);
+  if (plain.size > 0 || place >= text.size()) return plain;
+  const Numeral chinese = NumeralAt(text, place, NumeralKind::Chinese);
+  const std::size_t after = place + chinese.size;
+  const bool isSetOff = after < text.size() && Among(u"、.．:：)）", text[after]);
+  return isSetOff ? chinese : Numeral{};
+}
+
+/// The size of a first letter that is written out, as in Arabic script; 0 if there is none.
+std::size_t LetterWordSize(std::u16string_view text) {
+  for (const OptionAlphabet& alphabet : OptionAlphabets()) {
+    const std::u16string_view word = alphabet.firstAsWord;
+    if (word.empty() || !text.starts_with(word)) continue;
+    if (text.size() == word.size() || !AreInOneWord(word.back(), text[word.size()])) return word.size();
+  }
+  return 0;
 }
 
 bool IsDigitLetter(char16_t unit) {
@@ -199,7 +228,9 @@ std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place
     at = SkipBlanks(part, at + prefix.size(), end);
     break;
   }
-  const Numeral numeral = PlainNumeralAt(part, at);
+  const bool isLettered = at + 1 < end && Among(kPartLetters, part[at]) && IsAsciiDigit(part[at + 1]);
+  if (isLettered) ++at;
+  const Numeral numeral = KeyNumeralAt(part, at);
   if (numeral.size == 0) return std::nullopt;
   std::size_t after = at + numeral.size;
   const std::size_t bare = after;
@@ -214,13 +245,14 @@ std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place
     const bool isSingle = after + 1 == end || !IsLetterOrDigit(part[after + 1]);
     if (!isSingle) return std::nullopt;
   }
-  return KeyNumber{numeral.value, {place, after}, isSetOff};
+  return KeyNumber{numeral.value, {place, after}, isSetOff, isLettered};
 }
 
 std::size_t KeyTokenSize(std::u16string_view text, std::size_t place, std::size_t end) {
   constexpr std::size_t kMostLetters = 6;
   if (place >= end) return 0;
   const std::u16string_view part = text.substr(place, end - place);
+  if (const std::size_t word = LetterWordSize(part); word > 0) return word;
   const std::vector<JudgementWord> words = JudgementWordsAt(part);
   if (AlphabetLettersOf(part.front()).empty()) return words.empty() ? 0 : words.front().size;
   const bool isDigit = IsDigitLetter(part.front());

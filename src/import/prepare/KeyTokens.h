@@ -22,11 +22,12 @@ struct KeyEntry {
 /// A number of a question with what belongs to it: "12.", "(12)", "Q12:", "第12题".
 struct KeyNumber {
   int value = 0;
-  TextSpan place;         ///< with prefix and what follows, blanks included
-  bool isSetOff = false;  ///< by a dot, bracket or the like, not just by blanks
+  TextSpan place;           ///< with prefix and what follows, blanks included
+  bool isSetOff = false;    ///< by a dot, bracket or the like, not just by blanks
+  bool isLettered = false;  ///< "B2": its part is named, too
 };
 
-/// The number that begins at `place`, if there is one. Roman and Chinese numerals are titles of parts.
+/// The number that begins at `place`, if there is one. Roman numerals are titles of parts.
 std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place, std::size_t end);
 
 /// The size of the letters, the digit or the judgement that begins at `place`; 0 if there is none.

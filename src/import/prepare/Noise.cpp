@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/KeyReader.h"
 #include "import/prepare/NoiseLines.h"
 #include "import/prepare/PageHeads.h"
 #include "import/prepare/PaperOutline.h"
@@ -79,7 +80,8 @@ class NoiseSearch {
       const std::size_t last = LineAt(title.end - 1);
       const auto isKept = [this](std::size_t line) { return static_cast<bool>(isKept_[line]); };
       bool touchesLabel = false;
-      for (std::size_t i = first; i <= last; ++i) touchesLabel = touchesLabel || isKept(i);
+      for (std::size_t i = first; i <= last; ++i)
+        touchesLabel = touchesLabel || isKept(i) || HoldsAnswers(text_, lines_[i]);
       if (touchesLabel) continue;
       if (BeginsLine(text_, title.begin)) {
         std::fill(isNoise_.begin() + static_cast<std::ptrdiff_t>(first),

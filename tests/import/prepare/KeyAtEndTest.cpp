@@ -30,7 +30,7 @@ constexpr EndKeyCase kEndKeys[] = {
     {"circled numbers", u"\n解答\n①B ②C ③A\n", u"B|C|A|"},
     {"digits", u"\nKunci Jawaban\n1. 2\n2. 3\n3. 1\n", u"B|C|A|"},
     {"a missing number", u"\nAnswers\n1. B\n3. A\n", u"B|A|"},
-    {"texts", u"\nAnswers\n1. B\n2. C\n3. A\n4. photosynthesis,\n", u"B|C|A|photosynthesis,|"},
+    {"texts", u"\nAnswers\n1. B\n2. C\n3. A\n4. photosynthesis,\n", u"B|C|A|photosynthesis|"},
     {"option texts", u"\nAnswers\n1. bee\n2. cat\n3. ant\n", u"B|C|A|"},
     {"no heading", u"\n1. B\n2. C\n3. A\n", u"B|C|A|"},
     {"no heading, range", u"\n1-3 BCA\n", u"B|C|A|"},
