@@ -2,8 +2,10 @@
 #include "import/labels/LineText.h"
 #include "import/labels/Numerals.h"
 #include "import/prepare/BracketedKey.h"
+#include "import/prepare/JudgementWords.h"
 #include "import/prepare/OptionKey.h"
 #include "import/prepare/QuestionKey.h"
+#include "import/prepare/ShownAnswer.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>
@@ -13,8 +15,12 @@ namespace quorvantis {
 namespace {
 
 /// Where in or around a question its key stands.
-enum class StemKeyPlace { InStem, BehindOptions, BareLine, Judgement };
-constexpr std::size_t kStemKeyPlaces = 4;
+enum class StemKeyPlace { Labelled, InStem, BehindOptions, BareLine, Judgement, JudgementAtEnd };
+constexpr std::size_t kStemKeyPlaces = 6;
+
+bool IsOfJudgements(StemKeyPlace place) {
+  return place == StemKeyPlace::Judgement || place == StemKeyPlace::JudgementAtEnd;
+}
 
 /// A key that a question shows to pupils.
 struct StemKey {
@@ -32,7 +38,8 @@ class StemKeySearch {
       : text_(text), question_(question) {}
 
   std::optional<StemKey> Find(StemKeyPlace place) const {
-    if (question_.HasOptions() == (place == StemKeyPlace::Judgement)) return std::nullopt;
+    if (place == StemKeyPlace::Labelled) return Labelled();
+    if (question_.HasOptions() == IsOfJudgements(place)) return std::nullopt;
     switch (place) {
       case StemKeyPlace::InStem:
         return InStem();
@@ -40,8 +47,10 @@ class StemKeySearch {
         return BehindOptions();
       case StemKeyPlace::BareLine:
         return BareLine();
-      default:
+      case StemKeyPlace::Judgement:
         return Judgement();
+      default:
+        return JudgementAtEnd();
     }
   }
 
@@ -50,6 +59,18 @@ class StemKeySearch {
                 const std::vector<std::size_t>& options) const {
     const bool stays = place == StemKeyPlace::InStem || place == StemKeyPlace::Judgement;
     return {place, pair.whole, stays ? pair.Emptied(text_) : std::u16string(), pair.inner, options};
+  }
+
+  /// "(Answer: B)"
+  std::optional<StemKey> Labelled() const {
+    const std::size_t end = question_.HasAnswer() ? question_.answerLabel.begin : question_.whole.end;
+    const auto shown = LabelledAnswerIn(text_, {question_.label.end, end});
+    if (!shown) return std::nullopt;
+    StemKey key{StemKeyPlace::Labelled, shown->whole, {}, shown->answer, {}};
+    if (!question_.HasOptions()) return key;
+    key.options = ReadOptionKey(text_, *question_.options, shown->answer.Of(text_)).options;
+    if (key.options.empty()) return std::nullopt;
+    return key;
   }
 
   /// The only pair in the stem that holds letters; an empty one beside it is the blank that is meant.
@@ -110,30 +131,48 @@ class StemKeySearch {
     return found;
   }
 
+  /// "The sun is a star. – true"
+  std::optional<StemKey> JudgementAtEnd() const {
+    const auto shown = JudgementAtEndOf(text_, question_.stem);
+    if (!shown) return std::nullopt;
+    return StemKey{StemKeyPlace::JudgementAtEnd, shown->whole, {}, shown->answer, {}};
+  }
+
   std::u16string_view text_;
   const OutlinedQuestion& question_;
+};
+
+/// How often papers show a key in one place.
+struct StemKeyCount {
+  std::size_t keys = 0;
+  bool hasRight = false;  ///< a judgement says "true"
+  bool hasWrong = false;
+
+  void Add(const StemKey& key, std::u16string_view text) {
+    ++keys;
+    if (!IsOfJudgements(key.place)) return;
+    for (const JudgementWord& word : JudgementWordsAt(key.answer.Of(text)))
+      (word.isRight ? hasRight : hasWrong) = true;
+  }
 };
 
 /// A paper shows its keys in the same way at many questions; a letter in brackets at one is text.
 class StemKeyHabits {
  public:
   StemKeyHabits(std::u16string_view text, const PaperOutline& outline) {
-    std::array<std::size_t, kStemKeyPlaces> found{};
+    std::array<StemKeyCount, kStemKeyPlaces> found{};
     std::size_t choices = 0;
     std::size_t others = 0;
     for (const OutlinedQuestion& question : outline.questions) {
       if (!IsUnanswered(text, question)) continue;
       ++(question.HasOptions() ? choices : others);
       for (std::size_t place = 0; place < kStemKeyPlaces; ++place) {
-        if (StemKeySearch(text, question).Find(static_cast<StemKeyPlace>(place))) ++found[place];
+        if (const auto key = StemKeySearch(text, question).Find(static_cast<StemKeyPlace>(place)))
+          found[place].Add(*key, text);
       }
     }
-    for (std::size_t place = 0; place < kStemKeyPlaces; ++place) {
-      const bool isJudgement = static_cast<StemKeyPlace>(place) == StemKeyPlace::Judgement;
-      const std::size_t of = isJudgement ? others : choices;
-      const std::size_t least = of == 1 ? 1 : std::max<std::size_t>(2, isJudgement ? of / 4 : of * 2 / 5);
-      isHabit_[place] = found[place] > 0 && found[place] >= least;
-    }
+    for (std::size_t place = 0; place < kStemKeyPlaces; ++place)
+      isHabit_[place] = IsHabit(static_cast<StemKeyPlace>(place), found[place], choices, others);
   }
 
   std::optional<StemKey> KeyOf(std::u16string_view text, const OutlinedQuestion& question) const {
@@ -145,6 +184,26 @@ class StemKeyHabits {
   }
 
  private:
+  static bool IsHabit(StemKeyPlace place, const StemKeyCount& count, std::size_t choices,
+                      std::size_t others) {
+    if (count.keys == 0) return false;
+    switch (place) {
+      case StemKeyPlace::Labelled:
+        return IsOften(count.keys, choices + others, (choices + others) / 4);
+      case StemKeyPlace::Judgement:
+        return IsOften(count.keys, others, others / 4);
+      case StemKeyPlace::JudgementAtEnd:
+        // Statements may end in such a word; they do not all.
+        return count.keys > 1 && count.keys * 5 >= others * 3 && count.hasRight && count.hasWrong;
+      default:
+        return IsOften(count.keys, choices, choices * 2 / 5);
+    }
+  }
+
+  static bool IsOften(std::size_t keys, std::size_t of, std::size_t least) {
+    return keys >= (of == 1 ? 1 : std::max<std::size_t>(2, least));
+  }
+
   std::array<bool, kStemKeyPlaces> isHabit_{};
 };
 

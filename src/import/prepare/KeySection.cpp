@@ -131,9 +131,22 @@ class KeySectionSearch {
     return false;
   }
 
+  /// A line that says that the paper ends, "--- END ---", belongs to what follows.
+  std::size_t BeginWithEndLine(std::size_t begin) const {
+    const TextSpan before = Trimmed(text_, {0, begin});
+    const TextSpan line = Trimmed(text_, {LineBeginBefore(text_, before.end), before.end});
+    constexpr std::size_t kLongest = 60;
+    if (line.Size() < 3 || line.Size() > kLongest) return begin;
+    const std::u16string_view written = line.Of(text_);
+    const char16_t rule = written.front();
+    const bool isRuled = std::u16string_view(u"-–—*=~").find(rule) != std::u16string_view::npos;
+    return isRuled && written[1] == rule && written.back() == rule ? line.begin : begin;
+  }
+
   std::optional<KeySection> SectionAt(const HeadingPlace& heading) {
     const TextSpan rest{heading.end, text_.size()};
-    KeySection section{heading.begin, QuestionsBefore(text_, outline_, heading.begin), {}};
+    const std::size_t begin = BeginWithEndLine(heading.begin);
+    KeySection section{begin, QuestionsBefore(text_, outline_, begin), {}};
     std::vector<KeyEntry> entries = ReadBareKey(text_, rest);
     if (entries.empty()) {
       KeyList list = ReadKeyList(text_, rest);
