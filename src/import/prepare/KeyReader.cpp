@@ -39,10 +39,18 @@ KeyEntry TextEntry(std::u16string_view text, int number, TextSpan span) {
   return {number, answer, isLetters};
 }
 
-/// Whether a number goes on with a list: it is the next one, and set off by what the list uses.
-bool GoesOn(const KeyNumber& before, const KeyNumber& number, bool isBehindComma) {
-  const bool isNext = number.value == before.value + 1 || (number.isLettered && number.value == 1);
-  return isNext && (number.isSetOff || (!before.isSetOff && isBehindComma));
+/// What stands before a number within a line.
+struct BeforeNumber {
+  bool isComma = false;
+  bool isFar = false;  ///< several blanks, as between columns
+};
+
+/// Whether a number goes on with a list: it is the next one, or in another column, and set off as the list
+/// does.
+bool GoesOn(const KeyNumber& last, const KeyNumber& number, const BeforeNumber& before) {
+  if (before.isFar && last.isSetOff && number.isSetOff && number.value > last.value) return true;
+  const bool isNext = number.value == last.value + 1 || (number.isLettered && number.value == 1);
+  return isNext && (number.isSetOff || (!last.isSetOff && before.isComma));
 }
 
 /// Where the answers of a line begin that the title of their part precedes: "Part C: 6 brought",
@@ -177,8 +185,9 @@ std::vector<KeyEntry> TextEntriesOfLine(std::u16string_view text, TextSpan line,
     if (!IsBlank(text[at])) continue;
     const std::size_t next = SkipBlanks(text, at, trimmed.end);
     const auto following = KeyNumberAt(text, next, trimmed.end);
-    const bool isBehindComma = std::u16string_view(u",;，；").find(text[at - 1]) != std::u16string_view::npos;
-    if (following && GoesOn(*number, *following, isBehindComma)) {
+    const BeforeNumber before{std::u16string_view(u",;，；").find(text[at - 1]) != std::u16string_view::npos,
+                              next > at + 1 || text[at] == u'\t'};
+    if (following && GoesOn(*number, *following, before)) {
       entries.push_back(TextEntry(text, number->value, {begin, at}));
       number = following;
       begin = following->place.end;
@@ -206,7 +215,7 @@ std::vector<KeyEntry> ReadBareKey(std::u16string_view text, TextSpan within) {
   for (std::size_t at = within.begin; at < within.end; ++at) {
     const char16_t unit = text[at];
     if (IsBlank(unit) || IsLineEnd(unit) ||
-        std::u16string_view(u",，;；、|/").find(unit) != std::u16string_view::npos)
+        std::u16string_view(u",，;；、|/.。").find(unit) != std::u16string_view::npos)
       continue;
     const bool isDigit = unit < 0x80 && (unit < u'A' || unit > u'z');
     if (AlphabetLettersOf(unit).empty() || isDigit) return {};

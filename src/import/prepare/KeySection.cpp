@@ -93,7 +93,8 @@ class KeySectionSearch {
       if (AnswerHeadingOf(whole.substr(0, place)) != AnswerHeading::Clear) continue;
       const std::size_t begin =
           trimmed.begin + place + (whole[place] == u'1' || whole[place] == u'１' ? 0 : 1);
-      if (AreAnswers({begin, trimmed.end})) return {trimmed.begin, begin, AnswerHeading::Clear};
+      if (AreAnswers({begin, trimmed.end}) || IsOnlyBareKey(whole.substr(0, place), {begin, trimmed.end}))
+        return {trimmed.begin, begin, AnswerHeading::Clear};
     }
     return {};
   }
@@ -101,6 +102,18 @@ class KeySectionSearch {
   bool AreAnswers(TextSpan line) const {
     if (!EntriesOfLine(text_, line).empty()) return true;
     return TextEntriesOfLine(text_, line, true).size() > 1;
+  }
+
+  /// Whether letters without numbers follow a label that no other line begins with: "Key: BACD". The other
+  /// lines would be answers of single questions.
+  bool IsOnlyBareKey(std::u16string_view label, TextSpan letters) const {
+    constexpr std::size_t kFewest = 3;
+    if (ReadBareKey(text_, letters).size() < kFewest || HasOwnAnswer(letters)) return false;
+    const auto hasLabel = [this, label](const TextSpan& line) {
+      return Trimmed(text_, line).Of(text_).starts_with(label);
+    };
+    const auto first = std::ranges::find_if(lines_, hasLabel);
+    return first != lines_.end() && std::find_if(first + 1, lines_.end(), hasLabel) == lines_.end();
   }
 
   /// Whether a rule has found a question's own answer in the line.

@@ -93,7 +93,7 @@ constexpr ScriptCase kScripts[] = {
     {u"АБВ", u"Б", u"B"},     {u"абв", u"б)", u"B"},    {u"абв", u"В", u"C"},     {u"АБВ", u"C", u"C"},
     {u"أبج", u"ب", u"B"},     {u"אבג", u"ג", u"C"},     {u"กขค", u"ข", u"B"},     {u"①②③", u"3", u"C"},
     {u"ＡＢＣ", u"C", u"C"},  {u"ΑΒΓ", u"γ", u"C"},     {u"가나다", u"나", u"B"}, {u"甲乙丙", u"乙", u"B"},
-    {u"アイウ", u"ウ", u"C"}, {u"abc", u"A, C", u"AC"}, {u"अआइ", u"अ", u"A"},
+    {u"アイウ", u"ウ", u"C"}, {u"abc", u"A, C", u"AC"}, {u"अआइ", u"अ", u"A"},     {u"ابج", u"(الف)", u"A"},
 };
 
 TEST(KeyLetters, OfEveryAlphabetBecomeLatin) {

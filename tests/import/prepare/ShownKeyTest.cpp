@@ -74,6 +74,15 @@ constexpr StemCase kStems[] = {
      u"1. One?\nA. a\nB. b\n⟦=⟧ B\n\n2. Two?\nA. a\nB. b\n⟦=⟧ A\n"},
     {"judgements", u"1. The sun is a star. ( T )\n2. So is the moon.（×）\n",
      u"1. The sun is a star. (   )\n⟦=⟧ T\n2. So is the moon.（   ）\n⟦=⟧ ×\n"},
+    {"labelled",
+     u"1. One?\nA. a\nB. b (Answer: B)\n2. Two?\nA. a\nB. b\n[Key: a]\n3. The ___ flies.\n（答案：bee "
+     u"(big)）\n",
+     u"1. One?\nA. a\nB. b\n⟦=⟧ B\n2. Two?\nA. a\nB. b\n⟦=⟧ A\n3. The ___ flies.\n⟦=⟧ bee (big)\n"},
+    {"words behind statements",
+     u"1. The sun is a star. – true\n2. So is the moon. false\n3. Ice is cold:\nTrue\n",
+     u"1. The sun is a star.\n⟦=⟧ true\n2. So is the moon.\n⟦=⟧ false\n3. Ice is cold:\n⟦=⟧ True\n"},
+    {"words of statements", u"1. What is said is true\n2. True / False\n3. Is it so? False\n", u""},
+    {"the same word always", u"1. Suns are stars.   False\n2. Moons are stars.   False\n", u""},
     {"text",
      u"1. Vitamin (C) is?\nA. a\nB. b\nC. c\n2. Two?\nA. a\nB. b\n3. Three?\nA. a\nB. b\n4. It?\nA. a\nB. "
      u"b\n",
