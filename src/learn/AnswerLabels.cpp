@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/labels/OptionAlphabets.h"
 #include "import/labels/OptionSequence.h"
+#include "import/prepare/AnswerWords.h"
 #include "text/AsciiCase.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ class LabelSearch {
     const std::vector<TextSpan> lines = LinesOf(text_, body_);
     for (std::size_t i = 0; i < lines.size(); ++i) {
       const TextSpan line = Trimmed(text_, lines[i]);
-      if (i > 0 && !line.IsEmpty() && !IsOption(line.begin)) AddStart(line, found);
+      if (!line.IsEmpty() && !IsOption(line.begin)) AddStart(line, i == 0, found);
       if (line.end > lastOption_.begin) AddWithin(line, found);
     }
     return found;
@@ -48,13 +49,15 @@ class LabelSearch {
     return std::ranges::find(optionStarts_, place) != optionStarts_.end();
   }
 
-  void AddStart(TextSpan line, std::vector<LabelledLine>& found) const {
+  /// The first line is the question's, unless all behind the label is a key: papers without numbers begin so.
+  void AddStart(TextSpan line, bool isFirst, std::vector<LabelledLine>& found) const {
     const std::size_t end = text_.find_first_of(kLabelEnds, line.begin);
     if (end < line.end && end - line.begin <= kLongestLabel && end > line.begin) {
       // "【答案】：" ends in two marks.
       std::size_t labelEnd = end + 1;
       if (labelEnd < line.end && (text_[labelEnd] == u':' || text_[labelEnd] == u'：')) ++labelEnd;
-      found.push_back({{line.begin, labelEnd}, Trimmed(text_, {labelEnd, line.end})});
+      const TextSpan rest = Trimmed(text_, {labelEnd, line.end});
+      if (!isFirst || LooksLikeKey(rest.Of(text_))) found.push_back({{line.begin, labelEnd}, rest});
       return;
     }
     // "Answer B": a word, and a key behind it.
@@ -90,7 +93,7 @@ std::u16string Normalised(std::u16string_view label) {
 }
 
 double LikelinessOfLabel(const AnswerLabelFamily& family) {
-  return static_cast<double>(family.questions) * (0.2 + family.keys);
+  return static_cast<double>(family.questions) * (0.2 + family.keys + (family.isWord ? 1 : 0));
 }
 
 }  // namespace
@@ -133,7 +136,9 @@ std::vector<AnswerLabelFamily> FindAnswerLabels(std::u16string_view text,
   std::vector<AnswerLabelFamily> families;
   for (auto& [label, count] : counts) {
     constexpr std::size_t kFewOf = 5;
-    if (count.family.questions < 2 || count.family.questions * kFewOf < bodies.size()) continue;
+    count.family.isWord = AnswerLeadSize(count.family.label) >= count.family.label.size();
+    const std::size_t least = count.family.isWord ? 1 : 2;
+    if (count.family.questions < least || count.family.questions * kFewOf < bodies.size()) continue;
     count.family.keys = static_cast<double>(count.keys) / static_cast<double>(count.family.questions);
     count.family.standsWithinLines = count.within > 0;
     families.push_back(std::move(count.family));

@@ -16,6 +16,7 @@ struct AnswerLabelFamily {
   std::size_t questions = 0;  ///< that have it
   double keys = 0;            ///< share of them in which what follows can be the key of a choice question
   bool standsWithinLines = false;
+  bool isWord = false;  ///< says "answer", or the like, in some language
 };
 
 /// Texts that many of these bodies (the spans behind the numbers of questions) have in front of something

@@ -43,8 +43,9 @@ bool CountTogether(const NumberFamily& one, const NumberFamily& other) {
   std::ranges::sort(numbers);
   std::size_t good = 0;
   int before = 0;
+  const std::size_t firstOfOther = std::max(one.labels.front().place.begin, other.labels.front().place.begin);
   for (const auto& [place, value] : numbers) {
-    good += value == before + 1 || value == 1 ? 1 : 0;
+    good += value == before + 1 || (value == 1 && place == firstOfOther) ? 1 : 0;
     before = value;
   }
   const double share = static_cast<double>(good) / static_cast<double>(numbers.size());
@@ -217,10 +218,10 @@ void LayoutSearch::TryAnswerLabels() {
   families.resize(std::min(families.size(), kMostLabels));
   std::set<std::u16string> together = marked;
   for (const AnswerLabelFamily& family : families) {
+    constexpr double kSurelyKeys = 0.6;
+    if (family.keys < kSurelyKeys && !family.isWord) continue;
     TryLabels({family.label}, family.standsWithinLines);
     // "Answer:" and "Ans.:" in one paper.
-    constexpr double kSurelyKeys = 0.6;
-    if (family.keys < kSurelyKeys) continue;
     together.insert(family.label);
     if (together.size() > 1) TryLabels(together, family.standsWithinLines);
   }

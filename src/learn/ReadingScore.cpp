@@ -78,6 +78,7 @@ class Counting {
     std::size_t usual = 0;
     for (const auto& [options, count] : sizes_) usual = std::max(usual, count);
     score.choices = Share(choices_, all);
+    score.answered = Share(answered_, all);
     score.regular = Share(usual, choices_);
     score.keys = Share(keys_, choices_);
     score.plausibleKeys = keys_ == 0 ? 0 : plausible_ / static_cast<double>(keys_);
@@ -97,6 +98,7 @@ class Counting {
     if (HasMarker(all)) ++markers_;
     if (Trimmed(question.text, {0, question.text.size()}).IsEmpty()) ++empty_;
     if (isChoice) CountChoice(question);
+    if (!isChoice && !question.answer.empty()) ++answered_;
     if (HoldsOptions(question)) ++leftOptions_;
   }
 
@@ -145,6 +147,7 @@ class Counting {
   const ReadPaper& paper_;
   const std::set<std::size_t>& alphabets_;
   std::size_t choices_ = 0;
+  std::size_t answered_ = 0;
   std::size_t keys_ = 0;
   double plausible_ = 0;
   std::size_t leftOptions_ = 0;
@@ -174,8 +177,8 @@ double ReadingScore::Total() const {
   if (questions == 0) return -1'000;
   const double many = std::log2(1.0 + static_cast<double>(std::min<std::size_t>(questions, 40)));
   return 4 * rising + 0.5 * many + choices * (1.5 * regular + 0.5) +
-         choices * keys * (2.5 * plausibleKeys - 0.5) + 2 * explained - 5 * leftOptions - 5 * strayMarkers -
-         2 * dropped - 0.7 * longOptions - 4 * emptyParts - 2 * overlong;
+         choices * keys * (2.5 * plausibleKeys - 0.5) + 0.5 * answered + 2 * explained - 5 * leftOptions -
+         5 * strayMarkers - 2 * dropped - 0.7 * longOptions - 4 * emptyParts - 2 * overlong;
 }
 
 double ReadingScore::Confidence() const {

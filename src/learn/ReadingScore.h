@@ -22,6 +22,7 @@ struct ReadingScore {
   double longOptions = 0;    ///< options of several lines
   double emptyParts = 0;     ///< questions without text, or with an empty option before others
   double overlong = 0;       ///< questions far longer than the others
+  double answered = 0;       ///< questions without options that have an answer
   double choices = 0;        ///< questions that have options
 
   /// All of it in one number; more is better. Readings without a question have the least.

@@ -47,7 +47,7 @@ std::string Faults(const fs::path& file, const PaperStudy& study) {
 std::set<std::string> KnownFailures() {
   std::set<std::string> names;
   std::istringstream lines(Contents(kPapers / "not-understood.txt"));
-  for (std::string line; std::getline(lines, line);) names.insert(line.substr(0, line.find(' ')));
+  for (std::string line; std::getline(lines, line);) names.insert(line.substr(0, line.find('\t')));
   return names;
 }
 

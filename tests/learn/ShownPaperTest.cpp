@@ -52,8 +52,8 @@ TEST(ShownPaper, LeadsPlacesThereAndBack) {
       last = place;
     }
     for (std::size_t at = 0; at < shown.Text().size(); ++at) {
-      if (shown.Text()[at] == u'\n') lineBegin = at + 1;
       ASSERT_LE(at - lineBegin, ShownPaper::kLongestLine);
+      if (shown.Text()[at] == u'\n') lineBegin = at + 1;
     }
   }
 }
