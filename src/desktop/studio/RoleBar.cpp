@@ -20,6 +20,7 @@ namespace {
 constexpr int kFirstRole = static_cast<int>(PaperRole::QuestionNumber);
 constexpr int kLastRole = static_cast<int>(PaperRole::NotExam);
 constexpr int kInARow = 4;
+constexpr int kNarrowest = 64;  // pixels, on small screens; tooltips have the whole caption
 
 }  // namespace
 
@@ -77,6 +78,7 @@ QWidget* RoleBar::MakeButton(QAction* action) {
   button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   button->setFocusPolicy(Qt::TabFocus);  // a click leaves the selection in the paper
   button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  button->setMinimumWidth(kNarrowest);
   button->setAccessibleName(action->text());
   return button;
 }
