@@ -176,13 +176,13 @@ TEST_F(StudioWindowTest, ReadsAPaperAgainThatHasChanged) {
 }
 
 TEST_F(StudioWindowTest, TakesPastedText) {
-  QGuiApplication::clipboard()->setText("1. Is it?\nA. yes\nB. no\nAnswer: A\n");
+  QGuiApplication::clipboard()->setText(QString(kPaper).replace("Rome", "Bonn"));
   Click("studioPaste");
-  EXPECT_TRUE(Settles([this] { return Questions().model()->rowCount() == 1; }));
+  EXPECT_TRUE(Settles([this] { return Cell(0, QuestionListModel::Text) == "Where is Bonn?"; }));
   ASSERT_TRUE(Settles());
   Click("studioImport");
-  EXPECT_EQ(exam.Question(3).text, u"Is it?");
-  EXPECT_EQ(exam.Question(3).options[1], u"no");
+  EXPECT_EQ(exam.Question(3).text, u"Where is Bonn?");
+  EXPECT_EQ(exam.Question(4).options[1], u"Norway");
 }
 
 }  // namespace
