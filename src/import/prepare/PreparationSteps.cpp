@@ -11,21 +11,14 @@ namespace quorvantis {
 namespace {
 
 constexpr PreparationStep kSteps[] = {
-    {u"SoftBreaks", step::SoftBreaks},
-    {u"TableOptions", step::TableOptions},
-    {u"MixedLetters", step::MixedLetters},
-    {u"Unnumbered", step::Unnumbered},
-    {u"PlainOptions", step::PlainOptions},
-    {u"KeyAtEnd", step::KeyAtEnd},
-    {u"Noise", step::Noise},
-    {u"Passages", step::Passages},
-    {u"SignedKey", step::SignedKey},
-    {u"EmphasisedKey", step::EmphasisedKey},
-    {u"KeyInStem", step::KeyInStem},
-    {u"KeyLetters", step::KeyLetters},
-    {u"Judgement", step::Judgement},
-    {u"BlankForms", step::BlankForms},
-    {u"OpenAnswers", step::OpenAnswers},
+    {u"SoftBreaks", step::SoftBreaks},       {u"TableOptions", step::TableOptions},
+    {u"MixedLetters", step::MixedLetters},   {u"AnswerSlips", step::AnswerSlips},
+    {u"Unnumbered", step::Unnumbered},       {u"PlainOptions", step::PlainOptions},
+    {u"KeyAtEnd", step::KeyAtEnd},           {u"Noise", step::Noise},
+    {u"Passages", step::Passages},           {u"SignedKey", step::SignedKey},
+    {u"EmphasisedKey", step::EmphasisedKey}, {u"KeyInStem", step::KeyInStem},
+    {u"KeyLetters", step::KeyLetters},       {u"Judgement", step::Judgement},
+    {u"BlankForms", step::BlankForms},       {u"OpenAnswers", step::OpenAnswers},
 };
 
 bool IsNamed(const ImportSettings& rules, std::u16string_view step) {

@@ -31,6 +31,10 @@ void Unnumbered(PaperText& text, const PreparationContext& context);
 /// Options without labels, a line each, get some: "⟦A⟧".
 void PlainOptions(PaperText& text, const PreparationContext& context);
 
+/// A misspelt label of an answer becomes the one that the paper uses.
+///     Ansewr; B                   ->  Answer: B
+void AnswerSlips(PaperText& text, const PreparationContext& context);
+
 /// A key at the end, as a list, a table or ranges: each answer goes to its question, by its number.
 ///     1-3 ABC                     ->  ⟦=⟧ A at the end of question 1, and so on
 void KeyAtEnd(PaperText& text, const PreparationContext& context);
@@ -61,7 +65,8 @@ void Judgement(PaperText& text, const PreparationContext& context);
 /// Blanks of all kinds in questions without options become "___".
 void BlankForms(PaperText& text, const PreparationContext& context);
 
-/// A text to read, between two questions, that the second one is about: it becomes the beginning of that question.
+/// A text to read, between two questions, that the second one is about: it becomes the beginning of that
+/// question.
 void Passages(PaperText& text, const PreparationContext& context);
 
 /// Questions without an answer get an empty one, since the reading of papers leaves out those that have none.

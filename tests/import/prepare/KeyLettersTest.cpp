@@ -114,5 +114,17 @@ TEST(KeyLetters, LatinOnesForCyrillicOptionsNeedAnotherToBeSure) {
             u"1" + question + u"C\n2" + question + u"D\n");
 }
 
+TEST(AnswerSlips, BecomeTheUsualLabel) {
+  constexpr std::u16string_view kUsual = u"1. One?\nA. ant\nB. bee\nAnswer: B\n2. Two?\nA. ant\nB. bee\n";
+  const auto mended = [kUsual](std::u16string_view line) {
+    return AfterSteps(u"AnswerSlips", std::u16string(kUsual) + std::u16string(line) + u"\n")
+        .substr(kUsual.size());
+  };
+  for (const std::u16string_view line : {u"Ansewr: A", u"Answer; A", u"Answer : A", u"ANSWR:A", u"answer A"})
+    EXPECT_EQ(mended(line), u"Answer: A\n");
+  for (const std::u16string_view line : {u"Dancer: A", u"Ansewr: cow", u"Answers are A", u"A: A"})
+    EXPECT_EQ(mended(line), std::u16string(line) + u"\n");
+}
+
 }  // namespace
 }  // namespace quorvantis::test
