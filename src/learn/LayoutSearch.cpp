@@ -20,6 +20,7 @@ constexpr std::u16string_view kTableOptions = u"TableOptions";
 constexpr std::u16string_view kUnnumbered = u"Unnumbered";
 constexpr std::u16string_view kPlainOptions = u"PlainOptions";
 constexpr std::u16string_view kMixedLetters = u"MixedLetters";
+constexpr std::u16string_view kAnswerSlips = u"AnswerSlips";
 constexpr std::u16string_view kNoise = u"Noise";
 constexpr std::u16string_view kKeyAtEnd = u"KeyAtEnd";
 constexpr std::u16string_view kSignedKey = u"SignedKey";
@@ -28,7 +29,7 @@ constexpr std::u16string_view kJudgement = u"Judgement";
 constexpr std::u16string_view kOpenAnswers = u"OpenAnswers";
 
 /// Steps whose work makes no reading better by itself, but is right wherever they find something to do.
-constexpr std::u16string_view kHarmless[] = {u"BlankForms", kNoise, u"KeyLetters"};
+constexpr std::u16string_view kHarmless[] = {u"KeyInStem", u"BlankForms", kNoise, kKeyLetters};
 
 bool HasSoftBreaks(const Paper& paper) {
   return std::ranges::count(paper.source.characters, u'\v') > 1;
@@ -72,6 +73,7 @@ TriedLayout LayoutSearch::Search() {
   Steps lines;
   if (HasSoftBreaks(paper_)) lines.emplace(kSoftBreaks);
   lines.emplace(kMixedLetters);
+  lines.emplace(kAnswerSlips);
   TryNumbers(lines);
   if (!paper_.tables.empty()) {
     lines.emplace(kTableOptions);

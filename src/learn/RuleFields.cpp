@@ -44,6 +44,7 @@ constexpr Sentence kSentences[] = {
     {u"KeyAtEnd", text_id::kStepKeyAtEnd},           {u"SignedKey", text_id::kStepSignedKey},
     {u"EmphasisedKey", text_id::kStepEmphasisedKey}, {u"KeyInStem", text_id::kStepKeyInStem},
     {u"KeyLetters", text_id::kStepKeyLetters},       {u"Judgement", text_id::kStepJudgement},
+    {u"AnswerSlips", text_id::kStepAnswerSlips},     {u"Passages", text_id::kStepPassages},
     {u"BlankForms", text_id::kStepBlankForms},       {u"OpenAnswers", text_id::kStepOpenAnswers},
 };
 

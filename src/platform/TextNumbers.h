@@ -461,6 +461,8 @@ constexpr int kStepKeyLetters = 1696;
 constexpr int kStepJudgement = 1697;
 constexpr int kStepBlankForms = 1698;
 constexpr int kStepOpenAnswers = 1699;
+constexpr int kStepAnswerSlips = 1607;
+constexpr int kStepPassages = 1608;
 
 // Of rules that were worked out. First how sure they are, in percent.
 constexpr int kLearnedSure = 1700;
