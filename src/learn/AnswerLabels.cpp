@@ -92,6 +92,15 @@ std::u16string Normalised(std::u16string_view label) {
   return key;
 }
 
+/// "Answer:", also behind another word: "Model answer:".
+bool SaysAnswer(std::u16string_view label) {
+  for (std::size_t at = 0; at < label.size(); ++at) {
+    const bool beginsWord = at == 0 || IsBlank(label[at - 1]);
+    if (beginsWord && AnswerLeadSize(label.substr(at)) >= label.size() - at) return true;
+  }
+  return false;
+}
+
 double LikelinessOfLabel(const AnswerLabelFamily& family) {
   return static_cast<double>(family.questions) * (0.2 + family.keys + (family.isWord ? 1 : 0));
 }
@@ -136,7 +145,7 @@ std::vector<AnswerLabelFamily> FindAnswerLabels(std::u16string_view text,
   std::vector<AnswerLabelFamily> families;
   for (auto& [label, count] : counts) {
     constexpr std::size_t kFewOf = 5;
-    count.family.isWord = AnswerLeadSize(count.family.label) >= count.family.label.size();
+    count.family.isWord = SaysAnswer(count.family.label);
     const std::size_t least = count.family.isWord ? 1 : 2;
     if (count.family.questions < least || count.family.questions * kFewOf < bodies.size()) continue;
     count.family.keys = static_cast<double>(count.keys) / static_cast<double>(count.family.questions);
