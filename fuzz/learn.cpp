@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Works out the rules of any text with any marks, and reads the text by them. The first byte says how many marks.
+// Works out the rules of any text with any marks, and reads the text by them. The first byte says how many
+// marks.
 #include "import/marking/RuleKeys.h"
 #include "learn/PaperStudy.h"
 #include "text/Utf.h"

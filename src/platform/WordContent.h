@@ -53,12 +53,12 @@ struct WordTable {
 };
 
 struct WordContent {
-  WordText runningText;            ///< without the tables
-  std::vector<WordTable> tables;   ///< in the order of the document
-  std::size_t pictures = 0;        ///< their number, including those in tables
-  bool hasNumbersLeftOut = false;  ///< automatic numbers that are not part of the text
+  WordText runningText;              ///< without the tables
+  std::vector<WordTable> tables;     ///< in the order of the document
+  std::size_t pictures = 0;          ///< their number, including those in tables
+  bool hasNumbersLeftOut = false;    ///< automatic numbers that are not part of the text
   bool hasAutomaticNumbers = false;  ///< whether they are part of the text or not
-  bool isPlainText = false;        ///< not written by a word processor
+  bool isPlainText = false;          ///< not written by a word processor
 };
 
 }  // namespace quorvantis

@@ -97,7 +97,7 @@ class StudioWindow : public QWidget {
   QTimer whenChanged_;                         ///< looks at the exam once the current event has been handled
   bool isImporting_ = false;
   bool hasRoom_ = false;  ///< the exam has room for a question
-  int tellThen_ = 0;  ///< number of the text to show once the outcome is there; 0 for none
+  int tellThen_ = 0;      ///< number of the text to show once the outcome is there; 0 for none
   BackgroundRun run_;
 };
 
