@@ -82,12 +82,11 @@ bool IsAllCapitals(std::u16string_view line) {
 
 /// A number of another kind than questions have: "II.", "三、".
 std::optional<NumberLabel> SectionNumber(std::u16string_view line) {
-  for (NumberLabel& label : NumberLabelsAt(line, {0, line.size()})) {
+  for (const NumberLabel& label : NumberLabelsAt(line, {0, line.size()})) {
     // "(C)" is a key rather than a hundred.
     constexpr int kMostSections = 20;
     const bool isSection = label.kind == NumeralKind::UpperRoman || label.kind == NumeralKind::Chinese;
-    if (isSection && label.value <= kMostSections && label.prefix.empty() && !label.isSpaced)
-      return std::move(label);
+    if (isSection && label.value <= kMostSections && label.prefix.empty() && !label.isSpaced) return label;
   }
   return std::nullopt;
 }

@@ -56,7 +56,7 @@ struct AnswerList {
 
 /// A marked text without ideographic spaces, cut to its questions.
 struct QuestionsOfText {
-  std::u16string text;
+  std::u16string text{};
   std::u16string lost{};  ///< the beginning of the first question's part, which `text` lacks
   std::size_t begin = 0;  ///< where `text` begins in the marked text
 };
@@ -118,12 +118,10 @@ class Reading {
 
   ReadPaper Read(std::u16string_view markedText) {
     FindAnswers(markedText);
-    QuestionsOfText cut = QuestionPart(markedText);
-    lost_ = std::move(cut.lost);
-    begin_ = cut.begin;
-    text_ = cut.text;
+    cut_ = QuestionPart(markedText);
+    lost_ = std::move(cut_.lost);
     // The text after the last marker is a part only if it is not empty.
-    for (std::u16string_view rest = cut.text; !rest.empty(); lost_.clear()) {
+    for (std::u16string_view rest = cut_.text; !rest.empty(); lost_.clear()) {
       ++question_;
       ReadPart(TakePart(rest));
     }
@@ -234,7 +232,7 @@ class Reading {
   /// Where a piece of the text stands in the marked text.
   TextSpan PlaceOf(std::u16string_view piece) const {
     if (piece.data() == nullptr) return {};
-    const std::size_t begin = begin_ + static_cast<std::size_t>(piece.data() - text_.data());
+    const std::size_t begin = cut_.begin + static_cast<std::size_t>(piece.data() - cut_.text.data());
     return {begin, begin + piece.size()};
   }
 
@@ -269,11 +267,10 @@ class Reading {
 
   const ImportSettings& rules_;
   const RuleSearch pattern_;
-  int picture_;               ///< number of the next picture
-  int question_ = 0;          ///< number of the current part
-  std::u16string lost_;       ///< what the current part has lost at its beginning
-  std::u16string_view text_;  ///< the text that is being cut
-  std::size_t begin_ = 0;     ///< where it begins in the marked text
+  int picture_;          ///< number of the next picture
+  int question_ = 0;     ///< number of the current part
+  std::u16string lost_;  ///< what the current part has lost at its beginning
+  QuestionsOfText cut_;  ///< what is being read
   DebugOutput& debug_;
   const CancelHook& isCancelled_;
   AnswerList judgement_;
