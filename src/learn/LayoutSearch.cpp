@@ -141,7 +141,7 @@ void LayoutSearch::TryNumbers(const Steps& steps) {
   std::vector<NumberFamily> families = FindNumberFamilies(text.characters);
   const std::vector<TextSpan> marked = marks_.PlacesIn(text, PaperRole::QuestionNumber);
   if (!marked.empty()) {
-    std::ranges::stable_partition(families, [&marked](const NumberFamily& family) {
+    std::stable_partition(families.begin(), families.end(), [&marked](const NumberFamily& family) {
       return std::ranges::any_of(marked, [&family](const TextSpan& mark) { return Covers(family, mark); });
     });
   }

@@ -47,12 +47,7 @@ class LabelReading {
       if (IsNumberHere(next) && (isApart || IsDigitHere(next))) {
         std::u16string prefix(text_.substr(begin_, next - begin_));
         while (!prefix.empty() && IsBlank(prefix.back())) prefix.pop_back();
-        if (!prefix.empty() && IsLetter(prefix[prefix.find_first_not_of(u"#№*& ") == prefix.npos
-                                                   ? 0
-                                                   : prefix.find_first_not_of(u"#№*& ")]))
-          Read(prefix, next);
-        else if (prefix == u"№" || prefix == u"#")
-          Read(prefix, next);
+        if (IsPrefix(prefix)) Read(prefix, next);
         break;
       }
     }
@@ -93,6 +88,13 @@ class LabelReading {
       const std::size_t end = at + numeral.size;
       return !isRoman || end >= text_.size() || !IsLetter(text_[end]);
     });
+  }
+
+  /// A word, perhaps behind a sign, or a sign for numbers.
+  static bool IsPrefix(std::u16string_view prefix) {
+    if (prefix == u"№" || prefix == u"#") return true;
+    const std::size_t first = prefix.find_first_not_of(u"#№*& ");
+    return first != prefix.npos && IsLetter(prefix[first]);
   }
 
   /// Numbers of letters, as "II", need a blank before them.

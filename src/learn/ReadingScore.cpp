@@ -6,6 +6,7 @@
 #include "import/labels/OptionSequence.h"
 #include "import/marking/ImportMarkers.h"
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/PreparedLabels.h"
 #include "learn/ReadingRoles.h"
 
 #include <algorithm>
@@ -31,8 +32,8 @@ std::vector<int> NumbersOf(const Paper& paper, const MarkedText& marked) {
     if (value > 0) numbers.emplace_back(match.units.front(), value);
   }
   std::ranges::sort(numbers);
-  std::vector<int> values;
-  for (const auto& [place, value] : numbers) values.push_back(value);
+  std::vector<int> values(numbers.size());
+  std::ranges::transform(numbers, values.begin(), [](const auto& number) { return number.second; });
   return values;
 }
 
@@ -57,7 +58,7 @@ double RisingShare(const std::vector<int>& numbers) {
 
 bool HasMarker(std::u16string_view text) {
   return text.find(kAnswerMarker) != text.npos || text.find(kAnswerSectionMarker) != text.npos ||
-         text.find(u"\u27E6") != text.npos;
+         text.find(kPreparedOpen) != text.npos;
 }
 
 std::size_t OptionsOf(const ReadQuestion& question) {

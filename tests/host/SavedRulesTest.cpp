@@ -182,6 +182,7 @@ TEST_F(SavedRulesTest, AreAllKeptWhenManySaveAtOnce) {
     return u"w" + FormatInteger(writer) + u"." + FormatInteger(i) + u"!";
   };
   std::vector<std::thread> writers;
+  writers.reserve(kWriters);
   for (int writer = 0; writer < kWriters; ++writer) {
     writers.emplace_back([&, writer] {
       PosixFiles files;

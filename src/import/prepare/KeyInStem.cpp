@@ -259,6 +259,7 @@ void MoveKeysBeforeNumbers(PaperText& text, const PreparationContext& context) {
   if (keys.size() < 2) return;
   PaperText without = text;
   std::vector<PaperEdit> removals;
+  removals.reserve(keys.size());
   for (const KeyBeforeNumber& key : keys) removals.push_back({key.removed});
   ApplyEdits(without, std::move(removals));
   const PaperOutline outline = OutlineOf(without, context.rules, context.isCancelled);
