@@ -25,7 +25,7 @@ struct LabelStyle {
   char16_t open = 0;
   char16_t close = 0;
 
-  auto operator<=>(const LabelStyle&) const = default;
+  auto operator<=>(const LabelStyle&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /// Finds what lines are.

@@ -14,7 +14,7 @@ struct SignScheme {
   MarkPlace place = MarkPlace::Before;
   char16_t sign = 0;
 
-  friend auto operator<=>(const SignScheme&, const SignScheme&) = default;
+  friend auto operator<=>(const SignScheme&, const SignScheme&) = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /// Options with the sign of a scheme.
