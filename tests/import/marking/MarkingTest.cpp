@@ -116,6 +116,7 @@ TEST(TableMarking, TakesQuestionsFromRows) {
   using Cells = std::vector<std::vector<PaperCell>>;
   const auto marked = [&](const std::vector<Cells>& texts) {
     std::vector<PaperTable> tables;
+    tables.reserve(texts.size());
     for (const Cells& rows : texts) tables.push_back({rows});
     return TableToString(tables, rules, kNeverCancelled).text;
   };
