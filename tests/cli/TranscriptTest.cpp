@@ -78,8 +78,8 @@ TEST_P(Transcript, IsTrue) {
   for (std::string line; std::getline(lines, line);) Replay(line);
   RunCommand();
   fs::current_path(before);
-  if (std::getenv("QV_UPDATE_GOLDEN") != nullptr)
-    WriteBytes(golden, actual);  // NOLINT(concurrency-mt-unsafe)
+  const char* const update = std::getenv("QV_UPDATE_GOLDEN");  // NOLINT(concurrency-mt-unsafe)
+  if (update != nullptr) WriteBytes(golden, actual);
   EXPECT_EQ(actual, ReadBytes(golden)) << golden;
 }
 
