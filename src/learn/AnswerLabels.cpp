@@ -64,7 +64,8 @@ class LabelSearch {
     const std::size_t blank = text_.substr(0, line.end).find_last_of(kBlanks);
     if (blank == text_.npos || blank <= line.begin || blank - line.begin > kLongestLabel) return;
     const TextSpan key{blank + 1, line.end};
-    if (key.Size() <= 3 && LooksLikeKey(key.Of(text_)))
+    const bool isList = text_.substr(line.begin, blank - line.begin).find_first_of(u",;，、") != text_.npos;
+    if (key.Size() <= 3 && !isList && LooksLikeKey(key.Of(text_)))
       found.push_back({Trimmed(text_, {line.begin, blank}), key});
   }
 
@@ -92,11 +93,17 @@ std::u16string Normalised(std::u16string_view label) {
   return key;
 }
 
+/// "C) Rome".
+bool BeginsWithKey(std::u16string_view text) {
+  return text.size() > 2 && !AlphabetLettersOf(text[0]).empty() &&
+         kLabelCloses.find(text[1]) != kLabelCloses.npos;
+}
+
 /// "Answer:", also behind another word: "Model answer:".
 bool SaysAnswer(std::u16string_view label) {
   for (std::size_t at = 0; at < label.size(); ++at) {
     const bool beginsWord = at == 0 || IsBlank(label[at - 1]);
-    if (beginsWord && AnswerLeadSize(label.substr(at)) >= label.size() - at) return true;
+    if (beginsWord && AnswerLeadSize(label.substr(at)) > 1) return true;
   }
   return false;
 }
@@ -138,7 +145,7 @@ std::vector<AnswerLabelFamily> FindAnswerLabels(std::u16string_view text,
       count.last = i + 1;
       if (count.family.label.empty()) count.family.label = line.label.Of(text);
       ++count.family.questions;
-      if (LooksLikeKey(line.rest.Of(text))) ++count.keys;
+      if (LooksLikeKey(line.rest.Of(text)) || BeginsWithKey(line.rest.Of(text))) ++count.keys;
       if (line.isWithin) ++count.within;
     }
   }

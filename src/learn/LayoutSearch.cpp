@@ -79,9 +79,15 @@ TriedLayout LayoutSearch::Search() {
     lines.emplace(kTableOptions);
     TryNumbers(lines);
   }
-  TryAnswerLabels();
+  TryAnswerLabels(LabelKinds::Words);
   TryHeadings();
   TrySteps();
+  // "Level: B" is taken for a key only where nothing else can be one.
+  constexpr double kFewKeys = 0.5;
+  if (best_.score.keys < kFewKeys) {
+    TryAnswerLabels(LabelKinds::Others);
+    TrySteps();
+  }
   TryHeadings();
   Simplify();
   return std::move(best_);
@@ -210,7 +216,7 @@ void LayoutSearch::TryPlainOptions(const RuleDraft& draft) {
   Try(std::move(plain));
 }
 
-void LayoutSearch::TryAnswerLabels() {
+void LayoutSearch::TryAnswerLabels(LabelKinds kinds) {
   const PaperText text = Prepared(best_.draft);
   std::vector<AnswerLabelFamily> families = FindAnswerLabels(text.characters, Bodies(text, best_.draft));
   std::set<std::u16string> marked = marks_.Texts(PaperRole::AnswerLabel);
@@ -221,7 +227,9 @@ void LayoutSearch::TryAnswerLabels() {
   std::set<std::u16string> together = marked;
   for (const AnswerLabelFamily& family : families) {
     constexpr double kSurelyKeys = 0.6;
-    if (family.keys < kSurelyKeys && !family.isWord) continue;
+    const bool isTried =
+        kinds == LabelKinds::Words ? family.isWord : !family.isWord && family.keys >= kSurelyKeys;
+    if (!isTried) continue;
     TryLabels({family.label}, family.standsWithinLines);
     // "Answer:" and "Ans.:" in one paper.
     together.insert(family.label);

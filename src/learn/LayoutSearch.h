@@ -42,7 +42,9 @@ class LayoutSearch {
   void TryFamilies(const PaperText& text, const std::vector<NumberFamily>& numbers, const Steps& steps);
   void TryOptions(RuleDraft draft);
   void TryPlainOptions(const RuleDraft& draft);
-  void TryAnswerLabels();
+  /// Labels that say "answer" in some language, or those that do not.
+  enum class LabelKinds { Words, Others };
+  void TryAnswerLabels(LabelKinds kinds);
   void TryLabels(const std::set<std::u16string>& labels, bool withinLines);
   void TryHeadings();
   void TryMarkedHeadings();

@@ -89,11 +89,10 @@ class RoleFinding {
 
   /// Steps that move answers leave behind what stood around them.
   bool IsOnAnswerLine(std::size_t place) {
-    const std::size_t begin = LineBeginBefore(text_, place);
-    if (begin != lineBegin_) {
-      lineBegin_ = begin;
-      const auto from = roles_.begin() + static_cast<std::ptrdiff_t>(begin);
-      const auto to = roles_.begin() + static_cast<std::ptrdiff_t>(LineEndAfter(text_, place));
+    if (!line_.Contains(place)) {
+      line_ = {LineBeginBefore(text_, place), LineEndAfter(text_, place) + 1};
+      const auto from = roles_.begin() + static_cast<std::ptrdiff_t>(line_.begin);
+      const auto to = roles_.begin() + static_cast<std::ptrdiff_t>(line_.end - 1);
       isAnswerLine_ = std::find(from, to, PaperRole::Answer) != to;
     }
     return isAnswerLine_;
@@ -140,7 +139,7 @@ class RoleFinding {
   const MarkedText& marked_;
   std::vector<PaperRole> roles_;
   std::vector<int> questions_;
-  std::size_t lineBegin_ = std::u16string_view::npos;  ///< of the line that was looked at last
+  TextSpan line_;  ///< the line that was looked at last, with its end
   bool isAnswerLine_ = false;
 };
 

@@ -6,6 +6,7 @@
 #include "import/prepare/AnswerWords.h"
 #include "import/prepare/FoldedText.h"
 #include "import/prepare/QuestionKey.h"
+#include "text/AsciiCase.h"
 
 #include <algorithm>
 #include <optional>
@@ -126,7 +127,17 @@ class KeyLetterScan {
     return end > 0 && (at + end >= answer_.size() || !IsBlank(answer_[at + end]) || IsEnd(at + end + 1));
   }
 
-  bool IsJoined(std::size_t at) const { return at < answer_.size() && AndWordSize(answer_.substr(at)) > 0; }
+  bool IsJoined(std::size_t at) const { return AndSize(at) > 0; }
+
+  /// The size of a word for "and" at a place. A letter alone, as the Italian "e", is one only in front of
+  /// another letter: "A, E" names option E.
+  std::size_t AndSize(std::size_t at) const {
+    if (at >= answer_.size()) return 0;
+    const std::size_t size = AndWordSize(answer_.substr(at));
+    const std::size_t next = SkipBlanks(answer_, at + size, answer_.size());
+    const bool leads = next > at + size && next < answer_.size() && IsLetterOrDigit(answer_[next]);
+    return size == 1 && IsOneOf(Folded(answer_[at]), u"abcdefghij") && !leads ? 0 : size;
+  }
 
   /// Whether the rest, from `at` on, is or begins with the text of that option.
   bool IsTextOf(std::size_t option, std::size_t at) const {
@@ -144,13 +155,13 @@ class KeyLetterScan {
       wasJoined_ = true;
       ++at;
       const std::size_t word = SkipBlanks(answer_, at, answer_.size());
-      if (word < answer_.size()) at = word + AndWordSize(answer_.substr(word));
+      if (word < answer_.size()) at = word + AndSize(word);
     } else if (IsOneOf(UnitAt(at), u"-–—~～至") && at < answer_.size()) {
       isRange = true;
       ++at;
-    } else if (at < answer_.size() && AndWordSize(answer_.substr(at)) > 0) {
+    } else if (AndSize(at) > 0) {
       wasJoined_ = true;
-      at += AndWordSize(answer_.substr(at));
+      at += AndSize(at);
     } else if (UnitAt(at) == u'.' && at + 1 < answer_.size() && IsTokenAt(at + 1)) {
       ++at;
     }
@@ -216,6 +227,24 @@ class KeyLetterScan {
   bool isAtExplanation_ = false;
   bool isUnsure_ = false;
 };
+
+/// Options that follow the first one, each with its text or alone in a line: "A) Rome; C) Oslo".
+void AddFollowing(const std::vector<std::u16string>& texts, std::u16string_view answer,
+                  OptionIndices& found) {
+  constexpr std::u16string_view kSeparators = u";,，；\r\n\v";
+  const std::u16string_view capitals = u"ABCDEFGHIJ";
+  for (std::size_t at = answer.find_first_of(kSeparators); at != answer.npos;
+       at = answer.find_first_of(kSeparators, at + 1)) {
+    const std::size_t letter = std::min(answer.find_first_not_of(u" \t\r\n\v(（", at + 1), answer.size());
+    if (letter + 1 >= answer.size() || !IsOneOf(answer[letter + 1], u".)）、:：")) continue;
+    const std::size_t option = std::min(capitals.find(AsciiUpper(answer[letter])), texts.size());
+    if (option == texts.size() || std::ranges::find(found, option) != found.end()) continue;
+    const std::size_t end = std::min(answer.find_first_of(kSeparators, letter), answer.size());
+    const std::u16string text = FoldedCore(answer.substr(letter + 2, end - std::min(end, letter + 2)));
+    if (text.empty() || text == texts[option]) found.push_back(option);
+  }
+  std::ranges::sort(found);
+}
 
 /// The option whose text the answer is; nothing if none or several are.
 std::optional<std::size_t> OptionOfText(const std::vector<std::u16string>& texts,
@@ -306,6 +335,7 @@ OptionKey ReadOptionKey(std::u16string_view text, const OptionSequence& options,
   if (!letters && led.size() < line.size() && !led.empty())
     letters = KeyLetterScan(options, texts, led, latinLetters).Letters();
   // "AC" may be the letters A and C or the text of an option, a side of a triangle.
+  if (letters && letters->size() == 1) AddFollowing(texts, trimmed.Of(answer), *letters);
   if (letters && byText && letters->size() > 1) return {};
   if (letters && byText && line.size() > 2 && *letters != OptionIndices{*byText}) return {{*byText}};
   if (letters) return {*letters};

@@ -58,6 +58,8 @@ constexpr LetterCase kLatin[] = {
     {u"both A and C", u"AC"},
     {u"B,D because", u"BD"},
     {u"B，因为A不对", u"B"},
+    {u"A) be; C) Paris in France", u"AC"},
+    {u"B) Rome, since A) and D) are wrong", u"B"},
     {u"B；解析：略", u"B"},
     {u"F", u"F"},
     {u"A, F", u""},
@@ -81,6 +83,13 @@ TEST(KeyLetters, AreCapitalAndSure) {
         test.letters.empty() || test.letters.find_first_not_of(u"ABCD") != test.letters.npos;
     EXPECT_EQ(KeysNotOptions(PaperOf(text), KeyRules(u"KeyLetters"), {}).size(), isUnclear ? 1U : 0U);
   }
+}
+
+TEST(KeyLetters, OptionEIsNoWordForAnd) {
+  const std::u16string question = u"1. What?\nA. v\nB. w\nC. x\nD. y\nE. z\nAnswer: ";
+  for (const auto& [answer, letters] :
+       {std::pair{u"A, E", u"AE"}, {u"B+E", u"BE"}, {u"A, C, D, E", u"ACDE"}, {u"A e C", u"AC"}})
+    EXPECT_EQ(AfterSteps(u"KeyLetters", question + answer + u"\n"), question + letters + u"\n");
 }
 
 struct ScriptCase {
