@@ -100,7 +100,7 @@ void LayoutSearch::Check() const {
 
 TriedLayout LayoutSearch::Tried(RuleDraft draft) const {
   Check();
-  constexpr double kWeightOfMarks = 20;
+  constexpr double kWeightOfMarks = 8;
   TriedLayout tried;
   tried.rules = RulesOf(draft);
   tried.draft = std::move(draft);

@@ -73,6 +73,15 @@ bool MarkedPlaces::IsFollowed(const PaperMark& mark, const std::vector<RolePart>
   return all > 0 && same * 10 >= all * kTenths && !GoesOnBehind(mark, roles);
 }
 
+/// Rules leave out whole lines; no layout is better for a word that cannot be left out.
+bool MarkedPlaces::CanBeFollowed(const PaperMark& mark) const {
+  if (mark.role != PaperRole::Heading && mark.role != PaperRole::NotExam) return true;
+  const std::u16string_view source = paper_.source.characters;
+  const TextSpan span = Trimmed(source, Within(mark.span, source.size()));
+  return BeginsLine(source, span.begin) &&
+         SkipBlanks(source, span.end, source.size()) == LineEndAfter(source, span.end);
+}
+
 /// Whether lines behind a marked option have become part of it.
 bool MarkedPlaces::GoesOnBehind(const PaperMark& mark, const std::vector<RolePart>& roles) const {
   if (mark.role != PaperRole::Option) return false;
@@ -110,8 +119,14 @@ std::set<std::u16string> MarkedPlaces::LinesBehindOptions(const std::vector<Role
 }
 
 double MarkedPlaces::Followed(const std::vector<RolePart>& roles) const {
-  if (marks_.empty()) return 1;
-  return 1 - static_cast<double>(Unfollowed(roles).size()) / static_cast<double>(marks_.size());
+  double all = 0;
+  double followed = 0;
+  for (const PaperMark& mark : marks_) {
+    if (!CanBeFollowed(mark)) continue;
+    all += 1;
+    if (IsFollowed(mark, roles)) followed += 1;
+  }
+  return all > 0 ? followed / all : 1;
 }
 
 std::vector<std::size_t> MarkedPlaces::Unfollowed(const std::vector<RolePart>& roles) const {

@@ -41,6 +41,7 @@ class MarkedPlaces {
   std::vector<std::size_t> Unfollowed(const std::vector<RolePart>& roles) const;
 
  private:
+  bool CanBeFollowed(const PaperMark& mark) const;
   bool IsFollowed(const PaperMark& mark, const std::vector<RolePart>& roles) const;
   bool GoesOnBehind(const PaperMark& mark, const std::vector<RolePart>& roles) const;
   static bool BelongTogether(std::vector<RolePart>::const_iterator one,

@@ -364,6 +364,7 @@ void CQuorvantisDlg::PostContentChanged() {
 void CQuorvantisDlg::closeEvent(QCloseEvent* event) {
   if (previewWindow_ && previewWindow_->IsOnScreen()) RenewPreviewWindow();
   event->setAccepted(endsUnasked_ || editor_.files.ConfirmClose());
+  if (event->isAccepted()) studio_.MainWindowCloses();
 }
 
 void CQuorvantisDlg::EndUnasked() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/main/StudioCommands.h"
 
+#include "desktop/controls/QtText.h"
 #include "host/ImportRules.h"
 #include "host/SavedRules.h"
 #include "import/ExamImport.h"
@@ -12,6 +13,8 @@
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "text/PathText.h"
+
+#include <QMessageBox>
 
 #include <utility>
 
@@ -44,10 +47,20 @@ StudioServices StudioCommands::Services() {
   services.saveRules = [this](const Repository& rules, std::filesystem::path& file) {
     return SaveRules(rules, file);
   };
-  services.askYesNo = [this](std::u16string_view question) {
-    return editor_.state.document.Services().dialogs.AskYesNo(question);
-  };
+  services.askYesNo = [this](std::u16string_view question) { return AskOverStudio(question); };
   return services;
+}
+
+/// The question lies over the studio, which has the keyboard again afterwards. Enter loses nothing.
+bool StudioCommands::AskOverStudio(std::u16string_view question) {
+  QMessageBox box(QMessageBox::Question, studio_->windowTitle(), ToQString(question),
+                  QMessageBox::Yes | QMessageBox::No, studio_);
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+void StudioCommands::MainWindowCloses() {
+  if (studio_ != nullptr) studio_->hide();
 }
 
 void StudioCommands::ImportPaper() {
@@ -66,7 +79,7 @@ void StudioCommands::WorkOutRules(const std::filesystem::path& paper) {
 std::optional<std::filesystem::path> StudioCommands::ChoosePaper() {
   const ExamServices& services = editor_.state.document.Services();
   const std::u16string filter =
-      services.strings.Text(text_id::kImportFilter) + services.strings.Text(text_id::kOtherDocuments);
+      services.strings.Text(text_id::kPapers) + services.strings.Text(text_id::kImportFilter);
   return services.dialogs.ChooseFileToOpen({filter, {}, {}});
 }
 

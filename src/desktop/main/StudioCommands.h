@@ -37,7 +37,11 @@ class StudioCommands {
     if (studio_ != nullptr) studio_->ExamChanged();
   }
 
+  /// The studio goes with the main window.
+  void MainWindowCloses();
+
  private:
+  bool AskOverStudio(std::u16string_view question);
   StudioWindow& Window();
   StudioServices Services();
   std::optional<std::filesystem::path> ChoosePaper();

@@ -116,7 +116,9 @@ void StudioWindow::Open() {
 
 void StudioWindow::OpenPaper(const std::filesystem::path& paper) {
   Open();
-  if (MayLeavePaper()) ReadPaper({paper});
+  if (!MayLeavePaper()) return;
+  controls_.target->Reset();
+  ReadPaper({paper});
 }
 
 void StudioWindow::ExamChanged() {
@@ -328,7 +330,12 @@ void StudioWindow::ImportQuestions() {
     const QScopedValueRollback importing(isImporting_, true);
     isDone = program_.import({paper_, RulesToUse(), controls_.target->Wish()});
   }
-  if (!isDone) return ShowTarget();
+  if (!isDone) {
+    // The dialogs of the import lay over the main window.
+    raise();
+    activateWindow();
+    return ShowTarget();
+  }
   Leave();
   controls_.Tell({});
   hide();

@@ -49,6 +49,10 @@ ImportWish TargetChoice::Wish() const {
   return {from_->isChecked() ? Where::From : Where::BehindLast, number_->value()};
 }
 
+void TargetChoice::Reset() {
+  behind_->setChecked(true);
+}
+
 void TargetChoice::Propose(int question) {
   const QSignalBlocker quiet(number_);
   if (!from_->isChecked()) number_->setValue(question);

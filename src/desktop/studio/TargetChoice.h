@@ -21,6 +21,9 @@ class TargetChoice : public QGroupBox {
 
   ImportWish Wish() const;
 
+  /// Behind the last question, as for every new paper.
+  void Reset();
+
   /// Proposes the number for "Insert from question".
   void Propose(int question);
 

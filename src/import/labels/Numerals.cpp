@@ -66,7 +66,7 @@ std::u16string RomanText(int value, bool isUpper) {
 
 /// Only numbers that are written as they should be: "IIX" is a word.
 Numeral Roman(std::u16string_view text, bool isUpper) {
-  constexpr int kLargestRoman = 399;
+  constexpr int kLargestRoman = 49;
   std::size_t size = 0;
   int value = 0;
   for (int next = 0; size < text.size(); ++size) {
