@@ -85,8 +85,8 @@ TEST(Leftovers, GoWheneverTheSignalComes) {
     const pid_t child = ::fork();
     if (child == 0) {
       RemoveLeftoversOnSignals();
-      setenv("TMPDIR", folder.Path().c_str(),
-             1);  // NOLINT(concurrency-mt-unsafe): a forked child has one thread
+      // A forked child has one thread. NOLINTNEXTLINE(concurrency-mt-unsafe)
+      setenv("TMPDIR", folder.Path().c_str(), 1);
       while (true) {
         const PrivateFolder made;
         std::error_code error;
