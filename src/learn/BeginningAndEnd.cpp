@@ -56,6 +56,7 @@ void BeginningAndEnd::Cut() {
 
 std::vector<std::size_t> BeginningAndEnd::OriginalIndices(const std::vector<std::size_t>& indices) const {
   std::vector<std::size_t> original;
+  original.reserve(indices.size());
   for (const std::size_t index : indices) original.push_back(indices_[index]);
   return original;
 }

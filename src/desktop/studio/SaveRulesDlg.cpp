@@ -36,8 +36,9 @@ SaveRulesDlg::SaveRulesDlg(const QString& proposed, Save save, const StringTable
   buttons->addButton(ToQString(strings.Text(text_id::kClose)), QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::accepted, this, &SaveRulesDlg::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &SaveRulesDlg::reject);
-  auto* layout = new QVBoxLayout(this);
+  auto* layout = new QVBoxLayout;
   for (QWidget* part : std::initializer_list<QWidget*>{label, name_, why_, buttons}) layout->addWidget(part);
+  setLayout(layout);
 }
 
 void SaveRulesDlg::accept() {
