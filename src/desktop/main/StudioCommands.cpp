@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/main/StudioCommands.h"
 
-#include "desktop/controls/QtText.h"
 #include "host/ImportRules.h"
 #include "host/SavedRules.h"
 #include "import/ExamImport.h"
@@ -13,8 +12,6 @@
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "text/PathText.h"
-
-#include <QMessageBox>
 
 #include <utility>
 
@@ -47,16 +44,10 @@ StudioServices StudioCommands::Services() {
   services.saveRules = [this](const Repository& rules, std::filesystem::path& file) {
     return SaveRules(rules, file);
   };
-  services.askYesNo = [this](std::u16string_view question) { return AskOverStudio(question); };
+  services.askYesNo = [this](std::u16string_view question) {
+    return editor_.state.document.Services().dialogs.AskYesNo(question);
+  };
   return services;
-}
-
-/// The question lies over the studio, which has the keyboard again afterwards. Enter loses nothing.
-bool StudioCommands::AskOverStudio(std::u16string_view question) {
-  QMessageBox box(QMessageBox::Question, studio_->windowTitle(), ToQString(question),
-                  QMessageBox::Yes | QMessageBox::No, studio_);
-  box.setDefaultButton(QMessageBox::No);
-  return box.exec() == QMessageBox::Yes;
 }
 
 void StudioCommands::MainWindowCloses() {

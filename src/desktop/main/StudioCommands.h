@@ -41,7 +41,6 @@ class StudioCommands {
   void MainWindowCloses();
 
  private:
-  bool AskOverStudio(std::u16string_view question);
   StudioWindow& Window();
   StudioServices Services();
   std::optional<std::filesystem::path> ChoosePaper();

@@ -143,7 +143,11 @@ void StudioWindow::PastePaper() {
 
 bool StudioWindow::MayLeavePaper() {
   if (!study_ || study_->Marks().empty()) return true;
-  return program_.askYesNo(strings_.Text(text_id::kLoseMarks));
+  const bool mayLeave = program_.askYesNo(strings_.Text(text_id::kLoseMarks));
+  // The question lay over the main window, which must not get the next key.
+  raise();
+  activateWindow();
+  return mayLeave;
 }
 
 void StudioWindow::ReadPaper(WantedPaper wanted) {
