@@ -11,7 +11,7 @@ struct SearchQuery {
   std::u16string text;
   bool isPattern = false;   ///< the text is a regular expression of our matcher
   bool matchCase = false;   ///< "A" is not "a"
-  bool wholeWords = false;  ///< see search/WordBorders.h
+  bool wholeWords = false;  ///< see regex/WordBorders.h
 
   bool operator==(const SearchQuery&) const = default;
 };

@@ -3,7 +3,7 @@
 
 #include "regex/RegexFlags.h"
 #include "search/SearchedText.h"
-#include "search/WordBorders.h"
+#include "regex/WordBorders.h"
 #include "text/LineBreaks.h"
 #include "text/Utf.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "search/WordBorders.h"
+#include "regex/WordBorders.h"
 
 #include "regex/CharacterSet.h"
 
