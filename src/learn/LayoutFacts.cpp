@@ -3,6 +3,7 @@
 
 #include "import/labels/LineText.h"
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/StepNames.h"
 #include "learn/ReadingRoles.h"
 #include "text/NumberText.h"
 
@@ -79,15 +80,15 @@ class FactList {
   }
 
   void AddOptions() {
-    if (Has(u"TableOptions")) Add(text_id::kLearnedOptionsInTables);
-    if (Has(u"PlainOptions")) Add(text_id::kLearnedPlainOptions);
+    if (Has(step_name::kTableOptions)) Add(text_id::kLearnedOptionsInTables);
+    if (Has(step_name::kPlainOptions)) Add(text_id::kLearnedPlainOptions);
     if (!draft_.options.IsEmpty()) {
       Add(text_id::kLearnedOptions, {draft_.options.Example()});
       if (!draft_.optionsAtLineStarts) Add(text_id::kLearnedOptionsInLine);
     } else if (layout_.score.choices <= 0) {
       Add(text_id::kLearnedNoOptions);
     }
-    if (Has(u"MixedLetters")) Add(text_id::kLearnedMixedLetters);
+    if (Has(step_name::kMixedLetters)) Add(text_id::kLearnedMixedLetters);
   }
 
   void AddAnswers() {
@@ -95,15 +96,15 @@ class FactList {
       std::u16string_view step;
       int text;
     };
-    constexpr StepFact kStepFacts[] = {{u"KeyAtEnd", text_id::kLearnedKeyAtEndPlain}};
+    constexpr StepFact kStepFacts[] = {{step_name::kKeyAtEnd, text_id::kLearnedKeyAtEndPlain}};
     for (const std::u16string& label : draft_.answerLabels) Add(text_id::kLearnedAnswerLabel, {label});
     for (const StepFact& fact : kStepFacts) {
       if (Has(fact.step)) Add(fact.text);
     }
-    if (Has(u"EmphasisedKey")) Add(EmphasisOfKeys());
-    if (Has(u"SignedKey")) AddExample(text_id::kLearnedKeySign, ReplacedBesideAnswer());
-    if (Has(u"KeyInStem")) AddExample(text_id::kLearnedKeyInStem, ExampleOfKey());
-    if (Has(u"KeyLetters")) AddExample(text_id::kLearnedKeyLetters, ExampleOfKey());
+    if (Has(step_name::kEmphasisedKey)) Add(EmphasisOfKeys());
+    if (Has(step_name::kSignedKey)) AddExample(text_id::kLearnedKeySign, ReplacedBesideAnswer());
+    if (Has(step_name::kKeyInStem)) AddExample(text_id::kLearnedKeyInStem, ExampleOfKey());
+    if (Has(step_name::kKeyLetters)) AddExample(text_id::kLearnedKeyLetters, ExampleOfKey());
     AddAnswered();
   }
 
@@ -182,8 +183,8 @@ class FactList {
   void AddLeftOut() {
     if (const std::u16string heading = FirstWith(PaperRole::Heading); !heading.empty())
       Add(text_id::kLearnedHeadings, {heading});
-    if (Has(u"BlankForms")) AddBlank();
-    if (Has(u"SoftBreaks")) Add(text_id::kLearnedSoftBreaks);
+    if (Has(step_name::kBlankForms)) AddBlank();
+    if (Has(step_name::kSoftBreaks)) Add(text_id::kLearnedSoftBreaks);
   }
 
   void AddBlank() {

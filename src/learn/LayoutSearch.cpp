@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/prepare/PreparationSteps.h"
 #include "import/prepare/PreparedLabels.h"
+#include "import/prepare/StepNames.h"
 #include "learn/AnswerLabels.h"
 #include "learn/Headings.h"
 #include "learn/ReadingRoles.h"
@@ -14,22 +15,9 @@
 namespace quorvantis {
 namespace {
 
-/// Steps that change how lines and questions are told apart; they are tried before anything else.
-constexpr std::u16string_view kSoftBreaks = u"SoftBreaks";
-constexpr std::u16string_view kTableOptions = u"TableOptions";
-constexpr std::u16string_view kUnnumbered = u"Unnumbered";
-constexpr std::u16string_view kPlainOptions = u"PlainOptions";
-constexpr std::u16string_view kMixedLetters = u"MixedLetters";
-constexpr std::u16string_view kAnswerSlips = u"AnswerSlips";
-constexpr std::u16string_view kNoise = u"Noise";
-constexpr std::u16string_view kKeyAtEnd = u"KeyAtEnd";
-constexpr std::u16string_view kSignedKey = u"SignedKey";
-constexpr std::u16string_view kKeyLetters = u"KeyLetters";
-constexpr std::u16string_view kJudgement = u"Judgement";
-constexpr std::u16string_view kOpenAnswers = u"OpenAnswers";
-
 /// Steps whose work makes no reading better by itself, but is right wherever they find something to do.
-constexpr std::u16string_view kHarmless[] = {u"KeyInStem", u"BlankForms", kNoise, kKeyLetters};
+constexpr std::u16string_view kHarmless[] = {step_name::kKeyInStem, step_name::kBlankForms, step_name::kNoise,
+                                             step_name::kKeyLetters};
 
 bool HasSoftBreaks(const Paper& paper) {
   return std::ranges::count(paper.source.characters, u'\v') > 1;
@@ -71,12 +59,12 @@ bool Covers(const NumberFamily& family, const TextSpan& mark) {
 
 TriedLayout LayoutSearch::Search() {
   Steps lines;
-  if (HasSoftBreaks(paper_)) lines.emplace(kSoftBreaks);
-  lines.emplace(kMixedLetters);
-  lines.emplace(kAnswerSlips);
+  if (HasSoftBreaks(paper_)) lines.emplace(step_name::kSoftBreaks);
+  lines.emplace(step_name::kMixedLetters);
+  lines.emplace(step_name::kAnswerSlips);
   TryNumbers(lines);
   if (!paper_.tables.empty()) {
-    lines.emplace(kTableOptions);
+    lines.emplace(step_name::kTableOptions);
     TryNumbers(lines);
   }
   TryAnswerLabels(LabelKinds::Words);
@@ -164,7 +152,7 @@ void LayoutSearch::TryNumbers(const Steps& steps) {
   // Few numbers, or none: blank lines and options may tell the questions apart.
   if (!families.empty() && AreNumbersOfQuestions(families.front())) return;
   Steps unnumbered = steps;
-  unnumbered.emplace(kUnnumbered);
+  unnumbered.emplace(step_name::kUnnumbered);
   TryFamilies(text, {}, unnumbered);
 }
 
@@ -173,21 +161,21 @@ void LayoutSearch::TryFamilies(const PaperText& text, const std::vector<NumberFa
   RuleDraft draft;
   draft.numbers = numbers;
   draft.steps = steps;
-  const PaperText numbered = steps.contains(kUnnumbered) ? Prepared(draft) : text;
+  const PaperText numbered = steps.contains(step_name::kUnnumbered) ? Prepared(draft) : text;
   draft.options = FindOptionFamily(numbered.characters, Bodies(numbered, draft));
   RuleDraft open = draft;
-  open.steps.emplace(kOpenAnswers);
+  open.steps.emplace(step_name::kOpenAnswers);
   TryOptions(std::move(open));
   // Answers at the end would be taken for options, or for questions.
-  draft.steps.emplace(kKeyAtEnd);
+  draft.steps.emplace(step_name::kKeyAtEnd);
   const PaperText withoutKey = Prepared(draft);
   if (withoutKey.characters == numbered.characters) return;
   draft.options = FindOptionFamily(withoutKey.characters, Bodies(withoutKey, draft));
-  draft.steps.emplace(kOpenAnswers);
+  draft.steps.emplace(step_name::kOpenAnswers);
   TryOptions(draft);
-  draft.steps.emplace(kKeyLetters);
+  draft.steps.emplace(step_name::kKeyLetters);
   TryOptions(draft);
-  draft.steps.emplace(kJudgement);
+  draft.steps.emplace(step_name::kJudgement);
   TryOptions(std::move(draft));
 }
 
@@ -209,10 +197,10 @@ void LayoutSearch::TryOptions(RuleDraft draft) {
 /// Options without labels show only when a step gives them some.
 void LayoutSearch::TryPlainOptions(const RuleDraft& draft) {
   RuleDraft plain = draft;
-  plain.steps.emplace(kPlainOptions);
+  plain.steps.emplace(step_name::kPlainOptions);
   Try(plain);
   // Boxes that are ticked stay as signs in front of the labels.
-  plain.steps.emplace(kSignedKey);
+  plain.steps.emplace(step_name::kSignedKey);
   Try(std::move(plain));
 }
 
@@ -243,9 +231,9 @@ void LayoutSearch::TryLabels(const std::set<std::u16string>& labels, bool within
   draft.labelsWithinLines = withinLines;
   Try(draft);
   // Keys in other letters show only as capitals.
-  draft.steps.emplace(kKeyLetters);
+  draft.steps.emplace(step_name::kKeyLetters);
   Try(draft);
-  draft.steps.emplace(kJudgement);
+  draft.steps.emplace(step_name::kJudgement);
   Try(std::move(draft));
 }
 
@@ -260,7 +248,7 @@ void LayoutSearch::TryHeadings() {
     if (FitsFile(RulesOf(longer))) draft = std::move(longer);
   }
   if (draft.headings == best_.draft.headings) return;
-  draft.steps.emplace(kNoise);
+  draft.steps.emplace(step_name::kNoise);
   Try(std::move(draft), true);
 }
 
@@ -274,14 +262,15 @@ void LayoutSearch::TryMarkedHeadings() {
       draft.headings.insert(HeadingPattern(Trimmed(text, line).Of(text)));
   }
   if (draft.headings == best_.draft.headings) return;
-  draft.steps.emplace(kNoise);
+  draft.steps.emplace(step_name::kNoise);
   if (Try(draft, true)) return;
   // A line that the answers follow at the end of the paper.
   for (const std::u16string& text : marked) {
     draft = best_.draft;
     draft.answersFrom = HeadingPattern(Trimmed(text, {0, LineEndAfter(text, 0)}).Of(text));
-    draft.steps.emplace(kNoise);
-    for (const std::u16string_view step : {kNoise, kKeyAtEnd, kKeyLetters, kJudgement}) {
+    draft.steps.emplace(step_name::kNoise);
+    for (const std::u16string_view step :
+         {step_name::kNoise, step_name::kKeyAtEnd, step_name::kKeyLetters, step_name::kJudgement}) {
       draft.steps.emplace(step);
       Try(draft);
     }
@@ -307,11 +296,13 @@ bool LayoutSearch::TryBestStep() {
   const std::u16string before = Prepared(best_.draft).characters;
   TriedLayout bestStep;
   for (const PreparationStep& step : PreparationSteps()) {
-    if (best_.draft.HasStep(step.name) || step.name == kUnnumbered || step.name == kTableOptions) continue;
+    if (best_.draft.HasStep(step.name) || step.name == step_name::kUnnumbered ||
+        step.name == step_name::kTableOptions)
+      continue;
     RuleDraft draft = best_.draft;
     draft.steps.emplace(step.name);
     if (Prepared(draft).characters == before) continue;
-    for (const std::u16string_view reading : {step.name, kKeyLetters, kJudgement}) {
+    for (const std::u16string_view reading : {step.name, step_name::kKeyLetters, step_name::kJudgement}) {
       draft.steps.emplace(reading);
       TriedLayout tried = Tried(draft);
       if (tried.total > bestStep.total) bestStep = std::move(tried);

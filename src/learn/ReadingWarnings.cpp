@@ -5,6 +5,7 @@
 #include "import/labels/OptionSequence.h"
 #include "import/marking/ImportMarkers.h"
 #include "import/prepare/KeyReports.h"
+#include "import/prepare/StepNames.h"
 #include "learn/PaperNumbers.h"
 #include "learn/VisibleKey.h"
 #include "model/AnswerLetters.h"
@@ -108,7 +109,7 @@ class WarningSearch {
   /// The step for it leaves alone what is not clear.
   void LookAtKeyAtEnd() {
     const bool isUsed = std::ranges::any_of(rules_.prepare, [](const std::u16string& step) {
-      return EqualsIgnoringAsciiCase(step, u"KeyAtEnd");
+      return EqualsIgnoringAsciiCase(step, step_name::kKeyAtEnd);
     });
     if (!isUsed) return;
     try {

@@ -2,7 +2,8 @@
 #include "learn/RuleComments.h"
 
 #include "import/marking/RuleKeys.h"
-#include "text/AsciiCase.h"
+#include "import/prepare/PreparationSteps.h"
+#include "learn/RuleFields.h"
 
 #include <algorithm>
 #include <utility>
@@ -54,25 +55,6 @@ constexpr Words kAnswerFeatures[] = {
     {u"\u27E6", u"the sign that a step has put in"},
 };
 
-constexpr Words kStepComments[] = {
-    {u"SoftBreaks", u"line breaks end lines"},
-    {u"TableOptions", u"cells of tables become lines"},
-    {u"MixedLetters", u"option letters of another script become those that they look like"},
-    {u"AnswerSlips", u"misspelt labels of answers are mended"},
-    {u"Noise", u"page heads and the like are left out"},
-    {u"Passages", u"texts between questions go to the one behind them"},
-    {u"Unnumbered", u"questions without numbers get some"},
-    {u"PlainOptions", u"options without labels get some"},
-    {u"KeyAtEnd", u"answers at the end go to their questions, by number"},
-    {u"SignedKey", u"a sign marks the right option"},
-    {u"EmphasisedKey", u"bold type or colour marks the right option"},
-    {u"KeyInStem", u"a letter in the question is its answer"},
-    {u"KeyLetters", u"answers become capital letters"},
-    {u"Judgement", u"true/false questions get two options"},
-    {u"BlankForms", u"blanks become ___"},
-    {u"OpenAnswers", u"questions without an answer are read, too"},
-};
-
 template <std::size_t N>
 std::u16string FeatureList(const Words (&features)[N], std::u16string_view value) {
   std::u16string list;
@@ -96,9 +78,10 @@ std::u16string PartsComment(std::u16string_view value) {
 
 std::u16string StepList(std::u16string_view value) {
   std::u16string comment = u"Before the rules are applied";
-  for (const auto& [step, words] : kStepComments) {
-    if (value.find(step) == value.npos) continue;
-    comment.append(comment.find(u':') == comment.npos ? u": " : u"; ").append(words);
+  const std::vector<std::u16string> named = ReadPrepareList(value);
+  for (const PreparationStep& step : PreparationSteps()) {
+    if (!HasStep(named, step.name)) continue;
+    comment.append(comment.find(u':') == comment.npos ? u": " : u"; ").append(step.comment);
   }
   return comment + u".";
 }
@@ -123,12 +106,6 @@ std::u16string RuleComment(std::u16string_view key, std::u16string_view value) {
     return WithFeatures(words, features.empty() ? features : u"its label, or " + features);
   }
   return std::u16string(words);
-}
-
-std::u16string_view StepComment(std::u16string_view step) {
-  const auto* found = std::ranges::find_if(
-      kStepComments, [step](const Words& words) { return EqualsIgnoringAsciiCase(words.first, step); });
-  return found == std::end(kStepComments) ? std::u16string_view() : found->second;
 }
 
 }  // namespace quorvantis

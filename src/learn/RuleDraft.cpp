@@ -4,7 +4,7 @@
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/PreparationSteps.h"
 #include "import/prepare/PreparedLabels.h"
-#include "import/prepare/Steps.h"
+#include "import/prepare/StepNames.h"
 #include "learn/PatternText.h"
 #include "model/AnswerLetters.h"
 #include "model/ExamLimits.h"
@@ -20,7 +20,7 @@ std::u16string PreQuestion(const RuleDraft& draft) {
   const std::u16string prepared = u"(?<!!)\\s*^" + std::u16string(kPreparedNumberPattern) + u"[ ]*";
   if (draft.numbers.empty()) return prepared;
   const std::u16string pattern = draft.numbers.front().Pattern();
-  return draft.HasStep(kTableStep) ? u"(?:" + pattern + u"|" + prepared + u")" : pattern;
+  return draft.HasStep(step_name::kTableOptions) ? u"(?:" + pattern + u"|" + prepared + u")" : pattern;
 }
 
 std::u16string PreAnswer(const RuleDraft& draft) {
@@ -51,8 +51,8 @@ std::u16string ChoicePattern(const RuleDraft& draft) {
 
 std::u16string Pattern(const RuleDraft& draft) {
   const std::u16string other = u"(?<Q2>.*\\S)";
-  const bool hasOptions = !draft.options.IsEmpty() || draft.HasStep(u"PlainOptions") ||
-                          draft.HasStep(u"TableOptions") || draft.HasStep(u"Judgement");
+  const bool hasOptions = !draft.options.IsEmpty() || draft.HasStep(step_name::kPlainOptions) ||
+                          draft.HasStep(step_name::kTableOptions) || draft.HasStep(step_name::kJudgement);
   return hasOptions ? ChoicePattern(draft) + u"|" + other : other;
 }
 

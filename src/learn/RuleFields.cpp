@@ -9,7 +9,6 @@
 #include "text/NumberText.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace quorvantis {
 namespace {
@@ -30,22 +29,6 @@ constexpr RuleField kFields[] = {
     {rule_key::kJudgementAnswer, text_id::kRuleOneKey, &ImportSettings::m_strJudgementAnswer},
     {rule_key::kQuestionKey, text_id::kRuleQuestionKey, &ImportSettings::m_strTableQuesKey, false},
     {rule_key::kAnswerKey, text_id::kRuleAnswerKey, &ImportSettings::m_strTableAnsKey, false},
-};
-
-struct Sentence {
-  std::u16string_view step;
-  int words;
-};
-
-constexpr Sentence kSentences[] = {
-    {u"SoftBreaks", text_id::kStepSoftBreaks},       {u"TableOptions", text_id::kStepTableOptions},
-    {u"MixedLetters", text_id::kStepMixedLetters},   {u"Noise", text_id::kStepNoise},
-    {u"Unnumbered", text_id::kStepUnnumbered},       {u"PlainOptions", text_id::kStepPlainOptions},
-    {u"KeyAtEnd", text_id::kStepKeyAtEnd},           {u"SignedKey", text_id::kStepSignedKey},
-    {u"EmphasisedKey", text_id::kStepEmphasisedKey}, {u"KeyInStem", text_id::kStepKeyInStem},
-    {u"KeyLetters", text_id::kStepKeyLetters},       {u"Judgement", text_id::kStepJudgement},
-    {u"AnswerSlips", text_id::kStepAnswerSlips},     {u"Passages", text_id::kStepPassages},
-    {u"BlankForms", text_id::kStepBlankForms},       {u"OpenAnswers", text_id::kStepOpenAnswers},
 };
 
 }  // namespace
@@ -84,12 +67,6 @@ std::u16string RuleStateText(const RuleField& field, std::u16string_view value, 
   if (!fault.empty()) return fault;
   const int matches = MatchesOf(field.key, reading);
   return FillMessage(strings.Text(text_id::kRuleMatches), {FormatInteger(matches)});
-}
-
-int StepSentence(std::u16string_view step) {
-  const auto found = std::find_if(std::begin(kSentences), std::end(kSentences),
-                                  [step](const Sentence& sentence) { return sentence.step == step; });
-  return found == std::end(kSentences) ? 0 : found->words;
 }
 
 std::vector<std::u16string> WithStep(const std::vector<std::u16string>& prepare, std::u16string_view step,

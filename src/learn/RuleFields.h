@@ -33,9 +33,6 @@ std::u16string RuleFault(const RuleField& field, std::u16string_view value, cons
 std::u16string RuleStateText(const RuleField& field, std::u16string_view value, const PaperReading& reading,
                              const StringTable& strings);
 
-/// The number of the sentence about a step of "Prepare"; 0 for an unknown one.
-int StepSentence(std::u16string_view step);
-
 /// "Prepare" with a step switched on or off. Names that are no steps stay.
 std::vector<std::u16string> WithStep(const std::vector<std::u16string>& prepare, std::u16string_view step,
                                      bool isOn);

@@ -75,8 +75,7 @@ void RulesPanel::AddSteps(QWidget* content) {
   grid->addWidget(PlainLabel(heading, content), grid->rowCount(), 0, 1, 4);
   for (const PreparationStep& step : PreparationSteps()) {
     const QString name = ToQString(std::u16string(step.name));
-    const int sentence = StepSentence(step.name);
-    const QString words = sentence == 0 ? name : ToQString(strings_.Text(sentence));
+    const QString words = ToQString(strings_.Text(step.sentence));
     auto* box = new QCheckBox(QString(words).replace('&', "&&"), content);
     box->setObjectName("step" + name);
     connect(box, &QCheckBox::clicked, this, &RulesPanel::Edited);

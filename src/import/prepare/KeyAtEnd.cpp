@@ -6,6 +6,7 @@
 #include "import/prepare/KeySection.h"
 #include "import/prepare/OptionKey.h"
 #include "import/prepare/QuestionKey.h"
+#include "import/prepare/StepNames.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>
@@ -54,7 +55,7 @@ void step::KeyAtEnd(PaperText& text, const PreparationContext& context) {
 
 std::vector<KeyConflict> KeyConflicts(const Paper& paper, const ImportSettings& rules,
                                       const CancelHook& isCancelled) {
-  const PaperText text = PreparedBefore(paper, rules, u"KeyAtEnd", isCancelled);
+  const PaperText text = PreparedBefore(paper, rules, step_name::kKeyAtEnd, isCancelled);
   const PaperOutline outline = OutlineOf(text, rules, isCancelled);
   const std::optional<KeySection> section = FindKeySection(text.characters, outline).section;
   std::vector<KeyConflict> conflicts;
@@ -71,7 +72,7 @@ std::vector<KeyConflict> KeyConflicts(const Paper& paper, const ImportSettings& 
 }
 
 bool HasUnmatchedKey(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled) {
-  const PaperText text = PreparedBefore(paper, rules, u"KeyAtEnd", isCancelled);
+  const PaperText text = PreparedBefore(paper, rules, step_name::kKeyAtEnd, isCancelled);
   return FindKeySection(text.characters, OutlineOf(text, rules, isCancelled)).isUnmatched;
 }
 

@@ -4,6 +4,7 @@
 #include "import/prepare/KeyReports.h"
 #include "import/prepare/OptionKey.h"
 #include "import/prepare/QuestionKey.h"
+#include "import/prepare/StepNames.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>
@@ -111,7 +112,7 @@ void step::KeyLetters(PaperText& text, const PreparationContext& context) {
 
 std::vector<UnclearKey> KeysNotOptions(const Paper& paper, const ImportSettings& rules,
                                        const CancelHook& isCancelled) {
-  const PaperText text = PreparedBefore(paper, rules, u"KeyLetters", isCancelled);
+  const PaperText text = PreparedBefore(paper, rules, step_name::kKeyLetters, isCancelled);
   const PaperOutline outline = OutlineOf(text, rules, isCancelled);
   const AnswerLetters lettersOf(text, outline, paper.source);
   std::vector<UnclearKey> unclear;

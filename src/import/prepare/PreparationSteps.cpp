@@ -2,7 +2,9 @@
 #include "import/prepare/PreparationSteps.h"
 
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/StepNames.h"
 #include "import/prepare/Steps.h"
+#include "platform/TextNumbers.h"
 #include "text/AsciiCase.h"
 
 #include <algorithm>
@@ -11,14 +13,33 @@ namespace quorvantis {
 namespace {
 
 constexpr PreparationStep kSteps[] = {
-    {u"SoftBreaks", step::SoftBreaks},       {u"TableOptions", step::TableOptions},
-    {u"MixedLetters", step::MixedLetters},   {u"AnswerSlips", step::AnswerSlips},
-    {u"Unnumbered", step::Unnumbered},       {u"PlainOptions", step::PlainOptions},
-    {u"KeyAtEnd", step::KeyAtEnd},           {u"Noise", step::Noise},
-    {u"Passages", step::Passages},           {u"SignedKey", step::SignedKey},
-    {u"EmphasisedKey", step::EmphasisedKey}, {u"KeyInStem", step::KeyInStem},
-    {u"KeyLetters", step::KeyLetters},       {u"Judgement", step::Judgement},
-    {u"BlankForms", step::BlankForms},       {u"OpenAnswers", step::OpenAnswers},
+    {step_name::kSoftBreaks, step::SoftBreaks, text_id::kStepSoftBreaks, u"line breaks end lines"},
+    {step_name::kTableOptions, step::TableOptions, text_id::kStepTableOptions,
+     u"cells of tables become lines"},
+    {step_name::kMixedLetters, step::MixedLetters, text_id::kStepMixedLetters,
+     u"option letters of another script become those that they look like"},
+    {step_name::kAnswerSlips, step::AnswerSlips, text_id::kStepAnswerSlips,
+     u"misspelt labels of answers are mended"},
+    {step_name::kUnnumbered, step::Unnumbered, text_id::kStepUnnumbered,
+     u"questions without numbers get some"},
+    {step_name::kPlainOptions, step::PlainOptions, text_id::kStepPlainOptions,
+     u"options without labels get some"},
+    {step_name::kKeyAtEnd, step::KeyAtEnd, text_id::kStepKeyAtEnd,
+     u"answers at the end go to their questions, by number"},
+    {step_name::kNoise, step::Noise, text_id::kStepNoise, u"page heads and the like are left out"},
+    {step_name::kPassages, step::Passages, text_id::kStepPassages,
+     u"texts between questions go to the one behind them"},
+    {step_name::kSignedKey, step::SignedKey, text_id::kStepSignedKey, u"a sign marks the right option"},
+    {step_name::kEmphasisedKey, step::EmphasisedKey, text_id::kStepEmphasisedKey,
+     u"bold type or colour marks the right option"},
+    {step_name::kKeyInStem, step::KeyInStem, text_id::kStepKeyInStem,
+     u"a letter in the question is its answer"},
+    {step_name::kKeyLetters, step::KeyLetters, text_id::kStepKeyLetters, u"answers become capital letters"},
+    {step_name::kJudgement, step::Judgement, text_id::kStepJudgement,
+     u"true/false questions get two options"},
+    {step_name::kBlankForms, step::BlankForms, text_id::kStepBlankForms, u"blanks become ___"},
+    {step_name::kOpenAnswers, step::OpenAnswers, text_id::kStepOpenAnswers,
+     u"questions without an answer are read, too"},
 };
 
 bool IsNamed(const ImportSettings& rules, std::u16string_view step) {
@@ -62,7 +83,7 @@ std::u16string PrepareListText(const std::vector<std::u16string>& names) {
 PreparedText PreparePaper(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled) {
   const PreparationContext context{paper, rules, isCancelled};
   // The step about tables needs them in the text; without it they are left out, as always.
-  PreparedText prepared{IsNamed(rules, kTableStep) ? paper.source : RunningText(paper)};
+  PreparedText prepared{IsNamed(rules, step_name::kTableOptions) ? paper.source : RunningText(paper)};
   try {
     CheckNames(rules);
     for (const PreparationStep& step : kSteps) {

@@ -23,11 +23,13 @@ struct PreparationContext {
   const CancelHook& isCancelled;
 };
 
-/// A step: changes the text, and knows nothing else. It leaves a text as it is in which it has nothing to do.
-/// May throw ImportFailure.
+/// A step, all that anybody needs to know of it. `apply` changes the text, and leaves one as it is in which
+/// it has nothing to do. It may throw ImportFailure.
 struct PreparationStep {
   std::u16string_view name;  ///< as in "ImportExam.ini"
   void (*apply)(PaperText& text, const PreparationContext& context);
+  int sentence;                 ///< number of the text that tells users what it does
+  std::u16string_view comment;  ///< the same for readers of the file, in ASCII
 };
 
 /// All steps, in the order in which they run, whatever the order in the file.

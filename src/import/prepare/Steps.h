@@ -6,8 +6,6 @@
 
 namespace quorvantis {
 
-inline constexpr std::u16string_view kTableStep = u"TableOptions";
-
 namespace step {
 
 /// Documents that are one paragraph with line breaks: a line break (VT) becomes the end of a paragraph.
