@@ -51,8 +51,8 @@ class LabelSearch {
 
   /// The first line is the question's, unless all behind the label is a key: papers without numbers begin so.
   void AddStart(TextSpan line, bool isFirst, std::vector<LabelledLine>& found) const {
-    const std::size_t end = text_.find_first_of(kLabelEnds, line.begin);
-    if (end < line.end && end - line.begin <= kLongestLabel && end > line.begin) {
+    const std::size_t end = text_.substr(0, line.end).find_first_of(kLabelEnds, line.begin);
+    if (end != text_.npos && end - line.begin <= kLongestLabel && end > line.begin) {
       // "【答案】：" ends in two marks.
       std::size_t labelEnd = end + 1;
       if (labelEnd < line.end && (text_[labelEnd] == u':' || text_[labelEnd] == u'：')) ++labelEnd;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/marking/ParseAnswer.h"
 
+#include "import/marking/EditedSequence.h"
 #include "import/marking/RepeatedSearch.h"
 #include "import/marking/TextOrigins.h"
 #include "text/AsciiCase.h"
@@ -55,7 +56,7 @@ int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSear
   Tell(debug, rest);
   RepeatedSearch search(rest, item);
   const auto blockBegin = static_cast<std::size_t>(found->GroupStart(0));
-  TextOrigins origins = OriginsOfOriginal(written == nullptr ? 0 : rest.size());
+  EditedSequence<std::uint32_t> origins(OriginsOfOriginal(written == nullptr ? 0 : rest.size()));
   std::size_t taken = 0;  // where the last answer was
   while (const auto match = search.Find()) {
     std::u16string answer = rest.substr(match->begin, match->Size());
@@ -64,9 +65,10 @@ int ParseAnswer(std::u16string_view text, const RuleSearch& item, const RuleSear
     if (written != nullptr) {
       const std::size_t from = std::min(taken, match->begin);
       const auto before = std::u16string_view(rest).substr(from, match->begin - from);
-      const TextSpan place{blockBegin + origins[match->begin], blockBegin + origins[match->end - 1] + 1};
+      const TextSpan place{blockBegin + origins.At(match->begin),
+                           blockBegin + origins.At(match->end - 1) + 1};
       written->push_back({NumberOfAnswer(before, answer), place});
-      ReplaceOrigins(origins, match->begin, match->Size(), 0);
+      origins.Replace(match->begin, match->end, 0, kInserted);
     }
     taken = match->begin;
     rest.erase(match->begin, answer.size());

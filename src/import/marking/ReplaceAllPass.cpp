@@ -2,12 +2,18 @@
 #include "import/marking/ReplaceAllPass.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace quorvantis {
 
 ReplaceAllPass::ReplaceAllPass(std::u16string& text, const RuleSearch& rule, std::u16string_view marker,
-                               MarkingTrace* trace)
-    : text_(text), rule_(rule), marker_(marker), trace_(trace), search_(text, rule), made_(text.size()) {}
+                               MarkingTracer* trace)
+    : text_(text),
+      rule_(rule),
+      marker_(marker),
+      trace_(trace),
+      search_(text, rule),
+      made_(std::vector<char>(text.size())) {}
 
 int ReplaceAllPass::Run() {
   int count = 0;
@@ -27,15 +33,15 @@ bool ReplaceAllPass::RunOnce() {
 
 void ReplaceAllPass::Replace(const MatchSpan& match) {
   text_.replace(match.begin, match.Size(), marker_);
-  made_.Replace(match.begin, match.end, marker_.size());
+  made_.Replace(match.begin, match.end, marker_.size(), 1);
   if (trace_ != nullptr) trace_->Replace(rule_.Key(), match.begin, match.Size(), marker_.size());
   search_.ChangedFrom(match.begin);
 }
 
 bool ReplaceAllPass::IsProgress(const MatchSpan& match) const {
-  if (match.Size() == 0) return !made_.Get(match.begin) && (match.begin == 0 || !made_.Get(match.begin - 1));
+  if (match.Size() == 0) return !IsMade(match.begin) && (match.begin == 0 || !IsMade(match.begin - 1));
   for (std::size_t index = match.begin; index < match.end; ++index) {
-    if (!made_.Get(index)) return true;
+    if (!IsMade(index)) return true;
   }
   return false;
 }
@@ -60,7 +66,7 @@ bool ReplaceAllPass::ComesUpAgain(const MatchSpan& match) const {
   return next.starts_with(seen);
 }
 
-int RemoveTitles(std::u16string& text, const RuleSearch& rule, MarkingTrace* trace) {
+int RemoveTitles(std::u16string& text, const RuleSearch& rule, MarkingTracer* trace) {
   // Deliberate: ten characters go with every title. Near the start of the text, where there are fewer before
   // it, the rest goes after it. Rules are written with that in mind.
   constexpr std::size_t kBefore = 10;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/marking/EditedFlags.h"
+#include "import/marking/EditedSequence.h"
 #include "import/marking/MarkingTrace.h"
 #include "import/marking/RepeatedSearch.h"
 
@@ -25,7 +25,7 @@ class ReplaceAllPass {
   /// `marker` is some number of the same character. `trace`, if given, follows the text. All must outlive
   /// the pass.
   ReplaceAllPass(std::u16string& text, const RuleSearch& rule, std::u16string_view marker,
-                 MarkingTrace* trace = nullptr);
+                 MarkingTracer* trace = nullptr);
 
   /// Replaces until nothing matches; returns the number of times. Throws ImportFailure.
   int Run();
@@ -36,20 +36,21 @@ class ReplaceAllPass {
  private:
   void Replace(const MatchSpan& match);
   void WatchForEnd(const MatchSpan& match);
+  bool IsMade(std::size_t index) const { return index < made_.Size() && made_.At(index) != 0; }
   bool IsProgress(const MatchSpan& match) const;
   bool ComesUpAgain(const MatchSpan& match) const;
 
   std::u16string& text_;
   const RuleSearch& rule_;
   const std::u16string_view marker_;
-  MarkingTrace* trace_;
+  MarkingTracer* trace_;
   RepeatedSearch search_;
-  EditedFlags made_;  ///< which characters of the text belong to markers
-  int futile_ = 0;    ///< consecutive replacements without progress
+  EditedSequence<char> made_;  ///< not 0 for the characters of the text that belong to markers
+  int futile_ = 0;             ///< consecutive replacements without progress
 };
 
 /// Deletes every match of a rule together with ten characters before it; returns the number of times.
 /// `trace`, if given, follows the text.
-int RemoveTitles(std::u16string& text, const RuleSearch& rule, MarkingTrace* trace = nullptr);
+int RemoveTitles(std::u16string& text, const RuleSearch& rule, MarkingTracer* trace = nullptr);
 
 }  // namespace quorvantis

@@ -13,29 +13,32 @@ class Marking {
  public:
   Marking(std::u16string_view text, const CancelHook& isCancelled, TraceOrigins trace)
       : result_{std::u16string(text)}, isCancelled_(isCancelled) {
-    if (trace == TraceOrigins::No) return;
-    result_.trace.origins = OriginsOfOriginal(text.size());
-    trace_ = &result_.trace;
+    if (trace == TraceOrigins::Yes) tracer_.emplace(text.size());
   }
 
   void ReplaceAll(std::u16string_view key, std::u16string_view pattern, std::u16string_view marker) {
     Pass(key, pattern,
-         [&](const RuleSearch& rule) { return ReplaceAllPass(result_.text, rule, marker, trace_).Run(); });
+         [&](const RuleSearch& rule) { return ReplaceAllPass(result_.text, rule, marker, Tracer()).Run(); });
   }
   void ReplaceFirst(std::u16string_view key, std::u16string_view pattern, std::u16string_view marker) {
     Pass(key, pattern, [&](const RuleSearch& rule) {
-      return ReplaceAllPass(result_.text, rule, marker, trace_).RunOnce() ? 1 : 0;
+      return ReplaceAllPass(result_.text, rule, marker, Tracer()).RunOnce() ? 1 : 0;
     });
   }
   void DeleteTitles(std::u16string_view key, std::u16string_view pattern) {
-    Pass(key, pattern, [&](const RuleSearch& rule) { return RemoveTitles(result_.text, rule, trace_); });
+    Pass(key, pattern, [&](const RuleSearch& rule) { return RemoveTitles(result_.text, rule, Tracer()); });
   }
 
   void Fail(const ImportFailure& failure) { result_.failure = failure; }
 
-  MarkedText Take() { return std::move(result_); }
+  MarkedText Take() {
+    if (tracer_) result_.trace = tracer_->Take();
+    return std::move(result_);
+  }
 
  private:
+  MarkingTracer* Tracer() { return tracer_ ? &*tracer_ : nullptr; }
+
   /// A missing rule is not a pass: an empty pattern would match everywhere, forever.
   template <class Work>
   void Pass(std::u16string_view key, std::u16string_view pattern, const Work& work) {
@@ -45,7 +48,7 @@ class Marking {
   }
 
   MarkedText result_;
-  MarkingTrace* trace_ = nullptr;
+  std::optional<MarkingTracer> tracer_;
   const CancelHook& isCancelled_;
 };
 

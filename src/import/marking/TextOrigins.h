@@ -22,13 +22,4 @@ inline TextOrigins OriginsOfOriginal(std::size_t size) {
   return origins;
 }
 
-/// Follows an edit: `size` units from `begin` on were replaced by `count` new ones.
-inline void ReplaceOrigins(TextOrigins& origins, std::size_t begin, std::size_t size, std::size_t count) {
-  const auto place = [&origins](std::size_t at) { return origins.begin() + static_cast<std::ptrdiff_t>(at); };
-  const std::size_t kept = size < count ? size : count;
-  for (std::size_t i = 0; i < kept; ++i) origins[begin + i] = kInserted;
-  if (count > size) origins.insert(place(begin + kept), count - size, kInserted);
-  if (size > count) origins.erase(place(begin + kept), place(begin + size));
-}
-
 }  // namespace quorvantis
