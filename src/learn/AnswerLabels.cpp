@@ -61,8 +61,9 @@ class LabelSearch {
       return;
     }
     // "Answer B": a word, and a key behind it.
-    const std::size_t blank = text_.substr(0, line.end).find_last_of(kBlanks);
-    if (blank == text_.npos || blank <= line.begin || blank - line.begin > kLongestLabel) return;
+    const std::size_t labelSize = line.Of(text_).find_last_of(kBlanks);
+    if (labelSize == text_.npos || labelSize == 0 || labelSize > kLongestLabel) return;
+    const std::size_t blank = line.begin + labelSize;
     const TextSpan key{blank + 1, line.end};
     const bool isList = text_.substr(line.begin, blank - line.begin).find_first_of(u",;，、") != text_.npos;
     if (key.Size() <= 3 && !isList && LooksLikeKey(key.Of(text_)))
@@ -71,8 +72,9 @@ class LabelSearch {
 
   /// "D. four   Answer: B", "… [Answer: B]".
   void AddWithin(TextSpan line, std::vector<LabelledLine>& found) const {
-    const std::size_t colon = text_.substr(0, line.end).find_last_of(u":：");
-    if (colon == text_.npos || colon <= line.begin) return;
+    const std::size_t behindBegin = line.Of(text_).find_last_of(u":：");
+    if (behindBegin == text_.npos || behindBegin == 0) return;
+    const std::size_t colon = line.begin + behindBegin;
     const TextSpan rest = Trimmed(text_, {colon + 1, line.end});
     if (!LooksLikeKey(rest.Of(text_))) return;
     std::size_t begin = colon;

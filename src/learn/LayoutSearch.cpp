@@ -86,13 +86,13 @@ void LayoutSearch::Check() const {
     throw ImportFailure{ImportFailure::Reason::Cancelled, {}};
 }
 
-TriedLayout LayoutSearch::Tried(RuleDraft draft) const {
+TriedLayout LayoutSearch::Tried(RuleDraft draft) {
   Check();
   constexpr double kWeightOfMarks = 8;
   TriedLayout tried;
   tried.rules = RulesOf(draft);
   tried.draft = std::move(draft);
-  tried.reading = ReadByRules(paper_, tried.rules, options_.isCancelled);
+  tried.reading = ReadByRules(paper_, tried.rules, options_.isCancelled, &memory_);
   Check();
   tried.score = ScoreOf(paper_, tried.reading, tried.draft.options.alphabets);
   if (!marks_.IsEmpty()) tried.followed = marks_.Followed(RolesOf(paper_, tried.reading));
@@ -110,17 +110,17 @@ bool LayoutSearch::Try(RuleDraft draft, bool orAsGood) {
   return true;
 }
 
-PaperText LayoutSearch::Prepared(const RuleDraft& draft) const {
-  PreparedText prepared = PreparePaper(paper_, RulesOf(draft), options_.isCancelled);
+PaperText LayoutSearch::Prepared(const RuleDraft& draft) {
+  PreparedText prepared = PreparePaper(paper_, RulesOf(draft), options_.isCancelled, &memory_);
   Check();
   return std::move(prepared.text);
 }
 
-PaperOutline LayoutSearch::Outline(const PaperText& text, const RuleDraft& draft) const {
-  return OutlineOf(text, RulesOf(draft), options_.isCancelled);
+PaperOutline LayoutSearch::Outline(const PaperText& text, const RuleDraft& draft) {
+  return memory_.Outline(text, RulesOf(draft), options_.isCancelled);
 }
 
-std::vector<TextSpan> LayoutSearch::Bodies(const PaperText& text, const RuleDraft& draft) const {
+std::vector<TextSpan> LayoutSearch::Bodies(const PaperText& text, const RuleDraft& draft) {
   std::vector<TextSpan> bodies;
   for (const OutlinedQuestion& question : Outline(text, draft).questions)
     bodies.push_back(

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "import/prepare/PaperOutline.h"
+#include "import/prepare/PreparationMemory.h"
 #include "learn/MarkedPlaces.h"
 #include "learn/PaperLearner.h"
 #include "learn/ReadingScore.h"
@@ -54,15 +55,16 @@ class LayoutSearch {
 
   /// Takes a layout if it is better than the best one so far, or as good with `orAsGood`.
   bool Try(RuleDraft draft, bool orAsGood = false);
-  TriedLayout Tried(RuleDraft draft) const;
-  PaperText Prepared(const RuleDraft& draft) const;
-  PaperOutline Outline(const PaperText& text, const RuleDraft& draft) const;
-  std::vector<TextSpan> Bodies(const PaperText& text, const RuleDraft& draft) const;
+  TriedLayout Tried(RuleDraft draft);
+  PaperText Prepared(const RuleDraft& draft);
+  PaperOutline Outline(const PaperText& text, const RuleDraft& draft);
+  std::vector<TextSpan> Bodies(const PaperText& text, const RuleDraft& draft);
   void Check() const;
 
   const Paper& paper_;
   const MarkedPlaces& marks_;
   const LearnOptions& options_;
+  PreparationMemory memory_;
   TriedLayout best_;
 };
 

@@ -15,11 +15,12 @@ class NoDebugOutput : public DebugOutput {
 
 }  // namespace
 
-PaperReading ReadByRules(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled) {
+PaperReading ReadByRules(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
+                         PreparationMemory* memory) {
   constexpr int kFirstPicture = 1;
   PaperReading reading;
-  const auto mark = rules.m_nTable != 0 ? MarkTables : MarkText;
-  reading.marked = mark(paper, rules, isCancelled, TraceOrigins::Yes);
+  reading.marked = rules.m_nTable != 0 ? MarkTables(paper, rules, isCancelled, TraceOrigins::Yes)
+                                       : MarkText(paper, rules, isCancelled, TraceOrigins::Yes, memory);
   if (reading.marked.failure) return reading;
   NoDebugOutput debug;
   reading.paper = QuestionTextParser(rules, debug, isCancelled).Parse(reading.marked.text, kFirstPicture);

@@ -4,6 +4,7 @@
 #include "import/marking/QuestionTextParser.h"
 #include "import/marking/TextMarking.h"
 #include "import/prepare/Paper.h"
+#include "import/prepare/PreparationMemory.h"
 
 namespace quorvantis {
 
@@ -15,7 +16,9 @@ struct PaperReading {
   bool HasFailed() const { return marked.failure.has_value() || paper.failure.has_value(); }
 };
 
-/// Reads a paper in memory just as an import would. Never throws; failures are in the reading.
-PaperReading ReadByRules(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled);
+/// Reads a paper just as an import would. Never throws; failures are in the reading. `memory`, if given, is
+/// only for this paper.
+PaperReading ReadByRules(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
+                         PreparationMemory* memory = nullptr);
 
 }  // namespace quorvantis

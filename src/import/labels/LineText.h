@@ -15,9 +15,12 @@ inline constexpr std::u16string_view kBlanks =
     u" \t\u00A0\u2002\u2003\u2009\u200A\u202F\u3000\uFEFF\u200B\u200E\u200F";
 
 constexpr bool IsLineEnd(char16_t unit) {
+  // Most units are letters, and all texts are full of them.
+  if (unit > u'\r' && unit < u'\u2028') return false;
   return kLineEnds.find(unit) != kLineEnds.npos;
 }
 constexpr bool IsBlank(char16_t unit) {
+  if (unit < u'\u0080') return unit == u' ' || unit == u'\t';
   return kBlanks.find(unit) != kBlanks.npos;
 }
 

@@ -5,6 +5,8 @@
 #include "import/labels/OptionSigns.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -154,15 +156,16 @@ std::size_t Weight(const OptionSequence& run) {
   return starts * kOfLine + (run.labels.size() - starts) * kOfOther;
 }
 
-/// As many as any question has; a text without end is no question.
-std::vector<const Candidate*> LabelsOf(const std::vector<Candidate>& candidates, std::size_t alphabet,
-                                       bool isBracketed) {
+/// An alphabet, and whether its letters have a bracket before them.
+using LabelStyle = std::pair<std::size_t, bool>;
+
+/// As many labels of each style as any question has; a text without end is no question.
+std::map<LabelStyle, std::vector<const Candidate*>> ByStyle(const std::vector<Candidate>& candidates) {
   constexpr std::size_t kMostLabels = 200;
-  std::vector<const Candidate*> labels;
+  std::map<LabelStyle, std::vector<const Candidate*>> labels;
   for (const Candidate& candidate : candidates) {
-    if (candidate.alphabet != alphabet || candidate.isBracketed != isBracketed) continue;
-    labels.push_back(&candidate);
-    if (labels.size() == kMostLabels) break;
+    std::vector<const Candidate*>& ofStyle = labels[{candidate.alphabet, candidate.isBracketed}];
+    if (ofStyle.size() < kMostLabels) ofStyle.push_back(&candidate);
   }
   return labels;
 }
@@ -188,17 +191,14 @@ std::size_t OptionSequence::LineStarts() const {
 std::vector<OptionSequence> FindOptionRuns(std::u16string_view text, TextSpan within) {
   const std::vector<Candidate> candidates = LabelScan(text, within).Candidates();
   std::vector<OptionSequence> runs;
-  for (std::size_t alphabet = 0; alphabet < OptionAlphabets().size(); ++alphabet) {
-    for (const bool isBracketed : {false, true}) {
-      const std::vector<const Candidate*> labels = LabelsOf(candidates, alphabet, isBracketed);
-      OptionSequence best{alphabet};
-      for (std::size_t i = 0; i < labels.size(); ++i) {
-        if (labels[i]->label.index != 0) continue;
-        OptionSequence run{alphabet, RunFrom(labels, i)};
-        if (run.labels.size() >= 2 && Weight(run) > Weight(best)) best = std::move(run);
-      }
-      if (best.labels.size() >= 2) runs.push_back(std::move(best));
+  for (const auto& [style, labels] : ByStyle(candidates)) {
+    OptionSequence best{style.first};
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+      if (labels[i]->label.index != 0) continue;
+      OptionSequence run{style.first, RunFrom(labels, i)};
+      if (run.labels.size() >= 2 && Weight(run) > Weight(best)) best = std::move(run);
     }
+    if (best.labels.size() >= 2) runs.push_back(std::move(best));
   }
   std::ranges::stable_sort(runs, std::greater<>(), Weight);
   for (OptionSequence& run : runs) FillTexts(text, within, run);

@@ -99,7 +99,7 @@ std::vector<PaperEdit> MendedLabel(std::u16string_view text, const OutlinedQuest
 }  // namespace
 
 void step::AnswerSlips(PaperText& text, const PreparationContext& context) {
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   const UsualLabel label = UsualLabelOf(text.characters, outline);
   if (label.core.empty()) return;
   std::vector<PaperEdit> edits;

@@ -23,7 +23,7 @@ TextSpan WrittenBody(std::u16string_view text, const OutlinedQuestion& question)
 
 void step::BlankForms(PaperText& text, const PreparationContext& context) {
   std::vector<PaperEdit> edits;
-  for (const OutlinedQuestion& question : OutlineOf(text, context.rules, context.isCancelled).questions) {
+  for (const OutlinedQuestion& question : OutlineOf(text, context).questions) {
     if (question.HasOptions()) continue;
     for (const FoundBlank& blank : BlanksIn(text, WrittenBody(text.characters, question)))
       edits.push_back({blank.span, Rewritten(text, blank.span, blank.with)});

@@ -99,7 +99,7 @@ std::optional<EmphasisScheme> SchemeOf(const PaperText& text, const PaperOutline
 
 void step::EmphasisedKey(PaperText& text, const PreparationContext& context) {
   if (std::ranges::all_of(text.emphasis, [](std::uint8_t kinds) { return kinds == 0; })) return;
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   const std::optional<EmphasisScheme> scheme = SchemeOf(text, outline);
   if (!scheme) return;
   std::vector<PaperEdit> edits;

@@ -101,7 +101,7 @@ void AddOptions(const PaperText& text, const JudgedRun& run, std::vector<PaperEd
 }  // namespace
 
 void step::Judgement(PaperText& text, const PreparationContext& context) {
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   std::vector<PaperEdit> edits;
   JudgedRun run;
   const auto finish = [&] {

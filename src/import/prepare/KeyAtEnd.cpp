@@ -40,7 +40,7 @@ bool SayTheSame(std::u16string_view text, const OutlinedQuestion& question, std:
 }  // namespace
 
 void step::KeyAtEnd(PaperText& text, const PreparationContext& context) {
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   const std::optional<KeySection> section = FindKeySection(text.characters, outline).section;
   if (!section) return;
   std::vector<PaperEdit> edits;

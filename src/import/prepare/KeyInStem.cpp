@@ -262,7 +262,7 @@ void MoveKeysBeforeNumbers(PaperText& text, const PreparationContext& context) {
   removals.reserve(keys.size());
   for (const KeyBeforeNumber& key : keys) removals.push_back({key.removed});
   ApplyEdits(without, std::move(removals));
-  const PaperOutline outline = OutlineOf(without, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(without, context);
   std::vector<PaperEdit> edits;
   std::size_t fitting = 0;
   auto key = keys.begin();
@@ -287,7 +287,7 @@ void MoveKeysBeforeNumbers(PaperText& text, const PreparationContext& context) {
 
 void step::KeyInStem(PaperText& text, const PreparationContext& context) {
   MoveKeysBeforeNumbers(text, context);
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   const std::u16string_view characters = text.characters;
   const StemKeyHabits habits(characters, outline);
   std::vector<PaperEdit> edits;

@@ -95,7 +95,7 @@ bool IsChoiceAnswer(std::u16string_view text, const OutlinedQuestion& question) 
 }  // namespace
 
 void step::KeyLetters(PaperText& text, const PreparationContext& context) {
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   const std::u16string_view characters = text.characters;
   const AnswerLetters lettersOf(text, outline, context.paper.source);
   std::vector<PaperEdit> edits;

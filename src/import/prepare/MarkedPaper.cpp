@@ -45,8 +45,8 @@ ReplacedMatch RemovedBySteps(const Paper& paper, const PaperText& prepared) {
 }  // namespace
 
 MarkedText MarkText(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
-                    TraceOrigins trace) {
-  PreparedText prepared = PreparePaper(paper, rules, isCancelled);
+                    TraceOrigins trace, PreparationMemory* memory) {
+  PreparedText prepared = PreparePaper(paper, rules, isCancelled, memory);
   if (prepared.failure) return {std::move(prepared.text.characters), {}, std::move(prepared.failure), {}};
   MarkedText marked = TextToString(prepared.text.characters, rules, isCancelled, trace);
   MoveTo(prepared.text.origins, marked.trace.origins);

@@ -4,13 +4,14 @@
 
 #include "import/marking/TextMarking.h"
 #include "import/prepare/Paper.h"
+#include "import/prepare/PreparationMemory.h"
 
 namespace quorvantis {
 
 /// The running text, prepared by the steps that the rules name. The trace lists what they left out, tables
-/// included, under the key "Prepare".
+/// included, under the key "Prepare". `memory`, if given, is only for this paper.
 MarkedText MarkText(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
-                    TraceOrigins trace = TraceOrigins::No);
+                    TraceOrigins trace = TraceOrigins::No, PreparationMemory* memory = nullptr);
 
 /// A paper that is tables. No steps are run.
 MarkedText MarkTables(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,

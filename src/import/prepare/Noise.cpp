@@ -20,7 +20,7 @@ class NoiseSearch {
  public:
   NoiseSearch(const PaperText& text, const PreparationContext& context)
       : text_(text.characters),
-        outline_(OutlineOf(text, context.rules, context.isCancelled)),
+        outline_(OutlineOf(text, context)),
         lines_(LinesOf(text_, {0, text_.size()})),
         isKept_(lines_.size(), false) {
     KeepLabels();

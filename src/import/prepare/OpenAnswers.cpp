@@ -25,7 +25,7 @@ bool HasAnswerBlock(const PaperText& text, const PreparationContext& context) {
 void step::OpenAnswers(PaperText& text, const PreparationContext& context) {
   if (HasAnswerBlock(text, context)) return;
   std::vector<PaperEdit> edits;
-  for (const OutlinedQuestion& question : OutlineOf(text, context.rules, context.isCancelled).questions) {
+  for (const OutlinedQuestion& question : OutlineOf(text, context).questions) {
     const TextSpan body = Trimmed(text.characters, {question.label.end, question.whole.end});
     if (question.HasAnswer() || body.IsEmpty()) continue;
     std::u16string answer(LineEndNear(text.characters, body.end));

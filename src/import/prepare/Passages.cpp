@@ -73,7 +73,7 @@ class PassageSearch {
 }  // namespace
 
 void step::Passages(PaperText& text, const PreparationContext& context) {
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   std::vector<PaperEdit> edits;
   const std::vector<TextSpan> passages = PassageSearch(text, outline).Passages();
   for (std::size_t i = 0; i < passages.size(); ++i) {

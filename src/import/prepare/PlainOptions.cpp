@@ -60,7 +60,7 @@ class PlainPaper {
 }  // namespace
 
 void step::PlainOptions(PaperText& text, const PreparationContext& context) {
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   std::vector<PaperEdit> edits;
   for (const PlainOptionLines& question : PlainPaper(text, outline).Believable()) {
     for (std::size_t i = 0; i < question.options.size(); ++i) {

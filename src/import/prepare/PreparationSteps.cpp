@@ -8,6 +8,7 @@
 #include "text/AsciiCase.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace quorvantis {
 namespace {
@@ -55,6 +56,52 @@ void CheckNames(const ImportSettings& rules) {
   }
 }
 
+/// The steps that some rules name, run on one text.
+class StepRun {
+ public:
+  StepRun(PaperText& text, const PreparationContext& context) : text_(text), context_(context) {
+    // The text to begin with depends on this step, too.
+    std::u16string made(IsNamed(context.rules, step_name::kTableOptions) ? u"tables," : u"");
+    made += RulesAsText(context.rules);
+    for (const PreparationStep& step : kSteps) {
+      if (!IsNamed(context.rules, step.name)) continue;
+      made.append(step.name).append(u",");
+      steps_.push_back({&step, made});
+    }
+  }
+
+  void Run() {
+    for (std::size_t i = TakeKnown(); i < steps_.size(); ++i) {
+      if (context_.isCancelled && context_.isCancelled())
+        throw ImportFailure{ImportFailure::Reason::Cancelled, std::u16string(steps_[i].step->name)};
+      steps_[i].step->apply(text_, context_);
+      if (context_.memory != nullptr)
+        context_.memory->Keep(steps_[i].made, std::make_shared<const PaperText>(text_));
+    }
+  }
+
+ private:
+  struct NamedStep {
+    const PreparationStep* step;
+    std::u16string made;  ///< what the text is after it
+  };
+
+  /// Takes what is known of the text after most steps; returns how many these are.
+  std::size_t TakeKnown() {
+    for (std::size_t count = context_.memory == nullptr ? 0 : steps_.size(); count > 0; --count) {
+      const PreparationMemory::Text known = context_.memory->Find(steps_[count - 1].made);
+      if (!known) continue;
+      text_ = *known;
+      return count;
+    }
+    return 0;
+  }
+
+  PaperText& text_;
+  const PreparationContext context_;
+  std::vector<NamedStep> steps_;
+};
+
 }  // namespace
 
 std::span<const PreparationStep> PreparationSteps() {
@@ -80,17 +127,20 @@ std::u16string PrepareListText(const std::vector<std::u16string>& names) {
   return text;
 }
 
-PreparedText PreparePaper(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled) {
-  const PreparationContext context{paper, rules, isCancelled};
+PaperOutline OutlineOf(const PaperText& text, const PreparationContext& context) {
+  if (context.memory == nullptr) return OutlineOf(text, context.rules, context.isCancelled);
+  return context.memory->Outline(text, context.rules, context.isCancelled);
+}
+
+PreparedText PreparePaper(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
+                          PreparationMemory* memory) {
   // The step about tables needs them in the text; without it they are left out, as always.
   PreparedText prepared{IsNamed(rules, step_name::kTableOptions) ? paper.source : RunningText(paper)};
   try {
     CheckNames(rules);
-    for (const PreparationStep& step : kSteps) {
-      if (isCancelled && isCancelled())
-        throw ImportFailure{ImportFailure::Reason::Cancelled, std::u16string(step.name)};
-      if (IsNamed(rules, step.name)) step.apply(prepared.text, context);
-    }
+    ImportSettings seen = rules;
+    seen.m_strPattern.clear();
+    StepRun(prepared.text, {paper, seen, isCancelled, memory}).Run();
   } catch (const ImportFailure& failure) {
     prepared.failure = failure;
   }

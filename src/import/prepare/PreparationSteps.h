@@ -7,6 +7,8 @@
 #include "import/marking/ImportSettings.h"
 #include "import/marking/RuleSearch.h"
 #include "import/prepare/Paper.h"
+#include "import/prepare/PaperOutline.h"
+#include "import/prepare/PreparationMemory.h"
 
 #include <optional>
 #include <span>
@@ -19,9 +21,13 @@ namespace quorvantis {
 /// What steps may look at besides the text.
 struct PreparationContext {
   const Paper& paper;
-  const ImportSettings& rules;
+  const ImportSettings& rules;  ///< without "Pattern", which is for what is marked
   const CancelHook& isCancelled;
+  PreparationMemory* memory = nullptr;
 };
+
+/// What the rules find in a text that a step works on.
+PaperOutline OutlineOf(const PaperText& text, const PreparationContext& context);
 
 /// A step, all that anybody needs to know of it. `apply` changes the text, and leaves one as it is in which
 /// it has nothing to do. It may throw ImportFailure.
@@ -49,7 +55,8 @@ struct PreparedText {
 };
 
 /// Runs the steps that the rules name. Without any, the result is the running text. An unknown name is a
-/// failure.
-PreparedText PreparePaper(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled);
+/// failure. `memory`, if given, is only for this paper.
+PreparedText PreparePaper(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled,
+                          PreparationMemory* memory = nullptr);
 
 }  // namespace quorvantis

@@ -124,7 +124,7 @@ std::vector<std::size_t> TakeSigns(std::u16string_view text, const OutlinedQuest
 }  // namespace
 
 void step::SignedKey(PaperText& text, const PreparationContext& context) {
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   const std::u16string_view characters = text.characters;
   const SignHabits habits(characters, outline);
   if (habits.Schemes().empty()) return;

@@ -54,7 +54,7 @@ class TableReading {
   TableReading(const PaperText& text, const PreparationContext& context)
       : text_(text),
         context_(context),
-        outline_(OutlineOf(text, context.rules, context.isCancelled)),
+        outline_(OutlineOf(text, context)),
         tables_(TablesIn(text, context.paper)) {}
 
   std::vector<PaperEdit> Edits() const {
@@ -112,7 +112,7 @@ class TableReading {
       place += cell.Size() + 1;
     }
     if (inner.empty()) return false;
-    const PaperOutline outline = OutlineOf(all, context_.rules, context_.isCancelled);
+    const PaperOutline outline = OutlineOf(all, context_);
     std::size_t shown = 0;
     int last = 0;
     for (const OutlinedQuestion& question : outline.questions) {

@@ -175,7 +175,7 @@ class StemSearch {
 
 void step::Unnumbered(PaperText& text, const PreparationContext& context) {
   constexpr std::size_t kFewest = 2;
-  const PaperOutline outline = OutlineOf(text, context.rules, context.isCancelled);
+  const PaperOutline outline = OutlineOf(text, context);
   if (outline.questions.size() >= kFewest) return;
   const std::vector<std::size_t> starts =
       StemSearch(text, {0, outline.answerSection.begin}, context).Starts();

@@ -142,6 +142,26 @@ TEST(RandomPapers, LoseNothingAndSettle) {
   }
 }
 
+TEST(RandomPapers, AreTheSameWithAMemory) {
+  RandomPapers papers(23);
+  std::mt19937 random(5);
+  for (int i = 0; i < 60; ++i) {
+    const Paper paper = papers.Next();
+    PreparationMemory memory;
+    for (int attempt = 0; attempt < 12; ++attempt) {
+      ImportSettings rules = PlainRules();
+      if (random() % 3 == 0) rules.m_strPreAnswer.clear();
+      for (const PreparationStep& step : PreparationSteps()) {
+        if (random() % 3 == 0) rules.prepare.emplace_back(step.name);
+      }
+      const PaperText remembered = PreparePaper(paper, rules, {}, &memory).text;
+      const PaperText anew = PreparePaper(paper, rules, {}).text;
+      ASSERT_EQ(remembered.characters, anew.characters) << "paper " << i;
+      ASSERT_EQ(remembered.origins, anew.origins) << "paper " << i;
+    }
+  }
+}
+
 /// Texts that could make a step look at the same place again and again.
 TEST(RandomPapers, TakeNoTime) {
   constexpr std::u16string_view kPieces[] = {u"(",  u"( ",     u". ",      u"_ ",   u"□",    u"A. ",
