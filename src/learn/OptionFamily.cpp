@@ -25,7 +25,7 @@ class FamilyCounting {
     OptionFamily family;
     std::map<std::size_t, std::size_t> sizes;
     for (const OptionSequence& options : found_) {
-      if (IsRare(options.alphabet)) continue;
+      if (IsRare(options)) continue;
       family.alphabets.insert(options.alphabet);
       ++family.questions;
       ++sizes[std::min(options.labels.size(), std::size_t{5})];
@@ -38,10 +38,13 @@ class FamilyCounting {
   }
 
  private:
-  /// A single question of many with other letters has them in its text.
-  bool IsRare(std::size_t alphabet) const {
+  /// A single question of many with other letters has them in its text. Two labels within a line, as "(1)"
+  /// and "(2)", are parts of a text unless many questions have them.
+  bool IsRare(const OptionSequence& options) const {
     constexpr std::size_t kFewOf = 12;
-    return alphabets_.at(alphabet) * kFewOf < found_.size();
+    constexpr std::size_t kFewWeakOf = 3;
+    const bool isWeak = options.labels.size() == 2 && options.LineStarts() < 2;
+    return alphabets_.at(options.alphabet) * (isWeak ? kFewWeakOf : kFewOf) < found_.size();
   }
 
   static void Add(const OptionLabel& label, std::size_t alphabet, OptionFamily& family) {
@@ -61,45 +64,63 @@ class FamilyCounting {
   std::map<std::size_t, std::size_t> alphabets_;  ///< how many questions each has
 };
 
-std::set<char16_t> LettersAt(std::size_t index, const std::set<std::size_t>& alphabets, bool symbols) {
-  std::set<char16_t> letters;
+/// All ways in which the label of option `index` is written, in the alphabets of symbols or in the others.
+std::set<std::u16string_view> FormsAt(std::size_t index, const std::set<std::size_t>& alphabets,
+                                      bool symbols) {
+  std::set<std::u16string_view> forms;
   for (const std::size_t number : alphabets) {
     const OptionAlphabet& alphabet = OptionAlphabets()[number];
     if (alphabet.isSymbol != symbols) continue;
-    if (index < alphabet.letters.size()) letters.insert(alphabet.letters[index]);
-    if (index < alphabet.others.size() && alphabet.others[index] != u' ')
-      letters.insert(alphabet.others[index]);
+    for (const std::u16string_view form : FormsOfLabel(alphabet, index)) forms.insert(form);
   }
-  return letters;
+  return forms;
 }
 
-/// One of the letters, or the word for the first letter of one of the alphabets.
-std::u16string LetterPattern(const std::set<char16_t>& letters, const std::set<std::size_t>& alphabets) {
-  std::set<std::u16string> ways{ClassPattern(letters)};
-  for (const std::size_t alphabet : alphabets) {
-    const std::u16string_view word = OptionAlphabets()[alphabet].firstAsWord;
-    if (!word.empty()) ways.insert(LiteralPattern(word));
+/// One of the letters or words.
+std::u16string LetterPattern(const std::set<std::u16string_view>& forms) {
+  std::set<std::u16string> ways;
+  std::set<char16_t> units;
+  for (const std::u16string_view form : forms) {
+    if (form.size() == 1)
+      units.insert(form[0]);
+    else
+      ways.insert(LiteralPattern(form));
   }
+  if (!units.empty()) ways.insert(ClassPattern(units));
   return OneOfPattern(ways);
+}
+
+/// Two blanks, or a wide one, before a label within a line, or the beginning of the line.
+constexpr std::u16string_view kSetOff = u"(?:^[ \\t\u3000]*|(?<=[ \u00A0][ \u00A0])|(?<=[\\t\u3000]))";
+
+/// What labels that are ended by one of `closes` look like.
+std::u16string ClosedPattern(const std::u16string& letter, const std::set<char16_t>& closes,
+                             bool atLineStarts) {
+  const auto isWeak = [](char16_t close) { return kWeakLabelCloses.find(close) != kWeakLabelCloses.npos; };
+  const std::u16string closed = letter + u"[ ]?" + ClassPattern(closes);
+  if (atLineStarts) return closed;
+  const bool areWeak = std::all_of(closes.begin(), closes.end(), isWeak);
+  return (areWeak ? std::u16string(kSetOff) : u"(?<![0-9A-Za-z\u00C0-\u04FF])") + closed;
 }
 
 }  // namespace
 
 std::u16string OptionFamily::LabelPattern(std::size_t index, bool atLineStarts) const {
-  const std::set<char16_t> letters = LettersAt(index, alphabets, false);
-  const std::set<char16_t> symbols = LettersAt(index, alphabets, true);
+  const std::set<std::u16string_view> letters = FormsAt(index, alphabets, false);
+  const std::set<std::u16string_view> symbols = FormsAt(index, alphabets, true);
   std::set<std::u16string> ways{LiteralPattern(PreparedOption(index))};
-  const std::u16string letter = LetterPattern(letters, index == 0 ? alphabets : std::set<std::size_t>{});
+  const std::u16string letter = LetterPattern(letters);
   const std::u16string close = ClassPattern(closes);
   if (!letters.empty() && isPlain && !closes.empty())
-    ways.insert((atLineStarts ? u"" : u"(?<![0-9A-Za-z\u00C0-\u04FF])") + letter + u"[ ]?" + close);
+    ways.insert(ClosedPattern(letter, closes, atLineStarts));
   if (!letters.empty() && isBracketed) ways.insert(ClassPattern(opens) + u"[ ]?" + letter + u"[ ]?" + close);
   if (!letters.empty() && isBare) {
     const bool isAlone = std::ranges::any_of(
         alphabets, [](std::size_t alphabet) { return OptionAlphabets()[alphabet].standsAlone; });
-    ways.insert((isAlone ? u"(?:^|(?<=[ \\t\u3000]))" : u"^[ \\t]*") + letter + u"[ \\t\u00A0\u3000]");
+    const std::u16string begin = isAlone ? u"(?:^|(?<=[ \\t\u3000]))" : std::u16string(kSetOff);
+    ways.insert((atLineStarts ? u"^[ \\t]*" : begin) + letter + u"[ \\t\u00A0\u3000]");
   }
-  if (!symbols.empty()) ways.insert(ClassPattern(symbols) + (closes.empty() ? u"" : close + u"?"));
+  if (!symbols.empty()) ways.insert(LetterPattern(symbols) + (closes.empty() ? u"" : close + u"?"));
   return (atLineStarts ? u"^[ \\t\u00A0\u3000]*" : u"") + OneOfPattern(ways);
 }
 
@@ -107,7 +128,7 @@ std::u16string OptionFamily::Example() const {
   if (alphabets.empty()) return {};
   std::u16string example;
   if (!opens.empty()) example += *opens.begin();
-  example += OptionAlphabets()[*alphabets.begin()].letters.front();
+  example += FormsOfLabel(OptionAlphabets()[*alphabets.begin()], 0).front();
   if (!closes.empty()) example += *closes.begin();
   return example;
 }

@@ -35,9 +35,14 @@ class LabelScan {
   LabelScan(std::u16string_view text, TextSpan within) : text_(text), within_(within) {}
 
   std::vector<Candidate> Candidates() {
+    const std::u16string_view text = text_.substr(0, within_.end);
     for (std::size_t at = within_.begin; at < within_.end; ++at) {
-      const std::vector<AlphabetLetter> letters = AlphabetLettersOf(text_[at]);
-      if (!letters.empty()) Add(at, letters);
+      const std::vector<AlphabetLabel> labels = AlphabetLabelsAt(text, at);
+      for (std::size_t i = 0; i < labels.size(); ++i) {
+        const bool isNewSize = std::none_of(labels.data(), labels.data() + i,
+                                            [&](const auto& one) { return one.size == labels[i].size; });
+        if (isNewSize) Add(at, labels[i].size, labels);
+      }
     }
     return std::move(found_);
   }
@@ -45,30 +50,22 @@ class LabelScan {
  private:
   char16_t UnitAt(std::size_t at) const { return at < within_.end ? text_[at] : u'\0'; }
 
-  void Add(std::size_t at, const std::vector<AlphabetLetter>& letters) {
-    const bool isSymbol = OptionAlphabets()[letters[0].alphabet].isSymbol;
+  /// The labels of that size that begin at a place.
+  void Add(std::size_t at, std::size_t size, const std::vector<AlphabetLabel>& labels) {
+    const bool isSymbol = OptionAlphabets()[labels[0].letter.alphabet].isSymbol;
     OptionLabel label;
-    label.letter = {at, at + LetterSize(at, letters)};
+    label.letter = {at, at + size};
     label.label = label.letter;
     if (!isSymbol && !FindBrackets(label)) return;
     TakeSign(label);
     const std::size_t begin = label.sign.IsEmpty() ? label.label.begin : label.sign.begin;
     label.beginsLine = BeginsLine(text_, begin);
     if (!label.beginsLine && !isSymbol && !CanStandWithin(label, begin)) return;
-    for (const AlphabetLetter& letter : letters) {
-      label.index = letter.index;
-      found_.push_back({letter.alphabet, label.open != 0, label});
+    for (const AlphabetLabel& one : labels) {
+      if (one.size != size) continue;
+      label.index = one.letter.index;
+      found_.push_back({one.letter.alphabet, label.open != 0, label});
     }
-  }
-
-  /// The first letter of an alphabet may be written out.
-  std::size_t LetterSize(std::size_t at, const std::vector<AlphabetLetter>& letters) const {
-    const std::u16string_view rest = text_.substr(at, within_.end - at);
-    for (const AlphabetLetter& letter : letters) {
-      const std::u16string_view word = OptionAlphabets()[letter.alphabet].firstAsWord;
-      if (!word.empty() && rest.starts_with(word)) return word.size();
-    }
-    return 1;
   }
 
   /// Finds what encloses or ends the label; false if nothing does.
@@ -87,12 +84,22 @@ class LabelScan {
       if (isOpened && Has(u".:、．", UnitAt(after + 1)) && UnitAt(after + 1) != 0) ++label.label.end;
       return true;
     }
-    // A letter by itself, set off by a tab or by blanks.
-    if (isOpened) return false;
-    if (StandsAlone(at)) return IsBlank(UnitAt(at + 1)) && (IsBlank(before) || BeginsLine(text_, at));
-    if (!BeginsLine(text_, at)) return false;
-    return UnitAt(at + 1) == u'\t' || UnitAt(at + 1) == u'\u3000' ||
-           (UnitAt(at + 1) == u' ' && (UnitAt(at + 2) == u' ' || IsCapitalAlone(at)));
+    return !isOpened && IsAlone(at, behind, before);
+  }
+
+  /// A letter by itself, set off by a tab or by blanks.
+  bool IsAlone(std::size_t at, std::size_t behind, char16_t before) const {
+    if (StandsAlone(at)) return IsBlank(UnitAt(behind)) && (IsBlank(before) || BeginsLine(text_, at));
+    if (!BeginsLine(text_, at)) return IsLatinLabel(at) && UnitAt(behind) == u' ' && IsSetOff(at);
+    return UnitAt(behind) == u'\t' || UnitAt(behind) == u'\u3000' ||
+           (UnitAt(behind) == u' ' && (UnitAt(behind + 1) == u' ' || IsLatinLabel(at)));
+  }
+
+  /// Whether at least two blanks, or a tab, stand before a place within a line.
+  bool IsSetOff(std::size_t at) const {
+    if (at == within_.begin || !IsBlank(text_[at - 1])) return false;
+    return text_[at - 1] == u'\t' || text_[at - 1] == u'\u3000' ||
+           (at - 1 > within_.begin && IsBlank(text_[at - 2]));
   }
 
   bool StandsAlone(std::size_t at) const {
@@ -102,7 +109,7 @@ class LabelScan {
   }
 
   /// "A Paris" at the start of a line may be a label, if "B Rome" follows; the sequence decides.
-  bool IsCapitalAlone(std::size_t at) const { return text_[at] >= u'A' && text_[at] <= u'J'; }
+  bool IsLatinLabel(std::size_t at) const { return (text_[at] | 0x20) >= u'a' && (text_[at] | 0x20) <= u'j'; }
 
   void TakeOpening(OptionLabel& label, char16_t before) const {
     label.open = before;
@@ -125,8 +132,9 @@ class LabelScan {
 
   /// Within a line a label needs a clear beginning and end.
   bool CanStandWithin(const OptionLabel& label, std::size_t begin) const {
-    if (label.close == 0) return StandsAlone(label.letter.begin);
-    if (Has(u",，-–—>。", label.close)) return label.open != 0;
+    if (label.close == 0) return StandsAlone(label.letter.begin) || IsSetOff(begin);
+    if (Has(kWeakLabelCloses, label.close))
+      return label.open != 0 || (IsSetOff(begin) && IsBlank(UnitAt(label.label.end)));
     const char16_t before = begin > within_.begin ? text_[begin - 1] : u'\n';
     // "e.g. A.B." is no label, and neither is the dot of an initial in a name.
     if (label.close == u'.' && IsBlank(before) && UnitAt(label.label.end) == u'\0') return false;
@@ -138,6 +146,22 @@ class LabelScan {
   std::vector<Candidate> found_;
 };
 
+/// Whether two labels are written alike.
+bool AreAlike(const OptionLabel& one, const OptionLabel& other) {
+  return one.open == other.open && one.close == other.close;
+}
+
+/// The first label of a run: "A" that begins the stem is none if an "A." follows before "B.".
+void TakeAlikeFirst(const std::vector<const Candidate*>& labels, std::size_t first,
+                    std::vector<OptionLabel>& run) {
+  if (run.size() < 2 || AreAlike(run[0], run[1])) return;
+  for (std::size_t i = first; i < labels.size() && labels[i]->label.letter.begin < run[1].letter.begin; ++i) {
+    if (labels[i]->label.index != 0 || !AreAlike(labels[i]->label, run[1])) continue;
+    run[0] = labels[i]->label;
+    return;
+  }
+}
+
 /// The longest run through the candidates of one alphabet, each the next letter.
 std::vector<OptionLabel> RunFrom(const std::vector<const Candidate*>& labels, std::size_t first) {
   std::vector<OptionLabel> run{labels[first]->label};
@@ -145,6 +169,7 @@ std::vector<OptionLabel> RunFrom(const std::vector<const Candidate*>& labels, st
     const OptionLabel& label = labels[i]->label;
     if (label.index == run.size() && label.letter.begin >= run.back().label.end) run.push_back(label);
   }
+  TakeAlikeFirst(labels, first, run);
   return run;
 }
 
@@ -208,7 +233,16 @@ std::vector<OptionSequence> FindOptionRuns(std::u16string_view text, TextSpan wi
 std::optional<OptionSequence> FindOptions(std::u16string_view text, TextSpan within) {
   std::vector<OptionSequence> runs = FindOptionRuns(text, within);
   if (runs.empty()) return std::nullopt;
-  return std::move(runs.front());
+  const auto isStatements = [](const OptionSequence& run) {
+    return OptionAlphabets()[run.alphabet].numbersStatements;
+  };
+  if (!isStatements(runs.front())) return std::move(runs.front());
+  constexpr std::size_t kFewestBehind = 3;
+  const auto behind = std::ranges::find_if(runs, [&](const OptionSequence& run) {
+    return !isStatements(run) && run.labels.size() >= kFewestBehind &&
+           run.labels.front().label.begin > runs.front().labels.back().label.begin;
+  });
+  return std::move(behind == runs.end() ? runs.front() : *behind);
 }
 
 }  // namespace quorvantis

@@ -34,15 +34,17 @@ struct OptionSequence {
 };
 
 /// The options within a span of `text`, which is about one question: the longest run of labels of one
-/// alphabet from its first letter on, at least two. Labels that begin lines outweigh those within lines.
-/// Nothing if there is no such run.
+/// alphabet from its first letter on, at least two. Labels that begin lines outweigh those within lines, and
+/// letters the numbered statements before them. Nothing if there is no such run.
 std::optional<OptionSequence> FindOptions(std::u16string_view text, TextSpan within);
 
 /// All runs of labels within the span, whatever their alphabet, the best first.
 std::vector<OptionSequence> FindOptionRuns(std::u16string_view text, TextSpan within);
 
 /// What can end a label, and what can begin one. The last of each are those of prepared labels.
-inline constexpr std::u16string_view kLabelCloses = u".)）．、:：]】,，-–—>｡。〉》\u27E7";
+inline constexpr std::u16string_view kLabelCloses = u".)）．、:：]】,，-–—>｡。〉》/\u27E7";
+/// Of these, those that also stand between words: within a line they end a label only where it is set off.
+inline constexpr std::u16string_view kWeakLabelCloses = u",，-–—>。/";
 inline constexpr std::u16string_view kLabelOpens = u"(（[【〈《<\u27E6";
 
 }  // namespace quorvantis

@@ -63,14 +63,14 @@ Numeral KeyNumeralAt(std::u16string_view text, std::size_t place) {
   return isSetOff ? chinese : Numeral{};
 }
 
-/// The size of a first letter that is written out, as in Arabic script; 0 if there is none.
+/// The size of a label of several letters, as "ii" or "الف"; 0 if there is none.
 std::size_t LetterWordSize(std::u16string_view text) {
-  for (const OptionAlphabet& alphabet : OptionAlphabets()) {
-    const std::u16string_view word = alphabet.firstAsWord;
-    if (word.empty() || !text.starts_with(word)) continue;
-    if (text.size() == word.size() || !AreInOneWord(word.back(), text[word.size()])) return word.size();
+  std::size_t longest = 0;
+  for (const AlphabetLabel& label : AlphabetLabelsAt(text, 0)) {
+    const bool goesOn = text.size() > label.size && AreInOneWord(text[label.size - 1], text[label.size]);
+    if (label.size > 1 && !goesOn) longest = std::max(longest, label.size);
   }
-  return 0;
+  return longest;
 }
 
 bool IsDigitLetter(char16_t unit) {

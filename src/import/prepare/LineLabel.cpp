@@ -26,17 +26,25 @@ bool IsSymbolLetter(char16_t unit) {
   return !letters.empty() && OptionAlphabets()[letters[0].alphabet].isSymbol;
 }
 
+/// The size of the longest label there, 1 for a letter that only looks like one.
+std::size_t LongestLabel(std::u16string_view text, std::size_t at) {
+  std::size_t longest = 1;
+  for (const AlphabetLabel& label : AlphabetLabelsAt(text, at)) longest = std::max(longest, label.size);
+  return longest;
+}
+
 std::optional<LineLabel> LabelAt(std::u16string_view text, std::size_t at, std::size_t end) {
   LineLabel label;
   if (at < end && kLabelOpens.find(text[at]) != kLabelOpens.npos) label.open = text[at++];
   if (at >= end) return std::nullopt;
-  label.letter = {at, at + 1};
-  const std::size_t after = SkipBlanks(text, at + 1, std::min(at + 2, end));
+  const std::size_t behind = at + LongestLabel(text.substr(0, end), at);
+  label.letter = {at, behind};
+  const std::size_t after = SkipBlanks(text, behind, std::min(behind + 1, end));
   const bool isClosed = after < end && kLabelCloses.find(text[after]) != kLabelCloses.npos;
-  label.close = isClosed ? TextSpan{after, after + 1} : TextSpan{at + 1, at + 1};
-  const bool standsAlone = at + 1 < end && IsBlank(text[at + 1]) && label.open == 0;
+  label.close = isClosed ? TextSpan{after, after + 1} : TextSpan{behind, behind};
+  const bool standsAlone = behind < end && IsBlank(text[behind]) && label.open == 0;
   if (!isClosed && !standsAlone && !IsSymbolLetter(text[at])) return std::nullopt;
-  return CanLabel(text[at]) ? std::optional(label) : std::nullopt;
+  return behind > at + 1 || CanLabel(text[at]) ? std::optional(label) : std::nullopt;
 }
 
 }  // namespace

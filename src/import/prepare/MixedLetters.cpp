@@ -26,7 +26,8 @@ class LetterMending {
  public:
   explicit LetterMending(const PaperText& text) : paper_(text), text_(text.characters) {
     for (const TextSpan& line : LinesOf(text_, {0, text_.size()})) {
-      if (const auto label = LineLabelOf(text_, line)) labels_.push_back(*label);
+      if (const auto label = LineLabelOf(text_, line); label && label->letter.Size() == 1)
+        labels_.push_back(*label);
     }
   }
 
@@ -53,7 +54,7 @@ class LetterMending {
   LookAlikeRun BestFrom(std::size_t first) const {
     LookAlikeRun best;
     for (const OptionAlphabet& alphabet : OptionAlphabets()) {
-      if (alphabet.isSymbol || DigitValue(alphabet.letters[0]) >= 0) continue;
+      if (alphabet.isSymbol || alphabet.letters.empty() || DigitValue(alphabet.letters[0]) >= 0) continue;
       if (!CanBegin(LetterOf(labels_[first]), alphabet)) continue;
       LookAlikeRun run = RunFrom(first, alphabet);
       if (run.IsBetterThan(best)) best = std::move(run);

@@ -61,10 +61,7 @@ class KeyLetterScan {
 
   /// The letters of one token at `at_`, without moving; their end.
   std::size_t ReadRun(OptionIndices& run) const {
-    if (const std::size_t word = LetterWord().size(); word > 0) {
-      run.push_back(0);
-      return at_ + word;
-    }
+    if (const std::size_t word = ReadWord(run); word > 0) return at_ + word;
     std::size_t at = at_;
     while (at < answer_.size()) {
       const std::size_t index = OptionNamed(options_, answer_[at], latinLetters_);
@@ -77,13 +74,19 @@ class KeyLetterScan {
     return goesOn ? at_ : at;
   }
 
-  /// The first letter where it is written out, as in Arabic script.
-  std::u16string_view LetterWord() const {
-    const std::u16string_view word = OptionAlphabets()[options_.alphabet].firstAsWord;
+  /// The label of an option that is a word, as "ii" or "الف"; its size, or 0.
+  std::size_t ReadWord(OptionIndices& run) const {
+    const OptionAlphabet& alphabet = OptionAlphabets()[options_.alphabet];
     const std::u16string_view rest = answer_.substr(std::min(at_, answer_.size()));
-    if (word.empty() || !rest.starts_with(word)) return {};
-    const bool goesOn = rest.size() > word.size() && AreInOneWord(word.back(), rest[word.size()]);
-    return goesOn ? std::u16string_view() : word;
+    for (std::size_t i = 0; i < options_.labels.size() && !alphabet.words.empty(); ++i) {
+      const std::u16string_view word = LabelWordAt(alphabet, i, rest);
+      const bool goesOn =
+          rest.size() > word.size() && !word.empty() && AreInOneWord(word.back(), rest[word.size()]);
+      if (word.empty() || goesOn) continue;
+      run.push_back(i);
+      return word.size();
+    }
+    return 0;
   }
 
   /// "BD" is two letters and "ace" three, but "bad" is a word and "12" a number.
@@ -352,8 +355,8 @@ PaperText KeyAnswer(const PaperText& text, TextSpan written, const OptionSequenc
 }
 
 bool IsCyrillic(const OptionSequence& options) {
-  const char16_t first = OptionAlphabets()[options.alphabet].letters.front();
-  return first == u'А' || first == u'а';
+  const std::u16string_view letters = OptionAlphabets()[options.alphabet].letters;
+  return letters.starts_with(u'А') || letters.starts_with(u'а');
 }
 
 }  // namespace quorvantis

@@ -81,8 +81,8 @@ std::size_t OptionNamed(const OptionSequence& options, char16_t unit, bool latin
   }
   for (const AlphabetLetter& letter : AlphabetLettersOf(unit)) {
     // Circled and plain digits mean the same.
-    if (OptionAlphabets()[letter.alphabet].isSymbol && IndexInAlphabet(alphabet, u'1') == 0)
-      return valid(letter.index);
+    const bool areDigits = !alphabet.letters.empty() && IndexInAlphabet(alphabet, u'1') == 0;
+    if (OptionAlphabets()[letter.alphabet].isSymbol && areDigits) return valid(letter.index);
   }
   if (alphabet.isSymbol && folded >= u'1' && folded <= u'9')
     return valid(static_cast<std::size_t>(folded - u'1'));

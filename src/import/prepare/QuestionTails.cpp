@@ -124,8 +124,10 @@ class LineClassification {
       const auto label = LineLabelOf(text_, lines_[i].span);
       if (!label) continue;
       const char16_t close = label->close.IsEmpty() ? u'\0' : text_[label->close.begin];
-      for (const AlphabetLetter& letter : AlphabetLettersOf(text_[label->letter.begin])) {
-        if (letter.index == 0) starts[{letter.alphabet, label->open, close}].push_back(i);
+      for (const AlphabetLabel& one :
+           AlphabetLabelsAt(text_.substr(0, label->letter.end), label->letter.begin)) {
+        const bool isFirst = one.letter.index == 0 && one.size == label->letter.Size();
+        if (isFirst) starts[{one.letter.alphabet, label->open, close}].push_back(i);
       }
     }
     return starts;
