@@ -2,12 +2,16 @@
 // The import of a document by rules that are given, without the dialogs that ask for them.
 #include "import/ImportCommand.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace quorvantis {
 
 ImportOutcome ImportCommand::ImportChosen(const std::filesystem::path& document, const ImportSettings& rules,
-                                          ImportPlace place) {
+                                          ImportPlace place, std::optional<int> number) {
   Begin();
   isChosen_ = true;
+  moveTo_ = number;
   const ImportOutcome outcome = GoToPlace(place) ? ImportDocument(document, rules) : ImportOutcome::Cancelled;
   atWork_.reset();
   return outcome;
@@ -21,6 +25,17 @@ bool ImportCommand::GoToPlace(ImportPlace place) {
   importBase_ = editor_.state.CurrentQuestion();
   if (place == ImportPlace::AfterCurrentQuestion) editor_.questions.GoNext();
   return true;
+}
+
+/// A question that says nothing at all, at the end, stays where it is.
+void ImportCommand::MoveImported() {
+  if (!moveTo_) return;
+  const int last = std::min(nextSlot_ - 1, editor_.order.LastQuestion());
+  std::vector<int> numbers;
+  for (int n = firstSlot_; n <= last; ++n) numbers.push_back(n);
+  if (numbers.empty() || !editor_.order.MoveMany(numbers, *moveTo_).IsDone()) return;
+  firstSlot_ = *moveTo_;
+  nextSlot_ = firstSlot_ + static_cast<int>(numbers.size());
 }
 
 /// Whether an answer about pictures or formulas ends the import.

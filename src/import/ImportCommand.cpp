@@ -38,6 +38,7 @@ void ImportCommand::Begin() {
   pictureCounterBefore_ = pictureCounter_;
   isNewExam_ = false;
   isChosen_ = false;
+  moveTo_.reset();
 }
 
 void ImportCommand::ImportQuestions() {
@@ -200,6 +201,7 @@ ImportOutcome ImportCommand::HandleAndFinish(ImportReport& report) {
   if (isChosen_ && importRolledBack_) return TakeBack();
   editor_.state.MarkModifiedQuietly();
   GoToLastImported();
+  MoveImported();
   Report(report);
   return importRolledBack_ ? ImportOutcome::Cancelled : ImportOutcome::Imported;
 }
@@ -216,7 +218,7 @@ void ImportCommand::Report(ImportReport& report) {
   }
   report.loneLineEnds = CountLoneLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
   report.formulasKept = std::min(CountFormulas(Exam(), firstSlot_, nextSlot_ - 1), report.content->formulas);
-  const bool hasFirst = firstSlot_ == 1 && nextSlot_ > 1;
+  const bool hasFirst = firstSlot_ == 1 && nextSlot_ > 1 && FirstToCheck() > 1;
   const int pictures = report.content->nextPicture - report.content->firstPicture;
   if (hasFirst && pictures > 0 && ShowsPictures(Exam().Question(1))) report.questionAsItIs = 1;
   NoteStep();
@@ -240,14 +242,24 @@ void ImportCommand::RemoveImported(int question) {
   ++removed_;
 }
 
-/// True if the user wants pictures in answers imported as their names. Deliberate: the first question of a
-/// new exam is never checked, since the base counts as an earlier question.
+/// Deliberate: in the whole command the first question of a new exam is never checked, since the base counts
+/// as an earlier question.
+int ImportCommand::FirstToCheck() const {
+  return isChosen_ ? firstSlot_ : importBase_ + 1;
+}
+
+/// Deliberate: the whole command looks at the slot after the imported ones, too.
+int ImportCommand::LastToCheck() const {
+  return isChosen_ ? nextSlot_ - 1 : std::min(nextSlot_, kMaxQuestions);
+}
+
+/// True if the user wants pictures in answers imported as their names.
 bool ImportCommand::HandleAnswerPictures() {
   const ExamServices& services = Exam().Services();
   const std::u16string notice = Strings().Text(text_id::kPictureNotice);
   bool asked = false;
   ChoiceResult choice = ChoiceResult::None;
-  for (int i = importBase_ + 1; i <= std::min(nextSlot_, kMaxQuestions);) {
+  for (int i = FirstToCheck(); i <= LastToCheck();) {
     ExamQuestion question = Exam().Question(i);
     const bool inAnswers = AnswersHavePictures(question);
     if (inAnswers && !asked) {
@@ -286,7 +298,7 @@ void ImportCommand::HandleFormulas() {
   Debug(u"The FormulaDlg is gone!");
   if (IsGivenUp(choice)) RollbackImport();
   if (choice != ChoiceResult::IgnoreRelated) return;
-  for (int i = importBase_ + 1; i < nextSlot_;) {
+  for (int i = FirstToCheck(); i < nextSlot_;) {
     if (HasFormula(Exam().Question(i))) {
       RemoveImported(i);
     } else {

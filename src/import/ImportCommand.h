@@ -40,6 +40,9 @@ class ImportCommand {
         dialogs_(dialogs),
         rules_(std::move(rules)) {}
 
+  /// The file with the repositories is another one from now on.
+  void SetRules(std::filesystem::path rules) { rules_ = std::move(rules); }
+
   /// The whole command.
   void ImportQuestions();
 
@@ -48,9 +51,10 @@ class ImportCommand {
 
   /// Imports a document by these rules, which need not be in any file. Other than in the whole command, a
   /// dialog that is closed without an answer, and giving up, end the import with the exam unchanged: there is
-  /// no report then.
+  /// no report then; and the first question is looked at as all others are. With `number` (1 to 500) the
+  /// questions are then moved to begin there, and those that were there follow them, with all that is theirs.
   ImportOutcome ImportChosen(const std::filesystem::path& document, const ImportSettings& rules,
-                             ImportPlace place);
+                             ImportPlace place, std::optional<int> number = {});
 
   /// From an import until the user undoes it, opens another exam, makes a new one or imports again.
   bool CanUndo() const { return history_.CanUndo(step_); }
@@ -81,8 +85,11 @@ class ImportCommand {
   void HandleFormulas();
   void RollbackImport();
   void RemoveImported(int question);
+  int FirstToCheck() const;
+  int LastToCheck() const;
   void ShowPictureList();
   void GoToLastImported();
+  void MoveImported();
   const StringTable& Strings();
   void Debug(std::u16string_view line);
 
@@ -106,7 +113,8 @@ class ImportCommand {
   int removed_ = 0;
   bool isNewExam_ = false;  ///< begun by this import
   bool importRolledBack_ = false;
-  bool isChosen_ = false;  ///< document and rules were given, and a dialog that is closed ends the import
+  bool isChosen_ = false;      ///< document and rules were given, and a dialog that is closed ends the import
+  std::optional<int> moveTo_;  ///< the number that the first question gets in the end
 };
 
 }  // namespace quorvantis

@@ -89,9 +89,9 @@ class Summary {
     Say(text_id::kQuestionsRead,
         {Text(questions.size()), Number(ReadKind::Choice), Number(ReadKind::TrueFalse),
          Number(ReadKind::FillIn), Number(ReadKind::Essay)});
-    const std::size_t slots = static_cast<std::size_t>(kMaxQuestions + 1 - report_.firstSlot);
-    if (questions.size() > slots)
-      Say(text_id::kLeftOut, {Text(questions.size() - slots), Text(kMaxQuestions)});
+    const auto written = static_cast<std::size_t>(report_.nextSlot - report_.firstSlot + report_.removed);
+    if (questions.size() > written)
+      Say(text_id::kLeftOut, {Text(questions.size() - written), Text(kMaxQuestions)});
     if (report_.removed > 0) Say(text_id::kQuestionsRemoved, {Text(report_.removed)});
     if (report_.firstSlot > 1 && report_.nextSlot > report_.firstSlot)
       Say(text_id::kSlotsFilled,

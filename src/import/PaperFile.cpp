@@ -20,6 +20,8 @@ PaperFile OpenPaper(WordDocuments& documents, const std::filesystem::path& file,
   opened.formulas = reader.MaskFormulas();
   opened.hasAutomaticNumbers = reader.Document().hasAutomaticNumbers;
   opened.paper = PaperOf(reader.Document());
+  opened.paper.hasPictures = opened.pictures > 0;
+  opened.paper.hasFormulas = opened.formulas > 0;
   return opened;
 }
 

@@ -5,7 +5,6 @@
 #include "platform/StringTable.h"
 
 #include <string>
-#include <vector>
 
 namespace quorvantis {
 
@@ -13,17 +12,20 @@ namespace quorvantis {
 struct ImportWish {
   enum class Where { BehindLast, From, NewExam };
   Where where = Where::BehindLast;
-  int from = 1;  ///< for From: the number that the first one gets, 1 to 500
+  int from = 1;  ///< for From: the number that the first one gets, 1 to 500, if the exam goes so far
 };
 
 /// What that does to an exam.
 struct ForeseenImport {
   bool isNewExam = false;
-  int first = 1;              ///< number of the first imported question; 501 if the exam is full
-  int written = 0;            ///< how many there is room for
-  int leftOut = 0;            ///< how many there is none for
-  std::vector<int> replaced;  ///< numbers of the questions that will be gone, ascending
+  int first = 1;      ///< number of the first imported question; 501 if the exam is full
+  int written = 0;    ///< how many there is room for
+  int leftOut = 0;    ///< how many there is none for
+  int lastMoved = 0;  ///< the questions from `first` to this one move up by `written`; 0 for none
 };
+
+/// The number of the last question that has a text, an answer or a file; 0 if there is none.
+int LastWithContent(const ExamPaper& exam);
 
 /// Foresees an import of `questions` questions into `exam`, which holds everything that is typed.
 ForeseenImport ForeseeImport(const ExamPaper& exam, int questions, const ImportWish& wish);

@@ -34,6 +34,9 @@ class MarkedPlaces {
   /// Lines behind marked options that a reading has taken for a part of them.
   std::set<std::u16string> LinesBehindOptions(const std::vector<RolePart>& roles) const;
 
+  /// False for a mark that no layout can follow, so that none is better for it.
+  bool CanBeFollowed(const PaperMark& mark) const;
+
   /// The share of the marks that a reading follows; 1 without any mark.
   double Followed(const std::vector<RolePart>& roles) const;
 
@@ -41,7 +44,6 @@ class MarkedPlaces {
   std::vector<std::size_t> Unfollowed(const std::vector<RolePart>& roles) const;
 
  private:
-  bool CanBeFollowed(const PaperMark& mark) const;
   bool IsFollowed(const PaperMark& mark, const std::vector<RolePart>& roles) const;
   bool GoesOnBehind(const PaperMark& mark, const std::vector<RolePart>& roles) const;
   static bool BelongTogether(std::vector<RolePart>::const_iterator one,

@@ -25,9 +25,10 @@ void PaperStudy::SetRules(ImportSettings rules) {
   Take(TryRules(*paper_, *State().ownRules, isCancelled_));
 }
 
-void PaperStudy::NoteRules(ImportSettings rules) {
-  states_[place_].ownRules = std::move(rules);
-  states_[place_].number = ++numbers_;
+void PaperStudy::NoteRules(ImportSettings rules, bool goesOn) {
+  std::vector<PaperMark> marks = Marks();
+  if (goesOn && HasOwnRules() && CanUndo()) --place_;
+  Push(std::move(marks), std::move(rules));
 }
 
 void PaperStudy::Take(StudyOutcome outcome) {
@@ -67,9 +68,9 @@ void PaperStudy::Redo() {
   if (CanRedo()) ++place_;
 }
 
-void PaperStudy::Push(std::vector<PaperMark> marks) {
+void PaperStudy::Push(std::vector<PaperMark> marks, std::optional<ImportSettings> ownRules) {
   states_.resize(place_ + 1);
-  states_.push_back({std::move(marks), {}, ++numbers_});
+  states_.push_back({std::move(marks), std::move(ownRules), ++numbers_});
   ++place_;
 }
 

@@ -32,8 +32,9 @@ class PaperStudy {
   bool HasOwnRules() const { return State().ownRules.has_value(); }
 
   /// For those who work out an outcome themselves, on another thread: notes the rules without reading the
-  /// paper by them, and takes what was made of the present state.
-  void NoteRules(ImportSettings rules);
+  /// paper by them, and takes what was made of the present state. With `goesOn` the rules are the same step
+  /// for Undo as those noted before, else they are one of their own.
+  void NoteRules(ImportSettings rules, bool goesOn = false);
   void Take(StudyOutcome outcome);
   /// Back to the state whose outcome was taken last: what has led away from it was cancelled.
   void ReturnToTaken();
@@ -62,7 +63,7 @@ class PaperStudy {
   double Explained() const { return ExplainedShare(*paper_, now_.roles); }
 
  private:
-  void Push(std::vector<PaperMark> marks);
+  void Push(std::vector<PaperMark> marks, std::optional<ImportSettings> ownRules = {});
 
   std::shared_ptr<const Paper> paper_;
   CancelHook isCancelled_;

@@ -7,6 +7,7 @@
 #include "import/prepare/KeyReports.h"
 #include "import/prepare/StepNames.h"
 #include "learn/PaperNumbers.h"
+#include "learn/UnkeptObjects.h"
 #include "learn/VisibleKey.h"
 #include "model/AnswerLetters.h"
 #include "model/ExamFields.h"
@@ -130,9 +131,19 @@ class WarningSearch {
       LookAtKey(question, index);
     }
     LookAtAnswers(question, index);
+    LookAtObjects(question, index);
     if (std::u16string visible = VisibleKey(question); !visible.empty())
       Add({Kind::KeyVisible, index, 0, Excerpt(visible)});
     if (IsTooLong(question)) Add({Kind::TooLongText, index});
+  }
+
+  void LookAtObjects(const ReadQuestion& question, int index) {
+    const UnkeptObjects objects = ObjectsOf(question);
+    if (paper_.hasPictures && objects.answerPictures > 0)
+      Add({Kind::AnswerPictures, index, objects.answerPictures});
+    if (paper_.hasPictures && objects.textPictures > 1)
+      Add({Kind::MorePictures, index, objects.textPictures});
+    if (paper_.hasFormulas && objects.formulas > 0) Add({Kind::Formulas, index, objects.formulas});
   }
 
   void LookAtOptions(const ReadQuestion& question, int index) {
@@ -261,6 +272,9 @@ constexpr std::array kKindTexts = {
     KindText{Kind::OneOption, text_id::kWarnOneOption},
     KindText{Kind::EmptyOption, text_id::kWarnEmptyOption},
     KindText{Kind::TooManyOptions, text_id::kWarnTooManyOptions},
+    KindText{Kind::AnswerPictures, text_id::kWarnAnswerPictures},
+    KindText{Kind::MorePictures, text_id::kWarnMorePictures},
+    KindText{Kind::Formulas, text_id::kWarnFormulas},
     KindText{Kind::NumberMissing, text_id::kWarnNumberMissing},
     KindText{Kind::NumberAgain, text_id::kWarnNumberAgain},
     KindText{Kind::KeyNotAnOption, text_id::kWarnKeyNotAnOption},
@@ -281,13 +295,13 @@ std::vector<ReadingWarning> WarningsOf(const Paper& paper, const ImportSettings&
   return WarningSearch(paper, rules, reading).Warnings();
 }
 
-std::u16string WarningText(const ReadingWarning& warning, const StringTable& strings) {
+std::u16string WarningText(const ReadingWarning& warning, const StringTable& strings, int first) {
   const auto* found = std::ranges::find(kKindTexts, warning.kind, &KindText::kind);
   const std::u16string format = strings.Text(found->text);
   const std::u16string number = FormatInteger(warning.number);
   if (warning.kind == Kind::NotRead) return FillMessage(format, {warning.text});
   if (warning.kind == Kind::TooManyQuestions) return FillMessage(format, {number});
-  const std::u16string question = FormatInteger(warning.question + 1);
+  const std::u16string question = FormatInteger(warning.question + first);
   return FillMessage(format, {question, warning.text.empty() ? number : warning.text});
 }
 

@@ -17,6 +17,9 @@ struct ReadingWarning {
     OneOption,         ///< a choice question with a single option
     EmptyOption,       ///< between others
     TooManyOptions,    ///< options beyond the fifth stand in the text or in an option; `number` of them
+    AnswerPictures,    ///< `number` pictures in options or an answer, where an exam has none
+    MorePictures,      ///< `number` pictures in the text, of which an exam keeps the first
+    Formulas,          ///< `number` formulas, which an exam cannot hold
     NumberMissing,     ///< between this question and the one before it; `number` is the first that is missing
     NumberAgain,       ///< the same number twice in a row
     KeyNotAnOption,    ///< the paper's key names no option that there is; `text` is the key
@@ -38,7 +41,7 @@ struct ReadingWarning {
 std::vector<ReadingWarning> WarningsOf(const Paper& paper, const ImportSettings& rules,
                                        const PaperReading& reading);
 
-/// One line for the user. Questions are counted from 1 as the import would number them.
-std::u16string WarningText(const ReadingWarning& warning, const StringTable& strings);
+/// One line for the user. The import gives the first question the number `first`.
+std::u16string WarningText(const ReadingWarning& warning, const StringTable& strings, int first = 1);
 
 }  // namespace quorvantis

@@ -12,6 +12,13 @@ bool IsWhite(char16_t unit) {
   return IsBlank(unit) || IsLineEnd(unit);
 }
 
+template <class Fits>
+std::optional<std::size_t> IndexOfMark(const std::vector<PaperMark>& marks, Fits fits) {
+  const auto found = std::find_if(marks.begin(), marks.end(), fits);
+  if (found == marks.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - marks.begin());
+}
+
 }  // namespace
 
 RoleLookup::RoleLookup(const std::vector<RolePart>& roles) : roles_(&roles) {
@@ -73,11 +80,12 @@ bool IsUnderstoodAs(std::u16string_view paper, const RoleLookup& lookup, TextSpa
 }
 
 std::optional<std::size_t> MarkAt(const std::vector<PaperMark>& marks, std::size_t place) {
-  const auto found = std::find_if(marks.begin(), marks.end(), [place](const PaperMark& mark) {
-    return mark.span.Contains(place) || mark.span.end == place;
-  });
-  if (found == marks.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - marks.begin());
+  return IndexOfMark(
+      marks, [place](const PaperMark& mark) { return mark.span.Contains(place) || mark.span.end == place; });
+}
+
+std::optional<std::size_t> MarkIn(const std::vector<PaperMark>& marks, TextSpan part) {
+  return IndexOfMark(marks, [part](const PaperMark& mark) { return mark.span.Overlaps(part); });
 }
 
 }  // namespace quorvantis

@@ -43,4 +43,7 @@ bool IsUnderstoodAs(std::u16string_view paper, const RoleLookup& lookup, TextSpa
 /// The index of the mark at a place, its end included; nothing if there is none.
 std::optional<std::size_t> MarkAt(const std::vector<PaperMark>& marks, std::size_t place);
 
+/// The same for a part of the paper: the first mark that overlaps it.
+std::optional<std::size_t> MarkIn(const std::vector<PaperMark>& marks, TextSpan part);
+
 }  // namespace quorvantis

@@ -49,9 +49,6 @@ class StudyWords {
     if (!study_.HasOwnRules()) lines_ = LearnedLines(study_.Learned(), strings_);
     Say(text_id::kUnderstoodShare, {FormatInteger(static_cast<std::int64_t>(study_.Explained() * 100))});
     TellUnfollowed();
-    for (const ReadingWarning& warning : study_.Warnings()) {
-      if (warning.question < 0) lines_.push_back(u"\u26A0 " + WarningText(warning, strings_));
-    }
     return std::move(lines_);
   }
 

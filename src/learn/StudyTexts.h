@@ -17,8 +17,7 @@ int QuestionsWithoutKey(const ReadPaper& paper);
 /// answer, and what is left out; or why the paper cannot be read by the rules.
 std::u16string StudyHeadline(const PaperStudy& study, const StringTable& strings);
 
-/// What was understood and how sure that is, the marks that are not followed, and what to look at in the
-/// paper as a whole: one line each.
+/// What was understood and how sure that is, and the marks that are not followed: one line each.
 std::vector<std::u16string> StudyLines(const PaperStudy& study, const StringTable& strings);
 
 /// A part of a paper in one short line.

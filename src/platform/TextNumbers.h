@@ -421,7 +421,6 @@ constexpr int kTargetBehind = 1655;
 constexpr int kTargetFrom = 1656;
 constexpr int kTargetNew = 1657;
 constexpr int kPlaceFree = 1658;
-constexpr int kPlaceReplaces = 1659;
 constexpr int kPlaceFull = 1661;
 constexpr int kPlaceNew = 1662;
 constexpr int kImportNow = 1663;
@@ -577,5 +576,22 @@ constexpr int kAttachedWithoutContent = 1827;
 constexpr int kTakenComeAfter = 1828;
 constexpr int kPrintComes = 1800;  // "Preparing to print… Escape cancels."
 constexpr int kPrintWaits = 1801;  // what to expect, in its tooltip
+
+// What the window for papers tells of an import and of marks.
+constexpr int kPlaceInserts = 1870;  // %1 new numbers of %2 questions; %3 numbers of the %4 that move up
+constexpr int kCloseThePaper = 1871;
+constexpr int kKeepThePaper = 1872;
+constexpr int kMarkContradicted = 1873;  // by the mark with text %1 and role %2
+constexpr int kMarkWithinLine = 1874;
+constexpr int kMarkWithoutRule = 1875;
+constexpr int kMarkWithOthers = 1876;
+constexpr int kMarkReason = 1877;       // its text, its role and one of those above
+constexpr int kMarkReasonComes = 1878;  // it is being worked out
+constexpr int kMarksNotUsed = 1879;
+constexpr int kImportWaits = 1880;  // for the rule that %1 describes; %2 says what is wrong
+constexpr int kWarnAnswerPictures = 1881;
+constexpr int kWarnMorePictures = 1882;
+constexpr int kWarnFormulas = 1883;
+constexpr int kShowsThePlace = 1884;
 
 }  // namespace quorvantis::text_id

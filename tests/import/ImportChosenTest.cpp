@@ -117,6 +117,20 @@ TEST_F(ImportChosenTest, PutsQuestionsWhereTheCallerWants) {
   EXPECT_EQ(dialogs.asked, 0);
 }
 
+TEST_F(ImportChosenTest, InsertsBetweenQuestions) {
+  FillExam();
+  ShowQuestion(4);
+  EXPECT_EQ(import.ImportChosen("paper", rules, ImportPlace::AfterCurrentQuestion, 2),
+            ImportOutcome::Imported);
+  EXPECT_EQ(Texts(), u"1|first|second|third|2|3|4");
+  EXPECT_EQ(dialogs.report->firstSlot, 2);
+  EXPECT_EQ(dialogs.report->nextSlot, 5);
+  EXPECT_TRUE(dialogs.report->replaced.empty());
+  EXPECT_EQ(editor.state.CurrentQuestion(), 4);
+  import.Undo();
+  EXPECT_EQ(Texts(), u"1|2|3|4");
+}
+
 TEST_F(ImportChosenTest, FollowsQuestionOne) {
   FillExam();
   ShowQuestion(1);

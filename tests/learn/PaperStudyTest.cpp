@@ -35,6 +35,21 @@ TEST(PaperStudy, UndoLeadsBackToRulesWrittenByHand) {
   EXPECT_EQ(study.Marks().front().role, PaperRole::QuestionNumber);
 }
 
+TEST(PaperStudy, RulesWrittenByHandAreStepsOfTheirOwn) {
+  PaperStudy study(PaperOf(kPaper));
+  study.AddMark({{5, 7}, PaperRole::QuestionNumber});
+  study.NoteRules(StudyRules(u"a"));
+  study.NoteRules(StudyRules(u"ab"), true);
+  study.NoteRules(StudyRules(u"c"));
+  study.Undo();
+  EXPECT_EQ(study.State().ownRules->m_strPreQuestion, u"ab");
+  study.Undo();
+  EXPECT_FALSE(study.HasOwnRules());
+  EXPECT_EQ(study.Marks().size(), 1U);
+  study.Undo();
+  EXPECT_TRUE(study.Marks().empty());
+}
+
 TEST(PaperStudy, ReturnsToTheStateThatIsShown) {
   PaperStudy study(PaperOf(kPaper));
   study.Take({});
@@ -78,21 +93,22 @@ struct PlaceRow {
   ImportWish wish;
   int first;
   int written;
-  std::vector<int> replaced;
+  int lastMoved;
 };
 
-TEST(ForeseenImport, ForeseesWhatAnImportReplaces) {
+TEST(ForeseenImport, ForeseesWhereQuestionsGoAndWhichMove) {
   using Where = ImportWish::Where;
   const PlaceRow rows[] = {
-      {"empty exam", {}, 3, {Where::BehindLast}, 1, 3, {}},
-      {"behind", {1, 2, 7}, 3, {Where::BehindLast}, 8, 3, {}},
-      {"before others", {1, 2, 3, 4}, 2, {Where::From, 2}, 2, 2, {2, 3}},
-      {"into a gap", {1, 4}, 2, {Where::From, 2}, 2, 2, {}},
-      {"over the first", {1}, 2, {Where::From, 1}, 1, 2, {1}},
-      {"at the end", {499, 500}, 5, {Where::From, 499}, 499, 2, {499, 500}},
-      {"full", {500}, 5, {Where::BehindLast}, 501, 0, {}},
-      {"new", {1, 2}, 600, {Where::NewExam}, 1, 500, {}},
-      {"nothing", {1, 2}, 0, {Where::From, 1}, 1, 0, {}},
+      {"empty exam", {}, 3, {Where::BehindLast}, 1, 3, 0},
+      {"behind", {1, 2, 7}, 3, {Where::BehindLast}, 8, 3, 0},
+      {"before others", {1, 2, 3, 4}, 2, {Where::From, 2}, 2, 2, 4},
+      {"before the first", {1}, 2, {Where::From, 1}, 1, 2, 1},
+      {"beyond the end", {1}, 2, {Where::From, 300}, 2, 2, 0},
+      {"little room", {1, 498}, 5, {Where::From, 1}, 1, 2, 498},
+      {"full", {500}, 5, {Where::BehindLast}, 501, 0, 0},
+      {"full, from", {500}, 5, {Where::From, 3}, 3, 0, 0},
+      {"new", {1, 2}, 600, {Where::NewExam}, 1, 500, 0},
+      {"nothing", {1, 2}, 0, {Where::From, 1}, 1, 0, 0},
   };
   for (const PlaceRow& row : rows) {
     ExamPaper exam;
@@ -101,7 +117,7 @@ TEST(ForeseenImport, ForeseesWhatAnImportReplaces) {
     EXPECT_EQ(place.first, row.first) << row.what;
     EXPECT_EQ(place.written, row.written) << row.what;
     EXPECT_EQ(place.leftOut, row.questions - row.written) << row.what;
-    EXPECT_EQ(place.replaced, row.replaced) << row.what;
+    EXPECT_EQ(place.lastMoved, row.lastMoved) << row.what;
   }
 }
 

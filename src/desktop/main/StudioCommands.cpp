@@ -7,7 +7,6 @@
 #include "learn/ForeseenImport.h"
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
-#include "platform/Files.h"
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
@@ -16,14 +15,6 @@
 #include <utility>
 
 namespace quorvantis {
-namespace {
-
-bool CanBeWritten(Files& files, const std::filesystem::path& file) {
-  std::error_code error;
-  return files.Replace(file, error) != nullptr;
-}
-
-}  // namespace
 
 StudioWindow& StudioCommands::Window() {
   if (studio_ == nullptr) studio_ = new StudioWindow(editor_.state.document.Services(), Services(), &window_);
@@ -43,9 +34,6 @@ StudioServices StudioCommands::Services() {
   services.import = [this](const StudioImport& wanted) { return Import(wanted); };
   services.saveRules = [this](const Repository& rules, std::filesystem::path& file) {
     return SaveRules(rules, file);
-  };
-  services.askYesNo = [this](std::u16string_view question) {
-    return editor_.state.document.Services().dialogs.AskYesNo(question);
   };
   return services;
 }
@@ -90,32 +78,39 @@ ExamPaper StudioCommands::Exam() const {
 /// Unless questions come in, the exam and the question that is shown stay.
 bool StudioCommands::Import(const StudioImport& wanted) {
   const int shown = editor_.state.CurrentQuestion();
+  std::optional<int> number;
+  if (wanted.wish.where == ImportWish::Where::From) number = ForeseeImport(Exam(), 0, wanted.wish).first;
   const ImportPlace place = GoToPlace(wanted.wish);
-  const bool isDone = import_.ImportChosen(wanted.paper, wanted.rules, place) == ImportOutcome::Imported;
+  const ImportOutcome outcome = import_.ImportChosen(wanted.paper, wanted.rules, place, number);
+  const bool isDone = outcome == ImportOutcome::Imported;
   if (!isDone) editor_.questions.GoToQuestion(shown);
   return isDone;
 }
 
 ImportPlace StudioCommands::GoToPlace(const ImportWish& wish) {
   if (wish.where == ImportWish::Where::NewExam) return ImportPlace::NewExam;
-  const int before = ForeseeImport(Exam(), 0, wish).first - 1;
-  if (before == 0) return ImportPlace::FirstQuestion;
-  editor_.questions.GoToQuestion(before);
+  const int last = LastWithContent(Exam());
+  if (last == 0) return ImportPlace::FirstQuestion;
+  editor_.questions.GoToQuestion(last);
   return ImportPlace::AfterCurrentQuestion;
 }
 
-/// The program's own file is copied to the application folder if it cannot be written.
+/// The program's own file stays as it is: its rules are copied to the application folder, unless that is the
+/// program's. Unless the new rules are saved, there is no copy.
 std::optional<std::u16string> StudioCommands::SaveRules(const Repository& rules,
                                                         std::filesystem::path& file) {
   const ExamServices& services = editor_.state.document.Services();
-  file = FindImportRules(services.applicationFolder);
+  file = services.applicationFolder / kImportRulesFile;
   std::error_code ignored;
-  if (!std::filesystem::exists(file, ignored) || !CanBeWritten(services.files, file)) {
-    ProvideImportRules(file.parent_path(), services.applicationFolder);
-    file = services.applicationFolder / kImportRulesFile;
-  }
+  const bool isNew = !std::filesystem::exists(std::filesystem::symlink_status(file, ignored));
+  if (isNew)
+    ProvideImportRules(FindImportRules(services.applicationFolder).parent_path(), file.parent_path());
   const SavedRules saved = quorvantis::SaveRules(file, rules, services.codePage, services.files);
-  if (saved.AreSaved()) return std::nullopt;
+  if (saved.AreSaved()) {
+    import_.SetRules(file);
+    return std::nullopt;
+  }
+  if (isNew) std::filesystem::remove(file, ignored);
   return WhyNotSaved(saved, file, rules, services.strings);
 }
 

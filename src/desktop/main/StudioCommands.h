@@ -47,7 +47,7 @@ class StudioCommands {
   std::filesystem::path HoldText(std::u16string text);
   ExamPaper Exam() const;
   bool Import(const StudioImport& wanted);
-  /// Shows the question behind which the questions go, and says where they go from there.
+  /// Shows the last question, behind which the questions go, and says where they go from there.
   ImportPlace GoToPlace(const ImportWish& wish);
   std::optional<std::u16string> SaveRules(const Repository& rules, std::filesystem::path& file);
 

@@ -77,6 +77,14 @@ std::size_t PaperView::TopPlace() const {
   return shown_.ToSource(static_cast<std::size_t>(firstVisibleBlock().position()));
 }
 
+void PaperView::Select(TextSpan part) {
+  QTextCursor cursor(document());
+  cursor.setPosition(static_cast<int>(shown_.ToShown(part.begin)));
+  cursor.setPosition(static_cast<int>(shown_.ToShown(part.end)), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+  BringIntoView(part.begin);
+}
+
 TextSpan PaperView::Selected() const {
   if (!paper_) return {};
   const QTextCursor cursor = textCursor();

@@ -37,6 +37,8 @@ class PaperView : public QPlainTextEdit {
   /// The place at the top of the view.
   std::size_t TopPlace() const;
 
+  /// Selects a part and brings it into view.
+  void Select(TextSpan part);
   /// What is selected, without blanks around it; empty if nothing is.
   TextSpan Selected() const;
   std::size_t CursorPlace() const;

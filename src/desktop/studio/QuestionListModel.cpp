@@ -56,7 +56,7 @@ void QuestionListModel::SetNumbers(int first, int count) {
   if (first == first_ && count == count_) return;
   first_ = first;
   count_ = count;
-  if (rowCount() > 0) emit dataChanged(index(0, Number), index(rowCount() - 1, Number));
+  if (rowCount() > 0) emit dataChanged(index(0, Number), index(rowCount() - 1, Notes));
 }
 
 int QuestionListModel::rowCount(const QModelIndex& parent) const {
@@ -91,7 +91,7 @@ QStringList QuestionListModel::NotesOf(int row) const {
       [](const ReadingWarning& a, const ReadingWarning& b) { return a.question < b.question; });
   QStringList notes;
   for (auto warning = begin; warning != end; ++warning)
-    notes.push_back(QStringLiteral("\u26A0 ") + ToQString(WarningText(*warning, strings_)));
+    notes.push_back(QStringLiteral("\u26A0 ") + ToQString(WarningText(*warning, strings_, first_)));
   return notes;
 }
 

@@ -2,6 +2,7 @@
 #include "desktop/studio/RoleBar.h"
 
 #include "desktop/controls/Controls.h"
+#include "desktop/controls/FlowLayout.h"
 #include "desktop/controls/QtText.h"
 #include "desktop/studio/RoleLook.h"
 #include "learn/LearnedTexts.h"
@@ -10,8 +11,8 @@
 #include "text/NumberText.h"
 
 #include <QAction>
+#include <QBoxLayout>
 #include <QEvent>
-#include <QGridLayout>
 #include <QLabel>
 
 namespace quorvantis {
@@ -19,8 +20,7 @@ namespace {
 
 constexpr int kFirstRole = static_cast<int>(PaperRole::QuestionNumber);
 constexpr int kLastRole = static_cast<int>(PaperRole::NotExam);
-constexpr int kInARow = 4;
-constexpr int kNarrowest = 64;  // pixels, on small screens; tooltips have the whole caption
+constexpr int kSpacing = 2;  // pixels
 
 }  // namespace
 
@@ -28,15 +28,10 @@ RoleBar::RoleBar(const StringTable& strings, QWidget* parent)
     : QWidget(parent), strings_(strings), notUnderstood_(new QToolButton(this)) {
   const QString caption = ToQString(strings.Text(text_id::kSaySelected));
   NameControl(this, "roleBar", caption);
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(2);
-  grid->addWidget(new QLabel(caption, this), 0, 0);
-  for (int role = kFirstRole; role <= kLastRole; ++role) {
-    QAction* action = MakeAction(static_cast<PaperRole>(role));
-    const int place = role - kFirstRole;
-    grid->addWidget(MakeButton(action), place / kInARow, 1 + place % kInARow);
-  }
+  auto* buttons = new FlowLayout(kSpacing, nullptr);
+  buttons->addWidget(new QLabel(caption, this));
+  for (int role = kFirstRole; role <= kLastRole; ++role)
+    buttons->addWidget(MakeButton(MakeAction(static_cast<PaperRole>(role))));
   auto* takeBack = new QAction(ToQString(strings.Text(text_id::kTakeBackMark)), this);
   takeBack->setObjectName("takeBackMark");
   const QString tip = ToQString(
@@ -44,18 +39,21 @@ RoleBar::RoleBar(const StringTable& strings, QWidget* parent)
   takeBack->setToolTip(PlainTip(tip));
   connect(takeBack, &QAction::triggered, this, &RoleBar::TakeBackPressed);
   actions_.push_back(takeBack);
-  grid->addWidget(MakeButton(takeBack), 0, 1 + kInARow);
+  buttons->addWidget(MakeButton(takeBack));
   notUnderstood_->setText(ToQString(RoleName(PaperRole::None, strings)));
   notUnderstood_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   notUnderstood_->setAutoRaise(true);
   notUnderstood_->setFocusPolicy(Qt::NoFocus);
   notUnderstood_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  grid->addWidget(notUnderstood_, 1, 1 + kInARow);
+  buttons->addWidget(notUnderstood_);
   auto* signs = new QLabel(ToQString(strings.Text(text_id::kSignWithMeaning)), this);
   signs->setTextFormat(Qt::PlainText);
   signs->setWordWrap(true);
-  grid->addWidget(signs, 2, 0, 1, 2 + kInARow);
-  grid->setColumnStretch(1 + kInARow, 1);
+  auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(kSpacing);
+  rows->addLayout(buttons);
+  rows->addWidget(signs);
   ShowSamples();
 }
 
@@ -77,8 +75,6 @@ QWidget* RoleBar::MakeButton(QAction* action) {
   button->setDefaultAction(action);
   button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   button->setFocusPolicy(Qt::TabFocus);  // a click leaves the selection in the paper
-  button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  button->setMinimumWidth(kNarrowest);
   button->setAccessibleName(action->text());
   return button;
 }

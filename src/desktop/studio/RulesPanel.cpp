@@ -6,6 +6,7 @@
 #include "import/prepare/PreparationSteps.h"
 #include "learn/RuleFields.h"
 #include "platform/TextNumbers.h"
+#include "text/MessageText.h"
 
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -37,7 +38,7 @@ RulesPanel::RulesPanel(const StringTable& strings, QWidget* parent) : QScrollAre
   AddRules(content);
   table_ = new QCheckBox(ToQString(strings.Text(text_id::kRuleTable)), content);
   table_->setObjectName("ruleTable");
-  connect(table_, &QCheckBox::clicked, this, &RulesPanel::Edited);
+  connect(table_, &QCheckBox::clicked, this, &RulesPanel::EditedOther);
   grid->addWidget(table_, grid->rowCount(), 0, 1, 4);
   AddSteps(content);
   setWidget(content);
@@ -63,7 +64,7 @@ void RulesPanel::AddRules(QWidget* content) {
     grid->addWidget(state, row, kStateColumn);
     connect(value, &QLineEdit::textEdited, this, [this, rule = rows_.size()] {
       ShowTyped(rule);
-      emit Edited();
+      emit Edited(static_cast<int>(rule));
     });
     rows_.push_back({value, state});
   }
@@ -78,7 +79,7 @@ void RulesPanel::AddSteps(QWidget* content) {
     const QString words = ToQString(strings_.Text(step.sentence));
     auto* box = new QCheckBox(QString(words).replace('&', "&&"), content);
     box->setObjectName("step" + name);
-    connect(box, &QCheckBox::clicked, this, &RulesPanel::Edited);
+    connect(box, &QCheckBox::clicked, this, &RulesPanel::EditedOther);
     const int row = grid->rowCount();
     grid->addWidget(box, row, kValueColumn, 1, 2);
     grid->addWidget(PlainLabel(name, content), row, kKeyColumn);
@@ -101,9 +102,10 @@ void RulesPanel::ShowStudy(const PaperStudy& study) {
 
 void RulesPanel::Clear() {
   study_ = nullptr;
-  for (const Row& row : rows_) {
+  for (Row& row : rows_) {
     row.value->clear();
     row.state->clear();
+    row.fault.clear();
   }
 }
 
@@ -111,16 +113,26 @@ void RulesPanel::ShowStates() {
   if (study_ == nullptr) return;
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const std::u16string value = FromQString(rows_[i].value->text());
+    rows_[i].fault = ToQString(RuleFault(RuleFields()[i], value, strings_));
     rows_[i].state->setText(ToQString(RuleStateText(RuleFields()[i], value, study_->Reading(), strings_)));
   }
 }
 
 /// What it finds is not known yet.
 void RulesPanel::ShowTyped(std::size_t rule) {
-  const Row& row = rows_[rule];
+  Row& row = rows_[rule];
   const std::u16string value = FromQString(row.value->text());
-  const QString fault = ToQString(RuleFault(RuleFields()[rule], value, strings_));
-  row.state->setText(fault.isEmpty() ? QStringLiteral("\u2026") : fault);
+  row.fault = ToQString(RuleFault(RuleFields()[rule], value, strings_));
+  row.state->setText(row.fault.isEmpty() ? QStringLiteral("\u2026") : row.fault);
+}
+
+QString RulesPanel::Fault() const {
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (rows_[i].fault.isEmpty()) continue;
+    return ToQString(FillMessage(strings_.Text(text_id::kImportWaits),
+                                 {strings_.Text(RuleFields()[i].words), FromQString(rows_[i].fault)}));
+  }
+  return {};
 }
 
 ImportSettings RulesPanel::Rules() const {

@@ -31,20 +31,27 @@ class RulesPanel : public QScrollArea {
   /// The rules as they are in the fields.
   ImportSettings Rules() const;
 
+  /// Which of them is not valid, and why, in one sentence; empty if all are.
+  QString Fault() const;
+
+  static constexpr int kNoRule = -1;
+
  signals:
-  /// The user has changed a rule.
-  void Edited();
+  /// The user has changed a rule, an index of RuleFields(), or something else: kNoRule.
+  void Edited(int rule);
 
  private:
   struct Row {
     QLineEdit* value;
     QLabel* state;
+    QString fault{};
   };
 
   void AddRules(QWidget* content);
   void AddSteps(QWidget* content);
   void ShowStates();
   void ShowTyped(std::size_t rule);
+  void EditedOther() { emit Edited(kNoRule); }
 
   const StringTable& strings_;
   std::vector<Row> rows_;  ///< one for each of RuleFields()

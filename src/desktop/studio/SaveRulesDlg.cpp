@@ -49,6 +49,9 @@ void SaveRulesDlg::accept() {
   QAccessibleEvent told(why_, QAccessible::Alert);
   QAccessible::updateAccessibility(&told);
   name_->setFocus();
+  // Layouts give a text that is wrapped the height that it had when it was empty.
+  why_->setMinimumHeight(why_->heightForWidth(name_->width()));
+  adjustSize();
 }
 
 }  // namespace quorvantis

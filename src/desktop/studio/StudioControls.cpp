@@ -2,6 +2,7 @@
 #include "desktop/studio/StudioControls.h"
 
 #include "desktop/controls/Controls.h"
+#include "desktop/controls/OwnDirection.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
 
@@ -14,9 +15,8 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kQuestionWidths[] = {40, 64, 180, 130, 56, 140};  // pixels
+constexpr int kQuestionWidths[] = {40, 60, 170, 120, 50, 140};  // pixels
 static_assert(std::size(kQuestionWidths) == QuestionListModel::kColumns);
-constexpr int kFindingsLines = 5;
 
 }  // namespace
 
@@ -33,7 +33,7 @@ StudioControls::StudioControls(const StringTable& strings, QWidget* window)
       marks(new MarksList(strings, window)),
       questions(new QTableView(window)),
       model(new QuestionListModel(strings, questions)),
-      findings(new QPlainTextEdit(window)),
+      findings(new FindingsList(strings, window)),
       rules(new RulesPanel(strings, window)),
       target(new TargetChoice(strings, window)),
       status(nullptr),
@@ -58,7 +58,6 @@ StudioControls::StudioControls(const StringTable& strings, QWidget* window)
   rules->hide();
   NameControl(paper, "studioPaper", ToQString(strings.Text(text_id::kPaperArea)));
   SetUpQuestions();
-  SetUpFindings();
   Place(window);
 }
 
@@ -80,6 +79,7 @@ QLabel* StudioControls::MakeText(const char* name, QWidget* window) {
 void StudioControls::SetUpQuestions() {
   NameControl(questions, "studioQuestions", ToQString(strings_.Text(text_id::kResultingQuestions)));
   questions->setModel(model);
+  questions->setItemDelegate(new OwnDirection(questions));
   questions->setSelectionBehavior(QAbstractItemView::SelectRows);
   questions->setSelectionMode(QAbstractItemView::SingleSelection);
   questions->setTabKeyNavigation(false);
@@ -91,13 +91,6 @@ void StudioControls::SetUpQuestions() {
   questions->horizontalHeader()->setStretchLastSection(true);
   for (int column = 0; column < QuestionListModel::kColumns; ++column)
     questions->setColumnWidth(column, kQuestionWidths[column]);
-}
-
-void StudioControls::SetUpFindings() {
-  NameControl(findings, "studioFindings", ToQString(strings_.Text(text_id::kColumnNotes)));
-  findings->setReadOnly(true);
-  findings->setTabChangesFocus(true);
-  findings->setMaximumHeight(findings->fontMetrics().lineSpacing() * kFindingsLines + 16);
 }
 
 void StudioControls::Place(QWidget* window) {

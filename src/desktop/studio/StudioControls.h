@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/studio/FindingsList.h"
 #include "desktop/studio/MarksList.h"
 #include "desktop/studio/PaperView.h"
 #include "desktop/studio/QuestionListModel.h"
@@ -9,7 +10,6 @@
 #include "desktop/studio/TargetChoice.h"
 
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
@@ -39,7 +39,7 @@ class StudioControls {
   MarksList* marks;
   QTableView* questions;
   QuestionListModel* model;
-  QPlainTextEdit* findings;
+  FindingsList* findings;
   RulesPanel* rules;
   TargetChoice* target;
   QLabel* status;
@@ -51,7 +51,6 @@ class StudioControls {
   QPushButton* MakeButton(const char* name, int text, QWidget* window);
   QLabel* MakeText(const char* name, QWidget* window);
   void SetUpQuestions();
-  void SetUpFindings();
   void Place(QWidget* window);
   QLayout* PlaceTop();
   void PlaceSides();

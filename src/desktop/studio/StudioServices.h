@@ -36,7 +36,6 @@ struct StudioServices {
   /// Adds the rules to the file in use. Nothing and the file if that is done, or why it is not.
   std::function<std::optional<std::u16string>(const Repository& rules, std::filesystem::path& file)>
       saveRules;
-  std::function<bool(std::u16string_view question)> askYesNo;
 };
 
 }  // namespace quorvantis

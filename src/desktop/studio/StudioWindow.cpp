@@ -2,6 +2,7 @@
 #include "desktop/studio/StudioWindow.h"
 
 #include "desktop/controls/QtText.h"
+#include "desktop/studio/MarksQuestion.h"
 #include "desktop/studio/SaveRulesDlg.h"
 #include "import/DocumentFailureText.h"
 #include "learn/LearnedTexts.h"
@@ -46,7 +47,8 @@ StudioWindow::StudioWindow(const ExamServices& services, StudioServices program,
       place_(services.applicationFolder, services.files, u"studio"),
       controls_(strings_, this),
       sides_(*controls_.paper, *controls_.questions, nullptr),
-      run_(nullptr) {
+      run_(nullptr),
+      reasonsRun_(nullptr) {
   setObjectName("studio");
   setWindowTitle(ToQString(strings_.Text(text_id::kStudio)));
   whenTyped_.setSingleShot(true);
@@ -62,6 +64,7 @@ StudioWindow::StudioWindow(const ExamServices& services, StudioServices program,
 StudioWindow::~StudioWindow() {
   if (isVisible()) KeepPlace();
   run_.disconnect(this);
+  reasonsRun_.disconnect(this);
 }
 
 void StudioWindow::Connect() {
@@ -83,6 +86,10 @@ void StudioWindow::Connect() {
   connect(controls_.marks, &MarksList::Chosen, this, [this](std::size_t index) {
     if (study_ && index < study_->Marks().size())
       controls_.paper->ScrollTo(study_->Marks()[index].span.begin);
+  });
+  connect(controls_.findings, &FindingsList::PlaceChosen, this, [this](TextSpan place) {
+    controls_.paper->Select(place);
+    controls_.paper->setFocus();
   });
   connect(controls_.rules, &RulesPanel::Edited, this, &StudioWindow::RulesEdited);
   connect(controls_.target, &TargetChoice::Changed, this, &StudioWindow::ShowTarget);
@@ -130,7 +137,15 @@ void StudioWindow::Tell(int text) {
 }
 
 void StudioWindow::ChoosePaper() {
-  if (const auto paper = program_.choosePaper()) OpenPaper(*paper);
+  const auto paper = program_.choosePaper();
+  TakeKeyboard();
+  if (paper) OpenPaper(*paper);
+}
+
+/// After dialogs: the main window must not get the next key.
+void StudioWindow::TakeKeyboard() {
+  raise();
+  activateWindow();
 }
 
 void StudioWindow::PastePaper() {
@@ -143,10 +158,8 @@ void StudioWindow::PastePaper() {
 
 bool StudioWindow::MayLeavePaper() {
   if (!study_ || study_->Marks().empty()) return true;
-  const bool mayLeave = program_.askYesNo(strings_.Text(text_id::kLoseMarks));
-  // The question lay over the main window, which must not get the next key.
-  raise();
-  activateWindow();
+  const bool mayLeave = MayLoseMarks(strings_, this);
+  TakeKeyboard();
   return mayLeave;
 }
 
@@ -182,6 +195,7 @@ void StudioWindow::TakePaper(PaperFile file, const WantedPaper& wanted) {
 void StudioWindow::Leave() {
   whenTyped_.stop();
   run_.Drop();
+  reasonsRun_.Drop();
   controls_.model->ShowStudy(nullptr);
   sides_.Clear();
   controls_.paper->ShowPaper(std::make_shared<const Paper>(), false);
@@ -211,7 +225,9 @@ void StudioWindow::Mark(PaperRole role) {
 }
 
 void StudioWindow::TakeBackHere() {
-  const auto index = study_ ? MarkAt(study_->Marks(), controls_.paper->CursorPlace()) : std::nullopt;
+  std::optional<std::size_t> index;
+  if (study_) index = MarkIn(study_->Marks(), controls_.paper->Selected());
+  if (study_ && !index) index = MarkAt(study_->Marks(), controls_.paper->CursorPlace());
   if (!index) return Tell(text_id::kNoMarkHere);
   TakeBack(*index);
 }
@@ -223,9 +239,10 @@ void StudioWindow::TakeBack(std::size_t index) {
   controls_.paper->setFocus();
 }
 
+/// What has been typed and not been tried goes first.
 void StudioWindow::UndoMark() {
-  if (!study_ || !study_->CanUndo()) return;
-  study_->Undo();
+  if (!study_ || (!whenTyped_.isActive() && !study_->CanUndo())) return;
+  if (!whenTyped_.isActive()) study_->Undo();
   WorkOut();
 }
 
@@ -235,20 +252,27 @@ void StudioWindow::RedoMark() {
   WorkOut();
 }
 
-void StudioWindow::RulesEdited() {
+void StudioWindow::RulesEdited(int rule) {
   if (!study_) return;
+  const bool isAnother = whenTyped_.isActive() && rule != typedRule_;
+  typedRule_ = isAnother ? RulesPanel::kNoRule : rule;
   whenTyped_.start();
+  controls_.Tell(controls_.rules->Fault());
   EnableControls();
 }
 
 void StudioWindow::TryEdited() {
   if (!study_) return;
-  study_->NoteRules(controls_.rules->Rules());
+  const int rule = typedRule_;
+  study_->NoteRules(controls_.rules->Rules(), rule != RulesPanel::kNoRule && rule == triedRule_);
   WorkOut();
+  triedRule_ = rule;
 }
 
 void StudioWindow::WorkOut() {
   whenTyped_.stop();
+  reasonsRun_.Drop();
+  triedRule_ = RulesPanel::kNoRule;
   Tell(text_id::kStudioLearning);
   run_.Start([this, paper = study_->SharedPaper(),
               state = study_->State()](const BackgroundRun::Cancelled& isCancelled) {
@@ -267,20 +291,43 @@ void StudioWindow::TakeOutcome(StudyOutcome outcome) {
     controls_.model->ShowStudy(nullptr);
     study_->Take(std::move(outcome));
   }
+  reasons_.reset();
   ShowStudy();
   if (tellThen_ == 0 && !controls_.paper->ShowsAll()) tellThen_ = text_id::kPaperBeginning;
   const int text = std::exchange(tellThen_, 0);
-  controls_.Tell(text == 0 ? QString() : ToQString(strings_.Text(text)));
+  controls_.Tell(text == 0 ? controls_.rules->Fault() : ToQString(strings_.Text(text)));
+  ExplainMarks();
+}
+
+void StudioWindow::ExplainMarks() {
+  const auto& unfollowed = study_->Learned().unfollowed;
+  if (unfollowed.empty()) return;
+  reasonsRun_.Start([this, paper = study_->SharedPaper(), marks = study_->Marks(),
+                     unfollowed](const BackgroundRun::Cancelled& isCancelled) {
+    auto reasons = WhyUnfollowed(*paper, marks, unfollowed, isCancelled);
+    return [this, reasons = std::move(reasons)] { TakeReasons(reasons); };
+  });
+}
+
+/// Tells that of the mark that was made last.
+void StudioWindow::TakeReasons(std::vector<UnfollowedMark> reasons) {
+  reasons_ = std::move(reasons);
+  controls_.marks->ShowStudy(*study_, reasons_);
+  if (reasons_->empty()) return;
+  const UnfollowedMark& last = reasons_->back();
+  const Paper& paper = study_->StudiedPaper();
+  const PaperMark& mark = study_->Marks()[last.mark];
+  controls_.Tell(ToQString(FillMessage(strings_.Text(text_id::kMarkReason),
+                                       {ShortText(paper, mark.span), RoleName(mark.role, strings_),
+                                        ReasonText(last, paper, study_->Marks(), strings_)})));
 }
 
 void StudioWindow::ShowStudy() {
-  QStringList lines;
-  for (const std::u16string& line : StudyLines(*study_, strings_)) lines.push_back(ToQString(line));
   controls_.headline->setText(ToQString(StudyHeadline(*study_, strings_)));
-  controls_.findings->setPlainText(lines.join('\n'));
+  controls_.findings->ShowStudy(*study_);
   controls_.model->ShowStudy(study_.get());
   controls_.paper->ShowStudy(*study_);
-  controls_.marks->ShowStudy(*study_);
+  controls_.marks->ShowStudy(*study_, reasons_);
   controls_.rules->ShowStudy(*study_);
   sides_.ShowStudy(*study_);
   ShowTarget();
@@ -309,11 +356,12 @@ void StudioWindow::ShowMenu(const QPoint& position) {
 
 /// What is imported and saved is what is shown, so not while something else is being worked out.
 void StudioWindow::EnableControls() {
-  const bool isSettled = study_ && !run_.IsRunning() && !whenTyped_.isActive();
+  const bool isSettled =
+      study_ && !run_.IsRunning() && !whenTyped_.isActive() && controls_.rules->Fault().isEmpty();
   controls_.import->setEnabled(isSettled && hasRoom_);
   controls_.saveRules->setEnabled(isSettled);
   controls_.rulesButton->setEnabled(study_ != nullptr);
-  controls_.undo->setEnabled(study_ && study_->CanUndo());
+  controls_.undo->setEnabled(study_ && (study_->CanUndo() || whenTyped_.isActive()));
   controls_.redo->setEnabled(study_ && study_->CanRedo());
 }
 
@@ -335,9 +383,7 @@ void StudioWindow::ImportQuestions() {
     isDone = program_.import({paper_, RulesToUse(), controls_.target->Wish()});
   }
   if (!isDone) {
-    // The dialogs of the import lay over the main window.
-    raise();
-    activateWindow();
+    TakeKeyboard();
     return ShowTarget();
   }
   Leave();

@@ -64,17 +64,21 @@ class StudioWindow : public QWidget {
   void TakeBack(std::size_t index);
   void UndoMark();
   void RedoMark();
-  void RulesEdited();
+  void RulesEdited(int rule);
   void TryEdited();
 
   /// Works out what the present state of the study leads to.
   void WorkOut();
   void TakeOutcome(StudyOutcome outcome);
+  /// Works out why marks are not followed, which takes longer.
+  void ExplainMarks();
+  void TakeReasons(std::vector<UnfollowedMark> reasons);
   void ShowStudy();
   void ShowTarget();
   void ShowMenu(const QPoint& position);
   void EnableControls();
   void Tell(int text);
+  void TakeKeyboard();
 
   void ImportQuestions();
   void SaveRules();
@@ -96,9 +100,13 @@ class StudioWindow : public QWidget {
   QTimer whenTyped_;                           ///< tries edited rules after a pause in typing
   QTimer whenChanged_;                         ///< looks at the exam once the current event has been handled
   bool isImporting_ = false;
-  bool hasRoom_ = false;  ///< the exam has room for a question
-  int tellThen_ = 0;      ///< number of the text to show once the outcome is there; 0 for none
+  bool hasRoom_ = false;                 ///< the exam has room for a question
+  int tellThen_ = 0;                     ///< number of the text to show once the outcome is there; 0 for none
+  int typedRule_ = RulesPanel::kNoRule;  ///< that is being typed and has not been tried
+  int triedRule_ = RulesPanel::kNoRule;  ///< that the last outcome has tried
+  std::optional<std::vector<UnfollowedMark>> reasons_;
   BackgroundRun run_;
+  BackgroundRun reasonsRun_;
 };
 
 }  // namespace quorvantis

@@ -19,6 +19,8 @@ struct TableInPaper {
 struct Paper {
   PaperText source;  ///< its origins are its own places
   std::vector<TableInPaper> tables;
+  bool hasPictures = false;  ///< there are names of pictures in the text; likewise:
+  bool hasFormulas = false;
 };
 
 /// The paper of a document whose objects have become text.

@@ -4,6 +4,7 @@
 
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTableView>
@@ -24,6 +25,8 @@ class StudioWindowTest : public WindowTest {
     paper = WriteBytes(folder / "paper.txt", kPaper);
     exam.Question(1).text = u"first";
     exam.Question(2).text = u"second";
+    exam.Question(2).attachmentNames[0] = u"map.png";
+    exam.Question(2).attachmentPaths[0] = PathToText(MakeFile("map.png"));
     Open();
     world.dialogs.filesToOpen = {paper};
     Entry("fileImportPaper").trigger();
@@ -40,6 +43,14 @@ class StudioWindowTest : public WindowTest {
   /// Waits until what is shown can be imported.
   bool Settles() {
     return QTest::qWaitFor([this] { return Control("studioSaveRules").isEnabled(); });
+  }
+  /// Runs `answer` on the next message box.
+  void AnswerNext(std::function<void(QMessageBox&)> answer) {
+    QTimer::singleShot(0, &Studio(), [this, answer = std::move(answer)] {
+      auto& box = Control<QMessageBox>("loseMarks");
+      ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+      answer(box);
+    });
   }
   bool Settles(const std::function<bool()>& isSo) { return QTest::qWaitFor(isSo); }
   void SelectText(const QString& text) {
@@ -82,6 +93,14 @@ TEST_F(StudioWindowTest, InsertsWhereTheUserWants) {
   EXPECT_EQ(exam.Question(1).text, u"first");
   EXPECT_EQ(exam.Question(2).text, u"Where is Rome?");
   EXPECT_EQ(exam.Question(3).text, u"Where is Oslo?");
+  EXPECT_EQ(exam.Question(3).attachmentNames[0], u"");
+  EXPECT_EQ(exam.Question(4).text, u"second");
+  EXPECT_EQ(exam.Question(4).attachmentNames[0], u"map.png");
+  world.dialogs.yesNoAnswers = {true};
+  Entry("editUndoImport").trigger();
+  EXPECT_EQ(exam.Question(2).text, u"second");
+  EXPECT_EQ(exam.Question(2).attachmentNames[0], u"map.png");
+  EXPECT_EQ(exam.Question(3).text, u"");
 }
 
 TEST_F(StudioWindowTest, EscapeLeavesTheExam) {
@@ -120,11 +139,34 @@ TEST_F(StudioWindowTest, AsksBeforeMarksAreLost) {
   SelectText("Geography");
   QTest::keyClick(&View(), Qt::Key_7);
   ASSERT_TRUE(HasMarks(1));
-  QTest::keyClick(&View(), Qt::Key_Escape);
-  EXPECT_TRUE(Studio().isVisible());
-  world.dialogs.yesNoAnswers = {true};
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+    AnswerNext([key](QMessageBox& box) { QTest::keyClick(&box, key); });
+    QTest::keyClick(&View(), Qt::Key_Escape);
+    EXPECT_TRUE(Studio().isVisible());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Studio()));
+  }
+  EXPECT_EQ(Marks(), 1U);
+  AnswerNext([](QMessageBox& box) { box.findChild<QPushButton*>("closePaper")->click(); });
   QTest::keyClick(&View(), Qt::Key_Escape);
   EXPECT_FALSE(Studio().isVisible());
+}
+
+TEST_F(StudioWindowTest, TakesBackTheMarkOfAWholeLine) {
+  SelectText("Geography");
+  QTest::keyClick(&View(), Qt::Key_7);
+  ASSERT_TRUE(HasMarks(1));
+  SelectText("Geography\n");  // as a triple click does: the cursor is in the next line
+  QTest::keyClick(&View(), Qt::Key_0);
+  EXPECT_TRUE(HasMarks(0));
+}
+
+TEST_F(StudioWindowTest, TellsWhyAMarkIsNotFollowed) {
+  SelectText("Italy");
+  QTest::keyClick(&View(), Qt::Key_8);
+  ASSERT_TRUE(HasMarks(1));
+  EXPECT_TRUE(Settles([this] { return Status().startsWith("[1877"); }));
+  EXPECT_EQ(Control<QLabel>("whyNot0").text().left(5), "[1874");
+  EXPECT_EQ(Control("mark0").accessibleDescription().left(5), "[1874");
 }
 
 TEST_F(StudioWindowTest, AClickSelectsTheOther) {
@@ -157,8 +199,15 @@ TEST_F(StudioWindowTest, TriesRulesWhileTheyAreTyped) {
   number.selectAll();
   QTest::keyClicks(&number, "^2[.](");
   EXPECT_EQ(Control<QLabel>("statePreQuestion").text().left(5), "[1684");
+  EXPECT_EQ(Status().left(5), "[1880");
+  QTest::qWait(400);  // it has been tried
   EXPECT_FALSE(Control("studioImport").isEnabled());
   QTest::keyClick(&number, Qt::Key_Backspace);
+  EXPECT_TRUE(Settles([this] { return Questions().model()->rowCount() == 1; }));
+  ASSERT_TRUE(Settles());
+  Click("studioUndo");
+  EXPECT_TRUE(Settles([this] { return Questions().model()->rowCount() == 2; }));
+  Click("studioRedo");
   EXPECT_TRUE(Settles([this] { return Questions().model()->rowCount() == 1; }));
   ASSERT_TRUE(Settles());
   Click("studioImport");
