@@ -11,6 +11,7 @@ namespace quorvantis {
 namespace {
 
 constexpr int kFindingsLines = 5;
+constexpr int kLinesInSmallWindows = 2;
 constexpr int kAroundFindings = 16;  // pixels: frame and margins
 
 }  // namespace
@@ -23,9 +24,14 @@ FindingsList::FindingsList(const StringTable& strings, QWidget* parent)
   setTextElideMode(Qt::ElideNone);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-  setMaximumHeight(fontMetrics().lineSpacing() * kFindingsLines + kAroundFindings);
+  SetCompact(false);
   connect(this, &QListWidget::itemClicked, this, &FindingsList::Choose);
   connect(this, &QListWidget::itemActivated, this, &FindingsList::Choose);
+}
+
+void FindingsList::SetCompact(bool isCompact) {
+  const int lines = isCompact ? kLinesInSmallWindows : kFindingsLines;
+  setMaximumHeight(fontMetrics().lineSpacing() * lines + kAroundFindings);
 }
 
 void FindingsList::ShowStudy(const PaperStudy& study) {

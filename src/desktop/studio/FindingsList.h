@@ -18,6 +18,7 @@ class FindingsList : public QListWidget {
   FindingsList(const StringTable& strings, QWidget* parent);
 
   void ShowStudy(const PaperStudy& study);
+  void SetCompact(bool isCompact);
 
  signals:
   /// The user has chosen a warning about this part of the paper.

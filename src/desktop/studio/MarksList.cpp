@@ -16,7 +16,8 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kMarksHeight = 120;  // pixels; more marks scroll
+constexpr int kMarksHeight = 120;  // pixels; more marks scroll; likewise:
+constexpr int kHeightInSmallWindows = 64;
 constexpr int kReasonIndent = 24;  // pixels
 
 QLabel* WrappedLabel(const QString& text) {
@@ -38,8 +39,13 @@ MarksList::MarksList(const StringTable& strings, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(4, 2, 4, 2);
   layout->addWidget(area_);
-  setMaximumHeight(kMarksHeight);
+  SetCompact(false);
   hide();
+}
+
+void MarksList::SetCompact(bool isCompact) {
+  setMaximumHeight(isCompact ? kHeightInSmallWindows : kMarksHeight);
+  setTitle(isCompact ? QString() : accessibleName());
 }
 
 void MarksList::ShowStudy(const PaperStudy& study,

@@ -27,6 +27,8 @@ class MarksList : public QGroupBox {
   /// `reasons` tells of marks that are not followed why; nothing while that is being worked out.
   void ShowStudy(const PaperStudy& study, const std::optional<std::vector<UnfollowedMark>>& reasons);
 
+  void SetCompact(bool isCompact);
+
  signals:
   void TakeBack(std::size_t index);
   void Chosen(std::size_t index);

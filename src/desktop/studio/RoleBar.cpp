@@ -13,23 +13,29 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QEvent>
-#include <QLabel>
 
 namespace quorvantis {
 namespace {
 
 constexpr int kFirstRole = static_cast<int>(PaperRole::QuestionNumber);
 constexpr int kLastRole = static_cast<int>(PaperRole::NotExam);
-constexpr int kSpacing = 2;  // pixels
+constexpr int kSpacing = 2;  // pixels; likewise:
+constexpr QSize kSample(30, 20);
+constexpr QSize kSmallSample(18, 16);
 
 }  // namespace
 
 RoleBar::RoleBar(const StringTable& strings, QWidget* parent)
-    : QWidget(parent), strings_(strings), notUnderstood_(new QToolButton(this)) {
+    : QWidget(parent),
+      strings_(strings),
+      notUnderstood_(new QToolButton(this)),
+      caption_(new QLabel(this)),
+      signs_(new QLabel(ToQString(strings.Text(text_id::kSignWithMeaning)), this)) {
   const QString caption = ToQString(strings.Text(text_id::kSaySelected));
   NameControl(this, "roleBar", caption);
   auto* buttons = new FlowLayout(kSpacing, nullptr);
-  buttons->addWidget(new QLabel(caption, this));
+  caption_->setText(caption);
+  buttons->addWidget(caption_);
   for (int role = kFirstRole; role <= kLastRole; ++role)
     buttons->addWidget(MakeButton(MakeAction(static_cast<PaperRole>(role))));
   auto* takeBack = new QAction(ToQString(strings.Text(text_id::kTakeBackMark)), this);
@@ -46,14 +52,13 @@ RoleBar::RoleBar(const StringTable& strings, QWidget* parent)
   notUnderstood_->setFocusPolicy(Qt::NoFocus);
   notUnderstood_->setAttribute(Qt::WA_TransparentForMouseEvents);
   buttons->addWidget(notUnderstood_);
-  auto* signs = new QLabel(ToQString(strings.Text(text_id::kSignWithMeaning)), this);
-  signs->setTextFormat(Qt::PlainText);
-  signs->setWordWrap(true);
+  signs_->setTextFormat(Qt::PlainText);
+  signs_->setWordWrap(true);
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(kSpacing);
   rows->addLayout(buttons);
-  rows->addWidget(signs);
+  rows->addWidget(signs_);
   ShowSamples();
 }
 
@@ -79,13 +84,25 @@ QWidget* RoleBar::MakeButton(QAction* action) {
   return button;
 }
 
+void RoleBar::SetCompact(bool isCompact) {
+  if (isCompact == isCompact_) return;
+  isCompact_ = isCompact;
+  caption_->setVisible(!isCompact);
+  signs_->setVisible(!isCompact);
+  ShowSamples();
+}
+
+QSize RoleBar::SampleSize() const {
+  return isCompact_ ? kSmallSample : kSample;
+}
+
 void RoleBar::ShowSamples() {
   const auto sample = [this](int role) {
-    return SampleOf(static_cast<PaperRole>(role), palette(), font(), devicePixelRatioF());
+    return SampleOf(static_cast<PaperRole>(role), SampleSize(), palette(), font(), devicePixelRatioF());
   };
   for (int role = kFirstRole; role <= kLastRole; ++role) actions_[role - kFirstRole]->setIcon(sample(role));
   notUnderstood_->setIcon(sample(0));
-  for (QToolButton* button : findChildren<QToolButton*>()) button->setIconSize(QSize(30, 20));
+  for (QToolButton* button : findChildren<QToolButton*>()) button->setIconSize(SampleSize());
 }
 
 void RoleBar::changeEvent(QEvent* event) {

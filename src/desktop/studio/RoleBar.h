@@ -4,6 +4,7 @@
 #include "learn/PaperRole.h"
 #include "platform/StringTable.h"
 
+#include <QLabel>
 #include <QToolButton>
 #include <QWidget>
 
@@ -23,6 +24,9 @@ class RoleBar : public QWidget {
   /// For a menu: the actions of the buttons, in their order, then the one that takes back a mark.
   QList<QAction*> Actions() const { return actions_; }
 
+  /// With less around the buttons, for small windows.
+  void SetCompact(bool isCompact);
+
  signals:
   void RolePressed(PaperRole role);
   void TakeBackPressed();
@@ -33,11 +37,15 @@ class RoleBar : public QWidget {
  private:
   QWidget* MakeButton(QAction* action);
   QAction* MakeAction(PaperRole role);
+  QSize SampleSize() const;
   void ShowSamples();
 
   const StringTable& strings_;
   QList<QAction*> actions_;
   QToolButton* notUnderstood_;
+  QLabel* caption_;
+  QLabel* signs_;
+  bool isCompact_ = false;
 };
 
 }  // namespace quorvantis

@@ -12,8 +12,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr QSize kSampleSize(30, 20);  // pixels
-constexpr int kDark = 128;            // of lightness
+constexpr int kDark = 128;  // of lightness
 
 struct Look {
   QRgb onLight;
@@ -70,17 +69,19 @@ void AddMarkLook(QTextCharFormat& look, const QPalette& palette) {
   look.setForeground(palette.color(QPalette::Base));
 }
 
-QIcon SampleOf(PaperRole role, const QPalette& palette, const QFont& font, qreal ratio) {
-  QPixmap picture(kSampleSize * ratio);
+QIcon SampleOf(PaperRole role, QSize size, const QPalette& palette, const QFont& font, qreal ratio) {
+  QPixmap picture(size * ratio);
   picture.setDevicePixelRatio(ratio);
   picture.fill(palette.color(QPalette::Base));
   QPainter painter(&picture);
-  QTextLayout layout(QStringLiteral("abc"), font);
-  layout.setFormats({{0, 3, LookOf(role, palette)}});
+  QString letters = QStringLiteral("abc");
+  while (letters.size() > 1 && QFontMetrics(font).horizontalAdvance(letters) > size.width()) letters.chop(1);
+  QTextLayout layout(letters, font);
+  layout.setFormats({{0, static_cast<int>(letters.size()), LookOf(role, palette)}});
   layout.beginLayout();
   QTextLine line = layout.createLine();
   layout.endLayout();
-  const QSizeF free = QSizeF(kSampleSize) - QSizeF(line.naturalTextWidth(), line.height());
+  const QSizeF free = QSizeF(size) - QSizeF(line.naturalTextWidth(), line.height());
   layout.draw(&painter, {free.width() / 2, free.height() / 2});
   return picture;
 }

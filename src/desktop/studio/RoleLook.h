@@ -22,7 +22,8 @@ void AddEmphasis(QTextCharFormat& look, std::uint8_t emphasis, const QPalette& p
 /// Adds the look of what the teacher has marked.
 void AddMarkLook(QTextCharFormat& look, const QPalette& palette);
 
-/// A sample of the look, for a legend. `ratio` is the device pixel ratio.
-QIcon SampleOf(PaperRole role, const QPalette& palette, const QFont& font, qreal ratio);
+/// A sample of the look, for a legend: as many letters as `size`, in pixels, has room for. `ratio` is the
+/// device pixel ratio.
+QIcon SampleOf(PaperRole role, QSize size, const QPalette& palette, const QFont& font, qreal ratio);
 
 }  // namespace quorvantis

@@ -36,6 +36,7 @@ StudioControls::StudioControls(const StringTable& strings, QWidget* window)
       findings(new FindingsList(strings, window)),
       rules(new RulesPanel(strings, window)),
       target(new TargetChoice(strings, window)),
+      targetPlace(nullptr),
       status(nullptr),
       import(nullptr),
       close(nullptr),
@@ -50,6 +51,7 @@ StudioControls::StudioControls(const StringTable& strings, QWidget* window)
   import = MakeButton("studioImport", text_id::kImportNow, window);
   close = MakeButton("studioClose", text_id::kClose, window);
   headline = MakeText("studioHeadline", window);
+  targetPlace = MakeText("targetPlace", window);
   status = MakeText("studioStatus", window);
   QFont bold = headline->font();
   bold.setBold(true);
@@ -136,10 +138,21 @@ void StudioControls::PlaceSides() {
 
 QLayout* StudioControls::PlaceBottom() {
   auto* row = new QHBoxLayout;
-  row->addWidget(status, 1);
+  auto* texts = new QVBoxLayout;
+  texts->setSpacing(2);
+  texts->addWidget(targetPlace);
+  texts->addWidget(status);
+  row->addLayout(texts, 1);
   row->addWidget(import);
   row->addWidget(close);
   return row;
+}
+
+void StudioControls::SetCompact(bool isCompact) {
+  roles->SetCompact(isCompact);
+  marks->SetCompact(isCompact);
+  findings->SetCompact(isCompact);
+  target->SetCompact(isCompact);
 }
 
 void StudioControls::Tell(const QString& message) {

@@ -27,6 +27,9 @@ class StudioControls {
   /// Shows a message until the next one; screen readers announce it. An empty one removes it.
   void Tell(const QString& message);
 
+  /// Leaves more of a small window to the paper and its questions.
+  void SetCompact(bool isCompact);
+
   QPushButton* open;
   QPushButton* paste;
   QPushButton* undo;
@@ -42,6 +45,7 @@ class StudioControls {
   FindingsList* findings;
   RulesPanel* rules;
   TargetChoice* target;
+  QLabel* targetPlace;
   QLabel* status;
   QPushButton* import;
   QPushButton* close;

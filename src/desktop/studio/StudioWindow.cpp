@@ -26,6 +26,8 @@ namespace quorvantis {
 namespace {
 
 constexpr QSize kFirstStudioSize(1220, 760);  // pixels
+constexpr QSize kFrame(16, 48);               // pixels; what a frame may take
+constexpr int kRoomy = 560;                   // pixels; lower windows show less around the paper
 constexpr int kPauseInTyping = 250;           // milliseconds
 constexpr int kAfterEvents = 20;              // milliseconds
 constexpr std::size_t kSideCount = 2;
@@ -341,7 +343,7 @@ void StudioWindow::ShowTarget() {
   if (isImporting_) return;
   controls_.target->Propose(program_.currentQuestion());
   const ForeseenImport place = ForeseeImport(program_.exam(), Questions(), controls_.target->Wish());
-  controls_.target->ShowPlace(place);
+  controls_.targetPlace->setText(ToQString(ForeseenImportText(place, strings_)));
   controls_.model->SetNumbers(place.first, place.written);
   hasRoom_ = place.written > 0;
   EnableControls();
@@ -421,13 +423,18 @@ void StudioWindow::showEvent(QShowEvent* event) {
   ShowTarget();
 }
 
+void StudioWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  controls_.SetCompact(height() < kRoomy);
+}
+
 void StudioWindow::hideEvent(QHideEvent* event) {
   if (!event->spontaneous()) KeepPlace();
   QWidget::hideEvent(event);
 }
 
 void StudioWindow::RestorePlace() {
-  resize(kFirstStudioSize.boundedTo(parentWidget()->screen()->availableSize()));
+  resize(kFirstStudioSize.boundedTo(parentWidget()->screen()->availableSize() - kFrame));
   controls_.sides->setSizes({width() / 2, width() / 2});
   const WindowPlace kept = place_.Read();
   const QRect place(kept.x, kept.y, kept.width, kept.height);

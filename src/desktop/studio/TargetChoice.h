@@ -5,18 +5,16 @@
 #include "platform/StringTable.h"
 
 #include <QGroupBox>
-#include <QLabel>
 #include <QRadioButton>
 #include <QSpinBox>
 
 namespace quorvantis {
 
-/// Where the questions go, and what that does to the exam.
+/// Where the questions go.
 class TargetChoice : public QGroupBox {
   Q_OBJECT
 
  public:
-  /// `strings` must outlive the choice.
   TargetChoice(const StringTable& strings, QWidget* parent);
 
   ImportWish Wish() const;
@@ -27,19 +25,17 @@ class TargetChoice : public QGroupBox {
   /// Proposes the number for "Insert from question".
   void Propose(int question);
 
-  /// Says what the wish does; nothing if there are no questions.
-  void ShowPlace(const ForeseenImport& place);
+  /// Without its heading, for small windows.
+  void SetCompact(bool isCompact);
 
  signals:
   void Changed();
 
  private:
-  const StringTable& strings_;
   QRadioButton* behind_;
   QRadioButton* from_;
   QSpinBox* number_;
   QRadioButton* newExam_;
-  QLabel* place_;
 };
 
 }  // namespace quorvantis
