@@ -26,6 +26,17 @@ std::optional<PaperRole> RoleOfKey(const QKeyEvent& event) {
   return static_cast<PaperRole>(event.key() - Qt::Key_0);
 }
 
+/// Whether most letters of a text are of a script that is written from right to left.
+bool IsMostlyRightToLeft(const QString& text) {
+  qsizetype balance = 0;
+  for (const QChar unit : text) {
+    const QChar::Direction direction = unit.direction();
+    if (direction == QChar::DirR || direction == QChar::DirAL) ++balance;
+    if (direction == QChar::DirL) --balance;
+  }
+  return balance > 0;
+}
+
 bool TakesBack(const QKeyEvent& event) {
   const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   return isPlain && (event.key() == Qt::Key_0 || event.key() == Qt::Key_Delete);
@@ -47,7 +58,11 @@ void PaperView::ShowPaper(std::shared_ptr<const Paper> paper, bool hasFormulas) 
   chosen_.reset();
   paper_ = std::move(paper);
   shown_ = ShownPaper(*paper_, hasFormulas);
-  setPlainText(ToQString(shown_.Text()));
+  const QString text = ToQString(shown_.Text());
+  QTextOption option = document()->defaultTextOption();
+  option.setAlignment(IsMostlyRightToLeft(text) ? Qt::AlignRight : Qt::AlignLeft);
+  document()->setDefaultTextOption(option);
+  setPlainText(text);
 }
 
 void PaperView::ShowStudy(const PaperStudy& study) {
