@@ -79,7 +79,11 @@ class LossFinder {
       const ExamQuestion& question = exam_.Question(number_);
       if (number_ <= last) CheckQuestion(question);
       if (number_ > last && HasAnything(question))
-        losses_.push_back({number_, strings_.Text(text_id::kQuestionNotStored), true, true});
+        losses_.push_back({number_,
+                           strings_.Text(text_id::kQuestionNotStored),
+                           true,
+                           true,
+                           {number_, ExamFieldName::QuestionText}});
     }
     return std::move(losses_);
   }
@@ -88,27 +92,28 @@ class LossFinder {
   std::u16string Filled(int text, std::initializer_list<std::u16string_view> values) const {
     return FillMessage(strings_.Text(text), values);
   }
-  void Work(int text, std::initializer_list<std::u16string_view> values) {
-    losses_.push_back({number_, Filled(text, values), true, false});
+  void Work(const TextPlace& place, int text, std::initializer_list<std::u16string_view> values) {
+    losses_.push_back({number_, Filled(text, values), true, false, place});
   }
   void Detail(int text, std::initializer_list<std::u16string_view> values = {}) {
-    losses_.push_back({number_, Filled(text, values), false, false});
+    losses_.push_back({number_, Filled(text, values)});
   }
 
   /// What would be lost of a field when it is written with its width.
-  void Check(ExamFieldName field, const std::u16string& text) {
+  void Check(ExamFieldName field, const std::u16string& text, unsigned index = 0) {
+    const TextPlace place{number_, field, index};
     const bool takesLongForm = field == ExamFieldName::FillInAnswer && flags_.IsSet(number_);
     const std::size_t width = WidthOf(takesLongForm ? ExamFieldName::LongFillInAnswer : field);
     const std::u16string what = strings_.Text(TextOf(field));
     if (text.size() > width) {
-      Work(text_id::kTextCut, {what, Digits(text.size()), Digits(width)});
+      Work(place, text_id::kTextCut, {what, Digits(text.size()), Digits(width)});
       losses_.back().canBeStored = field == ExamFieldName::FillInAnswer && !takesLongForm;
     } else if (text.find(u'\0') != text.npos) {
-      Work(text_id::kTextEndsAtNul, {what});
+      Work(place, text_id::kTextEndsAtNul, {what});
     }
   }
   void Check(ExamFieldName field, const OptionTexts& options) {
-    for (const std::u16string& option : options) Check(field, option);
+    for (unsigned i = 0; i < options.size(); ++i) Check(field, options[i], i);
   }
   void Check(ExamFieldName field, float score) {
     const std::u16string text = FormatScore(score);
@@ -131,10 +136,12 @@ class LossFinder {
     return exam_.IsPath(path) && std::ifstream(TextToPath(path)).is_open();
   }
   void CheckFiles(const AttachmentList& paths, const AttachmentList& names) {
-    for (std::size_t i = 0; i < kMaxAttachments; ++i) {
-      Check(ExamFieldName::AttachmentName, names[i]);
+    for (unsigned i = 0; i < kMaxAttachments; ++i) {
+      Check(ExamFieldName::AttachmentName, names[i], i);
       const bool hasContent = !paths[i].empty() && !exam_.pathsWithoutContent.contains(paths[i]);
-      if (hasContent && !CanBePacked(paths[i])) Work(text_id::kFileStoredEmpty, {names[i]});
+      if (!hasContent || CanBePacked(paths[i])) continue;
+      Work({number_, ExamFieldName::AttachmentName, i}, text_id::kFileStoredEmpty, {names[i]});
+      losses_.back().isContentOfFile = true;
     }
   }
 

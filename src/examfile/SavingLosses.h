@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/LongAnswerFlags.h"
+#include "model/document/ExamTexts.h"
 #include "model/document/FrameSetExam.h"
 #include "platform/StringTable.h"
 
@@ -17,7 +18,9 @@ struct SavingLoss {
   /// The author wrote it and would miss it. False for data that the question's kind does not use, and for
   /// data that only a file from another source can hold.
   bool isWork = false;
-  bool canBeStored = false;  ///< StoreWhole can keep it
+  bool canBeStored = false;      ///< StoreWhole can keep it
+  TextPlace place = {};          ///< the field that loses it; of the question as a whole: its text
+  bool isContentOfFile = false;  ///< an attached file would be stored without its content
 };
 
 /// The question has content: a text, an answer or a file.

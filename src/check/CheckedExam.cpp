@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "check/CheckedExam.h"
+
+#include "text/PathText.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace quorvantis {
+
+std::u16string_view WithoutBlanks(std::u16string_view text) {
+  constexpr std::u16string_view kBlanks = u" \t\r\n\v\f\u00A0\u3000\u200B\uFEFF";
+  const std::size_t begin = text.find_first_not_of(kBlanks);
+  if (begin == text.npos) return {};
+  return text.substr(begin, text.find_last_not_of(kBlanks) + 1 - begin);
+}
+
+std::vector<std::u16string_view> AnswersOf(std::u16string_view answerText) {
+  std::vector<std::u16string_view> answers;
+  while (!answerText.empty()) {
+    const std::size_t end = std::min(answerText.find(kListSeparator), answerText.size());
+    const std::u16string_view answer = WithoutBlanks(answerText.substr(0, end));
+    if (!answer.empty()) answers.push_back(answer);
+    answerText.remove_prefix(std::min(end + kListSeparator.size(), answerText.size()));
+  }
+  return answers;
+}
+
+CheckedQuestion::CheckedQuestion(int itsNumber, const ExamQuestion& itsQuestion)
+    : number(itsNumber),
+      question(itsQuestion),
+      answer(AnswerOf(itsQuestion.kind)),
+      text(WithoutBlanks(itsQuestion.text)),
+      hasFiles(!itsQuestion.attachmentPaths[0].empty()) {
+  if (answer.options) {
+    for (const char16_t letter : question.answerLetters) {
+      if (const auto option = OptionIndex(letter)) isKey[*option] = true;
+    }
+    for (std::size_t i = 0; i < kOptionCount; ++i) {
+      options[i] = WithoutBlanks(question.options[i]);
+      if (options[i].empty()) continue;
+      ++writtenOptions;
+      optionsEnd = i + 1;
+    }
+    keys = static_cast<std::size_t>(std::ranges::count(isKey, true));
+  }
+  const bool hasAnswer = writtenOptions > 0 || keys > 0 ||
+                         (answer.fillIn && !AnswersOf(question.answerText).empty()) ||
+                         (answer.essay && !WithoutBlanks(question.essayAnswer).empty());
+  isEmpty = text.empty() && !hasAnswer && !hasFiles;
+}
+
+std::optional<std::size_t> CheckedQuestion::SingleKey() const {
+  if (keys != 1) return std::nullopt;
+  const auto key = static_cast<std::size_t>(std::ranges::find(isKey, true) - isKey.begin());
+  return options[key].empty() ? std::nullopt : std::optional(key);
+}
+
+CheckedExam::CheckedExam(const FrameSetExam& document, const LongAnswerFlags& longAnswers)
+    : exam(document), flags(longAnswers) {
+  const int last = document.LastCountedQuestion();
+  questions.reserve(static_cast<std::size_t>(last));
+  LookAtFiles(0, document.examAttachmentPaths, document.examAttachmentNames);
+  for (int number = 1; number <= last; ++number) {
+    const ExamQuestion& question = document.Question(number);
+    questions.emplace_back(number, question);
+    LookAtFiles(number, question.attachmentPaths, question.attachmentNames);
+  }
+}
+
+void CheckedExam::LookAtFiles(int question, const AttachmentList& paths, const AttachmentList& names) {
+  for (unsigned i = 0; i < kMaxAttachments && !paths[i].empty(); ++i) {
+    const std::filesystem::path path = TextToPath(paths[i]);
+    CheckedFile file{{question, ExamFieldName::AttachmentName, i}, names[i]};
+    const std::u16string ownName = PathToText(path.filename());
+    if (file.name.empty()) file.name = ownName;
+    const std::u16string extension = ExtensionOrNothing(ownName);
+    file.kind = FileKindOf(extension).kind;
+    if (question == 0 && !exam.IsPath(paths[i])) {
+      file.health = FileHealth::Missing;  // nothing that may be opened
+    } else if (exam.pathsWithoutContent.contains(paths[i])) {
+      file.health = FileHealth::Empty;
+    } else {
+      std::error_code error;
+      file.health = HealthOf(path, extension);
+      const std::uintmax_t size = std::filesystem::file_size(path, error);
+      if (!error) file.size = size;
+    }
+    files.push_back(std::move(file));
+  }
+}
+
+}  // namespace quorvantis

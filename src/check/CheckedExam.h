@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "check/FileContent.h"
+#include "model/AnswerLetters.h"
+#include "model/FileKinds.h"
+#include "model/QuestionKinds.h"
+#include "model/document/ExamTexts.h"
+#include "model/document/FrameSetExam.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+class LongAnswerFlags;
+
+/// The text without blanks at its ends: ASCII blanks and line ends, no-break and wide ones.
+std::u16string_view WithoutBlanks(std::u16string_view text);
+
+/// The answers of a fill-in question, without blanks around them and without empty ones.
+std::vector<std::u16string_view> AnswersOf(std::u16string_view answerText);
+
+/// A question with what several rules ask about it. Refers to the question, which must outlive it.
+class CheckedQuestion {
+ public:
+  CheckedQuestion(int number, const ExamQuestion& question);
+
+  const int number;
+  const ExamQuestion& question;
+  const AnswerParts answer;                                 ///< what belongs to its kind
+  const std::u16string_view text;                           ///< without blanks around it; likewise:
+  std::array<std::u16string_view, kOptionCount> options{};  ///< empty ones if the kind has none
+  std::array<bool, kOptionCount> isKey{};                   ///< none if the kind has no options
+  std::size_t writtenOptions = 0;
+  std::size_t optionsEnd = 0;  ///< index after the last option with a text
+  std::size_t keys = 0;
+  bool hasFiles = false;
+  bool isEmpty = false;  ///< no text, no answer of its kind, no file
+
+  /// The only right option, if there is exactly one and it has a text.
+  std::optional<std::size_t> SingleKey() const;
+};
+
+/// An attached file, looked at once for all rules.
+struct CheckedFile {
+  TextPlace place;      ///< of its name
+  std::u16string name;  ///< as the user sees it
+  FileKind kind = FileKind::Other;
+  FileHealth health = FileHealth::Good;
+  std::uintmax_t size = 0;  ///< bytes
+};
+
+/// An exam as the rules see it: its questions up to the last one that a file keeps, and their files.
+class CheckedExam {
+ public:
+  /// Looks at the attached files. Both must outlive this, and the exam must not change meanwhile. `flags` are
+  /// those that a save would use.
+  CheckedExam(const FrameSetExam& document, const LongAnswerFlags& longAnswers);
+
+  const FrameSetExam& exam;
+  const LongAnswerFlags& flags;
+  std::vector<CheckedQuestion> questions;  ///< question n is at n - 1
+  std::vector<CheckedFile> files;          ///< those of the exam as a whole first
+
+  int LastQuestion() const { return static_cast<int>(questions.size()); }
+
+ private:
+  void LookAtFiles(int question, const AttachmentList& paths, const AttachmentList& names);
+};
+
+}  // namespace quorvantis

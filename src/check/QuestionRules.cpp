@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "check/QuestionRules.h"
+
+#include "examfile/SavingLosses.h"
+#include "text/NumberText.h"
+
+#include <cstdint>
+
+namespace quorvantis {
+
+void EmptyQuestion::Check(const CheckedExam& exam, FindingList& findings) const {
+  for (const CheckedQuestion& question : exam.questions) {
+    if (question.isEmpty) findings.Add({question.number, ExamFieldName::QuestionText});
+  }
+}
+
+void QuestionWithoutText::CheckQuestion(const CheckedQuestion& question, FindingList& findings) const {
+  if (question.text.empty() && !question.hasFiles)
+    findings.Add({question.number, ExamFieldName::QuestionText});
+}
+
+void SavingLosesWork::Check(const CheckedExam& exam, FindingList& findings) const {
+  for (const SavingLoss& loss : FindSavingLosses(exam.exam, exam.flags)) {
+    if (loss.isWork && !loss.isContentOfFile) findings.Add(loss.place, {loss.what});
+  }
+}
+
+void TextNearLimit::CheckText(const TextPlace& place, std::u16string_view text, FindingList& findings) const {
+  constexpr std::size_t kPart = 50;  // the last fiftieth counts as near
+  const std::size_t limit = FieldNamed(place.field).limit;
+  if (text.size() > limit || text.size() + limit / kPart < limit) return;
+  const auto digits = [](std::size_t number) { return FormatInteger(static_cast<std::int64_t>(number)); };
+  findings.AddIn(place, {digits(text.size()), digits(limit)});
+}
+
+}  // namespace quorvantis

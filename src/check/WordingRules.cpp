@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "check/WordingRules.h"
+
+#include "check/Markup.h"
+#include "check/wording/OptionWording.h"
+#include "check/wording/QuestionWording.h"
+#include "check/wording/WordedText.h"
+#include "regex/LetterCase.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
+
+namespace quorvantis {
+namespace {
+
+/// Shows a picture by itself: "<img src=...>".
+bool HasInlinePicture(std::u16string_view text) {
+  return text.find(u"<img") != text.npos || text.find(u"<IMG") != text.npos;
+}
+
+bool HasFilesBefore(const CheckedExam& exam, const CheckedQuestion& question) {
+  for (const int named : NamedQuestions(question.text)) {
+    if (named <= exam.LastQuestion() && exam.questions[static_cast<std::size_t>(named) - 1].hasFiles)
+      return true;
+  }
+  const bool hasBefore = question.number > 1;
+  return hasBefore && exam.questions[static_cast<std::size_t>(question.number) - 2].hasFiles &&
+         FollowsOn(question.text);
+}
+
+/// Long enough to say something: "Circuit", but not "a" or "IMG"; of Chinese two characters do.
+bool IsTellingWord(std::u16string_view word) {
+  constexpr std::size_t kLetters = 4;
+  constexpr char16_t kFirstHan = 0x2E80;
+  return word.size() >= kLetters || (word.size() >= 2 && word.front() >= kFirstHan);
+}
+
+bool SharesWord(const std::u16string& name, const WordedText& text) {
+  const WordedText words(name.substr(0, name.rfind(u'.')));
+  std::set<std::u16string_view> wanted;
+  for (std::size_t i = 0; i < words.WordCount(); ++i) {
+    if (IsTellingWord(words.Word(i))) wanted.insert(words.Word(i));
+  }
+  for (std::size_t i = 0; i < text.WordCount(); ++i) {
+    if (wanted.contains(text.Word(i))) return true;
+  }
+  return std::any_of(wanted.begin(), wanted.end(), [&text](std::u16string_view word) {
+    return word.front() > u'\u2E80' && text.Folded().find(word) != std::u16string_view::npos;
+  });
+}
+
+bool IsSentenceEnd(char16_t unit) {
+  return std::u16string_view(u".!?\r\n\u3002\uFF01\uFF1F\u061F").find(unit) != std::u16string_view::npos;
+}
+
+bool IsQuestionMark(char16_t unit) {
+  return unit == u'?' || unit == u'\uFF1F' || unit == u'\u061F';
+}
+
+/// The sentences in which a text asks.
+std::vector<TextSpan> AskingSentences(std::u16string_view text) {
+  std::vector<TextSpan> asking;
+  TextSpan last;
+  for (std::size_t begin = 0; begin < text.size();) {
+    std::size_t end = begin;
+    while (end < text.size() && !IsSentenceEnd(text[end])) ++end;
+    const TextSpan sentence{begin, end};
+    if (!WithoutBlanks(sentence.Of(text)).empty()) last = sentence;
+    if (end < text.size() && IsQuestionMark(text[end])) asking.push_back(sentence);
+    begin = end + 1;
+  }
+  const bool isNew = asking.empty() || asking.back() != last;
+  if (isNew && !last.IsEmpty()) asking.push_back(last);
+  return asking;
+}
+
+/// "不" within words that are no negations: "不同", "不仅".
+bool IsPartOfChineseWord(std::u16string_view text, const TextSpan& word) {
+  constexpr std::u16string_view kAfter = u"同仅僅断斷但久管论論少过過如锈鏽良妨料顾顧惜禁由足";
+  return word.Of(text) == u"不" && word.end < text.size() && kAfter.find(text[word.end]) != kAfter.npos;
+}
+
+/// Set off without markup: in capitals, or between stars, lines or brackets.
+bool StandsOut(std::u16string_view text, const TextSpan& word) {
+  const std::u16string_view letters = word.Of(text);
+  const auto isCapital = [](char16_t unit) { return ToLowerCase(unit) != unit; };
+  if (std::all_of(letters.begin(), letters.end(), isCapital)) return true;
+  constexpr std::u16string_view kFrame = u"*_[\u3010\u300C\u300E\u201C\"";
+  return word.begin > 0 && kFrame.find(text[word.begin - 1]) != kFrame.npos;
+}
+
+/// The first negation that is asked with; nothing if one of them stands out.
+std::optional<TextSpan> OverlookedNegation(std::u16string_view text) {
+  std::optional<TextSpan> first;
+  for (const TextSpan& sentence : AskingSentences(text)) {
+    auto word = FindNegation(sentence.Of(text));
+    if (!word) continue;
+    *word = {word->begin + sentence.begin, word->end + sentence.begin};
+    if (IsPartOfChineseWord(text, *word)) continue;
+    const std::vector<TextSpan> emphasised = EmphasisedParts(text);
+    const auto holds = [&word](const TextSpan& part) { return part.Overlaps(*word); };
+    if (StandsOut(text, *word) || std::any_of(emphasised.begin(), emphasised.end(), holds)) return {};
+    if (!first) first = word;
+  }
+  return first;
+}
+
+}  // namespace
+
+void ShuffledOptionReference::Check(const CheckedExam& exam, FindingList& findings) const {
+  if (exam.exam.randomMode != RandomMode::Options) return;
+  for (const CheckedQuestion& question : exam.questions) {
+    for (unsigned i = 0; i < kOptionCount; ++i) {
+      const std::u16string_view option = question.options[i];
+      if (!option.empty() && (SpeaksOfTheOthers(option) || NamesOptions(option)))
+        findings.AddIn({question.number, ExamFieldName::Options, i});
+    }
+    if (question.answer.options && NamesOptionsInText(question.text))
+      findings.AddIn({question.number, ExamFieldName::QuestionText});
+  }
+}
+
+void ShuffledQuestionReference::Check(const CheckedExam& exam, FindingList& findings) const {
+  if (exam.exam.randomMode != RandomMode::Sequence) return;
+  for (const CheckedQuestion& question : exam.questions) {
+    if (FollowsOn(question.text) || !NamedQuestions(question.text).empty())
+      findings.Add({question.number, ExamFieldName::QuestionText});
+  }
+}
+
+void PictureWithoutFile::Check(const CheckedExam& exam, FindingList& findings) const {
+  if (!exam.exam.examAttachmentPaths[0].empty()) return;
+  for (const CheckedQuestion& question : exam.questions) {
+    if (question.hasFiles || !MentionsPicture(question.text) || HasInlinePicture(question.text)) continue;
+    if (!HasFilesBefore(exam, question)) findings.Add({question.number, ExamFieldName::QuestionText});
+  }
+}
+
+void PictureWithoutWords::Check(const CheckedExam& exam, FindingList& findings) const {
+  for (const CheckedFile& file : exam.files) {
+    if (file.place.question == 0 || file.kind != FileKind::Picture) continue;
+    const std::u16string_view text = exam.questions[static_cast<std::size_t>(file.place.question) - 1].text;
+    if (MentionsPicture(text) || SharesWord(file.name, WordedText(text))) continue;
+    findings.Add(file.place, {file.name});
+  }
+}
+
+void PlainNegation::CheckQuestion(const CheckedQuestion& question, FindingList& findings) const {
+  if (!question.answer.options) return;
+  const auto word = OverlookedNegation(question.text);
+  if (word) findings.Add({question.number, ExamFieldName::QuestionText}, {word->Of(question.text)});
+}
+
+}  // namespace quorvantis
