@@ -39,6 +39,11 @@ void PageFile::WriteUtf8(std::u16string page) {
   Write(bytes, std::move(page));
 }
 
+void PageFile::WriteText(std::u16string page) {
+  const std::string bytes = Utf16ToUtf8(page);
+  Write(bytes, std::move(page));
+}
+
 void PageFile::WriteHalfUtf16(std::u16string page) {
   const std::string bytes = FirstUtf16Bytes(page, page.size() + 1);
   Write(bytes, std::move(page));

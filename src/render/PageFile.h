@@ -20,6 +20,9 @@ class PageFile {
   /// As UTF-8, followed by one zero byte; a lone surrogate becomes U+FFFD.
   void WriteUtf8(std::u16string page);
 
+  /// As UTF-8 and nothing else.
+  void WriteText(std::u16string page);
+
   /// As UTF-16LE without a mark, of which only the first (number of units + 1) bytes are written: little more
   /// than the first half. Deliberate: the programs that read these files count on this size.
   void WriteHalfUtf16(std::u16string page);

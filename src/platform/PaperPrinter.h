@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Progress.h"
+#include "platform/Sheet.h"
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace quorvantis {
+
+/// One PDF file to make.
+struct PaperJob {
+  std::filesystem::path exam;    ///< an exam file
+  std::filesystem::path target;  ///< replaced once the new file is complete
+  Sheet sheet = Sheet::Paper;
+  std::u16string version{};  ///< see SheetHead; plain texts
+  std::u16string code{};
+  bool largePrint = false;
+  int pages = 0;  ///< blank pages are added until there are so many; 0 for none
+};
+
+/// Makes PDF files of exams without a window.
+class PaperPrinter {
+ public:
+  virtual ~PaperPrinter() = default;
+
+  /// Does the jobs in their order, and none after one that fails or after the user has cancelled. Returns why
+  /// not all were done, in English; nothing when all were. Files of earlier jobs stay.
+  virtual std::optional<std::string> Print(std::span<const PaperJob> jobs, Progress& progress) = 0;
+
+  /// The number of pages of a file made by `Print`; nothing if it is no such file.
+  virtual std::optional<int> PageCount(const std::filesystem::path& pdf) = 0;
+};
+
+}  // namespace quorvantis
