@@ -28,6 +28,8 @@ struct ParsedArguments {
   bool json = false;
   bool table = false;
   bool afterPreview = false;
+  SheetChoice sheet;
+  bool csv = false;
   bool keepsRecovery = false;
   std::string recoveryCopy;
   std::optional<std::string> student;
@@ -122,14 +124,60 @@ void AddPreview(CLI::App& app, ParsedArguments& arguments, Console& console) {
   });
 }
 
+/// The flags that choose a sheet; at most one of them may be given. None of them goes with `other`.
+void AddSheetChoice(CLI::App& command, SheetChoice& choice, CLI::Option* other) {
+  std::vector<CLI::Option*> flags;
+  const auto add = [&](const char* name, Sheet sheet, const char* description) {
+    flags.push_back(command.add_flag_callback(
+        name, [&choice, sheet] { choice.sheet = sheet; }, description));
+  };
+  add("--paper", Sheet::Paper, "The questions, laid out for paper");
+  add("--key", Sheet::Key, "The right answers");
+  add("--sheet", Sheet::Answers, "The sheet to answer on");
+  add("--solutions", Sheet::Solutions, "The questions with the right answers");
+  CLI::Option* large =
+      command.add_flag("--large-print", choice.largePrint, "18 points and wide spacing, the same numbers");
+  for (CLI::Option* flag : flags) {
+    for (CLI::Option* another : flags) {
+      if (flag != another) flag->excludes(another);
+    }
+    if (other != nullptr) flag->excludes(other);
+  }
+  if (other != nullptr) large->excludes(other);
+}
+
 void AddPrint(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* print = AddCommand(app, arguments, "print", "Write the page for printing an exam");
   AddPath(*print, "EXAM", arguments.input, "Exam file (.exm)");
   AddPath(*print, "DIR", arguments.output, "Application folder for DIR/exam_Print.htm; created if missing");
-  print->add_flag("--after-preview", arguments.afterPreview,
-                  "Write the preview first, which the print depends on");
-  print->callback(
-      [&] { Print(console, arguments.common, arguments.input, arguments.output, arguments.afterPreview); });
+  CLI::Option* after = print->add_flag("--after-preview", arguments.afterPreview,
+                                       "Write the preview first, which the print depends on");
+  AddSheetChoice(*print, arguments.sheet, after);
+  print->footer(
+      "A sheet goes to DIR/exam_Paper.htm, exam_Key.htm, exam_Answers.htm or exam_Solutions.htm instead.");
+  print->callback([&] {
+    if (arguments.sheet.sheet || arguments.sheet.largePrint)
+      return PrintSheet(console, arguments.common, arguments.input, arguments.output, arguments.sheet);
+    Print(console, arguments.common, arguments.input, arguments.output, arguments.afterPreview);
+  });
+}
+
+void AddPdf(CLI::App& app, ParsedArguments& arguments, Console& console) {
+  CLI::App* pdf = AddCommand(app, arguments, "pdf", "Make a PDF file of an exam: paper, key or answer sheet");
+  AddPath(*pdf, "EXAM", arguments.input, "Exam file (.exm)");
+  AddPath(*pdf, "OUT", arguments.output, "PDF file to write");
+  AddSheetChoice(*pdf, arguments.sheet, nullptr);
+  pdf->footer("Without a choice, the paper. Needs the program quorvantis-pdf, which comes with the window.");
+  pdf->callback(
+      [&] { MakePdf(console, arguments.common, arguments.input, arguments.output, arguments.sheet); });
+}
+
+void AddKey(CLI::App& app, ParsedArguments& arguments, Console& console) {
+  CLI::App* key = AddCommand(app, arguments, "key", "Print the right answers of an exam");
+  AddPath(*key, "EXAM", arguments.input, "Exam file (.exm)");
+  key->add_flag("--csv", arguments.csv, "Print a table for spreadsheets");
+  key->footer("A line for each question: number, kind, key and score, with tabs between them.");
+  key->callback([&] { PrintKey(console, arguments.common, arguments.input, arguments.csv); });
 }
 
 /// An option that is one more step of the score setup. Parsed as soon as it is met, so that steps with
@@ -419,6 +467,8 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddUnpack(app, arguments, console);
   AddPreview(app, arguments, console);
   AddPrint(app, arguments, console);
+  AddPdf(app, arguments, console);
+  AddKey(app, arguments, console);
   AddScore(app, arguments, console);
   AddExport(app, arguments, console);
   AddEdit(app, arguments, console);

@@ -4,6 +4,7 @@
 
 #include "cli/ExamSession.h"
 #include "cli/ScoreSteps.h"
+#include "platform/Sheet.h"
 
 #include <filesystem>
 #include <optional>
@@ -39,6 +40,23 @@ void Preview(Console& console, const CommonOptions& options, const PreviewReques
 /// Writes the page for printing; with `afterPreview`, as it is after a preview in the same run.
 void Print(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
            const std::filesystem::path& folder, bool afterPreview);
+
+/// Which sheet of an exam is wanted.
+struct SheetChoice {
+  std::optional<Sheet> sheet;
+  bool largePrint = false;
+};
+
+/// Writes the page of a sheet into the application folder; of the paper if no sheet is chosen.
+void PrintSheet(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
+                const std::filesystem::path& folder, const SheetChoice& choice);
+
+/// Makes a PDF file of a sheet.
+void MakePdf(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
+             const std::filesystem::path& target, const SheetChoice& choice);
+
+/// Prints the keys of all questions: a line for each, or a file for spreadsheets.
+void PrintKey(Console& console, const CommonOptions& options, const std::filesystem::path& exam, bool asCsv);
 
 /// Takes an exam through the score setup, accepts it and saves the exam as `target`.
 void Score(Console& console, const CommonOptions& options, const std::filesystem::path& exam,

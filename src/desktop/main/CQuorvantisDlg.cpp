@@ -3,7 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/DroppedFiles.h"
-#include "desktop/controls/PlacedText.h"
+#include "desktop/controls/QtText.h"
 #include "desktop/dialogs/AboutDlg.h"
 #include "desktop/dialogs/CScoreSetupDlg.h"
 #include "desktop/main/Attaching.h"
@@ -15,7 +15,7 @@
 #include "platform/DebugOutput.h"
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
-#include "platform/posix/ApplicationFolder.h"
+#include "preview/PreviewSetup.h"
 #include "shell/commands/PreviewCommand.h"
 #include "shell/commands/PrintCommand.h"
 #include "shell/commands/ScoreSetupCommand.h"
@@ -84,17 +84,6 @@ void ShowOnce(QWidget& parent, const Values&... values) {
   dialog->activateWindow();
 }
 
-PreviewTexts TextsOfPreviews(const StringTable& strings) {
-  return {PlacedText(strings, text_id::kPreparing),      PlacedText(strings, text_id::kCannotShow),
-          PlacedText(strings, text_id::kFileMissing),    PlacedText(strings, text_id::kNeedsProgram),
-          PlacedText(strings, text_id::kFirstPagesOnly), PlacedText(strings, text_id::kBeginningOnly)};
-}
-
-GatewaySetup SetUpGateway(const ExamServices& services, const ComposedPages& pages) {
-  return {services.applicationFolder, pages, ExecutableFolder() / "flash-player", ConverterPrograms::Find(),
-          TextsOfPreviews(services.strings)};
-}
-
 }  // namespace
 
 CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, WordDocuments& papers,
@@ -107,7 +96,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       services_(exam.Services()),
       languageId_(languageId),
       pdf_(services_, *this),
-      previews_(SetUpGateway(services_, pages)),
+      previews_(SetUpGateway(services_.applicationFolder, services_.strings, pages)),
       importWindows_(exam.Services(), library, *this),
       papers_(papers),
       import_(editor_, life_.Steps(), papers_, importWindows_, FindImportRules(services_.applicationFolder)),

@@ -58,7 +58,7 @@ void Limit(__rlimit_resource resource, rlim_t most) {
 
 /// Between fork and exec only async-signal-safe calls are allowed. `output` becomes the standard output
 /// unless it is negative.
-[[noreturn]] void BecomeProgram(char* const* arguments, char* const* environment, rlim_t largestFile,
+[[noreturn]] void BecomeProgram(char* const* arguments, char* const* environment, const ChildOrder& order,
                                 int output, pid_t parent) {
   ::setsid();
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);  // in case this program is killed and cannot end the group
@@ -67,8 +67,8 @@ void Limit(__rlimit_resource resource, rlim_t most) {
   ::sigemptyset(&none);
   ::sigprocmask(SIG_SETMASK, &none, nullptr);  // NOLINT(concurrency-mt-unsafe): one thread is left
   std::signal(SIGPIPE, SIG_DFL);               // event loops ignore this signal
-  Limit(RLIMIT_FSIZE, largestFile);
-  Limit(RLIMIT_AS, kMostMemory);
+  Limit(RLIMIT_FSIZE, order.largestFile);
+  if (order.limitsMemory) Limit(RLIMIT_AS, kMostMemory);
   ::setpriority(PRIO_PROCESS, 0, kLowPriority);
   const int nothing = ::open("/dev/null", O_RDWR);
   ::dup2(nothing, STDIN_FILENO);
@@ -111,7 +111,7 @@ std::unique_ptr<ChildProcess> ChildProcess::Start(const ChildOrder& order) {
   const pid_t parent = ::getpid();
   const pid_t id = ::fork();
   if (id < 0) return nullptr;
-  if (id == 0) BecomeProgram(arguments.Data(), environment.Data(), order.largestFile, output, parent);
+  if (id == 0) BecomeProgram(arguments.Data(), environment.Data(), order, output, parent);
   return std::unique_ptr<ChildProcess>(
       new ChildProcess(id, pipe ? std::move(pipe->reading) : FileDescriptor()));
 }

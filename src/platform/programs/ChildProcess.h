@@ -23,6 +23,7 @@ struct ChildOrder {
   std::uintmax_t largestFile = std::uintmax_t{1}
                                << 30;  ///< limit for the size of any file that it writes, in bytes
   bool readsOutput = false;            ///< the caller wants its standard output
+  bool limitsMemory = true;
 };
 
 enum class ChildEnd { Succeeded, Failed, NotStarted, TimedOut, Cancelled };

@@ -23,6 +23,21 @@ ChildEnd RunChildProgram(const ChildOrder& order, std::chrono::milliseconds limi
   }
 }
 
+ChildOutput RunForOutput(const ChildOrder& order, std::chrono::milliseconds limit, std::size_t mostBytes) {
+  const auto deadline = std::chrono::steady_clock::now() + limit;
+  const auto child = ChildProcess::Start(order);
+  std::string output;
+  if (child == nullptr) return {ChildEnd::NotStarted, output};
+  for (;; std::this_thread::sleep_for(kBetweenLooksAtPrograms)) {
+    const std::optional<ChildEnd> end = child->End();  // before the output, which is then all there is
+    for (std::string part; !(part = child->ReadOutput()).empty() && output.size() <= mostBytes;)
+      output += part;
+    if (output.size() > mostBytes) return {ChildEnd::Failed, output};
+    if (end) return {*end, output};
+    if (std::chrono::steady_clock::now() > deadline) return {ChildEnd::TimedOut, output};
+  }
+}
+
 fs::path FindProgram(const std::string& name) {
   const char* const path = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe): nothing sets it
   std::istringstream folders(path == nullptr ? "" : path);

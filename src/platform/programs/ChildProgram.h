@@ -16,6 +16,16 @@ namespace quorvantis {
 ChildEnd RunChildProgram(const ChildOrder& order, std::chrono::milliseconds limit,
                          const std::function<bool()>& isCancelled);
 
+/// How a program ended, and its standard output.
+struct ChildOutput {
+  ChildEnd end;
+  std::string output;
+};
+
+/// Runs a program for its output, at most for `limit`. One that writes more than `mostBytes` counts as
+/// failed. The order must say that its output is read.
+ChildOutput RunForOutput(const ChildOrder& order, std::chrono::milliseconds limit, std::size_t mostBytes);
+
 /// The full path of a program in the folders of PATH; empty if not found.
 std::filesystem::path FindProgram(const std::string& name);
 

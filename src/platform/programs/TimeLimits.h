@@ -15,6 +15,9 @@ inline constexpr std::chrono::seconds kLongestShownDocument{30};
 /// The images of a document's pages.
 inline constexpr std::chrono::seconds kLongestDrawing{60};
 
+/// A PDF file of an exam, each time after the program that makes it has told of progress.
+inline constexpr std::chrono::seconds kLongestSheet{120};
+
 /// A program that only looks at a file.
 inline constexpr std::chrono::seconds kLongestLook{30};
 

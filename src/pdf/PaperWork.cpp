@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "pdf/PaperWork.h"
+
+#include "examfile/ExamFileReader.h"
+#include "platform/WholeFile.h"
+#include "platform/posix/ApplicationFolder.h"
+#include "platform/posix/DynamicLanguageLibraries.h"
+#include "preview/PreviewSetup.h"
+#include "render/sheets/ReadingDirection.h"
+#include "render/sheets/SheetPages.h"
+#include "shell/language/LanguageId.h"
+#include "shell/language/LanguageList.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <iostream>
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::chrono::seconds kBetweenSigns{5};
+
+/// Null, for the built-in texts, if there is none.
+std::unique_ptr<LanguageLibrary> LoadLanguageOf(int languageId) {
+  const fs::path beside = ExecutableFolder();
+  DynamicLanguageLibraries libraries;
+  std::error_code error;
+  const LanguageList list = ScanLanguageLibraries(LanguageFolder(beside, beside), libraries, error);
+  const auto index = list.IndexOf(languageId);
+  return index ? libraries.Load(list.languageFiles[*index]) : nullptr;
+}
+
+/// A line for the program that has started this one.
+void Tell(std::string line) {
+  std::ranges::replace(line, '\n', ' ');
+  std::cout << line << std::endl;
+}
+
+}  // namespace
+
+PaperWork::PaperWork(PaperOrder order)
+    : order_(std::move(order)),
+      host_(order_.folder, order_.languageId, false, {language_, dialogs_, progress_, longAnswerFlags_}) {
+  if (order_.languageId != 0) language_.Use(LoadLanguageOf(order_.languageId));
+  browser_ =
+      std::make_unique<SheetBrowser>(SetUpGateway(order_.folder, host_.Services().strings, host_.Pages()));
+  connect(browser_.get(), &SheetBrowser::Printed, this, &PaperWork::Finish);
+  connect(&signs_, &QTimer::timeout, this, [this] {
+    if (browser_->IsConverting()) Tell(std::string(kJobGoesOn));
+  });
+  signs_.start(kBetweenSigns);
+}
+
+PaperWork::~PaperWork() = default;
+
+void PaperWork::Next() {
+  if (next_ == order_.jobs.size()) return QCoreApplication::exit(0);
+  Start(order_.jobs[next_++]);
+}
+
+void PaperWork::Start(const PaperJob& job) {
+  FrameSetExam exam(host_.Services());
+  exam.SetHostMode(1);
+  exam.ReadExamFile(job.exam);
+  if (!exam.lastRead->opened) return Fail(job.exam.string() + ": cannot be opened. " + dialogs_.LastError());
+  if (exam.filesNotUnpacked > 0)
+    return Fail(job.exam.string() + ": its attached files could not be unpacked into " +
+                order_.folder.string());
+  exam.CountQuestions();
+  host_.Services().pages.Clear();
+  const bool languageIsRightToLeft = IsRightToLeft(order_.languageId);
+  const fs::path page =
+      WriteSheet(exam, {job.sheet, {job.version, job.code}, job.largePrint, languageIsRightToLeft});
+  browser_->Print({page, Draft(), job.pages, RunsRightToLeft(exam, languageIsRightToLeft)});
+}
+
+void PaperWork::Finish(bool succeeded) {
+  const PaperJob& job = order_.jobs[next_ - 1];
+  if (!succeeded) return Fail(job.target.string() + ": the browser could not print the page");
+  if (const std::error_code failure = CopyWholeFile(host_.Services().files, Draft(), job.target))
+    return Fail(job.target.string() + ": cannot be written: " + failure.message());
+  Tell(std::string(kJobDone));
+  Next();
+}
+
+void PaperWork::Fail(const std::string& why) {
+  Tell(std::string(kJobFailed) + why);
+  QCoreApplication::exit(1);
+}
+
+}  // namespace quorvantis

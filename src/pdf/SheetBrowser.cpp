@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "pdf/SheetBrowser.h"
+
+#include "platform/convert/Later.h"
+#include "platform/pdf/PdfPageNumbers.h"
+#include "preview/BrowserEngine.h"
+#include "preview/PageAddress.h"
+#include "preview/PageScripts.h"
+
+#include <QFile>
+#include <QPageLayout>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+// Of the paper, in millimetres.
+constexpr double kSideMargin = 15;
+constexpr double kTopMargin = 13;
+constexpr double kBottomMargin = 12;
+
+constexpr double kPointsOfAMillimetre = 72 / 25.4;
+constexpr double kFootBaseline = 1.2;  // millimetres above the margin
+
+QString BlankPagesScript(int count) {
+  return QStringLiteral(
+             "for (let i = 0; i < %1; ++i) {"
+             "  const blank = document.createElement('div');"
+             "  blank.style.breakBefore = 'page';"
+             "  blank.style.height = '1px';"
+             "  document.body.append(blank);"
+             "}")
+      .arg(count);
+}
+
+QByteArray BytesOf(const std::filesystem::path& file) {
+  QFile in(file);
+  return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+}  // namespace
+
+SheetBrowser::Paper::Paper(SheetBrowser& browser)
+    : page(&browser.profile_, nullptr), printer(view, page, browser.gateway_, [&browser](QPrinter& chosen) {
+        return browser.ChoosePrinter(chosen);
+      }) {
+  view.setPage(&page);
+}
+
+SheetBrowser::SheetBrowser(const GatewaySetup& setup) : gateway_(setup) {
+  profile_.setUrlRequestInterceptor(&guard_);
+  profile_.installUrlSchemeHandler(QByteArray(kExamScheme.data()), &gateway_);
+  profile_.scripts()->insert(PageScript({setup.texts.preparing, setup.texts.cannotShow}));
+}
+
+/// Each page gets a browser page of its own: nothing of the last one can be in its way.
+void SheetBrowser::Print(Order order) {
+  order_ = std::move(order);
+  isFilled_ = false;
+  paper_ = std::make_unique<Paper>(*this);
+  connect(&paper_->printer, &PagePrinter::Printed, this, &SheetBrowser::Finish);
+  connect(&paper_->page, &QWebEnginePage::renderProcessTerminated, this, [this] { emit Printed(false); });
+  gateway_.SetPage(order_.page);
+  paper_->page.Go(AddressOf(order_.page));
+  paper_->printer.Print();
+}
+
+bool SheetBrowser::ChoosePrinter(QPrinter& printer) const {
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QFile::decodeName(order_.file.c_str()));
+  printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                    QMarginsF(kSideMargin, kTopMargin, kSideMargin, kBottomMargin),
+                                    QPageLayout::Millimeter));
+  return true;
+}
+
+/// The browser is still in its signal.
+void SheetBrowser::Finish(bool succeeded) {
+  Later(*this, {}, [this, succeeded] {
+    if (succeeded && AddBlankPages()) return;
+    emit Printed(succeeded && NumberPages());
+  });
+}
+
+/// Prints again if there are too few pages.
+bool SheetBrowser::AddBlankPages() {
+  const QByteArray pdf = BytesOf(order_.file);
+  const int count = CountPdfPages({pdf.data(), static_cast<std::size_t>(pdf.size())}).value_or(0);
+  if (count >= order_.pages || std::exchange(isFilled_, true)) return false;
+  paper_->page.runJavaScript(
+      BlankPagesScript(order_.pages - count), QWebEngineScript::ApplicationWorld,
+      [this](const QVariant&) { Later(*this, {}, [this] { paper_->printer.Print(); }); });
+  return true;
+}
+
+/// A file that is built in an unknown way goes without numbers.
+bool SheetBrowser::NumberPages() const {
+  const QByteArray pdf = BytesOf(order_.file);
+  const NumberPlace place{order_.isRightToLeft ? NumberCorner::BottomLeft : NumberCorner::BottomRight,
+                          kSideMargin * kPointsOfAMillimetre,
+                          (kBottomMargin + kFootBaseline) * kPointsOfAMillimetre};
+  const auto numbered = WithPageNumbers({pdf.data(), static_cast<std::size_t>(pdf.size())}, place);
+  if (!numbered) return !pdf.isEmpty();
+  QFile out(order_.file);
+  const auto size = static_cast<qint64>(numbered->size());
+  return out.open(QIODevice::WriteOnly) && out.write(numbered->data(), size) == size && out.flush();
+}
+
+}  // namespace quorvantis

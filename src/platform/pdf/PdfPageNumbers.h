@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// What the browser leaves open in the PDF files that it prints.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// The number of pages of a PDF file that this program has made; nothing for other bytes.
+std::optional<int> CountPdfPages(std::string_view pdf);
+
+/// Where the numbers stand: at the end of the line of the foot, by the direction of the page.
+enum class NumberCorner { BottomRight, BottomLeft };
+
+/// From the edges of the paper to the numbers, in points.
+struct NumberPlace {
+  NumberCorner corner;
+  double fromSide;
+  double fromBottom;  ///< to the line on which the digits stand
+};
+
+/// The file with "2 / 7" on every page: the browser cannot number pages. What it wrote stays as it is, and
+/// the changed pages follow it. Nothing if the file is not built as the browser does it.
+std::optional<std::string> WithPageNumbers(std::string_view pdf, const NumberPlace& place);
+
+}  // namespace quorvantis

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "platform/programs/PdfProgram.h"
+
+#include "platform/WholeFile.h"
+#include "platform/pdf/PdfPageNumbers.h"
+#include "platform/posix/ApplicationFolder.h"
+#include "platform/posix/PrivateFolder.h"
+#include "platform/programs/ChildProcess.h"
+#include "platform/programs/PaperJobArguments.h"
+#include "platform/programs/TimeLimits.h"
+
+#include <thread>
+#include <unistd.h>
+
+namespace quorvantis {
+namespace fs = std::filesystem;
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr const char* kProgramName = "quorvantis-pdf";
+constexpr std::size_t kLargestPdf = std::size_t{1} << 30;  // bytes
+
+/// The program at work on some jobs, as far as it has told.
+class PdfRun {
+ public:
+  PdfRun(const ChildOrder& order, std::size_t jobs, Progress& progress)
+      : child_(ChildProcess::Start(order)), jobs_(jobs), progress_(progress) {}
+
+  /// Returns why not all jobs were done.
+  std::optional<std::string> Wait() {
+    if (child_ == nullptr) return std::string(kProgramName) + " could not be started";
+    for (;; std::this_thread::sleep_for(kBetweenLooksAtPrograms)) {
+      const std::optional<ChildEnd> end = child_->End();
+      Take(child_->ReadOutput());
+      if (failure_ || (end && done_ == jobs_)) return failure_;
+      if (end) return std::string(kProgramName) + " ended before the PDF file was complete";
+      progress_.Wait();
+      if (progress_.IsCancelled()) return "cancelled";
+      if (Clock::now() > lastWord_ + kLongestSheet)
+        return std::string(kProgramName) + " took too long and was stopped";
+    }
+  }
+
+ private:
+  void Take(const std::string& output) {
+    begun_ += output;
+    for (std::size_t end = 0; (end = begun_.find('\n')) != std::string::npos; begun_.erase(0, end + 1))
+      TakeLine(begun_.substr(0, end));
+  }
+
+  void TakeLine(const std::string& line) {
+    lastWord_ = Clock::now();
+    if (line == kJobDone) progress_.Report(++done_, jobs_);
+    if (line.starts_with(kJobFailed)) failure_ = line.substr(kJobFailed.size());
+  }
+
+  const std::unique_ptr<ChildProcess> child_;
+  const std::size_t jobs_;
+  Progress& progress_;
+  std::size_t done_ = 0;
+  std::string begun_;  ///< the incomplete last line
+  std::optional<std::string> failure_;
+  Clock::time_point lastWord_ = Clock::now();
+};
+
+PaperJob WithFullPaths(PaperJob job) {
+  job.exam = fs::absolute(job.exam).lexically_normal();
+  job.target = fs::absolute(job.target).lexically_normal();
+  return job;
+}
+
+}  // namespace
+
+fs::path PdfProgram::Find() {
+  fs::path program = ExecutableFolder() / kProgramName;
+  return ::access(program.c_str(), X_OK) == 0 ? program : fs::path();
+}
+
+std::optional<std::string> PdfProgram::Print(std::span<const PaperJob> jobs, Progress& progress) {
+  if (jobs.empty()) return std::nullopt;
+  if (program_.empty()) {
+    return std::string(kProgramName) +
+           " is not installed beside this program, which was built without the window";
+  }
+  const PrivateFolder folder;
+  PaperOrder paper{folder.Path() / "work", languageId_, {}};
+  fs::create_directory(paper.folder);
+  for (const PaperJob& job : jobs) paper.jobs.push_back(WithFullPaths(job));
+  ChildOrder order{program_, PaperArguments(paper), folder.Path()};
+  order.readsOutput = true;
+  order.limitsMemory = false;  // the browser reserves far more addresses than it uses
+  return PdfRun(order, jobs.size(), progress).Wait();
+}
+
+std::optional<int> PdfProgram::PageCount(const fs::path& pdf) {
+  const std::optional<std::string> bytes = ReadWholeFile(pdf, kLargestPdf);
+  return bytes ? CountPdfPages(*bytes) : std::nullopt;
+}
+
+}  // namespace quorvantis

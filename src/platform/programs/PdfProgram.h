@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/PaperPrinter.h"
+
+#include <filesystem>
+
+namespace quorvantis {
+
+/// Makes PDF files by the program "quorvantis-pdf", which holds the browser: so a program that starts it
+/// needs none and starts fast. It works in a private folder and ends with this one.
+class PdfProgram : public PaperPrinter {
+ public:
+  /// `program` is the full path; empty if it is not installed. `languageId` is that of the texts on the
+  /// pages, 0 for the built-in ones.
+  PdfProgram(std::filesystem::path program, int languageId)
+      : program_(std::move(program)), languageId_(languageId) {}
+
+  /// Beside the running program; empty if it is not there.
+  static std::filesystem::path Find();
+
+  std::optional<std::string> Print(std::span<const PaperJob> jobs, Progress& progress) override;
+  std::optional<int> PageCount(const std::filesystem::path& pdf) override;
+
+ private:
+  const std::filesystem::path program_;
+  const int languageId_;
+};
+
+}  // namespace quorvantis
