@@ -96,7 +96,7 @@ bool SheetBrowser::AddBlankPages() {
   return true;
 }
 
-/// A file that is built in an unknown way goes without numbers.
+/// A file that cannot be read goes without numbers.
 bool SheetBrowser::NumberPages() const {
   const QByteArray pdf = BytesOf(order_.file);
   const NumberPlace place{order_.isRightToLeft ? NumberCorner::BottomLeft : NumberCorner::BottomRight,

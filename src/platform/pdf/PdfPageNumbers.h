@@ -8,7 +8,7 @@
 
 namespace quorvantis {
 
-/// The number of pages of a PDF file that this program has made; nothing for other bytes.
+/// The number of pages of a PDF file; nothing for bytes that are none.
 std::optional<int> CountPdfPages(std::string_view pdf);
 
 /// Where the numbers stand: at the end of the line of the foot, by the direction of the page.
@@ -21,8 +21,8 @@ struct NumberPlace {
   double fromBottom;  ///< to the line on which the digits stand
 };
 
-/// The file with "2 / 7" on every page: the browser cannot number pages. What it wrote stays as it is, and
-/// the changed pages follow it. Nothing if the file is not built as the browser does it.
+/// The file with "2 / 7" on every page: the browser cannot number pages. Nothing for bytes that are no PDF
+/// file.
 std::optional<std::string> WithPageNumbers(std::string_view pdf, const NumberPlace& place);
 
 }  // namespace quorvantis
