@@ -17,7 +17,7 @@ namespace {
 
 /// Steps whose work makes no reading better by itself, but is right wherever they find something to do.
 constexpr std::u16string_view kHarmless[] = {step_name::kKeyInStem, step_name::kBlankForms, step_name::kNoise,
-                                             step_name::kKeyLetters};
+                                             step_name::kKeyLetters, step_name::kKeyAtEnd};
 
 bool HasSoftBreaks(const Paper& paper) {
   return std::ranges::count(paper.source.characters, u'\v') > 1;

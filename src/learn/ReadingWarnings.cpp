@@ -35,11 +35,10 @@ bool IsEmptyText(std::u16string_view text) {
 }
 
 /// In one line, short.
-std::u16string Excerpt(std::u16string_view text) {
-  constexpr std::size_t kEnough = 60;
+std::u16string Excerpt(std::u16string_view text, std::size_t enough = 60) {
   const std::size_t begin = std::min(text.find_first_not_of(kAnyBlank), text.size());
-  std::u16string excerpt(text.substr(begin, kEnough));
-  if (text.size() - begin > kEnough) excerpt += u'\u2026';
+  std::u16string excerpt(text.substr(begin, enough));
+  if (text.size() - begin > enough) excerpt += u'\u2026';
   std::ranges::replace_if(
       excerpt, [](char16_t unit) { return unit < u' ' || IsLineEnd(unit); }, u' ');
   excerpt.erase(excerpt.find_last_not_of(kAnyBlank) + 1);
@@ -62,6 +61,7 @@ class WarningSearch {
       Add({Kind::TooManyQuestions, -1, static_cast<int>(questions_.size())});
     LookAtNumbers();
     LookAtKeyAtEnd();
+    LookAtUnclearKeys();
     usual_ = UsualOptions();
     hasKeys_ = std::ranges::any_of(questions_, [](const ReadQuestion& question) {
       return question.kind == ReadKind::Choice && !question.letters.empty();
@@ -107,21 +107,70 @@ class WarningSearch {
     }
   }
 
-  /// The step for it leaves alone what is not clear.
+  bool Uses(std::u16string_view step) const {
+    return std::ranges::any_of(
+        rules_.prepare, [step](const std::u16string& name) { return EqualsIgnoringAsciiCase(name, step); });
+  }
+
+  /// The step for it leaves out what is not clear. Without it, or where it finds nothing, a key stays in the
+  /// questions, unless the rules say where the answers begin.
   void LookAtKeyAtEnd() {
-    const bool isUsed = std::ranges::any_of(rules_.prepare, [](const std::u16string& step) {
-      return EqualsIgnoringAsciiCase(step, step_name::kKeyAtEnd);
-    });
-    if (!isUsed) return;
+    const bool isUsed = Uses(step_name::kKeyAtEnd);
+    if (!isUsed && !rules_.m_strPreAllAnswer.empty()) return;
     try {
-      if (HasUnmatchedKey(paper_, rules_, {})) Add({Kind::KeyUnmatched});
-      for (const KeyConflict& conflict : KeyConflicts(paper_, rules_, {})) {
+      const KeyAtEndReport report = ReportKeyAtEnd(paper_, rules_, {});
+      if (report.isUnmatched || (report.isFound && !isUsed)) Add({Kind::KeyUnmatched});
+      if (isUsed) TellLeftovers(report);
+      for (const KeyConflict& conflict : report.conflicts) {
         if (conflict.question >= questions_.size()) continue;
         Add({Kind::TwoAnswers, static_cast<int>(conflict.question), 0,
              Excerpt(conflict.own) + u" / " + Excerpt(conflict.atEnd)});
       }
     } catch (const ImportFailure&) {
       return;  // the reading has succeeded, so this is for lack of memory alone
+    }
+  }
+
+  void TellLeftovers(const KeyAtEndReport& report) {
+    constexpr std::size_t kMostPieces = 20;
+    bool hasExplanation = false;
+    std::size_t pieces = 0;
+    for (const auto& [leftover, text] : report.leftovers) {
+      const bool isExplanation = leftover.kind == KeyLeftover::Kind::Explanation;
+      if (isExplanation && hasExplanation) continue;
+      hasExplanation = hasExplanation || isExplanation;
+      if (++pieces > kMostPieces) return;
+      constexpr std::size_t kLong = 200;
+      Add({KindOf(leftover.kind), -1, static_cast<int>(leftover.letters), Excerpt(text, kLong),
+           static_cast<int>(leftover.questions)});
+    }
+  }
+
+  static Kind KindOf(KeyLeftover::Kind leftover) {
+    switch (leftover) {
+      case KeyLeftover::Kind::Explanation:
+        return Kind::KeyExplanations;
+      case KeyLeftover::Kind::Miscounted:
+        return Kind::KeyMiscounted;
+      case KeyLeftover::Kind::Unmatched:
+        return Kind::KeyLeftOut;
+      case KeyLeftover::Kind::Versions:
+        return Kind::KeyVersions;
+      default:
+        return Kind::KeyNotPlaced;
+    }
+  }
+
+  /// What KeyLetters has taken away because it names no option without doubt.
+  void LookAtUnclearKeys() {
+    if (!Uses(u"KeyLetters")) return;
+    try {
+      for (UnclearKey& unclear : KeysNotOptions(paper_, rules_, {})) {
+        if (unclear.question < questions_.size() && IsEmptyText(questions_[unclear.question].key))
+          unclear_[unclear.question] = std::move(unclear.answer);
+      }
+    } catch (const ImportFailure&) {
+      return;  // as above
     }
   }
 
@@ -183,8 +232,9 @@ class WarningSearch {
   void LookAtKey(const ReadQuestion& question, int index) {
     const bool saysNothing = IsEmptyText(question.key);
     if (question.letters.empty()) {
-      if (!saysNothing) {
-        Add({Kind::KeyNotAnOption, index, 0, Excerpt(question.key)});
+      const auto unclear = unclear_.find(static_cast<std::size_t>(index));
+      if (!saysNothing || unclear != unclear_.end()) {
+        Add({Kind::KeyNotAnOption, index, 0, Excerpt(saysNothing ? unclear->second : question.key)});
       } else if (hasKeys_) {
         Add({Kind::NoKey, index});
       }
@@ -258,6 +308,7 @@ class WarningSearch {
   const std::vector<ReadQuestion>& questions_;
   int usual_ = 0;
   bool hasKeys_ = false;
+  std::map<std::size_t, std::u16string> unclear_;  ///< by question
   std::vector<ReadingWarning> warnings_;
 };
 
@@ -285,7 +336,17 @@ constexpr std::array kKindTexts = {
     KindText{Kind::NotRead, text_id::kWarnNotRead},
     KindText{Kind::KeyUnmatched, text_id::kWarnKeyUnmatched},
     KindText{Kind::TooManyQuestions, text_id::kWarnTooManyQuestions},
+    KindText{Kind::KeyMiscounted, text_id::kWarnKeyMiscounted},
+    KindText{Kind::KeyVersions, text_id::kWarnKeyVersions},
+    KindText{Kind::KeyLeftOut, text_id::kWarnKeyLeftOut},
+    KindText{Kind::KeyNotPlaced, text_id::kWarnKeyNotPlaced},
+    KindText{Kind::KeyExplanations, text_id::kWarnKeyExplanations},
 };
+
+bool IsOfWholeKey(Kind kind) {
+  return kind == Kind::KeyVersions || kind == Kind::KeyLeftOut || kind == Kind::KeyNotPlaced ||
+         kind == Kind::KeyExplanations;
+}
 
 }  // namespace
 
@@ -299,7 +360,9 @@ std::u16string WarningText(const ReadingWarning& warning, const StringTable& str
   const auto* found = std::ranges::find(kKindTexts, warning.kind, &KindText::kind);
   const std::u16string format = strings.Text(found->text);
   const std::u16string number = FormatInteger(warning.number);
-  if (warning.kind == Kind::NotRead) return FillMessage(format, {warning.text});
+  if (warning.kind == Kind::KeyMiscounted)
+    return FillMessage(format, {warning.text, number, FormatInteger(warning.questions)});
+  if (warning.kind == Kind::NotRead || IsOfWholeKey(warning.kind)) return FillMessage(format, {warning.text});
   if (warning.kind == Kind::TooManyQuestions) return FillMessage(format, {number});
   const std::u16string question = FormatInteger(warning.question + first);
   return FillMessage(format, {question, warning.text.empty() ? number : warning.text});

@@ -29,12 +29,18 @@ struct ReadingWarning {
     TwoAnswers,        ///< an own answer and one at the end that differ; `text` names both
     NotRead,           ///< a part of the paper became no question; `text` is its beginning
     KeyUnmatched,      ///< the answers at the end belong to no questions by their numbers; about the paper
+    KeyMiscounted,     ///< a part of the key is left out: `number` letters for `questions` questions; paper
+    KeyVersions,       ///< the key is left out: it is for versions, and the paper names none; about the paper
+    KeyLeftOut,        ///< the key is left out: like KeyUnmatched; about the paper
+    KeyNotPlaced,      ///< a part of the key is left out: no question has its number; about the paper
+    KeyExplanations,   ///< explanations in the key are left out; about the paper
     TooManyQuestions,  ///< `number` questions; an exam takes 500
   };
   Kind kind = Kind::NoKey;
   int question = -1;  ///< index in ReadPaper::questions; -1 if it is about the whole paper
   int number = 0;
   std::u16string text{};
+  int questions = 0;  ///< see KeyMiscounted
 };
 
 /// All warnings, those about the whole paper first, then by question.

@@ -5,6 +5,7 @@
 #include "import/labels/OptionSigns.h"
 #include "import/marking/ImportMarkers.h"
 #include "import/prepare/AnswerWords.h"
+#include "import/prepare/KeyTokens.h"
 #include "import/prepare/PreparedLabels.h"
 #include "model/AnswerLetters.h"
 
@@ -23,6 +24,11 @@ std::u16string ExcerptAt(std::u16string_view text, std::size_t place) {
   return std::u16string(text.substr(place, end - place));
 }
 
+/// "B" and "B/D".
+bool IsLetterOrBetween(char16_t unit) {
+  return (unit >= u'A' && unit <= u'E') || unit == u'/' || unit == u',';
+}
+
 /// Letters in brackets that can be the key: of options that there are, and in the key if there is one.
 std::u16string KeyInBrackets(const ReadQuestion& question) {
   const std::u16string_view text = question.text;
@@ -30,12 +36,13 @@ std::u16string KeyInBrackets(const ReadQuestion& question) {
        open = text.find_first_of(kOpens, open + 1)) {
     const std::size_t begin = SkipBlanks(text, open + 1, text.size());
     std::size_t end = begin;
-    while (end < text.size() && text[end] >= u'A' && text[end] <= u'E') ++end;
+    while (end < text.size() && IsLetterOrBetween(text[end])) ++end;
     const std::size_t close = SkipBlanks(text, end, text.size());
     if (end == begin || close >= text.size() || kCloses.find(text[close]) == kCloses.npos) continue;
     const bool canBeKey =
         std::all_of(text.begin() + static_cast<std::ptrdiff_t>(begin),
                     text.begin() + static_cast<std::ptrdiff_t>(end), [&question](char16_t letter) {
+                      if (letter < u'A') return true;
                       const auto option = OptionIndex(letter);
                       const bool isKey =
                           question.letters.empty() || question.letters.find(letter) != std::u16string::npos;
@@ -55,6 +62,34 @@ std::u16string LabelledAnswer(std::u16string_view text) {
     const std::u16string_view lead = rest.substr(0, AnswerLeadSize(rest));
     if (lead.find_first_of(kLabelEnds) != lead.npos && lead.size() < rest.size())
       return ExcerptAt(text, begin);
+  }
+  return {};
+}
+
+/// Whether a text is the answer of a key's line, whose number was taken for that of a question: "B", or
+/// "B  2. C  3. A".
+bool IsAnswerOfKey(std::u16string_view text) {
+  const TextSpan whole = Trimmed(text, {0, text.size()});
+  const std::size_t size = KeyTokenSize(text, whole.begin, whole.end);
+  if (size == 0) return false;
+  const TextSpan rest = Trimmed(text, {whole.begin + size, whole.end});
+  return rest.IsEmpty() || !EntriesOfLine(text, {rest.begin, LineEndAfter(text, rest.begin)}).empty();
+}
+
+/// A line of a key behind the first line of a text: with several answers, one of several lines with one each,
+/// or a heading with anything behind it.
+std::u16string KeyLineBehind(std::u16string_view text) {
+  constexpr std::size_t kFewest = 2;
+  const std::vector<TextSpan> lines = LinesOf(text, {0, text.size()});
+  std::size_t inARow = 0;
+  for (std::size_t i = 1; i < lines.size(); ++i) {
+    const TextSpan line = Trimmed(text, lines[i]);
+    if (line.IsEmpty()) continue;
+    const std::size_t entries = EntriesOfLine(text, line).size();
+    inARow = entries > 0 ? inARow + entries : 0;
+    const bool isHeading =
+        IsBareAnswerHeading(line.Of(text)) && !Trimmed(text, {line.end, text.size()}).IsEmpty();
+    if (inARow >= kFewest || isHeading) return ExcerptAt(text, line.begin);
   }
   return {};
 }
@@ -92,7 +127,12 @@ std::u16string VisibleKey(const ReadQuestion& question) {
   for (const std::u16string& option : question.options) {
     if (found.empty()) found = LeftOver(option);
   }
-  if (question.kind != ReadKind::Choice) return found;
+  if (found.empty()) found = KeyLineBehind(question.text);
+  for (const std::u16string& option : question.options) {
+    if (found.empty()) found = KeyLineBehind(option);
+  }
+  if (question.kind != ReadKind::Choice)
+    return found.empty() && IsAnswerOfKey(question.text) ? ExcerptAt(question.text, 0) : found;
   if (found.empty()) found = KeyInBrackets(question);
   return found.empty() ? SignedOption(question) : found;
 }

@@ -537,6 +537,11 @@ constexpr int kWarnTwoAnswers = 1771;
 constexpr int kWarnNotRead = 1772;  // %1 is its beginning
 constexpr int kWarnTooManyQuestions = 1773;
 constexpr int kWarnKeyUnmatched = 1774;
+constexpr int kWarnKeyMiscounted = 1830;  // %2 letters for %3 questions; %1 is the key
+constexpr int kWarnKeyVersions = 1831;    // this and the following with the text as %1
+constexpr int kWarnKeyLeftOut = 1832;
+constexpr int kWarnKeyNotPlaced = 1833;
+constexpr int kWarnKeyExplanations = 1834;
 
 // What a part of a paper is.
 constexpr int kRoleNone = 1776;

@@ -335,7 +335,13 @@ constexpr std::u16string_view kCorrectWords[] = {
 constexpr std::u16string_view kAndWords[] = {
     u"and", u"und", u"et",  u"y",  u"e",  u"и",  u"і",   u"та",  u"i",  u"oraz", u"a",
     u"ve",  u"và",  u"dan", u"और", u"و",  u"ו",  u"και", u"และ", u"en", u"och",  u"og",
-    u"ja",  u"și",  u"és",  u"和", u"及", u"与", u"與",  u"と",  u"와", u"과",   u"or",
+    u"ja",  u"și",  u"és",  u"和", u"及", u"与", u"與",  u"と",  u"와", u"과",
+};
+
+constexpr std::u16string_view kOrWords[] = {
+    u"or",    u"oder", u"ou",   u"o",    u"или",   u"або",  u"чи",     u"lub",  u"albo", u"nebo",
+    u"alebo", u"veya", u"hoặc", u"atau", u"或",    u"或者", u"または", u"또는", u"या",   u"او",
+    u"או",    u"ή",    u"หรือ",  u"of",   u"eller", u"tai",  u"sau",    u"vagy", u"ili",
 };
 
 struct OrdinalRow {
@@ -377,30 +383,47 @@ std::u16string_view WithoutWord(std::u16string_view text) {
   return text.substr(size);
 }
 
-}  // namespace
-
-AnswerHeading AnswerHeadingOf(std::u16string_view line) {
-  constexpr std::size_t kLongestHeading = 80;
-  constexpr int kMostOtherWords = 5;
-  if (line.size() > kLongestHeading) return AnswerHeading::None;
-  const std::u16string folded = FoldedCore(line);
-  bool isHeading = false;
+/// The words of a line that may be a heading; none of a long one.
+struct HeadingCount {
+  int headings = 0;
+  int fillers = 0;
   int others = 0;
+};
+
+HeadingCount CountHeadingWords(std::u16string_view line) {
+  constexpr std::size_t kLongestHeading = 80;
+  HeadingCount count;
+  if (line.size() > kLongestHeading) return count;
+  const std::u16string folded = FoldedCore(line);
   for (std::u16string_view rest = folded; !rest.empty();) {
     if (!IsLetterOrDigit(rest.front())) {
       rest.remove_prefix(1);
     } else if (const std::size_t size = LongestWordAt(rest, kHeadingWords); size > 0) {
-      isHeading = true;
+      ++count.headings;
       rest.remove_prefix(size);
     } else if (const std::size_t filler = LongestWordAt(rest, kHeadingFillers); filler > 0) {
+      ++count.fillers;
       rest.remove_prefix(filler);
     } else {
-      ++others;
+      ++count.others;
       rest = WithoutWord(rest);
     }
   }
-  if (!isHeading || others > kMostOtherWords) return AnswerHeading::None;
-  return others == 0 ? AnswerHeading::Clear : AnswerHeading::Possible;
+  return count;
+}
+
+}  // namespace
+
+AnswerHeading AnswerHeadingOf(std::u16string_view line) {
+  constexpr int kMostOtherWords = 5;
+  const HeadingCount count = CountHeadingWords(line);
+  if (count.headings == 0 || count.others > kMostOtherWords) return AnswerHeading::None;
+  return count.others == 0 ? AnswerHeading::Clear : AnswerHeading::Possible;
+}
+
+bool IsBareAnswerHeading(std::u16string_view line) {
+  const HeadingCount count = CountHeadingWords(line);
+  return count.headings > 0 && count.others == 0 && count.fillers == 0;
 }
 
 bool IsPartTitle(std::u16string_view line) {
@@ -442,6 +465,10 @@ bool IsWordForCorrect(std::u16string_view text) {
 
 std::size_t AndWordSize(std::u16string_view text) {
   return LongestWordAt(Folded(text.substr(0, std::min<std::size_t>(text.size(), 8))), kAndWords);
+}
+
+std::size_t OrWordSize(std::u16string_view text) {
+  return LongestWordAt(Folded(text.substr(0, std::min<std::size_t>(text.size(), 8))), kOrWords);
 }
 
 int OrdinalIndex(std::u16string_view text) {

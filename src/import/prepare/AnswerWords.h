@@ -16,6 +16,9 @@ enum class AnswerHeading {
 
 AnswerHeading AnswerHeadingOf(std::u16string_view line);
 
+/// Whether a line consists of such words alone: "Answers", but not "Answer the questions".
+bool IsBareAnswerHeading(std::u16string_view line);
+
 /// Whether a line is, or begins with, the title of a part: "Part B", "二、填空题", "Section 2: essays".
 bool IsPartTitle(std::u16string_view line);
 
@@ -27,6 +30,9 @@ bool IsWordForCorrect(std::u16string_view text);
 
 /// The size of a word for "and" that the text begins with, 0 for none.
 std::size_t AndWordSize(std::u16string_view text);
+
+/// The same for "or".
+std::size_t OrWordSize(std::u16string_view text);
 
 /// The index that a word like "second" or "第二个" names, without words around it; -1 for none.
 int OrdinalIndex(std::u16string_view text);

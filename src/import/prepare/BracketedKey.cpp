@@ -75,7 +75,7 @@ std::vector<BracketedText> BracketedWithin(std::u16string_view text, TextSpan wi
 std::vector<std::size_t> OptionsNamedAlone(std::u16string_view letters, const OptionSequence& options) {
   std::vector<std::size_t> named;
   for (const char16_t unit : letters) {
-    if (IsBlank(unit) || IsAmong(unit, u",，、;；/&")) continue;
+    if (IsBlank(unit) || IsAmong(unit, u",，、;；&")) continue;
     const std::size_t index = OptionNamed(options, unit);
     if (index == options.labels.size() || std::ranges::find(named, index) != named.end()) return {};
     named.push_back(index);

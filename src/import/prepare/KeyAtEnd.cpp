@@ -53,27 +53,27 @@ void step::KeyAtEnd(PaperText& text, const PreparationContext& context) {
   ApplyEdits(text, std::move(edits));
 }
 
-std::vector<KeyConflict> KeyConflicts(const Paper& paper, const ImportSettings& rules,
-                                      const CancelHook& isCancelled) {
+KeyAtEndReport ReportKeyAtEnd(const Paper& paper, const ImportSettings& rules,
+                              const CancelHook& isCancelled) {
   const PaperText text = PreparedBefore(paper, rules, step_name::kKeyAtEnd, isCancelled);
-  const PaperOutline outline = OutlineOf(text, rules, isCancelled);
-  const std::optional<KeySection> section = FindKeySection(text.characters, outline).section;
-  std::vector<KeyConflict> conflicts;
-  if (!section) return conflicts;
-  for (const MatchedEntry& matched : section->entries) {
-    const OutlinedQuestion& question = section->questions[matched.question];
-    if (IsUnanswered(text.characters, question)) continue;
-    const std::u16string_view own = question.answer.Of(text.characters);
-    const std::u16string_view atEnd = matched.entry.answer.Of(text.characters);
-    if (SayTheSame(text.characters, question, own, atEnd)) continue;
-    conflicts.push_back({matched.question, question.number, std::u16string(own), std::u16string(atEnd)});
+  const std::u16string_view characters = text.characters;
+  const KeySearchResult found = FindKeySection(characters, OutlineOf(text, rules, isCancelled));
+  KeyAtEndReport report;
+  report.isUnmatched = found.isUnmatched;
+  report.isFound = found.section.has_value();
+  if (!found.section) return report;
+  for (const MatchedEntry& matched : found.section->entries) {
+    const OutlinedQuestion& question = found.section->questions[matched.question];
+    if (IsUnanswered(characters, question)) continue;
+    const std::u16string_view own = question.answer.Of(characters);
+    const std::u16string_view atEnd = matched.entry.answer.Of(characters);
+    if (SayTheSame(characters, question, own, atEnd)) continue;
+    report.conflicts.push_back(
+        {matched.question, question.number, std::u16string(own), std::u16string(atEnd)});
   }
-  return conflicts;
-}
-
-bool HasUnmatchedKey(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled) {
-  const PaperText text = PreparedBefore(paper, rules, step_name::kKeyAtEnd, isCancelled);
-  return FindKeySection(text.characters, OutlineOf(text, rules, isCancelled)).isUnmatched;
+  for (const KeyLeftover& leftover : found.section->leftovers)
+    report.leftovers.emplace_back(leftover, leftover.span.Of(characters));
+  return report;
 }
 
 }  // namespace quorvantis

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/prepare/KeyMatching.h"
 
+#include "import/prepare/KeyParts.h"
 #include "import/prepare/OptionKey.h"
 
 #include <algorithm>
@@ -36,33 +37,97 @@ std::vector<KeyEntry> ByNumber(std::vector<KeyEntry> entries) {
   return entries;
 }
 
+/// The titles of the parts of a key and of a paper.
+class KeyPartNames {
+ public:
+  KeyPartNames(std::u16string_view text, const KeyList& key, const std::vector<OutlinedQuestion>& questions)
+      : entries_(key.entries.size()), paper_(PartTitlesOf(text, questions)), questions_(questions.size()) {
+    for (std::size_t title = 0; title < key.titles.size(); ++title) {
+      const bool isLast = title + 1 == key.titles.size();
+      const std::size_t end = isLast ? entries_.size() : key.titles[title + 1].first;
+      const std::u16string_view written = key.titles[title].title.Of(text);
+      if (!IsTitleOfPart(written)) continue;
+      const PartName name = PartNameOf(written);
+      for (std::size_t i = key.titles[title].first; i < end; ++i) entries_[i] = name;
+    }
+    for (const PartTitle& title : paper_) questions_[title.question] = title.name;
+  }
+
+  /// The name of the part that an entry belongs to.
+  const PartName& OfEntry(std::size_t entry) const { return entries_[entry]; }
+
+  /// The name in front of a question, if there is one.
+  const PartName& OfQuestion(std::size_t question) const { return questions_[question]; }
+
+  /// Whether an answer has come to another part than that in whose part of the key it stands.
+  bool AnyMisplaced(const std::vector<KeyEntry>& entries, const std::vector<MatchedEntry>& matched) const {
+    if (paper_.empty()) return false;
+    return std::ranges::any_of(matched, [&](const MatchedEntry& one) {
+      const auto entry = std::ranges::lower_bound(entries, one.entry.begin, {}, &KeyEntry::begin);
+      return entry != entries.end() &&
+             IsInOtherPart(paper_, one.question, OfEntry(static_cast<std::size_t>(entry - entries.begin())));
+    });
+  }
+
+ private:
+  std::vector<PartName> entries_;
+  std::vector<PartTitle> paper_;
+  std::vector<PartName> questions_;
+};
+
 /// Runs of entries laid on runs of questions.
 class RunMatching {
  public:
   RunMatching(std::u16string_view text, const std::vector<KeyEntry>& entries,
-              const std::vector<OutlinedQuestion>& questions)
-      : text_(text), entries_(entries), questions_(questions) {}
+              const std::vector<OutlinedQuestion>& questions, const KeyPartNames& names)
+      : text_(text), entries_(entries), questions_(questions), names_(names) {}
 
   std::optional<std::vector<MatchedEntry>> Match() const {
     const std::vector<NumberedRun> keys = RisingRuns(entries_);
     const std::vector<NumberedRun> papers = RisingRuns(questions_);
     constexpr std::size_t kMostRuns = 60;
     if (keys.empty() || keys.size() > papers.size() || papers.size() > kMostRuns) return std::nullopt;
-    std::vector<std::size_t> first;
-    std::vector<std::size_t> last;
     const bool isSeveral = papers.size() > 1;
-    if (!Lay(keys, papers, isSeveral, first)) return std::nullopt;
-    // Laid from the other end, it comes to the same if there is only one way.
-    if (!LayFromEnd(keys, papers, isSeveral, last) || first != last) return std::nullopt;
+    std::vector<std::size_t> laid;
+    if (isSeveral) laid = LaidByNames(keys, papers);
+    if (laid.empty()) {
+      std::vector<std::size_t> last;
+      if (!Lay(keys, papers, isSeveral, laid)) return std::nullopt;
+      // Laid from the other end, it comes to the same if there is only one way.
+      if (!LayFromEnd(keys, papers, isSeveral, last) || laid != last) return std::nullopt;
+    }
     std::vector<MatchedEntry> matched;
     for (std::size_t i = 0; i < keys.size(); ++i) {
-      const std::vector<MatchedEntry> part = Common(keys[i], papers[first[i]]);
+      const std::vector<MatchedEntry> part = Common(keys[i], papers[laid[i]]);
       matched.insert(matched.end(), part.begin(), part.end());
     }
     return matched;
   }
 
  private:
+  /// The run of the paper for each of the key, if the titles of all say it; else none.
+  std::vector<std::size_t> LaidByNames(const std::vector<NumberedRun>& keys,
+                                       const std::vector<NumberedRun>& papers) const {
+    std::vector<std::size_t> laid;
+    for (const NumberedRun& key : keys) {
+      std::size_t found = papers.size();
+      for (std::size_t i = 0; i < papers.size(); ++i) {
+        if (AreSameParts(names_.OfEntry(key.begin), names_.OfQuestion(papers[i].begin)) != SameParts::Yes)
+          continue;
+        if (found < papers.size()) return {};
+        found = i;
+      }
+      const bool isTaken = std::ranges::find(laid, found) != laid.end();
+      if (found == papers.size() || isTaken || !FitsByName(key, papers[found])) return {};
+      laid.push_back(found);
+    }
+    return laid;
+  }
+
+  bool FitsByName(const NumberedRun& key, const NumberedRun& paper) const {
+    return Common(key, paper).size() == key.Size() && AreAmongOptions(Common(key, paper));
+  }
+
   bool Lay(const std::vector<NumberedRun>& keys, const std::vector<NumberedRun>& papers, bool isSeveral,
            std::vector<std::size_t>& laid) const {
     std::size_t next = 0;
@@ -92,12 +157,18 @@ class RunMatching {
     if (isSeveral) {
       const bool beginsAlike = entries_[key.begin].number == questions_[paper.begin].number;
       if (!beginsAlike || common.size() != key.Size() || common.size() * 2 < paper.Size()) return false;
+      const PartName& name = names_.OfEntry(key.begin);
+      if (AreSameParts(name, names_.OfQuestion(paper.begin)) == SameParts::No) return false;
     }
+    return AreAmongOptions(common);
+  }
+
+  bool AreAmongOptions(const std::vector<MatchedEntry>& common) const {
     std::size_t choices = 0;
     std::size_t fitting = 0;
     for (const MatchedEntry& entry : common) {
       const OutlinedQuestion& question = questions_[entry.question];
-      if (!question.HasOptions()) continue;
+      if (!question.HasOptions() || entry.entry.IsMiscounted()) continue;
       ++choices;
       if (FitsQuestion(text_, entry.entry, question)) ++fitting;
     }
@@ -118,6 +189,7 @@ class RunMatching {
   std::u16string_view text_;
   const std::vector<KeyEntry>& entries_;
   const std::vector<OutlinedQuestion>& questions_;
+  const KeyPartNames& names_;
 };
 
 /// By order: as many answers as choice questions.
@@ -139,19 +211,22 @@ std::optional<std::vector<MatchedEntry>> MatchByOrder(std::u16string_view text,
 }  // namespace
 
 bool FitsQuestion(std::u16string_view text, const KeyEntry& entry, const OutlinedQuestion& question) {
-  return !question.HasOptions() || ReadOptionKey(text, *question.options, entry.answer.Of(text)).IsClear();
+  return !question.HasOptions() || entry.IsMiscounted() ||
+         ReadOptionKey(text, *question.options, entry.answer.Of(text)).IsClear();
 }
 
-std::optional<std::vector<MatchedEntry>> MatchEntries(std::u16string_view text,
-                                                      const std::vector<KeyEntry>& entries,
+std::optional<std::vector<MatchedEntry>> MatchEntries(std::u16string_view text, const KeyList& key,
                                                       const std::vector<OutlinedQuestion>& questions) {
+  const std::vector<KeyEntry>& entries = key.entries;
   if (entries.empty() || questions.empty()) return std::nullopt;
   if (entries.front().number == 0) return MatchByOrder(text, entries, questions);
-  if (RisingRuns(questions).size() == 1) {
-    if (const std::vector<KeyEntry> sorted = ByNumber(entries); !sorted.empty())
-      return RunMatching(text, sorted, questions).Match();
-  }
-  return RunMatching(text, entries, questions).Match();
+  const KeyPartNames names(text, key, questions);
+  std::vector<KeyEntry> inOrder;
+  if (RisingRuns(questions).size() == 1) inOrder = ByNumber(entries);
+  if (inOrder.empty()) inOrder = entries;
+  auto matched = RunMatching(text, inOrder, questions, names).Match();
+  if (matched && names.AnyMisplaced(entries, *matched)) return std::nullopt;
+  return matched;
 }
 
 }  // namespace quorvantis

@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/labels/OptionAlphabets.h"
 #include "import/prepare/AnswerWords.h"
+#include "import/prepare/KeyVersions.h"
 
 #include <algorithm>
 
@@ -31,12 +32,12 @@ KeyNumber NumberInCell(std::u16string_view text, TextSpan cell) {
 }
 
 /// The answer within a span, without the comma before the next one.
-KeyEntry TextEntry(std::u16string_view text, int number, TextSpan span) {
+KeyEntry TextEntry(std::u16string_view text, const KeyNumber& number, TextSpan span) {
   TextSpan answer = Trimmed(text, span);
   while (!answer.IsEmpty() && std::u16string_view(u",;，；、").find(text[answer.end - 1]) != text.npos)
     --answer.end;
   const bool isLetters = !answer.IsEmpty() && KeyTokenSize(text, answer.begin, answer.end) == answer.Size();
-  return {number, answer, isLetters};
+  return {number.value, answer, isLetters, number.place.begin};
 }
 
 /// What stands before a number within a line.
@@ -84,7 +85,7 @@ class KeyListReading {
   KeyList List() {
     for (const TextSpan& line : LinesOf(text_, within_)) {
       Add(line);
-      if (list_.unread > kMostUnread + list_.entries.size()) break;
+      if (list_.unread.size() > kMostUnread + list_.entries.size()) break;
     }
     return std::move(list_);
   }
@@ -98,17 +99,33 @@ class KeyListReading {
     if (reading.kind == KeyLineKind::Text) entries = TextEntriesOfLine(text_, line);
     if (reading.kind == KeyLineKind::Title) entries = TitledEntriesOfLine(text_, Trimmed(text_, line));
     if (!entries.empty()) {
+      NoteTitle({line.begin, std::max(line.begin, entries.front().begin)});
       list_.entries.insert(list_.entries.end(), entries.begin(), entries.end());
       isOpen_ = true;
     } else if (reading.kind == KeyLineKind::Title) {
       isOpen_ = false;
+      NoteTitle(line);
     } else if (reading.kind == KeyLineKind::Text) {
+      // Behind letters, lines explain; behind a text, they go on with it.
       if (!isOpen_) {
-        ++list_.unread;
-      } else if (!list_.entries.back().isLetters) {
-        // Behind letters, lines explain; behind a text, they go on with it.
+        list_.unread.push_back(Trimmed(text_, line));
+      } else if (list_.entries.back().isLetters) {
+        list_.explanations.push_back(Trimmed(text_, line));
+      } else {
         list_.entries.back().answer.end = Trimmed(text_, line).end;
       }
+    }
+  }
+
+  /// Of several titles in front of the same answers the last one that names a part counts.
+  void NoteTitle(TextSpan title) {
+    const TextSpan trimmed = Trimmed(text_, title);
+    if (trimmed.IsEmpty()) return;
+    const bool isFurther = !list_.titles.empty() && list_.titles.back().first == list_.entries.size();
+    if (!isFurther) {
+      list_.titles.push_back({trimmed, list_.entries.size()});
+    } else if (IsPartTitle(trimmed.Of(text_))) {
+      list_.titles.back().title = trimmed;
     }
   }
 
@@ -133,7 +150,8 @@ KeyLineReading KeyLineReader::Read(TextSpan line) {
     return {KeyLineKind::Entries, std::move(entries)};
   if (ReadNumberRow(line)) return {KeyLineKind::NumberRow};
   const std::u16string_view title = trimmed.Of(text_);
-  const bool isTitle = IsPartTitle(title) || AnswerHeadingOf(title) == AnswerHeading::Clear;
+  const bool isTitle =
+      IsPartTitle(title) || HasVersionMark(title) || AnswerHeadingOf(title) == AnswerHeading::Clear;
   return {isTitle ? KeyLineKind::Title : KeyLineKind::Text};
 }
 
@@ -162,14 +180,27 @@ bool KeyLineReader::ReadNumberRow(TextSpan line) {
 std::vector<KeyEntry> KeyLineReader::AnswerRow(TextSpan line) const {
   std::vector<TextSpan> cells = CellsOf(text_, line, hasTabs_);
   const bool hasLabel = numbers_.front() == 0;
-  if (!hasTabs_ && cells.size() != numbers_.size()) return {};
-  if (cells.size() > numbers_.size()) return {};
+  if (cells.size() != numbers_.size()) return MiscountedRow(cells, line);
   std::vector<KeyEntry> entries;
   for (std::size_t i = hasLabel ? 1 : 0; i < cells.size(); ++i) {
     if (cells[i].IsEmpty()) continue;
     const bool isLetters = KeyTokenSize(text_, cells[i].begin, cells[i].end) == cells[i].Size();
     if (numbers_[i] == 0 || (!isLetters && !hasTabs_)) return {};
-    entries.push_back({numbers_[i], cells[i], isLetters});
+    entries.push_back({numbers_[i], cells[i], isLetters, line.begin});
+  }
+  return entries;
+}
+
+std::vector<KeyEntry> KeyLineReader::MiscountedRow(const std::vector<TextSpan>& cells, TextSpan line) const {
+  const bool hasLabel = numbers_.front() == 0;
+  std::vector<KeyEntry> entries;
+  for (std::size_t i = hasLabel ? 1 : 0; i < cells.size(); ++i) {
+    if (KeyTokenSize(text_, cells[i].begin, cells[i].end) != cells[i].Size()) return {};
+  }
+  const std::size_t asked = numbers_.size() - (hasLabel ? 1 : 0);
+  if (cells.size() * 2 < asked) return {};
+  for (const int number : numbers_) {
+    if (number > 0) entries.push_back({number, Trimmed(text_, line), true, line.begin, asked});
   }
   return entries;
 }
@@ -188,14 +219,14 @@ std::vector<KeyEntry> TextEntriesOfLine(std::u16string_view text, TextSpan line,
     const BeforeNumber before{std::u16string_view(u",;，；").find(text[at - 1]) != std::u16string_view::npos,
                               next > at + 1 || text[at] == u'\t'};
     if (following && GoesOn(*number, *following, before)) {
-      entries.push_back(TextEntry(text, number->value, {begin, at}));
+      entries.push_back(TextEntry(text, *number, {begin, at}));
       number = following;
       begin = following->place.end;
       at = begin;
     }
     at = std::max(at, next) - 1;
   }
-  entries.push_back(TextEntry(text, number->value, {begin, trimmed.end}));
+  entries.push_back(TextEntry(text, *number, {begin, trimmed.end}));
   // "Part 2: 10 points" is no key.
   if (!isSetOff && entries.size() < 2) return {};
   return entries;
@@ -219,7 +250,9 @@ std::vector<KeyEntry> ReadBareKey(std::u16string_view text, TextSpan within) {
       continue;
     const bool isDigit = unit < 0x80 && (unit < u'A' || unit > u'z');
     if (AlphabetLettersOf(unit).empty() || isDigit) return {};
-    entries.push_back({0, {at, at + 1}, true});
+    // "①B ②C" has numbers.
+    if (!entries.empty() && !ShareAlphabet(text[entries.front().begin], unit)) return {};
+    entries.push_back({0, {at, at + 1}, true, at});
   }
   return entries;
 }

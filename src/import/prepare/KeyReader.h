@@ -36,16 +36,26 @@ class KeyLineReader {
  private:
   bool ReadNumberRow(TextSpan line);
   std::vector<KeyEntry> AnswerRow(TextSpan line) const;
+  /// The entries of a row whose letters stand under no numbers.
+  std::vector<KeyEntry> MiscountedRow(const std::vector<TextSpan>& cells, TextSpan line) const;
 
   std::u16string_view text_;
   std::vector<int> numbers_;  ///< of a row, 0 for a cell without; empty if the line before was no such row
   bool hasTabs_ = false;
 };
 
+/// The title of a part of a key.
+struct KeyTitle {
+  TextSpan title;
+  std::size_t first = 0;  ///< the index of the entry behind it
+};
+
 /// All that a part of a paper says as a key.
 struct KeyList {
   std::vector<KeyEntry> entries{};
-  std::size_t unread = 0;  ///< lines that belong to no answer
+  std::vector<KeyTitle> titles{};
+  std::vector<TextSpan> unread{};        ///< lines that belong to no answer
+  std::vector<TextSpan> explanations{};  ///< lines behind answers in letters
 };
 
 /// Reads a key with answers in words, too: "11. photosynthesis". Lines without a number go on with the text

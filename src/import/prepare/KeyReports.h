@@ -2,11 +2,13 @@
 // What steps about keys have left alone because it was not clear, for those who tell the teacher.
 #pragma once
 
+#include "import/prepare/KeySection.h"
 #include "import/prepare/PreparationSteps.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quorvantis {
@@ -35,13 +37,15 @@ struct KeyConflict {
   std::u16string atEnd{};
 };
 
-/// The questions whose own answers KeyAtEnd has left although the key at the end says something else. Throws
-/// ImportFailure.
-std::vector<KeyConflict> KeyConflicts(const Paper& paper, const ImportSettings& rules,
-                                      const CancelHook& isCancelled);
+/// What KeyAtEnd does not give to questions.
+struct KeyAtEndReport {
+  bool isFound = false;      ///< answers at the end, which the step takes out of the paper
+  bool isUnmatched = false;  ///< there are answers at the end, but they stay: it is not clear whose they are
+  std::vector<KeyConflict> conflicts{};  ///< own answers that stay although the key says something else
+  std::vector<std::pair<KeyLeftover, std::u16string>> leftovers{};  ///< each with its text
+};
 
-/// Whether a paper has answers at its end that KeyAtEnd can't give to questions, because numbers occur twice
-/// or fit no question. Throws ImportFailure.
-bool HasUnmatchedKey(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled);
+/// Throws ImportFailure.
+KeyAtEndReport ReportKeyAtEnd(const Paper& paper, const ImportSettings& rules, const CancelHook& isCancelled);
 
 }  // namespace quorvantis

@@ -2,38 +2,21 @@
 #include "import/prepare/KeySection.h"
 
 #include "import/labels/LineText.h"
-#include "import/prepare/AnswerWords.h"
+#include "import/prepare/KeyHeadings.h"
+#include "import/prepare/KeyLeftovers.h"
 #include "import/prepare/KeyMatching.h"
 #include "import/prepare/KeyReader.h"
+#include "import/prepare/KeyVersions.h"
+#include "import/prepare/OptionKey.h"
+#include "import/prepare/QuestionKey.h"
+#include "import/prepare/RepeatedKey.h"
 
 #include <algorithm>
 
 namespace quorvantis {
 namespace {
 
-/// A heading that answers may follow.
-struct HeadingPlace {
-  std::size_t begin = 0;  ///< of its line
-  std::size_t end = 0;    ///< where the answers may begin
-  AnswerHeading heading = AnswerHeading::None;
-};
-
-/// The questions that begin before a place, as if the text ended there.
-std::vector<OutlinedQuestion> QuestionsBefore(std::u16string_view text, const PaperOutline& outline,
-                                              std::size_t end) {
-  std::vector<OutlinedQuestion> questions;
-  for (const OutlinedQuestion& outlined : outline.questions) {
-    if (outlined.label.begin >= end) break;
-    OutlinedQuestion& question = questions.emplace_back(outlined);
-    question.whole.end = std::min(question.whole.end, end);
-    if (question.answerLabel.end > end) question.answerLabel = {end, end};
-    if (question.answer.end > end)
-      question.answer = Trimmed(text, {std::min(question.answer.begin, end), end});
-    if (outlined.whole.end > end && outlined.HasOptions())
-      question.options = FindOptions(text, {question.label.end, std::min(end, question.answerLabel.begin)});
-  }
-  return questions;
-}
+using Leftover = KeyLeftover::Kind;
 
 /// Searches the headings from the top of a paper, then its tail.
 class KeySectionSearch {
@@ -43,107 +26,17 @@ class KeySectionSearch {
 
   KeySearchResult Search() {
     KeySearchResult result;
-    for (const HeadingPlace& heading : Headings()) {
+    for (const HeadingPlace& heading : FindKeyHeadings(text_, outline_)) {
       if ((result.section = SectionAt(heading))) return result;
+      if (isSurelyUnclear_) break;
     }
-    result.section = Tail();
+    if (!isSurelyUnclear_) result.section = Tail();
+    if (!isSurelyUnclear_ && !result.section) result.section = FindRepeatedKey(text_, outline_);
     result.isUnmatched = !result.section && hasSeenKey_;
     return result;
   }
 
  private:
-  std::vector<HeadingPlace> Headings() const {
-    constexpr std::size_t kMostHeadings = 12;
-    // Places to write answers on may look like headings: the last ones count as much as the first.
-    constexpr std::size_t kMostFirst = kMostHeadings / 2;
-    std::vector<HeadingPlace> headings;
-    if (!outline_.answerSection.IsEmpty()) {
-      const std::size_t begin = Trimmed(text_, outline_.answerSection).begin;
-      headings.push_back({begin, LineEndAfter(text_, begin), AnswerHeading::Clear});
-      headings.push_back({begin, begin, AnswerHeading::Clear});
-    }
-    if (outline_.questions.empty()) return headings;
-    for (std::size_t i = 0; i < lines_.size(); ++i) {
-      if (lines_[i].end <= outline_.questions.front().label.end) continue;
-      const HeadingPlace heading = HeadingOf(lines_[i]);
-      if (heading.heading == AnswerHeading::None || !IsKeyBehind(i, heading)) continue;
-      if (headings.size() == kMostHeadings) headings.erase(headings.begin() + kMostFirst);
-      headings.push_back(heading);
-    }
-    return headings;
-  }
-
-  /// A line that is a heading, or begins with one: "Answers: 1-5 ABCDA".
-  HeadingPlace HeadingOf(TextSpan line) const {
-    constexpr std::size_t kLongest = 80;
-    const TextSpan trimmed = Trimmed(text_, line);
-    const std::u16string_view whole = trimmed.Of(text_);
-    if (whole.size() <= kLongest) {
-      const AnswerHeading heading = AnswerHeadingOf(whole);
-      if (heading == AnswerHeading::Clear) return {trimmed.begin, trimmed.end, heading};
-      const bool isOwnAnswer = whole.find_first_of(u":：=") != whole.npos || HasOwnAnswer(trimmed);
-      if (heading == AnswerHeading::Possible && !isOwnAnswer && EntriesOfLine(text_, line).empty())
-        return {trimmed.begin, trimmed.end, heading};
-    }
-    const std::size_t colon = whole.substr(0, kLongest).find_first_of(u":： \u00A0\u3000\t1１");
-    if (colon == whole.npos) return {};
-    // The heading itself may have several words: "Answer key: 1. B".
-    const std::size_t words = std::max(colon, whole.substr(0, kLongest).find_first_of(u":："));
-    for (const std::size_t place : {colon, words == whole.npos ? colon : words}) {
-      if (AnswerHeadingOf(whole.substr(0, place)) != AnswerHeading::Clear) continue;
-      const std::size_t begin =
-          trimmed.begin + place + (whole[place] == u'1' || whole[place] == u'１' ? 0 : 1);
-      if (AreAnswers({begin, trimmed.end}) || IsOnlyBareKey(whole.substr(0, place), {begin, trimmed.end}))
-        return {trimmed.begin, begin, AnswerHeading::Clear};
-    }
-    return {};
-  }
-
-  bool AreAnswers(TextSpan line) const {
-    if (!EntriesOfLine(text_, line).empty()) return true;
-    return TextEntriesOfLine(text_, line, true).size() > 1;
-  }
-
-  /// Whether letters without numbers follow a label that no other line begins with: "Key: BACD". The other
-  /// lines would be answers of single questions.
-  bool IsOnlyBareKey(std::u16string_view label, TextSpan letters) const {
-    constexpr std::size_t kFewest = 3;
-    if (ReadBareKey(text_, letters).size() < kFewest || HasOwnAnswer(letters)) return false;
-    const auto hasLabel = [this, label](const TextSpan& line) {
-      return Trimmed(text_, line).Of(text_).starts_with(label);
-    };
-    const auto first = std::ranges::find_if(lines_, hasLabel);
-    return first != lines_.end() && std::find_if(first + 1, lines_.end(), hasLabel) == lines_.end();
-  }
-
-  /// Whether a rule has found a question's own answer in the line.
-  bool HasOwnAnswer(TextSpan line) const {
-    const auto after =
-        std::ranges::upper_bound(outline_.questions, line.begin, {},
-                                 [](const OutlinedQuestion& question) { return question.label.begin; });
-    return after != outline_.questions.begin() && std::prev(after)->answer.Overlaps(line);
-  }
-
-  /// Whether the first lines behind a heading look like a key; saves reading to the end each time.
-  bool IsKeyBehind(std::size_t line, const HeadingPlace& heading) const {
-    constexpr std::size_t kMostLines = 8;
-    if (heading.end < lines_[line].end && !Trimmed(text_, {heading.end, lines_[line].end}).IsEmpty())
-      return true;
-    constexpr std::size_t kLongestCaption = 30;
-    KeyLineReader reader(text_);
-    int captions = 2;  // of the columns of a table: "Question", "Answer"
-    for (std::size_t i = line + 1; i < std::min(lines_.size(), line + 1 + kMostLines); ++i) {
-      const KeyLineReading reading = reader.Read(lines_[i]);
-      if (!reading.entries.empty()) return true;
-      if (reading.kind != KeyLineKind::Text) continue;
-      const TextSpan trimmed = Trimmed(text_, lines_[i]);
-      const auto number = KeyNumberAt(text_, trimmed.begin, trimmed.end);
-      if ((number && number->isSetOff) || !ReadBareKey(text_, trimmed).empty()) return true;
-      if (captions-- == 0 || trimmed.Size() > kLongestCaption) return false;
-    }
-    return false;
-  }
-
   /// A line that says that the paper ends, "--- END ---", belongs to what follows.
   std::size_t BeginWithEndLine(std::size_t begin) const {
     const TextSpan before = Trimmed(text_, {0, begin});
@@ -157,23 +50,69 @@ class KeySectionSearch {
   }
 
   std::optional<KeySection> SectionAt(const HeadingPlace& heading) {
-    const TextSpan rest{heading.end, text_.size()};
-    const std::size_t begin = BeginWithEndLine(heading.begin);
-    KeySection section{begin, QuestionsBefore(text_, outline_, begin), {}};
-    std::vector<KeyEntry> entries = ReadBareKey(text_, rest);
-    if (entries.empty()) {
-      KeyList list = ReadKeyList(text_, rest);
-      if (list.unread > 3 + list.entries.size() / 2) return std::nullopt;
-      entries = std::move(list.entries);
-    }
-    if (entries.empty() || AreQuestions(entries)) return std::nullopt;
-    auto matched = MatchEntries(text_, entries, section.questions);
+    KeySection section = SectionFrom(BeginWithEndLine(heading.begin));
+    const VersionChoice version = VersionOf(section, {heading.begin, text_.size()});
+    const KeyList key = ReadKey({std::max(heading.end, version.part.begin), version.part.end});
+    const std::size_t entries = key.entries.size();
+    if (entries == 0 || key.unread.size() > 3 + entries / 2) return std::nullopt;
+    if (AreQuestions(key.entries) || AreBlanks(key.entries)) return std::nullopt;
+    if (version.isUnclear) return Refused(std::move(section), key, Leftover::Versions);
+    const auto matched = MatchEntries(text_, key, section.questions);
+    const bool isAllLetters = key.unread.empty() && std::ranges::all_of(key.entries, &KeyEntry::isLetters);
+    if (!matched && (heading.heading == AnswerHeading::Clear || isAllLetters))
+      return Refused(std::move(section), key, Leftover::Unmatched);
     if (!matched || !IsCredible(*matched, heading.heading)) {
-      hasSeenKey_ = hasSeenKey_ || std::ranges::all_of(entries, &KeyEntry::isLetters);
+      hasSeenKey_ = hasSeenKey_ || std::ranges::all_of(key.entries, &KeyEntry::isLetters);
       return std::nullopt;
     }
-    section.entries = std::move(*matched);
+    if (IsSheetToFill(*matched, section.questions)) return std::nullopt;
+    Accept(section, key, *matched);
     return section;
+  }
+
+  KeySection SectionFrom(std::size_t begin) const {
+    return {begin, QuestionsBefore(text_, outline_, begin), {}, {}};
+  }
+
+  VersionChoice VersionOf(const KeySection& section, TextSpan key) const {
+    return ChooseVersion(text_, outline_.front, {outline_.front.end, section.begin}, key);
+  }
+
+  KeyList ReadKey(TextSpan part) const {
+    KeyList bare{ReadBareKey(text_, part)};
+    return bare.entries.empty() ? ReadKeyList(text_, part) : bare;
+  }
+
+  /// What is a key without doubt, but belongs to no questions, goes, so that pupils don't see it.
+  std::optional<KeySection> Refused(KeySection section, const KeyList& key, Leftover kind) {
+    const auto letters = std::ranges::count_if(key.entries, &KeyEntry::isLetters);
+    hasSeenKey_ = hasSeenKey_ || letters == std::ssize(key.entries) || kind == Leftover::Versions;
+    const bool isBare = key.entries.front().number == 0;
+    const auto choices =
+        static_cast<std::size_t>(std::ranges::count_if(section.questions, &OutlinedQuestion::HasOptions));
+    constexpr std::size_t kFewest = 2;
+    const bool isSure = key.entries.size() >= kFewest && letters * 5 >= std::ssize(key.entries) * 4 &&
+                        key.unread.size() * 4 <= key.entries.size();
+    // A few letters without numbers can be the answer of one question.
+    const bool isCounted = !isBare || (choices >= kFewest && key.entries.size() * 2 > choices &&
+                                       key.entries.size() < choices * 2);
+    isSurelyUnclear_ = isSurelyUnclear_ || isSure || kind == Leftover::Versions;
+    if (!isSure || !isCounted) return std::nullopt;
+    const TextSpan whole = Trimmed(text_, {section.begin, text_.size()});
+    if (isBare && kind == Leftover::Unmatched && key.entries.size() != choices) {
+      section.leftovers = {{Leftover::Miscounted, whole, key.entries.size(), choices}};
+    } else {
+      section.leftovers = {{kind, whole}};
+    }
+    return section;
+  }
+
+  void Accept(KeySection& section, const KeyList& key, const std::vector<MatchedEntry>& matched) const {
+    for (const MatchedEntry& entry : matched) {
+      const bool isAnswer = !entry.entry.IsMiscounted() && !IsBlankToFill(text_, entry.entry.answer);
+      if (isAnswer) section.entries.push_back(entry);
+    }
+    section.leftovers = LeftoversOf(text_, key, matched);
   }
 
   /// Behind "Answers to these questions" questions may follow.
@@ -184,6 +123,28 @@ class KeySectionSearch {
              std::u16string_view(u"?？؟_:：…").find(answer.back()) != std::u16string_view::npos;
     };
     return std::ranges::count_if(entries, isQuestion) * 3 > std::ssize(entries);
+  }
+
+  /// "1. ____" is for pupils to write on.
+  bool AreBlanks(const std::vector<KeyEntry>& entries) const {
+    const auto isBlank = [this](const KeyEntry& entry) { return IsBlankToFill(text_, entry.answer); };
+    return std::ranges::count_if(entries, isBlank) * 2 > std::ssize(entries);
+  }
+
+  /// "1. A B C D" at all questions is for pupils to mark.
+  bool IsSheetToFill(const std::vector<MatchedEntry>& entries,
+                     const std::vector<OutlinedQuestion>& questions) const {
+    constexpr std::size_t kFewestOptions = 3;
+    std::size_t choices = 0;
+    std::size_t whole = 0;
+    for (const MatchedEntry& entry : entries) {
+      const auto& options = questions[entry.question].options;
+      if (!options || entry.entry.IsMiscounted()) continue;
+      ++choices;
+      const std::size_t named = ReadOptionKey(text_, *options, entry.entry.answer.Of(text_)).options.size();
+      whole += named >= kFewestOptions && named == options->labels.size() ? 1 : 0;
+    }
+    return whole > 1 && whole * 2 > choices;
   }
 
   /// Answers in words need a clear heading, for they may be questions of another part.
@@ -199,18 +160,20 @@ class KeySectionSearch {
     KeyLineReader reader(text_);
     for (const TextSpan& line : lines_) readings.push_back(reader.Read(line));
     const std::size_t first = FirstOfTail(readings);
-    KeySection section;
-    std::vector<KeyEntry> entries;
-    for (std::size_t i = first; i < readings.size(); ++i) {
-      if (!readings[i].entries.empty() && entries.empty())
-        section.begin = lines_[BeginOfTail(readings, first, i)].begin;
-      entries.insert(entries.end(), readings[i].entries.begin(), readings[i].entries.end());
+    std::size_t begin = first;
+    while (begin < readings.size() && readings[begin].entries.empty()) ++begin;
+    if (begin == readings.size()) return std::nullopt;
+    KeySection section = SectionFrom(lines_[BeginOfTail(readings, first, begin)].begin);
+    const VersionChoice version = VersionOf(section, {section.begin, text_.size()});
+    const KeyList key = ReadKeyList(text_, version.part);
+    if (key.entries.size() < 2) return std::nullopt;
+    if (version.isUnclear) return Refused(std::move(section), key, Leftover::Versions);
+    const auto matched = MatchEntries(text_, key, section.questions);
+    if (!matched || !IsCompleteKey(*matched, key.entries.size(), section.questions)) {
+      hasSeenKey_ = hasSeenKey_ || !matched;
+      return std::nullopt;
     }
-    if (entries.size() < 2) return std::nullopt;
-    section.questions = QuestionsBefore(text_, outline_, section.begin);
-    auto matched = MatchEntries(text_, entries, section.questions);
-    if (!matched || !IsCompleteKey(*matched, entries.size(), section.questions)) return std::nullopt;
-    section.entries = std::move(*matched);
+    Accept(section, key, *matched);
     return section;
   }
 
@@ -253,10 +216,27 @@ class KeySectionSearch {
   std::u16string_view text_;
   const PaperOutline& outline_;
   std::vector<TextSpan> lines_;
-  bool hasSeenKey_ = false;
+  bool hasSeenKey_ = false;       ///< letters that came to no questions
+  bool isSurelyUnclear_ = false;  ///< a key was seen that no part of it may be taken from
 };
 
 }  // namespace
+
+std::vector<OutlinedQuestion> QuestionsBefore(std::u16string_view text, const PaperOutline& outline,
+                                              std::size_t end) {
+  std::vector<OutlinedQuestion> questions;
+  for (const OutlinedQuestion& outlined : outline.questions) {
+    if (outlined.label.begin >= end) break;
+    OutlinedQuestion& question = questions.emplace_back(outlined);
+    question.whole.end = std::min(question.whole.end, end);
+    if (question.answerLabel.end > end) question.answerLabel = {end, end};
+    if (question.answer.end > end)
+      question.answer = Trimmed(text, {std::min(question.answer.begin, end), end});
+    if (outlined.whole.end > end && outlined.HasOptions())
+      question.options = FindOptions(text, {question.label.end, std::min(end, question.answerLabel.begin)});
+  }
+  return questions;
+}
 
 KeySearchResult FindKeySection(std::u16string_view text, const PaperOutline& outline) {
   return KeySectionSearch(text, outline).Search();

@@ -6,6 +6,7 @@
 #include "import/prepare/AnswerWords.h"
 #include "import/prepare/FoldedText.h"
 #include "import/prepare/JudgementWords.h"
+#include "import/prepare/KeyVersions.h"
 
 #include <algorithm>
 
@@ -78,15 +79,6 @@ bool IsDigitLetter(char16_t unit) {
          (unit >= 0x06F0 && unit <= 0x06F9);
 }
 
-bool ShareAlphabet(char16_t one, char16_t other) {
-  for (const AlphabetLetter& letter : AlphabetLettersOf(one)) {
-    for (const AlphabetLetter& second : AlphabetLettersOf(other)) {
-      if (letter.alphabet == second.alphabet) return true;
-    }
-  }
-  return false;
-}
-
 /// Reads a line of numbers and answers from left to right.
 class KeyLine {
  public:
@@ -149,8 +141,22 @@ class KeyLine {
       at = end;
       if (isDigits && UnitCount(groups) == count) break;
     }
-    if (!AddGroups(groups, first, count)) return false;
+    if (!AddGroups(groups, first, count) && (isDigits || !AddMiscounted(groups, first, count))) return false;
     at_ = at;
+    return true;
+  }
+
+  /// "1-6 ABCA": nobody knows which letter is missing.
+  bool AddMiscounted(const std::vector<TextSpan>& groups, int first, std::size_t count) {
+    const std::size_t units = UnitCount(groups);
+    if (units < 2 || units * 2 < count || units > count * 2) return false;
+    const TextSpan body{groups.front().begin, groups.back().end};
+    for (const TextSpan& group : groups) {
+      for (std::size_t at = group.begin; at < group.end; ++at) {
+        if (!ShareAlphabet(text_[at], text_[body.begin])) return false;
+      }
+    }
+    for (std::size_t i = 0; i < count; ++i) entries_.push_back({first++, body, true, at_, count});
     return true;
   }
 
@@ -173,7 +179,7 @@ class KeyLine {
     for (const TextSpan& answer : answers) {
       if (KeyTokenSize(text_.substr(0, answer.end), answer.begin, answer.end) != answer.Size()) return false;
     }
-    for (const TextSpan& answer : answers) entries_.push_back({first++, answer, true});
+    for (const TextSpan& answer : answers) entries_.push_back({first++, answer, true, at_});
     return true;
   }
 
@@ -187,7 +193,7 @@ class KeyLine {
     std::size_t end = begin + KeyTokenSize(text_, begin, text_.size());
     if (end == begin || (IsDigitLetter(text_[begin]) && !CanBeDigitKey(*number, end))) return false;
     for (std::size_t next = JoinedEnd(end); next > end; next = JoinedEnd(end)) end = next;
-    entries_.push_back({number->value, {begin, end}, true});
+    entries_.push_back({number->value, {begin, end}, true, at_});
     at_ = end;
     while (at_ < text_.size() && (IsBlank(text_[at_]) || Among(kTokenCloses, text_[at_]))) ++at_;
     return true;
@@ -203,7 +209,8 @@ class KeyLine {
     std::size_t at = SkipBlanks(text_, end, text_.size());
     if (at >= text_.size() || IsDigitLetter(text_[end - 1])) return end;
     const bool isMark = Among(u",，、/&+", text_[at]);
-    const std::size_t joiner = isMark ? 1 : AndWordSize(text_.substr(at));
+    const std::size_t joiner =
+        isMark ? 1 : std::max(AndWordSize(text_.substr(at)), OrWordSize(text_.substr(at)));
     if (joiner == 0 || (!isMark && at == end)) return end;
     at = SkipBlanks(text_, at + joiner, text_.size());
     if (at >= text_.size() || IsDigitLetter(text_[at])) return end;
@@ -265,6 +272,20 @@ std::size_t KeyTokenSize(std::u16string_view text, std::size_t place, std::size_
   return words.empty() ? 0 : words.front().size;
 }
 
+bool ShareAlphabet(char16_t one, char16_t other) {
+  for (const AlphabetLetter& letter : AlphabetLettersOf(one)) {
+    for (const AlphabetLetter& second : AlphabetLettersOf(other)) {
+      if (letter.alphabet == second.alphabet) return true;
+    }
+  }
+  return false;
+}
+
+std::size_t KeyLetterCount(std::u16string_view letters) {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(letters, [](char16_t unit) { return !AlphabetLettersOf(unit).empty(); }));
+}
+
 std::vector<KeyEntry> EntriesOfLine(std::u16string_view text, TextSpan line) {
   constexpr std::size_t kLongestTitleBefore = 60;
   constexpr int kMostAttempts = 3;
@@ -278,8 +299,8 @@ std::vector<KeyEntry> EntriesOfLine(std::u16string_view text, TextSpan line) {
     while (from < trimmed.end && PlainNumeralAt(text, from).size == 0) ++from;
     if (from >= trimmed.end || from - trimmed.begin > kLongestTitleBefore) return {};
     const std::u16string_view title = text.substr(trimmed.begin, from - trimmed.begin);
-    if (!IsPartTitle(title) && AnswerHeadingOf(title) == AnswerHeading::None && title.back() != u':' &&
-        title.back() != u'：')
+    if (!IsPartTitle(title) && !HasVersionMark(title) && AnswerHeadingOf(title) == AnswerHeading::None &&
+        title.back() != u':' && title.back() != u'：')
       return {};
   }
   return {};

@@ -17,6 +17,12 @@ struct KeyEntry {
   int number = 0;  ///< of its question; 0 in a key without numbers
   TextSpan answer;
   bool isLetters = false;  ///< letters of options or a judgement; else a text
+  std::size_t begin = 0;   ///< of its number, or of the answer where that stands elsewhere
+  /// Of a range or row whose letters are too few or too many: how many questions it is for. Each of them gets
+  /// such an entry, with all letters as the answer. 0 for all other entries.
+  std::size_t asked = 0;
+
+  bool IsMiscounted() const { return asked > 0; }
 };
 
 /// A number of a question with what belongs to it: "12.", "(12)", "Q12:", "第12题".
@@ -32,6 +38,12 @@ std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place
 
 /// The size of the letters, the digit or the judgement that begins at `place`; 0 if there is none.
 std::size_t KeyTokenSize(std::u16string_view text, std::size_t place, std::size_t end);
+
+/// Whether two units can be letters of the same options.
+bool ShareAlphabet(char16_t one, char16_t other);
+
+/// How many letters of options a text has.
+std::size_t KeyLetterCount(std::u16string_view letters);
 
 /// The answers of a line that consists of nothing but numbers with answers, or of ranges: "1. B 2. C",
 /// "1-5 ABCDA 6-10 BBDAC". A title may precede them. Nothing if there is anything else.

@@ -104,7 +104,7 @@ class KeyLetterScan {
     const bool isAlone = run.size() == 1;
     const std::size_t after = SkipBlanks(answer_, end, answer_.size());
     const bool isBeforeWord = after > end && !IsEnd(after) && IsLetterOrDigit(answer_[after]) &&
-                              !IsJoined(after) && !IsTokenAt(after);
+                              !IsJoined(after) && !IsAlternative(after) && !IsTokenAt(after);
     const bool mayBeWord = isAlone ? MayBeWord(answer_[at_]) : !std::ranges::is_sorted(run);
     if (isBeforeWord && mayBeWord && !IsTextOf(run.front(), after)) {
       if (isFirst) return false;
@@ -142,6 +142,16 @@ class KeyLetterScan {
     return size == 1 && IsOneOf(Folded(answer_[at]), u"abcdefghij") && !leads ? 0 : size;
   }
 
+  /// "or C", "/ C": that may be one of two right answers, or both.
+  bool IsAlternative(std::size_t at) const {
+    if (IsEnd(at)) return false;
+    const std::size_t size = IsOneOf(answer_[at], u"/／|") ? 1 : OrWordSize(answer_.substr(at));
+    if (size == 0) return false;
+    const std::size_t next = SkipBlanks(answer_, at + size, answer_.size());
+    OptionIndices run;
+    return KeyLetterScan(options_, texts_, answer_.substr(next), latinLetters_).ReadRun(run) > 0;
+  }
+
   /// Whether the rest, from `at` on, is or begins with the text of that option.
   bool IsTextOf(std::size_t option, std::size_t at) const {
     const std::u16string rest = FoldedCore(answer_.substr(std::min(at, answer_.size())));
@@ -153,13 +163,18 @@ class KeyLetterScan {
     const std::size_t back = at_;
     std::size_t at = SkipBlanks(answer_, at_, answer_.size());
     wasJoined_ = false;
+    if (IsAlternative(at)) {
+      isUnsure_ = true;
+      return false;
+    }
     bool isRange = false;
+    const bool isDash = IsOneOf(UnitAt(at), u"-–—") && at < answer_.size();
     if (IsOneOf(UnitAt(at), u",，、;；/&+|") && at < answer_.size()) {
       wasJoined_ = true;
       ++at;
       const std::size_t word = SkipBlanks(answer_, at, answer_.size());
       if (word < answer_.size()) at = word + AndSize(word);
-    } else if (IsOneOf(UnitAt(at), u"-–—~～至") && at < answer_.size()) {
+    } else if (isDash || (IsOneOf(UnitAt(at), u"~～至") && at < answer_.size())) {
       isRange = true;
       ++at;
     } else if (AndSize(at) > 0) {
@@ -172,6 +187,8 @@ class KeyLetterScan {
     while (IsOneOf(UnitAt(at_), u"([（【") && at_ < answer_.size()) ++at_;
     const std::size_t before = found_.size();
     if (TakeListed(isRange)) {
+      // "A-C" may be A to C, or A and C.
+      isUnsure_ = isUnsure_ || (isDash && found_.back() > found_[before - 1] + 1);
       if (isRange) FillRange(before);
       return true;
     }
@@ -196,7 +213,7 @@ class KeyLetterScan {
   bool HasWordBehind(std::size_t end) const {
     const std::size_t after = SkipBlanks(answer_, end, answer_.size());
     return after > end && !IsEnd(after) && IsLetterOrDigit(answer_[after]) && !IsJoined(after) &&
-           !IsTokenAt(after);
+           !IsAlternative(after) && !IsTokenAt(after);
   }
 
   bool IsLoneLetter(std::size_t at) const {

@@ -16,9 +16,9 @@ struct OptionKey {
   bool IsClear() const { return !options.empty(); }
 };
 
-/// Reads an answer: letters ("B", "b)", "B and D", "A-C", "Option B"), numbers, ordinals, or the text of an
+/// Reads an answer: letters ("B", "b)", "B and D", "A~C", "Option B"), numbers, ordinals, or the text of an
 /// option, with or without an explanation behind. What can be read in two ways that differ, or names an
-/// option that there is not, is not clear. `latinLetters`: see OptionNamed.
+/// option that there is not, is not clear: "A or C", "A-C". `latinLetters`: see OptionNamed.
 OptionKey ReadOptionKey(std::u16string_view text, const OptionSequence& options, std::u16string_view answer,
                         bool latinLetters = false);
 
