@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
 #include "import/labels/Numerals.h"
+#include "import/prepare/BlankPlaces.h"
 #include "import/prepare/BracketedKey.h"
 #include "import/prepare/JudgementWords.h"
 #include "import/prepare/OptionKey.h"
@@ -76,13 +77,17 @@ class StemKeySearch {
   /// The only pair in the stem that holds letters; an empty one beside it is the blank that is meant.
   std::optional<StemKey> InStem() const {
     std::optional<StemKey> found;
+    bool isBlank = false;
     for (const BracketedText& pair : BracketedWithin(text_, question_.stem)) {
       if (pair.inner.IsEmpty()) return std::nullopt;
+      // "(A) or (B)" asks for one of them; "vitamin (C)" is a name.
       const auto options = OptionsNamedAlone(pair.inner.Of(text_), *question_.options);
       if (options.empty()) continue;
       if (found) return std::nullopt;
       found = KeyOf(StemKeyPlace::InStem, pair, options);
+      isBlank = StandsAsBlank(text_, question_.stem, pair);
     }
+    if (!isBlank) return std::nullopt;
     return found;
   }
 
@@ -163,8 +168,12 @@ class StemKeyHabits {
     std::array<StemKeyCount, kStemKeyPlaces> found{};
     std::size_t choices = 0;
     std::size_t others = 0;
+    std::size_t answered = 0;
     for (const OutlinedQuestion& question : outline.questions) {
-      if (!IsUnanswered(text, question)) continue;
+      if (!IsUnanswered(text, question)) {
+        answered += question.HasOptions() ? 1 : 0;
+        continue;
+      }
       ++(question.HasOptions() ? choices : others);
       for (std::size_t place = 0; place < kStemKeyPlaces; ++place) {
         if (const auto key = StemKeySearch(text, question).Find(static_cast<StemKeyPlace>(place)))
@@ -173,6 +182,9 @@ class StemKeyHabits {
     }
     for (std::size_t place = 0; place < kStemKeyPlaces; ++place)
       isHabit_[place] = IsHabit(static_cast<StemKeyPlace>(place), found[place], choices, others);
+    // In a paper that gives its keys in another way, letters in brackets are text.
+    constexpr auto kInStem = static_cast<std::size_t>(StemKeyPlace::InStem);
+    if (answered > found[kInStem].keys) isHabit_[kInStem] = false;
   }
 
   std::optional<StemKey> KeyOf(std::u16string_view text, const OutlinedQuestion& question) const {
@@ -195,6 +207,8 @@ class StemKeyHabits {
       case StemKeyPlace::JudgementAtEnd:
         // Statements may end in such a word; they do not all.
         return count.keys > 1 && count.keys * 5 >= others * 3 && count.hasRight && count.hasWrong;
+      case StemKeyPlace::InStem:
+        return IsOften(count.keys, choices, choices / 2);
       default:
         return IsOften(count.keys, choices, choices * 2 / 5);
     }

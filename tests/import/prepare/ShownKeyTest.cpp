@@ -87,6 +87,12 @@ constexpr StemCase kStems[] = {
      u"1. Vitamin (C) is?\nA. a\nB. b\nC. c\n2. Two?\nA. a\nB. b\n3. Three?\nA. a\nB. b\n4. It?\nA. a\nB. "
      u"b\n",
      u""},
+    {"names in most stems",
+     u"1. Vitamin (C) is?\nA. a\nB. b\nC. c\n2. Who has hepatitis (B)?\nA. a\nB. b\nC. c\n"
+     u"3. A grade (A) egg\nA. a\nB. b\nC. c\n",
+     u""},
+    {"other answers",
+     u"1. It is ( A ).\nA. a\nB. b\n2. Two?\nA. a\nB. b\nAnswer: B\n3. Three?\nA. a\nB. b\nAnswer: B\n", u""},
     {"no option", u"1. It is (E).\nA. a\nB. b\n2. It is (F).\nA. a\nB. b\n", u""},
     {"two", u"1. (A) or (B)?\nA. a\nB. b\n2. (A) or (B)?\nA. a\nB. b\n", u""},
     {"a blank beside", u"1. (A) is ( ).\nA. a\nB. b\n2. (B) is ( ).\nA. a\nB. b\n", u""},
