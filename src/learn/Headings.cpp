@@ -169,7 +169,7 @@ std::u16string HeadingPattern(std::u16string_view line) {
   if (const std::size_t word = SectionWord(line); word > 0)
     return u"(?i:" + LiteralPattern(line.substr(0, word)) + u")(?![a-z])" + std::u16string(kRest);
   if (const auto label = SectionNumber(line)) {
-    std::u16string pattern(NumeralPattern(label->kind));
+    std::u16string pattern = NumeralPattern(label->kind);
     if (label->open != 0) pattern = LiteralPattern(std::u16string(1, label->open)) + pattern;
     return pattern + LiteralPattern(label->close) + std::u16string(kRest);
   }

@@ -6,6 +6,7 @@
 #include "text/AsciiCase.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <tuple>
 
@@ -30,8 +31,10 @@ bool IsLetter(char16_t unit) {
 /// Reads the labels of one line.
 class LabelReading {
  public:
-  LabelReading(std::u16string_view text, TextSpan line)
-      : text_(text.substr(0, line.end)), begin_(SkipBlanks(text, line.begin, line.end)) {}
+  LabelReading(std::u16string_view text, TextSpan line, std::size_t mostDigits)
+      : text_(text.substr(0, line.end)),
+        mostDigits_(mostDigits),
+        begin_(SkipBlanks(text, line.begin, line.end)) {}
 
   std::vector<NumberLabel> Labels() {
     const std::size_t lineBegin = begin_;
@@ -82,7 +85,7 @@ class LabelReading {
 
   bool IsNumberHere(std::size_t at) const {
     if (at < text_.size() && Holds(kOpens, text_[at])) ++at;
-    const std::vector<Numeral> numerals = NumeralsAt(text_, at);
+    const std::vector<Numeral> numerals = NumeralsAt(text_, at, mostDigits_);
     return std::ranges::any_of(numerals, [&](const Numeral& numeral) {
       const bool isRoman = numeral.kind == NumeralKind::UpperRoman || numeral.kind == NumeralKind::LowerRoman;
       const std::size_t end = at + numeral.size;
@@ -99,7 +102,7 @@ class LabelReading {
 
   /// Numbers of letters, as "II", need a blank before them.
   bool IsDigitHere(std::size_t at) const {
-    const std::vector<Numeral> numerals = NumeralsAt(text_, at);
+    const std::vector<Numeral> numerals = NumeralsAt(text_, at, mostDigits_);
     return std::ranges::any_of(numerals, [](const Numeral& numeral) { return IsDecimal(numeral.kind); });
   }
 
@@ -110,7 +113,8 @@ class LabelReading {
     std::size_t place = at;
     if (place < text_.size() && Holds(kOpens, text_[place])) label.open = text_[place++];
     place = SkipBlanks(text_, place, text_.size());
-    for (const Numeral& numeral : NumeralsAt(text_, place)) Add(label, numeral, place + numeral.size);
+    for (const Numeral& numeral : NumeralsAt(text_, place, mostDigits_))
+      Add(label, numeral, place + numeral.size);
   }
 
   void Add(NumberLabel label, const Numeral& numeral, std::size_t end) {
@@ -145,10 +149,16 @@ class LabelReading {
   static bool IsDigitUnit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 
   std::u16string_view text_;
+  std::size_t mostDigits_;
   std::size_t begin_;
   bool isAfterKey_ = false;
   std::vector<NumberLabel> labels_;
 };
+
+bool IsBeyondUsual(const NumberLabel& label) {
+  constexpr int kLargestUsual = 999;
+  return label.value > kLargestUsual;
+}
 
 using FamilyKey = std::tuple<std::u16string, bool, NumeralKind, bool>;
 
@@ -156,6 +166,41 @@ FamilyKey KeyOf(const NumberLabel& label) {
   std::u16string prefix = AsciiLower(label.prefix);
   std::erase_if(prefix, IsBlank);
   return {prefix, label.open != 0, label.kind, label.isSpaced};
+}
+
+/// Whether numbers beyond three digits are those of questions: one follows on the other, behind many others.
+bool CountsToThousands(const std::vector<NumberLabel>& labels) {
+  constexpr std::ptrdiff_t kManyOthers = 200;
+  constexpr std::size_t kFewest = 3;
+  std::size_t beyond = 0;
+  std::size_t following = 0;
+  for (std::size_t i = 1; i < labels.size(); ++i) {
+    if (!IsBeyondUsual(labels[i])) continue;
+    ++beyond;
+    following += labels[i].value == labels[i - 1].value + 1 ? 1 : 0;
+  }
+  return following >= kFewest && following * 5 >= beyond * 4 &&
+         std::ranges::count_if(labels, std::not_fn(IsBeyondUsual)) >= kManyOthers;
+}
+
+/// A family of labels that are written alike, without those that are no numbers of questions, as years are.
+NumberFamily FamilyOf(std::vector<NumberLabel> labels) {
+  NumberFamily family;
+  if (CountsToThousands(labels))
+    family.mostDigits = kLongNumberDigits;
+  else
+    std::erase_if(labels, IsBeyondUsual);
+  for (const NumberLabel& label : labels) {
+    family.prefix = label.prefix;
+    family.isBracketed = label.open != 0;
+    if (label.open != 0) family.opens.insert(label.open);
+    family.kind = label.kind;
+    family.isSpaced = label.isSpaced;
+    family.isAfterKeys = family.isAfterKeys || label.isAfterKey;
+    family.closes.insert(label.close);
+  }
+  family.labels = std::move(labels);
+  return family;
 }
 
 /// How well the numbers follow each other.
@@ -198,28 +243,21 @@ double LikelinessOfNumbers(const NumberFamily& family) {
 }  // namespace
 
 std::vector<NumberLabel> NumberLabelsAt(std::u16string_view text, TextSpan line) {
-  return LabelReading(text, line).Labels();
+  return LabelReading(text, line, kUsualDigits).Labels();
 }
 
 std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
-  std::map<FamilyKey, NumberFamily> families;
+  std::map<FamilyKey, std::vector<NumberLabel>> styles;
   constexpr std::size_t kFewLines = 12;
   const std::vector<TextSpan> lines = LinesOf(text, {0, text.size()});
   for (const TextSpan& line : lines) {
-    for (NumberLabel& label : LabelReading(text, line).Labels()) {
-      NumberFamily& family = families[KeyOf(label)];
-      family.prefix = label.prefix;
-      family.isBracketed = label.open != 0;
-      if (label.open != 0) family.opens.insert(label.open);
-      family.kind = label.kind;
-      family.isSpaced = label.isSpaced;
-      family.isAfterKeys = family.isAfterKeys || label.isAfterKey;
-      family.closes.insert(label.close);
-      family.labels.push_back(std::move(label));
-    }
+    for (NumberLabel& label : LabelReading(text, line, kLongNumberDigits).Labels())
+      styles[KeyOf(label)].push_back(std::move(label));
   }
   std::vector<NumberFamily> found;
-  for (auto& [key, family] : families) {
+  for (auto& [key, labels] : styles) {
+    NumberFamily family = FamilyOf(std::move(labels));
+    if (family.labels.empty()) continue;
     if (family.closes.size() > 1) AddByCloses(family, found);
     Judge(family);
     const bool isOnly = family.labels.front().value == 1 && lines.size() <= kFewLines;
@@ -236,7 +274,7 @@ std::u16string NumberFamily::Pattern() const {
     pattern += u"(?:(?:[(（\\[][^()（）\\[\\]\\r\\n]{0,3}[)）\\]]|_{2,}[A-Za-z]?_*)[ \\t\u3000]*)?";
   if (!prefix.empty()) pattern += u"(?i:" + LiteralPattern(prefix) + u")[ \\t\u00A0\u3000]*";
   if (isBracketed) pattern += ClassPattern(opens) + u"[ \\t\u3000]*";
-  pattern += NumeralPattern(kind);
+  pattern += NumeralPattern(kind, mostDigits);
   if (isBracketed) pattern += u"[ \\t\u3000]*";
   if (isSpaced) return pattern + u"[ \\t\u00A0\u3000]+(?=\\S)";
   std::set<std::u16string> patterns;

@@ -31,6 +31,7 @@ struct NumberFamily {
   NumeralKind kind = NumeralKind::Decimal;
   std::set<std::u16string> closes{};
   bool isSpaced = false;
+  std::size_t mostDigits = kUsualDigits;
   bool isAfterKeys = false;           ///< letters in brackets, or blanks for them, stand before some labels
   std::vector<NumberLabel> labels{};  ///< in the order of the text
   double rising = 0;  ///< share of the labels whose number follows on the one before, or begins anew

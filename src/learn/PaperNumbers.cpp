@@ -24,7 +24,7 @@ bool IsOfLetters(NumeralKind kind) {
 /// The number in a label such as "Question 12)". Words before it may begin like Roman numerals.
 int NumberIn(std::u16string_view label) {
   for (std::size_t at = 0; at < label.size(); ++at) {
-    for (const Numeral& numeral : NumeralsAt(label, at)) {
+    for (const Numeral& numeral : NumeralsAt(label, at, kLongNumberDigits)) {
       if (!IsOfLetters(numeral.kind)) return numeral.value;
     }
   }
@@ -32,7 +32,7 @@ int NumberIn(std::u16string_view label) {
     const bool isSetOff = at == 0 || IsBlank(label[at - 1]) || IsLineEnd(label[at - 1]) ||
                           kLabelOpens.find(label[at - 1]) != kLabelOpens.npos;
     if (!isSetOff) continue;
-    for (const Numeral& numeral : NumeralsAt(label, at)) {
+    for (const Numeral& numeral : NumeralsAt(label, at, kLongNumberDigits)) {
       const std::size_t end = at + numeral.size;
       const bool isWhole = end == label.size() || IsBlank(label[end]) || IsLineEnd(label[end]) ||
                            kLabelCloses.find(label[end]) != kLabelCloses.npos;

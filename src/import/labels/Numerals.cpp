@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/Numerals.h"
 
+#include "text/NumberText.h"
+
 #include <algorithm>
 
 namespace quorvantis {
@@ -10,17 +12,17 @@ namespace {
 struct DigitRow {
   NumeralKind kind;
   char16_t zero;
-  std::u16string_view pattern;
+  std::u16string_view digit;  ///< a pattern
 };
 
 constexpr DigitRow kDigitRows[] = {
-    {NumeralKind::Decimal, u'0', u"[0-9]{1,3}"},
-    {NumeralKind::FullWidth, u'\uFF10', u"[\uFF10-\uFF19]{1,3}"},
-    {NumeralKind::ArabicIndic, u'\u0660', u"[\u0660-\u0669]{1,3}"},
-    {NumeralKind::Persian, u'\u06F0', u"[\u06F0-\u06F9]{1,3}"},
-    {NumeralKind::Devanagari, u'\u0966', u"[\u0966-\u096F]{1,3}"},
-    {NumeralKind::Bengali, u'\u09E6', u"[\u09E6-\u09EF]{1,3}"},
-    {NumeralKind::Thai, u'\u0E50', u"[\u0E50-\u0E59]{1,3}"},
+    {NumeralKind::Decimal, u'0', u"[0-9]"},
+    {NumeralKind::FullWidth, u'\uFF10', u"[\uFF10-\uFF19]"},
+    {NumeralKind::ArabicIndic, u'\u0660', u"[\u0660-\u0669]"},
+    {NumeralKind::Persian, u'\u06F0', u"[\u06F0-\u06F9]"},
+    {NumeralKind::Devanagari, u'\u0966', u"[\u0966-\u096F]"},
+    {NumeralKind::Bengali, u'\u09E6', u"[\u09E6-\u09EF]"},
+    {NumeralKind::Thai, u'\u0E50', u"[\u0E50-\u0E59]"},
 };
 
 /// Symbols that are numbers: a range of units and the value of its first one.
@@ -104,12 +106,11 @@ Numeral Chinese(std::u16string_view text) {
   return {NumeralKind::Chinese, value + digit, value + digit > 0 ? size : 0};
 }
 
-Numeral Digits(std::u16string_view text, const DigitRow& row) {
-  constexpr std::size_t kMostDigits = 3;
+Numeral Digits(std::u16string_view text, const DigitRow& row, std::size_t mostDigits) {
   std::size_t size = 0;
   int value = 0;
   for (; size < text.size() && text[size] >= row.zero && text[size] < row.zero + 10; ++size) {
-    if (size == kMostDigits) return {row.kind};
+    if (size == mostDigits) return {row.kind};
     value = value * 10 + (text[size] - row.zero);
   }
   return {row.kind, value, value > 0 ? size : 0};
@@ -125,11 +126,11 @@ Numeral Symbol(char16_t unit, NumeralKind kind) {
 
 }  // namespace
 
-Numeral NumeralAt(std::u16string_view text, std::size_t place, NumeralKind kind) {
+Numeral NumeralAt(std::u16string_view text, std::size_t place, NumeralKind kind, std::size_t mostDigits) {
   if (place >= text.size()) return {kind};
   const std::u16string_view rest = text.substr(place);
   const auto* const digits = std::ranges::find(kDigitRows, kind, &DigitRow::kind);
-  if (digits != std::end(kDigitRows)) return Digits(rest, *digits);
+  if (digits != std::end(kDigitRows)) return Digits(rest, *digits, mostDigits);
   if (const Numeral symbol = Symbol(rest[0], kind); symbol.size > 0) return symbol;
   if (kind == NumeralKind::Chinese) return Chinese(rest);
   if (kind == NumeralKind::UpperRoman || kind == NumeralKind::LowerRoman)
@@ -137,10 +138,10 @@ Numeral NumeralAt(std::u16string_view text, std::size_t place, NumeralKind kind)
   return {kind};
 }
 
-std::vector<Numeral> NumeralsAt(std::u16string_view text, std::size_t place) {
+std::vector<Numeral> NumeralsAt(std::u16string_view text, std::size_t place, std::size_t mostDigits) {
   std::vector<Numeral> found;
   for (int kind = 0; kind <= static_cast<int>(NumeralKind::Chinese); ++kind) {
-    const Numeral numeral = NumeralAt(text, place, static_cast<NumeralKind>(kind));
+    const Numeral numeral = NumeralAt(text, place, static_cast<NumeralKind>(kind), mostDigits);
     if (numeral.size > 0) found.push_back(numeral);
   }
   return found;
@@ -155,7 +156,7 @@ int NumeralValue(std::u16string_view text) {
 
 int NumberInLabel(std::u16string_view label) {
   for (std::size_t at = 0; at < label.size(); ++at) {
-    const std::vector<Numeral> numerals = NumeralsAt(label, at);
+    const std::vector<Numeral> numerals = NumeralsAt(label, at, kLongNumberDigits);
     // A word in front, as in "Question 3", must not be read as a Roman numeral.
     for (const Numeral& numeral : numerals) {
       const bool isRoman = numeral.kind == NumeralKind::UpperRoman || numeral.kind == NumeralKind::LowerRoman;
@@ -171,9 +172,11 @@ int NumberInLabel(std::u16string_view label) {
   return 0;
 }
 
-std::u16string_view NumeralPattern(NumeralKind kind) {
+std::u16string NumeralPattern(NumeralKind kind, std::size_t mostDigits) {
   const auto* const digits = std::ranges::find(kDigitRows, kind, &DigitRow::kind);
-  if (digits != std::end(kDigitRows)) return digits->pattern;
+  if (digits != std::end(kDigitRows))
+    return std::u16string(digits->digit) + u"{1," + FormatInteger(static_cast<std::int64_t>(mostDigits)) +
+           u"}";
   switch (kind) {
     case NumeralKind::Circled:
       return u"[\u2460-\u2473\u3251-\u325F\u32B1-\u32BF\u2776-\u277F]";

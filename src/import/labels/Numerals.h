@@ -33,21 +33,29 @@ struct Numeral {
   std::size_t size = 0;  ///< in UTF-16 units
 };
 
-inline constexpr int kLargestNumeral = 9'999;
+inline constexpr int kLargestNumeral = 99'999;
 
-/// The numbers that begin at `place`, one of each kind at most, as long as they can be.
-std::vector<Numeral> NumeralsAt(std::u16string_view text, std::size_t place);
+/// Numbers of questions have three digits at most, and longer ones are years or amounts. Only where nothing
+/// else can be meant, as in a long list of questions, may they have more.
+inline constexpr std::size_t kUsualDigits = 3;
+inline constexpr std::size_t kLongNumberDigits = 5;
+
+/// The numbers that begin at `place`, one of each kind at most, as long as they can be. One of more digits is
+/// none.
+std::vector<Numeral> NumeralsAt(std::u16string_view text, std::size_t place,
+                                std::size_t mostDigits = kUsualDigits);
 
 /// The same of one kind; size 0 if there is none.
-Numeral NumeralAt(std::u16string_view text, std::size_t place, NumeralKind kind);
+Numeral NumeralAt(std::u16string_view text, std::size_t place, NumeralKind kind,
+                  std::size_t mostDigits = kUsualDigits);
 
 /// The value of digits of any kind, the whole text; 0 if it is no number.
 int NumeralValue(std::u16string_view text);
 
-/// The number in a label: 3 of "第3题" and of "Question 3"; 0 if there is none.
+/// The number in a label, of any size: 3 of "第3题" and of "Question 3"; 0 if there is none.
 int NumberInLabel(std::u16string_view label);
 
 /// A pattern of import rules that finds such numbers.
-std::u16string_view NumeralPattern(NumeralKind kind);
+std::u16string NumeralPattern(NumeralKind kind, std::size_t mostDigits = kUsualDigits);
 
 }  // namespace quorvantis

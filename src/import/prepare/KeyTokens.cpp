@@ -46,17 +46,17 @@ bool IsAsciiDigit(char16_t unit) {
   return unit >= u'0' && unit <= u'9';
 }
 
-Numeral PlainNumeralAt(std::u16string_view text, std::size_t place) {
+Numeral PlainNumeralAt(std::u16string_view text, std::size_t place, std::size_t mostDigits = kUsualDigits) {
   for (const NumeralKind kind : kKeyNumerals) {
-    const Numeral numeral = NumeralAt(text, place, kind);
+    const Numeral numeral = NumeralAt(text, place, kind, mostDigits);
     if (numeral.size > 0) return numeral;
   }
   return {};
 }
 
 /// A number of a question; Chinese ones only before a mark, for they are words, too.
-Numeral KeyNumeralAt(std::u16string_view text, std::size_t place) {
-  const Numeral plain = PlainNumeralAt(text, place);
+Numeral KeyNumeralAt(std::u16string_view text, std::size_t place, std::size_t mostDigits) {
+  const Numeral plain = PlainNumeralAt(text, place, mostDigits);
   if (plain.size > 0 || place >= text.size()) return plain;
   const Numeral chinese = NumeralAt(text, place, NumeralKind::Chinese);
   const std::size_t after = place + chinese.size;
@@ -101,13 +101,13 @@ class KeyLine {
   /// "1-5 ABCDA"
   bool TakeRange() {
     std::size_t at = Among(kTokenOpens, UnitAt(at_)) ? at_ + 1 : at_;
-    const Numeral first = PlainNumeralAt(text_, at);
+    const Numeral first = PlainNumeralAt(text_, at, kLongNumberDigits);
     if (first.size == 0) return false;
     at = SkipBlanks(text_, at + first.size, text_.size());
     if (at >= text_.size() || !Among(kRangeDashes, text_[at])) return false;
     while (at < text_.size() && Among(kRangeDashes, text_[at])) ++at;
     at = SkipBlanks(text_, at, text_.size());
-    const Numeral last = PlainNumeralAt(text_, at);
+    const Numeral last = PlainNumeralAt(text_, at, kLongNumberDigits);
     constexpr int kLongestRange = 200;
     if (last.size == 0 || last.value <= first.value || last.value - first.value > kLongestRange) return false;
     at += last.size;
@@ -185,7 +185,7 @@ class KeyLine {
 
   /// "1. B"
   bool TakePair() {
-    const auto number = KeyNumberAt(text_, at_, text_.size());
+    const auto number = KeyNumberAt(text_, at_, text_.size(), kLongNumberDigits);
     if (!number) return false;
     std::size_t at = number->place.end;
     while (Among(kTokenOpens, UnitAt(at)) && at < text_.size()) ++at;
@@ -225,7 +225,8 @@ class KeyLine {
 
 }  // namespace
 
-std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place, std::size_t end) {
+std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place, std::size_t end,
+                                     std::size_t mostDigits) {
   const std::u16string_view part = text.substr(0, end);
   std::size_t at = place;
   while (at < end && Among(kTokenOpens, part[at])) ++at;
@@ -237,7 +238,7 @@ std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place
   }
   const bool isLettered = at + 1 < end && Among(kPartLetters, part[at]) && IsAsciiDigit(part[at + 1]);
   if (isLettered) ++at;
-  const Numeral numeral = KeyNumeralAt(part, at);
+  const Numeral numeral = KeyNumeralAt(part, at, mostDigits);
   if (numeral.size == 0) return std::nullopt;
   std::size_t after = at + numeral.size;
   const std::size_t bare = after;

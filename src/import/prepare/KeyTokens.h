@@ -34,7 +34,8 @@ struct KeyNumber {
 };
 
 /// The number that begins at `place`, if there is one. Roman numerals are titles of parts.
-std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place, std::size_t end);
+std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place, std::size_t end,
+                                     std::size_t mostDigits = kUsualDigits);
 
 /// The size of the letters, the digit or the judgement that begins at `place`; 0 if there is none.
 std::size_t KeyTokenSize(std::u16string_view text, std::size_t place, std::size_t end);
