@@ -348,7 +348,10 @@ void AddRulesLearn(CLI::App& rules, ParsedArguments& arguments, Console& console
   learn->add_option("--ini", request.rules, "Add the rules to this file instead of printing them")
       ->type_name("FILE");
   learn->add_option("--text", request.text, "Also write the paper's text")->type_name("FILE");
-  learn->footer("Tells on standard error what was understood, and what to look at.\n" + MarksHelp());
+  learn->footer(
+      "Prints a whole file of rules; --ini adds them to those of a file.\n"
+      "Tells on standard error what was understood, and what to look at.\n" +
+      MarksHelp());
   learn->callback([&] { LearnRepository(console, arguments.common, arguments.learn); });
 }
 

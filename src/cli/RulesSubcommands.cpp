@@ -6,6 +6,7 @@
 #include "cli/PrintedReading.h"
 #include "cli/ScriptedImport.h"
 #include "cli/StudiedPaper.h"
+#include "cli/WhyUnreadable.h"
 #include "host/ImportRules.h"
 #include "host/SavedRules.h"
 #include "import/ExamImport.h"
@@ -15,7 +16,9 @@
 #include "text/PathText.h"
 #include "text/Utf.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <ostream>
 #include <utility>
 
@@ -30,18 +33,38 @@ Repository RepositoryOf(const LearnRequest& request, const PaperStudy& study) {
   return {name, study.Rules()};
 }
 
-/// What cannot be added to a file must not be printed for one, either.
-void PrintSection(ExamSession& session, const Repository& repository) {
+/// Names are what can be mended here.
+std::string Remedy(RepositoryRefusal refusal) {
+  constexpr RepositoryRefusal kOfNames[] = {RepositoryRefusal::NameEmpty, RepositoryRefusal::NameTaken,
+                                            RepositoryRefusal::NamePrefix, RepositoryRefusal::NameUnsafe};
+  const bool isOfName = std::ranges::find(kOfNames, refusal) != std::end(kOfNames);
+  return isOfName ? ". Give the rules another name with --repository" : "";
+}
+
+std::string WithoutDot(std::string sentence) {
+  if (sentence.ends_with('.')) sentence.pop_back();
+  return sentence;
+}
+
+/// A whole file, which can be used as it is. What cannot be added to a file must not be printed for one,
+/// either.
+void PrintRules(ExamSession& session, const fs::path& paper, const Repository& repository) {
   const AddedRepository added = AddRepository({}, repository, session.services.codePage);
-  if (added.refusal != RepositoryRefusal::None)
-    throw CommandError(Utf16ToUtf8(RefusalText(added, repository, session.services.strings)));
-  session.console.out << Utf16ToUtf8(RepositorySection(repository, 0));
+  if (added.refusal != RepositoryRefusal::None) {
+    const std::string reason = Utf16ToUtf8(RefusalText(added, repository, session.services.strings));
+    throw CommandError(paper.string() + ": " + WithoutDot(reason) + Remedy(added.refusal));
+  }
+  session.console.out << added.file;
 }
 
 void SaveSection(ExamSession& session, const fs::path& file, const Repository& repository) {
   const SavedRules saved = SaveRules(file, repository, session.services.codePage, session.services.files);
-  if (!saved.AreSaved())
-    throw CommandError(Utf16ToUtf8(WhyNotSaved(saved, file, repository, session.services.strings)));
+  if (saved.AreSaved()) return;
+  std::string reason = Utf16ToUtf8(WhyNotSaved(saved, file, repository, session.services.strings));
+  if (saved.outcome == SavedRules::Outcome::Refused)
+    reason = file.string() + ": " + WithoutDot(std::move(reason)) + Remedy(saved.refusal);
+  if (saved.outcome == SavedRules::Outcome::NotRead) reason += ". " + WhyUnreadable(file);
+  throw CommandError(reason);
 }
 
 void WritePaperText(ExamSession& session, const fs::path& file, const Paper& paper) {
@@ -85,7 +108,7 @@ void LearnRepository(Console& console, const CommonOptions& options, const Learn
   const PaperStudy study = LearnPaper(session, request.paper, request.marks);
   const Repository repository = RepositoryOf(request, study);
   if (request.rules.empty())
-    PrintSection(session, repository);
+    PrintRules(session, request.paper, repository);
   else
     SaveSection(session, request.rules, repository);
 }

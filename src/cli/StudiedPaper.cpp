@@ -3,6 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "cli/PaperMarksFile.h"
+#include "cli/WhyUnreadable.h"
 #include "import/DocumentFailureText.h"
 #include "import/PaperFile.h"
 #include "learn/LearnedTexts.h"
@@ -35,6 +36,8 @@ void TellLearned(ExamSession& session, const PaperStudy& study) {
 
 Paper ReadPaperFile(ExamSession& session, const std::filesystem::path& paper, bool listLabels) {
   PaperFile opened = OpenPaper(session.papers, paper, {}, listLabels);
+  if (opened.result == WordResult::CannotAccess)
+    throw CommandError(paper.string() + ": cannot be read. " + WhyUnreadable(paper));
   if (opened.result != WordResult::Done)
     throw CommandError(Utf16ToUtf8(DocumentFailureText(opened.result, paper, session.services.strings)));
   const std::size_t size = opened.paper.source.Size();

@@ -38,7 +38,7 @@ class RulesCommand : public CommandLineTest {
 TEST_F(RulesCommand, LearnsWhatItCanCheckAndImport) {
   const RunResult printed = Learn({});
   EXPECT_EQ(printed.status, 0) << printed.err;
-  EXPECT_TRUE(printed.out.starts_with("[0]\nName=paper\n")) << printed.out;
+  EXPECT_TRUE(printed.out.starts_with("[Repository]\nSize=1\n\n[0]\nName=paper\n")) << printed.out;
   EXPECT_NE(printed.err.find("6 questions were found."), std::string::npos) << printed.err;
 
   const RunResult added = Learn({"--ini", Path("rules.ini"), "--repository", "Spring"});
