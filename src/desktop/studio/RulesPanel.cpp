@@ -92,7 +92,9 @@ void RulesPanel::ShowStudy(const PaperStudy& study) {
   study_ = &study;
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const QString value = ToQString(shown_.*RuleFields()[i].value);
-    if (rows_[i].value->text() != value) rows_[i].value->setText(value);
+    if (rows_[i].value->text() == value) continue;
+    rows_[i].value->setText(value);
+    rows_[i].value->setCursorPosition(0);  // long rules are read from their beginning
   }
   table_->setChecked(shown_.m_nTable != 0);
   for (std::size_t i = 0; i < steps_.size(); ++i)
