@@ -23,7 +23,8 @@ ImportSettings PlainRules() {
 
 /// The warnings as "kind question number text", with the names of the texts.
 std::string Warned(std::u16string_view text) {
-  const Paper paper = PaperOf(text);
+  Paper paper = PaperOf(text);
+  paper.hasPictures = paper.hasFormulas = true;
   const ImportSettings rules = PlainRules();
   std::string all;
   for (const ReadingWarning& warning : WarningsOf(paper, rules, ReadByRules(paper, rules, kNobodyEnds))) {
@@ -75,6 +76,9 @@ TEST(ReadingWarnings, TellWhatToLookAt) {
        Line(Kind::TooLongText, 1, 0)},
       {good + u"2. How?\nA. x\nB. y\nAnswer: A\nAlso: B\n", Line(Kind::TwoAnswers, 1, 0, "A / B")},
       {good + u"2. How?\nA. x\nB. y\nAnswer: A\nAlso: A.\n", ""},
+      {good + u"2. How?\nA. x 7.bmp\nB. y ##\nAnswer: A\n",
+       Line(Kind::AnswerPictures, 1, 1) + "; " + Line(Kind::Formulas, 1, 1)},
+      {good + u"2. How 1.bmp or 2.bmp ?\nA. x\nB. y\nAnswer: A\n", Line(Kind::MorePictures, 1, 2)},
       {good + u"2. Open end\n3. Who?\nA. x\nB. y\nAnswer: A\n", Line(Kind::NotRead, -1, 0, "Open end")},
   };
   for (const auto& row : kCases) EXPECT_EQ(Warned(row.text), row.warnings) << Utf16ToUtf8(row.text);
