@@ -19,9 +19,10 @@ class PdfText {
  public:
   virtual ~PdfText() = default;
 
-  /// The text of each page in the order in which it was put there, lines separated by LF, without the marks
-  /// of writing direction. Within a line from right to left, words and numbers may have changed places, and
-  /// so may the two letters of an Arabic ligature: compare as `ComparableText` (text/) does.
+  /// The text of each page in the order in which it was put there, so the foot of the page is last. Lines end
+  /// with LF and have no marks of direction. Words that run from right to left are put into their order line
+  /// by line, as far as it can be told. Compare by `ComparableText` (text/): the two letters of an Arabic
+  /// ligature may have changed places.
   virtual PdfPages Read(const std::filesystem::path& pdf) = 0;
 };
 

@@ -69,7 +69,7 @@ void Limit(__rlimit_resource resource, rlim_t most) {
   std::signal(SIGPIPE, SIG_DFL);               // event loops ignore this signal
   Limit(RLIMIT_FSIZE, order.largestFile);
   if (order.limitsMemory) Limit(RLIMIT_AS, kMostMemory);
-  ::setpriority(PRIO_PROCESS, 0, kLowPriority);
+  if (order.lowPriority) ::setpriority(PRIO_PROCESS, 0, kLowPriority);
   const int nothing = ::open("/dev/null", O_RDWR);
   ::dup2(nothing, STDIN_FILENO);
   ::dup2(output < 0 ? nothing : output, STDOUT_FILENO);

@@ -24,14 +24,16 @@ struct ChildOrder {
                                << 30;  ///< limit for the size of any file that it writes, in bytes
   bool readsOutput = false;            ///< the caller wants its standard output
   bool limitsMemory = true;
+  bool lowPriority = true;
 };
 
 enum class ChildEnd { Succeeded, Failed, NotStarted, TimedOut, Cancelled };
 
-/// A child process with low priority, limits on memory and file size, and no input. It has a process group of
-/// its own: the whole group ends with this object, and in any case with this program (see Leftover). There is
-/// no notification when it ends; the caller polls. Those who wait with a time limit, and so end a program
-/// that hangs, are RunChildProgram and, in the background of an event loop, RunProgram (platform/convert).
+/// A child process with low priority, limits on memory and file size, and no input, unless ordered otherwise.
+/// It has a process group of its own: the whole group ends with this object, and in any case with this
+/// program (see Leftover). There is no notification when it ends; the caller polls. Those who wait with a
+/// time limit, and so end a program that hangs, are RunChildProgram and, in the background of an event loop,
+/// RunProgram (platform/convert).
 class ChildProcess {
  public:
   /// Null if it could not be started. A file that is not a program only shows later, by how it ends.

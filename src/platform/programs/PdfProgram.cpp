@@ -90,6 +90,7 @@ std::optional<std::string> PdfProgram::Print(std::span<const PaperJob> jobs, Pro
   ChildOrder order{program_, PaperArguments(paper), folder.Path()};
   order.readsOutput = true;
   order.limitsMemory = false;  // the browser reserves far more addresses than it uses
+  order.lowPriority = false;   // the user waits for the file
   return PdfRun(order, jobs.size(), progress).Wait();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/programs/PopplerPdfText.h"
 
+#include "platform/pdf/ReadingOrder.h"
 #include "platform/programs/ChildProgram.h"
 #include "platform/programs/TimeLimits.h"
 #include "text/Utf.h"
@@ -17,18 +18,21 @@ bool IsDirectionMark(char16_t unit) {
          (unit >= u'\u202A' && unit <= u'\u202E') || (unit >= u'\u2066' && unit <= u'\u2069');
 }
 
-/// Each page ends with a form feed.
+/// Each page ends with a form feed, and each line with a line feed.
 std::vector<std::u16string> PagesOf(const std::string& output) {
   std::vector<std::u16string> pages;
   std::u16string page;
+  std::u16string line;
   for (const char16_t unit : Utf8ToUtf16(output)) {
-    if (unit == u'\f') {
-      pages.push_back(std::exchange(page, {}));
+    if (unit == u'\n' || unit == u'\f') {
+      page += InReadingOrder(line);
+      line.clear();
     } else if (!IsDirectionMark(unit)) {
-      page.push_back(unit);
+      line.push_back(unit);
     }
+    if (unit == u'\n') page.push_back(unit);
+    if (unit == u'\f') pages.push_back(std::exchange(page, {}));
   }
-  if (!page.empty()) pages.push_back(std::move(page));
   return pages;
 }
 

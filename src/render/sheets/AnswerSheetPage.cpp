@@ -20,7 +20,7 @@ constexpr Template<int> kFillInLine{
 constexpr Template<int, Text> kEssaySpace{
     uR"(<div class="written space"><div class="number">%d.</div><div>%s</div></div>)"};
 constexpr Template<> kRuledLine{uR"(<div class="line"></div>)"};
-constexpr Template<Text> kInstruction{uR"(<div class="note">%s</div>)"};
+constexpr Template<Text> kInstruction{uR"(<div class="note"><bdi>%s</bdi></div>)"};
 
 constexpr std::size_t kQuestionsOfABlock = 10;
 constexpr int kLinesOfAnEssay = 8;

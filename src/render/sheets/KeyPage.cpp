@@ -7,21 +7,49 @@
 #include "render/sheets/KeyTable.h"
 #include "render/sheets/SheetParts.h"
 
+#include <utility>
+#include <vector>
+
 namespace quorvantis {
 namespace {
 
 constexpr Template<Text, Text, Text> kKeys{
     uR"(<table class="keys%s"><thead>%s</thead><tbody>%s</tbody></table>)"};
-constexpr Template<Text, Text, Text> kHeadings{uR"(<tr><th>%s</th><th>%s</th><th>%s</th></tr>)"};
+constexpr Template<Text, Text, Text> kHeadings{
+    uR"(<tr><th><bdi>%s</bdi></th><th><bdi>%s</bdi></th><th><bdi>%s</bdi></th></tr>)"};
 constexpr Template<int, Text, Text> kLetters{
     uR"(<tr><td>%d</td><td class="letters">%s</td><td>%s</td></tr>\n)"};
 constexpr Template<int, Text, Text> kAnswers{uR"(<tr><td>%d</td><td dir="auto">%s</td><td>%s</td></tr>\n)"};
-constexpr Template<Text> kSum{uR"(<div class="sum">%s</div>)"};
+constexpr Template<Text> kSum{uR"(<div class="sum"><bdi>%s</bdi></div>)"};
 
 constexpr std::size_t kBlock = 10;
 
-bool HasLetters(const KeyRow& row) {
-  return AnswerOf(row.kind).options;
+/// Fewer letters between other answers stand in their table: blocks of their own would only take room.
+constexpr std::size_t kShortRun = 10;
+
+/// Neighbouring questions whose keys stand in the same tables.
+struct KeyRun {
+  bool areLetters;
+  std::vector<KeyRow> rows;
+};
+
+void Append(std::vector<KeyRun>& runs, KeyRun run) {
+  if (runs.empty() || runs.back().areLetters != run.areLetters) {
+    runs.push_back(std::move(run));
+  } else {
+    runs.back().rows.insert(runs.back().rows.end(), run.rows.begin(), run.rows.end());
+  }
+}
+
+std::vector<KeyRun> RunsOf(const std::vector<KeyRow>& rows) {
+  std::vector<KeyRun> byKind;
+  for (const KeyRow& row : rows) Append(byKind, {AnswerOf(row.kind).options, {row}});
+  std::vector<KeyRun> runs;
+  for (KeyRun& run : byKind) {
+    if (byKind.size() > 1 && run.rows.size() < kShortRun) run.areLetters = false;
+    Append(runs, std::move(run));
+  }
+  return runs;
 }
 
 /// Composes the rows of the page.
@@ -33,53 +61,55 @@ class KeyRows {
             Caption(exam, text_id::kSheetNumber), Caption(exam, text_id::kSheetAnswer),
             HasScoreRanges(exam.scoreMode) ? Caption(exam, text_id::kSheetScore) : std::u16string())) {}
 
-  std::u16string All() {
+  std::u16string All() const {
+    const std::vector<KeyRow> keys = KeyTable(exam_);
+    std::u16string rows;
+    for (const KeyRun& run : RunsOf(keys)) rows += Row(run.areLetters ? Blocks(run.rows) : Wide(run.rows));
     double total = 0;
-    for (const KeyRow& row : KeyTable(exam_)) {
-      Add(row);
-      total += static_cast<double>(row.score.value_or(0));
-    }
-    EndRun();
+    for (const KeyRow& key : keys) total += static_cast<double>(key.score.value_or(0));
     if (HasScoreRanges(exam_.scoreMode))
-      page_ += Row(kSum(Caption(exam_, text_id::kTotalScore, ShortScore(total))));
-    if (HasOneScore(exam_.scoreMode)) page_ += Row(kSum(Caption(exam_, text_id::kSameScores)));
-    return page_;
+      rows += Row(kSum(Caption(exam_, text_id::kTotalScore, ShortScore(total))));
+    if (HasOneScore(exam_.scoreMode)) rows += Row(kSum(Caption(exam_, text_id::kSameScores)));
+    return rows;
   }
 
  private:
-  void Add(const KeyRow& row) {
-    if (HasLetters(row) != runHasLetters_) EndRun();
-    runHasLetters_ = HasLetters(row);
-    const std::u16string score = row.score ? ShortScore(*row.score) : std::u16string();
-    if (runHasLetters_) {
-      block_ += kLetters(row.number, row.key.empty() ? Caption(exam_, text_id::kSheetNoKey) : row.key, score);
-      if (++inBlock_ == kBlock) EndBlock();
-    } else {
-      const bool isOral = AnswerOf(row.kind).oral;
-      block_ += kAnswers(row.number, isOral ? Caption(exam_, text_id::kSheetOral) : Field(row.key), score);
+  std::u16string Blocks(const std::vector<KeyRow>& keys) const {
+    std::u16string blocks;
+    std::u16string lines;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+      lines += kLetters(keys[i].number, Letters(keys[i]), Score(keys[i]));
+      if ((i + 1) % kBlock != 0 && i + 1 != keys.size()) continue;
+      blocks += kKeys(u"", headings_, lines);
+      lines.clear();
     }
+    return blocks;
   }
 
-  void EndBlock() {
-    if (block_.empty()) return;
-    run_ += kKeys(runHasLetters_ ? u"" : u" wide", headings_, block_);
-    block_.clear();
-    inBlock_ = 0;
+  std::u16string Wide(const std::vector<KeyRow>& keys) const {
+    std::u16string lines;
+    for (const KeyRow& key : keys) {
+      const AnswerParts parts = AnswerOf(key.kind);
+      if (parts.options) {
+        lines += kLetters(key.number, Letters(key), Score(key));
+      } else {
+        lines += kAnswers(key.number, parts.oral ? Caption(exam_, text_id::kSheetOral) : Field(key.key),
+                          Score(key));
+      }
+    }
+    return kKeys(u" wide", headings_, lines);
   }
 
-  void EndRun() {
-    EndBlock();
-    if (!run_.empty()) page_ += Row(run_);
-    run_.clear();
+  std::u16string Letters(const KeyRow& key) const {
+    return key.key.empty() ? Caption(exam_, text_id::kSheetNoKey) : key.key;
+  }
+
+  static std::u16string Score(const KeyRow& key) {
+    return key.score ? ShortScore(*key.score) : std::u16string();
   }
 
   const FrameSetExam& exam_;
   const std::u16string headings_;
-  bool runHasLetters_ = true;
-  std::size_t inBlock_ = 0;
-  std::u16string block_;  ///< lines of the table that is being composed
-  std::u16string run_;    ///< tables of neighbouring questions with keys of the same form
-  std::u16string page_;
 };
 
 }  // namespace

@@ -16,12 +16,12 @@ namespace {
 
 constexpr Template<int, Text, Text> kQuestion{
     uR"(<div class="question" dir="auto"><div class="number">%d.</div><div class="body">%s</div>%s</div>)"};
-constexpr Template<Text> kPoints{uR"(<div class="points">(%s)</div>)"};
+constexpr Template<Text> kPoints{uR"(<div class="points"><bdi>(%s)</bdi></div>)"};
 constexpr Template<Text, char16_t, Text> kOption{
     uR"(<div class="option%s"><div class="letter"><b>%c</b></div>%s</div>)"};
 constexpr Template<> kLine{uR"(<div class="line"></div>)"};
-constexpr Template<Text> kRemark{uR"(<div class="note">%s</div>)"};
-constexpr Template<Text, Text> kAnswer{uR"(<div class="answer"><span>%s</span>%s</div>)"};
+constexpr Template<Text> kRemark{uR"(<div class="note"><bdi>%s</bdi></div>)"};
+constexpr Template<Text, Text> kAnswer{uR"(<div class="answer"><bdi>%s</bdi>%s</div>)"};
 
 constexpr int kFewestLines = 6;
 constexpr int kMostLines = 16;

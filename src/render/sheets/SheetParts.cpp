@@ -16,10 +16,10 @@ namespace {
 constexpr Template<Text> kField{uR"(<div class="text">%s</div>)"};
 constexpr Template<Text> kRow{uR"(<div class="row"><div>%s</div></div>\n)"};
 constexpr Template<Text> kTitle{uR"(<div class="title" dir="auto">%s</div>)"};
-constexpr Template<Text> kSubtitle{uR"(<div class="subtitle">%s</div>)"};
+constexpr Template<Text> kSubtitle{uR"(<div class="subtitle"><bdi>%s</bdi></div>)"};
 constexpr Template<Text> kNames{uR"(<div class="names">%s</div>)"};
 constexpr Template<Text, Text> kName{
-    uR"(<div>%s</div><div class="blank"><bdi>%s</bdi></div><div class="gap"></div>)"};
+    uR"(<div><bdi>%s</bdi></div><div class="blank"><bdi>%s</bdi></div><div class="gap"></div>)"};
 
 /// The direction, the title, the style, whether the print is large, the buttons of the screen, the foot, the
 /// rows and the script.

@@ -23,9 +23,10 @@ body.large { font-size: 18pt; line-height: 1.6; word-spacing: 0.15em; }
 .foot .text { white-space: nowrap; }
 .foot bdi { margin-inline-end: 6mm; }
 
-.text { white-space: pre-wrap; overflow-wrap: anywhere; unicode-bidi: plaintext; text-align: start; }
-.text pre { white-space: pre-wrap; }
-.text img, .text table { max-width: 100%; }
+.text { white-space: pre-wrap; overflow-wrap: anywhere; unicode-bidi: plaintext; text-align: start;
+        overflow-x: clip; }
+.text * { max-width: 100%; box-sizing: border-box; }
+.text pre, .text nobr, .text [nowrap] { white-space: pre-wrap; }
 .title { font-size: 1.5em; font-weight: bold; line-height: 1.25; }
 .title .text { text-align: center; }
 .subtitle { text-align: center; font-size: 1.15em; font-weight: bold; }
@@ -49,16 +50,16 @@ body.large { font-size: 18pt; line-height: 1.6; word-spacing: 0.15em; }
 .line { height: 9mm; border-bottom: 0.25mm solid #000; }
 .large .line { height: 14mm; }
 .answer { margin-top: 2mm; padding: 1mm 2mm; border: 0.5mm solid #000; font-weight: bold; }
-.answer > span { font-weight: normal; font-size: 0.9em; }
+.answer > bdi { font-weight: normal; font-size: 0.9em; }
 .file { margin-top: 2mm; }
-.file img[data-name] { max-height: 110mm; }
+.file img[data-name] { max-height: 90mm; }
 .file > .name { display: inline-block; padding: 1mm 2mm; border: 0.25mm solid #000; }
 
 .keys { display: inline-table; vertical-align: top; width: 41mm; margin: 0 0 4mm; margin-inline-end: 3mm;
         border-collapse: collapse; text-align: start; }
 .large .keys { width: 84mm; }
 .keys.wide, .large .keys.wide { display: table; width: 100%; margin-inline-end: 0; }
-.keys th { font-size: 0.8em; font-weight: normal; border-bottom: 0.4mm solid #000; text-align: start; }
+.keys th { white-space: nowrap; font-size: 0.8em; font-weight: normal; border-bottom: 0.4mm solid #000; text-align: start; }
 .keys td { border-bottom: 0.2mm solid #000; padding: 0.6mm 1mm; vertical-align: top; }
 .keys td:first-child { width: 2.6em; }
 .keys td:last-child, .keys th:last-child { text-align: end; }
@@ -73,7 +74,7 @@ body.large { font-size: 18pt; line-height: 1.6; word-spacing: 0.15em; }
 .choice > b { display: inline-block; width: 8.5mm; padding-inline-end: 1.5mm; box-sizing: border-box; text-align: end; }
 .large .choice > b { width: 15mm; }
 .choice > i { display: inline-block; box-sizing: border-box; width: 5mm; height: 5mm; line-height: 4.2mm;
-              margin-inline-end: 1.2mm; border: 0.35mm solid #000; text-align: center; font: normal 7.5pt/4.2mm sans-serif; }
+              margin-inline-end: 1.2mm; border: 0.35mm solid #000; text-align: center; font: normal 8.5pt/4.2mm sans-serif; }
 .large .choice > i { width: 8.5mm; height: 8.5mm; margin-inline-end: 2.5mm; font: normal 13pt/7.7mm sans-serif; }
 .written { display: table; width: 100%; }
 .written > div { display: table-cell; }
