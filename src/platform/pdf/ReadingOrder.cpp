@@ -54,7 +54,7 @@ std::u16string InReadingOrder(std::u16string_view line) {
   std::vector<Word> words = WordsOf(line);
   const auto rightToLeft = std::ranges::count_if(words, HasRightToLeftLetter);
   if (rightToLeft == 0) return std::u16string(line);
-  if (rightToLeft >= std::ranges::count_if(words, HasLeftToRightLetter)) {
+  if (rightToLeft > std::ranges::count_if(words, HasLeftToRightLetter)) {
     std::ranges::reverse(words);
     ReverseRuns(words, HasLeftToRightLetter, HasRightToLeftLetter);
   } else {

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// The real program, started as others start it.
+#include "platform/programs/PdfProgram.h"
+#include "platform/programs/PopplerPdfText.h"
+#include "render/RenderTest.h"
+#include "text/ComparableText.h"
+
+#include <algorithm>
+
+namespace quorvantis::test {
+namespace {
+
+constexpr std::u16string_view kWords[] = {u"photosynthesis",
+                                          u"office",
+                                          u"affinity",
+                                          u"Stra\u00DFe",
+                                          u"na\u00EFve",
+                                          u"x\u00B2",
+                                          u"\u4E00\u4E8C\u4E09\u9898",
+                                          u"\u6C34\u706B\u571F",
+                                          u"\u0627\u0644\u0625\u062C\u0627\u0628\u0629",
+                                          u"\u0644\u0627",
+                                          u"\u0645\u0635\u0631",
+                                          u"(a)",
+                                          u"\u05E9\u05DC\u05D5\u05DD",
+                                          u"5&6"};
+
+class PdfProgramTest : public RenderTest {
+ protected:
+  fs::path Save(const char* name) {
+    fs::path file = folder / name;
+    exam.WriteExamFile(file);
+    return file;
+  }
+
+  /// A hundred questions of words in several scripts, some between tags.
+  std::vector<std::u16string> FillExam() {
+    std::vector<std::u16string> words;
+    const auto next = [&words] {
+      words.emplace_back(kWords[words.size() % std::size(kWords)]);
+      return words.back();
+    };
+    for (int i = 0; i < 100; ++i) {
+      ExamQuestion& question = Add(QuestionKind::Choice, next() + u" " + next() + u"\r\n<b>" + next());
+      for (std::u16string& option : question.options) option = next() + u"</div> " + next();
+      question.answerLetters = u"b";
+    }
+    return words;
+  }
+
+  std::vector<std::u16string> PagesOf(const fs::path& pdf) {
+    PdfPages text = PopplerPdfText().Read(pdf);
+    EXPECT_EQ(text.problem.value_or(""), "");
+    return text.pages;
+  }
+
+  InterruptedProgress progress;
+  PdfProgram program{QUORVANTIS_PDF, 0};
+};
+
+TEST_F(PdfProgramTest, EveryWordOfTheExamIsInTheFile) {
+  const std::vector<std::u16string> words = FillExam();
+  const PaperJob job{Save("exam.exm"), folder / "out.pdf", Sheet::Paper, u"B", u"c0de"};
+  ASSERT_EQ(program.Print({&job, 1}, progress), std::nullopt);
+  std::u16string all;
+  for (const std::u16string& page : PagesOf(job.target)) {
+    EXPECT_NE(ComparableText(page).find(u"c0de"), std::u16string::npos);  // at the foot of every page
+    all += page;
+  }
+  const std::u16string comparable = ComparableText(all);
+  for (const std::u16string& word : words)
+    EXPECT_NE(comparable.find(ComparableText(word)), comparable.npos) << Utf16ToUtf8(word);
+  EXPECT_EQ(CountOf(Utf16ToUtf8(ComparableText(u"\u4E00\u4E8C\u4E09\u9898")), Utf16ToUtf8(comparable)),
+            std::ranges::count(words, std::u16string(u"\u4E00\u4E8C\u4E09\u9898")));
+}
+
+TEST_F(PdfProgramTest, SeveralSheetsAreMadeInOneStartAndFilledUp) {
+  Add(QuestionKind::Choice, u"only").options = {u"x", u"y"};
+  const fs::path file = Save("exam.exm");
+  const std::vector<PaperJob> jobs{{file, folder / "a.pdf", Sheet::Paper, u"A", u"", false, 3},
+                                   {file, folder / "k.pdf", Sheet::Key, u"A"},
+                                   {file, folder / "s.pdf", Sheet::Answers, u"A", u"", true}};
+  ASSERT_EQ(program.Print(jobs, progress), std::nullopt);
+  EXPECT_EQ(program.PageCount(folder / "a.pdf"), 3);
+  EXPECT_EQ(PagesOf(folder / "a.pdf").size(), 3U);
+  EXPECT_EQ(program.PageCount(folder / "k.pdf"), 1);
+  EXPECT_EQ(program.PageCount(folder / "s.pdf"), 1);
+  EXPECT_EQ(program.PageCount(file), std::nullopt);
+}
+
+TEST_F(PdfProgramTest, WhatFailsIsToldAndLeavesTheOldFile) {
+  const fs::path target = WriteBytes(folder / "old.pdf", "old");
+  const PaperJob missing{folder / "none.exm", target};
+  EXPECT_NE(program.Print({&missing, 1}, progress).value_or("").find("none.exm"), std::string::npos);
+  EXPECT_EQ(ReadBytes(target), "old");
+  Add(QuestionKind::Choice, u"only");
+  const PaperJob nowhere{Save("exam.exm"), folder / "no folder" / "x.pdf"};
+  EXPECT_NE(program.Print({&nowhere, 1}, progress).value_or("").find("no folder"), std::string::npos);
+  PdfProgram absent({}, 0);
+  EXPECT_NE(absent.Print({&nowhere, 1}, progress).value_or("").find("not installed"), std::string::npos);
+  EXPECT_TRUE(PopplerPdfText().Read(target).problem);
+}
+
+}  // namespace
+}  // namespace quorvantis::test
