@@ -6,9 +6,9 @@
 #include "preview/BrowserEngine.h"
 #include "preview/PageAddress.h"
 #include "preview/PageScripts.h"
+#include "preview/SheetLayout.h"
 
 #include <QFile>
-#include <QPageLayout>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 
@@ -16,14 +16,6 @@
 
 namespace quorvantis {
 namespace {
-
-// Of the paper, in millimetres.
-constexpr double kSideMargin = 15;
-constexpr double kTopMargin = 13;
-constexpr double kBottomMargin = 12;
-
-constexpr double kPointsOfAMillimetre = 72 / 25.4;
-constexpr double kFootBaseline = 1.2;  // millimetres above the margin
 
 QString BlankPagesScript(int count) {
   return QStringLiteral(
@@ -71,9 +63,7 @@ void SheetBrowser::Print(Order order) {
 bool SheetBrowser::ChoosePrinter(QPrinter& printer) const {
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(QFile::decodeName(order_.file.c_str()));
-  printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
-                                    QMarginsF(kSideMargin, kTopMargin, kSideMargin, kBottomMargin),
-                                    QPageLayout::Millimeter));
+  printer.setPageLayout(SheetLayout());
   return true;
 }
 
@@ -81,7 +71,7 @@ bool SheetBrowser::ChoosePrinter(QPrinter& printer) const {
 void SheetBrowser::Finish(bool succeeded) {
   Later(*this, {}, [this, succeeded] {
     if (succeeded && AddBlankPages()) return;
-    emit Printed(succeeded && NumberPages());
+    emit Printed(succeeded && NumberSheets(order_.file, order_.isRightToLeft));
   });
 }
 
@@ -94,19 +84,6 @@ bool SheetBrowser::AddBlankPages() {
       BlankPagesScript(order_.pages - count), QWebEngineScript::ApplicationWorld,
       [this](const QVariant&) { Later(*this, {}, [this] { paper_->printer.Print(); }); });
   return true;
-}
-
-/// A file that cannot be read goes without numbers.
-bool SheetBrowser::NumberPages() const {
-  const QByteArray pdf = BytesOf(order_.file);
-  const NumberPlace place{order_.isRightToLeft ? NumberCorner::BottomLeft : NumberCorner::BottomRight,
-                          kSideMargin * kPointsOfAMillimetre,
-                          (kBottomMargin + kFootBaseline) * kPointsOfAMillimetre};
-  const auto numbered = WithPageNumbers({pdf.data(), static_cast<std::size_t>(pdf.size())}, place);
-  if (!numbered) return !pdf.isEmpty();
-  QFile out(order_.file);
-  const auto size = static_cast<qint64>(numbered->size());
-  return out.open(QIODevice::WriteOnly) && out.write(numbered->data(), size) == size && out.flush();
 }
 
 }  // namespace quorvantis

@@ -52,7 +52,6 @@ class SheetBrowser : public QObject {
   bool ChoosePrinter(QPrinter& printer) const;
   void Finish(bool succeeded);
   bool AddBlankPages();
-  bool NumberPages() const;
 
   RequestGuard guard_;
   ExamGateway gateway_;

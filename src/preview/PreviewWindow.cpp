@@ -119,7 +119,11 @@ void PreviewWindow::PrintByKeystroke() {
 }
 
 void PreviewWindow::StatusTextChange(std::u16string_view text) {
-  if (closing_ || !text.starts_with(kFinishSignal)) return;
+  if (closing_) return;
+  if (!text.starts_with(kFinishSignal)) {
+    emit PageWished(QString::fromStdU16String(std::u16string(text)));
+    return;
+  }
   if (owner_ != nullptr) owner_->PrefixAttachmentPaths(0);
   Leave();
 }

@@ -52,7 +52,8 @@ class PreviewWindow : public QWidget {
   /// Shows the window where it is, and prints the page once it is loaded.
   void PrintByKeystroke();
 
-  /// The browser's event. "ExamFinish" at the beginning of the text finishes the exam.
+  /// The browser's event. "ExamFinish" at the beginning of the text finishes the exam; other texts are wishes
+  /// of the page.
   void StatusTextChange(std::u16string_view text);
 
   /// The OK command, after which the window can only be discarded: it disappears at once, or as soon as the
@@ -76,8 +77,12 @@ class PreviewWindow : public QWidget {
   QWidget* WindowBelow() const { return below_; }
 
   PagePrinter& Printer() { return printer_; }
+  const PagePrinter& Printer() const { return printer_; }
 
  signals:
+  /// The page has set another status text, which whoever made the page may know.
+  void PageWished(const QString& status);
+
   /// A preview is on the screen.
   void Appeared();
 

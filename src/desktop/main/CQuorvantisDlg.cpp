@@ -19,6 +19,7 @@
 #include "shell/commands/PreviewCommand.h"
 #include "shell/commands/PrintCommand.h"
 #include "shell/commands/ScoreSetupCommand.h"
+#include "shell/language/LanguageId.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 
@@ -113,6 +114,11 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       history_(life_.Steps(), examControls_, question_, answers_, services_),
       search_(editor_, examControls_, question_, answers_, *this),
       studio_(editor_, import_, importWindows_, papers_, *this),
+      sheets_(editor_, pdf_, IsRightToLeft(languageId),
+              {[this](PagePrinter::AskForPrinter choose) -> PreviewWindow& {
+                 return RenewFor(std::move(choose));
+               },
+               [this](const std::filesystem::path& page) { PrintPage(page); }}),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
       scroll_(*client_),
@@ -185,6 +191,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.quit = [this] { close(); };
   commands.history = &history_;
   commands.search = &search_;
+  commands.sheets = &sheets_;
   commands.canUndoImport = [this] { return import_.CanUndo(); };
   commands.undoImport = [this] { importWindows_.Undo(import_); };
   commands.guide = [this] { ShowGuide(); };
@@ -304,12 +311,16 @@ void CQuorvantisDlg::ExportPdf() {
   const std::filesystem::path target = pdf_.ChooseTarget(editor_.questions.Form().title);
   if (target.empty()) return;
   PrintCommand(editor_, [this, &target](const std::filesystem::path& page) {
-    previews_.ChoosePrinterWith(pdf_.MakePrinter());
-    RenewPreviewWindow();
-    previews_.ChoosePrinterWith({});
-    pdf_.Watch(previewWindow_->Printer(), target);
+    pdf_.Watch(RenewFor(pdf_.MakePrinter()).Printer(), target);
     PrintPage(page);
   }).Run();
+}
+
+PreviewWindow& CQuorvantisDlg::RenewFor(PagePrinter::AskForPrinter choose) {
+  previews_.ChoosePrinterWith(std::move(choose));
+  RenewPreviewWindow();
+  previews_.ChoosePrinterWith({});
+  return *previewWindow_;
 }
 
 void CQuorvantisDlg::ShowAbout() {

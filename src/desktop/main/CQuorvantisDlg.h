@@ -14,6 +14,7 @@
 #include "desktop/main/QuestionArea.h"
 #include "desktop/main/QuestionControls.h"
 #include "desktop/main/SearchCommands.h"
+#include "desktop/main/SheetCommands.h"
 #include "desktop/main/StudioCommands.h"
 #include "desktop/main/ToolbarButtons.h"
 #include "desktop/main/WindowLayout.h"
@@ -129,6 +130,8 @@ class CQuorvantisDlg final : public FittedWindow,
   /// Tells that a print is being prepared, as long as it is.
   void TellOfPrint();
   void ExportPdf();
+  /// Creates a new preview window that prints to the chosen printer without asking; if empty, it asks.
+  PreviewWindow& RenewFor(PagePrinter::AskForPrinter choose);
   void SetUpScores();
   void TakeFiles(const QList<QUrl>& urls);
 
@@ -158,6 +161,7 @@ class CQuorvantisDlg final : public FittedWindow,
   HistoryCommands history_;
   SearchCommands search_;
   StudioCommands studio_;
+  SheetCommands sheets_;
   WindowNotice* recoveryFails_;
   WindowNotice* printComes_;
   WindowScroll scroll_;

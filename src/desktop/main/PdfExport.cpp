@@ -33,9 +33,12 @@ PagePrinter::AskForPrinter PdfExport::MakePrinter() {
 }
 
 /// A printer that goes before it has printed has been discarded for another preview or print.
-void PdfExport::Watch(const PagePrinter& printer, const std::filesystem::path& target) {
-  const auto finish = [this, number = drafts_, target, done = std::make_shared<bool>(false)](bool printed) {
-    if (!std::exchange(*done, true)) Finish(printed, number, target);
+void PdfExport::Watch(const PagePrinter& printer, const std::filesystem::path& target, Complete complete) {
+  const auto finish = [this, number = drafts_, target, complete = std::move(complete),
+                       done = std::make_shared<bool>(false)](bool printed) {
+    if (std::exchange(*done, true)) return;
+    if (printed && complete) complete(Draft(number));
+    Finish(printed, number, target);
   };
   QGuiApplication::setOverrideCursor(Qt::BusyCursor);
   connect(&printer, &PagePrinter::Printed, this, finish);

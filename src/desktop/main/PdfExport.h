@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -30,8 +31,11 @@ class PdfExport : public QObject {
   /// For the window that is to print the next file: no printer needs to be chosen.
   PagePrinter::AskForPrinter MakePrinter();
 
-  /// The printer of that window, whose file is for `target`.
-  void Watch(const PagePrinter& printer, const std::filesystem::path& target);
+  /// Works on the file that was printed before it goes to its place.
+  using Complete = std::function<void(const std::filesystem::path& draft)>;
+
+  /// The printer of that window, whose file is for `target`. `complete` may be empty.
+  void Watch(const PagePrinter& printer, const std::filesystem::path& target, Complete complete = {});
 
  private:
   std::filesystem::path Draft(int number) const;

@@ -253,7 +253,29 @@ MenuTable WindowMenus::Exam() const {
               Separator(),
               OfTool(kScoreTool, "examScores", kScoreSettings),
               OfTool(kAttachTool, "examAttach", kAttachFiles),
+              Separator(),
+              Sheets(),
           }};
+}
+
+MenuEntry WindowMenus::Sheets() const {
+  using namespace text_id;
+  SheetCommands& sheets = *commands_.sheets;
+  const auto show = [&](const char* name, int text, Sheet sheet) {
+    return MenuEntry{
+        .name = name, .caption = Text(text), .command = [&sheets, sheet] { sheets.Show(sheet); }};
+  };
+  return {.name = "examSheets",
+          .caption = Text(kSheetsMenu),
+          .entries = {show("sheetPaper", kSheetsPaper, Sheet::Paper),
+                      show("sheetSolutions", kSheetsSolutions, Sheet::Solutions),
+                      show("sheetKey", kSheetsKey, Sheet::Key),
+                      show("sheetAnswers", kSheetsAnswers, Sheet::Answers),
+                      Separator(),
+                      {.name = "sheetLarge",
+                       .caption = Text(kSheetsLarge),
+                       .command = [&sheets] { sheets.SwitchLargePrint(); },
+                       .isChecked = [&sheets] { return sheets.IsLargePrint(); }}}};
 }
 
 MenuTable WindowMenus::Help() const {

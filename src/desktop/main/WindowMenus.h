@@ -5,6 +5,7 @@
 #include "desktop/main/HistoryCommands.h"
 #include "desktop/main/MenuBar.h"
 #include "desktop/main/SearchCommands.h"
+#include "desktop/main/SheetCommands.h"
 #include "desktop/main/WindowLayout.h"
 #include "desktop/overview/ShownQuestionCommands.h"
 #include "editor/ExamEditor.h"
@@ -28,6 +29,7 @@ class WindowMenus {
     std::function<void()> quit;
     HistoryCommands* history;
     SearchCommands* search;
+    SheetCommands* sheets;
     std::function<bool()> canUndoImport;
     std::function<void()> undoImport;
     std::function<void()> guide;
@@ -56,6 +58,7 @@ class WindowMenus {
                    void (SearchCommands::*command)()) const;
   MenuTable Question() const;
   MenuTable Exam() const;
+  MenuEntry Sheets() const;
   MenuTable Help() const;
   MenuEntry Kind(const char* name, int text, QuestionKind kind) const;
   /// The commands for the question as a whole.

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// How sheets are put on paper (see render/sheets/).
+#pragma once
+
+#include <QPageLayout>
+
+#include <filesystem>
+
+namespace quorvantis {
+
+/// Their paper and its margins.
+QPageLayout SheetLayout();
+
+/// Adds the numbers of the pages to a PDF file that was printed in this layout, in the corner that the
+/// direction of the page leaves free. A file that is built in an unknown way goes without. False if the file
+/// cannot be read or written.
+bool NumberSheets(const std::filesystem::path& pdf, bool isRightToLeft);
+
+}  // namespace quorvantis
