@@ -6,14 +6,20 @@
 #include "cli/EditSession.h"
 #include "cli/PaperMarksFile.h"
 #include "cli/Version.h"
+#include "host/PlanWords.h"
+#include "model/AnswerLetters.h"
 #include "shell/language/LanguageId.h"
+#include "text/Utf.h"
+#include "versions/VersionNames.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <charconv>
 #include <iostream>
 #include <set>
 #include <span>
+#include <sstream>
 
 namespace quorvantis::cli {
 namespace {
@@ -38,6 +44,7 @@ struct ParsedArguments {
   LearnRequest learn;
   CheckRequest check;
   MatchRequest match;
+  MakeVersionsRequest versions;
   std::vector<ScoreStep> scoreSteps;
   std::set<const CLI::Option*> mayBeEmpty;  ///< options for which an empty text is a valid value
 };
@@ -375,6 +382,105 @@ void AddRules(CLI::App& app, ParsedArguments& arguments, Console& console) {
   AddRulesCheck(*rules, arguments, console);
 }
 
+/// "A,B,C" as the names of versions.
+CLI::Option* AddVersionNames(CLI::App& command, VersionRequest& request) {
+  const auto take = [&request](const std::string& text) {
+    request.names.clear();
+    for (std::size_t at = 0; at <= text.size();) {
+      const std::size_t end = std::min(text.find(',', at), text.size());
+      request.names.push_back(Utf8ToUtf16(std::string_view(text).substr(at, end - at)));
+      at = end + 1;
+    }
+  };
+  return command
+      .add_option_function<std::string>("--names", take, "The names of the versions (default: A,B,…)")
+      ->type_name("A,B,…");
+}
+
+/// "3,7B" as what keeps its place: question 3, and option B of question 7.
+void AddKeptParts(CLI::App& command, TeacherPins& pins) {
+  const auto take = [&pins](const std::string& text) {
+    std::istringstream parts(text);
+    for (std::string part; std::getline(parts, part, ',');) {
+      int number = 0;
+      const char* const end = part.data() + part.size();
+      const auto [rest, error] = std::from_chars(part.data(), end, number);
+      const auto option = end - rest == 1 ? OptionIndex(static_cast<char16_t>(*rest)) : std::nullopt;
+      if (error != std::errc() || !IsQuestionNumber(number) || (rest != end && !option))
+        throw CLI::ValidationError("--keep", "neither a question nor an option: " + part);
+      if (option)
+        pins.options.insert({number, *option});
+      else
+        pins.questions.insert(number);
+    }
+  };
+  command.add_option_function<std::string>("--keep", take, "Questions, and options of questions, that stay")
+      ->type_name("3,7B,…");
+}
+
+void AddVersionMoves(CLI::App& command, VersionRequest& request) {
+  const auto takeMoves = [&request](const std::string& word) { request.moves = *MovesOfWord(word); };
+  command
+      .add_option_function<std::string>("--questions", takeMoves,
+                                        "How far questions move (default: neighbours of one kind and score)")
+      ->type_name("HOW")
+      ->check(CLI::IsMember({"none", "neighbours", "within-kind", "within-score", "all"}));
+  const auto takeOptions = [&request](const std::string& word) { request.movesOptions = word == "on"; };
+  command.add_option_function<std::string>("--options", takeOptions, "Whether options move (default: on)")
+      ->type_name("on|off")
+      ->check(CLI::IsMember({"on", "off"}));
+}
+
+void AddVersionsMake(CLI::App& versions, ParsedArguments& arguments, Console& console) {
+  CLI::App* make =
+      AddCommand(versions, arguments, "make", "Make shuffled versions of an exam with their keys");
+  MakeVersionsRequest& request = arguments.versions;
+  AddPath(*make, "EXAM", request.exam, "Exam file (.exm)");
+  const auto takeCount = [&request](const std::size_t& count) { request.request.names = LetterNames(count); };
+  CLI::Option* count = make->add_option_function<std::size_t>("--count", takeCount, "How many, 1 to 26")
+                           ->type_name("N")
+                           ->check(IsDecimal())
+                           ->check(CLI::Range(std::size_t{1}, kMaxVersions));
+  count->excludes(AddVersionNames(*make, request.request));
+  const auto takeSeed = [&request](const std::uint64_t& seed) {
+    request.request.seed = seed;
+    request.hasSeed = true;
+  };
+  make->add_option_function<std::uint64_t>("--seed", takeSeed,
+                                           "The number that decides the shuffle (default: random)")
+      ->type_name("S")
+      ->check(IsDecimal());
+  make->add_option("--out", request.folder, "The folder to make (default: \"EXAM versions\" beside the exam)")
+      ->type_name("DIR");
+  AddVersionMoves(*make, request.request);
+  AddKeptParts(*make, request.request.pins);
+  make->add_flag("--replace", request.replaces, "Replace versions of this exam that were made there before");
+  make->footer(
+      "HOW is none, neighbours, within-kind, within-score or all; each question keeps its score.\n"
+      "The same exam, seed and options give the same versions everywhere. All is verified at the end.");
+  make->callback([&] {
+    if (arguments.versions.request.names.empty()) throw CLI::RequiredError("--count or --names");
+    MakeVersions(console, arguments.common, arguments.versions);
+  });
+}
+
+void AddVersionsVerify(CLI::App& versions, ParsedArguments& arguments, Console& console) {
+  CLI::App* verify = AddCommand(versions, arguments, "verify", "Check versions and keys against their exam");
+  AddPath(*verify, "DIR", arguments.output, "Folder of versions");
+  verify->add_option("--source", arguments.input, "The exam (default: where it was when they were made)")
+      ->type_name("EXAM");
+  verify->footer("Says which file differs, and where. Fails if a single byte has changed.");
+  verify->callback([&] { VerifyVersions(console, arguments.common, arguments.output, arguments.input); });
+}
+
+void AddVersions(CLI::App& app, ParsedArguments& arguments, Console& console) {
+  CLI::App* versions = app.add_subcommand("versions", "Make or check shuffled versions of an exam");
+  AddCommonOptions(*versions, arguments.common);
+  versions->require_subcommand(1);
+  AddVersionsMake(*versions, arguments, console);
+  AddVersionsVerify(*versions, arguments, console);
+}
+
 void AddMatch(CLI::App& app, ParsedArguments& arguments, Console& console) {
   CLI::App* match = AddCommand(app, arguments, "match", "Try a pattern of import rules on a text");
   const auto add = [match](const char* name, auto& target, const char* description, const char* type) {
@@ -479,6 +585,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddLanguages(app, arguments, console);
   AddImport(app, arguments, console);
   AddRules(app, arguments, console);
+  AddVersions(app, arguments, console);
   AddMatch(app, arguments, console);
   RefuseEmptyArguments(app, arguments.mayBeEmpty);
   if (IsUnknownCommand(app, argumentCount, argumentValues)) {

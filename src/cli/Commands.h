@@ -5,6 +5,7 @@
 #include "cli/ExamSession.h"
 #include "cli/ScoreSteps.h"
 #include "platform/Sheet.h"
+#include "versions/VersionRequest.h"
 
 #include <filesystem>
 #include <optional>
@@ -120,6 +121,23 @@ struct CheckRequest {
 
 /// Prints what rules make of a paper. Throws CommandError if they explain too little of it.
 void CheckRepository(Console& console, const CommonOptions& options, const CheckRequest& request);
+
+/// The arguments of `versions make`.
+struct MakeVersionsRequest {
+  std::filesystem::path exam;
+  std::filesystem::path folder;  ///< empty for the usual one beside the exam
+  VersionRequest request;
+  bool hasSeed = false;  ///< otherwise a random one is taken
+  bool replaces = false;
+};
+
+/// Makes shuffled versions of an exam, verifies them and prints what keeps its place and how alike they are.
+void MakeVersions(Console& console, const CommonOptions& options, MakeVersionsRequest request);
+
+/// Reads a folder of versions again. Throws CommandError if anything in it is wrong. `source` is the exam of
+/// which they were made; empty for where the plan says it is.
+void VerifyVersions(Console& console, const CommonOptions& options, const std::filesystem::path& folder,
+                    const std::filesystem::path& source);
 
 /// The arguments of `match`: a pattern and a text, which is read from the console if none is given; or a file
 /// of patterns and texts.

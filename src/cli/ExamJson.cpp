@@ -2,8 +2,8 @@
 #include "cli/ExamJson.h"
 
 #include "cli/KindNames.h"
-#include "cli/Sha256.h"
 #include "model/ExamFields.h"
+#include "platform/digest/OpenSslDigest.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
@@ -16,6 +16,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 Json AttachmentsToJson(const AttachmentList& names, const AttachmentList& paths) {
+  const OpenSslDigest digest;
   Json list = Json::array();
   for (const auto& [name, path] : ListedFiles(names, paths)) {
     std::error_code error;
@@ -23,7 +24,7 @@ Json AttachmentsToJson(const AttachmentList& names, const AttachmentList& paths)
     list.push_back({{"name", Utf16ToUtf8(name)},
                     {"file", Utf16ToUtf8(PathToText(path.filename()))},
                     {"size", made ? std::filesystem::file_size(path, error) : 0},
-                    {"sha256", Sha256OfFile(path)}});
+                    {"sha256", digest.OfFile(path)}});
   }
   return list;
 }

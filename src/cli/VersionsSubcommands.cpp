@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "host/PlanJson.h"
+#include "platform/TextNumbers.h"
+#include "platform/digest/OpenSslDigest.h"
+#include "platform/posix/Leftover.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
+#include "versions/TargetFolder.h"
+#include "versions/VersionMaker.h"
+#include "versions/VersionVerifier.h"
+
+#include <ostream>
+#include <random>
+
+namespace quorvantis::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kVersionWork = "versions-work";
+
+/// Easy to read out and to type again.
+std::uint64_t RandomSeed() {
+  constexpr std::uint64_t kSeeds = 1'000'000'000;
+  std::random_device device;
+  return (static_cast<std::uint64_t>(device()) << 32 | device()) % kSeeds;
+}
+
+/// What versions need on this machine.
+struct VersionTools {
+  OpenSslDigest digest;
+  PlanJson form{digest};
+  VersionPorts ports{digest, form, [](const fs::path& folder) { return std::make_shared<Leftover>(folder); }};
+};
+
+std::u16string CountText(std::size_t count) {
+  return FormatInteger(static_cast<std::int64_t>(count));
+}
+
+}  // namespace
+
+void MakeVersions(Console& console, const CommonOptions& options, MakeVersionsRequest request) {
+  ExamSession::RequireReadable(request.exam);
+  ExamSession session(console, options);
+  if (!request.hasSeed) request.request.seed = RandomSeed();
+  const fs::path exam = fs::absolute(request.exam).lexically_normal();
+  const fs::path folder =
+      request.folder.empty() ? UsualVersionFolder(exam) : fs::absolute(request.folder).lexically_normal();
+  const VersionTools tools;
+  const VersionMaker maker(session.services, session.services.applicationFolder / kVersionWork, tools.ports);
+  const MadeVersions made = maker.Make({exam, folder, request.request, request.replaces});
+  if (!made.problem.empty())
+    throw CommandError(Utf16ToUtf8(made.problem), made.isCancelled ? kCommandInterrupted : kCommandFailed);
+  const std::u16string seed = Utf8ToUtf16(std::to_string(request.request.seed));
+  const std::u16string done = FillMessage(
+      session.services.strings.Text(text_id::kVersionsMade),
+      {CountText(made.record.plan.versions.size()), PathToText(request.exam), PathToText(folder), seed});
+  console.out << Utf16ToUtf8(done) << "\n";
+  for (const std::u16string& line : made.report) console.out << Utf16ToUtf8(line) << "\n";
+}
+
+void VerifyVersions(Console& console, const CommonOptions& options, const fs::path& folder,
+                    const fs::path& source) {
+  if (!source.empty()) ExamSession::RequireReadable(source);
+  ExamSession session(console, options);
+  const VersionTools tools;
+  const VersionVerifier verifier(session.services, session.services.applicationFolder / kVersionWork,
+                                 tools.ports);
+  const VerifiedVersions verified = verifier.Verify(folder, source);
+  if (!verified.faults.empty()) {
+    for (std::size_t i = 0; i + 1 < verified.faults.size(); ++i)
+      console.Complain(Utf16ToUtf8(verified.faults[i]));
+    throw CommandError(Utf16ToUtf8(verified.faults.back()));
+  }
+  const std::u16string right =
+      FillMessage(session.services.strings.Text(text_id::kVersionsRight),
+                  {CountText(verified.record->plan.versions.size()), PathToText(folder)});
+  console.out << Utf16ToUtf8(right) << "\n";
+}
+
+}  // namespace quorvantis::cli
