@@ -1,34 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "versions/CsvText.h"
 
-#include "text/NumberText.h"
+#include "render/sheets/KeyTable.h"
 #include "text/Utf.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace quorvantis {
 namespace {
-
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
-bool IsNumber(std::u16string_view text) {
-  if (!text.empty() && (text.front() == u'-' || text.front() == u'+')) text.remove_prefix(1);
-  const auto isPart = [](char16_t unit) { return IsDigit(unit) || unit == u'.' || unit == u','; };
-  return !text.empty() && std::ranges::all_of(text, isPart);
-}
-
-bool LooksLikeFormula(std::u16string_view text) {
-  constexpr std::u16string_view kBegins = u"=+-@\t\r";
-  return !text.empty() && kBegins.find(text.front()) != kBegins.npos && !IsNumber(text);
-}
-
-std::u16string Quoted(std::u16string_view text) {
-  if (text.find_first_of(u",\"\r\n") == text.npos) return std::u16string(text);
-  std::u16string quoted = u"\"";
-  for (const char16_t unit : text) quoted.append(unit == u'"' ? 2 : 1, unit);
-  return quoted + u"\"";
-}
 
 /// Reads a table unit by unit.
 class CsvReader {
@@ -84,24 +63,9 @@ class CsvReader {
 
 }  // namespace
 
-std::u16string CsvCell(std::u16string_view text) {
-  std::u16string cell = ReplaceLoneSurrogates(text);
-  return LooksLikeFormula(cell) ? u"'" + cell : cell;
-}
-
-std::string CsvBytes(const std::vector<CsvRow>& rows) {
-  std::u16string text;
-  for (const CsvRow& row : rows) {
-    for (std::size_t i = 0; i < row.size(); ++i)
-      text.append(i == 0 ? u"" : u",").append(Quoted(CsvCell(row[i])));
-    text += u"\r\n";
-  }
-  return std::string(kUtf8Mark) + Utf16ToUtf8(text);
-}
-
 std::optional<std::vector<CsvRow>> ReadCsv(std::string_view bytes) {
-  if (!bytes.starts_with(kUtf8Mark)) return std::nullopt;
-  return CsvReader(Utf8ToUtf16(bytes.substr(kUtf8Mark.size()))).Read();
+  if (!bytes.starts_with(kCsvStart)) return std::nullopt;
+  return CsvReader(Utf8ToUtf16(bytes.substr(kCsvStart.size()))).Read();
 }
 
 }  // namespace quorvantis

@@ -132,12 +132,11 @@ class Making {
     const VersionPlan& plan = made_.record.plan;
     for (std::size_t i = 0; i < plan.versions.size(); ++i) {
       const PlannedVersion& version = plan.versions[i];
-      const std::u16string problem =
-          WriteFile(KeyFileOf(version.name), CsvBytes(KeyTableOf(papers_[i], version)));
+      const std::u16string problem = WriteFile(KeyFileOf(version.name), VersionKeyCsv(papers_[i], version));
       if (!problem.empty()) return problem;
     }
     const std::u16string problem =
-        WriteFile(std::u16string(kCombinedKeysFile), CsvBytes(CombinedKeys(papers_, plan)));
+        WriteFile(std::u16string(kCombinedKeysFile), CombinedKeysCsv(papers_, plan));
     return problem.empty() ? WriteFile(std::u16string(kReportFile), ReportText()) : problem;
   }
 

@@ -29,6 +29,25 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using Table = std::vector<CsvRow>;
+
+/// Empty outside of the table.
+std::u16string CellAt(const Table& table, std::size_t line, std::size_t column) {
+  return line < table.size() && column < table[line].size() ? table[line][column] : std::u16string();
+}
+
+/// The line and column of the first cell that differs; those of the first cell if only the form differs.
+std::pair<std::size_t, std::size_t> FirstDifference(const Table& table, const Table& other) {
+  for (std::size_t line = 0; line < std::max(table.size(), other.size()); ++line) {
+    const std::size_t columns =
+        std::max(line < table.size() ? table[line].size() : 0, line < other.size() ? other[line].size() : 0);
+    for (std::size_t column = 0; column < columns; ++column) {
+      if (CellAt(table, line, column) != CellAt(other, line, column)) return {line, column};
+    }
+  }
+  return {};
+}
+
 /// Verifies one folder.
 class Verification {
  public:
@@ -109,10 +128,10 @@ class Verification {
       if (!CheckPlan(source, version)) return;
       for (const std::u16string& what : CompareWithSource(source.Exam(), version, exam.Exam()))
         TellOf(file, what);
-      CheckTable(KeyFileOf(version.name), KeyTableOf(exam.Exam(), version));
+      CheckTable(KeyFileOf(version.name), VersionKeyCsv(exam.Exam(), version));
       papers.push_back(exam.Exam());
     }
-    CheckTable(std::u16string(kCombinedKeysFile), CombinedKeys(papers, plan));
+    CheckTable(std::u16string(kCombinedKeysFile), CombinedKeysCsv(papers, plan));
   }
 
   bool CheckPlan(const ReadExam& source, const PlannedVersion& planned) {
@@ -125,23 +144,20 @@ class Verification {
     return true;
   }
 
-  /// That a table in a file says the same as `wanted`, cell by cell.
-  void CheckTable(const std::u16string& file, const std::vector<CsvRow>& wanted) {
+  /// That a table in a file says the same as `wanted`.
+  void CheckTable(const std::u16string& file, std::string_view wanted) {
     const auto bytes = ReadWholeFile(folder_ / TextToPath(file), kLargestTable);
+    if (bytes == wanted) return;
     const auto rows = bytes ? ReadCsv(*bytes) : std::nullopt;
-    if (!rows) return TellOf(file, services_.strings.Text(text_id::kTableUnreadable));
-    for (std::size_t line = 0; line < std::max(rows->size(), wanted.size()); ++line) {
-      const CsvRow row = line < rows->size() ? (*rows)[line] : CsvRow();
-      const CsvRow right = line < wanted.size() ? wanted[line] : CsvRow();
-      for (std::size_t column = 0; column < std::max(row.size(), right.size()); ++column) {
-        const std::u16string cell = column < row.size() ? row[column] : std::u16string();
-        const std::u16string rightCell = column < right.size() ? CsvCell(right[column]) : std::u16string();
-        if (cell == rightCell && row.size() == right.size()) continue;
-        return TellOf(file, Filled(text_id::kCellDiffers,
-                                   {FormatInteger(static_cast<std::int64_t>(line) + 1),
-                                    FormatInteger(static_cast<std::int64_t>(column) + 1), cell, rightCell}));
-      }
-    }
+    const auto right = ReadCsv(wanted);
+    if (!rows || !right) return TellOf(file, services_.strings.Text(text_id::kTableUnreadable));
+    const auto [line, column] = FirstDifference(*rows, *right);
+    TellOf(file, Filled(text_id::kCellDiffers, {Number(line), Number(column), CellAt(*rows, line, column),
+                                                CellAt(*right, line, column)}));
+  }
+
+  static std::u16string Number(std::size_t index) {
+    return FormatInteger(static_cast<std::int64_t>(index) + 1);
   }
 
   const ExamServices& services_;
