@@ -455,6 +455,8 @@ void AddVersionsMake(CLI::App& versions, ParsedArguments& arguments, Console& co
   AddVersionMoves(*make, request.request);
   AddKeptParts(*make, request.request.pins);
   make->add_flag("--replace", request.replaces, "Replace versions of this exam that were made there before");
+  const auto skipSheets = [&request] { request.printsSheets = false; };
+  make->add_flag_callback("--no-pdf", skipSheets, "Make no PDF files, which take most of the time");
   make->footer(
       "HOW is none, neighbours, within-kind, within-score or all; each question keeps its score.\n"
       "The same exam, seed and options give the same versions everywhere. All is verified at the end.");

@@ -129,6 +129,7 @@ struct MakeVersionsRequest {
   VersionRequest request;
   bool hasSeed = false;  ///< otherwise a random one is taken
   bool replaces = false;
+  bool printsSheets = true;
 };
 
 /// Makes shuffled versions of an exam, verifies them and prints what keeps its place and how alike they are.

@@ -5,6 +5,8 @@
 #include "platform/TextNumbers.h"
 #include "platform/digest/OpenSslDigest.h"
 #include "platform/posix/Leftover.h"
+#include "platform/programs/PdfProgram.h"
+#include "platform/programs/PopplerPdfText.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
@@ -32,9 +34,15 @@ std::uint64_t RandomSeed() {
 
 /// What versions need on this machine.
 struct VersionTools {
+  explicit VersionTools(const CommonOptions& options)
+      : printer(PdfProgram::Find(), options.language.value_or(0)) {}
+
   OpenSslDigest digest;
   PlanJson form{digest};
-  VersionPorts ports{digest, form, [](const fs::path& folder) { return std::make_shared<Leftover>(folder); }};
+  PdfProgram printer;
+  PopplerPdfText pdfText;
+  VersionPorts ports{digest, form, &printer, &pdfText,
+                     [](const fs::path& folder) { return std::make_shared<Leftover>(folder); }};
 };
 
 std::u16string CountText(std::size_t count) {
@@ -50,7 +58,8 @@ void MakeVersions(Console& console, const CommonOptions& options, MakeVersionsRe
   const fs::path exam = fs::absolute(request.exam).lexically_normal();
   const fs::path folder =
       request.folder.empty() ? UsualVersionFolder(exam) : fs::absolute(request.folder).lexically_normal();
-  const VersionTools tools;
+  VersionTools tools(options);
+  if (!request.printsSheets) tools.ports.printer = nullptr;
   const VersionMaker maker(session.services, session.services.applicationFolder / kVersionWork, tools.ports);
   const MadeVersions made = maker.Make({exam, folder, request.request, request.replaces});
   if (!made.problem.empty())
@@ -67,7 +76,7 @@ void VerifyVersions(Console& console, const CommonOptions& options, const fs::pa
                     const fs::path& source) {
   if (!source.empty()) ExamSession::RequireReadable(source);
   ExamSession session(console, options);
-  const VersionTools tools;
+  const VersionTools tools(options);
   const VersionVerifier verifier(session.services, session.services.applicationFolder / kVersionWork,
                                  tools.ports);
   const VerifiedVersions verified = verifier.Verify(folder, source);

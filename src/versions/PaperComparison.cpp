@@ -5,6 +5,7 @@
 #include "model/QuestionKinds.h"
 #include "platform/TextNumbers.h"
 #include "render/sheets/KeyTable.h"
+#include "text/AsciiCase.h"
 #include "text/ComparableText.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
@@ -31,34 +32,56 @@ class PrintedText {
     const std::size_t found = text_.find(comparable, at_);
     if (found == text_.npos) return FindScattered(wanted);
     at_ = found + comparable.size();
+    isMarked_ = found > 0 && text_[found - 1] == kRightSign;
     return true;
   }
 
+  /// Whether the sign of a right option stands before what was found last.
+  bool IsMarked() const { return isMarked_; }
+
  private:
-  /// Where words run in both directions, a line may have been read in another order: then each word must stand
-  /// near, as must single units of words that were cut.
+  /// Where a text runs from right to left, a line may have been read in another order: then each of its words
+  /// and numbers must stand near.
   bool FindScattered(std::u16string_view wanted) {
     constexpr std::size_t kNear = 400;
-    const auto isMixed = [](char16_t unit) { return unit >= 0x590 && unit <= 0x8FF; };
-    if (std::ranges::none_of(wanted, isMixed)) return false;
+    if (std::ranges::none_of(wanted, IsRightToLeft)) return false;
     const std::size_t begin = at_ - std::min(at_, kNear);
-    const std::u16string_view near =
-        std::u16string_view(text_).substr(begin, 2 * kNear + 2 * wanted.size());
+    const std::u16string_view near = std::u16string_view(text_).substr(begin, 2 * kNear + 2 * wanted.size());
     std::size_t furthest = at_;
-    for (std::size_t at = 0; at < wanted.size();) {
-      const std::size_t end = std::min(wanted.find_first_of(u" \t\r\n", at), wanted.size());
-      const std::u16string word = ComparableText(wanted.substr(at, end - at));
+    while (!wanted.empty()) {
+      const std::u16string word = ComparableText(TakeWord(wanted));
       const std::size_t found = near.find(word);
       if (found == near.npos) return false;
       furthest = std::max(furthest, begin + found);
-      at = end + 1;
     }
     at_ = furthest;
+    isMarked_ = false;
     return true;
+  }
+
+  static bool IsRightToLeft(char16_t unit) { return unit >= 0x590 && unit <= 0x8FF; }
+  /// No mark that may stand at either end of a word.
+  static bool IsOfWord(char16_t unit) {
+    constexpr std::u16string_view kMarks = u"\u060C\u061B\u061F\u066A\u066B\u066C\u06D4";
+    return IsDigit(unit) || AsciiUpper(unit) != AsciiLower(unit) ||
+           (unit >= 0xC0 && (unit < 0x2000 || unit >= 0x3040) && kMarks.find(unit) == kMarks.npos);
+  }
+
+  /// The next letters or digits of one direction.
+  static std::u16string_view TakeWord(std::u16string_view& text) {
+    const auto* const begin = std::ranges::find_if(text, IsOfWord);
+    const auto goesOn = [begin](char16_t unit) {
+      return IsOfWord(unit) && IsRightToLeft(unit) == IsRightToLeft(*begin);
+    };
+    const auto* const end = std::find_if_not(begin, text.end(), goesOn);
+    const std::u16string_view word(begin, static_cast<std::size_t>(end - begin));
+    text.remove_prefix(static_cast<std::size_t>(end - text.begin()));
+    return word;
   }
 
   std::u16string text_;
   std::size_t at_ = 0;
+  bool isMarked_ = false;
 };
 
 /// The pages without the lines that have the code.
@@ -103,16 +126,18 @@ class SheetComparison {
     return MissingText(number, {});
   }
 
+  /// The sign of a right option stands before its letter or, where letters come first, behind it.
   std::u16string MissingOption(std::size_t i, const std::u16string& option, std::u16string_view key) {
     if (option.empty()) return {};
-    std::u16string label(1, OptionLetter(i));
-    const bool isRight = key.find(OptionLetter(i)) != key.npos;
-    if (sheet_ == Sheet::Solutions && isRight) label.insert(0, 1, kRightSign);
-    return MissingText(label, option);
+    const std::u16string letter(1, OptionLetter(i));
+    const bool isRight = sheet_ == Sheet::Solutions && key.find(letter) != key.npos;
+    if (isRight && MissingText(kRightSign + letter, option).empty()) return {};
+    const std::u16string missing = MissingText(isRight ? letter + kRightSign : letter, option);
+    return missing.empty() && printed_.IsMarked() ? kRightSign + letter : missing;
   }
 
   /// The label directly before the first piece, then the others.
-  std::u16string MissingText(std::u16string label, std::u16string_view markup) {
+  std::u16string MissingText(const std::u16string& label, std::u16string_view markup) {
     std::vector<std::u16string> pieces = VisiblePieces(markup);
     if (pieces.empty()) pieces.emplace_back();
     pieces.front().insert(0, label + u" ");
@@ -141,8 +166,7 @@ std::vector<std::u16string> ComparePaper(const FrameSetExam& exam, Sheet sheet, 
   if (printed.problem || printed.pages.empty()) return {strings.Text(text_id::kPdfUnreadable)};
   std::vector<std::u16string> lines;
   if (!HasOnEveryPage(printed, head.code) || !HasOnEveryPage(printed, head.versionName))
-    lines.push_back(
-        FillMessage(strings.Text(text_id::kPaperLacksCode), {head.versionName, head.code}));
+    lines.push_back(FillMessage(strings.Text(text_id::kPaperLacksCode), {head.versionName, head.code}));
   if (sheet == Sheet::Answers) return lines;
   SheetComparison comparison(exam, sheet, WithoutFeet(printed, head.code));
   for (const KeyRow& key : KeyTable(exam)) {

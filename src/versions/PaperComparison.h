@@ -12,9 +12,9 @@
 namespace quorvantis {
 
 /// What a printed sheet of a counted exam lacks, one line each, for the user: question by question, its
-/// number, text and options with their letters in their order, the sign at each right option of solutions, the
-/// key of each question on a key; and the name and the code of the version on every page. At most one line for
-/// a question.
+/// number, text and options with their letters in their order, the sign at each right option of solutions,
+/// the key of each question on a key; and the name and the code of the version on every page. At most one
+/// line for a question.
 std::vector<std::u16string> ComparePaper(const FrameSetExam& exam, Sheet sheet, const SheetHead& head,
                                          const PdfPages& printed, const StringTable& strings);
 

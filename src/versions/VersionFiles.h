@@ -2,6 +2,8 @@
 // The files in a folder of versions.
 #pragma once
 
+#include "platform/Sheet.h"
+
 #include <string>
 #include <string_view>
 
@@ -19,6 +21,24 @@ inline std::u16string ExamFileOf(std::u16string_view version) {
 }
 inline std::u16string KeyFileOf(std::u16string_view version) {
   return std::u16string(version) + u" key.csv";
+}
+
+/// What is printed of each version.
+inline constexpr Sheet kVersionSheets[] = {Sheet::Paper, Sheet::Solutions, Sheet::Key, Sheet::Answers};
+
+inline std::u16string SheetFileOf(std::u16string_view version, Sheet sheet) {
+  const auto file = [version](std::u16string_view what) { return std::u16string(version).append(what); };
+  switch (sheet) {
+    case Sheet::Paper:
+      return file(u" paper.pdf");
+    case Sheet::Solutions:
+      return file(u" solutions.pdf");
+    case Sheet::Key:
+      return file(u" key.pdf");
+    case Sheet::Answers:
+      break;
+  }
+  return file(u" sheet.pdf");
 }
 
 }  // namespace quorvantis

@@ -5,6 +5,7 @@
 #include "examfile/FileFailure.h"
 #include "examfile/WorkFolder.h"
 #include "platform/FileDigest.h"
+#include "platform/PaperPrinter.h"
 #include "platform/Progress.h"
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
@@ -25,9 +26,10 @@
 #include "versions/VersionNames.h"
 #include "versions/VersionPlanner.h"
 #include "versions/VersionReport.h"
+#include "versions/VersionSheets.h"
 #include "versions/VersionVerifier.h"
 
-#include <functional>
+#include <set>
 #include <utility>
 
 namespace quorvantis {
@@ -56,8 +58,9 @@ class Making {
 
   MadeVersions Run() {
     using Step = std::u16string (Making::*)();
-    for (const Step step : {&Making::Begin, &Making::Plan, &Making::WriteVersions, &Making::WriteTables,
-                            &Making::WritePlan, &Making::Verify, &Making::Finish}) {
+    for (const Step step :
+         {&Making::Begin, &Making::Plan, &Making::WriteVersions, &Making::WriteTables, &Making::Print,
+          &Making::WriteReport, &Making::WritePlan, &Making::Verify, &Making::Finish}) {
       made_.problem = (this->*step)();
       if (!made_.problem.empty()) break;
     }
@@ -104,10 +107,10 @@ class Making {
 
   std::u16string WriteVersions() {
     const std::vector<PlannedVersion>& versions = made_.record.plan.versions;
-    PartOfProgress half(services_.progress, 0, 2);
+    PartOfProgress third(services_.progress, 0, 3);
     for (std::size_t i = 0; i < versions.size(); ++i) {
       if (services_.progress.IsCancelled()) return Cancelled();
-      PartOfProgress part(half, i, versions.size());
+      PartOfProgress part(third, i, versions.size());
       const std::u16string problem = WriteVersion(versions[i], part);
       if (!problem.empty()) return problem;
     }
@@ -135,15 +138,36 @@ class Making {
       const std::u16string problem = WriteFile(KeyFileOf(version.name), VersionKeyCsv(papers_[i], version));
       if (!problem.empty()) return problem;
     }
-    const std::u16string problem =
-        WriteFile(std::u16string(kCombinedKeysFile), CombinedKeysCsv(papers_, plan));
-    return problem.empty() ? WriteFile(std::u16string(kReportFile), ReportText()) : problem;
+    return WriteFile(std::u16string(kCombinedKeysFile), CombinedKeysCsv(papers_, plan));
   }
 
-  std::string ReportText() const {
+  /// Without PDF files, versions are good for all the same.
+  std::u16string Print() {
+    if (ports_.printer == nullptr) return {};
+    PartOfProgress third(services_.progress, 1, 3);
+    const auto problem = PrintSheets(pending_.Path(), made_.record, *ports_.printer, third);
+    if (services_.progress.IsCancelled()) return Cancelled();
+    if (problem) {
+      made_.report.push_back(Filled(text_id::kVersionsNoSheets, {Utf8ToUtf16(*problem)}));
+      return {};
+    }
+    std::set<int> lengths;
+    for (const PlannedVersion& version : made_.record.plan.versions) {
+      for (const Sheet sheet : kVersionSheets) {
+        const std::u16string file = SheetFileOf(version.name, sheet);
+        const int pages = ports_.printer->PageCount(pending_.Path() / TextToPath(file)).value_or(0);
+        Note(file, pages);
+        if (sheet == Sheet::Paper) lengths.insert(pages);
+      }
+    }
+    if (lengths.size() > 1) made_.report.push_back(services_.strings.Text(text_id::kVersionsPagesDiffer));
+    return {};
+  }
+
+  std::u16string WriteReport() {
     std::string text;
     for (const std::u16string& line : made_.report) text += Utf16ToUtf8(line) + "\n";
-    return text;
+    return WriteFile(std::u16string(kReportFile), text);
   }
 
   std::u16string WritePlan() {
@@ -161,13 +185,13 @@ class Making {
     return {};
   }
 
-  void Note(const std::u16string& name) {
-    made_.record.files.push_back({name, ports_.digest.OfFile(pending_.Path() / TextToPath(name))});
+  void Note(const std::u16string& name, int pages = 0) {
+    made_.record.files.push_back({name, ports_.digest.OfFile(pending_.Path() / TextToPath(name)), pages});
   }
 
   std::u16string Verify() {
-    PartOfProgress half(services_.progress, 1, 2);
-    const ExamServices services = ServicesWith(services_, half);
+    PartOfProgress third(services_.progress, 2, 3);
+    const ExamServices services = ServicesWith(services_, third);
     const VersionVerifier verifier(services, verifyFolder_, ports_);
     const VerifiedVersions verified = verifier.Verify(pending_.Path(), order_.exam);
     if (verified.isCancelled) return Cancelled();

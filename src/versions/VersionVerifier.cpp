@@ -4,6 +4,7 @@
 #include "examfile/WorkFolder.h"
 #include "model/document/ExamServices.h"
 #include "platform/FileDigest.h"
+#include "platform/PdfText.h"
 #include "platform/Progress.h"
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
@@ -14,6 +15,7 @@
 #include "text/Utf.h"
 #include "versions/CsvText.h"
 #include "versions/ExamComparison.h"
+#include "versions/PaperComparison.h"
 #include "versions/PartOfProgress.h"
 #include "versions/PinsHold.h"
 #include "versions/ReadExam.h"
@@ -129,6 +131,7 @@ class Verification {
       for (const std::u16string& what : CompareWithSource(source.Exam(), version, exam.Exam()))
         TellOf(file, what);
       CheckTable(KeyFileOf(version.name), VersionKeyCsv(exam.Exam(), version));
+      CheckSheets(exam.Exam(), papers.size());
       papers.push_back(exam.Exam());
     }
     CheckTable(std::u16string(kCombinedKeysFile), CombinedKeysCsv(papers, plan));
@@ -142,6 +145,22 @@ class Verification {
     if (const int moved = QuestionNotKept(verified_.record->plan, planned))
       TellOf(ExamFileOf(planned.name), Filled(text_id::kPinnedPartMoved, {FormatInteger(moved)}));
     return true;
+  }
+
+  /// That each PDF file of a version shows what it should.
+  void CheckSheets(const FrameSetExam& exam, std::size_t version) {
+    const PlanRecord& record = *verified_.record;
+    const SheetHead head{record.plan.versions[version].name, Utf8ToUtf16(record.codes[version])};
+    for (const Sheet sheet : kVersionSheets) {
+      const std::u16string file = SheetFileOf(head.versionName, sheet);
+      const auto made = std::ranges::find(record.files, file, &MadeFile::name);
+      if (made == record.files.end() || IsStopped()) continue;
+      services_.progress.Wait();
+      const PdfPages printed = ports_.pdfText != nullptr ? ports_.pdfText->Read(folder_ / TextToPath(file))
+                                                         : PdfPages{{}, "cannot be read here"};
+      for (const std::u16string& what : ComparePaper(exam, sheet, head, printed, services_.strings))
+        TellOf(file, what);
+    }
   }
 
   /// That a table in a file says the same as `wanted`.

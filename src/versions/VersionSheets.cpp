@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "versions/VersionSheets.h"
+
+#include "text/PathText.h"
+#include "text/Utf.h"
+#include "versions/VersionFiles.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+namespace quorvantis {
+namespace {
+
+std::vector<PaperJob> JobsFor(const std::filesystem::path& folder, const PlanRecord& record) {
+  std::vector<PaperJob> jobs;
+  for (std::size_t i = 0; i < record.plan.versions.size(); ++i) {
+    const std::u16string& name = record.plan.versions[i].name;
+    for (const Sheet sheet : kVersionSheets)
+      jobs.push_back({folder / TextToPath(ExamFileOf(name)), folder / TextToPath(SheetFileOf(name, sheet)),
+                      sheet, name, Utf8ToUtf16(record.codes[i])});
+  }
+  return jobs;
+}
+
+/// The papers that are shorter than the longest, to be printed again with as many pages.
+std::vector<PaperJob> ShortPapers(const std::vector<PaperJob>& jobs, PaperPrinter& printer) {
+  std::vector<std::pair<PaperJob, int>> papers;
+  int most = 0;
+  for (const PaperJob& job : jobs) {
+    if (job.sheet != Sheet::Paper) continue;
+    papers.emplace_back(job, printer.PageCount(job.target).value_or(0));
+    most = std::max(most, papers.back().second);
+  }
+  std::vector<PaperJob> again;
+  for (auto& [job, pages] : papers) {
+    if (pages == most) continue;
+    job.pages = most;
+    again.push_back(std::move(job));
+  }
+  return again;
+}
+
+}  // namespace
+
+std::optional<std::string> PrintSheets(const std::filesystem::path& folder, const PlanRecord& record,
+                                       PaperPrinter& printer, Progress& progress) {
+  const std::vector<PaperJob> jobs = JobsFor(folder, record);
+  std::optional<std::string> problem = printer.Print(jobs, progress);
+  if (!problem) problem = printer.Print(ShortPapers(jobs, printer), progress);
+  std::error_code ignored;
+  for (const PaperJob& job : jobs) {
+    if (problem) std::filesystem::remove(job.target, ignored);
+  }
+  return problem;
+}
+
+}  // namespace quorvantis
