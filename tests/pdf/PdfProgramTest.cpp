@@ -82,9 +82,9 @@ TEST_F(PdfProgramTest, SeveralSheetsAreMadeInOneStartAndFilledUp) {
                                    {file, folder / "s.pdf", Sheet::Answers, u"A", u"", true}};
   ASSERT_EQ(program.Print(jobs, progress), std::nullopt);
   EXPECT_EQ(program.PageCount(folder / "a.pdf"), 3);
-  const std::vector<std::u16string> pages = PagesOf(folder / "a.pdf");
-  ASSERT_EQ(pages.size(), 3U);
-  EXPECT_NE(ComparableText(pages[2]).find(ComparableText(u"3 / 3")), std::u16string::npos);
+  const std::vector<std::u16string> papers = PagesOf(folder / "a.pdf");
+  ASSERT_EQ(papers.size(), 3U);
+  EXPECT_NE(ComparableText(papers[2]).find(ComparableText(u"3 / 3")), std::u16string::npos);
   EXPECT_EQ(program.PageCount(folder / "k.pdf"), 1);
   EXPECT_EQ(program.PageCount(folder / "s.pdf"), 1);
   EXPECT_EQ(program.PageCount(file), std::nullopt);
