@@ -61,6 +61,15 @@ std::u16string Patterns(std::u16string_view text) {
   return patterns;
 }
 
+/// "%1" or "%s"; a sign of percent stands alone.
+bool HasPlaceholder(std::u16string_view text) {
+  for (std::size_t at = text.find(u'%'); at + 1 < text.size(); at = text.find(u'%', at + 1)) {
+    const char16_t next = text[at + 1];
+    if ((next >= u'0' && next <= u'9') || (next >= u'a' && next <= u'z')) return true;
+  }
+  return false;
+}
+
 void ExpectTranslation(int number, const std::u16string& text, const std::u16string& english) {
   SCOPED_TRACE(number);
   const Placeholders placeholders(text);
@@ -72,7 +81,8 @@ void ExpectTranslation(int number, const std::u16string& text, const std::u16str
   }
   for (const char16_t* count : {u"0", u"1", u"2", u"7", u"38", u"100"}) {
     const auto filled = FillMessage(text, {count, count, count, count, count});
-    EXPECT_EQ(filled.find_first_of(isCounted(text) ? u"%{}|" : u"%{}"), filled.npos) << Utf16ToUtf8(filled);
+    EXPECT_EQ(filled.find_first_of(isCounted(text) ? u"{}|" : u"{}"), filled.npos) << Utf16ToUtf8(filled);
+    EXPECT_FALSE(HasPlaceholder(filled)) << Utf16ToUtf8(filled);
   }
 }
 
