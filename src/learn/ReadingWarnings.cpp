@@ -119,7 +119,8 @@ class WarningSearch {
     if (!isUsed && !rules_.m_strPreAllAnswer.empty()) return;
     try {
       const KeyAtEndReport report = ReportKeyAtEnd(paper_, rules_, {});
-      if (report.isUnmatched || (report.isFound && !isUsed)) Add({Kind::KeyUnmatched});
+      const bool stays = report.isUnmatched || (report.isFound && !isUsed);
+      if (stays || std::ranges::any_of(questions_, ShowsKeyLine)) Add({Kind::KeyUnmatched});
       if (isUsed) TellLeftovers(report);
       for (const KeyConflict& conflict : report.conflicts) {
         if (conflict.question >= questions_.size()) continue;

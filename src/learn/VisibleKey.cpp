@@ -5,7 +5,7 @@
 #include "import/labels/OptionSigns.h"
 #include "import/marking/ImportMarkers.h"
 #include "import/prepare/AnswerWords.h"
-#include "import/prepare/KeyTokens.h"
+#include "import/prepare/KeyReader.h"
 #include "import/prepare/PreparedLabels.h"
 #include "model/AnswerLetters.h"
 
@@ -82,11 +82,14 @@ std::u16string KeyLineBehind(std::u16string_view text) {
   constexpr std::size_t kFewest = 2;
   const std::vector<TextSpan> lines = LinesOf(text, {0, text.size()});
   std::size_t inARow = 0;
+  KeyLineReader reader(text);
   for (std::size_t i = 1; i < lines.size(); ++i) {
     const TextSpan line = Trimmed(text, lines[i]);
     if (line.IsEmpty()) continue;
-    const std::size_t entries = EntriesOfLine(text, line).size();
-    inARow = entries > 0 ? inARow + entries : 0;
+    const KeyLineReading reading = reader.Read(lines[i]);
+    const std::size_t entries = reading.entries.size();
+    const bool goesOn = entries > 0 || reading.kind == KeyLineKind::NumberRow;
+    inARow = goesOn ? inARow + entries : 0;
     const bool isHeading =
         IsBareAnswerHeading(line.Of(text)) && !Trimmed(text, {line.end, text.size()}).IsEmpty();
     if (inARow >= kFewest || isHeading) return ExcerptAt(text, line.begin);
@@ -115,6 +118,15 @@ std::u16string SignedOption(const ReadQuestion& question) {
   return signedOne == nullptr || isAtAll ? std::u16string() : ExcerptAt(*signedOne, 0);
 }
 
+std::u16string ShownKeyLine(const ReadQuestion& question) {
+  std::u16string found = KeyLineBehind(question.text);
+  for (const std::u16string& option : question.options) {
+    if (found.empty()) found = KeyLineBehind(option);
+  }
+  const bool isAnswer = question.kind != ReadKind::Choice && IsAnswerOfKey(question.text);
+  return found.empty() && isAnswer ? ExcerptAt(question.text, 0) : found;
+}
+
 std::u16string LeftOver(std::u16string_view text) {
   const std::size_t place = std::min(text.find(kPreparedOpen), text.find(kAnswerMarker));
   return place == text.npos ? LabelledAnswer(text) : ExcerptAt(text, place);
@@ -127,14 +139,14 @@ std::u16string VisibleKey(const ReadQuestion& question) {
   for (const std::u16string& option : question.options) {
     if (found.empty()) found = LeftOver(option);
   }
-  if (found.empty()) found = KeyLineBehind(question.text);
-  for (const std::u16string& option : question.options) {
-    if (found.empty()) found = KeyLineBehind(option);
-  }
-  if (question.kind != ReadKind::Choice)
-    return found.empty() && IsAnswerOfKey(question.text) ? ExcerptAt(question.text, 0) : found;
+  if (found.empty()) found = ShownKeyLine(question);
+  if (question.kind != ReadKind::Choice) return found;
   if (found.empty()) found = KeyInBrackets(question);
   return found.empty() ? SignedOption(question) : found;
+}
+
+bool ShowsKeyLine(const ReadQuestion& question) {
+  return !ShownKeyLine(question).empty();
 }
 
 }  // namespace quorvantis

@@ -11,4 +11,7 @@ namespace quorvantis {
 /// a sign at an option, what a step has put in. Empty if nothing does.
 std::u16string VisibleKey(const ReadQuestion& question);
 
+/// Whether a whole line of a key at the end stands in such a text, or was taken for a question.
+bool ShowsKeyLine(const ReadQuestion& question);
+
 }  // namespace quorvantis

@@ -386,6 +386,7 @@ std::u16string_view WithoutWord(std::u16string_view text) {
 /// The words of a line that may be a heading; none of a long one.
 struct HeadingCount {
   int headings = 0;
+  bool hasVerb = false;  ///< "Answer", which may ask for answers
   int fillers = 0;
   int others = 0;
 };
@@ -400,6 +401,7 @@ HeadingCount CountHeadingWords(std::u16string_view line) {
       rest.remove_prefix(1);
     } else if (const std::size_t size = LongestWordAt(rest, kHeadingWords); size > 0) {
       ++count.headings;
+      count.hasVerb = count.hasVerb || rest.substr(0, size) == u"answer";
       rest.remove_prefix(size);
     } else if (const std::size_t filler = LongestWordAt(rest, kHeadingFillers); filler > 0) {
       ++count.fillers;
@@ -423,7 +425,7 @@ AnswerHeading AnswerHeadingOf(std::u16string_view line) {
 
 bool IsBareAnswerHeading(std::u16string_view line) {
   const HeadingCount count = CountHeadingWords(line);
-  return count.headings > 0 && count.others == 0 && count.fillers == 0;
+  return count.headings > 0 && count.others == 0 && (count.fillers == 0 || !count.hasVerb);
 }
 
 bool IsPartTitle(std::u16string_view line) {

@@ -16,7 +16,7 @@ enum class AnswerHeading {
 
 AnswerHeading AnswerHeadingOf(std::u16string_view line);
 
-/// Whether a line consists of such words alone: "Answers", but not "Answer the questions".
+/// Whether a line can't be anything but such a heading: "Answers", but not "Answer the questions".
 bool IsBareAnswerHeading(std::u16string_view line);
 
 /// Whether a line is, or begins with, the title of a part: "Part B", "二、填空题", "Section 2: essays".

@@ -2,6 +2,7 @@
 #include "import/prepare/KeyHeadings.h"
 
 #include "import/labels/LineText.h"
+#include "import/prepare/KeyParts.h"
 #include "import/prepare/KeyReader.h"
 
 #include <algorithm>
@@ -13,7 +14,10 @@ namespace {
 class HeadingSearch {
  public:
   HeadingSearch(std::u16string_view text, const PaperOutline& outline)
-      : text_(text), outline_(outline), lines_(LinesOf(text, {0, text.size()})) {}
+      : text_(text),
+        outline_(outline),
+        lines_(LinesOf(text, {0, text.size()})),
+        titles_(PartTitlesOf(text, outline.questions)) {}
 
   std::vector<HeadingPlace> Headings() const {
     constexpr std::size_t kMostHeadings = 12;
@@ -28,7 +32,8 @@ class HeadingSearch {
     if (outline_.questions.empty()) return headings;
     for (std::size_t i = 0; i < lines_.size(); ++i) {
       if (lines_[i].end <= outline_.questions.front().label.end) continue;
-      const HeadingPlace heading = HeadingOf(lines_[i]);
+      HeadingPlace heading = HeadingOf(lines_[i]);
+      if (heading.heading == AnswerHeading::None) heading = RepeatedTitle(lines_[i]);
       if (heading.heading == AnswerHeading::None || !IsKeyBehind(i, heading)) continue;
       if (headings.size() == kMostHeadings) headings.erase(headings.begin() + kMostFirst);
       headings.push_back(heading);
@@ -61,6 +66,20 @@ class HeadingSearch {
         return {trimmed.begin, begin, AnswerHeading::Clear};
     }
     return {};
+  }
+
+  /// The title of a part that the paper has had: what follows may be the answers to it.
+  HeadingPlace RepeatedTitle(TextSpan line) const {
+    constexpr std::size_t kLongest = 40;
+    const TextSpan title = Trimmed(text_, {line.begin, std::min(line.end, line.begin + kLongest)});
+    if (titles_.empty() || !IsPartTitle(title.Of(text_))) return {};
+    const PartName name = PartNameOf(title.Of(text_));
+    const bool isAgain = std::ranges::any_of(titles_, [&](const PartTitle& other) {
+      return outline_.questions[other.question].label.begin < line.begin && other.name.number > 0 &&
+             other.name.number == name.number && other.name.before == name.before;
+    });
+    if (!isAgain) return {};
+    return {title.begin, title.begin, AnswerHeading::Possible};
   }
 
   bool AreAnswers(TextSpan line) const {
@@ -111,6 +130,7 @@ class HeadingSearch {
   std::u16string_view text_;
   const PaperOutline& outline_;
   std::vector<TextSpan> lines_;
+  std::vector<PartTitle> titles_;
 };
 
 }  // namespace

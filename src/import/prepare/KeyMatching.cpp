@@ -125,7 +125,8 @@ class RunMatching {
   }
 
   bool FitsByName(const NumberedRun& key, const NumberedRun& paper) const {
-    return Common(key, paper).size() == key.Size() && AreAmongOptions(Common(key, paper));
+    const std::vector<MatchedEntry> common = Common(key, paper);
+    return common.size() * 2 > key.Size() && AreAmongOptions(common);
   }
 
   bool Lay(const std::vector<NumberedRun>& keys, const std::vector<NumberedRun>& papers, bool isSeveral,

@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/labels/OptionAlphabets.h"
 #include "import/prepare/AnswerWords.h"
+#include "import/prepare/FoldedText.h"
 #include "import/prepare/KeyVersions.h"
 
 #include <algorithm>
@@ -44,12 +45,21 @@ KeyEntry TextEntry(std::u16string_view text, const KeyNumber& number, TextSpan s
 struct BeforeNumber {
   bool isComma = false;
   bool isFar = false;  ///< several blanks, as between columns
+  bool isBeforeLetters = false;
 };
+
+/// Whether a word consists of letters of options.
+bool IsOfLetters(std::u16string_view text, std::size_t at, std::size_t end) {
+  const std::size_t after = at + KeyTokenSize(text, at, end);
+  return after > at && (after == end || !AreInOneWord(text[after - 1], text[after]));
+}
 
 /// Whether a number goes on with a list: it is the next one, or in another column, and set off as the list
 /// does.
 bool GoesOn(const KeyNumber& last, const KeyNumber& number, const BeforeNumber& before) {
   if (before.isFar && last.isSetOff && number.isSetOff && number.value > last.value) return true;
+  const bool isAnew = number.value == 1 && last.isSetOff && number.isSetOff;
+  if (isAnew && (before.isFar || before.isBeforeLetters)) return true;
   const bool isNext = number.value == last.value + 1 || (number.isLettered && number.value == 1);
   return isNext && (number.isSetOff || (!last.isSetOff && before.isComma));
 }
@@ -217,7 +227,8 @@ std::vector<KeyEntry> TextEntriesOfLine(std::u16string_view text, TextSpan line,
     const std::size_t next = SkipBlanks(text, at, trimmed.end);
     const auto following = KeyNumberAt(text, next, trimmed.end);
     const BeforeNumber before{std::u16string_view(u",;，；").find(text[at - 1]) != std::u16string_view::npos,
-                              next > at + 1 || text[at] == u'\t'};
+                              next > at + 1 || text[at] == u'\t',
+                              following && IsOfLetters(text, following->place.end, trimmed.end)};
     if (following && GoesOn(*number, *following, before)) {
       entries.push_back(TextEntry(text, *number, {begin, at}));
       number = following;

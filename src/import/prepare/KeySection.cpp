@@ -28,6 +28,7 @@ class KeySectionSearch {
     KeySearchResult result;
     for (const HeadingPlace& heading : FindKeyHeadings(text_, outline_)) {
       if ((result.section = SectionAt(heading))) return result;
+      NoteUnread(heading);
       if (isSurelyUnclear_) break;
     }
     if (!isSurelyUnclear_) result.section = Tail();
@@ -54,6 +55,7 @@ class KeySectionSearch {
     const VersionChoice version = VersionOf(section, {heading.begin, text_.size()});
     const KeyList key = ReadKey({std::max(heading.end, version.part.begin), version.part.end});
     const std::size_t entries = key.entries.size();
+    isAnySeen_ = entries > 1 && !AreQuestions(key.entries) && !AreBlanks(key.entries);
     if (entries == 0 || key.unread.size() > 3 + entries / 2) return std::nullopt;
     if (AreQuestions(key.entries) || AreBlanks(key.entries)) return std::nullopt;
     if (version.isUnclear) return Refused(std::move(section), key, Leftover::Versions);
@@ -65,9 +67,18 @@ class KeySectionSearch {
       hasSeenKey_ = hasSeenKey_ || std::ranges::all_of(key.entries, &KeyEntry::isLetters);
       return std::nullopt;
     }
-    if (IsSheetToFill(*matched, section.questions)) return std::nullopt;
+    if (IsSheetToFill(*matched, section.questions)) {
+      isAnySeen_ = false;
+      return std::nullopt;
+    }
     Accept(section, key, *matched);
     return section;
+  }
+
+  /// Whatever follows a heading that says "Answers" and nothing else is a key, even if it can't be read.
+  void NoteUnread(const HeadingPlace& heading) {
+    const TextSpan line{heading.begin, heading.end};
+    if (isAnySeen_ && IsBareAnswerHeading(line.Of(text_))) hasSeenKey_ = true;
   }
 
   KeySection SectionFrom(std::size_t begin) const {
@@ -91,12 +102,13 @@ class KeySectionSearch {
     const auto choices =
         static_cast<std::size_t>(std::ranges::count_if(section.questions, &OutlinedQuestion::HasOptions));
     constexpr std::size_t kFewest = 2;
-    const bool isSure = key.entries.size() >= kFewest && letters * 5 >= std::ssize(key.entries) * 4 &&
-                        key.unread.size() * 4 <= key.entries.size();
+    const bool isSure = kind == Leftover::Versions ||
+                        (key.entries.size() >= kFewest && letters * 5 >= std::ssize(key.entries) * 4 &&
+                         key.unread.size() * 4 <= key.entries.size());
     // A few letters without numbers can be the answer of one question.
     const bool isCounted = !isBare || (choices >= kFewest && key.entries.size() * 2 > choices &&
                                        key.entries.size() < choices * 2);
-    isSurelyUnclear_ = isSurelyUnclear_ || isSure || kind == Leftover::Versions;
+    isSurelyUnclear_ = isSurelyUnclear_ || isSure;
     if (!isSure || !isCounted) return std::nullopt;
     const TextSpan whole = Trimmed(text_, {section.begin, text_.size()});
     if (isBare && kind == Leftover::Unmatched && key.entries.size() != choices) {
@@ -170,15 +182,25 @@ class KeySectionSearch {
     if (version.isUnclear) return Refused(std::move(section), key, Leftover::Versions);
     const auto matched = MatchEntries(text_, key, section.questions);
     if (!matched || !IsCompleteKey(*matched, key.entries.size(), section.questions)) {
-      hasSeenKey_ = hasSeenKey_ || !matched;
+      hasSeenKey_ = true;
       return std::nullopt;
     }
     Accept(section, key, *matched);
     return section;
   }
 
-  static std::size_t FirstOfTail(const std::vector<KeyLineReading>& readings) {
+  /// Good wishes may follow a key.
+  std::size_t FirstOfTail(const std::vector<KeyLineReading>& readings) const {
+    constexpr int kMostWishes = 2;
+    constexpr std::size_t kLongestWish = 40;
     std::size_t first = readings.size();
+    for (int wishes = 0; first > 0 && wishes < kMostWishes;) {
+      const KeyLineKind kind = readings[first - 1].kind;
+      const bool isWish = kind == KeyLineKind::Text && lines_[first - 1].Size() <= kLongestWish;
+      if (kind != KeyLineKind::Blank && !isWish) break;
+      wishes += isWish ? 1 : 0;
+      --first;
+    }
     while (first > 0) {
       const KeyLineReading& reading = readings[first - 1];
       const bool isEmptyRow = reading.kind == KeyLineKind::NumberRow &&
@@ -216,6 +238,7 @@ class KeySectionSearch {
   std::u16string_view text_;
   const PaperOutline& outline_;
   std::vector<TextSpan> lines_;
+  bool isAnySeen_ = false;        ///< answers behind the heading that was looked at last
   bool hasSeenKey_ = false;       ///< letters that came to no questions
   bool isSurelyUnclear_ = false;  ///< a key was seen that no part of it may be taken from
 };
