@@ -76,6 +76,16 @@ bool IsAnswerOfKey(std::u16string_view text) {
   return rest.IsEmpty() || !EntriesOfLine(text, {rest.begin, LineEndAfter(text, rest.begin)}).empty();
 }
 
+/// "1) B) Rome"
+bool IsNumberedOption(std::u16string_view text, TextSpan line) {
+  const auto number = KeyNumberAt(text, line.begin, line.end);
+  if (!number || !number->isSetOff) return false;
+  const std::size_t letter = number->place.end;
+  constexpr std::u16string_view kBehindLetter = u").\uFF0E\uFF09";
+  return KeyTokenSize(text, letter, line.end) == 1 && letter + 1 < line.end &&
+         kBehindLetter.find(text[letter + 1]) != kBehindLetter.npos;
+}
+
 /// A line of a key behind the first line of a text: with several answers, one of several lines with one each,
 /// or a heading with anything behind it.
 std::u16string KeyLineBehind(std::u16string_view text) {
@@ -88,8 +98,9 @@ std::u16string KeyLineBehind(std::u16string_view text) {
     if (line.IsEmpty()) continue;
     const KeyLineReading reading = reader.Read(lines[i]);
     const std::size_t entries = reading.entries.size();
-    const bool goesOn = entries > 0 || reading.kind == KeyLineKind::NumberRow;
-    inARow = goesOn ? inARow + entries : 0;
+    const bool isOption = IsNumberedOption(text, line);
+    const bool goesOn = isOption || entries > 0 || reading.kind == KeyLineKind::NumberRow;
+    inARow = goesOn ? inARow + std::max<std::size_t>(entries, isOption ? 1 : 0) : 0;
     const bool isHeading =
         IsBareAnswerHeading(line.Of(text)) && !Trimmed(text, {line.end, text.size()}).IsEmpty();
     if (inARow >= kFewest || isHeading) return ExcerptAt(text, line.begin);

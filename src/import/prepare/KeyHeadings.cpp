@@ -79,7 +79,7 @@ class HeadingSearch {
              other.name.number == name.number && other.name.before == name.before;
     });
     if (!isAgain) return {};
-    return {title.begin, title.begin, AnswerHeading::Possible};
+    return {title.begin, title.begin, AnswerHeading::Possible, true};
   }
 
   bool AreAnswers(TextSpan line) const {

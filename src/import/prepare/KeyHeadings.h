@@ -15,6 +15,7 @@ struct HeadingPlace {
   std::size_t begin = 0;  ///< of its line
   std::size_t end = 0;    ///< where the answers may begin
   AnswerHeading heading = AnswerHeading::None;
+  bool isTitle = false;  ///< the title of a part that comes again
 };
 
 /// The places behind the first question that look like headings of a key, with something like a key behind

@@ -63,7 +63,7 @@ class KeySectionSearch {
     const bool isAllLetters = key.unread.empty() && std::ranges::all_of(key.entries, &KeyEntry::isLetters);
     if (!matched && (heading.heading == AnswerHeading::Clear || isAllLetters))
       return Refused(std::move(section), key, Leftover::Unmatched);
-    if (!matched || !IsCredible(*matched, heading.heading)) {
+    if (!matched || !IsCredible(key, *matched, heading, section.questions)) {
       hasSeenKey_ = hasSeenKey_ || std::ranges::all_of(key.entries, &KeyEntry::isLetters);
       return std::nullopt;
     }
@@ -160,10 +160,17 @@ class KeySectionSearch {
   }
 
   /// Answers in words need a clear heading, for they may be questions of another part.
-  static bool IsCredible(const std::vector<MatchedEntry>& entries, AnswerHeading heading) {
-    if (heading == AnswerHeading::Clear) return !entries.empty();
-    const auto isLetters = [](const MatchedEntry& entry) { return entry.entry.isLetters; };
-    return entries.size() > 1 && std::ranges::count_if(entries, isLetters) * 2 > std::ssize(entries);
+  bool IsCredible(const KeyList& key, const std::vector<MatchedEntry>& matched, const HeadingPlace& heading,
+                  const std::vector<OutlinedQuestion>& questions) const {
+    if (heading.heading == AnswerHeading::Clear) return !matched.empty();
+    const auto namesOption = [&](const MatchedEntry& entry) {
+      const OutlinedQuestion& question = questions[entry.question];
+      return entry.entry.isLetters || (question.HasOptions() && FitsQuestion(text_, entry.entry, question));
+    };
+    const auto options = std::ranges::count_if(matched, namesOption);
+    constexpr std::ptrdiff_t kFew = 2;
+    if (heading.isTitle && options >= kFew && matched.size() == key.entries.size()) return true;
+    return matched.size() > 1 && options * 2 > std::ssize(matched);
   }
 
   /// Without a heading: the last lines, as far as they are nothing but a key.
