@@ -89,9 +89,14 @@ class LabelSearch {
   TextSpan lastOption_{};
 };
 
+/// "Answer 1:" and "answer 12:" are one label.
 std::u16string Normalised(std::u16string_view label) {
-  std::u16string key = AsciiLower(label);
-  std::erase_if(key, IsBlank);
+  std::u16string key;
+  for (const char16_t unit : AsciiLower(label)) {
+    const bool isDigit = unit >= u'0' && unit <= u'9';
+    const bool goesOn = isDigit && !key.empty() && key.back() == u'0';
+    if (!IsBlank(unit) && !goesOn) key += isDigit ? u'0' : unit;
+  }
   return key;
 }
 

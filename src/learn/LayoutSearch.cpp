@@ -5,6 +5,7 @@
 #include "import/prepare/PreparationSteps.h"
 #include "import/prepare/PreparedLabels.h"
 #include "import/prepare/StepNames.h"
+#include "import/prepare/Steps.h"
 #include "learn/AnswerLabels.h"
 #include "learn/Headings.h"
 #include "learn/ReadingRoles.h"
@@ -21,6 +22,13 @@ constexpr std::u16string_view kHarmless[] = {step_name::kKeyInStem, step_name::k
 
 bool HasSoftBreaks(const Paper& paper) {
   return std::ranges::count(paper.source.characters, u'\v') > 1;
+}
+
+/// Whether the step about blanks has something to do.
+bool HasOddSpaces(const Paper& paper) {
+  PaperText text = paper.source;
+  step::PlainSpaces(text, {paper, {}, {}});
+  return text.characters != paper.source.characters;
 }
 
 /// Numbers of two families that count together: "1." and "(2)".
@@ -60,6 +68,7 @@ bool Covers(const NumberFamily& family, const TextSpan& mark) {
 TriedLayout LayoutSearch::Search() {
   Steps lines;
   if (HasSoftBreaks(paper_)) lines.emplace(step_name::kSoftBreaks);
+  if (HasOddSpaces(paper_)) lines.emplace(step_name::kPlainSpaces);
   lines.emplace(step_name::kMixedLetters);
   lines.emplace(step_name::kAnswerSlips);
   TryNumbers(lines);

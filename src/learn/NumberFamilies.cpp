@@ -2,6 +2,7 @@
 #include "learn/NumberFamilies.h"
 
 #include "import/labels/LineText.h"
+#include "import/prepare/AnswerWords.h"
 #include "learn/PatternText.h"
 #include "text/AsciiCase.h"
 
@@ -251,8 +252,11 @@ std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
   constexpr std::size_t kFewLines = 12;
   const std::vector<TextSpan> lines = LinesOf(text, {0, text.size()});
   for (const TextSpan& line : lines) {
-    for (NumberLabel& label : LabelReading(text, line, kLongNumberDigits).Labels())
-      styles[KeyOf(label)].push_back(std::move(label));
+    for (NumberLabel& label : LabelReading(text, line, kLongNumberDigits).Labels()) {
+      // "Answer 3:" is no number of a question.
+      if (AnswerHeadingOf(label.prefix) != AnswerHeading::Clear)
+        styles[KeyOf(label)].push_back(std::move(label));
+    }
   }
   std::vector<NumberFamily> found;
   for (auto& [key, labels] : styles) {

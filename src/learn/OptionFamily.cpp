@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/prepare/PreparedLabels.h"
 #include "learn/PatternText.h"
+#include "text/NumberText.h"
 
 #include <algorithm>
 #include <map>
@@ -93,11 +94,17 @@ std::u16string LetterPattern(const std::set<std::u16string_view>& forms) {
 /// Two blanks, or a wide one, before a label within a line, or the beginning of the line.
 constexpr std::u16string_view kSetOff = u"(?:^[ \\t\u3000]*|(?<=[ \u00A0][ \u00A0])|(?<=[\\t\u3000]))";
 
-/// What labels that are ended by one of `closes` look like.
-std::u16string ClosedPattern(const std::u16string& letter, const std::set<char16_t>& closes,
+/// One of `closes` behind one of `letters`: "2.5" is a number.
+std::u16string EndPattern(const std::set<std::u16string_view>& letters, const std::set<char16_t>& closes) {
+  const auto isDigit = [](std::u16string_view form) { return IsDigit(form[0]); };
+  const bool areDigits = std::any_of(letters.begin(), letters.end(), isDigit);
+  return ClassPattern(closes) + (areDigits ? u"(?<![.,:](?=[0-9]))" : u"");
+}
+
+/// `closed` where it can be a label that is ended by one of `closes`.
+std::u16string ClosedPattern(const std::u16string& closed, const std::set<char16_t>& closes,
                              bool atLineStarts) {
   const auto isWeak = [](char16_t close) { return kWeakLabelCloses.find(close) != kWeakLabelCloses.npos; };
-  const std::u16string closed = letter + u"[ ]?" + ClassPattern(closes);
   if (atLineStarts) return closed;
   const bool areWeak = std::all_of(closes.begin(), closes.end(), isWeak);
   return (areWeak ? std::u16string(kSetOff) : u"(?<![0-9A-Za-z\u00C0-\u04FF])") + closed;
@@ -110,9 +117,9 @@ std::u16string OptionFamily::LabelPattern(std::size_t index, bool atLineStarts) 
   const std::set<std::u16string_view> symbols = FormsAt(index, alphabets, true);
   std::set<std::u16string> ways{LiteralPattern(PreparedOption(index))};
   const std::u16string letter = LetterPattern(letters);
-  const std::u16string close = ClassPattern(closes);
+  const std::u16string close = EndPattern(letters, closes);
   if (!letters.empty() && isPlain && !closes.empty())
-    ways.insert(ClosedPattern(letter, closes, atLineStarts));
+    ways.insert(ClosedPattern(letter + u"[ ]?" + close, closes, atLineStarts));
   if (!letters.empty() && isBracketed) ways.insert(ClassPattern(opens) + u"[ ]?" + letter + u"[ ]?" + close);
   if (!letters.empty() && isBare) {
     const bool isAlone = std::ranges::any_of(

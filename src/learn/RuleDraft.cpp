@@ -23,11 +23,21 @@ std::u16string PreQuestion(const RuleDraft& draft) {
   return draft.HasStep(step_name::kTableOptions) ? u"(?:" + pattern + u"|" + prepared + u")" : pattern;
 }
 
+/// "Answer 1:" finds those of all questions.
+std::u16string NumberedPattern(std::u16string_view label) {
+  constexpr std::u16string_view kDigits = u"0123456789";
+  const std::size_t begin = std::min(label.find_first_of(kDigits), label.size());
+  const std::size_t end = std::min(label.find_first_not_of(kDigits, begin), label.size());
+  std::u16string pattern = LiteralPattern(label.substr(0, begin));
+  if (end > begin) pattern += NumeralPattern(NumeralKind::Decimal, kLongNumberDigits);
+  return pattern + LiteralPattern(label.substr(end));
+}
+
 std::u16string PreAnswer(const RuleDraft& draft) {
   std::u16string pattern = u"\\s*(?:^" + std::u16string(kPreparedKeyPattern);
   if (!draft.answerLabels.empty()) {
     std::set<std::u16string> labels;
-    for (const std::u16string& label : draft.answerLabels) labels.insert(LiteralPattern(label));
+    for (const std::u16string& label : draft.answerLabels) labels.insert(NumberedPattern(label));
     pattern += draft.labelsWithinLines ? u"|" : u"|^[ \\t\u3000]*";
     pattern += u"(?i:" + OneOfPattern(labels) + u")";
   }

@@ -462,6 +462,7 @@ constexpr int kStepBlankForms = 1698;
 constexpr int kStepOpenAnswers = 1699;
 constexpr int kStepAnswerSlips = 1607;
 constexpr int kStepPassages = 1608;
+constexpr int kStepPlainSpaces = 1860;
 constexpr int kPapers = 1609;  // a file filter
 
 // Of rules that were worked out. First how sure they are, in percent.

@@ -10,9 +10,10 @@
 namespace quorvantis {
 
 inline constexpr std::u16string_view kLineEnds = u"\r\n\v\f\u2028\u2029";
-/// Blanks within a line.
+/// Blanks within a line, and marks that nobody sees.
 inline constexpr std::u16string_view kBlanks =
-    u" \t\u00A0\u2002\u2003\u2009\u200A\u202F\u3000\uFEFF\u200B\u200E\u200F";
+    u" \t\u00A0\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009\u200A\u202F\u205F\u3000"
+    u"\uFEFF\u200B\u2060\u200E\u200F\u061C\u202A\u202B\u202C\u202D\u202E\u2066\u2067\u2068\u2069";
 
 constexpr bool IsLineEnd(char16_t unit) {
   // Most units are letters, and all texts are full of them.

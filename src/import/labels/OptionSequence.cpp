@@ -77,6 +77,7 @@ class LabelScan {
     const bool isOpened = before != 0 && Has(kLabelOpens, before);
     if (!isOpened && before != 0 && IsWordUnit(before)) return false;
     if (Has(kLabelCloses, UnitAt(after)) && UnitAt(after) != 0) {
+      if (IsWithinDecimal(at, after)) return false;
       label.close = UnitAt(after);
       label.label.end = after + 1;
       if (isOpened) TakeOpening(label, before);
@@ -100,6 +101,12 @@ class LabelScan {
     if (at == within_.begin || !IsBlank(text_[at - 1])) return false;
     return text_[at - 1] == u'\t' || text_[at - 1] == u'\u3000' ||
            (at - 1 > within_.begin && IsBlank(text_[at - 2]));
+  }
+
+  /// "2.5" and "1,200" are numbers.
+  bool IsWithinDecimal(std::size_t letter, std::size_t mark) const {
+    const auto isDigit = [this](std::size_t at) { return UnitAt(at) >= u'0' && UnitAt(at) <= u'9'; };
+    return isDigit(letter) && mark == letter + 1 && Has(u".,:", UnitAt(mark)) && isDigit(mark + 1);
   }
 
   bool StandsAlone(std::size_t at) const {

@@ -84,8 +84,9 @@ class PageHeadSearch {
   }
 
   bool BeginsPage(std::size_t line) const {
-    const std::size_t begin = lines_[line].begin;
-    return begin == 0 || text_[begin - 1] == u'\f';
+    // A step may have put the end of a line behind the page break.
+    const std::size_t end = text_.substr(0, lines_[line].begin).find_last_not_of(u"\r\n");
+    return end == text_.npos || text_[end] == u'\f';
   }
 
   /// The lines before and after heads, blank ones left aside.

@@ -15,6 +15,8 @@ namespace {
 
 constexpr PreparationStep kSteps[] = {
     {step_name::kSoftBreaks, step::SoftBreaks, text_id::kStepSoftBreaks, u"line breaks end lines"},
+    {step_name::kPlainSpaces, step::PlainSpaces, text_id::kStepPlainSpaces,
+     u"blanks and line ends of all kinds become plain ones around labels"},
     {step_name::kTableOptions, step::TableOptions, text_id::kStepTableOptions,
      u"cells of tables become lines"},
     {step_name::kMixedLetters, step::MixedLetters, text_id::kStepMixedLetters,

@@ -8,6 +8,7 @@
 namespace quorvantis::step_name {
 
 inline constexpr std::u16string_view kSoftBreaks = u"SoftBreaks";
+inline constexpr std::u16string_view kPlainSpaces = u"PlainSpaces";
 inline constexpr std::u16string_view kTableOptions = u"TableOptions";
 inline constexpr std::u16string_view kMixedLetters = u"MixedLetters";
 inline constexpr std::u16string_view kAnswerSlips = u"AnswerSlips";

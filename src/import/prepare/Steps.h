@@ -11,6 +11,11 @@ namespace step {
 /// Documents that are one paragraph with line breaks: a line break (VT) becomes the end of a paragraph.
 void SoftBreaks(PaperText& text, const PreparationContext& context);
 
+/// Around numbers and labels, blanks of all kinds become plain ones, and marks that nobody sees go. Line ends
+/// of all kinds end lines.
+///     U+200F 1. U+00A0 Why?       ->  1. Why?
+void PlainSpaces(PaperText& text, const PreparationContext& context);
+
 /// Options, or whole questions, in the cells of tables become lines; options without labels get some.
 ///     | Paris | Rome |            ->  ⟦A⟧ Paris
 ///                                     ⟦B⟧ Rome
