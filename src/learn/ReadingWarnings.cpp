@@ -299,7 +299,7 @@ class WarningSearch {
     return question.text.size() > limit(ExamFieldName::QuestionText) ||
            question.answer.size() > limit(answer) ||
            std::ranges::any_of(question.options,
-                               [option](const std::u16string& text) { return text.size() > option; });
+                               [&](const std::u16string& text) { return text.size() > option; });
   }
 
   const Paper& paper_;
