@@ -28,6 +28,28 @@ std::u16string OneLine(std::u16string_view text) {
   return line;
 }
 
+std::u16string CountIf(const std::vector<ReadQuestion>& questions, const auto& isCounted) {
+  return Count(static_cast<std::size_t>(std::ranges::count_if(questions, isCounted)));
+}
+
+LearnedFact KindsOf(const std::vector<ReadQuestion>& questions) {
+  const auto count = [&questions](auto... kinds) {
+    return CountIf(questions,
+                   [=](const ReadQuestion& question) { return ((question.kind == kinds) || ...); });
+  };
+  return {text_id::kLearnedKinds,
+          {count(ReadKind::Choice, ReadKind::TrueFalse), count(ReadKind::FillIn), count(ReadKind::Essay)}};
+}
+
+/// How many have an answer.
+LearnedFact AnsweredOf(const std::vector<ReadQuestion>& questions) {
+  const std::u16string answered = CountIf(questions, [](const ReadQuestion& question) {
+    return !question.letters.empty() || !question.answer.empty();
+  });
+  if (answered == u"0") return {text_id::kLearnedNoAnswers};
+  return {text_id::kLearnedAnswered, {answered, Count(questions.size())}};
+}
+
 /// Puts the facts of one layout together.
 class FactList {
  public:
@@ -51,13 +73,8 @@ class FactList {
   void AddQuestions() {
     const auto& questions = layout_.reading.paper.questions;
     if (questions.empty()) return Add(text_id::kLearnedNothing);
-    const auto count = [&questions](auto... kinds) {
-      return Count(static_cast<std::size_t>(std::ranges::count_if(
-          questions, [=](const ReadQuestion& question) { return ((question.kind == kinds) || ...); })));
-    };
     Add(text_id::kLearnedQuestions, {Count(questions.size())});
-    Add(text_id::kLearnedKinds,
-        {count(ReadKind::Choice, ReadKind::TrueFalse), count(ReadKind::FillIn), count(ReadKind::Essay)});
+    facts_.push_back(KindsOf(questions));
   }
 
   void AddNumbers() {
@@ -105,21 +122,11 @@ class FactList {
     if (Has(step_name::kSignedKey)) AddExample(text_id::kLearnedKeySign, ReplacedBesideAnswer());
     if (Has(step_name::kKeyInStem)) AddExample(text_id::kLearnedKeyInStem, ExampleOfKey());
     if (Has(step_name::kKeyLetters)) AddExample(text_id::kLearnedKeyLetters, ExampleOfKey());
-    AddAnswered();
+    facts_.push_back(AnsweredOf(layout_.reading.paper.questions));
   }
 
   void AddExample(int text, const std::u16string& example) {
     if (!example.empty()) Add(text, {example});
-  }
-
-  void AddAnswered() {
-    const auto& questions = layout_.reading.paper.questions;
-    const auto answered =
-        static_cast<std::size_t>(std::ranges::count_if(questions, [](const ReadQuestion& question) {
-          return !question.letters.empty() || !question.answer.empty();
-        }));
-    if (answered == 0) return Add(text_id::kLearnedNoAnswers);
-    Add(text_id::kLearnedAnswered, {Count(answered), Count(questions.size())});
   }
 
   /// The emphasis that right options have more often than wrong ones.
@@ -210,6 +217,16 @@ class FactList {
 
 std::vector<LearnedFact> FactsOf(const Paper& paper, const TriedLayout& layout) {
   return FactList(paper, layout).Facts();
+}
+
+void CountAnew(std::vector<LearnedFact>& facts, const ReadPaper& paper) {
+  const LearnedFact counts[] = {{text_id::kLearnedQuestions, {Count(paper.questions.size())}},
+                                KindsOf(paper.questions),
+                                AnsweredOf(paper.questions)};
+  for (const LearnedFact& count : counts) {
+    const auto old = std::ranges::find(facts, count.text, &LearnedFact::text);
+    if (old != facts.end()) *old = count;
+  }
 }
 
 }  // namespace quorvantis

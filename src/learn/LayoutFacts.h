@@ -13,4 +13,8 @@ namespace quorvantis {
 /// was left out.
 std::vector<LearnedFact> FactsOf(const Paper& paper, const TriedLayout& layout);
 
+/// Replaces the counts among some facts by those of another reading: rules may have been worked out from a
+/// part of a paper alone.
+void CountAnew(std::vector<LearnedFact>& facts, const ReadPaper& paper);
+
 }  // namespace quorvantis

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "learn/StudyOutcome.h"
 
+#include "learn/LayoutFacts.h"
+
 #include <utility>
 
 namespace quorvantis {
@@ -14,6 +16,7 @@ StudyOutcome ReadBy(const Paper& paper, LearnedRules learned, const CancelHook& 
   StudyOutcome outcome{std::move(learned)};
   if (outcome.learned.wasCancelled) return outcome;
   outcome.reading = ReadByRules(paper, outcome.learned.rules, isCancelled);
+  if (!outcome.reading.HasFailed()) CountAnew(outcome.learned.facts, outcome.reading.paper);
   outcome.roles = RolesOf(paper, outcome.reading);
   outcome.warnings = WarningsOf(paper, outcome.learned.rules, outcome.reading);
   return outcome;
