@@ -4,6 +4,7 @@
 #include "platform/WholeFile.h"
 #include "support/PaperExpectation.h"
 #include "support/PaperNotation.h"
+#include "text/NumberText.h"
 #include "text/Utf.h"
 
 #include <gtest/gtest.h>
@@ -66,6 +67,29 @@ TEST(Papers, AreReadAsAPersonReadsThem) {
     EXPECT_EQ(faults.empty(), !known.contains(file.filename().string())) << file.filename() << ": " << faults;
   }
   EXPECT_GT(papers, 50);
+}
+
+/// Such a paper is judged by its beginning and by the first of its answers; in it, a year is no number.
+TEST(Papers, CountBeyondAThousand) {
+  constexpr int kQuestions = 2'000;
+  const auto number = [](int value) { return FormatInteger(value); };
+  std::u16string text;
+  for (int i = 1; i <= kQuestions; ++i)
+    text += number(i) + u". What is the double of " + number(i) + u"?\nA. four\nB. six\nC. eight\nD. ten\n\n";
+  text += u"Answers\n";
+  for (int i = 1; i <= kQuestions; ++i) text += number(i) + u". " + u"ABCD"[i % 4] + u"\n";
+  PaperStudy study(PaperOf(text));
+  study.Learn();
+  const auto& read = study.Reading().paper.questions;
+  ASSERT_EQ(read.size(), std::size_t{kQuestions});
+  for (int i = 1; i <= kQuestions; ++i)
+    ASSERT_EQ(read[static_cast<std::size_t>(i) - 1].letters, std::u16string(1, u"ABCD"[i % 4])) << i;
+
+  PaperStudy years(
+      PaperOf(u"1. When did it begin?\n1914. That is what many say.\nA. then\nB. later\nAnswer: A\n"
+              u"2. When did it end?\n1918. So it is said.\nA. then\nB. later\nAnswer: B\n"));
+  years.Learn();
+  EXPECT_EQ(years.Reading().paper.questions.size(), 2U);
 }
 
 }  // namespace
