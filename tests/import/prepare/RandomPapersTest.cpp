@@ -56,6 +56,9 @@ class RandomPapers {
                                                u" _ _ _",
                                                u"      ",
                                                u"□ ",
+                                               u"\u200F",
+                                               u"\u00AD(B\u00A0)\u2003",
+                                               u"\u2028",
                                                u"Who?",
                                                u"Answer: ",
                                                u"⟦=⟧ B",
@@ -102,6 +105,7 @@ bool MayGo(std::u16string_view step, char16_t unit) {
   if (step == u"TableOptions") return IsBlank(unit) || IsLineEnd(unit);
   if (step == u"PlainOptions")
     return IsBlank(unit) || std::u16string_view(u"-*□()").find(unit) != std::u16string_view::npos;
+  if (step == u"PlainSpaces") return IsBlank(unit) || unit == u'\u00AD';
   return step == u"Noise";
 }
 
@@ -123,8 +127,9 @@ void CheckNothingIsLost(std::u16string_view step, const PaperText& before, const
 
 TEST(RandomPapers, LoseNothingAndSettle) {
   RandomPapers papers(17);
-  constexpr std::u16string_view kSteps[] = {u"SoftBreaks", u"TableOptions", u"MixedLetters", u"Noise",
-                                            u"Unnumbered", u"PlainOptions", u"BlankForms",   u"OpenAnswers"};
+  constexpr std::u16string_view kSteps[] = {u"SoftBreaks",   u"PlainSpaces", u"TableOptions",
+                                            u"MixedLetters", u"Noise",       u"Unnumbered",
+                                            u"PlainOptions", u"BlankForms",  u"OpenAnswers"};
   for (int i = 0; i < 150; ++i) {
     const Paper paper = papers.Next();
     ImportSettings rules = PlainRules();
@@ -166,8 +171,8 @@ TEST(RandomPapers, AreTheSameWithAMemory) {
 TEST(RandomPapers, TakeNoTime) {
   constexpr std::u16string_view kPieces[] = {u"(",  u"( ",     u". ",      u"_ ",   u"□",    u"A. ",
                                              u"a)", u"1. A. ", u"\r1. a ", u"\r- ", u"\rA ", u"      "};
-  constexpr std::u16string_view kSteps[] = {u"MixedLetters", u"Noise",      u"Unnumbered",
-                                            u"PlainOptions", u"BlankForms", u"OpenAnswers"};
+  constexpr std::u16string_view kSteps[] = {u"PlainSpaces",  u"MixedLetters", u"Noise",      u"Unnumbered",
+                                            u"PlainOptions", u"BlankForms",   u"OpenAnswers"};
   for (const std::u16string_view piece : kPieces) {
     std::u16string text = u"1. ";
     while (text.size() < 100'000) text += piece;
