@@ -2,6 +2,7 @@
 #include "learn/Headings.h"
 
 #include "import/labels/LineText.h"
+#include "import/prepare/FrontInstructions.h"
 #include "import/prepare/PreparedLabels.h"
 #include "learn/NumberFamilies.h"
 #include "learn/PatternText.h"
@@ -154,12 +155,39 @@ class TailReading {
   const OutlinedQuestion& question_;
 };
 
+/// A line that begins like this one: short, for many of them must fit one rule.
+std::u16string BeginningPattern(std::u16string_view line) {
+  constexpr std::size_t kEnough = 20;
+  if (line.size() <= kEnough) return LiteralPattern(line) + u"[ \\t\u3000]*$";
+  return LiteralPattern(line.substr(0, kEnough)) + u"[^\\r\\n\\v]*$";
+}
+
 }  // namespace
 
 std::vector<HeadingLine> FindHeadings(const PaperText& text, const PaperOutline& outline) {
   std::vector<HeadingLine> found;
   for (const OutlinedQuestion& question : outline.questions) {
     for (HeadingLine& line : TailReading(text, question).Headings()) found.push_back(std::move(line));
+  }
+  return found;
+}
+
+std::vector<HeadingLine> FindNumberedInstructions(const PaperText& text, const PaperOutline& outline,
+                                                  bool areMarked) {
+  const std::u16string_view characters = text.characters;
+  std::vector<HeadingLine> found;
+  const std::size_t count = NumberedInFront(characters, outline);
+  if (count == 0) return found;
+  if (!areMarked && !AnnouncesInstructions(outline.front.Of(characters))) return found;
+  for (std::size_t i = 0; i < count; ++i) {
+    const TextSpan whole = Trimmed(characters, outline.questions[i].whole);
+    for (const TextSpan& line : LinesOf(characters, whole)) {
+      const TextSpan content = Trimmed(characters, line);
+      // What a blank line sets off behind the last one belongs to the exam.
+      if (content.IsEmpty()) break;
+      if (characters[content.begin] == kPreparedOpen) continue;
+      found.push_back({content, BeginningPattern(content.Of(characters))});
+    }
   }
   return found;
 }

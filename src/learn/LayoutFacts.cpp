@@ -101,7 +101,7 @@ class FactList {
     if (Has(step_name::kPlainOptions)) Add(text_id::kLearnedPlainOptions);
     if (!draft_.options.IsEmpty()) {
       Add(text_id::kLearnedOptions, {draft_.options.Example()});
-      if (!draft_.optionsAtLineStarts) Add(text_id::kLearnedOptionsInLine);
+      if (draft_.optionPlaces != LabelPlaces::LineStarts) Add(text_id::kLearnedOptionsInLine);
     } else if (layout_.score.choices <= 0) {
       Add(text_id::kLearnedNoOptions);
     }

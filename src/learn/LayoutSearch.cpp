@@ -2,13 +2,16 @@
 #include "learn/LayoutSearch.h"
 
 #include "import/labels/LineText.h"
+#include "import/prepare/FrontInstructions.h"
 #include "import/prepare/PreparationSteps.h"
 #include "import/prepare/PreparedLabels.h"
 #include "import/prepare/StepNames.h"
 #include "import/prepare/Steps.h"
 #include "learn/AnswerLabels.h"
 #include "learn/Headings.h"
+#include "learn/MarkedLiterals.h"
 #include "learn/ReadingRoles.h"
+#include "model/ExamLimits.h"
 
 #include <algorithm>
 #include <utility>
@@ -57,6 +60,15 @@ bool AreNumbersOfQuestions(const NumberFamily& family) {
          static_cast<std::size_t>(family.restarts) * kEnough < family.labels.size();
 }
 
+/// Whether several questions have options and nothing before them.
+bool BeginWithOptions(std::u16string_view text, const std::vector<TextSpan>& bodies) {
+  constexpr std::ptrdiff_t kFewest = 2;
+  return std::count_if(bodies.begin(), bodies.end(), [text](const TextSpan& body) {
+           const auto options = FindOptions(text, body);
+           return options && options->labels.front().label.begin == Trimmed(text, body).begin;
+         }) >= kFewest;
+}
+
 /// Whether the family has a label that a teacher has marked.
 bool Covers(const NumberFamily& family, const TextSpan& mark) {
   return std::ranges::any_of(family.labels,
@@ -71,7 +83,9 @@ TriedLayout LayoutSearch::Search() {
   if (HasOddSpaces(paper_)) lines.emplace(step_name::kPlainSpaces);
   lines.emplace(step_name::kMixedLetters);
   lines.emplace(step_name::kAnswerSlips);
+  lines.emplace(step_name::kOptionColumns);
   TryNumbers(lines);
+  TryNumberedOptions(lines);
   if (!paper_.tables.empty()) {
     lines.emplace(step_name::kTableOptions);
     TryNumbers(lines);
@@ -86,6 +100,7 @@ TriedLayout LayoutSearch::Search() {
     TrySteps();
   }
   TryHeadings();
+  TryMarkedPlaces();
   Simplify();
   return std::move(best_);
 }
@@ -137,6 +152,15 @@ std::vector<TextSpan> LayoutSearch::Bodies(const PaperText& text, const RuleDraf
   return bodies;
 }
 
+/// Numbers of options that only their order tells from those of questions.
+void LayoutSearch::TryNumberedOptions(const Steps& steps) {
+  RuleDraft plain;
+  plain.steps = steps;
+  RuleDraft nested = plain;
+  nested.steps.emplace(step_name::kNumberedOptions);
+  if (Prepared(nested).characters != Prepared(plain).characters) TryNumbers(nested.steps);
+}
+
 void LayoutSearch::TryNumbers(const Steps& steps) {
   RuleDraft plain;
   plain.steps = steps;
@@ -171,20 +195,38 @@ void LayoutSearch::TryFamilies(const PaperText& text, const std::vector<NumberFa
   draft.numbers = numbers;
   draft.steps = steps;
   const PaperText numbered = steps.contains(step_name::kUnnumbered) ? Prepared(draft) : text;
-  draft.options = FindOptionFamily(numbered.characters, Bodies(numbered, draft));
+  const std::vector<TextSpan> bodies = Bodies(numbered, draft);
+  draft.options = FindOptionFamily(numbered.characters, bodies);
   RuleDraft open = draft;
   open.steps.emplace(step_name::kOpenAnswers);
-  TryOptions(std::move(open));
+  if (BeginWithOptions(numbered.characters, bodies)) open.steps.emplace(step_name::kClozeStems);
+  TryOptions(open);
+  if (!numbers.empty()) TryForgottenNumbers(numbered, std::move(open));
   // Answers at the end would be taken for options, or for questions.
   draft.steps.emplace(step_name::kKeyAtEnd);
   const PaperText withoutKey = Prepared(draft);
   if (withoutKey.characters == numbered.characters) return;
-  draft.options = FindOptionFamily(withoutKey.characters, Bodies(withoutKey, draft));
+  const std::vector<TextSpan> withoutKeys = Bodies(withoutKey, draft);
+  draft.options = FindOptionFamily(withoutKey.characters, withoutKeys);
   draft.steps.emplace(step_name::kOpenAnswers);
+  if (BeginWithOptions(withoutKey.characters, withoutKeys)) draft.steps.emplace(step_name::kClozeStems);
   TryOptions(draft);
   draft.steps.emplace(step_name::kKeyLetters);
   TryOptions(draft);
   draft.steps.emplace(step_name::kJudgement);
+  TryOptions(std::move(draft));
+}
+
+/// Questions without a number change which options others have.
+void LayoutSearch::TryForgottenNumbers(const PaperText& text, RuleDraft draft) {
+  RuleDraft mended = draft;
+  mended.steps.erase(std::u16string(step_name::kOpenAnswers));
+  mended.steps.erase(std::u16string(step_name::kClozeStems));
+  mended.steps.emplace(step_name::kForgottenNumbers);
+  const PaperText numbered = Prepared(mended);
+  if (numbered.characters == text.characters) return;
+  draft.options = FindOptionFamily(numbered.characters, Bodies(numbered, mended));
+  draft.steps.emplace(step_name::kForgottenNumbers);
   TryOptions(std::move(draft));
 }
 
@@ -194,11 +236,10 @@ void LayoutSearch::TryOptions(RuleDraft draft) {
     TryPlainOptions(draft);
     return;
   }
-  draft.optionsAtLineStarts = true;
-  Try(draft);
-  if (draft.options.inLines > 0) {
-    draft.optionsAtLineStarts = false;
+  for (const LabelPlaces places : {LabelPlaces::LineStarts, LabelPlaces::SetOff, LabelPlaces::Anywhere}) {
+    draft.optionPlaces = places;
     Try(draft);
+    if (draft.options.inLines == 0) break;
   }
   TryPlainOptions(draft);
 }
@@ -246,11 +287,27 @@ void LayoutSearch::TryLabels(const std::set<std::u16string>& labels, bool within
   Try(std::move(draft));
 }
 
+/// Whether a mark says that one of the first questions is a numbered instruction.
+bool LayoutSearch::AreInstructionsMarked(const PaperText& text, const PaperOutline& outline) const {
+  const std::size_t count = NumberedInFront(text.characters, outline);
+  if (count == 0) return false;
+  std::vector<TextSpan> marked = marks_.PlacesIn(text, PaperRole::NotExam);
+  for (const TextSpan& heading : marks_.PlacesIn(text, PaperRole::Heading)) marked.push_back(heading);
+  const TextSpan first = Trimmed(text.characters, outline.questions.front().label);
+  const TextSpan instructions{first.begin, outline.questions[count - 1].label.end};
+  return std::any_of(marked.begin(), marked.end(),
+                     [&instructions](const TextSpan& mark) { return mark.Overlaps(instructions); });
+}
+
 void LayoutSearch::TryHeadings() {
   TryMarkedHeadings();
   const PaperText text = Prepared(best_.draft);
   RuleDraft draft = best_.draft;
-  for (const HeadingLine& heading : FindHeadings(text, Outline(text, draft))) {
+  const PaperOutline outline = Outline(text, draft);
+  std::vector<HeadingLine> headings =
+      FindNumberedInstructions(text, outline, AreInstructionsMarked(text, outline));
+  for (HeadingLine& heading : FindHeadings(text, outline)) headings.push_back(std::move(heading));
+  for (const HeadingLine& heading : headings) {
     RuleDraft longer = draft;
     longer.headings.insert(heading.pattern);
     // Instructions of many sections may be too long for one rule.
@@ -283,6 +340,32 @@ void LayoutSearch::TryMarkedHeadings() {
       draft.steps.emplace(step);
       Try(draft);
     }
+  }
+}
+
+/// What no family explains is true of one place alone: a question that begins with these words.
+void LayoutSearch::TryMarkedPlaces() {
+  constexpr std::size_t kMostPlaces = 12;
+  const std::u16string_view source = paper_.source.characters;
+  for (std::size_t i = 0; i < std::min(marks_.Marks().size(), kMostPlaces); ++i) {
+    const PaperMark& mark = marks_.Marks()[i];
+    const std::vector<RolePart> roles = RolesOf(paper_, best_.reading);
+    if (marks_.IsFollowed(mark, roles)) continue;
+    RuleDraft draft = best_.draft;
+    if (mark.role == PaperRole::QuestionNumber || mark.role == PaperRole::Question) {
+      draft.questionBegins.insert(QuestionBeginPattern(source, mark));
+    } else if (mark.role == PaperRole::Option) {
+      const std::optional<std::size_t> index = OptionIndexOf(roles, mark);
+      if (!index || *index >= kOptionCount) continue;
+      draft.optionBegins[*index].insert(OptionBeginPattern(source, mark));
+    } else if (mark.role == PaperRole::NotExam || mark.role == PaperRole::Heading) {
+      draft.noQuestions.insert(LineBeginPattern(source, mark));
+      draft.headings.insert(LineBeginPattern(source, mark) + u"[^\\r\\n\\v]*$");
+      draft.steps.emplace(step_name::kNoise);
+    } else {
+      continue;
+    }
+    Try(std::move(draft));
   }
 }
 

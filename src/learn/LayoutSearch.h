@@ -40,15 +40,19 @@ class LayoutSearch {
   using Steps = std::set<std::u16string, std::less<>>;
 
   void TryNumbers(const Steps& steps);
+  void TryNumberedOptions(const Steps& steps);
   void TryFamilies(const PaperText& text, const std::vector<NumberFamily>& numbers, const Steps& steps);
+  void TryForgottenNumbers(const PaperText& text, RuleDraft draft);
   void TryOptions(RuleDraft draft);
   void TryPlainOptions(const RuleDraft& draft);
   /// Labels that say "answer" in some language, or those that do not.
   enum class LabelKinds { Words, Others };
   void TryAnswerLabels(LabelKinds kinds);
   void TryLabels(const std::set<std::u16string>& labels, bool withinLines);
+  bool AreInstructionsMarked(const PaperText& text, const PaperOutline& outline) const;
   void TryHeadings();
   void TryMarkedHeadings();
+  void TryMarkedPlaces();
   void TrySteps();
   bool TryBestStep();
   void Simplify();

@@ -20,6 +20,7 @@ class MarkedPlaces {
   MarkedPlaces(const Paper& paper, const std::vector<PaperMark>& marks) : paper_(paper), marks_(marks) {}
 
   bool IsEmpty() const { return marks_.empty(); }
+  const std::vector<PaperMark>& Marks() const { return marks_; }
 
   /// Places in `text` of what has a mark of that role.
   std::vector<TextSpan> PlacesIn(const PaperText& text, PaperRole role) const;
@@ -37,6 +38,8 @@ class MarkedPlaces {
   /// False for a mark that no layout can follow, so that none is better for it.
   bool CanBeFollowed(const PaperMark& mark) const;
 
+  bool IsFollowed(const PaperMark& mark, const std::vector<RolePart>& roles) const;
+
   /// The share of the marks that a reading follows; 1 without any mark.
   double Followed(const std::vector<RolePart>& roles) const;
 
@@ -44,7 +47,6 @@ class MarkedPlaces {
   std::vector<std::size_t> Unfollowed(const std::vector<RolePart>& roles) const;
 
  private:
-  bool IsFollowed(const PaperMark& mark, const std::vector<RolePart>& roles) const;
   bool GoesOnBehind(const PaperMark& mark, const std::vector<RolePart>& roles) const;
   static bool BelongTogether(std::vector<RolePart>::const_iterator one,
                              std::vector<RolePart>::const_iterator other);

@@ -23,6 +23,23 @@ bool Holds(std::u16string_view units, char16_t unit) {
   return units.find(unit) != units.npos;
 }
 
+/// Answers that teachers put before a number without brackets.
+constexpr std::u16string_view kBareKeys = u"TFVXRABCDE√×✓✗✔✘○对错対";
+
+/// Words between the number of a question and how many there are.
+constexpr std::u16string_view kOfWords[] = {u"of", u"von", u"de", u"sur",  u"di", u"van", u"av",
+                                            u"af", u"z",   u"ze", u"dari", u"из", u"з",   u"/"};
+constexpr std::u16string_view kTailOpens = u"(（[【";
+constexpr std::u16string_view kTailCloses = u")）]】";
+
+/// What ends the line of a number: how many there are, points in brackets, or both.
+std::u16string TailPattern() {
+  std::set<std::u16string> words;
+  for (const std::u16string_view word : kOfWords) words.emplace(word);
+  return u"(?:(?:[ ]*" + OneOfPattern(words) +
+         u"[ ]*[0-9]{1,3})?[ .:]*(?:[(（\\[【][^()（）\\[\\]【】\\r\\n]{1,48}[)）\\]】])?[ \\t]*$)?";
+}
+
 /// A letter of any script, as words in front of numbers have them.
 bool IsLetter(char16_t unit) {
   if (unit < 0x80) return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z';
@@ -42,6 +59,7 @@ class LabelReading {
     begin_ = AfterKey(begin_);
     isAfterKey_ = begin_ > lineBegin;
     Read({}, begin_);
+    if (!isAfterKey_) ReadBehindBareKey();
     // Words in front of the number, as few as possible.
     constexpr std::size_t kLongestPrefix = 24;
     for (std::size_t at = begin_; at < std::min(text_.size(), begin_ + kLongestPrefix); ++at) {
@@ -64,6 +82,17 @@ class LabelReading {
     const std::size_t end = std::max(AfterBrackets(at), AfterLine(at));
     const std::size_t next = SkipBlanks(text_, end, text_.size());
     return end > at && IsNumberHere(next) ? next : at;
+  }
+
+  /// "T  1." may be the answer of question 1, or the first number of kind "T".
+  void ReadBehindBareKey() {
+    const std::size_t begin = begin_;
+    if (begin + 1 >= text_.size() || !Holds(kBareKeys, text_[begin]) || !IsBlank(text_[begin + 1])) return;
+    begin_ = SkipBlanks(text_, begin + 1, text_.size());
+    isAfterKey_ = true;
+    if (IsDigitHere(begin_)) Read({}, begin_);
+    begin_ = begin;
+    isAfterKey_ = false;
   }
 
   /// Behind "(B)", "(√)" or "( )"; `at` if there is none.
@@ -142,8 +171,28 @@ class LabelReading {
       label.isSpaced = label.prefix.empty();
     }
     if (IsDecimal(label.kind) && label.close == u"." && at < text_.size() && IsDigitUnit(text_[at])) return;
+    label.hasTail = IsTail(text_.substr(at));
     label.place = {begin_, at};
     labels_.push_back(std::move(label));
+  }
+
+  /// Whether nothing but " of 5" or "(2 points)", or both, ends the line.
+  static bool IsTail(std::u16string_view rest) {
+    TextSpan tail = Trimmed(rest, {0, rest.size()});
+    if (tail.IsEmpty()) return false;
+    if (Holds(kTailCloses, rest[tail.end - 1])) {
+      constexpr std::size_t kLongestPoints = 48;
+      const std::size_t open = rest.find_last_of(kTailOpens, tail.end - 1);
+      if (open == rest.npos || open < tail.begin || tail.end - open > kLongestPoints) return false;
+      const bool hasNumber = std::ranges::any_of(TextSpan{open, tail.end}.Of(rest), IsDigitUnit);
+      tail = Trimmed(rest, {tail.begin, open});
+      if (tail.IsEmpty() || !hasNumber) return hasNumber;
+    }
+    const std::u16string_view whole = tail.Of(rest);
+    const std::size_t digits = std::min(whole.find_first_of(u"0123456789"), whole.size());
+    const std::u16string_view word = Trimmed(whole, {0, digits}).Of(whole);
+    return std::ranges::all_of(whole.substr(digits), IsDigitUnit) && digits < whole.size() &&
+           std::ranges::find(kOfWords, word) != std::end(kOfWords);
   }
 
   static bool IsDecimal(NumeralKind kind) { return kind <= NumeralKind::Thai; }
@@ -198,6 +247,7 @@ NumberFamily FamilyOf(std::vector<NumberLabel> labels) {
     family.kind = label.kind;
     family.isSpaced = label.isSpaced;
     family.isAfterKeys = family.isAfterKeys || label.isAfterKey;
+    family.tails += label.hasTail ? 1 : 0;
     family.closes.insert(label.close);
   }
   family.labels = std::move(labels);
@@ -275,7 +325,8 @@ std::u16string NumberFamily::Pattern() const {
   // A "!" before the label stays apart from the marker, which is made of "!".
   std::u16string pattern = u"(?<!!)\\s*^[ \\t\u00A0\u3000]*";
   if (isAfterKeys)
-    pattern += u"(?:(?:[(（\\[][^()（）\\[\\]\\r\\n]{0,3}[)）\\]]|_{2,}[A-Za-z]?_*)[ \\t\u3000]*)?";
+    pattern += u"(?:(?:[(（\\[][^()（）\\[\\]\\r\\n]{0,3}[)）\\]]|_{2,}[A-Za-z]?_*|[" +
+               std::u16string(kBareKeys) + u"](?=[ \\t]))[ \\t\u3000]*)?";
   if (!prefix.empty()) pattern += u"(?i:" + LiteralPattern(prefix) + u")[ \\t\u00A0\u3000]*";
   if (isBracketed) pattern += ClassPattern(opens) + u"[ \\t\u3000]*";
   pattern += NumeralPattern(kind, mostDigits);
@@ -292,6 +343,7 @@ std::u16string NumberFamily::Pattern() const {
   if (!units.empty()) patterns.insert((isBracketed ? u"" : u"[ ]?") + ClassPattern(units));
   pattern += OneOfPattern(patterns);
   if (kind == NumeralKind::Decimal && units.contains(u'.')) pattern += u"(?![0-9])";
+  if (tails * 2 > labels.size()) pattern += TailPattern();
   return pattern + u"\\s*";
 }
 

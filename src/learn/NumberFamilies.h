@@ -21,6 +21,7 @@ struct NumberLabel {
   std::u16string close{};   ///< what follows the number directly; may be empty after a prefix or bracket
   bool isSpaced = false;    ///< nothing but a blank follows the number
   bool isAfterKey = false;  ///< a letter in brackets, or a blank for it, stands before it: "(B) 1."
+  bool hasTail = false;     ///< how many there are, or points, end its line: "Question 1 of 5 (2 points)"
 };
 
 /// Labels that are written alike, and what pattern finds them.
@@ -34,6 +35,7 @@ struct NumberFamily {
   std::size_t mostDigits = kUsualDigits;
   bool isAfterKeys = false;           ///< letters in brackets, or blanks for them, stand before some labels
   std::vector<NumberLabel> labels{};  ///< in the order of the text
+  std::size_t tails = 0;              ///< how many labels have one
   double rising = 0;  ///< share of the labels whose number follows on the one before, or begins anew
   int restarts = 0;   ///< how often the numbers begin anew
 

@@ -101,34 +101,39 @@ std::u16string EndPattern(const std::set<std::u16string_view>& letters, const st
   return ClassPattern(closes) + (areDigits ? u"(?<![.,:](?=[0-9]))" : u"");
 }
 
-/// `closed` where it can be a label that is ended by one of `closes`.
-std::u16string ClosedPattern(const std::u16string& closed, const std::set<char16_t>& closes,
-                             bool atLineStarts) {
+/// What must precede a label of that kind; nothing where its place is told already.
+std::u16string BeginOf(const std::set<char16_t>& closes, LabelPlaces places) {
+  if (places != LabelPlaces::Anywhere) return {};
   const auto isWeak = [](char16_t close) { return kWeakLabelCloses.find(close) != kWeakLabelCloses.npos; };
-  if (atLineStarts) return closed;
   const bool areWeak = std::all_of(closes.begin(), closes.end(), isWeak);
-  return (areWeak ? std::u16string(kSetOff) : u"(?<![0-9A-Za-z\u00C0-\u04FF])") + closed;
+  return areWeak ? std::u16string(kSetOff) : u"(?<![0-9A-Za-z\u00C0-\u04FF])";
+}
+
+/// What must precede any label of a paper.
+std::u16string_view PlacePattern(LabelPlaces places) {
+  if (places == LabelPlaces::LineStarts) return u"^[ \\t\u00A0\u3000]*";
+  return places == LabelPlaces::SetOff ? kSetOff : std::u16string_view();
 }
 
 }  // namespace
 
-std::u16string OptionFamily::LabelPattern(std::size_t index, bool atLineStarts) const {
+std::u16string OptionFamily::LabelPattern(std::size_t index, LabelPlaces places) const {
   const std::set<std::u16string_view> letters = FormsAt(index, alphabets, false);
   const std::set<std::u16string_view> symbols = FormsAt(index, alphabets, true);
   std::set<std::u16string> ways{LiteralPattern(PreparedOption(index))};
   const std::u16string letter = LetterPattern(letters);
   const std::u16string close = EndPattern(letters, closes);
   if (!letters.empty() && isPlain && !closes.empty())
-    ways.insert(ClosedPattern(letter + u"[ ]?" + close, closes, atLineStarts));
+    ways.insert(BeginOf(closes, places) + letter + u"[ ]?" + close);
   if (!letters.empty() && isBracketed) ways.insert(ClassPattern(opens) + u"[ ]?" + letter + u"[ ]?" + close);
   if (!letters.empty() && isBare) {
     const bool isAlone = std::ranges::any_of(
         alphabets, [](std::size_t alphabet) { return OptionAlphabets()[alphabet].standsAlone; });
     const std::u16string begin = isAlone ? u"(?:^|(?<=[ \\t\u3000]))" : std::u16string(kSetOff);
-    ways.insert((atLineStarts ? u"^[ \\t]*" : begin) + letter + u"[ \\t\u00A0\u3000]");
+    ways.insert((places == LabelPlaces::Anywhere ? begin : u"") + letter + u"[ \\t\u00A0\u3000]");
   }
   if (!symbols.empty()) ways.insert(LetterPattern(symbols) + (closes.empty() ? u"" : close + u"?"));
-  return (atLineStarts ? u"^[ \\t\u00A0\u3000]*" : u"") + OneOfPattern(ways);
+  return std::u16string(PlacePattern(places)) + OneOfPattern(ways);
 }
 
 std::u16string OptionFamily::Example() const {

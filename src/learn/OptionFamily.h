@@ -12,6 +12,13 @@
 
 namespace quorvantis {
 
+/// Where the labels of options may stand.
+enum class LabelPlaces {
+  LineStarts,
+  SetOff,  ///< at the beginning of a line, or behind a tab or two blanks
+  Anywhere,
+};
+
 /// How the options of a paper are labelled, from all its questions together.
 struct OptionFamily {
   std::set<std::size_t> alphabets{};  ///< in OptionAlphabets
@@ -26,8 +33,8 @@ struct OptionFamily {
 
   bool IsEmpty() const { return alphabets.empty(); }
 
-  /// The pattern of the label of option `index`. With `atLineStarts` it must begin its line.
-  std::u16string LabelPattern(std::size_t index, bool atLineStarts) const;
+  /// The pattern of the label of option `index`.
+  std::u16string LabelPattern(std::size_t index, LabelPlaces places) const;
 
   /// "A.", for telling users.
   std::u16string Example() const;

@@ -7,6 +7,7 @@
 #include "import/marking/ImportMarkers.h"
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/PreparedLabels.h"
+#include "learn/NumberFamilies.h"
 #include "learn/ReadingRoles.h"
 
 #include <algorithm>
@@ -37,23 +38,31 @@ std::vector<int> NumbersOf(const Paper& paper, const MarkedText& marked) {
   return values;
 }
 
-double RisingShare(const std::vector<int>& numbers) {
+/// `numbers`: those of the paper; further ones are of questions that a step has numbered.
+double RisingShare(const std::vector<int>& numbers, std::size_t questions, double choices) {
   constexpr double kOfStepsOwnNumbers = 0.7;
   if (numbers.empty()) return kOfStepsOwnNumbers;
+  const std::size_t ownNumbers = questions - std::min(questions, numbers.size());
+  int missing = static_cast<int>(ownNumbers);
   std::size_t good = 0;
   std::size_t runs = 1;
   int before = 0;
   for (const int number : numbers) {
     const bool isAnew = number == 1 && before > 2;
-    if (number == before + 1 || isAnew) ++good;
+    const int gap = number - before - 1;
+    const bool isFilled = gap > 0 && gap <= missing;
+    if (isFilled) missing -= gap;
+    if (gap == 0 || isFilled || isAnew) ++good;
     runs += isAnew ? 1 : 0;
     before = number;
   }
-  // Numbers that begin anew all the time are those of options.
-  constexpr std::size_t kFewRuns = 3;
+  // Numbers that begin anew all the time are those of options, unless what they number has options itself.
+  constexpr std::size_t kManyRuns = 3;
   constexpr std::size_t kShortRun = 6;
-  const bool areOptions = runs > kFewRuns && numbers.size() < runs * kShortRun;
-  return Share(good, numbers.size()) * (areOptions ? 0.5 : 1.0);
+  constexpr double kMostly = 0.5;
+  const bool areOptions = runs >= kManyRuns && numbers.size() < runs * kShortRun && choices < kMostly;
+  const double all = static_cast<double>(good) + kOfStepsOwnNumbers * static_cast<double>(ownNumbers);
+  return all / static_cast<double>(numbers.size() + ownNumbers) * (areOptions ? 0.5 : 1.0);
 }
 
 bool HasMarker(std::u16string_view text) {
@@ -84,6 +93,7 @@ class Counting {
     score.keys = Share(keys_, choices_);
     score.plausibleKeys = keys_ == 0 ? 0 : plausible_ / static_cast<double>(keys_);
     score.leftOptions = Share(leftOptions_, all);
+    score.leftNumbers = Share(leftNumbers_, leftNumbers_ + all);
     score.strayMarkers = Share(markers_, all);
     score.longOptions = Share(longOptions_, choices_);
     score.emptyParts = Share(empty_, all);
@@ -122,6 +132,33 @@ class Counting {
       }
     }
     if (isLong) ++longOptions_;
+    leftNumbers_ += NumberedLines(LastOption(question));
+  }
+
+  static std::u16string_view LastOption(const ReadQuestion& question) {
+    std::u16string_view last;
+    for (const std::u16string& option : question.options) {
+      if (!option.empty()) last = option;
+    }
+    return last;
+  }
+
+  /// Lines behind the first one that begin as questions do, with a number.
+  static std::size_t NumberedLines(std::u16string_view option) {
+    if (option.find_first_of(kLineEnds) == option.npos) return 0;
+    std::size_t count = 0;
+    const std::vector<TextSpan> lines = LinesOf(option, {0, option.size()});
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+      const std::vector<NumberLabel> labels = NumberLabelsAt(option, lines[i]);
+      count +=
+          std::any_of(labels.begin(), labels.end(),
+                      [](const NumberLabel& label) {
+                        return label.kind <= NumeralKind::Thai && !label.close.empty() && label.open == 0;
+                      })
+              ? 1
+              : 0;
+    }
+    return count;
   }
 
   bool HoldsOptions(const ReadQuestion& question) const {
@@ -152,6 +189,7 @@ class Counting {
   std::size_t keys_ = 0;
   double plausible_ = 0;
   std::size_t leftOptions_ = 0;
+  std::size_t leftNumbers_ = 0;
   std::size_t markers_ = 0;
   std::size_t longOptions_ = 0;
   std::size_t empty_ = 0;
@@ -167,10 +205,10 @@ ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading,
   if (reading.HasFailed()) return score;
   score.questions = reading.paper.questions.size();
   if (score.questions == 0) return score;
-  score.rising = RisingShare(NumbersOf(paper, reading.marked));
   score.explained = ExplainedShare(paper, RolesOf(paper, reading));
   score.dropped = std::min(Share(reading.paper.dropped.size(), score.questions), 1.0);
   Counting(reading.paper, alphabets).Fill(score);
+  score.rising = RisingShare(NumbersOf(paper, reading.marked), score.questions, score.choices);
   return score;
 }
 
@@ -179,7 +217,7 @@ double ReadingScore::Total() const {
   const double many = std::log2(1.0 + static_cast<double>(std::min<std::size_t>(questions, 40)));
   return 4 * rising + 0.5 * many + choices * (1.5 * regular + 0.5) +
          choices * keys * (2.5 * plausibleKeys - 0.5) + 0.5 * answered + 2 * explained - 5 * leftOptions -
-         5 * strayMarkers - 2 * dropped - 0.7 * longOptions - 4 * emptyParts - 2 * overlong;
+         5 * strayMarkers - 5 * leftNumbers - 2 * dropped - 0.7 * longOptions - 4 * emptyParts - 2 * overlong;
 }
 
 double ReadingScore::Confidence() const {

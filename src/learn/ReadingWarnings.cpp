@@ -98,12 +98,16 @@ class WarningSearch {
   void LookAtNumbers() {
     constexpr int kLargestGap = 20;
     int last = 0;
+    int lastQuestion = -1;
     for (const PaperNumber& number : NumbersOf(paper_, reading_)) {
       if (number.value == 0 || number.question < 0) continue;
       const int step = number.value - last;
       if (last > 0 && step == 0) Add({Kind::NumberAgain, number.question, number.value});
-      if (last > 0 && step > 1 && step <= kLargestGap) Add({Kind::NumberMissing, number.question, last + 1});
+      // A step may have put a number in.
+      const bool isMissing = step > 1 && number.question - lastQuestion < step;
+      if (last > 0 && isMissing && step <= kLargestGap) Add({Kind::NumberMissing, number.question, last + 1});
       last = number.value;
+      lastQuestion = number.question;
     }
   }
 
@@ -164,7 +168,7 @@ class WarningSearch {
 
   /// What KeyLetters has taken away because it names no option without doubt.
   void LookAtUnclearKeys() {
-    if (!Uses(u"KeyLetters")) return;
+    if (!Uses(step_name::kKeyLetters)) return;
     try {
       for (UnclearKey& unclear : KeysNotOptions(paper_, rules_, {})) {
         if (unclear.question < questions_.size() && IsEmptyText(questions_[unclear.question].key))

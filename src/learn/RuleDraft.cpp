@@ -16,11 +16,26 @@ namespace {
 
 constexpr std::size_t kLongestRule = 1'023;
 
+/// Keeps a pattern for numbers, which begins at the beginning of a line, from some lines.
+std::u16string WithoutLines(std::u16string pattern, const std::set<std::u16string>& lines) {
+  const std::size_t place = pattern.find(u'^');
+  if (!lines.empty() && place != pattern.npos) pattern.insert(place + 1, u"(?!" + OneOfPattern(lines) + u")");
+  return pattern;
+}
+
 std::u16string PreQuestion(const RuleDraft& draft) {
   const std::u16string prepared = u"(?<!!)\\s*^" + std::u16string(kPreparedNumberPattern) + u"[ ]*";
-  if (draft.numbers.empty()) return prepared;
-  const std::u16string pattern = draft.numbers.front().Pattern();
-  return draft.HasStep(step_name::kTableOptions) ? u"(?:" + pattern + u"|" + prepared + u")" : pattern;
+  std::vector<std::u16string> ways;
+  if (!draft.numbers.empty())
+    ways.push_back(WithoutLines(draft.numbers.front().Pattern(), draft.noQuestions));
+  if (draft.numbers.empty() || draft.HasStep(step_name::kTableOptions) ||
+      draft.HasStep(step_name::kForgottenNumbers))
+    ways.push_back(prepared);
+  ways.insert(ways.end(), draft.questionBegins.begin(), draft.questionBegins.end());
+  if (ways.size() == 1) return ways.front();
+  std::u16string pattern;
+  for (const std::u16string& way : ways) pattern += (pattern.empty() ? u"(?:" : u"|") + way;
+  return pattern + u")";
 }
 
 /// "Answer 1:" finds those of all questions.
@@ -44,11 +59,18 @@ std::u16string PreAnswer(const RuleDraft& draft) {
   return pattern + u")[ \\t\u3000]*";
 }
 
+std::u16string OptionPattern(const RuleDraft& draft, std::size_t index) {
+  const std::u16string pattern = draft.options.LabelPattern(index, draft.optionPlaces);
+  const auto marked = draft.optionBegins.find(index);
+  if (marked == draft.optionBegins.end()) return pattern;
+  return u"(?:" + pattern + u"|" + OneOfPattern(marked->second) + u")";
+}
+
 /// Each further option may be missing, and then those after it are, too.
 std::u16string ChoicePattern(const RuleDraft& draft) {
   std::u16string pattern = u"(?<Q1>.+?)";
   for (std::size_t i = 0; i < kOptionCount; ++i) {
-    const std::u16string label = u"\\s*" + draft.options.LabelPattern(i, draft.optionsAtLineStarts) + u"\\s*";
+    const std::u16string label = u"\\s*" + OptionPattern(draft, i) + u"\\s*";
     const std::u16string name(1, OptionLetter(i));
     if (i < 2) {
       pattern += label + u"(?<" + name + u">.*?)";
@@ -62,7 +84,8 @@ std::u16string ChoicePattern(const RuleDraft& draft) {
 std::u16string Pattern(const RuleDraft& draft) {
   const std::u16string other = u"(?<Q2>.*\\S)";
   const bool hasOptions = !draft.options.IsEmpty() || draft.HasStep(step_name::kPlainOptions) ||
-                          draft.HasStep(step_name::kTableOptions) || draft.HasStep(step_name::kJudgement);
+                          draft.HasStep(step_name::kTableOptions) || draft.HasStep(step_name::kJudgement) ||
+                          !draft.optionBegins.empty();
   return hasOptions ? ChoicePattern(draft) + u"|" + other : other;
 }
 
@@ -75,7 +98,8 @@ std::u16string Title(const RuleDraft& draft) {
 ImportSettings RulesOf(const RuleDraft& draft) {
   ImportSettings rules;
   rules.m_strPreQuestion = PreQuestion(draft);
-  if (draft.numbers.size() > 1) rules.m_strPreParenQuestion = draft.numbers[1].Pattern();
+  if (draft.numbers.size() > 1)
+    rules.m_strPreParenQuestion = WithoutLines(draft.numbers[1].Pattern(), draft.noQuestions);
   rules.m_strPreAnswer = PreAnswer(draft);
   rules.m_strPattern = Pattern(draft);
   rules.m_strTitle = Title(draft);

@@ -5,6 +5,7 @@
 #include "learn/NumberFamilies.h"
 #include "learn/OptionFamily.h"
 
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -16,12 +17,17 @@ namespace quorvantis {
 struct RuleDraft {
   std::vector<NumberFamily> numbers{};  ///< none: questions get their numbers from a step
   OptionFamily options{};
-  bool optionsAtLineStarts = true;
+  LabelPlaces optionPlaces = LabelPlaces::LineStarts;
   std::set<std::u16string> answerLabels{};  ///< as they are written, "Answer:"
   bool labelsWithinLines = false;           ///< an answer label may stand within a line
   std::set<std::u16string> headings{};      ///< patterns of whole lines
   std::u16string answersFrom{};             ///< the pattern of the line that the answers at the end follow
   std::set<std::u16string, std::less<>> steps{};  ///< names of preparations
+
+  /// Places that no family has and that were marked, as patterns (MarkedLiterals.h).
+  std::set<std::u16string> questionBegins{};
+  std::map<std::size_t, std::set<std::u16string>> optionBegins{};  ///< by the index of the option
+  std::set<std::u16string> noQuestions{};                          ///< beginnings of lines that are none
 
   bool HasStep(std::u16string_view step) const { return steps.contains(step); }
 };

@@ -463,6 +463,10 @@ constexpr int kStepOpenAnswers = 1699;
 constexpr int kStepAnswerSlips = 1607;
 constexpr int kStepPassages = 1608;
 constexpr int kStepPlainSpaces = 1860;
+constexpr int kStepOptionColumns = 1850;
+constexpr int kStepNumberedOptions = 1851;
+constexpr int kStepForgottenNumbers = 1852;
+constexpr int kStepClozeStems = 1853;
 constexpr int kPapers = 1609;  // a file filter
 
 // Of rules that were worked out. First how sure they are, in percent.

@@ -235,9 +235,19 @@ struct KeyBeforeNumber {
   std::size_t numberAfter = 0;  ///< the place of the number when all such keys are gone
 };
 
+/// "T  1." or "B 2.": a capital letter or a sign alone before a number.
+std::optional<BracketedText> BareKeyAt(std::u16string_view text, TextSpan line) {
+  if (line.Size() < 2 || !IsBlank(text[line.begin + 1])) return std::nullopt;
+  const TextSpan key{line.begin, line.begin + 1};
+  const char16_t unit = text[line.begin];
+  const bool isCapital = unit >= u'A' && unit <= u'E';
+  return isCapital || IsJudgement(key.Of(text)) ? std::optional(BracketedText{key, key}) : std::nullopt;
+}
+
 std::optional<KeyBeforeNumber> KeyBeforeNumberAt(std::u16string_view text, TextSpan line) {
   const std::size_t begin = SkipBlanks(text, line.begin, line.end);
-  const auto pair = BracketedAt(text, begin, line.end);
+  auto pair = BracketedAt(text, begin, line.end);
+  if (!pair) pair = BareKeyAt(text, {begin, line.end});
   if (!pair || pair->inner.Size() == 0 || pair->inner.Size() > 9) return std::nullopt;
   const std::u16string_view inner = pair->inner.Of(text);
   const bool isLetter =

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/FrontInstructions.h"
 #include "import/prepare/KeyReader.h"
 #include "import/prepare/NoiseLines.h"
 #include "import/prepare/PageHeads.h"
 #include "import/prepare/PaperOutline.h"
 #include "import/prepare/PaperRewrite.h"
+#include "import/prepare/PlatformLines.h"
 #include "import/prepare/RuleMatches.h"
 #include "import/prepare/ScoreText.h"
 #include "import/prepare/Steps.h"
@@ -27,6 +29,7 @@ class NoiseSearch {
     isNoise_ = FindPageHeads(text_, lines_);
     FindTitles(context);
     FindTags();
+    FindPlatformLines();
     FindFields();
     FindEnds();
     KeepOnlyTexts();
@@ -57,9 +60,11 @@ class NoiseSearch {
   }
 
   /// Lines with a number, an option or the label of an answer. What is after the heading of the answers is
-  /// no part of any question.
+  /// no part of any question. Rules may leave out what can be instructions, numbered as questions are.
   void KeepLabels() {
-    for (const OutlinedQuestion& question : outline_.questions) {
+    const std::size_t instructions = NumberedInFront(text_, outline_);
+    for (std::size_t i = instructions; i < outline_.questions.size(); ++i) {
+      const OutlinedQuestion& question = outline_.questions[i];
       Keep(question.label);
       if (question.HasAnswer()) Keep(question.answerLabel);
       if (!question.options) continue;
@@ -96,6 +101,23 @@ class NoiseSearch {
     for (std::size_t i = 0; i < lines_.size(); ++i) {
       if (IsTagLine(Content(i))) isNoise_[i] = true;
     }
+  }
+
+  /// Buttons and the like of a web page; a single line may be text.
+  void FindPlatformLines() {
+    constexpr std::size_t kFewest = 2;
+    std::vector<std::size_t> found;
+    std::size_t state = lines_.size();
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+      const std::u16string_view content = Content(i);
+      if (content.empty()) continue;
+      const bool isPlatform = IsPlatformLine(content);
+      if (isPlatform) found.push_back(i);
+      if (isPlatform && state < i) found.push_back(state);
+      state = IsStateLine(content) ? i : lines_.size();
+    }
+    if (found.size() < kFewest) return;
+    for (const std::size_t line : found) isNoise_[line] = true;
   }
 
   /// "____/5" by itself may be a fraction to fill in, but not at every other question.
@@ -143,7 +165,9 @@ class NoiseSearch {
 
   /// A question that would have no text left keeps it.
   void KeepOnlyTexts() {
-    for (const OutlinedQuestion& question : outline_.questions) {
+    const std::size_t instructions = NumberedInFront(text_, outline_);
+    for (std::size_t index = instructions; index < outline_.questions.size(); ++index) {
+      const OutlinedQuestion& question = outline_.questions[index];
       const TextSpan body = Trimmed(text_, {question.label.end, question.answerLabel.begin});
       if (body.IsEmpty()) continue;
       const std::size_t first = LineAt(body.begin);

@@ -24,6 +24,24 @@ void TableOptions(PaperText& text, const PreparationContext& context);
 /// Letters of another script that look alike: a Latin "a)" before "б)" becomes a Cyrillic one.
 void MixedLetters(PaperText& text, const PreparationContext& context);
 
+/// Options that run down the columns come one below the other.
+///     a. red    c. blue           ->  a. red, b. green, c. blue, d. grey, a line each
+///     b. green  d. grey
+void OptionColumns(PaperText& text, const PreparationContext& context);
+
+/// Numbers of options that are written like those of questions become others: "1." before "1." and "2." is a
+/// question with the options "①" and "②".
+void NumberedOptions(PaperText& text, const PreparationContext& context);
+
+/// A question whose number was forgotten, told by its options, gets one, and so does one whose number is
+/// misread: "⟦3⟧" for "3," and "⟦1⟧" for "l.".
+void ForgottenNumbers(PaperText& text, const PreparationContext& context);
+
+/// Questions about the gaps of a text, which have options and nothing else, get their number as text.
+///     7. A. went  B. go           ->  7. (7)
+///                                     A. went  B. go
+void ClozeStems(PaperText& text, const PreparationContext& context);
+
 /// What is no part of the exam goes: page heads that repeat, "QuestionID 17", lines with sources, and, whole
 /// and without the characters before it, what rule "Title" finds.
 void Noise(PaperText& text, const PreparationContext& context);
