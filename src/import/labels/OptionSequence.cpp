@@ -15,6 +15,7 @@ namespace {
 struct Candidate {
   std::size_t alphabet = 0;
   bool isBracketed = false;
+  bool isLoose = false;  ///< might be text: a label only beside others that are written alike
   OptionLabel label;
 };
 
@@ -64,7 +65,7 @@ class LabelScan {
     for (const AlphabetLabel& one : labels) {
       if (one.size != size) continue;
       label.index = one.letter.index;
-      found_.push_back({one.letter.alphabet, label.open != 0, label});
+      found_.push_back({one.letter.alphabet, label.open != 0, IsLoose(label), label});
     }
   }
 
@@ -94,6 +95,14 @@ class LabelScan {
     if (!BeginsLine(text_, at)) return IsLatinLabel(at) && UnitAt(behind) == u' ' && IsSetOff(at);
     return UnitAt(behind) == u'\t' || UnitAt(behind) == u'\u3000' ||
            (UnitAt(behind) == u' ' && (UnitAt(behind + 1) == u' ' || IsLatinLabel(at)));
+  }
+
+  /// "a dog" at the beginning of a line, and what only a wide gap sets off within one.
+  bool IsLoose(const OptionLabel& label) const {
+    const std::size_t at = label.letter.begin;
+    if (label.close == 0 && label.open == 0 && IsLatinLabel(at))
+      return !label.beginsLine || (text_[at] >= u'a' && UnitAt(at + 1) == u' ');
+    return !label.beginsLine && label.open == 0 && label.close != 0 && Has(kWeakLabelCloses, label.close);
   }
 
   /// Whether at least two blanks, or a tab, stand before a place within a line.
@@ -169,15 +178,24 @@ void TakeAlikeFirst(const std::vector<const Candidate*>& labels, std::size_t fir
   }
 }
 
+/// Whether a candidate may follow the first one of a run.
+bool FitsRun(const Candidate& first, const Candidate& next) {
+  return (!first.isLoose && !next.isLoose) || AreAlike(first.label, next.label);
+}
+
 /// The longest run through the candidates of one alphabet, each the next letter.
 std::vector<OptionLabel> RunFrom(const std::vector<const Candidate*>& labels, std::size_t first) {
   std::vector<OptionLabel> run{labels[first]->label};
   for (std::size_t i = first + 1; i < labels.size(); ++i) {
     const OptionLabel& label = labels[i]->label;
-    if (label.index == run.size() && label.letter.begin >= run.back().label.end) run.push_back(label);
+    const bool isNext = label.index == run.size() && label.letter.begin >= run.back().label.end;
+    if (isNext && FitsRun(*labels[first], *labels[i])) run.push_back(label);
   }
   TakeAlikeFirst(labels, first, run);
-  return run;
+  // Two letters alone are words: "a" and "b" of a text.
+  constexpr std::size_t kFewestAlone = 3;
+  const bool areWords = labels[first]->isLoose && run[0].close == 0 && run.size() < kFewestAlone;
+  return areWords ? std::vector<OptionLabel>() : run;
 }
 
 /// Runs whose labels begin lines are options rather than letters of the text.
