@@ -5,6 +5,8 @@
 #include "import/marking/ImportMarkers.h"
 #include "text/PathText.h"
 
+#include <algorithm>
+
 namespace quorvantis {
 namespace {
 
@@ -42,6 +44,11 @@ std::size_t CountIn(std::u16string_view text, std::u16string_view part) {
 
 bool AnswersHavePictures(const ExamQuestion& question) {
   return Holds(question.answerText, kPictureSuffix) || Holds(question.essayAnswer, kPictureSuffix);
+}
+
+bool OptionsHavePictures(const ExamQuestion& question) {
+  return std::ranges::any_of(question.options,
+                             [](const std::u16string& option) { return Holds(option, kPictureSuffix); });
 }
 
 bool ShowsPictures(const ExamQuestion& question) {

@@ -14,6 +14,9 @@ namespace quorvantis {
 /// Whether an answer of the question shows a picture, which an exam cannot.
 bool AnswersHavePictures(const ExamQuestion& question);
 
+/// Whether an option does.
+bool OptionsHavePictures(const ExamQuestion& question);
+
 /// Whether the text of the question or of an answer contains the name of a picture.
 bool ShowsPictures(const ExamQuestion& question);
 

@@ -218,8 +218,11 @@ void ImportCommand::Report(ImportReport& report) {
   }
   report.loneLineEnds = CountLoneLineEnds(Exam(), firstSlot_, nextSlot_ - 1);
   report.formulasKept = std::min(CountFormulas(Exam(), firstSlot_, nextSlot_ - 1), report.content->formulas);
-  const bool hasFirst = firstSlot_ == 1 && nextSlot_ > 1 && FirstToCheck() > 1;
   const int pictures = report.content->nextPicture - report.content->firstPicture;
+  for (int n = firstSlot_; n < nextSlot_ && pictures > 0; ++n) {
+    if (OptionsHavePictures(Exam().Question(n))) report.optionPictures.push_back(n);
+  }
+  const bool hasFirst = firstSlot_ == 1 && nextSlot_ > 1 && FirstToCheck() > 1;
   if (hasFirst && pictures > 0 && ShowsPictures(Exam().Question(1))) report.questionAsItIs = 1;
   NoteStep();
   dialogs_.ShowReport(report, *this);

@@ -33,12 +33,13 @@ struct ImportReport {
   MarkedText marked;
   ReadPaper paper;
   int firstSlot = 1;
-  int nextSlot = 1;              ///< the one after the last slot written
-  int removed = 0;               ///< questions removed again because of pictures or formulas
-  std::vector<int> replaced;     ///< numbers of earlier questions that are gone
-  std::vector<int> filesStayed;  ///< imported questions with attached files of earlier ones
-  int loneLineEnds = 0;          ///< questions with line ends after which pages drop a character
-  std::size_t formulasKept = 0;  ///< places of formulas in the imported questions
+  int nextSlot = 1;                 ///< the one after the last slot written
+  int removed = 0;                  ///< questions removed again because of pictures or formulas
+  std::vector<int> replaced;        ///< numbers of earlier questions that are gone
+  std::vector<int> filesStayed;     ///< imported questions with attached files of earlier ones
+  int loneLineEnds = 0;             ///< questions with line ends after which pages drop a character
+  std::vector<int> optionPictures;  ///< imported questions with names of pictures in their options
+  std::size_t formulasKept = 0;     ///< places of formulas in the imported questions
   /// The question whose pictures were not checked, because an import that begins with question 1 never checks
   /// its first one; 0 for none.
   int questionAsItIs = 0;

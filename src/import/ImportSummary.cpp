@@ -74,6 +74,7 @@ class Summary {
   void TellImported() {
     TellAnswerBlocks();
     TellLostPictures();
+    SayOfQuestions(text_id::kOptionPictures, report_.optionPictures);
     TellFormulas();
     if (report_.questionAsItIs != 0) Say(text_id::kQuestionAsItIs, {Text(report_.questionAsItIs)});
     if (report_.loneLineEnds > 0) Say(text_id::kLineEnds, {Text(report_.loneLineEnds)});

@@ -767,5 +767,6 @@ constexpr int kVersionsReplaceAsk = 2131;
 constexpr int kVersionsPlace = 2132;
 constexpr int kVersionsQuestionRow = 2133;
 constexpr int kVersionsMaking = 2134;
+constexpr int kOptionPictures = 1885;  // %2 names the %1 questions
 
 }  // namespace quorvantis::text_id

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "learn/LeftOutPlace.h"
+#include "learn/LeftOutPlaces.h"
 #include "learn/UnfollowedMarks.h"
 
 #include <gtest/gtest.h>
@@ -55,15 +55,16 @@ TEST(UnfollowedMarks, AreExplainedByWhatIsInTheirWay) {
   }
 }
 
-TEST(LeftOutPlace, IsFoundByItsBeginning) {
+TEST(LeftOutPlaces, AreFoundByTheirBeginning) {
   const Paper paper = PaperOf(u"Why now?\nWhy\tnot\nWhy\tnot at all");
-  std::vector<RolePart> roles = {{{0, 9}, PaperRole::Question, 0}, {{9, 17}, PaperRole::Option, 0}};
+  std::vector<RolePart> roles = {{{0, 9}, PaperRole::NotExam, -1}, {{9, 17}, PaperRole::Option, 0}};
   roles.push_back({{17, paper.source.Size()}, PaperRole::None, -1});
   const RoleLookup lookup(roles);
-  EXPECT_EQ(LeftOutPlace(paper, lookup, u"Why not\u2026")->begin, 17U);  // the one before it is not left out
-  EXPECT_EQ(LeftOutPlace(paper, lookup, u"Why now?")->end, 8U);
-  EXPECT_FALSE(LeftOutPlace(paper, lookup, u"When?"));
-  EXPECT_FALSE(LeftOutPlace(paper, lookup, u"\u2026"));
+  LeftOutPlaces leftOut(paper, lookup);
+  EXPECT_EQ(leftOut.Find(u"Why not\u2026")->begin, 17U);  // the one before it is an option
+  EXPECT_EQ(leftOut.Find(u"Why now?")->end, 8U);
+  EXPECT_FALSE(leftOut.Find(u"When?"));
+  EXPECT_FALSE(leftOut.Find(u"\u2026"));
 }
 
 }  // namespace

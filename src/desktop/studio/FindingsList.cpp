@@ -3,7 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "learn/LeftOutPlace.h"
+#include "learn/LeftOutPlaces.h"
 #include "learn/StudyTexts.h"
 #include "platform/TextNumbers.h"
 
@@ -12,7 +12,8 @@ namespace {
 
 constexpr int kFindingsLines = 5;
 constexpr int kLinesInSmallWindows = 2;
-constexpr int kAroundFindings = 16;  // pixels: frame and margins
+constexpr std::size_t kMostWarnings = 100;  // the headline tells how many there are
+constexpr int kAroundFindings = 16;         // pixels: frame and margins
 
 }  // namespace
 
@@ -44,10 +45,12 @@ void FindingsList::ShowStudy(const PaperStudy& study) {
 
 void FindingsList::AddWarnings(const PaperStudy& study) {
   const RoleLookup lookup(study.Roles());
+  LeftOutPlaces leftOut(study.StudiedPaper(), lookup);
   for (const ReadingWarning& warning : study.Warnings()) {
     if (warning.question >= 0) continue;
+    if (places_.size() == kMostWarnings) return addItem(QStringLiteral("\u2026"));
     addItem(QStringLiteral("\u26A0 ") + ToQString(WarningText(warning, strings_)));
-    places_.push_back(LeftOutPlace(study.StudiedPaper(), lookup, warning.text));
+    places_.push_back(leftOut.Find(warning.text));
     if (places_.back())
       item(count() - 1)->setToolTip(PlainTip(ToQString(strings_.Text(text_id::kShowsThePlace))));
   }

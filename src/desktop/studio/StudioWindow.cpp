@@ -391,6 +391,8 @@ void StudioWindow::ImportQuestions() {
   Leave();
   controls_.Tell({});
   hide();
+  QWidget* main = parentWidget()->window();
+  if (main->isMinimized()) main->setWindowState(main->windowState() & ~Qt::WindowMinimized);
 }
 
 void StudioWindow::SaveRules() {
