@@ -12,8 +12,8 @@ namespace quorvantis {
 QPageLayout SheetLayout();
 
 /// Adds the numbers of the pages to a PDF file that was printed in this layout, in the corner that the
-/// direction of the page leaves free. A file that is built in an unknown way goes without. False if the file
-/// cannot be read or written.
+/// direction of the page leaves free. A file that is no PDF file goes without. False if the file cannot be
+/// read or written.
 bool NumberSheets(const std::filesystem::path& pdf, bool isRightToLeft);
 
 }  // namespace quorvantis

@@ -30,9 +30,9 @@ constexpr Template<Text, Text, Text, Text, Text, Text, Text, Text> kPage{
     uR"(<script>%s</script>\n</body>\n</html>\n)"};
 
 constexpr Template<Text, Text, Text> kButtons{
-    uR"x(<div class="buttons"><input type="button" value="%s" onclick="window.status = 'SheetPrint'">)x"
-    uR"x(<input type="button" value="%s" onclick="window.status = 'SheetSave'">)x"
-    uR"x(<input type="button" value="%s" onclick="window.status = 'SheetClose'"></div>\n)x"};
+    uR"x(<div class="buttons"><input type="button" dir="auto" value="%s" onclick="window.status = 'SheetPrint'">)x"
+    uR"x(<input type="button" dir="auto" value="%s" onclick="window.status = 'SheetSave'">)x"
+    uR"x(<input type="button" dir="auto" value="%s" onclick="window.status = 'SheetClose'"></div>\n)x"};
 
 constexpr Template<Text> kFootPart{uR"(<bdi>%s</bdi>)"};
 

@@ -84,7 +84,7 @@ body.large { font-size: 18pt; line-height: 1.6; word-spacing: 0.15em; }
 .buttons { display: none; }
 @media screen {
   body { max-width: 180mm; margin: 0 auto; padding: 16mm 8mm 8mm; }
-  .foot { position: static; }
+  .foot { display: none; }
   .buttons { display: block; position: fixed; inset: 0 0 auto; z-index: 1; padding: 2mm; text-align: center;
              background: #eee; border-bottom: 1px solid #999; font-size: 11pt; }
   .buttons input { font: 11pt sans-serif; padding: 1mm 4mm; margin: 0 1mm; }
