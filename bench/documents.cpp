@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Importing documents, compared with LibreOffice's conversion of the same documents to text.
+// Importing documents, and printing an exam into a PDF file, compared with LibreOffice's conversions of the same
+// documents to text and to PDF.
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
@@ -13,6 +14,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -94,6 +96,33 @@ void Convert(benchmark::State& state, const Document& document) {
   }
 }
 
+/// Runs a command of the command line. False if it fails.
+bool Run(const std::vector<std::string>& words) {
+  std::istringstream in;
+  std::ostringstream out;
+  cli::Console console{in, out, std::cerr};
+  std::vector<const char*> arguments{"quorvantis-cli"};
+  for (const std::string& word : words) arguments.push_back(word.c_str());
+  return cli::RunCommandLine(static_cast<int>(arguments.size()), arguments.data(), console) == 0;
+}
+
+void MakePdf(benchmark::State& state, const Document& document) {
+  const std::string exam = folder / "print.exm";
+  if (!Run({"import", folder / document.name, exam, "--rules", folder / "rules.ini", "--repository", "#0"}))
+    return state.SkipWithError("the exam was not made");
+  for (auto _ : state) {
+    if (!Run({"pdf", exam, folder / "out.pdf"})) return state.SkipWithError("failed");
+  }
+}
+
+void ConvertToPdf(benchmark::State& state, const Document& document) {
+  const OfficeConverter converter(OfficePrograms::Find(), nullptr);
+  const OfficeJob job{folder / document.name, {"MS Word 2007 XML"}, "pdf"};
+  for (auto _ : state) {
+    if (converter.Convert(job) != WordResult::Done) state.SkipWithError("LibreOffice failed");
+  }
+}
+
 void Register(const std::string& name, void (*run)(benchmark::State&, const Document&),
               const Document& document) {
   benchmark::RegisterBenchmark(name.c_str(), run, document)
@@ -107,6 +136,16 @@ bench::Comparison Compare(const std::string& what, const Document& document, int
   Register("import " + what, Import, document);
   Register("convert " + what, Convert, document);
   return {"import of " + what + " / LibreOffice to text", "import " + what, "convert " + what, wanted};
+}
+
+/// Needs the program for PDF files beside this one.
+bench::Comparison ComparePrinting(const std::string& what, const Document& document, int pictures) {
+  constexpr double kWanted = 5000;  // milliseconds
+  WriteDocument(folder / document.name, document.questions, pictures);
+  Register("print " + what, MakePdf, document);
+  Register("print as a document " + what, ConvertToPdf, document);
+  return {"PDF of " + what + " / LibreOffice to PDF", "print " + what, "print as a document " + what, kWanted,
+          bench::Measure::Milliseconds};
 }
 
 }  // namespace
@@ -123,7 +162,8 @@ int main(int argumentCount, char** arguments) {
                         {Compare("10 questions", {"ten.docx", 10}, 0, kThird),
                          Compare("100 questions", {"hundred.docx", 100}, 0, kThird),
                          Compare("500 questions", {"most.docx", kMostQuestions}, 0, kThird),
-                         Compare("500 and 200 pictures", {"pictures.docx", kMostQuestions}, kPictures, 1.0)});
+                         Compare("500 and 200 pictures", {"pictures.docx", kMostQuestions}, kPictures, 1.0),
+                         ComparePrinting("100 and 50 pictures", {"paper.docx", 100}, 50)});
   fs::remove_all(folder);
   return 0;
 }

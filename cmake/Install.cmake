@@ -23,6 +23,9 @@ if(TARGET quorvantis)
 endif()
 
 install(TARGETS ${programs} RUNTIME DESTINATION "${home}")
+if(TARGET quorvantis-pdf)  # started by the others, so nobody needs to find it
+  install(TARGETS quorvantis-pdf RUNTIME DESTINATION "${home}")
+endif()
 get_property(languages GLOBAL PROPERTY QUORVANTIS_LANGUAGES)
 install(TARGETS ${languages} LIBRARY DESTINATION "${home}/language/Quorvantis")
 install(FILES samples/papers/ImportExam.ini DESTINATION "${home}")
@@ -37,7 +40,7 @@ foreach(program IN LISTS programs)
 endforeach()
 install(FILES scripts/quorvantis-cli.bash RENAME quorvantis-cli
         DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
-install(FILES README.md docs/IMPORT-RULES.md docs/LEARNING.md docs/FIND.md docs/FILE-FORMAT.md docs/LANGUAGES.md DESTINATION "${documentation}")
+install(FILES README.md docs/IMPORT-RULES.md docs/LEARNING.md docs/FIND.md docs/PRINTING.md docs/FILE-FORMAT.md docs/LANGUAGES.md DESTINATION "${documentation}")
 quorvantis_install_compressed(changelog "${documentation}")
 install(FILES LICENSE RENAME copyright DESTINATION "${documentation}")
 if(TARGET quorvantis)

@@ -2,7 +2,7 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show build unpack preview print score export edit recover import rules languages match"
+  local commands="show build unpack preview print pdf key score export edit recover import rules languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
@@ -33,7 +33,9 @@ _quorvantis_cli() {
     case $command in
       show) options+=" --json --table" ;;
       preview) options+=" --student --responses" ;;
-      print) options+=" --after-preview" ;;
+      print) options+=" --after-preview --paper --key --sheet --solutions --large-print" ;;
+      pdf) options+=" --paper --key --sheet --solutions --large-print" ;;
+      key) options+=" --csv" ;;
       score) options+=" --mode --end --value" ;;
       import) options+=" --rules --repository --learn --marks --into --after --answer-pictures --formulas --mend-line-ends --marked --text" ;;
       rules) options+=" --repository --rules --marks --ini --text" ;;
@@ -45,10 +47,11 @@ _quorvantis_cli() {
     mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$word")
   else
     case $command:$arguments in
-      show:0 | unpack:0 | preview:0 | print:0 | build:1 | score:[01] | export:0 | recover:1 | import:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
+      show:0 | unpack:0 | preview:0 | print:0 | pdf:0 | key:0 | build:1 | score:[01] | export:0 | recover:1 | import:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
       unpack:1 | preview:1 | print:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;
+      pdf:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.pdf' -- "$word") ;;
       rules:0) mapfile -t COMPREPLY < <(compgen -W "learn check" -- "$word") ;;
       import:0 | rules:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|md|doc|docx|odt|rtf)$') ;;
       edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;

@@ -31,7 +31,7 @@ class PaperPrinter {
   /// not all were done, in English; nothing when all were. Files of earlier jobs stay.
   virtual std::optional<std::string> Print(std::span<const PaperJob> jobs, Progress& progress) = 0;
 
-  /// The number of pages of a file made by `Print`; nothing if it is no such file.
+  /// The number of pages of a PDF file; nothing if it cannot be read.
   virtual std::optional<int> PageCount(const std::filesystem::path& pdf) = 0;
 };
 

@@ -41,6 +41,18 @@ bool Has(const std::string& page, const std::string& part) {
   return page.find(part) != std::string::npos;
 }
 
+TEST_F(PageCommands, ASheetIsWrittenWholeAndNothingElse) {
+  BuildExam();
+  Succeeds({"print", Path("exam.exm"), Path("app"), "--solutions", "--large-print"});
+  const std::string page = ReadBytes(folder / "app/exam_Solutions.htm");
+  EXPECT_TRUE(page.starts_with("<!DOCTYPE html>"));
+  EXPECT_TRUE(page.ends_with("</html>\n"));
+  EXPECT_TRUE(Has(page, "x / y"));
+  EXPECT_FALSE(fs::exists(folder / "app/exam_Print.htm"));
+  const RunResult failed = Command({"print", Path("exam.exm"), Path("exam.exm"), "--key"});
+  EXPECT_EQ(failed.status, 1);
+}
+
 TEST_F(PageCommands, PreviewOfAStudentShowsTheResponses) {
   BuildExam({"a.gif", "x.doc"});
   WriteBytes(folder / "responses.json", R"({"resultScore": 7.5, "resultPageOption": 0,

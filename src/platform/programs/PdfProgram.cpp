@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/programs/PdfProgram.h"
 
-#include "platform/WholeFile.h"
-#include "platform/pdf/PdfPageNumbers.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "platform/posix/PrivateFolder.h"
 #include "platform/programs/ChildProcess.h"
 #include "platform/programs/PaperJobArguments.h"
+#include "platform/programs/PopplerPdfText.h"
 #include "platform/programs/TimeLimits.h"
 
 #include <thread>
@@ -19,7 +18,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr const char* kProgramName = "quorvantis-pdf";
-constexpr std::size_t kLargestPdf = std::size_t{1} << 30;  // bytes
 
 /// The program at work on some jobs, as far as it has told.
 class PdfRun {
@@ -94,9 +92,10 @@ std::optional<std::string> PdfProgram::Print(std::span<const PaperJob> jobs, Pro
   return PdfRun(order, jobs.size(), progress).Wait();
 }
 
+/// By the reader of texts, a program too: a library for this would make every start of this one slower.
 std::optional<int> PdfProgram::PageCount(const fs::path& pdf) {
-  const std::optional<std::string> bytes = ReadWholeFile(pdf, kLargestPdf);
-  return bytes ? CountPdfPages(*bytes) : std::nullopt;
+  const PdfPages text = PopplerPdfText().Read(pdf);
+  return text.problem ? std::nullopt : std::optional(static_cast<int>(text.pages.size()));
 }
 
 }  // namespace quorvantis

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/programs/PopplerPdfText.h"
 
-#include "platform/pdf/ReadingOrder.h"
 #include "platform/programs/ChildProgram.h"
 #include "platform/programs/TimeLimits.h"
+#include "text/ReadingOrder.h"
 #include "text/Utf.h"
 
 #include <utility>

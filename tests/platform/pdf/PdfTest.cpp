@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pdf/PdfPageNumbers.h"
-#include "platform/pdf/ReadingOrder.h"
 
 #include <gtest/gtest.h>
 
@@ -57,17 +56,6 @@ TEST(PdfPageNumbers, DamagedFilesAreNoTrouble) {
   }
   EXPECT_FALSE(WithPageNumbers("no PDF file", {}));
   EXPECT_FALSE(CountPdfPages(""));
-}
-
-TEST(ReadingOrder, WordsStandAsTheyAreRead) {
-  const std::pair<std::u16string_view, std::u16string_view> lines[] = {
-      {u"one two three", u"one two three"},
-      {u"\u062C \u0628 \u0627", u"\u0627 \u0628 \u062C"},
-      {u"see \u0628 \u0627 now", u"see \u0627 \u0628 now"},
-      {u"\u062C big word \u0628 \u0627", u"\u0627 \u0628 big word \u062C"},
-      {u"12 \u0628 \u0627", u"\u0627 \u0628 12"},
-      {u"", u""}};
-  for (const auto& [line, read] : lines) EXPECT_EQ(InReadingOrder(line), read);
 }
 
 }  // namespace

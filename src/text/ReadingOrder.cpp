@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/pdf/ReadingOrder.h"
+#include "text/ReadingOrder.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "text/ComparableText.h"
+#include "text/ReadingOrder.h"
 
 #include <gtest/gtest.h>
 
@@ -17,6 +18,17 @@ TEST(ComparableText, IsTheSameForBothFormsOfAText) {
   const std::pair<std::u16string_view, std::u16string_view> different[] = {
       {u"ab", u"ba"}, {u"A", u"B"}, {u"\u0644\u0628", u"\u0628\u0644"}, {u"1.5", u"15"}};
   for (const auto& [one, other] : different) EXPECT_NE(ComparableText(one), ComparableText(other));
+}
+
+TEST(ReadingOrder, WordsStandAsTheyAreRead) {
+  const std::pair<std::u16string_view, std::u16string_view> lines[] = {
+      {u"one two three", u"one two three"},
+      {u"\u062C \u0628 \u0627", u"\u0627 \u0628 \u062C"},
+      {u"see \u0628 \u0627 now", u"see \u0627 \u0628 now"},
+      {u"\u062C big word \u0628 \u0627", u"\u0627 \u0628 big word \u062C"},
+      {u"12 \u0628 \u0627", u"\u0627 \u0628 12"},
+      {u"", u""}};
+  for (const auto& [line, read] : lines) EXPECT_EQ(InReadingOrder(line), read);
 }
 
 }  // namespace
