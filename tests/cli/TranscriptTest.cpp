@@ -66,8 +66,8 @@ class Transcript : public CommandLineTest, public testing::WithParamInterface<co
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, Transcript,
-                         testing::Values("build", "edit", "import", "order", "rules", "score", "search",
-                                         "show", "usage"),
+                         testing::Values("build", "edit", "import", "key", "order", "rules", "score",
+                                         "search", "show", "usage"),
                          [](const auto& param) { return param.param; });
 
 TEST_P(Transcript, IsTrue) {

@@ -42,6 +42,7 @@ class SheetCommands : public QObject {
  private:
   void Obey(PreviewWindow& window, Sheet sheet, const QString& wish);
   void SavePdf(Sheet sheet);
+  std::u16string FileTitle(Sheet sheet) const;
   SheetRequest Request(Sheet sheet) const { return {sheet, {}, largePrint_, languageIsRightToLeft_}; }
 
   ExamEditor& editor_;
