@@ -6,6 +6,10 @@
 #include "platform/documents/ZipPackage.h"
 #include "platform/programs/DocumentSignatures.h"
 
+#include <fstream>
+#include <string>
+#include <string_view>
+
 namespace quorvantis {
 namespace {
 
@@ -71,6 +75,30 @@ DocumentKindOutcome KindOfPackage(const fs::path& file) {
   return {isEncrypted ? WordResult::PasswordProtected : WordResult::Done, DocumentKind::OpenDocument};
 }
 
+/// Whether groups lie within each other far deeper than any document needs. The word processor would try to
+/// read them until its time is over. Binary data may hold brackets, too, but as many of each kind.
+bool IsNestedTooDeeply(const fs::path& file) {
+  constexpr int kDeepest = 5'000;
+  std::ifstream in(file, std::ios::binary);
+  std::string part(kHeadBytes, '\0');
+  int depth = 0;
+  bool isEscaped = false;
+  do {
+    in.read(part.data(), static_cast<std::streamsize>(part.size()));
+    for (const char byte : std::string_view(part).substr(0, static_cast<std::size_t>(in.gcount()))) {
+      if (!isEscaped && byte == '{') ++depth;
+      if (!isEscaped && byte == '}') --depth;
+      isEscaped = !isEscaped && byte == '\\';
+      if (depth > kDeepest) return true;
+    }
+  } while (in);
+  return false;
+}
+
+DocumentKindOutcome KindOfRichText(const fs::path& file) {
+  return {IsNestedTooDeeply(file) ? WordResult::TooDeep : WordResult::Done, DocumentKind::RichText};
+}
+
 }  // namespace
 
 DocumentKindOutcome KindOfDocument(const fs::path& file) {
@@ -79,7 +107,7 @@ DocumentKindOutcome KindOfDocument(const fs::path& file) {
   const std::string head = Head(file);
   if (head.starts_with(kPackageSignature)) return KindOfPackage(file);
   if (head.starts_with(kCompoundFileSignature)) return KindOfCompoundFile(file);
-  if (head.starts_with(kRichTextSignature)) return {WordResult::Done, DocumentKind::RichText};
+  if (head.starts_with(kRichTextSignature)) return KindOfRichText(file);
   if (IsWordXml(head)) return {WordResult::Done, DocumentKind::WordXml};
   return {WordResult::UnknownFormat, {}};
 }

@@ -45,6 +45,8 @@ TEST_F(ConversionTest, OtherFormatsSayTheSame) {
     EXPECT_EQ(outcome.document.tables[0].rows[0][1].characters, u"B\r\a") << format;
   }
   EXPECT_EQ(documents.Open(WriteBytes(folder / "b.rtf", "{\\rtf"), {}).result, WordResult::Damaged);
+  const std::string deep = "{\\rtf1 " + std::string(20'000, '{');
+  EXPECT_EQ(documents.Open(WriteBytes(folder / "b.rtf", deep), {}).result, WordResult::TooDeep);
 }
 
 TEST_F(ConversionTest, FaultsOfTheWordProcessorLeaveEverythingAsItWas) {
