@@ -44,12 +44,12 @@ std::set<std::u16string> MarkedPlaces::Texts(PaperRole role) const {
 std::set<std::u16string> MarkedPlaces::TextsBeforeAnswers() const {
   std::set<std::u16string> texts;
   const std::u16string_view source = paper_.source.characters;
-  constexpr std::size_t kLongestLabel = 40;
+  constexpr std::size_t kLongestBeforeAnswer = 40;
   for (const PaperMark& mark : marks_) {
     if (mark.role != PaperRole::Answer) continue;
     const std::size_t place = std::min(mark.span.begin, source.size());
     const TextSpan before = Trimmed(source, {LineBeginBefore(source, place), place});
-    if (!before.IsEmpty() && before.Size() <= kLongestLabel) texts.emplace(before.Of(source));
+    if (!before.IsEmpty() && before.Size() <= kLongestBeforeAnswer) texts.emplace(before.Of(source));
   }
   return texts;
 }
