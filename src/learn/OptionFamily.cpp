@@ -94,11 +94,12 @@ std::u16string LetterPattern(const std::set<std::u16string_view>& forms) {
 /// Two blanks, or a wide one, before a label within a line, or the beginning of the line.
 constexpr std::u16string_view kSetOff = u"(?:^[ \\t\u3000]*|(?<=[ \u00A0][ \u00A0])|(?<=[\\t\u3000]))";
 
-/// One of `closes` behind one of `letters`: "2.5" is a number.
-std::u16string EndPattern(const std::set<std::u16string_view>& letters, const std::set<char16_t>& closes) {
+/// Within a line, "2.5" is a number.
+std::u16string_view NoDecimal(const std::set<std::u16string_view>& letters, LabelPlaces places) {
   const auto isDigit = [](std::u16string_view form) { return IsDigit(form[0]); };
-  const bool areDigits = std::any_of(letters.begin(), letters.end(), isDigit);
-  return ClassPattern(closes) + (areDigits ? u"(?<![.,:](?=[0-9]))" : u"");
+  const bool canBe =
+      places != LabelPlaces::LineStarts && std::any_of(letters.begin(), letters.end(), isDigit);
+  return canBe ? u"(?<![.,:](?=[0-9]))" : u"";
 }
 
 /// What must precede a label of that kind; nothing where its place is told already.
@@ -122,9 +123,10 @@ std::u16string OptionFamily::LabelPattern(std::size_t index, LabelPlaces places)
   const std::set<std::u16string_view> symbols = FormsAt(index, alphabets, true);
   std::set<std::u16string> ways{LiteralPattern(PreparedOption(index))};
   const std::u16string letter = LetterPattern(letters);
-  const std::u16string close = EndPattern(letters, closes);
+  const std::u16string close = ClassPattern(closes);
   if (!letters.empty() && isPlain && !closes.empty())
-    ways.insert(BeginOf(closes, places) + letter + u"[ ]?" + close);
+    ways.insert(BeginOf(closes, places) + letter + u"[ ]?" + close +
+                std::u16string(NoDecimal(letters, places)));
   if (!letters.empty() && isBracketed) ways.insert(ClassPattern(opens) + u"[ ]?" + letter + u"[ ]?" + close);
   if (!letters.empty() && isBare) {
     const bool isAlone = std::ranges::any_of(

@@ -112,10 +112,11 @@ class LabelScan {
            (at - 1 > within_.begin && IsBlank(text_[at - 2]));
   }
 
-  /// "2.5" and "1,200" are numbers.
+  /// Within a line, "2.5" and "1,200" are numbers.
   bool IsWithinDecimal(std::size_t letter, std::size_t mark) const {
     const auto isDigit = [this](std::size_t at) { return UnitAt(at) >= u'0' && UnitAt(at) <= u'9'; };
-    return isDigit(letter) && mark == letter + 1 && Has(u".,:", UnitAt(mark)) && isDigit(mark + 1);
+    return isDigit(letter) && mark == letter + 1 && Has(u".,:", UnitAt(mark)) && isDigit(mark + 1) &&
+           !BeginsLine(text_, letter);
   }
 
   bool StandsAlone(std::size_t at) const {
