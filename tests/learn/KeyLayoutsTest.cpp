@@ -38,8 +38,9 @@ struct KeyedQuestion {
   std::size_t part = 0;
   std::vector<std::u16string> options;  ///< none: to fill in
   std::size_t right = 0;
-  std::u16string answer;  ///< what may be read: "B" or a word; empty if the key does not say it
-  bool isSaid = true;     ///< so that it must be read, or told
+  std::u16string answer;   ///< what may be read: "B" or a word; empty if the key does not say it
+  bool isSaid = true;      ///< so that it must be read, or told
+  bool isUnclear = false;  ///< nobody can read it, which must be told
 };
 
 /// A paper and what must be read of it.
@@ -153,7 +154,7 @@ class KeyedPaper {
     }
   }
 
-  static constexpr std::size_t kForms = 6;
+  static constexpr std::size_t kForms = 7;
 
   void WritePart(std::size_t part, std::size_t form) {
     std::vector<KeyedQuestion*> asked;
@@ -162,6 +163,7 @@ class KeyedPaper {
     }
     const bool isFillIn = asked.front()->options.empty();
     if (isFillIn && form > 1 && form != 5) form = 0;
+    if (form == 6) return WriteTable(asked);
     if (form == 2 || form == 3) return WriteRange(asked, form == 3);
     if (form == 4) return WriteRows(asked);
     for (KeyedQuestion* question : asked) {
@@ -170,6 +172,7 @@ class KeyedPaper {
         continue;
       }
       key += Number(question->number) + (form == 5 ? u") " : u". ") + Written(*question);
+      if (form < 2 && !isFillIn && question->right == 0 && OneIn(8)) WriteOther(*question);
       if (form == 5 && !isFillIn) key += u") " + question->options[question->right];
       if (form == 0 && !isFillIn && OneIn(12)) key += u" because it says so";
       key += form == 1 ? u"  " : u"\n";
@@ -188,6 +191,27 @@ class KeyedPaper {
     if (letters.size() == asked.size() + between.size() * (asked.size() - 1)) return letters;
     for (KeyedQuestion* question : asked) question->isSaid = false;
     return letters;
+  }
+
+  /// "A or C" may be one of two right answers, or both; "A-C" may be three.
+  void WriteOther(KeyedQuestion& question) {
+    constexpr std::u16string_view kBetween[] = {u" or ", u"/", u"-"};
+    key += kBetween[Below(std::size(kBetween))];
+    key += (usesOtherLetters_ ? script_.otherLetters : script_.letters)[2];
+    question.answer.clear();
+    question.isUnclear = true;
+  }
+
+  void WriteTable(const std::vector<KeyedQuestion*>& asked) {
+    key += u"No.";
+    for (const KeyedQuestion* question : asked) key += u"\t" + Number(question->number);
+    key += u"\nKey";
+    for (KeyedQuestion* question : asked) {
+      const bool isGap = OneIn(10);
+      key += u"\t" + (isGap ? std::u16string() : Written(*question));
+      if (isGap) question->answer.clear();
+    }
+    key += u"\n";
   }
 
   void WriteRange(const std::vector<KeyedQuestion*>& asked, bool isSpaced) {
@@ -270,6 +294,7 @@ std::string Silent(const KeyedPaper& paper, std::size_t& right) {
     if (isLost && !IsTold(study, index)) faults += "lost " + Utf16ToUtf8(made.stem) + "; ";
     if (ShowsKey(ShownToPupils(*question), paper.key) && !IsTold(study, index))
       faults += "seen " + Utf16ToUtf8(made.stem) + "; ";
+    if (made.isUnclear && !IsTold(study, index)) faults += "unclear " + Utf16ToUtf8(made.stem) + "; ";
     right += !said.empty() && said == made.answer ? 1 : 0;
   }
   const bool areTold = std::ranges::any_of(study.Warnings(), [](const ReadingWarning& warning) {

@@ -87,6 +87,15 @@ std::vector<KeyEntry> TitledEntriesOfLine(std::u16string_view text, TextSpan lin
   return {};
 }
 
+/// A line behind the title of a part: "Part 1: 1 2 3".
+TextSpan WithoutTitle(std::u16string_view text, TextSpan line) {
+  constexpr std::size_t kLongestTitle = 40;
+  const std::u16string_view written = line.Of(text);
+  const std::size_t colon = written.substr(0, kLongestTitle).find_first_of(u":：");
+  if (colon == written.npos || !IsPartTitle(written.substr(0, colon))) return line;
+  return {line.begin + colon + 1, line.end};
+}
+
 /// Puts the entries of lines together.
 class KeyListReading {
  public:
@@ -115,6 +124,8 @@ class KeyListReading {
     } else if (reading.kind == KeyLineKind::Title) {
       isOpen_ = false;
       NoteTitle(line);
+    } else if (reading.kind == KeyLineKind::NumberRow) {
+      if (IsPartTitle(Trimmed(text_, line).Of(text_))) NoteTitle(line);
     } else if (reading.kind == KeyLineKind::Text) {
       // Behind letters, lines explain; behind a text, they go on with it.
       if (!isOpen_) {
@@ -167,7 +178,7 @@ KeyLineReading KeyLineReader::Read(TextSpan line) {
 
 bool KeyLineReader::ReadNumberRow(TextSpan line) {
   hasTabs_ = line.Of(text_).find(u'\t') != std::u16string_view::npos;
-  const std::vector<TextSpan> cells = CellsOf(text_, line, hasTabs_);
+  const std::vector<TextSpan> cells = CellsOf(text_, WithoutTitle(text_, line), hasTabs_);
   std::vector<int> numbers;
   int last = 0;
   int withDots = 0;

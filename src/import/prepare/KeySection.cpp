@@ -120,11 +120,16 @@ class KeySectionSearch {
   }
 
   void Accept(KeySection& section, const KeyList& key, const std::vector<MatchedEntry>& matched) const {
+    std::vector<MatchedEntry> placed;
     for (const MatchedEntry& entry : matched) {
-      const bool isAnswer = !entry.entry.IsMiscounted() && !IsBlankToFill(text_, entry.entry.answer);
-      if (isAnswer) section.entries.push_back(entry);
+      const OutlinedQuestion& question = section.questions[entry.question];
+      // Among Cyrillic options Latin letters become clear when all answers are known.
+      const bool isClear = FitsQuestion(text_, entry.entry, question) || IsCyrillic(*question.options);
+      if (!isClear || IsBlankToFill(text_, entry.entry.answer)) continue;
+      placed.push_back(entry);
+      if (!entry.entry.IsMiscounted()) section.entries.push_back(entry);
     }
-    section.leftovers = LeftoversOf(text_, key, matched);
+    section.leftovers = LeftoversOf(text_, key, placed);
   }
 
   /// Behind "Answers to these questions" questions may follow.

@@ -20,7 +20,7 @@ struct MatchedEntry {
 /// What a key says that comes to no question. It must be told, for it leaves the paper with the key.
 struct KeyLeftover {
   enum class Kind {
-    NotPlaced,    ///< an answer whose number no question has, or other lines
+    NotPlaced,    ///< an answer whose number no question has, or that is not clear, or other lines
     Explanation,  ///< lines behind answers in letters
     Miscounted,   ///< `letters` letters for `questions` questions
     Unmatched,    ///< the whole key: its numbers occur twice or fit no questions

@@ -169,10 +169,24 @@ TEST(RandomPapers, AreTheSameWithAMemory) {
 
 /// Texts that could make a step look at the same place again and again.
 TEST(RandomPapers, TakeNoTime) {
-  constexpr std::u16string_view kPieces[] = {u"(",  u"( ",     u". ",      u"_ ",   u"□",    u"A. ",
-                                             u"a)", u"1. A. ", u"\r1. a ", u"\r- ", u"\rA ", u"      "};
-  constexpr std::u16string_view kSteps[] = {u"PlainSpaces",  u"MixedLetters", u"Noise",      u"Unnumbered",
-                                            u"PlainOptions", u"BlankForms",   u"OpenAnswers"};
+  constexpr std::u16string_view kPieces[] = {u"(",
+                                             u"( ",
+                                             u". ",
+                                             u"_ ",
+                                             u"□",
+                                             u"A. ",
+                                             u"a)",
+                                             u"1. A. ",
+                                             u"\r1. a ",
+                                             u"\r- ",
+                                             u"\rA ",
+                                             u"      ",
+                                             u"\r1-6 ABCA",
+                                             u"\rAnswers\rPart 1: 1. B ",
+                                             u"Version A: 1 B "};
+  constexpr std::u16string_view kSteps[] = {u"PlainSpaces", u"MixedLetters", u"Noise",
+                                            u"Unnumbered",  u"PlainOptions", u"BlankForms",
+                                            u"OpenAnswers", u"KeyAtEnd",     u"KeyInStem"};
   for (const std::u16string_view piece : kPieces) {
     std::u16string text = u"1. ";
     while (text.size() < 100'000) text += piece;
