@@ -2,12 +2,12 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show build unpack preview print pdf key score export edit recover import rules languages match"
+  local commands="show check build unpack preview print pdf key score export edit recover import rules languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
       --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch | \
-        --rules | --repository | --marks | --ini | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses)
+        --rules | --repository | --marks | --ini | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses | --ignore)
         ((++i)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
@@ -32,6 +32,7 @@ _quorvantis_cli() {
     [ -n "$command" ] || options+=" --version"
     case $command in
       show) options+=" --json --table" ;;
+      check) options+=" --json --ignore --ignored" ;;
       preview) options+=" --student --responses" ;;
       print) options+=" --after-preview --paper --key --sheet --solutions --large-print" ;;
       pdf) options+=" --paper --key --sheet --solutions --large-print" ;;
@@ -47,7 +48,7 @@ _quorvantis_cli() {
     mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$word")
   else
     case $command:$arguments in
-      show:0 | unpack:0 | preview:0 | print:0 | pdf:0 | key:0 | build:1 | score:[01] | export:0 | recover:1 | import:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
+      show:0 | check:0 | unpack:0 | preview:0 | print:0 | pdf:0 | key:0 | build:1 | score:[01] | export:0 | recover:1 | import:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       build:0) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.json' -- "$word") ;;
       unpack:1 | preview:1 | print:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;

@@ -58,8 +58,7 @@ std::optional<std::size_t> CheckedQuestion::SingleKey() const {
   return options[key].empty() ? std::nullopt : std::optional(key);
 }
 
-CheckedExam::CheckedExam(const FrameSetExam& document, const LongAnswerFlags& longAnswers)
-    : exam(document), flags(longAnswers) {
+CheckedExam::CheckedExam(const FrameSetExam& document) : exam(document) {
   const int last = document.LastCountedQuestion();
   questions.reserve(static_cast<std::size_t>(last));
   LookAtFiles(0, document.examAttachmentPaths, document.examAttachmentNames);

@@ -18,8 +18,6 @@
 
 namespace quorvantis {
 
-class LongAnswerFlags;
-
 /// The text without blanks at its ends: ASCII blanks and line ends, no-break and wide ones.
 std::u16string_view WithoutBlanks(std::u16string_view text);
 
@@ -59,12 +57,10 @@ struct CheckedFile {
 /// An exam as the rules see it: its questions up to the last one that a file keeps, and their files.
 class CheckedExam {
  public:
-  /// Looks at the attached files. Both must outlive this, and the exam must not change meanwhile. `flags` are
-  /// those that a save would use.
-  CheckedExam(const FrameSetExam& document, const LongAnswerFlags& longAnswers);
+  /// Looks at the attached files. The exam must outlive this, and must not change meanwhile.
+  explicit CheckedExam(const FrameSetExam& document);
 
   const FrameSetExam& exam;
-  const LongAnswerFlags& flags;
   std::vector<CheckedQuestion> questions;  ///< question n is at n - 1
   std::vector<CheckedFile> files;          ///< those of the exam as a whole first
 

@@ -9,10 +9,11 @@
 
 namespace quorvantis {
 
-std::vector<Finding> CheckExam(const FrameSetExam& exam, const LongAnswerFlags& flags) {
-  const CheckedExam checked(exam, flags);
+std::vector<Finding> CheckExam(const FrameSetExam& exam, const std::function<bool()>& isCancelled) {
+  const CheckedExam checked(exam);
   std::vector<Finding> findings;
   for (const CheckRuleRow& row : CheckRules()) {
+    if (isCancelled && isCancelled()) break;
     FindingList list(row, exam.Services().strings, findings);
     row.rule.Check(checked, list);
   }

@@ -2,6 +2,7 @@
 #include "check/QuestionRules.h"
 
 #include "examfile/SavingLosses.h"
+#include "model/LongAnswerFlags.h"
 #include "text/NumberText.h"
 
 #include <cstdint>
@@ -20,7 +21,9 @@ void QuestionWithoutText::CheckQuestion(const CheckedQuestion& question, Finding
 }
 
 void SavingLosesWork::Check(const CheckedExam& exam, FindingList& findings) const {
-  for (const SavingLoss& loss : FindSavingLosses(exam.exam, exam.flags)) {
+  LongAnswerFlags flags;
+  flags.SetWhereNeeded(exam.exam);  // as the window does before a save
+  for (const SavingLoss& loss : FindSavingLosses(exam.exam, flags)) {
     if (loss.isWork && !loss.isContentOfFile) findings.Add(loss.place, {loss.what});
   }
 }

@@ -26,6 +26,11 @@ std::vector<ScoreSegment> SegmentsOf(const CheckedExam& exam) {
   return SegmentsOf(DistributionOf(exam.exam), exam.LastQuestion());
 }
 
+/// "3" or "5–9".
+std::u16string Numbers(int first, int last) {
+  return first == last ? FormatInteger(first) : FormatInteger(first) + u'\u2013' + FormatInteger(last);
+}
+
 TextPlace RangePlace(int range) {
   return {0, ExamFieldName::RangeStart, static_cast<unsigned>(std::max(range - 1, 0))};
 }
@@ -41,26 +46,24 @@ void ScoreRangesOverlap::Check(const CheckedExam& exam, FindingList& findings) c
       const int first = std::max(a.first, b.first);
       const int last = std::min(a.last, b.last);
       if (first > last) continue;
-      findings.Add(
-          RangePlace(static_cast<int>(later) + 1),
-          {FormatInteger(static_cast<std::int64_t>(earlier) + 1),
-           FormatInteger(static_cast<std::int64_t>(later) + 1), FormatInteger(first), FormatInteger(last)});
+      findings.Add(RangePlace(static_cast<int>(later) + 1),
+                   {FormatInteger(static_cast<std::int64_t>(earlier) + 1),
+                    FormatInteger(static_cast<std::int64_t>(later) + 1), Numbers(first, last)});
     }
   }
 }
 
 void QuestionsWithoutScore::Check(const CheckedExam& exam, FindingList& findings) const {
   for (const ScoreSegment& segment : SegmentsOf(exam)) {
-    if (segment.range == 0)
-      findings.Add(RangePlace(0), {FormatInteger(segment.first), FormatInteger(segment.last)});
+    if (segment.range == 0) findings.Add(RangePlace(0), {Numbers(segment.first, segment.last)});
   }
 }
 
 void ScoreOfZero::Check(const CheckedExam& exam, FindingList& findings) const {
   for (const ScoreSegment& segment : SegmentsOf(exam)) {
     if (segment.range == 0 || segment.score > 0) continue;
-    findings.Add(RangePlace(segment.range), {FormatInteger(segment.first), FormatInteger(segment.last),
-                                             FormatScore(static_cast<double>(segment.score))});
+    findings.Add(RangePlace(segment.range),
+                 {Numbers(segment.first, segment.last), FormatScore(static_cast<double>(segment.score))});
   }
 }
 

@@ -12,11 +12,12 @@
 namespace quorvantis {
 namespace {
 
-constexpr double kAlike = 0.8;         // of the texts
-constexpr double kOptionsAlike = 0.6;  // of the options together
-constexpr std::size_t kIndexed = 16;   // hashes of a sketch; alike texts share most of them
-constexpr std::size_t kShared = 5;     // at least that many, or half of those that there are
-constexpr std::size_t kCompared = 8;   // of the candidates for a question
+constexpr double kAlike = 0.8;            // of the texts
+constexpr double kOptionsAlike = 0.6;     // of the options together
+constexpr std::size_t kIndexed = 16;      // hashes of a sketch; alike texts share most of them
+constexpr std::size_t kShared = 5;        // at least that many, or half of those that there are
+constexpr std::size_t kCompared = 8;      // of the candidates for a question
+constexpr std::size_t kMostOfAHash = 64;  // a shingle of more texts ("Which") tells little
 
 /// What is compared of a question.
 struct ComparedQuestion {
@@ -81,31 +82,37 @@ class SketchIndex {
  public:
   /// The best candidates for being alike, by how much they share and then by number.
   std::vector<std::size_t> Candidates(const TextSketch& sketch) const {
-    std::unordered_map<std::size_t, std::size_t> shared;
-    const std::size_t count = std::min(sketch.Hashes().size(), kIndexed);
-    for (std::size_t i = 0; i < count; ++i) {
+    std::vector<std::size_t> shared(count_);
+    const std::size_t hashes = std::min(sketch.Hashes().size(), kIndexed);
+    for (std::size_t i = 0; i < hashes; ++i) {
       const auto found = questions_.find(sketch.Hashes()[i]);
       if (found == questions_.end()) continue;
       for (const std::size_t question : found->second) ++shared[question];
     }
-    std::vector<std::pair<std::size_t, std::size_t>> best;
-    for (const auto& [question, hashes] : shared) {
-      if (hashes >= std::min(kShared, (count + 1) / 2)) best.emplace_back(count - hashes, question);
+    const std::size_t enough = std::min(kShared, (hashes + 1) / 2);
+    std::vector<std::size_t> best;
+    for (std::size_t question = 0; question < count_; ++question) {
+      if (shared[question] >= enough) best.push_back(question);
     }
-    std::sort(best.begin(), best.end());
+    std::stable_sort(best.begin(), best.end(),
+                     [&shared](std::size_t a, std::size_t b) { return shared[a] > shared[b]; });
     best.resize(std::min(best.size(), kCompared));
-    std::vector<std::size_t> questions;
-    for (const auto& candidate : best) questions.push_back(candidate.second);
-    return questions;
+    return best;
   }
 
-  void Add(std::size_t question, const TextSketch& sketch) {
-    const std::size_t count = std::min(sketch.Hashes().size(), kIndexed);
-    for (std::size_t i = 0; i < count; ++i) questions_[sketch.Hashes()[i]].push_back(question);
+  /// The next question.
+  void Add(const TextSketch& sketch) {
+    const std::size_t hashes = std::min(sketch.Hashes().size(), kIndexed);
+    for (std::size_t i = 0; i < hashes; ++i) {
+      std::vector<std::size_t>& questions = questions_[sketch.Hashes()[i]];
+      if (questions.size() < kMostOfAHash) questions.push_back(count_);
+    }
+    ++count_;
   }
 
  private:
   std::unordered_map<std::uint32_t, std::vector<std::size_t>> questions_;
+  std::size_t count_ = 0;
 };
 
 }  // namespace
@@ -124,7 +131,7 @@ void NearlyEqualQuestions::Check(const CheckedExam& exam, FindingList& findings)
                    {FormatInteger(seen[candidate].question->number)});
       break;
     }
-    index.Add(seen.size(), compared.sketch);
+    index.Add(compared.sketch);
     seen.push_back(std::move(compared));
   }
 }

@@ -2,6 +2,7 @@
 #include "check/Similarity.h"
 
 #include "regex/LetterCase.h"
+#include "text/AsciiCase.h"
 
 #include <algorithm>
 
@@ -49,7 +50,7 @@ std::u16string Normalised(std::u16string_view text) {
     if (tagEnd > at) {
       at = tagEnd - 1;
     } else if (!IsBlankBetweenWords(unit) && !IsPunctuation(unit)) {
-      normalised.push_back(FoldCase(unit));
+      normalised.push_back(unit < 0x80 ? AsciiLower(unit) : FoldCase(unit));
     } else if (!normalised.empty() && normalised.back() != u' ') {
       normalised.push_back(u' ');
     }
@@ -60,16 +61,24 @@ std::u16string Normalised(std::u16string_view text) {
 
 TextSketch::TextSketch(std::u16string_view normalised) {
   if (normalised.empty()) return;
+  constexpr std::size_t kCollected = kMost * 4;  // sorted out at a time
+  std::uint32_t limit = UINT32_MAX;
   const std::size_t size = std::min(kShingle, normalised.size());
-  for (std::size_t at = 0; at + size <= normalised.size(); ++at) Take(HashOf(normalised.data() + at, size));
+  for (std::size_t at = 0; at + size <= normalised.size(); ++at) {
+    const std::uint32_t hash = HashOf(normalised.data() + at, size);
+    if (hash > limit) continue;
+    hashes_.push_back(hash);
+    if (hashes_.size() < kCollected) continue;
+    KeepSmallest();
+    if (hashes_.size() == kMost) limit = hashes_.back();
+  }
+  KeepSmallest();
 }
 
-void TextSketch::Take(std::uint32_t hash) {
-  if (hashes_.size() == kMost && hash >= hashes_.back()) return;
-  const auto place = std::lower_bound(hashes_.begin(), hashes_.end(), hash);
-  if (place != hashes_.end() && *place == hash) return;
-  hashes_.insert(place, hash);
-  if (hashes_.size() > kMost) hashes_.pop_back();
+void TextSketch::KeepSmallest() {
+  std::sort(hashes_.begin(), hashes_.end());
+  hashes_.erase(std::unique(hashes_.begin(), hashes_.end()), hashes_.end());
+  if (hashes_.size() > kMost) hashes_.resize(kMost);
 }
 
 double TextSketch::Likeness(const TextSketch& other) const {

@@ -30,7 +30,7 @@ class TextSketch {
   double Likeness(const TextSketch& other) const;
 
  private:
-  void Take(std::uint32_t hash);
+  void KeepSmallest();
 
   std::vector<std::uint32_t> hashes_;
 };

@@ -31,9 +31,9 @@ bool HasFilesBefore(const CheckedExam& exam, const CheckedQuestion& question) {
 
 /// Long enough to say something: "Circuit", but not "a" or "IMG"; of Chinese two characters do.
 bool IsTellingWord(std::u16string_view word) {
-  constexpr std::size_t kLetters = 4;
+  constexpr std::size_t kTelling = 4;
   constexpr char16_t kFirstHan = 0x2E80;
-  return word.size() >= kLetters || (word.size() >= 2 && word.front() >= kFirstHan);
+  return word.size() >= kTelling || (word.size() >= 2 && word.front() >= kFirstHan);
 }
 
 bool SharesWord(const std::u16string& name, const WordedText& text) {
@@ -90,17 +90,24 @@ bool StandsOut(std::u16string_view text, const TextSpan& word) {
   return word.begin > 0 && kFrame.find(text[word.begin - 1]) != kFrame.npos;
 }
 
+/// `parts` are in ascending order.
+bool IsWithin(const std::vector<TextSpan>& parts, const TextSpan& word) {
+  const auto isBefore = [](const TextSpan& part, std::size_t place) { return part.end <= place; };
+  const auto part = std::lower_bound(parts.begin(), parts.end(), word.begin, isBefore);
+  return part != parts.end() && part->Overlaps(word);
+}
+
 /// The first negation that is asked with; nothing if one of them stands out.
 std::optional<TextSpan> OverlookedNegation(std::u16string_view text) {
   std::optional<TextSpan> first;
+  std::vector<TextSpan> emphasised;
   for (const TextSpan& sentence : AskingSentences(text)) {
     auto word = FindNegation(sentence.Of(text));
     if (!word) continue;
     *word = {word->begin + sentence.begin, word->end + sentence.begin};
     if (IsPartOfChineseWord(text, *word)) continue;
-    const std::vector<TextSpan> emphasised = EmphasisedParts(text);
-    const auto holds = [&word](const TextSpan& part) { return part.Overlaps(*word); };
-    if (StandsOut(text, *word) || std::any_of(emphasised.begin(), emphasised.end(), holds)) return {};
+    if (!first) emphasised = EmphasisedParts(text);
+    if (StandsOut(text, *word) || IsWithin(emphasised, *word)) return {};
     if (!first) first = word;
   }
   return first;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandLine.h"
 
+#include "check/CheckRules.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
@@ -43,6 +44,7 @@ struct ParsedArguments {
   ImportRequest import;
   LearnRequest learn;
   CheckRequest check;
+  ExamCheckRequest examCheck;
   MatchRequest match;
   MakeVersionsRequest versions;
   std::vector<ScoreStep> scoreSteps;
@@ -94,6 +96,32 @@ void AddShow(CLI::App& app, ParsedArguments& arguments, Console& console) {
                                             : ShowForm::Text;
     Show(console, arguments.common, arguments.input, form);
   });
+}
+
+/// Empty if it is the identifier of a rule of the check.
+std::string WhyNoCheckRule(const std::string& id) {
+  if (FindCheckRule(id) != nullptr) return {};
+  std::string why = "there is no rule " + id + ". The rules are ";
+  for (const CheckRuleRow& row : CheckRules())
+    why.append(&row == &CheckRules().front() ? "" : ", ").append(row.id);
+  return why;
+}
+
+void AddCheck(CLI::App& app, ParsedArguments& arguments, Console& console) {
+  CLI::App* check = AddCommand(app, arguments, "check", "Look for mistakes in an exam");
+  ExamCheckRequest& request = arguments.examCheck;
+  AddPath(*check, "EXAM", request.exam, "Exam file (.exm)");
+  check->add_flag("--json", request.json, "Print one JSON object");
+  check->add_option("--ignore", request.ignore, "A rule not to check; may be given several times")
+      ->type_name("ID")
+      ->allow_extra_args(false)
+      ->check(CLI::Validator(WhyNoCheckRule, ""));
+  check->add_flag("--ignored", request.leavesOutIgnored,
+                  "Also leave out what was ignored in the window,\nor in the folder of --app-folder");
+  check->footer(
+      "Prints a line for each finding, with its rule in brackets. Fails if something is wrong;\n"
+      "what is doubtful and what is a hint does not count.");
+  check->callback([&] { CheckExamFile(console, arguments.common, arguments.examCheck); });
 }
 
 void AddBuild(CLI::App& app, ParsedArguments& arguments, Console& console) {
@@ -574,6 +602,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   ParsedArguments arguments;
   AddCommonOptions(app, arguments.common);
   AddShow(app, arguments, console);
+  AddCheck(app, arguments, console);
   AddBuild(app, arguments, console);
   AddUnpack(app, arguments, console);
   AddPreview(app, arguments, console);

@@ -140,6 +140,17 @@ void MakeVersions(Console& console, const CommonOptions& options, MakeVersionsRe
 void VerifyVersions(Console& console, const CommonOptions& options, const std::filesystem::path& folder,
                     const std::filesystem::path& source);
 
+/// The arguments of `check`.
+struct ExamCheckRequest {
+  std::filesystem::path exam;
+  bool json = false;
+  std::vector<std::string> ignore;  ///< identifiers of rules
+  bool leavesOutIgnored = false;    ///< also what was ignored in the window
+};
+
+/// Prints what the check of an exam finds. Fails if something is wrong.
+void CheckExamFile(Console& console, const CommonOptions& options, const ExamCheckRequest& request);
+
 /// The arguments of `match`: a pattern and a text, which is read from the console if none is given; or a file
 /// of patterns and texts.
 struct MatchRequest {

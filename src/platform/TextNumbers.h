@@ -619,7 +619,7 @@ constexpr int kCheckBlanks = 1909;
 constexpr int kCheckSavingLoss = 1910;
 constexpr int kCheckNearLimit = 1911;
 
-// Scores; the numbers of the ranges and of the questions
+// Scores; %1 and %2 are numbers of ranges, or %1 and %3 the questions, such as 3 or 5–9
 constexpr int kCheckScoreOverlap = 1912;
 constexpr int kCheckNoScore = 1913;
 constexpr int kCheckZeroScore = 1914;
@@ -768,5 +768,25 @@ constexpr int kVersionsPlace = 2132;
 constexpr int kVersionsQuestionRow = 2133;
 constexpr int kVersionsMaking = 2134;
 constexpr int kOptionPictures = 1885;  // %2 names the %1 questions
+
+// The window of the check
+constexpr int kCheckEntry = 1950;
+constexpr int kCheckTitle = 1951;
+constexpr int kCheckWholeExam = 1952;
+constexpr int kCheckQuestion = 1953;
+constexpr int kCheckIgnore = 1954;
+constexpr int kCheckRecall = 1955;
+constexpr int kCheckShowIgnored = 1956;
+constexpr int kCheckIgnored = 1957;
+constexpr int kCheckCounts = 1958;
+constexpr int kCheckNothing = 1959;
+constexpr int kCheckSum = 1960;
+constexpr int kCheckColumnFinding = 1961;
+constexpr int kCheckColumnSeverity = 1962;
+constexpr int kCheckRunning = 1963;
+
+// After a print was started; the second in its tooltip
+constexpr int kCheckPrintWrong = 1964;
+constexpr int kCheckPrintGoesOn = 1965;
 
 }  // namespace quorvantis::text_id

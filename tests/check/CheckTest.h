@@ -49,7 +49,7 @@ class CheckTest : public testing::Test {
     question.attachmentNames[i] = PathToText(file.filename());
   }
 
-  std::vector<Finding> Check() const { return CheckExam(exam, world.longAnswerFlags); }
+  std::vector<Finding> Check() const { return CheckExam(exam); }
 
   std::vector<std::string> Found() const {
     std::vector<std::string> found;

@@ -66,7 +66,7 @@ class Transcript : public CommandLineTest, public testing::WithParamInterface<co
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, Transcript,
-                         testing::Values("build", "edit", "import", "key", "order", "rules", "score",
+                         testing::Values("build", "check", "edit", "import", "key", "order", "rules", "score",
                                          "search", "show", "usage"),
                          [](const auto& param) { return param.param; });
 

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "check/ExamCheck.h"
+#include "check/IgnoredFindings.h"
+#include "check/ScoreRules.h"
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "platform/TextNumbers.h"
+#include "platform/posix/ApplicationFolder.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+#include "text/Utf.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <ostream>
+
+namespace quorvantis::cli {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct SeverityRow {
+  const char* key;  ///< in JSON
+  int text;
+};
+
+const SeverityRow& RowOf(Severity severity) {
+  static constexpr SeverityRow kRows[] = {{"wrong", text_id::kSeverityWrong},
+                                          {"doubtful", text_id::kSeverityDoubtful},
+                                          {"hint", text_id::kSeverityHint}};
+  return kRows[static_cast<std::size_t>(severity)];
+}
+
+/// Where the finding is in the JSON of `show`; null where that has no such key.
+const char* FieldKey(const TextPlace& place) {
+  switch (place.field) {
+    case ExamFieldName::AttachmentName:
+      return "attachments";
+    case ExamFieldName::RangeStart:
+    case ExamFieldName::RangeEnd:
+    case ExamFieldName::RangeScore:
+      return "scoreRanges";
+    default:
+      return FieldNamed(place.field).key;
+  }
+}
+
+void LeaveOutIgnored(ExamSession& session, const ExamCheckRequest& request,
+                     const std::filesystem::path& folder, std::vector<Finding>& findings) {
+  IgnoredFindings ignored(folder, session.services.files);
+  if (request.leavesOutIgnored) ignored.Open(std::filesystem::absolute(request.exam).lexically_normal());
+  std::erase_if(findings, [&](const Finding& finding) {
+    const bool isNamed =
+        std::find(request.ignore.begin(), request.ignore.end(), finding.rule) != request.ignore.end();
+    return isNamed || ignored.Has(finding, session.exam);
+  });
+}
+
+/// On one line of a terminal.
+std::string OneLine(std::u16string_view text) {
+  std::u16string line(text);
+  std::replace_if(
+      line.begin(), line.end(), [](char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); },
+      u' ');
+  return Utf16ToUtf8(line);
+}
+
+void PrintFindings(ExamSession& session, const std::vector<Finding>& findings) {
+  const StringTable& strings = session.services.strings;
+  for (const Finding& finding : findings) {
+    std::u16string line = strings.Text(RowOf(finding.severity).text) + u": " + finding.text;
+    if (finding.place.question > 0)
+      line = FillMessage(strings.Text(text_id::kOfQuestion), {FormatInteger(finding.place.question), line});
+    session.console.out << OneLine(line) << " [" << finding.rule << "]\n";
+  }
+}
+
+void PrintFindingsJson(ExamSession& session, const std::vector<Finding>& findings) {
+  Json list = Json::array();
+  for (const Finding& finding : findings) {
+    list.push_back({{"rule", finding.rule},
+                    {"severity", RowOf(finding.severity).key},
+                    {"question", finding.place.question},
+                    {"field", FieldKey(finding.place)},
+                    {"index", finding.place.index},
+                    {"text", Utf16ToUtf8(finding.text)}});
+  }
+  Json json{{"findings", std::move(list)},
+            {"wrong", CountOf(findings, Severity::Wrong)},
+            {"doubtful", CountOf(findings, Severity::Doubtful)},
+            {"hints", CountOf(findings, Severity::Hint)},
+            {"totalScore", nullptr}};
+  if (const auto sum = SumOfScores(session.exam)) json["totalScore"] = Utf16ToUtf8(FormatScore(*sum));
+  session.console.out << json << "\n";
+}
+
+std::string Summary(const FrameSetExam& exam, const std::vector<Finding>& findings) {
+  const int hints = CountOf(findings, Severity::Hint);
+  std::string summary = std::to_string(CountOf(findings, Severity::Wrong)) + " wrong, " +
+                        std::to_string(CountOf(findings, Severity::Doubtful)) + " doubtful, " +
+                        std::to_string(hints) + (hints == 1 ? " hint" : " hints");
+  if (const auto sum = SumOfScores(exam))
+    summary += "; the scores add up to " + Utf16ToUtf8(FormatScore(*sum));
+  return summary;
+}
+
+}  // namespace
+
+void CheckExamFile(Console& console, const CommonOptions& options, const ExamCheckRequest& request) {
+  ExamSession session(console, options);
+  session.Load(request.exam);
+  session.RequireUnpacked(request.exam);
+  std::vector<Finding> findings = CheckExam(session.exam);
+  const bool looksIntoWindow = request.leavesOutIgnored && options.appFolder.empty();
+  LeaveOutIgnored(session, request, looksIntoWindow ? FindApplicationFolder() : options.appFolder, findings);
+  request.json ? PrintFindingsJson(session, findings) : PrintFindings(session, findings);
+  console.out.flush();
+  const std::string summary = request.exam.string() + ": " + Summary(session.exam, findings);
+  if (CountOf(findings, Severity::Wrong) > 0) throw CommandError(summary);
+  console.Tell(summary);
+}
+
+}  // namespace quorvantis::cli
