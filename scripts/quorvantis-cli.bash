@@ -2,12 +2,13 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show check build unpack preview print pdf key score export edit recover import rules languages match"
+  local commands="show check build unpack preview print pdf key score export edit recover import rules versions languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
       --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch | \
-        --rules | --repository | --marks | --ini | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses | --ignore)
+        --rules | --repository | --marks | --ini | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses | \
+        --count | --seed | --out | --questions | --options | --names | --keep | --source | --ignore)
         ((++i)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
@@ -21,7 +22,13 @@ _quorvantis_cli() {
     mapfile -t COMPREPLY < <(compgen -W "same custom" -- "$word")
   elif [ "$previous" = --answer-pictures ] || [ "$previous" = --formulas ]; then
     mapfile -t COMPREPLY < <(compgen -W "give-up ignore force" -- "$word")
-  elif [ "$previous" = --into ]; then
+  elif [ "$previous" = --questions ]; then
+    mapfile -t COMPREPLY < <(compgen -W "none neighbours within-kind within-score all" -- "$word")
+  elif [ "$previous" = --options ]; then
+    mapfile -t COMPREPLY < <(compgen -W "on off" -- "$word")
+  elif [ "$previous" = --out ]; then
+    mapfile -t COMPREPLY < <(compgen -d -- "$word")
+  elif [ "$previous" = --into ] || [ "$previous" = --source ]; then
     mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word")
   elif [ "$previous" = --rules ] || [ "$previous" = --marked ] || [ "$command $previous" = "import --text" ] ||
     [ "$command $previous" = "rules --text" ] || [ "$previous" = --ini ] || [ "$previous" = --marks ] ||
@@ -40,6 +47,7 @@ _quorvantis_cli() {
       score) options+=" --mode --end --value" ;;
       import) options+=" --rules --repository --learn --marks --into --after --answer-pictures --formulas --mend-line-ends --marked --text" ;;
       rules) options+=" --repository --rules --marks --ini --text" ;;
+      versions) options+=" --count --seed --out --questions --options --names --keep --no-pdf --replace --source" ;;
       match) options+=" --flags --start --text --text-file --batch" ;;
       edit) options+=" --recovery" ;;
     esac
@@ -54,6 +62,8 @@ _quorvantis_cli() {
       export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;
       pdf:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.pdf' -- "$word") ;;
       rules:0) mapfile -t COMPREPLY < <(compgen -W "learn check" -- "$word") ;;
+      versions:0) mapfile -t COMPREPLY < <(compgen -W "make verify" -- "$word") ;;
+      versions:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       import:0 | rules:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|md|doc|docx|odt|rtf)$') ;;
       edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     esac

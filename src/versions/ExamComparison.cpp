@@ -31,7 +31,7 @@ class Comparison {
     const auto count = static_cast<int>(version_.questions.size());
     CompareHeader(count);
     if (exam_.questionCount == count) {
-      for (place_ = 1; place_ <= count; ++place_) CompareQuestion();
+      for (number_ = 1; number_ <= count; ++number_) CompareQuestion();
       CompareScores(count);
     }
     return std::move(differences_);
@@ -41,15 +41,19 @@ class Comparison {
   void Check(bool isSame, int what) {
     if (isSame) return;
     const std::u16string name = strings_.Text(what);
-    if (place_ == 0) {
+    if (number_ == 0) {
       differences_.push_back(FillMessage(strings_.Text(text_id::kExamDiffers), {name}));
     } else {
       differences_.push_back(FillMessage(strings_.Text(text_id::kQuestionDiffers),
-                                         {FormatInteger(place_), FormatInteger(SourceNumber()), name}));
+                                         {FormatInteger(Place()), FormatInteger(number_), name}));
     }
   }
 
-  int SourceNumber() const { return version_.questions[static_cast<std::size_t>(place_) - 1]; }
+  /// Of the question in the version, from 1 on.
+  int Place() const {
+    const auto found = std::ranges::find(version_.questions, number_);
+    return static_cast<int>(found - version_.questions.begin()) + 1;
+  }
 
   void CompareHeader(int count) {
     Check(exam_.title == VersionTitle(source_.title, version_.name), text_id::kTheTitle);
@@ -62,8 +66,8 @@ class Comparison {
   }
 
   void CompareQuestion() {
-    const ExamQuestion& source = source_.Question(SourceNumber());
-    const ExamQuestion& question = exam_.Question(place_);
+    const ExamQuestion& source = source_.Question(number_);
+    const ExamQuestion& question = exam_.Question(Place());
     Check(question.kind == source.kind, text_id::kTheKind);
     Check(question.text == source.text, text_id::kTheText);
     Check(question.answerText == source.answerText, text_id::kFillInAnswer);
@@ -75,12 +79,13 @@ class Comparison {
   }
 
   void CompareOptions(const ExamQuestion& source, const ExamQuestion& question) {
-    const OptionOrder& order = version_.options[static_cast<std::size_t>(place_) - 1];
+    const OptionOrder& order = version_.options[static_cast<std::size_t>(Place()) - 1];
     bool isKeySame = question.answerLetters.size() == source.answerLetters.size();
-    for (std::size_t i = 0; i < kOptionCount; ++i) {
-      Check(question.options[i] == source.options[order[i]], text_id::kOptionText);
-      const bool isRight = (question.answerMask & AnswerBoxWeight(i)) != 0;
-      const bool wasRight = (source.answerMask & AnswerBoxWeight(order[i])) != 0;
+    for (std::size_t option = 0; option < kOptionCount; ++option) {
+      const auto place = static_cast<std::size_t>(std::ranges::find(order, option) - order.begin());
+      Check(question.options[place] == source.options[option], text_id::kOptionText);
+      const bool isRight = (question.answerMask & AnswerBoxWeight(place)) != 0;
+      const bool wasRight = (source.answerMask & AnswerBoxWeight(option)) != 0;
       isKeySame = isKeySame && isRight == wasRight;
     }
     // Letters that stand for no options are those of the source, or nobody could tell what they mean.
@@ -91,14 +96,14 @@ class Comparison {
   void CompareScores(int count) {
     const QuestionScores wanted = ScoresOf(source_, count);
     const QuestionScores scores = ScoresOf(exam_, count);
-    for (place_ = 1; place_ <= count; ++place_) {
-      const auto& score = scores[static_cast<std::size_t>(place_)];
-      const auto& other = wanted[static_cast<std::size_t>(SourceNumber())];
+    for (number_ = 1; number_ <= count; ++number_) {
+      const auto& score = scores[static_cast<std::size_t>(Place())];
+      const auto& other = wanted[static_cast<std::size_t>(number_)];
       const bool isSame = score.has_value() == other.has_value() &&
                           FormatScore(score.value_or(0)) == FormatScore(other.value_or(0));
       Check(isSame, text_id::kAScore);
     }
-    place_ = 0;
+    number_ = 0;
     if (!HasScoreRanges(source_.scoreMode))
       Check(exam_.scoreFrom == source_.scoreFrom && exam_.scoreTo == source_.scoreTo &&
                 std::ranges::equal(exam_.scoreValue, source_.scoreValue, {}, FormatScore, FormatScore),
@@ -109,7 +114,7 @@ class Comparison {
   const PlannedVersion& version_;
   const FrameSetExam& exam_;
   const StringTable& strings_;
-  int place_ = 0;  ///< of the question that is compared; 0 for the exam as a whole
+  int number_ = 0;  ///< in the source, of the question that is compared; 0 for the exam as a whole
   std::vector<std::u16string> differences_;
 };
 

@@ -67,7 +67,7 @@ class Transcript : public CommandLineTest, public testing::WithParamInterface<co
 
 INSTANTIATE_TEST_SUITE_P(Of, Transcript,
                          testing::Values("build", "check", "edit", "import", "key", "order", "rules", "score",
-                                         "search", "show", "usage"),
+                                         "search", "show", "usage", "versions"),
                          [](const auto& param) { return param.param; });
 
 TEST_P(Transcript, IsTrue) {

@@ -119,6 +119,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
                  return RenewFor(std::move(choose));
                },
                [this](const std::filesystem::path& page) { PrintPage(page); }}),
+      versions_(editor_, *this, languageId),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
       scroll_(*client_),
@@ -194,6 +195,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.sheets = &sheets_;
   commands.canUndoImport = [this] { return import_.CanUndo(); };
   commands.undoImport = [this] { importWindows_.Undo(import_); };
+  commands.versions = [this] { versions_.MakeVersions(); };
   commands.guide = [this] { ShowGuide(); };
   commands.keys = [this] { ShowKeys(); };
   commands.about = [this] { ShowAbout(); };

@@ -17,6 +17,7 @@
 #include "desktop/main/SheetCommands.h"
 #include "desktop/main/StudioCommands.h"
 #include "desktop/main/ToolbarButtons.h"
+#include "desktop/main/VersionCommands.h"
 #include "desktop/main/WindowLayout.h"
 #include "desktop/main/WindowMenus.h"
 #include "desktop/main/WindowNotice.h"
@@ -162,6 +163,7 @@ class CQuorvantisDlg final : public FittedWindow,
   SearchCommands search_;
   StudioCommands studio_;
   SheetCommands sheets_;
+  VersionCommands versions_;
   WindowNotice* recoveryFails_;
   WindowNotice* printComes_;
   WindowScroll scroll_;

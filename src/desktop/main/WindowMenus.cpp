@@ -255,6 +255,7 @@ MenuTable WindowMenus::Exam() const {
               OfTool(kAttachTool, "examAttach", kAttachFiles),
               Separator(),
               Sheets(),
+              {.name = "examVersions", .caption = Text(kVersionsEntry), .command = commands_.versions},
           }};
 }
 

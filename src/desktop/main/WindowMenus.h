@@ -32,6 +32,7 @@ class WindowMenus {
     SheetCommands* sheets;
     std::function<bool()> canUndoImport;
     std::function<void()> undoImport;
+    std::function<void()> versions;
     std::function<void()> guide;
     std::function<void()> keys;
     std::function<void()> about;
