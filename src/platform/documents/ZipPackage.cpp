@@ -44,6 +44,17 @@ bool ZipPackage::Has(const std::string& name) const {
   return ::zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE) >= 0;
 }
 
+std::vector<std::string> ZipPackage::Names(std::size_t limit) const {
+  std::vector<std::string> names;
+  const auto count =
+      static_cast<zip_uint64_t>(std::max<zip_int64_t>(0, ::zip_get_num_entries(archive_.get(), 0)));
+  for (zip_uint64_t i = 0; i < count && names.size() < limit; ++i) {
+    const char* const name = ::zip_get_name(archive_.get(), i, 0);
+    if (name != nullptr) names.emplace_back(name);
+  }
+  return names;
+}
+
 PackagePart ZipPackage::Read(const std::string& name, std::size_t limit) const {
   const zip_int64_t index = ::zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE);
   if (index < 0) return {WordResult::NotFound, {}};

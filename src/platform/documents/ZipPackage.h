@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 struct zip;
 
@@ -26,6 +27,9 @@ class ZipPackage {
 
   WordResult Opened() const { return opened_; }
   bool Has(const std::string& name) const;
+
+  /// The names of all parts, at most `limit`.
+  std::vector<std::string> Names(std::size_t limit) const;
 
   /// A part of at most `limit` bytes, whatever size the archive claims. The case of its name is ignored.
   PackagePart Read(const std::string& name, std::size_t limit) const;

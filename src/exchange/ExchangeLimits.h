@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// How much of a stranger's file is read, in bytes. What exceeds a limit is refused or left out, and told.
+#pragma once
+
+#include <cstddef>
+
+namespace quorvantis {
+
+inline constexpr std::size_t kMaxExchangedFile = std::size_t{50} << 20;   ///< one attached file, or a text
+inline constexpr std::size_t kMaxSourceFile = std::size_t{256} << 20;     ///< a file with others inside
+inline constexpr std::size_t kMaxUnpackedFiles = std::size_t{512} << 20;  ///< all attached files together
+inline constexpr std::size_t kMaxReadQuestions = 5000;  ///< more than an exam takes, so that the rest is told
+
+}  // namespace quorvantis

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/StringTable.h"
+
+#include <string>
+#include <vector>
+
+namespace quorvantis {
+
+/// Something that a conversion could not keep.
+struct ExchangeNote {
+  int question = 0;                      ///< in the file or exam that is read; 0: it is about the whole
+  int text = 0;                          ///< the number of the text in the string table
+  std::vector<std::u16string> values{};  ///< for its placeholders, at most two
+
+  bool operator==(const ExchangeNote&) const = default;
+};
+
+/// Collects what a conversion has to tell, in the order of the questions. The same is told once a question.
+class ExchangeNotes {
+ public:
+  /// What follows is about this question; 0: about the whole.
+  void Begin(int question) { question_ = question; }
+  int Question() const { return question_; }
+
+  void Tell(int text, std::vector<std::u16string> values = {});
+
+  const std::vector<ExchangeNote>& All() const { return notes_; }
+
+ private:
+  int question_ = 0;
+  std::vector<ExchangeNote> notes_;
+};
+
+/// "question 7: its files are left out".
+std::u16string NoteLine(const ExchangeNote& note, const StringTable& strings);
+
+/// A text for use inside a note: its first words, without markup and line ends.
+std::u16string Excerpt(std::u16string_view text);
+
+}  // namespace quorvantis

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// A file to read questions from.
+class ExchangeSource {
+ public:
+  /// Reads the beginning of `file`.
+  explicit ExchangeSource(std::filesystem::path file);
+
+  const std::filesystem::path& File() const { return file_; }
+
+  /// False if it cannot be read at all.
+  bool IsOpen() const { return isOpen_; }
+
+  /// Its first bytes, enough to recognise it.
+  const std::string& Head() const { return head_; }
+
+  /// All of its bytes, at most `limit`; nothing if it has more, or cannot be read.
+  std::optional<std::string> Bytes(std::size_t limit) const;
+
+ private:
+  std::filesystem::path file_;
+  std::string head_;
+  bool isOpen_ = false;
+};
+
+/// The text of a file: UTF-8 with or without a mark, or UTF-16 with one. Bytes that are neither are taken for
+/// those of Windows in the West; `isGuessed` is set then.
+std::u16string DecodeText(std::string_view bytes, bool& isGuessed);
+
+}  // namespace quorvantis

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/Formats.h"
+
+#include "exchange/AikenFormat.h"
+#include "exchange/CanvasFormat.h"
+#include "exchange/GiftFormat.h"
+#include "exchange/MarkdownWriter.h"
+#include "exchange/MoodleXml.h"
+#include "exchange/QtiFormat.h"
+#include "exchange/TableFormat.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+template <class Reader>
+std::unique_ptr<FormatReader> NewReader() {
+  return std::make_unique<Reader>();
+}
+
+template <class Writer>
+std::unique_ptr<FormatWriter> NewWriter() {
+  return std::make_unique<Writer>();
+}
+
+std::unique_ptr<FormatWriter> NewCommaWriter() {
+  return std::make_unique<TableWriter>(u',');
+}
+
+std::unique_ptr<FormatWriter> NewTabWriter() {
+  return std::make_unique<TableWriter>(u'\t');
+}
+
+constexpr HeldParts kTableParts{.severalRight = true,
+                                .noneRight = true,
+                                .fillIn = true,
+                                .severalBlanks = true,
+                                .essay = true,
+                                .modelAnswer = true,
+                                .oral = true,
+                                .unanswered = true,
+                                .scores = true};
+
+constexpr HeldParts kAllParts{.severalRight = true,
+                              .noneRight = true,
+                              .fillIn = true,
+                              .severalBlanks = true,
+                              .essay = true,
+                              .modelAnswer = true,
+                              .oral = true,
+                              .files = true,
+                              .scores = true,
+                              .title = true,
+                              .shuffle = true};
+
+const FormatRow kFormats[] = {
+    {.name = "qti",
+     .title = "QTI 2.1",
+     .extension = "zip",
+     .held = kAllParts,
+     .recognises = LooksLikeQti,
+     .reader = NewReader<QtiReader>,
+     .writer = NewWriter<QtiWriter>},
+    {.name = "canvas",
+     .title = "QTI 1.2 for Canvas",
+     .extension = "zip",
+     .held = kAllParts,
+     .recognises = LooksLikeCanvas,
+     .reader = NewReader<CanvasReader>,
+     .writer = NewWriter<CanvasWriter>},
+    {.name = "moodle",
+     .title = "Moodle XML",
+     .extension = "xml",
+     .extensionIsItsOwn = true,
+     .held = kAllParts,
+     .recognises = LooksLikeMoodleXml,
+     .reader = NewReader<MoodleXmlReader>,
+     .writer = NewWriter<MoodleXmlWriter>},
+    {.name = "aiken",
+     .title = "Aiken",
+     .extension = "aiken",
+     .extensionIsItsOwn = true,
+     .held = {.texts = HeldText::OneLine},
+     .recognises = LooksLikeAiken,
+     .reader = NewReader<AikenReader>,
+     .writer = NewWriter<AikenWriter>},
+    {.name = "csv",
+     .title = "CSV table",
+     .extension = "csv",
+     .extensionIsItsOwn = true,
+     .held = kTableParts,
+     .recognises = LooksLikeTable,
+     .reader = NewReader<TableReader>,
+     .writer = NewCommaWriter},
+    {.name = "tsv",
+     .title = "Table with tabs",
+     .extension = "tsv",
+     .extensionIsItsOwn = true,
+     .held = kTableParts,
+     .recognises = LooksLikeTable,
+     .reader = NewReader<TableReader>,
+     .writer = NewTabWriter},
+    {.name = "gift",
+     .title = "GIFT",
+     .extension = "gift",
+     .extensionIsItsOwn = true,
+     .held = {.severalRight = true,
+              .noneRight = true,
+              .fillIn = true,
+              .arrows = false,
+              .essay = true,
+              .modelAnswer = true,
+              .title = true},
+     .recognises = LooksLikeGift,
+     .reader = NewReader<GiftReader>,
+     .writer = NewWriter<GiftWriter>},
+    {.name = "markdown",
+     .title = "Markdown",
+     .extension = "md",
+     .extensionIsItsOwn = true,
+     .held = {.texts = HeldText::PlainLines,
+              .severalRight = true,
+              .noneRight = true,
+              .fillIn = true,
+              .severalBlanks = true,
+              .essay = true,
+              .modelAnswer = true,
+              .oral = true,
+              .unanswered = true,
+              .scores = true,
+              .title = true},
+     .writer = NewWriter<MarkdownWriter>},
+};
+
+}  // namespace
+
+std::span<const FormatRow> Formats() {
+  return kFormats;
+}
+
+const FormatRow* FormatNamed(std::string_view name) {
+  const auto* const row = std::ranges::find(kFormats, name, &FormatRow::name);
+  return row != std::end(kFormats) ? row : nullptr;
+}
+
+const FormatRow* RecogniseFormat(const ExchangeSource& source) {
+  const auto* const row = std::ranges::find_if(kFormats, [&source](const FormatRow& format) {
+    return format.recognises != nullptr && format.recognises(source);
+  });
+  return row != std::end(kFormats) ? row : nullptr;
+}
+
+const FormatRow* FormatForFile(const std::filesystem::path& file) {
+  const std::string extension = Utf16ToUtf8(ExtensionOrNothing(PathToText(file.filename())));
+  const auto* const row = std::ranges::find_if(kFormats, [&extension](const FormatRow& format) {
+    return format.extensionIsItsOwn && format.extension == extension;
+  });
+  return row != std::end(kFormats) ? row : nullptr;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// The formats of questions that other programs read and write, one row each.
+#pragma once
+
+#include "exchange/Format.h"
+#include "exchange/HeldParts.h"
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace quorvantis {
+
+struct FormatRow {
+  std::string_view name;           ///< as users type it, and unique
+  std::string_view title;          ///< as they read it
+  std::string_view extension;      ///< of new files, in lower case, without the dot
+  bool extensionIsItsOwn = false;  ///< no other row has it, so it says what to write
+  HeldParts held{};
+  /// Whether a file looks like one of the format; null if the format is only written.
+  bool (*recognises)(const ExchangeSource& source) = nullptr;
+  std::unique_ptr<FormatReader> (*reader)() = nullptr;
+  std::unique_ptr<FormatWriter> (*writer)() = nullptr;
+};
+
+/// In the order in which a file is compared with them.
+std::span<const FormatRow> Formats();
+
+/// The format of that name; null if there is none.
+const FormatRow* FormatNamed(std::string_view name);
+
+/// The format that a file has, by its content; null if it is none of them.
+const FormatRow* RecogniseFormat(const ExchangeSource& source);
+
+/// The format to write into a file of that name; null if its extension does not tell.
+const FormatRow* FormatForFile(const std::filesystem::path& file);
+
+}  // namespace quorvantis

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/HeldParts.h"
+
+#include "exchange/Markup.h"
+#include "platform/TextNumbers.h"
+#include "text/LineBreaks.h"
+#include "text/NumberText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::size_t kFewestOptions = 2;  // a choice between fewer is none in any learning system
+
+/// Reduces one question after the other to what a format holds.
+class Reduction {
+ public:
+  Reduction(const HeldParts& held, ExchangeNotes& notes) : held_(held), notes_(notes) {}
+
+  /// False if nothing of it can be held.
+  bool Reduce(ExchangedQuestion& question) {
+    if (IsEmpty(question)) return Refuse(text_id::kExchangeEmptyQuestion);
+    if (!ReduceKind(question)) return false;
+    question.text = Text(question.text);
+    for (ExchangedOption& option : question.options) option.text = Text(option.text);
+    std::erase_if(question.options, [](const ExchangedOption& option) { return option.text.empty(); });
+    for (BlankAnswers& blank : question.blanks) {
+      for (std::u16string& answer : blank) answer = Answer(answer);
+    }
+    question.modelAnswer = Text(question.modelAnswer);
+    ReduceRest(question);
+    return !question.text.empty() || held_.unanswered || Refuse(text_id::kExchangeEmptyQuestion);
+  }
+
+  std::u16string Plain(const std::u16string& text, HeldText held) {
+    if (held == HeldText::Markup) return text;
+    if (HasTags(text)) notes_.Tell(text_id::kExchangeMarkupLeftOut);
+    std::u16string plain = ExamTextToPlain(text);
+    if (held == HeldText::OneLine) {
+      if (plain.find(u'\n') != plain.npos) notes_.Tell(text_id::kExchangeLinesJoined);
+      plain = WithLineEnds(plain, u" ");
+    }
+    return PlainToExamText(plain);
+  }
+
+ private:
+  std::u16string Text(const std::u16string& text) { return Plain(text, held_.texts); }
+
+  std::u16string Answer(const std::u16string& answer) {
+    std::u16string text = Plain(answer, HeldText::OneLine);
+    for (std::size_t at = text.find(u"->"); !held_.arrows && at != text.npos; at = text.find(u"->")) {
+      text.replace(at, 2, u"\u2192");
+      notes_.Tell(text_id::kExchangeArrowReplaced);
+    }
+    return text;
+  }
+
+  static bool IsEmpty(const ExchangedQuestion& question) {
+    return question.text.empty() && question.options.empty() && question.blanks.empty() &&
+           question.files.empty();
+  }
+
+  bool Refuse(int text) {
+    notes_.Tell(text);
+    return false;
+  }
+
+  bool ReduceKind(ExchangedQuestion& question) {
+    switch (question.kind) {
+      case QuestionKind::Choice:
+        return ReduceChoice(question);
+      case QuestionKind::FillIn:
+        return ReduceFillIn(question);
+      case QuestionKind::Essay:
+        return held_.essay || Refuse(text_id::kExchangeEssayLeftOut);
+      case QuestionKind::Oral:
+        if (held_.oral) return true;
+        if (!held_.essay) return Refuse(text_id::kExchangeOralLeftOut);
+        question.kind = QuestionKind::Essay;
+        notes_.Tell(text_id::kExchangeOralBecomesEssay);
+        return true;
+    }
+    return false;
+  }
+
+  bool ReduceChoice(ExchangedQuestion& question) {
+    if (question.options.size() < (held_.unanswered ? 0 : 1)) {
+      if (!held_.essay) return Refuse(text_id::kExchangeNoOptions);
+      question.kind = QuestionKind::Essay;
+      notes_.Tell(text_id::kExchangeNoOptionsBecomesEssay);
+      return true;
+    }
+    const auto rights = std::ranges::count_if(question.options, &ExchangedOption::isRight);
+    if (rights == 0 && !held_.noneRight) return Refuse(text_id::kExchangeNoneRight);
+    if (rights > 1 && !held_.severalRight) return Refuse(text_id::kExchangeSeveralRight);
+    const bool isNoChoice = !held_.severalRight && question.options.size() < kFewestOptions;
+    return !isNoChoice || Refuse(text_id::kExchangeNoOptions);
+  }
+
+  bool ReduceFillIn(ExchangedQuestion& question) {
+    if (!held_.fillIn) return Refuse(text_id::kExchangeFillInLeftOut);
+    const bool hasNone = question.blanks.empty() && !held_.unanswered;
+    const bool hasTooMany = question.blanks.size() > 1 && !held_.severalBlanks;
+    if (!hasNone && !hasTooMany) return true;
+    question.kind = QuestionKind::Essay;
+    for (const BlankAnswers& blank : question.blanks)
+      question.modelAnswer += (question.modelAnswer.empty() ? u"" : u"\r\n") + blank.front();
+    question.blanks.clear();
+    notes_.Tell(hasNone ? text_id::kExchangeNoAnswerBecomesEssay : text_id::kExchangeBlanksBecomeEssay);
+    return true;
+  }
+
+  void ReduceRest(ExchangedQuestion& question) {
+    if (!held_.files && !question.files.empty()) {
+      notes_.Tell(text_id::kExchangeFilesLeftOut,
+                  {FormatInteger(static_cast<std::int64_t>(question.files.size()))});
+      question.files.clear();
+    }
+    if (!held_.modelAnswer && !question.modelAnswer.empty()) {
+      notes_.Tell(text_id::kExchangeModelAnswerLeftOut);
+      question.modelAnswer.clear();
+    }
+    if (!held_.scores) question.score.reset();
+  }
+
+  const HeldParts& held_;
+  ExchangeNotes& notes_;
+};
+
+}  // namespace
+
+ExchangedExam HeldExam(const HeldParts& held, ExchangedExam exam, ExchangeNotes& notes) {
+  Reduction reduction(held, notes);
+  notes.Begin(0);
+  if (!held.title && !exam.title.empty()) {
+    notes.Tell(text_id::kExchangeTitleLeftOut);
+    exam.title.clear();
+  }
+  exam.title = reduction.Plain(exam.title, HeldText::OneLine);
+  const auto hasScore = [](const ExchangedQuestion& question) { return question.score.has_value(); };
+  if (!held.scores && std::ranges::any_of(exam.questions, hasScore))
+    notes.Tell(text_id::kExchangeScoresLeftOut);
+  if (!held.shuffle && exam.shufflesOptions) {
+    notes.Tell(text_id::kExchangeShuffleLeftOut);
+    exam.shufflesOptions = false;
+  }
+  std::vector<ExchangedQuestion> kept;
+  for (ExchangedQuestion& question : exam.questions) {
+    notes.Begin(question.number);
+    if (reduction.Reduce(question)) kept.push_back(std::move(question));
+  }
+  exam.questions = std::move(kept);
+  notes.Begin(0);
+  return exam;
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "exchange/ExchangeNotes.h"
+#include "exchange/ExchangedExam.h"
+
+namespace quorvantis {
+
+enum class HeldText {
+  OneLine,     ///< plain characters
+  PlainLines,  ///< with line breaks
+  Markup,      ///< with all that Markup.h converts
+};
+
+/// What a format can hold. What is left unsaid it cannot.
+struct HeldParts {
+  HeldText texts = HeldText::Markup;
+  bool severalRight = false;   ///< more than one right option
+  bool noneRight = false;      ///< no right option
+  bool fillIn = false;         ///< questions with alternative answers
+  bool arrows = true;          ///< "->" in answers
+  bool severalBlanks = false;  ///< an answer for each blank
+  bool essay = false;
+  bool modelAnswer = false;
+  bool oral = false;
+  bool unanswered = false;  ///< choice questions without options, and fill-in questions without answers
+  bool files = false;
+  bool scores = false;
+  bool title = false;
+  bool shuffle = false;  ///< that options are to be shuffled
+};
+
+/// What a format holds of an exam: what a writer gets, and what its reader must give back. What the format
+/// cannot hold is told; something else stands in its place, or the question is left out.
+ExchangedExam HeldExam(const HeldParts& held, ExchangedExam exam, ExchangeNotes& notes);
+
+}  // namespace quorvantis

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/TableFormat.h"
+
+#include "exchange/Blanks.h"
+#include "exchange/ExamToExchange.h"
+#include "exchange/ExchangeLimits.h"
+#include "exchange/Markup.h"
+#include "exchange/Points.h"
+#include "exchange/TableColumns.h"
+#include "exchange/TextSource.h"
+#include "model/AnswerLetters.h"
+#include "model/ExamLimits.h"
+#include "platform/TextNumbers.h"
+#include "text/LineBreaks.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::string_view kMarkOfUtf8 =
+    "\xEF\xBB\xBF";  // without it, spreadsheets take UTF-8 for something else
+
+/// Reads the rows below the names.
+class TableRows {
+ public:
+  TableRows(const TableColumns& columns, ReadingTools& tools) : columns_(columns), tools_(tools) {}
+
+  ExchangedQuestion Read(const TableRow& row, int number) {
+    tools_.notes.Begin(number);
+    ExchangedQuestion question;
+    question.number = number;
+    question.text = Text(Cell(row, columns_.text));
+    const std::u16string right(Trimmed(Cell(row, columns_.right)));
+    for (std::size_t i = 0; i < columns_.options.size(); ++i) {
+      const std::u16string cell = Cell(row, columns_.options[i]);
+      if (!Trimmed(cell).empty())
+        question.options.push_back({Text(cell), IsNamedRight(right, i, Trimmed(cell))});
+    }
+    BlankAnswers answers = AnswersInCell(Cell(row, columns_.answers));
+    for (std::u16string& answer : answers) answer = Text(answer);
+    question.blanks = ByBlank(question.text, answers);
+    question.modelAnswer = Text(Cell(row, columns_.modelAnswer));
+    question.score = PointsOf(Cell(row, columns_.score));
+    TakeKind(Cell(row, columns_.kind), question);
+    return question;
+  }
+
+ private:
+  static std::u16string Cell(const TableRow& row, std::optional<std::size_t> column) {
+    return column && *column < row.size() ? WithoutGuard(row[*column]) : std::u16string();
+  }
+
+  std::u16string Text(std::u16string_view cell) {
+    const ReadMarkup read = ReadExamText(cell);
+    TellMarkupLosses(read.losses, tools_.notes);
+    for (const MarkupReference& reference : read.references)
+      tools_.notes.Tell(text_id::kExchangeNotFetched, {Excerpt(reference.address)});
+    return read.text;
+  }
+
+  /// What the kind has no use for is told; without a kind, the cells that are filled tell it.
+  void TakeKind(const std::u16string& cell, ExchangedQuestion& question) {
+    const QuestionKind likely = !question.options.empty()  ? QuestionKind::Choice
+                                : !question.blanks.empty() ? QuestionKind::FillIn
+                                                           : QuestionKind::Essay;
+    const auto named = KindInCell(cell);
+    if (!named && !Trimmed(cell).empty()) tools_.notes.Tell(text_id::kExchangeKindNotKnown, {Excerpt(cell)});
+    question.kind = named.value_or(likely);
+    const bool hasRight = std::ranges::any_of(question.options, &ExchangedOption::isRight);
+    if (question.kind == QuestionKind::Choice && !hasRight && !question.options.empty())
+      tools_.notes.Tell(text_id::kExchangeNoRightRead);
+  }
+
+  const TableColumns& columns_;
+  ReadingTools& tools_;
+};
+
+std::u16string_view KindWordOf(QuestionKind kind) {
+  switch (kind) {
+    case QuestionKind::Choice:
+      return u"choice";
+    case QuestionKind::FillIn:
+      return u"fillin";
+    case QuestionKind::Essay:
+      return u"essay";
+    case QuestionKind::Oral:
+      return u"oral";
+  }
+  return u"";
+}
+
+TableRow CellsOf(const ExchangedQuestion& question) {
+  TableRow cells{std::u16string(KindWordOf(question.kind)), question.text};
+  std::u16string right;
+  for (std::size_t i = 0; i < kOptionCount; ++i) {
+    const bool isThere = i < question.options.size();
+    cells.push_back(isThere ? question.options[i].text : std::u16string());
+    if (isThere && question.options[i].isRight) right.push_back(OptionLetter(i));
+  }
+  cells.push_back(right);
+  BlankAnswers answers;
+  for (const BlankAnswers& blank : question.blanks) answers.insert(answers.end(), blank.begin(), blank.end());
+  cells.push_back(JoinAnswers(answers));
+  cells.push_back(question.modelAnswer);
+  cells.push_back(question.score ? Utf8ToUtf16(PointsText(*question.score)) : std::u16string());
+  return cells;
+}
+
+}  // namespace
+
+bool LooksLikeTable(const ExchangeSource& source) {
+  const std::u16string head = HeadText(source);
+  const auto rows = ReadTable(head, SeparatorOf(head), 1);
+  return !rows.empty() && ColumnsOf(rows[0]).IsUsable();
+}
+
+std::optional<ExchangedExam> TableReader::Read(const ExchangeSource& source, ReadingTools& tools) {
+  const auto text = ReadSourceText(source, tools);
+  if (!text) return std::nullopt;
+  const std::vector<TableRow> rows = ReadTable(*text, SeparatorOf(*text), kMaxReadQuestions + 1);
+  const TableColumns columns = rows.empty() ? TableColumns{} : ColumnsOf(rows[0]);
+  if (!columns.IsUsable()) {
+    tools.notes.Tell(text_id::kExchangeNoHeader);
+    return std::nullopt;
+  }
+  ExchangedExam exam;
+  TableRows reading(columns, tools);
+  for (std::size_t i = 1; i < rows.size(); ++i)
+    exam.questions.push_back(reading.Read(rows[i], static_cast<int>(i)));
+  tools.notes.Begin(0);
+  return exam;
+}
+
+std::string TableWriter::Write(const ExchangedExam& exam, const StringTable&, Progress&) {
+  std::vector<TableRow> rows{
+      {u"kind", u"question", u"A", u"B", u"C", u"D", u"E", u"right", u"answers", u"model answer", u"score"}};
+  for (const ExchangedQuestion& question : exam.questions) rows.push_back(CellsOf(question));
+  std::u16string table;
+  for (const TableRow& row : rows) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      if (i > 0) table.push_back(separator_);
+      table += CellText(WithLineEnds(row[i], u"\n"), separator_);
+    }
+    table += u"\r\n";
+  }
+  return std::string(kMarkOfUtf8) + Utf16ToUtf8(table);
+}
+
+}  // namespace quorvantis

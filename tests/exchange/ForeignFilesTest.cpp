@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+// Files as other programs and people write them.
+#include "ReadForeign.h"
+#include "exchange/ZipWriter.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvantis::test {
+namespace {
+
+struct ForeignRow {
+  const char* bytes;
+  const char* questions;
+  const char* notes = "";
+};
+
+void ExpectRead(ForeignReader& reader, const char* format, std::span<const ForeignRow> rows) {
+  for (const ForeignRow& row : rows) {
+    const ForeignFile read = reader.Read(row.bytes);
+    EXPECT_EQ(read.format, format) << row.bytes;
+    EXPECT_EQ(read.questions, row.questions) << row.bytes;
+    EXPECT_EQ(read.notes, row.notes) << row.bytes;
+  }
+}
+
+const ForeignRow kGift[] = {
+    {"// comment\n::Q1:: Who's buried in Grant's tomb?{=Grant ~no one\n // inside\n "
+     "~Napoleon\\=\\{\\}\\~\\#\\:}\n",
+     "choice Who's buried in Grant's tomb? | +Grant | -no one | -Napoleon={}~#:\n"},
+    {"$CATEGORY: $course$/top/Bio//logy\n\nTwo {~%50%a ~%50%b ~%-100%c}\n\nSun{T}\n\nMoon "
+     "{FALSE#wrong#right}\n",
+     "choice Two | +a | +b | -c\nchoice Sun | +True | -False\nchoice Moon | -True | +False\n",
+     "question 3: feedback and hints are left out\n"},
+    {"Mahatma was born in {=1869 =%50%1870 =%0%x#no} in India.\n\nWhen? {#1822:5}\n\nPi {#3.141..3.142}\n\n"
+     "Two {#=10:0 =%50%11:1}\n",
+     "fill Mahatma was born in ____ in India. | 1869, 1870\nfill When? | 1822\nfill Pi | 3.141..3.142\nfill "
+     "Two | 10, 11\n",
+     "question 1: feedback and hints are left out\nquestion 1: an answer that is partly right counts as "
+     "right: 1870\n"
+     "question 2: the answer is a number; the range that would count as right is left out: 1822:5\n"
+     "question 3: the answer is a number; the range that would count as right is left out: 3.141..3.142\n"
+     "question 4: the answer is a number; the range that would count as right is left out: 11:1\n"},
+    {"Match {\n=cat -> miaow\n\n=dog -> woof\n= -> moo\n}\n\nWrite {####Yes, so.}\n\nOnly text\n\nBroken {=a "
+     "~b\n\nNext {}",
+     "fill Match\\n(miaow / moo / woof)\\ncat ____\\ndog ____ | miaow | woof\nessay Write | Yes, so.\nessay "
+     "Next\n",
+     "question 1: the pairs become a fill-in question with a blank for each\n"
+     "question 3: a text without a question is left out: Only text\n"
+     "question 4: a part could not be read and is left out: Broken {=a ~b\n"},
+    {"\xEF\xBB\xBF[html]<p>a &lt; b<br>\nc <script>x</script><img src=\"http\\://x/y.png\"></p>{=[plain]<b> "
+     "~c}",
+     "choice a < b\\nc | +&lt;b> | -c\n",
+     "question 1: what a browser would run (scripts, forms, embedded pages) is left out\n"
+     "question 1: what is not in the file is not fetched and is left out: http://x/y.png\n"},
+    {"caf\xE9 {=x ~y}", "choice caf\xC3\xA9 | +x | -y\n",
+     "the text is not UTF-8; it was read as Windows text of Western Europe\n"},
+};
+
+const ForeignRow kAiken[] = {
+    {"What is it?\r\nA) one\r\nB) two\r\nANSWER: B\r\n\r\nLines\nof text\na. x\nmore\nb. y\nanswer: a",
+     "choice What is it? | -one | +two\nchoice Lines\\nof text | +x\\nmore | -y\n"},
+    {"Q\nA. a\nB. b\nANSWER: D\n\nrest", "choice Q | -a | -b\n",
+     "question 1: it has no right option\nquestion 2: a part could not be read and is left out: rest\n"},
+};
+
+const ForeignRow kTables[] = {
+    {"Question;Option 1;Option 2;Correct\n\"a;\"\"b\"\"\nc\";'=x;y;2\n", "choice a;\"b\"\\nc | -=x | +y\n"},
+    {"text\tanswers\tpoints\nfill ___\ta | b\\|c\t1,5\n", "fill fill ___ | a, b|c\n"},
+    {"kind,question,A,B,right\nmcq,q,x,y,y\nodd,q,,,\n", "choice q | -x | +y\nessay q\n",
+     "question 2: the kind \xE2\x80\x9Codd\xE2\x80\x9D is not known\n"},
+};
+
+TEST(ForeignFiles, InText) {
+  ForeignReader reader;
+  ExpectRead(reader, "gift", kGift);
+  ExpectRead(reader, "aiken", kAiken);
+  for (const ForeignRow& row : kTables) ExpectRead(reader, "csv", {&row, 1});
+}
+
+std::string Quiz(const std::string& questions) {
+  return "<?xml version=\"1.0\"?>\n<!DOCTYPE quiz [<!ENTITY a \"b\">]><quiz>" + questions + "</quiz>";
+}
+
+TEST(ForeignFiles, MoodleXml) {
+  const std::string text =
+      "<questiontext format=\"html\"><text><![CDATA[<p>T <img src=\"@@PLUGINFILE@@/a%20b.png\"> "
+      "x</p>]]></text>"
+      "<file name=\"a b.png\" encoding=\"base64\">YWJj\nZA==</file><file name='../c' "
+      "encoding='base64'>!</file></questiontext>";
+  const std::string plain = "<questiontext format='html'><text>T</text></questiontext>";
+  const std::string cloze =
+      "<questiontext format='html'><text>A {1:MC:=x~y#no} {2:SA:%100%b~%50%c\\}} {:NM:=3:1} "
+      "{x}</text></questiontext>";
+  ForeignReader reader;
+  const ForeignFile read =
+      reader.Read(Quiz("<question type='category'><category><text>$course$/top</text></category></question>"
+                       "<question type='category'><category><text>top/My</text></category></question>"
+                       "<question type='multichoice'>" +
+                       text +
+                       "<defaultgrade>2.5</defaultgrade><single>true</single>"
+                       "<answer fraction='100'><text>r</text><feedback><text>f</text></feedback></answer>"
+                       "<answer fraction='50'><text>half</text></answer></question>"
+                       "<question type='truefalse'>" +
+                       plain +
+                       "<answer fraction='100'><text>true</text></answer></question>"
+                       "<question type='cloze'>" +
+                       cloze +
+                       "</question>"
+                       "<question type='numerical'>" +
+                       plain +
+                       "<answer fraction='100'><text>5</text><tolerance>0.1</tolerance></answer></question>"
+                       "<question type='matching'>" +
+                       plain +
+                       "<subquestion><text>l</text><answer><text>r</text></answer></subquestion></question>"
+                       "<question type='gapselect'><questiontext><text>a "
+                       "[[2]]</text></questiontext><selectoption><text>x</text></selectoption>"
+                       "<selectoption><text>y</text></selectoption></question>"
+                       "<question type='calculated'>" +
+                       plain + "</question><question type='description'>" + plain + "</question>"));
+  EXPECT_EQ(read.questions,
+            "choice T  x | +r | -half @a b.png\n"
+            "choice T | +True | -False\n"
+            "fill A ____ (x / y) ____ ____ {x} | x | b, c} | 3\n"
+            "fill T | 5\n"
+            "fill T\\n(r)\\nl ____ | r\n"
+            "fill a ____\\n(x / y) | y\n");
+  EXPECT_EQ(
+      read.notes,
+      "the file declares entities of its own, which are not resolved\n"
+      "question 1: the picture \xE2\x80\x9C"
+      "a b.png\xE2\x80\x9D now stands below the text\n"
+      "question 1: a part could not be read and is left out: ../c\n"
+      "question 1: an option that is partly right counts as wrong: half\n"
+      "question 1: feedback and hints are left out\n"
+      "question 3: feedback and hints are left out\n"
+      "question 3: choices within the text become blanks, with the choices behind them\n"
+      "question 3: the answer is a number; the range that would count as right is left out: 3:1\n"
+      "question 4: the answer is a number; the range that would count as right is left out: 5 \xC2\xB1 0.1\n"
+      "question 5: the pairs become a fill-in question with a blank for each\n"
+      "question 6: choices within the text become blanks, with the choices behind them\n"
+      "question 7: questions of the type \xE2\x80\x9C"
+      "calculated\xE2\x80\x9D cannot be read; left out: T\n"
+      "question 8: a text without a question is left out: T\n");
+  ASSERT_TRUE(read.exam);
+  EXPECT_EQ(read.exam->title, u"My");
+  EXPECT_EQ(read.exam->questions[0].score, 2.5);
+  EXPECT_EQ(BytesOf(read.exam->questions[0].files[0]), "abcd");
+}
+
+std::string Package(std::initializer_list<std::pair<const char*, std::string>> parts) {
+  ZipWriter zip;
+  for (const auto& [name, bytes] : parts) zip.Add(name, bytes);
+  return zip.Finish();
+}
+
+TEST(ForeignFiles, Qti2) {
+  ForeignReader reader;
+  const std::string item =
+      "<assessmentItem><responseDeclaration identifier='R' baseType='identifier'><correctResponse><value> b "
+      "</value>"
+      "</correctResponse></responseDeclaration><itemBody><p>Look <strong>here</strong> <em>now</em></p>"
+      "<choiceInteraction responseIdentifier='R'><prompt>Which? <img src='../m/p.png'/><img "
+      "src='../../../etc/passwd'/></prompt>"
+      "<simpleChoice identifier='a'>A<feedbackInline>no</feedbackInline></simpleChoice>"
+      "<simpleChoice identifier='b'>B</simpleChoice></choiceInteraction></itemBody></assessmentItem>";
+  const std::string manifest =
+      "<manifest><resources><resource type='imsqti_item_xmlv2p2' href='i/1.xml'/><resource "
+      "type='imsqti_item_xmlv2p1' "
+      "href='i/2.xml'/><resource type='imsqti_item_xmlv2p1' href='i/3.xml'/></resources></manifest>";
+  const ForeignFile read = reader.Read(Package(
+      {{"x/imsmanifest.xml", manifest},
+       {"x/i/1.xml", item},
+       {"x/m/p.png", "png"},
+       {"x/i/3.xml", "<assessmentItem><itemBody><sliderInteraction/><p>S</p></itemBody></assessmentItem>"}}));
+  EXPECT_EQ(read.questions, "choice Look <strong>here</strong> <em>now</em>\\nWhich? | -A | +B @p.png\n");
+  EXPECT_EQ(read.notes,
+            "question 1: feedback and hints are left out\n"
+            "question 1: what is not in the file is not fetched and is left out: ../../../etc/passwd\n"
+            "question 2: the package lacks a part: x/i/2.xml\n"
+            "question 3: questions of the type \xE2\x80\x9CsliderInteraction\xE2\x80\x9D cannot be read; "
+            "left out: S\n");
+  EXPECT_EQ(reader.Read(item).format, "qti");
+}
+
+TEST(ForeignFiles, Qti1) {
+  ForeignReader reader;
+  const ForeignFile read = reader.Read(
+      "<questestinterop><assessment title='T'><section>"
+      "<item><presentation><material><mattext>Q</mattext></material><response_lid ident='r' "
+      "rcardinality='Single'><render_choice>"
+      "<response_label ident='1'><material><mattext>x</mattext></material></response_label>"
+      "<response_label ident='2'><material><mattext "
+      "texttype='text/html'>&lt;b&gt;y&lt;/b&gt;</mattext></material></response_label>"
+      "</render_choice></response_lid></presentation><resprocessing><respcondition><conditionvar><varequal "
+      "respident='r'>2</varequal>"
+      "</conditionvar><setvar>100</setvar></respcondition></resprocessing></item>"
+      "<item><itemmetadata><qtimetadata><qtimetadatafield><fieldlabel>question_type</"
+      "fieldlabel><fieldentry>numerical_question"
+      "</fieldentry></qtimetadatafield></qtimetadata></itemmetadata><presentation><material><mattext>N</"
+      "mattext></material>"
+      "</presentation><resprocessing><respcondition><conditionvar><vargte>1</vargte><varlte>2</varlte></"
+      "conditionvar></respcondition>"
+      "</resprocessing></item></section></assessment></questestinterop>");
+  EXPECT_EQ(read.format, "canvas");
+  EXPECT_EQ(read.questions, "choice Q | -x | +<b>y</b>\nfill N | 1..2\n");
+  EXPECT_EQ(read.notes,
+            "question 2: the answer is a number; the range that would count as right is left out: 1..2\n");
+}
+
+TEST(ForeignFiles, AreBounded) {
+  ForeignReader reader;
+  std::string nested = "<quiz><question>";
+  for (int i = 0; i < 100'000; ++i) nested += "<a>";
+  EXPECT_EQ(reader.Read(nested).notes, "the file is damaged, or not what it seems to be\n");
+  nested = "<quiz><question/>";
+  for (int i = 0; i < 300; ++i) nested += "<a>";
+  for (int i = 0; i < 300; ++i) nested += "</a>";
+  EXPECT_EQ(reader.Read(nested + "</quiz>").notes, "the file is damaged, or not what it seems to be\n");
+
+  const std::string bomb(std::size_t{60} << 20, 'x');
+  const std::string manifest =
+      "<manifest><resources><resource type='imsqti_item_xmlv2p1' href='bomb'/></resources></manifest>";
+  const ForeignFile read = reader.Read(Package({{"imsmanifest.xml", manifest}, {"bomb", bomb}}));
+  EXPECT_NE(read.notes.find("is too large"), std::string::npos) << read.notes;
+  EXPECT_EQ(read.questions, "");
+
+  std::string damaged = Package({{"imsmanifest.xml", manifest}, {"bomb", "x"}});
+  for (std::size_t i = 4; i < damaged.size(); i += 3) {
+    std::string other = damaged;
+    other[i] = static_cast<char>(other[i] ^ 0x55);
+    reader.Read(other);
+    reader.Read(other.substr(0, i));
+  }
+  EXPECT_EQ(CountEntries(reader.folder / "kept"), 0);
+  EXPECT_EQ(reader.Read("just words").format, "");
+  EXPECT_EQ(reader.Read("").format, "");
+}
+
+}  // namespace
+}  // namespace quorvantis::test
