@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Importing documents, and printing an exam into a PDF file, compared with LibreOffice's conversions of the same
-// documents to text and to PDF.
+// Importing documents, and printing an exam into a PDF file, compared with LibreOffice's conversions of the
+// same documents to text and to PDF.
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"

@@ -710,7 +710,8 @@ constexpr int kVersionsPagesDiffer = 2067;
 // How much can be copied: %1 and %2 are names of versions, others shares in percent.
 constexpr int kCopyingChance = 2068;
 constexpr int kCopyingOfPair = 2069;
-// What keeps its place, and why: %1 is the number of the question, %2 the letter of an option or another question.
+// What keeps its place, and why: %1 is the number of the question, %2 the letter of an option or another
+// question.
 constexpr int kPinnedByTeacher = 2070;
 constexpr int kPinnedNamesQuestion = 2071;
 constexpr int kPinnedIsNamed = 2072;
@@ -723,7 +724,8 @@ constexpr int kPinnedNamesLetters = 2078;
 constexpr int kPinnedOwnLetters = 2079;
 constexpr int kPinnedTooFew = 2080;
 constexpr int kPinnedOddKey = 2081;
-// What verifying finds. Of a file or exam, %1; of the question at a place, %1, which is question %2 of the exam.
+// What verifying finds. Of a file or exam, %1; of the question at a place, %1, which is question %2 of the
+// exam.
 constexpr int kFileChanged = 2086;
 constexpr int kPlanUnreadable = 2087;
 constexpr int kSourceMissing = 2088;

@@ -2,8 +2,8 @@
 #include "search/TextSearch.h"
 
 #include "regex/RegexFlags.h"
-#include "search/SearchedText.h"
 #include "regex/WordBorders.h"
+#include "search/SearchedText.h"
 #include "text/LineBreaks.h"
 #include "text/Utf.h"
 
