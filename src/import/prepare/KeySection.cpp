@@ -102,8 +102,10 @@ class KeySectionSearch {
     const auto choices =
         static_cast<std::size_t>(std::ranges::count_if(section.questions, &OutlinedQuestion::HasOptions));
     constexpr std::size_t kFewest = 2;
-    const bool isSure = kind == Leftover::Versions ||
-                        (key.entries.size() >= kFewest && letters * 5 >= std::ssize(key.entries) * 4 &&
+    // Versions of keys may be in words; questions that follow such a heading have no letters.
+    const bool isOfVersions = kind == Leftover::Versions && letters * 3 >= std::ssize(key.entries);
+    const bool isSure =
+        isOfVersions || (key.entries.size() >= kFewest && letters * 5 >= std::ssize(key.entries) * 4 &&
                          key.unread.size() * 4 <= key.entries.size());
     // A few letters without numbers can be the answer of one question.
     const bool isCounted = !isBare || (choices >= kFewest && key.entries.size() * 2 > choices &&
