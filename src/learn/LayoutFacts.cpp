@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/StepNames.h"
+#include "learn/PaperNumbers.h"
 #include "learn/ReadingRoles.h"
 #include "text/NumberText.h"
 
@@ -85,7 +86,17 @@ class FactList {
     } else {
       Add(text_id::kLearnedNumbers, {Example(draft_.numbers[0])});
     }
-    if (draft_.numbers[0].restarts > 0) Add(text_id::kLearnedNumbersRestart);
+    if (BeginAnew()) Add(text_id::kLearnedNumbersRestart);
+  }
+
+  /// Numbers in front or of answers may begin anew, too, but they are none of questions.
+  bool BeginAnew() const {
+    int before = 0;
+    for (const PaperNumber& number : NumbersOf(paper_, layout_.reading)) {
+      if (number.value == 1 && before > 1) return true;
+      before = number.value;
+    }
+    return false;
   }
 
   static std::u16string Example(const NumberFamily& family) {

@@ -60,6 +60,19 @@ bool AreNumbersOfQuestions(const NumberFamily& family) {
          static_cast<std::size_t>(family.restarts) * kEnough < family.labels.size();
 }
 
+/// Lines that a number out of order begins, among others that are in order: "28. June 1919".
+std::set<std::u16string> LinesOutOfOrder(std::u16string_view text, const NumberFamily& family) {
+  constexpr std::size_t kMostLines = 4;
+  std::set<std::u16string> lines;
+  for (std::size_t i = 1; i + 1 < family.labels.size(); ++i) {
+    const int expected = family.labels[i - 1].value + 1;
+    if (family.labels[i].value <= expected || family.labels[i + 1].value != expected) continue;
+    lines.insert(LineBeginPattern(text, {family.labels[i].place, PaperRole::Question}));
+  }
+  const bool areFew = lines.size() <= kMostLines && lines.size() * 4 <= family.labels.size();
+  return areFew ? lines : std::set<std::u16string>();
+}
+
 /// Whether several questions have options and nothing before them.
 bool BeginWithOptions(std::u16string_view text, const std::vector<TextSpan>& bodies) {
   constexpr std::ptrdiff_t kFewest = 2;
@@ -194,6 +207,7 @@ void LayoutSearch::TryFamilies(const PaperText& text, const std::vector<NumberFa
   RuleDraft draft;
   draft.numbers = numbers;
   draft.steps = steps;
+  if (!numbers.empty()) draft.noQuestions = LinesOutOfOrder(text.characters, numbers.front());
   const PaperText numbered = steps.contains(step_name::kUnnumbered) ? Prepared(draft) : text;
   const std::vector<TextSpan> bodies = Bodies(numbered, draft);
   draft.options = FindOptionFamily(numbered.characters, bodies);

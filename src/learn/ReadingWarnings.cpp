@@ -7,6 +7,7 @@
 #include "import/prepare/KeyReports.h"
 #include "import/prepare/StepNames.h"
 #include "learn/PaperNumbers.h"
+#include "learn/ReadingRoles.h"
 #include "learn/UnkeptObjects.h"
 #include "learn/VisibleKey.h"
 #include "model/AnswerLetters.h"
@@ -59,6 +60,7 @@ class WarningSearch {
     for (const DroppedPart& part : reading_.paper.dropped) Add({Kind::NotRead, -1, 0, part.text});
     if (questions_.size() > static_cast<std::size_t>(kMaxQuestions))
       Add({Kind::TooManyQuestions, -1, static_cast<int>(questions_.size())});
+    LookAtTheRest();
     LookAtNumbers();
     LookAtKeyAtEnd();
     LookAtUnclearKeys();
@@ -94,6 +96,35 @@ class WarningSearch {
     return 0;
   }
 
+  /// What became no question, but has options as questions have.
+  void LookAtTheRest() {
+    const std::u16string_view source = paper_.source.characters;
+    TextSpan rest{};
+    const auto look = [&] {
+      constexpr std::size_t kEnoughToSee = 4'000;
+      const TextSpan seen = Trimmed(source, {rest.begin, std::min(rest.end, rest.begin + kEnoughToSee)});
+      if (HasQuestionsOptions(source, seen)) Add({Kind::NotRead, -1, 0, Excerpt(seen.Of(source))});
+    };
+    for (const RolePart& part : RolesOf(paper_, reading_)) {
+      const bool isRest =
+          part.role == PaperRole::NotExam || part.role == PaperRole::Heading || part.role == PaperRole::None;
+      if (isRest && rest.end == part.span.begin) {
+        rest.end = part.span.end;
+        continue;
+      }
+      look();
+      rest = isRest ? part.span : TextSpan{part.span.end, part.span.end};
+    }
+    look();
+  }
+
+  static bool HasQuestionsOptions(std::u16string_view text, TextSpan span) {
+    constexpr std::size_t kFewest = 3;
+    const auto options = FindOptions(text, span);
+    return options && options->LineStarts() >= kFewest &&
+           !OptionAlphabets()[options->alphabet].numbersStatements;
+  }
+
   /// Papers number each part from one, so smaller numbers are right, and so are far larger ones.
   void LookAtNumbers() {
     constexpr int kLargestGap = 20;
@@ -105,7 +136,10 @@ class WarningSearch {
       if (last > 0 && step == 0) Add({Kind::NumberAgain, number.question, number.value});
       // A step may have put a number in.
       const bool isMissing = step > 1 && number.question - lastQuestion < step;
-      if (last > 0 && isMissing && step <= kLargestGap) Add({Kind::NumberMissing, number.question, last + 1});
+      // A paper may begin with a far larger number, but hardly with 2.
+      const bool isFirstMissing = last == 0 && number.value == 2 && number.question == 0;
+      if ((last > 0 && isMissing && step <= kLargestGap) || isFirstMissing)
+        Add({Kind::NumberMissing, number.question, last + 1});
       last = number.value;
       lastQuestion = number.question;
     }

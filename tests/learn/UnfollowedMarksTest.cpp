@@ -41,7 +41,7 @@ TEST(UnfollowedMarks, AreExplainedByWhatIsInTheirWay) {
       {"followed otherwise", {answer}, {}},
       {"two against each other", {option, answer}, {{1, Why::Contradicted}}, 0},
       {"part of a line", {word}, {{0, Why::WithinLine}}},
-      {"no rule", {middle}, {{0, Why::WithoutRule}}},
+      {"a rule for one place", {middle}, {}},
   };
   const Paper paper = PaperOf(kTwoReadings);
   for (const Asked& row : rows) {

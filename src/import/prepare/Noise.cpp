@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/EndLines.h"
 #include "import/prepare/FrontInstructions.h"
 #include "import/prepare/KeyReader.h"
 #include "import/prepare/NoiseLines.h"
@@ -147,8 +148,23 @@ class NoiseSearch {
       if (question.HasAnswer()) FindEnd({question.whole.begin, question.answerLabel.begin});
     }
     if (outline_.questions.empty()) return;
+    const OutlinedQuestion& last = outline_.questions.back();
+    FindEndOfPaper(last.whole);
+    if (last.HasAnswer()) FindEndOfPaper({last.whole.begin, last.answerLabel.begin});
     for (std::size_t i = 0; i < lines_.size() && lines_[i].end <= outline_.front.end; ++i) {
       if (IsSeparatorLine(Content(i))) isNoise_[i] = true;
+    }
+  }
+
+  /// Good wishes and "The End" behind the last question, or before the answers at the end.
+  void FindEndOfPaper(TextSpan question) {
+    const TextSpan kept = Trimmed(text_, question);
+    if (kept.IsEmpty()) return;
+    const std::size_t first = LineAt(kept.begin);
+    for (std::size_t i = LineAt(kept.end - 1); i > first && !isKept_[i]; --i) {
+      const bool isEnd = IsEndLine(Content(i)) || IsSeparatorLine(Content(i));
+      if (isEnd) isNoise_[i] = true;
+      if (!Content(i).empty() && !isEnd) break;
     }
   }
 

@@ -31,7 +31,8 @@ class NestedNumbers {
   bool BeginsQuestion(std::size_t i) const {
     if (ValueAt(i) != questions_ + 1) return false;
     const bool isNextOption = ValueAt(i) == lastOption_ + 1 && questions_ > 0;
-    return ValueAt(i + 1) == 1 || !isNextOption || (most_ > 0 && ValueAt(i) > most_);
+    const bool areMore = most_ > 0 && ValueAt(i) > most_ && ValueAt(i + 1) != ValueAt(i);
+    return ValueAt(i + 1) == 1 || !isNextOption || areMore;
   }
 
   void Take(std::size_t i) {

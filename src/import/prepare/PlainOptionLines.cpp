@@ -74,11 +74,14 @@ class PlainSearch {
       count = texts.size() - before;
       if (texts.size() > kMostBullets) return {};
     }
-    if (texts.size() < kFewestOptions || !CanEndBefore(last)) return {};
+    if (texts.size() < kFewestOptions) return {};
     const auto signOf = [this](const BulletedText& one) { return SignOfBullet(one.bullet.Of(text_)); };
     const char16_t sign = signOf(texts.front());
     const bool areEqual =
         std::ranges::all_of(texts, [&](const BulletedText& one) { return signOf(one) == sign; });
+    // What follows boxes is no part of them; other bullets may have more lines.
+    const bool areBoxes = areEqual && kBoxShapes.find(sign) != kBoxShapes.npos;
+    if (!areBoxes && !CanEndBefore(last)) return {};
     PlainOptionLines found{PlainEvidence::Bullets, {}};
     for (const BulletedText& one : texts) {
       if (!areEqual && !IsOptionSign(signOf(one)) && !IsEmptyBox(signOf(one))) return {};

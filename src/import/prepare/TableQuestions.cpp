@@ -202,6 +202,9 @@ class RowReading {
     if (cell.size() < 2) return false;
     const std::size_t at = kLabelOpens.find(cell[0]) == kLabelOpens.npos ? 0 : 1;
     const bool isClosed = at + 1 < cell.size() && kLabelCloses.find(cell[at + 1]) != kLabelCloses.npos;
+    // "1,6 mm" is a number.
+    const bool isNumber = at + 2 < cell.size() && DigitValue(cell[at]) >= 0 && DigitValue(cell[at + 2]) >= 0;
+    if (isNumber) return false;
     const auto isIndex = [index](const AlphabetLetter& letter) { return letter.index == index; };
     return isClosed && std::ranges::any_of(AlphabetLettersOf(cell[at]), isIndex);
   }

@@ -24,6 +24,62 @@ TEST(MixedLetters, AreMendedWithinRunsOfLabels) {
   for (const auto& row : kRows) CheckStep({u"MixedLetters", row[0], row[1]});
 }
 
+TEST(OptionColumns, ComeOneBelowTheOther) {
+  constexpr std::u16string_view kRows[][2] = {
+      {u"1. Who?|a. he   c. it|b. she  d. we|2. So", u"1. Who?|a. he|b. she|c. it|d. we|2. So"},
+      {u"1. Who?|A) he\tC) it|B) she", u"1. Who?|A) he|B) she|C) it"},
+      {u"1. Who?|A. he\tC. it\tE. us|B. she\tD. we", u"1. Who?|A. he|B. she|C. it|D. we|E. us"},
+      // In rows, or not surely in columns.
+      {u"1. Who?|a. he   b. it|c. she  d. we", u"1. Who?|a. he   b. it|c. she  d. we"},
+      {u"1. Who?|a. he   c. it|d. we", u"1. Who?|a. he   c. it|d. we"},
+      {u"1. Who?|a. he c. it|b. she d. we", u"1. Who?|a. he c. it|b. she d. we"},
+  };
+  for (const auto& row : kRows) CheckStep({u"OptionColumns", row[0], row[1]});
+}
+
+TEST(NumberedOptions, GetOtherNumbers) {
+  constexpr std::u16string_view kRows[][2] = {
+      {u"1. Who?|1. he|2. she|2. Where?|1. in|2. up|3. out|3. Why?",
+       u"1. Who?|① he|② she|2. Where?|① in|② up|③ out|3. Why?"},
+      {u"1\tWho?|1\the|2\tshe|3\tit|2\tWhere?|1\tin|2\tup|3\tout",
+       u"1\tWho?|①\the|②\tshe|③\tit|2\tWhere?|①\tin|②\tup|③\tout"},
+      // Parts that begin anew, and numbers that are told apart by what ends them.
+      {u"1. Who?|2. Why?|3. How?|1. Who?|2. Why?|3. How?",
+       u"1. Who?|2. Why?|3. How?|1. Who?|2. Why?|3. How?"},
+      {u"1. Who?|1) he|2) she|2. Where?|1) in|2) up", u"1. Who?|1) he|2) she|2. Where?|1) in|2) up"},
+      {u"1. Who?|1. he|2. she|2. Why?|3. How?|4. So?|5. No?",
+       u"1. Who?|1. he|2. she|2. Why?|3. How?|4. So?|5. No?"},
+  };
+  for (const auto& row : kRows) CheckStep({u"NumberedOptions", row[0], row[1]});
+}
+
+TEST(ForgottenNumbers, ArePutIn) {
+  constexpr std::u16string_view kRows[][2] = {
+      {u"1. Who?|A. he|B. she||Where?|A. in|B. up||3. Why?",
+       u"1. Who?|A. he|B. she||⟦2⟧ Where?|A. in|B. up||3. Why?"},
+      {u"1. Who?|A. he|B. she|and I|Where?|A. in|B. up|3. Why?",
+       u"1. Who?|A. he|B. she|and I|⟦2⟧ Where?|A. in|B. up|3. Why?"},
+      {u"l. Who?|2. Why?|3, How?|4. So?|S) No?|6. Yes?",
+       u"⟦1⟧  Who?|2. Why?|⟦3⟧  How?|4. So?|⟦5⟧  No?|6. Yes?"},
+      // Options of a table, another number, and no number that is missing.
+      {u"1. Who?|A. he|B. she|A. in|B. up|2. Why?", u"1. Who?|A. he|B. she|A. in|B. up|2. Why?"},
+      {u"1. Who?|A. he|B. she||7. Where?|A. in|B. up||2. Why?",
+       u"1. Who?|A. he|B. she||7. Where?|A. in|B. up||2. Why?"},
+      {u"1. Who?|Z, How?|2. Why?", u"1. Who?|Z, How?|2. Why?"},
+  };
+  ImportSettings rules = PlainRules();
+  rules.m_strPreQuestion = u"\\s*^[1-46]\\.\\s*";
+  for (const auto& row : kRows) CheckStep({u"ForgottenNumbers", row[0], row[1]}, rules);
+}
+
+TEST(ClozeStems, AreTheirNumbers) {
+  constexpr std::u16string_view kRows[][2] = {
+      {u"1. A. w  B. x  C. y|2.|A. w|B. x|C. y", u"1. (1)|A. w  B. x  C. y|2.|(2)|A. w|B. x|C. y"},
+      {u"1. A. w  B. x  C. y|2. Who?|A. w|B. x|C. y", u"1. A. w  B. x  C. y|2. Who?|A. w|B. x|C. y"},
+  };
+  for (const auto& row : kRows) CheckStep({u"ClozeStems", row[0], row[1]});
+}
+
 TEST(Noise, Goes) {
   constexpr std::u16string_view kRows[][2] = {
       {u"1. Why?|Page 1 of 2|2. How?|Page 2 of 2|", u"1. Why?|2. How?|"},
@@ -37,7 +93,13 @@ TEST(Noise, Goes) {
       {u"1. Why?|____/5|2. How?|____/5", u"1. Why?|2. How?"},
       {u"1. Why?|Part B: more|2. How?", u"1. Why?|2. How?"},
       {u"1. Why?\r\nPart B: more", u"1. Why?"},
+      {u"1. Why?|Correct|Mark 1.00 out of 1.00|Flag question|How?|A. x|B. y|Submit",
+       u"1. Why?|How?|A. x|B. y"},
+      {u"1. Why?|A. x|B. y||--- THE END ---|Good luck!", u"1. Why?|A. x|B. y|"},
       // What must stay.
+      {u"1. Why?|A. x|B. y|C|Submit", u"1. Why?|A. x|B. y|C|Submit"},
+      {u"1. What follows \"good luck\"?|Good luck|2. Why?",
+       u"1. What follows \"good luck\"?|Good luck|2. Why?"},
       {u"1. 4/10 =|____/5|2. Why?", u"1. 4/10 =|____/5|2. Why?"},
       {u"1. Add:|12|+ 3|----|what?", u"1. Add:|12|+ 3|----|what?"},
       {u"1.|Page 3|2. Why?", u"1.|Page 3|2. Why?"},
