@@ -153,6 +153,13 @@ void StudioControls::SetCompact(bool isCompact) {
   marks->SetCompact(isCompact);
   findings->SetCompact(isCompact);
   target->SetCompact(isCompact);
+  isCompact_ = isCompact;
+  ShowRules(rulesButton->isChecked());
+}
+
+void StudioControls::ShowRules(bool areShown) {
+  rules->setVisible(areShown);
+  roles->setVisible(!areShown || !isCompact_);
 }
 
 void StudioControls::Tell(const QString& message) {

@@ -30,6 +30,9 @@ class StudioControls {
   /// Leaves more of a small window to the paper and its questions.
   void SetCompact(bool isCompact);
 
+  /// Shows the rules or hides them. In a small window they take the place of the roles.
+  void ShowRules(bool areShown);
+
   QPushButton* open;
   QPushButton* paste;
   QPushButton* undo;
@@ -61,6 +64,7 @@ class StudioControls {
   QLayout* PlaceBottom();
 
   const StringTable& strings_;
+  bool isCompact_ = false;
 };
 
 }  // namespace quorvantis

@@ -74,7 +74,8 @@ void StudioWindow::Connect() {
   connect(controls_.paste, &QPushButton::clicked, this, &StudioWindow::PastePaper);
   connect(controls_.undo, &QPushButton::clicked, this, &StudioWindow::UndoMark);
   connect(controls_.redo, &QPushButton::clicked, this, &StudioWindow::RedoMark);
-  connect(controls_.rulesButton, &QPushButton::toggled, controls_.rules, &QWidget::setVisible);
+  connect(controls_.rulesButton, &QPushButton::toggled, this,
+          [this](bool areShown) { controls_.ShowRules(areShown); });
   connect(controls_.saveRules, &QPushButton::clicked, this, &StudioWindow::SaveRules);
   connect(controls_.import, &QPushButton::clicked, this, &StudioWindow::ImportQuestions);
   connect(controls_.close, &QPushButton::clicked, this, &QWidget::close);

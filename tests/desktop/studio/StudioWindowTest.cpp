@@ -19,6 +19,8 @@ constexpr const char* kPaper =
     "Geography\n1. Where is Rome?\nA. Italy\nB. Spain\nAnswer: A\n2. Where is Oslo?\nA. Peru\nB. Norway\n"
     "Answer: B\n";
 
+constexpr int kPatience = 30'000;  // milliseconds, for a busy machine
+
 class StudioWindowTest : public WindowTest {
  protected:
   void SetUp() override {
@@ -42,7 +44,7 @@ class StudioWindowTest : public WindowTest {
 
   /// Waits until what is shown can be imported.
   bool Settles() {
-    return QTest::qWaitFor([this] { return Control("studioSaveRules").isEnabled(); });
+    return Settles([this] { return Control("studioSaveRules").isEnabled(); });
   }
   /// Runs `answer` on the next message box.
   void AnswerNext(std::function<void(QMessageBox&)> answer) {
@@ -52,7 +54,7 @@ class StudioWindowTest : public WindowTest {
       answer(box);
     });
   }
-  bool Settles(const std::function<bool()>& isSo) { return QTest::qWaitFor(isSo); }
+  bool Settles(const std::function<bool()>& isSo) { return QTest::qWaitFor(isSo, kPatience); }
   void SelectText(const QString& text) {
     QTextCursor cursor(View().document());
     cursor.setPosition(static_cast<int>(View().toPlainText().indexOf(text)));
