@@ -6,6 +6,7 @@
 
 #include <array>
 #include <bit>
+#include <map>
 #include <vector>
 
 namespace quorvantis {
@@ -37,6 +38,14 @@ KeyChances ChancesOf(const ExamQuestion& question, const std::vector<std::size_t
   for (unsigned mask = 0; mask < kKeys; ++mask) count += fits(mask) ? 1 : 0;
   for (unsigned mask = 0; mask < kKeys; ++mask) chances[mask] = fits(mask) ? 1.0 / count : 0;
   return chances;
+}
+
+double ChanceOfSameQuestion(const std::vector<int>& candidates) {
+  std::map<int, int> counts;
+  for (const int question : candidates) ++counts[question];
+  double same = 0;
+  for (const auto& [question, count] : counts) same += static_cast<double>(count) * count;
+  return same / static_cast<double>(candidates.size() * candidates.size());
 }
 
 double ChanceOfSameKey(const std::vector<KeyChances>& chances, const std::vector<int>& candidates) {
@@ -77,7 +86,7 @@ CopyingChance ChanceOfCopying(const ExamPaper& exam, const PinnedParts& pinned, 
   }
   for (std::size_t place = 0; place < chance.places; ++place) {
     const std::vector<int>& candidates = units.Candidates(place);
-    chance.sameQuestion += 1.0 / static_cast<double>(candidates.size() * chance.places);
+    chance.sameQuestion += ChanceOfSameQuestion(candidates) / static_cast<double>(chance.places);
     if (chance.keyed > 0)
       chance.sameKey += ChanceOfSameKey(keys, candidates) / static_cast<double>(chance.keyed);
   }

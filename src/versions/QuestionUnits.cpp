@@ -103,8 +103,28 @@ void QuestionUnits::ListCandidates() {
       for (const int question : questions) candidates_[static_cast<std::size_t>(question) - 1] = questions;
     }
   }
+  SampleStretches();
   for (std::size_t place = 0; place < candidates_.size(); ++place) {
     if (candidates_[place].empty()) candidates_[place].push_back(static_cast<int>(place) + 1);
+  }
+}
+
+/// Where units of different lengths change places, the chances are counted rather than worked out.
+void QuestionUnits::SampleStretches() {
+  if (stretches_.empty()) return;
+  constexpr int kSamples = 200;
+  std::vector<std::size_t> places;
+  for (const auto& stretch : stretches_) {
+    for (const std::size_t unit : stretch) {
+      for (int offset = 0; offset < units_[unit].length; ++offset)
+        places.push_back(static_cast<std::size_t>(units_[unit].first + offset) - 1);
+    }
+  }
+  for (const std::size_t place : places) candidates_[place].clear();
+  SeededRandom random(0);
+  for (int i = 0; i < kSamples; ++i) {
+    const std::vector<int> order = RandomOrder(random);
+    for (const std::size_t place : places) candidates_[place].push_back(order[place]);
   }
 }
 

@@ -22,7 +22,7 @@ class QuestionUnits {
   /// A random order: the number in the source by place from 0 on.
   std::vector<int> RandomOrder(SeededRandom& random) const;
 
-  /// The questions that can come to a place (from 0 on), itself included.
+  /// The questions that can come to a place (from 0 on), itself included; each as often as it is likely.
   const std::vector<int>& Candidates(std::size_t place) const { return candidates_[place]; }
 
  private:
@@ -37,6 +37,7 @@ class QuestionUnits {
   void FindExchanges();
   void FindStretches();
   void ListCandidates();
+  void SampleStretches();
 
   int count_;
   std::vector<Unit> units_;                          ///< in the order of the source, without those that stay

@@ -45,7 +45,7 @@ int PinTextNumber(PinReason reason) {
 
 std::u16string Percent(double share) {
   constexpr double kPercent = 100;
-  return FormatInteger(std::lround(share * kPercent));
+  return FormatInteger(std::lround(share * kPercent)) + u" %";
 }
 
 std::u16string ShareOf(std::size_t part, std::size_t whole) {

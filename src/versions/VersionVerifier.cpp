@@ -82,10 +82,19 @@ class Verification {
   bool ReadPlan() {
     const auto bytes = ReadWholeFile(folder_ / kPlanFile, kLargestTable);
     verified_.record = bytes ? ports_.form.Read(*bytes) : std::nullopt;
-    if (verified_.record && !ProblemWithNames(verified_.record->request.names, services_.strings).empty())
-      verified_.record.reset();
+    if (verified_.record && !IsUsable(*verified_.record)) verified_.record.reset();
     if (!verified_.record) Tell(text_id::kPlanUnreadable, {PathToText(folder_ / kPlanFile)});
     return verified_.record.has_value();
+  }
+
+  /// A plan that this program has made: its names are possible, and its codes follow from the rest.
+  bool IsUsable(const PlanRecord& record) const {
+    for (std::size_t i = 0; i < record.codes.size(); ++i) {
+      const std::u16string& name = record.plan.versions[i].name;
+      if (record.codes[i] != CodeOfVersion(ports_.digest, record.sourceDigest, record.request, name))
+        return false;
+    }
+    return ProblemWithNames(record.request.names, services_.strings).empty();
   }
 
   /// That each file is there, and has its bytes.

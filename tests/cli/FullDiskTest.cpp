@@ -50,6 +50,9 @@ class FullDiskCommands : public CommandLineTest {
   const std::vector<Trial> kTrials{
       {Small::Target, {"edit"}, "open OUT/exam.exm\ntitle changed\nsave\n"},
       {Small::Target, {"unpack", "IN/exam.exm", "OUT/"}, ""},
+      {Small::Target,
+       {"versions", "make", "OUT/exam.exm", "--count", "1", "--seed", "1", "--no-pdf", "--out", "OUT/new"},
+       ""},
       {Small::Application, {"print", "IN/exam.exm", "APP", "--after-preview"}, ""},
       {Small::Temporary,
        {"import", "IN/paper.txt", "OUT/old.exm", "--rules", kRules, "--repository", "#1", "--into",

@@ -119,7 +119,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
                  return RenewFor(std::move(choose));
                },
                [this](const std::filesystem::path& page) { PrintPage(page); }}),
-      versions_(editor_, *this, languageId),
+      versions_(editor_, *this, library == nullptr ? 0 : languageId),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
       scroll_(*client_),

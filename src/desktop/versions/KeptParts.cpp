@@ -13,6 +13,8 @@
 #include <QHeaderView>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace quorvantis {
 namespace {
 
@@ -123,7 +125,9 @@ void KeptParts::ShowReasons(const std::vector<PinnedPart>& pinned) {
     const QString why = ToQString(PinText(part, strings_));
     item->setText(kWhy, item->text(kWhy).isEmpty() ? why : item->text(kWhy) + u' ' + why);
     item->setToolTip(kWhy, PlainTip(item->text(kWhy)));
+    if (!saysWhy_ && item->parent() != nullptr) item->parent()->setExpanded(true);
   }
+  saysWhy_ = true;
   viewport()->update();
 }
 

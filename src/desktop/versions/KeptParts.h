@@ -25,7 +25,7 @@ class KeptParts : public QTreeWidget {
   TeacherPins Pins() const;
   void ShowPins(const TeacherPins& pins);
 
-  /// Says why parts keep their places, as a plan tells.
+  /// Says why parts keep their places, as a plan tells. The first time, options with a reason are unfolded.
   void ShowReasons(const std::vector<PinnedPart>& pinned);
 
  signals:
@@ -36,6 +36,7 @@ class KeptParts : public QTreeWidget {
   QTreeWidgetItem* ItemOf(const PinnedPart& part) const;
 
   const StringTable& strings_;
+  bool saysWhy_ = false;  ///< has shown reasons
 };
 
 }  // namespace quorvantis

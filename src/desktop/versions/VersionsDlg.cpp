@@ -19,6 +19,7 @@
 #include <QHeaderView>
 #include <QScreen>
 #include <QSplitter>
+#include <QTextOption>
 #include <QUrl>
 
 #include <chrono>
@@ -128,6 +129,10 @@ QWidget* VersionsDlg::PlaceRight() {
   NameControl(report_, "versionReport", Text(text_id::kVersionsReport));
   report_->setReadOnly(true);
   report_->setTabChangesFocus(true);
+  // Lines that begin with the name of a version run as the language does.
+  QTextOption option = report_->document()->defaultTextOption();
+  option.setTextDirection(layoutDirection());
+  report_->document()->setDefaultTextOption(option);
   side->addWidget(plan_);
   side->addWidget(report_);
   side->setStretchFactor(0, 2);
