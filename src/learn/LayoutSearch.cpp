@@ -62,14 +62,14 @@ bool AreNumbersOfQuestions(const NumberFamily& family) {
 
 /// Lines that a number out of order begins, among others that are in order: "28. June 1919".
 std::set<std::u16string> LinesOutOfOrder(std::u16string_view text, const NumberFamily& family) {
-  constexpr std::size_t kMostLines = 4;
+  constexpr std::size_t kMostOfThem = 4;
   std::set<std::u16string> lines;
   for (std::size_t i = 1; i + 1 < family.labels.size(); ++i) {
     const int expected = family.labels[i - 1].value + 1;
     if (family.labels[i].value <= expected || family.labels[i + 1].value != expected) continue;
     lines.insert(LineBeginPattern(text, {family.labels[i].place, PaperRole::Question}));
   }
-  const bool areFew = lines.size() <= kMostLines && lines.size() * 4 <= family.labels.size();
+  const bool areFew = lines.size() <= kMostOfThem && lines.size() * 4 <= family.labels.size();
   return areFew ? lines : std::set<std::u16string>();
 }
 
