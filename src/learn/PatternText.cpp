@@ -11,15 +11,18 @@ namespace quorvantis {
 std::u16string LiteralPattern(std::u16string_view text) {
   constexpr std::u16string_view kSpecial = u"\\^$.|?*+()[]{}#";
   std::u16string pattern;
-  bool isAfterBlank = false;
-  for (const char16_t unit : text) {
-    if (IsBlank(unit)) {
-      if (!isAfterBlank) pattern += u"[ \\t\u00A0\u3000]*";
-    } else {
-      if (kSpecial.find(unit) != kSpecial.npos) pattern += u'\\';
-      pattern += unit;
-    }
-    isAfterBlank = IsBlank(unit);
+  for (std::size_t at = 0; at < text.size();) {
+    std::size_t end = at;
+    bool hasLineEnd = false;
+    for (; end < text.size() && (IsBlank(text[end]) || IsLineEnd(text[end])); ++end)
+      hasLineEnd = hasLineEnd || IsLineEnd(text[end]);
+    // Rules stand in one line.
+    if (end > at) pattern += hasLineEnd ? u"\\s*" : u"[ \\t\u00A0\u3000]*";
+    at = end;
+    if (at == text.size()) break;
+    const char16_t unit = text[at++];
+    if (kSpecial.find(unit) != kSpecial.npos) pattern += u'\\';
+    pattern += unit < u' ' ? u'.' : unit;
   }
   return pattern;
 }
