@@ -19,7 +19,7 @@ constexpr const char* kPaper =
     "Geography\n1. Where is Rome?\nA. Italy\nB. Spain\nAnswer: A\n2. Where is Oslo?\nA. Peru\nB. Norway\n"
     "Answer: B\n";
 
-constexpr int kPatience = 30'000;  // milliseconds, for a busy machine
+constexpr int kStudioPatience = 30'000;  // milliseconds, for a busy machine
 
 class StudioWindowTest : public WindowTest {
  protected:
@@ -54,7 +54,7 @@ class StudioWindowTest : public WindowTest {
       answer(box);
     });
   }
-  bool Settles(const std::function<bool()>& isSo) { return QTest::qWaitFor(isSo, kPatience); }
+  bool Settles(const std::function<bool()>& isSo) { return QTest::qWaitFor(isSo, kStudioPatience); }
   void SelectText(const QString& text) {
     QTextCursor cursor(View().document());
     cursor.setPosition(static_cast<int>(View().toPlainText().indexOf(text)));
