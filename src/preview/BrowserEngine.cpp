@@ -17,6 +17,9 @@ constexpr char kNoNetwork[] =
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-blink-features=WebTransport"
     " \"--host-resolver-rules=MAP * ~NOTFOUND\"";
 
+/// Pages are printed out of sight, where they would get a low priority: on a busy machine that takes minutes.
+constexpr char kNoWaiting[] = " --disable-renderer-backgrounding";
+
 }  // namespace
 
 void PrepareBrowserEngine() {
@@ -26,7 +29,7 @@ void PrepareBrowserEngine() {
   scheme.setFlags(QWebEngineUrlScheme::SecureScheme);
   QWebEngineUrlScheme::registerScheme(scheme);
 
-  qputenv(kFlagsVariable, qgetenv(kFlagsVariable) + kNoNetwork);
+  qputenv(kFlagsVariable, qgetenv(kFlagsVariable) + kNoNetwork + kNoWaiting);
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");  // the sandbox refuses to run as root
 }
 
