@@ -50,6 +50,10 @@ class PrintedText {
     std::size_t furthest = at_;
     while (!wanted.empty()) {
       const std::u16string word = ComparableText(TakeWord(wanted));
+      if (std::ranges::any_of(word, IsPointing)) {
+        if (!HasLettersOf(word, near)) return false;
+        continue;
+      }
       const std::size_t found = near.find(word);
       if (found == near.npos) return false;
       furthest = std::max(furthest, begin + found);
@@ -57,6 +61,32 @@ class PrintedText {
     at_ = furthest;
     isMarked_ = false;
     return true;
+  }
+
+  /// Vowels and other marks of Hebrew and Arabic letters.
+  static bool IsPointing(char16_t unit) {
+    return (unit >= 0x0591 && unit <= 0x05C7 && unit != 0x05BE && unit != 0x05C0 && unit != 0x05C3) ||
+           (unit >= 0x0610 && unit <= 0x061A) || (unit >= 0x064B && unit <= 0x065F) || unit == 0x0670 ||
+           (unit >= 0x06D6 && unit <= 0x06ED);
+  }
+
+  /// Marks are printed by themselves and cut a word into pieces, which change places when it is read: then
+  /// the same letters must stand together.
+  static bool HasLettersOf(std::u16string_view word, std::u16string_view text) {
+    const auto lettersOf = [](std::u16string_view pointed) {
+      std::u16string letters(pointed);
+      std::erase_if(letters, IsPointing);
+      return letters;
+    };
+    std::u16string letters = lettersOf(word);
+    const std::u16string near = lettersOf(text);
+    std::ranges::sort(letters);
+    for (std::size_t at = 0; at + letters.size() <= near.size(); ++at) {
+      std::u16string there = near.substr(at, letters.size());
+      std::ranges::sort(there);
+      if (there == letters) return true;
+    }
+    return false;
   }
 
   static bool IsRightToLeft(char16_t unit) { return unit >= 0x590 && unit <= 0x8FF; }
