@@ -63,8 +63,9 @@ std::u16string Patterns(std::u16string_view text) {
 
 /// "%1" or "%s"; a sign of percent stands alone.
 bool HasPlaceholder(std::u16string_view text) {
-  for (std::size_t at = text.find(u'%'); at + 1 < text.size(); at = text.find(u'%', at + 1)) {
-    const char16_t next = text[at + 1];
+  for (std::size_t i = 1; i < text.size(); ++i) {
+    if (text[i - 1] != u'%') continue;
+    const char16_t next = text[i];
     if ((next >= u'0' && next <= u'9') || (next >= u'a' && next <= u'z')) return true;
   }
   return false;

@@ -38,9 +38,10 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kBetweenLooks = 1000;  // milliseconds; a change reaches the disk within two seconds
-constexpr int kOffScreen = 2000;     // pixels
-constexpr int kHighestLine = 18;     // line height of a font: one-line fields are 20 pixels high
+constexpr int kBetweenLooks = 1000;      // milliseconds; a change reaches the disk within two seconds
+constexpr std::size_t kScoreButton = 5;  // among the large ones
+constexpr int kOffScreen = 2000;         // pixels
+constexpr int kHighestLine = 18;         // line height of a font: one-line fields are 20 pixels high
 
 QuestionArea* MakeQuestionArea(const StringTable& strings, QWidget* parent) {
   auto* area = new QuestionArea(ToQString(strings.Text(text_id::kEditArea)), parent);
@@ -121,7 +122,10 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
                [this](const std::filesystem::path& page) { PrintPage(page); }}),
       versions_(editor_, *this, library == nullptr ? 0 : languageId),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
+      somethingIsWrong_(new WindowNotice("somethingIsWrong", QStyle::SP_MessageBoxWarning, client_)),
       printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
+      check_(editor_, {examControls_, question_, answers_}, *toolbar_.InOrder()[kScoreButton], shownQuestion_,
+             *somethingIsWrong_, *this),
       scroll_(*client_),
       cancel_(MakeHiddenButton("cancel", client_)),
       ok_(MakeHiddenButton("ok", client_)),
@@ -193,6 +197,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.history = &history_;
   commands.search = &search_;
   commands.sheets = &sheets_;
+  commands.check = &check_;
   commands.canUndoImport = [this] { return import_.CanUndo(); };
   commands.undoImport = [this] { importWindows_.Undo(import_); };
   commands.versions = [this] { versions_.MakeVersions(); };
@@ -203,7 +208,8 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
 }
 
 WindowControls CQuorvantisDlg::Controls() {
-  return {toolbar_, examControls_, questionArea_, question_, answers_, recoveryFails_, printComes_};
+  return {toolbar_, examControls_,  questionArea_,     question_,
+          answers_, recoveryFails_, somethingIsWrong_, printComes_};
 }
 
 void CQuorvantisDlg::PlaceParts() {
@@ -242,6 +248,7 @@ void CQuorvantisDlg::FormLoaded() {
   shownQuestion_.ExamChanged();
   history_.Note();
   search_.ExamChanged();
+  check_.ExamChanged();
   studio_.ExamChanged();
 }
 
@@ -254,6 +261,7 @@ void CQuorvantisDlg::FormChanged() {
   Layout();
   history_.Note();
   search_.ExamChanged();
+  check_.ExamChanged();
   studio_.ExamChanged();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
@@ -295,6 +303,7 @@ void CQuorvantisDlg::Preview() {
 }
 
 void CQuorvantisDlg::Print() {
+  check_.PrintBegins();
   PrintCommand(editor_, [this](const std::filesystem::path& page) {
     RenewPreviewWindow();
     PrintPage(page);
@@ -359,6 +368,7 @@ void CQuorvantisDlg::PostContentChanged() {
   emit ContentChangePosted();
   history_.Note();
   search_.ExamChanged();
+  check_.ExamChanged();
   studio_.ExamChanged();
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/controls/Pictures.h"
 #include "desktop/import/ImportWindows.h"
 #include "desktop/main/AnswerControls.h"
+#include "desktop/main/CheckCommands.h"
 #include "desktop/main/ExamControls.h"
 #include "desktop/main/FocusedField.h"
 #include "desktop/main/HistoryCommands.h"
@@ -165,7 +166,9 @@ class CQuorvantisDlg final : public FittedWindow,
   SheetCommands sheets_;
   VersionCommands versions_;
   WindowNotice* recoveryFails_;
+  WindowNotice* somethingIsWrong_;
   WindowNotice* printComes_;
+  CheckCommands check_;
   WindowScroll scroll_;
   QPushButton* cancel_;  ///< hidden, like the two below
   QPushButton* ok_;

@@ -134,6 +134,7 @@ void PlaceControls(WindowScroll& scroll, const WindowControls& controls, const E
   PlaceQuestion(placer, controls.question, places);
   PlaceAnswers(placer, controls.answers, places);
   placer.Place(controls.notice, NoticePlace(places));
+  placer.Place(controls.checkNotice, NoticePlace(places));
   placer.Place(controls.printNotice, NoticePlace(places));
   TellDisabled(input, debug);
 }

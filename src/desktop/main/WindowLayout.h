@@ -21,7 +21,8 @@ struct WindowControls {
   QuestionControls& question;
   AnswerControls& answers;
   WindowNotice* notice;
-  WindowNotice* printNotice;  ///< in front of it, for a moment
+  WindowNotice* checkNotice;
+  WindowNotice* printNotice;  ///< in front of both, for a moment
 };
 
 /// Places every control of the client area that `scroll` scrolls, for the current state of `editor`; mirrored

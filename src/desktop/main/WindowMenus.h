@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/main/CheckCommands.h"
 #include "desktop/main/FocusedField.h"
 #include "desktop/main/HistoryCommands.h"
 #include "desktop/main/MenuBar.h"
@@ -30,6 +31,7 @@ class WindowMenus {
     HistoryCommands* history;
     SearchCommands* search;
     SheetCommands* sheets;
+    CheckCommands* check;
     std::function<bool()> canUndoImport;
     std::function<void()> undoImport;
     std::function<void()> versions;

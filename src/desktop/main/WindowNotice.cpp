@@ -7,6 +7,8 @@
 #include <QAccessible>
 #include <QPainter>
 
+#include <utility>
+
 namespace quorvantis {
 namespace {
 
@@ -33,6 +35,25 @@ void WindowNotice::Tell(const QString& text, const QString& details) {
   QAccessible::updateAccessibility(&alert);
 }
 
+void WindowNotice::Offer(const QString& caption, std::function<void()> command) {
+  offer_ = new QPushButton(caption, this);
+  NameControl(offer_, "noticeOffer", caption);
+  connect(offer_, &QPushButton::clicked, this, [command = std::move(command)] { command(); });
+}
+
+QRect WindowNotice::TextPlaceInside() const {
+  const int offer = offer_ == nullptr ? 0 : offer_->sizeHint().width() + kIconGap;
+  return rect().adjusted(kIcon + kIconGap, 0, -offer, 0);
+}
+
+void WindowNotice::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (offer_ == nullptr) return;
+  const QSize size = offer_->sizeHint().boundedTo(rect().size());
+  const QRect place(width() - size.width(), (height() - size.height()) / 2, size.width(), size.height());
+  offer_->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+}
+
 void WindowNotice::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const auto mirrored = [this](const QRect& place) {
@@ -40,7 +61,7 @@ void WindowNotice::paintEvent(QPaintEvent*) {
   };
   const QRect icon = mirrored(QRect(0, (height() - kIcon) / 2, kIcon, kIcon));
   style()->standardIcon(icon_, nullptr, this).paint(&painter, icon);
-  const QRect place = mirrored(rect().adjusted(kIcon + kIconGap, 0, 0, 0));
+  const QRect place = mirrored(TextPlaceInside());
   const FittedCaption caption = FitCaption(accessibleName(), font(), place.size());
   painter.setFont(caption.font);
   painter.setPen(palette().color(QPalette::WindowText));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/overview/OverviewModel.h"
 
+#include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "desktop/overview/KindCaption.h"
 #include "platform/TextNumbers.h"
@@ -62,6 +63,20 @@ void OverviewModel::Update(std::vector<OverviewRow> rows) {
   }
 }
 
+void OverviewModel::ShowMarks(std::map<int, OverviewMark> marks) {
+  marks_ = std::move(marks);
+  if (rows_.empty()) return;
+  emit dataChanged(index(0, Missing), index(rowCount() - 1, Missing),
+                   {Qt::DecorationRole, Qt::ToolTipRole, Qt::AccessibleTextRole});
+}
+
+/// Null for other columns than that of what is missing.
+const OverviewMark* OverviewModel::MarkOf(const QModelIndex& index) const {
+  if (index.column() != Missing) return nullptr;
+  const auto mark = marks_.find(QuestionAt(index.row()));
+  return mark == marks_.end() ? nullptr : &mark->second;
+}
+
 void OverviewModel::InsertRows(std::size_t at, std::vector<OverviewRow> rows) {
   beginInsertRows({}, static_cast<int>(at), static_cast<int>(at + rows.size()) - 1);
   rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(at), std::make_move_iterator(rows.begin()),
@@ -121,18 +136,28 @@ QString OverviewModel::CellText(const OverviewRow& row, int column) const {
   }
 }
 
+QString OverviewModel::SpokenText(const QModelIndex& index) const {
+  const OverviewRow& row = rows_[static_cast<std::size_t>(index.row())];
+  const QString heading = headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString();
+  const OverviewMark* mark = MarkOf(index);
+  const QString found = mark != nullptr ? "\n" + mark->tip : QString();
+  return ToQString(FillMessage(
+      strings_.Text(text_id::kCellOfQuestion),
+      {FormatInteger(row.number), FromQString(heading), FromQString(CellText(row, index.column()) + found)}));
+}
+
 QVariant OverviewModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= rowCount()) return {};
   const OverviewRow& row = rows_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case Qt::DisplayRole:
       return CellText(row, index.column());
-    case Qt::AccessibleTextRole: {
-      const QString heading = headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString();
-      return ToQString(FillMessage(
-          strings_.Text(text_id::kCellOfQuestion),
-          {FormatInteger(row.number), FromQString(heading), FromQString(CellText(row, index.column()))}));
-    }
+    case Qt::DecorationRole:
+      return MarkOf(index) != nullptr ? QVariant(MarkOf(index)->sign) : QVariant();
+    case Qt::ToolTipRole:
+      return MarkOf(index) != nullptr ? QVariant(PlainTip(MarkOf(index)->tip)) : QVariant();
+    case Qt::AccessibleTextRole:
+      return SpokenText(index);
     case Qt::TextAlignmentRole:
       return AlignmentOf(index.column());
     default:

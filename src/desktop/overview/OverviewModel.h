@@ -5,11 +5,19 @@
 #include "platform/StringTable.h"
 
 #include <QAbstractTableModel>
+#include <QIcon>
 
+#include <map>
 #include <optional>
 #include <vector>
 
 namespace quorvantis {
+
+/// A sign in a row for what was found about its question.
+struct OverviewMark {
+  QIcon sign;
+  QString tip;  ///< plain text, a line for each finding
+};
 
 /// The rows of an overview for a table. It holds no data of the exam but what the rows show.
 class OverviewModel : public QAbstractTableModel {
@@ -24,6 +32,9 @@ class OverviewModel : public QAbstractTableModel {
   /// Shows `rows`, ascending by number. Rows that stay the same are not touched, so that selection and scroll
   /// position stay.
   void Update(std::vector<OverviewRow> rows);
+
+  /// Shows the marks of questions, by their numbers, in the column of what is missing.
+  void ShowMarks(std::map<int, OverviewMark> marks);
 
   /// The number of the question in `row`, which must exist.
   int QuestionAt(int row) const { return rows_[static_cast<std::size_t>(row)].number; }
@@ -43,12 +54,15 @@ class OverviewModel : public QAbstractTableModel {
  private:
   void InsertRows(std::size_t at, std::vector<OverviewRow> rows);
   void RemoveRows(std::size_t begin, std::size_t end);
+  const OverviewMark* MarkOf(const QModelIndex& index) const;
+  QString SpokenText(const QModelIndex& index) const;
   QString CellText(const OverviewRow& row, int column) const;
   QString KindText(QuestionKind kind) const;
   QString MissingText(const MissingParts& missing) const;
 
   const StringTable& strings_;
   std::vector<OverviewRow> rows_;
+  std::map<int, OverviewMark> marks_;
 };
 
 }  // namespace quorvantis

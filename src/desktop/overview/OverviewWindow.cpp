@@ -62,7 +62,10 @@ OverviewWindow::OverviewWindow(ExamEditor& editor, WholeQuestionCommands& comman
   RestorePlace();
   connect(filter_, &OverviewFilterLine::Changed, this, &OverviewWindow::Refresh);
   // What was told last is out of date then.
-  connect(model_, &QAbstractItemModel::dataChanged, status_, &QLabel::clear);
+  connect(model_, &QAbstractItemModel::dataChanged, status_,
+          [this](const QModelIndex&, const QModelIndex&, const QList<int>& roles) {
+            if (roles.isEmpty()) status_->clear();  // else only marks have changed
+          });
   connect(model_, &QAbstractItemModel::rowsInserted, status_, &QLabel::clear);
   connect(model_, &QAbstractItemModel::rowsRemoved, status_, &QLabel::clear);
   connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,

@@ -13,6 +13,8 @@
 #include <QWidget>
 
 #include <functional>
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace quorvantis {
@@ -29,6 +31,9 @@ class OverviewWindow : public QWidget {
 
   /// Shows the window, or brings it to the front.
   void Open();
+
+  /// Marks questions for which something was found, by their numbers.
+  void ShowMarks(std::map<int, OverviewMark> marks) { model_->ShowMarks(std::move(marks)); }
 
   /// Something in the editor may have changed. Looked at once the current event has been handled.
   void ExamChanged();

@@ -5,7 +5,14 @@ namespace quorvantis {
 
 void ShownQuestionCommands::ShowOverview() {
   if (!overview_) overview_ = new OverviewWindow(editor_, commands_, &window_);
+  overview_->ShowMarks(marks_);
   overview_->Open();
+  opened_();
+}
+
+void ShownQuestionCommands::ShowMarks(std::map<int, OverviewMark> marks) {
+  marks_ = std::move(marks);
+  if (overview_) overview_->ShowMarks(marks_);
 }
 
 void ShownQuestionCommands::ExamChanged() {

@@ -6,6 +6,10 @@
 
 #include <QPointer>
 
+#include <functional>
+#include <map>
+#include <utility>
+
 namespace quorvantis {
 
 /// What the main window offers for whole questions: the overview, and commands for the question that is
@@ -19,6 +23,12 @@ class ShownQuestionCommands {
   void ShowOverview();
   /// Something in the editor may have changed.
   void ExamChanged();
+
+  bool IsOverviewShown() const { return overview_ && overview_->isVisible(); }
+  /// Called each time the overview is opened.
+  void SetOverviewOpened(std::function<void()> opened) { opened_ = std::move(opened); }
+  /// What the overview marks, also when it is opened later.
+  void ShowMarks(std::map<int, OverviewMark> marks);
 
   void MoveUp() { commands_.MoveTo(Shown(), editor_.state.CurrentQuestion() - 1); }
   void MoveDown() { commands_.MoveTo(Shown(), editor_.state.CurrentQuestion() + 1); }
@@ -40,6 +50,8 @@ class ShownQuestionCommands {
   ExamEditor& editor_;
   QWidget& window_;
   WholeQuestionCommands commands_;
+  std::function<void()> opened_ = [] {};
+  std::map<int, OverviewMark> marks_;
   QPointer<OverviewWindow> overview_;  ///< null until it is first shown
 };
 
