@@ -25,9 +25,10 @@ constexpr QSize kFirstCheckSize(560, 460);  // pixels
 QPoint PlaceBesideMain(const QWidget& window, QSize size) {
   const QRect screen = window.screen()->availableGeometry();
   const QRect main = window.frameGeometry();
+  const int titleBar = main.height() - window.height();
   if (screen.right() - main.right() >= size.width()) return {main.right() + 1, main.top()};
   if (main.left() - screen.left() >= size.width()) return {main.left() - size.width(), main.top()};
-  return {screen.right() - size.width(), std::max(screen.top(), screen.bottom() - size.height())};
+  return {screen.right() - size.width(), std::max(screen.top(), screen.bottom() - size.height() - titleBar)};
 }
 
 }  // namespace

@@ -47,7 +47,8 @@ QStandardItem* FindingsModel::AddBranch(const ExamChecker& checker, int question
   if (question != 0) {
     caption = ToQString(FillMessage(strings_.Text(text_id::kCheckQuestion), {FormatInteger(question)}));
     const QString beginning = BeginningOf(checker.Checked()->Question(question).text);
-    if (!beginning.isEmpty()) caption += QString(": ") + beginning;
+    // In its own direction: it may be in another language than the window.
+    if (!beginning.isEmpty()) caption += ": " + QString(QChar(0x2068)) + beginning + QChar(0x2069);
   }
   auto* branch = new QStandardItem(caption);
   branch->setData(question, kQuestionRole);
