@@ -76,14 +76,11 @@ std::size_t CountBlanks(std::u16string_view text) {
   const std::u16string_view view = plain;
   std::size_t blanks = 0;
   for (std::size_t at = 0; at < view.size();) {
-    std::size_t end = at;
-    if (IsUnderscore(view[at])) {
-      end = EndOfUnderscores(view, at);
-      if (end - at > 1) ++blanks;
-    } else if ((end = EndOfFrame(view, at)) > 0) {
-      ++blanks;
-    }
-    at = end > at ? end : at + 1;
+    const bool isRun = IsUnderscore(view[at]);
+    const std::size_t end = isRun ? EndOfUnderscores(view, at) : EndOfFrame(view, at);
+    const bool isBlank = isRun ? end > at + 1 : end > 0;
+    if (isBlank) ++blanks;
+    at = std::max(end, at + 1);
   }
   return blanks;
 }
