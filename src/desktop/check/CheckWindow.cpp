@@ -89,7 +89,7 @@ QString CheckWindow::Text(int number) const {
   return ToQString(strings_.Text(number));
 }
 
-void CheckWindow::Open() {
+void CheckWindow::Appear() {
   show();
   raise();
   activateWindow();

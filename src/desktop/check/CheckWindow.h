@@ -29,7 +29,7 @@ class CheckWindow : public QDialog {
   ~CheckWindow() override;
 
   /// Shows the window, or brings it to the front.
-  void Open();
+  void Appear();
 
  protected:
   bool event(QEvent* event) override;

@@ -2,6 +2,7 @@
 #include "desktop/main/CheckCommands.h"
 
 #include "desktop/check/SeverityLook.h"
+#include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"
 #include "platform/TextNumbers.h"
 
@@ -46,7 +47,7 @@ void CheckCommands::Open() {
         checker_, editor_.state.document.Services(), [this](const TextPlace& place) { Show(place); },
         &window_);
   }
-  shown_->Open();
+  shown_->Appear();
   checker_.CheckNow();
 }
 
