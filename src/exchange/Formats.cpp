@@ -8,6 +8,7 @@
 #include "exchange/MoodleXml.h"
 #include "exchange/QtiFormat.h"
 #include "exchange/TableFormat.h"
+#include "text/AsciiCase.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 
@@ -58,6 +59,7 @@ constexpr HeldParts kAllParts{.severalRight = true,
 
 const FormatRow kFormats[] = {
     {.name = "qti",
+     .otherNames = "qti2 qti21 qti2.1 imsqti",
      .title = "QTI 2.1",
      .extension = "zip",
      .held = kAllParts,
@@ -65,6 +67,7 @@ const FormatRow kFormats[] = {
      .reader = NewReader<QtiReader>,
      .writer = NewWriter<QtiWriter>},
     {.name = "canvas",
+     .otherNames = "qti1 qti12 qti1.2 imscc",
      .title = "QTI 1.2 for Canvas",
      .extension = "zip",
      .held = kAllParts,
@@ -72,6 +75,7 @@ const FormatRow kFormats[] = {
      .reader = NewReader<CanvasReader>,
      .writer = NewWriter<CanvasWriter>},
     {.name = "moodle",
+     .otherNames = "moodlexml moodle-xml moodle_xml xml",
      .title = "Moodle XML",
      .extension = "xml",
      .extensionIsItsOwn = true,
@@ -88,6 +92,7 @@ const FormatRow kFormats[] = {
      .reader = NewReader<AikenReader>,
      .writer = NewWriter<AikenWriter>},
     {.name = "csv",
+     .otherNames = "table",
      .title = "CSV table",
      .extension = "csv",
      .extensionIsItsOwn = true,
@@ -96,6 +101,7 @@ const FormatRow kFormats[] = {
      .reader = NewReader<TableReader>,
      .writer = NewCommaWriter},
     {.name = "tsv",
+     .otherNames = "tab tabs",
      .title = "Table with tabs",
      .extension = "tsv",
      .extensionIsItsOwn = true,
@@ -118,6 +124,7 @@ const FormatRow kFormats[] = {
      .reader = NewReader<GiftReader>,
      .writer = NewWriter<GiftWriter>},
     {.name = "markdown",
+     .otherNames = "md",
      .title = "Markdown",
      .extension = "md",
      .extensionIsItsOwn = true,
@@ -142,8 +149,12 @@ std::span<const FormatRow> Formats() {
 }
 
 const FormatRow* FormatNamed(std::string_view name) {
-  const auto* const row = std::ranges::find(kFormats, name, &FormatRow::name);
-  return row != std::end(kFormats) ? row : nullptr;
+  const std::string wanted = Utf16ToUtf8(AsciiLower(Utf8ToUtf16(name)));
+  const auto* const row = std::ranges::find_if(kFormats, [&wanted](const FormatRow& format) {
+    const std::string names = " " + std::string(format.name) + " " + std::string(format.otherNames) + " ";
+    return wanted.find(' ') == wanted.npos && names.find(" " + wanted + " ") != names.npos;
+  });
+  return row != std::end(kFormats) && !wanted.empty() ? row : nullptr;
 }
 
 const FormatRow* RecogniseFormat(const ExchangeSource& source) {

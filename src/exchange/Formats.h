@@ -13,6 +13,7 @@ namespace quorvantis {
 
 struct FormatRow {
   std::string_view name;           ///< as users type it, and unique
+  std::string_view otherNames{};   ///< that users may type, with blanks between them
   std::string_view title;          ///< as they read it
   std::string_view extension;      ///< of new files, in lower case, without the dot
   bool extensionIsItsOwn = false;  ///< no other row has it, so it says what to write
@@ -26,7 +27,7 @@ struct FormatRow {
 /// In the order in which a file is compared with them.
 std::span<const FormatRow> Formats();
 
-/// The format of that name; null if there is none.
+/// The format of that name, in either case; null if there is none.
 const FormatRow* FormatNamed(std::string_view name);
 
 /// The format that a file has, by its content; null if it is none of them.

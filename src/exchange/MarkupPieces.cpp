@@ -96,13 +96,14 @@ void MarkupPieces::PopOrClose(const MarkupTag& tag) {
 }
 
 void MarkupPieces::Close(const MarkupTag& tag) {
-  const auto opened = std::find(open_.rbegin(), open_.rend(), &tag);
-  if (opened == open_.rend()) return;
+  std::size_t depth = open_.size();
+  while (depth > 0 && open_[depth - 1] != &tag) --depth;
+  if (depth == 0) return;
   // Elements that begin inside and end outside are cut in two.
-  const std::vector<const MarkupTag*> inside(opened.base(), open_.end());
-  for (auto inner = inside.rbegin(); inner != inside.rend(); ++inner) PopOrClose(**inner);
+  const std::vector<const MarkupTag*> inside(open_.begin() + static_cast<std::ptrdiff_t>(depth), open_.end());
+  for (std::size_t i = inside.size(); i > 0; --i) PopOrClose(*inside[i - 1]);
   PopOrClose(tag);
-  open_.erase(std::prev(opened.base()), open_.end());
+  open_.resize(depth - 1);
   for (const MarkupTag* inner : inside) {
     open_.push_back(inner);
     pieces_.push_back({MarkupPieceKind::Open, {}, inner});

@@ -2,6 +2,7 @@
 #include "exchange/TableColumns.h"
 
 #include "exchange/TextSource.h"
+#include "model/ExamLimits.h"
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
 
@@ -66,6 +67,17 @@ std::optional<std::size_t> OptionOfName(std::u16string_view name) {
   return std::nullopt;
 }
 
+constexpr std::u16string_view kBetweenOptions = u" ,;/+&\n";
+
+/// Letters or numbers, with something between them or not.
+bool IsListOfOptions(std::u16string_view cell) {
+  return std::ranges::all_of(cell, [](char16_t unit) {
+    const char16_t upper = AsciiUpper(unit);
+    return (upper >= u'A' && upper <= u'Z') || IsDigit(unit) ||
+           kBetweenOptions.find(unit) != kBetweenOptions.npos;
+  });
+}
+
 }  // namespace
 
 TableColumns ColumnsOf(const TableRow& names) {
@@ -81,6 +93,21 @@ TableColumns ColumnsOf(const TableRow& names) {
     }
   }
   for (const auto& [option, column] : options) columns.options.push_back(column);
+  return columns;
+}
+
+TableColumns ColumnsByShape(const std::vector<TableRow>& rows) {
+  constexpr std::size_t kFewestColumns = 4;
+  TableColumns columns;
+  const std::size_t count = rows.empty() ? 0 : rows[0].size();
+  const auto isLike = [count](const TableRow& row) {
+    const std::u16string_view last = row.size() == count ? Trimmed(row.back()) : std::u16string_view();
+    return count == 2 ? !last.empty() : !last.empty() && last.size() <= kOptionCount && IsListOfOptions(last);
+  };
+  if ((count != 2 && count < kFewestColumns) || !std::ranges::all_of(rows, isLike)) return columns;
+  columns.text = 0;
+  (count == 2 ? columns.answers : columns.right) = count - 1;
+  for (std::size_t i = 1; i + 1 < count; ++i) columns.options.push_back(i);
   return columns;
 }
 
@@ -114,25 +141,25 @@ std::vector<std::u16string> AnswersInCell(std::u16string_view cell) {
       answers.back().push_back(cell[i]);
     }
   }
-  for (std::u16string& answer : answers) answer = Trimmed(answer);
+  for (std::u16string& answer : answers) answer = std::u16string(Trimmed(answer));
   std::erase(answers, std::u16string());
   return answers;
 }
 
-bool IsNamedRight(std::u16string_view cell, std::size_t index, std::u16string_view option) {
-  constexpr std::u16string_view kBetween = u" ,;/+&\n";
-  const bool isList = std::ranges::all_of(cell, [kBetween](char16_t unit) {
-    const char16_t upper = AsciiUpper(unit);
-    return (upper >= u'A' && upper <= u'Z') || IsDigit(unit) || kBetween.find(unit) != kBetween.npos;
-  });
-  if (!option.empty() && cell == option) return true;
-  if (!isList) return false;
-  const auto letter = static_cast<char16_t>(u'A' + index);
-  const auto digit = static_cast<char16_t>(u'1' + index);
-  // A word is no list of letters.
-  const bool isWord = cell.size() > 5 && cell.find_first_of(kBetween) == cell.npos;
-  return !isWord && std::ranges::any_of(
-                        cell, [=](char16_t unit) { return AsciiUpper(unit) == letter || unit == digit; });
+std::vector<bool> NamedRights(std::u16string_view cell, const std::vector<std::u16string>& options) {
+  std::vector<bool> rights(options.size());
+  const auto same = std::ranges::find(options, cell);
+  if (!cell.empty() && same != options.end()) {
+    rights[static_cast<std::size_t>(same - options.begin())] = true;
+    return rights;
+  }
+  for (const char16_t unit : cell) {
+    if (kBetweenOptions.find(unit) != kBetweenOptions.npos) continue;
+    const auto option = OptionOfName(AsciiLower(std::u16string_view(&unit, 1)));
+    if (!option || *option >= options.size()) return std::vector<bool>(options.size());
+    rights[*option] = true;
+  }
+  return rights;
 }
 
 }  // namespace quorvantis

@@ -27,14 +27,18 @@ struct TableColumns {
 
 TableColumns ColumnsOf(const TableRow& names);
 
+/// The columns of a table without names, such as cells pasted from a spreadsheet: a question and its answer,
+/// or a question, its options and which of them are right. Not usable if the cells do not look like that.
+TableColumns ColumnsByShape(const std::vector<TableRow>& rows);
+
 /// The kind that a cell names; nothing if it names none.
 std::optional<QuestionKind> KindInCell(std::u16string_view cell);
 
 std::u16string JoinAnswers(const std::vector<std::u16string>& answers);
 std::vector<std::u16string> AnswersInCell(std::u16string_view cell);
 
-/// Whether option `index` (0 for A) is right: a cell has letters ("AC", "a, c"), numbers ("1, 3") or the
-/// text of the option.
-bool IsNamedRight(std::u16string_view cell, std::size_t index, std::u16string_view option);
+/// Which options are right, given the texts of all: a cell has the text of one, or letters ("AC", "a, c") or
+/// numbers ("1, 3") that all name options.
+std::vector<bool> NamedRights(std::u16string_view cell, const std::vector<std::u16string>& options);
 
 }  // namespace quorvantis

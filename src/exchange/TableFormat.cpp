@@ -32,12 +32,7 @@ class TableRows {
     ExchangedQuestion question;
     question.number = number;
     question.text = Text(Cell(row, columns_.text));
-    const std::u16string right(Trimmed(Cell(row, columns_.right)));
-    for (std::size_t i = 0; i < columns_.options.size(); ++i) {
-      const std::u16string cell = Cell(row, columns_.options[i]);
-      if (!Trimmed(cell).empty())
-        question.options.push_back({Text(cell), IsNamedRight(right, i, Trimmed(cell))});
-    }
+    TakeOptions(row, question);
     BlankAnswers answers = AnswersInCell(Cell(row, columns_.answers));
     for (std::u16string& answer : answers) answer = Text(answer);
     question.blanks = ByBlank(question.text, answers);
@@ -50,6 +45,16 @@ class TableRows {
  private:
   static std::u16string Cell(const TableRow& row, std::optional<std::size_t> column) {
     return column && *column < row.size() ? WithoutGuard(row[*column]) : std::u16string();
+  }
+
+  void TakeOptions(const TableRow& row, ExchangedQuestion& question) {
+    std::vector<std::u16string> cells;
+    for (const std::size_t column : columns_.options) cells.emplace_back(Trimmed(Cell(row, column)));
+    while (!cells.empty() && cells.back().empty()) cells.pop_back();
+    const std::vector<bool> rights = NamedRights(Trimmed(Cell(row, columns_.right)), cells);
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      if (!cells[i].empty()) question.options.push_back({Text(cells[i]), rights[i]});
+    }
   }
 
   std::u16string Text(std::u16string_view cell) {
@@ -120,15 +125,17 @@ std::optional<ExchangedExam> TableReader::Read(const ExchangeSource& source, Rea
   const auto text = ReadSourceText(source, tools);
   if (!text) return std::nullopt;
   const std::vector<TableRow> rows = ReadTable(*text, SeparatorOf(*text), kMaxReadQuestions + 1);
-  const TableColumns columns = rows.empty() ? TableColumns{} : ColumnsOf(rows[0]);
+  TableColumns columns = rows.empty() ? TableColumns{} : ColumnsOf(rows[0]);
+  const std::size_t first = columns.IsUsable() ? 1 : 0;
+  if (first == 0) columns = ColumnsByShape(rows);
   if (!columns.IsUsable()) {
     tools.notes.Tell(text_id::kExchangeNoHeader);
     return std::nullopt;
   }
   ExchangedExam exam;
   TableRows reading(columns, tools);
-  for (std::size_t i = 1; i < rows.size(); ++i)
-    exam.questions.push_back(reading.Read(rows[i], static_cast<int>(i)));
+  for (std::size_t i = first; i < rows.size(); ++i)
+    exam.questions.push_back(reading.Read(rows[i], static_cast<int>(i + 1 - first)));
   tools.notes.Begin(0);
   return exam;
 }

@@ -66,7 +66,7 @@ const ForeignRow kAiken[] = {
 const ForeignRow kTables[] = {
     {"Question;Option 1;Option 2;Correct\n\"a;\"\"b\"\"\nc\";'=x;y;2\n", "choice a;\"b\"\\nc | -=x | +y\n"},
     {"text\tanswers\tpoints\nfill ___\ta | b\\|c\t1,5\n", "fill fill ___ | a, b|c\n"},
-    {"kind,question,A,B,right\nmcq,q,x,y,y\nodd,q,,,\n", "choice q | -x | +y\nessay q\n",
+    {"kind,question,A,B,right\nmcq,q,Bad,y,Bad\nodd,q,,,\n", "choice q | +Bad | -y\nessay q\n",
      "question 2: the kind \xE2\x80\x9Codd\xE2\x80\x9D is not known\n"},
 };
 
@@ -75,6 +75,16 @@ TEST(ForeignFiles, InText) {
   ExpectRead(reader, "gift", kGift);
   ExpectRead(reader, "aiken", kAiken);
   for (const ForeignRow& row : kTables) ExpectRead(reader, "csv", {&row, 1});
+}
+
+TEST(ForeignFiles, PastedTablesNeedNoNames) {
+  ForeignReader reader;
+  const auto read = [&](const char* bytes) {
+    return reader.ReadAs(*FormatNamed("TAB"), ExchangeSource(WriteBytes(reader.folder / "pasted", bytes)));
+  };
+  EXPECT_EQ(read("Q\tx\ty\tB\nR\tx\ty\t1, 2\n").questions, "choice Q | -x | +y\nchoice R | +x | +y\n");
+  EXPECT_EQ(read("Q\tx\n").questions, "fill Q | x\n");
+  EXPECT_FALSE(read("Q\tx\ty\tlast words\n").exam);
 }
 
 std::string Quiz(const std::string& questions) {
