@@ -2,12 +2,12 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show check build unpack preview print pdf key score export edit recover import rules versions languages match"
+  local commands="show check build unpack preview print pdf key score export convert edit recover import rules versions languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
       --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch | \
-        --rules | --repository | --marks | --ini | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses | \
+        --from | --to | --rules | --repository | --marks | --ini | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses | \
         --count | --seed | --out | --questions | --options | --names | --keep | --source | --ignore)
         ((++i)) ;;
       -*) ;;
@@ -28,6 +28,10 @@ _quorvantis_cli() {
     mapfile -t COMPREPLY < <(compgen -W "on off" -- "$word")
   elif [ "$previous" = --out ]; then
     mapfile -t COMPREPLY < <(compgen -d -- "$word")
+  elif [ "$previous" = --from ]; then
+    mapfile -t COMPREPLY < <(compgen -W "exam qti canvas moodle aiken csv tsv gift" -- "$word")
+  elif [ "$previous" = --to ]; then
+    mapfile -t COMPREPLY < <(compgen -W "exam qti canvas moodle aiken csv tsv gift markdown" -- "$word")
   elif [ "$previous" = --into ] || [ "$previous" = --source ]; then
     mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word")
   elif [ "$previous" = --rules ] || [ "$previous" = --marked ] || [ "$command $previous" = "import --text" ] ||
@@ -48,6 +52,7 @@ _quorvantis_cli() {
       import) options+=" --rules --repository --learn --marks --into --after --answer-pictures --formulas --mend-line-ends --marked --text" ;;
       rules) options+=" --repository --rules --marks --ini --text" ;;
       versions) options+=" --count --seed --out --questions --options --names --keep --no-pdf --replace --source" ;;
+      convert) options+=" --from --to --strict" ;;
       match) options+=" --flags --start --text --text-file --batch" ;;
       edit) options+=" --recovery" ;;
     esac
@@ -65,6 +70,7 @@ _quorvantis_cli() {
       versions:0) mapfile -t COMPREPLY < <(compgen -W "make verify" -- "$word") ;;
       versions:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       import:0 | rules:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|md|doc|docx|odt|rtf)$') ;;
+      convert:[01]) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(exm|zip|xml|gift|aiken|csv|tsv|txt|md)$') ;;
       edit:0) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     esac
   fi

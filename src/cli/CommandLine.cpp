@@ -42,6 +42,7 @@ struct ParsedArguments {
   std::optional<std::string> student;
   std::optional<std::filesystem::path> responses;
   ImportRequest import;
+  ConvertRequest convert;
   LearnRequest learn;
   CheckRequest check;
   ExamCheckRequest examCheck;
@@ -254,6 +255,21 @@ void AddExport(CLI::App& app, ParsedArguments& arguments, Console& console) {
       "The document has the title, the scores, and the questions with their options and typed answers.\n"
       "Requires LibreOffice.");
   command->callback([&] { Export(console, arguments.common, arguments.input, arguments.output); });
+}
+
+void AddConvert(CLI::App& app, ParsedArguments& arguments, Console& console) {
+  CLI::App* command =
+      AddCommand(app, arguments, "convert", "Convert between exams and files of learning systems");
+  ConvertRequest& request = arguments.convert;
+  AddPath(*command, "IN", request.source, "File to read");
+  AddPath(*command, "OUT", request.target, "File to write");
+  command->add_option("--from", request.from, "Format of IN (default: recognised by its content)")
+      ->type_name("F");
+  command->add_option("--to", request.to, "Format of OUT (default: that of its extension)")->type_name("F");
+  command->add_flag("--strict", request.isStrict, "Write nothing if something would be lost");
+  command->footer("Formats to read: " + ReadableFormats() + ".\nFormats to write: " + WritableFormats() +
+                  ".\nTells on standard error what is lost, question by question.");
+  command->callback([&] { Convert(console, arguments.common, arguments.convert); });
 }
 
 void AddEdit(CLI::App& app, ParsedArguments& arguments, Console& console) {
@@ -611,6 +627,7 @@ int RunCommandLine(int argumentCount, const char* const* argumentValues, Console
   AddKey(app, arguments, console);
   AddScore(app, arguments, console);
   AddExport(app, arguments, console);
+  AddConvert(app, arguments, console);
   AddEdit(app, arguments, console);
   AddRecover(app, arguments, console);
   AddLanguages(app, arguments, console);

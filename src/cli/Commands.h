@@ -67,6 +67,23 @@ void Score(Console& console, const CommonOptions& options, const std::filesystem
 void Export(Console& console, const CommonOptions& options, const std::filesystem::path& exam,
             const std::filesystem::path& target);
 
+/// The arguments of `convert`.
+struct ConvertRequest {
+  std::filesystem::path source;
+  std::filesystem::path target;
+  std::string from;       ///< the name of a format; empty to recognise it
+  std::string to;         ///< likewise; empty for that of the extension
+  bool isStrict = false;  ///< whether to write nothing if something would be lost
+};
+
+/// Converts between exams and the files of learning systems. Tells on standard error what is lost, a line
+/// each.
+void Convert(Console& console, const CommonOptions& options, const ConvertRequest& request);
+
+/// The names of the formats that can be read, or that can be written, with commas between them.
+std::string ReadableFormats();
+std::string WritableFormats();
+
 /// Runs an editing script, from a file or from the console. With `keepsRecovery` there is a recovery copy in
 /// the application folder after each line that leaves something unsaved.
 void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script,
