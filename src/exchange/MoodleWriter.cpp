@@ -85,6 +85,7 @@ class MoodleQuiz {
   void WriteQuestionText(const ExchangedQuestion& question, bool isCloze) {
     const std::vector<std::u16string> names = UniqueNames(question.files);
     std::vector<std::string> addresses;
+    addresses.reserve(names.size());
     for (const std::u16string& name : names)
       addresses.push_back(Utf16ToUtf8(kMoodleFiles) + AddressPart(name));
     xml_.Begin("questiontext", {{"format", "html"}});
