@@ -61,6 +61,10 @@ TEST_F(PrintedSheets, MustSayWhatTheVersionSays) {
   EXPECT_EQ(
       ComparePaper(exam, Sheet::Answers, {u"A", u"1a2b3c4d"}, {{u"A 1a2b3c4d", u"A"}}, world.strings).size(),
       1U);
+  EXPECT_EQ(
+      ComparePaper(exam, Sheet::Answers, {u"A", u"1a2b3c4d"}, {{u"A 1a2b3c4d", u"\n"}}, world.strings).size(),
+      0U)
+      << "a blank page";
   EXPECT_EQ(ComparePaper(exam, Sheet::Paper, {u"A", u"1"}, {{}, "no"}, world.strings).size(), 1U);
 }
 
