@@ -49,7 +49,13 @@ std::optional<std::string> PrintSheets(const std::filesystem::path& folder, cons
                                        PaperPrinter& printer, Progress& progress) {
   const std::vector<PaperJob> jobs = JobsFor(folder, record);
   std::optional<std::string> problem = printer.Print(jobs, progress);
-  if (!problem) problem = printer.Print(ShortPapers(jobs, printer), progress);
+  // Blank pages may move what is before them, so a filled paper can become the longest.
+  constexpr int kRounds = 3;
+  for (int round = 0; round < kRounds && !problem; ++round) {
+    const std::vector<PaperJob> again = ShortPapers(jobs, printer);
+    if (again.empty()) break;
+    problem = printer.Print(again, progress);
+  }
   std::error_code ignored;
   for (const PaperJob& job : jobs) {
     if (problem) std::filesystem::remove(job.target, ignored);
