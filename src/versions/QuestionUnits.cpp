@@ -137,6 +137,7 @@ std::vector<int> QuestionUnits::RandomOrder(SeededRandom& random) const {
   }
   for (const auto& stretch : stretches_) {
     std::vector<std::size_t> shuffled;
+    shuffled.reserve(stretch.size());
     for (const std::size_t unit : stretch) shuffled.push_back(sources[unit]);
     random.Shuffle(shuffled);
     for (std::size_t i = 0; i < stretch.size(); ++i) sources[stretch[i]] = shuffled[i];

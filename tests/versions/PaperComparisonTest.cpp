@@ -62,7 +62,7 @@ TEST_F(PrintedSheets, MustSayWhatTheVersionSays) {
       ComparePaper(exam, Sheet::Answers, {u"A", u"1a2b3c4d"}, {{u"A 1a2b3c4d", u"A"}}, world.strings).size(),
       1U);
   EXPECT_EQ(
-      ComparePaper(exam, Sheet::Answers, {u"A", u"1a2b3c4d"}, {{u"A 1a2b3c4d", u"\n"}}, world.strings).size(),
+      ComparePaper(exam, Sheet::Answers, {u"A", u"1a2b3c4d"}, {{u"A 1a2b3c4d", u"2 / 2\n"}}, world.strings).size(),
       0U)
       << "a blank page";
   EXPECT_EQ(ComparePaper(exam, Sheet::Paper, {u"A", u"1"}, {{}, "no"}, world.strings).size(), 1U);
