@@ -55,10 +55,10 @@ QString Joined(const std::vector<std::u16string>& lines) {
 
 }  // namespace
 
-VersionsDlg::VersionsDlg(ExamPaper exam, std::filesystem::path examFile, VersionsServices program,
+VersionsDlg::VersionsDlg(const ExamPaper& exam, std::filesystem::path examFile, VersionsServices program,
                          const StringTable& strings, QWidget* parent)
     : QDialog(parent),
-      exam_(std::move(exam)),
+      exam_(exam),
       questionCount_(exam_.LastCountedQuestion()),
       examFile_(std::move(examFile)),
       program_(std::move(program)),

@@ -33,7 +33,7 @@ class VersionsDlg : public QDialog {
  public:
   /// `exam` is what the file `examFile`, a full path, holds. `strings` must outlive the window, and so must
   /// whatever the services use.
-  VersionsDlg(ExamPaper exam, std::filesystem::path examFile, VersionsServices program,
+  VersionsDlg(const ExamPaper& exam, std::filesystem::path examFile, VersionsServices program,
               const StringTable& strings, QWidget* parent);
   ~VersionsDlg() override;
 
