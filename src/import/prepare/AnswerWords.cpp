@@ -368,7 +368,10 @@ using AnswerWordList = std::span<const std::u16string_view>;
 /// The size of the longest of the words that the folded text begins with, 0 for none.
 std::size_t LongestWordAt(std::u16string_view folded, AnswerWordList words) {
   std::size_t longest = 0;
+  if (folded.empty()) return longest;
   for (const std::u16string_view word : words) {
+    // Nearly all words end here, which comparing whole ones would take far longer to tell.
+    if (word.front() != folded.front()) continue;
     const bool isHere = folded.starts_with(word) &&
                         (folded.size() == word.size() || !AreInOneWord(word.back(), folded[word.size()]) ||
                          word.front() >= 0x3041);
