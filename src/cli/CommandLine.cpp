@@ -486,12 +486,14 @@ void AddVersionsMake(CLI::App& versions, ParsedArguments& arguments, Console& co
                            ->check(IsDecimal())
                            ->check(CLI::Range(std::size_t{1}, kMaxVersions));
   count->excludes(AddVersionNames(*make, request.request));
-  const auto takeSeed = [&request](const std::uint64_t& seed) {
-    request.request.seed = seed;
+  const auto takeSeed = [&request](const std::string& digits) {
+    const char* const end = digits.data() + digits.size();
+    const auto [last, error] = std::from_chars(digits.data(), end, request.request.seed);
+    if (error != std::errc() || last != end) throw CLI::ValidationError("--seed", digits + " is too large");
     request.hasSeed = true;
   };
-  make->add_option_function<std::uint64_t>("--seed", takeSeed,
-                                           "The number that decides the shuffle (default: random)")
+  make->add_option_function<std::string>("--seed", takeSeed,
+                                         "The number that decides the shuffle (default: random)")
       ->type_name("S")
       ->check(IsDecimal());
   make->add_option("--out", request.folder, "The folder to make (default: \"EXAM versions\" beside the exam)")

@@ -45,6 +45,22 @@ struct VersionTools {
                      [](const fs::path& folder) { return std::make_shared<Leftover>(folder); }};
 };
 
+/// A question or option that is to keep its place must be there: who mistypes it would not notice.
+void RequireParts(ExamSession& session, const fs::path& exam, const TeacherPins& pins) {
+  if (pins == TeacherPins()) return;
+  session.Load(exam);
+  session.exam.CountQuestions();
+  const auto isThere = [&](int question) { return question <= session.exam.questionCount; };
+  for (const int question : pins.questions) {
+    if (!isThere(question)) throw CommandError("--keep: there is no question " + std::to_string(question));
+  }
+  for (const OptionOfQuestion& part : pins.options) {
+    const char letter = "ABCDE"[part.option];
+    if (!isThere(part.question) || session.exam.Question(part.question).options[part.option].empty())
+      throw CommandError("--keep: there is no option " + std::to_string(part.question) + letter);
+  }
+}
+
 std::u16string CountText(std::size_t count) {
   return FormatInteger(static_cast<std::int64_t>(count));
 }
@@ -55,6 +71,7 @@ void MakeVersions(Console& console, const CommonOptions& options, MakeVersionsRe
   ExamSession::RequireReadable(request.exam);
   ExamSession session(console, options);
   if (!request.hasSeed) request.request.seed = RandomSeed();
+  RequireParts(session, request.exam, request.request.pins);
   const fs::path exam = fs::absolute(request.exam).lexically_normal();
   const fs::path folder =
       request.folder.empty() ? UsualVersionFolder(exam) : fs::absolute(request.folder).lexically_normal();
@@ -89,6 +106,7 @@ void VerifyVersions(Console& console, const CommonOptions& options, const fs::pa
       FillMessage(session.services.strings.Text(text_id::kVersionsRight),
                   {CountText(verified.record->plan.versions.size()), PathToText(folder)});
   console.out << Utf16ToUtf8(right) << "\n";
+  for (const std::u16string& line : verified.notes) console.out << Utf16ToUtf8(line) << "\n";
 }
 
 }  // namespace quorvantis::cli

@@ -31,6 +31,9 @@ class PaperPrinter {
   /// not all were done, in English; nothing when all were. Files of earlier jobs stay.
   virtual std::optional<std::string> Print(std::span<const PaperJob> jobs, Progress& progress) = 0;
 
+  /// False if this machine has nothing to print with, so that every print fails.
+  virtual bool IsInstalled() const = 0;
+
   /// The number of pages of a PDF file; nothing if it cannot be read.
   virtual std::optional<int> PageCount(const std::filesystem::path& pdf) = 0;
 };

@@ -743,6 +743,8 @@ constexpr int kPaperLacksText = 2099;
 constexpr int kPdfUnreadable = 2100;
 constexpr int kVersionsRight = 2101;
 constexpr int kPaperLacksCode = 2102;
+/// A file of a version, and the numbers of questions.
+constexpr int kPaperNotCompared = 2149;
 // The window for versions.
 constexpr int kVersionsEntry = 2110;
 constexpr int kVersionsWindow = 2111;

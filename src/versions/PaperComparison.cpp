@@ -9,6 +9,7 @@
 #include "text/ComparableText.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
+#include "versions/ReadableBack.h"
 #include "versions/VisibleText.h"
 
 #include <algorithm>
@@ -35,6 +36,10 @@ class PrintedText {
     isMarked_ = found > 0 && text_[found - 1] == kRightSign;
     return true;
   }
+
+  /// How far it has looked.
+  std::size_t Place() const { return at_; }
+  void GoBackTo(std::size_t place) { at_ = place; }
 
   /// Whether the sign of a right option stands before what was found last.
   bool IsMarked() const { return isMarked_; }
@@ -135,8 +140,25 @@ class SheetComparison {
   SheetComparison(const FrameSetExam& exam, Sheet sheet, std::u16string text)
       : exam_(exam), sheet_(sheet), printed_(std::move(text)) {}
 
-  /// Empty if all of the question is printed, else what is not there.
+  /// Empty if all of the question is printed, else what is not there. What is not compared for sure does not
+  /// move the place from which the next question is looked for.
   std::u16string MissingOf(const KeyRow& key) {
+    const std::size_t before = printed_.Place();
+    std::u16string missing = MissingNow(key);
+    if (!missing.empty() && !IsComparable(key)) printed_.GoBackTo(before);
+    return missing;
+  }
+
+  /// Whether what is not found of a question is a fault.
+  bool IsComparable(const KeyRow& key) const {
+    if (!CanBeReadBack(key.key)) return false;
+    if (sheet_ == Sheet::Key) return true;
+    const ExamQuestion& question = exam_.Question(key.number);
+    return CanBeReadBack(question.text) && std::ranges::all_of(question.options, CanBeReadBack);
+  }
+
+ private:
+  std::u16string MissingNow(const KeyRow& key) {
     const std::u16string number = FormatInteger(key.number);
     if (sheet_ == Sheet::Key) return MissingKey(number, key);
     const ExamQuestion& question = exam_.Question(key.number);
@@ -150,7 +172,6 @@ class SheetComparison {
     return missing;
   }
 
- private:
   std::u16string MissingKey(const std::u16string& number, const KeyRow& key) {
     if (!key.key.empty() || !AnswerOf(key.kind).options) return MissingText(number, key.key);
     return MissingText(number, {});
@@ -194,21 +215,25 @@ bool HasOnEveryPage(const PdfPages& printed, std::u16string_view text) {
 
 }  // namespace
 
-std::vector<std::u16string> ComparePaper(const FrameSetExam& exam, Sheet sheet, const SheetHead& head,
-                                         const PdfPages& printed, const StringTable& strings) {
-  if (printed.problem || printed.pages.empty()) return {strings.Text(text_id::kPdfUnreadable)};
-  std::vector<std::u16string> lines;
+PaperDifferences ComparePaper(const FrameSetExam& exam, Sheet sheet, const SheetHead& head,
+                              const PdfPages& printed, const StringTable& strings) {
+  if (printed.problem || printed.pages.empty()) return {{strings.Text(text_id::kPdfUnreadable)}, {}};
+  PaperDifferences found;
   if (!HasOnEveryPage(printed, head.code) || !HasOnEveryPage(printed, head.versionName))
-    lines.push_back(FillMessage(strings.Text(text_id::kPaperLacksCode), {head.versionName, head.code}));
-  if (sheet == Sheet::Answers) return lines;
+    found.faults.push_back(
+        FillMessage(strings.Text(text_id::kPaperLacksCode), {head.versionName, head.code}));
+  if (sheet == Sheet::Answers) return found;
   SheetComparison comparison(exam, sheet, WithoutFeet(printed, head.code));
   for (const KeyRow& key : KeyTable(exam)) {
     const std::u16string missing = comparison.MissingOf(key);
-    if (!missing.empty())
-      lines.push_back(
+    if (missing.empty()) continue;
+    if (!comparison.IsComparable(key))
+      found.notCompared.push_back(key.number);
+    else
+      found.faults.push_back(
           FillMessage(strings.Text(text_id::kPaperLacksText), {FormatInteger(key.number), missing}));
   }
-  return lines;
+  return found;
 }
 
 }  // namespace quorvantis

@@ -141,12 +141,15 @@ class Making {
     return WriteFile(std::u16string(kCombinedKeysFile), CombinedKeysCsv(papers_, plan));
   }
 
-  /// Without PDF files, versions are good for all the same.
+  /// Where nothing can print, versions are good without PDF files; what fails on the way must not pass for
+  /// it.
   std::u16string Print() {
     if (ports_.printer == nullptr) return {};
     PartOfProgress third(services_.progress, 1, 3);
     const auto problem = PrintSheets(pending_.Path(), made_.record, *ports_.printer, third);
     if (services_.progress.IsCancelled()) return Cancelled();
+    if (problem && ports_.printer->IsInstalled())
+      return Filled(text_id::kVersionsNoSheets, {Utf8ToUtf16(*problem)});
     if (problem) {
       made_.report.push_back(Filled(text_id::kVersionsNoSheets, {Utf8ToUtf16(*problem)}));
       return {};
@@ -195,6 +198,7 @@ class Making {
     const VersionVerifier verifier(services, verifyFolder_, ports_);
     const VerifiedVersions verified = verifier.Verify(pending_.Path(), order_.exam);
     if (verified.isCancelled) return Cancelled();
+    made_.report.insert(made_.report.end(), verified.notes.begin(), verified.notes.end());
     if (verified.faults.empty()) return {};
     return Filled(text_id::kVersionsNotProved, {verified.faults.front()});
   }

@@ -167,9 +167,17 @@ class Verification {
       services_.progress.Wait();
       const PdfPages printed = ports_.pdfText != nullptr ? ports_.pdfText->Read(folder_ / TextToPath(file))
                                                          : PdfPages{{}, "cannot be read here"};
-      for (const std::u16string& what : ComparePaper(exam, sheet, head, printed, services_.strings))
-        TellOf(file, what);
+      const PaperDifferences found = ComparePaper(exam, sheet, head, printed, services_.strings);
+      for (const std::u16string& what : found.faults) TellOf(file, what);
+      if (!found.notCompared.empty())
+        verified_.notes.push_back(Filled(text_id::kPaperNotCompared, {file, ListOf(found.notCompared)}));
     }
+  }
+
+  static std::u16string ListOf(const std::vector<int>& numbers) {
+    std::u16string list;
+    for (const int number : numbers) list += (list.empty() ? u"" : u", ") + FormatInteger(number);
+    return list;
   }
 
   /// That a table in a file says the same as `wanted`.

@@ -15,6 +15,7 @@ namespace quorvantis {
 /// What verifying a folder of versions has found.
 struct VerifiedVersions {
   std::vector<std::u16string> faults;  ///< one line each, for the user; empty if everything is right
+  std::vector<std::u16string> notes;   ///< what could not be looked at, likewise; no fault
   std::optional<PlanRecord> record;    ///< the plan, if it can be read
   bool isCancelled = false;            ///< the user has cancelled, so not everything was looked at
 };

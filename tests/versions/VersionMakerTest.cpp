@@ -25,12 +25,14 @@ class ToyPrinter : public PaperPrinter, public PdfText {
     for (const PaperJob& job : jobs) WriteBytes(job.target, std::string(lengths[job.version], '.'));
     return std::nullopt;
   }
+  bool IsInstalled() const override { return isInstalled; }
   std::optional<int> PageCount(const fs::path& pdf) override {
     return static_cast<int>(ReadBytes(pdf).size());
   }
   PdfPages Read(const fs::path&) override { return {{}, "nothing can be read here"}; }
 
   std::string problem;
+  bool isInstalled = true;
   std::map<std::u16string, std::size_t> lengths;
 };
 
@@ -182,11 +184,15 @@ TEST_F(VersionFolders, HoldSheetsIfTheyCanBePrinted) {
   ToyPrinter printer;
   ports.printer = &printer;
   ports.pdfText = &printer;
-  printer.problem = "no browser";
+  printer.problem = "a full disk";
+  EXPECT_NE(Make().problem, u"");
+  EXPECT_FALSE(fs::exists(target));
+  printer.isInstalled = false;
   const MadeVersions without = Make();
   EXPECT_EQ(without.problem, u"");
   EXPECT_EQ(without.report.back().substr(0, 5), u"[2066");
   EXPECT_EQ(Files(target).size(), 9U);
+  printer.isInstalled = true;
   printer.problem.clear();
   EXPECT_NE(Make(true).problem, u"") << "sheets that cannot be read back are not proved";
   EXPECT_EQ(Files(target).size(), 9U) << "the old ones stay";

@@ -20,6 +20,7 @@ class PdfProgram : public PaperPrinter {
   static std::filesystem::path Find();
 
   std::optional<std::string> Print(std::span<const PaperJob> jobs, Progress& progress) override;
+  bool IsInstalled() const override { return !program_.empty(); }
   std::optional<int> PageCount(const std::filesystem::path& pdf) override;
 
  private:
