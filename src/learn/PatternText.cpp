@@ -18,9 +18,9 @@ std::u16string LiteralPattern(std::u16string_view text) {
       hasLineEnd = hasLineEnd || IsLineEnd(text[end]);
     // Rules stand in one line.
     if (end > at) pattern += hasLineEnd ? u"\\s*" : u"[ \\t\u00A0\u3000]*";
-    at = end;
-    if (at == text.size()) break;
-    const char16_t unit = text[at++];
+    if (end == text.size()) break;
+    const char16_t unit = text[end];
+    at = end + 1;
     if (kSpecial.find(unit) != kSpecial.npos) pattern += u'\\';
     pattern += unit < u' ' ? u'.' : unit;
   }

@@ -114,11 +114,10 @@ class ColumnSearch {
         moved.Append(paper_.Part({rows_[row][column].begin, rows_[row][column].end}));
       }
     }
-    for (std::size_t row = first; row < first + count; ++row) {
-      const Cells& cells = rows_[row];
-      const bool isLast = row + 1 == first + count;
-      edits_.push_back({{cells.front().end, cells.back().end}, isLast ? std::move(moved) : PaperText()});
-    }
+    const std::size_t last = first + count - 1;
+    for (std::size_t row = first; row < last; ++row)
+      edits_.push_back({{rows_[row].front().end, rows_[row].back().end}, PaperText()});
+    edits_.push_back({{rows_[last].front().end, rows_[last].back().end}, std::move(moved)});
   }
 
   const PaperText& paper_;
