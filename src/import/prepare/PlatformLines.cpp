@@ -250,7 +250,7 @@ bool IsPlatformLine(std::u16string_view line) {
 bool IsStateLine(std::u16string_view line) {
   if (line.empty() || line.size() > kLongestPlatformLine) return false;
   const LineWords words(line);
-  return words.Numbers() == 0 && words.Rest().find_first_not_of(u" ") == std::u16string::npos &&
+  return words.Numbers() == 0 && words.Rest().find_first_not_of(u' ') == std::u16string::npos &&
          IsWithin(kStates, JoinedWords(words));
 }
 

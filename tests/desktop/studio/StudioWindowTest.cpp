@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/WindowTest.h"
 #include "desktop/studio/StudioWindow.h"
+#include "platform/convert/Later.h"
 
 #include <QClipboard>
 #include <QLineEdit>
@@ -48,7 +49,7 @@ class StudioWindowTest : public WindowTest {
   }
   /// Runs `answer` on the next message box.
   void AnswerNext(std::function<void(QMessageBox&)> answer) {
-    QTimer::singleShot(0, &Studio(), [this, answer = std::move(answer)] {
+    Later(Studio(), {}, [this, answer = std::move(answer)] {
       auto& box = Control<QMessageBox>("loseMarks");
       ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
       answer(box);
