@@ -8,6 +8,7 @@
 #include "exchange/TextSource.h"
 #include "platform/TextNumbers.h"
 #include "text/AsciiCase.h"
+#include "text/HtmlEscape.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
@@ -24,7 +25,7 @@ std::u16string ProtectedAnswer(std::u16string_view plain) {
     if (kProtectedInCloze.find(unit) != kProtectedInCloze.npos) text.push_back(u'\\');
     text.push_back(unit);
   }
-  return EscapeMarkup(text);
+  return EscapeHtml(text);
 }
 
 /// A brace of the text itself must not begin an answer.
@@ -106,7 +107,7 @@ class ClozeReading {
       if (text_.empty()) continue;
       if (fraction >= kFullFraction || (fraction > 0 && kind != ClozeKind::Choice))
         rights.push_back(PlainToExamText(text_));
-      choices += (choices.empty() ? u"" : u" / ") + EscapeMarkup(text_);
+      choices += (choices.empty() ? u"" : u" / ") + EscapeHtml(text_);
     }
     read_.html += BlankOfClass(EndingClass());
     if (kind == ClozeKind::Choice) {

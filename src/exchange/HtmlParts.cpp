@@ -6,6 +6,7 @@
 #include "exchange/ExamToExchange.h"
 #include "exchange/XmlText.h"
 #include "platform/TextNumbers.h"
+#include "text/HtmlEscape.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
@@ -41,8 +42,8 @@ std::u16string HtmlOfFiles(const std::vector<ExchangedFile>& files, const std::v
   const std::u16string_view end = dialect == HtmlDialect::Xhtml ? u"/>" : u">";
   std::u16string html;
   for (std::size_t i = 0; i < files.size(); ++i) {
-    const std::u16string address = EscapeMarkup(Utf8ToUtf16(addresses[i]));
-    const std::u16string name = EscapeMarkup(ReplaceLoneSurrogates(files[i].name));
+    const std::u16string address = EscapeHtml(Utf8ToUtf16(addresses[i]));
+    const std::u16string name = EscapeHtml(ReplaceLoneSurrogates(files[i].name));
     html.append(u"<br").append(end);
     if (IsPictureName(files[i].name)) {
       html.append(u"<img src=\"").append(address).append(u"\" alt=\"").append(name).append(u"\"").append(end);

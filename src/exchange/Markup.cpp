@@ -4,6 +4,7 @@
 #include "exchange/HtmlEntities.h"
 #include "exchange/MarkupReader.h"
 #include "text/AsciiCase.h"
+#include "text/HtmlEscape.h"
 #include "text/LineBreaks.h"
 
 #include <algorithm>
@@ -88,7 +89,7 @@ ReadMarkup ReadHtml(std::u16string_view html) {
 }
 
 std::u16string PlainToExamText(std::u16string_view text) {
-  return ReadExamText(EscapeMarkup(text)).text;
+  return ReadExamText(EscapeHtml(text)).text;
 }
 
 std::u16string ExamTextToHtml(std::u16string_view text, HtmlDialect dialect) {
@@ -96,7 +97,7 @@ std::u16string ExamTextToHtml(std::u16string_view text, HtmlDialect dialect) {
   for (const MarkupPiece& piece : PiecesOf(text)) {
     switch (piece.kind) {
       case MarkupPieceKind::Text:
-        html += EscapeMarkup(piece.text);
+        html += EscapeHtml(piece.text);
         break;
       case MarkupPieceKind::LineBreak:
         html += dialect == HtmlDialect::Xhtml ? u"<br/>" : u"<br>";
@@ -123,29 +124,6 @@ bool HasTags(std::u16string_view text) {
   const std::vector<MarkupPiece> pieces = PiecesOf(text);
   return std::any_of(pieces.begin(), pieces.end(),
                      [](const MarkupPiece& piece) { return piece.tag != nullptr; });
-}
-
-std::u16string EscapeMarkup(std::u16string_view text) {
-  std::u16string escaped;
-  for (const char16_t unit : text) {
-    switch (unit) {
-      case u'&':
-        escaped += u"&amp;";
-        break;
-      case u'<':
-        escaped += u"&lt;";
-        break;
-      case u'>':
-        escaped += u"&gt;";
-        break;
-      case u'"':
-        escaped += u"&quot;";
-        break;
-      default:
-        escaped.push_back(unit);
-    }
-  }
-  return escaped;
 }
 
 }  // namespace quorvantis

@@ -63,7 +63,4 @@ std::u16string ExamTextToPlain(std::u16string_view text);
 /// Whether an exam text has tags, so that it shows more than ExamTextToPlain gives.
 bool HasTags(std::u16string_view text);
 
-/// The text with `&`, `<`, `>` and quotes escaped, for HTML and XML.
-std::u16string EscapeMarkup(std::u16string_view text);
-
 }  // namespace quorvantis

@@ -8,6 +8,7 @@
 #include "exchange/XmlText.h"
 #include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
+#include "text/HtmlEscape.h"
 #include "text/Utf.h"
 
 #include <algorithm>
@@ -76,7 +77,7 @@ std::u16string QtiItemReader::Html(pugi::xml_node element, ExchangedQuestion& qu
   const bool hasElements = static_cast<bool>(
       element.find_child([](pugi::xml_node child) { return child.type() == pugi::node_element; }));
   // Without elements it has been unescaped already.
-  return html_.Read(hasElements ? html : EscapeMarkup(html), question);
+  return html_.Read(hasElements ? html : EscapeHtml(html), question);
 }
 
 /// What is for those who mark the answers is the model answer; the rest belongs to the text.

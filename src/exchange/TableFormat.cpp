@@ -10,6 +10,7 @@
 #include "exchange/TextSource.h"
 #include "model/AnswerLetters.h"
 #include "model/ExamLimits.h"
+#include "model/QuestionKinds.h"
 #include "platform/TextNumbers.h"
 #include "text/LineBreaks.h"
 #include "text/Utf.h"
@@ -82,22 +83,13 @@ class TableRows {
   ReadingTools& tools_;
 };
 
-std::u16string_view KindWordOf(QuestionKind kind) {
-  switch (kind) {
-    case QuestionKind::Choice:
-      return u"choice";
-    case QuestionKind::FillIn:
-      return u"fillin";
-    case QuestionKind::Essay:
-      return u"essay";
-    case QuestionKind::Oral:
-      return u"oral";
-  }
-  return u"";
+std::u16string KindWordOf(QuestionKind kind) {
+  const KindRow* const row = FindKind(kind);
+  return row != nullptr ? Utf8ToUtf16(row->word) : std::u16string();
 }
 
 TableRow CellsOf(const ExchangedQuestion& question) {
-  TableRow cells{std::u16string(KindWordOf(question.kind)), question.text};
+  TableRow cells{KindWordOf(question.kind), question.text};
   std::u16string right;
   for (std::size_t i = 0; i < kOptionCount; ++i) {
     const bool isThere = i < question.options.size();

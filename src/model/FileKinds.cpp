@@ -36,7 +36,7 @@ constexpr FileKindRow kFileKinds[] = {
     {u"svg", FileKind::Picture, "image/svg+xml"},
 
     {u"htm", FileKind::Page, "text/html"},        {u"html", FileKind::Page, "text/html"},
-    {u"txt", FileKind::Text, "text/html"},        {u"swf", FileKind::Flash, "application/x-shockwave-flash"},
+    {u"txt", FileKind::PlainText, "text/html"},   {u"swf", FileKind::Flash, "application/x-shockwave-flash"},
 };
 
 constexpr FileKindRow kOther;

@@ -7,9 +7,9 @@ namespace quorvantis {
 
 /// How an attached file is shown in a page.
 enum class FileKind {
-  Page,      ///< hypertext
-  Text,      ///< decoded and shown as lines
-  Document,  ///< shown as pictures of its pages
+  Page,       ///< hypertext
+  PlainText,  ///< decoded and shown as lines
+  Document,   ///< shown as pictures of its pages
   Picture,
   Media,  ///< sound and film, perhaps converted
   Flash,

@@ -127,7 +127,7 @@ void ExamGateway::AnswerFile(Job* job, const fs::path& file, bool forFrame) {
     case FileKind::Page:
     case FileKind::Picture:
       return ReplyWithFile(*job, ContentTypeOf(file), file);
-    case FileKind::Text:
+    case FileKind::PlainText:
       return ReplyWithPage(*job, TextFilePage(file, NameOf(*job), setup_.texts));
     case FileKind::Document:
       return AnswerDocument(job, file);

@@ -25,7 +25,7 @@ QString MenuCaption(const std::u16string& text) {
 bool MayBeOpened(const AttachedFile& file) {
   if (ExtensionOf(file.copy) == "svg") return false;
   switch (KindOf(file.copy)) {
-    case FileKind::Text:
+    case FileKind::PlainText:
     case FileKind::Document:
     case FileKind::Picture:
     case FileKind::Media:

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "render/sheets/SheetFiles.h"
 
+#include "model/FileKinds.h"
 #include "model/MediaKinds.h"
 #include "model/document/ExamServices.h"
 #include "render/Template.h"
 #include "render/sheets/SheetParts.h"
+#include "text/HtmlEscape.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 
@@ -19,10 +21,6 @@ constexpr Template<Text, Text> kPicture{uR"(<div class="file"><img src="%s" data
 constexpr Template<Text, Text> kDocument{
     uR"(<div class="file"><iframe width="650" height="350" src="%s" data-name="%s"></iframe></div>)"};
 constexpr Template<Text> kOther{uR"(<div class="file"><bdi class="name">%s</bdi></div>)"};
-
-/// What the browser shows beside the kinds that the other pages know.
-constexpr std::u16string_view kMorePictures = u"png,webp,svg";
-constexpr std::u16string_view kMoreDocuments = u"pdf,rtf,odt,odp,ods,htm,html";
 
 bool IsPlainInAddress(unsigned char byte) {
   const auto lower = static_cast<unsigned char>(byte | 0x20U);
@@ -51,13 +49,20 @@ std::u16string AddressOf(const fs::path& file, const fs::path& folder) {
 }
 
 std::u16string FileItem(const FrameSetExam& exam, const std::u16string& path, const std::u16string& name) {
-  const std::u16string extension = ExtensionOrNothing(path);
   const std::u16string address = AddressOf(TextToPath(path), exam.Services().applicationFolder);
-  if (IsOneOf(kPictureExtensions, extension) || IsOneOf(kMorePictures, extension))
-    return kPicture(address, Escaped(name));
-  if (IsOneOf(kDocumentExtensions, extension) || IsOneOf(kMoreDocuments, extension))
-    return kDocument(address, Escaped(name));
-  return kOther(Escaped(name));
+  switch (FileKindOf(ExtensionOrNothing(path)).kind) {
+    case FileKind::Picture:
+      return kPicture(address, EscapeHtml(name));
+    case FileKind::Page:
+    case FileKind::PlainText:
+    case FileKind::Document:
+      return kDocument(address, EscapeHtml(name));
+    case FileKind::Media:
+    case FileKind::Flash:
+    case FileKind::Other:
+      break;
+  }
+  return kOther(EscapeHtml(name));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "render/Template.h"
 #include "render/sheets/ReadingDirection.h"
 #include "render/sheets/SheetStyle.h"
+#include "text/HtmlEscape.h"
 #include "text/LineBreaks.h"
 #include "text/MessageText.h"
 
@@ -40,7 +41,7 @@ std::u16string Foot(const FrameSetExam& exam, const SheetHead& head) {
   std::u16string foot;
   if (!head.versionName.empty())
     foot += kFootPart(Caption(exam, text_id::kSheetVersionNamed, head.versionName));
-  if (!head.code.empty()) foot += kFootPart(Escaped(head.code));
+  if (!head.code.empty()) foot += kFootPart(EscapeHtml(head.code));
   return foot.empty() ? Field(exam.title) : foot;
 }
 
@@ -49,48 +50,18 @@ std::u16string Buttons(const FrameSetExam& exam) {
                   Caption(exam, text_id::kSheetClose));
 }
 
-/// What a letter of HTML is written as; empty if as itself.
-std::u16string_view EscapeOf(char16_t unit) {
-  switch (unit) {
-    case u'&':
-      return u"&amp;";
-    case u'<':
-      return u"&lt;";
-    case u'>':
-      return u"&gt;";
-    case u'"':
-      return u"&quot;";
-    default:
-      return {};
-  }
-}
-
 }  // namespace
 
-std::u16string Escaped(std::u16string_view text) {
-  std::u16string escaped;
-  escaped.reserve(text.size());
-  for (const char16_t unit : text) {
-    const std::u16string_view escape = EscapeOf(unit);
-    if (escape.empty()) {
-      escaped.push_back(unit);
-    } else {
-      escaped += escape;
-    }
-  }
-  return escaped;
-}
-
 std::u16string Field(std::u16string_view text) {
-  return kField(Escaped(WithLineEnds(text, u"\n")));
+  return kField(EscapeHtml(WithLineEnds(text, u"\n")));
 }
 
 std::u16string Caption(const FrameSetExam& exam, int text) {
-  return Escaped(exam.Services().strings.Text(text));
+  return EscapeHtml(exam.Services().strings.Text(text));
 }
 
 std::u16string Caption(const FrameSetExam& exam, int text, std::u16string_view value) {
-  return Escaped(FillMessage(exam.Services().strings.Text(text), {value}));
+  return EscapeHtml(FillMessage(exam.Services().strings.Text(text), {value}));
 }
 
 std::u16string Row(std::u16string_view content) {
@@ -106,14 +77,14 @@ std::u16string Heading(const FrameSetExam& exam, const SheetRequest& request, st
     heading += kNames(kName(Caption(exam, text_id::kSheetName), {}) +
                       kName(Caption(exam, text_id::kSheetClass), {}) +
                       kName(Caption(exam, isVersion ? text_id::kSheetVersion : text_id::kSheetDate),
-                            Escaped(request.head.versionName)));
+                            EscapeHtml(request.head.versionName)));
   }
   return Row(heading);
 }
 
 std::u16string SheetPage(const FrameSetExam& exam, const SheetRequest& request, std::u16string_view rows) {
   const bool isRightToLeft = RunsRightToLeft(exam, request.languageIsRightToLeft);
-  return kPage(isRightToLeft ? u"rtl" : u"ltr", Escaped(exam.title), kSheetStyle,
+  return kPage(isRightToLeft ? u"rtl" : u"ltr", EscapeHtml(exam.title), kSheetStyle,
                request.largePrint ? u"large" : u"", Buttons(exam), Foot(exam, request.head), rows,
                kSheetScript);
 }

@@ -10,9 +10,6 @@
 
 namespace quorvantis {
 
-/// `text` as text of a page or as the value of an attribute: no markup is left in it.
-std::u16string Escaped(std::u16string_view text);
-
 /// An author's text. Its markup works, as on the other pages of an exam, but only within this field; and
 /// every kind of line end is one.
 std::u16string Field(std::u16string_view text);

@@ -4,6 +4,7 @@
 #include "render/sheets/ReadingDirection.h"
 #include "render/sheets/SheetPages.h"
 #include "render/sheets/SheetParts.h"
+#include "text/HtmlEscape.h"
 
 #include <random>
 
@@ -41,7 +42,7 @@ TEST_F(SheetsTest, NothingInATextCanEndItsField) {
   for (int round = 0; round < 300; ++round) {
     std::u16string text;
     for (auto n = random() % 12; n > 0; --n) text += parts[random() % std::size(parts)];
-    const std::u16string escaped = Escaped(text);
+    const std::u16string escaped = EscapeHtml(text);
     EXPECT_EQ(escaped.find_first_of(u"<>\""), escaped.npos);
     EXPECT_EQ(Unescaped(escaped), text);
   }
