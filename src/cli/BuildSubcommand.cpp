@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/ExamFromJson.h"
 #include "cli/JsonNode.h"
@@ -7,6 +8,12 @@
 #include "examfile/ExamFileWriter.h"
 
 namespace quorvantis::cli {
+namespace {
+
+struct BuildRequest {
+  std::filesystem::path description;
+  std::filesystem::path target;
+};
 
 void Build(Console& console, const CommonOptions& options, const std::filesystem::path& description,
            const std::filesystem::path& target) {
@@ -26,6 +33,19 @@ void Build(Console& console, const CommonOptions& options, const std::filesystem
     throw CommandError(target.string() + ": cannot be written: " + error.message());
   }
   TellSavingLosses(console, description, session.exam);
+}
+
+}  // namespace
+
+void AddBuild(CLI::App& app, CommandContext& context) {
+  CLI::App* build = AddCommand(app, context, "build", "Make an exam file from JSON");
+  const auto request = std::make_shared<BuildRequest>();
+  AddPath(*build, "JSON", request->description, "JSON file, like the object that \"show --json\" prints");
+  AddPath(*build, "OUT", request->target, "Exam file to write");
+  build->footer(
+      "An attached file is {\"path\": \"file relative to the JSON file\", \"name\": \"display name\"}.");
+  build->callback(
+      [&context, request] { Build(context.console, context.common, request->description, request->target); });
 }
 
 }  // namespace quorvantis::cli

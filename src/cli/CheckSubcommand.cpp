@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "check/CheckRules.h"
 #include "check/ExamCheck.h"
 #include "check/IgnoredFindings.h"
 #include "check/ScoreRules.h"
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "platform/TextNumbers.h"
 #include "platform/posix/ApplicationFolder.h"
@@ -17,6 +19,14 @@
 
 namespace quorvantis::cli {
 namespace {
+
+/// The arguments of `check`.
+struct ExamCheckRequest {
+  std::filesystem::path exam;
+  bool json = false;
+  std::vector<std::string> ignore;  ///< identifiers of rules
+  bool leavesOutIgnored = false;    ///< also what was ignored in the window
+};
 
 using Json = nlohmann::ordered_json;
 
@@ -105,8 +115,6 @@ std::string Summary(const FrameSetExam& exam, const std::vector<Finding>& findin
   return summary;
 }
 
-}  // namespace
-
 void CheckExamFile(Console& console, const CommonOptions& options, const ExamCheckRequest& request) {
   ExamSession session(console, options);
   session.Load(request.exam);
@@ -119,6 +127,34 @@ void CheckExamFile(Console& console, const CommonOptions& options, const ExamChe
   const std::string summary = request.exam.string() + ": " + Summary(session.exam, findings);
   if (CountOf(findings, Severity::Wrong) > 0) throw CommandError(summary);
   console.Tell(summary);
+}
+
+/// Empty if it is the identifier of a rule of the check.
+std::string WhyNoCheckRule(const std::string& id) {
+  if (FindCheckRule(id) != nullptr) return {};
+  std::string why = "there is no rule " + id + ". The rules are ";
+  for (const CheckRuleRow& row : CheckRules())
+    why.append(&row == &CheckRules().front() ? "" : ", ").append(row.id);
+  return why;
+}
+
+}  // namespace
+
+void AddCheck(CLI::App& app, CommandContext& context) {
+  CLI::App* check = AddCommand(app, context, "check", "Look for mistakes in an exam");
+  const auto request = std::make_shared<ExamCheckRequest>();
+  AddPath(*check, "EXAM", request->exam, "Exam file (.exm)");
+  check->add_flag("--json", request->json, "Print one JSON object");
+  check->add_option("--ignore", request->ignore, "A rule not to check; may be given several times")
+      ->type_name("ID")
+      ->allow_extra_args(false)
+      ->check(CLI::Validator(WhyNoCheckRule, ""));
+  check->add_flag("--ignored", request->leavesOutIgnored,
+                  "Also leave out what was ignored in the window,\nor in the folder of --app-folder");
+  check->footer(
+      "Prints a line for each finding, with its rule in brackets. Fails if something is wrong;\n"
+      "what is doubtful and what is a hint does not count.");
+  check->callback([&context, request] { CheckExamFile(context.console, context.common, *request); });
 }
 
 }  // namespace quorvantis::cli

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/InputFile.h"
 #include "cli/LossMessages.h"
@@ -26,6 +27,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// The arguments of `convert`.
+struct ConvertRequest {
+  std::filesystem::path source;
+  std::filesystem::path target;
+  std::string from;       ///< the name of a format; empty to recognise it
+  std::string to;         ///< likewise; empty for that of the extension
+  bool isStrict = false;  ///< whether to write nothing if something would be lost
+};
+
 constexpr std::string_view kExam = "exam";
 
 bool NamesExams(std::string_view format) {
@@ -50,6 +60,14 @@ std::string Names(bool (*isListed)(const FormatRow&)) {
     if (isListed(format)) names.append(", ").append(format.name);
   }
   return names;
+}
+
+std::string ReadableFormats() {
+  return Names([](const FormatRow& format) { return format.reader != nullptr; });
+}
+
+std::string WritableFormats() {
+  return Names([](const FormatRow& format) { return format.writer != nullptr; });
 }
 
 /// Converts one file. Where an exam is meant, the format is null.
@@ -168,19 +186,26 @@ class Conversion {
   bool isExam_ = false;  ///< the source
 };
 
-}  // namespace
-
-std::string ReadableFormats() {
-  return Names([](const FormatRow& format) { return format.reader != nullptr; });
-}
-
-std::string WritableFormats() {
-  return Names([](const FormatRow& format) { return format.writer != nullptr; });
-}
-
 void Convert(Console& console, const CommonOptions& options, const ConvertRequest& request) {
   RefuseToOverwrite(request.source, request.target);
   Conversion(console, options, request).Run();
+}
+
+}  // namespace
+
+void AddConvert(CLI::App& app, CommandContext& context) {
+  CLI::App* command =
+      AddCommand(app, context, "convert", "Convert between exams and files of learning systems");
+  const auto request = std::make_shared<ConvertRequest>();
+  AddPath(*command, "IN", request->source, "File to read");
+  AddPath(*command, "OUT", request->target, "File to write");
+  command->add_option("--from", request->from, "Format of IN (default: recognised by its content)")
+      ->type_name("F");
+  command->add_option("--to", request->to, "Format of OUT (default: that of its extension)")->type_name("F");
+  command->add_flag("--strict", request->isStrict, "Write nothing if something would be lost");
+  command->footer("Formats to read: " + ReadableFormats() + ".\nFormats to write: " + WritableFormats() +
+                  ".\nTells on standard error what is lost, question by question.");
+  command->callback([&context, request] { Convert(context.console, context.common, *request); });
 }
 
 }  // namespace quorvantis::cli

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
 #include "cli/InputFile.h"
@@ -10,6 +11,12 @@
 
 namespace quorvantis::cli {
 namespace {
+
+struct EditRequest {
+  std::filesystem::path script;  ///< empty for the console
+  bool keepsRecovery =
+      false;  ///< a copy in the application folder after each line that leaves something unsaved
+};
 
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
@@ -31,15 +38,26 @@ void RunScript(EditSession& session, std::istream& script, const std::string& na
     throw CommandError(name + ": the exam is not closed; say reply yes or reply no before close");
 }
 
+void Edit(Console& console, const CommonOptions& options, const EditRequest& request) {
+  const bool isNamed = !request.script.empty();
+  std::ifstream file;
+  if (isNamed) file = OpenInput(request.script);
+  EditSession session(console, options);
+  if (request.keepsRecovery) session.KeepRecovery();
+  RunScript(session, isNamed ? file : console.in, isNamed ? request.script.string() : "standard input");
+}
+
 }  // namespace
 
-void Edit(Console& console, const CommonOptions& options, const std::optional<std::filesystem::path>& script,
-          bool keepsRecovery) {
-  std::ifstream file;
-  if (script) file = OpenInput(*script);
-  EditSession session(console, options);
-  if (keepsRecovery) session.KeepRecovery();
-  RunScript(session, script ? file : console.in, script ? script->string() : "standard input");
+void AddEdit(CLI::App& app, CommandContext& context) {
+  CLI::App* edit = AddCommand(app, context, "edit", "Edit an exam with a script");
+  const auto request = std::make_shared<EditRequest>();
+  edit->add_option("SCRIPT", request->script, "Script file (default: standard input)")->type_name("");
+  edit->add_flag("--recovery", request->keepsRecovery,
+                 "After each line, keep a copy of unsaved work in the application folder");
+  edit->footer("One command per line; # begins a comment; a text with blanks or escapes is a JSON string:\n" +
+               EditCommandHelp());
+  edit->callback([&context, request] { Edit(context.console, context.common, *request); });
 }
 
 }  // namespace quorvantis::cli

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/InputFile.h"
 #include "platform/StringTable.h"
@@ -9,9 +10,13 @@
 #include "text/Utf.h"
 
 namespace quorvantis::cli {
+namespace fs = std::filesystem;
 namespace {
 
-namespace fs = std::filesystem;
+struct ExportRequest {
+  fs::path exam;
+  fs::path target;
+};
 
 WordFormat FormatNamed(const fs::path& target) {
   const std::u16string extension = ExtensionOrPath(PathToText(target.extension()));
@@ -20,8 +25,6 @@ WordFormat FormatNamed(const fs::path& target) {
   if (extension == u"pdf") return WordFormat::Pdf;
   throw CommandError(target.string() + ": is no name of a document; let it end in .doc, .docx or .pdf");
 }
-
-}  // namespace
 
 void Export(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& target) {
   const WordFormat format = FormatNamed(target);
@@ -33,6 +36,20 @@ void Export(Console& console, const CommonOptions& options, const fs::path& exam
   }
   // The message names the one format that the window writes.
   if (format == WordFormat::Doc) session.dialogs.ShowDone(session.services.strings.Text(text_id::kExported));
+}
+
+}  // namespace
+
+void AddExport(CLI::App& app, CommandContext& context) {
+  CLI::App* command = AddCommand(app, context, "export", "Write an exam as a word-processor document");
+  const auto request = std::make_shared<ExportRequest>();
+  AddPath(*command, "EXAM", request->exam, "Exam file (.exm)");
+  AddPath(*command, "OUT", request->target, "Document to write: .doc, .docx or .pdf");
+  command->footer(
+      "The document has the title, the scores, and the questions with their options and typed answers.\n"
+      "Requires LibreOffice.");
+  command->callback(
+      [&context, request] { Export(context.console, context.common, request->exam, request->target); });
 }
 
 }  // namespace quorvantis::cli

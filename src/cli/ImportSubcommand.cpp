@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/EditSession.h"
 #include "cli/InputFile.h"
 #include "cli/LossMessages.h"
+#include "cli/RuleOptions.h"
 #include "cli/StudiedPaper.h"
 #include "examfile/ExamFileWriter.h"
 #include "import/ImportReport.h"
@@ -23,6 +25,23 @@ namespace quorvantis::cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The arguments of `import`.
+struct ImportRequest {
+  std::filesystem::path document;
+  std::filesystem::path target;
+  std::filesystem::path rules;  ///< "ImportExam.ini"
+  std::string repository;       ///< the beginning of its name, or "#" and the number of its section
+  std::filesystem::path into;   ///< the exam to continue; empty for a new one
+  int after = 0;                ///< the question after which to continue
+  std::string pictures;         ///< the answer to a question of the import, empty for none; likewise:
+  std::string formulas;
+  bool mendLineEnds = false;         ///< whether to give imported texts line ends that pages show whole
+  std::filesystem::path markedFile;  ///< for the marked text; empty for none
+  std::filesystem::path textFile;    ///< for the document's text
+  bool learns = false;               ///< whether to work out the rules from the paper
+  std::filesystem::path marks;       ///< what a teacher says of the paper, for that; empty for none
+};
 
 void WriteText(const fs::path& file, std::u16string_view text, PosixFiles& files) {
   if (file.empty()) return;
@@ -87,8 +106,6 @@ ImportReport RunImport(EditSession& session, const ImportRequest& request) {
   return report;
 }
 
-}  // namespace
-
 void Import(Console& console, const CommonOptions& options, const ImportRequest& request) {
   RefuseSameTarget({request.target, request.markedFile, request.textFile});
   for (const fs::path& target : {request.target, request.markedFile, request.textFile}) {
@@ -111,6 +128,57 @@ void Import(Console& console, const CommonOptions& options, const ImportRequest&
     console.out << Utf16ToUtf8(FillMessage(session.Texts().Text(text_id::kLearnOnCommandLine), {paper}))
                 << '\n';
   }
+}
+
+void AddLearning(CLI::App& command, ImportRequest& request) {
+  CLI::Option* rules = AddRulesFile(command, request.rules);
+  CLI::Option* name = AddRepositoryName(command, request.repository);
+  CLI::Option* learn =
+      command.add_flag("--learn", request.learns, "Work out the rules from the paper itself");
+  learn->excludes(rules)->excludes(name);
+  AddMarks(command, request.marks)->needs(learn);
+}
+
+void AddImportOptions(CLI::App& command, ImportRequest& request) {
+  const std::vector<std::string> answers{"give-up", "ignore", "force"};
+  AddLearning(command, request);
+  CLI::Option* into = command.add_option("--into", request.into, "Continue in this exam")->type_name("EXAM");
+  CLI::Option* after =
+      command.add_option("--after", request.after, "The question after which to continue, from 0")
+          ->type_name("N")
+          ->check(IsDecimal())
+          ->check(CLI::Range(0, kMaxQuestions - 1))
+          ->needs(into);
+  into->needs(after);
+  command.add_option("--answer-pictures", request.pictures, "What to do with pictures in answers")
+      ->type_name("X")
+      ->check(CLI::IsMember(answers));
+  command.add_option("--formulas", request.formulas, "What to do with formulas")
+      ->type_name("X")
+      ->check(CLI::IsMember(answers));
+  command.add_flag("--mend-line-ends", request.mendLineEnds,
+                   "End the lines of imported texts with CR LF, which pages show whole");
+  command.add_option("--marked", request.markedFile, "Also write the marked text")->type_name("FILE");
+  command.add_option("--text", request.textFile, "Also write the document's text")->type_name("FILE");
+}
+
+}  // namespace
+
+void AddImport(CLI::App& app, CommandContext& context) {
+  // clang-format mistakes a line that begins with "import" for a module import.
+  CLI::App* command = AddCommand(app, context, "import", "Make an exam from a question paper, by rules");
+  const auto request = std::make_shared<ImportRequest>();
+  AddPath(*command, "DOCUMENT", request->document, "Question paper: .doc, .docx, .odt, .rtf, .txt or .md");
+  AddPath(*command, "OUT", request->target, "Exam file to write");
+  AddImportOptions(*command, *request);
+  command->footer(
+      "X is give-up, ignore (leave out such questions) or force. Prints what was read, and what was not.\n" +
+      MarksHelp());
+  command->callback([&context, request] {
+    const bool hasRules = request->learns || !request->repository.empty();
+    if (!hasRules) throw CLI::RequiredError("--repository or --learn");
+    Import(context.console, context.common, *request);
+  });
 }
 
 }  // namespace quorvantis::cli

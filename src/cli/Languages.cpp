@@ -2,6 +2,7 @@
 #include "cli/Languages.h"
 
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
@@ -38,6 +39,17 @@ std::size_t Width(std::u16string_view text) {
          static_cast<std::size_t>(std::ranges::count_if(text, IsLowSurrogate));
 }
 
+void ListLanguages(Console& console, const CommonOptions& options) {
+  const LanguageList list = FindLanguages(options.appFolder);
+  std::size_t widest = 0;
+  for (std::size_t i = 0; i < list.Count(); ++i) widest = std::max(widest, Width(list.DisplayName(i)));
+  for (std::size_t i = 0; i < list.Count(); ++i) {
+    const std::u16string name = list.DisplayName(i);
+    console.out << FormatLanguageId(list.languageIds[i]) << "  " << Utf16ToUtf8(name)
+                << std::string(widest - Width(name) + 2, ' ') << list.languageFiles[i].string() << "\n";
+  }
+}
+
 }  // namespace
 
 std::unique_ptr<LanguageLibrary> LoadLanguage(const fs::path& applicationFolder, int languageId) {
@@ -50,15 +62,10 @@ std::unique_ptr<LanguageLibrary> LoadLanguage(const fs::path& applicationFolder,
                      "; \"quorvantis-cli languages\" lists those that there are");
 }
 
-void ListLanguages(Console& console, const CommonOptions& options) {
-  const LanguageList list = FindLanguages(options.appFolder);
-  std::size_t widest = 0;
-  for (std::size_t i = 0; i < list.Count(); ++i) widest = std::max(widest, Width(list.DisplayName(i)));
-  for (std::size_t i = 0; i < list.Count(); ++i) {
-    const std::u16string name = list.DisplayName(i);
-    console.out << FormatLanguageId(list.languageIds[i]) << "  " << Utf16ToUtf8(name)
-                << std::string(widest - Width(name) + 2, ' ') << list.languageFiles[i].string() << "\n";
-  }
+void AddLanguages(CLI::App& app, CommandContext& context) {
+  CLI::App* languages = AddCommand(app, context, "languages", "List the installed languages");
+  languages->footer("One line each: identifier, name, file.");
+  languages->callback([&context] { ListLanguages(context.console, context.common); });
 }
 
 }  // namespace quorvantis::cli

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/InputFile.h"
 #include "cli/JsonNode.h"
@@ -14,6 +15,17 @@
 
 namespace quorvantis::cli {
 namespace {
+
+/// The arguments of `match`: a pattern and a text, which is read from the console if none is given; or a file
+/// of patterns and texts.
+struct MatchRequest {
+  std::optional<std::string> pattern;
+  int flags = 3;
+  int start = -1;
+  std::optional<std::string> text;
+  std::optional<std::filesystem::path> textFile;
+  std::optional<std::filesystem::path> batch;  ///< a JSON object with a pattern and a text on each line
+};
 
 using Json = nlohmann::ordered_json;
 
@@ -84,8 +96,6 @@ std::string Subject(Console& console, const MatchRequest& request) {
   return {std::istreambuf_iterator<char>(console.in), std::istreambuf_iterator<char>()};
 }
 
-}  // namespace
-
 void Match(Console& console, const MatchRequest& request) {
   if (request.batch) {
     std::ifstream lines = OpenInput(*request.batch);
@@ -95,6 +105,36 @@ void Match(Console& console, const MatchRequest& request) {
   const std::u16string text = Utf8ToUtf16(Subject(console, request));
   console.out << Try(text, Utf8ToUtf16(request.pattern.value_or("")), request.flags, request.start).dump()
               << '\n';
+}
+
+}  // namespace
+
+void AddMatch(CLI::App& app, CommandContext& context) {
+  CLI::App* match = AddCommand(app, context, "match", "Try a pattern of import rules on a text");
+  const auto request = std::make_shared<MatchRequest>();
+  const auto add = [match](const char* name, auto& target, const char* description, const char* type) {
+    return match->add_option(name, target, description)->type_name(type);
+  };
+  CLI::Option* pattern = AddText(*match, "PATTERN", request->pattern, "Pattern to try", "");
+  add("--flags", request->flags,
+      "Sum of 1 single-line, 2 multi-line, 4 global, 8 ignore case,\n16 right-to-left, 32 extended; "
+      "default 3",
+      "N")
+      ->check(CLI::Range(0, 63));
+  add("--start", request->start, "Where the scan begins, in UTF-16 units", "N");
+  CLI::Option* text = AddText(*match, "--text", request->text, "Text to search", "TEXT");
+  CLI::Option* file =
+      add("--text-file", request->textFile, "File with the text (default: standard input)", "FILE");
+  CLI::Option* batch = add("--batch", request->batch,
+                           "File with a {\"pattern\": …, \"flags\": …, \"text\": …} on each line", "FILE");
+  text->excludes(file)->excludes(batch);
+  batch->excludes(file)->excludes(pattern);
+  context.mayBeEmpty.insert({pattern, text});
+  match->footer("Prints where the groups matched, in UTF-16 units, as one JSON object.");
+  match->callback([&context, request] {
+    if (!request->pattern && !request->batch) throw CLI::RequiredError("PATTERN or --batch");
+    Match(context.console, *request);
+  });
 }
 
 }  // namespace quorvantis::cli

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/LossMessages.h"
 #include "cli/UnseenEditor.h"
@@ -16,6 +17,11 @@
 
 namespace quorvantis::cli {
 namespace {
+
+struct RecoverRequest {
+  std::string copy;  ///< empty to list them
+  std::filesystem::path target;
+};
 
 /// As "2025-03-01T12:30:00Z".
 std::string TimeText(std::int64_t seconds) {
@@ -51,8 +57,6 @@ void Restore(ExamSession& session, const RecoveryCopy& copy, const std::filesyst
   }
 }
 
-}  // namespace
-
 void Recover(Console& console, CommonOptions options, const std::string& copy,
              const std::filesystem::path& target) {
   if (options.appFolder.empty()) options.appFolder = FindApplicationFolder();
@@ -68,6 +72,22 @@ void Recover(Console& console, CommonOptions options, const std::string& copy,
                        "; \"quorvantis-cli recover\" lists those that there are");
   }
   Restore(session, *wanted, target);
+}
+
+}  // namespace
+
+void AddRecover(CLI::App& app, CommandContext& context) {
+  CLI::App* recover = AddCommand(app, context, "recover", "List or save exams that an editor did not save");
+  const auto request = std::make_shared<RecoverRequest>();
+  CLI::Option* copy = recover->add_option("COPY", request->copy, "Copy to save, as listed")->type_name("");
+  CLI::Option* target =
+      recover->add_option("OUT", request->target, "Exam file to write; the copy is kept")->type_name("");
+  copy->needs(target);
+  recover->footer(
+      "Prints a line for each: name, time, number of questions, file and title, with tabs between them.\n"
+      "Without --app-folder, the folder is that of the window.");
+  recover->callback(
+      [&context, request] { Recover(context.console, context.common, request->copy, request->target); });
 }
 
 }  // namespace quorvantis::cli

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/InputFile.h"
 #include "cli/PrintedOverview.h"
 #include "cli/PrintedReading.h"
+#include "cli/RuleOptions.h"
 #include "cli/ScriptedImport.h"
 #include "cli/StudiedPaper.h"
 #include "cli/WhyUnreadable.h"
@@ -26,6 +28,22 @@ namespace quorvantis::cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The arguments of `rules learn`.
+struct LearnRequest {
+  std::filesystem::path paper;
+  std::filesystem::path marks;  ///< empty for none
+  std::string repository;       ///< the name; empty for that of the paper's file
+  std::filesystem::path rules;  ///< the file to add the rules to; empty to print them
+  std::filesystem::path text;   ///< for the paper's text; empty for none
+};
+
+/// The arguments of `rules check`.
+struct CheckRequest {
+  std::filesystem::path paper;
+  std::filesystem::path rules;  ///< "ImportExam.ini"
+  std::string repository;       ///< as in ImportRequest
+};
 
 Repository RepositoryOf(const LearnRequest& request, const PaperStudy& study) {
   const std::u16string name =
@@ -94,8 +112,6 @@ void PrintQuestions(ExamSession& session, const ReadPaper& paper) {
   PrintOverview(session.console.out, session.exam);
 }
 
-}  // namespace
-
 void LearnRepository(Console& console, const CommonOptions& options, const LearnRequest& request) {
   RefuseSameTarget({request.rules, request.text});
   for (const fs::path& target : {request.rules, request.text}) {
@@ -131,6 +147,44 @@ void CheckRepository(Console& console, const CommonOptions& options, const Check
   if (study.Explained() < kEnough)
     throw CommandError(request.paper.string() + ": the rules explain only " + explained);
   console.Tell(request.paper.string() + ": the rules explain " + explained);
+}
+
+void AddRulesLearn(CLI::App& rules, CommandContext& context) {
+  CLI::App* learn = AddCommand(rules, context, "learn", "Work out the rules of a question paper");
+  const auto request = std::make_shared<LearnRequest>();
+  AddPath(*learn, "PAPER", request->paper, "Question paper: .doc, .docx, .odt, .rtf, .txt or .md");
+  AddMarks(*learn, request->marks);
+  learn->add_option("--repository", request->repository, "The name of the rules (default: that of the paper)")
+      ->type_name("NAME");
+  learn->add_option("--ini", request->rules, "Add the rules to this file instead of printing them")
+      ->type_name("FILE");
+  learn->add_option("--text", request->text, "Also write the paper's text")->type_name("FILE");
+  learn->footer(
+      "Prints a whole file of rules; --ini adds them to those of a file.\n"
+      "Tells on standard error what was understood, and what to look at.\n" +
+      MarksHelp());
+  learn->callback([&context, request] { LearnRepository(context.console, context.common, *request); });
+}
+
+void AddRulesCheck(CLI::App& rules, CommandContext& context) {
+  CLI::App* check = AddCommand(rules, context, "check", "Show what rules make of a question paper");
+  const auto request = std::make_shared<CheckRequest>();
+  AddPath(*check, "PAPER", request->paper, "Question paper: .doc, .docx, .odt, .rtf, .txt or .md");
+  AddRepositoryName(*check, request->repository)->required();
+  AddRulesFile(*check, request->rules);
+  check->footer(
+      "Prints what each rule matches, the lines that nothing takes, and the questions.\n"
+      "Fails if less than 90 % of the text is explained.");
+  check->callback([&context, request] { CheckRepository(context.console, context.common, *request); });
+}
+
+}  // namespace
+
+void AddRules(CLI::App& app, CommandContext& context) {
+  CLI::App& rules =
+      AddCommandGroup(app, context, "rules", "Work out or check the rules for a question paper");
+  AddRulesLearn(rules, context);
+  AddRulesCheck(rules, context);
 }
 
 }  // namespace quorvantis::cli

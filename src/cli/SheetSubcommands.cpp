@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// pdf, key, and the sheets of print.
+// pdf and key: what is printed of an exam beside its pages.
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/InputFile.h"
 #include "cli/KindNames.h"
+#include "cli/SheetChoice.h"
 #include "platform/PageStore.h"
 #include "platform/programs/PdfProgram.h"
 #include "render/sheets/KeyTable.h"
@@ -20,27 +22,22 @@ namespace quorvantis::cli {
 namespace fs = std::filesystem;
 namespace {
 
+struct PdfRequest {
+  fs::path exam;
+  fs::path target;
+  SheetChoice sheet;
+};
+
+struct KeyRequest {
+  fs::path exam;
+  bool csv = false;
+};
+
 /// A key in one line between tabs.
 std::string InOneLine(const std::u16string& key) {
   std::u16string line = WithLineEnds(key, u" ");
   std::ranges::replace(line, u'\t', u' ');
   return Utf16ToUtf8(line);
-}
-
-}  // namespace
-
-void PrintSheet(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder,
-                const SheetChoice& choice) {
-  ExamSession::RequireReadable(exam);
-  CommonOptions inFolder = options;
-  inFolder.appFolder = folder;
-  ExamSession session(console, inFolder);
-  session.Load(exam);
-  session.exam.CountQuestions();
-  WriteSheet(session.exam,
-             {choice.sheet.value_or(Sheet::Paper), {}, choice.largePrint, IsRightToLeft(session.languageId)});
-  session.RequireWrittenPages();
-  session.RequireUnpacked(exam);
 }
 
 void MakePdf(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& target,
@@ -67,6 +64,30 @@ void PrintKey(Console& console, const CommonOptions& options, const fs::path& ex
     console.out << row.number << "\t" << KindName(row.kind) << "\t" << InOneLine(row.key) << "\t"
                 << (row.score ? Utf16ToUtf8(ShortScore(*row.score)) : std::string()) << "\n";
   }
+}
+
+}  // namespace
+
+void AddPdf(CLI::App& app, CommandContext& context) {
+  CLI::App* pdf = AddCommand(app, context, "pdf", "Make a PDF file of an exam: paper, key or answer sheet");
+  const auto request = std::make_shared<PdfRequest>();
+  AddPath(*pdf, "EXAM", request->exam, "Exam file (.exm)");
+  AddPath(*pdf, "OUT", request->target, "PDF file to write");
+  AddSheetChoice(*pdf, request->sheet, nullptr);
+  pdf->footer("Without a choice, the paper. Needs the program quorvantis-pdf, which comes with the window.");
+  pdf->callback([&context, request] {
+    MakePdf(context.console, context.common, request->exam, request->target, request->sheet);
+  });
+}
+
+void AddKey(CLI::App& app, CommandContext& context) {
+  CLI::App* key = AddCommand(app, context, "key", "Print the right answers of an exam");
+  const auto request = std::make_shared<KeyRequest>();
+  AddPath(*key, "EXAM", request->exam, "Exam file (.exm)");
+  key->add_flag("--csv", request->csv, "Print a table for spreadsheets");
+  key->footer("A line for each question: number, kind, key and score, with tabs between them.");
+  key->callback(
+      [&context, request] { PrintKey(context.console, context.common, request->exam, request->csv); });
 }
 
 }  // namespace quorvantis::cli

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/ExamJson.h"
 #include "cli/KindNames.h"
@@ -13,6 +14,16 @@
 
 namespace quorvantis::cli {
 namespace {
+
+enum class ShowForm { Text, Json, Table };
+
+struct ShowRequest {
+  std::filesystem::path exam;
+  bool json = false;
+  bool table = false;
+
+  ShowForm Form() const { return json ? ShowForm::Json : table ? ShowForm::Table : ShowForm::Text; }
+};
 
 constexpr std::string_view kIndent = "      ";
 
@@ -107,8 +118,6 @@ void PrintExam(std::ostream& out, const FrameSetExam& exam, const ExamReadOutcom
   }
 }
 
-}  // namespace
-
 void Show(Console& console, const CommonOptions& options, const std::filesystem::path& exam, ShowForm form) {
   ExamSession session(console, options);
   const ExamReadOutcome outcome = session.Load(exam);
@@ -123,6 +132,18 @@ void Show(Console& console, const CommonOptions& options, const std::filesystem:
       PrintExam(console.out, session.exam, outcome);
       break;
   }
+}
+
+}  // namespace
+
+void AddShow(CLI::App& app, CommandContext& context) {
+  CLI::App* show = AddCommand(app, context, "show", "List the content of an exam file");
+  const auto request = std::make_shared<ShowRequest>();
+  AddPath(*show, "EXAM", request->exam, "Exam file (.exm)");
+  CLI::Option* json = show->add_flag("--json", request->json, "Print one JSON object");
+  show->add_flag("--table", request->table, "Print a table with a line for each question")->excludes(json);
+  show->callback(
+      [&context, request] { Show(context.console, context.common, request->exam, request->Form()); });
 }
 
 }  // namespace quorvantis::cli

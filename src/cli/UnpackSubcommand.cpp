@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/ExamJson.h"
 #include "platform/FolderEntries.h"
@@ -10,6 +11,11 @@
 namespace quorvantis::cli {
 namespace fs = std::filesystem;
 namespace {
+
+struct UnpackRequest {
+  fs::path exam;
+  fs::path folder;
+};
 
 /// "question-007"
 std::string QuestionFolder(int number) {
@@ -45,8 +51,6 @@ void CopyAll(const fs::path& folder, const AttachmentList& names, const Attachme
   for (const ListedFile& file : ListedFiles(names, paths)) CopyInto(folder, file.path, files);
 }
 
-}  // namespace
-
 void Unpack(Console& console, const CommonOptions& options, const fs::path& exam, const fs::path& folder) {
   ExamSession session(console, options);
   session.Load(exam);
@@ -59,6 +63,18 @@ void Unpack(Console& console, const CommonOptions& options, const fs::path& exam
             session.services.files);
   }
   session.RequireUnpacked(exam);
+}
+
+}  // namespace
+
+void AddUnpack(CLI::App& app, CommandContext& context) {
+  CLI::App* unpack = AddCommand(app, context, "unpack", "Copy the attached files of an exam into a folder");
+  const auto request = std::make_shared<UnpackRequest>();
+  AddPath(*unpack, "EXAM", request->exam, "Exam file (.exm)");
+  AddPath(*unpack, "DIR", request->folder, "Target folder; created if missing");
+  unpack->footer("Files go to DIR/exam and DIR/question-007.");
+  unpack->callback(
+      [&context, request] { Unpack(context.console, context.common, request->exam, request->folder); });
 }
 
 }  // namespace quorvantis::cli

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
 #include "cli/Commands.h"
+#include "cli/VersionOptions.h"
 #include "host/PlanJson.h"
 #include "platform/TextNumbers.h"
 #include "platform/digest/OpenSslDigest.h"
@@ -22,6 +24,12 @@ namespace quorvantis::cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The arguments of `versions verify`.
+struct VerifyRequest {
+  fs::path folder;
+  fs::path source;  ///< the exam; empty for where the plan says it is
+};
 
 constexpr const char* kVersionWork = "versions-work";
 
@@ -65,8 +73,6 @@ std::u16string CountText(std::size_t count) {
   return FormatInteger(static_cast<std::int64_t>(count));
 }
 
-}  // namespace
-
 void MakeVersions(Console& console, const CommonOptions& options, MakeVersionsRequest request) {
   ExamSession::RequireReadable(request.exam);
   ExamSession session(console, options);
@@ -107,6 +113,41 @@ void VerifyVersions(Console& console, const CommonOptions& options, const fs::pa
                   {CountText(verified.record->plan.versions.size()), PathToText(folder)});
   console.out << Utf16ToUtf8(right) << "\n";
   for (const std::u16string& line : verified.notes) console.out << Utf16ToUtf8(line) << "\n";
+}
+
+void AddVersionsMake(CLI::App& versions, CommandContext& context) {
+  CLI::App* make = AddCommand(versions, context, "make", "Make shuffled versions of an exam with their keys");
+  const auto request = std::make_shared<MakeVersionsRequest>();
+  AddPath(*make, "EXAM", request->exam, "Exam file (.exm)");
+  AddVersionOptions(*make, *request);
+  make->footer(
+      "HOW is none, neighbours, within-kind, within-score or all; each question keeps its score.\n"
+      "The same exam, seed and options give the same versions everywhere. All is verified at the end.");
+  make->callback([&context, request] {
+    if (request->request.names.empty()) throw CLI::RequiredError("--count or --names");
+    MakeVersions(context.console, context.common, *request);
+  });
+}
+
+void AddVersionsVerify(CLI::App& versions, CommandContext& context) {
+  CLI::App* verify = AddCommand(versions, context, "verify", "Check versions and keys against their exam");
+  const auto request = std::make_shared<VerifyRequest>();
+  AddPath(*verify, "DIR", request->folder, "Folder of versions");
+  verify->add_option("--source", request->source, "The exam (default: where it was when they were made)")
+      ->type_name("EXAM");
+  verify->footer("Says which file differs, and where. Fails if a single byte has changed.");
+  verify->callback([&context, request] {
+    VerifyVersions(context.console, context.common, request->folder, request->source);
+  });
+}
+
+}  // namespace
+
+void AddVersions(CLI::App& app, CommandContext& context) {
+  CLI::App& versions =
+      AddCommandGroup(app, context, "versions", "Make or check shuffled versions of an exam");
+  AddVersionsMake(versions, context);
+  AddVersionsVerify(versions, context);
 }
 
 }  // namespace quorvantis::cli

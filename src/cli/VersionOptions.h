@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "versions/VersionRequest.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+
+namespace quorvantis::cli {
+
+/// The arguments of `versions make`.
+struct MakeVersionsRequest {
+  std::filesystem::path exam;
+  std::filesystem::path folder;  ///< empty for the usual one beside the exam
+  VersionRequest request;
+  bool hasSeed = false;  ///< otherwise a random one is taken
+  bool replaces = false;
+  bool printsSheets = true;
+};
+
+/// The options of `versions make`, from how many to what keeps its place.
+void AddVersionOptions(CLI::App& command, MakeVersionsRequest& request);
+
+}  // namespace quorvantis::cli
