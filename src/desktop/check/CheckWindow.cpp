@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/check/CheckWindow.h"
 
+#include "desktop/controls/CompanionWindow.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"
@@ -9,10 +10,8 @@
 #include "text/NumberText.h"
 
 #include <QBoxLayout>
-#include <QGuiApplication>
-#include <QKeyEvent>
+#include <QHideEvent>
 #include <QScopedValueRollback>
-#include <QScreen>
 
 #include <algorithm>
 
@@ -20,16 +19,6 @@ namespace quorvantis {
 namespace {
 
 constexpr QSize kFirstCheckSize(560, 460);  // pixels
-
-/// Beside the main window where there is room, else at the bottom of the screen.
-QPoint PlaceBesideMain(const QWidget& window, QSize size) {
-  const QRect screen = window.screen()->availableGeometry();
-  const QRect main = window.frameGeometry();
-  const int titleBar = main.height() - window.height();
-  if (screen.right() - main.right() >= size.width()) return {main.right() + 1, main.top()};
-  if (main.left() - screen.left() >= size.width()) return {main.left() - size.width(), main.top()};
-  return {screen.right() - size.width(), std::max(screen.top(), screen.bottom() - size.height() - titleBar)};
-}
 
 }  // namespace
 
@@ -158,16 +147,8 @@ void CheckWindow::IgnoreCurrent() {
   if (finding) checker_.Ignore(*finding, !checker_.Findings().at(*finding).isIgnored);
 }
 
-/// The shortcuts of the main window work here, too: saving, undoing, finding. But Page Up and Page Down
-/// belong to the list, and Alt with a letter would press buttons that are not in view.
 bool CheckWindow::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    const auto& key = static_cast<QKeyEvent&>(*event);
-    const bool isPageKey = key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
-    if (isPageKey || key.modifiers().testFlag(Qt::AltModifier)) event->accept();
-    return true;
-  }
-  return QDialog::event(event);
+  return DecideShortcut(*event) || QDialog::event(event);
 }
 
 void CheckWindow::hideEvent(QHideEvent* event) {
@@ -177,13 +158,9 @@ void CheckWindow::hideEvent(QHideEvent* event) {
 
 void CheckWindow::RestorePlace() {
   resize(kFirstCheckSize);
-  move(PlaceBesideMain(*parentWidget(), size()));
+  move(PlaceBeside(*parentWidget(), size()));
   const WindowPlace kept = place_.Read();
-  const QRect place(kept.x, kept.y, kept.width, kept.height);
-  const QScreen* screen = QGuiApplication::screenAt(place.center());
-  if (kept.width == 0 || screen == nullptr) return;
-  resize(place.size().boundedTo(screen->availableSize()));
-  move(place.topLeft());
+  ReturnToPlace(*this, {kept.x, kept.y, kept.width, kept.height});
 }
 
 void CheckWindow::KeepPlace() const {

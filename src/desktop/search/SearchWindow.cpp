@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/search/SearchWindow.h"
 
+#include "desktop/controls/CompanionWindow.h"
 #include "desktop/controls/QtText.h"
 #include "desktop/search/ReplaceAllDlg.h"
 #include "model/document/ExamServices.h"
@@ -9,10 +10,6 @@
 #include "shell/commands/ReplaceCommand.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
-
-#include <QGuiApplication>
-#include <QKeyEvent>
-#include <QScreen>
 
 #include <chrono>
 #include <utility>
@@ -29,20 +26,6 @@ constexpr auto kLongestOne = std::chrono::seconds(2);
 SearchCancelled AfterAWhile() {
   const auto end = std::chrono::steady_clock::now() + kLongestOne;
   return [end] { return std::chrono::steady_clock::now() > end; };
-}
-
-bool IsOnScreen(const QRect& place) {
-  return QGuiApplication::screenAt(place.center()) != nullptr;
-}
-
-/// Beside the main window where there is room, else at the bottom of the screen: a hit is best not covered.
-QPoint FirstPlace(const QWidget& window, QSize size) {
-  const QRect screen = window.screen()->availableGeometry();
-  const QRect main = window.frameGeometry();
-  const int titleBar = main.height() - window.height();
-  if (screen.right() - main.right() >= size.width()) return {main.right() + 1, main.top()};
-  if (main.left() - screen.left() >= size.width()) return {main.left() - size.width(), main.top()};
-  return {screen.right() - size.width(), screen.bottom() - size.height() - titleBar};
 }
 
 SearchSetting SettingOf(const ExamServices& services) {
@@ -136,12 +119,9 @@ void SearchWindow::Restore() {
   controls_.pattern->setChecked(switches.isPattern);
   controls_.matchCase->setChecked(switches.matchCase);
   controls_.wholeWords->setChecked(switches.wholeWords);
-  move(FirstPlace(*parentWidget(), size()));
+  move(PlaceBeside(*parentWidget(), size()));
   const WindowPlace kept = place_.Read();
-  const QRect place(kept.x, kept.y, kept.width, kept.height);
-  if (kept.width == 0 || !IsOnScreen(place)) return;
-  resize(place.size().boundedTo(QGuiApplication::screenAt(place.center())->availableSize()));
-  move(place.topLeft());
+  ReturnToPlace(*this, {kept.x, kept.y, kept.width, kept.height});
 }
 
 void SearchWindow::Remember() const {
@@ -150,16 +130,8 @@ void SearchWindow::Remember() const {
   place_.Write({x(), y(), width(), height()});
 }
 
-/// The shortcuts of the main window work here, too, since this is a tool of it: saving, undoing, finding. But
-/// Page Up and Page Down belong to the list, and Alt with a letter would press buttons that are not in view.
 bool SearchWindow::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    const auto& key = static_cast<QKeyEvent&>(*event);
-    const bool isPageKey = key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
-    if (isPageKey || key.modifiers().testFlag(Qt::AltModifier)) event->accept();
-    return true;
-  }
-  return QDialog::event(event);
+  return DecideShortcut(*event) || QDialog::event(event);
 }
 
 void SearchWindow::hideEvent(QHideEvent* event) {

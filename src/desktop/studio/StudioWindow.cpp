@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/studio/StudioWindow.h"
 
+#include "desktop/controls/CompanionWindow.h"
 #include "desktop/controls/QtText.h"
 #include "desktop/studio/MarksQuestion.h"
 #include "desktop/studio/SaveRulesDlg.h"
@@ -440,11 +441,7 @@ void StudioWindow::RestorePlace() {
   resize(kFirstStudioSize.boundedTo(parentWidget()->screen()->availableSize() - kFrame));
   controls_.sides->setSizes({width() / 2, width() / 2});
   const WindowPlace kept = place_.Read();
-  const QRect place(kept.x, kept.y, kept.width, kept.height);
-  const QScreen* screen = QGuiApplication::screenAt(place.center());
-  if (kept.width == 0 || screen == nullptr) return;
-  resize(place.size().boundedTo(screen->availableSize()));
-  move(place.topLeft());
+  if (!ReturnToPlace(*this, {kept.x, kept.y, kept.width, kept.height})) return;
   if (kept.columns.size() != kSideCount + QuestionListModel::kColumns) return;
   controls_.sides->setSizes({kept.columns[0], kept.columns[1]});
   for (int column = 0; column < QuestionListModel::kColumns; ++column)

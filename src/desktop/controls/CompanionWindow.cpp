@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/controls/CompanionWindow.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace quorvantis {
+
+QPoint PlaceBeside(const QWidget& main, QSize size) {
+  const QRect screen = main.screen()->availableGeometry();
+  const QRect frame = main.frameGeometry();
+  const int titleBar = frame.height() - main.height();
+  if (screen.right() - frame.right() >= size.width()) return {frame.right() + 1, frame.top()};
+  if (frame.left() - screen.left() >= size.width()) return {frame.left() - size.width(), frame.top()};
+  return {screen.right() - size.width(), std::max(screen.top(), screen.bottom() - size.height() - titleBar)};
+}
+
+bool ReturnToPlace(QWidget& window, const QRect& kept) {
+  const QScreen* screen = QGuiApplication::screenAt(kept.center());
+  if (kept.width() == 0 || screen == nullptr) return false;
+  window.resize(kept.size().boundedTo(screen->availableSize()));
+  window.move(kept.topLeft());
+  return true;
+}
+
+bool DecideShortcut(QEvent& event) {
+  if (event.type() != QEvent::ShortcutOverride) return false;
+  const auto& key = static_cast<QKeyEvent&>(event);
+  const bool isPageKey = key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown;
+  if (isPageKey || key.modifiers().testFlag(Qt::AltModifier)) event.accept();
+  return true;
+}
+
+}  // namespace quorvantis
