@@ -57,6 +57,13 @@ void RatioReporter::Finalize() {
   }
 }
 
+void RegisterTimed(const std::string& name, const std::function<void(benchmark::State&)>& run) {
+  benchmark::RegisterBenchmark(name.c_str(), run)
+      ->Unit(benchmark::kMillisecond)
+      ->MinTime(0.1)
+      ->Repetitions(9);
+}
+
 void RunComparisons(int argumentCount, char** arguments, std::vector<Comparison> comparisons) {
   const bool rowsOnly = TakeFlag(argumentCount, arguments, "--rows");
   benchmark::Initialize(&argumentCount, arguments);

@@ -3,6 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -44,6 +45,9 @@ class RatioReporter : public benchmark::ConsoleReporter {
   bool rowsOnly_;
   std::map<std::string, std::vector<double>> milliseconds_;
 };
+
+/// Registers an operation of the usual kind: some milliseconds long, timed nine times.
+void RegisterTimed(const std::string& name, const std::function<void(benchmark::State&)>& run);
 
 /// The main function of a benchmark program: runs what is registered and prints the comparisons. With --rows
 /// only the rows are printed, so that several programs make one table.

@@ -10,7 +10,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <functional>
 #include <memory>
 #include <random>
 #include <string>
@@ -89,22 +88,15 @@ void Peer(benchmark::State& state, const FrameSetExam& exam) {
   }
 }
 
-void Register(const std::string& name, const std::function<void(benchmark::State&)>& run) {
-  benchmark::RegisterBenchmark(name.c_str(), run)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(0.1)
-      ->Repetitions(9);
-}
-
 }  // namespace
 }  // namespace quorvantis::bench
 
 int main(int argumentCount, char** arguments) {
   using namespace quorvantis::bench;
-  Register("usual", [](benchmark::State& state) { Ours(state, UsualExam()); });
-  Register("full", [](benchmark::State& state) { Ours(state, FullExam()); });
-  Register("PCRE2", [](benchmark::State& state) { Peer(state, UsualExam()); });
-  Register("PCRE2, full", [](benchmark::State& state) { Peer(state, FullExam()); });
+  RegisterTimed("usual", [](benchmark::State& state) { Ours(state, UsualExam()); });
+  RegisterTimed("full", [](benchmark::State& state) { Ours(state, FullExam()); });
+  RegisterTimed("PCRE2", [](benchmark::State& state) { Peer(state, UsualExam()); });
+  RegisterTimed("PCRE2, full", [](benchmark::State& state) { Peer(state, FullExam()); });
   RunComparisons(argumentCount, arguments,
                  {{"check 500 questions", "usual", "PCRE2", 50.0, Measure::Milliseconds},
                   {"check 500 full questions / PCRE2, eight words", "full", "PCRE2, full", 8.0}});

@@ -113,11 +113,7 @@ void Standard(benchmark::State& state, const Rule& rule) {
 using Body = void (*)(benchmark::State&, const Rule&);
 
 void Register(const std::string& engine, const Rule& rule, Body body) {
-  const auto run = [body, &rule](benchmark::State& state) { body(state, rule); };
-  benchmark::RegisterBenchmark((engine + ", " + rule.name).c_str(), run)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(0.1)
-      ->Repetitions(9);
+  RegisterTimed(engine + ", " + rule.name, [body, &rule](benchmark::State& state) { body(state, rule); });
 }
 
 }  // namespace

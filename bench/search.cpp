@@ -100,29 +100,22 @@ void Pcre2(benchmark::State& state, const std::u16string& pattern) {
   });
 }
 
-void Register(const std::string& name, const std::function<void(benchmark::State&)>& run) {
-  benchmark::RegisterBenchmark(name.c_str(), run)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(0.1)
-      ->Repetitions(9);
-}
-
 }  // namespace
 }  // namespace quorvantis::bench
 
 int main(int argumentCount, char** arguments) {
   using namespace quorvantis;
   using namespace quorvantis::bench;
-  Register("its case", [](benchmark::State& state) { Ours(state, {u"powerhouse", false, true}); });
-  Register("any case", [](benchmark::State& state) { Ours(state, {u"Powerhouse"}); });
-  Register("a word", [](benchmark::State& state) { Ours(state, {u"the", false, false, true}); });
-  Register("one letter", [](benchmark::State& state) { Ours(state, {u"e"}); });
-  Register("pattern", [](benchmark::State& state) { Ours(state, {u"p(ow)er\\w+", true}); });
-  Register("std", [](benchmark::State& state) { Standard(state, u"powerhouse"); });
-  Register("std, letter", [](benchmark::State& state) { Standard(state, u"e"); });
-  Register("PCRE2", [](benchmark::State& state) { Pcre2(state, u"powerhouse"); });
-  Register("PCRE2, word", [](benchmark::State& state) { Pcre2(state, u"\\bthe\\b"); });
-  Register("PCRE2, pattern", [](benchmark::State& state) { Pcre2(state, u"p(ow)er\\w+"); });
+  RegisterTimed("its case", [](benchmark::State& state) { Ours(state, {u"powerhouse", false, true}); });
+  RegisterTimed("any case", [](benchmark::State& state) { Ours(state, {u"Powerhouse"}); });
+  RegisterTimed("a word", [](benchmark::State& state) { Ours(state, {u"the", false, false, true}); });
+  RegisterTimed("one letter", [](benchmark::State& state) { Ours(state, {u"e"}); });
+  RegisterTimed("pattern", [](benchmark::State& state) { Ours(state, {u"p(ow)er\\w+", true}); });
+  RegisterTimed("std", [](benchmark::State& state) { Standard(state, u"powerhouse"); });
+  RegisterTimed("std, letter", [](benchmark::State& state) { Standard(state, u"e"); });
+  RegisterTimed("PCRE2", [](benchmark::State& state) { Pcre2(state, u"powerhouse"); });
+  RegisterTimed("PCRE2, word", [](benchmark::State& state) { Pcre2(state, u"\\bthe\\b"); });
+  RegisterTimed("PCRE2, pattern", [](benchmark::State& state) { Pcre2(state, u"p(ow)er\\w+"); });
   RunComparisons(argumentCount, arguments,
                  {{"find in 500 full questions / u16string::find", "its case", "std", 1.0},
                   {"without regard to case / PCRE2", "any case", "PCRE2", 1.0},

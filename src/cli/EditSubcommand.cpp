@@ -5,6 +5,7 @@
 #include "cli/EditSession.h"
 #include "cli/InputFile.h"
 #include "examfile/ExamFileLayout.h"
+#include "text/Utf.h"
 
 #include <fstream>
 #include <istream>
@@ -14,11 +15,8 @@ namespace {
 
 struct EditRequest {
   std::filesystem::path script;  ///< empty for the console
-  bool keepsRecovery =
-      false;  ///< a copy in the application folder after each line that leaves something unsaved
+  bool keepsRecovery = false;    ///< a copy after each line that leaves something unsaved
 };
-
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 void RunScript(EditSession& session, std::istream& script, const std::string& name) {
   std::string line;

@@ -12,16 +12,6 @@ namespace quorvantis {
 namespace {
 
 constexpr std::size_t kHeadBytes = 65'536;
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
-bool IsUtf8(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const Utf8Step step = DecodeUtf8(bytes);
-    if (!step.valid) return false;
-    bytes.remove_prefix(step.length);
-  }
-  return true;
-}
 
 std::u16string DecodeUtf16(std::string_view bytes, bool bigEndian) {
   std::u16string text;

@@ -20,9 +20,6 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::string_view kMarkOfUtf8 =
-    "\xEF\xBB\xBF";  // without it, spreadsheets take UTF-8 for something else
-
 /// Reads the rows below the names.
 class TableRows {
  public:
@@ -144,7 +141,8 @@ std::string TableWriter::Write(const ExchangedExam& exam, const StringTable&, Pr
     }
     table += u"\r\n";
   }
-  return std::string(kMarkOfUtf8) + Utf16ToUtf8(table);
+  // Without the mark, spreadsheets take UTF-8 for something else.
+  return std::string(kUtf8Mark) + Utf16ToUtf8(table);
 }
 
 }  // namespace quorvantis

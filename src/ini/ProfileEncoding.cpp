@@ -9,18 +9,8 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view kLowByteFirstMark = "\xFF\xFE";
 constexpr std::string_view kHighByteFirstMark = "\xFE\xFF";
-
-bool IsUtf8(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const Utf8Step step = DecodeUtf8(bytes);
-    if (!step.valid) return false;
-    bytes.remove_prefix(step.length);
-  }
-  return true;
-}
 
 }  // namespace
 

@@ -107,4 +107,13 @@ std::u16string ReplaceLoneSurrogates(std::u16string_view text) {
   return Recode<std::u16string>(text);
 }
 
+bool IsUtf8(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const Utf8Step step = DecodeUtf8(bytes);
+    if (!step.valid) return false;
+    bytes.remove_prefix(step.length);
+  }
+  return true;
+}
+
 }  // namespace quorvantis

@@ -39,6 +39,12 @@ struct Utf8Step {
 /// values above 10FFFF are not valid.
 Utf8Step DecodeUtf8(std::string_view bytes);
 
+/// Whether all of `bytes` is valid.
+bool IsUtf8(std::string_view bytes);
+
+/// What programs put in front of a text to say that it is UTF-8.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
 /// The same text with every lone surrogate replaced by U+FFFD.
 std::u16string ReplaceLoneSurrogates(std::u16string_view text);
 

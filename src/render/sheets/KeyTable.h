@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/ExamPaper.h"
+#include "text/Utf.h"
 
 #include <optional>
 #include <string>
@@ -33,7 +34,7 @@ std::string KeyCsv(const std::vector<KeyRow>& rows);
 std::string CsvLine(const std::vector<std::u16string>& fields);
 
 /// What a file of such lines begins with: without it, spreadsheets take the bytes for an 8-bit code.
-inline constexpr std::string_view kCsvStart = "\xEF\xBB\xBF";
+inline constexpr std::string_view kCsvStart = kUtf8Mark;
 
 /// A score without needless zeros: "1", "2.5".
 std::u16string ShortScore(double score);
