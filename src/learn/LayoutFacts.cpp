@@ -104,7 +104,7 @@ class FactList {
     std::u16string example = label.prefix;
     if (!example.empty()) example += u' ';
     if (label.open != 0) example += label.open;
-    return example + FormatInteger(label.value) + label.close;
+    return example + label.section + FormatInteger(label.value) + label.close;
   }
 
   void AddOptions() {

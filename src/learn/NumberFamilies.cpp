@@ -98,9 +98,11 @@ class LabelReading {
   /// Behind "(B)", "(√)" or "( )"; `at` if there is none.
   std::size_t AfterBrackets(std::size_t at) const {
     constexpr std::size_t kLongestKey = 4;
+    constexpr std::size_t kMostBlanks = 16;
     if (at >= text_.size() || !Holds(u"(（[", text_[at])) return at;
     const std::size_t end = text_.find_first_of(u"()（）[]", at + 1);
-    return end != text_.npos && end - at <= kLongestKey && Holds(u")）]", text_[end]) ? end + 1 : at;
+    if (end == text_.npos || !Holds(u")）]", text_[end]) || end - at > kMostBlanks + kLongestKey) return at;
+    return Trimmed(text_, {at + 1, end}).Size() < kLongestKey ? end + 1 : at;
   }
 
   /// Behind "___" or "__B__"; `at` if there is none.
@@ -143,8 +145,21 @@ class LabelReading {
     std::size_t place = at;
     if (place < text_.size() && Holds(kOpens, text_[place])) label.open = text_[place++];
     place = SkipBlanks(text_, place, text_.size());
+    ReadSectioned(label, place);
     for (const Numeral& numeral : NumeralsAt(text_, place, mostDigits_))
       Add(label, numeral, place + numeral.size);
+  }
+
+  /// "2.3" numbers question 3 of section 2, unless it is an amount: then a family of such labels does not
+  /// rise.
+  void ReadSectioned(NumberLabel label, std::size_t place) {
+    constexpr int kMostSections = 2;
+    const SectionedNumeral number = SectionedNumeralAt(text_, place);
+    if (number.sections == 0 || number.sections > kMostSections) return;
+    label.section = text_.substr(place, number.last - place);
+    for (const Numeral& numeral : NumeralsAt(text_, number.last, kUsualDigits)) {
+      if (numeral.kind == NumeralKind::Decimal) Add(label, numeral, number.end);
+    }
   }
 
   void Add(NumberLabel label, const Numeral& numeral, std::size_t end) {
@@ -168,7 +183,7 @@ class LabelReading {
     const bool endsHere = at >= text_.size() || IsBlank(text_[at]);
     if (label.close.empty() && !isSymbol) {
       if (label.open != 0 || !endsHere) return;
-      label.isSpaced = label.prefix.empty();
+      label.isSpaced = label.prefix.empty() && label.section.empty();
     }
     if (IsDecimal(label.kind) && label.close == u"." && at < text_.size() && IsDigitUnit(text_[at])) return;
     label.hasTail = IsTail(text_.substr(at));
@@ -210,12 +225,16 @@ bool IsBeyondUsual(const NumberLabel& label) {
   return label.value > kLargestUsual;
 }
 
-using FamilyKey = std::tuple<std::u16string, bool, NumeralKind, bool>;
+std::ptrdiff_t SectionsOf(const NumberLabel& label) {
+  return std::ranges::count(label.section, u'.');
+}
+
+using FamilyKey = std::tuple<std::u16string, bool, NumeralKind, bool, std::ptrdiff_t>;
 
 FamilyKey KeyOf(const NumberLabel& label) {
   std::u16string prefix = AsciiLower(label.prefix);
   std::erase_if(prefix, IsBlank);
-  return {prefix, label.open != 0, label.kind, label.isSpaced};
+  return {prefix, label.open != 0, label.kind, label.isSpaced, SectionsOf(label)};
 }
 
 /// Whether numbers beyond three digits are those of questions: one follows on the other, behind many others.
@@ -245,6 +264,7 @@ NumberFamily FamilyOf(std::vector<NumberLabel> labels) {
     family.isBracketed = label.open != 0;
     if (label.open != 0) family.opens.insert(label.open);
     family.kind = label.kind;
+    family.sections = SectionsOf(label);
     family.isSpaced = label.isSpaced;
     family.isAfterKeys = family.isAfterKeys || label.isAfterKey;
     family.tails += label.hasTail ? 1 : 0;
@@ -286,7 +306,7 @@ double LikelinessOfNumbers(const NumberFamily& family) {
   const auto count = static_cast<double>(family.labels.size());
   const double run = count / (family.restarts + 1);
   constexpr double kShortRun = 5.5;
-  const double doubt = family.restarts >= 2 && run < kShortRun ? 0.3 : 1.0;
+  const double doubt = family.restarts >= 2 && run < kShortRun && family.sections == 0 ? 0.3 : 1.0;
   const double spaced = family.isSpaced ? 0.5 : 1.0;
   return count * family.rising * family.rising * doubt * spaced;
 }
@@ -325,10 +345,13 @@ std::u16string NumberFamily::Pattern() const {
   // A "!" before the label stays apart from the marker, which is made of "!".
   std::u16string pattern = u"(?<!!)\\s*^[ \\t\u00A0\u3000]*";
   if (isAfterKeys)
-    pattern += u"(?:(?:[(（\\[][^()（）\\[\\]\\r\\n]{0,3}[)）\\]]|_{2,}[A-Za-z]?_*|[" +
-               std::u16string(kBareKeys) + u"](?=[ \\t]))[ \\t\u3000]*)?";
+    pattern +=
+        u"(?:(?:[(（\\[][ \\t\u3000]{0,9}[^()（）\\[\\]\\r\\n]{0,3}[ "
+        u"\\t\u3000]{0,9}[)）\\]]|_{2,}[A-Za-z]?_*|[" +
+        std::u16string(kBareKeys) + u"](?=[ \\t]))[ \\t\u3000]*)?";
   if (!prefix.empty()) pattern += u"(?i:" + LiteralPattern(prefix) + u")[ \\t\u00A0\u3000]*";
   if (isBracketed) pattern += ClassPattern(opens) + u"[ \\t\u3000]*";
+  for (std::ptrdiff_t i = 0; i < sections; ++i) pattern += u"[0-9]{1,3}\\.";
   pattern += NumeralPattern(kind, mostDigits);
   if (isBracketed) pattern += u"[ \\t\u3000]*";
   if (isSpaced) return pattern + u"[ \\t\u00A0\u3000]+(?=\\S)";
@@ -337,6 +360,8 @@ std::u16string NumberFamily::Pattern() const {
   for (const std::u16string& close : closes) {
     if (close.size() == 1)
       units.insert(close[0]);
+    else if (close.empty() && sections > 0)
+      patterns.insert(u"(?=[ \\t\u00A0\u3000]|$)");
     else
       patterns.insert(LiteralPattern(close));
   }

@@ -4,6 +4,7 @@
 #include "import/labels/Numerals.h"
 #include "text/TextSpan.h"
 
+#include <cstddef>
 #include <set>
 #include <string>
 #include <string_view>
@@ -11,12 +12,13 @@
 
 namespace quorvantis {
 
-/// A label with a number at the beginning of a line: "1.", "(2)", "Question 3:", "第4题".
+/// A label with a number at the beginning of a line: "1.", "(2)", "Question 3:", "第4题", "1.5".
 struct NumberLabel {
   TextSpan place;  ///< from the beginning of its prefix to the end of its close
   int value = 0;
-  std::u16string prefix{};  ///< the words before the number, without blanks at their end
-  char16_t open = 0;        ///< a bracket before the number, or 0
+  std::u16string prefix{};   ///< the words before the number, without blanks at their end
+  char16_t open = 0;         ///< a bracket before the number, or 0
+  std::u16string section{};  ///< what precedes the number in "2.3" and "1.2.3": "2.", "1.2."
   NumeralKind kind = NumeralKind::Decimal;
   std::u16string close{};   ///< what follows the number directly; may be empty after a prefix or bracket
   bool isSpaced = false;    ///< nothing but a blank follows the number
@@ -29,6 +31,7 @@ struct NumberFamily {
   std::u16string prefix{};  ///< as it is written; the pattern takes it in any letter case
   bool isBracketed = false;
   std::set<char16_t> opens{};
+  std::ptrdiff_t sections = 0;  ///< how many numbers with dots precede each: 1 in "2.3"
   NumeralKind kind = NumeralKind::Decimal;
   std::set<std::u16string> closes{};
   bool isSpaced = false;

@@ -25,6 +25,7 @@ bool IsOfLetters(NumeralKind kind) {
 int NumberIn(std::u16string_view label) {
   for (std::size_t at = 0; at < label.size(); ++at) {
     for (const Numeral& numeral : NumeralsAt(label, at, kLongNumberDigits)) {
+      if (numeral.kind == NumeralKind::Decimal) return SectionedNumeralAt(label, at).value;
       if (!IsOfLetters(numeral.kind)) return numeral.value;
     }
   }

@@ -147,6 +147,21 @@ std::vector<Numeral> NumeralsAt(std::u16string_view text, std::size_t place, std
   return found;
 }
 
+SectionedNumeral SectionedNumeralAt(std::u16string_view text, std::size_t place) {
+  SectionedNumeral found;
+  Numeral numeral = NumeralAt(text, place, NumeralKind::Decimal, kLongNumberDigits);
+  while (numeral.size > 0) {
+    found.value = numeral.value;
+    found.last = place;
+    found.end = place + numeral.size;
+    if (found.end >= text.size() || text[found.end] != u'.') break;
+    place = found.end + 1;
+    numeral = NumeralAt(text, place, NumeralKind::Decimal, kLongNumberDigits);
+    found.sections += numeral.size > 0 ? 1 : 0;
+  }
+  return found;
+}
+
 int NumeralValue(std::u16string_view text) {
   for (const Numeral& numeral : NumeralsAt(text, 0)) {
     if (numeral.size == text.size()) return numeral.value;
@@ -166,6 +181,7 @@ int NumberInLabel(std::u16string_view label) {
       };
       const bool isInWord =
           (at > 0 && isLetter(label[at - 1])) || (end < label.size() && isLetter(label[end]));
+      if (numeral.kind == NumeralKind::Decimal) return SectionedNumeralAt(label, at).value;
       if (!isRoman || !isInWord) return numeral.value;
     }
   }

@@ -49,10 +49,21 @@ std::vector<Numeral> NumeralsAt(std::u16string_view text, std::size_t place,
 Numeral NumeralAt(std::u16string_view text, std::size_t place, NumeralKind kind,
                   std::size_t mostDigits = kUsualDigits);
 
+/// Numbers with dots between them, as in "2.3" and "1.2.3": the last counts, the others name the section.
+struct SectionedNumeral {
+  int sections = 0;      ///< how many numbers precede the last
+  int value = 0;         ///< the last number; 0 if there is none
+  std::size_t last = 0;  ///< where the last begins
+  std::size_t end = 0;
+};
+
+/// Such numbers of digits at `place`; one alone has no sections.
+SectionedNumeral SectionedNumeralAt(std::u16string_view text, std::size_t place);
+
 /// The value of digits of any kind, the whole text; 0 if it is no number.
 int NumeralValue(std::u16string_view text);
 
-/// The number in a label, of any size: 3 of "第3题" and of "Question 3"; 0 if there is none.
+/// The number in a label, of any size: 3 of "第3题", of "Question 3" and of "2.3"; 0 if there is none.
 int NumberInLabel(std::u16string_view label);
 
 /// A pattern of import rules that finds such numbers.

@@ -92,16 +92,16 @@ class LabelScan {
   /// A letter by itself, set off by a tab or by blanks.
   bool IsAlone(std::size_t at, std::size_t behind, char16_t before) const {
     if (StandsAlone(at)) return IsBlank(UnitAt(behind)) && (IsBlank(before) || BeginsLine(text_, at));
-    if (!BeginsLine(text_, at)) return IsLatinLabel(at) && UnitAt(behind) == u' ' && IsSetOff(at);
+    if (!BeginsLine(text_, at)) return IsLetterLabel(at) && UnitAt(behind) == u' ' && IsSetOff(at);
     return UnitAt(behind) == u'\t' || UnitAt(behind) == u'\u3000' ||
-           (UnitAt(behind) == u' ' && (UnitAt(behind + 1) == u' ' || IsLatinLabel(at)));
+           (UnitAt(behind) == u' ' && (UnitAt(behind + 1) == u' ' || IsLetterLabel(at)));
   }
 
   /// "a dog" at the beginning of a line, and what only a wide gap sets off within one.
   bool IsLoose(const OptionLabel& label) const {
     const std::size_t at = label.letter.begin;
-    if (label.close == 0 && label.open == 0 && IsLatinLabel(at))
-      return !label.beginsLine || (text_[at] >= u'a' && UnitAt(at + 1) == u' ');
+    if (label.close == 0 && label.open == 0 && IsLetterLabel(at))
+      return !label.beginsLine || (!IsLatinCapital(at) && UnitAt(label.letter.end) == u' ');
     return !label.beginsLine && label.open == 0 && label.close != 0 && Has(kWeakLabelCloses, label.close);
   }
 
@@ -125,8 +125,18 @@ class LabelScan {
         letters, [](const AlphabetLetter& letter) { return OptionAlphabets()[letter.alphabet].standsAlone; });
   }
 
+  bool IsLatinCapital(std::size_t at) const { return text_[at] >= u'A' && text_[at] <= u'J'; }
+
   /// "A Paris" at the start of a line may be a label, if "B Rome" follows; the sequence decides.
-  bool IsLatinLabel(std::size_t at) const { return (text_[at] | 0x20) >= u'a' && (text_[at] | 0x20) <= u'j'; }
+  bool IsLetterLabel(std::size_t at) const {
+    constexpr char16_t kFirstGreek = 0x0370;
+    if (text_[at] < kFirstGreek) return (text_[at] | 0x20) >= u'a' && (text_[at] | 0x20) <= u'j';
+    const std::vector<AlphabetLetter>& letters = AlphabetLettersOf(text_[at]);
+    return std::ranges::any_of(letters, [](const AlphabetLetter& letter) {
+      const OptionAlphabet& alphabet = OptionAlphabets()[letter.alphabet];
+      return !alphabet.isSymbol && !alphabet.numbersStatements;
+    });
+  }
 
   void TakeOpening(OptionLabel& label, char16_t before) const {
     label.open = before;

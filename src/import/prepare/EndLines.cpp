@@ -82,6 +82,9 @@ constexpr std::u16string_view kEndPhrases[] = {
     u"بالتوفيق للجميع",
     u"مع تمنياتي بالتوفيق",
     u"مع أطيب التمنيات بالتوفيق",
+    u"مع تمنياتنا لكم بالنجاح",
+    u"مع تمنياتي لكم بالنجاح",
+    u"مع تمنياتنا لكم بالتوفيق",
     u"انتهت الأسئلة",
     u"موفق باشید",
     u"בהצלחה",
@@ -123,6 +126,16 @@ bool IsEndLine(std::u16string_view line) {
   for (const std::u16string& word : words.Words()) joined += (joined.empty() ? u"" : u" ") + word;
   return words.Rest().find_first_of(u"_?？:：") == std::u16string::npos &&
          std::find(std::begin(kEndPhrases), std::end(kEndPhrases), joined) != std::end(kEndPhrases);
+}
+
+bool CanBeWish(std::u16string_view line) {
+  constexpr std::size_t kLongest = 80;
+  constexpr std::size_t kMostWords = 12;
+  line = Trimmed(line, {0, line.size()}).Of(line);
+  if (line.empty() || line.size() > kLongest) return false;
+  const LineWords words(line);
+  return !words.Words().empty() && words.Words().size() <= kMostWords && words.Numbers() == 0 &&
+         words.Rest().find_first_of(u"_…?？؟:：;[]()（）.。=") == std::u16string::npos;
 }
 
 }  // namespace quorvantis

@@ -10,7 +10,8 @@
 namespace quorvantis {
 namespace {
 
-/// Labels at the beginnings of lines, each the next letter of one alphabet, or looking like it.
+/// Labels at the beginnings of lines, or set off within them, each the next letter of one alphabet, or
+/// looking like it.
 struct LookAlikeRun {
   const OptionAlphabet* alphabet = nullptr;
   std::vector<LineLabel> labels;
@@ -28,6 +29,7 @@ class LetterMending {
     for (const TextSpan& line : LinesOf(text_, {0, text_.size()})) {
       if (const auto label = LineLabelOf(text_, line); label && label->letter.Size() == 1)
         labels_.push_back(*label);
+      AddSetOff(line);
     }
   }
 
@@ -41,6 +43,19 @@ class LetterMending {
   }
 
  private:
+  /// Labels behind wide gaps within the line; a letter without any mark is a word there.
+  void AddSetOff(TextSpan line) {
+    for (std::size_t at = SkipBlanks(text_, line.begin, line.end); at < line.end; ++at) {
+      if (!IsBlank(text_[at])) continue;
+      const std::size_t next = SkipBlanks(text_, at, line.end);
+      const bool isWide = next - at > 1 || text_[at] == u'\t' || text_[at] == u'\u3000';
+      at = next - 1;
+      if (!isWide) continue;
+      const auto label = LineLabelOf(text_, {next, line.end});
+      if (label && label->letter.Size() == 1 && !label->close.IsEmpty()) labels_.push_back(*label);
+    }
+  }
+
   char16_t LetterOf(const LineLabel& label) const { return text_[label.letter.begin]; }
   char16_t CloseOf(const LineLabel& label) const {
     return label.close.IsEmpty() ? u'\0' : text_[label.close.begin];

@@ -9,6 +9,7 @@
 #include "import/prepare/PaperOutline.h"
 #include "import/prepare/PaperRewrite.h"
 #include "import/prepare/PlatformLines.h"
+#include "import/prepare/PreparedLabels.h"
 #include "import/prepare/RuleMatches.h"
 #include "import/prepare/ScoreText.h"
 #include "import/prepare/Steps.h"
@@ -33,6 +34,7 @@ class NoiseSearch {
     FindPlatformLines();
     FindFields();
     FindEnds();
+    FindWishes();
     KeepOnlyTexts();
   }
 
@@ -168,13 +170,47 @@ class NoiseSearch {
     }
   }
 
+  /// What a blank line sets off behind the last option or answer of all, if no other question has the like.
+  void FindWishes() {
+    constexpr std::size_t kFewest = 3;
+    constexpr std::ptrdiff_t kMostLines = 2;
+    const auto& questions = outline_.questions;
+    if (questions.size() < kFewest || !questions.back().HasOptions()) return;
+    const auto hasTail = [this](const OutlinedQuestion& question) { return BehindBlank(question) != 0; };
+    if (std::any_of(questions.begin(), questions.end() - 1, hasTail)) return;
+    const std::size_t first = BehindBlank(questions.back());
+    if (first == 0) return;
+    const std::size_t last = LineAt(Trimmed(text_, questions.back().whole).end - 1);
+    std::ptrdiff_t lines = 0;
+    for (std::size_t i = first; i <= last; ++i) {
+      if (Content(i).empty()) continue;
+      if (isKept_[i] || !CanBeWish(Content(i)) || ++lines > kMostLines) return;
+    }
+    for (std::size_t i = first; i <= last; ++i) isNoise_[i] = true;
+  }
+
+  /// The first line behind a blank one within the last option or the answer; 0 if there is none.
+  std::size_t BehindBlank(const OutlinedQuestion& question) const {
+    if (!question.HasOptions()) return 0;
+    // A key that a step has put in stands behind all of it.
+    const bool isOwn = question.HasAnswer() &&
+                       question.answerLabel.Of(text_).find(kPreparedKey) == std::u16string_view::npos;
+    const TextSpan last = isOwn ? question.answer : question.options->labels.back().text;
+    if (last.IsEmpty()) return 0;
+    const std::size_t end = LineAt(last.end - 1);
+    for (std::size_t i = LineAt(last.begin) + 1; i < end; ++i) {
+      if (Content(i).empty()) return i + 1;
+    }
+    return 0;
+  }
+
   void FindEnd(TextSpan question) {
     const TextSpan kept = Trimmed(text_, question);
     if (kept.IsEmpty()) return;
     const std::size_t first = LineAt(kept.begin);
     for (std::size_t i = LineAt(kept.end - 1); i > first && !isKept_[i]; --i) {
       const std::u16string_view content = Content(i);
-      if (IsSeparatorLine(content) || IsSourceLine(content)) isNoise_[i] = true;
+      if (IsSeparatorLine(content) || IsSourceLine(content) || IsScoreSum(content)) isNoise_[i] = true;
       if (!content.empty() && !isNoise_[i]) break;
     }
   }

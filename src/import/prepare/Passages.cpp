@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
+#include "import/labels/Numerals.h"
 #include "import/prepare/PaperOutline.h"
 #include "import/prepare/PreparedLabels.h"
 #include "import/prepare/Steps.h"
@@ -10,12 +11,36 @@
 namespace quorvantis {
 namespace {
 
+/// Whether a text tells which questions are about it, from the next one on: "questions 3 to 5", "3～4题".
+bool AnnouncesQuestions(std::u16string_view text, int next) {
+  constexpr std::size_t kFarthest = 6;
+  constexpr int kMostQuestions = 20;
+  for (std::size_t at = 0; at < text.size();) {
+    const Numeral first = NumeralAt(text, at, NumeralKind::Decimal);
+    if (first.size == 0) {
+      ++at;
+      continue;
+    }
+    at += first.size;
+    if (first.value != next) continue;
+    for (std::size_t behind = at + 1; behind < std::min(text.size(), at + kFarthest); ++behind) {
+      const Numeral last = NumeralAt(text, behind, NumeralKind::Decimal);
+      if (last.size == 0) continue;
+      const bool isRange = text[at] != u'.' && last.value > next && last.value <= next + kMostQuestions;
+      if (isRange) return true;
+      break;
+    }
+  }
+  return false;
+}
+
 /// Finds what stands between the end of a question and the next one.
 class PassageSearch {
  public:
   PassageSearch(const PaperText& text, const PaperOutline& outline)
       : text_(text.characters), questions_(outline.questions) {
-    for (std::size_t i = 0; i + 1 < questions_.size(); ++i) tails_.push_back(TailOf(questions_[i]));
+    tails_.reserve(questions_.size());
+    for (std::size_t i = 0; i + 1 < questions_.size(); ++i) tails_.push_back(TailOf(i));
   }
 
   /// One for each question but the last; empty where nothing stands there.
@@ -23,13 +48,16 @@ class PassageSearch {
     // Where most questions have more lines, these belong to them.
     const auto tails = std::ranges::count_if(tails_, [](const TextSpan& tail) { return !tail.IsEmpty(); });
     const bool areUsual = static_cast<std::size_t>(tails) * 3 > tails_.size() && tails_.size() > 2;
-    if (areUsual) std::ranges::fill(tails_, TextSpan{});
+    for (std::size_t i = 0; areUsual && i < tails_.size(); ++i) {
+      if (!AnnouncesQuestions(tails_[i].Of(text_), questions_[i + 1].number)) tails_[i] = {};
+    }
     return tails_;
   }
 
  private:
   /// The lines behind that of the last option, or of the answer of a question with options.
-  TextSpan TailOf(const OutlinedQuestion& question) const {
+  TextSpan TailOf(std::size_t index) const {
+    const OutlinedQuestion& question = questions_[index];
     if (!question.options) return {};
     const OptionLabel& last = question.options->labels.back();
     std::size_t begin = LineEndAfter(text_, last.label.end);
@@ -42,7 +70,9 @@ class PassageSearch {
     }
     const TextSpan tail = Trimmed(text_, {std::min(begin, end), end});
     if (tail.IsEmpty()) return {};
-    return IsSetOff(begin, tail, question) ? tail : TextSpan{};
+    const bool isPassage =
+        IsSetOff(begin, tail, question) || AnnouncesQuestions(tail.Of(text_), questions_[index + 1].number);
+    return isPassage ? tail : TextSpan{};
   }
 
   bool HasPreparedKey(const OutlinedQuestion& question) const {

@@ -52,6 +52,16 @@ bool IsScoreText(std::u16string_view text) {
          std::ranges::all_of(words.Words(), isScore);
 }
 
+bool IsScoreSum(std::u16string_view line) {
+  constexpr std::size_t kLongest = 40;
+  constexpr int kMostOptions = 10;
+  if (line.size() < 3 || line.size() > kLongest || !IsMadeOf(line.substr(0, 1), u"([（")) return false;
+  if (!IsMadeOf(line.substr(line.size() - 1), u")]）") || !IsMadeOf(line, u"0123456789 ()[]（）xX×*+=/"))
+    return false;
+  const LineWords words(line);
+  return words.Numbers() > 1 || (words.Numbers() == 1 && words.Values()[0] > kMostOptions);
+}
+
 bool IsScoreField(std::u16string_view line) {
   constexpr std::size_t kLongest = 60;
   if (line.size() > kLongest) return false;

@@ -12,4 +12,8 @@ bool IsScoreText(std::u16string_view text);
 /// Whether a line is a field for a teacher to fill in: "____/5", "Marks: ______", "得分：", "评卷人".
 bool IsScoreField(std::u16string_view line);
 
+/// Whether a line says what several questions are worth together: "(8 x 2) (16)", "[20]". A smaller number
+/// alone may be the right option.
+bool IsScoreSum(std::u16string_view line);
+
 }  // namespace quorvantis

@@ -64,8 +64,9 @@ struct TableColumns {
   std::size_t firstOption = 0;
   std::size_t options = 0;
   std::optional<std::size_t> key;
-  std::size_t firstRow = 0;       ///< 1 with headings
+  std::size_t firstRow = 0;       ///< behind the headings
   bool areStemsNumbered = false;  ///< each stem begins with its number, which stays
+  bool areLists = false;          ///< the first option's column holds all of them in each cell
 };
 
 class RowReading {
@@ -92,7 +93,7 @@ class RowReading {
     constexpr std::size_t kFewestRows = 2;
     if (rows_.size() < kFewestRows || rows_.back().size() < 2) return std::nullopt;
     TableColumns columns;
-    columns.firstRow = NumberOfCell(Cell(0, 0)) > 0 || NumberBefore(Cell(0, 0)) > 0 ? 0 : 1;
+    columns.firstRow = FirstNumberedRow();
     const bool hasLetters = FindLetters(columns);
     if (HasNumbers(columns.firstRow)) {
       columns.number = 0;
@@ -104,19 +105,44 @@ class RowReading {
     }
     const std::size_t width = rows_.back().size();
     if (!hasLetters) columns.firstOption = columns.stem + 1;
-    FindKey(columns, hasLetters ? columns.firstOption + columns.options : width - 1, width);
-    if (!hasLetters) columns.options = columns.key.value_or(width) - columns.firstOption;
+    columns.areLists = !hasLetters && HoldsLists(columns);
+    if (columns.areLists) columns.options = 1;
+    const bool areCounted = hasLetters || columns.areLists;
+    FindKey(columns, areCounted ? columns.firstOption + columns.options : width - 1, width);
+    if (!areCounted) columns.options = columns.key.value_or(width) - columns.firstOption;
     return HasStems(columns) && HasFittingOptions(columns) ? std::optional(columns) : std::nullopt;
+  }
+
+  /// A title and a row of headings may precede it; without any number, the first row has the headings.
+  std::size_t FirstNumberedRow() const {
+    constexpr std::size_t kMostHeadings = 2;
+    for (std::size_t row = 0; row < std::min(rows_.size(), kMostHeadings + 1); ++row) {
+      if (NumberOfCell(Cell(row, 0)) > 0 || NumberBefore(Cell(row, 0)) > 0) return row;
+    }
+    return 1;
+  }
+
+  /// Whether most cells right of the stems hold the options of their rows, with labels.
+  bool HoldsLists(const TableColumns& columns) const {
+    std::size_t lists = 0;
+    for (std::size_t row = columns.firstRow; row < rows_.size(); ++row) {
+      if (columns.firstOption >= rows_[row].size()) continue;
+      const TextSpan cell = rows_[row][columns.firstOption];
+      const auto options = FindOptions(text_, cell);
+      if (options && options->labels.front().label.begin == cell.begin) ++lists;
+    }
+    return lists > 0 && lists * 4 >= (rows_.size() - columns.firstRow) * 3;
   }
 
   /// Headings A, B, C…; the stem is before them.
   bool FindLetters(TableColumns& columns) const {
     if (columns.firstRow == 0) return false;
+    const std::size_t row = columns.firstRow - 1;
     std::size_t first = 0;
-    while (first < rows_[0].size() && OptionOfHeading(Cell(0, first)) != 0) ++first;
-    if (first == 0 || first >= rows_[0].size()) return false;
+    while (first < rows_[row].size() && OptionOfHeading(Cell(row, first)) != 0) ++first;
+    if (first == 0 || first >= rows_[row].size()) return false;
     std::size_t count = 1;
-    while (OptionOfHeading(Cell(0, first + count)) == count) ++count;
+    while (OptionOfHeading(Cell(row, first + count)) == count) ++count;
     columns.stem = first - 1;
     columns.firstOption = first;
     columns.options = count;
@@ -150,7 +176,7 @@ class RowReading {
     if (column >= width || column <= columns.stem) return;
     std::size_t keys = 0;
     // What it is called says more than what it holds.
-    if (columns.firstRow > 0 && AnswerHeadingOf(Cell(0, column)) == AnswerHeading::Clear) {
+    if (columns.firstRow > 0 && AnswerHeadingOf(Cell(columns.firstRow - 1, column)) == AnswerHeading::Clear) {
       columns.key = column;
       return;
     }
@@ -176,7 +202,8 @@ class RowReading {
 
   /// A second column of long texts is one of answers, and what else there may be is not known.
   bool HasFittingOptions(const TableColumns& columns) const {
-    return columns.options == 0 || (columns.options >= 2 && columns.options <= kMostOptions);
+    return columns.areLists || columns.options == 0 ||
+           (columns.options >= 2 && columns.options <= kMostOptions);
   }
 
   void AddRow(const TableColumns& columns, std::size_t row, int count, std::vector<TableLine>& lines) const {
