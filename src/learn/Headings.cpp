@@ -95,8 +95,9 @@ std::optional<NumberLabel> SectionNumber(std::u16string_view line) {
 /// The lines behind the last option, or the answer, of one question.
 class TailReading {
  public:
-  TailReading(const PaperText& text, const OutlinedQuestion& question)
-      : text_(text), characters_(text.characters), question_(question) {}
+  /// `next`: the label of the next question, if there is one.
+  TailReading(const PaperText& text, const OutlinedQuestion& question, TextSpan next)
+      : text_(text), characters_(text.characters), question_(question), next_(Trimmed(characters_, next)) {}
 
   std::vector<HeadingLine> Headings() const {
     std::vector<HeadingLine> found;
@@ -139,7 +140,15 @@ class TailReading {
     constexpr std::size_t kLongestHeading = 120;
     if (line.size() > kLongestHeading) return false;
     return SectionWord(line) > 0 || SectionNumber(line).has_value() || TellsPoints(line) ||
-           IsAllCapitals(line) || IsEmphasised(span);
+           IsAllCapitals(line) || IsSectionOfNext(line) || IsEmphasised(span);
+  }
+
+  /// "2.2 Energy" before question 2.2.1.
+  bool IsSectionOfNext(std::u16string_view line) const {
+    const SectionedNumeral section = SectionedNumeralAt(line, 0);
+    if (section.value == 0 || section.end >= line.size()) return false;
+    if (!IsBlank(line[section.end]) && line[section.end] != u'.') return false;
+    return next_.Of(characters_).starts_with(std::u16string(line.substr(0, section.end)) + u".");
   }
 
   bool IsEmphasised(TextSpan span) const {
@@ -153,6 +162,7 @@ class TailReading {
   const PaperText& text_;
   std::u16string_view characters_;
   const OutlinedQuestion& question_;
+  TextSpan next_;
 };
 
 /// A line that begins like this one: short, for many of them must fit one rule.
@@ -166,8 +176,11 @@ std::u16string BeginningPattern(std::u16string_view line) {
 
 std::vector<HeadingLine> FindHeadings(const PaperText& text, const PaperOutline& outline) {
   std::vector<HeadingLine> found;
-  for (const OutlinedQuestion& question : outline.questions) {
-    for (HeadingLine& line : TailReading(text, question).Headings()) found.push_back(std::move(line));
+  const auto& questions = outline.questions;
+  for (std::size_t i = 0; i < questions.size(); ++i) {
+    const TextSpan next = i + 1 < questions.size() ? questions[i + 1].label : TextSpan{};
+    for (HeadingLine& line : TailReading(text, questions[i], next).Headings())
+      found.push_back(std::move(line));
   }
   return found;
 }

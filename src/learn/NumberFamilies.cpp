@@ -311,6 +311,23 @@ double LikelinessOfNumbers(const NumberFamily& family) {
   return count * family.rising * family.rising * doubt * spaced;
 }
 
+/// Whether a number goes on from the one before its place, and that behind it goes on from it.
+bool FillsGap(const NumberLabel& label, const NumberFamily& family) {
+  const auto behind = std::ranges::upper_bound(family.labels, label.place.begin, {},
+                                               [](const NumberLabel& one) { return one.place.begin; });
+  if (behind == family.labels.begin() || std::prev(behind)->value + 1 != label.value) return false;
+  return behind == family.labels.end() || behind->value == label.value + 1;
+}
+
+/// A number that is written like no other comes right behind the likeliest family, if it is missing there.
+void AddFillers(std::vector<NumberFamily> singles, std::vector<NumberFamily>& found) {
+  if (found.empty()) return;
+  std::erase_if(singles, [&found](const NumberFamily& single) {
+    return !FillsGap(single.labels.front(), found.front());
+  });
+  found.insert(found.begin() + 1, singles.begin(), singles.end());
+}
+
 }  // namespace
 
 std::vector<NumberLabel> NumberLabelsAt(std::u16string_view text, TextSpan line) {
@@ -329,15 +346,17 @@ std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text) {
     }
   }
   std::vector<NumberFamily> found;
+  std::vector<NumberFamily> singles;
   for (auto& [key, labels] : styles) {
     NumberFamily family = FamilyOf(std::move(labels));
     if (family.labels.empty()) continue;
     if (family.closes.size() > 1) AddByCloses(family, found);
     Judge(family);
     const bool isOnly = family.labels.front().value == 1 && lines.size() <= kFewLines;
-    if (family.labels.size() > 1 || isOnly) found.push_back(std::move(family));
+    (family.labels.size() > 1 || isOnly ? found : singles).push_back(std::move(family));
   }
   std::ranges::stable_sort(found, std::greater<>(), LikelinessOfNumbers);
+  AddFillers(std::move(singles), found);
   return found;
 }
 

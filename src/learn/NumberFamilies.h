@@ -50,7 +50,8 @@ struct NumberFamily {
 };
 
 /// All labels at beginnings of lines, grouped into families; those that look most like the numbers of
-/// questions come first. Families of a single label are left out, unless the text has few lines.
+/// questions come first. Families of a single label are left out, unless the text has few lines or the number
+/// is missing in the first family.
 std::vector<NumberFamily> FindNumberFamilies(std::u16string_view text);
 
 /// What can be read as a label at the beginning of the line, each way of reading it.

@@ -54,7 +54,7 @@ bool IsScoreText(std::u16string_view text) {
 
 bool IsScoreSum(std::u16string_view line) {
   constexpr std::size_t kLongest = 40;
-  constexpr int kMostOptions = 10;
+  constexpr int kMostOptions = 9;
   if (line.size() < 3 || line.size() > kLongest || !IsMadeOf(line.substr(0, 1), u"([（")) return false;
   if (!IsMadeOf(line.substr(line.size() - 1), u")]）") || !IsMadeOf(line, u"0123456789 ()[]（）xX×*+=/"))
     return false;
