@@ -46,20 +46,7 @@ void QuestionRule::Check(const CheckedExam& exam, FindingList& findings) const {
 }
 
 void TextRule::Check(const CheckedExam& exam, FindingList& findings) const {
-  const auto check = [&](const TextPlace& place, std::u16string_view text) {
-    if (!text.empty()) CheckText(place, text, findings);
-  };
-  check({}, exam.exam.title);
-  for (const CheckedQuestion& checked : exam.questions) {
-    const ExamQuestion& question = checked.question;
-    check({checked.number, ExamFieldName::QuestionText}, question.text);
-    if (checked.answer.options) {
-      for (unsigned i = 0; i < kOptionCount; ++i)
-        check({checked.number, ExamFieldName::Options, i}, question.options[i]);
-    }
-    if (checked.answer.fillIn) check({checked.number, ExamFieldName::FillInAnswer}, question.answerText);
-    if (checked.answer.essay) check({checked.number, ExamFieldName::EssayAnswer}, question.essayAnswer);
-  }
+  for (const CheckedText& text : exam.texts) CheckText(text, findings);
 }
 
 }  // namespace quorvantis

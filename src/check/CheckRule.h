@@ -60,15 +60,13 @@ class QuestionRule : public CheckRule {
   virtual void CheckQuestion(const CheckedQuestion& question, FindingList& findings) const = 0;
 };
 
-/// A rule that looks at one text after the other: the title, and of each question its text and the answers
-/// that belong to its kind.
+/// A rule that looks at one text after the other.
 class TextRule : public CheckRule {
  public:
   void Check(const CheckedExam& exam, FindingList& findings) const final;
 
  private:
-  /// `text` is not empty.
-  virtual void CheckText(const TextPlace& place, std::u16string_view text, FindingList& findings) const = 0;
+  virtual void CheckText(const CheckedText& text, FindingList& findings) const = 0;
 };
 
 }  // namespace quorvantis

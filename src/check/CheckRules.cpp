@@ -54,6 +54,8 @@ const CheckRuleRow kRows[] = {
     {"picture-without-words",   Severity::Hint,     text_id::kCheckPictureUntold,     kRule<PictureWithoutWords>},
     {"unbalanced-markup",       Severity::Doubtful, text_id::kCheckUnbalancedMarkup,  kRule<UnbalancedMarkup>},
     {"taken-for-markup",        Severity::Doubtful, text_id::kCheckTakenForMarkup,    kRule<TakenForMarkup>},
+    {"page-markup",             Severity::Wrong,    text_id::kCheckPageMarkup,        kRule<PageMarkup>},
+    {"swallowing-markup",       Severity::Wrong,    text_id::kCheckSwallowingMarkup,  kRule<SwallowingMarkup>},
     {"lost-character",          Severity::Wrong,    text_id::kCheckLostCharacter,     kRule<LostCharacter>},
     {"mixed-scripts",           Severity::Doubtful, text_id::kCheckMixedScripts,      kRule<MixedScripts>},
     {"plain-negation",          Severity::Hint,     text_id::kCheckPlainNegation,     kRule<PlainNegation>},

@@ -61,12 +61,36 @@ std::optional<std::size_t> CheckedQuestion::SingleKey() const {
 CheckedExam::CheckedExam(const FrameSetExam& document) : exam(document) {
   const int last = document.LastCountedQuestion();
   questions.reserve(static_cast<std::size_t>(last));
+  LookAtText({}, document.title);
   LookAtFiles(0, document.examAttachmentPaths, document.examAttachmentNames);
   for (int number = 1; number <= last; ++number) {
     const ExamQuestion& question = document.Question(number);
     questions.emplace_back(number, question);
+    LookAtTexts(questions.back());
     LookAtFiles(number, question.attachmentPaths, question.attachmentNames);
   }
+}
+
+void CheckedExam::LookAtTexts(const CheckedQuestion& checked) {
+  const ExamQuestion& question = checked.question;
+  LookAtText({checked.number, ExamFieldName::QuestionText}, question.text);
+  if (checked.answer.options) {
+    for (unsigned i = 0; i < kOptionCount; ++i)
+      LookAtText({checked.number, ExamFieldName::Options, i}, question.options[i]);
+  }
+  if (checked.answer.fillIn) LookAtText({checked.number, ExamFieldName::FillInAnswer}, question.answerText);
+  if (checked.answer.essay) LookAtText({checked.number, ExamFieldName::EssayAnswer}, question.essayAnswer);
+}
+
+void CheckedExam::LookAtText(const TextPlace& place, std::u16string_view text) {
+  if (text.empty()) return;
+  unsigned all = 0;
+  bool hasMarkup = false;
+  for (const char16_t unit : text) {
+    all |= unit;
+    hasMarkup |= unit == u'<';
+  }
+  texts.push_back({place, text, all < 0x80, hasMarkup ? FindMarkupFaults(text) : MarkupFaults()});
 }
 
 void CheckedExam::LookAtFiles(int question, const AttachmentList& paths, const AttachmentList& names) {

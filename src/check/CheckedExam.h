@@ -2,6 +2,7 @@
 #pragma once
 
 #include "check/FileContent.h"
+#include "check/Markup.h"
 #include "model/AnswerLetters.h"
 #include "model/FileKinds.h"
 #include "model/QuestionKinds.h"
@@ -45,6 +46,15 @@ class CheckedQuestion {
   std::optional<std::size_t> SingleKey() const;
 };
 
+/// A text that appears on pages, looked at once for all rules: the title, and of each question its text and
+/// the answers that belong to its kind.
+struct CheckedText {
+  TextPlace place;
+  std::u16string_view text;  ///< not empty
+  bool isAscii = true;
+  MarkupFaults markup;  ///< of a text without "<": none
+};
+
 /// An attached file, looked at once for all rules.
 struct CheckedFile {
   TextPlace place;      ///< of its name
@@ -62,11 +72,14 @@ class CheckedExam {
 
   const FrameSetExam& exam;
   std::vector<CheckedQuestion> questions;  ///< question n is at n - 1
+  std::vector<CheckedText> texts;          ///< the title first, then by question
   std::vector<CheckedFile> files;          ///< those of the exam as a whole first
 
   int LastQuestion() const { return static_cast<int>(questions.size()); }
 
  private:
+  void LookAtText(const TextPlace& place, std::u16string_view text);
+  void LookAtTexts(const CheckedQuestion& checked);
   void LookAtFiles(int question, const AttachmentList& paths, const AttachmentList& names);
 };
 

@@ -1,112 +1,102 @@
 // SPDX-License-Identifier: MIT
 #include "check/Markup.h"
 
-#include "text/AsciiCase.h"
+#include "check/MarkupReader.h"
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <map>
 #include <string>
 
 namespace quorvantis {
 namespace {
 
-constexpr std::array<std::u16string_view, 58> kPaired{
-    u"a",       u"abbr",    u"acronym",    u"address", u"article", u"audio",    u"b",      u"bdi",
-    u"bdo",     u"big",     u"blockquote", u"button",  u"center",  u"cite",     u"code",   u"del",
-    u"details", u"dfn",     u"div",        u"dl",      u"em",      u"font",     u"form",   u"h1",
-    u"h2",      u"h3",      u"h4",         u"h5",      u"h6",      u"i",        u"ins",    u"kbd",
-    u"label",   u"mark",    u"math",       u"ol",      u"pre",     u"q",        u"ruby",   u"s",
-    u"samp",    u"section", u"select",     u"small",   u"span",    u"strike",   u"strong", u"style",
-    u"sub",     u"summary", u"sup",        u"svg",     u"table",   u"textarea", u"tt",     u"u",
-    u"ul",      u"var"};
-constexpr std::array<std::u16string_view, 36> kSingle{
-    u"area",   u"body",   u"br",    u"caption", u"col", u"colgroup", u"dd",     u"dt",    u"embed",
-    u"head",   u"hr",     u"html",  u"iframe",  u"img", u"input",    u"li",     u"link",  u"meta",
-    u"object", u"option", u"p",     u"param",   u"rp",  u"rt",       u"source", u"tbody", u"td",
-    u"tfoot",  u"th",     u"thead", u"title",   u"tr",  u"track",    u"video",  u"wbr",   u"xmp"};
-constexpr std::array<std::u16string_view, 11> kEmphasis{u"b",  u"big", u"em",   u"font",   u"h1", u"h2",
-                                                        u"h3", u"i",   u"mark", u"strong", u"u"};
+// Elements with an end.
+constexpr std::array<std::string_view, 52> kPaired{
+    "a",          "abbr",   "acronym", "address", "article", "b",    "bdi",    "bdo",    "big",
+    "blockquote", "button", "center",  "cite",    "code",    "del",  "dfn",    "div",    "dl",
+    "em",         "font",   "form",    "h1",      "h2",      "h3",   "h4",     "h5",     "h6",
+    "i",          "ins",    "kbd",     "label",   "mark",    "math", "ol",     "pre",    "q",
+    "ruby",       "s",      "samp",    "section", "small",   "span", "strike", "strong", "sub",
+    "summary",    "sup",    "table",   "tt",      "u",       "ul",   "var"};
+constexpr std::array<std::string_view, 32> kSingle{
+    "area",   "body",  "br",    "caption", "col",    "colgroup", "dd",    "dt",    "embed", "head", "hr",
+    "html",   "img",   "input", "li",      "object", "option",   "p",     "param", "rp",    "rt",   "script",
+    "source", "style", "tbody", "td",      "tfoot",  "th",       "thead", "tr",    "track", "wbr"};
+// Without their end they hide whatever follows.
+constexpr std::array<std::string_view, 12> kHiding{"audio",    "canvas",   "datalist", "details",
+                                                   "dialog",   "iframe",   "select",   "svg",
+                                                   "template", "textarea", "video",    "xmp"};
+// They work on the page as a whole, wherever they stand.
+constexpr std::array<std::string_view, 7> kOfPage{"base", "frame",  "frameset", "link",
+                                                  "meta", "script", "style"};
+constexpr std::array<std::string_view, 11> kEmphasis{"b",  "big", "em",   "font",   "h1", "h2",
+                                                     "h3", "i",   "mark", "strong", "u"};
 
 template <std::size_t kSize>
-bool Has(const std::array<std::u16string_view, kSize>& names, std::u16string_view name) {
+bool Has(const std::array<std::string_view, kSize>& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-struct Tag {
-  TextSpan span;
-  std::u16string name;  ///< in lower case
-  bool isEnd = false;
-  bool isEmptyElement = false;  ///< "<b/>", which browsers take for "<b>", but authors for nothing to close
-};
-
-bool IsAsciiLetter(char16_t unit) {
-  return AsciiLower(unit) >= u'a' && AsciiLower(unit) <= u'z';
+/// "<body>" and "<html>" give what they say of themselves to those of the page.
+bool ChangesPage(const MarkupTag& tag) {
+  const bool isOfPage = tag.name == "body" || tag.name == "html";
+  return !tag.isEnd && (Has(kOfPage, tag.name) || (isOfPage && tag.hasAttributes));
 }
 
-/// Goes through what a browser takes for tags.
-class TagReader {
- public:
-  explicit TagReader(std::u16string_view text) : text_(text) {}
+/// Browsers take "<b/>" for "<b>", but authors for nothing to close. What hides the rest does so all the
+/// same, apart from "<svg/>".
+bool NeedsEnd(const MarkupTag& tag) {
+  if (Has(kHiding, tag.name)) return !tag.isEmptyElement || tag.name != "svg";
+  return !tag.isEmptyElement && Has(kPaired, tag.name);
+}
 
-  bool Next(Tag& tag) {
-    for (at_ = text_.find(u'<', at_); at_ < text_.size(); at_ = text_.find(u'<', at_ + 1)) {
-      if (!BeginsTag(at_)) continue;
-      tag = TagAt(at_);
-      at_ = tag.span.end;
-      return true;
+/// A tag of an element that is known and may stand by itself.
+bool IsComplete(const MarkupTag& tag) {
+  return Has(kSingle, tag.name) || Has(kPaired, tag.name) || Has(kHiding, tag.name);
+}
+
+/// Tags of one kind of element that are still without their ends.
+using OpenTags = std::map<std::string, std::vector<TextSpan>, std::less<>>;
+
+/// Takes what is left open at the end of a text: the first that hides the rest, and the others as unmatched.
+void TakeOpenTags(const OpenTags& open, MarkupFaults& faults) {
+  for (const auto& [name, tags] : open) {
+    if (!Has(kHiding, name)) {
+      faults.unmatched.insert(faults.unmatched.end(), tags.begin(), tags.end());
+    } else if (!tags.empty() && (!faults.swallowing || tags.front().begin < faults.swallowing->begin)) {
+      faults.swallowing = tags.front();
     }
-    return false;
   }
-
- private:
-  bool BeginsTag(std::size_t at) const {
-    const std::size_t name = at + (text_.substr(at).starts_with(u"</") ? 2 : 1);
-    return name < text_.size() && IsAsciiLetter(text_[name]);
-  }
-
-  Tag TagAt(std::size_t begin) const {
-    const bool isEnd = text_[begin + 1] == u'/';
-    const std::size_t nameBegin = begin + (isEnd ? 2 : 1);
-    const std::size_t nameEnd = std::min(text_.find_first_of(u" \t\r\n/>", nameBegin), text_.size());
-    const std::size_t close = std::min(text_.find(u'>', nameEnd), text_.size());
-    constexpr std::size_t kLongestName = 16;
-    const std::size_t length = std::min(nameEnd - nameBegin, kLongestName);
-    return {{begin, std::min(close + 1, text_.size())},
-            AsciiLower(text_.substr(nameBegin, length)),
-            isEnd,
-            close < text_.size() && text_[close - 1] == u'/'};
-  }
-
-  std::u16string_view text_;
-  std::size_t at_ = 0;
-};
+}
 
 }  // namespace
 
 MarkupFaults FindMarkupFaults(std::u16string_view text) {
   MarkupFaults faults;
-  std::array<std::vector<TextSpan>, kPaired.size()> open;  // of each element: "<b><i></b></i>" does no harm
-  TagReader tags(text);
-  for (Tag tag; tags.Next(tag);) {
-    const bool isClosed = text[tag.span.end - 1] == u'>';
-    const auto paired = std::find(kPaired.begin(), kPaired.end(), tag.name);
-    if (!isClosed || (paired == kPaired.end() && !Has(kSingle, tag.name))) {
-      faults.hidden.push_back(tag.span);
-    } else if (paired != kPaired.end() && !tag.isEmptyElement) {
-      std::vector<TextSpan>& ofName = open[static_cast<std::size_t>(paired - kPaired.begin())];
-      if (!tag.isEnd) {
-        ofName.push_back(tag.span);
-      } else if (ofName.empty()) {
-        faults.unmatched.push_back(tag.span);
-      } else {
-        ofName.pop_back();
-      }
+  OpenTags open;  // of each element by itself: "<b><i></b></i>" does no harm
+  MarkupReader tags(text);
+  while (const auto tag = tags.Next()) {
+    const bool swallows = tags.Swallower() == tag->span;
+    if (tag->isClosed && ChangesPage(*tag)) {
+      faults.changingPage.push_back(tag->span);
+    } else if (!tag->isClosed || (!NeedsEnd(*tag) && !IsComplete(*tag))) {
+      if (!swallows) faults.hidden.push_back(tag->span);
+    } else if (!tag->isEnd && NeedsEnd(*tag)) {
+      open[tag->name].push_back(tag->span);
+    } else if (tag->isEnd && NeedsEnd(*tag)) {
+      std::vector<TextSpan>& ofName = open[tag->name];
+      if (ofName.empty()) faults.unmatched.push_back(tag->span);
+      if (!ofName.empty()) ofName.pop_back();
     }
   }
-  for (const auto& ofName : open)
-    faults.unmatched.insert(faults.unmatched.end(), ofName.begin(), ofName.end());
+  faults.swallowing = tags.Swallower();
+  if (tags.Lost()) faults.hidden.push_back(*tags.Lost());
+  TakeOpenTags(open, faults);
   const auto isBefore = [](const TextSpan& a, const TextSpan& b) { return a.begin < b.begin; };
   std::sort(faults.unmatched.begin(), faults.unmatched.end(), isBefore);
+  std::sort(faults.hidden.begin(), faults.hidden.end(), isBefore);
   return faults;
 }
 
@@ -114,11 +104,11 @@ std::vector<TextSpan> EmphasisedParts(std::u16string_view text) {
   std::vector<TextSpan> parts;
   int depth = 0;
   std::size_t begin = 0;
-  TagReader tags(text);
-  for (Tag tag; tags.Next(tag);) {
-    if (!Has(kEmphasis, tag.name)) continue;
-    if (!tag.isEnd && depth++ == 0) begin = tag.span.end;
-    if (tag.isEnd && depth > 0 && --depth == 0) parts.push_back({begin, tag.span.begin});
+  MarkupReader tags(text);
+  while (const auto tag = tags.Next()) {
+    if (!Has(kEmphasis, tag->name)) continue;
+    if (!tag->isEnd && depth++ == 0) begin = tag->span.end;
+    if (tag->isEnd && depth > 0 && --depth == 0) parts.push_back({begin, tag->span.begin});
   }
   if (depth > 0) parts.push_back({begin, text.size()});
   return parts;

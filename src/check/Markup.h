@@ -3,6 +3,7 @@
 
 #include "text/TextSpan.h"
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -12,6 +13,8 @@ namespace quorvantis {
 struct MarkupFaults {
   std::vector<TextSpan> unmatched;  ///< tags of elements that need both, where one is missing
   std::vector<TextSpan> hidden;  ///< what looks like a tag and is none, and would not be shown: "<stdio.h>"
+  std::vector<TextSpan> changingPage;  ///< what changes the whole page: "<style>"
+  std::optional<TextSpan> swallowing;  ///< what hides the rest of the text: "<!--" without its end
 };
 
 /// Elements that a browser closes by itself ("p", "li", "td"…) need no end.

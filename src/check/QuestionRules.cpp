@@ -28,12 +28,13 @@ void SavingLosesWork::Check(const CheckedExam& exam, FindingList& findings) cons
   }
 }
 
-void TextNearLimit::CheckText(const TextPlace& place, std::u16string_view text, FindingList& findings) const {
+void TextNearLimit::CheckText(const CheckedText& checked, FindingList& findings) const {
   constexpr std::size_t kPart = 50;  // the last fiftieth counts as near
-  const std::size_t limit = FieldNamed(place.field).limit;
-  if (text.size() > limit || text.size() + limit / kPart < limit) return;
+  const std::size_t limit = FieldNamed(checked.place.field).limit;
+  const std::size_t size = checked.text.size();
+  if (size > limit || size + limit / kPart < limit) return;
   const auto digits = [](std::size_t number) { return FormatInteger(static_cast<std::int64_t>(number)); };
-  findings.AddIn(place, {digits(text.size()), digits(limit)});
+  findings.AddIn(checked.place, {digits(size), digits(limit)});
 }
 
 }  // namespace quorvantis

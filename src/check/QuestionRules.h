@@ -27,7 +27,7 @@ class SavingLosesWork : public CheckRule {
 /// A text that fills its field almost: its end may not have fitted when it was typed or pasted. Longer texts
 /// are left to the rule about losses.
 class TextNearLimit : public TextRule {
-  void CheckText(const TextPlace& place, std::u16string_view text, FindingList& findings) const override;
+  void CheckText(const CheckedText& text, FindingList& findings) const override;
 };
 
 }  // namespace quorvantis

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "check/TextRules.h"
 
-#include "check/Markup.h"
 #include "check/WordScripts.h"
 #include "text/Utf.h"
 
@@ -41,26 +40,35 @@ std::u16string Around(std::u16string_view text, std::size_t place) {
 
 }  // namespace
 
-void UnbalancedMarkup::CheckText(const TextPlace& place, std::u16string_view text,
-                                 FindingList& findings) const {
-  const std::vector<TextSpan> unmatched = FindMarkupFaults(text).unmatched;
-  if (!unmatched.empty()) findings.AddIn(place, {Quoted(text, unmatched.front())});
+void UnbalancedMarkup::CheckText(const CheckedText& text, FindingList& findings) const {
+  const std::vector<TextSpan>& unmatched = text.markup.unmatched;
+  if (!unmatched.empty()) findings.AddIn(text.place, {Quoted(text.text, unmatched.front())});
 }
 
-void TakenForMarkup::CheckText(const TextPlace& place, std::u16string_view text,
-                               FindingList& findings) const {
-  const std::vector<TextSpan> hidden = FindMarkupFaults(text).hidden;
-  if (!hidden.empty()) findings.AddIn(place, {Quoted(text, hidden.front())});
+void TakenForMarkup::CheckText(const CheckedText& text, FindingList& findings) const {
+  const std::vector<TextSpan>& hidden = text.markup.hidden;
+  if (!hidden.empty()) findings.AddIn(text.place, {Quoted(text.text, hidden.front())});
 }
 
-void LostCharacter::CheckText(const TextPlace& place, std::u16string_view text, FindingList& findings) const {
-  const std::size_t lost = FindLostCharacter(text);
-  if (lost < text.size()) findings.AddIn(place, {Around(text, lost)});
+void PageMarkup::CheckText(const CheckedText& text, FindingList& findings) const {
+  const std::vector<TextSpan>& changing = text.markup.changingPage;
+  if (!changing.empty()) findings.AddIn(text.place, {Quoted(text.text, changing.front())});
 }
 
-void MixedScripts::CheckText(const TextPlace& place, std::u16string_view text, FindingList& findings) const {
-  const auto word = FindMixedWord(text);
-  if (word) findings.AddIn(place, {Quoted(text, *word)});
+void SwallowingMarkup::CheckText(const CheckedText& text, FindingList& findings) const {
+  const std::optional<TextSpan>& swallowing = text.markup.swallowing;
+  if (swallowing) findings.AddIn(text.place, {Quoted(text.text, *swallowing)});
+}
+
+void LostCharacter::CheckText(const CheckedText& text, FindingList& findings) const {
+  const std::size_t lost = text.isAscii ? text.text.npos : FindLostCharacter(text.text);
+  if (lost < text.text.size()) findings.AddIn(text.place, {Around(text.text, lost)});
+}
+
+void MixedScripts::CheckText(const CheckedText& text, FindingList& findings) const {
+  if (text.isAscii) return;
+  const auto word = FindMixedWord(text.text);
+  if (word) findings.AddIn(text.place, {Quoted(text.text, *word)});
 }
 
 }  // namespace quorvantis

@@ -648,6 +648,8 @@ constexpr int kCheckTakenForMarkup = 1930;
 constexpr int kCheckLostCharacter = 1931;
 constexpr int kCheckMixedScripts = 1932;
 constexpr int kCheckPlainNegation = 1933;
+constexpr int kCheckPageMarkup = 1966;
+constexpr int kCheckSwallowingMarkup = 1967;
 
 // Where something was found, if not in the text of the question: %1 is one of the above
 constexpr int kCheckInTitle = 1940;

@@ -258,12 +258,52 @@ TEST(Markup, FindsWhatIsUnmatchedOrHidden) {
                       {u"a < b, 1<2", 0, 0},
                       {u"<font color='red'>x</font>", 0, 0},
                       {u"x<y and y>z", 0, 1},
+                      {u"<a title='1>0'>x</a>", 0, 0},
+                      {u"<!-- <b> -->c", 0, 0},
+                      {u"love</3 you", 0, 1},
+                      {u"<!doctype html><?xml x?>", 0, 0},
+                      {u"The <title>x</title>", 0, 2},
                       {u"<", 0, 0},
                       {u"</", 0, 0}};
   for (const Row& row : rows) {
     const MarkupFaults faults = FindMarkupFaults(row.text);
     EXPECT_EQ(faults.unmatched.size(), row.unmatched) << Utf16ToUtf8(row.text);
     EXPECT_EQ(faults.hidden.size(), row.hidden) << Utf16ToUtf8(row.text);
+    EXPECT_FALSE(faults.swallowing) << Utf16ToUtf8(row.text);
+    EXPECT_TRUE(faults.changingPage.empty()) << Utf16ToUtf8(row.text);
+  }
+}
+
+TEST(Markup, FindsWhatHarmsThePage) {
+  struct Row {
+    const char16_t *text, *changing, *swallowing;
+  };
+  const Row rows[] = {{u"<style>b{}</style> x", u"<style>", u""},
+                      {u"a <SCRIPT src='x'>'<b'</ScRipt > x", u"<SCRIPT src='x'>", u""},
+                      {u"<base href=x>", u"<base href=x>", u""},
+                      {u"<meta charset=x>", u"<meta charset=x>", u""},
+                      {u"<body lang=x>", u"<body lang=x>", u""},
+                      {u"<frameset>", u"<frameset>", u""},
+                      {u"<body><html>x</body>", u"", u""},
+                      {u"&lt;style> <stylus> </style>", u"", u""},
+                      {u"<!-- <style> --> x", u"", u""},
+                      {u"<style>b{} x", u"<style>", u"<style>"},
+                      {u"a <!-- b <i> - -> c", u"", u"<!--"},
+                      {u"<!--> x <!---> x <!-- --!> x <!---- -->", u"", u""},
+                      {u"x <title>y", u"", u"<title>"},
+                      {u"<textarea>y</text> </textareas>", u"", u"<textarea>"},
+                      {u"<textarea>y<b></TEXTAREA>", u"", u""},
+                      {u"<xmp><b></xmp> <plaintext>y</plaintext>", u"", u"<plaintext>"},
+                      {u"<iframe src=x/>y", u"", u"<iframe src=x/>"},
+                      {u"<svg/><details>x<select>y</select>", u"", u"<details>"},
+                      {u"<a href=\"x>y</a>", u"", u"<a href=\""},
+                      {u"<a href=it's>y</a> <a b='>' c = \">\">y</a>", u"", u""}};
+  for (const Row& row : rows) {
+    const MarkupFaults faults = FindMarkupFaults(row.text);
+    const auto quoted = [&row](const TextSpan& span) { return std::u16string(span.Of(row.text)); };
+    EXPECT_EQ(faults.changingPage.empty() ? u"" : quoted(faults.changingPage.front()), row.changing)
+        << Utf16ToUtf8(row.text);
+    EXPECT_EQ(faults.swallowing ? quoted(*faults.swallowing) : u"", row.swallowing) << Utf16ToUtf8(row.text);
   }
 }
 
@@ -283,6 +323,7 @@ TEST_F(ExamCheck, Characters) {
   Expect(Essay(u"Half \xD83D?", u"x"), {"lost-character"});
   Expect(Essay(u"Whole \U0001F600?", u"x"), {});
   Expect(Essay(u"Is <b>this closed?", u"x"), {"unbalanced-markup"});
+  Expect(Essay(u"Is <!-- this closed?", u"<style>x</style>"), {"page-markup", "swallowing-markup"});
   Expect(Choice(u"What does it need?", {u"<stdio.h>", u"none"}, u"a"), {"taken-for-markup"});
   EXPECT_EQ(Check()[0].place, (TextPlace{1, ExamFieldName::Options, 0}));
 }

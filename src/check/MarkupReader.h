@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "text/TextSpan.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// A tag as a browser sees it.
+struct MarkupTag {
+  TextSpan span;     ///< to the end of the text if it is not closed
+  std::string name;  ///< in lower case, cut after 16 letters
+  bool isEnd = false;
+  bool isClosed = true;         ///< has its ">"
+  bool isEmptyElement = false;  ///< "<b/>", which browsers take for "<b>", but authors for nothing to close
+  bool hasAttributes = false;
+};
+
+/// Goes through what a browser takes for tags in a text that authors wrote. Comments are skipped, and so is
+/// what stands within elements that hold no markup ("style", "textarea").
+class MarkupReader {
+ public:
+  /// `text` must outlive the reader.
+  explicit MarkupReader(std::u16string_view text) : text_(text) {}
+
+  /// The next tag; nothing at the end of the text.
+  std::optional<MarkupTag> Next();
+
+  /// What had no end and so took the rest of the text and what follows it on the page: a comment, an open
+  /// quotation mark within a tag, or an element without markup. Known once Next gave nothing.
+  const std::optional<TextSpan>& Swallower() const { return swallower_; }
+
+  /// The first sign of markup that is neither a tag nor a comment that an author could have meant: "</3>".
+  const std::optional<TextSpan>& Lost() const { return lost_; }
+
+ private:
+  bool Skips(std::size_t begin);
+  void SkipComment(std::size_t begin);
+  void SkipDeclaration(std::size_t begin);
+  void SkipContent(const MarkupTag& tag);
+  MarkupTag TagAt(std::size_t begin);
+  std::size_t EndOfAttributes(std::size_t at, MarkupTag& tag);
+  void Swallow(const TextSpan& by);
+
+  std::u16string_view text_;
+  std::size_t at_ = 0;
+  std::optional<TextSpan> swallower_;
+  std::optional<TextSpan> lost_;
+};
+
+}  // namespace quorvantis
