@@ -47,7 +47,7 @@ void MakePdf(Console& console, const CommonOptions& options, const fs::path& exa
   session.Load(exam);  // tells what is missing from it
   PaperJob job{exam, target, choice.sheet.value_or(Sheet::Paper)};
   job.largePrint = choice.largePrint;
-  PdfProgram program(PdfProgram::Find(), options.language.value_or(0));
+  PdfProgram program(PdfProgram::Find(), options.language.value_or(0), options.appFolder);
   if (const auto problem = program.Print({&job, 1}, session.services.progress)) throw CommandError(*problem);
 }
 

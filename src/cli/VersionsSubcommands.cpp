@@ -43,7 +43,7 @@ std::uint64_t RandomSeed() {
 /// What versions need on this machine.
 struct VersionTools {
   explicit VersionTools(const CommonOptions& options)
-      : printer(PdfProgram::Find(), options.language.value_or(0)) {}
+      : printer(PdfProgram::Find(), options.language.value_or(0), options.appFolder) {}
 
   OpenSslDigest digest;
   PlanJson form{digest};

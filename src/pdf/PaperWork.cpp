@@ -6,6 +6,7 @@
 #include "platform/posix/ApplicationFolder.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
 #include "preview/PreviewSetup.h"
+#include "preview/SheetLayout.h"
 #include "render/sheets/ReadingDirection.h"
 #include "render/sheets/SheetPages.h"
 #include "shell/language/LanguageId.h"
@@ -25,12 +26,13 @@ namespace fs = std::filesystem;
 constexpr std::chrono::seconds kBetweenSigns{5};
 
 /// Null, for the built-in texts, if there is none.
-std::unique_ptr<LanguageLibrary> LoadLanguageOf(int languageId) {
+std::unique_ptr<LanguageLibrary> LoadLanguageOf(const PaperOrder& order) {
   const fs::path beside = ExecutableFolder();
+  const fs::path& own = order.applicationFolder.empty() ? beside : order.applicationFolder;
   DynamicLanguageLibraries libraries;
   std::error_code error;
-  const LanguageList list = ScanLanguageLibraries(LanguageFolder(beside, beside), libraries, error);
-  const auto index = list.IndexOf(languageId);
+  const LanguageList list = ScanLanguageLibraries(LanguageFolder(own, beside), libraries, error);
+  const auto index = list.IndexOf(order.languageId);
   return index ? libraries.Load(list.languageFiles[*index]) : nullptr;
 }
 
@@ -45,7 +47,7 @@ void Tell(std::string line) {
 PaperWork::PaperWork(PaperOrder order)
     : order_(std::move(order)),
       host_(order_.folder, order_.languageId, false, {language_, dialogs_, progress_, longAnswerFlags_}) {
-  if (order_.languageId != 0) language_.Use(LoadLanguageOf(order_.languageId));
+  if (order_.languageId != 0) language_.Use(LoadLanguageOf(order_));
   browser_ =
       std::make_unique<SheetBrowser>(SetUpGateway(order_.folder, host_.Services().strings, host_.Pages()));
   connect(browser_.get(), &SheetBrowser::Printed, this, &PaperWork::Finish);
@@ -58,8 +60,8 @@ PaperWork::PaperWork(PaperOrder order)
 PaperWork::~PaperWork() = default;
 
 void PaperWork::Next() {
-  if (next_ == order_.jobs.size()) return QCoreApplication::exit(0);
-  Start(order_.jobs[next_++]);
+  if (next_ < order_.jobs.size()) return Start(order_.jobs[next_++]);
+  if (DeliverFilledUp()) QCoreApplication::exit(0);
 }
 
 void PaperWork::Start(const PaperJob& job) {
@@ -75,16 +77,39 @@ void PaperWork::Start(const PaperJob& job) {
   const bool languageIsRightToLeft = IsRightToLeft(order_.languageId);
   const fs::path page =
       WriteSheet(exam, {job.sheet, {job.version, job.code}, job.largePrint, languageIsRightToLeft});
-  browser_->Print({page, Draft(), job.pages, RunsRightToLeft(exam, languageIsRightToLeft)});
+  draft_ = {order_.folder / ("draft-" + std::to_string(next_) + ".pdf"), &job,
+            RunsRightToLeft(exam, languageIsRightToLeft)};
+  browser_->Print({page, draft_.file});
 }
 
 void PaperWork::Finish(bool succeeded) {
-  const PaperJob& job = order_.jobs[next_ - 1];
-  if (!succeeded) return Fail(job.target.string() + ": the browser could not print the page");
-  if (const std::error_code failure = CopyWholeFile(host_.Services().files, Draft(), job.target))
-    return Fail(job.target.string() + ": cannot be written: " + failure.message());
+  if (!succeeded) return Fail(draft_.job->target.string() + ": the browser could not print the page");
+  if (draft_.job->isFilledUp)
+    filledUp_.push_back(draft_);
+  else if (!Deliver(draft_, 0))
+    return;
   Tell(std::string(kJobDone));
   Next();
+}
+
+/// Puts the file in its place, with at least so many pages.
+bool PaperWork::Deliver(const Draft& draft, int pages) {
+  const std::string target = draft.job->target.string();
+  if (!NumberSheets(draft.file, draft.isRightToLeft, pages)) {
+    Fail(target + ": " + draft.file.string() + " cannot be written");
+    return false;
+  }
+  const std::error_code failure = CopyWholeFile(host_.Services().files, draft.file, draft.job->target);
+  if (failure) Fail(target + ": cannot be written: " + failure.message());
+  std::error_code ignored;
+  fs::remove(draft.file, ignored);
+  return !failure;
+}
+
+bool PaperWork::DeliverFilledUp() {
+  int most = 0;
+  for (const Draft& draft : filledUp_) most = std::max(most, CountSheets(draft.file));
+  return std::ranges::all_of(filledUp_, [&](const Draft& draft) { return Deliver(draft, most); });
 }
 
 void PaperWork::Fail(const std::string& why) {

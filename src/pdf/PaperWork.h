@@ -14,11 +14,12 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace quorvantis {
 
 /// Does the jobs of an order one after the other, in the event loop, and tells of each on standard output;
-/// then ends the program.
+/// then ends the program. Files that are filled up to the length of the longest are delivered at the end.
 class PaperWork : public QObject {
  public:
   explicit PaperWork(PaperOrder order);
@@ -27,11 +28,19 @@ class PaperWork : public QObject {
   void Begin() { Next(); }
 
  private:
+  /// What the browser has printed for a job, without numbers of pages.
+  struct Draft {
+    std::filesystem::path file;
+    const PaperJob* job = nullptr;
+    bool isRightToLeft = false;  ///< decides where the numbers stand
+  };
+
   void Next();
   void Start(const PaperJob& job);
   void Finish(bool succeeded);
   void Fail(const std::string& why);
-  std::filesystem::path Draft() const { return order_.folder / "draft.pdf"; }
+  bool Deliver(const Draft& draft, int pages);
+  bool DeliverFilledUp();
 
   struct Silence : Progress {
     void Report(std::uint64_t, std::uint64_t) override {}
@@ -39,6 +48,8 @@ class PaperWork : public QObject {
 
   const PaperOrder order_;
   std::size_t next_ = 0;  ///< the job to start next
+  Draft draft_;           ///< of the last job that was started
+  std::vector<Draft> filledUp_;
   LanguageInUse language_;
   NoDialogs dialogs_;
   Silence progress_;

@@ -2,38 +2,17 @@
 #include "pdf/SheetBrowser.h"
 
 #include "platform/convert/Later.h"
-#include "platform/pdf/PdfPageNumbers.h"
 #include "preview/BrowserEngine.h"
 #include "preview/PageAddress.h"
 #include "preview/PageScripts.h"
 #include "preview/SheetLayout.h"
 
 #include <QFile>
-#include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 
 #include <utility>
 
 namespace quorvantis {
-namespace {
-
-QString BlankPagesScript(int count) {
-  return QStringLiteral(
-             "for (let i = 0; i < %1; ++i) {"
-             "  const blank = document.createElement('div');"
-             "  blank.style.breakBefore = 'page';"
-             "  blank.style.height = '1px';"
-             "  document.body.append(blank);"
-             "}")
-      .arg(count);
-}
-
-QByteArray BytesOf(const std::filesystem::path& file) {
-  QFile in(file);
-  return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
-}
-
-}  // namespace
 
 SheetBrowser::Paper::Paper(SheetBrowser& browser)
     : page(&browser.profile_, nullptr), printer(view, page, browser.gateway_, [&browser](QPrinter& chosen) {
@@ -51,7 +30,6 @@ SheetBrowser::SheetBrowser(const GatewaySetup& setup) : gateway_(setup) {
 /// Each page gets a browser page of its own: nothing of the last one can be in its way.
 void SheetBrowser::Print(Order order) {
   order_ = std::move(order);
-  isFilled_ = false;
   paper_ = std::make_unique<Paper>(*this);
   connect(&paper_->printer, &PagePrinter::Printed, this, &SheetBrowser::Finish);
   connect(&paper_->page, &QWebEnginePage::renderProcessTerminated, this, [this] { emit Printed(false); });
@@ -69,21 +47,7 @@ bool SheetBrowser::ChoosePrinter(QPrinter& printer) const {
 
 /// The browser is still in its signal.
 void SheetBrowser::Finish(bool succeeded) {
-  Later(*this, {}, [this, succeeded] {
-    if (succeeded && AddBlankPages()) return;
-    emit Printed(succeeded && NumberSheets(order_.file, order_.isRightToLeft));
-  });
-}
-
-/// Prints again if there are too few pages.
-bool SheetBrowser::AddBlankPages() {
-  const QByteArray pdf = BytesOf(order_.file);
-  const int count = CountPdfPages({pdf.data(), static_cast<std::size_t>(pdf.size())}).value_or(0);
-  if (count >= order_.pages || std::exchange(isFilled_, true)) return false;
-  paper_->page.runJavaScript(
-      BlankPagesScript(order_.pages - count), QWebEngineScript::ApplicationWorld,
-      [this](const QVariant&) { Later(*this, {}, [this] { paper_->printer.Print(); }); });
-  return true;
+  Later(*this, {}, [this, succeeded] { emit Printed(succeeded); });
 }
 
 }  // namespace quorvantis

@@ -24,8 +24,6 @@ class SheetBrowser : public QObject {
   struct Order {
     std::filesystem::path page;  ///< a composed page
     std::filesystem::path file;  ///< the PDF file to write
-    int pages;                   ///< blank pages are added until there are so many
-    bool isRightToLeft;          ///< decides where the numbers of the pages stand
   };
 
   /// The pages of `setup` must outlive this.
@@ -51,13 +49,11 @@ class SheetBrowser : public QObject {
 
   bool ChoosePrinter(QPrinter& printer) const;
   void Finish(bool succeeded);
-  bool AddBlankPages();
 
   RequestGuard guard_;
   ExamGateway gateway_;
   QWebEngineProfile profile_;
-  Order order_{};
-  bool isFilled_ = false;  ///< blank pages have been added
+  Order order_;
   std::unique_ptr<Paper> paper_;
 };
 

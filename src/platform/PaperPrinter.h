@@ -19,7 +19,8 @@ struct PaperJob {
   std::u16string version{};  ///< see SheetHead; plain texts
   std::u16string code{};
   bool largePrint = false;
-  int pages = 0;  ///< blank pages are added until there are so many; 0 for none
+  /// Blank pages are added until it has as many as the longest of the jobs so marked.
+  bool isFilledUp = false;
 };
 
 /// Makes PDF files of exams without a window.

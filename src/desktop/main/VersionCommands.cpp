@@ -27,7 +27,7 @@ MadeVersions MakeThem(const ExamServices& services, int languageId, const Versio
                       Progress& progress) {
   const OpenSslDigest digest;
   const PlanJson form(digest);
-  PdfProgram printer(PdfProgram::Find(), languageId);
+  PdfProgram printer(PdfProgram::Find(), languageId, services.applicationFolder);
   PopplerPdfText pdfText;
   const VersionPorts ports{digest, form, &printer, &pdfText};
   const ExamServices own = ServicesWith(services, progress);

@@ -10,6 +10,7 @@
 
 #include <exception>
 #include <memory>
+#include <vector>
 
 namespace quorvantis {
 namespace {
@@ -76,6 +77,26 @@ std::optional<int> CountPdfPages(std::string_view bytes) {
     QPDF pdf;
     Open(pdf, bytes);
     return static_cast<int>(QPDFPageDocumentHelper(pdf).getAllPages().size());
+  } catch (const std::exception&) {
+    return std::nullopt;
+  }
+}
+
+std::optional<std::string> WithBlankPages(std::string_view bytes, int pages) {
+  try {
+    QPDF pdf;
+    Open(pdf, bytes);
+    QPDFPageDocumentHelper document(pdf);
+    std::vector<QPDFPageObjectHelper> all = document.getAllPages();
+    if (all.empty()) return std::nullopt;
+    QPDFObjectHandle paper = all.back().getMediaBox(true);
+    for (auto count = static_cast<int>(all.size()); count < pages; ++count) {
+      QPDFObjectHandle blank = QPDFObjectHandle::parse("<< /Type /Page /Resources << >> >>");
+      blank.replaceKey("/MediaBox", paper.shallowCopy());
+      blank.replaceKey("/Contents", pdf.newStream(""));
+      document.addPage(QPDFPageObjectHelper(pdf.makeIndirectObject(blank)), false);
+    }
+    return Written(pdf);
   } catch (const std::exception&) {
     return std::nullopt;
   }

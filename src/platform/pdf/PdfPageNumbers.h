@@ -11,6 +11,10 @@ namespace quorvantis {
 /// The number of pages of a PDF file; nothing for bytes that are none.
 std::optional<int> CountPdfPages(std::string_view pdf);
 
+/// The file with empty pages like its last one at the end, so that there are `pages`. Nothing if it is no PDF
+/// file or has no page.
+std::optional<std::string> WithBlankPages(std::string_view pdf, int pages);
+
 /// Where the numbers stand: at the end of the line of the foot, by the direction of the page.
 enum class NumberCorner { BottomRight, BottomLeft };
 

@@ -13,8 +13,9 @@ namespace quorvantis {
 
 /// What the program is started with.
 struct PaperOrder {
-  std::filesystem::path folder;  ///< for its work files; exists and belongs to it alone
-  int languageId;                ///< of the texts on the pages; 0 for the built-in ones
+  std::filesystem::path folder;             ///< for its work files; exists and belongs to it alone
+  std::filesystem::path applicationFolder;  ///< it may have languages; empty if there is none
+  int languageId;                           ///< of the texts on the pages; 0 for the built-in ones
   std::vector<PaperJob> jobs;
 };
 

@@ -82,7 +82,9 @@ std::optional<std::string> PdfProgram::Print(std::span<const PaperJob> jobs, Pro
            " is not installed beside this program, which was built without the window";
   }
   const PrivateFolder folder;
-  PaperOrder paper{folder.Path() / "work", languageId_, {}};
+  PaperOrder paper{folder.Path() / "work", {}, languageId_, {}};
+  if (!applicationFolder_.empty())
+    paper.applicationFolder = fs::absolute(applicationFolder_).lexically_normal();
   fs::create_directory(paper.folder);
   for (const PaperJob& job : jobs) paper.jobs.push_back(WithFullPaths(job));
   ChildOrder order{program_, PaperArguments(paper), folder.Path()};

@@ -44,6 +44,15 @@ TEST(PdfPageNumbers, ChangeNoPageAndNoCount) {
   EXPECT_EQ(WithPageNumbers(pdf, {NumberCorner::BottomRight, 40, 35}), numbered);  // the same each time
 }
 
+TEST(PdfPageNumbers, BlankPagesAreCounted) {
+  const auto filled = WithBlankPages(PdfOf(2), 5);
+  ASSERT_TRUE(filled);
+  EXPECT_EQ(CountPdfPages(*filled), 5);
+  EXPECT_EQ(CountPdfPages(WithPageNumbers(*filled, {}).value_or("")), 5);
+  EXPECT_EQ(CountPdfPages(WithBlankPages(PdfOf(2), 1).value_or("")), 2);
+  EXPECT_FALSE(WithBlankPages("no PDF file", 2));
+}
+
 TEST(PdfPageNumbers, DamagedFilesAreNoTrouble) {
   const std::string pdf = PdfOf(2);
   for (std::size_t i = 0; i < pdf.size(); ++i) {

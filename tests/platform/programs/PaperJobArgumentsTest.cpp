@@ -7,10 +7,10 @@ namespace quorvantis::test {
 namespace {
 
 TEST(PaperJobArguments, BringEveryJobOver) {
-  PaperOrder order{"/tmp/a b", 0x0401, {}};
+  PaperOrder order{"/tmp/a b", "/app", 0x0401, {}};
   for (int i = 0; i < 8; ++i) {
     order.jobs.push_back({"/exam " + std::to_string(i), "/out", static_cast<Sheet>(i % 4),
-                          i == 3 ? u"" : u"\u4E00", u"--x", i % 2 == 1, i});
+                          i == 3 ? u"" : u"\u4E00", u"--x", i % 2 == 1, i < 4});
   }
   std::vector<std::string> arguments = PaperArguments(order);
   const auto again = PaperOrderOf(arguments);
