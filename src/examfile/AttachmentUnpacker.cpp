@@ -11,12 +11,13 @@
 namespace quorvantis {
 
 AttachmentUnpacker::AttachmentUnpacker(ByteSource& source, FieldReader& fields, const ExamFileForm& form,
-                                       FrameSetExam& exam, const ExamServices& services)
+                                       FrameSetExam& exam, const ExamServices& services, AttachmentSink* sink)
     : source_(source),
       fields_(fields),
       form_(form),
       exam_(exam),
       progress_(services.progress),
+      sink_(sink),
       freeNames_(WorkFolder(exam, services.applicationFolder)) {}
 
 int AttachmentUnpacker::ReadCount() {
@@ -33,6 +34,22 @@ bool AttachmentUnpacker::ReadEntry(AttachmentEntry& entry, bool withOralFlag) {
 
 void AttachmentUnpacker::Skip(std::int64_t size) {
   if (size > 0) source_.Take(static_cast<std::uint64_t>(size), nullptr);
+}
+
+/// Empty if nothing is unpacked.
+std::filesystem::path AttachmentUnpacker::TargetOf(const AttachmentEntry& entry) {
+  return sink_ == nullptr ? freeNames_.PathFor(FileNameOf(entry.name)) : std::filesystem::path();
+}
+
+/// Takes the content of a file to where it is wanted. False if it could not be unpacked.
+bool AttachmentUnpacker::Keep(const AttachmentEntry& entry, const std::filesystem::path& target, int question,
+                              unsigned slot) {
+  if (sink_ == nullptr) return Unpack(target, entry.size);
+  sink_->Begin(question, slot, entry.name);
+  if (entry.size <= 0) return true;
+  source_.Take(static_cast<std::uint64_t>(entry.size),
+               [this](std::string_view bytes) { sink_->Content(bytes); });
+  return true;
 }
 
 /// Writes the next `size` bytes to a new file; without content no file is created. False if the file could
@@ -71,10 +88,10 @@ void AttachmentUnpacker::ExtractExamAttachments() {
       Skip(entry.size);
       continue;
     }
-    const auto target = freeNames_.PathFor(FileNameOf(entry.name));
+    const std::filesystem::path target = TargetOf(entry);
     exam_.examAttachmentPaths[slot] = PathToText(target);
     exam_.examAttachmentNames[slot] = entry.name;
-    unpacking = Unpack(target, entry.size);
+    unpacking = Keep(entry, target, 0, static_cast<unsigned>(slot));
   }
 }
 
@@ -97,10 +114,10 @@ void AttachmentUnpacker::ExtractQuestionAttachments(int question) {
       Skip(entry.size);
       continue;
     }
-    const auto path = freeNames_.PathFor(FileNameOf(entry.name));
+    const std::filesystem::path path = TargetOf(entry);
     target.attachmentPaths[slot] = PathToText(path);
     target.attachmentNames[slot] = entry.name;
-    Unpack(path, entry.size);
+    Keep(entry, path, question, static_cast<unsigned>(slot));
   }
 }
 

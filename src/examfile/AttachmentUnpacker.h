@@ -2,10 +2,13 @@
 #pragma once
 
 #include "examfile/AttachmentName.h"
+#include "examfile/AttachmentSink.h"
 #include "examfile/ExamFileFields.h"
 #include "examfile/ExamFileForm.h"
 #include "examfile/ExamFileReader.h"
 #include "model/document/ExamServices.h"
+
+#include <filesystem>
 
 namespace quorvantis {
 
@@ -14,9 +17,10 @@ namespace quorvantis {
 /// is followed and no file is executable.
 class AttachmentUnpacker {
  public:
-  /// All must outlive the unpacker.
+  /// All must outlive the unpacker. With a `sink` nothing is unpacked: the sink gets the content of the
+  /// files, and the document their names without paths.
   AttachmentUnpacker(ByteSource& source, FieldReader& fields, const ExamFileForm& form, FrameSetExam& exam,
-                     const ExamServices& services);
+                     const ExamServices& services, AttachmentSink* sink = nullptr);
 
   /// The exam-level section with its count. After a file that cannot be created no more are unpacked, but
   /// their bytes are skipped, so that the questions after them are found.
@@ -34,6 +38,8 @@ class AttachmentUnpacker {
  private:
   int ReadCount();
   bool ReadEntry(AttachmentEntry& entry, bool withOralFlag);
+  std::filesystem::path TargetOf(const AttachmentEntry& entry);
+  bool Keep(const AttachmentEntry& entry, const std::filesystem::path& target, int question, unsigned slot);
   bool Unpack(const std::filesystem::path& target, std::int64_t size);
   void Skip(std::int64_t size);
   void NotePassedOver(int question);
@@ -43,6 +49,7 @@ class AttachmentUnpacker {
   ExamFileForm form_;
   FrameSetExam& exam_;
   Progress& progress_;
+  AttachmentSink* sink_;
   FreeNames freeNames_;
   int filesNotCreated_ = 0;
   PassedOver passedOver_;

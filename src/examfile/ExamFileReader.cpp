@@ -27,12 +27,13 @@ void CleanByKind(ExamQuestion& question) {
 /// Reads one file; lives only as long as that takes.
 class Reading {
  public:
-  Reading(FrameSetExam& exam, const ExamServices& services, ByteSource& source, const ExamFileForm& form)
+  Reading(FrameSetExam& exam, const ExamServices& services, ByteSource& source, const ExamFileForm& form,
+          AttachmentSink* sink)
       : exam_(exam),
         source_(source),
         form_(form),
         fields_(source, form.encoding, services.codePage),
-        unpacker_(source, fields_, form, exam, services) {}
+        unpacker_(source, fields_, form, exam, services, sink) {}
 
   void ReadExam(ExamReadOutcome& outcome) {
     VisitHeader(*form_.version, exam_, fields_);
@@ -85,6 +86,14 @@ class Reading {
 
 }  // namespace
 
+ReadDoubt DoubtOf(const ExamReadOutcome& outcome, const FrameSetExam& exam) {
+  const bool isUntagged = outcome.form.version == &kUntaggedVersion;
+  if (outcome.opened && isUntagged && (outcome.endsEarly || exam.questionCount == 0))
+    return ReadDoubt::NoExam;
+  if (!outcome.opened || outcome.endsEarly) return ReadDoubt::ReadInPart;
+  return outcome.passedOver.IsAnything() ? ReadDoubt::PassedOver : ReadDoubt::None;
+}
+
 bool ExamFileReader::HasTag(const ExamFileVersion& version) {
   return IsOpen() && EncodingByTag(source_, version).has_value();
 }
@@ -94,14 +103,26 @@ FieldEncoding ExamFileReader::EncodingOf(const ExamFileVersion& version) {
   return EncodingByTag(source_, version).value_or(FieldEncoding::EightBit);
 }
 
-ExamReadOutcome ExamFileReader::Read(const ExamFileVersion& version) {
+ExamReadOutcome ExamFileReader::Read(const ExamFileVersion& version, AttachmentSink* sink) {
   ExamReadOutcome outcome;
   if (!IsOpen()) return outcome;
   outcome.opened = true;
   outcome.form = {&version, EncodingOf(version)};
   source_.Take(BytesBeforeTitle(outcome.form));
   if (version.notesOralQuestions) exam_.hasOralQuestion = exam_.firstOralQuestion = 0;
-  Reading(exam_, services_, source_, outcome.form).ReadExam(outcome);
+  Reading(exam_, services_, source_, outcome.form, sink).ReadExam(outcome);
+  return outcome;
+}
+
+ExamReadOutcome ReadWithoutUnpacking(FrameSetExam& exam, const ExamServices& services,
+                                     const std::filesystem::path& file, AttachmentSink& sink) {
+  ExamFileReader reader(exam, services, file);
+  const ExamFileVersion* version = &kUntaggedVersion;
+  for (const ExamFileVersion* tagged : {&kVersion0214, &kVersion202, &kCurrentVersion}) {
+    if (reader.HasTag(*tagged)) version = tagged;
+  }
+  const ExamReadOutcome outcome = reader.Read(*version, &sink);
+  exam.readDoubt = DoubtOf(outcome, exam);
   return outcome;
 }
 

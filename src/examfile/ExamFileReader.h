@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "examfile/AttachmentSink.h"
 #include "examfile/ByteSource.h"
 #include "examfile/ExamFileForm.h"
 #include "model/document/ExamServices.h"
@@ -29,6 +30,10 @@ struct ExamReadOutcome {
   PassedOver passedOver;
 };
 
+/// Whether an exam has everything that its file holds. Any file without a tag counts as untagged, so only its
+/// content can tell whether it is an exam.
+ReadDoubt DoubtOf(const ExamReadOutcome& outcome, const FrameSetExam& exam);
+
 /// Loads one exam file into a document that the caller has reset, and unpacks the attached files into the
 /// emptied work folder. Invalid bytes never make a read fail: the result is an exam and what was lost. Memory
 /// use depends neither on the attached files nor on any number in the file.
@@ -43,8 +48,9 @@ class ExamFileReader {
   /// Whether the file begins with the tag of `version`.
   bool HasTag(const ExamFileVersion& version);
 
-  /// Reads the file, once: as `version`, whose tag it has, or as an untagged file with any content.
-  ExamReadOutcome Read(const ExamFileVersion& version);
+  /// Reads the file, once: as `version`, whose tag it has, or as an untagged file with any content. With a
+  /// `sink` nothing is unpacked (see AttachmentUnpacker).
+  ExamReadOutcome Read(const ExamFileVersion& version, AttachmentSink* sink = nullptr);
 
  private:
   FieldEncoding EncodingOf(const ExamFileVersion& version);
@@ -53,5 +59,10 @@ class ExamFileReader {
   const ExamServices& services_;
   ByteSource source_;
 };
+
+/// Reads a file of any version into `exam`, which the caller has reset, without unpacking anything: the
+/// content of attached files goes to `sink`, and nothing is written or shown. Sets the exam's `readDoubt`.
+ExamReadOutcome ReadWithoutUnpacking(FrameSetExam& exam, const ExamServices& services,
+                                     const std::filesystem::path& file, AttachmentSink& sink);
 
 }  // namespace quorvantis

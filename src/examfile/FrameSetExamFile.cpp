@@ -16,15 +16,6 @@ namespace quorvantis {
 
 namespace {
 
-/// Any file without a tag counts as untagged, so only its content can tell whether it is an exam.
-ReadDoubt DoubtOf(const ExamReadOutcome& outcome, const FrameSetExam& exam) {
-  const bool isUntagged = outcome.form.version == &kUntaggedVersion;
-  if (outcome.opened && isUntagged && (outcome.endsEarly || exam.questionCount == 0))
-    return ReadDoubt::NoExam;
-  if (!outcome.opened || outcome.endsEarly) return ReadDoubt::ReadInPart;
-  return outcome.passedOver.IsAnything() ? ReadDoubt::PassedOver : ReadDoubt::None;
-}
-
 /// Ends every read: the document records the outcome, and the user is told about losses.
 void TakeOutcome(FrameSetExam& exam, const std::filesystem::path& file, const ExamReadOutcome& outcome) {
   const ExamServices& services = exam.Services();

@@ -861,4 +861,21 @@ constexpr int kExchangeTagsLeftOut = 2210;
 constexpr int kExchangeInlineChoices = 2211;
 constexpr int kExchangeEntities = 2212;
 
+// The bank of all exams
+constexpr int kBankBusy = 2330;
+constexpr int kBankNoSpace = 2331;
+constexpr int kBankNotWritable = 2332;
+constexpr int kBankNotAnIndex = 2333;
+constexpr int kBankDamaged = 2334;
+constexpr int kBankNoFolder = 2335;
+constexpr int kBankOtherProblem = 2336;
+constexpr int kBankOlder = 2337;
+constexpr int kBankNewer = 2338;
+constexpr int kBankEndsEarly = 2339;
+constexpr int kBankEndsEarlyAll = 2340;
+constexpr int kBankNoExam = 2341;
+constexpr int kBankUnreadable = 2342;
+constexpr int kBankTooMuch = 2343;
+constexpr int kBankFolderGone = 2344;
+
 }  // namespace quorvantis::text_id

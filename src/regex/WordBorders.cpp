@@ -36,17 +36,17 @@ CharacterSet PartsOfWords() {
   return units;
 }
 
-bool IsPartOfWord(char16_t unit) {
-  static const CharacterSet kParts = PartsOfWords();
-  return kParts.Contains(unit);
-}
-
 bool IsBorder(std::u16string_view text, std::size_t place) {
   if (place == 0 || place >= text.size()) return true;
   return !IsPartOfWord(text[place - 1]) || !IsPartOfWord(text[place]);
 }
 
 }  // namespace
+
+bool IsPartOfWord(char16_t unit) {
+  static const CharacterSet kParts = PartsOfWords();
+  return kParts.Contains(unit);
+}
 
 bool IsWholeWord(std::u16string_view text, std::size_t start, std::size_t end) {
   return IsBorder(text, start) && IsBorder(text, end);

@@ -6,6 +6,9 @@
 
 namespace quorvantis {
 
+/// Whether a unit is a part of words, as IsWholeWord tells.
+bool IsPartOfWord(char16_t unit);
+
 /// Whether the part of `text` from `start` to `end` (UTF-16 units) is not cut out of a longer word: at each
 /// of its ends, the units before and after are not both parts of words. Parts of words are the letters,
 /// digits and marks of all scripts and the underscore. Chinese, Japanese, Thai, Lao, Burmese and Khmer put no

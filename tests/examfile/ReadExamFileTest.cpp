@@ -158,6 +158,39 @@ TEST_P(AnyForm, FindsTheQuestionsWhereNoFileCanBeCreated) {
   EXPECT_EQ(exam.examAttachmentNames[1], u"") << "the first failure ends the unpacking of exam-level files";
 }
 
+TEST_P(AnyForm, ReadsTheSameWithoutUnpackingAnything) {
+  struct Listed : AttachmentSink {
+    std::vector<std::string> files;
+    void Begin(int question, unsigned slot, const std::u16string& name) override {
+      files.push_back(std::to_string(question) + "/" + std::to_string(slot) + PathFromText(name) + "=");
+    }
+    void Content(std::string_view bytes) override { files.back() += bytes; }
+    static std::string PathFromText(const std::u16string& name) { return TextToPath(name).string(); }
+  } sink;
+  TypedExam typed{.title = u"Title", .questions = {Full(u"0"), Full(u"1")}};
+  if (hasFiles) {
+    typed.files = {{u"../a", "first"}};
+    typed.questions[1].files = {{u"none", "", u"-5"}, {u"b", "second"}};
+  }
+  const std::string bytes = Type(form, typed).bytes;
+  Read(bytes);
+  FrameSetExam other(world.services);
+  const ExamReadOutcome outcome =
+      ReadWithoutUnpacking(other, world.services, WriteBytes(folder / "other.exm", bytes), sink);
+  EXPECT_TRUE(outcome.opened);
+  EXPECT_EQ(outcome.form.version, exam.lastRead->form.version);
+  EXPECT_EQ(other.readDoubt, exam.readDoubt);
+  EXPECT_EQ(other.title, exam.title);
+  for (int n = 1; n <= 2; ++n) {
+    EXPECT_EQ(other.Question(n).text, exam.Question(n).text);
+    EXPECT_EQ(other.Question(n).answerText, exam.Question(n).answerText);
+    EXPECT_EQ(other.Question(n).attachmentNames, exam.Question(n).attachmentNames);
+    EXPECT_EQ(other.Question(n).attachmentPaths, AttachmentList());
+  }
+  using Files = std::vector<std::string>;
+  EXPECT_EQ(sink.files, hasFiles ? Files({"0/0../a=first", "2/0none=", "2/1b=second"}) : Files());
+}
+
 using ReadExamFile = ExamFileTest;
 
 TEST_F(ReadExamFile, IsHandedOnByTheReadersOfOtherVersions) {

@@ -7,6 +7,8 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,6 +16,7 @@
 namespace quorvantis {
 
 class Files;
+class StringTable;
 
 /// How an index was found when it was opened.
 enum class IndexFound {
@@ -81,9 +84,14 @@ class BankIndex {
   /// For the classes of the bank: throws DatabaseError.
   Database& Data() const { return *database_; }
 
+  /// What a failure of Data means. An index that turns out to be damaged is emptied, to be filled again by
+  /// the next update.
+  BankProblem ProblemAfter(const DatabaseError& error);
+
  private:
   BankIndex(BankPlace place, Files& files, std::unique_ptr<Database> database, IndexFound found);
 
+  BankProblem ChangeFolders(const std::function<void(std::vector<std::filesystem::path>&)>& change);
   std::vector<BankExam> ReadExams(const char* condition, BankProblem& problem) const;
 
   BankPlace place_;
@@ -91,6 +99,12 @@ class BankIndex {
   std::unique_ptr<Database> database_;
   IndexFound found_;
 };
+
+/// The columns of table "exam" that make a BankExam, and one that begins at `column` of a row.
+inline constexpr const char* kExamColumns =
+    "exam.id, exam.path, exam.title, exam.size, exam.written, exam.questions, exam.state, exam.first_missing";
+constexpr int kExamColumnCount = 8;
+BankExam ExamFrom(const Statement& row, int column);
 
 /// What is wrong with an exam, for the user; empty if nothing is.
 std::u16string StateText(const BankExam& exam, const StringTable& strings);

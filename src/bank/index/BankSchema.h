@@ -43,8 +43,8 @@ CREATE TABLE content(
   answer TEXT NOT NULL,          -- to fill in
   essay TEXT NOT NULL,
   key_mask INTEGER NOT NULL,
-  key BLOB NOT NULL,             -- the same for equal content
-  sketch BLOB NOT NULL);         -- for near duplicates
+  key TEXT NOT NULL,             -- QuestionContentKey
+  sketch BLOB NOT NULL);         -- QuestionSketch
 CREATE INDEX content_key ON content(key);
 
 CREATE TABLE attached(
@@ -53,13 +53,8 @@ CREATE TABLE attached(
   slot INTEGER NOT NULL,
   name TEXT NOT NULL,
   size INTEGER NOT NULL,
-  hash INTEGER NOT NULL,         -- of the content
+  hash TEXT NOT NULL,            -- SHA-256 of the content
   PRIMARY KEY(exam, number, slot)) WITHOUT ROWID;
-
-CREATE TABLE band(
-  key INTEGER NOT NULL,
-  question INTEGER NOT NULL,
-  PRIMARY KEY(key, question)) WITHOUT ROWID;
 
 CREATE VIRTUAL TABLE gram USING fts5(
   text, options, answers, files, content='', tokenize="trigram case_sensitive 1");

@@ -11,15 +11,15 @@ namespace quorvantis {
 namespace {
 
 /// A digest that is being made.
-class Sha256 {
+class Sha256 : public RunningDigest {
  public:
   Sha256() : isGood_(context_ && EVP_DigestInit_ex(context_.get(), EVP_sha256(), nullptr) == 1) {}
 
-  void Add(std::string_view bytes) {
+  void Add(std::string_view bytes) override {
     isGood_ = isGood_ && EVP_DigestUpdate(context_.get(), bytes.data(), bytes.size()) == 1;
   }
 
-  std::string Text() {
+  std::string Text() override {
     unsigned char digest[EVP_MAX_MD_SIZE];
     unsigned length = 0;
     if (!isGood_ || EVP_DigestFinal_ex(context_.get(), digest, &length) != 1) return {};
@@ -58,6 +58,10 @@ std::string OpenSslDigest::OfBytes(std::string_view bytes) const {
   Sha256 digest;
   digest.Add(bytes);
   return digest.Text();
+}
+
+std::unique_ptr<RunningDigest> OpenSslDigest::Begin() const {
+  return std::make_unique<Sha256>();
 }
 
 }  // namespace quorvantis

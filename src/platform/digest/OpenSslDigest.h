@@ -10,6 +10,7 @@ class OpenSslDigest : public FileDigest {
  public:
   std::string OfFile(const std::filesystem::path& file) const override;
   std::string OfBytes(std::string_view bytes) const override;
+  std::unique_ptr<RunningDigest> Begin() const override;
 };
 
 }  // namespace quorvantis

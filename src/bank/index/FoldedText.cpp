@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "bank/index/FoldedText.h"
+
+#include "bank/index/FoldedLetters.h"
+#include "text/AsciiCase.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+/// What stands for several units of a text at one place.
+struct Replaced {
+  std::size_t length = 0;  ///< units of the text; 0 if nothing is replaced
+  std::u16string_view by = {};
+};
+
+struct EntityRow {
+  std::u16string_view written;
+  std::u16string_view shown;
+};
+
+constexpr EntityRow kEntityRows[] = {
+    {u"&lt;", u"<"}, {u"&gt;", u">"}, {u"&amp;", u"&"}, {u"&nbsp;", u" "}, {u"&quot;", u"\""}};
+
+bool IsNameLetter(char16_t unit) {
+  return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z';
+}
+
+/// Elements within a line of text: their tags do not part words.
+bool IsWithinLine(std::u16string_view name) {
+  constexpr std::u16string_view kNames[] = {u"b",      u"i",  u"u",    u"s",    u"em", u"strong", u"sub",
+                                            u"sup",    u"a",  u"font", u"span", u"q",  u"small",  u"big",
+                                            u"strike", u"tt", u"code", u"mark", u"ins"};
+  return std::find(std::begin(kNames), std::end(kNames), name) != std::end(kNames);
+}
+
+/// A tag at the front of `text`.
+Replaced TagAt(std::u16string_view text) {
+  constexpr std::size_t kLongest = 64;
+  const std::u16string_view tag = text.substr(0, kLongest);
+  const std::size_t begin = tag.starts_with(u"</") ? 2 : 1;
+  const std::size_t end = tag.find(u'>');
+  if (end == tag.npos || end <= begin || !IsNameLetter(tag[begin])) return {};
+  std::u16string name;
+  for (std::size_t at = begin; IsNameLetter(tag[at]); ++at) name.push_back(AsciiLower(tag[at]));
+  return {end + 1, IsWithinLine(name) ? std::u16string_view() : u" "};
+}
+
+Replaced MarkupAt(std::u16string_view text) {
+  if (text.front() == u'<') return TagAt(text);
+  if (text.front() != u'&') return {};
+  for (const EntityRow& row : kEntityRows) {
+    if (text.starts_with(row.written)) return {row.written.size(), row.shown};
+  }
+  return {};
+}
+
+/// Calls `take` with each folded unit and the part of the text that it stands for. Blanks come singly, and
+/// neither at the begin nor at the end.
+template <class Take>
+void FoldUnits(std::u16string_view text, Take take) {
+  bool hasBegun = false;
+  TextSpan blank;  // one that is taken when something follows it
+  const auto takeAll = [&](std::u16string_view units, TextSpan origin) {
+    for (const char16_t unit : units) {
+      if (unit == u' ') {
+        if (hasBegun && blank.IsEmpty()) blank = origin;
+        continue;
+      }
+      if (!blank.IsEmpty()) take(u' ', blank);
+      blank = {};
+      hasBegun = true;
+      take(unit, origin);
+    }
+  };
+  for (std::size_t at = 0; at < text.size();) {
+    const Replaced markup = MarkupAt(text.substr(at));
+    if (markup.length > 0) {
+      takeAll(markup.by, {at, at + markup.length});
+      at += markup.length;
+      continue;
+    }
+    takeAll(FoldedLetter(text[at]), {at, at + 1});
+    ++at;
+  }
+}
+
+}  // namespace
+
+std::u16string FoldForSearch(std::u16string_view text) {
+  const std::u16string whole = ReplaceLoneSurrogates(text);
+  std::u16string folded;
+  folded.reserve(whole.size());
+  FoldUnits(whole, [&folded](char16_t unit, TextSpan) { folded.push_back(unit); });
+  return folded;
+}
+
+FoldedText::FoldedText(std::u16string_view text) {
+  const std::u16string whole = ReplaceLoneSurrogates(text);
+  text_.reserve(whole.size());
+  origins_.reserve(whole.size());
+  FoldUnits(whole, [this](char16_t unit, TextSpan origin) {
+    text_.push_back(unit);
+    origins_.push_back(origin);
+  });
+}
+
+TextSpan FoldedText::Original(TextSpan part) const {
+  if (part.IsEmpty()) return {};
+  return {origins_[part.begin].begin, origins_[part.end - 1].end};
+}
+
+}  // namespace quorvantis
