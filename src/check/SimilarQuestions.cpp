@@ -1,81 +1,53 @@
 // SPDX-License-Identifier: MIT
 #include "check/SimilarQuestions.h"
 
-#include "check/Similarity.h"
-#include "text/LineBreaks.h"
+#include "likeness/QuestionRelation.h"
+#include "likeness/TextSketch.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
 namespace quorvantis {
 namespace {
 
-constexpr double kAlike = 0.8;            // of the texts
-constexpr double kOptionsAlike = 0.6;     // of the options together
+constexpr double kWorthComparing = 0.7;   // of the texts, by their sketches
 constexpr std::size_t kIndexed = 16;      // hashes of a sketch; alike texts share most of them
 constexpr std::size_t kShared = 5;        // at least that many, or half of those that there are
 constexpr std::size_t kCompared = 8;      // of the candidates for a question
 constexpr std::size_t kMostOfAHash = 64;  // a shingle of more texts ("Which") tells little
 
-/// What is compared of a question.
-struct ComparedQuestion {
-  const CheckedQuestion* question = nullptr;
-  std::u16string text;  ///< normalised
-  TextSketch sketch;
-};
+/// A question that has been looked at; made ready for comparing when it is first needed.
+class SeenQuestion {
+ public:
+  SeenQuestion(const CheckedQuestion& question, TextSketch sketch)
+      : question_(&question), sketch_(std::move(sketch)) {}
 
-std::u16string AllOptions(const CheckedQuestion& question) {
-  auto options = question.options;
-  std::sort(options.begin(), options.end());
-  std::u16string all;
-  for (const std::u16string_view option : options) all.append(option).append(u"\n");
-  return Normalised(all);
-}
+  int Number() const { return question_->number; }
 
-std::u16string DigitsOf(std::u16string_view text) {
-  std::u16string digits;
-  for (const char16_t unit : text) {
-    if (IsDigit(unit)) {
-      digits.push_back(unit);
-    } else if (!digits.empty() && digits.back() != u' ') {
-      digits.push_back(u' ');
-    }
+  bool IsSameAs(SeenQuestion& other) {
+    if (sketch_.Likeness(other.sketch_) < kWorthComparing) return false;
+    return IsSameQuestion(RelationOf(Compared(), other.Compared()));
   }
-  return digits;
-}
 
-/// Takes the lines away that both begin or end with, which may be a passage for several questions. A last
-/// common line stays if it is all that there is.
-void DropCommonLines(std::u16string_view& a, std::u16string_view& b) {
-  const auto [inA, inB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
-  if (inA == a.end() && inB == b.end()) return;
-  const std::u16string_view common = a.substr(0, static_cast<std::size_t>(inA - a.begin()));
-  const std::size_t line = common.rfind(u'\n') + 1;  // npos + 1 is 0
-  a.remove_prefix(line);
-  b.remove_prefix(line);
-  const auto [fromA, fromB] = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend());
-  const std::u16string_view end = a.substr(static_cast<std::size_t>(a.rend() - fromA));
-  const std::size_t cut = end.find(u'\n');
-  const std::size_t tail = cut == end.npos ? 0 : end.size() - cut;
-  a.remove_suffix(tail);
-  b.remove_suffix(tail);
-}
+ private:
+  /// Within an exam files are known by their names.
+  const ComparedQuestion& Compared() {
+    if (!compared_) {
+      const ExamQuestion& question = question_->question;
+      std::vector<std::u16string> files(question.attachmentNames.begin(), question.attachmentNames.end());
+      std::erase(files, std::u16string());
+      compared_.emplace(ContentOf(question, std::move(files)));
+    }
+    return *compared_;
+  }
 
-bool AreAlike(const ComparedQuestion& a, const ComparedQuestion& b) {
-  if (a.sketch.Likeness(b.sketch) < kAlike || DigitsOf(a.text) != DigitsOf(b.text)) return false;
-  if (a.question->question.attachmentNames != b.question->question.attachmentNames) return false;
-  const std::u16string ofA = WithLineEnds(a.question->text, u"\n");
-  const std::u16string ofB = WithLineEnds(b.question->text, u"\n");
-  std::u16string_view ownA = ofA;
-  std::u16string_view ownB = ofB;
-  DropCommonLines(ownA, ownB);
-  const TextSketch sketchA(Normalised(ownA));
-  if (sketchA.Likeness(TextSketch(Normalised(ownB))) < kAlike) return false;
-  const TextSketch optionsA(AllOptions(*a.question));
-  return optionsA.Likeness(TextSketch(AllOptions(*b.question))) >= kOptionsAlike;
-}
+  const CheckedQuestion* question_;
+  TextSketch sketch_;
+  std::optional<ComparedQuestion> compared_;
+};
 
 /// The questions that have been looked at, by the smallest hashes of their texts.
 class SketchIndex {
@@ -118,20 +90,20 @@ class SketchIndex {
 }  // namespace
 
 void NearlyEqualQuestions::Check(const CheckedExam& exam, FindingList& findings) const {
-  std::vector<ComparedQuestion> seen;
+  std::vector<SeenQuestion> seen;
   SketchIndex index;
   for (const CheckedQuestion& question : exam.questions) {
-    std::u16string text = Normalised(question.text);
+    const std::u16string text = Normalised(question.text);
     if (text.empty()) continue;
-    ComparedQuestion compared{&question, std::move(text), {}};
-    compared.sketch = TextSketch(compared.text);
-    for (const std::size_t candidate : index.Candidates(compared.sketch)) {
-      if (!AreAlike(seen[candidate], compared)) continue;
-      findings.Add({question.number, ExamFieldName::QuestionText},
-                   {FormatInteger(seen[candidate].question->number)});
-      break;
+    const TextSketch sketch(text);
+    const std::vector<std::size_t> candidates = index.Candidates(sketch);
+    SeenQuestion compared(question, sketch);
+    const auto same = std::find_if(candidates.begin(), candidates.end(),
+                                   [&](std::size_t each) { return compared.IsSameAs(seen[each]); });
+    if (same != candidates.end()) {
+      findings.Add({question.number, ExamFieldName::QuestionText}, {FormatInteger(seen[*same].Number())});
     }
-    index.Add(compared.sketch);
+    index.Add(sketch);
     seen.push_back(std::move(compared));
   }
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "check/Similarity.h"
+#include "likeness/TextSketch.h"
 
 #include "regex/LetterCase.h"
 #include "text/AsciiCase.h"

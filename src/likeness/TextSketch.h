@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "likeness/Shingles.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,8 +18,8 @@ std::u16string Normalised(std::u16string_view text);
 /// have about as much in common as the sets of all shingles, however long the texts are.
 class TextSketch {
  public:
-  static constexpr std::size_t kShingle = 4;  ///< units
-  static constexpr std::size_t kMost = 128;   ///< hashes
+  static constexpr std::size_t kShingle = Shingles::kUnits;
+  static constexpr std::size_t kMost = 128;  ///< hashes
 
   TextSketch() = default;
   /// `normalised` shorter than a shingle is one by itself.

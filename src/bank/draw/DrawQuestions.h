@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "bank/draw/DrawRequest.h"
+
+#include <span>
+
+namespace quorvantis {
+
+/// Draws questions by lot: each different question that a wish allows is equally likely, in however many
+/// exams it stands, and no two that are the same (IsSameQuestion) come together. Wishes that share questions
+/// are balanced, so that one does not lack what another could do without. The seed and the content of the
+/// candidates decide the result, on every machine; the order of the candidates does not.
+DrawOutcome DrawQuestions(std::span<const DrawCandidate> candidates, const DrawRequest& request,
+                          const ComparedAt& comparedAt, const std::function<bool()>& isCancelled = {});
+
+/// Puts another question in the place of `place` of `drawn`, for the same wish, and keeps all others. The one
+/// that was there, and those of `request.rejected`, do not come again: add each that the user sends away.
+/// If there is no other, `drawn` is returned without it.
+DrawOutcome RedrawOne(std::span<const DrawCandidate> candidates, const DrawRequest& request,
+                      const DrawOutcome& drawn, std::size_t place, const ComparedAt& comparedAt);
+
+/// A wish as several that differ in a tag, such as "difficulty:1", "difficulty:2" and "difficulty:3", with
+/// about equally many questions each; the first ones get one more if it does not come out even.
+std::vector<DrawWish> SpreadOver(const DrawWish& wish, const std::vector<std::u16string>& tags);
+
+}  // namespace quorvantis
