@@ -8,9 +8,11 @@
 #include "platform/TextNumbers.h"
 #include "regex/RegexPattern.h"
 #include "text/MessageText.h"
+#include "text/NumberRanges.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace quorvantis {
 namespace {
@@ -23,20 +25,10 @@ std::u16string Text(int number) {
   return FormatInteger(number);
 }
 
-std::u16string Range(int first, int last) {
-  return first == last ? Text(first) : Text(first) + u"-" + Text(last);
-}
-
-/// "3, 7-9".
-std::u16string Ranges(const std::vector<int>& numbers) {
-  std::u16string text;
-  for (std::size_t i = 0; i < numbers.size();) {
-    std::size_t next = i + 1;
-    while (next < numbers.size() && numbers[next] == numbers[next - 1] + 1) ++next;
-    text += (text.empty() ? u"" : u", ") + Range(numbers[i], numbers[next - 1]);
-    i = next;
-  }
-  return text;
+std::vector<int> Slots(int first, int end) {
+  std::vector<int> slots(static_cast<std::size_t>(end - first));
+  std::iota(slots.begin(), slots.end(), first);
+  return slots;
 }
 
 /// Composes the lines for one report.
@@ -67,7 +59,7 @@ class Summary {
 
   /// For a text with the count of the questions, then their numbers.
   void SayOfQuestions(int text, const std::vector<int>& questions) {
-    if (!questions.empty()) Say(text, {Text(questions.size()), Ranges(questions)});
+    if (!questions.empty()) Say(text, {Text(questions.size()), NumberRanges(questions)});
   }
 
   /// The lines about questions that are in the exam.
@@ -95,8 +87,8 @@ class Summary {
       Say(text_id::kLeftOut, {Text(questions.size() - written), Text(kMaxQuestions)});
     if (report_.removed > 0) Say(text_id::kQuestionsRemoved, {Text(report_.removed)});
     if (report_.firstSlot > 1 && report_.nextSlot > report_.firstSlot)
-      Say(text_id::kSlotsFilled,
-          {Text(report_.nextSlot - report_.firstSlot), Range(report_.firstSlot, report_.nextSlot - 1)});
+      Say(text_id::kSlotsFilled, {Text(report_.nextSlot - report_.firstSlot),
+                                  NumberRanges(Slots(report_.firstSlot, report_.nextSlot))});
   }
 
   void TellBrokenRules() {
@@ -179,9 +171,9 @@ class Summary {
       for (const auto& [question, pictures] : questions) {
         list += list.empty() ? u"" : u"; ";
         count += pictures.size();
-        list += question == kNoQuestion ? Ranges(pictures)
+        list += question == kNoQuestion ? NumberRanges(pictures)
                                         : FillMessage(strings_.Text(text_id::kPicturesOfQuestion),
-                                                      {Ranges(pictures), Text(question)});
+                                                      {NumberRanges(pictures), Text(question)});
       }
       Say(text_id::kPicturesLost, {Text(count), PictureFailureText(reason, Text(count), strings_), list});
     }
