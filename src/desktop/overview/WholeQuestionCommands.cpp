@@ -5,7 +5,7 @@
 #include "desktop/overview/InsertFromExamDlg.h"
 #include "editor/WorkCopies.h"
 #include "model/WorkFolderNames.h"
-#include "overview/ScoreChanges.h"
+#include "overview/ScoreChangeTexts.h"
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
@@ -20,8 +20,6 @@
 
 namespace quorvantis {
 namespace {
-
-constexpr std::size_t kMostScoresTold = 5;
 
 std::u16string Counted(std::size_t count) {
   return FormatInteger(static_cast<std::int64_t>(count));
@@ -67,14 +65,7 @@ QString WholeQuestionCommands::ScoresAfter(const OrderOutcome& outcome) const {
   const auto former = [&outcome](int number) { return outcome.order.Source(number); };
   const std::vector<ScoreChange> changes = ScoreChanges(editor_.state.document, LastQuestion(), former);
   std::u16string told;
-  for (std::size_t i = 0; i < std::min(changes.size(), kMostScoresTold); ++i) {
-    told += u' ' + FillMessage(Text(text_id::kScoreChanged),
-                               {FormatInteger(changes[i].question), FormatScore(changes[i].now),
-                                FormatScore(changes[i].before)});
-  }
-  if (changes.size() > kMostScoresTold)
-    told +=
-        u' ' + FillMessage(Text(text_id::kMoreScoresChanged), {Counted(changes.size() - kMostScoresTold)});
+  for (const std::u16string& text : ScoreChangeTexts(changes, Services().strings)) told += u' ' + text;
   return ToQString(told);
 }
 
