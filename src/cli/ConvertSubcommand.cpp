@@ -146,7 +146,7 @@ class Conversion {
     }
     TellNotes();
     throw CommandError(request_.source.string() + ": has no questions that can be read as " +
-                       std::string(format.title));
+                       Utf16ToUtf8(services.strings.Text(format.title)));
   }
 
   std::string Written(const FormatRow& format) {

@@ -28,6 +28,7 @@ enum class ChangeKind {
   DuplicateQuestion,
   PasteQuestion,
   TakeQuestion,
+  ExchangeQuestion,
   Replace,
   Import,
   LineEnds,

@@ -33,6 +33,7 @@ class CanvasPackage {
     xml.Begin("section", {{"ident", "root_section"}});
     std::uint64_t done = 0;
     for (const ExchangedQuestion& question : exam_.questions) {
+      if (progress.IsCancelled()) break;
       progress.Report(done++, exam_.questions.size());
       WriteCanvasItem(question, AddFiles(question), xml);
     }

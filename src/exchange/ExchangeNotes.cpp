@@ -28,10 +28,14 @@ void ExchangeNotes::Tell(int text, std::vector<std::u16string> values) {
   notes_.push_back(std::move(note));
 }
 
-std::u16string NoteLine(const ExchangeNote& note, const StringTable& strings) {
+std::u16string NoteText(const ExchangeNote& note, const StringTable& strings) {
   std::vector<std::u16string> values = note.values;
   values.resize(2);
-  const std::u16string what = FillMessage(strings.Text(note.text), {values[0], values[1]});
+  return FillMessage(strings.Text(note.text), {values[0], values[1]});
+}
+
+std::u16string NoteLine(const ExchangeNote& note, const StringTable& strings) {
+  const std::u16string what = NoteText(note, strings);
   if (note.question == 0) return what;
   return FillMessage(strings.Text(text_id::kExchangeQuestion), {FormatInteger(note.question), what});
 }

@@ -33,6 +33,9 @@ class ExchangeNotes {
   std::vector<ExchangeNote> notes_;
 };
 
+/// "its files are left out".
+std::u16string NoteText(const ExchangeNote& note, const StringTable& strings);
+
 /// "question 7: its files are left out".
 std::u16string NoteLine(const ExchangeNote& note, const StringTable& strings);
 

@@ -37,7 +37,8 @@ class FormatWriter {
  public:
   virtual ~FormatWriter() = default;
 
-  /// The bytes of a file with the exam, which has only what the format's row says that it holds.
+  /// The bytes of a file with the exam, which has only what the format's row says that it holds. Once it is
+  /// cancelled, what it returns is worth nothing.
   virtual std::string Write(const ExchangedExam& exam, const StringTable& strings, Progress& progress) = 0;
 };
 

@@ -14,7 +14,8 @@ namespace quorvantis {
 struct FormatRow {
   std::string_view name;           ///< as users type it, and unique
   std::string_view otherNames{};   ///< that users may type, with blanks between them
-  std::string_view title;          ///< as they read it
+  int title = 0;                   ///< as they read it; the number of a text
+  int purpose = 0;                 ///< what it is for and where a file goes; likewise
   std::string_view extension;      ///< of new files, in lower case, without the dot
   bool extensionIsItsOwn = false;  ///< no other row has it, so it says what to write
   HeldParts held{};
@@ -24,7 +25,7 @@ struct FormatRow {
   std::unique_ptr<FormatWriter> (*writer)() = nullptr;
 };
 
-/// In the order in which a file is compared with them.
+/// In the order in which users read them and a file is compared with them.
 std::span<const FormatRow> Formats();
 
 /// The format of that name, in either case; null if there is none.

@@ -26,6 +26,7 @@ class MoodleQuiz {
     if (!exam_.title.empty()) WriteCategory();
     std::uint64_t done = 0;
     for (const ExchangedQuestion& question : exam_.questions) {
+      if (progress_.IsCancelled()) break;
       progress_.Report(done++, exam_.questions.size());
       WriteQuestion(question);
     }

@@ -32,6 +32,7 @@ class QtiPackageText {
   std::string Bytes(Progress& progress) {
     std::vector<std::vector<std::string>> media;
     for (std::size_t i = 0; i < exam_.questions.size(); ++i) {
+      if (progress.IsCancelled()) return {};
       progress.Report(i, exam_.questions.size());
       media.push_back(AddItem(i));
     }

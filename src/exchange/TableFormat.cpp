@@ -123,7 +123,7 @@ std::optional<ExchangedExam> TableReader::Read(const ExchangeSource& source, Rea
   }
   ExchangedExam exam;
   TableRows reading(columns, tools);
-  for (std::size_t i = first; i < rows.size(); ++i)
+  for (std::size_t i = first; i < rows.size() && !tools.progress.IsCancelled(); ++i)
     exam.questions.push_back(reading.Read(rows[i], static_cast<int>(i + 1 - first)));
   tools.notes.Begin(0);
   return exam;

@@ -82,6 +82,8 @@ int TextNumber(ChangeKind kind) {
       return kStepPaste;
     case ChangeKind::TakeQuestion:
       return kStepTake;
+    case ChangeKind::ExchangeQuestion:
+      return kStepExchange;
     case ChangeKind::Replace:
       return kStepReplace;
     case ChangeKind::Import:

@@ -27,6 +27,7 @@ struct FileDialogRequest {
   std::u16string filter;            ///< "Label|*.a;*.b|Label|*.c|"
   std::u16string defaultExtension;  ///< for a name typed without one; no dot
   std::u16string initialName;
+  std::filesystem::path folder = {};  ///< to begin in; empty for that of the exam
 };
 
 /// The questions and messages that any part of the program may show. All of them wait for the user.

@@ -115,7 +115,8 @@ std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToOpen(const FileD
   QFileDialog dialog(parent_);
   dialog.setFileMode(QFileDialog::ExistingFile);
   MakeHarmless(dialog);
-  dialog.setDirectory(ExistingFolder(last.folder.empty() ? folder_ : last.folder));
+  const std::filesystem::path& usual = last.folder.empty() ? folder_ : last.folder;
+  dialog.setDirectory(ExistingFolder(request.folder.empty() ? usual : request.folder));
   OfferFilters(dialog, filters);
   if (!last.filter.isEmpty()) dialog.selectNameFilter(last.filter);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
@@ -132,7 +133,7 @@ std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToSave(const FileD
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   MakeHarmless(dialog);
-  dialog.setDirectory(ExistingFolder(folder_));
+  dialog.setDirectory(ExistingFolder(request.folder.empty() ? folder_ : request.folder));
   OfferFilters(dialog, filters);
   dialog.selectFile(ToQString(request.initialName));
   while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
