@@ -121,6 +121,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
                },
                [this](const std::filesystem::path& page) { PrintPage(page); }}),
       versions_(editor_, *this, library == nullptr ? 0 : languageId),
+      exchange_(editor_, life_.Steps(), *this),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       somethingIsWrong_(new WindowNotice("somethingIsWrong", QStyle::SP_MessageBoxWarning, client_)),
       printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
@@ -192,7 +193,9 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.hasRecent = [this] { return !openRecent_.IsEmpty(); };
   commands.recent = [this] { return openRecent_.Entries(); };
   commands.importPaper = [this] { studio_.ImportPaper(); };
+  commands.importQuestions = [this] { exchange_.ImportQuestions(); };
   commands.exportPdf = [this] { ExportPdf(); };
+  commands.exportQuestions = [this] { exchange_.ExportQuestions(); };
   commands.quit = [this] { close(); };
   commands.history = &history_;
   commands.search = &search_;
@@ -245,6 +248,7 @@ void CQuorvantisDlg::FormLoaded() {
   question_.Load();
   answers_.Load();
   importWindows_.ExamChanged();
+  exchange_.ExamChanged();
   shownQuestion_.ExamChanged();
   history_.Note();
   search_.ExamChanged();

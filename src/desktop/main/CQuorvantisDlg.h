@@ -7,6 +7,7 @@
 #include "desktop/main/AnswerControls.h"
 #include "desktop/main/CheckCommands.h"
 #include "desktop/main/ExamControls.h"
+#include "desktop/main/ExchangeCommands.h"
 #include "desktop/main/FocusedField.h"
 #include "desktop/main/HistoryCommands.h"
 #include "desktop/main/MenuBar.h"
@@ -165,6 +166,7 @@ class CQuorvantisDlg final : public FittedWindow,
   StudioCommands studio_;
   SheetCommands sheets_;
   VersionCommands versions_;
+  ExchangeCommands exchange_;
   WindowNotice* recoveryFails_;
   WindowNotice* somethingIsWrong_;
   WindowNotice* printComes_;

@@ -26,7 +26,9 @@ class WindowMenus {
     std::function<bool()> hasRecent;
     std::function<std::vector<MenuEntry>()> recent;
     std::function<void()> importPaper;
+    std::function<void()> importQuestions;
     std::function<void()> exportPdf;
+    std::function<void()> exportQuestions;
     std::function<void()> quit;
     HistoryCommands* history;
     SearchCommands* search;
