@@ -31,9 +31,8 @@ class CanvasItem {
   CanvasItem(const ExchangedQuestion& question, const std::vector<std::string>& addresses, XmlWriter& xml)
       : question_(question), addresses_(addresses), xml_(xml) {}
 
-  void Write() {
-    const std::string number = std::to_string(question_.number);
-    xml_.Begin("item", {{"ident", "question" + number}, {"title", number}});
+  void Write(const std::string& identifier) {
+    xml_.Begin("item", {{"ident", identifier}, {"title", std::to_string(question_.number)}});
     WriteMetadata();
     xml_.Begin("presentation");
     WriteMaterial(QuestionHtml());
@@ -235,9 +234,9 @@ class CanvasItem {
 
 }  // namespace
 
-void WriteCanvasItem(const ExchangedQuestion& question, const std::vector<std::string>& addresses,
-                     XmlWriter& xml) {
-  CanvasItem(question, addresses, xml).Write();
+void WriteCanvasItem(const ExchangedQuestion& question, const std::string& identifier,
+                     const std::vector<std::string>& addresses, XmlWriter& xml) {
+  CanvasItem(question, addresses, xml).Write(identifier);
 }
 
 }  // namespace quorvantis

@@ -10,7 +10,7 @@
 namespace quorvantis {
 
 /// Writes a question as an item of QTI 1.2. `addresses` has the address of each file of the question.
-void WriteCanvasItem(const ExchangedQuestion& question, const std::vector<std::string>& addresses,
-                     XmlWriter& xml);
+void WriteCanvasItem(const ExchangedQuestion& question, const std::string& identifier,
+                     const std::vector<std::string>& addresses, XmlWriter& xml);
 
 }  // namespace quorvantis

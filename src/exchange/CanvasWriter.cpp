@@ -8,14 +8,34 @@
 #include "exchange/ZipWriter.h"
 #include "text/Utf.h"
 
+#include <cstdint>
+
 namespace quorvantis {
 namespace {
+
+/// A name that only the same questions have: what is imported with a known name replaces what had it.
+std::string IdentifierOf(const ExchangedExam& exam) {
+  std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a, of 64 bits
+  const auto add = [&hash](std::u16string_view text) {
+    for (const char16_t unit : text) hash = (hash ^ unit) * 0x100000001B3;
+    hash = (hash ^ 0x10000) * 0x100000001B3;  // the end
+  };
+  add(exam.title);
+  for (const ExchangedQuestion& question : exam.questions) {
+    add(question.text);
+    for (const ExchangedOption& option : question.options) add(option.text);
+    for (const ExchangedFile& file : question.files) add(file.name);
+  }
+  std::string identifier = "exam";
+  for (int shift = 60; shift >= 0; shift -= 4) identifier.push_back("0123456789abcdef"[hash >> shift & 0xF]);
+  return identifier;
+}
 
 /// Composes one package.
 class CanvasPackage {
  public:
   explicit CanvasPackage(const ExchangedExam& exam)
-      : exam_(exam), title_(Utf16ToUtf8(ExamTextToPlain(exam.title))) {}
+      : exam_(exam), title_(Utf16ToUtf8(ExamTextToPlain(exam.title))), identifier_(IdentifierOf(exam)) {}
 
   std::string Bytes(Progress& progress) {
     zip_.Add("assessment/assessment.xml", Assessment(progress));
@@ -29,13 +49,13 @@ class CanvasPackage {
     std::string text(kXmlHead);
     XmlWriter xml(text);
     xml.Begin("questestinterop", {{"xmlns", "http://www.imsglobal.org/xsd/ims_qtiasiv1p2"}});
-    xml.Begin("assessment", {{"ident", "assessment"}, {"title", title_}});
+    xml.Begin("assessment", {{"ident", identifier_}, {"title", title_}});
     xml.Begin("section", {{"ident", "root_section"}});
     std::uint64_t done = 0;
     for (const ExchangedQuestion& question : exam_.questions) {
       if (progress.IsCancelled()) break;
       progress.Report(done++, exam_.questions.size());
-      WriteCanvasItem(question, AddFiles(question), xml);
+      WriteCanvasItem(question, identifier_ + "-" + std::to_string(done), AddFiles(question), xml);
     }
     xml.End("section");
     xml.End("assessment");
@@ -45,7 +65,7 @@ class CanvasPackage {
 
   /// Adds the files of a question, and returns their addresses in its HTML.
   std::vector<std::string> AddFiles(const ExchangedQuestion& question) {
-    const std::string folder = "question" + std::to_string(question.number) + "/";
+    const std::string folder = identifier_ + "/question" + std::to_string(question.number) + "/";
     const std::vector<std::u16string> names = UniqueNames(question.files);
     std::vector<std::string> addresses;
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -60,7 +80,7 @@ class CanvasPackage {
   std::string Meta() const {
     std::string text(kXmlHead);
     XmlWriter xml(text);
-    xml.Begin("quiz", {{"xmlns", "http://canvas.instructure.com/xsd/cccv1p0"}, {"identifier", "assessment"}});
+    xml.Begin("quiz", {{"xmlns", "http://canvas.instructure.com/xsd/cccv1p0"}, {"identifier", identifier_}});
     xml.Text("title", title_);
     xml.Text("shuffle_answers", exam_.shufflesOptions ? "true" : "false");
     xml.Text("quiz_type", "assignment");
@@ -79,19 +99,20 @@ class CanvasPackage {
     xml.End("metadata");
     xml.Empty("organizations");
     xml.Begin("resources");
-    xml.Begin("resource", {{"identifier", "assessment"}, {"type", "imsqti_xmlv1p2"}});
+    xml.Begin("resource", {{"identifier", identifier_}, {"type", "imsqti_xmlv1p2"}});
     xml.Empty("file", {{"href", "assessment/assessment.xml"}});
-    xml.Empty("dependency", {{"identifierref", "assessment_meta"}});
+    xml.Empty("dependency", {{"identifierref", identifier_ + "-meta"}});
     xml.End("resource");
-    xml.Begin("resource", {{"identifier", "assessment_meta"},
+    xml.Begin("resource", {{"identifier", identifier_ + "-meta"},
                            {"type", "associatedcontent/imscc_xmlv1p1/learning-application-resource"},
                            {"href", "assessment/assessment_meta.xml"}});
     xml.Empty("file", {{"href", "assessment/assessment_meta.xml"}});
     xml.End("resource");
     for (std::size_t i = 0; i < fileHrefs_.size(); ++i) {
       const std::string& href = fileHrefs_[i];
-      xml.Begin("resource",
-                {{"identifier", "file" + std::to_string(i + 1)}, {"type", "webcontent"}, {"href", href}});
+      xml.Begin("resource", {{"identifier", identifier_ + "-file" + std::to_string(i + 1)},
+                             {"type", "webcontent"},
+                             {"href", href}});
       xml.Empty("file", {{"href", href}});
       xml.End("resource");
     }
@@ -102,6 +123,7 @@ class CanvasPackage {
 
   const ExchangedExam& exam_;
   std::string title_;
+  std::string identifier_;
   ZipWriter zip_;
   std::vector<std::string> fileHrefs_;
 };

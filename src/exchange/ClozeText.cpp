@@ -19,13 +19,27 @@ namespace {
 
 constexpr std::u16string_view kProtectedInCloze = u"}#~/\"\\";
 
+/// What importers take a backslash away from when the names of characters have been resolved.
+bool IsProtectedLate(char16_t unit) {
+  return unit == u'}' || unit == u'#';
+}
+
+/// Importers end an answer at an ampersand that is written as usual, and take a backslash away before a brace
+/// or a number sign only, so numbers of characters stand for all of them.
 std::u16string ProtectedAnswer(std::u16string_view plain) {
+  constexpr std::u16string_view kNumbered = u"&<>\"'{}#~/\\=%";
   std::u16string text;
-  for (const char16_t unit : plain) {
-    if (kProtectedInCloze.find(unit) != kProtectedInCloze.npos) text.push_back(u'\\');
-    text.push_back(unit);
+  for (std::size_t i = 0; i < plain.size(); ++i) {
+    const char16_t unit = plain[i];
+    if (kNumbered.find(unit) == kNumbered.npos) {
+      text.push_back(unit);
+      continue;
+    }
+    const std::u16string number = u"&#" + FormatInteger(unit) + u";";
+    const bool wouldProtect = unit == u'\\' && i + 1 < plain.size() && IsProtectedLate(plain[i + 1]);
+    text += wouldProtect ? number + number : number;
   }
-  return EscapeHtml(text);
+  return text;
 }
 
 /// A brace of the text itself must not begin an answer.
@@ -156,13 +170,18 @@ class ClozeReading {
   }
 
   static std::u16string Plain(std::u16string_view answer) {
-    const std::u16string characters = ExamTextToPlain(ReadHtml(answer).text);
+    const auto isAlways = [](char16_t) { return true; };
+    return Unprotected(ExamTextToPlain(ReadHtml(Unprotected(answer, isAlways)).text), IsProtectedLate);
+  }
+
+  /// Without the backslashes in front of special characters that satisfy `isMeant`.
+  template <class Predicate>
+  static std::u16string Unprotected(std::u16string_view text, Predicate isMeant) {
     std::u16string plain;
-    for (std::size_t i = 0; i < characters.size(); ++i) {
-      const bool isProtected = characters[i] == u'\\' && i + 1 < characters.size() &&
-                               kProtectedInCloze.find(characters[i + 1]) != kProtectedInCloze.npos;
-      if (isProtected) ++i;
-      plain.push_back(characters[i]);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      const char16_t next = text[i] == u'\\' && i + 1 < text.size() ? text[i + 1] : u'\0';
+      if (kProtectedInCloze.find(next) != kProtectedInCloze.npos && isMeant(next)) ++i;
+      plain.push_back(text[i]);
     }
     return plain;
   }
@@ -175,7 +194,9 @@ class ClozeReading {
 
 }  // namespace
 
-std::u16string ClozeHtml(std::u16string_view examText, const std::vector<BlankAnswers>& blanks) {
+std::u16string ClozeHtml(std::u16string_view examText, const std::vector<BlankAnswers>& blanks,
+                         int blankScore) {
+  const std::u16string begin = u"{" + FormatInteger(blankScore) + u":SHORTANSWER:";
   const std::u16string html = WithoutBraces(ExamTextToHtml(examText, HtmlDialect::Html));
   std::u16string cloze;
   std::size_t at = 0;
@@ -189,7 +210,7 @@ std::u16string ClozeHtml(std::u16string_view examText, const std::vector<BlankAn
           .append(kBlankClass)
           .append(FormatInteger(static_cast<std::int64_t>(blank.Size())))
           .append(u"\">");
-    cloze += u"{1:SHORTANSWER:";
+    cloze += begin;
     for (std::size_t i = 0; i < blanks[number].size(); ++i)
       cloze.append(i == 0 ? u"=" : u"~=").append(ProtectedAnswer(ExamTextToPlain(blanks[number][i])));
     cloze += isUsual ? u"}" : u"}</span>";

@@ -11,8 +11,9 @@
 
 namespace quorvantis {
 
-/// HTML with the blanks of an exam text replaced by their answers.
-std::u16string ClozeHtml(std::u16string_view examText, const std::vector<BlankAnswers>& blanks);
+/// HTML with the blanks of an exam text replaced by their answers, each of which scores `blankScore`.
+std::u16string ClozeHtml(std::u16string_view examText, const std::vector<BlankAnswers>& blanks,
+                         int blankScore);
 
 /// HTML without its embedded answers.
 struct ReadCloze {

@@ -58,6 +58,16 @@ constexpr HeldParts kAllParts{.severalRight = true,
                               .title = true,
                               .shuffle = true};
 
+/// Its importer ends at a question that it does not take.
+constexpr HeldParts kMoodleParts = [] {
+  HeldParts parts = kAllParts;
+  parts.fewestOptions = 2;
+  parts.noneRight = false;
+  parts.blankScores = false;
+  parts.fileNames = false;
+  return parts;
+}();
+
 const FormatRow kFormats[] = {
     {.name = "moodle",
      .otherNames = "moodlexml moodle-xml moodle_xml xml",
@@ -65,7 +75,7 @@ const FormatRow kFormats[] = {
      .purpose = text_id::kFormatMoodlePurpose,
      .extension = "xml",
      .extensionIsItsOwn = true,
-     .held = kAllParts,
+     .held = kMoodleParts,
      .recognises = LooksLikeMoodleXml,
      .reader = NewReader<MoodleXmlReader>,
      .writer = NewWriter<MoodleXmlWriter>},
@@ -92,7 +102,7 @@ const FormatRow kFormats[] = {
      .purpose = text_id::kFormatAikenPurpose,
      .extension = "aiken",
      .extensionIsItsOwn = true,
-     .held = {.texts = HeldText::OneLine},
+     .held = {.texts = HeldText::OneLine, .fewestOptions = 2},
      .recognises = LooksLikeAiken,
      .reader = NewReader<AikenReader>,
      .writer = NewWriter<AikenWriter>},
@@ -121,8 +131,8 @@ const FormatRow kFormats[] = {
      .purpose = text_id::kFormatGiftPurpose,
      .extension = "gift",
      .extensionIsItsOwn = true,
-     .held = {.severalRight = true,
-              .noneRight = true,
+     .held = {.fewestOptions = 2,
+              .severalRight = true,
               .fillIn = true,
               .arrows = false,
               .essay = true,

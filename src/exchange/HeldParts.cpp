@@ -2,6 +2,8 @@
 #include "exchange/HeldParts.h"
 
 #include "exchange/Markup.h"
+#include "exchange/Points.h"
+#include "model/AnswerLetters.h"
 #include "platform/TextNumbers.h"
 #include "text/LineBreaks.h"
 #include "text/NumberText.h"
@@ -11,7 +13,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kFewestOptions = 2;  // a choice between fewer is none in any learning system
+constexpr std::u16string_view kRiskyInNames = u"&<>\"`|':\\/";
 
 /// Reduces one question after the other to what a format holds.
 class Reduction {
@@ -21,10 +23,10 @@ class Reduction {
   /// False if nothing of it can be held.
   bool Reduce(ExchangedQuestion& question) {
     if (IsEmpty(question)) return Refuse(text_id::kExchangeEmptyQuestion);
+    std::erase_if(question.options, [](const ExchangedOption& option) { return option.text.empty(); });
     if (!ReduceKind(question)) return false;
     question.text = Text(question.text);
     for (ExchangedOption& option : question.options) option.text = Text(option.text);
-    std::erase_if(question.options, [](const ExchangedOption& option) { return option.text.empty(); });
     for (BlankAnswers& blank : question.blanks) {
       for (std::u16string& answer : blank) answer = Answer(answer);
     }
@@ -85,17 +87,33 @@ class Reduction {
   }
 
   bool ReduceChoice(ExchangedQuestion& question) {
-    if (question.options.size() < (held_.unanswered ? 0 : 1)) {
-      if (!held_.essay) return Refuse(text_id::kExchangeNoOptions);
-      question.kind = QuestionKind::Essay;
-      notes_.Tell(text_id::kExchangeNoOptionsBecomesEssay);
-      return true;
-    }
     const auto rights = std::ranges::count_if(question.options, &ExchangedOption::isRight);
-    if (rights == 0 && !held_.noneRight) return Refuse(text_id::kExchangeNoneRight);
-    if (rights > 1 && !held_.severalRight) return Refuse(text_id::kExchangeSeveralRight);
-    const bool isNoChoice = !held_.severalRight && question.options.size() < kFewestOptions;
-    return !isNoChoice || Refuse(text_id::kExchangeNoOptions);
+    const std::size_t fewest = held_.unanswered ? 0 : held_.fewestOptions;
+    if (question.options.size() < fewest) {
+      if (!held_.essay) return Refuse(text_id::kExchangeNoOptions);
+      const bool isEmpty = question.options.empty();
+      return MakeEssay(question, isEmpty ? text_id::kExchangeNoOptionsBecomesEssay
+                                         : text_id::kExchangeOneOptionBecomesEssay);
+    }
+    if (rights == 0 && !held_.noneRight) {
+      if (!held_.essay) return Refuse(text_id::kExchangeNoneRight);
+      return MakeEssay(question, text_id::kExchangeNoneRightBecomesEssay);
+    }
+    return rights <= 1 || held_.severalRight || Refuse(text_id::kExchangeSeveralRight);
+  }
+
+  /// The options are lines of its text then, and a right one is its model answer.
+  bool MakeEssay(ExchangedQuestion& question, int text) {
+    question.kind = QuestionKind::Essay;
+    for (std::size_t i = 0; i < question.options.size(); ++i) {
+      const ExchangedOption& option = question.options[i];
+      question.text.append(question.text.empty() ? u"" : u"\r\n").push_back(OptionLetter(i));
+      question.text.append(u". ").append(option.text);
+      if (option.isRight) question.modelAnswer = option.text;
+    }
+    question.options.clear();
+    notes_.Tell(text);
+    return true;
   }
 
   bool ReduceFillIn(ExchangedQuestion& question) {
@@ -117,11 +135,34 @@ class Reduction {
                   {FormatInteger(static_cast<std::int64_t>(question.files.size()))});
       question.files.clear();
     }
+    if (!held_.fileNames) {
+      for (ExchangedFile& file : question.files) ReduceFileName(file);
+    }
     if (!held_.modelAnswer && !question.modelAnswer.empty()) {
       notes_.Tell(text_id::kExchangeModelAnswerLeftOut);
       question.modelAnswer.clear();
     }
     if (!held_.scores) question.score.reset();
+    if (!held_.blankScores && question.blanks.size() > 1) TellBlankScores(question);
+  }
+
+  void TellBlankScores(const ExchangedQuestion& question) {
+    if (!question.score) return;
+    const auto blanks = static_cast<int>(question.blanks.size());
+    const int score = blanks * WholeBlankScore(*question.score, question.blanks.size());
+    if (score != *question.score) notes_.Tell(text_id::kExchangeBlankScores, {FormatInteger(score)});
+  }
+
+  /// Two dots in a row would lead to another folder.
+  void ReduceFileName(ExchangedFile& file) {
+    std::u16string name;
+    for (const char16_t unit : file.name) {
+      const bool isRisky = unit < u' ' || kRiskyInNames.find(unit) != kRiskyInNames.npos;
+      if (unit != u'.' || !name.ends_with(u'.')) name.push_back(isRisky ? u'_' : unit);
+    }
+    if (name == file.name) return;
+    notes_.Tell(text_id::kExchangeFileRenamed, {file.name, name});
+    file.name = name;
   }
 
   const HeldParts& held_;

@@ -4,6 +4,8 @@
 #include "exchange/ExchangeNotes.h"
 #include "exchange/ExchangedExam.h"
 
+#include <cstddef>
+
 namespace quorvantis {
 
 enum class HeldText {
@@ -15,16 +17,19 @@ enum class HeldText {
 /// What a format can hold. What is left unsaid it cannot.
 struct HeldParts {
   HeldText texts = HeldText::Markup;
-  bool severalRight = false;   ///< more than one right option
-  bool noneRight = false;      ///< no right option
-  bool fillIn = false;         ///< questions with alternative answers
-  bool arrows = true;          ///< "->" in answers
-  bool severalBlanks = false;  ///< an answer for each blank
+  std::size_t fewestOptions = 1;  ///< of a choice
+  bool severalRight = false;      ///< more than one right option
+  bool noneRight = false;         ///< no right option
+  bool fillIn = false;            ///< questions with alternative answers
+  bool arrows = true;             ///< "->" in answers
+  bool severalBlanks = false;     ///< an answer for each blank
+  bool blankScores = true;        ///< any score for these; otherwise whole numbers for each blank
   bool essay = false;
   bool modelAnswer = false;
   bool oral = false;
   bool unanswered = false;  ///< choice questions without options, and fill-in questions without answers
   bool files = false;
+  bool fileNames = true;  ///< any names of files; otherwise without characters that mean something elsewhere
   bool scores = false;
   bool title = false;
   bool shuffle = false;  ///< that options are to be shuffled

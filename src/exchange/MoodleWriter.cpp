@@ -90,14 +90,20 @@ class MoodleQuiz {
     for (const std::u16string& name : names)
       addresses.push_back(Utf16ToUtf8(kMoodleFiles) + AddressPart(name));
     xml_.Begin("questiontext", {{"format", "html"}});
-    const std::u16string html = isCloze ? ClozeHtml(question.text, question.blanks)
-                                        : ExamTextToHtml(question.text, HtmlDialect::Html);
+    const std::u16string html =
+        isCloze ? ClozeText(question) : ExamTextToHtml(question.text, HtmlDialect::Html);
     WriteText(Utf16ToUtf8(html + HtmlOfFiles(question.files, addresses, HtmlDialect::Html)));
     for (std::size_t i = 0; i < names.size(); ++i) {
       xml_.Raw("file", ToBase64(BytesOf(question.files[i])),
                {{"name", Utf16ToUtf8(names[i])}, {"path", "/"}, {"encoding", "base64"}});
     }
     xml_.End("questiontext");
+  }
+
+  static std::u16string ClozeText(const ExchangedQuestion& question) {
+    const std::size_t blanks = question.blanks.size();
+    return ClozeHtml(question.text, question.blanks,
+                     question.score ? WholeBlankScore(*question.score, blanks) : 1);
   }
 
   void WriteAnswers(const ExchangedQuestion& question, bool isCloze) {

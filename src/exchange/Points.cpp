@@ -27,4 +27,10 @@ std::optional<double> PointsOf(std::u16string_view text) {
   return isNumber ? std::optional(ParseReal(number)) : std::nullopt;
 }
 
+int WholeBlankScore(double score, std::size_t blanks) {
+  constexpr double kMost = 1e6;
+  const double each = score / static_cast<double>(std::max<std::size_t>(blanks, 1));
+  return std::isfinite(each) ? static_cast<int>(std::clamp(std::round(each), 1.0, kMost)) : 1;
+}
+
 }  // namespace quorvantis

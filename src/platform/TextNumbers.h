@@ -931,5 +931,9 @@ constexpr int kBankNoExam = 2341;
 constexpr int kBankUnreadable = 2342;
 constexpr int kBankTooMuch = 2343;
 constexpr int kBankFolderGone = 2344;
+constexpr int kExchangeOneOptionBecomesEssay = 2213;
+constexpr int kExchangeNoneRightBecomesEssay = 2214;
+constexpr int kExchangeFileRenamed = 2215;  // %1 is the old name, %2 the new one
+constexpr int kExchangeBlankScores = 2216;  // %1 is the score that it gets
 
 }  // namespace quorvantis::text_id
