@@ -2,11 +2,12 @@
 #include "cli/CommandError.h"
 #include "cli/CommandOptions.h"
 #include "cli/Commands.h"
+#include "cli/Version.h"
 #include "cli/VersionOptions.h"
 #include "host/PlanJson.h"
 #include "platform/TextNumbers.h"
 #include "platform/digest/OpenSslDigest.h"
-#include "platform/posix/Leftover.h"
+#include "platform/posix/PosixFolderGuard.h"
 #include "platform/programs/PdfProgram.h"
 #include "platform/programs/PopplerPdfText.h"
 #include "text/MessageText.h"
@@ -43,14 +44,15 @@ std::uint64_t RandomSeed() {
 /// What versions need on this machine.
 struct VersionTools {
   explicit VersionTools(const CommonOptions& options)
-      : printer(PdfProgram::Find(), options.language.value_or(0), options.appFolder) {}
+      : printer(PdfProgram::Find(), options.language.value_or(0), options.appFolder),
+        ports{digest, form, &printer, &pdfText, &guard, kVersion, options.language.value_or(0)} {}
 
   OpenSslDigest digest;
   PlanJson form{digest};
   PdfProgram printer;
   PopplerPdfText pdfText;
-  VersionPorts ports{digest, form, &printer, &pdfText,
-                     [](const fs::path& folder) { return std::make_shared<Leftover>(folder); }};
+  PosixFolderGuard guard;
+  VersionPorts ports;
 };
 
 /// A question or option that is to keep its place must be there: who mistypes it would not notice.

@@ -83,6 +83,8 @@ class PlanReader {
   PlanRecord Read() {
     if (json_.at("form") != kForm) Fail();
     PlanRecord record;
+    record.program = json_.value("program", "");
+    record.languageId = json_.value("language", 0);
     record.source = Text(json_.at("source"));
     record.sourceDigest = json_.at("sourceSha256").get<std::string>();
     ReadRequest(record.request);
@@ -172,17 +174,18 @@ class PlanReader {
 }  // namespace
 
 std::string PlanJson::Write(const PlanRecord& record) const {
-  Json json{{"form", kForm},
-            {"source", Utf16ToUtf8(record.source)},
-            {"sourceSha256", record.sourceDigest},
-            {"seed", std::to_string(record.request.seed)},
-            {"questions", MovesWord(record.request.moves)},
-            {"options", record.request.movesOptions ? "on" : "off"},
-            {"kept", PinsToJson(record.request.pins)},
-            {"moved", MovesWord(record.plan.moves)},
-            {"pinned", PartsToJson(record.plan.pinned)},
-            {"versions", VersionsToJson(record)},
-            {"files", FilesToJson(record.files)}};
+  Json json{{"form", kForm}};
+  if (!record.program.empty()) json.update({{"program", record.program}, {"language", record.languageId}});
+  json.update({{"source", Utf16ToUtf8(record.source)},
+               {"sourceSha256", record.sourceDigest},
+               {"seed", std::to_string(record.request.seed)},
+               {"questions", MovesWord(record.request.moves)},
+               {"options", record.request.movesOptions ? "on" : "off"},
+               {"kept", PinsToJson(record.request.pins)},
+               {"moved", MovesWord(record.plan.moves)},
+               {"pinned", PartsToJson(record.plan.pinned)},
+               {"versions", VersionsToJson(record)},
+               {"files", FilesToJson(record.files)}});
   json[kCheck] = digest_.OfBytes(Dumped(json));
   return Dumped(json);
 }

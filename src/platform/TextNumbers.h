@@ -746,6 +746,14 @@ constexpr int kPdfUnreadable = 2100;
 constexpr int kVersionsRight = 2101;
 constexpr int kPaperLacksCode = 2102;
 /// A file of a version, and the numbers of questions.
+constexpr int kVersionsFolderIsLink = 2135;
+constexpr int kVersionNamesAlike = 2136;  // two names
+constexpr int kPlannedByAnother = 2137;
+constexpr int kPlanNotDerived = 2138;
+constexpr int kReportNotCompared = 2139;
+constexpr int kReportDiffers = 2140;     // %1 is the line
+constexpr int kPageCountDiffers = 2141;  // %1 is the file, then the pages it should have, and those it has
+constexpr int kFileNotExpected = 2142;
 constexpr int kPaperNotCompared = 2149;
 // The window for versions.
 constexpr int kVersionsEntry = 2110;

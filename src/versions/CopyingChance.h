@@ -7,11 +7,14 @@
 #include "versions/PinnedParts.h"
 #include "versions/QuestionUnits.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 namespace quorvantis {
 
-/// What two papers share beyond chance at most, as a share of all places, where the plan can help it.
+/// How far what two papers share may be from chance, as a share of all places, where the plan can help it.
+/// With far fewer equal keys than by chance, the key of a neighbour would tell what is not right.
 inline constexpr double kToleratedShare = 0.05;
 
 /// The key of a choice question as the sum of AnswerBoxWeight, with its options in the order; 0 if it has
@@ -28,6 +31,11 @@ struct CopyingChance {
   /// How many places may at most be the same.
   std::size_t TolerableQuestions() const { return Tolerable(places, sameQuestion); }
   std::size_t TolerableKeys() const { return Tolerable(keyed, sameKey); }
+  /// How many keys should at least be the same; at most TolerableKeys.
+  std::size_t FewestKeys() const {
+    const double fewest = std::ceil(static_cast<double>(keyed) * (sameKey - kToleratedShare));
+    return fewest <= 0 ? 0 : std::min(static_cast<std::size_t>(fewest), TolerableKeys());
+  }
 
  private:
   static std::size_t Tolerable(std::size_t places, double chance) {

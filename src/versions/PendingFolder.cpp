@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "versions/PendingFolder.h"
 
+#include "platform/FolderEntries.h"
+
 #include <string>
 
 namespace quorvantis {
@@ -9,6 +11,12 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kNameTries = 1000;
+
+// Hidden names: a dot, one of these, and a number. They are short, so that they are possible wherever that of
+// the target is.
+constexpr std::string_view kMaking = "making-versions-";
+constexpr std::string_view kOld = "old-versions-";            // may be needed again
+constexpr std::string_view kReplaced = "replaced-versions-";  // is being removed
 
 /// Without a slash at the end, behind which there would be an empty name; of a link, the folder it leads to.
 fs::path FolderNamed(const fs::path& target) {
@@ -20,14 +28,33 @@ fs::path FolderNamed(const fs::path& target) {
 
 }  // namespace
 
-PendingFolder::PendingFolder(const fs::path& target, const Guard& guard) : target_(FolderNamed(target)) {
+PendingFolder::PendingFolder(const fs::path& target, FolderGuard* guard) : target_(FolderNamed(target)) {
+  if (guard != nullptr) RemoveAbandoned(*guard);
+  Create(guard);
+}
+
+void PendingFolder::RemoveAbandoned(FolderGuard& guard) const {
+  for (const fs::path& entry : EntriesOf(target_.parent_path())) {
+    const std::string name = entry.filename().string();
+    const auto isOurs = [&name](std::string_view kind) {
+      const std::size_t number = 1 + kind.size();
+      return name.compare(0, number, "." + std::string(kind)) == 0 && name.size() > number &&
+             name.find_first_not_of("0123456789", number) == name.npos;
+    };
+    if (isOurs(kMaking) || isOurs(kReplaced)) guard.RemoveIfAbandoned(entry);
+  }
+}
+
+void PendingFolder::Create(FolderGuard* guard) {
   for (int number = 1; number <= kNameTries && path_.empty() && !error_; ++number) {
-    const fs::path candidate = HiddenName("making", number);
+    const fs::path candidate = HiddenName(kMaking, number);
     // False without an error if it exists already.
-    if (fs::create_directory(candidate, error_)) path_ = candidate;
+    if (!fs::create_directory(candidate, error_)) continue;
+    if (guard != nullptr) held_ = guard->Hold(candidate);
+    // Another program may have taken it for abandoned before it was held.
+    if (guard == nullptr || held_ != nullptr) path_ = candidate;
   }
   if (path_.empty() && !error_) error_ = std::make_error_code(std::errc::file_exists);
-  if (!path_.empty() && guard) guard_ = guard(path_);
 }
 
 PendingFolder::~PendingFolder() {
@@ -35,9 +62,8 @@ PendingFolder::~PendingFolder() {
   if (!path_.empty()) fs::remove_all(path_, ignored);
 }
 
-/// Short, so that it is a possible name wherever that of the target is.
-fs::path PendingFolder::HiddenName(const char* what, int number) const {
-  return target_.parent_path() / ("." + std::string(what) + "-versions-" + std::to_string(number));
+fs::path PendingFolder::HiddenName(std::string_view kind, int number) const {
+  return target_.parent_path() / ("." + std::string(kind) + std::to_string(number));
 }
 
 /// `old` becomes the hidden name of what has had the name; it stays empty if there is nothing.
@@ -45,9 +71,9 @@ std::error_code PendingFolder::MoveOldAway(fs::path& old) const {
   std::error_code error;
   if (!fs::exists(fs::symlink_status(target_, error))) return {};
   int number = 1;
-  while (fs::exists(fs::symlink_status(HiddenName("old", number), error))) ++number;
-  fs::rename(target_, HiddenName("old", number), error);
-  if (!error) old = HiddenName("old", number);
+  while (fs::exists(fs::symlink_status(HiddenName(kOld, number), error))) ++number;
+  fs::rename(target_, HiddenName(kOld, number), error);
+  if (!error) old = HiddenName(kOld, number);
   return error;
 }
 
@@ -62,9 +88,19 @@ std::error_code PendingFolder::Commit() {
     return error;
   }
   path_.clear();
-  guard_.reset();
-  if (!old.empty()) fs::remove_all(old, ignored);
+  held_.reset();
+  if (!old.empty()) RemoveOld(old);
   return {};
+}
+
+/// Under a name that tells that nobody needs it, should the program be killed on the way.
+void PendingFolder::RemoveOld(const fs::path& old) const {
+  std::error_code error;
+  int number = 1;
+  do {
+    fs::rename(old, HiddenName(kReplaced, number), error);
+  } while (error && ++number <= kNameTries);
+  fs::remove_all(error ? old : HiddenName(kReplaced, number), error);
 }
 
 }  // namespace quorvantis

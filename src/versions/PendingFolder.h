@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/FolderGuard.h"
+
 #include <filesystem>
-#include <functional>
 #include <memory>
+#include <string_view>
 #include <system_error>
 
 namespace quorvantis {
@@ -11,11 +13,9 @@ namespace quorvantis {
 /// The new content of a folder, made in a hidden one beside it. Destroyed without Commit, it leaves no trace.
 class PendingFolder {
  public:
-  /// See VersionPorts::guardFolder.
-  using Guard = std::function<std::shared_ptr<void>(const std::filesystem::path& folder)>;
-
-  /// Creates the hidden folder beside `target`, whose parent must exist.
-  PendingFolder(const std::filesystem::path& target, const Guard& guard);
+  /// Creates the hidden folder beside `target`, whose parent must exist. With a guard, which may be null,
+  /// hidden folders there that programs have left when they were killed are removed.
+  PendingFolder(const std::filesystem::path& target, FolderGuard* guard);
   ~PendingFolder();
   PendingFolder(const PendingFolder&) = delete;
   PendingFolder& operator=(const PendingFolder&) = delete;
@@ -29,13 +29,16 @@ class PendingFolder {
   std::error_code Commit();
 
  private:
-  std::filesystem::path HiddenName(const char* what, int number) const;
+  void RemoveAbandoned(FolderGuard& guard) const;
+  void Create(FolderGuard* guard);
+  void RemoveOld(const std::filesystem::path& old) const;
+  std::filesystem::path HiddenName(std::string_view kind, int number) const;
   std::error_code MoveOldAway(std::filesystem::path& old) const;
 
   std::filesystem::path target_;
   std::filesystem::path path_;  ///< empty once it has its name
   std::error_code error_;
-  std::shared_ptr<void> guard_;
+  std::shared_ptr<void> held_;
 };
 
 }  // namespace quorvantis

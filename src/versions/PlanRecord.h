@@ -28,6 +28,8 @@ struct PlanRecord {
   VersionPlan plan;
   std::vector<std::string> codes;  ///< by version: what stands on its sheets beside the name
   std::vector<MadeFile> files;     ///< all but the plan itself
+  std::string program = {};        ///< the version of the program that has planned; may be empty
+  int languageId = 0;              ///< of the report; 0 for the built-in texts
 
   bool operator==(const PlanRecord&) const = default;
 };

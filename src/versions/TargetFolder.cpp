@@ -46,7 +46,8 @@ std::u16string ProblemWithFolder(const fs::path& folder, const fs::path& exam, b
   };
   std::error_code error;
   const fs::file_status status = fs::status(folder, error);
-  if (status.type() == fs::file_type::not_found) return {};
+  if (status.type() == fs::file_type::not_found)
+    return IsLink(folder) ? problem(text_id::kVersionsFolderIsLink) : std::u16string();
   if (!fs::is_directory(status)) return problem(text_id::kVersionsFolderTaken);
   const std::vector<fs::path> entries = EntriesOf(folder);
   if (entries.empty()) return {};

@@ -14,8 +14,8 @@ namespace quorvantis {
 std::filesystem::path UsualVersionFolder(const std::filesystem::path& exam);
 
 /// Why versions of `exam` cannot be made in `folder`, for the user; empty if they can. The folder may be
-/// missing or empty. With `replaces` it may also hold versions of this exam that were made before, but
-/// nothing else: nobody's work is overwritten.
+/// missing or empty, but no link that leads nowhere. With `replaces` it may also hold versions of this exam
+/// that were made before, but nothing else: nobody's work is overwritten.
 std::u16string ProblemWithFolder(const std::filesystem::path& folder, const std::filesystem::path& exam,
                                  bool replaces, const PlanForm& form, const StringTable& strings);
 

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "platform/Sheet.h"
+#include "versions/VersionPlan.h"
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvantis {
 
@@ -39,6 +41,20 @@ inline std::u16string SheetFileOf(std::u16string_view version, Sheet sheet) {
       break;
   }
   return file(u" sheet.pdf");
+}
+
+/// All files of these versions but the plan, in the order in which the plan names them.
+inline std::vector<std::u16string> FilesOf(const std::vector<PlannedVersion>& versions, bool areThereSheets) {
+  std::vector<std::u16string> files;
+  for (const PlannedVersion& version : versions) files.push_back(ExamFileOf(version.name));
+  for (const PlannedVersion& version : versions) files.push_back(KeyFileOf(version.name));
+  files.emplace_back(kCombinedKeysFile);
+  for (const PlannedVersion& version : versions) {
+    if (!areThereSheets) break;
+    for (const Sheet sheet : kVersionSheets) files.push_back(SheetFileOf(version.name, sheet));
+  }
+  files.emplace_back(kReportFile);
+  return files;
 }
 
 }  // namespace quorvantis

@@ -29,7 +29,6 @@
 #include "versions/VersionSheets.h"
 #include "versions/VersionVerifier.h"
 
-#include <set>
 #include <utility>
 
 namespace quorvantis {
@@ -54,7 +53,7 @@ class Making {
         order_(order),
         verifyFolder_(workFolder / "verified"),
         source_(services, workFolder / "source", order.exam),
-        pending_(order.folder, ports.guardFolder) {}
+        pending_(order.folder, ports.guard) {}
 
   MadeVersions Run() {
     using Step = std::u16string (Making::*)();
@@ -82,6 +81,8 @@ class Making {
   std::u16string Begin() {
     if (pending_.Error()) return NotWritten(order_.folder, pending_.Error());
     made_.record.request = order_.request;
+    made_.record.program = ports_.program;
+    made_.record.languageId = ports_.languageId;
     made_.record.sourceDigest = ports_.digest.OfFile(order_.exam);
     made_.record.source = PathToText(order_.exam.lexically_relative(order_.folder));
     return source_.Problem();
@@ -99,9 +100,10 @@ class Making {
     }
     PlanRecord& record = made_.record;
     record.plan = std::move(outcome.plan);
+    chance_ = outcome.chance;
     for (const PlannedVersion& version : record.plan.versions)
       record.codes.push_back(CodeOfVersion(ports_.digest, record.sourceDigest, order_.request, version.name));
-    made_.report = PlanReport(source_.Exam(), order_.request, record.plan, outcome.chance, services_.strings);
+    made_.report = PlanReport(source_.Exam(), order_.request, record.plan, chance_, services_.strings);
     return {};
   }
 
@@ -154,23 +156,21 @@ class Making {
       made_.report.push_back(Filled(text_id::kVersionsNoSheets, {Utf8ToUtf16(*problem)}));
       return {};
     }
-    std::set<int> lengths;
     for (const PlannedVersion& version : made_.record.plan.versions) {
       for (const Sheet sheet : kVersionSheets) {
         const std::u16string file = SheetFileOf(version.name, sheet);
         const int pages = ports_.printer->PageCount(pending_.Path() / TextToPath(file)).value_or(0);
         Note(file, pages);
-        if (sheet == Sheet::Paper) lengths.insert(pages);
       }
     }
-    if (lengths.size() > 1) made_.report.push_back(services_.strings.Text(text_id::kVersionsPagesDiffer));
+    if (DoPapersDiffer(made_.record))
+      made_.report.push_back(services_.strings.Text(text_id::kVersionsPagesDiffer));
     return {};
   }
 
   std::u16string WriteReport() {
-    std::string text;
-    for (const std::u16string& line : made_.report) text += Utf16ToUtf8(line) + "\n";
-    return WriteFile(std::u16string(kReportFile), text);
+    return WriteFile(std::u16string(kReportFile),
+                     ReportText(source_.Exam(), made_.record, chance_, services_.strings));
   }
 
   std::u16string WritePlan() {
@@ -219,6 +219,7 @@ class Making {
   ReadExam source_;
   PendingFolder pending_;
   MadeVersions made_;
+  CopyingChance chance_;
   std::vector<ExamPaper> papers_;  ///< the versions, for their keys
 };
 

@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
 #include <string_view>
 
 namespace quorvantis {
@@ -43,10 +42,59 @@ bool IsUsable(std::u16string_view name) {
          kNotAround.find(name.back()) == kNotAround.npos && !IsReserved(name);
 }
 
+struct Expansion {
+  char16_t letter;
+  std::u16string_view letters;
+};
+
+/// Letters that become several where the case does not count.
+constexpr Expansion kExpansions[] = {
+    {u'\u00DF', u"ss"},           {u'\u0130', u"i\u0307"}, {u'\u0149', u"\u02BCn"}, {u'\u01F0', u"j\u030C"},
+    {u'\u0587', u"\u0565\u0582"}, {u'\uFB00', u"ff"},      {u'\uFB01', u"fi"},      {u'\uFB02', u"fl"},
+    {u'\uFB03', u"ffi"},          {u'\uFB04', u"ffl"},     {u'\uFB05', u"st"},      {u'\uFB06', u"st"},
+};
+
+/// The same text for names that differ only in the case of letters.
 std::u16string Folded(std::u16string_view name) {
   std::u16string folded;
-  std::ranges::transform(name, std::back_inserter(folded), FoldCase);
+  for (const char16_t unit : name) {
+    const char16_t letter = FoldCase(unit);
+    const auto* const row = std::ranges::find(kExpansions, letter, &Expansion::letter);
+    if (row != std::end(kExpansions))
+      folded += row->letters;
+    else
+      folded += letter;
+  }
   return folded;
+}
+
+bool IsCombining(char16_t unit) {
+  return (unit >= 0x0300 && unit <= 0x036F) || (unit >= 0x1DC0 && unit <= 0x1DFF) ||
+         (unit >= 0x20D0 && unit <= 0x20FF);
+}
+
+/// A folded name in which one sign stands for every letter that has a mark, or is one unit with it. Some
+/// disks write a letter and its mark as one and some as two; this tells more names to be alike than are.
+std::u16string WithoutMarks(std::u16string_view folded) {
+  constexpr char16_t kMarked = u'\u0300';
+  const auto mayBeMarked = [](char16_t unit) {
+    return (unit >= 0x00C0 && unit < 0x0250) || (unit >= 0x0370 && unit < 0x0530) ||
+           (unit >= 0x1E00 && unit < 0x2000);
+  };
+  std::u16string shape;
+  for (const char16_t unit : folded) {
+    if (IsCombining(unit) && !shape.empty())
+      shape.back() = kMarked;
+    else
+      shape += mayBeMarked(unit) ? kMarked : unit;
+  }
+  return shape;
+}
+
+/// Whether files named after folded names may be one file on some disks.
+bool AreAlike(const std::u16string& name, const std::u16string& other) {
+  const bool hasMarks = std::ranges::any_of(name, IsCombining) || std::ranges::any_of(other, IsCombining);
+  return name == other || (hasMarks && WithoutMarks(name) == WithoutMarks(other));
 }
 
 }  // namespace
@@ -61,11 +109,15 @@ std::vector<std::u16string> LetterNames(std::size_t count) {
 std::u16string ProblemWithNames(const std::vector<std::u16string>& names, const StringTable& strings) {
   if (names.empty() || names.size() > kMaxVersions)
     return FillMessage(strings.Text(text_id::kVersionCountWrong), {FormatInteger(kMaxVersions)});
-  std::set<std::u16string> seen;
+  std::vector<std::u16string> folded;
   for (const std::u16string& name : names) {
     if (!IsUsable(name)) return FillMessage(strings.Text(text_id::kVersionNameUnusable), {name});
-    if (!seen.insert(Folded(name)).second)
-      return FillMessage(strings.Text(text_id::kVersionNameTwice), {name});
+    folded.push_back(Folded(name));
+    for (std::size_t i = 0; i + 1 < folded.size(); ++i) {
+      if (names[i] == name) return FillMessage(strings.Text(text_id::kVersionNameTwice), {name});
+      if (AreAlike(folded[i], folded.back()))
+        return FillMessage(strings.Text(text_id::kVersionNamesAlike), {names[i], name});
+    }
   }
   return {};
 }

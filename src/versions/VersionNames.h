@@ -16,8 +16,8 @@ inline constexpr std::size_t kMaxVersionName = 40;
 std::vector<std::u16string> LetterNames(std::size_t count);
 
 /// What is wrong with the names, for the user; empty if nothing is. There must be 1 to kMaxVersions, all
-/// different even where the case of letters does not count, each a possible beginning of a file name on every
-/// system.
+/// different even where the case of letters does not count, or marks stand apart from their letters, each a
+/// possible beginning of a file name on every system.
 std::u16string ProblemWithNames(const std::vector<std::u16string>& names, const StringTable& strings);
 
 }  // namespace quorvantis

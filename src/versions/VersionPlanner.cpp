@@ -42,7 +42,7 @@ class Planning {
         chance_(ChanceOfCopying(exam, pinned_, units_, request.movesOptions)),
         random_(request.seed),
         questions_(units_, scores_, chance_.TolerableQuestions()),
-        options_(exam, pinned_, chance_.TolerableKeys()) {}
+        options_(exam, pinned_, chance_.FewestKeys(), chance_.TolerableKeys()) {}
 
   /// Nothing if ten ranges cannot give the scores.
   std::optional<PlanOutcome> Plan() {

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <filesystem>
-#include <functional>
-#include <memory>
+#include <string>
 
 namespace quorvantis {
 
 class FileDigest;
+class FolderGuard;
 class PaperPrinter;
 class PdfText;
 class PlanForm;
@@ -18,9 +17,9 @@ struct VersionPorts {
   const PlanForm& form;
   PaperPrinter* printer = nullptr;  ///< null if no PDF files are wanted
   PdfText* pdfText = nullptr;       ///< null if there are no PDF files to read
-  /// Makes something that, as long as it lives, has a folder with its content removed if a signal ends the
-  /// program. May be empty.
-  std::function<std::shared_ptr<void>(const std::filesystem::path& folder)> guardFolder = {};
+  FolderGuard* guard = nullptr;     ///< null if nothing must be removed after a sudden end
+  std::string program = {};         ///< the version of this program, which tells whose plan can be made again
+  int languageId = 0;               ///< of the texts in use
 };
 
 }  // namespace quorvantis

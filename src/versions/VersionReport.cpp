@@ -5,10 +5,13 @@
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
+#include "text/Utf.h"
 #include "versions/CopyingReport.h"
+#include "versions/VersionFiles.h"
 
 #include <cmath>
 #include <cstddef>
+#include <set>
 
 namespace quorvantis {
 namespace {
@@ -77,6 +80,26 @@ std::vector<std::u16string> PlanReport(const ExamPaper& exam, const VersionReque
                      ShareOf(pair.sameQuestions, chance.places), ShareOf(pair.sameKeys, chance.keyed)}));
   }
   return lines;
+}
+
+bool DoPapersDiffer(const PlanRecord& record) {
+  std::set<int> lengths;
+  for (const PlannedVersion& version : record.plan.versions) {
+    const std::u16string paper = SheetFileOf(version.name, Sheet::Paper);
+    for (const MadeFile& made : record.files) {
+      if (made.name == paper) lengths.insert(made.pages);
+    }
+  }
+  return lengths.size() > 1;
+}
+
+std::string ReportText(const ExamPaper& exam, const PlanRecord& record, const CopyingChance& chance,
+                       const StringTable& strings) {
+  std::vector<std::u16string> lines = PlanReport(exam, record.request, record.plan, chance, strings);
+  if (DoPapersDiffer(record)) lines.push_back(strings.Text(text_id::kVersionsPagesDiffer));
+  std::string text;
+  for (const std::u16string& line : lines) text += Utf16ToUtf8(line) + "\n";
+  return text;
 }
 
 }  // namespace quorvantis

@@ -5,6 +5,7 @@
 #include "model/ExamPaper.h"
 #include "platform/StringTable.h"
 #include "versions/CopyingChance.h"
+#include "versions/PlanRecord.h"
 #include "versions/VersionPlan.h"
 #include "versions/VersionRequest.h"
 
@@ -21,5 +22,12 @@ std::u16string PinText(const PinnedPart& part, const StringTable& strings);
 std::vector<std::u16string> PlanReport(const ExamPaper& exam, const VersionRequest& request,
                                        const VersionPlan& plan, const CopyingChance& chance,
                                        const StringTable& strings);
+
+/// Whether papers have different numbers of pages.
+bool DoPapersDiffer(const PlanRecord& record);
+
+/// The bytes of "report.txt": the lines of PlanReport, and whether papers differ.
+std::string ReportText(const ExamPaper& exam, const PlanRecord& record, const CopyingChance& chance,
+                       const StringTable& strings);
 
 }  // namespace quorvantis

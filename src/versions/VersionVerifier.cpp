@@ -22,6 +22,8 @@
 #include "versions/VersionFiles.h"
 #include "versions/VersionKeys.h"
 #include "versions/VersionNames.h"
+#include "versions/VersionPlanner.h"
+#include "versions/VersionReport.h"
 
 #include <algorithm>
 #include <utility>
@@ -99,23 +101,36 @@ class Verification {
 
   /// That each file is there, and has its bytes.
   void CheckFiles() {
-    std::vector<std::u16string> wanted{std::u16string(kCombinedKeysFile), std::u16string(kReportFile)};
-    for (const PlannedVersion& version : verified_.record->plan.versions)
-      wanted.insert(wanted.end(), {ExamFileOf(version.name), KeyFileOf(version.name)});
-    for (const MadeFile& made : verified_.record->files) {
+    const PlanRecord& record = *verified_.record;
+    const auto isSheet = [](const MadeFile& made) { return made.name.ends_with(u".pdf"); };
+    std::vector<std::u16string> wanted =
+        FilesOf(record.plan.versions, std::ranges::any_of(record.files, isSheet));
+    for (const MadeFile& made : record.files) {
       if (IsStopped()) return;
       services_.progress.Wait();
+      const auto expected = std::ranges::find(wanted, made.name);
+      if (expected == wanted.end()) {
+        TellOf(kPlanFile, Filled(text_id::kFileNotExpected, {made.name}));
+        continue;
+      }
+      wanted.erase(expected);
       CheckFile(made);
-      std::erase(wanted, made.name);
     }
     for (const std::u16string& name : wanted) Tell(text_id::kFileMissing, {name});
   }
 
   void CheckFile(const MadeFile& made) {
-    const bool isInside = made.name.find(u'/') == made.name.npos;
-    const std::string digest = isInside ? ports_.digest.OfFile(folder_ / TextToPath(made.name)) : "";
+    const std::string digest = ports_.digest.OfFile(folder_ / TextToPath(made.name));
     if (digest != made.digest)
       Tell(digest.empty() ? text_id::kFileMissing : text_id::kFileChanged, {made.name});
+    if (!made.name.ends_with(u".pdf")) CheckPages(made, 0);
+  }
+
+  void CheckPages(const MadeFile& made, std::size_t pages) {
+    if (made.pages == static_cast<int>(pages)) return;
+    const auto count = [](std::int64_t number) { return FormatInteger(number); };
+    TellOf(kPlanFile, Filled(text_id::kPageCountDiffers,
+                             {made.name, count(made.pages), count(static_cast<std::int64_t>(pages))}));
   }
 
   bool IsSource(const fs::path& file) {
@@ -129,6 +144,7 @@ class Verification {
   void CheckVersions(const fs::path& sourceFile) {
     const ReadExam source(services_, workFolder_ / "source", sourceFile);
     const VersionPlan& plan = verified_.record->plan;
+    CheckDerived(source);
     std::vector<ExamPaper> papers;
     for (const PlannedVersion& version : plan.versions) {
       if (IsStopped()) return;
@@ -144,6 +160,31 @@ class Verification {
       papers.push_back(exam.Exam());
     }
     CheckTable(std::u16string(kCombinedKeysFile), CombinedKeysCsv(papers, plan));
+  }
+
+  /// That exam, seed and choices give this plan and this report. Another version of the program may plan and
+  /// say something else.
+  void CheckDerived(const ReadExam& source) {
+    const PlanRecord& record = *verified_.record;
+    if (record.program.empty() || record.program != ports_.program) {
+      verified_.notes.push_back(services_.strings.Text(text_id::kPlannedByAnother));
+      return;
+    }
+    const PlanOutcome again = PlanVersions(source.Exam(), source.QuestionCount(), record.request);
+    if (again.plan != record.plan) return TellOf(kPlanFile, services_.strings.Text(text_id::kPlanNotDerived));
+    if (record.languageId != ports_.languageId)
+      verified_.notes.push_back(services_.strings.Text(text_id::kReportNotCompared));
+    else
+      CheckReport(ReportText(source.Exam(), record, again.chance, services_.strings));
+  }
+
+  void CheckReport(std::string_view wanted) {
+    const auto bytes = ReadWholeFile(folder_ / TextToPath(kReportFile), kLargestTable);
+    if (bytes == wanted) return;
+    const std::string_view given = bytes ? std::string_view(*bytes) : std::string_view();
+    const auto differs = std::ranges::mismatch(given, wanted).in1;
+    const auto line = std::count(given.begin(), differs, '\n') + 1;
+    TellOf(kReportFile, Filled(text_id::kReportDiffers, {FormatInteger(line)}));
   }
 
   bool CheckPlan(const ReadExam& source, const PlannedVersion& planned) {
@@ -167,6 +208,7 @@ class Verification {
       services_.progress.Wait();
       const PdfPages printed = ports_.pdfText != nullptr ? ports_.pdfText->Read(folder_ / TextToPath(file))
                                                          : PdfPages{{}, "cannot be read here"};
+      if (!printed.problem) CheckPages(*made, printed.pages.size());
       const PaperDifferences found = ComparePaper(exam, sheet, head, printed, services_.strings);
       for (const std::u16string& what : found.faults) TellOf(file, what);
       if (!found.notCompared.empty())

@@ -6,6 +6,7 @@
 #include "platform/PdfText.h"
 #include "platform/WholeFile.h"
 #include "platform/digest/OpenSslDigest.h"
+#include "platform/posix/PosixFolderGuard.h"
 #include "text/PathText.h"
 #include "versions/VersionMaker.h"
 #include "versions/VersionVerifier.h"
@@ -84,7 +85,7 @@ class VersionFolders : public VersionsTest {
   const fs::path target = folder / "out";
   OpenSslDigest digest;
   PlanJson form{digest};
-  VersionPorts ports{digest, form};
+  VersionPorts ports{digest, form, nullptr, nullptr, nullptr, "1"};
 };
 
 TEST_F(VersionFolders, AreTheSameForTheSameSeed) {
@@ -144,6 +145,23 @@ TEST_F(VersionFolders, AreComparedByWhatTheySay) {
   EXPECT_GT(changedIn("keys.csv", "\r\n2,", "\r\n3,"), 0U);
   EXPECT_GT(changedIn("B.exm", "xxxxxxxxx", "xxxxyxxxx"), 0U) << "an attached file";
   EXPECT_GT(changedIn("C.exm", std::string_view("W\0h\0a\0t", 7), std::string_view("W\0H\0a\0t", 7)), 0U);
+  EXPECT_GT(changedIn("report.txt", "A", "B"), 0U);
+  const PlanRecord right = record;
+  const auto changedTo = [&](const auto& change) {
+    change(record);
+    const std::size_t faults = digestAgain();
+    record = right;
+    return faults;
+  };
+  EXPECT_GT(changedTo([](PlanRecord& plan) { plan.plan.moves = QuestionMoves::None; }), 0U);
+  EXPECT_GT(changedTo([](PlanRecord& plan) { plan.request.moves = QuestionMoves::All; }), 0U);
+  EXPECT_GT(changedTo([](PlanRecord& plan) { plan.request.pins.questions.insert(1); }), 0U);
+  EXPECT_GT(changedTo([](PlanRecord& plan) { plan.plan.pinned.push_back({1}); }), 0U);
+  EXPECT_GT(changedTo([](PlanRecord& plan) { plan.files[0].pages = 2; }), 0U);
+  EXPECT_GT(changedTo([](PlanRecord& plan) { plan.files.push_back({u"../Biology.exm", "", 0}); }), 0U);
+  EXPECT_GT(changedTo([](PlanRecord& plan) { plan.files.push_back(plan.files[0]); }), 0U);
+  EXPECT_EQ(changedTo([](PlanRecord& plan) { plan.program = "older"; }), 0U);
+  EXPECT_EQ(Verify().notes.size(), 1U) << "what another version has planned is not planned again";
   std::swap(record.plan.versions[0].options[0][0], record.plan.versions[0].options[0][1]);
   EXPECT_GT(digestAgain(), 0U);
   record.plan.versions[0].options[0].fill(1);
@@ -180,6 +198,36 @@ TEST_F(VersionFolders, LeaveNothingHalfMade) {
   EXPECT_EQ(Files(folder.Path()).size(), before.size());
 }
 
+TEST_F(VersionFolders, ReplaceWhatKilledProgramsHaveLeft) {
+  PosixFolderGuard guard;
+  ports.guard = &guard;
+  for (const char* name : {".making-versions-1", ".making-versions-2", ".making-versions-9",
+                           ".replaced-versions-1", ".old-versions-1", ".making-versions-x"}) {
+    fs::create_directory(folder / name);
+    WriteBytes(folder / name / "A.exm", "half");
+  }
+  const auto living = guard.Hold(folder / ".making-versions-2");
+  ASSERT_NE(living, nullptr);
+  EXPECT_EQ(guard.Hold(folder / ".making-versions-2"), nullptr);
+  EXPECT_EQ(Make().problem, u"");
+  EXPECT_EQ(Make(true).problem, u"");
+  std::vector<std::string> hidden;
+  for (const auto& [name, bytes] : Files(folder.Path())) {
+    if (name.starts_with(".")) hidden.push_back(name);
+  }
+  EXPECT_EQ(hidden,
+            (std::vector<std::string>{".making-versions-2", ".making-versions-x", ".old-versions-1"}));
+}
+
+TEST_F(VersionFolders, AreNotMadeThroughLinksThatLeadNowhere) {
+  fs::create_directory_symlink(folder / "nowhere", target);
+  EXPECT_EQ(Make(true).problem.substr(0, 5), u"[2135");
+  EXPECT_TRUE(fs::is_symlink(target));
+  fs::create_directory(folder / "nowhere");
+  EXPECT_EQ(Make().problem, u"");
+  EXPECT_TRUE(fs::exists(folder / "nowhere" / "plan.json"));
+}
+
 TEST_F(VersionFolders, HoldSheetsIfTheyCanBePrinted) {
   ToyPrinter printer;
   ports.printer = &printer;
@@ -201,6 +249,7 @@ TEST_F(VersionFolders, HoldSheetsIfTheyCanBePrinted) {
 TEST(VersionNames, AreOfFiles) {
   NumberStrings strings;
   EXPECT_EQ(ProblemWithNames({u"A", u"Gruppe 2", u"甲", u"أ"}, strings), u"");
+  EXPECT_EQ(ProblemWithNames({u"É", u"E", u"È", u"S", u"ß"}, strings), u"");
   const std::vector<std::vector<std::u16string>> kWrong{{},
                                                         {u""},
                                                         {u"a/b"},
@@ -211,6 +260,10 @@ TEST(VersionNames, AreOfFiles) {
                                                         {u"NUL.x"},
                                                         {u"A", u"a"},
                                                         {u"É", u"é"},
+                                                        {u"É", u"e\u0301"},
+                                                        {u"Maß", u"MASS"},
+                                                        {u"\u1E9E", u"ss"},
+                                                        {u"\uFB01", u"FI"},
                                                         {u"\n"},
                                                         {u"\u202Eexe"},
                                                         {std::u16string(1, u'\xD800')},

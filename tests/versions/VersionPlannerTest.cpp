@@ -77,6 +77,9 @@ TEST_F(VersionPlans, KeepNeighboursFromCopying) {
         for (const CopyingPair& pair : CopyingReport(exam, outcome.plan)) {
           EXPECT_LE(pair.sameQuestions, outcome.chance.TolerableQuestions()) << count << " " << versions;
           EXPECT_LE(pair.sameKeys, outcome.chance.TolerableKeys()) << count << " " << versions;
+          if (count > 8) {
+            EXPECT_GE(pair.sameKeys, outcome.chance.FewestKeys()) << count << " " << versions;
+          }
         }
       }
     }

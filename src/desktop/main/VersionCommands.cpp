@@ -8,10 +8,15 @@
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "platform/digest/OpenSslDigest.h"
+#include "platform/posix/PosixFolderGuard.h"
 #include "platform/programs/PdfProgram.h"
 #include "platform/programs/PopplerPdfText.h"
 #include "versions/PartOfProgress.h"
 #include "versions/TargetFolder.h"
+
+#include <QCoreApplication>
+
+#include <string>
 
 namespace quorvantis {
 namespace {
@@ -29,7 +34,9 @@ MadeVersions MakeThem(const ExamServices& services, int languageId, const Versio
   const PlanJson form(digest);
   PdfProgram printer(PdfProgram::Find(), languageId, services.applicationFolder);
   PopplerPdfText pdfText;
-  const VersionPorts ports{digest, form, &printer, &pdfText};
+  PosixFolderGuard guard;
+  const std::string program = QCoreApplication::applicationVersion().toStdString();
+  const VersionPorts ports{digest, form, &printer, &pdfText, &guard, program, languageId};
   const ExamServices own = ServicesWith(services, progress);
   return VersionMaker(own, VersionWorkFolder(services), ports).Make(order);
 }
