@@ -5,6 +5,7 @@
 #include "render/RenderTest.h"
 #include "text/ComparableText.h"
 #include "text/NumberText.h"
+#include "versions/PaperComparison.h"
 
 #include <algorithm>
 
@@ -49,6 +50,8 @@ class PdfProgramTest : public RenderTest {
     return words;
   }
 
+  static std::string SheetName(Sheet sheet) { return std::to_string(static_cast<int>(sheet)); }
+
   std::vector<std::u16string> PagesOf(const fs::path& pdf) {
     PdfPages text = PopplerPdfText().Read(pdf);
     EXPECT_EQ(text.problem.value_or(""), "");
@@ -86,14 +89,67 @@ TEST_F(PdfProgramTest, SeveralSheetsAreMadeInOneStartAndFilledUp) {
                                    {file, folder / "s.pdf", Sheet::Answers, u"A", u"", true}};
   ASSERT_EQ(program.Print(jobs, progress), std::nullopt);
   const std::vector<std::u16string> papers = PagesOf(folder / "a.pdf");
-  const std::size_t count = PagesOf(folder / "b.pdf").size();
-  ASSERT_GT(count, 1U);
-  ASSERT_EQ(papers.size(), count);
-  const std::u16string last = FormatInteger(static_cast<std::int64_t>(count));
-  EXPECT_EQ(ComparableText(papers.back()), ComparableText(last + u"/" + last));
+  const std::size_t most = PagesOf(folder / "b.pdf").size();
+  ASSERT_GT(most, 1U);
+  ASSERT_EQ(papers.size(), most);
+  const std::u16string count = FormatInteger(static_cast<std::int64_t>(most));
+  EXPECT_EQ(ComparableText(papers.back()), ComparableText(count + u"/" + count));
   EXPECT_EQ(program.PageCount(folder / "k.pdf"), 1);
   EXPECT_EQ(program.PageCount(folder / "s.pdf"), 1);
   EXPECT_EQ(program.PageCount(file), std::nullopt);
+}
+
+/// Papers of another exam, with the right name and code on every page.
+TEST_F(PdfProgramTest, PapersThatSayAnythingElseAreFound) {
+  for (int i = 1; i <= 12; ++i) {
+    const std::u16string number = FormatInteger(i);
+    ExamQuestion& question = Add(QuestionKind::Choice, u"Which <b>one</b> is number " + number + u"?");
+    question.options = {u"first " + number, u"second " + number, u"", u"fourth " + number};
+    question.answerLetters = u"ad";
+  }
+  Add(QuestionKind::FillIn, u"The capital is ____.").answerText = u"Paris";
+  struct Row {
+    void (*change)(FrameSetExam&);
+    bool isOnPaper;
+    bool isOnSolutions;
+    bool isOnKey;
+  };
+  constexpr Row kRows[] = {
+      {[](FrameSetExam&) {}, false, false, false},
+      {[](FrameSetExam& other) { other.Question(5).text = u"Which <b>one</b> is not number 5?"; }, true, true,
+       false},
+      {[](FrameSetExam& other) { other.Question(7).options[1] = u"second 8"; }, true, true, false},
+      {[](FrameSetExam& other) { std::swap(other.Question(3).options[0], other.Question(3).options[3]); },
+       true, true, false},
+      {[](FrameSetExam& other) { std::swap(other.Question(4), other.Question(5)); }, true, true, false},
+      {[](FrameSetExam& other) { other.Question(13) = ExamQuestion(); }, true, true, true},
+      {[](FrameSetExam& other) { other.Question(9).answerLetters = u"a"; }, false, true, true},
+  };
+  const ExamPaper original = exam;
+  std::vector<PaperJob> jobs;
+  for (const Row& row : kRows) {
+    static_cast<ExamPaper&>(exam) = original;
+    row.change(exam);
+    exam.CountQuestions();
+    const std::string name = std::to_string(jobs.size());
+    const fs::path file = Save((name + ".exm").c_str());
+    for (const Sheet sheet : {Sheet::Paper, Sheet::Solutions, Sheet::Key})
+      jobs.push_back({file, folder / (name + SheetName(sheet) + ".pdf"), sheet, u"A", u"1a2b3c4d"});
+  }
+  ASSERT_EQ(program.Print(jobs, progress), std::nullopt);
+  static_cast<ExamPaper&>(exam) = original;
+  exam.CountQuestions();
+  const NumberStrings strings;
+  auto job = jobs.begin();
+  for (const Row& row : kRows) {
+    for (const bool isFound : {row.isOnPaper, row.isOnSolutions, row.isOnKey}) {
+      const PdfPages printed = PopplerPdfText().Read(job->target);
+      const auto found = ComparePaper(exam, job->sheet, {u"A", u"1a2b3c4d"}, printed, strings);
+      EXPECT_EQ(!found.faults.empty(), isFound) << job->target;
+      EXPECT_TRUE(found.notCompared.empty()) << job->target;
+      ++job;
+    }
+  }
 }
 
 TEST_F(PdfProgramTest, WhatFailsIsToldAndLeavesTheOldFile) {
