@@ -2,7 +2,7 @@
 #include "learn/BeginningAndEnd.h"
 
 #include "import/labels/LineText.h"
-#include "import/prepare/AnswerWords.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "import/prepare/KeyReader.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "learn/NumberFamilies.h"
 
 #include "import/labels/LineText.h"
-#include "import/prepare/AnswerWords.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "learn/PatternText.h"
 #include "text/AsciiCase.h"
 

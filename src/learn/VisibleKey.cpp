@@ -4,6 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/labels/OptionSigns.h"
 #include "import/marking/ImportMarkers.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "import/prepare/AnswerWords.h"
 #include "import/prepare/KeyReader.h"
 #include "import/prepare/PreparedLabels.h"

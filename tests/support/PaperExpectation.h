@@ -5,12 +5,14 @@
 
 #include "import/labels/LineText.h"
 #include "import/marking/QuestionTextParser.h"
+#include "import/prepare/JudgementWords.h"
 #include "platform/WholeFile.h"
 #include "text/Utf.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,7 +51,7 @@ inline std::u16string Bare(std::u16string_view text) {
     const bool isMark = unit < u'0' || (unit > u'9' && unit < u'A') || (unit > u'Z' && unit < u'a') ||
                         (unit > u'z' && unit < 0xC0) || (unit >= 0x2000 && unit < 0x2100) ||
                         (unit >= 0x3000 && unit < 0x3030) || (unit >= 0xFF00 && unit < 0xFF10) ||
-                        (unit >= 0xFF1A && unit < 0xFF21);
+                        (unit >= 0xFF1A && unit < 0xFF21) || unit == 0xFF3F;
     if (!isMark) bare += unit;
   }
   return bare;
@@ -69,18 +71,17 @@ inline std::u16string BareText(std::u16string_view text) {
   return Bare(without);
 }
 
-inline bool IsTrueWord(std::u16string_view word) {
-  constexpr std::u16string_view kWords[] = {u"t",    u"true",    u"√", u"✓",     u"对",        u"對",
-                                            u"正确", u"正",      u"v", u"vrai",  u"verdadero", u"верно",
-                                            u"да",   u"так",     u"σ", u"σωστό", u"صح",        u"صحيح",
-                                            u"r",    u"richtig", u"o", u"○",     u"はい"};
-  std::u16string small(word);
-  for (char16_t& unit : small) {
-    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit + 32);
-    if (unit >= u'А' && unit <= u'Я') unit = static_cast<char16_t>(unit + 32);
-    if (unit >= u'Α' && unit <= u'Ω') unit = static_cast<char16_t>(unit + 32);
+/// Whether the right option of a judgement says "true"; nothing if the two options are no judgement.
+inline std::optional<bool> SaysTrue(const ReadQuestion& question) {
+  if (question.letters != u"A" && question.letters != u"B") return std::nullopt;
+  const std::vector<JudgementWord> first = JudgementWordsAt(question.options[0]);
+  for (const JudgementWord& second : JudgementWordsAt(question.options[1])) {
+    for (const JudgementWord& word : first) {
+      const bool arePair = word.pair == second.pair && word.isRight != second.isRight;
+      if (arePair) return word.isRight == (question.letters == u"A");
+    }
   }
-  return std::ranges::find(kWords, small) != std::end(kWords);
+  return std::nullopt;
 }
 
 struct Verdict {
@@ -107,8 +108,7 @@ inline Verdict Compare(const ExpectedQuestion& expected, const ReadQuestion* rea
     if (text != have) verdict.options = false;
   }
   if (isJudgement) {
-    const std::size_t chosen = read->letters == u"A" ? 0 : 1;
-    verdict.key = !read->letters.empty() && IsTrueWord(read->options[chosen]) == (expected.key == u"T");
+    verdict.key = SaysTrue(*read) == (expected.key == u"T");
   } else if (!expected.options.empty()) {
     verdict.key = read->letters == expected.key;
   } else {

@@ -3,215 +3,15 @@
 
 #include "import/labels/Numerals.h"
 #include "import/prepare/FoldedText.h"
+#include "import/prepare/FoldedWords.h"
 
 #include <algorithm>
-#include <span>
 #include <string>
 
 namespace quorvantis {
 namespace {
 
 // All words are folded (FoldedText.h).
-
-constexpr std::u16string_view kHeadingWords[] = {
-    u"answer key",
-    u"answer keys",
-    u"answers",
-    u"answer",
-    u"answer sheet",
-    u"key",
-    u"keys",
-    u"solutions",
-    u"solution",
-    u"marking scheme",
-    u"mark scheme",
-    u"参考答案",
-    u"标准答案",
-    u"答案",
-    u"解答",
-    u"參考答案",
-    u"模範解答",
-    u"答え",
-    u"正解",
-    u"解答例",
-    u"정답",
-    u"답안",
-    u"해답",
-    u"정답표",
-    u"ответы",
-    u"ключ",
-    u"ключи",
-    u"ключ к тесту",
-    u"эталон ответов",
-    u"эталоны ответов",
-    u"відповіді",
-    u"ключі",
-    u"отговори",
-    u"odpowiedzi",
-    u"klucz",
-    u"klucz odpowiedzi",
-    u"rozwiązania",
-    u"odpovědi",
-    u"řešení",
-    u"klíč",
-    u"správné odpovědi",
-    u"odpovede",
-    u"lösungen",
-    u"lösung",
-    u"lösungsschlüssel",
-    u"antworten",
-    u"musterlösung",
-    u"lösungsblatt",
-    u"schlüssel",
-    u"réponses",
-    u"corrigé",
-    u"correction",
-    u"corrections",
-    u"clé",
-    u"respuestas",
-    u"soluciones",
-    u"clave",
-    u"clave de respuestas",
-    u"solucionario",
-    u"respostas",
-    u"gabarito",
-    u"soluções",
-    u"chave",
-    u"chave de respostas",
-    u"risposte",
-    u"soluzioni",
-    u"chiave",
-    u"correttore",
-    u"antwoorden",
-    u"antwoordmodel",
-    u"oplossingen",
-    u"sleutel",
-    u"cevaplar",
-    u"cevap anahtarı",
-    u"cevap anahtari",
-    u"yanıtlar",
-    u"yanıt anahtarı",
-    u"đáp án",
-    u"trả lời",
-    u"lời giải",
-    u"kunci jawaban",
-    u"jawaban",
-    u"kunci",
-    u"उत्तर",
-    u"उत्तरमाला",
-    u"उत्तर कुंजी",
-    u"उत्तर माला",
-    u"الاجابات",
-    u"مفتاح الاجابه",
-    u"مفتاح الاجابات",
-    u"الاجوبه",
-    u"الحل",
-    u"الحلول",
-    u"نموذج الاجابه",
-    u"الاجابه",
-    u"תשובות",
-    u"מפתח תשובות",
-    u"פתרונות",
-    u"מפתח",
-    u"پاسخ",
-    u"پاسخنامه",
-    u"پاسخ نامه",
-    u"کلید",
-    u"απαντησεισ",
-    u"απαντήσεισ",
-    u"λύσεισ",
-    u"λυσεισ",
-    u"เฉลย",
-    u"คำตอบ",
-    u"svar",
-    u"facit",
-    u"facitliste",
-    u"fasit",
-    u"vastaukset",
-    u"megoldások",
-    u"megoldókulcs",
-    u"megoldás",
-    u"răspunsuri",
-    u"barem",
-    u"raspunsuri",
-    u"odgovori",
-    u"rješenja",
-    u"verification key",
-    u"ans",
-    u"answer table",
-    u"correct options",
-    u"正确答案",
-    u"正確答案",
-    u"正答",
-    u"解答欄",
-    u"답",
-    u"ответ",
-    u"відповідь",
-    u"ключове",
-    u"отговор",
-    u"одговори",
-    u"кључ",
-    u"кілт",
-    u"жауаптар",
-    u"riešenia",
-    u"rešitve",
-    u"odgovor",
-    u"rezultate",
-    u"kľúč",
-    u"atsakymai",
-    u"atbildes",
-    u"vastused",
-    u"ratkaisut",
-    u"løsninger",
-    u"løsning",
-    u"svarnøkkel",
-    u"lösningar",
-    u"solutions",
-    u"corrigés",
-    u"sleutels",
-    u"antwoord",
-    u"yanıt",
-    u"yanıtları",
-    u"cevapları",
-    u"çözümler",
-    u"jawapan",
-    u"mga sagot",
-    u"majibu",
-    u"جوابات",
-    u"جواب",
-    u"کلید",
-    u"پاسخ ها",
-    u"উত্তর",
-    u"উত্তরমালা",
-    u"উত্তরপত্র",
-    u"விடைகள்",
-    u"விடை",
-    u"उत्तर सूची",
-    u"उत्तर तालिका",
-    u"ตอบ",
-};
-
-/// Words that may stand beside those without making the line mean something else.
-constexpr std::u16string_view kHeadingFillers[] = {
-    u"correct",  u"right",      u"the",       u"to",         u"for",       u"of",           u"test",
-    u"quiz",     u"exam",       u"questions", u"all",        u"and",       u"explanations", u"правильные",
-    u"к",        u"тесту",      u"на",        u"вопросы",    u"правильні", u"richtige",     u"zum",
-    u"zu",       u"den",        u"aufgaben",  u"les",        u"des",       u"du",           u"las",
-    u"los",      u"le",         u"de",        u"do",         u"da",        u"correctas",    u"corretas",
-    u"corrette", u"prawidłowe", u"teste",     u"testu",      u"examen",    u"及评分标准",   u"与解析",
-    u"及解析",   u"和解析",     u"解析",      u"与评分标准", u"と解説",    u"문제",         u"الصحيحه",
-    u"נכונות",   u"benar",      u"bảng",      u"các",        u"câu",       u"hỏi",          u"đề",
-    u"số",       u"со",         u"верните",   u"правилните", u"верни",     u"верных",       u"правильных",
-    u"ответов",  u"ответами",   u"тест",      u"теста",      u"таблица",   u"питання",      u"тестів",
-    u"tabela",   u"tablosu",    u"tabelle",   u"der",        u"die",       u"richtigen",    u"tableau",
-    u"tabla",    u"tabella",    u"delle",     u"alle",       u"agli",      u"domande",      u"preguntas",
-    u"questões", u"aos",        u"às",        u"oikeat",     u"rätta",     u"riktiga",      u"rigtige",
-    u"riktige",  u"helyes",     u"corecte",   u"întrebări",  u"juiste",    u"goede",        u"vragen",
-    u"testin",   u"zadań",      u"pytań",     u"otázkám",    u"správné",   u"doğru",        u"soal",
-    u"ujian",    u"表",         u"页",        u"頁",         u"一览",      u"如下",         u"及解释",
-    u"及說明",   u"と解答",     u"一覧",      u"표",         u"및 해설",   u"درست",         u"صحيحه",
-    u"الاسئله",  u"table",      u"sheet",     u"multiple",   u"choice",    u"section",
-};
 
 constexpr std::u16string_view kPartWords[] = {
     u"part",
@@ -273,6 +73,30 @@ constexpr std::u16string_view kLeadWords[] = {
     u"pilihan",   u"उत्तर",       u"विकल्प",     u"الاجابه",     u"الجواب",   u"الخيار",     u"תשובה",
     u"απάντηση",  u"ข้อ",         u"ตอบ",       u"svar",        u"antwoord", u"vastaus",    u"răspuns",
 };
+
+/// Abbreviations, and words that mean other things too, "solution" of salt: they lead in front of a mark
+/// only.
+constexpr std::u16string_view kMarkedLeadWords[] = {
+    u"odp",        u"odpow",      u"отв",       u"відп",      u"отг",         u"одг",       u"resp",
+    u"rép",        u"lsg",        u"lös",       u"antw",      u"risp",        u"rta",       u"rpta",
+    u"jwb",        u"jaw",        u"cev",       u"sol",       u"soln",        u"sln",       u"solution",
+    u"solución",   u"solução",    u"soluzione", u"oplossing", u"rozwiązanie", u"řešení",    u"riešenie",
+    u"rješenje",   u"решење",     u"rešitev",   u"megoldás",  u"válasz",      u"çözüm",     u"yanıt",
+    u"odpoveď",    u"odgovor",    u"отговор",   u"одговор",   u"адказ",       u"жауап",     u"жауабы",
+    u"javob",      u"cavab",      u"хариу",     u"vastus",    u"atbilde",     u"atsakymas", u"svör",
+    u"përgjigje",  u"respuestas", u"respostas", u"réponses",  u"risposte",    u"antworten", u"ответы",
+    u"odpowiedzi", u"resposta",   u"lời giải",  u"trả lời",   u"jawapan",     u"sagot",     u"jibu",
+    u"جواب",       u"پاسخ",       u"الحل",      u"פתרון",     u"উত্তর",        u"விடை",      u"జవాబు",
+    u"ಉತ್ತರ",       u"ഉത്തരം",      u"જવાબ",      u"उत्तरः",     u"解答",        u"解",        u"풀이",
+    u"解析",
+};
+
+/// The size of such a word and its mark at the begin of a folded text.
+std::size_t MarkedLeadSize(std::u16string_view folded) {
+  const std::size_t size = LongestWordAt(folded, kMarkedLeadWords);
+  const std::size_t mark = std::min(folded.find_first_not_of(u' ', size), folded.size());
+  return size > 0 && mark < folded.size() && (folded[mark] == u':' || folded[mark] == u'.') ? mark + 1 : 0;
+}
 
 constexpr std::u16string_view kCorrectWords[] = {
     u"correct",
@@ -363,73 +187,7 @@ constexpr OrdinalRow kOrdinals[] = {
     {{u"pertama", u"kedua", u"ketiga", u"keempat", u"kelima"}},
 };
 
-using AnswerWordList = std::span<const std::u16string_view>;
-
-/// The size of the longest of the words that the folded text begins with, 0 for none.
-std::size_t LongestWordAt(std::u16string_view folded, AnswerWordList words) {
-  std::size_t longest = 0;
-  if (folded.empty()) return longest;
-  for (const std::u16string_view word : words) {
-    // Nearly all words end here, which comparing whole ones would take far longer to tell.
-    if (word.front() != folded.front()) continue;
-    const bool isHere = folded.starts_with(word) &&
-                        (folded.size() == word.size() || !AreInOneWord(word.back(), folded[word.size()]) ||
-                         word.front() >= 0x3041);
-    if (isHere) longest = std::max(longest, word.size());
-  }
-  return longest;
-}
-
-std::u16string_view WithoutWord(std::u16string_view text) {
-  std::size_t size = 1;
-  while (size < text.size() && AreInOneWord(text[size - 1], text[size])) ++size;
-  return text.substr(size);
-}
-
-/// The words of a line that may be a heading; none of a long one.
-struct HeadingCount {
-  int headings = 0;
-  bool hasVerb = false;  ///< "Answer", which may ask for answers
-  int fillers = 0;
-  int others = 0;
-};
-
-HeadingCount CountHeadingWords(std::u16string_view line) {
-  constexpr std::size_t kLongestHeading = 80;
-  HeadingCount count;
-  if (line.size() > kLongestHeading) return count;
-  const std::u16string folded = FoldedCore(line);
-  for (std::u16string_view rest = folded; !rest.empty();) {
-    if (!IsLetterOrDigit(rest.front())) {
-      rest.remove_prefix(1);
-    } else if (const std::size_t size = LongestWordAt(rest, kHeadingWords); size > 0) {
-      ++count.headings;
-      count.hasVerb = count.hasVerb || rest.substr(0, size) == u"answer";
-      rest.remove_prefix(size);
-    } else if (const std::size_t filler = LongestWordAt(rest, kHeadingFillers); filler > 0) {
-      ++count.fillers;
-      rest.remove_prefix(filler);
-    } else {
-      ++count.others;
-      rest = WithoutWord(rest);
-    }
-  }
-  return count;
-}
-
 }  // namespace
-
-AnswerHeading AnswerHeadingOf(std::u16string_view line) {
-  constexpr int kMostOtherWords = 5;
-  const HeadingCount count = CountHeadingWords(line);
-  if (count.headings == 0 || count.others > kMostOtherWords) return AnswerHeading::None;
-  return count.others == 0 ? AnswerHeading::Clear : AnswerHeading::Possible;
-}
-
-bool IsBareAnswerHeading(std::u16string_view line) {
-  const HeadingCount count = CountHeadingWords(line);
-  return count.headings > 0 && count.others == 0 && (count.fillers == 0 || !count.hasVerb);
-}
 
 bool IsPartTitle(std::u16string_view line) {
   constexpr std::size_t kLongestTitle = 100;
@@ -455,7 +213,8 @@ std::size_t AnswerLeadSize(std::u16string_view text) {
   std::size_t at = 0;
   for (std::size_t lead = 0;;) {
     while (at < folded.size() && kBetween.find(folded[at]) != kBetween.npos) ++at;
-    const std::size_t size = LongestWordAt(std::u16string_view(folded).substr(at), kLeadWords);
+    const std::u16string_view rest = std::u16string_view(folded).substr(at);
+    const std::size_t size = std::max(LongestWordAt(rest, kLeadWords), MarkedLeadSize(rest));
     if (size == 0) return lead;
     at += size;
     while (at < folded.size() && kBetween.find(folded[at]) != kBetween.npos) ++at;

@@ -1,23 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The words for "answer", "key", "option" and "correct" in the languages of papers.
+// The words for "answer", "option", "part" and "correct" in the languages of papers.
 #pragma once
 
 #include <cstddef>
 #include <string_view>
 
 namespace quorvantis {
-
-/// How much a line looks like the heading of the answers at the end of a paper.
-enum class AnswerHeading {
-  None,
-  Possible,  ///< has such a word among a few others: "Answers for the biology test"
-  Clear,     ///< says nothing else: "ANSWER KEY:", "参考答案"
-};
-
-AnswerHeading AnswerHeadingOf(std::u16string_view line);
-
-/// Whether a line can't be anything but such a heading: "Answers", but not "Answer the questions".
-bool IsBareAnswerHeading(std::u16string_view line);
 
 /// Whether a line is, or begins with, the title of a part: "Part B", "二、填空题", "Section 2: essays".
 bool IsPartTitle(std::u16string_view line);

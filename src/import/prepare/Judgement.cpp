@@ -19,11 +19,23 @@ struct JudgedQuestion {
   std::u16string_view written;
 };
 
+/// Whether a statement has a blank for a word. One before it, or behind its end, is for the judgement itself.
+bool HasBlankWithin(std::u16string_view stem) {
+  constexpr std::u16string_view kFillMarks = u"_＿ ()（）[]";
+  constexpr std::u16string_view kEnds = u".!。！…";
+  const std::size_t first = stem.find_first_not_of(kFillMarks);
+  const std::size_t last = stem.find_last_not_of(kFillMarks);
+  if (first == stem.npos || stem.find(u"__") == stem.npos) return false;
+  const std::u16string_view statement = stem.substr(first, last + 1 - first);
+  if (statement.find(u"__") != statement.npos) return true;
+  const bool isBehind = stem.find(u"__", last) != stem.npos;
+  return isBehind && kEnds.find(statement.back()) == kEnds.npos;
+}
+
 /// The judgement that a question's answer is, if it is one; an explanation may follow, behind a mark.
 std::optional<JudgedQuestion> JudgedBy(std::u16string_view text, const OutlinedQuestion& question) {
   if (question.HasOptions() || IsUnanswered(text, question)) return std::nullopt;
-  const std::u16string_view stem = question.stem.Of(text);
-  if (stem.find(u"__") != stem.npos) return std::nullopt;
+  if (HasBlankWithin(question.stem.Of(text))) return std::nullopt;
   const TextSpan line = FirstLineOf(text, question.answer);
   std::size_t begin = line.begin;
   while (begin < line.end && std::u16string_view(u"(（[【 ").find(text[begin]) != std::u16string_view::npos)

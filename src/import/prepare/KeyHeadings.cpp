@@ -2,6 +2,7 @@
 #include "import/prepare/KeyHeadings.h"
 
 #include "import/labels/LineText.h"
+#include "import/prepare/AnswerWords.h"
 #include "import/prepare/KeyParts.h"
 #include "import/prepare/KeyReader.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/prepare/AnswerWords.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "import/prepare/PaperOutline.h"
 
 #include <cstddef>

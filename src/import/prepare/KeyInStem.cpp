@@ -180,8 +180,9 @@ class StemKeyHabits {
           found[place].Add(*key, text);
       }
     }
+    const std::size_t bracketed = found[static_cast<std::size_t>(StemKeyPlace::Judgement)].keys;
     for (std::size_t place = 0; place < kStemKeyPlaces; ++place)
-      isHabit_[place] = IsHabit(static_cast<StemKeyPlace>(place), found[place], choices, others);
+      isHabit_[place] = IsHabit(static_cast<StemKeyPlace>(place), found[place], choices, others, bracketed);
     // In a paper that gives its keys in another way, letters in brackets are text.
     constexpr auto kInStem = static_cast<std::size_t>(StemKeyPlace::InStem);
     if (answered > found[kInStem].keys) isHabit_[kInStem] = false;
@@ -196,8 +197,8 @@ class StemKeyHabits {
   }
 
  private:
-  static bool IsHabit(StemKeyPlace place, const StemKeyCount& count, std::size_t choices,
-                      std::size_t others) {
+  static bool IsHabit(StemKeyPlace place, const StemKeyCount& count, std::size_t choices, std::size_t others,
+                      std::size_t bracketed) {
     if (count.keys == 0) return false;
     switch (place) {
       case StemKeyPlace::Labelled:
@@ -205,8 +206,9 @@ class StemKeyHabits {
       case StemKeyPlace::Judgement:
         return IsOften(count.keys, others, others / 4);
       case StemKeyPlace::JudgementAtEnd:
-        // Statements may end in such a word; they do not all.
-        return count.keys > 1 && count.keys * 5 >= others * 3 && count.hasRight && count.hasWrong;
+        // Statements may end in such a word; they do not all. Those of another part may have it in brackets.
+        return count.keys > 1 && count.keys * 5 >= (others - bracketed) * 3 && count.hasRight &&
+               count.hasWrong;
       case StemKeyPlace::InStem:
         return IsOften(count.keys, choices, choices / 2);
       default:

@@ -3,6 +3,7 @@
 
 #include "import/labels/LineText.h"
 #include "import/labels/OptionAlphabets.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "import/prepare/AnswerWords.h"
 #include "import/prepare/FoldedText.h"
 #include "import/prepare/KeyVersions.h"
@@ -116,7 +117,9 @@ class KeyListReading {
     const KeyLineReading reading = lines_.Read(line);
     std::vector<KeyEntry> entries = reading.entries;
     if (reading.kind == KeyLineKind::Text) entries = TextEntriesOfLine(text_, line);
-    if (reading.kind == KeyLineKind::Title) entries = TitledEntriesOfLine(text_, Trimmed(text_, line));
+    if (reading.kind == KeyLineKind::Title)
+      entries = IsNextInChinese(line) ? TextEntriesOfLine(text_, line)
+                                      : TitledEntriesOfLine(text_, Trimmed(text_, line));
     if (!entries.empty()) {
       NoteTitle({line.begin, std::max(line.begin, entries.front().begin)});
       list_.entries.insert(list_.entries.end(), entries.begin(), entries.end());
@@ -136,6 +139,19 @@ class KeyListReading {
         list_.entries.back().answer.end = Trimmed(text_, line).end;
       }
     }
+  }
+
+  /// "五、cells" behind "四、B" is the next answer, not the title of a part.
+  bool IsNextInChinese(TextSpan line) const {
+    if (list_.entries.empty()) return false;
+    const KeyEntry& last = list_.entries.back();
+    const TextSpan trimmed = Trimmed(text_, line);
+    const auto isChinese = [this](std::size_t at) {
+      return NumeralAt(text_, at, NumeralKind::Chinese).size > 0;
+    };
+    const auto number = KeyNumberAt(text_, trimmed.begin, trimmed.end);
+    return number && number->isSetOff && number->value == last.number + 1 && isChinese(last.begin) &&
+           isChinese(trimmed.begin) && number->place.end < trimmed.end;
   }
 
   /// Of several titles in front of the same answers the last one that names a part counts.

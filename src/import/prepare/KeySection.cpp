@@ -2,6 +2,7 @@
 #include "import/prepare/KeySection.h"
 
 #include "import/labels/LineText.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "import/prepare/KeyHeadings.h"
 #include "import/prepare/KeyLeftovers.h"
 #include "import/prepare/KeyMatching.h"

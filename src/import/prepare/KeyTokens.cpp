@@ -3,6 +3,7 @@
 
 #include "import/labels/LineText.h"
 #include "import/labels/OptionAlphabets.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "import/prepare/AnswerWords.h"
 #include "import/prepare/FoldedText.h"
 #include "import/prepare/JudgementWords.h"
@@ -33,8 +34,9 @@ constexpr std::u16string_view kNumberPrefixes[] = {
 constexpr std::u16string_view kPartLetters = u"ABC\u0410\u0411\u0412\u0421";
 
 constexpr std::u16string_view kRangeDashes = u"-–—－~～〜―至到";
-constexpr std::u16string_view kAfterNumber = u".．)）]】、:：=>-–—－";
-constexpr std::u16string_view kBetweenEntries = u",，;；、|/。";
+constexpr std::u16string_view kAfterNumber = u".．)）]】、:：=>-–—－/／";
+constexpr std::u16string_view kWordsForNumber = u"题題問问번";
+constexpr std::u16string_view kBetweenEntries = u",，;；、|/／。·•-–—－";
 constexpr std::u16string_view kTokenOpens = u"([（【";
 constexpr std::u16string_view kTokenCloses = u")]）】.。．";
 
@@ -201,7 +203,8 @@ class KeyLine {
 
   /// A digit is an answer if nothing shows it to be the next number.
   bool CanBeDigitKey(const KeyNumber& number, std::size_t end) const {
-    return number.isSetOff && !Among(u".．)）、:：", UnitAt(end) == 0 ? u' ' : UnitAt(end));
+    const char16_t next = UnitAt(end);
+    return number.isSetOff && (next == 0 || (!Among(u".．)）、:：", next) && !Among(kRangeDashes, next)));
   }
 
   /// Where the next letters of the same answer end: "B, D", "B and D". Letters only.
@@ -242,14 +245,14 @@ std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place
   if (numeral.size == 0) return std::nullopt;
   std::size_t after = at + numeral.size;
   const std::size_t bare = after;
-  while (after < end && (Among(kAfterNumber, part[after]) || part[after] == u'题' || part[after] == u'題' ||
-                         IsBlank(part[after])))
+  while (after < end &&
+         (Among(kAfterNumber, part[after]) || Among(kWordsForNumber, part[after]) || IsBlank(part[after])))
     ++after;
   const bool isSymbol = numeral.kind >= NumeralKind::Circled;
   const bool isSetOff = isSymbol || std::ranges::any_of(part.substr(bare, after - bare),
                                                         [](char16_t unit) { return !IsBlank(unit); });
   // "3.5 metres" and "20th" begin with no number of a question.
-  if (after < end && IsAsciiDigit(part[after]) && after == bare + 1 && Among(u".．:-", part[bare])) {
+  if (after < end && IsAsciiDigit(part[after]) && after == bare + 1 && Among(u".．:-/", part[bare])) {
     const bool isSingle = after + 1 == end || !IsLetterOrDigit(part[after + 1]);
     if (!isSingle) return std::nullopt;
   }
@@ -299,7 +302,8 @@ std::vector<KeyEntry> EntriesOfLine(std::u16string_view text, TextSpan line) {
     while (from < trimmed.end && PlainNumeralAt(text, from).size > 0) ++from;
     while (from < trimmed.end && PlainNumeralAt(text, from).size == 0) ++from;
     if (from >= trimmed.end || from - trimmed.begin > kLongestTitleBefore) return {};
-    const std::u16string_view title = text.substr(trimmed.begin, from - trimmed.begin);
+    const std::u16string_view title = Trimmed(text, {trimmed.begin, from}).Of(text);
+    if (title.empty()) return {};
     if (!IsPartTitle(title) && !HasVersionMark(title) && AnswerHeadingOf(title) == AnswerHeading::None &&
         title.back() != u':' && title.back() != u'：')
       return {};

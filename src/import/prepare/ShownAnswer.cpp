@@ -2,7 +2,7 @@
 #include "import/prepare/ShownAnswer.h"
 
 #include "import/labels/LineText.h"
-#include "import/prepare/AnswerWords.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "import/prepare/BracketedKey.h"
 #include "import/prepare/FoldedText.h"
 

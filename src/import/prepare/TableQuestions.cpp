@@ -4,7 +4,7 @@
 #include "import/labels/LineText.h"
 #include "import/labels/Numerals.h"
 #include "import/labels/OptionSequence.h"
-#include "import/prepare/AnswerWords.h"
+#include "import/prepare/AnswerHeadings.h"
 #include "import/prepare/LineWords.h"
 #include "import/prepare/PreparedLabels.h"
 
