@@ -33,6 +33,7 @@ CheckedQuestion::CheckedQuestion(int itsNumber, const ExamQuestion& itsQuestion)
       question(itsQuestion),
       answer(AnswerOf(itsQuestion.kind)),
       text(WithoutBlanks(itsQuestion.text)),
+      wording(WordingOf(text)),
       hasFiles(!itsQuestion.attachmentPaths[0].empty()) {
   if (answer.options) {
     for (const char16_t letter : question.answerLetters) {

@@ -3,6 +3,7 @@
 
 #include "check/FileContent.h"
 #include "check/Markup.h"
+#include "check/wording/QuestionWording.h"
 #include "model/AnswerLetters.h"
 #include "model/FileKinds.h"
 #include "model/QuestionKinds.h"
@@ -35,6 +36,7 @@ class CheckedQuestion {
   const AnswerParts answer;                                 ///< what belongs to its kind
   const std::u16string_view text;                           ///< without blanks around it; likewise:
   std::array<std::u16string_view, kOptionCount> options{};  ///< empty ones if the kind has none
+  const QuestionWording wording;                            ///< of the text
   std::array<bool, kOptionCount> isKey{};                   ///< none if the kind has no options
   std::size_t writtenOptions = 0;
   std::size_t optionsEnd = 0;  ///< index after the last option with a text

@@ -20,13 +20,13 @@ bool HasInlinePicture(std::u16string_view text) {
 }
 
 bool HasFilesBefore(const CheckedExam& exam, const CheckedQuestion& question) {
-  for (const int named : NamedQuestions(question.text)) {
+  for (const int named : question.wording.namedQuestions) {
     if (named <= exam.LastQuestion() && exam.questions[static_cast<std::size_t>(named) - 1].hasFiles)
       return true;
   }
   const bool hasBefore = question.number > 1;
   return hasBefore && exam.questions[static_cast<std::size_t>(question.number) - 2].hasFiles &&
-         FollowsOn(question.text);
+         question.wording.followsOn;
 }
 
 /// Long enough to say something: "Circuit", but not "a" or "IMG"; of Chinese two characters do.
@@ -37,7 +37,7 @@ bool IsTellingWord(std::u16string_view word) {
 }
 
 bool SharesWord(const std::u16string& name, const WordedText& text) {
-  const WordedText words(name.substr(0, name.rfind(u'.')));
+  const WordedText words(std::u16string_view(name).substr(0, name.rfind(u'.')));
   std::set<std::u16string_view> wanted;
   for (std::size_t i = 0; i < words.WordCount(); ++i) {
     if (IsTellingWord(words.Word(i))) wanted.insert(words.Word(i));
@@ -51,7 +51,10 @@ bool SharesWord(const std::u16string& name, const WordedText& text) {
 }
 
 bool IsSentenceEnd(char16_t unit) {
-  return std::u16string_view(u".!?\r\n\u3002\uFF01\uFF1F\u061F").find(unit) != std::u16string_view::npos;
+  constexpr char16_t kFirstBeyondAscii = 0x80;
+  constexpr std::u16string_view kWideEnds = u"\u3002\uFF01\uFF1F\u061F";
+  if (unit >= kFirstBeyondAscii) return kWideEnds.find(unit) != kWideEnds.npos;
+  return unit == u'.' || unit == u'!' || unit == u'?' || unit == u'\r' || unit == u'\n';
 }
 
 bool IsQuestionMark(char16_t unit) {
@@ -98,17 +101,22 @@ bool IsWithin(const std::vector<TextSpan>& parts, const TextSpan& word) {
 }
 
 /// The first negation that is asked with; nothing if one of them stands out.
-std::optional<TextSpan> OverlookedNegation(std::u16string_view text) {
+std::optional<TextSpan> OverlookedNegation(const CheckedQuestion& question) {
+  const std::vector<TextSpan>& negations = question.wording.negations;
+  if (negations.empty()) return {};
+  const std::u16string_view text = question.text;
+  const std::vector<TextSpan> emphasised = EmphasisedParts(text);
   std::optional<TextSpan> first;
-  std::vector<TextSpan> emphasised;
+  auto word = negations.begin();
   for (const TextSpan& sentence : AskingSentences(text)) {
-    auto word = FindNegation(sentence.Of(text));
-    if (!word) continue;
-    *word = {word->begin + sentence.begin, word->end + sentence.begin};
-    if (IsPartOfChineseWord(text, *word)) continue;
-    if (!first) emphasised = EmphasisedParts(text);
+    const auto isSkipped = [&](const TextSpan& each) {
+      return each.begin < sentence.begin || IsPartOfChineseWord(text, each);
+    };
+    word = std::find_if_not(word, negations.end(), isSkipped);
+    if (word == negations.end()) break;
+    if (!sentence.Contains(word->begin)) continue;
     if (StandsOut(text, *word) || IsWithin(emphasised, *word)) return {};
-    if (!first) first = word;
+    if (!first) first = *word;
   }
   return first;
 }
@@ -120,10 +128,10 @@ void ShuffledOptionReference::Check(const CheckedExam& exam, FindingList& findin
   for (const CheckedQuestion& question : exam.questions) {
     for (unsigned i = 0; i < kOptionCount; ++i) {
       const std::u16string_view option = question.options[i];
-      if (!option.empty() && (SpeaksOfTheOthers(option) || NamesOptions(option)))
+      if (!option.empty() && (SpeaksOfTheOthers(option) || NamesOptions(option, question.text)))
         findings.AddIn({question.number, ExamFieldName::Options, i});
     }
-    if (question.answer.options && NamesOptionsInText(question.text))
+    if (question.answer.options && question.wording.namesOptions)
       findings.AddIn({question.number, ExamFieldName::QuestionText});
   }
 }
@@ -131,7 +139,7 @@ void ShuffledOptionReference::Check(const CheckedExam& exam, FindingList& findin
 void ShuffledQuestionReference::Check(const CheckedExam& exam, FindingList& findings) const {
   if (exam.exam.randomMode != RandomMode::Sequence) return;
   for (const CheckedQuestion& question : exam.questions) {
-    if (FollowsOn(question.text) || !NamedQuestions(question.text).empty())
+    if (question.wording.followsOn || !question.wording.namedQuestions.empty())
       findings.Add({question.number, ExamFieldName::QuestionText});
   }
 }
@@ -139,7 +147,7 @@ void ShuffledQuestionReference::Check(const CheckedExam& exam, FindingList& find
 void PictureWithoutFile::Check(const CheckedExam& exam, FindingList& findings) const {
   if (!exam.exam.examAttachmentPaths[0].empty()) return;
   for (const CheckedQuestion& question : exam.questions) {
-    if (question.hasFiles || !MentionsPicture(question.text) || HasInlinePicture(question.text)) continue;
+    if (question.hasFiles || !question.wording.mentionsPicture || HasInlinePicture(question.text)) continue;
     if (!HasFilesBefore(exam, question)) findings.Add({question.number, ExamFieldName::QuestionText});
   }
 }
@@ -147,15 +155,15 @@ void PictureWithoutFile::Check(const CheckedExam& exam, FindingList& findings) c
 void PictureWithoutWords::Check(const CheckedExam& exam, FindingList& findings) const {
   for (const CheckedFile& file : exam.files) {
     if (file.place.question == 0 || file.kind != FileKind::Picture) continue;
-    const std::u16string_view text = exam.questions[static_cast<std::size_t>(file.place.question) - 1].text;
-    if (MentionsPicture(text) || SharesWord(file.name, WordedText(text))) continue;
+    const CheckedQuestion& question = exam.questions[static_cast<std::size_t>(file.place.question) - 1];
+    if (question.wording.mentionsPicture || SharesWord(file.name, WordedText(question.text))) continue;
     findings.Add(file.place, {file.name});
   }
 }
 
 void PlainNegation::CheckQuestion(const CheckedQuestion& question, FindingList& findings) const {
   if (!question.answer.options) return;
-  const auto word = OverlookedNegation(question.text);
+  const auto word = OverlookedNegation(question);
   if (word) findings.Add({question.number, ExamFieldName::QuestionText}, {word->Of(question.text)});
 }
 

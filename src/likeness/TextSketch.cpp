@@ -5,21 +5,33 @@
 #include "text/AsciiCase.h"
 
 #include <algorithm>
+#include <array>
 
 namespace quorvantis {
 namespace {
 
-/// ASCII punctuation, which typing slips change; signs of formulas count.
-bool IsPunctuation(char16_t unit) {
+/// What a unit is worth in a comparison: itself in lower case, or a blank for blanks and for punctuation,
+/// which typing slips change; signs of formulas count.
+constexpr char16_t ComparedAscii(char16_t unit) {
   constexpr std::u16string_view kPunctuation = u"!\"',.:;?`()[]{}_";
-  constexpr std::u16string_view kWide =
-      u"\u00AB\u00BB\u2018\u2019\u201C\u201D\u2026\u3001\u3002\uFF01\uFF08"
-      u"\uFF09\uFF0C\uFF1A\uFF1B\uFF1F\u060C\u061B\u061F";
-  return (unit < 0x80 ? kPunctuation : kWide).find(unit) != std::u16string_view::npos;
+  return unit <= u' ' || kPunctuation.find(unit) != kPunctuation.npos ? u' ' : AsciiLower(unit);
 }
 
-bool IsBlankBetweenWords(char16_t unit) {
-  return unit <= u' ' || unit == u'\u00A0' || unit == u'\u3000';
+constexpr std::size_t kAsciiUnits = 0x80;
+
+constexpr std::array<char16_t, kAsciiUnits> kComparedAscii = [] {
+  std::array<char16_t, kAsciiUnits> compared{};
+  for (std::size_t unit = 0; unit < kAsciiUnits; ++unit)
+    compared[unit] = ComparedAscii(static_cast<char16_t>(unit));
+  return compared;
+}();
+
+char16_t Compared(char16_t unit) {
+  constexpr std::u16string_view kWide =
+      u"\u00A0\u00AB\u00BB\u2018\u2019\u201C\u201D\u2026\u3000\u3001\u3002\uFF01\uFF08"
+      u"\uFF09\uFF0C\uFF1A\uFF1B\uFF1F\u060C\u061B\u061F";
+  if (unit < kAsciiUnits) return kComparedAscii[unit];
+  return kWide.find(unit) == kWide.npos ? FoldCase(unit) : u' ';
 }
 
 /// The end of the tag at `begin`, or `begin` if it is none.
@@ -32,47 +44,62 @@ std::size_t EndOfTag(std::u16string_view text, std::size_t begin) {
   return end != tag.npos && end > name && isLetter(tag[name]) ? begin + end + 1 : begin;
 }
 
-/// A hash of `size` units that spreads well.
-std::uint32_t HashOf(const char16_t* units, std::size_t size) {
-  std::uint64_t hash = 0x9E3779B97F4A7C15;
-  for (std::size_t i = 0; i < size; ++i) hash = (hash ^ units[i]) * 0xD6E8FEB86659FD93;
-  return static_cast<std::uint32_t>((hash ^ (hash >> 32)) * 0x9E3779B97F4A7C15 >> 32);
+/// A hash of a shingle that spreads well.
+std::uint32_t HashOf(std::uint64_t shingle) {
+  shingle = (shingle ^ (shingle >> 29)) * 0xD6E8FEB86659FD93;
+  return static_cast<std::uint32_t>((shingle ^ (shingle >> 32)) * 0x9E3779B97F4A7C15 >> 32);
 }
 
 }  // namespace
 
 std::u16string Normalised(std::u16string_view text) {
-  std::u16string normalised;
-  normalised.reserve(text.size());
+  std::u16string normalised(text.size(), u' ');
+  std::size_t size = 0;
   for (std::size_t at = 0; at < text.size(); ++at) {
-    const char16_t unit = text[at];
-    const std::size_t tagEnd = unit == u'<' ? EndOfTag(text, at) : at;
+    const std::size_t tagEnd = text[at] == u'<' ? EndOfTag(text, at) : at;
     if (tagEnd > at) {
       at = tagEnd - 1;
-    } else if (!IsBlankBetweenWords(unit) && !IsPunctuation(unit)) {
-      normalised.push_back(unit < 0x80 ? AsciiLower(unit) : FoldCase(unit));
-    } else if (!normalised.empty() && normalised.back() != u' ') {
-      normalised.push_back(u' ');
+      continue;
     }
+    const char16_t compared = Compared(text[at]);
+    const bool isFurtherBlank = compared == u' ' && (size == 0 || normalised[size - 1] == u' ');
+    if (!isFurtherBlank) normalised[size++] = compared;
   }
+  normalised.resize(size);
   if (normalised.ends_with(u' ')) normalised.pop_back();
   return normalised;
 }
 
 TextSketch::TextSketch(std::u16string_view normalised) {
   if (normalised.empty()) return;
+  // Hashes are spread evenly, so about twice as many as are kept are below this limit, unless the text
+  // repeats itself.
+  const std::size_t part = std::max<std::size_t>(normalised.size() / (2 * kMost), 1);
+  const auto limit = static_cast<std::uint32_t>(UINT32_MAX / part);
+  Collect(normalised, limit);
+  KeepSmallest();
+  if (hashes_.size() == kMost || limit == UINT32_MAX) return;
+  hashes_.clear();
+  Collect(normalised, UINT32_MAX);
+  KeepSmallest();
+}
+
+void TextSketch::Collect(std::u16string_view normalised, std::uint32_t limit) {
   constexpr std::size_t kCollected = kMost * 4;  // sorted out at a time
-  std::uint32_t limit = UINT32_MAX;
+  constexpr unsigned kUnitBits = 16;
+  static_assert(kShingle * kUnitBits == 64, "a shingle is a number");
+  std::uint64_t shingle = 0;
   const std::size_t size = std::min(kShingle, normalised.size());
-  for (std::size_t at = 0; at + size <= normalised.size(); ++at) {
-    const std::uint32_t hash = HashOf(normalised.data() + at, size);
+  for (std::size_t at = 0; at < normalised.size(); ++at) {
+    shingle = shingle << kUnitBits | normalised[at];
+    if (at + 1 < size) continue;
+    const std::uint32_t hash = HashOf(shingle);
     if (hash > limit) continue;
     hashes_.push_back(hash);
     if (hashes_.size() < kCollected) continue;
     KeepSmallest();
     if (hashes_.size() == kMost) limit = hashes_.back();
   }
-  KeepSmallest();
 }
 
 void TextSketch::KeepSmallest() {

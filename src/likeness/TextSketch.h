@@ -32,6 +32,8 @@ class TextSketch {
   double Likeness(const TextSketch& other) const;
 
  private:
+  /// Takes the hashes of all shingles up to `limit`.
+  void Collect(std::u16string_view normalised, std::uint32_t limit);
   void KeepSmallest();
 
   std::vector<std::uint32_t> hashes_;

@@ -3,6 +3,7 @@
 
 #include "regex/LetterCase.h"
 #include "regex/WordBorders.h"
+#include "text/AsciiCase.h"
 
 #include <algorithm>
 
@@ -28,68 +29,105 @@ std::size_t MarkupLength(std::u16string_view rest) {
   return end == std::u16string_view::npos ? 0 : end + 1;
 }
 
-bool IsWordUnit(std::u16string_view text, std::size_t at) {
-  // A unit is a part of a word where a border would cut it off from a letter.
-  const char16_t pair[] = {text[at], u'a'};
-  return !IsWholeWord({pair, 2}, 0, 1);
+char16_t FoldedUnit(char16_t unit) {
+  if (unit < 0x80) return AsciiLower(unit);
+  return unit == u'\u2019' ? u'\'' : ToLowerCase(unit);
+}
+
+/// Of folded units.
+bool IsWordUnit(char16_t unit) {
+  if (unit >= 0x80) return IsPartOfWord(unit);
+  return (unit >= u'a' && unit <= u'z') || (unit >= u'0' && unit <= u'9') || unit == u'_';
+}
+
+bool IsHangul(char16_t unit) {
+  return unit >= 0xAC00 && unit <= 0xD7A3;
+}
+
+/// Korean puts particles right behind a phrase.
+bool StandsByItself(std::u16string_view text, const TextSpan& phrase) {
+  const std::size_t end = IsHangul(text[phrase.end - 1]) ? phrase.begin : phrase.end;
+  return IsWholeWord(text, phrase.begin, end);
 }
 
 }  // namespace
 
-WordedText::WordedText(std::u16string_view text) {
-  Fold(text);
+WordedText::WordedText(std::u16string_view text) : original_(text) {
+  Fold();
   CutIntoWords();
 }
 
-void WordedText::Fold(std::u16string_view text) {
-  folded_.reserve(text.size());
-  origins_.reserve(text.size() + 1);
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t markup = MarkupLength(text.substr(at));
-    const bool blank = markup > 0 || IsBlank(text[at]);
-    if (!blank || folded_.empty() || folded_.back() != u' ') {
-      folded_ += blank ? u' ' : ToLowerCase(text[at]);
-      origins_.push_back(at);
+void WordedText::Fold() {
+  folded_.resize(original_.size());
+  origins_.resize(original_.size());
+  std::size_t size = 0;
+  for (std::size_t at = 0; at < original_.size();) {
+    const char16_t unit = original_[at];
+    const std::size_t markup = unit == u'<' || unit == u'&' ? MarkupLength(original_.substr(at)) : 0;
+    const bool blank = markup > 0 || IsBlank(unit);
+    if (!blank || size == 0 || folded_[size - 1] != u' ') {
+      folded_[size] = blank ? u' ' : FoldedUnit(unit);
+      origins_[size++] = static_cast<std::uint32_t>(at);
     }
     at += std::max<std::size_t>(markup, 1);
   }
-  origins_.push_back(text.size());
+  folded_.resize(size);
+  origins_.resize(size);
 }
 
 void WordedText::CutIntoWords() {
+  constexpr std::size_t kUsualWord = 6;
+  constexpr char16_t kFirstBeyondAscii = 0x80;
+  words_.reserve(folded_.size() / kUsualWord);
   for (std::size_t at = 0; at < folded_.size();) {
     std::size_t end = at;
-    while (end < folded_.size() && IsWordUnit(folded_, end)) ++end;
+    while (end < folded_.size() && IsWordUnit(folded_[end])) ++end;
     if (end > at) {
-      words_.push_back({at, end});
-      places_.push_back({origins_[at], origins_[end - 1] + 1});
+      const TextSpan place{at, end};
+      words_.push_back({place, WordTable::Instance().UsesOf(place.Of(folded_))});
+      all_.Add(words_.back().uses);
     }
+    if (end > at || folded_[at] >= kFirstBeyondAscii) FindPhrasesAt(at);
     at = std::max(end, at + 1);
   }
 }
 
+void WordedText::FindPhrasesAt(std::size_t place) {
+  const std::u16string_view rest = std::u16string_view(folded_).substr(place);
+  for (const std::size_t units : {std::size_t{2}, std::size_t{1}}) {
+    if (units > rest.size()) continue;
+    const std::u16string_view begin = units == 1 ? rest.substr(0, 1) : rest;
+    for (const WordTable::Phrase& phrase : WordTable::Instance().PhrasesLike(begin)) {
+      const TextSpan span{place, place + phrase.text.size()};
+      if (!rest.starts_with(phrase.text) || !StandsByItself(folded_, span)) continue;
+      phrases_.push_back({span, phrase.uses});
+      all_.Add(phrase.uses);
+    }
+  }
+}
+
 std::u16string_view WordedText::Word(std::size_t index) const {
-  return index < words_.size() ? words_[index].Of(folded_) : std::u16string_view();
+  return index < words_.size() ? words_[index].place.Of(folded_) : std::u16string_view();
+}
+
+WordUses WordedText::Uses(std::size_t index) const {
+  return index < words_.size() ? words_[index].uses : WordUses();
 }
 
 char16_t WordedText::Before(std::size_t index) const {
-  const std::size_t begin = words_[index].begin;
+  const std::size_t begin = words_[index].place.begin;
   return begin == 0 ? u'\0' : folded_[begin - 1];
 }
 
 char16_t WordedText::After(std::size_t index) const {
-  const std::size_t end = words_[index].end;
+  const std::size_t end = words_[index].place.end;
   return end == folded_.size() ? u'\0' : folded_[end];
 }
 
-bool WordedText::HasAny(std::span<const std::u16string_view> phrases) const {
-  return std::any_of(phrases.begin(), phrases.end(), [this](std::u16string_view phrase) {
-    for (std::size_t at = folded_.find(phrase); at != std::u16string::npos;
-         at = folded_.find(phrase, at + 1)) {
-      if (IsWholeWord(folded_, at, at + phrase.size())) return true;
-    }
-    return false;
-  });
+std::u16string_view WordedText::Gap(std::size_t index) const {
+  const std::size_t begin = words_[index].place.end;
+  const std::size_t end = index + 1 < words_.size() ? words_[index + 1].place.begin : folded_.size();
+  return std::u16string_view(folded_).substr(begin, end - begin);
 }
 
 }  // namespace quorvantis

@@ -68,7 +68,7 @@ TEST(WordingTest, NamedQuestions) {
               {u"根据第12题的结果", {12}},         {u"انظر السؤال ٣", {3}},
               {u"Siehe Frage 7 und 8.", {7, 8}},   {u"3. soruda bulduğunuz", {3}},
               {u"question 501 or 0", {}},          {u"The question of 1848", {}},
-              {u"3 questions in 10 minutes", {}},  {u"第三题", {}},
+              {u"3 questions in 10 minutes", {}},  {u"第三题", {3}},
               {u"In questions 2, 4 and 2", {2, 4}}};
   for (const auto& row : rows)
     EXPECT_EQ(NamedQuestions(row.text), row.numbers) << Utf16ToUtf8(std::u16string(row.text));
@@ -99,8 +99,8 @@ TEST(WordingTest, NegationsHaveAPlace) {
               {u"Alle außer einem", u"außer"},
               {u"A note on knots", u""}};
   for (const auto& row : rows) {
-    const std::optional<TextSpan> place = FindNegation(row.text);
-    EXPECT_EQ(place ? place->Of(row.text) : u"", row.word);
+    const std::vector<TextSpan> places = WordingOf(row.text).negations;
+    EXPECT_EQ(places.empty() ? u"" : places.front().Of(row.text), row.word);
   }
 }
 
