@@ -9,15 +9,6 @@
 namespace quorvantis {
 namespace {
 
-/// The digit's value in the scripts of schools, or -1.
-int DigitOf(char16_t unit) {
-  static constexpr char16_t kZeros[] = {u'0', u'\u0660', u'\u06F0', u'\uFF10'};
-  for (const char16_t zero : kZeros) {
-    if (unit >= zero && unit <= zero + 9) return unit - zero;
-  }
-  return -1;
-}
-
 bool IsAllDigits(std::u16string_view word) {
   return !word.empty() &&
          std::all_of(word.begin(), word.end(), [](char16_t unit) { return DigitOf(unit) >= 0; });
@@ -107,7 +98,7 @@ void TakeBehindNoun(const WordedText& text, std::size_t noun, NumberList& number
   if (isAbbreviated && text.Folding(noun).Size() > 4) return;  // the end of a sentence
   const std::size_t number = BehindNumberSigns(text, noun + 1);
   TakeDigits(text, number, numbers);
-  if (number == noun + 1 && text.Gap(noun) == u" ") TakeSpelled(text, number, numbers);
+  if (text.Gap(number - 1) == u" ") TakeSpelled(text, number, numbers);
 }
 
 /// "3. soru", "ikinci soru", "3번 문제".
@@ -130,32 +121,41 @@ bool IsReferredTo(const WordedText& text, std::size_t index) {
   return index > 0 && text.Is(index - 1, {WordUse::Reference});
 }
 
-/// "In Q2", "(Q. 2)". Not "Q3 2024", a quarter, nor "the value of Q1", a quartile.
-bool TakeShort(const WordedText& text, std::size_t index, bool goesOn, NumberList& numbers) {
+/// The length of the noun of a word such as "q2"; 0 if it has none.
+std::size_t ShortNounOf(const WordedText& text, std::size_t index) {
   const std::u16string_view word = text.Word(index);
+  if (text.Is(index, {WordUse::ShortNoun})) return word.size();
+  if (DigitOf(word.back()) < 0) return 0;
   const std::size_t letters = std::min(word.find_first_of(u"0123456789"), word.size());
-  if (letters == 0 || !WordTable::Instance().UsesOf(word.substr(0, letters)).Has(WordUse::ShortNoun))
-    return false;
+  return WordTable::Instance().UsesOf(word.substr(0, letters)).Has(WordUse::ShortNoun) ? letters : 0;
+}
+
+/// "In Q2", "(Q. 2)". Not "Q3 2024", a quarter, nor "the value of Q1", a quartile. `goesOn` if others are
+/// named right before. The last word of it, or nothing.
+std::optional<std::size_t> TakeShort(const WordedText& text, std::size_t index, bool goesOn,
+                                     NumberList& numbers) {
+  const std::size_t letters = ShortNounOf(text, index);
+  if (letters == 0) return std::nullopt;
   const bool isMeant = goesOn || index == 0 || IsReferredTo(text, index) || text.Before(index) == u'(';
-  if (!isMeant) return false;
+  const std::u16string_view word = text.Word(index);
   const bool isApart = letters == word.size();
-  if (isApart && (index + 1 >= text.WordCount() || !ConsistsOf(text.Gap(index), u" ."))) return false;
+  const bool isNear = !isApart || (index + 1 < text.WordCount() && ConsistsOf(text.Gap(index), u" ."));
+  if (!isMeant || !isNear) return std::nullopt;
   const std::size_t last = isApart ? index + 1 : index;
   const auto number = QuestionNumberOf(isApart ? text.Word(last) : word.substr(letters));
   constexpr std::size_t kYear = 4;  // digits
   const std::u16string_view next = text.Word(last + 1);
-  if (!number || (next.size() == kYear && IsAllDigits(next))) return false;
+  if (!number || (next.size() == kYear && IsAllDigits(next))) return std::nullopt;
   numbers.Add(*number);
-  return true;
+  return last;
 }
 
 /// "See no. 2", "см. № 2". Not "a no. 2 pencil" nor "in no. 10 Downing Street".
 void TakeSigned(const WordedText& text, std::size_t index, NumberList& numbers) {
-  const bool isAfterSign = index > 0 && text.Is(index - 1, {WordUse::Reference}) &&
-                           text.Gap(index - 1).find(u'№') != std::u16string_view::npos;
+  if (index == 0 || !text.Is(index - 1, {WordUse::Reference})) return;
+  const bool isAfterSign = text.Gap(index - 1).find(u'№') != std::u16string_view::npos;
   const std::size_t number = isAfterSign ? index : BehindNumberSigns(text, index);
-  const bool isSigned = number > index && IsReferredTo(text, index);
-  if ((isAfterSign || isSigned) && EndsThere(text, number)) TakeDigits(text, number, numbers);
+  if ((isAfterSign || number > index) && EndsThere(text, number)) TakeDigits(text, number, numbers);
 }
 
 /// A number in digits or Chinese up to 99 at the front of a text, and its length; 0 and 0 if there is none.
@@ -224,6 +224,20 @@ void TakeWithoutBlanks(const WordedText& text, NumberList& numbers) {
   }
 }
 
+constexpr WordUses kSpelledNumbers{WordUse::One, WordUse::Two,   WordUse::Three, WordUse::Four, WordUse::Five,
+                                   WordUse::Six, WordUse::Seven, WordUse::Eight, WordUse::Nine, WordUse::Ten};
+
+void TakeWithBlanks(const WordedText& text, NumberList& numbers) {
+  std::size_t afterShort = 0;  // the word after "Q2 and"
+  for (std::size_t i = 0; i < text.WordCount(); ++i) {
+    if (text.Is(i, {WordUse::QuestionNoun})) TakeBehindNoun(text, i, numbers);
+    TakeBeforeNoun(text, i, numbers);
+    TakeSigned(text, i, numbers);
+    const auto lastShort = TakeShort(text, i, i > 0 && i == afterShort, numbers);
+    if (lastShort && text.Is(*lastShort + 1, {WordUse::NumberLink})) afterShort = *lastShort + 2;
+  }
+}
+
 }  // namespace
 
 std::optional<int> QuestionNumberOf(std::u16string_view word) {
@@ -236,14 +250,7 @@ std::optional<int> QuestionNumberOf(std::u16string_view word) {
 
 std::vector<int> NamedQuestionsIn(const WordedText& text) {
   NumberList numbers;
-  std::size_t afterShort = 0;  // the word after "Q2 and"
-  for (std::size_t i = 0; i < text.WordCount(); ++i) {
-    if (text.Is(i, {WordUse::QuestionNoun})) TakeBehindNoun(text, i, numbers);
-    TakeBeforeNoun(text, i, numbers);
-    TakeSigned(text, i, numbers);
-    const bool isShort = TakeShort(text, i, i > 0 && i == afterShort, numbers);
-    if (isShort && text.Is(i + 1, {WordUse::NumberLink})) afterShort = i + 2;
-  }
+  if (text.HasDigits() || text.Has(kSpelledNumbers)) TakeWithBlanks(text, numbers);
   TakeWithoutBlanks(text, numbers);
   return numbers.Take();
 }

@@ -26,11 +26,12 @@ struct LabelList {
 bool IsSign(char16_t unit) {
   const bool isCircled = unit >= u'\u2460' && unit <= u'\u2473';
   const bool isRoman = unit >= u'\u2170' && unit <= u'\u217B';
-  return isCircled || isRoman || std::u16string_view(u"甲乙丙丁戊").find(unit) != std::u16string_view::npos;
+  return isCircled || isRoman ||
+         std::u16string_view(u"甲乙丙丁戊ㄱㄴㄷㄹㅁ").find(unit) != std::u16string_view::npos;
 }
 
-bool IsRomanOrKorean(std::u16string_view word) {
-  constexpr std::u16string_view kLabels[] = {u"i", u"ii", u"iii", u"iv", u"v", u"ㄱ", u"ㄴ", u"ㄷ", u"ㄹ"};
+bool IsRoman(std::u16string_view word) {
+  constexpr std::u16string_view kLabels[] = {u"i", u"ii", u"iii", u"iv", u"v"};
   return std::find(std::begin(kLabels), std::end(kLabels), word) != std::end(kLabels);
 }
 
@@ -41,8 +42,8 @@ bool IsDigitLabel(std::u16string_view word) {
 bool TakeWord(const WordedText& option, std::size_t index, LabelList& list) {
   const std::u16string_view word = option.Word(index);
   const bool isBracketed = option.After(index) == u')' && option.Before(index) == u'(';
-  if (IsDigitLabel(word) || IsRomanOrKorean(word)) {
-    const bool isCertain = isBracketed || (!IsDigitLabel(word) && (word.size() > 1 || word[0] > u'z'));
+  if (IsDigitLabel(word) || IsRoman(word)) {
+    const bool isCertain = isBracketed || word.size() > 1;
     list.Add(word, isCertain, index == 0);
     return true;
   }

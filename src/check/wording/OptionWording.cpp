@@ -22,7 +22,9 @@ bool IsPunctuationAround(char16_t unit) {
 /// "correct".
 bool SaysOnly(const WordedText& option, const TextSpan& span) {
   for (std::size_t i = 0; i < option.WordCount(); ++i) {
-    if (!span.Overlaps(option.Folding(i)) && !option.Is(i, kBesideOthers)) return false;
+    const TextSpan word = option.Folding(i);
+    const bool isWithin = word.begin >= span.begin && word.end <= span.end;
+    if (!isWithin && !option.Is(i, kBesideOthers)) return false;
   }
   const std::u16string_view folded = option.Folded();
   for (std::size_t at = 0; at < folded.size(); ++at) {

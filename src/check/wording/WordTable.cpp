@@ -21,15 +21,17 @@ static_assert(kUses <= 64);
 /// Much larger than the number of words, and a power of two.
 constexpr std::size_t kPlaces = 0x2000;
 
+constexpr std::size_t kHashes = 0x10000;
+
 /// Spreads words of several languages well enough, and looks at few of their units.
 std::size_t HashOfWord(std::u16string_view word) {
   const std::size_t ends = word.front() * 31U + word.back() * 1021U;
-  return (ends + word[word.size() / 2] * 8209U + word.size() * 257U) % kPlaces;
+  return (ends + word[word.size() / 2] * 8209U + word.size() * 257U) % kHashes;
 }
 
 /// Of the first two units, or of the only one.
 std::size_t HashOfBegin(char16_t first, char16_t second) {
-  return (first * 40503U + second) % 0x10000;
+  return (first * 40503U + second) % kHashes;
 }
 
 using Begin = std::pair<char16_t, char16_t>;
@@ -71,7 +73,8 @@ WordTable::WordTable() : words_(kPlaces), wordsByUse_(kUses) {
 }
 
 void WordTable::AddWord(const Phrase& word) {
-  std::size_t place = HashOfWord(word.text);
+  hashes_.set(HashOfWord(word.text));
+  std::size_t place = HashOfWord(word.text) % kPlaces;
   while (!words_[place].word.empty()) place = (place + 1) % kPlaces;
   words_[place] = {word.text, word.uses};
 }
@@ -90,7 +93,9 @@ void WordTable::AddPhrases(std::vector<Phrase> phrases) {
 
 WordUses WordTable::UsesOf(std::u16string_view word) const {
   if (word.empty()) return {};
-  for (std::size_t place = HashOfWord(word); !words_[place].word.empty(); place = (place + 1) % kPlaces) {
+  const std::size_t hash = HashOfWord(word);
+  if (!hashes_.test(hash)) return {};
+  for (std::size_t place = hash % kPlaces; !words_[place].word.empty(); place = (place + 1) % kPlaces) {
     if (words_[place].word == word) return words_[place].uses;
   }
   return {};

@@ -57,7 +57,8 @@ class WordTable {
   void AddWord(const Phrase& word);
   void AddPhrases(std::vector<Phrase> phrases);
 
-  std::vector<Entry> words_;  ///< at the place of their hash or after it
+  std::vector<Entry> words_;     ///< at the place of their hash or after it
+  std::bitset<0x10000> hashes_;  ///< of words: most words of a text say nothing
   std::vector<Phrase> phrases_;
   std::bitset<0x10000> begins_;  ///< hashes of first units of phrases
   std::vector<std::vector<std::u16string_view>> wordsByUse_;

@@ -13,10 +13,13 @@ namespace {
 /// Tags longer than this are signs of comparison in a text about numbers.
 constexpr std::size_t kLongestTag = 200;
 
+constexpr char16_t kFirstBeyondAscii = 0x80;
+
 constexpr std::u16string_view kBlankEntity = u"&nbsp;";
 
 bool IsBlank(char16_t unit) {
-  return unit <= u' ' || unit == u'\u00A0' || unit == u'\u3000' || (unit >= u'\u2000' && unit <= u'\u200B');
+  if (unit < kFirstBeyondAscii) return unit <= u' ';
+  return unit == u'\u00A0' || unit == u'\u3000' || (unit >= u'\u2000' && unit <= u'\u200B');
 }
 
 /// The length of the markup at the front of `rest`, 0 if there is none.
@@ -30,13 +33,15 @@ std::size_t MarkupLength(std::u16string_view rest) {
 }
 
 char16_t FoldedUnit(char16_t unit) {
-  if (unit < 0x80) return AsciiLower(unit);
+  constexpr char16_t kTurkishI = 0x130;
+  if (unit < kFirstBeyondAscii) return AsciiLower(unit);
+  if (unit == kTurkishI) return u'i';
   return unit == u'\u2019' ? u'\'' : ToLowerCase(unit);
 }
 
 /// Of folded units.
 bool IsWordUnit(char16_t unit) {
-  if (unit >= 0x80) return IsPartOfWord(unit);
+  if (unit >= kFirstBeyondAscii) return IsPartOfWord(unit);
   return (unit >= u'a' && unit <= u'z') || (unit >= u'0' && unit <= u'9') || unit == u'_';
 }
 
@@ -51,6 +56,15 @@ bool StandsByItself(std::u16string_view text, const TextSpan& phrase) {
 }
 
 }  // namespace
+
+int DigitOf(char16_t unit) {
+  if (unit < kFirstBeyondAscii) return unit >= u'0' && unit <= u'9' ? unit - u'0' : -1;
+  constexpr char16_t kZeros[] = {u'\u0660', u'\u06F0', u'\uFF10'};
+  for (const char16_t zero : kZeros) {
+    if (unit >= zero && unit <= zero + 9) return unit - zero;
+  }
+  return -1;
+}
 
 WordedText::WordedText(std::u16string_view text) : original_(text) {
   Fold();
@@ -77,15 +91,16 @@ void WordedText::Fold() {
 
 void WordedText::CutIntoWords() {
   constexpr std::size_t kUsualWord = 6;
-  constexpr char16_t kFirstBeyondAscii = 0x80;
+  const WordTable& table = WordTable::Instance();
   words_.reserve(folded_.size() / kUsualWord);
   for (std::size_t at = 0; at < folded_.size();) {
     std::size_t end = at;
     while (end < folded_.size() && IsWordUnit(folded_[end])) ++end;
     if (end > at) {
       const TextSpan place{at, end};
-      words_.push_back({place, WordTable::Instance().UsesOf(place.Of(folded_))});
+      words_.push_back({place, table.UsesOf(place.Of(folded_))});
       all_.Add(words_.back().uses);
+      hasDigits_ = hasDigits_ || DigitOf(folded_[at]) >= 0 || DigitOf(folded_[end - 1]) >= 0;
     }
     if (end > at || folded_[at] >= kFirstBeyondAscii) FindPhrasesAt(at);
     at = std::max(end, at + 1);
@@ -94,24 +109,22 @@ void WordedText::CutIntoWords() {
 
 void WordedText::FindPhrasesAt(std::size_t place) {
   const std::u16string_view rest = std::u16string_view(folded_).substr(place);
-  for (const std::size_t units : {std::size_t{2}, std::size_t{1}}) {
-    if (units > rest.size()) continue;
-    const std::u16string_view begin = units == 1 ? rest.substr(0, 1) : rest;
-    for (const WordTable::Phrase& phrase : WordTable::Instance().PhrasesLike(begin)) {
-      const TextSpan span{place, place + phrase.text.size()};
-      if (!rest.starts_with(phrase.text) || !StandsByItself(folded_, span)) continue;
-      phrases_.push_back({span, phrase.uses});
-      all_.Add(phrase.uses);
-    }
+  if (rest.size() > 1) TakePhrases(WordTable::Instance().PhrasesLike(rest), place);
+  if (rest[0] >= kFirstBeyondAscii) TakePhrases(WordTable::Instance().PhrasesLike(rest.substr(0, 1)), place);
+}
+
+void WordedText::TakePhrases(std::span<const WordTable::Phrase> phrases, std::size_t place) {
+  for (const WordTable::Phrase& phrase : phrases) {
+    const TextSpan span{place, place + phrase.text.size()};
+    if (span.end > folded_.size() || span.Of(folded_) != phrase.text) continue;
+    if (!StandsByItself(folded_, span)) continue;
+    phrases_.push_back({span, phrase.uses});
+    all_.Add(phrase.uses);
   }
 }
 
 std::u16string_view WordedText::Word(std::size_t index) const {
   return index < words_.size() ? words_[index].place.Of(folded_) : std::u16string_view();
-}
-
-WordUses WordedText::Uses(std::size_t index) const {
-  return index < words_.size() ? words_[index].uses : WordUses();
 }
 
 char16_t WordedText::Before(std::size_t index) const {

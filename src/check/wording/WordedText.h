@@ -5,11 +5,15 @@
 #include "text/TextSpan.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace quorvantis {
+
+/// The digit's value in the scripts of schools, or -1.
+int DigitOf(char16_t unit);
 
 /// A text as its words are compared: letters without case, markup and runs of blanks as one blank, curly
 /// apostrophes as straight ones. Knows which words and phrases say something of questions and options. Of a
@@ -31,7 +35,7 @@ class WordedText {
   std::u16string_view Word(std::size_t index) const;
 
   /// What word `index` is for; nothing for an index beyond the words.
-  WordUses Uses(std::size_t index) const;
+  WordUses Uses(std::size_t index) const { return index < words_.size() ? words_[index].uses : WordUses(); }
   bool Is(std::size_t index, WordUses uses) const { return Uses(index).HasAny(uses); }
 
   /// Where word `index` stands in the original text, in UTF-16 units.
@@ -55,6 +59,9 @@ class WordedText {
   /// Whether a word or phrase has one of these uses.
   bool Has(WordUses uses) const { return all_.HasAny(uses); }
 
+  /// Whether a word begins or ends with a digit.
+  bool HasDigits() const { return hasDigits_; }
+
   /// The whole folded text.
   std::u16string_view Folded() const { return folded_; }
 
@@ -72,6 +79,7 @@ class WordedText {
   void Fold();
   void CutIntoWords();
   void FindPhrasesAt(std::size_t place);
+  void TakePhrases(std::span<const WordTable::Phrase> phrases, std::size_t place);
 
   std::u16string_view original_;
   std::u16string folded_;
@@ -79,6 +87,7 @@ class WordedText {
   std::vector<FoundWord> words_;
   std::vector<FoundPhrase> phrases_;
   WordUses all_;
+  bool hasDigits_ = false;
 };
 
 }  // namespace quorvantis
