@@ -189,9 +189,10 @@ BankExam ExamFrom(const Statement& row, int column) {
   exam.title = row.Text(column + 2);
   exam.size = row.Integer(column + 3);
   exam.written = row.Integer(column + 4);
-  exam.questions = static_cast<int>(row.Integer(column + 5));
-  exam.state = static_cast<ExamState>(row.Integer(column + 6));
-  exam.firstMissing = static_cast<int>(row.Integer(column + 7));
+  exam.isSettled = row.Integer(column + 5) != 0;
+  exam.questions = static_cast<int>(row.Integer(column + 6));
+  exam.state = static_cast<ExamState>(row.Integer(column + 7));
+  exam.firstMissing = static_cast<int>(row.Integer(column + 8));
   return exam;
 }
 

@@ -43,6 +43,7 @@ struct BankExam {
   std::u16string title;
   std::int64_t size = 0;     ///< bytes
   std::int64_t written = 0;  ///< nanoseconds since 1970
+  bool isSettled = false;    ///< false if the file may have changed since without another time
   int questions = 0;         ///< in the index
   ExamState state = ExamState::Whole;
   int firstMissing = 0;  ///< the first question that is missing, 0 if it is not known
@@ -102,8 +103,9 @@ class BankIndex {
 
 /// The columns of table "exam" that make a BankExam, and one that begins at `column` of a row.
 inline constexpr const char* kExamColumns =
-    "exam.id, exam.path, exam.title, exam.size, exam.written, exam.questions, exam.state, exam.first_missing";
-constexpr int kExamColumnCount = 8;
+    "exam.id, exam.path, exam.title, exam.size, exam.written, exam.settled, exam.questions, exam.state, "
+    "exam.first_missing";
+constexpr int kExamColumnCount = 9;
 BankExam ExamFrom(const Statement& row, int column);
 
 /// What is wrong with an exam, for the user; empty if nothing is.

@@ -12,18 +12,18 @@
 namespace quorvantis {
 
 class FileDigest;
+class Progress;
 struct ExamServices;
 
 /// What an update has done so far.
 struct BankUpdateReport {
-  std::size_t filesSeen = 0;    ///< of all kinds
-  std::size_t examsFound = 0;   ///< files named ".exm"
-  std::size_t examsToRead = 0;  ///< of these: new or changed; known once all folders have been listed
-  std::size_t examsRead = 0;
+  std::size_t filesSeen = 0;   ///< of all kinds
+  std::size_t examsFound = 0;  ///< files named ".exm"
+  std::size_t examsDone = 0;   ///< of these: known to be unchanged, or read
+  bool areAllFound = false;    ///< whether all folders have been listed
   std::size_t added = 0;
   std::size_t changed = 0;
   std::size_t removed = 0;
-  std::size_t damaged = 0;                               ///< of those read
   std::vector<std::filesystem::path> unreadableFolders;  ///< and those of the bank that are not there
   BankProblem problem;                                   ///< that has ended the update early
   bool isCancelled = false;
@@ -43,7 +43,7 @@ class BankUpdate {
   BankUpdate& operator=(const BankUpdate&) = delete;
 
   /// Works for about `time`, longer only by one exam. False once there is nothing left to do, or after a
-  /// problem.
+  /// problem. While another program writes, a step does nothing; only after a minute this is a problem.
   bool Step(std::chrono::milliseconds time);
 
   /// All steps. Tells the progress of `services`, in exams, and ends when it is cancelled.
@@ -55,10 +55,11 @@ class BankUpdate {
   class Work;
 
   std::unique_ptr<Work> work_;
+  Progress& progress_;
 };
 
 /// Reads one exam of the index again if its file has changed since, or removes it if the file is gone: before
-/// something of it is shown. False if nothing had changed.
+/// something of it is shown. False if nothing had changed, or with `problem` set.
 bool RefreshExam(BankIndex& index, ExamServices& services, const FileDigest& digest,
                  const std::filesystem::path& exam, BankProblem& problem);
 

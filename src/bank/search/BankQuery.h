@@ -48,6 +48,9 @@ struct BankQuery {
   friend bool operator==(const BankQuery&, const BankQuery&) = default;
 };
 
+/// What follows in a longer text, such as one pasted by mistake, is not read.
+constexpr std::size_t kMostQueryUnits = 1000;
+
 /// Reads what a user types:
 ///
 ///     word "some words" -word -"some words"

@@ -79,6 +79,9 @@ class BankSearch {
   std::optional<BankQuestion> Question(std::int64_t id, BankProblem& problem) const;
 
  private:
+  BankHits FindOnce(const BankQuery& query, std::size_t limit, std::size_t offset) const;
+  bool Refresh(BankHits& hits) const;
+
   BankIndex& index_;
   ExamServices& services_;
   const FileDigest& digest_;

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "bank/index/FolderScan.h"
+
+#include "text/PathText.h"
+
+#include <algorithm>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace quorvantis {
+namespace fs = std::filesystem;
+namespace {
+
+bool IsExamName(const fs::path& file) {
+  return ExtensionOrNothing(PathToText(file.filename())) == u"exm";
+}
+
+bool IsHidden(const fs::path& path) {
+  return path.filename().native().starts_with('.');
+}
+
+}  // namespace
+
+FolderScan::FolderScan(const std::vector<fs::path>& folders)
+    : toOpen_(folders.rbegin(), folders.rend()), rootsLeft_(folders.size()) {}
+
+bool FolderScan::Step(std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    if (next_ == fs::directory_iterator() && !OpenNextFolder()) return false;
+    if (next_ == fs::directory_iterator()) continue;
+    Look(*next_);
+    std::error_code error;
+    next_.increment(error);
+    if (error) {
+      unreadable_.push_back(folder_);
+      next_ = {};
+    }
+  }
+  return true;
+}
+
+/// False if there is none. A folder that cannot be opened counts as one without entries.
+bool FolderScan::OpenNextFolder() {
+  if (toOpen_.empty()) return false;
+  folder_ = toOpen_.back();
+  toOpen_.pop_back();
+  const bool isRoot = toOpen_.size() < rootsLeft_;
+  rootsLeft_ = std::min(rootsLeft_, toOpen_.size());
+  struct stat status {};
+  std::error_code error;
+  if (::stat(folder_.c_str(), &status) == 0 && !opened_.emplace(status.st_dev, status.st_ino).second)
+    return true;
+  next_ = fs::directory_iterator(folder_, error);
+  const bool hasVanished = error == std::errc::no_such_file_or_directory;
+  if (error && (isRoot || !hasVanished)) unreadable_.push_back(folder_);
+  return true;
+}
+
+void FolderScan::Look(const fs::directory_entry& entry) {
+  ++filesSeen_;
+  if (IsHidden(entry.path())) return;
+  std::error_code error;
+  const fs::file_type type = entry.symlink_status(error).type();
+  if (type == fs::file_type::directory) {
+    toOpen_.push_back(entry.path());
+  } else if (type == fs::file_type::symlink) {
+    LookBehindLink(entry.path());
+  } else if (type == fs::file_type::regular && IsExamName(entry.path())) {
+    AddExam(entry.path());
+  }
+}
+
+void FolderScan::LookBehindLink(const fs::path& link) {
+  std::error_code error;
+  const fs::path target = fs::canonical(link, error);
+  if (error) return;  // it leads nowhere or in a circle
+  const fs::file_type type = fs::status(target, error).type();
+  if (type == fs::file_type::directory) toOpen_.push_back(target);
+  if (type == fs::file_type::regular && IsExamName(link)) AddExam(target);
+}
+
+void FolderScan::AddExam(const fs::path& file) {
+  if (found_.insert(file.native()).second) exams_.push_back(file);
+}
+
+}  // namespace quorvantis

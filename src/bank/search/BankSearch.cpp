@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "bank/search/BankSearch.h"
+
+#include "bank/index/BankFolders.h"
+#include "bank/index/BankUpdate.h"
+#include "bank/index/FileStamp.h"
+#include "bank/index/FoldedText.h"
+#include "bank/search/Highlights.h"
+#include "bank/search/QuerySql.h"
+#include "text/PathText.h"
+
+#include <algorithm>
+#include <map>
+#include <system_error>
+#include <utility>
+
+namespace quorvantis {
+namespace fs = std::filesystem;
+namespace {
+
+bool HoldsAll(const std::u16string& folded, const std::vector<std::u16string>& parts) {
+  return std::all_of(parts.begin(), parts.end(),
+                     [&](const std::u16string& part) { return folded.find(part) != folded.npos; });
+}
+
+/// Whether a query allows questions of an exam.
+bool Allows(const BankQuery& query, const BankExam& exam) {
+  if (query.writtenFrom && exam.written < *query.writtenFrom) return false;
+  if (query.writtenBefore && exam.written >= *query.writtenBefore) return false;
+  if (!query.folders.empty() && !HoldsAll(FoldForSearch(PathToText(exam.path.parent_path())), query.folders))
+    return false;
+  if (query.exams.empty()) return true;
+  const std::u16string name = FoldForSearch(PathToText(exam.path.filename()));
+  return HoldsAll(name + kBetweenTexts + FoldForSearch(exam.title), query.exams);
+}
+
+/// The folders of the bank that are there now.
+std::vector<fs::path> PresentFolders(const BankIndex& index) {
+  std::vector<fs::path> folders = index.Folders();
+  std::error_code ignored;
+  std::erase_if(folders, [&](const fs::path& folder) { return !fs::is_directory(folder, ignored); });
+  return folders;
+}
+
+/// The exams in which a query may find questions. Nothing if these are all.
+std::optional<std::vector<std::int64_t>> SearchedExams(const BankIndex& index, const BankQuery& query) {
+  const std::vector<fs::path> folders = PresentFolders(index);
+  std::vector<std::int64_t> searched;
+  bool areAll = true;
+  Statement rows = index.Data().Prepare(std::string("SELECT ") + kExamColumns + " FROM exam");
+  while (rows.Step()) {
+    const BankExam exam = ExamFrom(rows, 0);
+    const bool isPresent = std::any_of(folders.begin(), folders.end(),
+                                       [&](const fs::path& folder) { return LiesIn(exam.path, folder); });
+    if (isPresent && Allows(query, exam)) {
+      searched.push_back(exam.id);
+    } else {
+      areAll = false;
+    }
+  }
+  return areAll ? std::nullopt : std::optional(std::move(searched));
+}
+
+struct RankedQuestion {
+  double rank;
+  std::int64_t id;
+
+  bool operator<(const RankedQuestion& other) const {
+    return rank != other.rank ? rank < other.rank : id > other.id;
+  }
+};
+
+std::vector<RankedQuestion> RunQuery(const BankIndex& index, const BankQuery& query) {
+  const auto exams = SearchedExams(index, query);
+  const QuerySql sql(query, exams ? &*exams : nullptr);
+  Statement rows = index.Data().Prepare(sql.Text());
+  sql.Bind(rows);
+  std::vector<RankedQuestion> found;
+  while (rows.Step()) found.push_back({rows.Real(1), rows.Integer(0)});
+  return found;
+}
+
+/// Reads questions with all that belongs to them.
+class QuestionRows {
+ public:
+  explicit QuestionRows(const BankIndex& index)
+      : question_(index.Data().Prepare(
+            std::string("SELECT ") + kExamColumns +
+            ", question.number, question.kind, question.score, text, option_a, option_b, option_c, option_d, "
+            "option_e, answer, essay, key_mask, key FROM question "
+            "JOIN content ON content.question = question.id JOIN exam ON exam.id = question.exam "
+            "WHERE question.id = ?")),
+        files_(index.Data().Prepare(
+            "SELECT name, size FROM attached WHERE exam = ? AND number = ? ORDER BY slot")) {}
+
+  std::optional<BankQuestion> Read(std::int64_t id) {
+    question_.Reset();
+    question_.Bind(1, id);
+    if (!question_.Step()) return std::nullopt;
+    BankQuestion question;
+    question.id = id;
+    question.exam = ExamFrom(question_, 0);
+    int column = kExamColumnCount;
+    question.number = static_cast<int>(question_.Integer(column++));
+    question.kind = static_cast<QuestionKind>(question_.Integer(column++));
+    if (!question_.IsNull(column)) question.score = question_.Real(column);
+    question.text = question_.Text(++column);
+    for (std::u16string& option : question.options) option = question_.Text(++column);
+    question.answerText = question_.Text(++column);
+    question.essayAnswer = question_.Text(++column);
+    question.answerMask = static_cast<int>(question_.Integer(++column));
+    question.key = std::string(question_.Bytes(++column));
+    question_.Reset();
+    files_.Bind(1, question.exam.id).Bind(2, std::int64_t{question.number});
+    while (files_.Step()) question.files.push_back({files_.Text(0), files_.Integer(1)});
+    return question;
+  }
+
+ private:
+  Statement question_;
+  Statement files_;
+};
+
+}  // namespace
+
+/// The hits of one look at the index; `total` as it is there.
+BankHits BankSearch::FindOnce(const BankQuery& query, std::size_t limit, std::size_t offset) const {
+  std::vector<RankedQuestion> found = RunQuery(index_, query);
+  BankHits hits;
+  hits.total = found.size();
+  const std::size_t begin = std::min(offset, found.size());
+  const std::size_t end = begin + std::min(limit, found.size() - begin);
+  const auto at = [&found](std::size_t place) { return found.begin() + static_cast<std::ptrdiff_t>(place); };
+  std::partial_sort(found.begin(), at(end), found.end());
+  QuestionRows rows(index_);
+  for (auto ranked = at(begin); ranked != at(end); ++ranked) {
+    std::optional<BankQuestion> question = rows.Read(ranked->id);
+    if (question) hits.hits.push_back({std::move(*question), {}});
+  }
+  return hits;
+}
+
+/// Brings exams of the hits up to date. Returns whether any of them had changed.
+bool BankSearch::Refresh(BankHits& hits) const {
+  std::map<fs::path, bool> isAsShown;  // of each exam
+  bool hasChanged = false;
+  for (const BankHit& hit : hits.hits) {
+    const BankExam& exam = hit.question.exam;
+    const auto [known, isNew] = isAsShown.try_emplace(exam.path, true);
+    if (!isNew) continue;
+    const FileStamp shown{exam.size, exam.written};
+    if (FileStamp::Of(exam.path) == shown && exam.isSettled) continue;
+    hasChanged |= RefreshExam(index_, services_, digest_, exam.path, hits.problem);
+    known->second = FileStamp::Of(exam.path) == shown;
+  }
+  if (!hasChanged)
+    std::erase_if(hits.hits, [&](const BankHit& hit) { return !isAsShown[hit.question.exam.path]; });
+  return hasChanged;
+}
+
+BankHits BankSearch::Find(const BankQuery& query, std::size_t limit, std::size_t offset) {
+  constexpr int kMostRounds = 4;  // somebody may be saving exams all the time
+  try {
+    for (int round = 1;; ++round) {
+      BankHits hits = FindOnce(query, limit, offset);
+      const bool hasChanged = Refresh(hits);
+      if (hasChanged && round < kMostRounds) continue;
+      if (hasChanged) hits.hits.clear();
+      for (BankHit& hit : hits.hits) hit.highlights = HighlightsOf(hit.question, query);
+      return hits;
+    }
+  } catch (const DatabaseError& error) {
+    BankHits hits;
+    hits.problem = index_.ProblemAfter(error);
+    return hits;
+  }
+}
+
+std::vector<std::int64_t> BankSearch::FindAll(const BankQuery& query, BankProblem& problem) const {
+  std::vector<std::int64_t> identifiers;
+  try {
+    const std::vector<RankedQuestion> found = RunQuery(index_, query);
+    identifiers.reserve(found.size());
+    for (const RankedQuestion& question : found) identifiers.push_back(question.id);
+  } catch (const DatabaseError& error) {
+    problem = index_.ProblemAfter(error);
+  }
+  return identifiers;
+}
+
+std::optional<BankQuestion> BankSearch::Question(std::int64_t id, BankProblem& problem) const {
+  try {
+    return QuestionRows(index_).Read(id);
+  } catch (const DatabaseError& error) {
+    problem = index_.ProblemAfter(error);
+    return std::nullopt;
+  }
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "bank/search/BankQuery.h"
+
+#include <string>
+#include <string_view>
+
+namespace quorvantis {
+
+/// A part of a query that blanks part from others.
+struct QueryPart {
+  std::u16string_view whole;  ///< as typed, without the "-"
+  std::u16string name;        ///< folded: what stands before a colon; empty if there is none
+  std::u16string value;       ///< what follows it, or all; without quotation marks
+  bool isExcluded = false;    ///< begins with "-"
+  bool isQuoted = false;      ///< a phrase, not a filter
+  bool isLast = false;        ///< nothing follows, not even a blank
+};
+
+/// Narrows the query by a filter. False if the part is none, or has a value that its filter does not know.
+bool TakeFilter(const QueryPart& part, BankQuery& query);
+
+}  // namespace quorvantis
