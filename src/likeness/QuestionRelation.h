@@ -25,6 +25,12 @@ constexpr bool IsSameQuestion(QuestionRelation relation) {
   return relation == QuestionRelation::Equal || relation == QuestionRelation::NearlyEqual;
 }
 
+/// Whether it is another question, but made from the same one, perhaps for pupils to practise.
+constexpr bool IsVariant(QuestionRelation relation) {
+  return relation == QuestionRelation::OtherNumbers || relation == QuestionRelation::OtherFiles ||
+         relation == QuestionRelation::OtherOptions;
+}
+
 /// From this share of common shingles on two questions are alike; those below are different.
 inline constexpr double kAlike = 0.8;
 

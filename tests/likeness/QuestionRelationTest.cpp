@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "likeness/QuestionRelation.h"
+#include "text/SeededRandom.h"
 
 #include <gtest/gtest.h>
 
@@ -15,8 +16,9 @@ QuestionContent Asked(const std::u16string& text, const Texts& options = {}, con
 
 TEST(QuestionRelation, IsWhatATeacherWouldSay) {
   const Texts metals{u"iron", u"copper", u"zinc"};
+  SeededRandom random(1);
   std::u16string passage;
-  for (char16_t i = 0; i < 900; ++i) passage += static_cast<char16_t>(u'a' + i * i % 26);
+  for (int i = 0; i < 900; ++i) passage += static_cast<char16_t>(u'a' + random.Below(26));
   const std::u16string longText =
       u"Which of these is right about the conductors in the circuit of the picture above?";
   const std::u16string picture = u"What does the picture show?";
@@ -30,8 +32,8 @@ TEST(QuestionRelation, IsWhatATeacherWouldSay) {
        Asked(u"Which of the metals conducts electricity best?", metals), NearlyEqual},
       {Asked(u"How much do you get when you multiply 17 by 23?"),
        Asked(u"How much do you get when you multiply 17 by 24?"), OtherNumbers},
-      {Asked(u"احسب ناتج ضرب العددين ١٧ في ٢٣ من فضلك"), Asked(u"احسب ناتج ضرب العددين ١٧ في ٢٤ من فضلك"),
-       OtherNumbers},
+      {Asked(u"احسب ناتج ضرب العددين التاليين ثم اكتب الجواب ١٧ في ٢٣ من فضلك"),
+       Asked(u"احسب ناتج ضرب العددين التاليين ثم اكتب الجواب ١٧ في ٢٤ من فضلك"), OtherNumbers},
       {Asked(picture, {}, {u"a1"}), Asked(picture, {}, {u"b2"}), OtherFiles},
       {Asked(u"Which of these is right?", metals),
        Asked(u"Which of these is right?", {u"Paris", u"Rome", u"Bern"}), Different},

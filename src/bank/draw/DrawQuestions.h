@@ -16,7 +16,7 @@ DrawOutcome DrawQuestions(std::span<const DrawCandidate> candidates, const DrawR
 
 /// Puts another question in the place of `place` of `drawn`, for the same wish, and keeps all others. The one
 /// that was there, and those of `request.rejected`, do not come again: add each that the user sends away.
-/// If there is no other, `drawn` is returned without it.
+/// If there is no other, `drawn` is returned without it; its wish tells what excluded how many.
 DrawOutcome RedrawOne(std::span<const DrawCandidate> candidates, const DrawRequest& request,
                       const DrawOutcome& drawn, std::size_t place, const ComparedAt& comparedAt);
 

@@ -22,7 +22,7 @@ struct OlderQuestion {
 struct EarlierUse {
   std::size_t question = 0;                             ///< its place in the open exam, from 0 on
   std::size_t older = 0;                                ///< place in the list of older questions
-  QuestionRelation relation = QuestionRelation::Equal;  ///< never Different
+  QuestionRelation relation = QuestionRelation::Equal;  ///< the same or a variant
 };
 
 /// What the open exam has in common with an older one.

@@ -3,11 +3,11 @@
 
 #include "bank/tags/ShortSketch.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace quorvantis {
@@ -28,7 +28,7 @@ using TagEntries = std::map<std::string, TagEntry, std::less<>>;
 /// than 100 UTF-16 units.
 std::optional<std::u16string> CleanTag(std::u16string_view tag);
 
-/// Tags differ by more than their case.
+/// Whether two tags differ by their case at most.
 bool IsSameTag(std::u16string_view a, std::u16string_view b);
 
 /// Whether a question has a tag.

@@ -5,10 +5,13 @@
 #include "platform/Files.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace quorvantis {
+
+class TagJson;
 
 /// The name of the file that holds the tags of the questions of a folder's exams.
 inline constexpr const char* kTagFileName = "quorvantis-tags.json";
@@ -65,6 +68,8 @@ class TagFile {
   const std::filesystem::path& Path() const { return file_; }
 
  private:
+  TagResult Rewrite(const std::function<void(TagJson&)>& change);
+
   std::filesystem::path file_;
   Files& files_;
 };
