@@ -4,9 +4,11 @@
 #include "import/LostPictures.h"
 #include "import/marking/ImportMarkers.h"
 #include "import/marking/RuleKeys.h"
+#include "import/prepare/StepNames.h"
 #include "model/ExamLimits.h"
 #include "platform/TextNumbers.h"
 #include "regex/RegexPattern.h"
+#include "text/AsciiCase.h"
 #include "text/MessageText.h"
 #include "text/NumberRanges.h"
 #include "text/NumberText.h"
@@ -101,11 +103,9 @@ class Summary {
     }
   }
 
-  /// In a paper with blocks of answers, questions need no answers of their own.
   void TellIdleRules() {
-    const bool hasBlock = report_.paper.hasChoiceBlock || report_.paper.hasJudgementBlock;
     for (const auto& [key, count] : report_.marked.counts) {
-      if (count == 0 && !(hasBlock && key == rule_key::kPreAnswer)) TellIdle(key);
+      if (count == 0 && !IsDoneOtherwise(key)) TellIdle(key);
     }
     if (!report_.rules.m_strChoiceAnswerPattern.empty() && !report_.paper.hasChoiceBlock)
       TellIdle(rule_key::kChoiceAnswerPattern);
@@ -114,6 +114,14 @@ class Summary {
     if (report_.rules.m_nTable != 0 && report_.marked.text == kQuestionMarker) Say(text_id::kNoSuchTable);
     if (report_.content && report_.content->hasNumbersLeftOut && !HasMarkedQuestions())
       Say(text_id::kAutomaticNumbers);
+  }
+
+  /// In a paper with blocks of answers, questions need no answers of their own; a step that leaves out what
+  /// titles match leaves none to the marking.
+  bool IsDoneOtherwise(std::u16string_view key) const {
+    const auto isNoise = [](const auto& step) { return EqualsIgnoringAsciiCase(step, step_name::kNoise); };
+    if (key == rule_key::kTitle) return std::ranges::any_of(report_.rules.prepare, isNoise);
+    return key == rule_key::kPreAnswer && (report_.paper.hasChoiceBlock || report_.paper.hasJudgementBlock);
   }
 
   /// Whether a rule for the start of questions matched.

@@ -106,10 +106,11 @@ bool BeginsWithKey(std::u16string_view text) {
          kLabelCloses.find(text[1]) != kLabelCloses.npos;
 }
 
-/// "Answer:", also behind another word: "Model answer:".
+/// "Answer:", also behind another word or a bracket: "Model answer:", "【答案】".
 bool SaysAnswer(std::u16string_view label) {
   for (std::size_t at = 0; at < label.size(); ++at) {
-    const bool beginsWord = at == 0 || IsBlank(label[at - 1]);
+    const bool beginsWord =
+        at == 0 || IsBlank(label[at - 1]) || kLabelOpens.find(label[at - 1]) != kLabelOpens.npos;
     if (beginsWord && AnswerLeadSize(label.substr(at)) > 1) return true;
   }
   return false;

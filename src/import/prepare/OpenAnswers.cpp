@@ -30,7 +30,9 @@ void step::OpenAnswers(PaperText& text, const PreparationContext& context) {
     if (question.HasAnswer() || body.IsEmpty()) continue;
     std::u16string answer(LineEndNear(text.characters, body.end));
     answer += kPreparedKey;
-    edits.push_back({{body.end, body.end}, InsertedText(answer)});
+    // Blanks at the end of the paper would be the answer.
+    const std::size_t end = question.whole.end == text.Size() ? text.Size() : body.end;
+    edits.push_back({{body.end, end}, InsertedText(answer)});
   }
   ApplyEdits(text, std::move(edits));
 }
