@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/Markup.h"
 
-#include "check/MarkupReader.h"
+#include "check/PageTagReader.h"
 
 #include <algorithm>
 #include <array>
@@ -40,20 +40,20 @@ bool Has(const std::array<std::string_view, kSize>& names, std::string_view name
 }
 
 /// "<body>" and "<html>" give what they say of themselves to those of the page.
-bool ChangesPage(const MarkupTag& tag) {
+bool ChangesPage(const PageTag& tag) {
   const bool isOfPage = tag.name == "body" || tag.name == "html";
   return !tag.isEnd && (Has(kOfPage, tag.name) || (isOfPage && tag.hasAttributes));
 }
 
 /// Browsers take "<b/>" for "<b>", but authors for nothing to close. What hides the rest does so all the
 /// same, apart from "<svg/>".
-bool NeedsEnd(const MarkupTag& tag) {
+bool NeedsEnd(const PageTag& tag) {
   if (Has(kHiding, tag.name)) return !tag.isEmptyElement || tag.name != "svg";
   return !tag.isEmptyElement && Has(kPaired, tag.name);
 }
 
 /// A tag of an element that is known and may stand by itself.
-bool IsComplete(const MarkupTag& tag) {
+bool IsComplete(const PageTag& tag) {
   return Has(kSingle, tag.name) || Has(kPaired, tag.name) || Has(kHiding, tag.name);
 }
 
@@ -76,7 +76,7 @@ void TakeOpenTags(const OpenTags& open, MarkupFaults& faults) {
 MarkupFaults FindMarkupFaults(std::u16string_view text) {
   MarkupFaults faults;
   OpenTags open;  // of each element by itself: "<b><i></b></i>" does no harm
-  MarkupReader tags(text);
+  PageTagReader tags(text);
   while (const auto tag = tags.Next()) {
     const bool swallows = tags.Swallower() == tag->span;
     if (tag->isClosed && ChangesPage(*tag)) {
@@ -104,7 +104,7 @@ std::vector<TextSpan> EmphasisedParts(std::u16string_view text) {
   std::vector<TextSpan> parts;
   int depth = 0;
   std::size_t begin = 0;
-  MarkupReader tags(text);
+  PageTagReader tags(text);
   while (const auto tag = tags.Next()) {
     if (!Has(kEmphasis, tag->name)) continue;
     if (!tag->isEnd && depth++ == 0) begin = tag->span.end;

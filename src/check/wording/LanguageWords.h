@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The words by which questions speak of others, language by language. To add a language, write a table of
-// rows such as those in EnglishWords.cpp, or add rows to one, and name a new table in WordTable.cpp.
+// rows such as those in EnglishWords.cpp, or add rows to one, and name a new table in KnownWords.cpp.
 #pragma once
 
 #include <cstdint>

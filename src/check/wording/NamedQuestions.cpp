@@ -127,7 +127,7 @@ std::size_t ShortNounOf(const WordedText& text, std::size_t index) {
   if (text.Is(index, {WordUse::ShortNoun})) return word.size();
   if (DigitOf(word.back()) < 0) return 0;
   const std::size_t letters = std::min(word.find_first_of(u"0123456789"), word.size());
-  return WordTable::Instance().UsesOf(word.substr(0, letters)).Has(WordUse::ShortNoun) ? letters : 0;
+  return KnownWords::Instance().UsesOf(word.substr(0, letters)).Has(WordUse::ShortNoun) ? letters : 0;
 }
 
 /// "In Q2", "(Q. 2)". Not "Q3 2024", a quarter, nor "the value of Q1", a quartile. `goesOn` if others are
@@ -196,7 +196,7 @@ void TakeOrdinal(std::u16string_view folded, std::size_t begin, NumberList& numb
     if (at == folded.size()) return;
     isRange = kRange.find(folded[at]) != kRange.npos;
     if (!isRange && kList.find(folded[at]) == kList.npos) {
-      const auto nouns = WordTable::Instance().WordsFor(WordUse::NounBehindNumber);
+      const auto nouns = KnownWords::Instance().WordsFor(WordUse::NounBehindNumber);
       const auto isHere = [&](std::u16string_view noun) { return folded.substr(at).starts_with(noun); };
       if (std::none_of(nouns.begin(), nouns.end(), isHere)) return;
       break;

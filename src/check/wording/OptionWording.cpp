@@ -123,14 +123,14 @@ bool IsLatin(char16_t unit) {
 
 /// The word for `use` at the front, or at the end, of a text; empty if there is none.
 std::u16string_view WordInFront(std::u16string_view text, WordUse use) {
-  for (const std::u16string_view word : WordTable::Instance().WordsFor(use)) {
+  for (const std::u16string_view word : KnownWords::Instance().WordsFor(use)) {
     if (text.starts_with(word)) return word;
   }
   return {};
 }
 
 bool EndsWithWord(std::u16string_view text, WordUse use) {
-  const auto words = WordTable::Instance().WordsFor(use);
+  const auto words = KnownWords::Instance().WordsFor(use);
   return std::any_of(words.begin(), words.end(),
                      [text](std::u16string_view word) { return text.ends_with(word); });
 }

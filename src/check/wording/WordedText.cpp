@@ -91,7 +91,7 @@ void WordedText::Fold() {
 
 void WordedText::CutIntoWords() {
   constexpr std::size_t kUsualWord = 6;
-  const WordTable& table = WordTable::Instance();
+  const KnownWords& table = KnownWords::Instance();
   words_.reserve(folded_.size() / kUsualWord);
   for (std::size_t at = 0; at < folded_.size();) {
     std::size_t end = at;
@@ -109,12 +109,12 @@ void WordedText::CutIntoWords() {
 
 void WordedText::FindPhrasesAt(std::size_t place) {
   const std::u16string_view rest = std::u16string_view(folded_).substr(place);
-  if (rest.size() > 1) TakePhrases(WordTable::Instance().PhrasesLike(rest), place);
-  if (rest[0] >= kFirstBeyondAscii) TakePhrases(WordTable::Instance().PhrasesLike(rest.substr(0, 1)), place);
+  if (rest.size() > 1) TakePhrases(KnownWords::Instance().PhrasesLike(rest), place);
+  if (rest[0] >= kFirstBeyondAscii) TakePhrases(KnownWords::Instance().PhrasesLike(rest.substr(0, 1)), place);
 }
 
-void WordedText::TakePhrases(std::span<const WordTable::Phrase> phrases, std::size_t place) {
-  for (const WordTable::Phrase& phrase : phrases) {
+void WordedText::TakePhrases(std::span<const KnownWords::Phrase> phrases, std::size_t place) {
+  for (const KnownWords::Phrase& phrase : phrases) {
     const TextSpan span{place, place + phrase.text.size()};
     if (span.end > folded_.size() || span.Of(folded_) != phrase.text) continue;
     if (!StandsByItself(folded_, span)) continue;

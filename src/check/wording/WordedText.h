@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "check/wording/WordTable.h"
+#include "check/wording/KnownWords.h"
 #include "text/TextSpan.h"
 
 #include <cstdint>
@@ -79,7 +79,7 @@ class WordedText {
   void Fold();
   void CutIntoWords();
   void FindPhrasesAt(std::size_t place);
-  void TakePhrases(std::span<const WordTable::Phrase> phrases, std::size_t place);
+  void TakePhrases(std::span<const KnownWords::Phrase> phrases, std::size_t place);
 
   std::u16string_view original_;
   std::u16string folded_;

@@ -29,14 +29,14 @@ class WordUses {
 };
 
 /// The words and phrases of all languages. Made once, never changed.
-class WordTable {
+class KnownWords {
  public:
   struct Phrase {
     std::u16string_view text;
     WordUses uses;
   };
 
-  static const WordTable& Instance();
+  static const KnownWords& Instance();
 
   /// Of a word in lower case; none for a word that says nothing.
   WordUses UsesOf(std::u16string_view word) const;
@@ -53,7 +53,7 @@ class WordTable {
     WordUses uses;
   };
 
-  WordTable();
+  KnownWords();
   void AddWord(const Phrase& word);
   void AddPhrases(std::vector<Phrase> phrases);
 

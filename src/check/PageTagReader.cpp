@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "check/MarkupReader.h"
+#include "check/PageTagReader.h"
 
 #include "text/AsciiCase.h"
 
@@ -46,10 +46,10 @@ bool IsHarmlessDeclaration(std::u16string_view declaration) {
 
 }  // namespace
 
-std::optional<MarkupTag> MarkupReader::Next() {
+std::optional<PageTag> PageTagReader::Next() {
   for (at_ = text_.find(u'<', at_); at_ < text_.size(); at_ = text_.find(u'<', at_)) {
     if (Skips(at_)) continue;
-    MarkupTag tag = TagAt(at_);
+    PageTag tag = TagAt(at_);
     at_ = tag.span.end;
     SkipContent(tag);
     return tag;
@@ -58,7 +58,7 @@ std::optional<MarkupTag> MarkupReader::Next() {
 }
 
 /// Goes over what begins with "<" at `begin` if it is no tag.
-bool MarkupReader::Skips(std::size_t begin) {
+bool PageTagReader::Skips(std::size_t begin) {
   const std::u16string_view rest = text_.substr(begin);
   const bool isEnd = rest.starts_with(u"</");
   if (BeginsName(text_, begin + (isEnd ? 2 : 1))) return false;
@@ -72,7 +72,7 @@ bool MarkupReader::Skips(std::size_t begin) {
   return true;
 }
 
-void MarkupReader::SkipComment(std::size_t begin) {
+void PageTagReader::SkipComment(std::size_t begin) {
   constexpr std::size_t kMark = 4;  // "<!--", of which the dashes may be the end, too: "<!-->"
   for (std::size_t at = text_.find(u"--", begin + kMark - 2); at != text_.npos;
        at = text_.find(u"--", at + 1)) {
@@ -86,7 +86,7 @@ void MarkupReader::SkipComment(std::size_t begin) {
   Swallow({begin, begin + kMark});
 }
 
-void MarkupReader::SkipDeclaration(std::size_t begin) {
+void PageTagReader::SkipDeclaration(std::size_t begin) {
   const std::size_t end = std::min(text_.find(u'>', begin), text_.size() - 1) + 1;
   const TextSpan declaration{begin, end};
   if (!lost_ && !IsHarmlessDeclaration(declaration.Of(text_))) lost_ = declaration;
@@ -94,7 +94,7 @@ void MarkupReader::SkipDeclaration(std::size_t begin) {
 }
 
 /// Deliberate: as browsers do it, "plaintext" never ends.
-void MarkupReader::SkipContent(const MarkupTag& tag) {
+void PageTagReader::SkipContent(const PageTag& tag) {
   const bool isWithoutMarkup =
       std::find(kWithoutMarkup.begin(), kWithoutMarkup.end(), tag.name) != kWithoutMarkup.end();
   if (tag.isEnd || !tag.isClosed || !isWithoutMarkup) return;
@@ -103,8 +103,8 @@ void MarkupReader::SkipContent(const MarkupTag& tag) {
   if (end == text_.npos) Swallow(tag.span);
 }
 
-MarkupTag MarkupReader::TagAt(std::size_t begin) {
-  MarkupTag tag;
+PageTag PageTagReader::TagAt(std::size_t begin) {
+  PageTag tag;
   tag.span.begin = begin;
   tag.isEnd = text_[begin + 1] == u'/';
   const std::size_t name = begin + (tag.isEnd ? 2 : 1);
@@ -116,7 +116,7 @@ MarkupTag MarkupReader::TagAt(std::size_t begin) {
 }
 
 /// A ">" within quotation marks does not end a tag.
-std::size_t MarkupReader::EndOfAttributes(std::size_t at, MarkupTag& tag) {
+std::size_t PageTagReader::EndOfAttributes(std::size_t at, PageTag& tag) {
   constexpr std::u16string_view kEndsWord = u" \t\r\n\f>";
   for (at = text_.find_first_of(u"=>", at); at != text_.npos; at = text_.find_first_of(u"=>", at)) {
     if (text_[at] == u'>') return at + 1;
@@ -133,7 +133,7 @@ std::size_t MarkupReader::EndOfAttributes(std::size_t at, MarkupTag& tag) {
   return text_.size();
 }
 
-void MarkupReader::Swallow(const TextSpan& by) {
+void PageTagReader::Swallow(const TextSpan& by) {
   if (!swallower_) swallower_ = by;
 }
 

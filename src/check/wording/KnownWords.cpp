@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "check/wording/WordTable.h"
+#include "check/wording/KnownWords.h"
 
 #include "regex/WordBorders.h"
 
@@ -46,12 +46,12 @@ bool IsSingleWord(std::u16string_view text) {
 
 }  // namespace
 
-const WordTable& WordTable::Instance() {
-  static const WordTable table;
+const KnownWords& KnownWords::Instance() {
+  static const KnownWords table;
   return table;
 }
 
-WordTable::WordTable() : words_(kPlaces), wordsByUse_(kUses) {
+KnownWords::KnownWords() : words_(kPlaces), wordsByUse_(kUses) {
   std::map<std::u16string_view, WordUses> all;
   for (const auto language : kLanguages) {
     for (const WordRow& row : language()) {
@@ -72,14 +72,14 @@ WordTable::WordTable() : words_(kPlaces), wordsByUse_(kUses) {
   AddPhrases(std::move(phrases));
 }
 
-void WordTable::AddWord(const Phrase& word) {
+void KnownWords::AddWord(const Phrase& word) {
   hashes_.set(HashOfWord(word.text));
   std::size_t place = HashOfWord(word.text) % kPlaces;
   while (!words_[place].word.empty()) place = (place + 1) % kPlaces;
   words_[place] = {word.text, word.uses};
 }
 
-void WordTable::AddPhrases(std::vector<Phrase> phrases) {
+void KnownWords::AddPhrases(std::vector<Phrase> phrases) {
   phrases_ = std::move(phrases);
   std::sort(phrases_.begin(), phrases_.end(), [](const Phrase& a, const Phrase& b) {
     if (BeginOf(a.text) != BeginOf(b.text)) return BeginOf(a.text) < BeginOf(b.text);
@@ -91,7 +91,7 @@ void WordTable::AddPhrases(std::vector<Phrase> phrases) {
   }
 }
 
-WordUses WordTable::UsesOf(std::u16string_view word) const {
+WordUses KnownWords::UsesOf(std::u16string_view word) const {
   if (word.empty()) return {};
   const std::size_t hash = HashOfWord(word);
   if (!hashes_.test(hash)) return {};
@@ -101,7 +101,7 @@ WordUses WordTable::UsesOf(std::u16string_view word) const {
   return {};
 }
 
-std::span<const WordTable::Phrase> WordTable::PhrasesLike(std::u16string_view text) const {
+std::span<const KnownWords::Phrase> KnownWords::PhrasesLike(std::u16string_view text) const {
   const Begin begin = BeginOf(text);
   if (!begins_.test(HashOfBegin(begin.first, begin.second))) return {};
   struct IsBefore {
@@ -112,7 +112,7 @@ std::span<const WordTable::Phrase> WordTable::PhrasesLike(std::u16string_view te
   return {first, last};
 }
 
-std::span<const std::u16string_view> WordTable::WordsFor(WordUse use) const {
+std::span<const std::u16string_view> KnownWords::WordsFor(WordUse use) const {
   return wordsByUse_[static_cast<std::size_t>(use)];
 }
 

@@ -11,7 +11,7 @@
 namespace quorvantis {
 
 /// A tag as a browser sees it.
-struct MarkupTag {
+struct PageTag {
   TextSpan span;     ///< to the end of the text if it is not closed
   std::string name;  ///< in lower case, cut after 16 letters
   bool isEnd = false;
@@ -22,13 +22,13 @@ struct MarkupTag {
 
 /// Goes through what a browser takes for tags in a text that authors wrote. Comments are skipped, and so is
 /// what stands within elements that hold no markup ("style", "textarea").
-class MarkupReader {
+class PageTagReader {
  public:
   /// `text` must outlive the reader.
-  explicit MarkupReader(std::u16string_view text) : text_(text) {}
+  explicit PageTagReader(std::u16string_view text) : text_(text) {}
 
   /// The next tag; nothing at the end of the text.
-  std::optional<MarkupTag> Next();
+  std::optional<PageTag> Next();
 
   /// What had no end and so took the rest of the text and what follows it on the page: a comment, an open
   /// quotation mark within a tag, or an element without markup. Known once Next gave nothing.
@@ -41,9 +41,9 @@ class MarkupReader {
   bool Skips(std::size_t begin);
   void SkipComment(std::size_t begin);
   void SkipDeclaration(std::size_t begin);
-  void SkipContent(const MarkupTag& tag);
-  MarkupTag TagAt(std::size_t begin);
-  std::size_t EndOfAttributes(std::size_t at, MarkupTag& tag);
+  void SkipContent(const PageTag& tag);
+  PageTag TagAt(std::size_t begin);
+  std::size_t EndOfAttributes(std::size_t at, PageTag& tag);
   void Swallow(const TextSpan& by);
 
   std::u16string_view text_;
