@@ -13,6 +13,7 @@
 #include "shell/language/LanguageList.h"
 
 #include <QCoreApplication>
+#include <QFontDatabase>
 
 #include <algorithm>
 #include <iostream>
@@ -58,6 +59,13 @@ PaperWork::PaperWork(PaperOrder order)
 }
 
 PaperWork::~PaperWork() = default;
+
+/// Without a font, the browser crashes.
+void PaperWork::Begin() {
+  if (QFontDatabase::families().isEmpty())
+    return Fail("there are no fonts to print with; install some, for example fonts-dejavu-core");
+  Next();
+}
 
 void PaperWork::Next() {
   if (next_ < order_.jobs.size()) return Start(order_.jobs[next_++]);

@@ -25,7 +25,7 @@ class PaperWork : public QObject {
   explicit PaperWork(PaperOrder order);
   ~PaperWork() override;
 
-  void Begin() { Next(); }
+  void Begin();
 
  private:
   /// What the browser has printed for a job, without numbers of pages.

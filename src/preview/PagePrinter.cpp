@@ -3,7 +3,9 @@
 
 #include "platform/convert/Later.h"
 #include "preview/PageScripts.h"
+#include "preview/SheetLayout.h"
 
+#include <QFile>
 #include <QPageRanges>
 #include <QPointer>
 #include <QWebEngineLoadingInfo>
@@ -34,7 +36,8 @@ PagePrinter::PagePrinter(QWebEngineView& view, ExamPage& page, ExamGateway& gate
     GoOn();
   });
   connect(&gateway.Documents(), &Conversions::DocumentsReady, this, &PagePrinter::GoOn);
-  connect(&page, &QWebEnginePage::pdfPrintingFinished, this, [this](const QString&, bool ok) { Finish(ok); });
+  connect(&page, &QWebEnginePage::pdfPrintingFinished, this,
+          [this](const QString&, bool ok) { PdfMade(ok); });
   connect(&view, &QWebEngineView::printFinished, this, &PagePrinter::Finish);
 }
 
@@ -104,19 +107,37 @@ void PagePrinter::AskAndPrint() {
   Enter(Stage::Asking);
   printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer_->setResolution(kDotsPerInch);
+  if (numbersRightToLeft_) printer_->setPageLayout(SheetLayout());
   const QPointer<PagePrinter> held(this);
   const bool print = ask_(*printer_);
   if (!held) return;  // gone with the window while the dialog was open
   if (!print || stage_ != Stage::Asking) return Finish(false);
   Enter(Stage::Printing);
-  if (printer_->outputFormat() == QPrinter::PdfFormat) {
-    page_.printToPdf(printer_->outputFileName(), printer_->pageLayout(), printer_->pageRanges());
-  } else {
-    view_.print(printer_.get());
+  StartPrinting();
+}
+
+void PagePrinter::StartPrinting() {
+  if (printer_->outputFormat() == QPrinter::PdfFormat)
+    return page_.printToPdf(printer_->outputFileName(), printer_->pageLayout(), printer_->pageRanges());
+  if (!numbersRightToLeft_ || !SheetsOnPrinter::IsPossible()) return view_.print(printer_.get());
+  sheets_ = std::make_unique<SheetsOnPrinter>(*printer_);
+  page_.printToPdf(QFile::decodeName(sheets_->Draft().c_str()), printer_->pageLayout());
+}
+
+/// A file with some of the pages has no numbers: they would be wrong.
+void PagePrinter::PdfMade(bool succeeded) {
+  if (!succeeded || !numbersRightToLeft_) return Finish(succeeded);
+  if (sheets_) {
+    return sheets_->Print(*numbersRightToLeft_, [this](bool isPrinted) {
+      Later(*this, {}, [this, isPrinted] { Finish(isPrinted); });
+    });
   }
+  const std::filesystem::path file = QFile::encodeName(printer_->outputFileName()).toStdString();
+  Finish(!printer_->pageRanges().isEmpty() || NumberSheets(file, *numbersRightToLeft_));
 }
 
 void PagePrinter::Finish(bool succeeded) {
+  sheets_.reset();
   printer_.reset();
   Enter(Stage::Idle);
   emit Printed(succeeded);

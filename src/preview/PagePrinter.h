@@ -3,6 +3,7 @@
 
 #include "preview/ExamGateway.h"
 #include "preview/ExamPage.h"
+#include "preview/SheetsOnPrinter.h"
 
 #include <QObject>
 #include <QPrinter>
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace quorvantis {
 
@@ -30,6 +32,10 @@ class PagePrinter : public QObject {
 
   /// Does not ask for a printer while `isBadMoment`.
   void AvoidAsking(IsBadMoment isBadMoment) { isBadMoment_ = std::move(isBadMoment); }
+
+  /// The page is a sheet, of which every page has its number, in the corner that its direction leaves free.
+  /// Without the program that draws pages for a printer, those on paper have none.
+  void NumberPages(bool isRightToLeft) { numbersRightToLeft_ = isRightToLeft; }
 
   /// Prints once the page is loaded and its documents are converted. Ignored while another print waits or
   /// asks for a printer; while pages are being printed, starts after that.
@@ -64,6 +70,8 @@ class PagePrinter : public QObject {
   void PicturesLooked(bool complete, int attempts);
   void AskInGoodMoment(int look);
   void AskAndPrint();
+  void StartPrinting();
+  void PdfMade(bool succeeded);
   void Finish(bool succeeded);
 
   QWebEngineView& view_;
@@ -72,6 +80,8 @@ class PagePrinter : public QObject {
   AskForPrinter ask_;
   IsBadMoment isBadMoment_;
   std::unique_ptr<QPrinter> printer_;  ///< in use until `Printed`
+  std::optional<bool> numbersRightToLeft_;
+  std::unique_ptr<SheetsOnPrinter> sheets_;  ///< if pages with numbers go to a printer
   bool loaded_ = false;
   bool again_ = false;  ///< another print was asked for while paper was being made
   int look_ = 0;        ///< the number of the last look at the pictures

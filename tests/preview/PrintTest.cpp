@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "AttachmentFiles.h"
 #include "PreviewTest.h"
+#include "preview/SheetLayout.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QPageRanges>
 #include <QPrintDialog>
 #include <QSignalSpy>
 #include <QTimer>
@@ -66,6 +68,35 @@ TEST_F(PrintTest, PutsEveryQuestionOnPaper) {
   }
   QTest::qWait(600);
   EXPECT_EQ(asked, 1);
+}
+
+TEST_F(PrintTest, NumbersThePagesOfSheets) {
+  std::u16string lines;
+  for (int i = 0; i < 150; ++i) lines += u"<p>line</p>";
+  Windows().ChoosePrinterWith([this](QPrinter& printer) {
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(QString::fromStdString(pdf.string()));
+    return true;
+  });
+  PrintOffScreen(Paper(lines));
+  Window().Printer().NumberPages(false);
+  AwaitPaper();
+  const QStringList printed = Text().split('\f', Qt::SkipEmptyParts);
+  ASSERT_GT(printed.size(), 2);
+  EXPECT_TRUE(printed[1].contains(QString("2 / %1").arg(printed.size())));
+  // The same pages on a printer, as pictures.
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setResolution(72);
+  const std::filesystem::path paper = folder / "painted.pdf";
+  printer.setOutputFileName(QString::fromStdString(paper.string()));
+  printer.setPageRanges(QPageRanges::fromString("2-3"));
+  SheetsOnPrinter sheets(printer);
+  std::filesystem::copy_file(pdf, sheets.Draft());
+  std::optional<bool> done;
+  sheets.Print(false, [&done](bool succeeded) { done = succeeded; });
+  ASSERT_TRUE(WaitFor([&] { return done.has_value(); }));
+  EXPECT_TRUE(*done);
+  EXPECT_EQ(CountSheets(paper), 2);
 }
 
 TEST_F(PrintTest, WaitsForDocumentsAndPrintsAllTheirPages) {

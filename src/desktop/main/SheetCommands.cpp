@@ -34,6 +34,7 @@ void SheetCommands::Show(Sheet sheet) {
     PreviewWindow& window = previews_.renew({});
     connect(&window, &PreviewWindow::PageWished, this,
             [this, &window, sheet](const QString& wish) { Obey(window, sheet, wish); });
+    window.Printer().NumberPages(RunsRightToLeft(editor_.state.document, languageIsRightToLeft_));
     window.Navigate(page);
     window.Place(0, 0);
     window.Show();

@@ -81,13 +81,21 @@ std::optional<std::string> PdfProgram::Print(std::span<const PaperJob> jobs, Pro
     return std::string(kProgramName) +
            " is not installed beside this program, which was built without the window";
   }
-  const PrivateFolder folder;
-  PaperOrder paper{folder.Path() / "work", {}, languageId_, {}};
+  try {
+    return PrintIn(PrivateFolder().Path(), jobs, progress);
+  } catch (const fs::filesystem_error& error) {  // no folder for temporary files
+    return error.what();
+  }
+}
+
+std::optional<std::string> PdfProgram::PrintIn(const fs::path& folder, std::span<const PaperJob> jobs,
+                                               Progress& progress) const {
+  PaperOrder paper{folder / "work", {}, languageId_, {}};
   if (!applicationFolder_.empty())
     paper.applicationFolder = fs::absolute(applicationFolder_).lexically_normal();
   fs::create_directory(paper.folder);
   for (const PaperJob& job : jobs) paper.jobs.push_back(WithFullPaths(job));
-  ChildOrder order{program_, PaperArguments(paper), folder.Path()};
+  ChildOrder order{program_, PaperArguments(paper), folder};
   order.readsOutput = true;
   order.limitsMemory = false;  // the browser reserves far more addresses than it uses
   order.lowPriority = false;   // the user waits for the file

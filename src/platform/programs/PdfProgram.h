@@ -28,6 +28,9 @@ class PdfProgram : public PaperPrinter {
   std::optional<int> PageCount(const std::filesystem::path& pdf) override;
 
  private:
+  std::optional<std::string> PrintIn(const std::filesystem::path& folder, std::span<const PaperJob> jobs,
+                                     Progress& progress) const;
+
   const std::filesystem::path program_;
   const int languageId_;
   const std::filesystem::path applicationFolder_;
