@@ -20,6 +20,8 @@
 namespace quorvantis {
 namespace {
 
+constexpr char16_t kTab = u'\t';
+
 /// Reads the rows below the names.
 class TableRows {
  public:
@@ -102,12 +104,23 @@ TableRow CellsOf(const ExchangedQuestion& question) {
   return cells;
 }
 
+/// Nothing if the file does not begin with a row that names columns.
+std::optional<char16_t> SeparatorOfTable(const ExchangeSource& source) {
+  const std::u16string head = HeadText(source);
+  const char16_t separator = SeparatorOf(head);
+  const auto rows = ReadTable(head, separator, 1);
+  const bool isTable = !rows.empty() && ColumnsOf(rows[0]).IsUsable();
+  return isTable ? std::optional(separator) : std::nullopt;
+}
+
 }  // namespace
 
 bool LooksLikeTable(const ExchangeSource& source) {
-  const std::u16string head = HeadText(source);
-  const auto rows = ReadTable(head, SeparatorOf(head), 1);
-  return !rows.empty() && ColumnsOf(rows[0]).IsUsable();
+  return SeparatorOfTable(source).value_or(kTab) != kTab;
+}
+
+bool LooksLikeTabTable(const ExchangeSource& source) {
+  return SeparatorOfTable(source) == kTab;
 }
 
 std::optional<ExchangedExam> TableReader::Read(const ExchangeSource& source, ReadingTools& tools) {

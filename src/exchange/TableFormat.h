@@ -7,7 +7,9 @@
 
 namespace quorvantis {
 
+/// With commas or semicolons between the cells.
 bool LooksLikeTable(const ExchangeSource& source);
+bool LooksLikeTabTable(const ExchangeSource& source);
 
 class TableReader : public FormatReader {
  public:

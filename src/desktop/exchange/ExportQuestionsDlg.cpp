@@ -93,8 +93,8 @@ void ExportQuestionsDlg::PlaceParts() {
   bottom->addWidget(status_, 1);
   for (QWidget* widget : std::initializer_list<QWidget*>{bar_, export_, close_}) bottom->addWidget(widget);
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(formats_, 3);
-  layout->addWidget(losses_, 2);
+  layout->addWidget(formats_);
+  layout->addWidget(losses_, 1);
   layout->addLayout(file);
   layout->addLayout(bottom);
 }

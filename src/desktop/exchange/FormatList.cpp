@@ -41,6 +41,8 @@ FormatList::FormatList(const StringTable& strings, QWidget* parent) : QTreeWidge
     item->setToolTip(1, PlainTip(purpose));
   }
   resizeColumnToContents(0);
+  setSizeAdjustPolicy(AdjustToContents);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   Choose({});
   connect(this, &QTreeWidget::currentItemChanged, this, &FormatList::Changed);
 }
@@ -52,7 +54,9 @@ void FormatList::Choose(const std::u16string& name) {
 }
 
 const FormatRow& FormatList::Chosen() const {
-  return *WritableRows()[static_cast<std::size_t>(indexOfTopLevelItem(currentItem()))];
+  const std::vector<const FormatRow*> rows = WritableRows();
+  const FormatRow* const chosen = rows[static_cast<std::size_t>(indexOfTopLevelItem(currentItem()))];
+  return *chosen;
 }
 
 }  // namespace quorvantis

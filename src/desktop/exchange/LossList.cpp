@@ -14,6 +14,7 @@ namespace quorvantis {
 namespace {
 
 constexpr int kPlacesWidth = 18;  // average letters; longer lists of numbers are in the tooltip
+constexpr int kFewestLines = 5;
 
 }  // namespace
 
@@ -30,6 +31,8 @@ LossList::LossList(const StringTable& strings, QWidget* parent)
   list_->setHeaderLabels({ToQString(strings.Text(text_id::kExchangeLossPlaces)),
                           ToQString(strings.Text(text_id::kExchangeLossTexts))});
   list_->header()->resizeSection(0, list_->fontMetrics().averageCharWidth() * kPlacesWidth);
+  list_->setMinimumHeight(list_->fontMetrics().lineSpacing() * kFewestLines);
+  list_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(heading_);

@@ -107,7 +107,7 @@ std::vector<std::u16string> ExchangeCommands::Summary(const ImportQuestionsDlg& 
                   {FormatInteger(static_cast<std::int64_t>(outcome.questions.size())),
                    PathToText(dialog.Read()->File().filename()), NumberRanges(outcome.questions)}));
   for (const NoteGroup& group : GroupNotes(dialog.Notes(), strings))
-    lines.push_back(GroupLine(group, strings));
+    lines.push_back(u"\u2013 " + GroupLine(group, strings));
   if (dialog.TakesHeader()) return lines;
   const auto former = [&outcome](int number) { return outcome.order.Source(number); };
   const auto changes = ScoreChanges(editor_.state.document, editor_.order.LastQuestion(), former);

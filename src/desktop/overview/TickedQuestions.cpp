@@ -18,6 +18,7 @@ namespace quorvantis {
 namespace {
 
 constexpr int kTextColumnWidth = 300;  // pixels
+constexpr int kWidestKeyColumn = 180;  // a model answer may be long
 
 }  // namespace
 
@@ -86,6 +87,8 @@ void TickedQuestions::Show(std::vector<OverviewRow> rows) {
   model_->Update(std::move(rows));
   table_->resizeColumnsToContents();
   table_->setColumnWidth(OverviewModel::Text, kTextColumnWidth);
+  table_->setColumnWidth(OverviewModel::Key,
+                         std::min(table_->columnWidth(OverviewModel::Key), kWidestKeyColumn));
   table_->selectRow(0);
   ShowCount();
 }
