@@ -28,6 +28,7 @@ void AddLanguages(CLI::App& app, CommandContext& context);
 void AddImport(CLI::App& app, CommandContext& context);
 void AddRules(CLI::App& app, CommandContext& context);
 void AddVersions(CLI::App& app, CommandContext& context);
+void AddBank(CLI::App& app, CommandContext& context);
 void AddMatch(CLI::App& app, CommandContext& context);
 
 }  // namespace quorvantis::cli

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "likeness/QuestionContent.h"
 #include "model/ExamQuestion.h"
 #include "platform/FileDigest.h"
 
@@ -17,13 +18,16 @@ struct IndexedFile {
   std::string hash;       ///< SHA-256 of the content
 };
 
+/// The content of a question whose files are known by their hashes.
+QuestionContent IndexedContent(const ExamQuestion& question, const std::vector<IndexedFile>& files);
+
 /// By what a question is recognised elsewhere.
 struct QuestionMarks {
   QuestionMarks(const ExamQuestion& question, const std::vector<IndexedFile>& files,
                 const FileDigest& digest);
 
-  std::string key;     ///< the same for equal content
-  std::string sketch;  ///< for near duplicates
+  std::string key;     ///< QuestionContentKey
+  std::string sketch;  ///< the bytes of its QuestionSketch
 };
 
 }  // namespace quorvantis

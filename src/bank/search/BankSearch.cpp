@@ -91,7 +91,7 @@ class QuestionRows {
             "JOIN content ON content.question = question.id JOIN exam ON exam.id = question.exam "
             "WHERE question.id = ?")),
         files_(index.Data().Prepare(
-            "SELECT name, size FROM attached WHERE exam = ? AND number = ? ORDER BY slot")) {}
+            "SELECT name, size, hash FROM attached WHERE exam = ? AND number = ? ORDER BY slot")) {}
 
   std::optional<BankQuestion> Read(std::int64_t id) {
     question_.Reset();
@@ -112,7 +112,8 @@ class QuestionRows {
     question.key = std::string(question_.Bytes(++column));
     question_.Reset();
     files_.Bind(1, question.exam.id).Bind(2, std::int64_t{question.number});
-    while (files_.Step()) question.files.push_back({files_.Text(0), files_.Integer(1)});
+    while (files_.Step())
+      question.files.push_back({files_.Text(0), files_.Integer(1), std::string(files_.Bytes(2))});
     return question;
   }
 

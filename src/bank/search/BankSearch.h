@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bank/index/BankIndex.h"
+#include "bank/index/QuestionMarks.h"
 #include "bank/search/BankQuery.h"
 #include "model/ExamFields.h"
 #include "text/TextSpan.h"
@@ -16,12 +17,6 @@ namespace quorvantis {
 
 class FileDigest;
 struct ExamServices;
-
-/// A file of a question, as the index knows it.
-struct BankFile {
-  std::u16string name;
-  std::int64_t size = 0;  ///< bytes
-};
 
 /// A part of a text that matches a word of the query.
 struct BankHighlight {
@@ -45,8 +40,8 @@ struct BankQuestion {
   std::u16string essayAnswer;
   int answerMask = 0;
   std::optional<double> score;
-  std::vector<BankFile> files;
-  std::string key;  ///< the same for equal content, in bytes
+  std::vector<IndexedFile> files;
+  std::string key;  ///< QuestionContentKey
 };
 
 struct BankHit {
