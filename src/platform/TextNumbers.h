@@ -939,6 +939,27 @@ constexpr int kBankNoExam = 2341;
 constexpr int kBankUnreadable = 2342;
 constexpr int kBankTooMuch = 2343;
 constexpr int kBankFolderGone = 2344;
+
+// Tags of questions. %1 is a file, %2 a reason
+constexpr int kTagsDamaged = 2390;
+constexpr int kTagsNewer = 2391;
+constexpr int kTagsNotRead = 2392;
+constexpr int kTagsNotWritten = 2393;
+constexpr int kTagsBusy = 2394;
+
+// Drawing from the bank: what is said of a drawn question, and of what was excluded
+constexpr int kDrawnAmong = 2400;
+constexpr int kDrawnNeverUsed = 2401;  // or nobody knows when
+constexpr int kDrawnLastUsed = 2402;   // %1 is a day
+constexpr int kDrawnInExams = 2403;
+constexpr int kDrawFound = 2404;  // %1 of %2 questions
+constexpr int kDrawOtherKind = 2405;
+constexpr int kDrawOtherTags = 2406;
+constexpr int kDrawUsedSince = 2407;
+constexpr int kDrawRejected = 2408;
+constexpr int kDrawInOpenExam = 2409;
+constexpr int kDrawNearlyDrawn = 2410;
+constexpr int kDrawOtherWish = 2411;
 constexpr int kExchangeOneOptionBecomesEssay = 2213;
 constexpr int kExchangeNoneRightBecomesEssay = 2214;
 constexpr int kExchangeFileRenamed = 2215;  // %1 is the old name, %2 the new one

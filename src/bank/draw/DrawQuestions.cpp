@@ -34,7 +34,7 @@ class Draw {
     }
     for (std::size_t wish = 0; wish < allowed_.size(); ++wish) {
       Collect(wish);
-      if (Lacks(wish)) CountNear(wish);
+      if (Lacks(wish)) CountElsewhere(wish);
     }
     return std::move(outcome_);
   }
@@ -46,7 +46,7 @@ class Draw {
     for (const std::size_t unit : allowed_[wish]) {
       if (CanCome(unit)) return Described(unit, wish);
     }
-    CountNear(wish);
+    CountElsewhere(wish);
     return std::nullopt;
   }
 
@@ -144,10 +144,13 @@ class Draw {
     return {of.First(), wish, outcome_.wishes[wish].allowed, of.lastUsed, of.candidates.size()};
   }
 
-  void CountNear(std::size_t wish) {
-    const auto near = std::count_if(allowed_[wish].begin(), allowed_[wish].end(),
-                                    [this](std::size_t unit) { return drawn_.IsNear(unit); });
-    if (near != 0) outcome_.wishes[wish].excluded[DrawObstacle::NearlyDrawn] = static_cast<std::size_t>(near);
+  /// Tells where the allowed ones are that a wish lacks.
+  void CountElsewhere(std::size_t wish) {
+    for (const std::size_t unit : allowed_[wish]) {
+      if (drawn_.IsNear(unit)) ++outcome_.wishes[wish].excluded[DrawObstacle::NearlyDrawn];
+      const bool isOthers = drawn_.IsDrawn(unit) && drawn_.WishOf(unit) != wish;
+      if (isOthers) ++outcome_.wishes[wish].excluded[DrawObstacle::OtherWish];
+    }
   }
 
   const DrawRequest& request_;

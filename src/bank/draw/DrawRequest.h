@@ -53,8 +53,9 @@ struct DrawnQuestion {
   std::size_t exams = 0;  ///< how many candidates are this question
 };
 
-/// Why a question did not come for a wish; the first that applies.
-enum class DrawObstacle { Kind, Tags, UsedSince, Rejected, InOpenExam, NearlyDrawn };
+/// Why a question did not come for a wish; the first that applies. The last two, that it is the same as a
+/// drawn one or was drawn for another wish, are told for wishes that lack some.
+enum class DrawObstacle { Kind, Tags, UsedSince, Rejected, InOpenExam, NearlyDrawn, OtherWish };
 
 /// What became of a wish.
 struct WishOutcome {

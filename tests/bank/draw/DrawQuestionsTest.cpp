@@ -176,9 +176,12 @@ void ExpectFulfilled(const RandomDraw& random, const DrawOutcome& drawn) {
     EXPECT_EQ(wish.drawn, counts[i]);
     EXPECT_LE(counts[i], random.request.wishes[i].count);
     std::size_t questions = wish.allowed;
+    std::size_t elsewhere = 0;
     for (const auto& [obstacle, count] : wish.excluded)
-      questions += obstacle == DrawObstacle::NearlyDrawn ? 0 : count;
+      (obstacle >= DrawObstacle::NearlyDrawn ? elsewhere : questions) += count;
     EXPECT_EQ(questions, 24U);
+    const bool lacks = counts[i] < random.request.wishes[i].count;
+    EXPECT_EQ(lacks ? wish.allowed : 0, lacks ? counts[i] + elsewhere : 0);
   }
 }
 
