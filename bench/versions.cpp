@@ -6,6 +6,7 @@
 #include "host/PlanJson.h"
 #include "model/AnswerLetters.h"
 #include "model/document/ExamServices.h"
+#include "model/document/FrameSetExam.h"
 #include "platform/FolderEntries.h"
 #include "platform/WholeFile.h"
 #include "platform/digest/OpenSslDigest.h"

@@ -33,13 +33,14 @@ struct CopyingChance {
   std::size_t TolerableKeys() const { return Tolerable(keyed, sameKey); }
   /// How many keys should at least be the same; at most TolerableKeys.
   std::size_t FewestKeys() const {
-    const double fewest = std::ceil(static_cast<double>(keyed) * (sameKey - kToleratedShare));
+    const double fewest = std::ceil(static_cast<double>(keyed) * (sameKey - kToleratedShare) - kRounding);
     return fewest <= 0 ? 0 : std::min(static_cast<std::size_t>(fewest), TolerableKeys());
   }
 
  private:
+  static constexpr double kRounding = 1e-9;
+
   static std::size_t Tolerable(std::size_t places, double chance) {
-    constexpr double kRounding = 1e-9;
     return static_cast<std::size_t>(static_cast<double>(places) * (chance + kToleratedShare) + kRounding);
   }
 };

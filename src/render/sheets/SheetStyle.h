@@ -13,7 +13,7 @@ body { margin: 0; color: #000; background: #fff; font: 11pt/1.35 sans-serif; }
 body.large { font-size: 18pt; line-height: 1.6; word-spacing: 0.15em; }
 .sheet { display: table; width: 100%; table-layout: fixed; }
 .rows { display: table-row-group; }
-.row { display: table-row; break-inside: avoid; }
+.row { display: table-row; break-inside: avoid; orphans: 1; widows: 1; }
 .row > div { display: table-cell; padding-bottom: 4mm; }
 .large .row > div { padding-bottom: 8mm; }
 .reserve { display: table-footer-group; break-inside: avoid; }
@@ -36,7 +36,7 @@ body.large { font-size: 18pt; line-height: 1.6; word-spacing: 0.15em; }
 .names > .gap { width: 4mm; padding: 0; }
 .note { margin-top: 3mm; font-size: 0.9em; }
 
-.question { display: table; width: 100%; table-layout: fixed; break-inside: avoid; }
+.question { display: table; width: 100%; table-layout: fixed; break-inside: avoid; orphans: 2; widows: 2; }
 .question > div { display: table-cell; vertical-align: top; }
 .number { width: 2.8em; font-weight: bold; }
 .points { width: 6em; text-align: end; font-size: 0.9em; }
