@@ -14,7 +14,7 @@ namespace quorvantis {
 namespace {
 
 constexpr int kPlacesWidth = 18;  // average letters; longer lists of numbers are in the tooltip
-constexpr int kFewestLines = 5;
+constexpr int kFewestLines = 3;
 
 }  // namespace
 
