@@ -2,13 +2,13 @@
 # /usr/share/bash-completion/completions under the name quorvantis-cli.
 
 _quorvantis_cli() {
-  local commands="show check build unpack preview print pdf key score export convert edit recover import rules versions languages match"
+  local commands="show check build unpack preview print pdf key score export convert edit recover import rules versions bank languages match"
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" arguments=0 i
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
       --app-folder | --language | --mode | --end | --value | --flags | --start | --text | --text-file | --batch | \
         --from | --to | --rules | --repository | --marks | --ini | --into | --after | --answer-pictures | --formulas | --marked | --student | --responses | \
-        --count | --seed | --out | --questions | --options | --names | --keep | --source | --ignore)
+        --count | --seed | --out | --questions | --options | --names | --keep | --source | --ignore | --index | --limit)
         ((++i)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; else ((++arguments)); fi ;;
@@ -36,7 +36,7 @@ _quorvantis_cli() {
     mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word")
   elif [ "$previous" = --rules ] || [ "$previous" = --marked ] || [ "$command $previous" = "import --text" ] ||
     [ "$command $previous" = "rules --text" ] || [ "$previous" = --ini ] || [ "$previous" = --marks ] ||
-    [ "$previous" = --text-file ] || [ "$previous" = --batch ] || [ "$previous" = --responses ]; then
+    [ "$previous" = --index ] || [ "$previous" = --text-file ] || [ "$previous" = --batch ] || [ "$previous" = --responses ]; then
     mapfile -t COMPREPLY < <(compgen -f -- "$word")
   elif [[ $word == -* ]]; then
     local options="--help --app-folder --language --debug"
@@ -55,6 +55,7 @@ _quorvantis_cli() {
       convert) options+=" --from --to --strict" ;;
       match) options+=" --flags --start --text --text-file --batch" ;;
       edit) options+=" --recovery" ;;
+      bank) options+=" --index --json --limit" ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
   elif [ -z "$command" ]; then
@@ -67,6 +68,8 @@ _quorvantis_cli() {
       export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;
       pdf:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.pdf' -- "$word") ;;
       rules:0) mapfile -t COMPREPLY < <(compgen -W "learn check" -- "$word") ;;
+      bank:0) mapfile -t COMPREPLY < <(compgen -W "add remove update list find" -- "$word") ;;
+      bank:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       versions:0) mapfile -t COMPREPLY < <(compgen -W "make verify" -- "$word") ;;
       versions:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;
       import:0 | rules:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(txt|md|doc|docx|odt|rtf)$') ;;

@@ -50,9 +50,9 @@ void BankSession::Update() {
   for (const fs::path& folder : report.unreadableFolders)
     session.console.Complain(Utf16ToUtf8(
         FillMessage(session.services.strings.Text(text_id::kBankFolderGone), {PathToText(folder)})));
-  session.console.Tell(std::to_string(report.examsFound) + " exams; " + std::to_string(report.added) +
-                       " added, " + std::to_string(report.changed) + " changed, " +
-                       std::to_string(report.removed) + " removed");
+  session.console.Tell(std::to_string(report.examsFound) + (report.examsFound == 1 ? " exam; " : " exams; ") +
+                       std::to_string(report.added) + " added, " + std::to_string(report.changed) +
+                       " changed, " + std::to_string(report.removed) + " removed");
   Require(report.problem);
 }
 

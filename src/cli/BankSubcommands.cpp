@@ -42,6 +42,10 @@ std::string ShownText(std::u16string_view text) {
   return Utf16ToUtf8(line);
 }
 
+std::string Counted(std::size_t count, const char* noun) {
+  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
 std::string ShownPath(const fs::path& path) {
   return Utf16ToUtf8(PathToText(path));
 }
@@ -91,7 +95,7 @@ void FindInBank(Console& console, const CommonOptions& options, const BankReques
                   << ShownText(hit.question.text) << "\n";
   }
   console.out.flush();
-  console.Tell(std::to_string(found.hits.size()) + " of " + std::to_string(found.total) + " questions");
+  console.Tell(std::to_string(found.hits.size()) + " of " + Counted(found.total, "question"));
 }
 
 void ListBank(Console& console, const CommonOptions& options, const BankRequest& request) {
@@ -105,9 +109,9 @@ void ListBank(Console& console, const CommonOptions& options, const BankRequest&
     json["folders"].push_back(ShownPath(folder));
     if (!request.json) console.out << ShownText(PathToText(folder)) << "\n";
   }
-  int questions = 0;
+  std::size_t questions = 0;
   for (const BankExam& exam : exams) {
-    questions += exam.questions;
+    questions += static_cast<std::size_t>(exam.questions);
     const std::string state = Utf16ToUtf8(StateText(exam, strings));
     json["exams"].push_back({{"path", ShownPath(exam.path)},
                              {"title", Utf16ToUtf8(exam.title)},
@@ -118,7 +122,7 @@ void ListBank(Console& console, const CommonOptions& options, const BankRequest&
   }
   if (request.json) console.out << json << "\n";
   console.out.flush();
-  console.Tell(std::to_string(exams.size()) + " exams, " + std::to_string(questions) + " questions");
+  console.Tell(Counted(exams.size(), "exam") + ", " + Counted(questions, "question"));
 }
 
 void AddToBank(Console& console, const CommonOptions& options, const BankRequest& request) {

@@ -83,19 +83,24 @@ std::unique_ptr<Database> OpenDatabase(const fs::path& file, IndexFound& found) 
   return database;
 }
 
-/// The same; a file that is damaged beyond that is made anew.
-std::unique_ptr<Database> OpenOrRebuild(const fs::path& file, IndexFound& found) {
-  bool isDamaged = IsNoDatabase(file);
-  if (isDamaged) SetAside(file);
+/// The same; an index that is damaged beyond that is made anew. A file that nobody has used as an index,
+/// since there is no list of folders, may have been named by mistake: null.
+std::unique_ptr<Database> OpenOrRebuild(const BankPlace& place, IndexFound& found) {
+  std::error_code ignored;
+  const bool isIndex = fs::exists(place.folders, ignored);
+  bool isDamaged = IsNoDatabase(place.index);
+  if (isDamaged && !isIndex) return nullptr;
+  if (isDamaged) SetAside(place.index);
   for (int tries = 0;; ++tries) {
     try {
-      auto database = OpenDatabase(file, found);
+      auto database = OpenDatabase(place.index, found);
       if (isDamaged) found = IndexFound::Damaged;
       return database;
     } catch (const DatabaseError& error) {
-      isDamaged = ProblemOf(error, file).trouble == BankTrouble::Damaged;
+      isDamaged = ProblemOf(error, place.index).trouble == BankTrouble::Damaged;
       if (!isDamaged || tries > 0) throw;
-      SetAside(file);
+      if (!isIndex) return nullptr;
+      SetAside(place.index);
     }
   }
 }
@@ -110,7 +115,7 @@ std::optional<BankIndex> BankIndex::Open(const BankPlace& place, Files& files, B
   if (place.index.has_parent_path()) fs::create_directories(place.index.parent_path(), ignored);
   try {
     IndexFound found = IndexFound::Whole;
-    auto database = OpenOrRebuild(place.index, found);
+    auto database = OpenOrRebuild(place, found);
     if (database) return BankIndex(place, files, std::move(database), found);
     problem = {BankTrouble::NotAnIndex, place.index};
   } catch (const DatabaseError& error) {

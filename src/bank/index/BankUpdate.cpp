@@ -174,12 +174,15 @@ const BankUpdateReport& BankUpdate::Report() const {
 
 bool RefreshExam(BankIndex& index, ExamServices& services, const FileDigest& digest, const fs::path& exam,
                  BankProblem& problem) {
+  bool hasChanged = false;
+  index.Data().WaitAtMost(kStepPatience);
   try {
-    return IndexWriter(index, services, digest).Update(exam) != IndexWriter::Outcome::Unchanged;
+    hasChanged = IndexWriter(index, services, digest).Update(exam) != IndexWriter::Outcome::Unchanged;
   } catch (const DatabaseError& error) {
     problem = index.ProblemAfter(error);
-    return false;
   }
+  index.Data().WaitAtMost(BankIndex::kPatience);
+  return hasChanged;
 }
 
 }  // namespace quorvantis

@@ -59,7 +59,8 @@ class BankUpdate {
 };
 
 /// Reads one exam of the index again if its file has changed since, or removes it if the file is gone: before
-/// something of it is shown. False if nothing had changed, or with `problem` set.
+/// something of it is shown. Does not wait for other programs that write. False if nothing had changed, or
+/// with `problem` set.
 bool RefreshExam(BankIndex& index, ExamServices& services, const FileDigest& digest,
                  const std::filesystem::path& exam, BankProblem& problem);
 

@@ -41,6 +41,7 @@ bool FolderScan::Step(std::size_t count) {
 
 /// False if there is none. A folder that cannot be opened counts as one without entries.
 bool FolderScan::OpenNextFolder() {
+  while (toOpen_.empty() && !links_.empty()) FollowLink();
   if (toOpen_.empty()) return false;
   folder_ = toOpen_.back();
   toOpen_.pop_back();
@@ -64,19 +65,24 @@ void FolderScan::Look(const fs::directory_entry& entry) {
   if (type == fs::file_type::directory) {
     toOpen_.push_back(entry.path());
   } else if (type == fs::file_type::symlink) {
-    LookBehindLink(entry.path());
+    links_.push_back(entry.path());
   } else if (type == fs::file_type::regular && IsExamName(entry.path())) {
     AddExam(entry.path());
   }
 }
 
-void FolderScan::LookBehindLink(const fs::path& link) {
+/// Done when nothing else is left, so that what a link leads to counts where it really lies, if that is
+/// listed.
+void FolderScan::FollowLink() {
+  const fs::path link = links_.front();
+  links_.pop_front();
   std::error_code error;
   const fs::path target = fs::canonical(link, error);
   if (error) return;  // it leads nowhere or in a circle
   const fs::file_type type = fs::status(target, error).type();
-  if (type == fs::file_type::directory) toOpen_.push_back(target);
-  if (type == fs::file_type::regular && IsExamName(link)) AddExam(target);
+  if (type == fs::file_type::directory) toOpen_.push_back(link);
+  const bool isExam = type == fs::file_type::regular && IsExamName(link);
+  if (isExam && !HasFound(target) && linked_.insert(target.native()).second) AddExam(link);
 }
 
 void FolderScan::AddExam(const fs::path& file) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <set>
 #include <string>
@@ -35,11 +36,13 @@ class FolderScan {
  private:
   bool OpenNextFolder();
   void Look(const std::filesystem::directory_entry& entry);
-  void LookBehindLink(const std::filesystem::path& link);
+  void FollowLink();
   void AddExam(const std::filesystem::path& file);
 
   std::vector<std::filesystem::path> toOpen_;
   std::size_t rootsLeft_;  ///< the first entries of toOpen_ are folders that were given
+  std::deque<std::filesystem::path> links_;
+  std::unordered_set<std::string> linked_;  ///< files that links have led to
   std::filesystem::path folder_;
   std::filesystem::directory_iterator next_;
   std::set<std::pair<std::uint64_t, std::uint64_t>> opened_;  ///< device and file number

@@ -99,8 +99,7 @@ IndexWriter::Outcome IndexWriter::Update(const std::filesystem::path& file) {
   if (isUpToDate(before)) return Outcome::Unchanged;
   KnownExam fresh{0, *stamp, NowInNanoseconds() - stamp->written > kStampGrain, digest_.OfFile(file)};
   if (before && !fresh.hash.empty() && fresh.hash == before->hash) {
-    touch_.Bind(1, before->id).Bind(2, stamp->size).Bind(3, stamp->written);
-    touch_.Bind(4, std::int64_t{fresh.isSettled}).Run();
+    if (before->stamp != *stamp || fresh.isSettled) Touch(before->id, fresh);
     return Outcome::Unchanged;
   }
   exam_.Read(file);
@@ -115,6 +114,11 @@ IndexWriter::Outcome IndexWriter::Update(const std::filesystem::path& file) {
   for (int number = 1; number <= exam_.QuestionCount(); ++number) StoreQuestion(exam, number);
   transaction.Commit();
   return known ? Outcome::Changed : Outcome::Added;
+}
+
+void IndexWriter::Touch(std::int64_t exam, const KnownExam& fresh) {
+  touch_.Bind(1, exam).Bind(2, fresh.stamp.size).Bind(3, fresh.stamp.written);
+  touch_.Bind(4, std::int64_t{fresh.isSettled}).Run();
 }
 
 std::int64_t IndexWriter::StoreExam(const std::filesystem::path& file, const KnownExam& fresh,

@@ -41,6 +41,7 @@ class IndexWriter {
 
  private:
   bool RemoveKnown(const std::filesystem::path& file);
+  void Touch(std::int64_t exam, const KnownExam& fresh);
   void RemoveQuestions(std::int64_t exam);
   void Unlist(std::int64_t id, const SearchedTexts& texts);
   std::int64_t StoreExam(const std::filesystem::path& file, const KnownExam& fresh,

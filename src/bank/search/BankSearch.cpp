@@ -5,6 +5,7 @@
 #include "bank/index/BankUpdate.h"
 #include "bank/index/FileStamp.h"
 #include "bank/index/FoldedText.h"
+#include "bank/search/BankQuestions.h"
 #include "bank/search/Highlights.h"
 #include "bank/search/QuerySql.h"
 #include "text/PathText.h"
@@ -80,48 +81,6 @@ std::vector<RankedQuestion> RunQuery(const BankIndex& index, const BankQuery& qu
   return found;
 }
 
-/// Reads questions with all that belongs to them.
-class QuestionRows {
- public:
-  explicit QuestionRows(const BankIndex& index)
-      : question_(index.Data().Prepare(
-            std::string("SELECT ") + kExamColumns +
-            ", question.number, question.kind, question.score, text, option_a, option_b, option_c, option_d, "
-            "option_e, answer, essay, key_mask, key FROM question "
-            "JOIN content ON content.question = question.id JOIN exam ON exam.id = question.exam "
-            "WHERE question.id = ?")),
-        files_(index.Data().Prepare(
-            "SELECT name, size, hash FROM attached WHERE exam = ? AND number = ? ORDER BY slot")) {}
-
-  std::optional<BankQuestion> Read(std::int64_t id) {
-    question_.Reset();
-    question_.Bind(1, id);
-    if (!question_.Step()) return std::nullopt;
-    BankQuestion question;
-    question.id = id;
-    question.exam = ExamFrom(question_, 0);
-    int column = kExamColumnCount;
-    question.number = static_cast<int>(question_.Integer(column++));
-    question.kind = static_cast<QuestionKind>(question_.Integer(column++));
-    if (!question_.IsNull(column)) question.score = question_.Real(column);
-    question.text = question_.Text(++column);
-    for (std::u16string& option : question.options) option = question_.Text(++column);
-    question.answerText = question_.Text(++column);
-    question.essayAnswer = question_.Text(++column);
-    question.answerMask = static_cast<int>(question_.Integer(++column));
-    question.key = std::string(question_.Bytes(++column));
-    question_.Reset();
-    files_.Bind(1, question.exam.id).Bind(2, std::int64_t{question.number});
-    while (files_.Step())
-      question.files.push_back({files_.Text(0), files_.Integer(1), std::string(files_.Bytes(2))});
-    return question;
-  }
-
- private:
-  Statement question_;
-  Statement files_;
-};
-
 }  // namespace
 
 /// The hits of one look at the index; `total` as it is there.
@@ -133,7 +92,7 @@ BankHits BankSearch::FindOnce(const BankQuery& query, std::size_t limit, std::si
   const std::size_t end = begin + std::min(limit, found.size() - begin);
   const auto at = [&found](std::size_t place) { return found.begin() + static_cast<std::ptrdiff_t>(place); };
   std::partial_sort(found.begin(), at(end), found.end());
-  QuestionRows rows(index_);
+  BankQuestions rows(index_);
   for (auto ranked = at(begin); ranked != at(end); ++ranked) {
     std::optional<BankQuestion> question = rows.Read(ranked->id);
     if (question) hits.hits.push_back({std::move(*question), {}});
@@ -151,9 +110,12 @@ bool BankSearch::Refresh(BankHits& hits) const {
     if (!isNew) continue;
     const FileStamp shown{exam.size, exam.written};
     if (FileStamp::Of(exam.path) == shown && exam.isSettled) continue;
-    hasChanged |= RefreshExam(index_, services_, digest_, exam.path, hits.problem);
+    if (!hits.problem.IsAnything())
+      hasChanged |= RefreshExam(index_, services_, digest_, exam.path, hits.problem);
     known->second = FileStamp::Of(exam.path) == shown;
   }
+  // Who cannot write the index can search it all the same.
+  if (hits.problem.trouble != BankTrouble::Damaged) hits.problem = {};
   if (!hasChanged)
     std::erase_if(hits.hits, [&](const BankHit& hit) { return !isAsShown[hit.question.exam.path]; });
   return hasChanged;
@@ -191,7 +153,7 @@ std::vector<std::int64_t> BankSearch::FindAll(const BankQuery& query, BankProble
 
 std::optional<BankQuestion> BankSearch::Question(std::int64_t id, BankProblem& problem) const {
   try {
-    return QuestionRows(index_).Read(id);
+    return BankQuestions(index_).Read(id);
   } catch (const DatabaseError& error) {
     problem = index_.ProblemAfter(error);
     return std::nullopt;

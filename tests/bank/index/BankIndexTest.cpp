@@ -81,6 +81,10 @@ TEST_F(BankIndexTest, LeavesAloneWhatIsNoIndex) {
   EXPECT_EQ(problem.trouble, BankTrouble::NotAnIndex);
   EXPECT_EQ(ReadBytes(other), before);
   EXPECT_FALSE(BankIndex::Open(BankPlaceAt(folder.Path()), files, problem)) << "a folder";
+  const fs::path text = WriteBytes(folder / "exam.json", "a file that was named by mistake");
+  EXPECT_FALSE(BankIndex::Open(BankPlaceAt(text), files, problem));
+  EXPECT_EQ(problem.trouble, BankTrouble::NotAnIndex);
+  EXPECT_EQ(ReadBytes(text), "a file that was named by mistake");
   EXPECT_EQ(index->AddFolder(folder / "none").trouble, BankTrouble::NoFolder);
 }
 
@@ -159,7 +163,7 @@ TEST_F(BankIndexTest, IsWholeAfterTheProgramIsKilledAtAnyMoment) {
         QuestionWith(u"mitosis number " + std::u16string(1, static_cast<char16_t>(u'a' + i))));
   for (int i = 0; i < 30; ++i) WriteExam(exams / (std::to_string(i) + ".exm"), u"", questions);
   std::mt19937 random(3);
-  for (int round = 0; round < 25; ++round) {
+  for (int round = 0; round < 15; ++round) {
     index.reset();
     const pid_t child = fork();
     if (child == 0) {
@@ -182,7 +186,7 @@ TEST_F(BankIndexTest, IsWholeAfterTheProgramIsKilledAtAnyMoment) {
     ASSERT_EQ(index->Data().Number("SELECT count(*) FROM question"), exams20) << "whole exams only";
     ASSERT_EQ(index->Data().Number("SELECT count(*) FROM gram WHERE gram MATCH '\"mitosis\"'"), exams20);
     index->Data().Execute("INSERT INTO gram(gram) VALUES('integrity-check')");
-    if (round % 8 == 7)
+    if (round % 5 == 4)
       fs::remove_all(folder / "cache"), index.reset(), index = Open(), index->AddFolder(exams);
   }
   Update();

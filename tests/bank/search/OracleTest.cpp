@@ -6,6 +6,7 @@
 #include "text/Utf.h"
 
 #include <algorithm>
+#include <map>
 #include <random>
 #include <set>
 
@@ -105,8 +106,16 @@ TEST_F(Oracle, FindsWhatAScanOfAllTextsFinds) {
   all[39].options = {};
   Update();
   BankSearch search(*index, world.services, digest);
+  std::map<std::int64_t, std::size_t> places;  // in `all`, of each question
+  for (const std::int64_t id : search.FindAll({}, problem)) {
+    const auto question = search.Question(id, problem);
+    ASSERT_TRUE(question);
+    const int exam = std::stoi(question->exam.path.stem().string().substr(4)) - 10;
+    places[id] = static_cast<std::size_t>(exam * 40 + question->number - 1);
+  }
+  ASSERT_EQ(places.size(), all.size() - 1);
   std::size_t found = 0;
-  for (int i = 0; i < 1500; ++i) {
+  for (int i = 0; i < 600; ++i) {
     BankQuery query;
     for (std::size_t left = 1 + texts.Below(3); left > 0; --left) query.terms.push_back(texts.Term(all));
     std::erase_if(query.terms, [](const BankTerm& term) { return term.folded.empty(); });
@@ -120,11 +129,9 @@ TEST_F(Oracle, FindsWhatAScanOfAllTextsFinds) {
     const std::vector<std::int64_t> ids = search.FindAll(query, problem);
     ASSERT_FALSE(problem.IsAnything()) << problem.detail;
     std::set<std::size_t> actual;
-    for (const std::int64_t id : ids) {
-      const auto question = search.Question(id, problem);
-      ASSERT_TRUE(question);
-      const std::string name = question->exam.path.stem().string();
-      actual.insert(static_cast<std::size_t>((std::stoi(name.substr(4)) - 10) * 40 + question->number - 1));
+    for (const std::int64_t id : ids) actual.insert(places.at(id));
+    if (!ids.empty()) {
+      const auto question = search.Question(ids[texts.Below(ids.size())], problem);
       const bool isLit = std::any_of(query.terms.begin(), query.terms.end(),
                                      [](const BankTerm& term) { return !term.isExcluded; });
       EXPECT_EQ(HighlightsOf(*question, query).empty(), !isLit);
@@ -132,7 +139,7 @@ TEST_F(Oracle, FindsWhatAScanOfAllTextsFinds) {
     ASSERT_EQ(actual, expected) << "query " << i;
     found += actual.size();
   }
-  EXPECT_GT(found, 5000U) << "the queries find something";
+  EXPECT_GT(found, 2000U) << "the queries find something";
 }
 
 TEST_F(Oracle, NeverFailsWhateverIsTyped) {
@@ -144,7 +151,7 @@ TEST_F(Oracle, NeverFailsWhateverIsTyped) {
       u"\"",      u"-",       u"kind:", u"score:>", u"before:2024-99",
       u"has:key", u"exam:\"", u"NEAR(", u"*",       u"'; DROP TABLE exam; --",
       u"\\",      u" "};
-  for (int i = 0; i < 500; ++i) {
+  for (int i = 0; i < 200; ++i) {
     std::u16string text;
     for (std::size_t left = texts.Below(6); left > 0; --left)
       text += texts.Below(2) == 0 ? texts.Next(6) : std::u16string(pieces[texts.Below(std::size(pieces))]);
