@@ -803,6 +803,10 @@ constexpr int kCheckRunning = 1963;
 constexpr int kCheckPrintWrong = 1964;
 constexpr int kCheckPrintGoesOn = 1965;
 
+// In the window for versions, beside the first of these; the second is the tooltip
+constexpr int kVersionsCheck = 1968;
+constexpr int kVersionsCheckTip = 1969;
+
 // What a conversion to or from the files of learning systems tells. With the number of the question in %1 of
 // the first one, the others begin in lower case.
 constexpr int kExchangeQuestion = 2150;  // %1 is its number, %2 what is told

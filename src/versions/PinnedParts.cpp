@@ -102,7 +102,7 @@ bool PinnedParts::PinAllOptions(const ExamQuestion& question, int number) {
   if (used.size() < 2) return all(PinReason::TooFew);
   if (!CanMoveKey(question)) return all(PinReason::OddKey);
   if (AreOwnLetters(question, used)) return all(PinReason::OwnLetters);
-  const auto names = [&question](std::size_t i) { return NamesOptions(question.options[i]); };
+  const auto names = [&question](std::size_t i) { return NamesOptions(question.options[i], question.text); };
   const bool areNamed = NamesOptionsInText(question.text) || std::ranges::any_of(used, names);
   return areNamed && all(PinReason::NamesLetters);
 }

@@ -120,7 +120,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
                  return RenewFor(std::move(choose));
                },
                [this](const std::filesystem::path& page) { PrintPage(page); }}),
-      versions_(editor_, *this, library == nullptr ? 0 : languageId),
+      versions_(editor_, check_, *this, library == nullptr ? 0 : languageId),
       exchange_(editor_, life_.Steps(), *this),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       somethingIsWrong_(new WindowNotice("somethingIsWrong", QStyle::SP_MessageBoxWarning, client_)),
@@ -325,6 +325,7 @@ void CQuorvantisDlg::PrintPage(const std::filesystem::path& page) {
 void CQuorvantisDlg::ExportPdf() {
   const std::filesystem::path target = pdf_.ChooseTarget(editor_.questions.Form().title);
   if (target.empty()) return;
+  check_.PrintBegins();
   PrintCommand(editor_, [this, &target](const std::filesystem::path& page) {
     pdf_.Watch(RenewFor(pdf_.MakePrinter()).Printer(), target);
     PrintPage(page);

@@ -58,6 +58,7 @@ void CheckCommands::PrintBegins() {
 
 void CheckCommands::Checked() {
   MarkOverview();
+  emit Judged(checker_.CountOf(Severity::Wrong) > 0);
   const bool isPrinting = std::exchange(isPrinting_, false);
   if (!notice_) return;
   if (checker_.CountOf(Severity::Wrong) == 0 || (shown_ && shown_->isVisible())) return notice_->hide();

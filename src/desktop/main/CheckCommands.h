@@ -28,8 +28,15 @@ class CheckCommands : public QObject {
   /// The exam may have changed, or another one is shown.
   void ExamChanged() { checker_.ExamChanged(); }
 
-  /// The exam is being printed: if something is wrong with it, a notice offers to look.
+  /// The exam is being printed, perhaps into a file: if something is wrong with it, a notice offers to look.
   void PrintBegins();
+
+  /// Checks; Judged comes once that is done.
+  void Judge() { checker_.CheckNow(); }
+
+ signals:
+  /// The exam has been checked, or other findings are ignored.
+  void Judged(bool isSomethingWrong);
 
  private:
   bool IsWanted() const;

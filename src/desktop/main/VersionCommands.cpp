@@ -49,7 +49,10 @@ void VersionCommands::MakeVersions() {
   auto* dialog = new VersionsDlg(editor_.state.document, editor_.state.FileName(), Services(),
                                  services.strings, &window_);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
+  QObject::connect(&check_, &CheckCommands::Judged, dialog, &VersionsDlg::OfferCheck);
+  QObject::connect(dialog, &VersionsDlg::CheckWanted, &check_, &CheckCommands::Open);
   dialog->show();
+  check_.Judge();
 }
 
 bool VersionCommands::HasSaved() {

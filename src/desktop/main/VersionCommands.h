@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/main/CheckCommands.h"
 #include "desktop/versions/VersionsDlg.h"
 #include "editor/ExamEditor.h"
 
@@ -11,10 +12,10 @@ namespace quorvantis {
 /// The command that opens the window for versions, and what the window asks for.
 class VersionCommands {
  public:
-  /// Both must outlive this object; `window` owns the window for versions. `languageId` is that of the texts
+  /// All must outlive this object; `window` owns the window for versions. `languageId` is that of the texts
   /// on printed sheets, 0 for the built-in ones.
-  VersionCommands(ExamEditor& editor, QWidget& window, int languageId)
-      : editor_(editor), window_(window), languageId_(languageId) {}
+  VersionCommands(ExamEditor& editor, CheckCommands& check, QWidget& window, int languageId)
+      : editor_(editor), check_(check), window_(window), languageId_(languageId) {}
   VersionCommands(const VersionCommands&) = delete;
   VersionCommands& operator=(const VersionCommands&) = delete;
 
@@ -26,6 +27,7 @@ class VersionCommands {
   VersionsServices Services() const;
 
   ExamEditor& editor_;
+  CheckCommands& check_;
   QWidget& window_;
   int languageId_;
 };

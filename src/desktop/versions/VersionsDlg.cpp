@@ -19,6 +19,7 @@
 #include <QHeaderView>
 #include <QScreen>
 #include <QSplitter>
+#include <QStyle>
 #include <QTextOption>
 #include <QUrl>
 
@@ -76,6 +77,7 @@ VersionsDlg::VersionsDlg(const ExamPaper& exam, std::filesystem::path examFile, 
       openFolder_(MakeButton("versionOpenFolder", text_id::kVersionsOpenFolder, &VersionsDlg::OpenFolder)),
       make_(MakeButton("versionMake", text_id::kVersionsMake, &VersionsDlg::Make)),
       close_(MakeButton("versionClose", text_id::kClose, &VersionsDlg::reject)),
+      offer_(MakeOffer()),
       run_(this) {
   setObjectName("versions");
   setWindowTitle(Text(text_id::kVersionsWindow));
@@ -87,6 +89,7 @@ VersionsDlg::VersionsDlg(const ExamPaper& exam, std::filesystem::path examFile, 
   sides->setChildrenCollapsible(false);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(sides, 1);
+  layout->addWidget(offer_);
   layout->addLayout(PlaceFolder());
   layout->addLayout(PlaceBottom());
   resize(kVersionsSize.boundedTo(screen()->availableSize()));
@@ -100,6 +103,7 @@ VersionsDlg::VersionsDlg(const ExamPaper& exam, std::filesystem::path examFile, 
   connect(&run_, &BackgroundRun::Changed, this, &VersionsDlg::ShowRun);
   make_->setDefault(true);
   openFolder_->hide();
+  offer_->hide();
   TakeEarlierPlan();
   ShowRun();
   ShowPlan();
@@ -173,6 +177,36 @@ QLayout* VersionsDlg::PlaceBottom() {
   for (QWidget* widget : std::initializer_list<QWidget*>{bar_, openFolder_, make_, close_})
     row->addWidget(widget);
   return row;
+}
+
+QWidget* VersionsDlg::MakeOffer() {
+  auto* offer = new QWidget(this);
+  NameControl(offer, "versionOffer", {});
+  auto* sign = new QLabel(offer);
+  const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+  sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size));
+  auto* text = new QLabel(Text(text_id::kCheckPrintWrong), offer);
+  text->setTextFormat(Qt::PlainText);
+  auto* check = MakeButton("versionCheck", text_id::kVersionsCheck, &VersionsDlg::LeaveForCheck);
+  check->setToolTip(PlainTip(Text(text_id::kVersionsCheckTip)));
+  auto* row = new QHBoxLayout(offer);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(sign);
+  row->addWidget(text);
+  row->addWidget(check);
+  row->addStretch();
+  return offer;
+}
+
+void VersionsDlg::OfferCheck(bool isOffered) {
+  offer_->setVisible(isOffered);
+}
+
+/// This window holds the main one, and with it that of the check, until it is closed.
+void VersionsDlg::LeaveForCheck() {
+  if (run_.IsRunning()) return;
+  QDialog::reject();
+  emit CheckWanted();
 }
 
 /// The exam may have changed since: pins of what it has no longer are ignored.
@@ -259,7 +293,7 @@ void VersionsDlg::TakeMade(const MadeVersions& made) {
 
 void VersionsDlg::ShowRun() {
   const bool isRunning = run_.IsRunning();
-  for (QWidget* widget : std::initializer_list<QWidget*>{choices_, kept_, folder_, chooseFolder_})
+  for (QWidget* widget : std::initializer_list<QWidget*>{choices_, kept_, folder_, chooseFolder_, offer_})
     widget->setEnabled(!isRunning);
   make_->setEnabled(!isRunning && hasPlan_);
   bar_->setVisible(isRunning);

@@ -39,12 +39,20 @@ class VersionsDlg : public QDialog {
 
   void reject() override;
 
+  /// Shows or hides a line that says that something is wrong with the exam.
+  void OfferCheck(bool isOffered);
+
+ signals:
+  /// The user wants to see what is wrong; this window has closed.
+  void CheckWanted();
+
  private:
   QPushButton* MakeButton(const char* name, int text, void (VersionsDlg::*command)());
   QWidget* PlaceLeft();
   QWidget* PlaceRight();
   QLayout* PlaceFolder();
   QLayout* PlaceBottom();
+  QWidget* MakeOffer();
   void SetUpPlan();
 
   /// Shows what was chosen when versions were made in the folder before.
@@ -53,6 +61,7 @@ class VersionsDlg : public QDialog {
   void ShowPlan();
   void ChooseFolder();
   void OpenFolder();
+  void LeaveForCheck();
   void Make();
   void TakeMade(const MadeVersions& made);
   void ShowRun();
@@ -77,6 +86,7 @@ class VersionsDlg : public QDialog {
   QPushButton* openFolder_;
   QPushButton* make_;
   QPushButton* close_;
+  QWidget* offer_;
   QTimer whenChanged_;  ///< plans again after a pause in typing
   QTimer whileRunning_;
   std::shared_ptr<std::atomic_int> done_ = std::make_shared<std::atomic_int>(0);
