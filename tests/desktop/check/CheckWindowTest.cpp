@@ -87,5 +87,22 @@ TEST_F(CheckWindowTest, IsOfferedWhenAnExamWithMistakesIsPrinted) {
   EXPECT_TRUE(Check().isVisible());
 }
 
+TEST_F(CheckWindowTest, IsOfferedWhenAnExamWithMistakesBecomesAPdfFile) {
+  world.dialogs.filesToSave = {folder / "exam.pdf"};
+  Entry("exportPdf").trigger();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Control("somethingIsWrong").isVisibleTo(window.get()); }));
+}
+
+TEST_F(CheckWindowTest, IsOfferedWhenVersionsAreMadeOfAnExamWithMistakes) {
+  const auto isOffered = [this] { return Control("versionOffer").isVisible(); };
+  world.dialogs.filesToSave = {folder / "exam.exm"};
+  world.dialogs.yesNoAnswers = {true};
+  Entry("examVersions").trigger();
+  ASSERT_TRUE(QTest::qWaitFor(isOffered));
+  Click("versionCheck");
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Check()));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return window->findChild<QWidget*>("versions") == nullptr; }));
+}
+
 }  // namespace
 }  // namespace quorvantis::test

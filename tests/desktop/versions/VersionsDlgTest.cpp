@@ -57,6 +57,7 @@ TEST_F(VersionsDlgTest, ShowsThePlanAndMakesIt) {
   const QString shown = Plan().index(0, 1).data().toString();
   MakeThem();
   EXPECT_TRUE(fs::exists(made / "C.exm"));
+  EXPECT_FALSE(Control("versionOffer").isVisible()) << "nothing is wrong";
   EXPECT_TRUE(Control("versionOpenFolder").isVisible());
   EXPECT_EQ(Plan().index(0, 1).data().toString(), shown);
   QTest::keyClick(&Versions(), Qt::Key_Escape);
