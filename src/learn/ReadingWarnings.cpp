@@ -6,6 +6,7 @@
 #include "import/marking/ImportMarkers.h"
 #include "import/prepare/KeyReports.h"
 #include "import/prepare/StepNames.h"
+#include "learn/KeysShownAlike.h"
 #include "learn/PaperNumbers.h"
 #include "learn/ReadingRoles.h"
 #include "learn/UnkeptObjects.h"
@@ -68,6 +69,7 @@ class WarningSearch {
     hasKeys_ = std::ranges::any_of(questions_, [](const ReadQuestion& question) {
       return question.kind == ReadKind::Choice && !question.letters.empty();
     });
+    shown_ = KeysShownAlike(questions_);
     for (std::size_t i = 0; i < questions_.size(); ++i) LookAt(questions_[i], static_cast<int>(i));
     std::ranges::stable_sort(warnings_, {}, &ReadingWarning::question);
     return std::move(warnings_);
@@ -220,8 +222,10 @@ class WarningSearch {
     }
     LookAtAnswers(question, index);
     LookAtObjects(question, index);
-    if (std::u16string visible = VisibleKey(question); !visible.empty())
-      Add({Kind::KeyVisible, index, 0, Excerpt(visible)});
+    std::u16string visible = VisibleKey(question);
+    const auto shown = shown_.find(static_cast<std::size_t>(index));
+    if (visible.empty() && shown != shown_.end()) visible = shown->second;
+    if (!visible.empty()) Add({Kind::KeyVisible, index, 0, Excerpt(visible)});
     if (IsTooLong(question)) Add({Kind::TooLongText, index});
   }
 
@@ -348,6 +352,7 @@ class WarningSearch {
   int usual_ = 0;
   bool hasKeys_ = false;
   std::map<std::size_t, std::u16string> unclear_;  ///< by question
+  std::map<std::size_t, std::u16string> shown_;    ///< the same
   std::vector<ReadingWarning> warnings_;
 };
 

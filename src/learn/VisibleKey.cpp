@@ -8,6 +8,8 @@
 #include "import/prepare/AnswerWords.h"
 #include "import/prepare/KeyReader.h"
 #include "import/prepare/PreparedLabels.h"
+#include "import/prepare/QuestionKey.h"
+#include "learn/KeyTraces.h"
 #include "model/AnswerLetters.h"
 
 #include <algorithm>
@@ -103,7 +105,7 @@ std::u16string KeyLineBehind(std::u16string_view text) {
     const bool goesOn = isOption || entries > 0 || reading.kind == KeyLineKind::NumberRow;
     inARow = goesOn ? inARow + std::max<std::size_t>(entries, isOption ? 1 : 0) : 0;
     const bool isHeading =
-        IsBareAnswerHeading(line.Of(text)) && !Trimmed(text, {line.end, text.size()}).IsEmpty();
+        IsBareAnswerHeading(line.Of(text)) && !IsBlankToFill(text, {line.end, text.size()});
     if (inARow >= kFewest || isHeading) return ExcerptAt(text, line.begin);
   }
   return {};
@@ -144,6 +146,21 @@ std::u16string LeftOver(std::u16string_view text) {
   return place == text.npos ? LabelledAnswer(text) : ExcerptAt(text, place);
 }
 
+/// A trace in the text or in an option. Options that match numbers with letters all have some: "1-b, 2-a,
+/// 3-c".
+std::u16string TraceOfKey(const ReadQuestion& question) {
+  std::u16string trace = KeyTrace(question.text);
+  std::u16string row = NumberedLetters(question.text);
+  std::size_t rows = row.empty() ? 0 : 1;
+  for (const std::u16string& option : question.options) {
+    if (trace.empty()) trace = KeyTrace(option);
+    const std::u16string found = NumberedLetters(option);
+    rows += found.empty() ? 0 : 1;
+    if (row.empty()) row = found;
+  }
+  return trace.empty() && rows == 1 ? row : trace;
+}
+
 }  // namespace
 
 std::u16string VisibleKey(const ReadQuestion& question) {
@@ -152,6 +169,7 @@ std::u16string VisibleKey(const ReadQuestion& question) {
     if (found.empty()) found = LeftOver(option);
   }
   if (found.empty()) found = ShownKeyLine(question);
+  if (found.empty()) found = TraceOfKey(question);
   if (question.kind != ReadKind::Choice) return found;
   if (found.empty()) found = KeyInBrackets(question);
   return found.empty() ? SignedOption(question) : found;

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace quorvantis::test {
 namespace {
 
@@ -82,6 +84,46 @@ TEST(ReadingWarnings, TellWhatToLookAt) {
       {good + u"2. Open end\n3. Who?\nA. x\nB. y\nAnswer: A\n", Line(Kind::NotRead, -1, 0, "Open end")},
   };
   for (const auto& row : kCases) EXPECT_EQ(Warned(row.text), row.warnings) << Utf16ToUtf8(row.text);
+}
+
+/// How many warnings of a visible key there are.
+std::ptrdiff_t VisibleKeysIn(std::u16string_view text) {
+  const Paper paper = PaperOf(text);
+  ImportSettings rules = PlainRules();
+  rules.m_strPreAnswer = u"\\s*^(?:Answer:|\u27E6=\u27E7)[ ]*";
+  rules.prepare = {u"OpenAnswers"};
+  const auto warnings = WarningsOf(paper, rules, ReadByRules(paper, rules, kNobodyEnds));
+  return std::ranges::count(warnings, ReadingWarning::Kind::KeyVisible, &ReadingWarning::kind);
+}
+
+TEST(ReadingWarnings, TellOfEveryKeyThatPupilsSee) {
+  const struct {
+    std::u16string_view text;
+    std::ptrdiff_t visible;
+  } kCases[] = {
+      {u"1. Why?\nA. x\nB. y\n2. How?\nA. x\nB. y\nC. z\nSvaren: 1b – 2c – 3a\n", 1},
+      {u"1. Why?\nA. x\nB. y (1B, 2C, 3A)\n", 1},
+      {u"1. Why?\nA. x\nB. y\nPauta – BCA\n", 1},
+      {u"1. Why?\nA. x\nB. y\nGABARITO B C A\n", 1},
+      {u"1. Why?\nA. x\nB. y   Ответ: Б\n", 1},
+      {u"1. Why?\nA. x\nB. y [Lösung: B]\n", 1},
+      {u"1. Suns are stars.   true\n2. So are moons.   false\n3. Name one.\n", 2},
+      {u"1. 太阳是恒星。　　对\n2. 月亮是恒星。　　错\n", 2},
+      {u"1. Suns are stars. √\n2. Name one.\n", 1},
+      {u"1. (T) Suns are stars.\n2. (F) Moons are stars.\n", 2},
+      {u"1. Why? B\nA. x\nB. y\n2. How?   A\nA. x\nB. y\n", 2},
+      {u"1. Why?\n(B)\nA. x\nB. y\n2. How?\nA\nA. x\nB. y\n", 2},
+      // What only looks like one.
+      {u"1. Iron is 1s2 2s2 2p6 3s2.\n2. White plays 1. e4 e5 2. Nf3 Nc6 3. Bb5 a6.\n3. 1a. Edition, 2b. "
+       u"Edition\n",
+       0},
+      {u"1. Match.\nA. 1-b, 2-a, 3-c\nB. 1-a, 2-b, 3-c\nC. 1-c, 2-b, 3-a\n", 0},
+      {u"1. What is said is true\n2. Suns are stars. True / False\n3. Moons are stars.   true   false\n", 0},
+      {u"1. The key: C major has no sharps.\n2. Solution A is heated.\n3. Answer the letter of A.\n", 0},
+      {u"1. The force (F)\n2. Vitamin C\nA. x\nB. y\nC. z\n3. Hepatitis B\nA. x\nB. y\nC. z\n", 0},
+      {u"1. Explain.\nAnswer sheet:\n_______\n_______\n2. Count 1 a 2 b.\n", 0},
+  };
+  for (const auto& row : kCases) EXPECT_EQ(VisibleKeysIn(row.text), row.visible) << Utf16ToUtf8(row.text);
 }
 
 /// Long papers must not take long, whatever they are full of.

@@ -183,9 +183,14 @@ KeyLineReading KeyLineReader::Read(TextSpan line) {
     numbers_.clear();
     if (!entries.empty()) return {KeyLineKind::AnswerRow, std::move(entries)};
   }
+  if (!ranges_.empty()) {
+    std::vector<KeyEntry> entries = RangeAnswers(line);
+    ranges_.clear();
+    if (!entries.empty()) return {KeyLineKind::AnswerRow, std::move(entries)};
+  }
   if (std::vector<KeyEntry> entries = EntriesOfLine(text_, line); !entries.empty())
     return {KeyLineKind::Entries, std::move(entries)};
-  if (ReadNumberRow(line)) return {KeyLineKind::NumberRow};
+  if (ReadNumberRow(line) || ReadRangeRow(line)) return {KeyLineKind::NumberRow};
   const std::u16string_view title = trimmed.Of(text_);
   const bool isTitle =
       IsPartTitle(title) || HasVersionMark(title) || AnswerHeadingOf(title) == AnswerHeading::Clear;
@@ -212,6 +217,39 @@ bool KeyLineReader::ReadNumberRow(TextSpan line) {
   if (std::ranges::count_if(numbers, [](int number) { return number > 0; }) < 2) return false;
   numbers_ = std::move(numbers);
   return true;
+}
+
+bool KeyLineReader::ReadRangeRow(TextSpan line) {
+  constexpr std::u16string_view kBehindRange = u":：.．)）]】,，;；|题題";
+  const TextSpan within = Trimmed(text_, WithoutTitle(text_, line));
+  hasTabs_ = within.Of(text_).find(u'\t') != std::u16string_view::npos;
+  std::size_t at = within.begin;
+  // "No.", the label of the row.
+  if (hasTabs_ && !KeyRangeAt(text_, at, within.end)) at = within.begin + within.Of(text_).find(u'\t') + 1;
+  std::vector<KeyRange> ranges;
+  while (at < within.end) {
+    const auto range = KeyRangeAt(text_, at, within.end);
+    if (!range) return false;
+    ranges.push_back(*range);
+    at = range->end;
+    while (at < within.end && (IsBlank(text_[at]) || kBehindRange.find(text_[at]) != kBehindRange.npos)) ++at;
+  }
+  ranges_ = std::move(ranges);
+  return !ranges_.empty();
+}
+
+std::vector<KeyEntry> KeyLineReader::RangeAnswers(TextSpan line) const {
+  std::vector<TextSpan> cells = CellsOf(text_, line, hasTabs_);
+  if (cells.size() == ranges_.size() + 1 && hasTabs_) cells.erase(cells.begin());
+  if (ranges_.size() == 1 && !hasTabs_) cells = {Trimmed(text_, line)};
+  if (cells.size() != ranges_.size()) return {};
+  std::vector<KeyEntry> entries;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const std::vector<KeyEntry> answers = EntriesOfRange(text_, ranges_[i], cells[i]);
+    if (answers.empty()) return {};
+    entries.insert(entries.end(), answers.begin(), answers.end());
+  }
+  return entries;
 }
 
 std::vector<KeyEntry> KeyLineReader::AnswerRow(TextSpan line) const {

@@ -35,12 +35,16 @@ class KeyLineReader {
 
  private:
   bool ReadNumberRow(TextSpan line);
+  /// "1-5", or "1-5  6-10", whose letters stand in the row below.
+  bool ReadRangeRow(TextSpan line);
+  std::vector<KeyEntry> RangeAnswers(TextSpan line) const;
   std::vector<KeyEntry> AnswerRow(TextSpan line) const;
   /// The entries of a row whose letters stand under no numbers.
   std::vector<KeyEntry> MiscountedRow(const std::vector<TextSpan>& cells, TextSpan line) const;
 
   std::u16string_view text_;
   std::vector<int> numbers_;  ///< of a row, 0 for a cell without; empty if the line before was no such row
+  std::vector<KeyRange> ranges_;  ///< the same for a row of ranges
   bool hasTabs_ = false;
 };
 

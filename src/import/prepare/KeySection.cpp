@@ -7,6 +7,7 @@
 #include "import/prepare/KeyLeftovers.h"
 #include "import/prepare/KeyMatching.h"
 #include "import/prepare/KeyReader.h"
+#include "import/prepare/KeyTail.h"
 #include "import/prepare/KeyVersions.h"
 #include "import/prepare/OptionKey.h"
 #include "import/prepare/QuestionKey.h"
@@ -22,8 +23,7 @@ using Leftover = KeyLeftover::Kind;
 /// Searches the headings from the top of a paper, then its tail.
 class KeySectionSearch {
  public:
-  KeySectionSearch(std::u16string_view text, const PaperOutline& outline)
-      : text_(text), outline_(outline), lines_(LinesOf(text, {0, text.size()})) {}
+  KeySectionSearch(std::u16string_view text, const PaperOutline& outline) : text_(text), outline_(outline) {}
 
   KeySearchResult Search() {
     KeySearchResult result;
@@ -32,7 +32,8 @@ class KeySectionSearch {
       NoteUnread(heading);
       if (isSurelyUnclear_) break;
     }
-    if (!isSurelyUnclear_) result.section = Tail();
+    if (!isSurelyUnclear_) result.section = Tail(KeyTailLines::KeysAndAnswers);
+    if (!isSurelyUnclear_ && !result.section) result.section = Tail(KeyTailLines::Keys);
     if (!isSurelyUnclear_ && !result.section) result.section = FindRepeatedKey(text_, outline_);
     result.isUnmatched = !result.section && hasSeenKey_;
     return result;
@@ -182,59 +183,22 @@ class KeySectionSearch {
   }
 
   /// Without a heading: the last lines, as far as they are nothing but a key.
-  std::optional<KeySection> Tail() {
-    std::vector<KeyLineReading> readings;
-    KeyLineReader reader(text_);
-    for (const TextSpan& line : lines_) readings.push_back(reader.Read(line));
-    const std::size_t first = FirstOfTail(readings);
-    std::size_t begin = first;
-    while (begin < readings.size() && readings[begin].entries.empty()) ++begin;
-    if (begin == readings.size()) return std::nullopt;
-    KeySection section = SectionFrom(lines_[BeginOfTail(readings, first, begin)].begin);
+  std::optional<KeySection> Tail(KeyTailLines lines) {
+    const std::optional<std::size_t> begin = BeginOfKeyTail(text_, outline_, lines);
+    if (!begin) return std::nullopt;
+    KeySection section = SectionFrom(*begin);
     const VersionChoice version = VersionOf(section, {section.begin, text_.size()});
     const KeyList key = ReadKeyList(text_, version.part);
     if (key.entries.size() < 2) return std::nullopt;
-    if (version.isUnclear) return Refused(std::move(section), key, Leftover::Versions);
+    const bool isOnlyKey = lines == KeyTailLines::Keys;
+    if (version.isUnclear && isOnlyKey) return Refused(std::move(section), key, Leftover::Versions);
     const auto matched = MatchEntries(text_, key, section.questions);
-    if (!matched || !IsCompleteKey(*matched, key.entries.size(), section.questions)) {
-      hasSeenKey_ = true;
+    if (!matched || version.isUnclear || !IsCompleteKey(*matched, key.entries.size(), section.questions)) {
+      hasSeenKey_ = hasSeenKey_ || isOnlyKey;
       return std::nullopt;
     }
     Accept(section, key, *matched);
     return section;
-  }
-
-  /// Good wishes may follow a key.
-  std::size_t FirstOfTail(const std::vector<KeyLineReading>& readings) const {
-    constexpr int kMostWishes = 2;
-    constexpr std::size_t kLongestWish = 40;
-    std::size_t first = readings.size();
-    for (int wishes = 0; first > 0 && wishes < kMostWishes;) {
-      const KeyLineKind kind = readings[first - 1].kind;
-      const bool isWish = kind == KeyLineKind::Text && lines_[first - 1].Size() <= kLongestWish;
-      if (kind != KeyLineKind::Blank && !isWish) break;
-      wishes += isWish ? 1 : 0;
-      --first;
-    }
-    while (first > 0) {
-      const KeyLineReading& reading = readings[first - 1];
-      const bool isEmptyRow = reading.kind == KeyLineKind::NumberRow &&
-                              (first == readings.size() || readings[first].kind != KeyLineKind::AnswerRow);
-      if (reading.kind == KeyLineKind::Text || isEmptyRow) break;
-      --first;
-    }
-    return first;
-  }
-
-  /// A row of numbers and the title of a part belong to the answers behind them.
-  static std::size_t BeginOfTail(const std::vector<KeyLineReading>& readings, std::size_t first,
-                                 std::size_t line) {
-    while (line > first && (readings[line - 1].kind == KeyLineKind::NumberRow ||
-                            readings[line - 1].kind == KeyLineKind::Title ||
-                            (line - 1 > first && readings[line - 1].kind == KeyLineKind::Blank &&
-                             readings[line - 2].kind == KeyLineKind::Title)))
-      --line;
-    return line;
   }
 
   /// Without a heading all answers must fit, and most choice questions have one.
@@ -252,7 +216,6 @@ class KeySectionSearch {
 
   std::u16string_view text_;
   const PaperOutline& outline_;
-  std::vector<TextSpan> lines_;
   bool isAnySeen_ = false;        ///< answers behind the heading that was looked at last
   bool hasSeenKey_ = false;       ///< letters that came to no questions
   bool isSurelyUnclear_ = false;  ///< a key was seen that no part of it may be taken from
@@ -264,7 +227,8 @@ std::vector<OutlinedQuestion> QuestionsBefore(std::u16string_view text, const Pa
                                               std::size_t end) {
   std::vector<OutlinedQuestion> questions;
   for (const OutlinedQuestion& outlined : outline.questions) {
-    if (outlined.label.begin >= end) break;
+    // A label may include the line end before it.
+    if (Trimmed(text, outlined.label).begin >= end) break;
     OutlinedQuestion& question = questions.emplace_back(outlined);
     question.whole.end = std::min(question.whole.end, end);
     if (question.answerLabel.end > end) question.answerLabel = {end, end};

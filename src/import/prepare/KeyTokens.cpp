@@ -86,6 +86,13 @@ class KeyLine {
  public:
   KeyLine(std::u16string_view text, TextSpan line) : text_(text.substr(0, line.end)), at_(line.begin) {}
 
+  /// Those of a range whose answers make up the line.
+  std::vector<KeyEntry> EntriesOf(const KeyRange& range) {
+    const bool isWhole =
+        TakeBody(at_, range.first, range.count) && SkipBlanks(text_, at_, text_.size()) == text_.size();
+    return isWhole ? std::move(entries_) : std::vector<KeyEntry>();
+  }
+
   std::vector<KeyEntry> Entries() {
     for (SkipBetween(); at_ < text_.size(); SkipBetween()) {
       if (!TakeRange() && !TakePair()) return {};
@@ -102,22 +109,14 @@ class KeyLine {
 
   /// "1-5 ABCDA"
   bool TakeRange() {
-    std::size_t at = Among(kTokenOpens, UnitAt(at_)) ? at_ + 1 : at_;
-    const Numeral first = PlainNumeralAt(text_, at, kLongNumberDigits);
-    if (first.size == 0) return false;
-    at = SkipBlanks(text_, at + first.size, text_.size());
-    if (at >= text_.size() || !Among(kRangeDashes, text_[at])) return false;
-    while (at < text_.size() && Among(kRangeDashes, text_[at])) ++at;
-    at = SkipBlanks(text_, at, text_.size());
-    const Numeral last = PlainNumeralAt(text_, at, kLongNumberDigits);
-    constexpr int kLongestRange = 200;
-    if (last.size == 0 || last.value <= first.value || last.value - first.value > kLongestRange) return false;
-    at += last.size;
+    const auto range = KeyRangeAt(text_, at_, text_.size());
+    if (!range) return false;
+    std::size_t at = range->end;
     if (at >= text_.size() || (IsLetterOrDigit(text_[at]) && text_[at] != u'题' && !IsRangeBody(at)))
       return false;
     while (at < text_.size() && (IsBlank(text_[at]) || Among(kAfterNumber, text_[at]) || text_[at] == u'题'))
       ++at;
-    return TakeBody(at, first.value, static_cast<std::size_t>(last.value - first.value) + 1);
+    return TakeBody(at, range->first, range->count);
   }
 
   bool IsRangeBody(std::size_t at) const {
@@ -257,6 +256,26 @@ std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place
     if (!isSingle) return std::nullopt;
   }
   return KeyNumber{numeral.value, {place, after}, isSetOff, isLettered};
+}
+
+std::optional<KeyRange> KeyRangeAt(std::u16string_view text, std::size_t place, std::size_t end) {
+  constexpr int kLongestRange = 200;
+  const std::u16string_view part = text.substr(0, end);
+  std::size_t at = place < end && Among(kTokenOpens, part[place]) ? place + 1 : place;
+  const Numeral first = PlainNumeralAt(part, at, kLongNumberDigits);
+  if (first.size == 0) return std::nullopt;
+  at = SkipBlanks(part, at + first.size, end);
+  if (at >= end || !Among(kRangeDashes, part[at])) return std::nullopt;
+  while (at < end && Among(kRangeDashes, part[at])) ++at;
+  at = SkipBlanks(part, at, end);
+  const Numeral last = PlainNumeralAt(part, at, kLongNumberDigits);
+  const bool isRange = last.size > 0 && last.value > first.value && last.value - first.value <= kLongestRange;
+  if (!isRange) return std::nullopt;
+  return KeyRange{first.value, static_cast<std::size_t>(last.value - first.value) + 1, at + last.size};
+}
+
+std::vector<KeyEntry> EntriesOfRange(std::u16string_view text, const KeyRange& range, TextSpan letters) {
+  return KeyLine(text, letters).EntriesOf(range);
 }
 
 std::size_t KeyTokenSize(std::u16string_view text, std::size_t place, std::size_t end) {

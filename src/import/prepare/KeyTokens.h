@@ -37,6 +37,18 @@ struct KeyNumber {
 std::optional<KeyNumber> KeyNumberAt(std::u16string_view text, std::size_t place, std::size_t end,
                                      std::size_t mostDigits = kUsualDigits);
 
+/// "1-5": questions that follow each other.
+struct KeyRange {
+  int first = 0;
+  std::size_t count = 0;
+  std::size_t end = 0;  ///< the place behind its last number
+};
+
+std::optional<KeyRange> KeyRangeAt(std::u16string_view text, std::size_t place, std::size_t end);
+
+/// The answers of a range, which make up a span: "BCADB", "B C A D B". Nothing if they are anything else.
+std::vector<KeyEntry> EntriesOfRange(std::u16string_view text, const KeyRange& range, TextSpan letters);
+
 /// The size of the letters, the digit or the judgement that begins at `place`; 0 if there is none.
 std::size_t KeyTokenSize(std::u16string_view text, std::size_t place, std::size_t end);
 
