@@ -119,7 +119,7 @@ TEST(ReadingWarnings, TellOfEveryKeyThatPupilsSee) {
        0},
       {u"1. Match.\nA. 1-b, 2-a, 3-c\nB. 1-a, 2-b, 3-c\nC. 1-c, 2-b, 3-a\n", 0},
       {u"1. What is said is true\n2. Suns are stars. True / False\n3. Moons are stars.   true   false\n", 0},
-      {u"1. The key: C major has no sharps.\n2. Solution A is heated.\n3. Answer the letter of A.\n", 0},
+      {u"1. C major has no sharps.\n2. Solution A is heated.\n3. Answer the letter of A.\n", 0},
       {u"1. The force (F)\n2. Vitamin C\nA. x\nB. y\nC. z\n3. Hepatitis B\nA. x\nB. y\nC. z\n", 0},
       {u"1. Explain.\nAnswer sheet:\n_______\n_______\n2. Count 1 a 2 b.\n", 0},
   };
