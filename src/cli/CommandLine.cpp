@@ -18,9 +18,9 @@ constexpr int kWrongUsage = 2;
 
 /// In the order of the help.
 constexpr void (*kSubcommands[])(CLI::App&, CommandContext&) = {
-    AddShow,   AddCheck, AddBuild,    AddUnpack,  AddPreview, AddPrint,   AddPdf,
-    AddKey,    AddScore, AddExport,   AddConvert, AddEdit,    AddRecover, AddLanguages,
-    AddImport, AddRules, AddVersions, AddBank,    AddMatch};
+    AddShow,   AddCheck, AddBuild,    AddUnpack,  AddPreview,  AddPrint,   AddPdf,
+    AddKey,    AddScore, AddExport,   AddConvert, AddEdit,     AddRecover, AddLanguages,
+    AddImport, AddRules, AddVersions, AddBank,    AddBankTags, AddMatch};
 
 /// An empty argument is a mistake in the calling script, most likely an unset variable. It must not count as
 /// absent, or as the current folder.

@@ -30,5 +30,7 @@ void AddRules(CLI::App& app, CommandContext& context);
 void AddVersions(CLI::App& app, CommandContext& context);
 void AddBank(CLI::App& app, CommandContext& context);
 void AddMatch(CLI::App& app, CommandContext& context);
+/// After the others of group "bank", to which it adds.
+void AddBankTags(CLI::App& app, CommandContext& context);
 
 }  // namespace quorvantis::cli

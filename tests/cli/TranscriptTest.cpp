@@ -66,8 +66,8 @@ class Transcript : public CommandLineTest, public testing::WithParamInterface<co
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, Transcript,
-                         testing::Values("bank", "build", "check", "convert", "edit", "import", "key",
-                                         "order", "rules", "score", "search", "show", "usage", "versions"),
+                         testing::Values("build", "check", "convert", "edit", "import", "key", "order",
+                                         "rules", "score", "search", "show", "tags", "usage", "versions"),
                          [](const auto& param) { return param.param; });
 
 TEST_P(Transcript, IsTrue) {
