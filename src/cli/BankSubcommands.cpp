@@ -186,6 +186,7 @@ void AddBank(CLI::App& app, CommandContext& context) {
   AddBankCommand(bank, context, "list", "List the folders, and exams with a problem", list, ListBank)
       ->add_flag("--json", list->json, "Print one JSON object, with all exams");
   AddBankFind(bank, context);
+  AddBankLike(bank, context);
 }
 
 }  // namespace quorvantis::cli

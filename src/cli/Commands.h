@@ -29,6 +29,7 @@ void AddImport(CLI::App& app, CommandContext& context);
 void AddRules(CLI::App& app, CommandContext& context);
 void AddVersions(CLI::App& app, CommandContext& context);
 void AddBank(CLI::App& app, CommandContext& context);
+void AddBankLike(CLI::App& bank, CommandContext& context);  ///< a command of `bank`
 void AddMatch(CLI::App& app, CommandContext& context);
 /// After the others of group "bank", to which it adds.
 void AddBankTags(CLI::App& app, CommandContext& context);

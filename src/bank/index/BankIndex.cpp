@@ -177,8 +177,9 @@ BankProblem BankIndex::ProblemAfter(const DatabaseError& error) {
 std::vector<BankExam> BankIndex::ReadExams(const char* condition, BankProblem& problem) const {
   std::vector<BankExam> exams;
   try {
-    Statement rows = database_->Prepare(std::string("SELECT ") + kExamColumns + " FROM exam " + condition +
-                                        " ORDER BY path");
+    const std::string sql =
+        std::string("SELECT ") + kExamColumns + " FROM exam " + condition + " ORDER BY path";
+    Statement rows = database_->Prepare(sql);
     while (rows.Step()) exams.push_back(ExamFrom(rows, 0));
   } catch (const DatabaseError& error) {
     problem = ProblemOf(error, place_.index);

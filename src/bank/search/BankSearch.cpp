@@ -48,7 +48,8 @@ std::optional<std::vector<std::int64_t>> SearchedExams(const BankIndex& index, c
   const std::vector<fs::path> folders = PresentFolders(index);
   std::vector<std::int64_t> searched;
   bool areAll = true;
-  Statement rows = index.Data().Prepare(std::string("SELECT ") + kExamColumns + " FROM exam");
+  const std::string sql = std::string("SELECT ") + kExamColumns + " FROM exam";
+  Statement rows = index.Data().Prepare(sql);
   while (rows.Step()) {
     const BankExam exam = ExamFrom(rows, 0);
     const bool isPresent = std::any_of(folders.begin(), folders.end(),
