@@ -65,16 +65,20 @@ const ForeignRow kAiken[] = {
 
 const ForeignRow kTables[] = {
     {"Question;Option 1;Option 2;Correct\n\"a;\"\"b\"\"\nc\";'=x;y;2\n", "choice a;\"b\"\\nc | -=x | +y\n"},
-    {"text\tanswers\tpoints\nfill ___\ta | b\\|c\t1,5\n", "fill fill ___ | a, b|c\n"},
     {"kind,question,A,B,right\nmcq,q,Bad,y,Bad\nodd,q,,,\n", "choice q | +Bad | -y\nessay q\n",
      "question 2: the kind \xE2\x80\x9Codd\xE2\x80\x9D is not known\n"},
+};
+
+const ForeignRow kTabTables[] = {
+    {"text\tanswers\tpoints\nfill ___\ta | b\\|c\t1,5\n", "fill fill ___ | a, b|c\n"},
 };
 
 TEST(ForeignFiles, InText) {
   ForeignReader reader;
   ExpectRead(reader, "gift", kGift);
   ExpectRead(reader, "aiken", kAiken);
-  for (const ForeignRow& row : kTables) ExpectRead(reader, "csv", {&row, 1});
+  ExpectRead(reader, "csv", kTables);
+  ExpectRead(reader, "tsv", kTabTables);
 }
 
 TEST(ForeignFiles, PastedTablesNeedNoNames) {
