@@ -9,6 +9,7 @@
 #include "text/Utf.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -31,11 +32,14 @@ class AikenLines {
   explicit AikenLines(ExchangeNotes& notes) : notes_(notes) { notes_.Begin(1); }
 
   void Take(std::u16string_view line) {
+    const bool isBelowBlank = std::exchange(isBlank_, line.empty());
     if (line.empty()) return;
     if (IsAnswerLine(line)) return End(line.substr(kAnswer.size()));
     if (!text_.empty() && IsOptionLine(line, options_.size())) {
       options_.emplace_back(Trimmed(line.substr(2)));
     } else {
+      // What follows a blank line is the next question, even if this one has no answer.
+      if (isBelowBlank && options_.size() > 1) End({});
       std::u16string& longer = options_.empty() ? text_ : options_.back();
       if (!longer.empty()) longer.push_back(u'\n');
       longer += line;
@@ -81,6 +85,7 @@ class AikenLines {
   std::vector<ExchangedQuestion> questions_;
   std::u16string text_;
   std::vector<std::u16string> options_;
+  bool isBlank_ = false;  ///< the line before
 };
 
 }  // namespace

@@ -15,6 +15,8 @@
 namespace quorvantis {
 namespace {
 
+constexpr std::string_view kFullScore = "SCORE.max";
+
 std::vector<pugi::xml_node> LabelsOf(pugi::xml_node response) {
   return ElementsBelow(response, {"response_label"});
 }
@@ -79,11 +81,11 @@ std::optional<ExchangedFile> CanvasItemReader::Find(std::u16string_view address)
 std::u16string CanvasItemReader::Material(pugi::xml_node owner, ExchangedQuestion& question) {
   std::u16string text;
   for (const pugi::xml_node part :
-       ElementsBelow(owner, {"mattext", "matimage", "mataudio", "matvideo", "response_lid", "response_str",
-                             "response_num", "render_choice"})) {
+       ElementsBelow(owner, {"mattext", "mat_formattedtext", "matimage", "mataudio", "matvideo",
+                             "response_lid", "response_str", "response_num", "render_choice"})) {
     const std::string_view name = LocalName(part);
     if (!name.starts_with("mat")) continue;
-    if (name != "mattext") {
+    if (name != "mattext" && name != "mat_formattedtext") {
       const std::u16string address = TextOf(ValueOf(part, "uri"));
       html_.Take({{}, {{address, {}, false}}, {}}, question);
       continue;
@@ -126,7 +128,7 @@ void CanvasItemReader::ReadComparisons() {
   for (const pugi::xml_node condition : ElementsBelow(ChildOf(item_, "resprocessing"), {"respcondition"})) {
     bool earns = false;
     for (const pugi::xml_node set : ChildrenOf(condition, "setvar"))
-      earns = earns || NumberIn(set.text().get(), 0) > 0;
+      earns = earns || NumberIn(set.text().get(), 0) > 0 || set.text().get() == kFullScore;
     for (const pugi::xml_node test : ElementsBelow(ChildOf(condition, "conditionvar"), {"varequal"})) {
       const std::string value = Utf16ToUtf8(Trimmed(ContentOf(test)));
       comparisons_.push_back({std::string(ValueOf(test, "respident")), value, earns && !IsBelowNot(test)});
@@ -171,7 +173,9 @@ void CanvasItemReader::TakeOptions(ExchangedQuestion& question) {
   for (const pugi::xml_node label : LabelsOf(responses_[0])) {
     const bool isRight = IsRight(response, ValueOf(label, "ident"));
     hasRight = hasRight || isRight;
+    const std::size_t files = question.files.size();
     question.options.push_back({Material(label, question), isRight});
+    TellFilesOfOption(question, files, tools_.notes);
   }
   if (!hasRight) tools_.notes.Tell(text_id::kExchangeNoRightRead);
 }

@@ -47,6 +47,12 @@ ExchangeSource::ExchangeSource(std::filesystem::path file) : file_(std::move(fil
   head_.resize(static_cast<std::size_t>(in.gcount()));
 }
 
+std::string ExchangeSource::HeadOfXml() const {
+  std::string head = head_;
+  std::erase(head, '\0');
+  return head;
+}
+
 std::optional<std::string> ExchangeSource::Bytes(std::size_t limit) const {
   return ReadWholeFile(file_, limit);
 }

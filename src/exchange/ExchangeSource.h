@@ -23,6 +23,9 @@ class ExchangeSource {
   /// Its first bytes, enough to recognise it.
   const std::string& Head() const { return head_; }
 
+  /// The same without zeros, in which the names of XML look alike in UTF-8 and in UTF-16.
+  std::string HeadOfXml() const;
+
   /// All of its bytes, at most `limit`; nothing if it has more, or cannot be read.
   std::optional<std::string> Bytes(std::size_t limit) const;
 
@@ -31,6 +34,8 @@ class ExchangeSource {
   std::string head_;
   bool isOpen_ = false;
 };
+
+bool IsUtf8(std::string_view bytes);
 
 /// The text of a file: UTF-8 with or without a mark, or UTF-16 with one. Bytes that are neither are taken for
 /// those of Windows in the West; `isGuessed` is set then.

@@ -117,7 +117,9 @@ bool GiftAnswers::ReadNumbers(std::u16string_view answers, ExchangedQuestion& qu
     const bool hasMargin = colon != answer.text.npos && ParseReal(answer.text.substr(colon + 1)) != 0;
     if (hasMargin || number.find(u"..") != number.npos)
       tools_.notes.Tell(text_id::kExchangeTolerance, {std::u16string(answer.text)});
-    if (!number.empty() && answer.fraction > 0) numbers.push_back(PlainToExamText(Unprotected(number)));
+    const std::u16string text = PlainToExamText(Unprotected(number));
+    if (!text.empty() && answer.fraction > 0 && std::ranges::find(numbers, text) == numbers.end())
+      numbers.push_back(text);
   }
   if (numbers.empty()) return false;
   question.blanks = {numbers};

@@ -39,9 +39,18 @@ class GiftExamReading {
   void TakeCommand(std::u16string_view& rest) {
     const std::size_t end = std::min(rest.find(u'\n'), rest.size());
     const std::u16string_view line = rest.substr(0, end);
-    if (exam_.title.empty() && EqualsIgnoringAsciiCase(line.substr(0, kCategory.size()), kCategory))
-      exam_.title = PlainToExamText(TitleOfCategory(Trimmed(line.substr(kCategory.size()))));
+    if (EqualsIgnoringAsciiCase(line.substr(0, kCategory.size()), kCategory))
+      TakeTitle(PlainToExamText(TitleOfCategory(Trimmed(line.substr(kCategory.size())))));
     rest = Trimmed(rest.substr(end));
+  }
+
+  void TakeTitle(const std::u16string& title) {
+    if (exam_.title.empty() && exam_.questions.empty()) {
+      exam_.title = title;
+    } else if (!title.empty() && title != exam_.title) {
+      tools_.notes.Begin(0);
+      tools_.notes.Tell(text_id::kExchangeOtherCategory, {Excerpt(title)});
+    }
   }
 
   void ReadQuestion(std::u16string_view block) {

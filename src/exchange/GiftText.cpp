@@ -23,6 +23,30 @@ bool ClosesFirst(std::u16string_view block) {
   return at != block.npos && block[at] == u'}';
 }
 
+/// The first block from `from` on that has a brace.
+std::size_t NextWithBrace(const std::vector<std::u16string>& blocks, std::size_t from) {
+  while (from < blocks.size() && FindUnprotected(blocks[from], kBraces) == std::u16string::npos) ++from;
+  return from;
+}
+
+/// Cuts at blank lines, and before a title that stands below answers.
+std::vector<std::u16string> BlocksByLines(std::u16string_view text) {
+  std::vector<std::u16string> blocks(1);
+  bool hasAnswers = false;
+  for (const std::u16string_view line : LinesOf(text)) {
+    const std::u16string_view trimmed = Trimmed(line);
+    if (trimmed.starts_with(u"//")) continue;
+    const bool isNext = trimmed.empty() || (hasAnswers && trimmed.starts_with(u"::"));
+    if (isNext && !blocks.back().empty()) blocks.emplace_back();
+    if (isNext) hasAnswers = false;
+    if (trimmed.empty()) continue;
+    blocks.back().append(line).push_back(u'\n');
+    const std::size_t close = FindUnprotected(line, u"}");
+    if (close != line.npos) hasAnswers = !EndsOpen(line);
+  }
+  return blocks;
+}
+
 }  // namespace
 
 std::size_t FindUnprotected(std::u16string_view text, std::u16string_view wanted, std::size_t from) {
@@ -61,26 +85,18 @@ std::u16string Unprotected(std::u16string_view text) {
 }
 
 std::vector<std::u16string> GiftBlocks(std::u16string_view text) {
-  std::vector<std::u16string> blocks(1);
-  for (const std::u16string_view line : LinesOf(text)) {
-    const std::u16string_view trimmed = Trimmed(line);
-    if (trimmed.starts_with(u"//")) continue;
-    if (!trimmed.empty()) {
-      blocks.back().append(line).push_back(u'\n');
-    } else if (!blocks.back().empty()) {
-      blocks.emplace_back();
-    }
-  }
+  const std::vector<std::u16string> blocks = BlocksByLines(text);
   std::vector<std::u16string> joined;
-  bool isOpen = false;
-  for (const std::u16string& block : blocks) {
-    if (isOpen && ClosesFirst(block)) {
-      joined.back().append(u"\n").append(block);
-      isOpen = EndsOpen(block);
-      continue;
+  for (std::size_t i = 0; i < blocks.size();) {
+    std::u16string block = blocks[i];
+    bool isOpen = EndsOpen(blocks[i++]);
+    while (isOpen) {
+      const std::size_t end = NextWithBrace(blocks, i);
+      if (end == blocks.size() || !ClosesFirst(blocks[end])) break;
+      while (i <= end) block.append(u"\n").append(blocks[i++]);
+      isOpen = EndsOpen(blocks[end]);
     }
-    isOpen = EndsOpen(block);
-    if (!Trimmed(block).empty()) joined.push_back(block);
+    if (!Trimmed(block).empty()) joined.push_back(std::move(block));
   }
   return joined;
 }

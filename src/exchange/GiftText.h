@@ -19,7 +19,8 @@ std::size_t FindUnprotectedWord(std::u16string_view text, std::u16string_view wo
 std::u16string Unprotected(std::u16string_view text);
 
 /// The text without lines that are comments, cut where blank lines separate questions. A blank line inside
-/// braces separates nothing, as long as they are closed before others are opened.
+/// braces separates nothing, as long as they are closed before others are opened. A title in a new line below
+/// answers begins another question, too.
 std::vector<std::u16string> GiftBlocks(std::u16string_view text);
 
 }  // namespace quorvantis

@@ -54,6 +54,11 @@ std::u16string HtmlOfFiles(const std::vector<ExchangedFile>& files, const std::v
   return html;
 }
 
+void TellFilesOfOption(const ExchangedQuestion& question, std::size_t first, ExchangeNotes& notes) {
+  for (std::size_t i = first; i < question.files.size(); ++i)
+    notes.Tell(text_id::kExchangePictureMoved, {question.files[i].name});
+}
+
 std::u16string HtmlReading::Read(std::u16string_view html, ExchangedQuestion& question) {
   return Take(ReadHtml(html), question);
 }

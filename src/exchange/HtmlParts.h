@@ -23,6 +23,9 @@ std::vector<std::u16string> UniqueNames(const std::vector<ExchangedFile>& files)
 std::u16string HtmlOfFiles(const std::vector<ExchangedFile>& files, const std::vector<std::string>& addresses,
                            HtmlDialect dialect);
 
+/// Tells that the files of `question` from number `first` on, which an option had, now stand below the text.
+void TellFilesOfOption(const ExchangedQuestion& question, std::size_t first, ExchangeNotes& notes);
+
 /// Reads the HTML of one question, and collects the files that it refers to.
 class HtmlReading {
  public:

@@ -136,8 +136,11 @@ class MoodleQuestion {
 
   void TakeOptions(ExchangedQuestion& question) {
     question.kind = QuestionKind::Choice;
-    for (const pugi::xml_node answer : ChildrenOf(node_, "answer"))
+    for (const pugi::xml_node answer : ChildrenOf(node_, "answer")) {
+      const std::size_t files = question.files.size();
       question.options.push_back({TextIn(answer, question), false});
+      TellFilesOfOption(question, files, tools_.notes);
+    }
     DecideRights(Fractions(), question.options, tools_.notes);
   }
 
@@ -320,9 +323,9 @@ class MoodleQuizReading {
 }  // namespace
 
 bool LooksLikeMoodleXml(const ExchangeSource& source) {
-  const std::string& head = source.Head();
+  const std::string head = source.HeadOfXml();
   const std::size_t quiz = head.find("<quiz");
-  return quiz != head.npos && quiz < 4096 && head.find("<question") != head.npos;
+  return quiz < 4096 && (head.find("<question") != head.npos || head.find("</quiz>") != head.npos);
 }
 
 std::optional<ExchangedExam> MoodleXmlReader::Read(const ExchangeSource& source, ReadingTools& tools) {

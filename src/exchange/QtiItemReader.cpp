@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/QtiItemReader.h"
 
+#include "exchange/Addresses.h"
 #include "exchange/Blanks.h"
 #include "exchange/QtiItemWriter.h"
 #include "exchange/QuestionParts.h"
@@ -40,6 +41,7 @@ bool QtiItemReader::Read(pugi::xml_node item, ExchangedQuestion& question) {
     tools_.notes.Tell(text_id::kExchangeFeedback);
     feedback.parent().remove_child(feedback);
   }
+  MakeLinksOfObjects();
   TakeRubrics(question);
   question.kind = QuestionKind::Essay;
   TakeInline(question);
@@ -78,6 +80,18 @@ std::u16string QtiItemReader::Html(pugi::xml_node element, ExchangedQuestion& qu
       element.find_child([](pugi::xml_node child) { return child.type() == pugi::node_element; }));
   // Without elements it has been unescaped already.
   return html_.Read(hasElements ? html : EscapeHtml(html), question);
+}
+
+/// Sounds and other media are objects, which a page would run.
+void QtiItemReader::MakeLinksOfObjects() {
+  for (pugi::xml_node object : ElementsBelow(body_, {"object"})) {
+    const std::string address(ValueOf(object, "data"));
+    if (address.empty() || IsOfTheNet(TextOf(address))) continue;
+    pugi::xml_node link = object.parent().insert_child_before("a", object);
+    link.append_attribute("href").set_value(address.c_str());
+    link.append_child(pugi::node_pcdata).set_value(address.c_str());
+    object.parent().remove_child(object);
+  }
 }
 
 /// What is for those who mark the answers is the model answer; the rest belongs to the text.
@@ -163,7 +177,9 @@ void QtiItemReader::TakeChoices(pugi::xml_node interaction, ExchangedQuestion& q
     }
     const bool isRight = std::ranges::find(correct, ValueOf(choice, "identifier")) != correct.end();
     hasRight = hasRight || isRight;
+    const std::size_t files = question.files.size();
     question.options.push_back({Html(choice, question), isRight});
+    TellFilesOfOption(question, files, tools_.notes);
   }
   if (!hasRight && !question.options.empty()) tools_.notes.Tell(text_id::kExchangeNoRightRead);
 }

@@ -128,7 +128,7 @@ std::optional<ExchangedFile> QtiPackage::Keep(const std::string& name) {
 }
 
 bool PackageMentions(const ExchangeSource& source, std::initializer_list<std::string_view> words) {
-  std::string text = source.Head();
+  std::string text = source.HeadOfXml();
   if (IsZip(source)) {
     const ZipPackage zip(source.File());
     if (zip.Opened() != WordResult::Done) return false;

@@ -30,7 +30,7 @@ class QtiExamReading {
     for (const std::string& test : package_.PartsOfType({"imsqti_test_xmlv2", "imsqti_assessment_xmlv2"}))
       ReadTest(test, items);
     // Without a test, the manifest has the items in their order.
-    for (const std::string& name : package_.PartsOfType({"imsqti_item_xmlv2"})) {
+    for (const std::string& name : package_.PartsOfType({"imsqti_item_xmlv2", "imsqti_apipitem_xmlv2"})) {
       const bool isKnown =
           std::ranges::any_of(items, [&name](const ItemInTest& item) { return item.name == name; });
       if (!isKnown) items.push_back({name, std::nullopt});
@@ -90,14 +90,24 @@ class QtiExamReading {
   int notShuffled_ = 0;
 };
 
+/// QTI 3 has other names for everything.
+bool IsNextVersion(const ExchangeSource& source) {
+  return PackageMentions(source, {"imsqti_item_xmlv3", "imsqti_test_xmlv3", "<qti-assessment-item"});
+}
+
 }  // namespace
 
 bool LooksLikeQti(const ExchangeSource& source) {
-  return PackageMentions(
-      source, {"imsqti_item_xmlv2", "imsqti_test_xmlv2", "imsqti_assessment_xmlv2", "<assessmentItem"});
+  return PackageMentions(source, {"imsqti_item_xmlv2", "imsqti_apipitem_xmlv2", "imsqti_test_xmlv2",
+                                  "imsqti_assessment_xmlv2", "<assessmentItem", ":assessmentItem"}) ||
+         IsNextVersion(source);
 }
 
 std::optional<ExchangedExam> QtiReader::Read(const ExchangeSource& source, ReadingTools& tools) {
+  if (IsNextVersion(source)) {
+    tools.notes.Tell(text_id::kExchangeNextQti);
+    return std::nullopt;
+  }
   return QtiExamReading(source, tools).Read();
 }
 

@@ -22,6 +22,13 @@ namespace {
 
 constexpr char16_t kTab = u'\t';
 
+/// Without the line that tells some spreadsheets the separator.
+std::u16string_view WithoutSeparatorLine(std::u16string_view text) {
+  const std::size_t end = text.find(u'\n');
+  const bool isThere = text.starts_with(u"sep=") && end != text.npos && end <= 6;
+  return isThere ? text.substr(end + 1) : text;
+}
+
 /// Reads the rows below the names.
 class TableRows {
  public:
@@ -106,7 +113,8 @@ TableRow CellsOf(const ExchangedQuestion& question) {
 
 /// Nothing if the file does not begin with a row that names columns.
 std::optional<char16_t> SeparatorOfTable(const ExchangeSource& source) {
-  const std::u16string head = HeadText(source);
+  const std::u16string text = HeadText(source);
+  const std::u16string_view head = WithoutSeparatorLine(text);
   const char16_t separator = SeparatorOf(head);
   const auto rows = ReadTable(head, separator, 1);
   const bool isTable = !rows.empty() && ColumnsOf(rows[0]).IsUsable();
@@ -126,7 +134,8 @@ bool LooksLikeTabTable(const ExchangeSource& source) {
 std::optional<ExchangedExam> TableReader::Read(const ExchangeSource& source, ReadingTools& tools) {
   const auto text = ReadSourceText(source, tools);
   if (!text) return std::nullopt;
-  const std::vector<TableRow> rows = ReadTable(*text, SeparatorOf(*text), kMaxReadQuestions + 1);
+  const std::u16string_view table = WithoutSeparatorLine(*text);
+  const std::vector<TableRow> rows = ReadTable(table, SeparatorOf(table), kMaxReadQuestions + 1);
   TableColumns columns = rows.empty() ? TableColumns{} : ColumnsOf(rows[0]);
   const std::size_t first = columns.IsUsable() ? 1 : 0;
   if (first == 0) columns = ColumnsByShape(rows);

@@ -34,6 +34,20 @@ bool IsNestedTooDeeply(pugi::xml_node root) {
   }
 }
 
+/// Text in a code page that the parser does not know becomes UTF-8. False if that is not needed.
+bool ToUtf8(std::string& bytes, ExchangeNotes& notes) {
+  std::string head = bytes.substr(0, bytes.substr(0, 200).find("?>"));
+  std::ranges::transform(head, head.begin(),
+                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
+  const bool isKnown = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
+                       head.find("iso-8859-1\"") != head.npos || head.find("iso-8859-1'") != head.npos;
+  if (isKnown || IsUtf8(bytes)) return false;
+  bool isGuessed = false;
+  bytes = Utf16ToUtf8(DecodeText(bytes, isGuessed));
+  if (head.find("windows-1252") == head.npos) notes.Tell(text_id::kExchangeEncodingGuessed);
+  return true;
+}
+
 }  // namespace
 
 void XmlWriter::OpenTag(std::string_view name, XmlAttributes attributes, std::string_view end) {
@@ -165,7 +179,9 @@ bool ParseForeignXml(std::string bytes, pugi::xml_document& document, ExchangeNo
   }
   // Blanks between two words in bold are text, too.
   constexpr unsigned kOptions = pugi::parse_default | pugi::parse_ws_pcdata;
-  const auto parsed = document.load_buffer(bytes.data(), bytes.size(), kOptions);
+  const bool isText = ToUtf8(bytes, notes);
+  const auto parsed = document.load_buffer(bytes.data(), bytes.size(), kOptions,
+                                           isText ? pugi::encoding_utf8 : pugi::encoding_auto);
   if (parsed && !IsNestedTooDeeply(document)) return true;
   notes.Tell(text_id::kExchangeDamaged);
   return false;

@@ -968,5 +968,6 @@ constexpr int kExchangeOneOptionBecomesEssay = 2213;
 constexpr int kExchangeNoneRightBecomesEssay = 2214;
 constexpr int kExchangeFileRenamed = 2215;  // %1 is the old name, %2 the new one
 constexpr int kExchangeBlankScores = 2216;  // %1 is the score that it gets
+constexpr int kExchangeNextQti = 2217;
 
 }  // namespace quorvantis::text_id

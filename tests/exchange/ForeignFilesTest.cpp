@@ -52,6 +52,9 @@ const ForeignRow kGift[] = {
      "choice a < b\\nc | +&lt;b> | -c\n",
      "question 1: what a browser would run (scripts, forms, embedded pages) is left out\n"
      "question 1: what is not in the file is not fetched and is left out: http://x/y.png\n"},
+    {"$CATEGORY: one\n\nOpen {\n\n =a\n\n ~b\n\n}\n::R::Below {T}\n\n$CATEGORY: two\n\nLast {F}\n",
+     "choice Open | +a | -b\nchoice Below | +True | -False\nchoice Last | -True | +False\n",
+     "questions of several categories are read into one exam; the name of this one is left out: two\n"},
     {"caf\xE9 {=x ~y}", "choice caf\xC3\xA9 | +x | -y\n",
      "the text is not UTF-8; it was read as Windows text of Western Europe\n"},
 };
@@ -59,12 +62,15 @@ const ForeignRow kGift[] = {
 const ForeignRow kAiken[] = {
     {"What is it?\r\nA) one\r\nB) two\r\nANSWER: B\r\n\r\nLines\nof text\na. x\nmore\nb. y\nanswer: a",
      "choice What is it? | -one | +two\nchoice Lines\\nof text | +x\\nmore | -y\n"},
+    {"Q\nA. a\nB. b\n\nR\nA. c\nB. d\n\nANSWER: A\n", "choice Q | -a | -b\nchoice R | +c | -d\n",
+     "question 1: it has no right option\n"},
     {"Q\nA. a\nB. b\nANSWER: D\n\nrest", "choice Q | -a | -b\n",
      "question 1: it has no right option\nquestion 2: a part could not be read and is left out: rest\n"},
 };
 
 const ForeignRow kTables[] = {
     {"Question;Option 1;Option 2;Correct\n\"a;\"\"b\"\"\nc\";'=x;y;2\n", "choice a;\"b\"\\nc | -=x | +y\n"},
+    {"sep=;\nQuestion;A;B;right\nq;x;y;A\n", "choice q | +x | -y\n"},
     {"kind,question,A,B,right\nmcq,q,Bad,y,Bad\nodd,q,,,\n", "choice q | +Bad | -y\nessay q\n",
      "question 2: the kind \xE2\x80\x9Codd\xE2\x80\x9D is not known\n"},
 };
@@ -161,6 +167,22 @@ TEST(ForeignFiles, MoodleXml) {
   EXPECT_EQ(BytesOf(read.exam->questions[0].files[0]), "abcd");
 }
 
+TEST(ForeignFiles, MoodleXmlInOtherEncodings) {
+  const std::u16string quiz =
+      u"<?xml version=\"1.0\"?><quiz><question type='essay'><questiontext "
+      u"format='html'><text>\u201C\u00E9</text>"
+      u"</questiontext></question></quiz>";
+  std::string utf16 = "\xFF\xFE";
+  std::string windows;
+  for (const char16_t unit : quiz) {
+    utf16.append({static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)});
+    windows.push_back(static_cast<char>(unit == u'\u201C' ? 0x93 : unit));
+  }
+  ForeignReader reader;
+  EXPECT_EQ(reader.Read(utf16).questions, "essay \xE2\x80\x9C\xC3\xA9\n");
+  EXPECT_EQ(reader.Read(windows).questions, "essay \xE2\x80\x9C\xC3\xA9\n");
+}
+
 std::string Package(std::initializer_list<std::pair<const char*, std::string>> parts) {
   ZipWriter zip;
   for (const auto& [name, bytes] : parts) zip.Add(name, bytes);
@@ -194,6 +216,22 @@ TEST(ForeignFiles, Qti2) {
             "question 3: questions of the type \xE2\x80\x9CsliderInteraction\xE2\x80\x9D cannot be read; "
             "left out: S\n");
   EXPECT_EQ(reader.Read(item).format, "qti");
+  EXPECT_EQ(reader.Read("<qti-assessment-item><qti-item-body/></qti-assessment-item>").notes,
+            "this is QTI 3, which is not read; export it as QTI 2.1\n");
+}
+
+TEST(ForeignFiles, Qti2WithSounds) {
+  ForeignReader reader;
+  const ForeignFile read = reader.Read(Package(
+      {{"imsmanifest.xml",
+        "<manifest><resources><resource type='imsqti_apipitem_xmlv2p1' "
+        "href='i.xml'/></resources></manifest>"},
+       {"i.xml",
+        "<q:assessmentItem xmlns:q='x'><q:itemBody><q:p>Hear<q:object data='s.mp3' type='audio/mpeg'/></q:p>"
+        "<q:extendedTextInteraction/></q:itemBody></q:assessmentItem>"},
+       {"s.mp3", "ID3"}}));
+  EXPECT_EQ(read.questions, "essay Hear @s.mp3\n");
+  EXPECT_EQ(read.notes, "question 1: its formatting is simplified\n");  // names with a prefix are no HTML
 }
 
 TEST(ForeignFiles, Qti1) {
