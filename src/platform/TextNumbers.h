@@ -969,5 +969,32 @@ constexpr int kExchangeNoneRightBecomesEssay = 2214;
 constexpr int kExchangeFileRenamed = 2215;  // %1 is the old name, %2 the new one
 constexpr int kExchangeBlankScores = 2216;  // %1 is the score that it gets
 constexpr int kExchangeNextQti = 2217;
+// The window of the bank
+constexpr int kBankEntry = 2430;
+constexpr int kBankTitle = 2431;
+constexpr int kBankWords = 2432;
+constexpr int kBankWordsTip = 2433;
+constexpr int kBankKind = 2434;
+constexpr int kBankAllKinds = 2435;
+constexpr int kBankWithFiles = 2436;
+constexpr int kBankWithKey = 2437;
+constexpr int kBankHits = 2438;
+constexpr int kBankQuestion = 2439;
+constexpr int kBankInsert = 2440;
+constexpr int kBankShow = 2441;
+constexpr int kBankOpenExam = 2442;
+constexpr int kBankFolders = 2443;
+constexpr int kBankFoldersTitle = 2444;
+constexpr int kBankAddFolder = 2445;
+constexpr int kBankRemoveFolder = 2446;
+constexpr int kBankUnreadExams = 2447;
+constexpr int kBankFolderUnread = 2448;
+constexpr int kBankHeading = 2449;
+constexpr int kBankFound = 2450;
+constexpr int kBankFoundMany = 2451;
+constexpr int kBankNothing = 2452;
+constexpr int kBankNoFolders = 2453;
+constexpr int kBankUpdating = 2454;
+constexpr int kBankChanged = 2455;
 
 }  // namespace quorvantis::text_id

@@ -122,6 +122,9 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
                [this](const std::filesystem::path& page) { PrintPage(page); }}),
       versions_(editor_, check_, *this, library == nullptr ? 0 : languageId),
       exchange_(editor_, life_.Steps(), *this),
+      bank_(
+          editor_, shownQuestion_, IsRightToLeft(languageId),
+          [this]() -> PreviewWindow& { return RenewFor({}); }, *this),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       somethingIsWrong_(new WindowNotice("somethingIsWrong", QStyle::SP_MessageBoxWarning, client_)),
       printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
@@ -201,6 +204,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.search = &search_;
   commands.sheets = &sheets_;
   commands.check = &check_;
+  commands.bank = [this] { bank_.Open(); };
   commands.canUndoImport = [this] { return import_.CanUndo(); };
   commands.undoImport = [this] { importWindows_.Undo(import_); };
   commands.versions = [this] { versions_.MakeVersions(); };

@@ -5,6 +5,7 @@
 #include "desktop/controls/Pictures.h"
 #include "desktop/import/ImportWindows.h"
 #include "desktop/main/AnswerControls.h"
+#include "desktop/main/BankCommands.h"
 #include "desktop/main/CheckCommands.h"
 #include "desktop/main/ExamControls.h"
 #include "desktop/main/ExchangeCommands.h"
@@ -167,6 +168,7 @@ class CQuorvantisDlg final : public FittedWindow,
   SheetCommands sheets_;
   VersionCommands versions_;
   ExchangeCommands exchange_;
+  BankCommands bank_;
   WindowNotice* recoveryFails_;
   WindowNotice* somethingIsWrong_;
   WindowNotice* printComes_;

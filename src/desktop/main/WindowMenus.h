@@ -34,6 +34,7 @@ class WindowMenus {
     SearchCommands* search;
     SheetCommands* sheets;
     CheckCommands* check;
+    std::function<void()> bank;
     std::function<bool()> canUndoImport;
     std::function<void()> undoImport;
     std::function<void()> versions;

@@ -3,7 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "desktop/overview/KindCaption.h"
+#include "desktop/controls/KindCaption.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

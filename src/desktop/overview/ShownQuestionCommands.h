@@ -37,6 +37,9 @@ class ShownQuestionCommands {
   void Copy() { commands_.Copy(Shown()); }
   void Paste() { commands_.Paste(); }
   void InsertFromExam() { commands_.InsertFromExam(&window_); }
+  QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers) {
+    return commands_.InsertFrom(other, numbers);
+  }
 
   /// Whether the commands can act. The last one looks at the clipboard, which takes a moment.
   bool CanMoveUp() const;

@@ -149,7 +149,11 @@ QString WholeQuestionCommands::InsertFromExam(QWidget* parent) {
   InsertFromExamDlg dialog(other, {PlaceToInsert(), editor_.order.RoomAfter(PlaceToInsert())},
                            Services().strings, parent);
   if (dialog.exec() != QDialog::Accepted) return {};
-  TakenQuestions taken = other.Take(dialog.Ticked());
+  return InsertFrom(other, dialog.Ticked());
+}
+
+QString WholeQuestionCommands::InsertFrom(const OtherExam& other, const std::vector<int>& numbers) {
+  TakenQuestions taken = other.Take(numbers);
   return taken.problem.empty() ? Insert(std::move(taken.questions), ChangeKind::TakeQuestion)
                                : Refuse(taken.problem);
 }

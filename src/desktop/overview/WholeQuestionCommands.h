@@ -11,6 +11,8 @@
 
 namespace quorvantis {
 
+class OtherExam;
+
 /// The commands of the windows for whole questions. Each is one command of the editor; problems are shown to
 /// the user. Lists of numbers are ascending. The results are for a status line: what was done, and which
 /// questions have another score since; empty if nothing was done.
@@ -34,6 +36,8 @@ class WholeQuestionCommands {
   QString Paste();
   /// Asks for an exam file and for questions in it; they come after the question that is shown.
   QString InsertFromExam(QWidget* parent);
+  /// Questions of another exam, by their numbers, after the question that is shown.
+  QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers);
 
   bool CanPaste() const { return clipboard_.HasQuestions(); }
   int LastQuestion() const { return editor_.order.LastQuestion(); }

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/bank/BankDesk.h"
+
+#include "desktop/controls/QtText.h"
+#include "model/document/ExamServices.h"
+#include "platform/Progress.h"
+
+#include <chrono>
+#include <set>
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+constexpr int kQuietFolders = 1'500;                    // milliseconds without a change
+constexpr auto kSlice = std::chrono::milliseconds(50);  // between two looks at whether to go on
+constexpr std::size_t kMostWatched = 4'000;             // folders; the system has a limit of its own
+
+/// What work on another thread needs: it shows no progress, and nobody cancels it through this.
+class SilentProgress : public Progress {
+ public:
+  void Report(std::uint64_t, std::uint64_t) override {}
+  bool IsCancelled() override { return false; }
+};
+
+ExamServices OwnServices(const ExamServices& services, Progress& progress) {
+  return {services.applicationFolder,
+          services.strings,
+          services.dialogs,
+          services.codePage,
+          services.debug,
+          services.files,
+          progress,
+          services.longAnswerFlags,
+          services.ids,
+          services.registry,
+          services.pages};
+}
+
+/// The folders of the bank and those that hold its exams, with all between them: a new folder shows in the
+/// one that it is in.
+std::vector<std::filesystem::path> FoldersToWatch(const BankIndex& index) {
+  std::set<std::filesystem::path> folders;
+  BankProblem ignored;
+  const auto roots = index.Folders();
+  folders.insert(roots.begin(), roots.end());
+  for (const BankExam& exam : index.Exams(ignored)) {
+    for (auto folder = exam.path.parent_path(); folder.has_relative_path(); folder = folder.parent_path()) {
+      if (!folders.insert(folder).second) break;
+    }
+  }
+  return {folders.begin(), folders.end()};
+}
+
+}  // namespace
+
+BankDesk::BankDesk(BankPlace place, const ExamServices& services, const FileDigest& digest, QObject* parent)
+    : QObject(parent),
+      place_(std::move(place)),
+      services_(services),
+      digest_(digest),
+      search_(nullptr),
+      update_(nullptr) {
+  whenQuiet_.setSingleShot(true);
+  whenQuiet_.setInterval(kQuietFolders);
+  connect(&whenQuiet_, &QTimer::timeout, this, &BankDesk::Update);
+  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] { whenQuiet_.start(); });
+  connect(&update_, &BackgroundRun::Changed, this, &BankDesk::UpdateChanged);
+}
+
+BankDesk::~BankDesk() {
+  search_.disconnect(this);
+  update_.disconnect(this);
+}
+
+std::optional<BankIndex> BankDesk::Opened(BankProblem& problem) const {
+  return BankIndex::Open(place_, services_.files, problem);
+}
+
+void BankDesk::Find(const BankQuery& query) {
+  search_.Start([this, query](const BackgroundRun::Cancelled&) -> BackgroundRun::Finish {
+    auto hits = std::make_shared<BankHits>();
+    SilentProgress progress;
+    ExamServices services = OwnServices(services_, progress);
+    if (auto index = Opened(hits->problem))
+      *hits = BankSearch(*index, services, digest_).Find(query, kMostHits);
+    return [this, hits] {
+      hits_ = hits;
+      emit Found();
+    };
+  });
+}
+
+void BankDesk::Update() {
+  if (update_.IsRunning()) {
+    isUpdateDue_ = true;
+    return;
+  }
+  isUpdateDue_ = false;
+  *examsRead_ = 0;
+  *examsToRead_ = 0;
+  const auto job = [this, read = examsRead_, toRead = examsToRead_](
+                       const BackgroundRun::Cancelled& isCancelled) -> BackgroundRun::Finish {
+    auto report = std::make_shared<BankUpdateReport>();
+    auto folders = std::make_shared<std::vector<std::filesystem::path>>();
+    SilentProgress progress;
+    ExamServices services = OwnServices(services_, progress);
+    if (auto index = Opened(report->problem)) {
+      BankUpdate update(*index, services, digest_);
+      while (!isCancelled() && update.Step(kSlice)) {
+        *read = update.Report().examsDone;
+        *toRead = update.Report().examsFound;
+      }
+      *report = update.Report();
+      *folders = FoldersToWatch(*index);
+    }
+    return [this, report, folders] {
+      report_ = report;
+      Watch(*folders);
+      emit Updated();
+      if (isUpdateDue_) whenQuiet_.start();
+    };
+  };
+  update_.Start(job);
+}
+
+void BankDesk::Watch(const std::vector<std::filesystem::path>& folders) {
+  QStringList paths;
+  for (const auto& folder : folders) {
+    if (static_cast<std::size_t>(paths.size()) == kMostWatched) break;
+    paths.append(PathToQString(folder));
+  }
+  if (!watcher_.directories().isEmpty()) watcher_.removePaths(watcher_.directories());
+  if (!paths.isEmpty()) watcher_.addPaths(paths);
+}
+
+std::vector<std::filesystem::path> BankDesk::Folders() const {
+  BankProblem problem;
+  const auto index = Opened(problem);
+  return index ? index->Folders() : std::vector<std::filesystem::path>();
+}
+
+BankProblem BankDesk::Change(const std::function<BankProblem(BankIndex&)>& change) {
+  BankProblem problem;
+  auto index = Opened(problem);
+  if (index) problem = change(*index);
+  if (!problem.IsAnything()) Update();
+  return problem;
+}
+
+BankProblem BankDesk::AddFolder(const std::filesystem::path& folder) {
+  return Change([&folder](BankIndex& index) { return index.AddFolder(folder); });
+}
+
+BankProblem BankDesk::RemoveFolder(const std::filesystem::path& folder) {
+  return Change([&folder](BankIndex& index) {
+    bool wasThere = false;
+    return index.RemoveFolder(folder, wasThere);
+  });
+}
+
+std::vector<BankExam> BankDesk::DamagedExams(BankProblem& problem) const {
+  const auto index = Opened(problem);
+  return index ? index->DamagedExams(problem) : std::vector<BankExam>();
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/bank/BankHitsModel.h"
+
+#include "desktop/controls/KindCaption.h"
+#include "desktop/controls/QtText.h"
+#include "platform/TextNumbers.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+
+#include <QDateTime>
+
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::int64_t kNanosecondsInMillisecond = 1'000'000;
+
+QString DayOf(const BankExam& exam) {
+  const QDateTime time = QDateTime::fromMSecsSinceEpoch(exam.written / kNanosecondsInMillisecond);
+  return time.date().toString(Qt::ISODate);
+}
+
+QString NameOf(const BankExam& exam) {
+  const QString title = ToQString(exam.title).simplified();
+  return title.isEmpty() ? PathToQString(exam.path.stem()) : title;
+}
+
+}  // namespace
+
+void BankHitsModel::Show(std::vector<BankHit> hits) {
+  beginResetModel();
+  hits_ = std::move(hits);
+  excerpts_.clear();
+  excerpts_.reserve(hits_.size());
+  for (const BankHit& hit : hits_) excerpts_.push_back(ExcerptOf(hit));
+  endResetModel();
+}
+
+QString BankHitsModel::HeadingOf(const BankHit& hit) const {
+  const BankQuestion& question = hit.question;
+  const std::u16string kind = FromQString(KindCaption(question.kind, strings_));
+  return ToQString(FillMessage(strings_.Text(text_id::kBankHeading),
+                               {FromQString(NameOf(question.exam)), FormatInteger(question.number), kind,
+                                FromQString(DayOf(question.exam))}));
+}
+
+int BankHitsModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(hits_.size());
+}
+
+QVariant BankHitsModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || index.row() >= rowCount()) return {};
+  const auto row = static_cast<std::size_t>(index.row());
+  switch (role) {
+    case Qt::DisplayRole:
+      return QString(HeadingOf(hits_[row]) + ": " + ToQString(excerpts_[row].text));
+    case Qt::ToolTipRole:
+      return PathToQString(hits_[row].question.exam.path);
+    case HeadingRole:
+      return HeadingOf(hits_[row]);
+    case ExcerptRole:
+      return ToQString(excerpts_[row].text);
+    case MarksRole:
+      return MarksToVariant(excerpts_[row].marks);
+    default:
+      return {};
+  }
+}
+
+QVariant MarksToVariant(const std::vector<TextSpan>& marks) {
+  QVariantList numbers;
+  for (const TextSpan& mark : marks) numbers << static_cast<int>(mark.begin) << static_cast<int>(mark.Size());
+  return numbers;
+}
+
+std::vector<TextSpan> MarksFromVariant(const QVariant& marks) {
+  const QVariantList numbers = marks.toList();
+  std::vector<TextSpan> spans;
+  for (qsizetype i = 0; i + 1 < numbers.size(); i += 2) {
+    const auto begin = static_cast<std::size_t>(numbers[i].toInt());
+    spans.push_back({begin, begin + static_cast<std::size_t>(numbers[i + 1].toInt())});
+  }
+  return spans;
+}
+
+}  // namespace quorvantis

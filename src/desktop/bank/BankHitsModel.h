@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "bank/search/BankSearch.h"
+#include "desktop/bank/BankHitText.h"
+#include "platform/StringTable.h"
+
+#include <QAbstractListModel>
+
+#include <vector>
+
+namespace quorvantis {
+
+/// The questions that a search of the bank has found, the best first.
+class BankHitsModel : public QAbstractListModel {
+  Q_OBJECT
+
+ public:
+  /// What a row shows beside its whole text, which is its DisplayRole.
+  enum Role { HeadingRole = Qt::UserRole, ExcerptRole, MarksRole };
+
+  /// `strings` must outlive the model.
+  BankHitsModel(const StringTable& strings, QObject* parent)
+      : QAbstractListModel(parent), strings_(strings) {}
+
+  void Show(std::vector<BankHit> hits);
+  const BankHit& HitAt(int row) const { return hits_.at(static_cast<std::size_t>(row)); }
+
+  /// "Biology, spring — 12, choice, 2 files".
+  QString HeadingOf(const BankHit& hit) const;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+
+ private:
+  const StringTable& strings_;
+  std::vector<BankHit> hits_;
+  std::vector<BankHitText> excerpts_;  ///< one a hit
+};
+
+/// Qt's values hold marks as numbers: begin and length of each.
+QVariant MarksToVariant(const std::vector<TextSpan>& marks);
+std::vector<TextSpan> MarksFromVariant(const QVariant& marks);
+
+}  // namespace quorvantis

@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/bank/BankWindow.h"
+
+#include "desktop/bank/BankFoldersDlg.h"
+#include "desktop/bank/BankHitDelegate.h"
+#include "desktop/controls/CompanionWindow.h"
+#include "desktop/controls/Controls.h"
+#include "desktop/controls/QtText.h"
+#include "model/document/ExamServices.h"
+#include "platform/TextNumbers.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+
+#include <QBoxLayout>
+#include <QHideEvent>
+#include <QKeyEvent>
+#include <QSplitter>
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+constexpr QSize kFirstBankSize(720, 560);  // pixels
+constexpr int kPauseInTyping = 120;        // milliseconds
+constexpr int kBetweenLooks = 300;         // milliseconds
+
+std::u16string Counted(std::size_t count) {
+  return FormatInteger(static_cast<std::int64_t>(count));
+}
+
+QList<QTextEdit::ExtraSelection> SelectionsOf(const BankHitText& marked, const QTextEdit& edit) {
+  QList<QTextEdit::ExtraSelection> selections;
+  for (const TextSpan& mark : marked.marks) {
+    QTextEdit::ExtraSelection selection;
+    selection.cursor = QTextCursor(edit.document());
+    selection.cursor.setPosition(static_cast<int>(mark.begin));
+    selection.cursor.setPosition(static_cast<int>(mark.end), QTextCursor::KeepAnchor);
+    selection.format.setFontWeight(QFont::Bold);
+    selection.format.setFontUnderline(true);
+    selections.append(selection);
+  }
+  return selections;
+}
+
+}  // namespace
+
+BankWindow::BankWindow(BankDesk& desk, const ExamServices& services, BankActions actions, QWidget* parent)
+    : QDialog(parent, Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      desk_(desk),
+      strings_(services.strings),
+      actions_(std::move(actions)),
+      place_(services.applicationFolder, services.files, u"bank"),
+      model_(services.strings, nullptr),
+      query_(new BankQueryLine(services.strings, this)),
+      list_(new QListView(this)),
+      whole_(new QTextEdit(this)),
+      status_(new QLabel(this)),
+      insert_(MakeButton("bankInsert", text_id::kBankInsert, &BankWindow::Insert)),
+      show_(MakeButton("bankShow", text_id::kBankShow, &BankWindow::ShowPage)),
+      openExam_(MakeButton("bankOpenExam", text_id::kBankOpenExam, &BankWindow::OpenExam)),
+      folders_(MakeButton("bankEditFolders", text_id::kBankFolders, &BankWindow::EditFolders)) {
+  setObjectName("bankWindow");
+  setWindowTitle(Text(text_id::kBankTitle));
+  SetUpList();
+  NameControl(whole_, "bankQuestion", Text(text_id::kBankQuestion));
+  whole_->setReadOnly(true);
+  whole_->setTabChangesFocus(true);
+  NameControl(status_, "bankStatus", {});
+  status_->setTextFormat(Qt::PlainText);
+  status_->setWordWrap(true);
+  whenQuiet_.setSingleShot(true);
+  whenQuiet_.setInterval(kPauseInTyping);
+  whileUpdating_.setInterval(kBetweenLooks);
+  PlaceControls();
+  RestorePlace();
+  Connect();
+  ShowChosen();
+}
+
+BankWindow::~BankWindow() {
+  if (isVisible()) KeepPlace();
+  desk_.disconnect(this);
+}
+
+QPushButton* BankWindow::MakeButton(const char* name, int text, void (BankWindow::*command)()) {
+  auto* button = new QPushButton(Text(text), this);
+  NameControl(button, name, button->text());
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, command);
+  return button;
+}
+
+void BankWindow::SetUpList() {
+  NameControl(list_, "bankHits", Text(text_id::kBankHits));
+  list_->setModel(&model_);
+  list_->setItemDelegate(new BankHitDelegate(list_));
+  list_->setUniformItemSizes(true);
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list_->setAlternatingRowColors(true);
+  list_->installEventFilter(this);
+}
+
+void BankWindow::PlaceControls() {
+  auto* sides = new QSplitter(Qt::Vertical, this);
+  sides->addWidget(list_);
+  sides->addWidget(whole_);
+  sides->setStretchFactor(0, 2);
+  sides->setStretchFactor(1, 1);
+  sides->setChildrenCollapsible(false);
+  auto* buttons = new QHBoxLayout;
+  for (QPushButton* button : {insert_, show_, openExam_}) buttons->addWidget(button);
+  buttons->addStretch();
+  buttons->addWidget(folders_);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(query_);
+  layout->addWidget(sides, 1);
+  layout->addWidget(status_);
+  layout->addLayout(buttons);
+}
+
+void BankWindow::Connect() {
+  connect(query_, &BankQueryLine::QueryChanged, &whenQuiet_, qOverload<>(&QTimer::start));
+  connect(query_, &BankQueryLine::Left, this, [this] {
+    if (whenQuiet_.isActive()) Search();
+    list_->setFocus();
+  });
+  connect(&whenQuiet_, &QTimer::timeout, this, &BankWindow::Search);
+  connect(&whileUpdating_, &QTimer::timeout, this, &BankWindow::ShowState);
+  connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &BankWindow::ShowChosen);
+  connect(list_, &QListView::doubleClicked, this, &BankWindow::Insert);
+  connect(&desk_, &BankDesk::Found, this, &BankWindow::ShowHits);
+  connect(&desk_, &BankDesk::Updated, this, &BankWindow::Search);
+  connect(&desk_, &BankDesk::UpdateChanged, this, &BankWindow::ShowState);
+}
+
+void BankWindow::Appear() {
+  const bool wasHidden = !isVisible();
+  show();
+  raise();
+  activateWindow();
+  query_->FocusWords();
+  if (!wasHidden) return;
+  Search();
+  desk_.Update();
+}
+
+void BankWindow::Search() {
+  whenQuiet_.stop();
+  if (!isVisible()) return;
+  desk_.Find(query_->Query());
+}
+
+/// The question that was chosen stays so while it is found.
+void BankWindow::ShowHits() {
+  const std::vector<BankHit>& hits = desk_.Hits().hits;
+  const std::int64_t chosen = kept_;
+  model_.Show(hits);
+  const auto same = std::ranges::find(hits, chosen, [](const BankHit& hit) { return hit.question.id; });
+  const auto row = same == hits.end() ? 0 : same - hits.begin();
+  if (!hits.empty()) list_->setCurrentIndex(model_.index(static_cast<int>(row)));
+  ShowChosen();
+  ShowState();
+}
+
+const BankHit* BankWindow::Chosen() const {
+  const QModelIndex current = list_->currentIndex();
+  return current.isValid() ? &model_.HitAt(current.row()) : nullptr;
+}
+
+void BankWindow::ShowChosen() {
+  const BankHit* const hit = Chosen();
+  for (QPushButton* button : {insert_, show_, openExam_}) button->setEnabled(hit != nullptr);
+  kept_ = hit == nullptr ? 0 : hit->question.id;
+  told_.clear();
+  const BankHitText whole = hit == nullptr ? BankHitText() : WholeTextOf(*hit);
+  const QString text = ToQString(whole.text);
+  QTextOption option = whole_->document()->defaultTextOption();
+  option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+  whole_->document()->setDefaultTextOption(option);
+  whole_->setPlainText(text);
+  whole_->setExtraSelections(SelectionsOf(whole, *whole_));
+}
+
+QString BankWindow::StateOfSearch() const {
+  const BankHits& hits = desk_.Hits();
+  if (hits.problem.IsAnything()) return ToQString(ProblemText(hits.problem, strings_));
+  if (hits.total == 0) return Text(desk_.Folders().empty() ? text_id::kBankNoFolders : text_id::kBankNothing);
+  if (hits.total <= hits.hits.size())
+    return ToQString(FillMessage(strings_.Text(text_id::kBankFound), {Counted(hits.hits.size())}));
+  return ToQString(
+      FillMessage(strings_.Text(text_id::kBankFoundMany), {Counted(hits.total), Counted(hits.hits.size())}));
+}
+
+QString BankWindow::StateOfUpdate() const {
+  if (desk_.IsUpdating()) {
+    const BankDesk::Done done = desk_.UpdateDone();
+    return ToQString(
+        FillMessage(strings_.Text(text_id::kBankUpdating), {Counted(done.exams), Counted(done.of)}));
+  }
+  return ToQString(ProblemText(desk_.LastUpdate().problem, strings_));
+}
+
+void BankWindow::ShowState() {
+  desk_.IsUpdating() ? whileUpdating_.start() : whileUpdating_.stop();
+  QStringList parts{told_.isEmpty() ? StateOfSearch() : told_, StateOfUpdate()};
+  parts.removeAll(QString());
+  const QString state = parts.join(' ');
+  if (state == status_->text()) return;
+  status_->setText(state);
+  status_->setAccessibleName(state);
+}
+
+void BankWindow::Insert() {
+  const BankHit* const hit = Chosen();
+  if (hit == nullptr) return;
+  told_ = actions_.insert(hit->question);
+  ShowState();
+}
+
+void BankWindow::ShowPage() {
+  if (const BankHit* const hit = Chosen()) actions_.show(hit->question);
+}
+
+void BankWindow::OpenExam() {
+  if (const BankHit* const hit = Chosen()) actions_.openExam(BankQuestion(hit->question));
+}
+
+void BankWindow::EditFolders() {
+  BankFoldersDlg(desk_, strings_, this).exec();
+  Search();
+}
+
+bool BankWindow::event(QEvent* event) {
+  return DecideShortcut(*event) || QDialog::event(event);
+}
+
+/// Enter inserts what is chosen; upwards from the first row leads back to the words.
+bool BankWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == list_ && event->type() == QEvent::KeyPress) {
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
+      Insert();
+      return true;
+    }
+    if (key.key() == Qt::Key_Up && list_->currentIndex().row() <= 0) {
+      query_->FocusWords();
+      return true;
+    }
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+void BankWindow::hideEvent(QHideEvent* event) {
+  if (!event->spontaneous()) {
+    KeepPlace();
+    desk_.CancelUpdate();
+  }
+  QDialog::hideEvent(event);
+}
+
+void BankWindow::RestorePlace() {
+  resize(kFirstBankSize);
+  move(PlaceBeside(*parentWidget(), size()));
+  const WindowPlace kept = place_.Read();
+  ReturnToPlace(*this, {kept.x, kept.y, kept.width, kept.height});
+}
+
+void BankWindow::KeepPlace() const {
+  place_.Write({x(), y(), width(), height()});
+}
+
+QString BankWindow::Text(int number) const {
+  return ToQString(strings_.Text(number));
+}
+
+}  // namespace quorvantis

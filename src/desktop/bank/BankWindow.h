@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/bank/BankDesk.h"
+#include "desktop/bank/BankHitsModel.h"
+#include "desktop/bank/BankQueryLine.h"
+#include "shell/settings/WindowPlace.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QTimer>
+
+#include <functional>
+
+namespace quorvantis {
+
+/// What the window of the bank asks the program to do with a question.
+struct BankActions {
+  /// Inserts it after the question that is shown. Says what was done; empty if it was refused.
+  std::function<QString(const BankQuestion&)> insert;
+  /// Shows it as pupils see it.
+  std::function<void(const BankQuestion&)> show;
+  /// Opens its exam there.
+  std::function<void(const BankQuestion&)> openExam;
+};
+
+/// The bank of all exams, beside the main window: a line to search with, what was found, and the whole of the
+/// question that is chosen. Closing the window hides it.
+class BankWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `desk` and `services` must outlive the window. It belongs to `parent`, the main window.
+  BankWindow(BankDesk& desk, const ExamServices& services, BankActions actions, QWidget* parent);
+  ~BankWindow() override;
+
+  /// Shows the window, or brings it to the front, and looks whether the folders have changed.
+  void Appear();
+
+ protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  QPushButton* MakeButton(const char* name, int text, void (BankWindow::*command)());
+  void SetUpList();
+  void PlaceControls();
+  void Connect();
+  void Search();
+  void ShowHits();
+  void ShowChosen();
+  void ShowState();
+  QString StateOfSearch() const;
+  QString StateOfUpdate() const;
+  void Insert();
+  void ShowPage();
+  void OpenExam();
+  void EditFolders();
+  const BankHit* Chosen() const;
+  void RestorePlace();
+  void KeepPlace() const;
+  QString Text(int number) const;
+
+  BankDesk& desk_;
+  const StringTable& strings_;
+  const BankActions actions_;
+  WindowPlaceSetting place_;
+  BankHitsModel model_;
+  BankQueryLine* query_;
+  QListView* list_;
+  QTextEdit* whole_;
+  QLabel* status_;
+  QPushButton* insert_;
+  QPushButton* show_;
+  QPushButton* openExam_;
+  QPushButton* folders_;
+  QTimer whenQuiet_;  ///< runs while the user types
+  QTimer whileUpdating_;
+  QString told_;           ///< of the last command
+  std::int64_t kept_ = 0;  ///< the question that was chosen before the list changed
+};
+
+}  // namespace quorvantis

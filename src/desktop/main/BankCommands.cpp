@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/main/BankCommands.h"
+
+#include "editor/WorkCopies.h"
+#include "model/document/ExamServices.h"
+#include "platform/StringTable.h"
+#include "platform/TextNumbers.h"
+#include "platform/UserDialogs.h"
+#include "render/sheets/SheetPages.h"
+#include "taking/OtherExam.h"
+#include "taking/PrivateServices.h"
+#include "text/MessageText.h"
+#include "text/NumberText.h"
+#include "text/PathText.h"
+
+namespace quorvantis {
+namespace {
+
+/// The exam may have been saved since it was searched.
+bool IsStillThere(const OtherExam& other, const BankQuestion& question) {
+  if (question.number > other.QuestionCount()) return false;
+  const ExamQuestion& now = other.Exam().Question(question.number);
+  return now.text == question.text && now.options == question.options;
+}
+
+/// An exam of this question alone, for its page. Its files are those of `other`, which it must not outlive.
+class SingleQuestion {
+ public:
+  SingleQuestion(const OtherExam& other, const ExamServices& services, const ExamQuestion& question)
+      : services_(PrivateServices(services, other.Exam().Services().applicationFolder, messages_, flags_)),
+        exam_(services_) {
+    exam_.title = other.Exam().title;
+    exam_.Question(1) = question;
+    exam_.CountQuestions();
+  }
+
+  const FrameSetExam& Exam() const { return exam_; }
+
+ private:
+  CollectedMessages messages_;
+  LongAnswerFlags flags_;
+  ExamServices services_;
+  FrameSetExam exam_;
+};
+
+}  // namespace
+
+void BankCommands::Open() {
+  const ExamServices& services = editor_.state.document.Services();
+  if (!desk_) desk_ = std::make_unique<BankDesk>(UsualBankPlace(), services, digest_, nullptr);
+  if (!shown_) {
+    BankActions actions{[this](const BankQuestion& question) { return Insert(question); },
+                        [this](const BankQuestion& question) { Show(question); },
+                        [this](const BankQuestion& question) { OpenExam(question); }};
+    shown_ = new BankWindow(*desk_, services, std::move(actions), &window_);
+  }
+  shown_->Appear();
+}
+
+QString BankCommands::Insert(const BankQuestion& question) {
+  const ExamServices& services = editor_.state.document.Services();
+  const OtherExam other(services, AttachmentWorkRoot(services.applicationFolder), question.exam.path,
+                        editor_.attachments.TakeCopyNumber());
+  if (IsStillThere(other, question)) return questions_.InsertFrom(other, {question.number});
+  services.dialogs.ShowError(FillMessage(services.strings.Text(text_id::kBankChanged),
+                                         {PathToText(question.exam.path), FormatInteger(question.number)}));
+  return {};
+}
+
+void BankCommands::Show(const BankQuestion& question) {
+  const ExamServices& services = editor_.state.document.Services();
+  const OtherExam other(services, AttachmentWorkRoot(services.applicationFolder), question.exam.path,
+                        editor_.attachments.TakeCopyNumber());
+  if (!IsStillThere(other, question)) {
+    services.dialogs.ShowError(FillMessage(services.strings.Text(text_id::kBankChanged),
+                                           {PathToText(question.exam.path), FormatInteger(question.number)}));
+    return;
+  }
+  const SingleQuestion single(other, services, other.Exam().Question(question.number));
+  const auto page = WriteSheet(single.Exam(), {Sheet::Paper, {}, false, languageIsRightToLeft_});
+  PreviewWindow& window = renewPreview_();
+  window.Navigate(page);
+  window.Place(0, 0);
+  window.Show();
+}
+
+void BankCommands::OpenExam(const BankQuestion& question) {
+  editor_.files.OpenExam(question.exam.path);
+  if (editor_.state.FileName() == question.exam.path) editor_.questions.GoTo(question.number);
+}
+
+}  // namespace quorvantis
