@@ -2,8 +2,8 @@
 #include "desktop/overview/OverviewFilterLine.h"
 
 #include "desktop/controls/Controls.h"
-#include "desktop/controls/QtText.h"
 #include "desktop/controls/KindCaption.h"
+#include "desktop/controls/QtText.h"
 #include "model/QuestionKinds.h"
 #include "platform/TextNumbers.h"
 

@@ -2,8 +2,8 @@
 #include "desktop/overview/OverviewModel.h"
 
 #include "desktop/controls/Controls.h"
-#include "desktop/controls/QtText.h"
 #include "desktop/controls/KindCaption.h"
+#include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

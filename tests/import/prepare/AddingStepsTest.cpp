@@ -8,7 +8,7 @@ TEST(AddingSteps, PutInWhatIsMissing) {
   constexpr StepRow kRows[] = {
       {u"SoftBreaks", u"1. a\vb\v2. c", u"1. a|b|2. c"},
       {u"OpenAnswers", u"1. Why?||2. How?|Answer: so|3. A. x|B. y||",
-       u"1. Why?|⟦=⟧||2. How?|Answer: so|3. A. x|B. y|⟦=⟧||"},
+       u"1. Why?|⟦=⟧||2. How?|Answer: so|3. A. x|B. y|⟦=⟧"},
       {u"OpenAnswers", u"1. Why?|2.|Answer key|1. B", u"1. Why?|⟦=⟧|2.|Answer key|1. B"},
       {u"OpenAnswers", u"No question.", u"No question."},
       // Told by their options, by blank lines, by their answers.
@@ -36,7 +36,7 @@ TEST(AddingSteps, PutInWhatIsMissing) {
 }
 
 TEST(AddingSteps, WriteTheLineEndsOfTheText) {
-  CheckStep({u"OpenAnswers", u"1. Why?\r\n2. How?\r\n", u"1. Why?\r\n⟦=⟧\r\n2. How?\r\n⟦=⟧\r\n"});
+  CheckStep({u"OpenAnswers", u"1. Why?\r\n2. How?\r\n", u"1. Why?\r\n⟦=⟧\r\n2. How?\r\n⟦=⟧"});
   CheckStep({u"OpenAnswers", u"1. Why?\n2. How?", u"1. Why?\n⟦=⟧\n2. How?\n⟦=⟧"});
 }
 

@@ -102,7 +102,7 @@ class RandomPapers {
 bool MayGo(std::u16string_view step, char16_t unit) {
   if (step == u"BlankForms")
     return std::u16string_view(u"_.…□()（）[]").find(unit) != std::u16string_view::npos || IsBlank(unit);
-  if (step == u"TableOptions") return IsBlank(unit) || IsLineEnd(unit);
+  if (step == u"TableOptions" || step == u"OpenAnswers") return IsBlank(unit) || IsLineEnd(unit);
   if (step == u"PlainOptions")
     return IsBlank(unit) || std::u16string_view(u"-*□()").find(unit) != std::u16string_view::npos;
   if (step == u"PlainSpaces") return IsBlank(unit) || unit == u'\u00AD';
