@@ -2,7 +2,6 @@
 #include "exchange/QtiPackage.h"
 
 #include "exchange/Addresses.h"
-#include "exchange/ExchangeLimits.h"
 #include "exchange/XmlText.h"
 #include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
@@ -65,26 +64,29 @@ QtiPackage::QtiPackage(const ExchangeSource& source, ReadingTools& tools) : sour
   if (!manifest.empty()) root_ = manifest.substr(0, manifest.size() - kManifest.size());
 }
 
-std::optional<std::string> QtiPackage::Bytes(const std::string& name, std::size_t limit) {
-  if (!zip_) return source_.Bytes(limit);
-  if (zip_->Opened() != WordResult::Done) return std::nullopt;
-  PackagePart part = zip_->Read(name, limit);
-  if (part.result == WordResult::TooLarge) tools_.notes.Tell(text_id::kExchangeFileTooLarge, {TextOf(name)});
-  return part.result == WordResult::Done ? std::optional(std::move(part.bytes)) : std::nullopt;
+PackagePart QtiPackage::Read(const std::string& name, std::size_t limit, std::size_t& left) {
+  if (zip_->Opened() != WordResult::Done) return {WordResult::Damaged, {}};
+  limit = std::min(limit, left);
+  PackagePart part{WordResult::TooLarge, {}};
+  if (zip_->ClaimedSize(name) <= limit) part = zip_->Read(name, limit);
+  left -= std::min(left, part.unpacked);
+  return part;
 }
 
 bool QtiPackage::Parse(const std::string& name, pugi::xml_document& document) {
-  auto bytes = Bytes(name, zip_ ? kMostPartBytes : kMaxExchangedFile);
-  if (!bytes) {
-    tools_.notes.Tell(text_id::kExchangePartMissing, {Excerpt(TextOf(name))});
-    return false;
+  if (!zip_) {
+    auto bytes = source_.Bytes(kMaxExchangedFile);
+    if (!bytes) tools_.notes.Tell(text_id::kExchangeSourceTooLarge);
+    return bytes && ParseForeignXml(std::move(*bytes), document, tools_.notes);
   }
-  bytesRead_ += bytes->size();
-  if (bytesRead_ > kMaxSourceFile) {
+  PackagePart part = Read(name, kMostPartBytes, xmlLeft_);
+  if (part.result == WordResult::Done) return ParseForeignXml(std::move(part.bytes), document, tools_.notes);
+  if (part.result == WordResult::TooLarge) {
     tools_.notes.Tell(text_id::kExchangeSourceTooLarge);
-    return false;
+  } else {
+    tools_.notes.Tell(text_id::kExchangePartMissing, {Excerpt(TextOf(name))});
   }
-  return ParseForeignXml(std::move(*bytes), document, tools_.notes);
+  return false;
 }
 
 std::vector<std::string> QtiPackage::PartsOfType(std::initializer_list<std::string_view> types) {
@@ -120,9 +122,11 @@ std::optional<ExchangedFile> QtiPackage::FindAnywhere(std::u16string_view path) 
 std::optional<ExchangedFile> QtiPackage::Keep(const std::string& name) {
   const auto known = kept_.find(name);
   if (known != kept_.end()) return known->second;
-  const auto bytes = Bytes(name, kMaxExchangedFile);
-  const std::string_view fileName = std::string_view(name).substr(name.rfind('/') + 1);
-  auto file = bytes ? tools_.files.Keep(TextOf(fileName), *bytes) : std::nullopt;
+  const PackagePart part = Read(name, kMaxExchangedFile, filesLeft_);
+  const std::u16string fileName = TextOf(std::string_view(name).substr(name.rfind('/') + 1));
+  std::optional<ExchangedFile> file;
+  if (part.result == WordResult::Done) file = tools_.files.Keep(fileName, part.bytes);
+  if (part.result == WordResult::TooLarge) tools_.notes.Tell(text_id::kExchangeFileTooLarge, {fileName});
   kept_[name] = file;
   return file;
 }

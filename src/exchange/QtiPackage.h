@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "exchange/ExchangeLimits.h"
 #include "exchange/Format.h"
 #include "platform/documents/ZipPackage.h"
 
@@ -34,15 +35,17 @@ class QtiPackage {
   std::optional<ExchangedFile> FindAnywhere(std::u16string_view path);
 
  private:
-  std::optional<std::string> Bytes(const std::string& name, std::size_t limit);
+  /// A part of at most `limit` bytes. What is unpacked is taken from `left`. `zip_` must be there.
+  PackagePart Read(const std::string& name, std::size_t limit, std::size_t& left);
   std::optional<ExchangedFile> Keep(const std::string& name);
 
   const ExchangeSource& source_;
   ReadingTools& tools_;
   std::unique_ptr<ZipPackage> zip_;  ///< null for a single file
   std::vector<std::string> names_;
-  std::string root_;           ///< the folder of the manifest, with a slash at its end
-  std::size_t bytesRead_ = 0;  ///< of all XML parts
+  std::string root_;                           ///< the folder of the manifest, with a slash at its end
+  std::size_t xmlLeft_ = kMaxSourceFile;       ///< bytes that may still be unpacked of parts with questions
+  std::size_t filesLeft_ = kMaxUnpackedFiles;  ///< bytes that may still be unpacked of other parts
   std::map<std::string, std::optional<ExchangedFile>> kept_;
 };
 

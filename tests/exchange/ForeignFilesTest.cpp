@@ -259,6 +259,27 @@ TEST(ForeignFiles, Qti1) {
             "question 2: the answer is a number; the range that would count as right is left out: 1..2\n");
 }
 
+TEST(ForeignFiles, AreBoundedInSum) {
+  std::string resources;
+  for (int i = 0; i < 20; ++i) resources += "<resource type='imsqti_xmlv1p2' href='i.xml'/>";
+  const std::string item =
+      "<questestinterop><assessment><item><presentation><material><mattext>Q</mattext></material>"
+      "<response_str ident='r'><render_fib/></response_str></presentation></item></assessment>"
+      "</questestinterop>" +
+      std::string(std::size_t{15} << 20, ' ');
+  std::string package =
+      Package({{"imsmanifest.xml", "<manifest><resources>" + resources + "</resources></manifest>"},
+               {"i.xml", item}});
+  ForeignReader reader;
+  EXPECT_EQ(reader.Read(package).exam->questions.size(), 17);  // of 15 MiB each, of 256
+  EXPECT_NE(reader.Read(package).notes.find("too large to be read"), std::string::npos);
+
+  // A size that is claimed in the directory at the end, and wrong, changes nothing.
+  const std::size_t entry = package.rfind("PK\x01\x02");
+  package.replace(entry + 24, 4, std::string("\x0A\0\0\0", 4));
+  EXPECT_LE(reader.Read(package).exam->questions.size(), 17);
+}
+
 TEST(ForeignFiles, AreBounded) {
   ForeignReader reader;
   std::string nested = "<quiz><question>";

@@ -55,6 +55,13 @@ std::vector<std::string> ZipPackage::Names(std::size_t limit) const {
   return names;
 }
 
+std::size_t ZipPackage::ClaimedSize(const std::string& name) const {
+  zip_stat_t part;
+  ::zip_stat_init(&part);
+  if (::zip_stat(archive_.get(), name.c_str(), ZIP_FL_NOCASE, &part) != 0) return 0;
+  return (part.valid & ZIP_STAT_SIZE) != 0 ? part.size : 0;
+}
+
 PackagePart ZipPackage::Read(const std::string& name, std::size_t limit) const {
   const zip_int64_t index = ::zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE);
   if (index < 0) return {WordResult::NotFound, {}};
@@ -66,10 +73,11 @@ PackagePart ZipPackage::Read(const std::string& name, std::size_t limit) const {
   for (std::size_t size = 0;;) {
     part.bytes.resize(size + kStep);
     const zip_int64_t read = ::zip_fread(file.get(), part.bytes.data() + size, kStep);
-    if (read < 0) return {WordResult::Damaged, {}};
+    if (read < 0) return {WordResult::Damaged, {}, size};
     size += static_cast<std::size_t>(read);
-    if (size > limit) return {WordResult::TooLarge, {}};
+    if (size > limit) return {WordResult::TooLarge, {}, size};
     part.bytes.resize(size);
+    part.unpacked = size;
     if (read == 0) return part;
   }
 }
