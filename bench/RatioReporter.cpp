@@ -74,7 +74,7 @@ void RunComparisons(int argumentCount, char** arguments, std::vector<Comparison>
 void PrintRow(const std::string& what, const std::string& ours, const std::string& peer,
               const std::string& result, const std::string& wanted) {
   std::cout << std::left << std::setw(54) << what << std::right << std::setw(10) << ours << std::setw(10)
-            << peer << std::setw(11) << result << std::setw(11) << wanted << std::endl;
+            << peer << std::setw(11) << result << std::setw(12) << wanted << std::endl;
 }
 
 }  // namespace quorvantis::bench
