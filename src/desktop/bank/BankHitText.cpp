@@ -133,7 +133,7 @@ void AddOptions(const BankHit& hit, Shown& shown) {
   const BankQuestion& question = hit.question;
   for (unsigned i = 0; i < kOptionCount; ++i) {
     if (question.options[i].empty()) continue;
-    const bool isRight = (question.answerMask & (1 << i)) != 0;
+    const bool isRight = (question.answerMask & AnswerBoxWeight(i)) != 0;
     shown.AddPlain(u"\n");
     if (isRight) shown.AddPlain(kTick);
     shown.AddPlain(std::u16string(1, OptionLetter(i)) + u". ");
