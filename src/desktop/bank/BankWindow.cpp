@@ -30,18 +30,17 @@ std::u16string Counted(std::size_t count) {
   return FormatInteger(static_cast<std::int64_t>(count));
 }
 
-QList<QTextEdit::ExtraSelection> SelectionsOf(const BankHitText& marked, const QTextEdit& edit) {
-  QList<QTextEdit::ExtraSelection> selections;
-  for (const TextSpan& mark : marked.marks) {
-    QTextEdit::ExtraSelection selection;
-    selection.cursor = QTextCursor(edit.document());
-    selection.cursor.setPosition(static_cast<int>(mark.begin));
-    selection.cursor.setPosition(static_cast<int>(mark.end), QTextCursor::KeepAnchor);
-    selection.format.setFontWeight(QFont::Bold);
-    selection.format.setFontUnderline(true);
-    selections.append(selection);
+/// Bold, too: an extra selection of an edit could only underline.
+void MarkIn(QTextDocument& document, const std::vector<TextSpan>& marks) {
+  QTextCharFormat format;
+  format.setFontWeight(QFont::Bold);
+  format.setFontUnderline(true);
+  QTextCursor cursor(&document);
+  for (const TextSpan& mark : marks) {
+    cursor.setPosition(static_cast<int>(mark.begin));
+    cursor.setPosition(static_cast<int>(mark.end), QTextCursor::KeepAnchor);
+    cursor.mergeCharFormat(format);
   }
-  return selections;
 }
 
 }  // namespace
@@ -179,8 +178,9 @@ void BankWindow::ShowChosen() {
   QTextOption option = whole_->document()->defaultTextOption();
   option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
   whole_->document()->setDefaultTextOption(option);
+  whole_->setCurrentCharFormat({});  // the text would take that of a mark at its begin
   whole_->setPlainText(text);
-  whole_->setExtraSelections(SelectionsOf(whole, *whole_));
+  MarkIn(*whole_->document(), whole.marks);
 }
 
 QString BankWindow::StateOfSearch() const {
