@@ -2,6 +2,7 @@
 #include "desktop/bank/BankFoldersDlg.h"
 
 #include "desktop/controls/Controls.h"
+#include "desktop/controls/OwnDirection.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
@@ -15,6 +16,11 @@ namespace quorvantis {
 namespace {
 
 constexpr QSize kFoldersSize(620, 420);  // pixels
+
+/// A path that keeps its direction beside words of the other one.
+QString IsolatedPath(const std::filesystem::path& path) {
+  return QChar(0x2066) + PathToQString(path) + QChar(0x2069);
+}
 
 }  // namespace
 
@@ -30,6 +36,7 @@ BankFoldersDlg::BankFoldersDlg(BankDesk& desk, const StringTable& strings, QWidg
   setWindowTitle(Text(text_id::kBankFoldersTitle));
   NameControl(folders_, "bankFolderList", Text(text_id::kBankFoldersTitle));
   NameControl(damaged_, "bankDamaged", Text(text_id::kBankUnreadExams));
+  for (QListWidget* list : {folders_, damaged_}) list->setItemDelegate(new OwnDirection(list));
   NameControl(status_, "bankFolderStatus", {});
   status_->setTextFormat(Qt::PlainText);
   status_->setWordWrap(true);
@@ -74,7 +81,7 @@ void BankFoldersDlg::Show() {
   damaged_->clear();
   BankProblem problem;
   for (const BankExam& exam : desk_.DamagedExams(problem))
-    damaged_->addItem(PathToQString(exam.path) + ": " + ToQString(StateText(exam, strings_)));
+    damaged_->addItem(IsolatedPath(exam.path) + ": " + ToQString(StateText(exam, strings_)));
   for (const auto& folder : desk_.LastUpdate().unreadableFolders) {
     damaged_->addItem(
         ToQString(FillMessage(strings_.Text(text_id::kBankFolderUnread), {PathToText(folder)})));
