@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 // bank like: what of an exam was asked before.
-#include "bank/index/IndexedExam.h"
 #include "bank/search/BankMemory.h"
 #include "cli/BankSession.h"
-#include "cli/CommandError.h"
 #include "cli/CommandOptions.h"
 #include "cli/Commands.h"
-#include "cli/WhyUnreadable.h"
+#include "cli/TerminalLine.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <ostream>
 #include <string>
@@ -53,28 +52,16 @@ std::string PathOf(const BankExam& exam) {
   return Utf16ToUtf8(PathToText(exam.path));
 }
 
-std::vector<QuestionContent> ContentsOf(BankSession& bank, const fs::path& file) {
-  IndexedExam exam(bank.session.services, bank.digest);
-  exam.Read(file);
-  if (exam.State() == ExamState::Unreadable)
-    throw CommandError(file.string() + ": cannot be opened. " + WhyUnreadable(file));
-  if (exam.State() == ExamState::NoExam) throw CommandError(file.string() + ": is not an exam");
-  std::vector<QuestionContent> contents;
-  contents.reserve(static_cast<std::size_t>(exam.QuestionCount()));
-  for (int number = 1; number <= exam.QuestionCount(); ++number)
-    contents.push_back(IndexedContent(exam.Question(number), exam.Files(number)));
-  return contents;
-}
-
 void PrintLikeness(std::ostream& out, const BankLikeness& likeness) {
   for (std::size_t i = 0; i < likeness.uses.size(); ++i) {
     for (const BankUse& use : likeness.uses[i])
-      out << i + 1 << ": " << RelationWord(use.relation) << ": " << PathOf(use.exam) << ":" << use.number
-          << "\n";
+      out << i + 1 << ": " << RelationWord(use.relation) << ": " << TerminalLine(PathToText(use.exam.path))
+          << ":" << use.number << "\n";
   }
   for (const BankShare& share : likeness.exams)
-    out << PathOf(share.exam) << ": " << std::lround(share.share * 100) << " %, " << share.same
-        << " the same, " << share.variants << " variants\n";
+    out << TerminalLine(PathToText(share.exam.path)) << ": " << std::lround(share.share * 100) << " %, "
+        << share.same << " the same, " << share.variants
+        << (share.variants == 1 ? " variant\n" : " variants\n");
 }
 
 void PrintLikenessJson(std::ostream& out, const BankLikeness& likeness) {
@@ -101,9 +88,14 @@ void TellLikeness(Console& console, const CommonOptions& options, const LikeRequ
   bank.Update();
   std::error_code ignored;
   const BankLikeness likeness =
-      BankMemory(bank.index).Like(ContentsOf(bank, request.exam), fs::canonical(request.exam, ignored));
+      BankMemory(bank.index).Like(bank.ContentsOf(request.exam), fs::canonical(request.exam, ignored));
   bank.Require(likeness.problem);
   request.json ? PrintLikenessJson(console.out, likeness) : PrintLikeness(console.out, likeness);
+  console.out.flush();
+  const auto known = std::count_if(likeness.uses.begin(), likeness.uses.end(),
+                                   [](const std::vector<BankUse>& uses) { return !uses.empty(); });
+  console.Tell(std::to_string(known) + " of " + std::to_string(likeness.uses.size()) +
+               " questions were asked before");
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/BankSession.h"
 
+#include "bank/index/IndexedExam.h"
 #include "cli/CommandError.h"
+#include "cli/WhyUnreadable.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
@@ -54,6 +56,19 @@ void BankSession::Update() {
                        std::to_string(report.added) + " added, " + std::to_string(report.changed) +
                        " changed, " + std::to_string(report.removed) + " removed");
   Require(report.problem);
+}
+
+std::vector<QuestionContent> BankSession::ContentsOf(const fs::path& file) {
+  IndexedExam exam(session.services, digest);
+  exam.Read(file);
+  if (exam.State() == ExamState::Unreadable)
+    throw CommandError(file.string() + ": cannot be opened. " + WhyUnreadable(file));
+  if (exam.State() == ExamState::NoExam) throw CommandError(file.string() + ": is not an exam");
+  std::vector<QuestionContent> contents;
+  contents.reserve(static_cast<std::size_t>(exam.QuestionCount()));
+  for (int number = 1; number <= exam.QuestionCount(); ++number)
+    contents.push_back(IndexedContent(exam.Question(number), exam.Files(number)));
+  return contents;
 }
 
 }  // namespace quorvantis::cli

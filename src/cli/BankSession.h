@@ -4,9 +4,11 @@
 #include "bank/index/BankIndex.h"
 #include "bank/index/BankUpdate.h"
 #include "cli/ExamSession.h"
+#include "likeness/QuestionContent.h"
 #include "platform/digest/OpenSslDigest.h"
 
 #include <filesystem>
+#include <vector>
 
 namespace quorvantis::cli {
 
@@ -22,6 +24,10 @@ class BankSession {
 
   /// Brings the index up to date and tells what has changed.
   void Update();
+
+  /// The questions of an exam file, which need not be in the bank. Throws CommandError if there are none to
+  /// read.
+  std::vector<QuestionContent> ContentsOf(const std::filesystem::path& exam);
 
   ExamSession session;
   OpenSslDigest digest;

@@ -6,12 +6,12 @@
 #include "cli/CommandOptions.h"
 #include "cli/Commands.h"
 #include "cli/KindNames.h"
+#include "cli/TerminalLine.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -30,17 +30,6 @@ struct BankRequest {
   bool json = false;
   std::size_t limit = 50;
 };
-
-/// A text on one line of a terminal, its begin if it is long.
-std::string ShownText(std::u16string_view text) {
-  constexpr std::size_t kMost = 160;
-  std::u16string line(text.substr(0, kMost));
-  if (text.size() > kMost) line += u'\u2026';
-  std::replace_if(
-      line.begin(), line.end(), [](char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); },
-      u' ');
-  return Utf16ToUtf8(line);
-}
 
 std::string Counted(std::size_t count, const char* noun) {
   return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
@@ -91,8 +80,8 @@ void FindInBank(Console& console, const CommonOptions& options, const BankReques
     console.out << json << "\n";
   } else {
     for (const BankHit& hit : found.hits)
-      console.out << ShownText(PathToText(hit.question.exam.path)) << ":" << hit.question.number << ": "
-                  << ShownText(hit.question.text) << "\n";
+      console.out << TerminalLine(PathToText(hit.question.exam.path)) << ":" << hit.question.number << ": "
+                  << TerminalLine(hit.question.text) << "\n";
   }
   console.out.flush();
   console.Tell(std::to_string(found.hits.size()) + " of " + Counted(found.total, "question"));
@@ -107,7 +96,7 @@ void ListBank(Console& console, const CommonOptions& options, const BankRequest&
   BankJson json{{"folders", BankJson::array()}, {"exams", BankJson::array()}};
   for (const fs::path& folder : bank.index.Folders()) {
     json["folders"].push_back(ShownPath(folder));
-    if (!request.json) console.out << ShownText(PathToText(folder)) << "\n";
+    if (!request.json) console.out << TerminalLine(PathToText(folder)) << "\n";
   }
   std::size_t questions = 0;
   for (const BankExam& exam : exams) {
@@ -118,7 +107,7 @@ void ListBank(Console& console, const CommonOptions& options, const BankRequest&
                              {"questions", exam.questions},
                              {"problem", state}});
     if (!request.json && !state.empty())
-      console.out << ShownText(PathToText(exam.path)) << ": " << state << "\n";
+      console.out << TerminalLine(PathToText(exam.path)) << ": " << state << "\n";
   }
   if (request.json) console.out << json << "\n";
   console.out.flush();
@@ -187,6 +176,7 @@ void AddBank(CLI::App& app, CommandContext& context) {
       ->add_flag("--json", list->json, "Print one JSON object, with all exams");
   AddBankFind(bank, context);
   AddBankLike(bank, context);
+  AddBankDraw(bank, context);
 }
 
 }  // namespace quorvantis::cli

@@ -30,6 +30,7 @@ void AddRules(CLI::App& app, CommandContext& context);
 void AddVersions(CLI::App& app, CommandContext& context);
 void AddBank(CLI::App& app, CommandContext& context);
 void AddBankLike(CLI::App& bank, CommandContext& context);  ///< a command of `bank`
+void AddBankDraw(CLI::App& bank, CommandContext& context);  ///< likewise
 void AddMatch(CLI::App& app, CommandContext& context);
 /// After the others of group "bank", to which it adds.
 void AddBankTags(CLI::App& app, CommandContext& context);

@@ -2,6 +2,7 @@
 #include "cli/VersionOptions.h"
 
 #include "cli/CommandOptions.h"
+#include "cli/SeedOption.h"
 #include "host/PlanWords.h"
 #include "model/AnswerLetters.h"
 #include "text/Utf.h"
@@ -62,20 +63,6 @@ void AddVersionMoves(CLI::App& command, VersionRequest& request) {
       ->check(CLI::IsMember({"on", "off"}));
 }
 
-void AddSeed(CLI::App& command, MakeVersionsRequest& request) {
-  const auto takeSeed = [&request](const std::string& digits) {
-    const char* const end = digits.data() + digits.size();
-    const auto [last, error] = std::from_chars(digits.data(), end, request.request.seed);
-    if (error != std::errc() || last != end) throw CLI::ValidationError("--seed", digits + " is too large");
-    request.hasSeed = true;
-  };
-  command
-      .add_option_function<std::string>("--seed", takeSeed,
-                                        "The number that decides the shuffle (default: random)")
-      ->type_name("S")
-      ->check(IsDecimal());
-}
-
 }  // namespace
 
 void AddVersionOptions(CLI::App& command, MakeVersionsRequest& request) {
@@ -85,7 +72,7 @@ void AddVersionOptions(CLI::App& command, MakeVersionsRequest& request) {
                            ->check(IsDecimal())
                            ->check(CLI::Range(std::size_t{1}, kMaxVersions));
   count->excludes(AddVersionNames(command, request.request));
-  AddSeed(command, request);
+  AddSeedOption(command, request.seed, "The number that decides the shuffle (default: random)");
   command
       .add_option("--out", request.folder, "The folder to make (default: \"EXAM versions\" beside the exam)")
       ->type_name("DIR");

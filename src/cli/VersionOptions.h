@@ -5,7 +5,9 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 
 namespace quorvantis::cli {
 
@@ -14,7 +16,7 @@ struct MakeVersionsRequest {
   std::filesystem::path exam;
   std::filesystem::path folder;  ///< empty for the usual one beside the exam
   VersionRequest request;
-  bool hasSeed = false;  ///< otherwise a random one is taken
+  std::optional<std::uint64_t> seed;  ///< without one a random one is taken
   bool replaces = false;
   bool printsSheets = true;
 };

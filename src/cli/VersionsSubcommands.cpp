@@ -2,6 +2,7 @@
 #include "cli/CommandError.h"
 #include "cli/CommandOptions.h"
 #include "cli/Commands.h"
+#include "cli/SeedOption.h"
 #include "cli/Version.h"
 #include "cli/VersionOptions.h"
 #include "host/PlanJson.h"
@@ -19,7 +20,6 @@
 #include "versions/VersionVerifier.h"
 
 #include <ostream>
-#include <random>
 
 namespace quorvantis::cli {
 namespace {
@@ -33,13 +33,6 @@ struct VerifyRequest {
 };
 
 constexpr const char* kVersionWork = "versions-work";
-
-/// Easy to read out and to type again.
-std::uint64_t RandomSeed() {
-  constexpr std::uint64_t kSeeds = 1'000'000'000;
-  std::random_device device;
-  return (static_cast<std::uint64_t>(device()) << 32 | device()) % kSeeds;
-}
 
 /// What versions need on this machine.
 struct VersionTools {
@@ -78,7 +71,7 @@ std::u16string CountText(std::size_t count) {
 void MakeVersions(Console& console, const CommonOptions& options, MakeVersionsRequest request) {
   ExamSession::RequireReadable(request.exam);
   ExamSession session(console, options);
-  if (!request.hasSeed) request.request.seed = RandomSeed();
+  request.request.seed = request.seed ? *request.seed : RandomSeed();
   RequireParts(session, request.exam, request.request.pins);
   const fs::path exam = fs::absolute(request.exam).lexically_normal();
   const fs::path folder =

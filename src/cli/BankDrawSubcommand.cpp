@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+// bank draw: questions by lot, as a list or as an exam.
+#include "bank/draw/DrawQuestions.h"
+#include "bank/draw/DrawTexts.h"
+#include "bank/search/BankQuery.h"
+#include "bank/search/DrawableQuestions.h"
+#include "bank/tags/TagTexts.h"
+#include "cli/BankSession.h"
+#include "cli/CommandError.h"
+#include "cli/CommandOptions.h"
+#include "cli/Commands.h"
+#include "cli/DrawnExam.h"
+#include "cli/KindNames.h"
+#include "cli/SeedOption.h"
+#include "cli/TerminalLine.h"
+#include "model/ExamLimits.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
+
+#include <nlohmann/json.hpp>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace quorvantis::cli {
+namespace {
+
+namespace fs = std::filesystem;
+using DrawJson = nlohmann::ordered_json;
+
+struct DrawArguments {
+  fs::path index;  ///< empty for the user's own
+  DrawWish wish;
+  std::optional<std::chrono::sys_days> notUsedSince;
+  fs::path notLike;  ///< empty for none
+  std::optional<std::uint64_t> seed;
+  fs::path target;  ///< empty for a list alone
+  bool json = false;
+};
+
+/// A draw with the questions themselves.
+struct DrawnList {
+  DrawOutcome outcome;
+  std::vector<BankQuestion> questions;
+};
+
+void TellUnreadTags(const BankSession& bank, const DrawableQuestions& drawable) {
+  for (const UnreadTags& unread : drawable.Unread())
+    bank.session.console.Complain(
+        Utf16ToUtf8(TagProblemText(unread.result, unread.file, bank.session.services.strings)));
+}
+
+DrawnList DrawFrom(BankSession& bank, const DrawRequest& request) {
+  DrawnList drawn;
+  try {
+    const DrawableQuestions drawable(bank.index, bank.session.services.files);
+    bank.Require(drawable.Problem());
+    TellUnreadTags(bank, drawable);
+    drawn.outcome = DrawQuestions(drawable.Candidates(), request,
+                                  [&](std::size_t candidate) { return drawable.ComparedAt(candidate); });
+    drawn.questions.reserve(drawn.outcome.questions.size());
+    for (const DrawnQuestion& each : drawn.outcome.questions) {
+      auto question = drawable.Question(each.candidate);
+      if (!question) throw CommandError("the bank has changed meanwhile; draw again");
+      drawn.questions.push_back(std::move(*question));
+    }
+  } catch (const DatabaseError& error) {
+    bank.Require(bank.index.ProblemAfter(error));
+  }
+  return drawn;
+}
+
+std::string Reason(const BankSession& bank, const DrawnQuestion& question) {
+  return Utf16ToUtf8(ReasonText(question, bank.session.services.strings));
+}
+
+void PrintDrawn(const BankSession& bank, const DrawnList& drawn) {
+  std::ostream& out = bank.session.console.out;
+  for (std::size_t i = 0; i < drawn.questions.size(); ++i) {
+    const BankQuestion& question = drawn.questions[i];
+    out << TerminalLine(PathToText(question.exam.path)) << ":" << question.number << ": "
+        << TerminalLine(question.text) << "\n    " << Reason(bank, drawn.outcome.questions[i]) << "\n";
+  }
+}
+
+void PrintDrawnJson(const BankSession& bank, const DrawnList& drawn, const DrawRequest& request) {
+  DrawJson json{{"seed", request.seed}, {"questions", DrawJson::array()}};
+  for (std::size_t i = 0; i < drawn.questions.size(); ++i) {
+    const BankQuestion& question = drawn.questions[i];
+    json["questions"].push_back({{"exam", Utf16ToUtf8(PathToText(question.exam.path))},
+                                 {"number", question.number},
+                                 {"kind", KindName(question.kind)},
+                                 {"text", Utf16ToUtf8(question.text)},
+                                 {"key", question.key},
+                                 {"among", drawn.outcome.questions[i].among},
+                                 {"exams", drawn.outcome.questions[i].exams},
+                                 {"reason", Reason(bank, drawn.outcome.questions[i])}});
+  }
+  bank.session.console.out << json << "\n";
+}
+
+void Draw(Console& console, const CommonOptions& options, const DrawArguments& arguments) {
+  if (!arguments.notLike.empty()) ExamSession::RequireReadable(arguments.notLike);
+  BankSession bank(console, options, arguments.index);
+  bank.Update();
+  DrawRequest request;
+  request.wishes = {arguments.wish};
+  request.notUsedSince = arguments.notUsedSince;
+  request.seed = arguments.seed ? *arguments.seed : RandomSeed();
+  if (!arguments.notLike.empty()) {
+    for (const QuestionContent& content : bank.ContentsOf(arguments.notLike))
+      request.openExam.emplace_back(content);
+  }
+  const DrawnList drawn = DrawFrom(bank, request);
+  const std::string found =
+      Utf16ToUtf8(WishText(arguments.wish, drawn.outcome.wishes.front(), bank.session.services.strings));
+  if (drawn.questions.empty()) throw CommandError("no question can be drawn: " + found);
+  if (!arguments.target.empty()) WriteDrawnExam(bank, drawn.questions, arguments.target);
+  arguments.json ? PrintDrawnJson(bank, drawn, request) : PrintDrawn(bank, drawn);
+  console.out.flush();
+  console.Tell(found + "; seed " + std::to_string(request.seed));
+}
+
+/// The options that say which questions may come.
+void AddConditions(CLI::App& draw, DrawArguments& arguments) {
+  const auto takeKind = [&arguments](const std::string& word) {
+    arguments.wish.kind = KindOfWord(word);
+    if (!arguments.wish.kind)
+      throw CLI::ValidationError("--kind", word + " is not " + std::string(KindWords()));
+  };
+  draw.add_option_function<std::string>("--kind", takeKind, "Only questions of this kind")
+      ->type_name(std::string(KindWords()));
+  const auto takeTag = [&arguments](const std::string& text) {
+    const auto tag = CleanTag(Utf8ToUtf16(text));
+    if (!tag) throw CLI::ValidationError("--tag", "a tag has 1 to 100 characters: \"" + text + "\"");
+    arguments.wish.tags.push_back(*tag);
+  };
+  draw.add_option_function<std::vector<std::string>>(
+          "--tag",
+          [takeTag](const std::vector<std::string>& tags) {
+            for (const std::string& tag : tags) takeTag(tag);
+          },
+          "Only questions with this tag; may be given several times")
+      ->allow_extra_args(false)
+      ->type_name("TAG");
+  const auto takeDay = [&arguments](const std::string& text) {
+    const auto moment = ParseBankQuery(u"after:" + Utf8ToUtf16(text)).writtenFrom;
+    if (!moment) throw CLI::ValidationError("--unused-since", text + " is not a date such as 2024-08-01");
+    arguments.notUsedSince = LocalDay(*moment);
+  };
+  draw.add_option_function<std::string>("--unused-since", takeDay,
+                                        "No questions of exams that were changed on this day or later")
+      ->type_name("DATE");
+  draw.add_option("--not-like", arguments.notLike, "No questions that this exam has")->type_name("EXAM");
+}
+
+}  // namespace
+
+void AddBankDraw(CLI::App& bank, CommandContext& context) {
+  CLI::App* draw = AddCommand(bank, context, "draw", "Draw questions by lot");
+  const auto arguments = std::make_shared<DrawArguments>();
+  draw->add_option("--count", arguments->wish.count, "How many questions")
+      ->required()
+      ->check(IsDecimal())
+      ->check(CLI::Range(1, kMaxQuestions))
+      ->type_name("N");
+  AddConditions(*draw, *arguments);
+  AddSeedOption(*draw, arguments->seed, "The number that decides the draw (default: random)");
+  draw->add_option("--out", arguments->target, "Make an exam of the questions, in a new file")
+      ->type_name("EXAM");
+  draw->add_flag("--json", arguments->json, "Print one JSON object");
+  draw->add_option("--index", arguments->index,
+                   "The index to use, with its folders beside it (default: your own)")
+      ->type_name("FILE");
+  draw->footer(
+      "Updates the bank first. Of questions that are nearly the same one comes at most. Prints each "
+      "question\n"
+      "and why it came. The same bank, seed and conditions give the same questions.");
+  draw->callback([&context, arguments] { Draw(context.console, context.common, *arguments); });
+}
+
+}  // namespace quorvantis::cli

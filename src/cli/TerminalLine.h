@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quorvantis::cli {
+
+/// A text of a stranger's file on one line of a terminal, as UTF-8: control characters become blanks, and of
+/// more than 160 UTF-16 units the beginning is shown.
+std::string TerminalLine(std::u16string_view text);
+
+}  // namespace quorvantis::cli
