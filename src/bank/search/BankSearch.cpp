@@ -72,23 +72,38 @@ struct RankedQuestion {
   }
 };
 
-std::vector<RankedQuestion> RunQuery(const BankIndex& index, const BankQuery& query) {
+QuerySql SqlOf(const BankIndex& index, const BankQuery& query) {
   const auto exams = SearchedExams(index, query);
-  const QuerySql sql(query, exams ? &*exams : nullptr);
-  Statement rows = index.Data().Prepare(sql.Text());
+  return {query, exams ? &*exams : nullptr};
+}
+
+std::vector<RankedQuestion> Rows(const BankIndex& index, const QuerySql& sql, const std::string& text) {
+  Statement rows = index.Data().Prepare(text);
   sql.Bind(rows);
   std::vector<RankedQuestion> found;
   while (rows.Step()) found.push_back({rows.Real(1), rows.Integer(0)});
   return found;
 }
 
+std::size_t CountRows(const BankIndex& index, const QuerySql& sql) {
+  Statement row = index.Data().Prepare(sql.Count());
+  sql.Bind(row);
+  return row.Step() ? static_cast<std::size_t>(row.Integer(0)) : 0;
+}
+
+/// Nobody reads on so far, and to rank all questions with a word that half of them have takes too long for
+/// somebody who is typing.
+constexpr std::size_t kMostRanked = 5'000;
+
 }  // namespace
 
 /// The hits of one look at the index; `total` as it is there.
 BankHits BankSearch::FindOnce(const BankQuery& query, std::size_t limit, std::size_t offset) const {
-  std::vector<RankedQuestion> found = RunQuery(index_, query);
+  const QuerySql sql = SqlOf(index_, query);
+  const std::size_t most = std::max(kMostRanked, limit + offset);
+  std::vector<RankedQuestion> found = Rows(index_, sql, sql.Ranked(most));
   BankHits hits;
-  hits.total = found.size();
+  hits.total = found.size() < most ? found.size() : CountRows(index_, sql);
   const std::size_t begin = std::min(offset, found.size());
   const std::size_t end = begin + std::min(limit, found.size() - begin);
   const auto at = [&found](std::size_t place) { return found.begin() + static_cast<std::ptrdiff_t>(place); };
@@ -143,7 +158,8 @@ BankHits BankSearch::Find(const BankQuery& query, std::size_t limit, std::size_t
 std::vector<std::int64_t> BankSearch::FindAll(const BankQuery& query, BankProblem& problem) const {
   std::vector<std::int64_t> identifiers;
   try {
-    const std::vector<RankedQuestion> found = RunQuery(index_, query);
+    const QuerySql sql = SqlOf(index_, query);
+    const std::vector<RankedQuestion> found = Rows(index_, sql, sql.Unranked());
     identifiers.reserve(found.size());
     for (const RankedQuestion& question : found) identifiers.push_back(question.id);
   } catch (const DatabaseError& error) {

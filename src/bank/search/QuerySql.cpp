@@ -38,7 +38,20 @@ bool IsShort(const BankTerm& term) {
 QuerySql::QuerySql(const BankQuery& query, const std::vector<std::int64_t>* exams) {
   AddTerms(query);
   AddQuestionFilters(query, exams);
-  text_ = "SELECT " + identifier_ + ", " + rank_ + " FROM " + source_ + conditions_;
+}
+
+std::string QuerySql::Unranked() const {
+  return "SELECT " + identifier_ + ", " + (HasWords() ? "0" : rank_) + " FROM " + source_ + conditions_;
+}
+
+std::string QuerySql::Ranked(std::size_t most) const {
+  if (!HasWords()) return Unranked();
+  return "SELECT " + identifier_ + ", " + rank_ + " FROM " + source_ + conditions_ + " ORDER BY " +
+         identifier_ + " DESC LIMIT " + std::to_string(most);
+}
+
+std::string QuerySql::Count() const {
+  return "SELECT count(*) FROM " + source_ + conditions_;
 }
 
 void QuerySql::AddTerms(const BankQuery& query) {

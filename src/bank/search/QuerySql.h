@@ -10,15 +10,25 @@
 
 namespace quorvantis {
 
-/// A query as a statement: everything of the user's is a bound value, never a part of the statement. Its rows
+/// A query as statements: everything of the user's is a bound value, never a part of a statement. Their rows
 /// are the identifier of a question and a number by which the best come first.
 class QuerySql {
  public:
   /// `exams`, if not null, are those in which questions may be.
   QuerySql(const BankQuery& query, const std::vector<std::int64_t>* exams);
 
-  const std::string& Text() const { return text_; }
+  /// All questions, with a number for the order only where that costs nothing: 0 for a query with words.
+  std::string Unranked() const;
+  /// With that number. It takes microseconds for each question, so that of a query with words only the
+  /// questions read last into the index get it, `most` of them, and no others are found.
+  std::string Ranked(std::size_t most) const;
+  /// How many there are.
+  std::string Count() const;
+
   void Bind(Statement& statement) const;
+
+  /// Whether there are words, whose hits have a rank.
+  bool HasWords() const { return identifier_ != "question.id"; }
 
  private:
   void AddTerms(const BankQuery& query);
@@ -30,7 +40,6 @@ class QuerySql {
   std::string identifier_;
   std::string rank_;
   std::string conditions_;
-  std::string text_;
   std::vector<std::string> texts_;  ///< to bind, in the order of the statement
   std::vector<double> numbers_;     ///< likewise, after the texts
 };
