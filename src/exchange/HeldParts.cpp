@@ -52,7 +52,7 @@ class Reduction {
   std::u16string Answer(const std::u16string& answer) {
     std::u16string text = Plain(answer, HeldText::OneLine);
     for (std::size_t at = text.find(u"->"); !held_.arrows && at != text.npos; at = text.find(u"->")) {
-      text.replace(at, 2, u"\u2192");
+      text.replace(at, 2, 1, u'\u2192');
       notes_.Tell(text_id::kExchangeArrowReplaced);
     }
     return text;
