@@ -103,6 +103,7 @@ void PrintDrawnJson(const BankSession& bank, const DrawnList& drawn, const DrawR
 void Draw(Console& console, const CommonOptions& options, const DrawArguments& arguments) {
   if (!arguments.notLike.empty()) ExamSession::RequireReadable(arguments.notLike);
   BankSession bank(console, options, arguments.index);
+  if (bank.index.Folders().empty()) throw CommandError("the bank has no folders; \"bank add\" takes one in");
   bank.Update();
   DrawRequest request;
   request.wishes = {arguments.wish};

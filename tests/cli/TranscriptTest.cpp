@@ -3,8 +3,12 @@
 // begins a command, "<" a line of its standard input, "=" names a file to write, and "|" is a line of that
 // file. The expected output follows: ">" on standard output, "!" on standard error, "?" the exit status
 // unless it is 0. DIR is the folder in which everything happens. QV_UPDATE_GOLDEN=1 rewrites the output
-// lines; read them before you commit.
+// lines; read them before you commit. TODAY is the day here.
 #include "CommandLineTest.h"
+
+#include <array>
+#include <ctime>
+#include <utility>
 
 namespace quorvantis::test {
 namespace {
@@ -31,10 +35,20 @@ std::vector<std::string> WordsOf(const std::string& line) {
 
 class Transcript : public CommandLineTest, public testing::WithParamInterface<const char*> {
  protected:
+  /// "2026-03-01"
+  static std::string Today() {
+    const std::time_t now = std::time(nullptr);
+    std::array<char, 16> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d", std::localtime(&now))};
+  }
+
   /// The output, each line after its mark.
   void Print(char mark, std::string text) {
-    for (auto at = text.find(folder.Path()); at != text.npos; at = text.find(folder.Path()))
-      text.replace(at, folder.Path().string().size(), "DIR");
+    for (const auto& [real, shown] :
+         {std::pair(folder.Path().string(), "DIR"), std::pair(Today(), "TODAY")}) {
+      for (auto at = text.find(real); at != text.npos; at = text.find(real))
+        text.replace(at, real.size(), shown);
+    }
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);) actual += std::string{mark, ' '} + line + "\n";
   }
@@ -66,8 +80,9 @@ class Transcript : public CommandLineTest, public testing::WithParamInterface<co
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, Transcript,
-                         testing::Values("build", "check", "convert", "edit", "import", "key", "order",
-                                         "rules", "score", "search", "show", "tags", "usage", "versions"),
+                         testing::Values("bank", "build", "check", "convert", "edit", "import", "key",
+                                         "order", "rules", "score", "search", "show", "tags", "usage",
+                                         "versions"),
                          [](const auto& param) { return param.param; });
 
 TEST_P(Transcript, IsTrue) {

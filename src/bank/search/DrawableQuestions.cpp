@@ -52,8 +52,9 @@ const TagEntries& DrawableQuestions::TagsOf(const std::filesystem::path& folder,
 
 void DrawableQuestions::ReadCandidates(const std::map<std::int64_t, Origin>& origins) {
   Statement rows = index_.Data().Prepare(
-      "SELECT question.id, exam, kind, key, sketch FROM question "
-      "JOIN content ON content.question = question.id ORDER BY exam, number");
+      "SELECT question.id, question.exam, kind, key, sketch FROM question "
+      "JOIN content ON content.question = question.id JOIN exam ON exam.id = question.exam "
+      "ORDER BY exam.path, question.number");
   while (rows.Step()) {
     const auto origin = origins.find(rows.Integer(1));
     const auto sketch = QuestionSketch::FromBytes(rows.Bytes(4));

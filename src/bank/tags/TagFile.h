@@ -44,8 +44,9 @@ struct TagChange {
 };
 
 /// The tags of a folder: a JSON file beside its exams, for people to read and to edit. They move with the
-/// folder, and are never kept in exam files. What this program does not know in it stays. docs/BANK.md shows
-/// its form. Every call looks at the file anew; a missing file is one without tags.
+/// folder, and are never kept in exam files. What this program does not know in it stays.
+/// docs/BANK-QUESTIONS.md shows its form. Every call looks at the file anew; a missing file is one without
+/// tags.
 class TagFile {
  public:
   /// `files` must outlive this.

@@ -8,7 +8,7 @@
 namespace quorvantis::test {
 namespace {
 
-// What is kept in files must stay the same. Both worked out by another program, from docs/BANK.md.
+// What is kept in files must stay the same. Both worked out by another program, from docs/BANK-QUESTIONS.md.
 
 TEST(QuestionSketch, IsTheSameEverywhere) {
   const struct {
