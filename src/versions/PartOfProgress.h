@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/document/ExamServices.h"
 #include "platform/Progress.h"
 
 #include <algorithm>
@@ -27,20 +26,5 @@ class PartOfProgress : public Progress {
   std::uint64_t part_;
   std::uint64_t parts_;
 };
-
-/// The same services with another progress.
-inline ExamServices ServicesWith(const ExamServices& services, Progress& progress) {
-  return {services.applicationFolder,
-          services.strings,
-          services.dialogs,
-          services.codePage,
-          services.debug,
-          services.files,
-          progress,
-          services.longAnswerFlags,
-          services.ids,
-          services.registry,
-          services.pages};
-}
 
 }  // namespace quorvantis

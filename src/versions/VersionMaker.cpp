@@ -4,6 +4,7 @@
 #include "examfile/ExamFileWriter.h"
 #include "examfile/FileFailure.h"
 #include "examfile/WorkFolder.h"
+#include "model/document/ServicesWith.h"
 #include "platform/FileDigest.h"
 #include "platform/PaperPrinter.h"
 #include "platform/Progress.h"

@@ -2,7 +2,7 @@
 #include "versions/VersionVerifier.h"
 
 #include "examfile/WorkFolder.h"
-#include "model/document/ExamServices.h"
+#include "model/document/ServicesWith.h"
 #include "platform/FileDigest.h"
 #include "platform/PdfText.h"
 #include "platform/Progress.h"

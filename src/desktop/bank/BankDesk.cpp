@@ -2,7 +2,7 @@
 #include "desktop/bank/BankDesk.h"
 
 #include "desktop/controls/QtText.h"
-#include "model/document/ExamServices.h"
+#include "model/document/ServicesWith.h"
 #include "platform/Progress.h"
 
 #include <chrono>
@@ -22,20 +22,6 @@ class SilentProgress : public Progress {
   void Report(std::uint64_t, std::uint64_t) override {}
   bool IsCancelled() override { return false; }
 };
-
-ExamServices OwnServices(const ExamServices& services, Progress& progress) {
-  return {services.applicationFolder,
-          services.strings,
-          services.dialogs,
-          services.codePage,
-          services.debug,
-          services.files,
-          progress,
-          services.longAnswerFlags,
-          services.ids,
-          services.registry,
-          services.pages};
-}
 
 /// The folders of the bank and those that hold its exams, with all between them: a new folder shows in the
 /// one that it is in.
@@ -81,7 +67,7 @@ void BankDesk::Find(const BankQuery& query) {
   search_.Start([this, query](const BackgroundRun::Cancelled&) -> BackgroundRun::Finish {
     auto hits = std::make_shared<BankHits>();
     SilentProgress progress;
-    ExamServices services = OwnServices(services_, progress);
+    ExamServices services = ServicesWith(services_, progress);
     if (auto index = Opened(hits->problem))
       *hits = BankSearch(*index, services, digest_).Find(query, kMostHits);
     return [this, hits] {
@@ -104,7 +90,7 @@ void BankDesk::Update() {
     auto report = std::make_shared<BankUpdateReport>();
     auto folders = std::make_shared<std::vector<std::filesystem::path>>();
     SilentProgress progress;
-    ExamServices services = OwnServices(services_, progress);
+    ExamServices services = ServicesWith(services_, progress);
     if (auto index = Opened(report->problem)) {
       BankUpdate update(*index, services, digest_);
       while (!isCancelled() && update.Step(kSlice)) {

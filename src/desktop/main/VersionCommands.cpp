@@ -3,7 +3,7 @@
 
 #include "editor/WorkCopies.h"
 #include "host/PlanJson.h"
-#include "model/document/ExamServices.h"
+#include "model/document/ServicesWith.h"
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
