@@ -35,8 +35,6 @@ class ExchangeSource {
   bool isOpen_ = false;
 };
 
-bool IsUtf8(std::string_view bytes);
-
 /// The text of a file: UTF-8 with or without a mark, or UTF-16 with one. Bytes that are neither are taken for
 /// those of Windows in the West; `isGuessed` is set then.
 std::u16string DecodeText(std::string_view bytes, bool& isGuessed);
