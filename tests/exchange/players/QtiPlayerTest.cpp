@@ -9,6 +9,7 @@
 #include "text/Utf.h"
 
 #include <QElapsedTimer>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QTest>
@@ -99,6 +100,7 @@ QJsonObject ItemOf(const ExchangedQuestion& question, const QString& name) {
   return {{"name", name},
           {"options", options},
           {"fields", static_cast<int>(question.blanks.size())},
+          {"pictures", static_cast<int>(question.files.size())},
           {"shows", InteractionsOf(question)},
           {"begin", text.left(text.indexOf("___"))},
           {"tries", isChoice ? TriesOfChoice(question) : TriesOfFillIn(question)}};
@@ -195,10 +197,12 @@ class QtiPlayer : public testing::Test {
 
 TEST_F(QtiPlayer, ShowsAndScoresEveryItem) {
   if (!HasPlayers()) GTEST_SKIP() << "see scripts/install-exchange-players";
+  const fs::path picture = folder / "picture.png";
+  ASSERT_TRUE(QImage(3, 2, QImage::Format_RGB32).save(PlayerPath(picture)));
   for (unsigned seed = 1; seed <= kPlayedExams; ++seed) {
     ExchangeNotes notes;
     ExchangedExam exam = HeldExam(FormatNamed("qti")->held, RandomExam(folder.Path(), seed).Make(5), notes);
-    for (ExchangedQuestion& question : exam.questions) question.files.clear();
+    for (ExchangedQuestion& question : exam.questions) question.files = {{u"a b&é%20#?.png", picture}};
     Add(exam, QString::number(seed));
   }
   Upgrade();

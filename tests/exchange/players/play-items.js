@@ -1,6 +1,6 @@
 // Shows items in the player, answers each as a pupil does, with clicks and typed words, and tells what is not as
 // expected. An item has `xml`, the texts of its `options`, the number of its `fields`, the elements that it must
-// show in `shows`, and `tries`: what is ticked or typed, and the score for that.
+// show in `shows`, the number of its `pictures`, and `tries`: what is ticked or typed, and the score for that.
 window.faults = null;
 
 // Browsers of some years ago want other names of states than the player has.
@@ -49,6 +49,9 @@ const choose = async (item, identifiers) => {
   }
 };
 
+// The player puts a slash before addresses, and escapes them though they are escaped already.
+const exportedAddress = (picture) => decodeURI(picture.getAttribute('src').slice(1));
+
 const checkLook = async (item, wanted, tell) => {
   const options = [...item.querySelectorAll('qti-simple-choice')].sort(
     (a, b) => a.identifier.localeCompare(b.identifier)).map((choice) => plain(choice.textContent));
@@ -58,6 +61,12 @@ const checkLook = async (item, wanted, tell) => {
   for (const name of wanted.shows) {
     const found = item.querySelector(name);
     if (!found || found.getBoundingClientRect().height === 0) tell(`does not show ${name}`);
+  }
+  const pictures = [...item.querySelectorAll('img')];
+  if (pictures.length !== wanted.pictures) tell(`has ${pictures.length} pictures`);
+  for (const picture of pictures) {
+    picture.src = exportedAddress(picture);
+    await picture.decode().catch(() => tell(`does not show the picture ${picture.src}`));
   }
   if (!plain(item.querySelector('qti-item-body').textContent).includes(plain(wanted.begin)))
     tell(`shows the text ${plain(item.textContent)}, not ${wanted.begin}`);
