@@ -16,7 +16,7 @@ namespace quorvantis {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr std::string_view kPrefix = "quorvantis-";
+constexpr std::string_view kFolderPrefix = "quorvantis-";
 constexpr std::string_view kRandom = "XXXXXX";
 constexpr const char* kLockFile = ".in-use";
 
@@ -31,9 +31,9 @@ FileDescriptor Lock(const fs::path& folder) {
 bool IsAbandoned(const fs::path& folder) {
   const std::string name = folder.filename().string();
   struct stat status {};
-  const bool isOurs = name.starts_with(kPrefix) && name.size() == kPrefix.size() + kRandom.size() &&
-                      ::lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
-                      status.st_uid == ::geteuid();
+  const bool isOurs =
+      name.starts_with(kFolderPrefix) && name.size() == kFolderPrefix.size() + kRandom.size() &&
+      ::lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::geteuid();
   if (!isOurs) return false;
   const FileDescriptor lock(::open((folder / kLockFile).c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW));
   return lock.IsOpen() && ::flock(lock.Get(), LOCK_EX | LOCK_NB) == 0;
@@ -55,7 +55,7 @@ fs::path MakeFolder() {
   const fs::path base = fs::temp_directory_path(error);
   if (error) Fail({}, error);
   RemoveAbandoned(base);
-  std::string name = std::string(kPrefix).append(kRandom);
+  std::string name = std::string(kFolderPrefix).append(kRandom);
   name = (fs::absolute(base) / name).string();  // the current folder may change
   if (::mkdtemp(name.data()) == nullptr) Fail(name, {errno, std::generic_category()});
   return name;
