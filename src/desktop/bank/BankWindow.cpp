@@ -229,6 +229,7 @@ void BankWindow::OpenExam() {
 
 void BankWindow::EditFolders() {
   BankFoldersDlg(desk_, strings_, this).exec();
+  activateWindow();  // some systems return to the main window, which the next Escape would close
   Search();
 }
 
