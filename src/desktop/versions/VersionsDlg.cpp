@@ -136,6 +136,7 @@ QWidget* VersionsDlg::PlaceRight() {
   // Lines that begin with the name of a version run as the language does.
   QTextOption option = report_->document()->defaultTextOption();
   option.setTextDirection(layoutDirection());
+  option.setAlignment(layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft);
   report_->document()->setDefaultTextOption(option);
   side->addWidget(plan_);
   side->addWidget(report_);
