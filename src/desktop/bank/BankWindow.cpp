@@ -12,8 +12,10 @@
 #include "text/NumberText.h"
 
 #include <QBoxLayout>
+#include <QGuiApplication>
 #include <QHideEvent>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QSplitter>
 
 #include <algorithm>
@@ -41,6 +43,18 @@ void MarkIn(QTextDocument& document, const std::vector<TextSpan>& marks) {
     cursor.setPosition(static_cast<int>(mark.end), QTextCursor::KeepAnchor);
     cursor.mergeCharFormat(format);
   }
+}
+
+/// Moves and shrinks `window`, which has the frame of `main`, until its buttons are on the screen, too.
+void FitOnScreen(QWidget& window, const QWidget& main) {
+  const QScreen* there = QGuiApplication::screenAt(window.geometry().center());
+  const QRect screen = (there != nullptr ? there : main.screen())->availableGeometry();
+  const QSize frame = main.frameGeometry().size() - main.size();
+  window.resize(window.size().boundedTo(screen.size() - frame));
+  const QPoint last =
+      screen.bottomRight() - QPoint(window.width() + frame.width(), window.height() + frame.height());
+  window.move(std::max(screen.left(), std::min(window.x(), last.x() + 1)),
+              std::max(screen.top(), std::min(window.y(), last.y() + 1)));
 }
 
 }  // namespace
@@ -266,6 +280,7 @@ void BankWindow::RestorePlace() {
   move(PlaceBeside(*parentWidget(), size()));
   const WindowPlace kept = place_.Read();
   ReturnToPlace(*this, {kept.x, kept.y, kept.width, kept.height});
+  FitOnScreen(*this, *parentWidget());
 }
 
 void BankWindow::KeepPlace() const {
