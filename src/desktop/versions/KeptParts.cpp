@@ -24,6 +24,7 @@ enum Column { kWhat, kWhy, kKeptColumns };
 constexpr int kOptionRole = Qt::UserRole;
 
 constexpr qsizetype kLongestLine = 120;  // units
+constexpr int kWidestReason = 30;        // characters of a usual width; the rest is in the tool tip
 
 QString FirstLine(std::u16string_view text) {
   return ToQString(text).left(kLongestLine).simplified();
@@ -46,10 +47,9 @@ KeptParts::KeptParts(const ExamPaper& exam, int questionCount, const StringTable
   setHeaderLabels({heading, {}});
   setUniformRowHeights(true);
   setTabKeyNavigation(false);
-  header()->setStretchLastSection(true);
+  header()->setStretchLastSection(false);
+  header()->setSectionResizeMode(kWhat, QHeaderView::Stretch);
   for (int number = 1; number <= questionCount; ++number) AddQuestion(exam.Question(number), number);
-  resizeColumnToContents(kWhat);
-  setColumnWidth(kWhat, std::min(columnWidth(kWhat), fontMetrics().averageCharWidth() * 50));
   connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem*, int column) {
     if (column == kWhat) emit Changed();
   });
@@ -127,6 +127,8 @@ void KeptParts::ShowReasons(const std::vector<PinnedPart>& pinned) {
     item->setToolTip(kWhy, PlainTip(item->text(kWhy)));
     if (!saysWhy_ && item->parent() != nullptr) item->parent()->setExpanded(true);
   }
+  resizeColumnToContents(kWhy);
+  setColumnWidth(kWhy, std::min(columnWidth(kWhy), fontMetrics().averageCharWidth() * kWidestReason));
   saysWhy_ = true;
   viewport()->update();
 }
