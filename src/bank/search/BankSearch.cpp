@@ -86,14 +86,15 @@ std::vector<RankedQuestion> Rows(const BankIndex& index, const QuerySql& sql, co
 }
 
 std::size_t CountRows(const BankIndex& index, const QuerySql& sql) {
-  Statement row = index.Data().Prepare(sql.Count());
+  const std::string text = sql.Count();
+  Statement row = index.Data().Prepare(text);
   sql.Bind(row);
   return row.Step() ? static_cast<std::size_t>(row.Integer(0)) : 0;
 }
 
 /// Nobody reads on so far, and to rank all questions with a word that half of them have takes too long for
 /// somebody who is typing.
-constexpr std::size_t kMostRanked = 5'000;
+constexpr std::size_t kMostRanked = 2'000;
 
 }  // namespace
 
