@@ -46,6 +46,8 @@ inline std::u16string SheetFileOf(std::u16string_view version, Sheet sheet) {
 /// All files of these versions but the plan, in the order in which the plan names them.
 inline std::vector<std::u16string> FilesOf(const std::vector<PlannedVersion>& versions, bool areThereSheets) {
   std::vector<std::u16string> files;
+  files.reserve(versions.size() * (2 + std::size(kVersionSheets)) +
+                2);  // with the combined keys and the report
   for (const PlannedVersion& version : versions) files.push_back(ExamFileOf(version.name));
   for (const PlannedVersion& version : versions) files.push_back(KeyFileOf(version.name));
   files.emplace_back(kCombinedKeysFile);

@@ -49,8 +49,7 @@ TEST_F(BankIndexTest, IsMadeAnewWhenItDoesNotFit) {
 }
 
 TEST_F(BankIndexTest, IsEmptiedWhenItTurnsOutToBeDamaged) {
-  std::vector<ExamQuestion> questions;
-  for (int i = 0; i < 300; ++i) questions.push_back(QuestionWith(u"mitosis " + std::u16string(900, u'x')));
+  const std::vector<ExamQuestion> questions(300, QuestionWith(u"mitosis " + std::u16string(900, u'x')));
   WriteExam(exams / "a.exm", u"", questions);
   Update();
   index->Data().Execute("PRAGMA wal_checkpoint(TRUNCATE)");
@@ -58,7 +57,7 @@ TEST_F(BankIndexTest, IsEmptiedWhenItTurnsOutToBeDamaged) {
   {
     std::fstream damage(file, std::ios::binary | std::ios::in | std::ios::out);
     const std::string garbage(3000, '\xA5');
-    for (std::uintmax_t at = 4096 * 8; at < fs::file_size(file); at += 4096)
+    for (std::uintmax_t at = 32'768; at < fs::file_size(file); at += 4096)
       damage.seekp(static_cast<std::streamoff>(at)).write(garbage.data(), 3000);
   }
   index = Open();
@@ -158,6 +157,7 @@ TEST_F(BankIndexTest, NoticesAChangeWithoutANewTime) {
 
 TEST_F(BankIndexTest, IsWholeAfterTheProgramIsKilledAtAnyMoment) {
   std::vector<ExamQuestion> questions;
+  questions.reserve(20);
   for (int i = 0; i < 20; ++i)
     questions.push_back(
         QuestionWith(u"mitosis number " + std::u16string(1, static_cast<char16_t>(u'a' + i))));
@@ -231,6 +231,7 @@ TEST_F(BankIndexTest, AFullDiskLeavesWhatWasThere) {
   WriteExam(exams / "a.exm", u"", {QuestionWith(u"mitosis")});
   Update();
   std::vector<ExamQuestion> questions;
+  questions.reserve(100);
   for (int i = 0; i < 100; ++i)
     questions.push_back(QuestionWith(std::u16string(3000, static_cast<char16_t>(0x4E00 + i))));
   WriteExam(exams / "big.exm", u"", questions);
