@@ -6,6 +6,7 @@
 #include "import/marking/ImportMarkers.h"
 #include "import/prepare/KeyReports.h"
 #include "import/prepare/StepNames.h"
+#include "learn/KeysBehindQuestions.h"
 #include "learn/KeysShownAlike.h"
 #include "learn/PaperNumbers.h"
 #include "learn/ReadingRoles.h"
@@ -70,6 +71,7 @@ class WarningSearch {
       return question.kind == ReadKind::Choice && !question.letters.empty();
     });
     shown_ = KeysShownAlike(questions_);
+    LookBehindTheQuestions();
     for (std::size_t i = 0; i < questions_.size(); ++i) LookAt(questions_[i], static_cast<int>(i));
     std::ranges::stable_sort(warnings_, {}, &ReadingWarning::question);
     return std::move(warnings_);
@@ -170,6 +172,14 @@ class WarningSearch {
     } catch (const ImportFailure&) {
       return;  // the reading has succeeded, so this is for lack of memory alone
     }
+  }
+
+  /// Without a heading, the lines of a key may have become questions.
+  void LookBehindTheQuestions() {
+    auto keys = KeysBehindQuestions(questions_, NumbersOf(paper_, reading_));
+    const auto isTold = [](const ReadingWarning& warning) { return warning.kind == Kind::KeyUnmatched; };
+    if (!keys.empty() && std::ranges::none_of(warnings_, isTold)) Add({Kind::KeyUnmatched});
+    shown_.merge(keys);
   }
 
   void TellLeftovers(const KeyAtEndReport& report) {

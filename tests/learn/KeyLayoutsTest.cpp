@@ -5,15 +5,19 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <numeric>
+#include <vector>
 
 namespace quorvantis::test {
 namespace {
 
 TEST(KeyLayouts, NoneIsReadWronglyInSilence) {
-  constexpr unsigned kPapers = 40;
+  std::vector<unsigned> seeds(40);
+  std::iota(seeds.begin(), seeds.end(), 1U);
+  seeds.insert(seeds.end(), {176, 202});  // words that could be letters, keys without a heading
   std::size_t right = 0;
   std::size_t all = 0;
-  for (unsigned seed = 1; seed <= kPapers; ++seed) {
+  for (const unsigned seed : seeds) {
     const KeyedPaper paper(seed);
     const std::string faults = Silent(paper, right);
     all += paper.questions.size();
