@@ -41,7 +41,8 @@ endforeach()
 install(FILES scripts/quorvantis-cli.bash RENAME quorvantis-cli
         DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
 install(FILES README.md docs/IMPORT-RULES.md docs/LEARNING.md docs/FIND.md docs/CHECKS.md docs/PRINTING.md docs/VERSIONS.md
-              docs/EXCHANGE.md docs/FILE-FORMAT.md docs/LANGUAGES.md DESTINATION "${documentation}")
+              docs/EXCHANGE.md docs/FILE-FORMAT.md docs/LANGUAGES.md docs/BANK.md docs/BANK-QUESTIONS.md
+              docs/BANK-SEARCH.md DESTINATION "${documentation}")
 quorvantis_install_compressed(changelog "${documentation}")
 install(FILES LICENSE RENAME copyright DESTINATION "${documentation}")
 if(TARGET quorvantis)
