@@ -43,6 +43,13 @@ class SingleQuestion {
   FrameSetExam exam_;
 };
 
+/// The buttons above the page. A single question gets no file name of its own; whoever prints it may choose a
+/// PDF file.
+void ObeyPage(PreviewWindow& window, const QString& wish) {
+  if (wish == "SheetClose") window.Leave();
+  if (wish == "SheetPrint" || wish == "SheetSave") window.PrintByKeystroke();
+}
+
 }  // namespace
 
 void BankCommands::Open() {
@@ -79,6 +86,8 @@ void BankCommands::Show(const BankQuestion& question) {
   const SingleQuestion single(other, services, other.Exam().Question(question.number));
   const auto page = WriteSheet(single.Exam(), {Sheet::Paper, {}, false, languageIsRightToLeft_});
   PreviewWindow& window = renewPreview_();
+  QObject::connect(&window, &PreviewWindow::PageWished, &window,
+                   [&window](const QString& wish) { ObeyPage(window, wish); });
   window.Navigate(page);
   window.Place(0, 0);
   window.Show();
