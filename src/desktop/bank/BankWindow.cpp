@@ -125,12 +125,14 @@ void BankWindow::PlaceControls() {
   auto* buttons = new QHBoxLayout;
   for (QPushButton* button : {insert_, show_, openExam_}) buttons->addWidget(button);
   buttons->addStretch();
-  buttons->addWidget(folders_);
+  auto* ofTheBank = new QHBoxLayout;
+  ofTheBank->addWidget(status_, 1);
+  ofTheBank->addWidget(folders_);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(query_);
   layout->addWidget(sides, 1);
-  layout->addWidget(status_);
   layout->addLayout(buttons);
+  layout->addLayout(ofTheBank);
 }
 
 void BankWindow::Connect() {
