@@ -4,7 +4,7 @@
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
-#include "exchange/Base64.h"
+#include "exchange/xml/Base64.h"
 
 #include <filesystem>
 #include <fstream>

@@ -2,10 +2,10 @@
 // Reads any bytes as questions of every format. What is read must fit an exam, keep the form of its texts,
 // and be written and read again.
 #include "Require.h"
-#include "exchange/ExamToExchange.h"
-#include "exchange/ExchangeToExam.h"
 #include "exchange/Formats.h"
-#include "exchange/Markup.h"
+#include "exchange/exam/ExamToExchange.h"
+#include "exchange/exam/ExchangeToExam.h"
+#include "exchange/markup/Markup.h"
 #include "model/document/FrameSetExam.h"
 #include "platform/posix/PosixFiles.h"
 #include "shell/language/BuiltInStrings.h"

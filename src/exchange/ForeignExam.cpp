@@ -3,7 +3,7 @@
 
 #include "editor/WorkCopies.h"
 #include "examfile/WorkFolder.h"
-#include "exchange/ExchangeToExam.h"
+#include "exchange/exam/ExchangeToExam.h"
 #include "platform/TextNumbers.h"
 #include "taking/PrivateServices.h"
 #include "text/MessageText.h"

@@ -2,8 +2,8 @@
 // The formats of questions that other programs read and write, one row each.
 #pragma once
 
-#include "exchange/Format.h"
-#include "exchange/HeldParts.h"
+#include "exchange/exam/HeldParts.h"
+#include "exchange/form/Format.h"
 
 #include <memory>
 #include <span>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/QuestionExport.h"
 
-#include "exchange/ExamToExchange.h"
+#include "exchange/exam/ExamToExchange.h"
 
 #include <algorithm>
 #include <span>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Files as other programs and people write them.
 #include "ReadForeign.h"
-#include "exchange/ZipWriter.h"
+#include "exchange/qti/ZipWriter.h"
 
 #include <gtest/gtest.h>
 

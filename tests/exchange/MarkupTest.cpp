@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/Markup.h"
+#include "exchange/markup/Markup.h"
 #include "text/Utf.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "exchange/Blanks.h"
-#include "exchange/ExchangedExam.h"
-#include "exchange/Markup.h"
+#include "exchange/form/Blanks.h"
+#include "exchange/form/ExchangedExam.h"
+#include "exchange/markup/Markup.h"
 #include "support/TemporaryFolder.h"
 
 #include <iterator>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What the table says that a format holds comes back as it was.
 #include "RandomExam.h"
-#include "exchange/ExamToExchange.h"
-#include "exchange/ExchangeToExam.h"
 #include "exchange/Formats.h"
+#include "exchange/exam/ExamToExchange.h"
+#include "exchange/exam/ExchangeToExam.h"
 #include "model/document/FrameSetExam.h"
 #include "platform/TextNumbers.h"
 #include "platform/posix/PosixFiles.h"

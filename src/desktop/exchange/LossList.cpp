@@ -3,7 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "exchange/NoteGroups.h"
+#include "exchange/form/NoteGroups.h"
 #include "platform/TextNumbers.h"
 #include "text/NumberRanges.h"
 

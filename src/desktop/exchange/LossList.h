@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "exchange/ExchangeNotes.h"
+#include "exchange/form/ExchangeNotes.h"
 
 #include <QLabel>
 #include <QTreeWidget>

@@ -4,7 +4,7 @@
 #include "desktop/controls/QtText.h"
 #include "desktop/exchange/ExportQuestionsDlg.h"
 #include "editor/WorkCopies.h"
-#include "exchange/NoteGroups.h"
+#include "exchange/form/NoteGroups.h"
 #include "model/LongAnswerFlags.h"
 #include "model/WorkFolderNames.h"
 #include "model/document/ExamServices.h"

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/form/Blanks.h"
+
+#include "text/NumberText.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::size_t kShortestBlank = 3;
+
+constexpr int kLongestBlank = 400;
+
+}  // namespace
+
+std::u16string BlankOfClass(std::u16string_view className) {
+  if (!className.starts_with(kBlankClass)) return std::u16string(kBlank);
+  const int length = ParseInteger(className.substr(kBlankClass.size()));
+  return std::u16string(
+      static_cast<std::size_t>(std::clamp(length, static_cast<int>(kShortestBlank), kLongestBlank)), u'_');
+}
+
+std::vector<TextSpan> BlanksIn(std::u16string_view text) {
+  std::vector<TextSpan> blanks;
+  for (std::size_t at = text.find(u'_'); at != text.npos; at = text.find(u'_', at)) {
+    const std::size_t end = std::min(text.find_first_not_of(u'_', at), text.size());
+    if (end - at >= kShortestBlank) blanks.push_back({at, end});
+    at = end;
+  }
+  return blanks;
+}
+
+std::vector<BlankAnswers> ByBlank(std::u16string_view text, const BlankAnswers& answers) {
+  if (answers.empty()) return {};
+  if (answers.size() < 2 || BlanksIn(text).size() != answers.size()) return {answers};
+  std::vector<BlankAnswers> blanks;
+  for (const std::u16string& answer : answers) blanks.push_back({answer});
+  return blanks;
+}
+
+BlankAnswers SplitAnswers(std::u16string_view line) {
+  BlankAnswers answers;
+  for (std::size_t begin = 0; begin <= line.size();) {
+    const std::size_t end = std::min(line.find(kListSeparator, begin), line.size());
+    if (end > begin) answers.emplace_back(line.substr(begin, end - begin));
+    begin = end + kListSeparator.size();
+  }
+  return answers;
+}
+
+}  // namespace quorvantis

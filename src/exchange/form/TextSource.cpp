@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/form/TextSource.h"
+
+#include "exchange/form/ExchangeLimits.h"
+#include "platform/TextNumbers.h"
+#include "text/LineBreaks.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+
+std::optional<std::u16string> ReadSourceText(const ExchangeSource& source, ReadingTools& tools) {
+  const auto bytes = source.Bytes(kMaxExchangedFile);
+  if (!bytes) {
+    tools.notes.Tell(text_id::kExchangeSourceTooLarge);
+    return std::nullopt;
+  }
+  bool isGuessed = false;
+  std::u16string text = WithLineEnds(DecodeText(*bytes, isGuessed), u"\n");
+  if (isGuessed) tools.notes.Tell(text_id::kExchangeEncodingGuessed);
+  return text;
+}
+
+std::u16string HeadText(const ExchangeSource& source) {
+  bool isGuessed = false;
+  return WithLineEnds(DecodeText(source.Head(), isGuessed), u"\n");
+}
+
+std::u16string_view Trimmed(std::u16string_view text) {
+  constexpr std::u16string_view kSpace = u" \t\r\n\u00A0";
+  const std::size_t begin = std::min(text.find_first_not_of(kSpace), text.size());
+  return text.substr(begin, text.find_last_not_of(kSpace) + 1 - begin);
+}
+
+std::vector<std::u16string_view> LinesOf(std::u16string_view text) {
+  std::vector<std::u16string_view> lines;
+  for (std::size_t begin = 0; begin <= text.size();) {
+    const std::size_t end = std::min(text.find(u'\n', begin), text.size());
+    lines.push_back(text.substr(begin, end - begin));
+    begin = end + 1;
+  }
+  return lines;
+}
+
+}  // namespace quorvantis

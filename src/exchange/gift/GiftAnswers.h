@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "exchange/form/Format.h"
+#include "exchange/markup/Markup.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvantis {
+
+/// How a text in GIFT is meant.
+enum class GiftTextFormat {
+  Moodle,  ///< markup, and line ends are line breaks: as in an exam
+  Html,
+  Plain,
+};
+
+/// Cuts a name such as "[html]" off the front of `text`; without one the format is `otherwise`.
+GiftTextFormat TakeGiftFormat(std::u16string_view& text, GiftTextFormat otherwise);
+
+/// Reads what stands between the braces of one question.
+class GiftAnswers {
+ public:
+  /// `format` is that of the question's text, which its answers have, too.
+  GiftAnswers(GiftTextFormat format, ReadingTools& tools) : format_(format), tools_(tools) {}
+
+  /// An exam text from one with backslashes.
+  std::u16string Text(std::u16string_view text);
+
+  /// Fills in all but the text of the question. False if this is no answer of any kind.
+  bool Read(std::u16string_view answers, ExchangedQuestion& question);
+
+ private:
+  /// One of several answers: "=", "~" or, for a number, nothing; how much it is worth; its text.
+  struct Answer {
+    char16_t mark = u'=';
+    double fraction = 0;  ///< in percent
+    std::u16string_view text;
+  };
+
+  std::vector<Answer> Cut(std::u16string_view answers);
+  Answer ReadAnswer(char16_t mark, std::u16string_view text);
+  std::u16string_view WithoutFeedback(std::u16string_view text);
+  bool ReadTrueFalse(std::u16string_view answers, ExchangedQuestion& question);
+  bool ReadNumbers(std::u16string_view answers, ExchangedQuestion& question);
+  bool ReadPairs(const std::vector<Answer>& answers, ExchangedQuestion& question);
+  void ReadAlternatives(const std::vector<Answer>& answers, ExchangedQuestion& question);
+  void ReadOptions(const std::vector<Answer>& answers, ExchangedQuestion& question);
+
+  GiftTextFormat format_;
+  ReadingTools& tools_;
+};
+
+}  // namespace quorvantis

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/form/PercentFractions.h"
+#include "exchange/gift/GiftFormat.h"
+#include "exchange/markup/Markup.h"
+#include "text/LineBreaks.h"
+#include "text/NumberText.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::u16string_view kOfPairs = u"->";  // would make the answers pairs, wherever it stands
+constexpr std::u16string_view kGiftFormatNames[] = {u"[html]", u"[moodle]", u"[plain]", u"[markdown]"};
+
+std::u16string Escaped(std::u16string_view text) {
+  std::u16string escaped;
+  for (const char16_t unit : text) {
+    if (unit == u'\n') {
+      escaped += u"\\n";
+      continue;
+    }
+    if (kGiftSpecial.find(unit) != kGiftSpecial.npos) escaped.push_back(u'\\');
+    escaped.push_back(unit);
+  }
+  return escaped;
+}
+
+/// Writes one question.
+class GiftQuestion {
+ public:
+  explicit GiftQuestion(const ExchangedQuestion& question)
+      : question_(question), isHtml_(NeedsHtml(question)) {}
+
+  std::u16string Text() const {
+    return u"::Q" + FormatInteger(question_.number) + u"::" + (isHtml_ ? u"[html]" : u"") +
+           Shown(question_.text) + u" {" + Answers() + u"}\n\n";
+  }
+
+ private:
+  static bool NeedsHtml(const ExchangedQuestion& question) {
+    const auto isFormat = [&question](std::u16string_view name) { return question.text.starts_with(name); };
+    if (HasTags(question.text) || HasTags(question.modelAnswer)) return true;
+    if (std::any_of(std::begin(kGiftFormatNames), std::end(kGiftFormatNames), isFormat)) return true;
+    return std::ranges::any_of(question.options, [](const ExchangedOption& option) {
+      return HasTags(option.text) || option.text.find(kOfPairs) != option.text.npos;
+    });
+  }
+
+  /// Where no format is named, a text is read like that of an exam.
+  std::u16string Shown(const std::u16string& text) const {
+    return Escaped(isHtml_ ? ExamTextToHtml(text, HtmlDialect::Html) : WithLineEnds(text, u"\n"));
+  }
+
+  std::u16string Answers() const {
+    switch (question_.kind) {
+      case QuestionKind::Choice:
+        return Options();
+      case QuestionKind::FillIn:
+        return Alternatives();
+      case QuestionKind::Essay:
+      case QuestionKind::Oral:
+        break;
+    }
+    return question_.modelAnswer.empty() ? u"" : u"####" + Shown(question_.modelAnswer);
+  }
+
+  std::u16string Options() const {
+    const auto rights =
+        static_cast<std::size_t>(std::ranges::count_if(question_.options, &ExchangedOption::isRight));
+    // A single option with "=" would be the answer to a fill-in question.
+    const bool isPlain = rights == 1 && question_.options.size() > 1;
+    std::u16string lines = u"\n";
+    for (const ExchangedOption& option : question_.options) {
+      const std::u16string text = Shown(option.text);
+      lines += option.isRight && isPlain ? u"\t=" : u"\t~";
+      if (option.isRight && !isPlain) {
+        lines.append(u"%").append(Utf8ToUtf16(RightShare(rights))).append(u"%");
+      } else if (!option.isRight && rights > 1) {
+        lines += u"%-100%";
+      } else if (text.starts_with(u'%')) {  // would be a share itself
+        lines += option.isRight ? u"%100%" : u"%0%";
+      }
+      lines += text + u"\n";
+    }
+    return lines;
+  }
+
+  std::u16string Alternatives() const {
+    std::u16string lines = u"\n";
+    for (const BlankAnswers& blank : question_.blanks) {
+      for (const std::u16string& answer : blank)
+        lines += u"\t=%100%" + Escaped(ExamTextToPlain(answer)) + u"\n";
+    }
+    return lines;
+  }
+
+  const ExchangedQuestion& question_;
+  bool isHtml_;
+};
+
+}  // namespace
+
+std::string GiftWriter::Write(const ExchangedExam& exam, const StringTable&, Progress&) {
+  std::u16string text;
+  if (!exam.title.empty())
+    text = u"$CATEGORY: $course$/top/" + WithoutSlashes(ExamTextToPlain(exam.title)) + u"\n\n";
+  for (const ExchangedQuestion& question : exam.questions) text += GiftQuestion(question).Text();
+  return Utf16ToUtf8(text);
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/markup/MarkupNotes.h"
+
+#include "exchange/markup/Markup.h"
+#include "platform/TextNumbers.h"
+
+namespace quorvantis {
+
+void TellMarkupLosses(const MarkupLosses& losses, ExchangeNotes& notes) {
+  if (losses.formatting) notes.Tell(text_id::kExchangeFormatting);
+  if (losses.table) notes.Tell(text_id::kExchangeTable);
+  if (losses.executable) notes.Tell(text_id::kExchangeExecutable);
+}
+
+}  // namespace quorvantis

@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/markup/MarkupReader.h"
+
+#include "exchange/markup/Addresses.h"
+#include "text/AsciiCase.h"
+#include "text/HtmlEntities.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+
+namespace quorvantis {
+namespace {
+
+constexpr std::u16string_view kSpace = u" \t\r\n\f";
+constexpr std::size_t kMostSpans = 64;
+
+/// Only what changes how a text looks to a pupil.
+bool IsTellingStyle(std::u16string_view style) {
+  constexpr std::u16string_view kTelling[] = {u"color", u"font", u"background", u"decoration"};
+  return std::any_of(std::begin(kTelling), std::end(kTelling),
+                     [style](std::u16string_view word) { return style.find(word) != style.npos; });
+}
+
+std::u16string_view WithoutSpace(std::u16string_view text) {
+  const std::size_t begin = std::min(text.find_first_not_of(kSpace), text.size());
+  return text.substr(begin, text.find_last_not_of(kSpace) + 1 - begin);
+}
+
+}  // namespace
+
+MarkupReader::MarkupReader(std::u16string_view text, MarkupSource source)
+    : text_(text), source_(source), tags_(text) {}
+
+std::vector<MarkupPiece> MarkupReader::Read() {
+  while (at_ < text_.size()) {
+    const std::size_t special = std::min(text_.find_first_of(u"<&\r\n\t\f ", at_), text_.size());
+    ReadCharacters(special);
+    if (at_ == text_.size()) break;
+    if (text_[at_] == u'<') {
+      if (!SkipComment()) ReadTagAt();
+    } else if (text_[at_] == u'&') {
+      AddCharacter();
+    } else {
+      ReadWhiteSpace();
+    }
+  }
+  const std::size_t end = pieces_.EndOfShown();
+  for (std::size_t i = 0; i < references_.size(); ++i) references_[i].isFollowed = referenceMarks_[i] < end;
+  return pieces_.Finish();
+}
+
+/// Characters that no XML and no page can hold are left out.
+void MarkupReader::ReadCharacters(std::size_t end) {
+  const auto isValid = [](char16_t unit) { return unit >= u' ' && unit != 0xFFFE && unit != 0xFFFF; };
+  std::u16string valid;
+  std::copy_if(text_.begin() + static_cast<std::ptrdiff_t>(at_),
+               text_.begin() + static_cast<std::ptrdiff_t>(end), std::back_inserter(valid), isValid);
+  pieces_.AddText(ReplaceLoneSurrogates(valid));
+  at_ = end;
+}
+
+/// In HTML a line end is a blank, and those around it do not count. Other blanks stay, as a browser shows the
+/// same, and an exam text is to come back as it was.
+void MarkupReader::ReadWhiteSpace() {
+  const std::size_t end = std::min(text_.find_first_not_of(kSpace, at_), text_.size());
+  const std::u16string_view space = text_.substr(at_, end - at_);
+  if (source_ == MarkupSource::Html && preDepth_ == 0) {
+    if (space.find_first_not_of(u' ') == space.npos) {
+      pieces_.AddText(space);
+    } else {
+      pieces_.AddSoftBlank();
+    }
+    at_ = end;
+    return;
+  }
+  for (; at_ < end; ++at_) {
+    const char16_t unit = text_[at_];
+    if (unit == u'\r' && at_ + 1 < end && text_[at_ + 1] == u'\n') continue;
+    if (unit == u'\r' || unit == u'\n') {
+      pieces_.AddLineBreak();
+    } else if (unit != u'\f') {
+      pieces_.AddText(u" ");  // a tab shows as one
+    }
+  }
+}
+
+/// An ampersand, or the character that a reference stands for.
+void MarkupReader::AddCharacter() {
+  const auto entity = ReadEntity(text_.substr(at_));
+  if (!entity) {
+    pieces_.AddText(text_.substr(at_++, 1));
+    return;
+  }
+  at_ += entity->length;
+  const char32_t code = entity->codePoint;
+  const bool isBlank = code == U'\t' || code == U'\n';
+  if ((code < U' ' && !isBlank) || code == 0xFFFE || code == 0xFFFF) return;
+  std::u16string character;
+  AppendCodePoint(character, isBlank ? U' ' : code);
+  pieces_.AddText(character);
+}
+
+bool MarkupReader::SkipComment() {
+  const std::u16string_view rest = text_.substr(at_);
+  if (rest.starts_with(u"<!--") && commentsEnd_) {
+    const std::size_t end = rest.find(u"-->");
+    commentsEnd_ = end != rest.npos;
+    if (commentsEnd_) {
+      at_ += end + 3;
+      return true;
+    }
+  }
+  const bool isDeclaration = rest.starts_with(u"<!") || rest.starts_with(u"<?");
+  if (!isDeclaration || source_ == MarkupSource::ExamText) return false;
+  const std::size_t end = rest.find(u'>');
+  at_ = end == rest.npos ? text_.size() : at_ + end + 1;
+  return true;
+}
+
+void MarkupReader::ReadTagAt() {
+  const auto tag = tags_.At(at_);
+  const MarkupTag* const row = tag ? FindTag(tag->name) : nullptr;
+  const bool isUnknown = tag && row == nullptr && source_ == MarkupSource::Html;
+  if (row == nullptr && !isUnknown) {
+    pieces_.AddText(text_.substr(at_++, 1));
+    return;
+  }
+  at_ += tag->length;
+  if (isUnknown) {
+    losses_.formatting = true;
+  } else {
+    Take(*tag, *row);
+  }
+}
+
+void MarkupReader::Take(const ReadTag& tag, const MarkupTag& row) {
+  TellLoss(tag, row);
+  if (!tag.isEnd) return TakeBegin(tag, row);
+  switch (row.role) {
+    case TagRole::Kept:
+      return pieces_.Close(row);
+    case TagRole::Block:
+      pieces_.EndLine();
+      if (row.name == u"pre") preDepth_ = std::max(0, preDepth_ - 1);
+      if (row.name == u"tr") rowHasCells_ = false;
+      return;
+    case TagRole::Link:
+      return TakeLink(tag);
+    case TagRole::Transparent:
+      if (row.name == u"span") TakeSpan(tag);
+      return;
+    case TagRole::Break:
+      return pieces_.AddLineBreak();
+    case TagRole::Cell:
+    case TagRole::Picture:
+    case TagRole::Media:
+    case TagRole::Form:
+    case TagRole::Removed:
+      return;
+  }
+}
+
+void MarkupReader::TakeBegin(const ReadTag& tag, const MarkupTag& row) {
+  switch (row.role) {
+    case TagRole::Kept:
+      if (!pieces_.Open(row)) losses_.formatting = true;
+      return;
+    case TagRole::Break:
+      return pieces_.AddLineBreak();
+    case TagRole::Block:
+      pieces_.EndLine();
+      if (row.name == u"pre") ++preDepth_;
+      if (row.name == u"tr") rowHasCells_ = false;
+      if (row.name == u"li") pieces_.AddText(u"\u2022 ");
+      return;
+    case TagRole::Cell:
+      return TakeCell(tag);
+    case TagRole::Picture:
+    case TagRole::Media:
+      return AddReference(tag.Value(u"src"), tag.Value(u"alt"));
+    case TagRole::Link:
+      return TakeLink(tag);
+    case TagRole::Transparent:
+    case TagRole::Form:
+      if (row.name == u"span") TakeSpan(tag);
+      return;
+    case TagRole::Removed:
+      return SkipContent(tag);
+  }
+}
+
+void MarkupReader::TakeSpan(const ReadTag& tag) {
+  if (tag.isEnd) {
+    if (spans_.empty()) return;
+    if (spans_.back() != nullptr) pieces_.Close(*spans_.back());
+    spans_.pop_back();
+    return;
+  }
+  const std::u16string_view name = tag.Value(u"class");
+  const MarkupTag* row = name.starts_with(kTagClass) ? FindTag(name.substr(kTagClass.size())) : nullptr;
+  if (row != nullptr && (row->role != TagRole::Kept || !pieces_.Open(*row))) row = nullptr;
+  if (spans_.size() < kMostSpans) spans_.push_back(row);
+}
+
+/// A link that is a file leaves the text, with its label if that is only the name of the file.
+void MarkupReader::TakeLink(const ReadTag& tag) {
+  if (linkIsOpen_) {
+    const std::u16string label(WithoutSpace(pieces_.TextFrom(linkMark_)));
+    if (IsOfTheNet(linkAddress_)) {
+      if (label != linkAddress_) pieces_.AddText(u" (" + linkAddress_ + u")");
+    } else if (!linkAddress_.empty() && !linkAddress_.starts_with(u"#")) {
+      if (label == FileNameIn(linkAddress_)) pieces_.RemoveTextFrom(linkMark_);
+      AddReference(linkAddress_, {});
+    }
+  }
+  linkIsOpen_ = !tag.isEnd;
+  linkAddress_ = RunsSomething(tag.Value(u"href")) ? std::u16string() : std::u16string(tag.Value(u"href"));
+  if (linkIsOpen_) linkMark_ = pieces_.Mark();
+}
+
+void MarkupReader::TakeCell(const ReadTag&) {
+  if (rowHasCells_) pieces_.AddText(u" | ");
+  rowHasCells_ = true;
+}
+
+void MarkupReader::TellLoss(const ReadTag& tag, const MarkupTag& row) {
+  const bool isActive = (row.role == TagRole::Removed || row.role == TagRole::Form) && row.isTold;
+  if (row.name == u"table") {
+    losses_.table = true;
+  } else if (isActive && row.name != u"style" && row.name != u"svg") {
+    losses_.executable = true;
+  } else if (row.isTold) {
+    losses_.formatting = true;
+  }
+  for (const auto& [name, value] : tag.attributes) {
+    if (name.starts_with(u"on") || RunsSomething(value)) losses_.executable = true;
+    if (name == u"style" && IsTellingStyle(value)) losses_.formatting = true;
+  }
+}
+
+/// Up to the end of the element. A script or style without an end takes the rest, as in a browser.
+void MarkupReader::SkipContent(const ReadTag& tag) {
+  const std::u16string name = AsciiLower(tag.name);
+  if (unended_.contains(name)) return;
+  for (std::size_t end = text_.find(u"</", at_); end != text_.npos; end = text_.find(u"</", end + 2)) {
+    if (!EqualsIgnoringAsciiCase(text_.substr(end + 2, name.size()), name)) continue;
+    at_ = end;
+    return;
+  }
+  unended_.insert(name);
+  if (name == u"script" || name == u"style") at_ = text_.size();
+}
+
+void MarkupReader::AddReference(std::u16string_view address, std::u16string_view label) {
+  if (address.empty()) return;
+  if (RunsSomething(address)) {
+    losses_.executable = true;
+    return;
+  }
+  references_.push_back({std::u16string(address), std::u16string(label)});
+  referenceMarks_.push_back(pieces_.Mark());
+}
+
+}  // namespace quorvantis
