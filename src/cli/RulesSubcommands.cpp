@@ -12,7 +12,7 @@
 #include "host/ImportRules.h"
 #include "host/SavedRules.h"
 #include "import/ExamImport.h"
-#include "learn/RefusalText.h"
+#include "learn/rules/RefusalText.h"
 #include "model/document/ExamServices.h"
 #include "platform/WholeFile.h"
 #include "text/PathText.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/SavedRules.h"
 
-#include "learn/RefusalText.h"
+#include "learn/rules/RefusalText.h"
 #include "platform/TextNumbers.h"
 #include "platform/WholeFile.h"
 #include "platform/posix/FileLock.h"

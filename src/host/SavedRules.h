@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "learn/RepositoryText.h"
+#include "learn/rules/RepositoryText.h"
 #include "platform/CodePage.h"
 #include "platform/Files.h"
 #include "platform/StringTable.h"

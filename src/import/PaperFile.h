@@ -2,7 +2,7 @@
 #pragma once
 
 #include "import/marking/RuleSearch.h"
-#include "import/prepare/Paper.h"
+#include "import/paper/Paper.h"
 #include "platform/WordDocuments.h"
 
 #include <filesystem>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "learn/BeginningAndEnd.h"
 
+#include "import/keys/KeyReader.h"
 #include "import/labels/LineText.h"
-#include "import/prepare/AnswerHeadings.h"
-#include "import/prepare/KeyReader.h"
+#include "import/lines/AnswerHeadings.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include "import/labels/LineText.h"
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/StepNames.h"
-#include "learn/PaperNumbers.h"
-#include "learn/ReadingRoles.h"
+#include "learn/reading/PaperNumbers.h"
+#include "learn/reading/ReadingRoles.h"
 #include "text/NumberText.h"
 
 #include <algorithm>

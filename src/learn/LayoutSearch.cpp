@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "learn/LayoutSearch.h"
 
+#include "import/keys/FrontInstructions.h"
 #include "import/labels/LineText.h"
-#include "import/prepare/FrontInstructions.h"
+#include "import/paper/PreparedLabels.h"
 #include "import/prepare/PreparationSteps.h"
-#include "import/prepare/PreparedLabels.h"
 #include "import/prepare/StepNames.h"
 #include "import/prepare/Steps.h"
-#include "learn/AnswerLabels.h"
-#include "learn/Headings.h"
 #include "learn/MarkedLiterals.h"
-#include "learn/ReadingRoles.h"
+#include "learn/patterns/AnswerLabels.h"
+#include "learn/patterns/Headings.h"
+#include "learn/reading/ReadingRoles.h"
 #include "model/ExamLimits.h"
 
 #include <algorithm>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/prepare/PaperOutline.h"
+#include "import/paper/PaperOutline.h"
 #include "import/prepare/PreparationMemory.h"
 #include "learn/MarkedPlaces.h"
 #include "learn/PaperLearner.h"
 #include "learn/ReadingScore.h"
-#include "learn/RuleDraft.h"
+#include "learn/patterns/RuleDraft.h"
 
 #include <set>
 #include <string>

@@ -2,7 +2,7 @@
 #include "learn/MarkedLiterals.h"
 
 #include "import/labels/LineText.h"
-#include "learn/PatternText.h"
+#include "learn/patterns/PatternText.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/prepare/PaperText.h"
-#include "learn/NumberFamilies.h"
+#include "import/paper/PaperText.h"
 #include "learn/PaperLearner.h"
-#include "learn/ReadingRoles.h"
+#include "learn/patterns/NumberFamilies.h"
+#include "learn/reading/ReadingRoles.h"
 
 #include <optional>
 #include <set>

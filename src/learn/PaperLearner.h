@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "learn/PaperReading.h"
-#include "learn/PaperRole.h"
+#include "learn/reading/PaperReading.h"
+#include "learn/reading/PaperRole.h"
 
 #include <functional>
 #include <string>

@@ -6,9 +6,9 @@
 #include "import/labels/OptionSequence.h"
 #include "import/marking/ImportMarkers.h"
 #include "import/marking/RuleKeys.h"
-#include "import/prepare/PreparedLabels.h"
-#include "learn/NumberFamilies.h"
-#include "learn/ReadingRoles.h"
+#include "import/paper/PreparedLabels.h"
+#include "learn/patterns/NumberFamilies.h"
+#include "learn/reading/ReadingRoles.h"
 
 #include <algorithm>
 #include <cmath>

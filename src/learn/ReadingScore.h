@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "learn/PaperReading.h"
+#include "learn/reading/PaperReading.h"
 
 #include <cstddef>
 #include <set>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "learn/PaperLearner.h"
-#include "learn/ReadingRoles.h"
+#include "learn/reading/ReadingRoles.h"
 
 #include <optional>
 #include <string_view>

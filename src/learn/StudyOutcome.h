@@ -2,8 +2,8 @@
 #pragma once
 
 #include "learn/PaperLearner.h"
-#include "learn/ReadingRoles.h"
-#include "learn/ReadingWarnings.h"
+#include "learn/reading/ReadingRoles.h"
+#include "learn/warnings/ReadingWarnings.h"
 
 #include <vector>
 

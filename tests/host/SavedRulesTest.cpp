@@ -2,7 +2,7 @@
 #include "host/SavedRules.h"
 #include "import/ExamImport.h"
 #include "import/marking/RuleKeys.h"
-#include "learn/SafeRules.h"
+#include "learn/rules/SafeRules.h"
 #include "platform/posix/IconvCodePage.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/TemporaryFolder.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "learn/ReadingRoles.h"
+#include "learn/reading/ReadingRoles.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "learn/ShownPaper.h"
+#include "learn/reading/ShownPaper.h"
 
 #include <gtest/gtest.h>
 

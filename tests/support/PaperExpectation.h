@@ -4,8 +4,8 @@
 #pragma once
 
 #include "import/labels/LineText.h"
+#include "import/lines/JudgementWords.h"
 #include "import/marking/QuestionTextParser.h"
-#include "import/prepare/JudgementWords.h"
 #include "platform/WholeFile.h"
 #include "text/Utf.h"
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "import/labels/LineText.h"
-#include "import/prepare/Paper.h"
+#include "import/paper/Paper.h"
 
 #include <cstdint>
 #include <string>

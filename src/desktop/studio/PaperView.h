@@ -3,7 +3,7 @@
 
 #include "learn/PaperStudy.h"
 #include "learn/RoleLookup.h"
-#include "learn/ShownPaper.h"
+#include "learn/reading/ShownPaper.h"
 
 #include <QPlainTextEdit>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "learn/PaperRole.h"
+#include "learn/reading/PaperRole.h"
 #include "platform/StringTable.h"
 
 #include <QLabel>

@@ -3,7 +3,7 @@
 // colours, on light windows and on dark ones.
 #pragma once
 
-#include "learn/PaperRole.h"
+#include "learn/reading/PaperRole.h"
 
 #include <QIcon>
 #include <QPalette>

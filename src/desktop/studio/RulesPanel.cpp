@@ -4,7 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "import/prepare/PreparationSteps.h"
-#include "learn/RuleFields.h"
+#include "learn/rules/RuleFields.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 

@@ -3,7 +3,7 @@
 
 #include "import/PaperFile.h"
 #include "learn/ForeseenImport.h"
-#include "learn/RepositoryText.h"
+#include "learn/rules/RepositoryText.h"
 
 #include <filesystem>
 #include <functional>

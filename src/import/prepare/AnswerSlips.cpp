@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "import/keys/BracketedKey.h"
+#include "import/keys/OptionKey.h"
+#include "import/keys/QuestionKey.h"
 #include "import/labels/LineText.h"
-#include "import/prepare/BracketedKey.h"
-#include "import/prepare/FoldedText.h"
-#include "import/prepare/OptionKey.h"
-#include "import/prepare/PreparedLabels.h"
-#include "import/prepare/QuestionKey.h"
+#include "import/lines/FoldedText.h"
+#include "import/paper/PreparedLabels.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

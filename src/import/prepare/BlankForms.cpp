@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
-#include "import/prepare/BlankSearch.h"
-#include "import/prepare/PaperOutline.h"
-#include "import/prepare/PaperRewrite.h"
+#include "import/lines/BlankSearch.h"
+#include "import/paper/PaperOutline.h"
+#include "import/paper/PaperRewrite.h"
 #include "import/prepare/Steps.h"
 
 namespace quorvantis {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
-#include "import/prepare/PaperOutline.h"
-#include "import/prepare/PaperRewrite.h"
+#include "import/paper/PaperOutline.h"
+#include "import/paper/PaperRewrite.h"
 #include "import/prepare/Steps.h"
 #include "text/NumberText.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "import/keys/QuestionKey.h"
 #include "import/labels/LineText.h"
-#include "import/prepare/QuestionKey.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
-#include "import/prepare/LineLabel.h"
-#include "import/prepare/LineNumber.h"
-#include "import/prepare/MisreadNumber.h"
-#include "import/prepare/PaperOutline.h"
-#include "import/prepare/PaperRewrite.h"
-#include "import/prepare/PreparedLabels.h"
+#include "import/lines/LineLabel.h"
+#include "import/lines/LineNumber.h"
+#include "import/lines/MisreadNumber.h"
+#include "import/paper/PaperOutline.h"
+#include "import/paper/PaperRewrite.h"
+#include "import/paper/PreparedLabels.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

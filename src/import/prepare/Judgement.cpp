@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "import/keys/QuestionKey.h"
 #include "import/labels/LineText.h"
-#include "import/prepare/JudgementWords.h"
-#include "import/prepare/PreparedLabels.h"
-#include "import/prepare/QuestionKey.h"
+#include "import/lines/JudgementWords.h"
+#include "import/paper/PreparedLabels.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

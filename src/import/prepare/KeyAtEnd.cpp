@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "import/keys/KeySection.h"
+#include "import/keys/OptionKey.h"
+#include "import/keys/QuestionKey.h"
 #include "import/labels/LineText.h"
-#include "import/prepare/FoldedText.h"
-#include "import/prepare/JudgementWords.h"
+#include "import/lines/FoldedText.h"
+#include "import/lines/JudgementWords.h"
 #include "import/prepare/KeyReports.h"
-#include "import/prepare/KeySection.h"
-#include "import/prepare/OptionKey.h"
-#include "import/prepare/QuestionKey.h"
 #include "import/prepare/StepNames.h"
 #include "import/prepare/Steps.h"
 

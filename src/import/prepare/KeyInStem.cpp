@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "import/keys/BlankPlaces.h"
+#include "import/keys/BracketedKey.h"
+#include "import/keys/OptionKey.h"
+#include "import/keys/QuestionKey.h"
+#include "import/keys/ShownAnswer.h"
 #include "import/labels/LineText.h"
 #include "import/labels/Numerals.h"
-#include "import/prepare/BlankPlaces.h"
-#include "import/prepare/BracketedKey.h"
-#include "import/prepare/JudgementWords.h"
-#include "import/prepare/OptionKey.h"
-#include "import/prepare/QuestionKey.h"
-#include "import/prepare/ShownAnswer.h"
+#include "import/lines/JudgementWords.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

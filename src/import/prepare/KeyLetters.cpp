@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "import/keys/OptionKey.h"
+#include "import/keys/QuestionKey.h"
 #include "import/labels/LineText.h"
-#include "import/prepare/FoldedText.h"
+#include "import/lines/FoldedText.h"
 #include "import/prepare/KeyReports.h"
-#include "import/prepare/OptionKey.h"
-#include "import/prepare/QuestionKey.h"
 #include "import/prepare/StepNames.h"
 #include "import/prepare/Steps.h"
 

@@ -2,7 +2,7 @@
 // What steps about keys have left alone because it was not clear, for those who tell the teacher.
 #pragma once
 
-#include "import/prepare/KeySection.h"
+#include "import/keys/KeySection.h"
 #include "import/prepare/PreparationSteps.h"
 
 #include <cstddef>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "import/marking/TextMarking.h"
-#include "import/prepare/Paper.h"
+#include "import/paper/Paper.h"
 #include "import/prepare/PreparationMemory.h"
 
 namespace quorvantis {

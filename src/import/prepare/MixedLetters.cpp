@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
-#include "import/prepare/LineLabel.h"
-#include "import/prepare/LineWords.h"
-#include "import/prepare/PaperRewrite.h"
+#include "import/lines/LineLabel.h"
+#include "import/lines/LineWords.h"
+#include "import/paper/PaperRewrite.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
-#include "import/prepare/LineNumber.h"
-#include "import/prepare/PaperRewrite.h"
+#include "import/lines/LineNumber.h"
+#include "import/paper/PaperRewrite.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

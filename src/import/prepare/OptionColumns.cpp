@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
-#include "import/prepare/LineLabel.h"
-#include "import/prepare/PaperRewrite.h"
+#include "import/lines/LineLabel.h"
+#include "import/paper/PaperRewrite.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "import/prepare/PlainOptionLines.h"
 
+#include "import/keys/OptionMarks.h"
 #include "import/labels/LineText.h"
 #include "import/labels/OptionSigns.h"
-#include "import/prepare/AnswerWords.h"
-#include "import/prepare/LineBullet.h"
-#include "import/prepare/LineWords.h"
-#include "import/prepare/OptionMarks.h"
-#include "import/prepare/QuestionSigns.h"
-#include "import/prepare/ScoreText.h"
+#include "import/lines/AnswerWords.h"
+#include "import/lines/LineBullet.h"
+#include "import/lines/LineWords.h"
+#include "import/lines/QuestionSigns.h"
+#include "import/lines/ScoreText.h"
 
 #include <algorithm>
 #include <set>

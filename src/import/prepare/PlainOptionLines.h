@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/prepare/PaperText.h"
+#include "import/paper/PaperText.h"
 
 #include <vector>
 

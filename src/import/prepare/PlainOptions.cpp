@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "import/prepare/PaperOutline.h"
-#include "import/prepare/PaperRewrite.h"
+#include "import/paper/PaperOutline.h"
+#include "import/paper/PaperRewrite.h"
+#include "import/paper/PreparedLabels.h"
 #include "import/prepare/PlainOptionLines.h"
-#include "import/prepare/PreparedLabels.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "import/labels/LineText.h"
 #include "import/labels/OptionAlphabets.h"
 #include "import/labels/OptionSequence.h"
-#include "import/prepare/PaperRewrite.h"
+#include "import/paper/PaperRewrite.h"
 #include "import/prepare/Steps.h"
 
 #include <algorithm>

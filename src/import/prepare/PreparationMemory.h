@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/prepare/PaperOutline.h"
+#include "import/paper/PaperOutline.h"
 
 #include <deque>
 #include <memory>

@@ -6,8 +6,8 @@
 #include "import/marking/ImportFailure.h"
 #include "import/marking/ImportSettings.h"
 #include "import/marking/RuleSearch.h"
-#include "import/prepare/Paper.h"
-#include "import/prepare/PaperOutline.h"
+#include "import/paper/Paper.h"
+#include "import/paper/PaperOutline.h"
 #include "import/prepare/PreparationMemory.h"
 
 #include <optional>

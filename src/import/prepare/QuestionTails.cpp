@@ -2,13 +2,13 @@
 #include "import/prepare/QuestionTails.h"
 
 #include "import/labels/OptionSequence.h"
+#include "import/lines/AnswerWords.h"
+#include "import/lines/LineBullet.h"
+#include "import/lines/LineLabel.h"
+#include "import/lines/LineWords.h"
 #include "import/marking/RuleKeys.h"
-#include "import/prepare/AnswerWords.h"
-#include "import/prepare/LineBullet.h"
-#include "import/prepare/LineLabel.h"
-#include "import/prepare/LineWords.h"
-#include "import/prepare/PreparedLabels.h"
-#include "import/prepare/RuleMatches.h"
+#include "import/paper/PreparedLabels.h"
+#include "import/paper/RuleMatches.h"
 
 #include <algorithm>
 #include <compare>

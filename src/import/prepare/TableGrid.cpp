@@ -2,7 +2,7 @@
 #include "import/prepare/TableGrid.h"
 
 #include "import/labels/LineText.h"
-#include "import/prepare/PaperRewrite.h"
+#include "import/paper/PaperRewrite.h"
 
 #include <algorithm>
 

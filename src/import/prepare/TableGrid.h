@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/prepare/Paper.h"
+#include "import/paper/Paper.h"
 
 #include <string>
 #include <vector>

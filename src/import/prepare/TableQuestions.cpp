@@ -4,9 +4,9 @@
 #include "import/labels/LineText.h"
 #include "import/labels/Numerals.h"
 #include "import/labels/OptionSequence.h"
-#include "import/prepare/AnswerHeadings.h"
-#include "import/prepare/LineWords.h"
-#include "import/prepare/PreparedLabels.h"
+#include "import/lines/AnswerHeadings.h"
+#include "import/lines/LineWords.h"
+#include "import/paper/PreparedLabels.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "import/labels/LineText.h"
-#include "import/prepare/PaperOutline.h"
-#include "import/prepare/PaperRewrite.h"
-#include "import/prepare/PreparedLabels.h"
-#include "import/prepare/QuestionSigns.h"
+#include "import/lines/QuestionSigns.h"
+#include "import/paper/PaperOutline.h"
+#include "import/paper/PaperRewrite.h"
+#include "import/paper/PreparedLabels.h"
 #include "import/prepare/QuestionTails.h"
 #include "import/prepare/Steps.h"
 

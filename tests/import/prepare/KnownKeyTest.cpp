@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Papers made from a known key: however it is written, each letter comes to its question or to none.
-#include "import/prepare/PaperOutline.h"
+#include "import/paper/PaperOutline.h"
 #include "import/prepare/StepTest.h"
 
 #include <random>
