@@ -75,6 +75,21 @@ std::size_t OptionsOf(const ReadQuestion& question) {
       std::ranges::count_if(question.options, [](const auto& o) { return !o.empty(); }));
 }
 
+/// "A." to "C." at the beginning of lines; instructions may be numbered "1." to "3.".
+bool HasLetteredLines(const OptionSequence& run) {
+  return run.LineStarts() > 2 && !OptionAlphabets()[run.alphabet].numbersStatements;
+}
+
+/// The share of a paper that stands before the first question, if it looks like questions, too.
+double LeftFront(const Paper& paper, const std::vector<RolePart>& roles) {
+  const auto first = std::ranges::find(roles, PaperRole::QuestionNumber, &RolePart::role);
+  if (first == roles.end()) return 0;
+  constexpr std::size_t kEnoughToSee = 4'000;
+  const std::size_t end = first->span.begin;
+  const auto runs = FindOptionRuns(paper.source.characters, {end - std::min(end, kEnoughToSee), end});
+  return std::ranges::any_of(runs, HasLetteredLines) ? Share(end, paper.source.Size()) : 0;
+}
+
 /// Counts what is wrong with the questions of a reading.
 class Counting {
  public:
@@ -205,7 +220,9 @@ ReadingScore ScoreOf(const Paper& paper, const PaperReading& reading,
   if (reading.HasFailed()) return score;
   score.questions = reading.paper.questions.size();
   if (score.questions == 0) return score;
-  score.explained = ExplainedShare(paper, RolesOf(paper, reading));
+  const std::vector<RolePart> roles = RolesOf(paper, reading);
+  score.explained = ExplainedShare(paper, roles);
+  score.leftFront = LeftFront(paper, roles);
   score.dropped = std::min(Share(reading.paper.dropped.size(), score.questions), 1.0);
   Counting(reading.paper, alphabets).Fill(score);
   score.rising = RisingShare(NumbersOf(paper, reading.marked), score.questions, score.choices);
@@ -217,13 +234,14 @@ double ReadingScore::Total() const {
   const double many = std::log2(1.0 + static_cast<double>(std::min<std::size_t>(questions, 40)));
   return 4 * rising + 0.5 * many + choices * (1.5 * regular + 0.5) +
          choices * keys * (2.5 * plausibleKeys - 0.5) + 0.5 * answered + 2 * explained - 5 * leftOptions -
-         5 * strayMarkers - 5 * leftNumbers - 2 * dropped - 0.7 * longOptions - 4 * emptyParts - 2 * overlong;
+         5 * leftFront - 5 * strayMarkers - 5 * leftNumbers - 2 * dropped - 0.7 * longOptions -
+         4 * emptyParts - 2 * overlong;
 }
 
 double ReadingScore::Confidence() const {
   if (questions == 0) return 0;
-  const double structure = rising * (1 - leftOptions) * (1 - std::min(1.0, dropped)) * (1 - emptyParts) *
-                           (1 - strayMarkers) * (1 - 0.5 * overlong);
+  const double structure = rising * (1 - leftOptions) * (1 - leftFront) * (1 - std::min(1.0, dropped)) *
+                           (1 - emptyParts) * (1 - strayMarkers) * (1 - 0.5 * overlong);
   const double options = choices > 0 ? 0.5 + 0.5 * regular : 1.0;
   return std::clamp(structure * options * (0.3 + 0.7 * explained), 0.0, 1.0);
 }

@@ -17,6 +17,7 @@ struct ReadingScore {
   double plausibleKeys = 0;  ///< of these, those with one or two right options
   double explained = 0;      ///< characters that have a role
   double leftOptions = 0;    ///< questions whose text, or last option, holds labels of options
+  double leftFront = 0;      ///< characters before the first question, if there are options among them
   double leftNumbers = 0;    ///< numbered lines in last options, of these and the questions
   double strayMarkers = 0;   ///< questions with markers in their texts
   double dropped = 0;        ///< parts that became no question, per question

@@ -14,7 +14,8 @@ namespace {
 TEST(KeyLayouts, NoneIsReadWronglyInSilence) {
   std::vector<unsigned> seeds(40);
   std::iota(seeds.begin(), seeds.end(), 1U);
-  seeds.insert(seeds.end(), {176, 202});  // words that could be letters, keys without a heading
+  seeds.insert(seeds.end(), {176, 202, 517});  // words that could be letters, keys without a heading, ranges
+  seeds.insert(seeds.end(), {3053, 3505, 3593});  // tables without a heading, keys like parts, reasons
   std::size_t right = 0;
   std::size_t all = 0;
   for (const unsigned seed : seeds) {

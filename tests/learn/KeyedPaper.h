@@ -291,11 +291,13 @@ inline std::string Silent(const KeyedPaper& paper, std::size_t& right) {
     const std::u16string said = made.options.empty() ? FirstLine(question->answer) : question->letters;
     if (!said.empty() && said != made.answer)
       faults += "wrong " + Utf16ToUtf8(made.stem + u": " + said) + "; ";
+    const bool isSeenBehind = read.size() > paper.questions.size() && IsTold(study, read.size() - 1);
+    const bool isTold = isSeenBehind || IsTold(study, index);
     const bool isLost = said.empty() && made.isSaid && !made.answer.empty();
-    if (isLost && !IsTold(study, index)) faults += "lost " + Utf16ToUtf8(made.stem) + "; ";
+    if (isLost && !isTold) faults += "lost " + Utf16ToUtf8(made.stem) + "; ";
     if (ShowsKey(ShownToPupils(*question), paper.key) && !IsTold(study, index))
       faults += "seen " + Utf16ToUtf8(made.stem) + "; ";
-    if (made.isUnclear && !IsTold(study, index)) faults += "unclear " + Utf16ToUtf8(made.stem) + "; ";
+    if (made.isUnclear && !isTold) faults += "unclear " + Utf16ToUtf8(made.stem) + "; ";
     right += !said.empty() && said == made.answer ? 1 : 0;
   }
   const bool areTold = std::ranges::any_of(study.Warnings(), [](const ReadingWarning& warning) {

@@ -36,6 +36,7 @@ class HeadingSearch {
       HeadingPlace heading = HeadingOf(lines_[i]);
       if (heading.heading == AnswerHeading::None) heading = RepeatedTitle(lines_[i]);
       if (heading.heading == AnswerHeading::None || !IsKeyBehind(i, heading)) continue;
+      if (i > 0 && IsSecondRow(i)) heading.begin = heading.end = Trimmed(text_, lines_[i - 1]).begin;
       if (headings.size() == kMostHeadings) headings.erase(headings.begin() + kMostFirst);
       headings.push_back(heading);
     }
@@ -81,6 +82,13 @@ class HeadingSearch {
     });
     if (!isAgain) return {};
     return {title.begin, title.begin, AnswerHeading::Possible, true};
+  }
+
+  /// "Key  A  B  C" below "No.  1  2  3".
+  bool IsSecondRow(std::size_t line) const {
+    KeyLineReader reader(text_);
+    return reader.Read(lines_[line - 1]).kind == KeyLineKind::NumberRow &&
+           reader.Read(lines_[line]).kind == KeyLineKind::AnswerRow;
   }
 
   bool AreAnswers(TextSpan line) const {

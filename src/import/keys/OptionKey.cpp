@@ -169,6 +169,7 @@ class KeyLetterScan {
     }
     bool isRange = false;
     const bool isDash = IsOneOf(UnitAt(at), u"-–—") && at < answer_.size();
+    const bool isTight = isDash && at == at_;
     if (IsOneOf(UnitAt(at), u",，、;；/&+|") && at < answer_.size()) {
       wasJoined_ = true;
       ++at;
@@ -192,8 +193,8 @@ class KeyLetterScan {
       if (isRange) FillRange(before);
       return true;
     }
-    // "A, F" where there is no F.
-    if (wasJoined_ && IsLoneLetter(at_)) isUnsure_ = true;
+    // "A, F" where there is no F, and "A-C because".
+    if ((wasJoined_ && IsLoneLetter(at_)) || (isTight && at_ == at && IsLaterLetter())) isUnsure_ = true;
     at_ = back;
     return false;
   }
@@ -220,6 +221,13 @@ class KeyLetterScan {
     return at < answer_.size() && IsLetterOrDigit(answer_[at]) &&
            (at + 1 == answer_.size() || !AreInOneWord(answer_[at], answer_[at + 1])) &&
            (IsEnd(at + 1) || !IsBlank(answer_[at + 1]));
+  }
+
+  /// Whether the letter of an option behind the last one that was found stands there by itself.
+  bool IsLaterLetter() const {
+    OptionIndices run;
+    const std::size_t end = ReadRun(run);
+    return end > at_ && run.size() == 1 && run.front() > found_.back() && HasWordBehind(end);
   }
 
   void FillRange(std::size_t before) {

@@ -24,6 +24,12 @@ struct NumberedLetter {
   TextSpan place;
 };
 
+/// Whether a letter stands there by itself.
+bool IsTraceLetter(std::u16string_view text, std::size_t at) {
+  if (at >= text.size() || IsTraceDigit(text[at]) || AlphabetLettersOf(text[at]).empty()) return false;
+  return at + 1 == text.size() || !AreInOneWord(text[at], text[at + 1]);
+}
+
 /// At a digit; the number 0 if there is no letter behind, or the letter begins a word: "1s2", "3 cats".
 NumberedLetter NumberedLetterAt(std::u16string_view text, std::size_t place) {
   constexpr std::size_t kMostDigits = 3;
@@ -38,9 +44,11 @@ NumberedLetter NumberedLetterAt(std::u16string_view text, std::size_t place) {
   }
   const std::size_t letter = std::min(text.find_first_not_of(kBetween, at), text.size());
   if (letter == text.size() || letter - at > kMostBetween) return found;
-  const bool isLetter = !IsTraceDigit(text[letter]) && !AlphabetLettersOf(text[letter]).empty();
-  const bool goesOn = letter + 1 < text.size() && AreInOneWord(text[letter], text[letter + 1]);
-  if (isLetter && !goesOn) found = {number, {place, letter + 1}};
+  if (!IsTraceLetter(text, letter)) return found;
+  const bool isRange = letter + 1 < text.size() &&
+                       std::u16string_view(u"-–—~～").find(text[letter + 1]) != std::u16string_view::npos &&
+                       IsTraceLetter(text, letter + 2);
+  found = {number, {place, letter + (isRange ? 3U : 1U)}};
   return found;
 }
 
