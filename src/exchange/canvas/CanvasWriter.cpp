@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/canvas/CanvasFormat.h"
 #include "exchange/canvas/CanvasItemWriter.h"
-#include "exchange/markup/Addresses.h"
 #include "exchange/markup/Markup.h"
 #include "exchange/qti/ZipWriter.h"
 #include "exchange/xml/HtmlParts.h"
@@ -66,13 +65,13 @@ class CanvasPackage {
   /// Adds the files of a question, and returns their addresses in its HTML.
   std::vector<std::string> AddFiles(const ExchangedQuestion& question) {
     const std::string folder = identifier_ + "/question" + std::to_string(question.number) + "/";
-    const std::vector<std::u16string> names = UniqueNames(question.files);
+    const std::vector<std::string> names = PackageNames(question.files);
     std::vector<std::string> addresses;
+    addresses.reserve(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
-      const std::string name = std::string(kCanvasFiles) + folder + Utf16ToUtf8(names[i]);
-      zip_.Add(name, BytesOf(question.files[i]), true);
-      fileHrefs_.push_back(std::string(kCanvasFiles) + folder + AddressPart(names[i]));
-      addresses.push_back(std::string(kCanvasFileBase) + folder + AddressPart(names[i]));
+      fileHrefs_.push_back(std::string(kCanvasFiles) + folder + names[i]);
+      zip_.Add(fileHrefs_.back(), BytesOf(question.files[i]), true);
+      addresses.push_back(std::string(kCanvasFileBase) + folder + names[i]);
     }
     return addresses;
   }

@@ -135,9 +135,7 @@ class Reduction {
                   {FormatInteger(static_cast<std::int64_t>(question.files.size()))});
       question.files.clear();
     }
-    if (!held_.fileNames) {
-      for (ExchangedFile& file : question.files) ReduceFileName(file);
-    }
+    for (ExchangedFile& file : question.files) ReduceFileName(file);
     if (!held_.modelAnswer && !question.modelAnswer.empty()) {
       notes_.Tell(text_id::kExchangeModelAnswerLeftOut);
       question.modelAnswer.clear();
@@ -153,12 +151,13 @@ class Reduction {
     if (score != *question.score) notes_.Tell(text_id::kExchangeBlankScores, {FormatInteger(score)});
   }
 
-  /// Two dots in a row would lead to another folder.
+  /// Slashes would lead to another folder; two dots in a row would, too, where names stay as they are.
   void ReduceFileName(ExchangedFile& file) {
+    const std::u16string_view risky = held_.fileNames ? u"/\\" : kRiskyInNames;
     std::u16string name;
     for (const char16_t unit : file.name) {
-      const bool isRisky = unit < u' ' || kRiskyInNames.find(unit) != kRiskyInNames.npos;
-      if (unit != u'.' || !name.ends_with(u'.')) name.push_back(isRisky ? u'_' : unit);
+      const bool isRisky = unit < u' ' || risky.find(unit) != risky.npos;
+      if (held_.fileNames || unit != u'.' || !name.ends_with(u'.')) name.push_back(isRisky ? u'_' : unit);
     }
     if (name == file.name) return;
     notes_.Tell(text_id::kExchangeFileRenamed, {file.name, name});

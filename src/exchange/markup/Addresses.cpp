@@ -4,6 +4,8 @@
 #include "text/AsciiCase.h"
 #include "text/Utf.h"
 
+#include <algorithm>
+
 namespace quorvantis {
 namespace {
 
@@ -58,6 +60,26 @@ std::u16string FileNameIn(std::u16string_view address) {
     if (isEscape) i += 2;
   }
   return Utf8ToUtf16(name);
+}
+
+std::u16string PackageName(std::u16string_view name) {
+  std::u16string safe(name);
+  for (char16_t& unit : safe) {
+    if (unit > u'~' || unit == u'~' || !IsSafeInAddresses(static_cast<char>(unit))) unit = u'_';
+  }
+  if (safe.find_first_not_of(u'.') == safe.npos) safe.assign(safe.size(), u'_');  // another folder
+  return safe;
+}
+
+bool WasCalled(std::u16string_view packageName, std::u16string_view name) {
+  const bool isName = !name.empty() && name.find_first_of(u"/\\") == name.npos &&
+                      std::all_of(name.begin(), name.end(), [](char16_t unit) { return unit >= u' '; });
+  const std::u16string safe = PackageName(name);
+  if (!isName || !packageName.ends_with(safe)) return false;
+  std::u16string_view number = packageName.substr(0, packageName.size() - safe.size());
+  if (number.empty()) return true;
+  return number.size() > 1 && number.ends_with(u'-') &&
+         number.find_first_not_of(u"0123456789") == number.size() - 1;
 }
 
 std::string AddressPart(std::u16string_view name) {

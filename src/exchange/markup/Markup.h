@@ -27,7 +27,7 @@ struct MarkupLosses {
 /// A picture in a text, or a link to something that may be a file. It is no longer in the text.
 struct MarkupReference {
   std::u16string address;   ///< as written, character references resolved
-  std::u16string label;     ///< the text for those who cannot see the picture; empty for a link
+  std::u16string label;     ///< what stands for the picture, or the name of a linked file; may be empty
   bool isFollowed = false;  ///< more text stands behind it
 };
 

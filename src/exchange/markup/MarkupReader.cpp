@@ -209,8 +209,10 @@ void MarkupReader::TakeLink(const ReadTag& tag) {
     if (IsOfTheNet(linkAddress_)) {
       if (label != linkAddress_) pieces_.AddText(u" (" + linkAddress_ + u")");
     } else if (!linkAddress_.empty() && !linkAddress_.starts_with(u"#")) {
-      if (label == FileNameIn(linkAddress_)) pieces_.RemoveTextFrom(linkMark_);
-      AddReference(linkAddress_, {});
+      const std::u16string name = FileNameIn(linkAddress_);
+      const bool isName = label == name || WasCalled(name, label);
+      if (isName) pieces_.RemoveTextFrom(linkMark_);
+      AddReference(linkAddress_, isName ? label : std::u16string());
     }
   }
   linkIsOpen_ = !tag.isEnd;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/form/Points.h"
-#include "exchange/markup/Addresses.h"
 #include "exchange/markup/Markup.h"
 #include "exchange/qti/QtiFormat.h"
 #include "exchange/qti/QtiItemWriter.h"
@@ -47,13 +46,13 @@ class QtiPackageText {
   std::vector<std::string> AddItem(std::size_t index) {
     const ExchangedQuestion& question = exam_.questions[index];
     const std::string identifier = ItemIdentifier(index);
-    std::vector<std::string> names;
+    std::vector<std::string> names = PackageNames(question.files);
     std::vector<std::string> addresses;
-    const std::vector<std::u16string> fileNames = UniqueNames(question.files);
-    for (std::size_t i = 0; i < fileNames.size(); ++i) {
-      names.push_back("media/" + identifier + "/" + Utf16ToUtf8(fileNames[i]));
-      addresses.push_back("../media/" + identifier + "/" + AddressPart(fileNames[i]));
-      zip_.Add(names.back(), BytesOf(question.files[i]), true);
+    addresses.reserve(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      names[i].insert(0, "media/" + identifier + "/");
+      addresses.push_back("../" + names[i]);
+      zip_.Add(names[i], BytesOf(question.files[i]), true);
     }
     zip_.Add("items/" + identifier + ".xml", QtiItem(question, identifier, exam_.shufflesOptions, addresses));
     return names;
@@ -121,17 +120,12 @@ class QtiPackageText {
                 {{"identifier", ItemIdentifier(i)}, {"type", "imsqti_item_xmlv2p1"}, {"href", href}});
       xml.Empty("file", {{"href", href}});
       xml.Empty("file", {{"href", "style.css"}});
-      for (const std::string& name : media[i]) xml.Empty("file", {{"href", HrefOf(name)}});
+      for (const std::string& name : media[i]) xml.Empty("file", {{"href", name}});
       xml.End("resource");
     }
     xml.End("resources");
     xml.End("manifest");
     return text;
-  }
-
-  static std::string HrefOf(std::string_view name) {
-    const std::size_t folder = name.rfind('/') + 1;
-    return std::string(name.substr(0, folder)) + AddressPart(TextOf(name.substr(folder)));
   }
 
   const ExchangedExam& exam_;

@@ -6,6 +6,7 @@
 #include "exchange/xml/Base64.h"
 #include "exchange/xml/XmlText.h"
 #include "platform/TextNumbers.h"
+#include "text/AsciiCase.h"
 #include "text/HtmlEscape.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
@@ -33,6 +34,20 @@ std::vector<std::u16string> UniqueNames(const std::vector<ExchangedFile>& files)
     for (int number = 2; name.empty() || std::ranges::find(names, name) != names.end(); ++number)
       name = FormatInteger(number) + u"-" + plain;
     names.push_back(std::move(name));
+  }
+  return names;
+}
+
+std::vector<std::string> PackageNames(const std::vector<ExchangedFile>& files) {
+  std::vector<std::string> names;
+  std::vector<std::u16string> taken;  // on disks that do not tell the cases apart
+  for (const ExchangedFile& file : files) {
+    const std::u16string plain = PackageName(FileNameOf(file.name));
+    std::u16string name = plain;
+    for (int number = 2; name.empty() || std::ranges::find(taken, AsciiLower(name)) != taken.end(); ++number)
+      name = FormatInteger(number) + u"-" + plain;
+    taken.push_back(AsciiLower(name));
+    names.push_back(Utf16ToUtf8(name));
   }
   return names;
 }
@@ -71,6 +86,7 @@ std::u16string HtmlReading::Take(ReadMarkup read, ExchangedQuestion& question) {
       tools_.notes.Tell(text_id::kExchangeNotFetched, {Excerpt(reference.address)});
       continue;
     }
+    if (WasCalled(file->name, reference.label)) file->name = reference.label;
     if (reference.isFollowed && IsPictureName(file->name))
       tools_.notes.Tell(text_id::kExchangePictureMoved, {file->name});
     const bool isKnown = std::ranges::any_of(

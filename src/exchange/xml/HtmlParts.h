@@ -18,6 +18,9 @@ bool IsPictureName(std::u16string_view name);
 /// The names of the files, each made different from those before it.
 std::vector<std::u16string> UniqueNames(const std::vector<ExchangedFile>& files);
 
+/// The same for names in a package, which are those of PackageName().
+std::vector<std::string> PackageNames(const std::vector<ExchangedFile>& files);
+
 /// HTML that shows the files of a question below its text: pictures in place, other files as links.
 /// `addresses` has the address of each file.
 std::u16string HtmlOfFiles(const std::vector<ExchangedFile>& files, const std::vector<std::string>& addresses,

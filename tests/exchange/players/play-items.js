@@ -49,8 +49,8 @@ const choose = async (item, identifiers) => {
   }
 };
 
-// The player puts a slash before addresses, and escapes them though they are escaped already.
-const exportedAddress = (picture) => decodeURI(picture.getAttribute('src').slice(1));
+// The player puts a slash before addresses. It escapes them once more, which changes none of ours.
+const exportedAddress = (picture) => picture.getAttribute('src').slice(1);
 
 const checkLook = async (item, wanted, tell) => {
   const options = [...item.querySelectorAll('qti-simple-choice')].sort(
