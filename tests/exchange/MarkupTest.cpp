@@ -36,7 +36,7 @@ const HtmlRow kHtmlRows[] = {
     {"<table><tr><td>a</td><td>b</td></tr><tr><td>c</td></tr></table>", "a | b\r\nc", {.table = true}},
     {"<font color=red>x</font>", "x", {.formatting = true}},
     {"<blah>x</blah>", "x", {.formatting = true}},
-    {"<a href=\"https://x.org/\">site</a>", "site (https://x.org/)"},
+    {"<a href=\"https://x.org/\">site</a>", "site (https://x.org/)", {.formatting = true}},
     {"a<!-- <b> -->b<?php x ?>c", "abc"},
     // Nothing that runs.
     {"a<script>alert(1)</script>b", "ab", {.executable = true}},

@@ -207,7 +207,10 @@ void MarkupReader::TakeLink(const ReadTag& tag) {
   if (linkIsOpen_) {
     const std::u16string label(WithoutSpace(pieces_.TextFrom(linkMark_)));
     if (IsOfTheNet(linkAddress_)) {
-      if (label != linkAddress_) pieces_.AddText(u" (" + linkAddress_ + u")");
+      if (label != linkAddress_) {
+        pieces_.AddText(u" (" + linkAddress_ + u")");
+        losses_.formatting = true;
+      }
     } else if (!linkAddress_.empty() && !linkAddress_.starts_with(u"#")) {
       const std::u16string name = FileNameIn(linkAddress_);
       const bool isName = label == name || WasCalled(name, label);

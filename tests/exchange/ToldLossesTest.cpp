@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+// Nothing is lost in silence: whatever of an exam does not come back from a format as it was has been told
+// before, with the number of its question; and whatever of a foreign file has no place in an exam is told
+// when it is read.
+#include "RandomExam.h"
+#include "exchange/Formats.h"
+#include "exchange/QuestionExport.h"
+#include "exchange/exam/ExamToExchange.h"
+#include "exchange/exam/ExchangeToExam.h"
+#include "model/AnswerLetters.h"
+#include "model/QuestionKinds.h"
+#include "model/document/FrameSetExam.h"
+#include "platform/posix/PosixFiles.h"
+#include "shell/language/BuiltInStrings.h"
+#include "support/RecordingWorld.h"
+#include "text/PathText.h"
+#include "text/Utf.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace quorvantis::test {
+namespace {
+
+/// What authors write and no format holds.
+constexpr std::u16string_view kUnheld[] = {
+    u"<table><tr><td>a</td><td>b</td></tr></table>",
+    u"<font color=\"red\">red</font>",
+    u"<img src=\"https://example.org/a.png\">",
+    u"<img src=\"gone.png\" alt=\"gone\">",
+    u"<a href=\"https://example.org\">here</a>",
+    u"<script>run()</script>",
+    u"<ul><li>one</li></ul>",
+    u"<span style=\"color:red\">red</span>",
+    u"<a href=\"other.pdf\">other</a>",
+    u"<input type=\"text\">",
+    u"<h1>head</h1>",
+};
+
+/// Exams as they stand in a window, with all that can be lost.
+class WildExam {
+ public:
+  WildExam(const std::filesystem::path& folder, unsigned seed)
+      : folder_(folder), random_(seed), tame_(folder, seed) {}
+
+  void Fill(FrameSetExam& exam) {
+    constexpr int kQuestions = 6;
+    ExchangeNotes ofNoInterest;
+    ExchangedExam tame = tame_.Make(kQuestions);
+    StoreExchanged(tame, exam, 1, ofNoInterest);
+    exam.randomMode = static_cast<RandomMode>(random_() % 3);
+    if (Chance(3)) exam.examAttachmentPaths[0] = PathToText(WriteBytes(folder_ / "whole", "x"));
+    if (Chance(3)) exam.title += kUnheld[0];
+    for (int n = 1; n <= kQuestions; ++n) Change(exam.Question(n));
+    exam.CountQuestions();
+  }
+
+ private:
+  bool Chance(std::size_t in) { return random_() % in == 0; }
+
+  void Spoil(std::u16string& text) {
+    if (Chance(6)) text += kUnheld[random_() % std::size(kUnheld)];
+  }
+
+  void Change(ExamQuestion& question) {
+    Spoil(question.text);
+    Spoil(question.options[random_() % kOptionCount]);
+    if (Chance(4)) question.options[random_() % kOptionCount].clear();
+    if (Chance(6)) question.text.clear();
+    if (Chance(6)) question.answerText += u"<@>more <b>bold</b>";
+    Spoil(question.answerText);
+    Spoil(question.essayAnswer);
+    if (Chance(12)) question.attachmentNames[0] = u"../of: another*.png";
+    if (Chance(12)) question.attachmentPaths[0] = u"/nowhere";
+    if (Chance(12)) question.kind = static_cast<QuestionKind>(random_() % 6);
+  }
+
+  std::filesystem::path folder_;
+  std::mt19937 random_;
+  RandomExam tame_;
+};
+
+/// All that a question has, one line a part; without what its kind does not keep.
+std::vector<std::u16string> PartsOfQuestion(const ExamQuestion& question) {
+  const AnswerParts keeps = AnswerOf(question.kind);
+  std::vector<std::u16string> parts{
+      u"kind " + std::u16string(1, static_cast<char16_t>(u'0' + int(question.kind))),
+      u"text " + question.text};
+  for (std::size_t i = 0; i < kOptionCount && keeps.options; ++i) {
+    const bool isRight = (question.answerMask & AnswerBoxWeight(i)) != 0;
+    parts.push_back((isRight ? u"right " : u"wrong ") + question.options[i]);
+  }
+  if (keeps.fillIn) parts.push_back(u"answers " + question.answerText);
+  if (keeps.essay) parts.push_back(u"model " + question.essayAnswer);
+  for (std::size_t i = 0; i < kMaxAttachments && !question.attachmentPaths[i].empty(); ++i) {
+    parts.push_back(u"file " + question.attachmentNames[i]);
+    parts.push_back(u"bytes " + Utf8ToUtf16(ReadBytes(TextToPath(question.attachmentPaths[i]))));
+  }
+  return parts;
+}
+
+std::string FirstDifference(const ExamQuestion& before, const ExamQuestion& after) {
+  std::vector<std::u16string> a = PartsOfQuestion(before);
+  std::vector<std::u16string> b = PartsOfQuestion(after);
+  a.resize(std::max(a.size(), b.size()));
+  b.resize(a.size());
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (a[i] != b[i]) return Utf16ToUtf8(a[i]) + "\nbecame " + Utf16ToUtf8(b[i]);
+  }
+  return {};
+}
+
+class ToldLosses : public testing::TestWithParam<std::string_view> {
+ protected:
+  ToldLosses() { std::filesystem::create_directory(folder / "kept"); }
+
+  /// Whether anything was told of a question; 0: of the exam as a whole.
+  static bool IsTold(const std::vector<ExchangeNote>& notes, int question) {
+    return std::ranges::find(notes, question, &ExchangeNote::question) != notes.end();
+  }
+
+  ExchangedExam Read(std::string_view bytes, ExchangeNotes& notes) {
+    const ExchangeSource source(WriteBytes(folder / "file", bytes));
+    ExchangeFiles files(folder / "kept", notes);
+    ReadingTools tools{BuiltInStrings(), files, notes, progress};
+    return FormatNamed(GetParam())->reader()->Read(source, tools).value_or(ExchangedExam{});
+  }
+
+  TemporaryFolder folder;
+  PosixFiles posixFiles;
+  RecordingWorld world{folder.Path(), posixFiles};
+  InterruptedProgress progress;
+};
+
+INSTANTIATE_TEST_SUITE_P(Of, ToldLosses,
+                         testing::Values("moodle", "qti", "canvas", "gift", "aiken", "csv", "tsv"),
+                         [](const auto& name) { return std::string(name.param); });
+
+TEST_P(ToldLosses, OfWhatIsExported) {
+  const FormatRow& format = *FormatNamed(GetParam());
+  for (unsigned seed = 1; seed <= 80; ++seed) {
+    FrameSetExam exam(world.services);
+    exam.SetHostMode(1);
+    WildExam(folder.Path(), seed).Fill(exam);
+    const ForeseenExport foreseen = ForeseeExport(exam, format);
+    ExchangeNotes notes;
+    const ExchangedExam read = Read(format.writer()->Write(foreseen.held, BuiltInStrings(), progress), notes);
+    ASSERT_EQ(read.questions.size(), foreseen.held.questions.size()) << seed;
+    FrameSetExam back(world.services);
+    back.SetHostMode(1);
+    StoreExchanged(read, back, 1, notes);
+    int slot = 0;
+    for (int n = 1; n <= exam.LastCountedQuestion(); ++n) {
+      const bool isHeld = std::ranges::find(foreseen.held.questions, n, &ExchangedQuestion::number) !=
+                          foreseen.held.questions.end();
+      const std::string difference =
+          isHeld ? FirstDifference(exam.Question(n), back.Question(++slot)) : std::string("left out");
+      if (!difference.empty() && !IsTold(foreseen.losses, n))
+        ADD_FAILURE() << seed << " " << n << ": " << difference;
+    }
+    const bool isAsBefore = exam.title == back.title && exam.examAttachmentPaths[0].empty() &&
+                            exam.randomMode != RandomMode::Sequence;
+    if (!isAsBefore && !IsTold(foreseen.losses, 0)) ADD_FAILURE() << seed << " " << Utf16ToUtf8(exam.title);
+  }
+}
+
+/// What learning systems have and an exam has not. A table has columns for five options.
+void AddForeignParts(ExchangedExam& exam, const ExchangedFile& file, bool isTable, unsigned seed) {
+  std::mt19937 random(seed);
+  for (ExchangedQuestion& question : exam.questions) {
+    if (question.kind == QuestionKind::Choice && !isTable && random() % 2 == 0) {
+      for (int i = 0; i < 6; ++i) question.options.push_back({u"further", i == 0});
+    }
+    for (BlankAnswers& blank : question.blanks) {
+      if (random() % 2 == 0) blank.push_back(u"another");
+    }
+    for (int i = 0; i < 12 && random() % 4 == 0; ++i) question.files.push_back(file);
+  }
+}
+
+TEST_P(ToldLosses, OfWhatIsImported) {
+  const FormatRow& format = *FormatNamed(GetParam());
+  const ExchangedFile file{u"more.png", WriteBytes(folder / "more.png", "more")};
+  for (unsigned seed = 1; seed <= 60; ++seed) {
+    ExchangedExam foreign = RandomExam(folder.Path(), seed).Make(6);
+    AddForeignParts(foreign, file, GetParam().ends_with("sv"), seed);
+    ExchangeNotes ofNoInterest;
+    const ExchangedExam held = HeldExam(format.held, foreign, ofNoInterest);
+    ExchangeNotes notes;
+    const ExchangedExam read = Read(format.writer()->Write(held, BuiltInStrings(), progress), notes);
+    FrameSetExam exam(world.services);
+    exam.SetHostMode(1);
+    StoreExchanged(read, exam, 1, notes);
+    ASSERT_EQ(read.questions.size(), held.questions.size()) << seed;
+    for (std::size_t i = 0; i < held.questions.size(); ++i) {
+      const ExchangedQuestion& question = held.questions[i];
+      const ExamQuestion& stored = exam.Question(static_cast<int>(i + 1));
+      std::size_t options = 0;
+      for (const std::u16string& option : stored.options) options += option.empty() ? 0 : 1;
+      std::size_t answers = stored.answerText.empty() ? 0 : 1;
+      for (std::size_t at = stored.answerText.find(kListSeparator); at != std::u16string::npos;
+           at = stored.answerText.find(kListSeparator, at + 1))
+        ++answers;
+      std::size_t wanted = 0;
+      for (const BlankAnswers& blank : question.blanks) wanted += blank.size();
+      const auto files =
+          std::ranges::count_if(stored.attachmentPaths, [](const auto& path) { return !path.empty(); });
+      const bool isWhole = options == question.options.size() && answers == wanted &&
+                           static_cast<std::size_t>(files) == question.files.size();
+      if (!isWhole && !IsTold(notes.All(), read.questions[i].number))
+        ADD_FAILURE() << seed << " " << question.number << " " << Utf16ToUtf8(stored.answerText);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quorvantis::test
