@@ -153,12 +153,14 @@ class CanvasItem {
                {{"maxvalue", "100"}, {"minvalue", "0"}, {"varname", "SCORE"}, {"vartype", "Decimal"}});
     xml_.End("outcomes");
     if (HasModelAnswer()) WriteFeedbackCondition();
-    if (question_.kind == QuestionKind::Choice) {
+    if (Rights() > 0) {
       WriteChoiceCondition();
     } else if (HasSeveralBlanks()) {
       for (std::size_t i = 0; i < question_.blanks.size(); ++i) WriteBlankCondition(i);
     } else if (question_.kind == QuestionKind::FillIn) {
       WriteAnswersCondition();
+    } else if (!HasModelAnswer()) {
+      WriteNoCondition();
     }
     xml_.End("resprocessing");
   }
@@ -169,7 +171,6 @@ class CanvasItem {
 
   /// All right options and none of the others.
   void WriteChoiceCondition() {
-    if (Rights() == 0) return;
     xml_.Begin("respcondition", {{"continue", "No"}});
     xml_.Begin("conditionvar");
     if (Rights() > 1) xml_.Begin("and");
@@ -206,6 +207,15 @@ class CanvasItem {
     }
     xml_.End("conditionvar");
     WriteScore("Set", "100");
+    xml_.End("respcondition");
+  }
+
+  /// QTI wants a condition, also where somebody has to mark the answer.
+  void WriteNoCondition() {
+    xml_.Begin("respcondition", {{"continue", "No"}});
+    xml_.Begin("conditionvar");
+    xml_.Empty("other");
+    xml_.End("conditionvar");
     xml_.End("respcondition");
   }
 
