@@ -130,6 +130,9 @@ class Conversion {
     if (recognised == nullptr)
       throw CommandError(request_.source.string() + ": is of none of the formats " + ReadableFormats() +
                          "; name the right one with --from");
+    if (recognised->reader == nullptr)
+      throw CommandError(request_.source.string() + ": is " + std::string(recognised->name) +
+                         ", which the command import reads");
     return recognised;
   }
 

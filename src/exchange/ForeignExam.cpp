@@ -56,6 +56,11 @@ void ForeignExam::Read(Progress& progress) {
   if (format_ == nullptr && HasExamExtension(file_)) return problem(text_id::kExchangeIsExam, {});
   if (format_ == nullptr) format_ = RecogniseFormat(source);
   if (format_ == nullptr) return problem(text_id::kExchangeNoFormat, {});
+  if (format_->reader == nullptr) {
+    const std::u16string title = services_.strings.Text(format_->title);
+    format_ = nullptr;
+    return problem(text_id::kExchangeIsPaper, title);
+  }
   ReadQuestions(source, progress);
   if (questionCount_ == 0) problem(text_id::kExchangeNothingRead, services_.strings.Text(format_->title));
 }

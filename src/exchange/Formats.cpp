@@ -158,6 +158,7 @@ const FormatRow kFormats[] = {
               .unanswered = true,
               .scores = true,
               .title = true},
+     .recognises = LooksLikeMarkdown,
      .writer = NewWriter<MarkdownWriter>},
 };
 
@@ -177,9 +178,15 @@ const FormatRow* FormatNamed(std::string_view name) {
 }
 
 const FormatRow* RecogniseFormat(const ExchangeSource& source) {
-  const auto* const row = std::ranges::find_if(kFormats, [&source](const FormatRow& format) {
-    return format.recognises != nullptr && format.recognises(source);
-  });
+  const auto find = [&source](bool isRead) {
+    return std::ranges::find_if(kFormats, [&source, isRead](const FormatRow& format) {
+      return format.recognises != nullptr && (format.reader != nullptr) == isRead &&
+             format.recognises(source);
+    });
+  };
+  // What is only written has the form that this program gives it, so it is told apart first.
+  const FormatRow* row = find(false);
+  if (row == std::end(kFormats)) row = find(true);
   return row != std::end(kFormats) ? row : nullptr;
 }
 

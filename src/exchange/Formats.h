@@ -19,7 +19,8 @@ struct FormatRow {
   std::string_view extension;      ///< of new files, in lower case, without the dot
   bool extensionIsItsOwn = false;  ///< no other row has it, so it says what to write
   HeldParts held{};
-  /// Whether a file looks like one of the format; null if the format is only written.
+  /// Whether a file looks like one of the format. A format that is only written can have it, too, so that its
+  /// files are not taken for those of another.
   bool (*recognises)(const ExchangeSource& source) = nullptr;
   std::unique_ptr<FormatReader> (*reader)() = nullptr;
   std::unique_ptr<FormatWriter> (*writer)() = nullptr;
@@ -31,7 +32,7 @@ std::span<const FormatRow> Formats();
 /// The format of that name, in either case; null if there is none.
 const FormatRow* FormatNamed(std::string_view name);
 
-/// The format that a file has, by its content; null if it is none of them.
+/// The format that a file has, by its content; null if it is none of them. It may be one without a reader.
 const FormatRow* RecogniseFormat(const ExchangeSource& source);
 
 /// The format to write into a file of that name; null if its extension does not tell.

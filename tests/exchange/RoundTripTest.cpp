@@ -107,6 +107,19 @@ TEST_P(RoundTrip, KeepsWhatTheFormatHolds) {
   }
 }
 
+/// It has no reader, and its files must not be taken for those of a format that has one.
+TEST(Markdown, IsRecognised) {
+  const TemporaryFolder folder;
+  InterruptedProgress progress;
+  const FormatRow& markdown = *FormatNamed("markdown");
+  for (unsigned seed = 1; seed <= 100; ++seed) {
+    ExchangeNotes notes;
+    const ExchangedExam exam = HeldExam(markdown.held, RandomExam(folder.Path(), seed).Make(6), notes);
+    const auto file = WriteBytes(folder / "file", markdown.writer()->Write(exam, BuiltInStrings(), progress));
+    EXPECT_EQ(RecogniseFormat(ExchangeSource(file)), &markdown) << ReadBytes(file);
+  }
+}
+
 TEST(ExamAndExchange, AreTheSame) {
   const TemporaryFolder folder;
   PosixFiles files;

@@ -2,6 +2,7 @@
 #include "exchange/plain/MarkdownWriter.h"
 
 #include "exchange/form/Points.h"
+#include "exchange/form/TextSource.h"
 #include "exchange/markup/Markup.h"
 #include "model/AnswerLetters.h"
 #include "platform/TextNumbers.h"
@@ -10,8 +11,12 @@
 #include "text/NumberText.h"
 #include "text/Utf.h"
 
+#include <utility>
+
 namespace quorvantis {
 namespace {
+
+constexpr std::u16string_view kIndent = u"    ";
 
 /// The characters of a text, with what Markdown would take for markup protected.
 std::u16string MarkdownText(std::u16string_view examText, std::u16string_view indent) {
@@ -34,13 +39,43 @@ std::u16string AnswerText(const ExchangedQuestion& question) {
     for (const std::u16string& one : blank)
       answer.append(answer.empty() ? u"" : u", ").append(MarkdownText(one, u""));
   }
-  return answer + MarkdownText(question.modelAnswer, u"    ");
+  return answer + MarkdownText(question.modelAnswer, kIndent);
 }
+
+/// Whether lines are such as MarkdownWriter puts below each other. Other texts have numbered questions, too.
+class MarkdownShape {
+ public:
+  bool Take(std::u16string_view line) {
+    const bool goesOn = std::exchange(isBroken_, line.ends_with(u"  "));
+    const std::u16string_view shown = Trimmed(line);
+    if (shown.empty()) return true;
+    if (!goesOn && shown.starts_with(u"ANSWER:")) return false;  // as Aiken has it
+    if (number_ > 0 && line.starts_with(kIndent)) {
+      hasParts_ = true;
+      return goesOn || IsOption(line.substr(kIndent.size())) || IsAnswer(shown);
+    }
+    if (number_ == 0 && line.starts_with(u"# ")) return true;
+    return line.starts_with(FormatInteger(++number_) + u". ");
+  }
+
+  bool HasParts() const { return hasParts_; }
+
+ private:
+  static bool IsOption(std::u16string_view line) {
+    return line.size() > 2 && line[0] >= u'A' && line[0] <= u'Z' && line.substr(1).starts_with(u". ");
+  }
+
+  /// In any language.
+  static bool IsAnswer(std::u16string_view line) { return line.find_first_of(u":\uFF1A") != line.npos; }
+
+  int number_ = 0;
+  bool isBroken_ = false;  ///< the last line ends in a line break
+  bool hasParts_ = false;
+};
 
 }  // namespace
 
 std::string MarkdownWriter::Write(const ExchangedExam& exam, const StringTable& strings, Progress&) {
-  constexpr std::u16string_view kIndent = u"    ";
   std::u16string text;
   if (!exam.title.empty()) text = u"# " + MarkdownText(exam.title, u"") + u"\n";
   int number = 0;
@@ -61,6 +96,15 @@ std::string MarkdownWriter::Write(const ExchangedExam& exam, const StringTable& 
       text.append(kIndent) += FillMessage(strings.Text(text_id::kExchangeAnswer), {answer}) + u"\n";
   }
   return Utf16ToUtf8(text);
+}
+
+bool LooksLikeMarkdown(const ExchangeSource& source) {
+  const std::u16string head = HeadText(source);
+  MarkdownShape shape;
+  for (const std::u16string_view line : LinesOf(head)) {
+    if (!shape.Take(line)) return false;
+  }
+  return shape.HasParts();
 }
 
 }  // namespace quorvantis

@@ -12,4 +12,7 @@ class MarkdownWriter : public FormatWriter {
   std::string Write(const ExchangedExam& exam, const StringTable& strings, Progress& progress) override;
 };
 
+/// Whether a file looks like one of these: numbered questions, and all below them indented.
+bool LooksLikeMarkdown(const ExchangeSource& source);
+
 }  // namespace quorvantis
