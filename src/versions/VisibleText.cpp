@@ -2,12 +2,10 @@
 #include "versions/VisibleText.h"
 
 #include "text/AsciiCase.h"
-#include "text/NumberText.h"
+#include "text/HtmlEntities.h"
 #include "text/Utf.h"
 
 #include <algorithm>
-#include <iterator>
-#include <optional>
 
 namespace quorvantis {
 namespace {
@@ -15,41 +13,6 @@ namespace {
 constexpr bool IsAsciiLetter(char16_t unit) {
   const char16_t upper = AsciiUpper(unit);
   return upper >= u'A' && upper <= u'Z';
-}
-
-struct NamedCharacter {
-  std::u16string_view name;
-  char16_t unit;
-};
-
-/// Those that authors write. Others are left as they are, and then not found on paper: a false alarm, never a
-/// false assurance.
-constexpr NamedCharacter kNamed[] = {
-    {u"amp", u'&'},         {u"lt", u'<'},          {u"gt", u'>'},          {u"quot", u'"'},
-    {u"apos", u'\''},       {u"nbsp", u'\u00A0'},   {u"times", u'\u00D7'},  {u"divide", u'\u00F7'},
-    {u"deg", u'\u00B0'},    {u"plusmn", u'\u00B1'}, {u"middot", u'\u00B7'}, {u"frac12", u'\u00BD'},
-    {u"frac14", u'\u00BC'}, {u"sup2", u'\u00B2'},   {u"sup3", u'\u00B3'},   {u"micro", u'\u00B5'},
-    {u"pi", u'\u03C0'},     {u"alpha", u'\u03B1'},  {u"beta", u'\u03B2'},   {u"gamma", u'\u03B3'},
-    {u"le", u'\u2264'},     {u"ge", u'\u2265'},     {u"ne", u'\u2260'},     {u"rarr", u'\u2192'},
-    {u"larr", u'\u2190'},   {u"hellip", u'\u2026'}, {u"ndash", u'\u2013'},  {u"mdash", u'\u2014'},
-    {u"laquo", u'\u00AB'},  {u"raquo", u'\u00BB'},  {u"euro", u'\u20AC'},   {u"copy", u'\u00A9'},
-};
-
-/// The value of "#65" or "#x41".
-std::optional<char32_t> NumberedCharacter(std::u16string_view name) {
-  name.remove_prefix(1);
-  const bool isHexadecimal = !name.empty() && AsciiLower(name.front()) == u'x';
-  if (isHexadecimal) name.remove_prefix(1);
-  if (name.empty() || name.size() > 7) return std::nullopt;
-  char32_t value = 0;
-  for (const char16_t unit : name) {
-    const char16_t lower = AsciiLower(unit);
-    const bool isLetter = isHexadecimal && lower >= u'a' && lower <= u'f';
-    if (!IsDigit(unit) && !isLetter) return std::nullopt;
-    const int digit = isLetter ? lower - u'a' + 10 : unit - u'0';
-    value = value * (isHexadecimal ? 16 : 10) + static_cast<char32_t>(digit);
-  }
-  return value > 0x10FFFF ? std::nullopt : std::optional(value);
 }
 
 /// Cuts markup into its visible pieces.
@@ -116,22 +79,11 @@ class MarkupCutter {
     rest_.remove_prefix(found == rest_.npos ? rest_.size() : found + mark.size());
   }
 
+  /// What is no reference is an ampersand.
   void TakeReference() {
-    std::size_t end = 1;
-    const auto isPart = [](char16_t unit) { return IsAsciiLetter(unit) || IsDigit(unit) || unit == u'#'; };
-    while (end < rest_.size() && isPart(rest_[end])) ++end;
-    const std::u16string_view name = rest_.substr(1, end - 1);
-    const auto* const named = std::ranges::find(kNamed, name, &NamedCharacter::name);
-    const auto numbered = name.starts_with(u'#') ? NumberedCharacter(name) : std::nullopt;
-    if (named != std::end(kNamed)) {
-      piece_ += named->unit;
-    } else if (numbered) {
-      AppendCodePoint(piece_, *numbered);
-    } else {
-      piece_ += rest_.substr(0, end);
-    }
-    const bool isKnown = named != std::end(kNamed) || numbered;
-    rest_.remove_prefix(isKnown && end < rest_.size() && rest_[end] == u';' ? end + 1 : end);
+    const auto entity = ReadEntity(rest_);
+    AppendCodePoint(piece_, entity ? entity->codePoint : U'&');
+    rest_.remove_prefix(entity ? entity->length : 1);
   }
 
   void EndPiece() {

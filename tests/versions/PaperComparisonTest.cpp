@@ -15,6 +15,7 @@ TEST(VisibleText, IsWhatABrowserShows) {
       {u"<b>bold</b> and <img src=\"a>b\">", {u"bold", u" and "}},
       {u"1 < 2 && 3 > 2", {u"1 < 2 && 3 > 2"}},
       {u"a &lt; b&nbsp;&#65;&#x42; &unknown;", {u"a < b\u00A0AB &unknown;"}},
+      {u"&eacute;&#150;&#65&lt2 &pix;", {u"\u00E9\u2013A<2 &pix;"}},
       {u"x<!-- no --><script>no</script><style>no</style>y<", {u"x", u"y<"}},
       {u"open <b", {u"open "}},
       {u"  <br> ", {}},
