@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "text/PageTokens.h"
 #include "text/TextSpan.h"
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,7 +25,7 @@ struct PageTag {
 class PageTagReader {
  public:
   /// `text` must outlive the reader.
-  explicit PageTagReader(std::u16string_view text) : text_(text) {}
+  explicit PageTagReader(std::u16string_view text) : text_(text), tokens_(text) {}
 
   /// The next tag; nothing at the end of the text.
   std::optional<PageTag> Next();
@@ -38,16 +38,11 @@ class PageTagReader {
   const std::optional<TextSpan>& Lost() const { return lost_; }
 
  private:
-  bool Skips(std::size_t begin);
-  void SkipComment(std::size_t begin);
-  void SkipDeclaration(std::size_t begin);
-  void SkipContent(const PageTag& tag);
-  PageTag TagAt(std::size_t begin);
-  std::size_t EndOfAttributes(std::size_t at, PageTag& tag);
+  PageTag TakeTag(const PageToken& token);
   void Swallow(const TextSpan& by);
 
   std::u16string_view text_;
-  std::size_t at_ = 0;
+  PageTokens tokens_;
   std::optional<TextSpan> swallower_;
   std::optional<TextSpan> lost_;
 };

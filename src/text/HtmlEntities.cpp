@@ -3,6 +3,7 @@
 
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
+#include "text/Utf.h"
 
 #include <algorithm>
 #include <iterator>
@@ -222,7 +223,7 @@ constexpr EntityRow kEntities[] = {
     {u"kappa", 0x3BA, false},
     {u"lArr", 0x21D0, false},
     {u"lambda", 0x3BB, false},
-    {u"lang", 0x2329, false},
+    {u"lang", 0x27E8, false},
     {u"laquo", 0xAB, true},
     {u"larr", 0x2190, false},
     {u"lbrace", 0x7B, false},
@@ -304,7 +305,7 @@ constexpr EntityRow kEntities[] = {
     {u"quot", 0x22, true},
     {u"rArr", 0x21D2, false},
     {u"radic", 0x221A, false},
-    {u"rang", 0x232A, false},
+    {u"rang", 0x27E9, false},
     {u"raquo", 0xBB, true},
     {u"rarr", 0x2192, false},
     {u"rationals", 0x211A, false},
@@ -449,6 +450,23 @@ std::optional<HtmlEntity> ReadName(std::u16string_view text) {
 std::optional<HtmlEntity> ReadEntity(std::u16string_view text) {
   if (text.size() < 3 || text[0] != u'&') return std::nullopt;
   return text[1] == u'#' ? ReadNumber(text) : ReadName(text);
+}
+
+std::u16string ResolveEntities(std::u16string_view text) {
+  std::u16string resolved;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t ampersand = std::min(text.find(u'&', at), text.size());
+    resolved += text.substr(at, ampersand - at);
+    at = ampersand;
+    if (at == text.size()) break;
+    if (const auto entity = ReadEntity(text.substr(at))) {
+      AppendCodePoint(resolved, entity->codePoint);
+      at += entity->length;
+    } else {
+      resolved.push_back(text[at++]);
+    }
+  }
+  return resolved;
 }
 
 }  // namespace quorvantis

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace quorvantis {
@@ -16,5 +17,8 @@ struct HtmlEntity {
 /// The reference at the front of `text`, as browsers read it: a few old names need no semicolon. Nothing if
 /// browsers would show the ampersand itself.
 std::optional<HtmlEntity> ReadEntity(std::u16string_view text);
+
+/// `text` with its references resolved.
+std::u16string ResolveEntities(std::u16string_view text);
 
 }  // namespace quorvantis

@@ -18,6 +18,7 @@ TEST(VisibleText, IsWhatABrowserShows) {
       {u"&eacute;&#150;&#65&lt2 &pix;", {u"\u00E9\u2013A<2 &pix;"}},
       {u"x<!-- no --><script>no</script><style>no</style>y<", {u"x", u"y<"}},
       {u"open <b", {u"open "}},
+      {u"I </3> you<iframe>no</iframe><textarea>&lt;b></textarea>", {u"I ", u" you", u"<b>"}},
       {u"  <br> ", {}},
   };
   for (const auto& [markup, pieces] : kRows) EXPECT_EQ(VisiblePieces(markup), pieces);

@@ -29,24 +29,35 @@ std::u16string_view WithoutSpace(std::u16string_view text) {
 }  // namespace
 
 MarkupReader::MarkupReader(std::u16string_view text, MarkupSource source)
-    : text_(text), source_(source), tags_(text) {}
+    : text_(text), source_(source), tokens_(text) {}
 
 std::vector<MarkupPiece> MarkupReader::Read() {
-  while (at_ < text_.size()) {
-    const std::size_t special = std::min(text_.find_first_of(u"<&\r\n\t\f ", at_), text_.size());
-    ReadCharacters(special);
-    if (at_ == text_.size()) break;
-    if (text_[at_] == u'<') {
-      if (!SkipComment()) ReadTagAt();
-    } else if (text_[at_] == u'&') {
-      AddCharacter();
+  while (const auto token = tokens_.Next()) {
+    at_ = token->span.begin;
+    if (token->kind == PageTokenKind::Text) {
+      ReadText(token->span.end);
+    } else if (token->IsTag()) {
+      ReadElement(*token);
     } else {
-      ReadWhiteSpace();
+      ReadHidden(*token);
     }
   }
   const std::size_t end = pieces_.EndOfShown();
   for (std::size_t i = 0; i < references_.size(); ++i) references_[i].isFollowed = referenceMarks_[i] < end;
   return pieces_.Finish();
+}
+
+void MarkupReader::ReadText(std::size_t end) {
+  const std::u16string_view text = text_.substr(0, end);
+  while (at_ < end) {
+    ReadCharacters(std::min(text.find_first_of(u"&\r\n\t\f ", at_), end));
+    if (at_ == end) return;
+    if (text_[at_] == u'&') {
+      AddCharacter();
+    } else {
+      ReadWhiteSpace(end);
+    }
+  }
 }
 
 /// Characters that no XML and no page can hold are left out.
@@ -61,8 +72,8 @@ void MarkupReader::ReadCharacters(std::size_t end) {
 
 /// In HTML a line end is a blank, and those around it do not count. Other blanks stay, as a browser shows the
 /// same, and an exam text is to come back as it was.
-void MarkupReader::ReadWhiteSpace() {
-  const std::size_t end = std::min(text_.find_first_not_of(kSpace, at_), text_.size());
+void MarkupReader::ReadWhiteSpace(std::size_t end) {
+  end = std::min(text_.find_first_not_of(kSpace, at_), end);
   const std::u16string_view space = text_.substr(at_, end - at_);
   if (source_ == MarkupSource::Html && preDepth_ == 0) {
     if (space.find_first_not_of(u' ') == space.npos) {
@@ -100,37 +111,35 @@ void MarkupReader::AddCharacter() {
   pieces_.AddText(character);
 }
 
-bool MarkupReader::SkipComment() {
-  const std::u16string_view rest = text_.substr(at_);
-  if (rest.starts_with(u"<!--") && commentsEnd_) {
-    const std::size_t end = rest.find(u"-->");
-    commentsEnd_ = end != rest.npos;
-    if (commentsEnd_) {
-      at_ += end + 3;
-      return true;
-    }
-  }
-  const bool isDeclaration = rest.starts_with(u"<!") || rest.starts_with(u"<?");
-  if (!isDeclaration || source_ == MarkupSource::ExamText) return false;
-  const std::size_t end = rest.find(u'>');
-  at_ = end == rest.npos ? text_.size() : at_ + end + 1;
-  return true;
+/// A comment or a declaration. In an exam text, only a comment with its end is none of the text. Browsers
+/// hide
+/// "</3", too, but whoever wrote it did not mean to.
+void MarkupReader::ReadHidden(const PageToken& token) {
+  const bool isComment = token.kind == PageTokenKind::Comment;
+  if (isComment && token.isClosed) return;
+  if (source_ == MarkupSource::ExamText || text_[at_ + 1] == u'/') return TakeForText(token);
+  // Browsers would hide all the rest behind the comment, but files that are cut together from others have
+  // some.
+  if (isComment) tokens_.GoTo(std::min(text_.find(u'>', at_), text_.size() - 1) + 1);
 }
 
-void MarkupReader::ReadTagAt() {
-  const auto tag = tags_.At(at_);
-  const MarkupTag* const row = tag ? FindTag(tag->name) : nullptr;
-  const bool isUnknown = tag && row == nullptr && source_ == MarkupSource::Html;
-  if (row == nullptr && !isUnknown) {
-    pieces_.AddText(text_.substr(at_++, 1));
-    return;
-  }
-  at_ += tag->length;
+void MarkupReader::ReadElement(const PageToken& token) {
+  const MarkupTag* const row = token.isClosed ? FindTag(token.name.Of(text_)) : nullptr;
+  const bool isUnknown = row == nullptr && token.isClosed && source_ == MarkupSource::Html;
   if (isUnknown) {
     losses_.formatting = true;
+  } else if (row != nullptr) {
+    at_ = token.span.end;
+    Take(ReadTagAt(text_, token), *row);
   } else {
-    Take(*tag, *row);
+    TakeForText(token);
   }
+}
+
+/// The bracket is a character, and what follows may be anything.
+void MarkupReader::TakeForText(const PageToken& token) {
+  pieces_.AddText(u"<");
+  tokens_.GoTo(token.span.begin + 1);
 }
 
 void MarkupReader::Take(const ReadTag& tag, const MarkupTag& row) {
@@ -247,13 +256,10 @@ void MarkupReader::TellLoss(const ReadTag& tag, const MarkupTag& row) {
 void MarkupReader::SkipContent(const ReadTag& tag) {
   const std::u16string name = AsciiLower(tag.name);
   if (unended_.contains(name)) return;
-  for (std::size_t end = text_.find(u"</", at_); end != text_.npos; end = text_.find(u"</", end + 2)) {
-    if (!EqualsIgnoringAsciiCase(text_.substr(end + 2, name.size()), name)) continue;
-    at_ = end;
-    return;
-  }
+  const std::size_t end = FindEndTag(text_, at_, name);
+  if (end != text_.npos) return tokens_.GoTo(end);
   unended_.insert(name);
-  if (name == u"script" || name == u"style") at_ = text_.size();
+  if (name == u"script" || name == u"style") tokens_.GoTo(text_.size());
 }
 
 void MarkupReader::AddReference(std::u16string_view address, std::u16string_view label) {

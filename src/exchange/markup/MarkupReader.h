@@ -3,7 +3,8 @@
 
 #include "exchange/markup/Markup.h"
 #include "exchange/markup/MarkupPieces.h"
-#include "exchange/markup/TagReader.h"
+#include "exchange/markup/ReadTag.h"
+#include "text/PageTokens.h"
 
 #include <cstddef>
 #include <set>
@@ -30,11 +31,13 @@ class MarkupReader {
   std::vector<MarkupReference>& References() { return references_; }
 
  private:
+  void ReadText(std::size_t end);
   void ReadCharacters(std::size_t end);
-  void ReadWhiteSpace();
+  void ReadWhiteSpace(std::size_t end);
   void AddCharacter();
-  bool SkipComment();
-  void ReadTagAt();
+  void ReadHidden(const PageToken& token);
+  void ReadElement(const PageToken& token);
+  void TakeForText(const PageToken& token);
   void Take(const ReadTag& tag, const MarkupTag& row);
   void TakeBegin(const ReadTag& tag, const MarkupTag& row);
   void TakeSpan(const ReadTag& tag);
@@ -46,7 +49,7 @@ class MarkupReader {
 
   std::u16string_view text_;
   MarkupSource source_;
-  TagReader tags_;
+  PageTokens tokens_;
   std::size_t at_ = 0;
   MarkupPieces pieces_;
   MarkupLosses losses_;
@@ -58,7 +61,6 @@ class MarkupReader {
   bool linkIsOpen_ = false;
   bool rowHasCells_ = false;
   int preDepth_ = 0;
-  bool commentsEnd_ = true;
   std::set<std::u16string> unended_;  ///< elements whose end was looked for in vain
 };
 

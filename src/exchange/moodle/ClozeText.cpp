@@ -5,9 +5,9 @@
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
 #include "exchange/markup/Markup.h"
-#include "exchange/markup/TagReader.h"
 #include "platform/TextNumbers.h"
 #include "text/AsciiCase.h"
+#include "text/HtmlEntities.h"
 #include "text/HtmlEscape.h"
 #include "text/NumberText.h"
 
