@@ -3,6 +3,7 @@
 
 #include "regex/LetterCase.h"
 #include "text/AsciiCase.h"
+#include "text/LikelyTag.h"
 
 #include <algorithm>
 #include <array>
@@ -19,6 +20,8 @@ constexpr char16_t ComparedAscii(char16_t unit) {
 
 constexpr std::size_t kAsciiUnits = 0x80;
 
+constexpr std::size_t kLongestTag = 64;  // as in the keys that are stored
+
 constexpr std::array<char16_t, kAsciiUnits> kComparedAscii = [] {
   std::array<char16_t, kAsciiUnits> compared{};
   for (std::size_t unit = 0; unit < kAsciiUnits; ++unit)
@@ -34,16 +37,6 @@ char16_t Compared(char16_t unit) {
   return kWide.find(unit) == kWide.npos ? FoldCase(unit) : u' ';
 }
 
-/// The end of the tag at `begin`, or `begin` if it is none.
-std::size_t EndOfTag(std::u16string_view text, std::size_t begin) {
-  constexpr std::size_t kLongest = 64;
-  const auto isLetter = [](char16_t unit) { return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z'; };
-  const std::u16string_view tag = text.substr(begin, kLongest);
-  const std::size_t name = tag.starts_with(u"</") ? 2 : 1;
-  const std::size_t end = tag.find(u'>');
-  return end != tag.npos && end > name && isLetter(tag[name]) ? begin + end + 1 : begin;
-}
-
 /// A hash of a shingle that spreads well.
 std::uint32_t HashOf(std::uint64_t shingle) {
   shingle = (shingle ^ (shingle >> 29)) * 0xD6E8FEB86659FD93;
@@ -56,9 +49,9 @@ std::u16string Normalised(std::u16string_view text) {
   std::u16string normalised(text.size(), u' ');
   std::size_t size = 0;
   for (std::size_t at = 0; at < text.size(); ++at) {
-    const std::size_t tagEnd = text[at] == u'<' ? EndOfTag(text, at) : at;
-    if (tagEnd > at) {
-      at = tagEnd - 1;
+    const std::size_t tag = text[at] == u'<' ? LikelyTagLength(text.substr(at), kLongestTag) : 0;
+    if (tag > 0) {
+      at += tag - 1;
       continue;
     }
     const char16_t compared = Compared(text[at]);

@@ -3,6 +3,7 @@
 
 #include "bank/index/FoldedLetters.h"
 #include "text/AsciiCase.h"
+#include "text/LikelyTag.h"
 #include "text/Utf.h"
 
 #include <algorithm>
@@ -39,13 +40,12 @@ bool IsWithinLine(std::u16string_view name) {
 /// A tag at the front of `text`.
 Replaced TagAt(std::u16string_view text) {
   constexpr std::size_t kLongest = 64;
-  const std::u16string_view tag = text.substr(0, kLongest);
-  const std::size_t begin = tag.starts_with(u"</") ? 2 : 1;
-  const std::size_t end = tag.find(u'>');
-  if (end == tag.npos || end <= begin || !IsNameLetter(tag[begin])) return {};
+  const std::size_t length = LikelyTagLength(text, kLongest);
+  if (length == 0) return {};
   std::u16string name;
-  for (std::size_t at = begin; IsNameLetter(tag[at]); ++at) name.push_back(AsciiLower(tag[at]));
-  return {end + 1, IsWithinLine(name) ? std::u16string_view() : u" "};
+  for (std::size_t at = text[1] == u'/' ? 2 : 1; IsNameLetter(text[at]); ++at)
+    name.push_back(AsciiLower(text[at]));
+  return {length, IsWithinLine(name) ? std::u16string_view() : u" "};
 }
 
 Replaced MarkupAt(std::u16string_view text) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "render/sheets/ReadingDirection.h"
 
+#include "text/LikelyTag.h"
+
 #include <string_view>
 
 namespace quorvantis {
@@ -19,15 +21,7 @@ bool IsLeftToRightLetter(char16_t unit) {
          (unit >= 0x3040 && unit < 0xD800);
 }
 
-/// A longer tag is not looked for: in a text full of "<", that would take very long.
 constexpr std::size_t kLongestTag = 500;
-
-/// Where a tag at the front of `text` ends; 0 if there is none.
-std::size_t TagLength(std::u16string_view text) {
-  const bool begins = text.size() > 1 && text[0] == u'<' && (text[1] == u'/' || IsLeftToRightLetter(text[1]));
-  const std::size_t end = begins ? text.substr(0, kLongestTag).find(u'>') : text.npos;
-  return end == text.npos ? 0 : end + 1;
-}
 
 struct LetterCount {
   std::size_t leftToRight = 0;
@@ -35,7 +29,8 @@ struct LetterCount {
 
   void Add(std::u16string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
-      if (const std::size_t tag = text[i] == u'<' ? TagLength(text.substr(i)) : 0; tag > 0) {
+      if (const std::size_t tag = text[i] == u'<' ? LikelyTagLength(text.substr(i), kLongestTag) : 0;
+          tag > 0) {
         i += tag - 1;
         continue;
       }
