@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -49,6 +50,12 @@ class BankTest : public testing::Test {
     std::filesystem::create_directories(file.parent_path());
     EXPECT_FALSE(ExamFileWriter(exam, world.services).Write(file));
     return file;
+  }
+
+  /// From then on the file counts as one that may change without a new time, however slow the machine is.
+  static void MakeUnsettled(const std::filesystem::path& file) {
+    std::filesystem::last_write_time(file,
+                                     std::filesystem::file_time_type::clock::now() + std::chrono::hours(1));
   }
 
   BankUpdateReport Update() { return Update(*index); }

@@ -17,8 +17,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t kEntriesAtOnce = 200;
-constexpr int kStepPatience = 100;  // milliseconds
+constexpr std::size_t kEntriesAtOnce = 16;  // on a slow network each may take a moment
+constexpr int kStepPatience = 100;          // milliseconds
 constexpr std::chrono::seconds kBusyAtMost{60};
 
 }  // namespace

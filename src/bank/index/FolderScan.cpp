@@ -22,11 +22,14 @@ bool IsHidden(const fs::path& path) {
 }  // namespace
 
 FolderScan::FolderScan(const std::vector<fs::path>& folders)
-    : toOpen_(folders.rbegin(), folders.rend()), rootsLeft_(folders.size()) {}
+    : roots_(folders), toOpen_(folders.rbegin(), folders.rend()), rootsLeft_(folders.size()) {}
 
 bool FolderScan::Step(std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) {
-    if (next_ == fs::directory_iterator() && !OpenNextFolder()) return false;
+    if (next_ == fs::directory_iterator() && !OpenNextFolder()) {
+      TellVanishedRoots();
+      return false;
+    }
     if (next_ == fs::directory_iterator()) continue;
     Look(*next_);
     std::error_code error;
@@ -83,6 +86,15 @@ void FolderScan::FollowLink() {
   if (type == fs::file_type::directory) toOpen_.push_back(link);
   const bool isExam = type == fs::file_type::regular && IsExamName(link);
   if (isExam && !HasFound(target) && linked_.insert(target.native()).second) AddExam(link);
+}
+
+/// The folders below one that has vanished meanwhile look as if they had been removed.
+void FolderScan::TellVanishedRoots() {
+  for (const fs::path& root : roots_) {
+    std::error_code ignored;
+    const bool isKnown = std::find(unreadable_.begin(), unreadable_.end(), root) != unreadable_.end();
+    if (!isKnown && !fs::is_directory(root, ignored)) unreadable_.push_back(root);
+  }
 }
 
 void FolderScan::AddExam(const fs::path& file) {

@@ -30,7 +30,8 @@ class FolderScan {
 
   std::size_t FilesSeen() const { return filesSeen_; }
 
-  /// Folders that could not be read to their end, and those that were given and do not exist.
+  /// Folders that could not be read to their end, and those that were given and do not exist, at the end of
+  /// the scan either.
   const std::vector<std::filesystem::path>& Unreadable() const { return unreadable_; }
 
  private:
@@ -38,7 +39,9 @@ class FolderScan {
   void Look(const std::filesystem::directory_entry& entry);
   void FollowLink();
   void AddExam(const std::filesystem::path& file);
+  void TellVanishedRoots();
 
+  std::vector<std::filesystem::path> roots_;
   std::vector<std::filesystem::path> toOpen_;
   std::size_t rootsLeft_;  ///< the first entries of toOpen_ are folders that were given
   std::deque<std::filesystem::path> links_;

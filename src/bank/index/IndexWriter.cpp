@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "bank/index/IndexWriter.h"
 
+#include "bank/index/BankFolders.h"
 #include "bank/index/QuestionMarks.h"
 #include "model/QuestionKinds.h"
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 namespace quorvantis {
@@ -57,6 +59,7 @@ class KeptTexts {
 IndexWriter::IndexWriter(BankIndex& index, ExamServices& services, const FileDigest& digest)
     : data_(index.Data()),
       digest_(digest),
+      folders_(index.Folders()),
       exam_(services, digest),
       find_(data_.Prepare("SELECT id, size, written, settled, hash FROM exam WHERE path = ?")),
       touch_(data_.Prepare("UPDATE exam SET size = ?2, written = ?3, settled = ?4 WHERE id = ?1")),
@@ -91,7 +94,7 @@ bool IndexWriter::Remove(const std::filesystem::path& file) {
 
 IndexWriter::Outcome IndexWriter::Update(const std::filesystem::path& file) {
   const std::optional<FileStamp> stamp = FileStamp::Of(file);
-  if (!stamp) return Remove(file) ? Outcome::Gone : Outcome::Unchanged;
+  if (!stamp) return UpdateMissing(file);
   const auto isUpToDate = [&](const std::optional<KnownExam>& known) {
     return known && known->isSettled && known->stamp == *stamp;
   };
@@ -103,8 +106,11 @@ IndexWriter::Outcome IndexWriter::Update(const std::filesystem::path& file) {
     return Outcome::Unchanged;
   }
   exam_.Read(file);
+  const std::optional<FileStamp> after = FileStamp::Of(file);
+  if (!after) return UpdateMissing(file);
   // What could not be read is tried again each time: permissions change without a new stamp.
-  fresh.isSettled = fresh.isSettled && exam_.State() != ExamState::Unreadable && FileStamp::Of(file) == stamp;
+  const bool isRead = !fresh.hash.empty() && exam_.State() != ExamState::Unreadable;
+  fresh.isSettled = fresh.isSettled && isRead && after == stamp;
   Transaction transaction(data_);
   const std::optional<KnownExam> known = Find(file);
   if (isUpToDate(known)) return Outcome::Unchanged;
@@ -114,6 +120,24 @@ IndexWriter::Outcome IndexWriter::Update(const std::filesystem::path& file) {
   for (int number = 1; number <= exam_.QuestionCount(); ++number) StoreQuestion(exam, number);
   transaction.Commit();
   return known ? Outcome::Changed : Outcome::Added;
+}
+
+IndexWriter::Outcome IndexWriter::UpdateMissing(const std::filesystem::path& file) {
+  return IsGone(file) && Remove(file) ? Outcome::Gone : Outcome::Unchanged;
+}
+
+/// Whether there is no such file, while the folder of the bank in which it lay is there.
+bool IndexWriter::IsGone(const std::filesystem::path& file) const {
+  std::error_code ignored;
+  const std::filesystem::file_type type = std::filesystem::status(file, ignored).type();
+  if (type == std::filesystem::file_type::none || type == std::filesystem::file_type::unknown) return false;
+  bool isInFolder = false;
+  for (const std::filesystem::path& folder : folders_) {
+    if (!LiesIn(file, folder)) continue;
+    if (std::filesystem::is_directory(folder, ignored)) return true;
+    isInFolder = true;
+  }
+  return !isInFolder;
 }
 
 void IndexWriter::Touch(std::int64_t exam, const KnownExam& fresh) {

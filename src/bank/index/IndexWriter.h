@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quorvantis {
 
@@ -28,7 +29,8 @@ class IndexWriter {
   /// All must outlive the writer.
   IndexWriter(BankIndex& index, ExamServices& services, const FileDigest& digest);
 
-  /// Brings one exam up to date. Another program may have done so meanwhile.
+  /// Brings one exam up to date. Another program may have done so meanwhile. What cannot be looked at, since
+  /// its disk was unplugged or its folder is closed now, stays as it is.
   Outcome Update(const std::filesystem::path& file);
 
   /// Of the last exam that Update has read.
@@ -40,6 +42,8 @@ class IndexWriter {
   std::optional<KnownExam> Find(const std::filesystem::path& file);
 
  private:
+  Outcome UpdateMissing(const std::filesystem::path& file);
+  bool IsGone(const std::filesystem::path& file) const;
   bool RemoveKnown(const std::filesystem::path& file);
   void Touch(std::int64_t exam, const KnownExam& fresh);
   void RemoveQuestions(std::int64_t exam);
@@ -53,6 +57,7 @@ class IndexWriter {
 
   Database& data_;
   const FileDigest& digest_;
+  std::vector<std::filesystem::path> folders_;  ///< of the bank
   IndexedExam exam_;
   Statement find_;
   Statement touch_;

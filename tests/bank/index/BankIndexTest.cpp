@@ -147,6 +147,7 @@ TEST_F(BankIndexTest, KeepsWhatItCannotLookInto) {
 
 TEST_F(BankIndexTest, NoticesAChangeWithoutANewTime) {
   const fs::path exam = WriteExam(exams / "a.exm", u"", {QuestionWith(u"mitosis")});
+  MakeUnsettled(exam);
   const auto written = fs::last_write_time(exam);
   Update();
   WriteExam(exam, u"", {QuestionWith(u"meiosis")});
