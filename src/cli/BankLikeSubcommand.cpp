@@ -88,7 +88,9 @@ void TellLikeness(Console& console, const CommonOptions& options, const LikeRequ
   bank.Update();
   std::error_code ignored;
   const BankLikeness likeness =
-      BankMemory(bank.index).Like(bank.ContentsOf(request.exam), fs::canonical(request.exam, ignored));
+      BankMemory(bank.index)
+          .Like(bank.index, bank.digest, bank.ContentsOf(request.exam), fs::canonical(request.exam, ignored),
+                bank.session.services.progress);
   bank.Require(likeness.problem);
   request.json ? PrintLikenessJson(console.out, likeness) : PrintLikeness(console.out, likeness);
   console.out.flush();

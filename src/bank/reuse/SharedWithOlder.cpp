@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "bank/reuse/SharedWithOlder.h"
 
+#include "platform/Progress.h"
+
 #include <algorithm>
 #include <map>
 #include <tuple>
@@ -10,31 +12,25 @@ namespace {
 
 class ReuseSearch {
  public:
-  explicit ReuseSearch(std::span<const OlderQuestion> older) : older_(older) {
-    sketches_.reserve(older.size());
-    for (const OlderQuestion& question : older) sketches_.push_back(question.sketch);
-  }
+  ReuseSearch(std::span<const OlderQuestion> older, const OlderAt& olderAt, Progress& progress)
+      : older_(older), olderAt_(olderAt), progress_(progress) {}
 
-  /// The uses of a question of the open exam: the same before variants.
-  void Look(std::size_t place, const ComparedQuestion& question,
-            const std::function<ComparedQuestion(std::size_t)>& olderAt) {
+  /// The uses of a question of the open exam.
+  void Look(std::size_t place, const ComparedQuestion& question) {
     if (question.All().IsEmpty()) return;
     ++withContent_;
+    const QuestionSketch sketch(question.All());
     std::map<std::size_t, bool> exams;  // and whether they have the same question, not only a variant
-    for (const std::size_t candidate : LikelyAlike(QuestionSketch(question.All()), sketches_)) {
-      const QuestionRelation relation = RelationOf(question, olderAt(candidate));
-      if (!IsSameQuestion(relation) && !IsVariant(relation)) continue;
-      report_.uses.push_back({place, candidate, relation});
-      bool& isSame = exams[older_[candidate].exam];
-      isSame = isSame || IsSameQuestion(relation);
+    for (std::size_t i = 0; i < older_.size(); ++i) {
+      if (EstimateSimilarity(sketch, older_[i].sketch) < kWorthAnExactLook) continue;
+      if (progress_.IsCancelled()) return;
+      const std::optional<QuestionRelation> relation = RelationTo(question, i);
+      if (!relation) continue;
+      report_.uses.push_back({place, i, *relation});
+      bool& isSame = exams[older_[i].exam];
+      isSame = isSame || IsSameQuestion(*relation);
     }
-    bool isUsed = false;
-    for (const auto& [exam, isSame] : exams) {
-      SharedPart& part = parts_[exam];
-      ++(isSame ? part.same : part.variants);
-      isUsed = isUsed || isSame;
-    }
-    if (!isUsed) ++report_.unused;
+    Count(exams);
   }
 
   ReuseReport Report() {
@@ -55,8 +51,27 @@ class ReuseSearch {
   }
 
  private:
+  /// Nothing unless it is the same question or a variant.
+  std::optional<QuestionRelation> RelationTo(const ComparedQuestion& question, std::size_t older) const {
+    const std::optional<ComparedQuestion> other = olderAt_(older);
+    if (!other) return std::nullopt;
+    const QuestionRelation relation = RelationOf(question, *other);
+    return IsSameQuestion(relation) || IsVariant(relation) ? std::optional(relation) : std::nullopt;
+  }
+
+  void Count(const std::map<std::size_t, bool>& exams) {
+    bool isUsed = false;
+    for (const auto& [exam, isSame] : exams) {
+      SharedPart& part = parts_[exam];
+      ++(isSame ? part.same : part.variants);
+      isUsed = isUsed || isSame;
+    }
+    if (!isUsed) ++report_.unused;
+  }
+
   std::span<const OlderQuestion> older_;
-  std::vector<QuestionSketch> sketches_;
+  const OlderAt& olderAt_;
+  Progress& progress_;
   std::map<std::size_t, SharedPart> parts_;
   std::size_t withContent_ = 0;
   ReuseReport report_;
@@ -65,16 +80,14 @@ class ReuseSearch {
 }  // namespace
 
 ReuseReport SharedWithOlder(std::span<const ComparedQuestion> openExam, std::span<const OlderQuestion> older,
-                            const std::function<ComparedQuestion(std::size_t older)>& olderAt,
-                            const std::function<bool()>& isCancelled) {
-  ReuseSearch search(older);
-  bool isStopped = false;
-  for (std::size_t i = 0; i < openExam.size() && !isStopped; ++i) {
-    isStopped = isCancelled && isCancelled();
-    if (!isStopped) search.Look(i, openExam[i], olderAt);
+                            const OlderAt& olderAt, Progress& progress) {
+  ReuseSearch search(older, olderAt, progress);
+  for (std::size_t i = 0; i < openExam.size() && !progress.IsCancelled(); ++i) {
+    search.Look(i, openExam[i]);
+    progress.Report(i + 1, openExam.size());
   }
   ReuseReport report = search.Report();
-  report.isCancelled = isStopped;
+  report.isCancelled = progress.IsCancelled();
   return report;
 }
 

@@ -6,10 +6,13 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <span>
 #include <vector>
 
 namespace quorvantis {
+
+class Progress;
 
 /// A question of an older exam.
 struct OlderQuestion {
@@ -40,11 +43,13 @@ struct ReuseReport {
   bool isCancelled = false;       ///< then the report is incomplete
 };
 
+/// The texts of an older question, by its place in the list; nothing for one that does not count, such as one
+/// of the open exam itself. Asked only for questions that are likely to be alike.
+using OlderAt = std::function<std::optional<ComparedQuestion>(std::size_t older)>;
+
 /// Tells for each question of the open exam where it was asked before, and how much each older exam has in
-/// common with it. `olderAt` gives the texts of an older question; it is called only for likely ones.
-/// `isCancelled`, which may be empty, is polled.
+/// common with it. Tells the progress in questions of the open exam, and ends when it is cancelled.
 ReuseReport SharedWithOlder(std::span<const ComparedQuestion> openExam, std::span<const OlderQuestion> older,
-                            const std::function<ComparedQuestion(std::size_t older)>& olderAt,
-                            const std::function<bool()>& isCancelled = {});
+                            const OlderAt& olderAt, Progress& progress);
 
 }  // namespace quorvantis

@@ -11,7 +11,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <span>
 #include <vector>
 
 namespace quorvantis {
@@ -19,7 +18,8 @@ namespace quorvantis {
 /// A question of the bank that is the same as another one, or a variant of it.
 struct BankUse {
   BankExam exam;
-  int number = 0;  ///< 1 to 500
+  int number = 0;             ///< 1 to 500
+  std::int64_t question = 0;  ///< its identifier in the index
   QuestionRelation relation = QuestionRelation::Equal;
 };
 
@@ -40,34 +40,37 @@ struct BankLikeness {
   bool isCancelled = false;  ///< then the rest is incomplete
 };
 
-/// Remembers the questions of the bank by their sketches, as they were when it was made.
+/// Remembers the questions of the bank by their sketches, as they were when it was made: about 15 MB for
+/// 50,000. It never changes, so several threads may use one, each with an index of its own. What it tells is
+/// read in the index and compared exactly, and only of exams whose files are there and as the index has them.
 class BankMemory {
  public:
-  /// `index` must outlive this. About 15 MB for 50,000 questions.
-  explicit BankMemory(BankIndex& index);
+  /// Reads the index; leaves the rest out when `isCancelled`, which may be empty, says so.
+  explicit BankMemory(BankIndex& index, const std::function<bool()>& isCancelled = {});
 
-  /// Where questions stand in the bank. `self`, which may be empty, is their own exam and is left out.
-  BankLikeness Like(const std::vector<QuestionContent>& questions, const std::filesystem::path& self,
-                    const std::function<bool()>& isCancelled = {}) const;
+  /// Whether the index still has the questions that are remembered.
+  bool IsUpToDate(BankIndex& index) const;
+
+  /// Where questions stand in the bank. `self`, which may be empty, is their own exam and is left out. Tells
+  /// the progress in questions.
+  BankLikeness Like(BankIndex& index, const FileDigest& digest, const std::vector<QuestionContent>& questions,
+                    const std::filesystem::path& self, Progress& progress) const;
 
   /// Where else a question of the bank stands.
-  BankLikeness Elsewhere(const BankQuestion& question) const;
+  BankLikeness Elsewhere(BankIndex& index, const FileDigest& digest, const BankQuestion& question,
+                         Progress& progress) const;
 
  private:
-  struct Place {
-    std::int64_t question = 0;
-    std::int64_t exam = 0;
-  };
+  /// Whether an older question does not count.
+  using IsLeftOut = std::function<bool(const BankQuestion&)>;
 
-  BankLikeness Compare(const std::vector<QuestionContent>& questions,
-                       const std::function<bool(const Place&)>& isLeftOut,
-                       const std::function<bool()>& isCancelled) const;
+  BankLikeness Compare(BankIndex& index, const FileDigest& digest,
+                       const std::vector<QuestionContent>& questions, const IsLeftOut& isLeftOut,
+                       Progress& progress) const;
 
-  void Fill(const ReuseReport& report, const std::vector<OlderQuestion>& older, BankLikeness& likeness) const;
-
-  BankIndex& index_;
   std::vector<OlderQuestion> older_;
-  std::vector<Place> places_;  ///< of each of older_
+  std::vector<std::int64_t> identifiers_;  ///< of each of older_
+  std::uint64_t state_ = 0;                ///< of the index
   BankProblem problem_;
 };
 

@@ -8,6 +8,7 @@
 #include "bank/search/BankQuestions.h"
 #include "bank/search/Highlights.h"
 #include "bank/search/QuerySql.h"
+#include "bank/search/UnchangedExams.h"
 #include "text/PathText.h"
 
 #include <algorithm>
@@ -119,6 +120,7 @@ BankHits BankSearch::FindOnce(const BankQuery& query, std::size_t limit, std::si
 
 /// Brings exams of the hits up to date. Returns whether any of them had changed.
 bool BankSearch::Refresh(BankHits& hits) const {
+  UnchangedExams unchanged(index_, digest_);
   std::map<fs::path, bool> isAsShown;  // of each exam
   bool hasChanged = false;
   for (const BankHit& hit : hits.hits) {
@@ -129,7 +131,7 @@ bool BankSearch::Refresh(BankHits& hits) const {
     if (FileStamp::Of(exam.path) == shown && exam.isSettled) continue;
     if (!hits.problem.IsAnything())
       hasChanged |= RefreshExam(index_, services_, digest_, exam.path, hits.problem);
-    known->second = FileStamp::Of(exam.path) == shown;
+    known->second = hits.problem.IsAnything() ? unchanged.Has(exam) : FileStamp::Of(exam.path) == shown;
   }
   // Who cannot write the index can search it all the same.
   if (hits.problem.trouble != BankTrouble::Damaged) hits.problem = {};

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bank/reuse/SharedWithOlder.h"
+#include "platform/QuietProgress.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,9 @@ TEST(SharedWithOlder, TellsWhatEachExamHasInCommon) {
     compared.emplace_back(QuestionContent{{}, text, {}, {}, {}});
     older.push_back({number, static_cast<int>(older.size() + 1), QuestionSketch(compared.back().All())});
   }
-  const ReuseReport report = SharedWithOlder(exam, older, [&](std::size_t place) { return compared[place]; });
+  QuietProgress progress;
+  const ReuseReport report = SharedWithOlder(
+      exam, older, [&](std::size_t place) { return std::optional(compared[place]); }, progress);
   std::vector<std::pair<std::size_t, std::size_t>> uses;
   for (const EarlierUse& use : report.uses) uses.emplace_back(use.question, use.older);
   EXPECT_EQ(uses, (std::vector<std::pair<std::size_t, std::size_t>>{{0, 0}, {0, 2}, {1, 4}, {1, 1}, {1, 5}}));
