@@ -30,7 +30,7 @@ CheckWindow::CheckWindow(ExamChecker& checker, const ExamServices& services, Sho
       showPlace_(std::move(showPlace)),
       place_(services.applicationFolder, services.files, u"check"),
       model_(services.strings, *this, nullptr),
-      tree_(new FindingTree(model_, this)),
+      tree_(new BranchTree(model_, this)),
       ignore_(new QPushButton(Text(text_id::kCheckIgnore), this)),
       showIgnored_(new QCheckBox(Text(text_id::kCheckShowIgnored), this)),
       summary_(new QLabel(this)) {
@@ -48,7 +48,7 @@ CheckWindow::CheckWindow(ExamChecker& checker, const ExamServices& services, Sho
   connect(&checker_, &ExamChecker::Changed, this, &CheckWindow::Refresh);
   connect(showIgnored_, &QCheckBox::toggled, this, &CheckWindow::Refresh);
   connect(ignore_, &QPushButton::clicked, this, &CheckWindow::IgnoreCurrent);
-  connect(tree_, &FindingTree::RowChosen, this, [this](const QModelIndex& index) {
+  connect(tree_, &BranchTree::RowChosen, this, [this](const QModelIndex& index) {
     GoTo(index);
     parentWidget()->window()->activateWindow();
   });

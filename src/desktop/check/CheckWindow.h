@@ -2,8 +2,8 @@
 #pragma once
 
 #include "desktop/check/ExamChecker.h"
-#include "desktop/check/FindingTree.h"
 #include "desktop/check/FindingsModel.h"
+#include "desktop/controls/BranchTree.h"
 #include "shell/settings/WindowPlace.h"
 
 #include <QCheckBox>
@@ -52,7 +52,7 @@ class CheckWindow : public QDialog {
   ShowPlace showPlace_;
   WindowPlaceSetting place_;
   FindingsModel model_;
-  FindingTree* tree_;
+  BranchTree* tree_;
   QPushButton* ignore_;
   QCheckBox* showIgnored_;
   QLabel* summary_;

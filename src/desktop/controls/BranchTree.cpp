@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/check/FindingTree.h"
+#include "desktop/controls/BranchTree.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 
 namespace quorvantis {
 
-FindingTree::FindingTree(QAbstractItemModel& model, QWidget* parent) : QTreeView(parent) {
+BranchTree::BranchTree(QAbstractItemModel& model, QWidget* parent) : QTreeView(parent) {
   setModel(&model);
   setItemsExpandable(false);
   setRootIsDecorated(false);
@@ -15,18 +15,19 @@ FindingTree::FindingTree(QAbstractItemModel& model, QWidget* parent) : QTreeView
   setEditTriggers(NoEditTriggers);
   header()->setStretchLastSection(false);
   header()->setSectionResizeMode(0, QHeaderView::Stretch);
-  header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+  for (int column = 1; column < model.columnCount(); ++column)
+    header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
   header()->setSectionsMovable(false);
-  connect(this, &QTreeView::clicked, this, &FindingTree::RowChosen);
+  connect(this, &QTreeView::clicked, this, &BranchTree::RowChosen);
 }
 
-void FindingTree::Unfold() {
+void BranchTree::Unfold() {
   expandAll();
   for (int row = 0; row < model()->rowCount(); ++row) setFirstColumnSpanned(row, {}, true);
 }
 
 /// Enter must not reach the dialog, which would press a button.
-void FindingTree::keyPressEvent(QKeyEvent* event) {
+void BranchTree::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && currentIndex().isValid()) return emit RowChosen(currentIndex());
   QTreeView::keyPressEvent(event);

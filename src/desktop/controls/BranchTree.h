@@ -5,15 +5,16 @@
 
 namespace quorvantis {
 
-/// The tree of findings, always unfolded.
-class FindingTree : public QTreeView {
+/// A tree of two levels that is always unfolded: branches across the whole width, and rows with columns, of
+/// which the first takes what the others leave.
+class BranchTree : public QTreeView {
   Q_OBJECT
 
  public:
   /// `model` must outlive the tree.
-  FindingTree(QAbstractItemModel& model, QWidget* parent);
+  BranchTree(QAbstractItemModel& model, QWidget* parent);
 
-  /// Unfolds the tree; call when other findings are shown.
+  /// Unfolds the tree; call when the model shows something else.
   void Unfold();
 
  signals:
