@@ -29,6 +29,7 @@ enum class ChangeKind {
   PasteQuestion,
   TakeQuestion,
   ExchangeQuestion,
+  DrawQuestion,
   Replace,
   Import,
   LineEnds,

@@ -84,6 +84,8 @@ int TextNumber(ChangeKind kind) {
       return kStepTake;
     case ChangeKind::ExchangeQuestion:
       return kStepExchange;
+    case ChangeKind::DrawQuestion:
+      return kStepDraw;
     case ChangeKind::Replace:
       return kStepReplace;
     case ChangeKind::Import:

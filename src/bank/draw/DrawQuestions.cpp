@@ -141,7 +141,8 @@ class Draw {
 
   DrawnQuestion Described(std::size_t unit, std::size_t wish) const {
     const DrawUnit& of = units_[unit];
-    return {of.First(), wish, outcome_.wishes[wish].allowed, of.lastUsed, of.candidates.size()};
+    return {of.First(),    wish,        outcome_.wishes[wish].allowed,
+            of.lastUsedIn, of.lastUsed, of.candidates.size()};
   }
 
   /// Tells where the allowed ones are that a wish lacks.
@@ -169,6 +170,21 @@ DrawOutcome DrawQuestions(std::span<const DrawCandidate> candidates, const DrawR
   return Draw(candidates, request, comparedAt).Run(isCancelled);
 }
 
+std::optional<DrawnQuestion> DrawOneMore(std::span<const DrawCandidate> candidates,
+                                         const DrawRequest& request, const std::vector<DrawnQuestion>& kept,
+                                         std::size_t wish, const ComparedAt& comparedAt,
+                                         WishOutcome& outcome) {
+  DrawRequest again = request;
+  again.seed += again.rejected.size();
+  Draw draw(candidates, again, comparedAt);
+  std::optional<DrawnQuestion> other = draw.RunOnce(kept, wish);
+  outcome = draw.OutcomeOf(wish);
+  const auto isOfWish = [wish](const DrawnQuestion& question) { return question.wish == wish; };
+  outcome.drawn =
+      static_cast<std::size_t>(std::count_if(kept.begin(), kept.end(), isOfWish)) + (other ? 1 : 0);
+  return other;
+}
+
 DrawOutcome RedrawOne(std::span<const DrawCandidate> candidates, const DrawRequest& request,
                       const DrawOutcome& drawn, std::size_t place, const ComparedAt& comparedAt) {
   DrawRequest again = request;
@@ -176,14 +192,9 @@ DrawOutcome RedrawOne(std::span<const DrawCandidate> candidates, const DrawReque
   const auto at = outcome.questions.begin() + static_cast<std::ptrdiff_t>(place);
   const DrawnQuestion old = *at;
   again.rejected.insert(candidates[old.candidate].key);
-  again.seed += again.rejected.size();
   std::vector<DrawnQuestion> kept = outcome.questions;
   kept.erase(kept.begin() + static_cast<std::ptrdiff_t>(place));
-  Draw draw(candidates, again, comparedAt);
-  const std::optional<DrawnQuestion> other = draw.RunOnce(kept, old.wish);
-  const std::size_t before = outcome.wishes[old.wish].drawn;
-  outcome.wishes[old.wish] = draw.OutcomeOf(old.wish);
-  outcome.wishes[old.wish].drawn = other ? before : before - 1;
+  const auto other = DrawOneMore(candidates, again, kept, old.wish, comparedAt, outcome.wishes[old.wish]);
   if (other) {
     *at = *other;
   } else {

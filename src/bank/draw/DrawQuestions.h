@@ -14,6 +14,14 @@ namespace quorvantis {
 DrawOutcome DrawQuestions(std::span<const DrawCandidate> candidates, const DrawRequest& request,
                           const ComparedAt& comparedAt, const std::function<bool()>& isCancelled = {});
 
+/// Draws one question more for a wish, beside `kept`, which it is not the same as. `request.wishes` is that
+/// of `kept`, too. Add to `request.rejected` each question that the user sends away: that also changes the
+/// lot. Nothing if there is none; `outcome` then tells what excluded how many.
+std::optional<DrawnQuestion> DrawOneMore(std::span<const DrawCandidate> candidates,
+                                         const DrawRequest& request, const std::vector<DrawnQuestion>& kept,
+                                         std::size_t wish, const ComparedAt& comparedAt,
+                                         WishOutcome& outcome);
+
 /// Puts another question in the place of `place` of `drawn`, for the same wish, and keeps all others. The one
 /// that was there, and those of `request.rejected`, do not come again: add each that the user sends away.
 /// If there is no other, `drawn` is returned without it; its wish tells what excluded how many.

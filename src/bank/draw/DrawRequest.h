@@ -24,6 +24,7 @@ struct DrawCandidate {
   std::vector<std::u16string> tags;
   std::optional<std::chrono::sys_days> used;  ///< the day of its exam; nothing if that is not known
   QuestionSketch sketch;
+  bool isOffered = true;  ///< otherwise it only tells when the question was used
 };
 
 /// So many questions of a kind with some tags.
@@ -46,16 +47,17 @@ struct DrawRequest {
 
 /// A drawn question.
 struct DrawnQuestion {
-  std::size_t candidate = 0;  ///< its place in the list; of several with its key the one used last
-  std::size_t wish = 0;       ///< the place of the wish that it fulfils
-  std::size_t among = 0;      ///< how many different questions could have come for the wish
+  std::size_t candidate = 0;   ///< its place in the list; of several with its key the one used last
+  std::size_t wish = 0;        ///< the place of the wish that it fulfils
+  std::size_t among = 0;       ///< how many different questions could have come for the wish
+  std::size_t lastUsedIn = 0;  ///< the candidate used last, offered or not
   std::optional<std::chrono::sys_days> lastUsed;
   std::size_t exams = 0;  ///< how many candidates are this question
 };
 
 /// Why a question did not come for a wish; the first that applies. The last two, that it is the same as a
 /// drawn one or was drawn for another wish, are told for wishes that lack some.
-enum class DrawObstacle { Kind, Tags, UsedSince, Rejected, InOpenExam, NearlyDrawn, OtherWish };
+enum class DrawObstacle { NotOffered, Kind, Tags, UsedSince, Rejected, InOpenExam, NearlyDrawn, OtherWish };
 
 /// What became of a wish.
 struct WishOutcome {

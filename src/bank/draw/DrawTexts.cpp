@@ -23,6 +23,8 @@ std::u16string DayText(std::chrono::sys_days day) {
 
 int TextOf(DrawObstacle obstacle) {
   switch (obstacle) {
+    case DrawObstacle::NotOffered:
+      return text_id::kDrawOtherFolder;
     case DrawObstacle::Kind:
       return text_id::kDrawOtherKind;
     case DrawObstacle::Tags:
@@ -45,11 +47,13 @@ constexpr std::u16string_view kBetweenReasons = u"; ";
 
 }  // namespace
 
-std::u16string ReasonText(const DrawnQuestion& question, const StringTable& strings) {
+std::u16string ReasonText(const DrawnQuestion& question, std::u16string_view lastExam,
+                          const StringTable& strings) {
   std::u16string text = FillMessage(strings.Text(text_id::kDrawnAmong), {Count(question.among)});
   text += kBetweenReasons;
   if (question.lastUsed) {
-    text += FillMessage(strings.Text(text_id::kDrawnLastUsed), {DayText(*question.lastUsed)});
+    const int number = lastExam.empty() ? text_id::kDrawnLastUsed : text_id::kDrawnLastUsedIn;
+    text += FillMessage(strings.Text(number), {DayText(*question.lastUsed), std::u16string(lastExam)});
   } else {
     text += strings.Text(text_id::kDrawnNeverUsed);
   }

@@ -15,9 +15,16 @@ bool HasTagsOf(const DrawUnit& unit, const DrawWish& wish) {
          std::none_of(wish.withoutTags.begin(), wish.withoutTags.end(), hasIt);
 }
 
-void Add(const std::vector<std::u16string>& tags, std::vector<std::u16string>& all) {
-  for (const std::u16string& tag : tags) {
-    if (!HasTag(all, tag)) all.push_back(tag);
+void AddCandidate(const DrawCandidate& candidate, std::size_t place, DrawUnit& unit) {
+  unit.kind = candidate.kind;
+  unit.isOffered = unit.isOffered || candidate.isOffered;
+  if (unit.candidates.empty() || candidate.used > unit.lastUsed) {
+    unit.lastUsed = candidate.used;
+    unit.lastUsedIn = place;
+  }
+  unit.candidates.push_back(place);
+  for (const std::u16string& tag : candidate.tags) {
+    if (!HasTag(unit.tags, tag)) unit.tags.push_back(tag);
   }
 }
 
@@ -25,18 +32,17 @@ void Add(const std::vector<std::u16string>& tags, std::vector<std::u16string>& a
 
 std::vector<DrawUnit> UnitsOf(std::span<const DrawCandidate> candidates) {
   std::map<std::string_view, DrawUnit> byKey;
-  for (std::size_t i = 0; i < candidates.size(); ++i) {
-    DrawUnit& unit = byKey[candidates[i].key];
-    unit.kind = candidates[i].kind;
-    unit.lastUsed = std::max(unit.lastUsed, candidates[i].used);
-    unit.candidates.push_back(i);
-    Add(candidates[i].tags, unit.tags);
-  }
+  for (std::size_t i = 0; i < candidates.size(); ++i)
+    AddCandidate(candidates[i], i, byKey[candidates[i].key]);
   std::vector<DrawUnit> units;
   units.reserve(byKey.size());
   for (auto& [key, unit] : byKey) {
-    std::stable_sort(unit.candidates.begin(), unit.candidates.end(),
-                     [&](std::size_t a, std::size_t b) { return candidates[a].used > candidates[b].used; });
+    std::stable_sort(unit.candidates.begin(), unit.candidates.end(), [&](std::size_t a, std::size_t b) {
+      const DrawCandidate& one = candidates[a];
+      const DrawCandidate& other = candidates[b];
+      if (one.isOffered != other.isOffered) return one.isOffered;
+      return one.used > other.used;
+    });
     units.push_back(std::move(unit));
   }
   return units;
@@ -50,6 +56,7 @@ DrawConditions::DrawConditions(std::span<const DrawCandidate> candidates, const 
 }
 
 std::optional<DrawObstacle> DrawConditions::ObstacleOf(const DrawUnit& unit, const DrawWish& wish) {
+  if (!unit.isOffered) return DrawObstacle::NotOffered;
   if (wish.kind && *wish.kind != unit.kind) return DrawObstacle::Kind;
   if (!HasTagsOf(unit, wish)) return DrawObstacle::Tags;
   if (request_.notUsedSince && unit.lastUsed >= request_.notUsedSince) return DrawObstacle::UsedSince;

@@ -9,10 +9,12 @@ namespace quorvantis {
 
 /// A different question: all candidates with one key.
 struct DrawUnit {
-  std::vector<std::size_t> candidates;  ///< the one used last first
+  std::vector<std::size_t> candidates;  ///< those that are offered first; of these the one used last
+  bool isOffered = false;               ///< whether any of them is
   QuestionKind kind = QuestionKind::Choice;
   std::vector<std::u16string> tags;  ///< of any of them
   std::optional<std::chrono::sys_days> lastUsed;
+  std::size_t lastUsedIn = 0;  ///< a candidate
 
   std::size_t First() const { return candidates.front(); }
 };

@@ -92,12 +92,16 @@ class RandomDraw {
       return other.key == it.key && request.notUsedSince && other.used &&
              *other.used >= *request.notUsedSince;
     };
+    const auto isOffered = [&it](const DrawCandidate& other) {
+      return other.key == it.key && other.isOffered;
+    };
     const auto hasTag = [&it](const std::u16string& tag) {
       return std::find(it.tags.begin(), it.tags.end(), tag) != it.tags.end();
     };
     return (!wish.kind || *wish.kind == it.kind) && std::all_of(wish.tags.begin(), wish.tags.end(), hasTag) &&
            std::none_of(wish.withoutTags.begin(), wish.withoutTags.end(), hasTag) &&
            std::none_of(bank.candidates.begin(), bank.candidates.end(), isUsed) &&
+           std::any_of(bank.candidates.begin(), bank.candidates.end(), isOffered) &&
            !request.rejected.contains(it.key) && !AreSame(candidate, request.openExam[0]);
   }
   bool AreSame(std::size_t candidate, const ComparedQuestion& other) const {
@@ -115,10 +119,12 @@ class RandomDraw {
       if (random_.Below(2) == 0) candidate.tags.emplace_back(tag);
     }
     if (random_.Below(3) != 0) candidate.used = Day(static_cast<int>(random_.Below(8)));
+    candidate.isOffered = random_.Below(5) != 0;
     std::u16string text = RandomText(random_);
     if (number % 4 == 3) text = bank.contents.back().text + u"!?oh";
     bank.Add(std::to_string(number), text, candidate);
     if (random_.Below(4) != 0) return;
+    candidate.isOffered = true;
     candidate.used = Day(static_cast<int>(random_.Below(8)));
     bank.Add(std::to_string(number), text, candidate);
   }
@@ -164,6 +170,8 @@ void ExpectFulfilled(const RandomDraw& random, const DrawOutcome& drawn) {
   std::vector<std::size_t> counts(random.request.wishes.size());
   for (const DrawnQuestion& question : drawn.questions) {
     EXPECT_TRUE(random.IsAllowed(question.candidate, random.request.wishes[question.wish]));
+    EXPECT_TRUE(random.bank.candidates[question.candidate].isOffered);
+    EXPECT_EQ(random.bank.candidates[question.lastUsedIn].used, question.lastUsed);
     ++counts[question.wish];
     for (const DrawnQuestion& other : drawn.questions) {
       if (&other == &question) break;
