@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 // bank draw: questions by lot, as a list or as an exam.
-#include "bank/draw/DrawQuestions.h"
 #include "bank/draw/DrawTexts.h"
 #include "bank/search/BankQuery.h"
-#include "bank/search/DrawableQuestions.h"
+#include "bank/search/DrawnList.h"
 #include "bank/tags/TagTexts.h"
 #include "cli/BankSession.h"
 #include "cli/CommandError.h"
@@ -39,63 +38,53 @@ struct DrawArguments {
   bool json = false;
 };
 
-/// A draw with the questions themselves.
-struct DrawnList {
-  DrawOutcome outcome;
-  std::vector<BankQuestion> questions;
-};
-
-void TellUnreadTags(const BankSession& bank, const DrawableQuestions& drawable) {
-  for (const UnreadTags& unread : drawable.Unread())
+void TellUnreadTags(const BankSession& bank, const std::vector<UnreadTags>& files) {
+  for (const UnreadTags& unread : files)
     bank.session.console.Complain(
         Utf16ToUtf8(TagProblemText(unread.result, unread.file, bank.session.services.strings)));
 }
 
 DrawnList DrawFrom(BankSession& bank, const DrawRequest& request) {
-  DrawnList drawn;
-  try {
-    const DrawableQuestions drawable(bank.index, bank.session.services.files);
-    bank.Require(drawable.Problem());
-    TellUnreadTags(bank, drawable);
-    drawn.outcome = DrawQuestions(drawable.Candidates(), request,
-                                  [&](std::size_t candidate) { return drawable.ComparedAt(candidate); });
-    drawn.questions.reserve(drawn.outcome.questions.size());
-    for (const DrawnQuestion& each : drawn.outcome.questions) {
-      auto question = drawable.Question(each.candidate);
-      if (!question) throw CommandError("the bank has changed meanwhile; draw again");
-      drawn.questions.push_back(std::move(*question));
-    }
-  } catch (const DatabaseError& error) {
-    bank.Require(bank.index.ProblemAfter(error));
-  }
+  DrawnList drawn = DrawFromBank(bank.index, bank.session.services.files, {request, {}});
+  bank.Require(drawn.problem);
+  TellUnreadTags(bank, drawn.unread);
+  if (drawn.hasChanged) throw CommandError("the bank has changed meanwhile; draw again");
   return drawn;
 }
 
-std::string Reason(const BankSession& bank, const DrawnQuestion& question) {
-  return Utf16ToUtf8(ReasonText(question, bank.session.services.strings));
+/// Without the name of an exam: its path is printed.
+std::string Reason(const BankSession& bank, const DrawnRow& row) {
+  return Utf16ToUtf8(ReasonText(row.drawn, {}, bank.session.services.strings));
+}
+
+std::vector<BankQuestion> QuestionsOf(const DrawnList& drawn) {
+  std::vector<BankQuestion> questions;
+  questions.reserve(drawn.rows.size());
+  for (const DrawnRow& row : drawn.rows) questions.push_back(row.question);
+  return questions;
 }
 
 void PrintDrawn(const BankSession& bank, const DrawnList& drawn) {
   std::ostream& out = bank.session.console.out;
-  for (std::size_t i = 0; i < drawn.questions.size(); ++i) {
-    const BankQuestion& question = drawn.questions[i];
+  for (const DrawnRow& row : drawn.rows) {
+    const BankQuestion& question = row.question;
     out << TerminalLine(PathToText(question.exam.path)) << ":" << question.number << ": "
-        << TerminalLine(question.text) << "\n    " << Reason(bank, drawn.outcome.questions[i]) << "\n";
+        << TerminalLine(question.text) << "\n    " << Reason(bank, row) << "\n";
   }
 }
 
 void PrintDrawnJson(const BankSession& bank, const DrawnList& drawn, const DrawRequest& request) {
   DrawJson json{{"seed", request.seed}, {"questions", DrawJson::array()}};
-  for (std::size_t i = 0; i < drawn.questions.size(); ++i) {
-    const BankQuestion& question = drawn.questions[i];
+  for (const DrawnRow& row : drawn.rows) {
+    const BankQuestion& question = row.question;
     json["questions"].push_back({{"exam", Utf16ToUtf8(PathToText(question.exam.path))},
                                  {"number", question.number},
                                  {"kind", KindName(question.kind)},
                                  {"text", Utf16ToUtf8(question.text)},
                                  {"key", question.key},
-                                 {"among", drawn.outcome.questions[i].among},
-                                 {"exams", drawn.outcome.questions[i].exams},
-                                 {"reason", Reason(bank, drawn.outcome.questions[i])}});
+                                 {"among", row.drawn.among},
+                                 {"exams", row.drawn.exams},
+                                 {"reason", Reason(bank, row)}});
   }
   bank.session.console.out << json << "\n";
 }
@@ -115,9 +104,9 @@ void Draw(Console& console, const CommonOptions& options, const DrawArguments& a
   }
   const DrawnList drawn = DrawFrom(bank, request);
   const std::string found =
-      Utf16ToUtf8(WishText(arguments.wish, drawn.outcome.wishes.front(), bank.session.services.strings));
-  if (drawn.questions.empty()) throw CommandError("no question can be drawn: " + found);
-  if (!arguments.target.empty()) WriteDrawnExam(bank, drawn.questions, arguments.target);
+      Utf16ToUtf8(WishText(arguments.wish, drawn.wishes.front(), bank.session.services.strings));
+  if (drawn.rows.empty()) throw CommandError("no question can be drawn: " + found);
+  if (!arguments.target.empty()) WriteDrawnExam(bank, QuestionsOf(drawn), arguments.target);
   arguments.json ? PrintDrawnJson(bank, drawn, request) : PrintDrawn(bank, drawn);
   console.out.flush();
   console.Tell(found + "; seed " + std::to_string(request.seed));

@@ -4,12 +4,21 @@
 #include "bank/search/BankMemory.h"
 #include "bank/search/BankQuestions.h"
 
+#include <algorithm>
 #include <ctime>
 #include <string>
 #include <system_error>
 #include <utility>
 
 namespace quorvantis {
+namespace {
+
+/// True for every file if `folder` is empty.
+bool IsBelow(const std::filesystem::path& file, const std::filesystem::path& folder) {
+  return std::mismatch(folder.begin(), folder.end(), file.begin(), file.end()).first == folder.end();
+}
+
+}  // namespace
 
 std::chrono::sys_days LocalDay(std::int64_t nanoseconds) {
   constexpr std::int64_t kInSecond = 1'000'000'000;
@@ -20,21 +29,24 @@ std::chrono::sys_days LocalDay(std::int64_t nanoseconds) {
          std::chrono::day(static_cast<unsigned>(day.tm_mday));
 }
 
-DrawableQuestions::DrawableQuestions(BankIndex& index, Files& files) : index_(index) {
+DrawableQuestions::DrawableQuestions(BankIndex& index, Files& files, const std::filesystem::path& folder)
+    : index_(index) {
   try {
-    ReadCandidates(ReadOrigins(files));
+    ReadCandidates(ReadOrigins(files, folder));
   } catch (const DatabaseError& error) {
     problem_ = index.ProblemAfter(error);
   }
 }
 
 /// By the identifier of the exam, for those whose file is there.
-std::map<std::int64_t, DrawableQuestions::Origin> DrawableQuestions::ReadOrigins(Files& files) {
+std::map<std::int64_t, DrawableQuestions::Origin> DrawableQuestions::ReadOrigins(
+    Files& files, const std::filesystem::path& folder) {
   std::map<std::int64_t, Origin> origins;
   for (const BankExam& exam : index_.Exams(problem_)) {
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(exam.path, ignored)) continue;
-    origins[exam.id] = {LocalDay(exam.written), &TagsOf(exam.path.parent_path(), files)};
+    origins[exam.id] = {LocalDay(exam.written), &TagsOf(exam.path.parent_path(), files),
+                        IsBelow(exam.path, folder)};
   }
   return origins;
 }
@@ -63,7 +75,8 @@ void DrawableQuestions::ReadCandidates(const std::map<std::int64_t, Origin>& ori
                             static_cast<QuestionKind>(rows.Integer(2)),
                             {},
                             origin->second.day,
-                            *sketch};
+                            *sketch,
+                            origin->second.isOffered};
     const auto entry = origin->second.tags->find(candidate.key);
     if (entry != origin->second.tags->end()) candidate.tags = entry->second.tags;
     candidates_.push_back(std::move(candidate));

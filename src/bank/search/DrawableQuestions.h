@@ -27,8 +27,9 @@ struct UnreadTags {
 /// its exam was last changed.
 class DrawableQuestions {
  public:
-  /// Both must outlive this. About 25 MB for 50,000 questions.
-  DrawableQuestions(BankIndex& index, Files& files);
+  /// Both must outlive this. About 25 MB for 50,000 questions. Only exams in `folder` or below it are
+  /// offered; if it is empty, all are.
+  DrawableQuestions(BankIndex& index, Files& files, const std::filesystem::path& folder = {});
 
   const std::vector<DrawCandidate>& Candidates() const { return candidates_; }
 
@@ -46,9 +47,10 @@ class DrawableQuestions {
   struct Origin {
     std::chrono::sys_days day;
     const TagEntries* tags = nullptr;
+    bool isOffered = true;
   };
 
-  std::map<std::int64_t, Origin> ReadOrigins(Files& files);
+  std::map<std::int64_t, Origin> ReadOrigins(Files& files, const std::filesystem::path& folder);
   const TagEntries& TagsOf(const std::filesystem::path& folder, Files& files);
   void ReadCandidates(const std::map<std::int64_t, Origin>& origins);
 
