@@ -91,16 +91,21 @@ DrawnList DrawFromBank(BankIndex& index, Files& files, const DrawOrder& order,
 
 AnotherDrawn DrawAnother(BankIndex& index, Files& files, const DrawnList& list, std::size_t place) {
   AnotherDrawn another;
+  DrawRequest request = list.order.request;
+  request.rejected.insert(list.rows[place].question.key);
+  const std::size_t wish = list.rows[place].drawn.wish;
   try {
-    const DrawableQuestions drawable(index, files, list.order.folder);
-    another.problem = drawable.Problem();
-    if (another.problem.IsAnything()) return another;
-    DrawRequest request = list.order.request;
-    request.rejected.insert(list.rows[place].question.key);
-    const auto others = OthersNow(list, place, drawable.Candidates(), request);
-    const auto drawn = DrawOneMore(drawable.Candidates(), request, others, list.rows[place].drawn.wish,
-                                   ComparedOf(drawable), another.outcome);
-    if (drawn) another.row = RowOf(drawable, *drawn);
+    for (int i = 0; i < kTries && !another.row; ++i) {
+      const DrawableQuestions drawable(index, files, list.order.folder);
+      another.problem = drawable.Problem();
+      if (another.problem.IsAnything()) break;
+      DrawRequest now = request;
+      const auto others = OthersNow(list, place, drawable.Candidates(), now);
+      const auto drawn =
+          DrawOneMore(drawable.Candidates(), now, others, wish, ComparedOf(drawable), another.outcome);
+      if (!drawn) break;
+      another.row = RowOf(drawable, *drawn);
+    }
   } catch (const DatabaseError& error) {
     another.problem = index.ProblemAfter(error);
   }

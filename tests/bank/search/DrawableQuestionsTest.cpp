@@ -2,6 +2,7 @@
 #include "bank/BankTest.h"
 #include "bank/draw/DrawQuestions.h"
 #include "bank/search/DrawableQuestions.h"
+#include "bank/search/DrawnList.h"
 #include "bank/search/QuerySql.h"
 
 #include <chrono>
@@ -60,6 +61,25 @@ TEST_F(Drawable, AreUsedWhenTheirExamWasChanged) {
       DrawQuestions(drawable.Candidates(), request, [&](std::size_t at) { return drawable.ComparedAt(at); });
   ASSERT_EQ(drawn.questions.size(), 1U);
   EXPECT_EQ(drawable.Question(drawn.questions.front().candidate)->text, u"Who?");
+}
+
+TEST_F(Drawable, ComeFromTheChosenFolderButWereUsedAnywhere) {
+  const fs::path old = WriteExam(exams / "a" / "old.exm", u"Old", {QuestionWith(u"Why?")});
+  fs::last_write_time(old, fs::last_write_time(old) - 240h);
+  WriteExam(exams / "ab" / "new.exm", u"New", {QuestionWith(u"Why?"), QuestionWith(u"Who?")});
+  Update();
+  DrawOrder order;
+  order.request.wishes.resize(1);
+  order.request.wishes.front().count = 9;
+  order.folder = exams / "a";
+  const DrawnList list = DrawFromBank(*index, files, order);
+  ASSERT_EQ(list.rows.size(), 1U);
+  EXPECT_EQ(list.rows.front().question.exam.path, old);
+  EXPECT_EQ(list.rows.front().lastExam, u"New");
+  EXPECT_EQ(list.wishes.front().excluded.at(DrawObstacle::NotOffered), 1U);
+  const AnotherDrawn other = DrawAnother(*index, files, list, 0);
+  EXPECT_FALSE(other.row);
+  EXPECT_EQ(other.outcome.excluded.at(DrawObstacle::Rejected), 1U);
 }
 
 TEST_F(Drawable, RanksTheQuestionsReadLast) {
