@@ -6,9 +6,6 @@
 #include "platform/TextNumbers.h"
 #include "versions/VersionNames.h"
 
-#include <QHBoxLayout>
-#include <QPushButton>
-#include <QRandomGenerator>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -29,12 +26,6 @@ constexpr MovesRow kMovesRows[] = {
     {QuestionMoves::None, text_id::kMovesNone},
 };
 
-/// Easy to read out and to type again.
-QString RandomSeedText() {
-  constexpr quint32 kSeeds = 1'000'000'000;
-  return QString::number(QRandomGenerator::system()->bounded(kSeeds));
-}
-
 }  // namespace
 
 VersionChoices::VersionChoices(const StringTable& strings, QWidget* parent)
@@ -43,7 +34,7 @@ VersionChoices::VersionChoices(const StringTable& strings, QWidget* parent)
       form_(new QFormLayout(this)),
       count_(new QSpinBox(this)),
       names_(new QLineEdit(this)),
-      seed_(new QLineEdit(RandomSeedText(), this)),
+      seed_(new SeedField(strings, "versionSeed", "versionNewSeed", this)),
       moves_(new QComboBox(this)),
       options_(new QCheckBox(Text(text_id::kVersionsOptions), this)) {
   form_->setContentsMargins(0, 0, 0, 0);
@@ -54,11 +45,11 @@ VersionChoices::VersionChoices(const StringTable& strings, QWidget* parent)
   AddMoves();
   NameControl(options_, "versionOptions", options_->text());
   form_->addRow(options_);
-  form_->addRow(Text(text_id::kVersionsSeed), SeedRow());
+  form_->addRow(Text(text_id::kVersionsSeed), seed_);
   Show({LetterNames(2), Chosen().seed});
   connect(count_, &QSpinBox::valueChanged, this, &VersionChoices::TakeCount);
   connect(names_, &QLineEdit::textChanged, this, &VersionChoices::TakeNames);
-  connect(seed_, &QLineEdit::textChanged, this, &VersionChoices::Changed);
+  connect(seed_, &SeedField::Changed, this, &VersionChoices::Changed);
   connect(moves_, &QComboBox::currentIndexChanged, this, &VersionChoices::Changed);
   connect(options_, &QCheckBox::toggled, this, &VersionChoices::Changed);
 }
@@ -75,20 +66,6 @@ void VersionChoices::AddMoves() {
   AddRow("versionMoves", text_id::kVersionsQuestions, moves_);
 }
 
-QWidget* VersionChoices::SeedRow() {
-  auto* row = new QWidget(this);
-  auto* another = new QPushButton(Text(text_id::kVersionsNewSeed), row);
-  another->setAutoDefault(false);
-  NameControl(seed_, "versionSeed", Text(text_id::kVersionsSeed));
-  NameControl(another, "versionNewSeed", another->text());
-  connect(another, &QPushButton::clicked, this, [this] { seed_->setText(RandomSeedText()); });
-  auto* layout = new QHBoxLayout(row);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(seed_, 1);
-  layout->addWidget(another);
-  return row;
-}
-
 void VersionChoices::Show(const VersionRequest& request) {
   const QSignalBlocker quiet(this);
   QStringList names;
@@ -99,7 +76,7 @@ void VersionChoices::Show(const VersionRequest& request) {
     names_->setText(names.join(u','));
     count_->setValue(static_cast<int>(names.size()));
   }
-  seed_->setText(QString::number(request.seed));
+  seed_->Show(QString::number(request.seed));
   moves_->setCurrentIndex(std::max(moves_->findData(static_cast<int>(request.moves)), 0));
   options_->setChecked(request.movesOptions);
 }
@@ -107,7 +84,7 @@ void VersionChoices::Show(const VersionRequest& request) {
 VersionRequest VersionChoices::Chosen() const {
   VersionRequest request;
   for (const QString& name : Names()) request.names.push_back(FromQString(name));
-  request.seed = seed_->text().trimmed().toULongLong();
+  request.seed = seed_->Typed().toULongLong();
   request.moves = static_cast<QuestionMoves>(moves_->currentData().toInt());
   request.movesOptions = options_->isChecked();
   return request;

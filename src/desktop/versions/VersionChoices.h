@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/controls/SeedField.h"
 #include "platform/StringTable.h"
 #include "versions/VersionRequest.h"
 
@@ -36,14 +37,13 @@ class VersionChoices : public QWidget {
   void TakeCount(int count);
   void TakeNames();
   QStringList Names() const;
-  QWidget* SeedRow();
   QString Text(int number) const;
 
   const StringTable& strings_;
   QFormLayout* form_;
   QSpinBox* count_;
   QLineEdit* names_;
-  QLineEdit* seed_;
+  SeedField* seed_;
   QComboBox* moves_;
   QCheckBox* options_;
 };

@@ -2,6 +2,7 @@
 #include "ini/ProfileFile.h"
 #include "platform/posix/PosixFiles.h"
 #include "shell/settings/CodePageChoice.h"
+#include "shell/settings/DrawSetting.h"
 #include "shell/settings/FileSettings.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
@@ -72,6 +73,29 @@ TEST(ExamFolderSetting, KeepsAnyFolderBesideTheOtherSettings) {
   EXPECT_EQ(setting.Read(), "/"s + std::string(250, 'x')) << "what cannot be kept leaves the last one";
   WriteBytes(folder / "system.ini", "[files]\nExamFolder=relative");
   EXPECT_EQ(setting.Read(), "");
+}
+
+TEST(DrawSetting, KeepsWhatWasTyped) {
+  const TemporaryFolder folder;
+  PosixFiles files;
+  const TestCodePage codePage;
+  const DrawSetting setting(folder.Path(), files, codePage);
+  EXPECT_EQ(setting.Read(), TypedDraw());
+  TypedDraw typed;
+  typed.wishes = {
+      {3, 2, u" \"cells\", class:8b ", u"标签", u"difficulty:1,difficulty:2"}, {}, {500, -1, u"x"}};
+  typed.notUsedSince = u"2024-08-01";
+  typed.folder = "/exams [old] ";
+  typed.leavesOutOpenExam = false;
+  typed.seed = u"18446744073709551615";
+  setting.Write(typed);
+  EXPECT_EQ(setting.Read(), typed);
+  typed.wishes.pop_back();
+  typed.wishes.back().tags = u"new";
+  setting.Write(typed);
+  EXPECT_EQ(setting.Read(), typed) << "a wish less";
+  WriteBytes(folder / "system.ini", "[draw]\nWishes=99999\nCount1=-7\nKind1=x");
+  EXPECT_EQ(setting.Read().wishes.size(), TypedDraw::kMostWishes);
 }
 
 }  // namespace
