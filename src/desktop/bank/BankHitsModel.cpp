@@ -37,10 +37,9 @@ void BankHitsModel::Show(std::vector<BankHit> hits) {
   endResetModel();
 }
 
-QString BankHitsModel::HeadingOf(const BankHit& hit) const {
-  const BankQuestion& question = hit.question;
-  const std::u16string kind = FromQString(KindCaption(question.kind, strings_));
-  return ToQString(FillMessage(strings_.Text(text_id::kBankHeading),
+QString BankHeading(const BankQuestion& question, const StringTable& strings) {
+  const std::u16string kind = FromQString(KindCaption(question.kind, strings));
+  return ToQString(FillMessage(strings.Text(text_id::kBankHeading),
                                {FromQString(NameOf(question.exam)), FormatInteger(question.number), kind,
                                 FromQString(DayOf(question.exam))}));
 }

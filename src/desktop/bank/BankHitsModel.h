@@ -11,6 +11,9 @@
 
 namespace quorvantis {
 
+/// "Biology, spring — 12, choice, 2024-05-12".
+QString BankHeading(const BankQuestion& question, const StringTable& strings);
+
 /// The questions that a search of the bank has found, the best first.
 class BankHitsModel : public QAbstractListModel {
   Q_OBJECT
@@ -26,8 +29,7 @@ class BankHitsModel : public QAbstractListModel {
   void Show(std::vector<BankHit> hits);
   const BankHit& HitAt(int row) const { return hits_.at(static_cast<std::size_t>(row)); }
 
-  /// "Biology, spring — 12, choice, 2 files".
-  QString HeadingOf(const BankHit& hit) const;
+  QString HeadingOf(const BankHit& hit) const { return BankHeading(hit.question, strings_); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;

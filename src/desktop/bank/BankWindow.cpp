@@ -12,10 +12,8 @@
 #include "text/NumberText.h"
 
 #include <QBoxLayout>
-#include <QGuiApplication>
 #include <QHideEvent>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QSplitter>
 
 #include <algorithm>
@@ -45,18 +43,6 @@ void MarkIn(QTextDocument& document, const std::vector<TextSpan>& marks) {
   }
 }
 
-/// Moves and shrinks `window`, which has the frame of `main`, until its buttons are on the screen, too.
-void FitOnScreen(QWidget& window, const QWidget& main) {
-  const QScreen* there = QGuiApplication::screenAt(window.geometry().center());
-  const QRect screen = (there != nullptr ? there : main.screen())->availableGeometry();
-  const QSize frame = main.frameGeometry().size() - main.size();
-  window.resize(window.size().boundedTo(screen.size() - frame));
-  const QPoint last =
-      screen.bottomRight() - QPoint(window.width() + frame.width(), window.height() + frame.height());
-  window.move(std::max(screen.left(), std::min(window.x(), last.x() + 1)),
-              std::max(screen.top(), std::min(window.y(), last.y() + 1)));
-}
-
 }  // namespace
 
 BankWindow::BankWindow(BankDesk& desk, const ExamServices& services, BankActions actions, QWidget* parent)
@@ -73,6 +59,7 @@ BankWindow::BankWindow(BankDesk& desk, const ExamServices& services, BankActions
       insert_(MakeButton("bankInsert", text_id::kBankInsert, &BankWindow::Insert)),
       show_(MakeButton("bankShow", text_id::kBankShow, &BankWindow::ShowPage)),
       openExam_(MakeButton("bankOpenExam", text_id::kBankOpenExam, &BankWindow::OpenExam)),
+      draw_(MakeButton("bankDraw", text_id::kDrawOfBank, &BankWindow::Draw)),
       folders_(MakeButton("bankEditFolders", text_id::kBankFolders, &BankWindow::EditFolders)) {
   setObjectName("bankWindow");
   setWindowTitle(Text(text_id::kBankTitle));
@@ -127,6 +114,7 @@ void BankWindow::PlaceControls() {
   buttons->addStretch();
   auto* ofTheBank = new QHBoxLayout;
   ofTheBank->addWidget(status_, 1);
+  ofTheBank->addWidget(draw_);
   ofTheBank->addWidget(folders_);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(query_);

@@ -25,6 +25,8 @@ struct BankActions {
   std::function<void(const BankQuestion&)> show;
   /// Opens its exam there.
   std::function<void(const BankQuestion&)> openExam;
+  /// Opens the window that draws from the bank.
+  std::function<void()> draw;
 };
 
 /// The bank of all exams, beside the main window: a line to search with, what was found, and the whole of the
@@ -59,6 +61,7 @@ class BankWindow : public QDialog {
   void Insert();
   void ShowPage();
   void OpenExam();
+  void Draw() { actions_.draw(); }
   void EditFolders();
   const BankHit* Chosen() const;
   void RestorePlace();
@@ -77,6 +80,7 @@ class BankWindow : public QDialog {
   QPushButton* insert_;
   QPushButton* show_;
   QPushButton* openExam_;
+  QPushButton* draw_;
   QPushButton* folders_;
   QTimer whenQuiet_;  ///< runs while the user types
   QTimer whileUpdating_;

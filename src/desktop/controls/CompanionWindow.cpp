@@ -27,6 +27,17 @@ bool ReturnToPlace(QWidget& window, const QRect& kept) {
   return true;
 }
 
+void FitOnScreen(QWidget& window, const QWidget& main) {
+  const QScreen* there = QGuiApplication::screenAt(window.geometry().center());
+  const QRect screen = (there != nullptr ? there : main.screen())->availableGeometry();
+  const QSize frame = main.frameGeometry().size() - main.size();
+  window.resize(window.size().boundedTo(screen.size() - frame));
+  const QPoint last =
+      screen.bottomRight() - QPoint(window.width() + frame.width(), window.height() + frame.height());
+  window.move(std::max(screen.left(), std::min(window.x(), last.x() + 1)),
+              std::max(screen.top(), std::min(window.y(), last.y() + 1)));
+}
+
 bool DecideShortcut(QEvent& event) {
   if (event.type() != QEvent::ShortcutOverride) return false;
   const auto& key = static_cast<QKeyEvent&>(event);

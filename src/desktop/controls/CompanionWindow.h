@@ -19,6 +19,9 @@ QPoint PlaceBeside(const QWidget& main, QSize size);
 /// it did.
 bool ReturnToPlace(QWidget& window, const QRect& kept);
 
+/// Moves and shrinks `window`, which has the frame of `main`, until its buttons are on the screen, too.
+void FitOnScreen(QWidget& window, const QWidget& main);
+
 /// The shortcuts of the main window work in a companion, too: saving, undoing, finding. But Page Up and Page
 /// Down belong to the companion's list, and Alt with a letter would press buttons that are not in view.
 /// Returns whether `event` is such a decision, which is then made; the companion ends with it.

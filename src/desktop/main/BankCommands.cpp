@@ -58,7 +58,7 @@ void BankCommands::Open() {
   if (!shown_) {
     BankActions actions{[this](const BankQuestion& question) { return Insert(question); },
                         [this](const BankQuestion& question) { Show(question); },
-                        [this](const BankQuestion& question) { OpenExam(question); }};
+                        [this](const BankQuestion& question) { OpenExam(question); }, draw_};
     shown_ = new BankWindow(*desk_, services, std::move(actions), &window_);
   }
   shown_->Appear();

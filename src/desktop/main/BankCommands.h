@@ -33,9 +33,14 @@ class BankCommands {
 
   void Open();
 
+  /// Shows a question as pupils see it.
+  void Show(const BankQuestion& question);
+
+  /// What the window of the bank does to draw from it; set it before that is opened.
+  void SetDraw(std::function<void()> draw) { draw_ = std::move(draw); }
+
  private:
   QString Insert(const BankQuestion& question);
-  void Show(const BankQuestion& question);
   void OpenExam(const BankQuestion& question);
 
   ExamEditor& editor_;
@@ -43,6 +48,7 @@ class BankCommands {
   const bool languageIsRightToLeft_;
   const RenewPreview renewPreview_;
   QWidget& window_;
+  std::function<void()> draw_;
   const OpenSslDigest digest_;
   std::unique_ptr<BankDesk> desk_;  ///< made when it is first needed
   QPointer<BankWindow> shown_;      ///< likewise

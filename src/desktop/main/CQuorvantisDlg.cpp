@@ -125,6 +125,7 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
       bank_(
           editor_, shownQuestion_, IsRightToLeft(languageId),
           [this]() -> PreviewWindow& { return RenewFor({}); }, *this),
+      draw_(editor_, shownQuestion_, bank_, *this),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       somethingIsWrong_(new WindowNotice("somethingIsWrong", QStyle::SP_MessageBoxWarning, client_)),
       printComes_(new WindowNotice("printComes", QStyle::SP_BrowserReload, client_)),
@@ -205,6 +206,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.sheets = &sheets_;
   commands.check = &check_;
   commands.bank = [this] { bank_.Open(); };
+  commands.draw = [this] { draw_.Open(); };
   commands.canUndoImport = [this] { return import_.CanUndo(); };
   commands.undoImport = [this] { importWindows_.Undo(import_); };
   commands.versions = [this] { versions_.MakeVersions(); };

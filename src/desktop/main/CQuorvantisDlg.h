@@ -7,6 +7,7 @@
 #include "desktop/main/AnswerControls.h"
 #include "desktop/main/BankCommands.h"
 #include "desktop/main/CheckCommands.h"
+#include "desktop/main/DrawCommands.h"
 #include "desktop/main/ExamControls.h"
 #include "desktop/main/ExchangeCommands.h"
 #include "desktop/main/FocusedField.h"
@@ -169,6 +170,7 @@ class CQuorvantisDlg final : public FittedWindow,
   VersionCommands versions_;
   ExchangeCommands exchange_;
   BankCommands bank_;
+  DrawCommands draw_;
   WindowNotice* recoveryFails_;
   WindowNotice* somethingIsWrong_;
   WindowNotice* printComes_;

@@ -263,6 +263,7 @@ MenuTable WindowMenus::Exam() const {
                .keys = {Qt::CTRL | Qt::Key_B},
                .ownsKeys = true,
                .command = commands_.bank},
+              {.name = "examDraw", .caption = Text(kDrawEntry), .command = commands_.draw},
               Separator(),
               For(controls_.exam.title, "examTitle", kGoToTitle),
               Random(),

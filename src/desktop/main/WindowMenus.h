@@ -35,6 +35,7 @@ class WindowMenus {
     SheetCommands* sheets;
     CheckCommands* check;
     std::function<void()> bank;
+    std::function<void()> draw;
     std::function<bool()> canUndoImport;
     std::function<void()> undoImport;
     std::function<void()> versions;

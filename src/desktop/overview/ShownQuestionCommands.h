@@ -40,6 +40,9 @@ class ShownQuestionCommands {
   QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers) {
     return commands_.InsertFrom(other, numbers);
   }
+  QString InsertDrawn(std::vector<WholeQuestion> questions) {
+    return commands_.InsertDrawn(std::move(questions));
+  }
 
   /// Whether the commands can act. The last one looks at the clipboard, which takes a moment.
   bool CanMoveUp() const;

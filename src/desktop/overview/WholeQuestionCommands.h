@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quorvantis {
@@ -38,6 +39,10 @@ class WholeQuestionCommands {
   QString InsertFromExam(QWidget* parent);
   /// Questions of another exam, by their numbers, after the question that is shown.
   QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers);
+  /// Questions drawn from several exams, likewise.
+  QString InsertDrawn(std::vector<WholeQuestion> questions) {
+    return Insert(std::move(questions), ChangeKind::DrawQuestion);
+  }
 
   bool CanPaste() const { return clipboard_.HasQuestions(); }
   int LastQuestion() const { return editor_.order.LastQuestion(); }
