@@ -73,6 +73,10 @@ void PrintDrawn(const BankSession& bank, const DrawnList& drawn) {
   }
 }
 
+DrawJson DayJson(std::optional<std::chrono::sys_days> day) {
+  return day ? DrawJson(Utf16ToUtf8(DayText(*day))) : DrawJson();
+}
+
 void PrintDrawnJson(const BankSession& bank, const DrawnList& drawn, const DrawRequest& request) {
   DrawJson json{{"seed", request.seed}, {"questions", DrawJson::array()}};
   for (const DrawnRow& row : drawn.rows) {
@@ -84,6 +88,7 @@ void PrintDrawnJson(const BankSession& bank, const DrawnList& drawn, const DrawR
                                  {"key", question.key},
                                  {"among", row.drawn.among},
                                  {"exams", row.drawn.exams},
+                                 {"lastUsed", DayJson(row.drawn.lastUsed)},
                                  {"reason", Reason(bank, row)}});
   }
   bank.session.console.out << json << "\n";

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bank/search/BankQuery.h"
 #include "bank/search/BankSearch.h"
+#include "bank/tags/TagTexts.h"
 #include "cli/BankSession.h"
 #include "cli/CommandError.h"
 #include "cli/CommandOptions.h"
@@ -53,11 +54,13 @@ BankJson JsonOf(const BankHit& hit) {
                 {"score", nullptr},
                 {"files", BankJson::array()},
                 {"key", question.key},
+                {"tags", BankJson::array()},
                 {"highlights", BankJson::array()}};
   for (const std::u16string& option : question.options) json["options"].push_back(Utf16ToUtf8(option));
   if (question.score) json["score"] = *question.score;
   for (const IndexedFile& file : question.files)
     json["files"].push_back({{"name", Utf16ToUtf8(file.name)}, {"size", file.size}});
+  for (const std::u16string& tag : hit.tags) json["tags"].push_back(Utf16ToUtf8(tag));
   for (const BankHighlight& part : hit.highlights)
     json["highlights"].push_back(
         {{"field", FieldNamed(part.field).key ? FieldNamed(part.field).key : "files"},
@@ -72,8 +75,11 @@ void FindInBank(Console& console, const CommonOptions& options, const BankReques
   std::string words;
   for (const std::string& word : request.words) words += (words.empty() ? "" : " ") + word;
   BankSearch search(bank.index, bank.session.services, bank.digest);
-  const BankHits found = search.Find(ParseBankQuery(Utf8ToUtf16(words)), request.limit);
+  const QueryWords inLanguage(bank.session.services.strings);
+  const BankHits found = search.Find(ParseBankQuery(Utf8ToUtf16(words), false, inLanguage), request.limit);
   bank.Require(found.problem);
+  for (const UnreadTags& unread : found.unreadTags)
+    console.Complain(Utf16ToUtf8(TagProblemText(unread.result, unread.file, bank.session.services.strings)));
   if (request.json) {
     BankJson json{{"total", found.total}, {"hits", BankJson::array()}};
     for (const BankHit& hit : found.hits) json["hits"].push_back(JsonOf(hit));
@@ -155,8 +161,10 @@ void AddBankFind(CLI::App& bank, CommandContext& context) {
       ->check(IsDecimal())
       ->type_name("N");
   find->footer(
-      "WORDS: word \"some words\" -word; kind:choice|fillin|essay|oral exam:NAME folder:NAME has:files\n"
-      "has:key -has:key after:2024-08-01 before:2025 score:>2 score:1-3. Put -- before a word with \"-\".");
+      "WORDS: word \"some words\" -word; kind:choice|fillin|essay|oral exam:NAME folder:NAME tag:TAG "
+      "-tag:TAG\n"
+      "has:files has:key has:tags -has:key after:2024-08-01 before:2025 score:>2 score:1-3. Put -- before a\n"
+      "word with \"-\".");
 }
 
 }  // namespace

@@ -109,6 +109,9 @@ void TagQuestion(Console& console, const CommonOptions& options, const TagReques
 }
 
 void ListTags(Console& console, const CommonOptions& options, const TagListRequest& request) {
+  std::error_code error;
+  const fs::directory_iterator entries(request.folder, error);
+  if (error) throw CommandError(request.folder.string() + ": " + error.message());
   ExamSession session(console, options);
   const TagFile file(request.folder, session.services.files);
   std::map<std::u16string, std::size_t> counts;

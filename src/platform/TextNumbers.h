@@ -997,6 +997,27 @@ constexpr int kBankNothing = 2452;
 constexpr int kBankNoFolders = 2453;
 constexpr int kBankUpdating = 2454;
 constexpr int kBankChanged = 2455;
+// What a query of the bank can ask for: words with blanks between them
+constexpr int kQueryNames = 2480;  // kind has tag exam folder after before score
+constexpr int kQueryKinds = 2481;  // choice fillin essay oral
+constexpr int kQueryParts = 2482;  // files key tags
+// Tags in the window of the bank
+constexpr int kBankTags = 2483;
+constexpr int kBankTagsOfMany = 2484;
+constexpr int kBankAddTag = 2485;
+constexpr int kBankRemoveTag = 2486;
+constexpr int kBankPutBackTag = 2487;   // that was removed
+constexpr int kBankTakeBackTag = 2488;  // that was added
+constexpr int kBankEarlierTags = 2489;
+constexpr int kBankTakeOverTags = 2490;
+constexpr int kBankKeepTagsAside = 2491;
+constexpr int kBankTryTagsAgain = 2492;
+constexpr int kBankTagsKeptAside = 2493;
+constexpr int kBankSomeHaveTag = 2494;  // %1 is a tag
+constexpr int kBankQueryHelp = 2495;
+constexpr int kBankTagTooLong = 2496;
+constexpr int kBankNoContentNoTags = 2497;
+constexpr int kBankTagsNotWritten = 2498;  // %1 are tags; the reason follows
 
 // The window that draws from the bank
 constexpr int kDrawOtherFolder = 2500;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The language libraries that the program is shipped with, as built.
 #include "LanguageFile.h"
+#include "platform/TextNumbers.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
 #include "shell/language/BuiltInDialogTexts.h"
 #include "shell/language/BuiltInStrings.h"
@@ -104,6 +105,24 @@ void ExpectComplete(const LanguageLibrary& library) {
   EXPECT_TRUE(library.Bitmap("none", 1).empty());
 }
 
+/// The words that can be typed into a query are told apart by their places.
+void ExpectQueryWords(const LanguageLibrary& library) {
+  const BuiltInStrings english;
+  for (const int number : {text_id::kQueryNames, text_id::kQueryKinds, text_id::kQueryParts}) {
+    const std::u16string list = library.Text(number);
+    std::set<std::u16string> words;
+    for (std::size_t begin = 0; begin <= list.size();) {
+      const std::size_t end = std::min(list.find(u' ', begin), list.size());
+      EXPECT_LT(begin, end) << "two blanks in " << number;
+      EXPECT_TRUE(words.insert(list.substr(begin, end - begin)).second) << "a word twice in " << number;
+      begin = end + 1;
+    }
+    const std::u16string expected = english.Text(number);
+    EXPECT_EQ(words.size(), 1U + static_cast<std::size_t>(std::ranges::count(expected, u' '))) << number;
+    EXPECT_EQ(list.find(u':'), list.npos);
+  }
+}
+
 TEST(BuiltInStrings, AreTheNumberedTexts) {
   std::ifstream header(QUORVANTIS_PROJECT "/src/platform/TextNumbers.h");
   const std::string code(std::istreambuf_iterator<char>(header), {});
@@ -124,6 +143,7 @@ TEST(ShippedLanguages, HaveAllTexts) {
   for (const std::filesystem::path& file : list.languageFiles) {
     SCOPED_TRACE(file);
     ExpectComplete(*libraries.Load(file));
+    ExpectQueryWords(*libraries.Load(file));
   }
   EXPECT_EQ(libraries.Load(list.languageFiles.at(0))->Text(156), u"Cancel");
 }

@@ -13,14 +13,6 @@ std::u16string Count(std::size_t count) {
   return FormatInteger(static_cast<std::int64_t>(count));
 }
 
-/// Year, month and day, the same in every locale.
-std::u16string DayText(std::chrono::sys_days day) {
-  const std::chrono::year_month_day date(day);
-  const auto twoDigits = [](unsigned number) { return (number < 10 ? u"0" : u"") + FormatInteger(number); };
-  return FormatInteger(static_cast<int>(date.year())) + u"-" +
-         twoDigits(static_cast<unsigned>(date.month())) + u"-" + twoDigits(static_cast<unsigned>(date.day()));
-}
-
 int TextOf(DrawObstacle obstacle) {
   switch (obstacle) {
     case DrawObstacle::NotOffered:
@@ -46,6 +38,13 @@ int TextOf(DrawObstacle obstacle) {
 constexpr std::u16string_view kBetweenReasons = u"; ";
 
 }  // namespace
+
+std::u16string DayText(std::chrono::sys_days day) {
+  const std::chrono::year_month_day date(day);
+  const auto twoDigits = [](unsigned number) { return (number < 10 ? u"0" : u"") + FormatInteger(number); };
+  return FormatInteger(static_cast<int>(date.year())) + u"-" +
+         twoDigits(static_cast<unsigned>(date.month())) + u"-" + twoDigits(static_cast<unsigned>(date.day()));
+}
 
 std::u16string ReasonText(const DrawnQuestion& question, std::u16string_view lastExam,
                           const StringTable& strings) {

@@ -24,7 +24,7 @@ bool IsBlank(char16_t unit) {
 /// Cuts a query into its parts, which blanks part outside quotation marks.
 class QueryReader {
  public:
-  explicit QueryReader(std::u16string_view text) : text_(text) {}
+  QueryReader(std::u16string_view text, const QueryWords& words) : text_(text), words_(words) {}
 
   /// False at the end.
   bool Next(QueryPart& part) {
@@ -64,7 +64,7 @@ class QueryReader {
         part.value.push_back(unit);
         continue;
       }
-      part.name = FoldForSearch(part.value);
+      part.name = words_.NameIn(FoldForSearch(part.value));
       part.value.clear();
       if (at_ < text_.size() && IsQuote(text_[at_])) {
         part.value = Quoted();
@@ -74,20 +74,22 @@ class QueryReader {
   }
 
   std::u16string_view text_;
+  const QueryWords& words_;
   std::size_t at_ = 0;
 };
 
 }  // namespace
 
-BankQuery ParseBankQuery(std::u16string_view text, bool isTyping) {
+BankQuery ParseBankQuery(std::u16string_view text, bool isTyping, const QueryWords& words) {
   BankQuery query;
-  QueryReader reader(text.substr(0, kMostQueryUnits));
+  QueryReader reader(text.substr(0, kMostQueryUnits), words);
   for (QueryPart part; reader.Next(part);) {
-    if (!part.name.empty() && TakeFilter(part, query)) continue;
+    part.isBegun = isTyping && part.isLast && !part.isQuoted && !IsQuote(part.whole.back());
+    if (!part.name.empty() && TakeFilter(part, words, query)) continue;
+    if (part.isBegun && part.value.empty() && QueryWords::IsName(part.name)) continue;
     const std::u16string folded = FoldForSearch(part.isQuoted ? std::u16string_view(part.value) : part.whole);
     if (folded.empty()) continue;
-    const bool isBegun = isTyping && part.isLast && !part.isQuoted;
-    const BankTerm term{folded, part.isExcluded, isBegun};
+    const BankTerm term{folded, part.isExcluded, part.isBegun};
     if (std::find(query.terms.begin(), query.terms.end(), term) == query.terms.end())
       query.terms.push_back(term);
   }

@@ -9,6 +9,7 @@
 #include "bank/search/Highlights.h"
 #include "bank/search/QuerySql.h"
 #include "bank/search/UnchangedExams.h"
+#include "model/document/ExamServices.h"
 #include "text/PathText.h"
 
 #include <algorithm>
@@ -44,24 +45,24 @@ std::vector<fs::path> PresentFolders(const BankIndex& index) {
   return folders;
 }
 
-/// The exams in which a query may find questions. Nothing if these are all.
-std::optional<std::vector<std::int64_t>> SearchedExams(const BankIndex& index, const BankQuery& query) {
+/// The exams in which a query may find questions; `areAll` if there are no others.
+std::vector<BankExam> SearchedExams(const BankIndex& index, const BankQuery& query, bool& areAll) {
   const std::vector<fs::path> folders = PresentFolders(index);
-  std::vector<std::int64_t> searched;
-  bool areAll = true;
+  std::vector<BankExam> searched;
+  areAll = true;
   const std::string sql = std::string("SELECT ") + kExamColumns + " FROM exam";
   Statement rows = index.Data().Prepare(sql);
   while (rows.Step()) {
-    const BankExam exam = ExamFrom(rows, 0);
+    BankExam exam = ExamFrom(rows, 0);
     const bool isPresent = std::any_of(folders.begin(), folders.end(),
                                        [&](const fs::path& folder) { return LiesIn(exam.path, folder); });
     if (isPresent && Allows(query, exam)) {
-      searched.push_back(exam.id);
+      searched.push_back(std::move(exam));
     } else {
       areAll = false;
     }
   }
-  return areAll ? std::nullopt : std::optional(std::move(searched));
+  return searched;
 }
 
 struct RankedQuestion {
@@ -73,9 +74,16 @@ struct RankedQuestion {
   }
 };
 
-QuerySql SqlOf(const BankIndex& index, const BankQuery& query) {
-  const auto exams = SearchedExams(index, query);
-  return {query, exams ? &*exams : nullptr};
+QuerySql SqlOf(const BankIndex& index, const BankQuery& query, FolderTags& tags,
+               std::vector<UnreadTags>& unread) {
+  bool areAll = true;
+  const std::vector<BankExam> exams = SearchedExams(index, query, areAll);
+  TaggedQuestions tagged = FindTagged(index, query, exams, tags);
+  unread = std::move(tagged.unread);
+  std::vector<std::int64_t> identifiers;
+  identifiers.reserve(exams.size());
+  for (const BankExam& exam : exams) identifiers.push_back(exam.id);
+  return {query, areAll ? nullptr : &identifiers, tagged};
 }
 
 std::vector<RankedQuestion> Rows(const BankIndex& index, const QuerySql& sql, const std::string& text) {
@@ -99,12 +107,19 @@ constexpr std::size_t kMostRanked = 2'000;
 
 }  // namespace
 
+BankSearch::BankSearch(BankIndex& index, ExamServices& services, const FileDigest& digest,
+                       std::shared_ptr<FolderTags> tags)
+    : index_(index),
+      services_(services),
+      digest_(digest),
+      tags_(tags ? std::move(tags) : std::make_shared<FolderTags>(services.files)) {}
+
 /// The hits of one look at the index; `total` as it is there.
 BankHits BankSearch::FindOnce(const BankQuery& query, std::size_t limit, std::size_t offset) const {
-  const QuerySql sql = SqlOf(index_, query);
+  BankHits hits;
+  const QuerySql sql = SqlOf(index_, query, *tags_, hits.unreadTags);
   const std::size_t most = std::max(kMostRanked, limit + offset);
   std::vector<RankedQuestion> found = Rows(index_, sql, sql.Ranked(most));
-  BankHits hits;
   hits.total = found.size() < most ? found.size() : CountRows(index_, sql);
   const std::size_t begin = std::min(offset, found.size());
   const std::size_t end = begin + std::min(limit, found.size() - begin);
@@ -113,7 +128,7 @@ BankHits BankSearch::FindOnce(const BankQuery& query, std::size_t limit, std::si
   BankQuestions rows(index_);
   for (auto ranked = at(begin); ranked != at(end); ++ranked) {
     std::optional<BankQuestion> question = rows.Read(ranked->id);
-    if (question) hits.hits.push_back({std::move(*question), {}});
+    if (question) hits.hits.push_back({std::move(*question), {}, {}});
   }
   return hits;
 }
@@ -140,6 +155,16 @@ bool BankSearch::Refresh(BankHits& hits) const {
   return hasChanged;
 }
 
+void BankSearch::AddDetails(const BankQuery& query, BankHits& hits) const {
+  std::map<fs::path, std::shared_ptr<const TagsOfFolder>> folders;
+  for (BankHit& hit : hits.hits) {
+    hit.highlights = HighlightsOf(hit.question, query);
+    auto& tags = folders[hit.question.exam.path.parent_path()];
+    if (!tags) tags = tags_->Of(hit.question.exam.path.parent_path());
+    hit.tags = tags->Of(hit.question.key);
+  }
+}
+
 BankHits BankSearch::Find(const BankQuery& query, std::size_t limit, std::size_t offset) {
   constexpr int kMostRounds = 4;  // somebody may be saving exams all the time
   try {
@@ -148,7 +173,7 @@ BankHits BankSearch::Find(const BankQuery& query, std::size_t limit, std::size_t
       const bool hasChanged = Refresh(hits);
       if (hasChanged && round < kMostRounds) continue;
       if (hasChanged) hits.hits.clear();
-      for (BankHit& hit : hits.hits) hit.highlights = HighlightsOf(hit.question, query);
+      AddDetails(query, hits);
       return hits;
     }
   } catch (const DatabaseError& error) {
@@ -161,7 +186,8 @@ BankHits BankSearch::Find(const BankQuery& query, std::size_t limit, std::size_t
 std::vector<std::int64_t> BankSearch::FindAll(const BankQuery& query, BankProblem& problem) const {
   std::vector<std::int64_t> identifiers;
   try {
-    const QuerySql sql = SqlOf(index_, query);
+    std::vector<UnreadTags> ignored;
+    const QuerySql sql = SqlOf(index_, query, *tags_, ignored);
     const std::vector<RankedQuestion> found = Rows(index_, sql, sql.Unranked());
     identifiers.reserve(found.size());
     for (const RankedQuestion& question : found) identifiers.push_back(question.id);

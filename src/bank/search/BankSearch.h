@@ -4,11 +4,13 @@
 #include "bank/index/BankIndex.h"
 #include "bank/index/QuestionMarks.h"
 #include "bank/search/BankQuery.h"
+#include "bank/search/FolderTags.h"
 #include "model/ExamFields.h"
 #include "text/TextSpan.h"
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -47,21 +49,24 @@ struct BankQuestion {
 struct BankHit {
   BankQuestion question;
   std::vector<BankHighlight> highlights;  ///< in the order of fields, then of places
+  std::vector<std::u16string> tags;       ///< that its folder gives it
 };
 
 struct BankHits {
   std::vector<BankHit> hits;  ///< the best first
   std::size_t total = 0;      ///< how many questions the index has for the query
   BankProblem problem;
+  std::vector<UnreadTags> unreadTags;  ///< that a query for tags would have needed
 };
 
 /// Finds questions in the index. What a hit shows is what its file holds now: an exam whose file has changed
 /// is read again first, and what is gone is left out.
 class BankSearch {
  public:
-  /// All must outlive the search.
-  BankSearch(BankIndex& index, ExamServices& services, const FileDigest& digest)
-      : index_(index), services_(services), digest_(digest) {}
+  /// The first three must outlive the search. `tags` may be shared by searches, so that the files of tags are
+  /// read once.
+  BankSearch(BankIndex& index, ExamServices& services, const FileDigest& digest,
+             std::shared_ptr<FolderTags> tags = nullptr);
 
   /// Up to `limit` hits after the first `offset`.
   BankHits Find(const BankQuery& query, std::size_t limit, std::size_t offset = 0);
@@ -76,10 +81,12 @@ class BankSearch {
  private:
   BankHits FindOnce(const BankQuery& query, std::size_t limit, std::size_t offset) const;
   bool Refresh(BankHits& hits) const;
+  void AddDetails(const BankQuery& query, BankHits& hits) const;
 
   BankIndex& index_;
   ExamServices& services_;
   const FileDigest& digest_;
+  std::shared_ptr<FolderTags> tags_;
 };
 
 }  // namespace quorvantis

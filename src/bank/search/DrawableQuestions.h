@@ -4,7 +4,7 @@
 #include "bank/draw/DrawRequest.h"
 #include "bank/index/BankIndex.h"
 #include "bank/search/BankSearch.h"
-#include "bank/tags/TagFile.h"
+#include "bank/search/FolderTags.h"
 
 #include <chrono>
 #include <cstddef>
@@ -15,12 +15,6 @@
 #include <vector>
 
 namespace quorvantis {
-
-/// A file of tags that could not be read, so that its folder counts as one without tags.
-struct UnreadTags {
-  std::filesystem::path file;
-  TagResult result;
-};
 
 /// The questions of the bank that can be drawn, as they were when this was made: those with content, of exams
 /// that are there, with the tags that their folders give them. A question counts as used on the day on which

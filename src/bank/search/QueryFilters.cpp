@@ -97,8 +97,15 @@ bool TakeKind(const std::u16string& value, BankQuery& query) {
 }
 
 bool TakeHas(const std::u16string& value, bool isWanted, BankQuery& query) {
-  if (value != u"files" && value != u"key") return false;
-  (value == u"key" ? query.hasKey : query.hasFiles) = isWanted;
+  if (value == u"files") {
+    query.hasFiles = isWanted;
+  } else if (value == u"key") {
+    query.hasKey = isWanted;
+  } else if (value == u"tags") {
+    query.hasTags = isWanted;
+  } else {
+    return false;
+  }
   return true;
 }
 
@@ -117,10 +124,14 @@ bool TakeMoment(std::u16string_view value, bool isBefore, BankQuery& query) {
 
 }  // namespace
 
-bool TakeFilter(const QueryPart& part, BankQuery& query) {
-  const std::u16string value = FoldForSearch(part.value);
+bool TakeFilter(const QueryPart& part, const QueryWords& words, BankQuery& query) {
+  const std::u16string value = words.ValueIn(part.name, FoldForSearch(part.value));
   if (value.empty()) return false;
   if (part.name == u"has") return TakeHas(value, !part.isExcluded, query);
+  if (part.name == u"tag") {
+    query.tags.push_back({value, part.isExcluded, part.isBegun});
+    return true;
+  }
   if (part.isExcluded) return false;
   if (part.name == u"kind") return TakeKind(value, query);
   if (part.name == u"before" || part.name == u"after")

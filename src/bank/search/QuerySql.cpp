@@ -33,10 +33,19 @@ bool IsShort(const BankTerm& term) {
   return CharactersOf(term.folded) < kTrigram;
 }
 
+std::string JsonListOf(const std::vector<std::int64_t>& numbers) {
+  std::string list = "[";
+  for (const std::int64_t number : numbers)
+    list.append(list.size() > 1 ? "," : "").append(std::to_string(number));
+  return list + "]";
+}
+
 }  // namespace
 
-QuerySql::QuerySql(const BankQuery& query, const std::vector<std::int64_t>* exams) {
+QuerySql::QuerySql(const BankQuery& query, const std::vector<std::int64_t>* exams,
+                   const TaggedQuestions& tagged) {
   AddTerms(query);
+  AddTagged(tagged);
   AddQuestionFilters(query, exams);
 }
 
@@ -95,10 +104,7 @@ void QuerySql::AddMatch(const std::string& table, const std::string& match, bool
 void QuerySql::AddQuestionFilters(const BankQuery& query, const std::vector<std::int64_t>* exams) {
   const std::string before = conditions_;
   if (exams != nullptr) {
-    std::string list = "[";
-    for (const std::int64_t exam : *exams)
-      list.append(list.size() > 1 ? "," : "").append(std::to_string(exam));
-    texts_.push_back(list + "]");
+    texts_.push_back(JsonListOf(*exams));
     AddCondition("question.exam IN (SELECT value FROM json_each(?))");
   }
   if (!query.kinds.empty()) {
@@ -117,6 +123,19 @@ void QuerySql::AddQuestionFilters(const BankQuery& query, const std::vector<std:
   }
   const bool needsQuestion = conditions_ != before && source_.find("question") == std::string::npos;
   if (needsQuestion) source_ += " JOIN question ON question.id = " + identifier_;
+}
+
+void QuerySql::AddTagged(const TaggedQuestions& tagged) {
+  // The "+" keeps the database from looking for the words once for each of these questions.
+  const std::string identifier = (HasWords() ? "+" : "") + identifier_;
+  if (tagged.wanted) {
+    texts_.push_back(JsonListOf(*tagged.wanted));
+    AddCondition(identifier + " IN (SELECT value FROM json_each(?))");
+  }
+  if (!tagged.unwanted.empty()) {
+    texts_.push_back(JsonListOf(tagged.unwanted));
+    AddCondition(identifier + " NOT IN (SELECT value FROM json_each(?))");
+  }
 }
 
 void QuerySql::AddCondition(const std::string& condition) {

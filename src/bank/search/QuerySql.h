@@ -3,6 +3,7 @@
 
 #include "bank/index/Database.h"
 #include "bank/search/BankQuery.h"
+#include "bank/search/TagFilter.h"
 
 #include <cstdint>
 #include <string>
@@ -14,8 +15,10 @@ namespace quorvantis {
 /// are the identifier of a question and a number by which the best come first.
 class QuerySql {
  public:
-  /// `exams`, if not null, are those in which questions may be.
-  QuerySql(const BankQuery& query, const std::vector<std::int64_t>* exams);
+  /// `exams`, if not null, are those in which questions may be; `tagged` are the questions that their tags
+  /// leave.
+  QuerySql(const BankQuery& query, const std::vector<std::int64_t>* exams,
+           const TaggedQuestions& tagged = {});
 
   /// All questions, with a number for the order only where that costs nothing: 0 for a query with words.
   std::string Unranked() const;
@@ -34,6 +37,7 @@ class QuerySql {
   void AddTerms(const BankQuery& query);
   void AddQuestionFilters(const BankQuery& query, const std::vector<std::int64_t>* exams);
   void AddMatch(const std::string& table, const std::string& match, bool isExcluded);
+  void AddTagged(const TaggedQuestions& tagged);
   void AddCondition(const std::string& condition);
 
   std::string source_;

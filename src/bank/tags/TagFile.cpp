@@ -5,7 +5,9 @@
 #include "platform/WholeFile.h"
 #include "platform/posix/FileLock.h"
 
+#include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <utility>
 
 namespace quorvantis {
@@ -53,6 +55,14 @@ TagResult WithLock(const fs::path& file, const std::function<TagResult()>& work)
   return result;
 }
 
+/// Those of `tags` that `others` lack.
+std::vector<std::u16string> Without(const std::vector<std::u16string>& tags,
+                                    const std::vector<std::u16string>& others) {
+  std::vector<std::u16string> rest;
+  std::set_difference(tags.begin(), tags.end(), others.begin(), others.end(), std::back_inserter(rest));
+  return rest;
+}
+
 fs::path FreeName(const fs::path& file) {
   for (int number = 1;; ++number) {
     fs::path name = file;
@@ -71,10 +81,22 @@ TagEntries TagFile::Read(TagResult& result) const {
   return json ? json->Entries() : TagEntries();
 }
 
-TagResult TagFile::Change(const std::vector<TagChange>& changes) {
-  return Rewrite([&changes](TagJson& json) {
-    for (const TagChange& change : changes) json.Apply(change);
+TagResult TagFile::Change(const std::vector<TagChange>& changes, std::vector<TagChange>* undo) {
+  std::vector<TagChange> back;
+  const TagResult result = Rewrite([&](TagJson& json) {
+    for (const TagChange& change : changes) {
+      const std::vector<std::u16string> before = json.TagsAt(change.key);
+      json.Apply(change);
+      const std::vector<std::u16string> after = json.TagsAt(change.key);
+      if (before != after)
+        back.push_back(
+            {change.key, change.text, change.sketch, Without(before, after), Without(after, before)});
+    }
   });
+  if (undo == nullptr) return result;
+  undo->clear();
+  if (result.IsDone()) undo->assign(back.rbegin(), back.rend());
+  return result;
 }
 
 TagResult TagFile::Carry(const std::string& oldKey, const TagChange& edited) {

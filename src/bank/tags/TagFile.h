@@ -55,8 +55,9 @@ class TagFile {
   /// The entries in the order of their keys. Empty with `result` set unless it is Done or Newer.
   TagEntries Read(TagResult& result) const;
 
-  /// Makes all changes, or none. Waits for other programs, at most ten seconds.
-  TagResult Change(const std::vector<TagChange>& changes);
+  /// Makes all changes, or none. Waits for other programs, at most ten seconds. `undo`, if not null, gets the
+  /// changes that take these back: only what they have really given and taken.
+  TagResult Change(const std::vector<TagChange>& changes, std::vector<TagChange>* undo = nullptr);
 
   /// After a question was edited: the tags of `oldKey` are those of `newKey`, too. Those of `oldKey` stay,
   /// since other exams may still have the question as it was.

@@ -136,6 +136,13 @@ TagEntries TagJson::Entries() const {
   return entries;
 }
 
+std::vector<std::u16string> TagJson::TagsAt(const std::string& key) const {
+  const auto questions = json_.find(kQuestions);
+  const auto entry = questions == json_.end() ? json_.end() : questions->find(key);
+  const bool isThere = questions != json_.end() && entry != questions->end();
+  return isThere ? TagsOf(*entry) : std::vector<std::u16string>();
+}
+
 void TagJson::Apply(const TagChange& change) {
   json_[kForm] = kFormOfTags;
   Json& questions = json_[kQuestions];

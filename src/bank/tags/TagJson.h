@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvantis {
 
@@ -22,6 +23,9 @@ class TagJson {
   bool IsNewer() const;
 
   TagEntries Entries() const;
+
+  /// The tags of one question: clean ones, sorted.
+  std::vector<std::u16string> TagsAt(const std::string& key) const;
 
   /// An entry without tags is removed, unless there is something in it that this program does not know.
   void Apply(const TagChange& change);
