@@ -60,7 +60,7 @@ class TagFilter : public BankTest {
       (Below(4) == 0 ? change.remove : change.add).emplace_back(AnyTag());
       changes[question.exam.path.parent_path()].push_back(change);
     }
-    for (const auto& [folder, some] : changes) ASSERT_TRUE(TagFile(folder, files).Change(some).IsDone());
+    for (const auto& [tagged, some] : changes) ASSERT_TRUE(TagFile(tagged, files).Change(some).IsDone());
   }
 
   TagLists TagsOf(const BankQuestion& question) {
