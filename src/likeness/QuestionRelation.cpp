@@ -3,7 +3,7 @@
 
 #include "likeness/TextSketch.h"
 #include "text/LineBreaks.h"
-#include "text/NumberText.h"
+#include "text/ScriptDigits.h"
 
 #include <algorithm>
 #include <string_view>
@@ -14,18 +14,10 @@ namespace {
 
 constexpr double kOptionsAlike = 0.6;  // one of four may be another
 
-/// A decimal digit, also of the other scripts that exams are written in.
-bool IsDigitOfAScript(char16_t unit) {
-  constexpr char16_t kZeros[] = {0x0660, 0x06F0, 0x07C0, 0x0966, 0x09E6, 0x0A66, 0x0AE6, 0x0B66, 0x0BE6,
-                                 0x0C66, 0x0CE6, 0x0D66, 0x0E50, 0x0ED0, 0x0F20, 0x1040, 0x17E0, 0xFF10};
-  return IsDigit(unit) ||
-         std::ranges::any_of(kZeros, [unit](char16_t zero) { return unit >= zero && unit <= zero + 9; });
-}
-
 std::u16string DigitsOf(std::u16string_view text) {
   std::u16string digits;
   for (const char16_t unit : text) {
-    if (IsDigitOfAScript(unit)) {
+    if (DigitValueOf(unit) >= 0) {
       digits.push_back(unit);
     } else if (!digits.empty() && digits.back() != u' ') {
       digits.push_back(u' ');

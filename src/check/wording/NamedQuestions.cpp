@@ -2,6 +2,7 @@
 #include "check/wording/NamedQuestions.h"
 
 #include "model/ExamLimits.h"
+#include "text/ScriptDigits.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,7 +12,7 @@ namespace {
 
 bool IsAllDigits(std::u16string_view word) {
   return !word.empty() &&
-         std::all_of(word.begin(), word.end(), [](char16_t unit) { return DigitOf(unit) >= 0; });
+         std::all_of(word.begin(), word.end(), [](char16_t unit) { return DigitValueOf(unit) >= 0; });
 }
 
 /// Collects numbers, each once.
@@ -125,7 +126,7 @@ bool IsReferredTo(const WordedText& text, std::size_t index) {
 std::size_t ShortNounOf(const WordedText& text, std::size_t index) {
   const std::u16string_view word = text.Word(index);
   if (text.Is(index, {WordUse::ShortNoun})) return word.size();
-  if (DigitOf(word.back()) < 0) return 0;
+  if (DigitValueOf(word.back()) < 0) return 0;
   const std::size_t letters = std::min(word.find_first_of(u"0123456789"), word.size());
   return KnownWords::Instance().UsesOf(word.substr(0, letters)).Has(WordUse::ShortNoun) ? letters : 0;
 }
@@ -161,7 +162,7 @@ void TakeSigned(const WordedText& text, std::size_t index, NumberList& numbers) 
 /// A number in digits or Chinese up to 99 at the front of a text, and its length; 0 and 0 if there is none.
 std::pair<int, std::size_t> NumberInFront(std::u16string_view text) {
   std::size_t digits = 0;
-  while (digits < text.size() && DigitOf(text[digits]) >= 0) ++digits;
+  while (digits < text.size() && DigitValueOf(text[digits]) >= 0) ++digits;
   if (digits > 0) return {QuestionNumberOf(text.substr(0, digits)).value_or(0), digits};
   constexpr std::u16string_view kOnes = u"一二三四五六七八九";
   const auto ones = [text, kOnes](std::size_t at) {
@@ -216,9 +217,9 @@ void TakeWithoutBlanks(const WordedText& text, NumberList& numbers) {
     TakeOrdinal(folded, at, numbers);
   for (const WordedText::FoundPhrase& phrase : text.Phrases()) {
     if (!phrase.uses.Has(WordUse::NounAtNumber)) continue;
-    const bool isBehindNumber = phrase.place.begin > 0 && DigitOf(folded[phrase.place.begin - 1]) >= 0;
+    const bool isBehindNumber = phrase.place.begin > 0 && DigitValueOf(folded[phrase.place.begin - 1]) >= 0;
     const std::size_t at = SkipUnits(folded, phrase.place.end, u" (（");
-    if (isBehindNumber || at == folded.size() || DigitOf(folded[at]) < 0) continue;
+    if (isBehindNumber || at == folded.size() || DigitValueOf(folded[at]) < 0) continue;
     const int number = NumberInFront(folded.substr(at)).first;
     if (number > 0) numbers.Add(number);
   }
@@ -244,7 +245,7 @@ std::optional<int> QuestionNumberOf(std::u16string_view word) {
   constexpr std::size_t kMostDigits = 3;
   if (word.size() > kMostDigits || !IsAllDigits(word)) return std::nullopt;
   int number = 0;
-  for (const char16_t unit : word) number = number * 10 + DigitOf(unit);
+  for (const char16_t unit : word) number = number * 10 + DigitValueOf(unit);
   return IsQuestionNumber(number) ? std::optional(number) : std::nullopt;
 }
 

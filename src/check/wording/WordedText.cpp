@@ -4,13 +4,14 @@
 #include "regex/LetterCase.h"
 #include "regex/WordBorders.h"
 #include "text/AsciiCase.h"
+#include "text/LikelyTag.h"
+#include "text/ScriptDigits.h"
 
 #include <algorithm>
 
 namespace quorvantis {
 namespace {
 
-/// Tags longer than this are signs of comparison in a text about numbers.
 constexpr std::size_t kLongestTag = 200;
 
 constexpr char16_t kFirstBeyondAscii = 0x80;
@@ -25,11 +26,7 @@ bool IsBlank(char16_t unit) {
 /// The length of the markup at the front of `rest`, 0 if there is none.
 std::size_t MarkupLength(std::u16string_view rest) {
   if (rest.starts_with(kBlankEntity)) return kBlankEntity.size();
-  if (rest.size() < 2 || rest[0] != u'<') return 0;
-  const char16_t next = rest[1];
-  const bool opens = (next >= u'a' && next <= u'z') || (next >= u'A' && next <= u'Z') || next == u'/';
-  const std::size_t end = opens ? rest.substr(0, kLongestTag).find(u'>') : std::u16string_view::npos;
-  return end == std::u16string_view::npos ? 0 : end + 1;
+  return LikelyTagLength(rest, kLongestTag);
 }
 
 char16_t FoldedUnit(char16_t unit) {
@@ -56,15 +53,6 @@ bool StandsByItself(std::u16string_view text, const TextSpan& phrase) {
 }
 
 }  // namespace
-
-int DigitOf(char16_t unit) {
-  if (unit < kFirstBeyondAscii) return unit >= u'0' && unit <= u'9' ? unit - u'0' : -1;
-  constexpr char16_t kZeros[] = {u'\u0660', u'\u06F0', u'\uFF10'};
-  for (const char16_t zero : kZeros) {
-    if (unit >= zero && unit <= zero + 9) return unit - zero;
-  }
-  return -1;
-}
 
 WordedText::WordedText(std::u16string_view text) : original_(text) {
   Fold();
@@ -100,7 +88,7 @@ void WordedText::CutIntoWords() {
       const TextSpan place{at, end};
       words_.push_back({place, table.UsesOf(place.Of(folded_))});
       all_.Add(words_.back().uses);
-      hasDigits_ = hasDigits_ || DigitOf(folded_[at]) >= 0 || DigitOf(folded_[end - 1]) >= 0;
+      hasDigits_ = hasDigits_ || DigitValueOf(folded_[at]) >= 0 || DigitValueOf(folded_[end - 1]) >= 0;
     }
     if (end > at || folded_[at] >= kFirstBeyondAscii) FindPhrasesAt(at);
     at = std::max(end, at + 1);

@@ -12,9 +12,6 @@
 
 namespace quorvantis {
 
-/// The digit's value in the scripts of schools, or -1.
-int DigitOf(char16_t unit);
-
 /// A text as its words are compared: letters without case, markup and runs of blanks as one blank, curly
 /// apostrophes as straight ones. Knows which words and phrases say something of questions and options. Of a
 /// language that puts no blanks between words, only phrases can be found.

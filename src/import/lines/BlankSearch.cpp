@@ -5,6 +5,7 @@
 #include "import/lines/LineWords.h"
 #include "import/lines/ScoreText.h"
 #include "platform/WordContent.h"
+#include "text/ScriptDigits.h"
 
 #include <algorithm>
 
@@ -69,7 +70,7 @@ class BlankSearch {
   }
 
   static bool IsAlphabetic(char16_t unit) {
-    return unit != 0 && !IsChinese(unit) && (IsLetter(unit) || DigitValue(unit) >= 0);
+    return unit != 0 && !IsChinese(unit) && (IsLetter(unit) || DigitValueOf(unit) >= 0);
   }
 
   std::size_t Brackets(std::size_t at) const {

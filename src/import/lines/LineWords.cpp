@@ -2,13 +2,12 @@
 #include "import/lines/LineWords.h"
 
 #include "import/labels/LineText.h"
+#include "text/ScriptDigits.h"
 
 #include <algorithm>
 
 namespace quorvantis {
 namespace {
-
-constexpr char16_t kZeros[] = {u'0', u'\u0660', u'\u06F0', u'\u0966', u'\u09E6', u'\u0E50', u'\uFF10'};
 
 char16_t MadeSmall(char16_t unit) {
   const auto isIn = [unit](char16_t first, char16_t last) { return unit >= first && unit <= last; };
@@ -22,15 +21,9 @@ char16_t MadeSmall(char16_t unit) {
 
 }  // namespace
 
-int DigitValue(char16_t unit) {
-  const auto* const zero =
-      std::ranges::find_if(kZeros, [unit](char16_t first) { return unit >= first && unit < first + 10; });
-  return zero == std::end(kZeros) ? -1 : unit - *zero;
-}
-
 bool IsLetter(char16_t unit) {
   if (unit < 0x80) return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z';
-  if (DigitValue(unit) >= 0 || IsBlank(unit) || IsLineEnd(unit)) return false;
+  if (DigitValueOf(unit) >= 0 || IsBlank(unit) || IsLineEnd(unit)) return false;
   if (unit < 0xC0) return unit == u'\u00AA' || unit == u'\u00B5' || unit == u'\u00BA';
   const auto isIn = [unit](char16_t first, char16_t last) { return unit >= first && unit <= last; };
   const bool isMark = unit == u'\u00D7' || unit == u'\u00F7' || unit == u'\u060C' || unit == u'\u061B' ||
@@ -46,7 +39,7 @@ LineWords::LineWords(std::u16string_view line) {
   bool isInWord = false;
   bool isInNumber = false;
   for (const char16_t unit : line) {
-    const int digit = DigitValue(unit);
+    const int digit = DigitValueOf(unit);
     const bool isLetter = digit < 0 && IsLetter(unit);
     if (digit >= 0) {
       if (!isInNumber) {

@@ -34,7 +34,4 @@ class LineWords {
 /// A letter of any script; a sign of Chinese or Japanese is one, too.
 bool IsLetter(char16_t unit);
 
-/// The value of a digit of any script, or -1.
-int DigitValue(char16_t unit);
-
 }  // namespace quorvantis

@@ -4,6 +4,7 @@
 #include "import/lines/LineWords.h"
 #include "import/paper/PaperRewrite.h"
 #include "import/prepare/Steps.h"
+#include "text/ScriptDigits.h"
 
 #include <algorithm>
 
@@ -69,7 +70,7 @@ class LetterMending {
   LookAlikeRun BestFrom(std::size_t first) const {
     LookAlikeRun best;
     for (const OptionAlphabet& alphabet : OptionAlphabets()) {
-      if (alphabet.isSymbol || alphabet.letters.empty() || DigitValue(alphabet.letters[0]) >= 0) continue;
+      if (alphabet.isSymbol || alphabet.letters.empty() || DigitValueOf(alphabet.letters[0]) >= 0) continue;
       if (!CanBegin(LetterOf(labels_[first]), alphabet)) continue;
       LookAlikeRun run = RunFrom(first, alphabet);
       if (run.IsBetterThan(best)) best = std::move(run);

@@ -7,6 +7,7 @@
 #include "import/lines/AnswerHeadings.h"
 #include "import/lines/LineWords.h"
 #include "import/paper/PreparedLabels.h"
+#include "text/ScriptDigits.h"
 
 #include <algorithm>
 #include <optional>
@@ -33,7 +34,7 @@ int NumberBefore(std::u16string_view cell) {
   const Numeral number = NumeralAt(cell, 0, NumeralKind::Decimal);
   if (number.size == 0 || number.size + 1 >= cell.size()) return 0;
   const bool isMarked = kMarks.find(cell[number.size]) != kMarks.npos;
-  return isMarked && DigitValue(cell[number.size + 1]) < 0 ? number.value : 0;
+  return isMarked && DigitValueOf(cell[number.size + 1]) < 0 ? number.value : 0;
 }
 
 /// "B", "a", "A, C", "T", "√".
@@ -230,7 +231,8 @@ class RowReading {
     const std::size_t at = kLabelOpens.find(cell[0]) == kLabelOpens.npos ? 0 : 1;
     const bool isClosed = at + 1 < cell.size() && kLabelCloses.find(cell[at + 1]) != kLabelCloses.npos;
     // "1,6 mm" is a number.
-    const bool isNumber = at + 2 < cell.size() && DigitValue(cell[at]) >= 0 && DigitValue(cell[at + 2]) >= 0;
+    const bool isNumber =
+        at + 2 < cell.size() && DigitValueOf(cell[at]) >= 0 && DigitValueOf(cell[at + 2]) >= 0;
     if (isNumber) return false;
     const auto isIndex = [index](const AlphabetLetter& letter) { return letter.index == index; };
     return isClosed && std::ranges::any_of(AlphabetLettersOf(cell[at]), isIndex);
