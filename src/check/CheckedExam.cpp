@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/CheckedExam.h"
 
+#include "model/FillInAnswers.h"
 #include "text/PathText.h"
 
 #include <algorithm>
@@ -19,11 +20,9 @@ std::u16string_view WithoutBlanks(std::u16string_view text) {
 
 std::vector<std::u16string_view> AnswersOf(std::u16string_view answerText) {
   std::vector<std::u16string_view> answers;
-  while (!answerText.empty()) {
-    const std::size_t end = std::min(answerText.find(kListSeparator), answerText.size());
-    const std::u16string_view answer = WithoutBlanks(answerText.substr(0, end));
+  for (const TextSpan& span : FillInAnswersIn(answerText)) {
+    const std::u16string_view answer = WithoutBlanks(span.Of(answerText));
     if (!answer.empty()) answers.push_back(answer);
-    answerText.remove_prefix(std::min(end + kListSeparator.size(), answerText.size()));
   }
   return answers;
 }

@@ -2,6 +2,7 @@
 #include "likeness/QuestionContent.h"
 
 #include "model/AnswerLetters.h"
+#include "model/FillInAnswers.h"
 #include "model/QuestionKinds.h"
 
 #include <algorithm>
@@ -26,11 +27,9 @@ void AddOptions(const ExamQuestion& question, QuestionContent& content) {
 }
 
 void AddFillIns(const std::u16string& line, QuestionContent& content) {
-  for (std::size_t begin = 0; begin < line.size();) {
-    const std::size_t end = std::min(line.find(kListSeparator, begin), line.size());
-    content.answers.push_back(line.substr(begin, end - begin));
+  for (const TextSpan& answer : FillInAnswersIn(line)) {
+    content.answers.emplace_back(answer.Of(line));
     if (IsBlankText(content.answers.back())) content.answers.pop_back();
-    begin = end + kListSeparator.size();
   }
 }
 

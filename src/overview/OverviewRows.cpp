@@ -2,6 +2,7 @@
 #include "overview/OverviewRows.h"
 
 #include "model/AnswerLetters.h"
+#include "model/FillInAnswers.h"
 #include "regex/LetterCase.h"
 #include "scoring/ScoreSegments.h"
 #include "text/PathText.h"
@@ -50,11 +51,9 @@ std::u16string LettersKey(std::u16string_view letters) {
 
 std::u16string AnswersKey(std::u16string_view answers) {
   std::u16string key;
-  while (!answers.empty()) {
-    const std::size_t end = std::min(answers.find(kListSeparator), answers.size());
-    const std::u16string answer = FirstLine(answers.substr(0, end));
+  for (const TextSpan& span : FillInAnswersIn(answers)) {
+    const std::u16string answer = FirstLine(span.Of(answers));
     if (!answer.empty()) key.append(key.empty() ? u"" : kBetweenAnswers).append(answer);
-    answers.remove_prefix(std::min(end + kListSeparator.size(), answers.size()));
   }
   return key;
 }

@@ -2,6 +2,7 @@
 #include "render/AnswerBlocks.h"
 
 #include "model/AnswerLetters.h"
+#include "model/FillInAnswers.h"
 #include "platform/TextNumbers.h"
 #include "render/Template.h"
 #include "render/TextToHtml.h"
@@ -58,16 +59,6 @@ std::u16string Capitals(const LetterFlags& letters) {
     if (letters[place]) capitals += OptionLetter(place);
   }
   return capitals;
-}
-
-/// "red<@>blue" as "red , blue".
-std::u16string FillInAnswers(std::u16string answers) {
-  constexpr std::u16string_view kShown = u" , ";
-  for (std::size_t at = 0; (at = answers.find(kListSeparator, at)) != std::u16string::npos;
-       at += kShown.size()) {
-    answers.replace(at, kListSeparator.size(), kShown);
-  }
-  return answers;
 }
 
 }  // namespace
@@ -136,7 +127,7 @@ std::u16string AnswerBlocks::FillInBlock() const {
 }
 
 std::u16string AnswerBlocks::FillInAnswerLine() const {
-  const std::u16string answers = FillInAnswers(question_.answerText);
+  const std::u16string answers = FillInAnswersJoined(question_.answerText, u" , ");
   const std::u16string& response = question_.responseText;
   if (flags_.key && flags_.response) {
     return JudgedRight() ? kFillInKeyAndAnswer(correctAnswerIs_, answers, yourAnswerIs_, response)

@@ -2,6 +2,7 @@
 #include "search/ExamSearch.h"
 
 #include "model/ExamQuestion.h"
+#include "model/FillInAnswers.h"
 #include "search/SearchedText.h"
 
 #include <algorithm>
@@ -53,13 +54,11 @@ SearchEnd SearchPlace(const TextPlace& place, const std::u16string& text, const 
   const std::u16string_view whole = text;
   if (place.field != ExamFieldName::FillInAnswer)
     return SearchPart(place, whole, 0, search, isCancelled, take);
-  for (std::size_t begin = 0;;) {
-    const std::size_t end = std::min(whole.find(kListSeparator, begin), whole.size());
-    const SearchEnd ended =
-        SearchPart(place, whole.substr(begin, end - begin), begin, search, isCancelled, take);
-    if (ended != SearchEnd::Done || end == whole.size()) return ended;
-    begin = end + kListSeparator.size();
+  for (const TextSpan& answer : FillInAnswersIn(whole)) {
+    const SearchEnd ended = SearchPart(place, answer.Of(whole), answer.begin, search, isCancelled, take);
+    if (ended != SearchEnd::Done) return ended;
   }
+  return SearchEnd::Done;
 }
 
 SearchOutcome FindAll(const FrameSetExam& exam, const TextSearch& search,

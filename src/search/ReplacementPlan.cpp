@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/ReplacementPlan.h"
 
-#include "model/ExamQuestion.h"
+#include "model/FillInAnswers.h"
 #include "search/SearchedText.h"
 #include "text/LineBreaks.h"
 
@@ -30,27 +30,18 @@ FieldRewrite RewriteField(const std::u16string& text, Replacements replacements)
   return rewrite;
 }
 
-std::vector<std::u16string_view> AnswersIn(std::u16string_view line) {
-  std::vector<std::u16string_view> answers;
-  for (std::size_t begin = 0;;) {
-    const std::size_t end = std::min(line.find(kListSeparator, begin), line.size());
-    answers.push_back(line.substr(begin, end - begin));
-    if (end == line.size()) return answers;
-    begin = end + kListSeparator.size();
-  }
-}
-
 bool IsBlank(std::u16string_view text) {
   return text.find_first_not_of(u' ') == std::u16string_view::npos;
 }
 
 std::optional<ReplacementObstacle> FindAnswerObstacle(const FieldRewrite& rewrite) {
-  const auto before = AnswersIn(rewrite.before);
-  const auto after = AnswersIn(rewrite.after);
+  const auto before = FillInAnswersIn(rewrite.before);
+  const auto after = FillInAnswersIn(rewrite.after);
   if (before.size() != after.size()) return ReplacementObstacle::OtherAnswers;
   if (after.size() == 1) return std::nullopt;
   for (std::size_t i = 0; i < after.size(); ++i) {
-    if (IsBlank(after[i]) && !IsBlank(before[i])) return ReplacementObstacle::EmptyAnswer;
+    if (IsBlank(after[i].Of(rewrite.after)) && !IsBlank(before[i].Of(rewrite.before)))
+      return ReplacementObstacle::EmptyAnswer;
   }
   return std::nullopt;
 }

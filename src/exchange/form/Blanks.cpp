@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/form/Blanks.h"
 
+#include "model/FillInAnswers.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
@@ -41,10 +42,8 @@ std::vector<BlankAnswers> ByBlank(std::u16string_view text, const BlankAnswers& 
 
 BlankAnswers SplitAnswers(std::u16string_view line) {
   BlankAnswers answers;
-  for (std::size_t begin = 0; begin <= line.size();) {
-    const std::size_t end = std::min(line.find(kListSeparator, begin), line.size());
-    if (end > begin) answers.emplace_back(line.substr(begin, end - begin));
-    begin = end + kListSeparator.size();
+  for (const TextSpan& answer : FillInAnswersIn(line)) {
+    if (!answer.IsEmpty()) answers.emplace_back(answer.Of(line));
   }
   return answers;
 }

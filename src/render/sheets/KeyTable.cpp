@@ -2,6 +2,7 @@
 #include "render/sheets/KeyTable.h"
 
 #include "model/AnswerLetters.h"
+#include "model/FillInAnswers.h"
 #include "model/QuestionKinds.h"
 #include "scoring/ScoreSegments.h"
 #include "text/NumberText.h"
@@ -14,18 +15,10 @@ namespace {
 
 constexpr std::u16string_view kBetweenAnswers = u" / ";
 
-std::u16string AnswersInOneLine(std::u16string_view answers) {
-  std::u16string line(answers);
-  for (std::size_t at = 0; (at = line.find(kListSeparator, at)) != line.npos; at += kBetweenAnswers.size()) {
-    line.replace(at, kListSeparator.size(), kBetweenAnswers);
-  }
-  return line;
-}
-
 std::u16string KeyOf(const ExamQuestion& question) {
   const AnswerParts parts = AnswerOf(question.kind);
   if (parts.options) return KeyLetters(question.answerLetters);
-  if (parts.fillIn) return AnswersInOneLine(question.answerText);
+  if (parts.fillIn) return FillInAnswersJoined(question.answerText, kBetweenAnswers);
   return parts.essay ? question.essayAnswer : std::u16string();
 }
 
