@@ -6,6 +6,7 @@
 #include "cli/CommandError.h"
 #include "cli/CommandOptions.h"
 #include "cli/Commands.h"
+#include "cli/TerminalLine.h"
 #include "platform/TextNumbers.h"
 #include "platform/posix/ApplicationFolder.h"
 #include "text/MessageText.h"
@@ -67,22 +68,13 @@ void LeaveOutIgnored(ExamSession& session, const ExamCheckRequest& request,
   });
 }
 
-/// On one line of a terminal.
-std::string OneLine(std::u16string_view text) {
-  std::u16string line(text);
-  std::replace_if(
-      line.begin(), line.end(), [](char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); },
-      u' ');
-  return Utf16ToUtf8(line);
-}
-
 void PrintFindings(ExamSession& session, const std::vector<Finding>& findings) {
   const StringTable& strings = session.services.strings;
   for (const Finding& finding : findings) {
     std::u16string line = strings.Text(RowOf(finding.severity).text) + u": " + finding.text;
     if (finding.place.question > 0)
       line = FillMessage(strings.Text(text_id::kOfQuestion), {FormatInteger(finding.place.question), line});
-    session.console.out << OneLine(line) << " [" << finding.rule << "]\n";
+    session.console.out << TerminalText(line) << " [" << finding.rule << "]\n";
   }
 }
 

@@ -5,6 +5,7 @@
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/PreparationSteps.h"
 #include "regex/RegexPattern.h"
+#include "text/ControlCharacters.h"
 #include "text/Utf.h"
 
 #include <algorithm>
@@ -24,10 +25,8 @@ constexpr std::size_t kExampleUnits = 40;
 std::string Excerpt(std::u16string_view text) {
   const TextSpan whole = Trimmed(text, {0, text.size()});
   std::u16string excerpt(whole.Of(text).substr(0, kExampleUnits));
-  const auto isControl = [](char16_t unit) {
-    return unit < u' ' || (unit >= 0x7F && unit < 0xA0) || IsLineEnd(unit);
-  };
-  std::ranges::replace_if(excerpt, isControl, u' ');
+  std::ranges::replace_if(
+      excerpt, [](char16_t unit) { return IsControl(unit) || IsLineEnd(unit); }, u' ');
   return Utf16ToUtf8(excerpt) + (whole.Size() > kExampleUnits ? "..." : "");
 }
 

@@ -5,6 +5,7 @@
 #include "cli/KindNames.h"
 #include "cli/PrintedOverview.h"
 #include "model/AnswerLetters.h"
+#include "text/ControlCharacters.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 
@@ -33,7 +34,7 @@ std::string Printable(std::u16string_view text, std::string_view indent = kInden
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool lineEnd = text[i] == u'\r' || text[i] == u'\n';
     if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') ++i;
-    lines.push_back(lineEnd ? u'\n' : text[i] < 0x20 || (text[i] >= 0x7F && text[i] < 0xA0) ? u' ' : text[i]);
+    lines.push_back(lineEnd ? u'\n' : IsControl(text[i]) ? u' ' : text[i]);
   }
   std::string printable = Utf16ToUtf8(lines);
   for (std::size_t i = printable.find('\n'); i != std::string::npos; i = printable.find('\n', i + 1)) {

@@ -2,6 +2,7 @@
 #include "editor/ProposedFileName.h"
 
 #include "text/AsciiCase.h"
+#include "text/ControlCharacters.h"
 #include "text/Utf.h"
 
 namespace quorvantis {
@@ -11,8 +12,7 @@ constexpr std::size_t kMostUnits = 80;  // enough to read, and never too many by
 constexpr std::u16string_view kForbidden = u"/\\:*?\"<>|";  // by some system
 
 char16_t AllowedUnit(char16_t unit) {
-  const bool isControl = unit < 0x20 || (unit >= 0x7F && unit <= 0x9F);
-  return isControl || kForbidden.find(unit) != kForbidden.npos ? u' ' : unit;
+  return IsControl(unit) || kForbidden.find(unit) != kForbidden.npos ? u' ' : unit;
 }
 
 /// Runs of blanks become one.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "examfile/AttachmentName.h"
 
+#include "text/ControlCharacters.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
@@ -11,10 +12,6 @@ namespace quorvantis {
 namespace {
 
 constexpr int kPlainName = -1;
-
-constexpr bool IsControl(char16_t unit) {
-  return unit < 0x20 || (unit >= 0x7F && unit <= 0x9F);
-}
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "search/HitLine.h"
 
+#include "text/ControlCharacters.h"
 #include "text/Utf.h"
 
 #include <algorithm>
@@ -13,14 +14,14 @@ constexpr std::size_t kHit = 80;
 constexpr std::size_t kAfter = 64;
 constexpr char16_t kCut = u'\u2026';
 
-bool IsControl(char16_t unit) {
-  return unit < 0x20 || (unit >= 0x7F && unit < 0xA0) || unit == 0x2028 || unit == 0x2029;
+bool BreaksLine(char16_t unit) {
+  return IsControl(unit) || unit == 0x2028 || unit == 0x2029;
 }
 
 void AppendOnOneLine(std::u16string& line, std::u16string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text.substr(i, 2) == u"\r\n") continue;
-    line.push_back(IsControl(text[i]) ? u' ' : text[i]);
+    line.push_back(BreaksLine(text[i]) ? u' ' : text[i]);
   }
 }
 

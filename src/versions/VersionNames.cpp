@@ -5,6 +5,7 @@
 #include "platform/TextNumbers.h"
 #include "regex/LetterCase.h"
 #include "text/AsciiCase.h"
+#include "text/ControlCharacters.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
@@ -19,11 +20,10 @@ namespace {
 
 bool IsAllowedInNames(char16_t unit) {
   constexpr std::u16string_view kForbidden = u"/\\:*?\"<>|";  // by some system
-  const bool isControl = unit < 0x20 || (unit >= 0x7F && unit <= 0x9F);
   // Invisible marks would make two names look alike, or turn the rest of a file name round.
   const bool isMark = (unit >= 0x200B && unit <= 0x200F) || (unit >= 0x2028 && unit <= 0x202E) ||
                       (unit >= 0x2060 && unit <= 0x206F) || unit == 0xFEFF;
-  return !isControl && !isMark && kForbidden.find(unit) == kForbidden.npos;
+  return !IsControl(unit) && !isMark && kForbidden.find(unit) == kForbidden.npos;
 }
 
 /// Devices, which no folder of some systems can have as a file, whatever follows behind a dot.
