@@ -6,6 +6,7 @@
 #include "model/AnswerLetters.h"
 #include "model/QuestionKinds.h"
 #include "taking/PrivateServices.h"
+#include "text/HtmlEscape.h"
 #include "text/LineBreaks.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"
@@ -15,24 +16,14 @@
 namespace quorvantis {
 namespace {
 
-std::u16string Escaped(std::u16string_view text) {
+/// As text of a page, with its line ends and without control characters.
+std::u16string ShownAsHtml(std::u16string_view text) {
   std::u16string html;
-  for (const char16_t unit : WithLineEnds(text, u"\n")) {
-    switch (unit) {
-      case u'&':
-        html += u"&amp;";
-        break;
-      case u'<':
-        html += u"&lt;";
-        break;
-      case u'>':
-        html += u"&gt;";
-        break;
-      case u'\n':
-        html += u"<br>";
-        break;
-      default:
-        if (unit >= 0x20 || unit == u'\t') html += unit;
+  for (const char16_t unit : EscapeHtml(WithLineEnds(text, u"\n"))) {
+    if (unit == u'\n') {
+      html += u"<br>";
+    } else if (unit >= 0x20 || unit == u'\t') {
+      html += unit;
     }
   }
   return html;
@@ -106,9 +97,9 @@ std::u16string QuestionsAsText(const std::vector<CopiedQuestion>& questions) {
 std::u16string QuestionsAsHtml(const std::vector<CopiedQuestion>& questions) {
   std::u16string html = u"<html><body>";
   for (const auto& [number, whole] : questions) {
-    html += u"<p><b>" + FormatInteger(number) + u".</b> " + Escaped(whole.question.text);
+    html += u"<p><b>" + FormatInteger(number) + u".</b> " + ShownAsHtml(whole.question.text);
     VisitOptions(whole.question, [&html](const std::u16string& letter, const std::u16string& option) {
-      html += u"<br>" + letter + Escaped(option);
+      html += u"<br>" + letter + ShownAsHtml(option);
     });
     html += u"</p>";
   }
