@@ -2,7 +2,10 @@
 #include "desktop/bank/BankHitText.h"
 
 #include "model/AnswerLetters.h"
+#include "model/FillInAnswers.h"
 #include "model/QuestionKinds.h"
+#include "text/HtmlEntities.h"
+#include "text/PageTokens.h"
 #include "text/Utf.h"
 
 #include <algorithm>
@@ -11,41 +14,45 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kExcerpt = 200;      // UTF-16 units
-constexpr std::size_t kBefore = 50;        // of the excerpt, before the first mark
-constexpr std::size_t kLongestTag = 2000;  // a "<" that is not closed by then is text
+constexpr std::size_t kExcerpt = 200;  // UTF-16 units
+constexpr std::size_t kBefore = 50;    // of the excerpt, before the first mark
 constexpr std::u16string_view kLeftOut = u"…";
+constexpr std::u16string_view kBetweenAnswers = u" / ";
 constexpr std::u16string_view kTick = u"\u2713 ";
-
-/// The end of the tag that begins at `at`, or `at` if none does.
-std::size_t TagEnd(std::u16string_view text, std::size_t at) {
-  if (text[at] != u'<' || at + 1 >= text.size()) return at;
-  const char16_t next = text[at + 1];
-  const bool isTag =
-      next == u'/' || next == u'!' || (next >= u'a' && next <= u'z') || (next >= u'A' && next <= u'Z');
-  const std::size_t end = isTag ? text.find(u'>', at) : text.npos;
-  return end == text.npos || end - at > kLongestTag ? at : end + 1;
-}
 
 bool IsBlank(char16_t unit) {
   return unit <= u' ' || unit == u'\u00A0' || unit == u'\u3000';
 }
 
-/// Adds texts without their markup, and follows the marks.
+/// Tells which places of a text are marked, from front to back.
+class PlacesMarked {
+ public:
+  /// `marks` are in their order and must outlive this.
+  explicit PlacesMarked(const std::vector<TextSpan>& marks) : next_(marks.begin()), end_(marks.end()) {}
+
+  bool Has(std::size_t place) {
+    while (next_ != end_ && next_->end <= place) ++next_;
+    return next_ != end_ && next_->Contains(place);
+  }
+
+ private:
+  std::vector<TextSpan>::const_iterator next_;
+  std::vector<TextSpan>::const_iterator end_;
+};
+
+/// Adds texts as pupils see them, and follows the marks.
 class Shown {
  public:
   /// `marks` are places in `text`, in their order. Line ends become blanks unless `keepsLines`.
   void Add(std::u16string_view text, const std::vector<TextSpan>& marks, bool keepsLines) {
-    auto mark = marks.begin();
-    for (std::size_t at = 0; at < text.size();) {
-      const std::size_t end = TagEnd(text, at);
-      if (end > at) {
-        at = end;
-        continue;
-      }
-      while (mark != marks.end() && mark->end <= at) ++mark;
-      AddUnit(text[at], mark != marks.end() && mark->Contains(at), keepsLines);
-      ++at;
+    AddPart(text, {0, text.size()}, marks, keepsLines);
+  }
+
+  /// The same for a line of fill-in answers.
+  void AddFillIns(std::u16string_view line, const std::vector<TextSpan>& marks) {
+    for (const TextSpan& answer : FillInAnswersIn(line)) {
+      if (answer.begin > 0) AddPlain(kBetweenAnswers);
+      AddPart(line, answer, marks, false);
     }
   }
 
@@ -60,8 +67,36 @@ class Shown {
   }
 
  private:
-  void AddUnit(char16_t unit, bool isMarked, bool keepsLines) {
-    const bool isLineEnd = unit == u'\n' && keepsLines;
+  void AddPart(std::u16string_view text, const TextSpan& part, const std::vector<TextSpan>& marks,
+               bool keepsLines) {
+    keepsLines_ = keepsLines;
+    PlacesMarked marked(marks);
+    PageTokens tokens(text.substr(0, part.end));
+    tokens.GoTo(part.begin);
+    while (const auto token = tokens.Next()) {
+      const std::size_t begin = token->span.begin;
+      if (token->kind == PageTokenKind::Text) {
+        AddCharacters(text, token->span, marked);
+      } else if (!token->isClosed) {
+        // Whoever looks for a question wants to read what the page hides behind it.
+        AddUnit(text[begin], marked.Has(begin));
+        tokens.GoTo(begin + 1);
+      }
+    }
+  }
+
+  void AddCharacters(std::u16string_view text, const TextSpan& span, PlacesMarked& marked) {
+    for (std::size_t at = span.begin; at < span.end;) {
+      const auto entity = ReadEntity(text.substr(at, span.end - at));
+      std::u16string character;
+      AppendCodePoint(character, entity ? entity->codePoint : text[at]);
+      for (const char16_t unit : character) AddUnit(unit, marked.Has(at));
+      at += entity ? entity->length : 1;
+    }
+  }
+
+  void AddUnit(char16_t unit, bool isMarked) {
+    const bool isLineEnd = unit == u'\n' && keepsLines_;
     const bool isBlank = !isLineEnd && IsBlank(unit);
     const bool wasBlank = shown_.text.empty() || IsBlank(shown_.text.back());
     if ((isBlank || isLineEnd) && wasBlank) return;
@@ -80,6 +115,7 @@ class Shown {
   }
 
   BankHitText shown_;
+  bool keepsLines_ = false;
   bool isMarked_ = false;
   std::size_t begin_ = 0;
 };
@@ -151,7 +187,12 @@ BankHitText ExcerptOf(const BankHit& hit) {
     index = hit.highlights.front().index;
   }
   Shown shown;
-  shown.Add(TextOf(hit.question, field, index), MarksIn(hit, field, index), false);
+  const std::u16string_view text = TextOf(hit.question, field, index);
+  if (field == ExamFieldName::FillInAnswer) {
+    shown.AddFillIns(text, MarksIn(hit, field, index));
+  } else {
+    shown.Add(text, MarksIn(hit, field, index), false);
+  }
   return CutAround(shown.Take());
 }
 
@@ -161,14 +202,11 @@ BankHitText WholeTextOf(const BankHit& hit) {
   Shown shown;
   shown.Add(question.text, MarksIn(hit, ExamFieldName::QuestionText, 0), true);
   if (parts.options) AddOptions(hit, shown);
-  const auto addAnswer = [&](const std::u16string& answer, ExamFieldName field) {
-    if (answer.empty()) return;
-    shown.AddPlain(u"\n");
-    shown.AddPlain(kTick);
-    shown.Add(answer, MarksIn(hit, field, 0), true);
-  };
-  if (parts.fillIn) addAnswer(question.answerText, ExamFieldName::FillInAnswer);
-  if (parts.essay) addAnswer(question.essayAnswer, ExamFieldName::EssayAnswer);
+  const bool isFillIn = parts.fillIn && !question.answerText.empty();
+  const bool isEssay = parts.essay && !question.essayAnswer.empty();
+  if (isFillIn || isEssay) shown.AddPlain(std::u16string(u"\n").append(kTick));
+  if (isFillIn) shown.AddFillIns(question.answerText, MarksIn(hit, ExamFieldName::FillInAnswer, 0));
+  if (isEssay) shown.Add(question.essayAnswer, MarksIn(hit, ExamFieldName::EssayAnswer, 0), true);
   return shown.Take();
 }
 
