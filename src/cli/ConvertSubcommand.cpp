@@ -132,7 +132,7 @@ class Conversion {
                          "; name the right one with --from");
     if (recognised->reader == nullptr)
       throw CommandError(request_.source.string() + ": is " + std::string(recognised->name) +
-                         ", which the command import reads");
+                         ", which import --learn reads");
     return recognised;
   }
 

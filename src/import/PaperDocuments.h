@@ -7,7 +7,8 @@
 namespace quorvantis {
 
 /// Reads papers that are plain text (.txt, .md): UTF-8, UTF-16 with a mark, otherwise 8-bit text of the code
-/// page. Line ends stay as they are; there are no tables, pictures or formulas.
+/// page. Line ends stay as they are; there are no tables, pictures or formulas. Of Markdown, backslashes are
+/// resolved.
 class TextDocuments : public WordDocuments {
  public:
   /// `codePage` must outlive this.

@@ -7,6 +7,7 @@
 #include "model/AnswerLetters.h"
 #include "platform/TextNumbers.h"
 #include "text/LineBreaks.h"
+#include "text/MarkdownEscapes.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
@@ -20,14 +21,8 @@ constexpr std::u16string_view kIndent = u"    ";
 
 /// The characters of a text, with what Markdown would take for markup protected.
 std::u16string MarkdownText(std::u16string_view examText, std::u16string_view indent) {
-  constexpr std::u16string_view kProtected = u"\\`*_[]<>#";
-  std::u16string text;
-  for (const char16_t unit : ExamTextToPlain(examText)) {
-    if (kProtected.find(unit) != kProtected.npos) text.push_back(u'\\');
-    text.push_back(unit);
-  }
   // Two blanks before a line end make it a line break.
-  return WithLineEnds(text, u"  \n" + std::u16string(indent));
+  return WithLineEnds(ProtectMarkdown(ExamTextToPlain(examText)), u"  \n" + std::u16string(indent));
 }
 
 std::u16string AnswerText(const ExchangedQuestion& question) {
