@@ -10,6 +10,7 @@
 #include "bank/search/QuerySql.h"
 #include "bank/search/UnchangedExams.h"
 #include "model/document/ExamServices.h"
+#include "platform/Progress.h"
 #include "text/PathText.h"
 
 #include <algorithm>
@@ -142,6 +143,7 @@ bool BankSearch::Refresh(BankHits& hits) const {
     const BankExam& exam = hit.question.exam;
     const auto [known, isNew] = isAsShown.try_emplace(exam.path, true);
     if (!isNew) continue;
+    if (services_.progress.IsCancelled()) return false;
     const FileStamp shown{exam.size, exam.written};
     if (FileStamp::Of(exam.path) == shown && exam.isSettled) continue;
     if (!hits.problem.IsAnything())
@@ -171,6 +173,7 @@ BankHits BankSearch::Find(const BankQuery& query, std::size_t limit, std::size_t
     for (int round = 1;; ++round) {
       BankHits hits = FindOnce(query, limit, offset);
       const bool hasChanged = Refresh(hits);
+      if (services_.progress.IsCancelled()) return {};
       if (hasChanged && round < kMostRounds) continue;
       if (hasChanged) hits.hits.clear();
       AddDetails(query, hits);

@@ -68,7 +68,8 @@ class BankSearch {
   BankSearch(BankIndex& index, ExamServices& services, const FileDigest& digest,
              std::shared_ptr<FolderTags> tags = nullptr);
 
-  /// Up to `limit` hits after the first `offset`.
+  /// Up to `limit` hits after the first `offset`. None when the progress of `services` is cancelled, which is
+  /// polled for each exam: on a network, looking at its file may take a moment.
   BankHits Find(const BankQuery& query, std::size_t limit, std::size_t offset = 0);
 
   /// The identifiers of all questions for a query, in no order, without looking at the files. Empty, with

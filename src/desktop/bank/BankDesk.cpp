@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/BankDesk.h"
 
+#include "bank/index/BankFolders.h"
+#include "bank/search/BankQuestions.h"
+#include "bank/search/UnchangedExams.h"
 #include "desktop/controls/QtText.h"
 #include "model/document/ServicesWith.h"
-#include "platform/Progress.h"
+#include "platform/QuietProgress.h"
 
 #include <chrono>
 #include <set>
@@ -12,16 +15,10 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kQuietFolders = 1'500;                    // milliseconds without a change
-constexpr auto kSlice = std::chrono::milliseconds(50);  // between two looks at whether to go on
+constexpr int kQuietFolders = 1'500;  // milliseconds without a change
+constexpr std::chrono::minutes kMemoryUnused(3);
+constexpr auto kSlice = std::chrono::milliseconds(50);  // between two reports of an update
 constexpr std::size_t kMostWatched = 4'000;             // folders; the system has a limit of its own
-
-/// What work on another thread needs: it shows no progress, and nobody cancels it through this.
-class SilentProgress : public Progress {
- public:
-  void Report(std::uint64_t, std::uint64_t) override {}
-  bool IsCancelled() override { return false; }
-};
 
 /// The folders of the bank and those that hold its exams, with all between them: a new folder shows in the
 /// one that it is in.
@@ -49,6 +46,9 @@ BankDesk::BankDesk(BankPlace place, const ExamServices& services, const FileDige
       update_(nullptr) {
   whenQuiet_.setSingleShot(true);
   whenQuiet_.setInterval(kQuietFolders);
+  whenUnused_.setSingleShot(true);
+  whenUnused_.setInterval(kMemoryUnused);
+  connect(&whenUnused_, &QTimer::timeout, this, [this] { memory_.Forget(); });
   connect(&whenQuiet_, &QTimer::timeout, this, &BankDesk::Update);
   connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] { whenQuiet_.start(); });
   connect(&update_, &BackgroundRun::Changed, this, &BankDesk::UpdateChanged);
@@ -64,15 +64,19 @@ std::optional<BankIndex> BankDesk::Opened(BankProblem& problem) const {
 }
 
 void BankDesk::Find(const BankQuery& query) {
-  search_.Start([this, query](const BackgroundRun::Cancelled&) -> BackgroundRun::Finish {
+  search_.Start([this, query](const BackgroundRun::Cancelled& isCancelled) -> BackgroundRun::Finish {
     auto hits = std::make_shared<BankHits>();
-    SilentProgress progress;
+    bool isEmptied = false;
+    QuietProgress progress(isCancelled);
     ExamServices services = ServicesWith(services_, progress);
-    if (auto index = Opened(hits->problem))
+    if (auto index = Opened(hits->problem)) {
+      isEmptied = index->Found() != IndexFound::Whole;
       *hits = BankSearch(*index, services, digest_).Find(query, kMostHits);
-    return [this, hits] {
+    }
+    return [this, hits, isEmptied] {
       hits_ = hits;
       emit Found();
+      if (isEmptied || hits->problem.trouble == BankTrouble::Damaged) Update();
     };
   });
 }
@@ -89,11 +93,11 @@ void BankDesk::Update() {
                        const BackgroundRun::Cancelled& isCancelled) -> BackgroundRun::Finish {
     auto report = std::make_shared<BankUpdateReport>();
     auto folders = std::make_shared<std::vector<std::filesystem::path>>();
-    SilentProgress progress;
+    QuietProgress progress(isCancelled);
     ExamServices services = ServicesWith(services_, progress);
     if (auto index = Opened(report->problem)) {
       BankUpdate update(*index, services, digest_);
-      while (!isCancelled() && update.Step(kSlice)) {
+      while (update.Step(kSlice)) {
         *read = update.Report().examsDone;
         *toRead = update.Report().examsFound;
       }
@@ -121,9 +125,7 @@ void BankDesk::Watch(const std::vector<std::filesystem::path>& folders) {
 }
 
 std::vector<std::filesystem::path> BankDesk::Folders() const {
-  BankProblem problem;
-  const auto index = Opened(problem);
-  return index ? index->Folders() : std::vector<std::filesystem::path>();
+  return ReadBankFolders(place_.folders);
 }
 
 BankProblem BankDesk::Change(const std::function<BankProblem(BankIndex&)>& change) {
@@ -148,6 +150,25 @@ BankProblem BankDesk::RemoveFolder(const std::filesystem::path& folder) {
 std::vector<BankExam> BankDesk::DamagedExams(BankProblem& problem) const {
   const auto index = Opened(problem);
   return index ? index->DamagedExams(problem) : std::vector<BankExam>();
+}
+
+std::optional<BankQuestion> BankDesk::Question(std::int64_t id, const BankExam& exam, int number) const {
+  BankProblem problem;
+  auto index = Opened(problem);
+  if (!index) return std::nullopt;
+  try {
+    auto question = BankQuestions(*index).Read(id);
+    const bool isSame = question && question->exam.path == exam.path && question->number == number;
+    if (isSame && UnchangedExams(*index, digest_).Has(question->exam)) return question;
+  } catch (const DatabaseError& error) {
+    index->ProblemAfter(error);
+  }
+  return std::nullopt;
+}
+
+KeptBankMemory& BankDesk::UseMemory() {
+  whenUnused_.start();
+  return memory_;
 }
 
 }  // namespace quorvantis

@@ -4,6 +4,7 @@
 #include "bank/index/BankIndex.h"
 #include "bank/index/BankUpdate.h"
 #include "bank/search/BankSearch.h"
+#include "bank/search/KeptBankMemory.h"
 #include "desktop/controls/BackgroundRun.h"
 
 #include <QFileSystemWatcher>
@@ -11,8 +12,10 @@
 #include <QTimer>
 
 #include <atomic>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quorvantis {
@@ -53,6 +56,16 @@ class BankDesk : public QObject {
   BankProblem RemoveFolder(const std::filesystem::path& folder);
   /// Empty, with `problem` set, when the index cannot be read.
   std::vector<BankExam> DamagedExams(BankProblem& problem) const;
+  /// A question as the index has it; nothing unless its exam is there and as it was then.
+  std::optional<BankQuestion> Question(std::int64_t id, const BankExam& exam, int number) const;
+
+  /// For work on another thread, which opens the index for itself. Nothing with `problem` set if that fails.
+  std::optional<BankIndex> Opened(BankProblem& problem) const;
+  const ExamServices& Services() const { return services_; }
+  const FileDigest& Digest() const { return digest_; }
+  /// What is remembered of the bank, for a job that begins now; it is forgotten when nobody has asked for a
+  /// while.
+  KeptBankMemory& UseMemory();
 
  signals:
   void Found();
@@ -63,11 +76,12 @@ class BankDesk : public QObject {
  private:
   BankProblem Change(const std::function<BankProblem(BankIndex&)>& change);
   void Watch(const std::vector<std::filesystem::path>& folders);
-  std::optional<BankIndex> Opened(BankProblem& problem) const;
 
   BankPlace place_;
   const ExamServices& services_;
   const FileDigest& digest_;
+  KeptBankMemory memory_;
+  QTimer whenUnused_;  ///< runs from the last use of the memory on
   BackgroundRun search_;
   BackgroundRun update_;
   std::shared_ptr<std::atomic_size_t> examsRead_ = std::make_shared<std::atomic_size_t>(0);

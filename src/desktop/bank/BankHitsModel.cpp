@@ -1,32 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/BankHitsModel.h"
 
+#include "desktop/bank/BankExamCaption.h"
 #include "desktop/controls/KindCaption.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
-#include <QDateTime>
-
 #include <utility>
 
 namespace quorvantis {
-namespace {
-
-constexpr std::int64_t kNanosecondsInMillisecond = 1'000'000;
-
-QString DayOf(const BankExam& exam) {
-  const QDateTime time = QDateTime::fromMSecsSinceEpoch(exam.written / kNanosecondsInMillisecond);
-  return time.date().toString(Qt::ISODate);
-}
-
-QString NameOf(const BankExam& exam) {
-  const QString title = ToQString(exam.title).simplified();
-  return title.isEmpty() ? PathToQString(exam.path.stem()) : title;
-}
-
-}  // namespace
 
 void BankHitsModel::Show(std::vector<BankHit> hits) {
   beginResetModel();
@@ -40,8 +24,8 @@ void BankHitsModel::Show(std::vector<BankHit> hits) {
 QString BankHeading(const BankQuestion& question, const StringTable& strings) {
   const std::u16string kind = FromQString(KindCaption(question.kind, strings));
   return ToQString(FillMessage(strings.Text(text_id::kBankHeading),
-                               {FromQString(NameOf(question.exam)), FormatInteger(question.number), kind,
-                                FromQString(DayOf(question.exam))}));
+                               {FromQString(BankExamName(question.exam)), FormatInteger(question.number),
+                                kind, FromQString(BankExamDay(question.exam))}));
 }
 
 int BankHitsModel::rowCount(const QModelIndex& parent) const {

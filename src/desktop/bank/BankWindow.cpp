@@ -43,6 +43,11 @@ void MarkIn(QTextDocument& document, const std::vector<TextSpan>& marks) {
   }
 }
 
+bool IsAmong(const std::vector<BankHit>& hits, const BankHit& sought) {
+  return std::any_of(hits.begin(), hits.end(),
+                     [&sought](const BankHit& hit) { return hit.question.id == sought.question.id; });
+}
+
 }  // namespace
 
 BankWindow::BankWindow(BankDesk& desk, const ExamServices& services, BankActions actions, QWidget* parent)
@@ -55,11 +60,13 @@ BankWindow::BankWindow(BankDesk& desk, const ExamServices& services, BankActions
       query_(new BankQueryLine(services.strings, this)),
       list_(new QListView(this)),
       whole_(new QTextEdit(this)),
+      elsewhere_(new BankElsewhereLine(desk, this)),
       status_(new QLabel(this)),
       insert_(MakeButton("bankInsert", text_id::kBankInsert, &BankWindow::Insert)),
       show_(MakeButton("bankShow", text_id::kBankShow, &BankWindow::ShowPage)),
       openExam_(MakeButton("bankOpenExam", text_id::kBankOpenExam, &BankWindow::OpenExam)),
       draw_(MakeButton("bankDraw", text_id::kDrawOfBank, &BankWindow::Draw)),
+      askedBefore_(MakeButton("bankAskedBefore", text_id::kAskedEntry, &BankWindow::ShowAskedBefore)),
       folders_(MakeButton("bankEditFolders", text_id::kBankFolders, &BankWindow::EditFolders)) {
   setObjectName("bankWindow");
   setWindowTitle(Text(text_id::kBankTitle));
@@ -115,16 +122,24 @@ void BankWindow::PlaceControls() {
   auto* ofTheBank = new QHBoxLayout;
   ofTheBank->addWidget(status_, 1);
   ofTheBank->addWidget(draw_);
+  ofTheBank->addWidget(askedBefore_);
   ofTheBank->addWidget(folders_);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(query_);
   layout->addWidget(sides, 1);
+  layout->addWidget(elsewhere_);
   layout->addLayout(buttons);
   layout->addLayout(ofTheBank);
 }
 
 void BankWindow::Connect() {
   connect(query_, &BankQueryLine::QueryChanged, &whenQuiet_, qOverload<>(&QTimer::start));
+  connect(query_, &BankQueryLine::QueryChanged, this, [this] { revealed_.reset(); });
+  connect(elsewhere_, &BankElsewhereLine::UseChosen, this, &BankWindow::Reveal);
+  connect(elsewhere_, &BankElsewhereLine::Outdated, this, [this] {
+    revealed_.reset();
+    Search();
+  });
   connect(query_, &BankQueryLine::Left, this, [this] {
     if (whenQuiet_.isActive()) Search();
     list_->setFocus();
@@ -157,7 +172,8 @@ void BankWindow::Search() {
 
 /// The question that was chosen stays so while it is found.
 void BankWindow::ShowHits() {
-  const std::vector<BankHit>& hits = desk_.Hits().hits;
+  std::vector<BankHit> hits = desk_.Hits().hits;
+  if (revealed_ && !IsAmong(hits, *revealed_)) hits.insert(hits.begin(), *revealed_);
   const std::int64_t chosen = kept_;
   model_.Show(hits);
   const auto same = std::ranges::find(hits, chosen, [](const BankHit& hit) { return hit.question.id; });
@@ -165,6 +181,23 @@ void BankWindow::ShowHits() {
   if (!hits.empty()) list_->setCurrentIndex(model_.index(static_cast<int>(row)));
   ShowChosen();
   ShowState();
+}
+
+void BankWindow::Reveal(const BankUse& use) {
+  const auto question = desk_.Question(use.question, use.exam, use.number);
+  if (question) {
+    revealed_ = BankHit{*question, {}};
+    kept_ = question->id;
+  }
+  const bool wasHidden = !isVisible();
+  Appear();
+  if (!wasHidden) ShowHits();
+  list_->setFocus();
+  if (question) return;
+  told_ = ToQString(FillMessage(strings_.Text(text_id::kBankChanged),
+                                {PathToText(use.exam.path), FormatInteger(use.number)}));
+  ShowState();
+  desk_.Update();
 }
 
 const BankHit* BankWindow::Chosen() const {
@@ -177,6 +210,7 @@ void BankWindow::ShowChosen() {
   for (QPushButton* button : {insert_, show_, openExam_}) button->setEnabled(hit != nullptr);
   kept_ = hit == nullptr ? 0 : hit->question.id;
   told_.clear();
+  elsewhere_->Show(hit == nullptr ? nullptr : &hit->question);
   const BankHitText whole = hit == nullptr ? BankHitText() : WholeTextOf(*hit);
   const QString text = ToQString(whole.text);
   QTextOption option = whole_->document()->defaultTextOption();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/bank/BankDesk.h"
+#include "desktop/bank/BankElsewhereLine.h"
 #include "desktop/bank/BankHitsModel.h"
 #include "desktop/bank/BankQueryLine.h"
 #include "shell/settings/WindowPlace.h"
@@ -14,6 +15,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 namespace quorvantis {
 
@@ -27,6 +29,8 @@ struct BankActions {
   std::function<void(const BankQuestion&)> openExam;
   /// Opens the window that draws from the bank.
   std::function<void()> draw;
+  /// Tells what of the open exam was asked before.
+  std::function<void()> showAskedBefore;
 };
 
 /// The bank of all exams, beside the main window: a line to search with, what was found, and the whole of the
@@ -41,6 +45,9 @@ class BankWindow : public QDialog {
 
   /// Shows the window, or brings it to the front, and looks whether the folders have changed.
   void Appear();
+
+  /// Chooses a question of the bank, and lists it first if it was not found.
+  void Reveal(const BankUse& use);
 
  protected:
   bool event(QEvent* event) override;
@@ -63,6 +70,7 @@ class BankWindow : public QDialog {
   void OpenExam();
   void Draw() { actions_.draw(); }
   void EditFolders();
+  void ShowAskedBefore() { actions_.showAskedBefore(); }
   const BankHit* Chosen() const;
   void RestorePlace();
   void KeepPlace() const;
@@ -76,16 +84,19 @@ class BankWindow : public QDialog {
   BankQueryLine* query_;
   QListView* list_;
   QTextEdit* whole_;
+  BankElsewhereLine* elsewhere_;
   QLabel* status_;
   QPushButton* insert_;
   QPushButton* show_;
   QPushButton* openExam_;
   QPushButton* draw_;
+  QPushButton* askedBefore_;
   QPushButton* folders_;
   QTimer whenQuiet_;  ///< runs while the user types
   QTimer whileUpdating_;
-  QString told_;           ///< of the last command
-  std::int64_t kept_ = 0;  ///< the question that was chosen before the list changed
+  QString told_;                     ///< of the last command
+  std::int64_t kept_ = 0;            ///< the question that was chosen before the list changed
+  std::optional<BankHit> revealed_;  ///< is listed until the user searches for something else
 };
 
 }  // namespace quorvantis

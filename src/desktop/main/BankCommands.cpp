@@ -7,6 +7,7 @@
 #include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "render/sheets/SheetPages.h"
+#include "shell/commands/ReplaceCommand.h"
 #include "taking/OtherExam.h"
 #include "taking/PrivateServices.h"
 #include "text/MessageText.h"
@@ -50,18 +51,50 @@ void ObeyPage(PreviewWindow& window, const QString& wish) {
   if (wish == "SheetPrint" || wish == "SheetSave") window.PrintByKeystroke();
 }
 
+OpenExam OpenExamOf(const ExamEditor& editor) {
+  return {std::make_shared<const FrameSetExam>(SearchedExam(editor)),
+          editor.state.IsUntitled() ? std::filesystem::path() : editor.state.FileName()};
+}
+
 }  // namespace
 
-void BankCommands::Open() {
+BankDesk& BankCommands::Desk() {
   const ExamServices& services = editor_.state.document.Services();
   if (!desk_) desk_ = std::make_unique<BankDesk>(UsualBankPlace(), services, digest_, nullptr);
+  return *desk_;
+}
+
+BankWindow& BankCommands::Window() {
   if (!shown_) {
     BankActions actions{[this](const BankQuestion& question) { return Insert(question); },
                         [this](const BankQuestion& question) { Show(question); },
-                        [this](const BankQuestion& question) { OpenExam(question); }, draw_};
-    shown_ = new BankWindow(*desk_, services, std::move(actions), &window_);
+                        [this](const BankQuestion& question) { OpenExam(question); }, draw_,
+                        [this] { ShowAskedBefore(); }};
+    shown_ = new BankWindow(Desk(), editor_.state.document.Services(), std::move(actions), &window_);
   }
-  shown_->Appear();
+  return *shown_;
+}
+
+void BankCommands::Open() {
+  Window().Appear();
+}
+
+void BankCommands::ShowAskedBefore() {
+  if (!askedBefore_) {
+    AskedBeforeActions actions{[this] { return OpenExamOf(editor_); },
+                               [this](int number) {
+                                 if (number <= editor_.state.document.LastCountedQuestion())
+                                   editor_.questions.GoTo(number);
+                               },
+                               [this](const BankUse& use) { Window().Reveal(use); }};
+    askedBefore_ =
+        new AskedBeforeWindow(Desk(), editor_.state.document.Services(), std::move(actions), &window_);
+  }
+  askedBefore_->Appear();
+}
+
+void BankCommands::ExamChanged() {
+  if (askedBefore_) askedBefore_->ExamChanged();
 }
 
 QString BankCommands::Insert(const BankQuestion& question) {

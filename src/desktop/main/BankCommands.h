@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/bank/AskedBeforeWindow.h"
 #include "desktop/bank/BankDesk.h"
 #include "desktop/bank/BankWindow.h"
 #include "desktop/main/SheetCommands.h"
@@ -39,7 +40,15 @@ class BankCommands {
   /// What the window of the bank does to draw from it; set it before that is opened.
   void SetDraw(std::function<void()> draw) { draw_ = std::move(draw); }
 
+  /// Tells what of the open exam was asked before.
+  void ShowAskedBefore();
+
+  /// The open exam may have changed, or another one is shown.
+  void ExamChanged();
+
  private:
+  BankDesk& Desk();
+  BankWindow& Window();
   QString Insert(const BankQuestion& question);
   void OpenExam(const BankQuestion& question);
 
@@ -52,6 +61,7 @@ class BankCommands {
   const OpenSslDigest digest_;
   std::unique_ptr<BankDesk> desk_;  ///< made when it is first needed
   QPointer<BankWindow> shown_;      ///< likewise
+  QPointer<AskedBeforeWindow> askedBefore_;
 };
 
 }  // namespace quorvantis

@@ -207,6 +207,7 @@ WindowMenus::Commands CQuorvantisDlg::MenuCommands() {
   commands.check = &check_;
   commands.bank = [this] { bank_.Open(); };
   commands.draw = [this] { draw_.Open(); };
+  commands.askedBefore = [this] { bank_.ShowAskedBefore(); };
   commands.canUndoImport = [this] { return import_.CanUndo(); };
   commands.undoImport = [this] { importWindows_.Undo(import_); };
   commands.versions = [this] { versions_.MakeVersions(); };
@@ -259,6 +260,7 @@ void CQuorvantisDlg::FormLoaded() {
   history_.Note();
   search_.ExamChanged();
   check_.ExamChanged();
+  bank_.ExamChanged();
   studio_.ExamChanged();
 }
 
@@ -272,6 +274,7 @@ void CQuorvantisDlg::FormChanged() {
   history_.Note();
   search_.ExamChanged();
   check_.ExamChanged();
+  bank_.ExamChanged();
   studio_.ExamChanged();
   if (focused && !focused->isVisibleTo(this)) question_.text->setFocus();
 }
@@ -380,6 +383,7 @@ void CQuorvantisDlg::PostContentChanged() {
   history_.Note();
   search_.ExamChanged();
   check_.ExamChanged();
+  bank_.ExamChanged();
   studio_.ExamChanged();
 }
 

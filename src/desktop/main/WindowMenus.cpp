@@ -264,6 +264,7 @@ MenuTable WindowMenus::Exam() const {
                .ownsKeys = true,
                .command = commands_.bank},
               {.name = "examDraw", .caption = Text(kDrawEntry), .command = commands_.draw},
+              {.name = "examAskedBefore", .caption = Text(kAskedEntry), .command = commands_.askedBefore},
               Separator(),
               For(controls_.exam.title, "examTitle", kGoToTitle),
               Random(),

@@ -36,6 +36,7 @@ class WindowMenus {
     CheckCommands* check;
     std::function<void()> bank;
     std::function<void()> draw;
+    std::function<void()> askedBefore;
     std::function<bool()> canUndoImport;
     std::function<void()> undoImport;
     std::function<void()> versions;

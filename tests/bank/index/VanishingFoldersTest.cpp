@@ -107,6 +107,12 @@ TEST_F(VanishingFolders, ACancelIsNoticedWithinAFewEntries) {
   update.Run();
   EXPECT_EQ(update.Report().filesSeen, 500U);
   EXPECT_GT(polls, 500U / 20);
+  WriteAll();
+  polls = 0;
+  QuietProgress impatient([&polls] { return ++polls > 3; });
+  RecordingWorld cancelling(folder / "app", files, world.pages, impatient);
+  EXPECT_TRUE(BankSearch(*index, cancelling.services, digest).Find({}, 100).hits.empty());
+  EXPECT_LT(polls, 6U);
 }
 
 }  // namespace
