@@ -72,10 +72,18 @@ AskedBefore CompareWithBank(const BankDesk& desk, KeptBankMemory& memory, FileDi
     std::error_code ignored;
     const std::filesystem::path self = open.file.empty() ? open.file : canonical(open.file, ignored);
     asked.likeness = remembered->Like(*index, desk.Digest(), contents, self, progress);
+    for (std::vector<BankUse>& uses : asked.likeness.uses) PutNewestFirst(uses);
   }
   asked.likeness.isCancelled = progress.IsCancelled();
   digests.SetCancelled({});
   return asked;
+}
+
+void PutNewestFirst(std::vector<BankUse>& uses) {
+  std::stable_sort(uses.begin(), uses.end(), [](const BankUse& a, const BankUse& b) {
+    return std::pair(IsSameQuestion(a.relation), a.exam.written) >
+           std::pair(IsSameQuestion(b.relation), b.exam.written);
+  });
 }
 
 QString RelationWords(QuestionRelation relation, const StringTable& strings) {
@@ -120,11 +128,8 @@ QString AskedBeforeText(const AskedBefore& asked, const StringTable& strings) {
   for (std::size_t i = 0; i < asked.likeness.uses.size(); ++i) {
     if (!asked.likeness.uses[i].empty()) lines << QuestionCaption(asked, i, strings);
     for (const BankUse& use : asked.likeness.uses[i]) {
-      const std::u16string place =
-          FillMessage(strings.Text(text_id::kBankPlace),
-                      {FromQString(BankExamName(use.exam)), FormatInteger(use.number)});
-      lines << "\t" + ToQString(place) + "\t" + BankExamDay(use.exam) + "\t" +
-                   RelationWords(use.relation, strings);
+      lines << "\t" + BankPlaceText(BankExamName(use.exam), use.number, strings) + "\t" +
+                   BankExamDay(use.exam) + "\t" + RelationWords(use.relation, strings);
     }
   }
   if (!asked.likeness.exams.empty()) lines << QString() << ExamCaptions(strings);

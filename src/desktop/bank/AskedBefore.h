@@ -13,6 +13,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <memory>
+#include <vector>
 
 namespace quorvantis {
 
@@ -36,6 +37,9 @@ struct AskedBefore {
 /// what was found is incomplete when it is cancelled.
 AskedBefore CompareWithBank(const BankDesk& desk, KeptBankMemory& memory, FileDigestCache& digests,
                             const OpenExam& open, Progress& progress);
+
+/// The same questions before variants; among each, those of exams that were changed last come first.
+void PutNewestFirst(std::vector<BankUse>& uses);
 
 /// "the same", "other numbers"…
 QString RelationWords(QuestionRelation relation, const StringTable& strings);

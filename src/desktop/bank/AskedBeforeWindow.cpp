@@ -68,7 +68,6 @@ AskedBeforeWindow::AskedBeforeWindow(BankDesk& desk, const ExamServices& service
   NameControl(useTree_, "askedUses", Text(text_id::kAskedQuestions));
   NameControl(examTable_, "askedExams", Text(text_id::kAskedExams));
   NameControl(summary_, "askedSummary", {});
-  useTree_->setItemDelegate(new OwnDirection(useTree_));
   summary_->setTextFormat(Qt::PlainText);
   summary_->setWordWrap(true);
   whenQuiet_.setSingleShot(true);

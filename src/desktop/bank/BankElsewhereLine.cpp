@@ -2,6 +2,7 @@
 #include "desktop/bank/BankElsewhereLine.h"
 
 #include "bank/search/UnchangedExams.h"
+#include "desktop/bank/AskedBefore.h"
 #include "desktop/bank/BankExamCaption.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
@@ -108,6 +109,7 @@ void BankElsewhereLine::Take(Found found) {
   if (found.isOutdated) return emit Outdated();
   if (!found.uses) return;
   uses_ = std::move(*found.uses);
+  PutNewestFirst(uses_);
   QStringList sentences{Sentence(text_id::kBankSameIn, true, kMostSame),
                         Sentence(text_id::kBankVariantsIn, false, kMostVariants)};
   sentences.removeAll(QString());
@@ -137,10 +139,9 @@ QString BankElsewhereLine::Sentence(int text, bool isSame, std::size_t most) con
 }
 
 QString BankElsewhereLine::Link(std::size_t use) const {
-  const std::u16string place =
-      FillMessage(desk_.Services().strings.Text(text_id::kBankPlace),
-                  {FromQString(ShortName(uses_[use].exam)), FormatInteger(uses_[use].number)});
-  return QString("<a href=\"%1\">%2</a>").arg(use).arg(ToQString(place).toHtmlEscaped());
+  const QString place =
+      BankPlaceText(ShortName(uses_[use].exam), uses_[use].number, desk_.Services().strings);
+  return QString("<a href=\"%1\">%2</a>").arg(use).arg(place.toHtmlEscaped());
 }
 
 }  // namespace quorvantis

@@ -4,8 +4,6 @@
 #include "desktop/bank/BankExamCaption.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
-#include "text/MessageText.h"
-#include "text/NumberText.h"
 
 namespace quorvantis {
 namespace {
@@ -50,8 +48,7 @@ QStandardItem* EarlierUsesModel::AddBranch(const QString& caption, std::size_t q
 }
 
 void EarlierUsesModel::AddUse(QStandardItem& branch, const BankUse& use, std::size_t place) {
-  const QString where = ToQString(FillMessage(
-      strings_.Text(text_id::kBankPlace), {FromQString(BankExamName(use.exam)), FormatInteger(use.number)}));
+  const QString where = BankPlaceText(BankExamName(use.exam), use.number, strings_);
   const QString how = RelationWords(use.relation, strings_);
   const QList<QStandardItem*> row{new QStandardItem(where), new QStandardItem(BankExamDay(use.exam)),
                                   new QStandardItem(how)};
