@@ -48,8 +48,8 @@ struct BankQuestion {
 
 struct BankHit {
   BankQuestion question;
-  std::vector<BankHighlight> highlights;  ///< in the order of fields, then of places
-  std::vector<std::u16string> tags;       ///< that its folder gives it
+  std::vector<BankHighlight> highlights{};  ///< in the order of fields, then of places
+  std::vector<std::u16string> tags{};       ///< that its folder gives it
 };
 
 struct BankHits {

@@ -186,7 +186,7 @@ void BankWindow::ShowHits() {
 void BankWindow::Reveal(const BankUse& use) {
   const auto question = desk_.Question(use.question, use.exam, use.number);
   if (question) {
-    revealed_ = BankHit{*question, {}};
+    revealed_ = BankHit{*question};
     kept_ = question->id;
   }
   const bool wasHidden = !isVisible();

@@ -22,7 +22,7 @@ void DrawnModel::Show(const DrawnList& list) {
   rows_.clear();
   rows_.reserve(list.rows.size());
   for (const DrawnRow& row : list.rows) {
-    rows_.push_back({ToQString(ExcerptOf({row.question, {}, {}}).text), BankHeading(row.question, strings_),
+    rows_.push_back({ToQString(ExcerptOf({row.question}).text), BankHeading(row.question, strings_),
                      WhyOf(list, row), PathToQString(row.question.exam.path)});
   }
   endResetModel();

@@ -171,8 +171,7 @@ void DrawnPane::ShowList(std::size_t chosen) {
 
 void DrawnPane::ShowChosen() {
   const auto place = Chosen();
-  const QString text =
-      place ? ToQString(WholeTextOf({List().rows.at(*place).question, {}, {}}).text) : QString();
+  const QString text = place ? ToQString(WholeTextOf({List().rows.at(*place).question}).text) : QString();
   QTextOption option = whole_->document()->defaultTextOption();
   option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
   whole_->document()->setDefaultTextOption(option);

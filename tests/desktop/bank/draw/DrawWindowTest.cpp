@@ -5,6 +5,7 @@
 #include "desktop/WindowTest.h"
 #include "desktop/bank/draw/DrawWindow.h"
 #include "examfile/ExamFileWriter.h"
+#include "platform/TextNumbers.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -23,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kPatience = 30'000;  // milliseconds
+constexpr int kDrawPatience = 30'000;  // milliseconds
 
 /// What a question asks, what is right, and the bytes of its files.
 std::string ContentOfQuestion(const ExamQuestion& question) {
@@ -121,7 +122,7 @@ class DrawWindowTest : public WindowTest {
 
   bool IsRunning() { return Control("drawCancel").isVisible(); }
   void Await() {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !IsRunning(); }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !IsRunning(); }, kDrawPatience));
   }
   void Draw() {
     Click("drawNow");
@@ -182,7 +183,8 @@ TEST_F(DrawWindowTest, InsertsWhatItShowsAsOneStep) {
   exam.CountQuestions();
   OpenDraw();
   Draw();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return Control<QComboBox>("drawFolder").count() > 3; }, kPatience));
+  EXPECT_TRUE(
+      QTest::qWaitFor([this] { return Control<QComboBox>("drawFolder").count() > 3; }, kDrawPatience));
   TagBank();
   std::size_t inserted = 0;
   for (int round = 0; round < 25; ++round) {
@@ -250,7 +252,7 @@ TEST_F(DrawWindowTest, DrawsWhatTheCommandDrawsAlsoLater) {
   command.start(QUORVANTIS_CLI,
                 {"bank", "draw", "--count", "7", "--kind", "choice", "--tag", "x", "--seed", "2024",
                  "--unused-since", since, "--not-like", PathToQString(open), "--json"});
-  ASSERT_TRUE(command.waitForFinished(kPatience));
+  ASSERT_TRUE(command.waitForFinished(kDrawPatience));
   std::vector<std::string> printed;
   for (const QJsonValue& question :
        QJsonDocument::fromJson(command.readAllStandardOutput())["questions"].toArray())
