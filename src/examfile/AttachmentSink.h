@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,10 @@ class AttachmentSink {
   /// A file of question `question` begins, or one of the exam as a whole (0). `slot` is its index in the list
   /// and `name` its display name, which the author of the exam file chose.
   virtual void Begin(int question, unsigned slot, const std::u16string& name) = 0;
+
+  /// Whether the content of the file that has begun last is wanted, all `size` bytes of it. Otherwise it is
+  /// passed over, which takes no time.
+  virtual bool WantsContent(std::int64_t /*size*/) { return true; }
 
   /// The next bytes of the file that has begun last. There are none if it is empty.
   virtual void Content(std::string_view bytes) = 0;

@@ -47,6 +47,10 @@ bool AttachmentUnpacker::Keep(const AttachmentEntry& entry, const std::filesyste
   if (sink_ == nullptr) return Unpack(target, entry.size);
   sink_->Begin(question, slot, entry.name);
   if (entry.size <= 0) return true;
+  if (!sink_->WantsContent(entry.size)) {
+    Skip(entry.size);
+    return true;
+  }
   source_.Take(static_cast<std::uint64_t>(entry.size),
                [this](std::string_view bytes) { sink_->Content(bytes); });
   return true;

@@ -41,7 +41,20 @@ std::string_view ByteSource::Take(std::size_t count) {
   return bytes;
 }
 
+/// Passes over bytes that the file has, if they are so many that reading them would take longer. Returns how
+/// many these were: all or none.
+std::uint64_t ByteSource::JumpOver(std::uint64_t count) {
+  const std::uint64_t unread = end_ - begin_;
+  const bool isWithin = !ended_ && stream_.good() && position_ <= size_ && count <= size_ - position_;
+  if (!isWithin || count < unread + kBufferSize) return 0;
+  stream_.seekg(static_cast<std::streamoff>(count - unread), std::ios::cur);
+  begin_ = end_ = 0;
+  position_ += count;
+  return count;
+}
+
 void ByteSource::Take(std::uint64_t count, const std::function<void(std::string_view)>& sink) {
+  if (!sink) count -= JumpOver(count);
   while (count > 0 && !ended_) {
     if (begin_ == end_ && stream_.good()) Refill();
     const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(count, buffer_.size()));

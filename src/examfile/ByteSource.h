@@ -35,11 +35,12 @@ class ByteSource {
   std::string_view Peek(std::size_t count);
 
   /// Passes the next `count` bytes to `sink` in pieces no larger than the buffer, or skips them if `sink` is
-  /// empty.
+  /// empty: many are not even read.
   void Take(std::uint64_t count, const std::function<void(std::string_view)>& sink);
 
  private:
   void Refill();
+  std::uint64_t JumpOver(std::uint64_t count);
 
   std::ifstream stream_;
   std::vector<char> buffer_;
