@@ -17,10 +17,12 @@ inline constexpr std::string_view kUnpackedFolder = "~tt";   ///< beside pages: 
 
 /// Hidden entries of the folder of copies, beside the folders that are named after the origin of a file: the
 /// files that a step of the history can bring back, those of another exam that is open to take questions
-/// from, those of a file of a learning system, and pasted questions, each of the latter three with a number.
+/// from, those of a file of a learning system, those of a question of the bank that is looked at, and pasted
+/// questions, each of the latter four with a number.
 inline constexpr std::string_view kHistoryFolder = ".history";
 inline constexpr std::string_view kOtherExamFolder = ".other-exam-";
 inline constexpr std::string_view kForeignExamFolder = ".foreign-exam-";
+inline constexpr std::string_view kLookedAtFolder = ".looked-at-";
 inline constexpr std::string_view kPastedFile = ".pasted-";
 
 /// Parent of all student folders, in the application folder or the current one.
