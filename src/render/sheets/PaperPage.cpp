@@ -54,6 +54,11 @@ class PaperRows {
     return rows;
   }
 
+  std::u16string One(int number) const {
+    const auto key = std::ranges::find(keys_, number, &KeyRow::number);
+    return key == keys_.end() ? std::u16string() : Row(Question(*key));
+  }
+
   /// What all questions together are worth.
   std::u16string Scores() const {
     if (HasOneScore(exam_.scoreMode)) return Caption(exam_, text_id::kSameScores);
@@ -119,6 +124,10 @@ std::u16string ComposePaper(const FrameSetExam& exam, const SheetRequest& reques
 
 std::u16string ComposeSolutions(const FrameSetExam& exam, const SheetRequest& request) {
   return Compose(exam, request, true);
+}
+
+std::u16string ComposeQuestion(const FrameSetExam& exam, int number, const SheetRequest& request) {
+  return PanePage(exam, request, PaperRows(exam, false).One(number));
 }
 
 }  // namespace quorvantis

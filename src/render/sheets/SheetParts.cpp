@@ -89,4 +89,11 @@ std::u16string SheetPage(const FrameSetExam& exam, const SheetRequest& request, 
                kSheetScript);
 }
 
+std::u16string PanePage(const FrameSetExam& exam, const SheetRequest& request, std::u16string_view rows) {
+  const bool isRightToLeft = RunsRightToLeft(exam, request.languageIsRightToLeft);
+  return kPage(isRightToLeft ? u"rtl" : u"ltr", EscapeHtml(exam.title),
+               std::u16string(kSheetStyle) + std::u16string(kPaneStyle), request.largePrint ? u"large" : u"",
+               u"", u"", rows, kSheetScript);
+}
+
 }  // namespace quorvantis

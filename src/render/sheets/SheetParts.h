@@ -31,4 +31,7 @@ std::u16string Heading(const FrameSetExam& exam, const SheetRequest& request, st
 /// The page around its rows.
 std::u16string SheetPage(const FrameSetExam& exam, const SheetRequest& request, std::u16string_view rows);
 
+/// The same for a pane of a window: without buttons and a foot, as wide as the pane.
+std::u16string PanePage(const FrameSetExam& exam, const SheetRequest& request, std::u16string_view rows);
+
 }  // namespace quorvantis

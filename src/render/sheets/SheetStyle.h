@@ -91,6 +91,12 @@ body.large { font-size: 18pt; line-height: 1.6; word-spacing: 0.15em; }
 }
 )css";
 
+/// What is different in a pane.
+inline constexpr std::u16string_view kPaneStyle =
+    uR"css(
+@media screen { body { max-width: none; margin: 0; padding: 3mm; } }
+)css";
+
 /// Gives each text of an author its markup. By itself, so that what it leaves open ends with it; and without
 /// what would change the rest of the page.
 inline constexpr std::u16string_view kSheetScript =
