@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "preview/PreviewWindows.h"
 
-#include "preview/BrowserEngine.h"
 #include "preview/PageScripts.h"
-#include "preview/RequestGuard.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QWebEngineScriptCollection>
 
 #include <chrono>
 #include <utility>
@@ -20,19 +17,6 @@ constexpr int kTurn = 50;  // milliseconds
 
 }  // namespace
 
-/// Shared by all windows. The profile has no name and so keeps nothing on the disk.
-struct PreviewWindows::Browser {
-  explicit Browser(const GatewaySetup& setup) : gateway(setup) {
-    profile.setUrlRequestInterceptor(&guard);
-    profile.installUrlSchemeHandler(QByteArray(kExamScheme.data()), &gateway);
-    profile.scripts()->insert(PageScript({setup.texts.preparing, setup.texts.cannotShow}));
-  }
-
-  RequestGuard guard;
-  ExamGateway gateway;
-  QWebEngineProfile profile;
-};
-
 PreviewWindows::PreviewWindows(GatewaySetup setup) : setup_(std::move(setup)) {}
 
 PreviewWindows::~PreviewWindows() {
@@ -43,8 +27,10 @@ PreviewWindows::~PreviewWindows() {
 }
 
 PreviewWindows::Window PreviewWindows::Make() {
-  if (!browser_) browser_ = std::make_unique<Browser>(setup_);
-  Window window(new PreviewWindow(browser_->profile, browser_->gateway, setup_.applicationFolder, ask_),
+  if (!browser_)
+    browser_ =
+        std::make_unique<ExamBrowser>(setup_, PageScript({setup_.texts.preparing, setup_.texts.cannotShow}));
+  Window window(new PreviewWindow(browser_->Profile(), browser_->Gateway(), setup_.applicationFolder, ask_),
                 Discard{this});
   if (!ask_) window->Printer().AvoidAsking([this] { return keys_.IsUserBusy(); });
   keys_.Watch(*window);

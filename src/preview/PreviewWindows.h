@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "preview/ExamGateway.h"
+#include "preview/ExamBrowser.h"
 #include "preview/PreviewKeys.h"
 #include "preview/PreviewWindow.h"
-
-#include <QWebEngineProfile>
 
 #include <memory>
 #include <vector>
@@ -41,13 +39,12 @@ class PreviewWindows {
   void ChoosePrinterWith(PagePrinter::AskForPrinter ask) { ask_ = std::move(ask); }
 
  private:
-  struct Browser;
   void Retire(PreviewWindow* window);
   void Release(PreviewWindow* window);
 
   GatewaySetup setup_;
   PagePrinter::AskForPrinter ask_;
-  std::unique_ptr<Browser> browser_;
+  std::unique_ptr<ExamBrowser> browser_;  ///< shared by all windows
   PreviewKeys keys_;
   std::vector<std::unique_ptr<PreviewWindow>> lingering_;  ///< print or hand over; go before the browser
 };
