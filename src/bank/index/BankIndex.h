@@ -55,7 +55,7 @@ struct BankExam {
 /// belongs to one thread; each thread opens its own.
 class BankIndex {
  public:
-  static constexpr int kVersion = 1;        ///< of what is in the file; raise it with every change
+  static constexpr int kVersion = 2;        ///< of what is in the file; raise it with every change
   static constexpr int kPatience = 10'000;  ///< milliseconds to wait for other programs
 
   /// Opens the index, or makes an empty one. Nothing with `problem` set if that fails. `files` writes the

@@ -3,10 +3,12 @@
 
 #include "bank/index/FoldedLetters.h"
 #include "text/AsciiCase.h"
+#include "text/HtmlEntities.h"
 #include "text/LikelyTag.h"
 #include "text/Utf.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace quorvantis {
 namespace {
@@ -16,14 +18,6 @@ struct Replaced {
   std::size_t length = 0;  ///< units of the text; 0 if nothing is replaced
   std::u16string_view by = {};
 };
-
-struct EntityRow {
-  std::u16string_view written;
-  std::u16string_view shown;
-};
-
-constexpr EntityRow kEntityRows[] = {
-    {u"&lt;", u"<"}, {u"&gt;", u">"}, {u"&amp;", u"&"}, {u"&nbsp;", u" "}, {u"&quot;", u"\""}};
 
 bool IsNameLetter(char16_t unit) {
   return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z';
@@ -48,15 +42,6 @@ Replaced TagAt(std::u16string_view text) {
   return {length, IsWithinLine(name) ? std::u16string_view() : u" "};
 }
 
-Replaced MarkupAt(std::u16string_view text) {
-  if (text.front() == u'<') return TagAt(text);
-  if (text.front() != u'&') return {};
-  for (const EntityRow& row : kEntityRows) {
-    if (text.starts_with(row.written)) return {row.written.size(), row.shown};
-  }
-  return {};
-}
-
 /// Calls `take` with each folded unit and the part of the text that it stands for. Blanks come singly, and
 /// neither at the begin nor at the end.
 template <class Take>
@@ -75,15 +60,23 @@ void FoldUnits(std::u16string_view text, Take take) {
       take(unit, origin);
     }
   };
+  const auto takeEntity = [&](const HtmlEntity& entity, std::size_t at) {
+    std::u16string shown;
+    AppendCodePoint(shown, entity.codePoint);
+    for (const char16_t unit : shown) takeAll(FoldedLetter(unit), {at, at + entity.length});
+  };
   for (std::size_t at = 0; at < text.size();) {
-    const Replaced markup = MarkupAt(text.substr(at));
-    if (markup.length > 0) {
-      takeAll(markup.by, {at, at + markup.length});
-      at += markup.length;
-      continue;
+    const std::u16string_view rest = text.substr(at);
+    const Replaced tag = rest.front() == u'<' ? TagAt(rest) : Replaced();
+    const auto entity = rest.front() == u'&' ? ReadEntity(rest) : std::nullopt;
+    if (tag.length > 0) {
+      takeAll(tag.by, {at, at + tag.length});
+    } else if (entity) {
+      takeEntity(*entity, at);
+    } else {
+      takeAll(FoldedLetter(rest.front()), {at, at + 1});
     }
-    takeAll(FoldedLetter(text[at]), {at, at + 1});
-    ++at;
+    at += tag.length > 0 ? tag.length : entity ? entity->length : 1;
   }
 }
 

@@ -11,7 +11,8 @@ namespace quorvantis {
 
 /// A text as a search compares it: small letters without accents and vowel signs, wide and raised characters
 /// as ordinary ones, one form of each quotation mark, dash, digit and Arabic letter, single blanks, no
-/// markup. "H<sub>2</sub>O", "H₂O" and "h2o" are the same, so are "Éclair" and "eclair", "أحمد" and "احمد".
+/// markup. "H<sub>2</sub>O", "H₂O" and "h2o" are the same, so are "Éclair", "&Eacute;clair" and "eclair",
+/// "أحمد" and "احمد".
 std::u16string FoldForSearch(std::u16string_view text);
 
 /// The same, with the way back to the original.
