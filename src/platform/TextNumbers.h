@@ -1098,5 +1098,10 @@ constexpr int kAskedOtherFiles = 2576;
 constexpr int kAskedOtherOptions = 2577;
 constexpr int kAskedCopy = 2578;
 constexpr int kAskedAgain = 2579;
+constexpr int kBankViews = 2460;
+constexpr int kBankAsText = 2461;
+constexpr int kBankAsPage = 2462;
+constexpr int kBankAsPageTip = 2463;
+constexpr int kBankPageComes = 2464;
 
 }  // namespace quorvantis::text_id

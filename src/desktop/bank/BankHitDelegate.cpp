@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QTextLayout>
 
+#include <utility>
+
 namespace quorvantis {
 namespace {
 
@@ -44,6 +46,25 @@ void DrawExcerpt(QPainter& painter, const QRect& place, const QFont& font, const
   layout.draw(&painter, place.topLeft());
 }
 
+/// Drawings may have no background, and are made for paper.
+void DrawPicture(QPainter& painter, const QRect& place, const QImage& picture) {
+  if (picture.isNull()) return;
+  const QSize size = picture.size().scaled(place.size(), Qt::KeepAspectRatio).expandedTo({1, 1});
+  const QRect shown = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, place);
+  painter.fillRect(shown, Qt::white);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(shown, picture);
+}
+
+/// Takes the place of the picture from `inner`, at the end of the row.
+QRect TakePicturePlace(QRect& inner, Qt::LayoutDirection direction) {
+  const int side = inner.height();
+  const QRect picture(inner.right() - side + 1, inner.top(), side, side);
+  const QRect texts = inner.adjusted(0, 0, -side - kMargin, 0);
+  const QRect whole = std::exchange(inner, QStyle::visualRect(direction, inner, texts));
+  return QStyle::visualRect(direction, whole, picture);
+}
+
 }  // namespace
 
 void BankHitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -59,7 +80,11 @@ void BankHitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
   painter->save();
   painter->setClipRect(row.rect);
   painter->setPen(row.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
-  const QRect inner = row.rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
+  QRect inner = row.rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
+  if (index.data(BankHitsModel::HasPictureRole).toBool()) {
+    const QRect place = TakePicturePlace(inner, row.direction);
+    DrawPicture(*painter, place, index.data(BankHitsModel::PictureRole).value<QImage>());
+  }
   const QFontMetrics metrics(row.font);
   const QString heading =
       metrics.elidedText(index.data(BankHitsModel::HeadingRole).toString(), Qt::ElideMiddle, inner.width());

@@ -6,7 +6,8 @@
 namespace quorvantis {
 
 /// Draws a row of a BankHitsModel: where the question is, and below it two lines of its text with the words
-/// that were looked for underlined and bold. Each text runs in its own direction.
+/// that were looked for underlined and bold; at the end the picture of the question. Each text runs in its
+/// own direction.
 class BankHitDelegate : public QStyledItemDelegate {
   Q_OBJECT
 

@@ -13,12 +13,21 @@
 namespace quorvantis {
 
 void BankHitsModel::Show(std::vector<BankHit> hits) {
+  if (thumbnails_ != nullptr) thumbnails_->TryAgain();
   beginResetModel();
   hits_ = std::move(hits);
   excerpts_.clear();
   excerpts_.reserve(hits_.size());
   for (const BankHit& hit : hits_) excerpts_.push_back(ExcerptOf(hit));
   endResetModel();
+}
+
+/// Only rows that are in view are painted again.
+void BankHitsModel::ShowPicturesOf(BankThumbnails& thumbnails) {
+  thumbnails_ = &thumbnails;
+  connect(&thumbnails, &BankThumbnails::Came, this, [this] {
+    if (!hits_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {PictureRole});
+  });
 }
 
 QString BankHeading(const BankQuestion& question, const StringTable& strings) {
@@ -46,9 +55,17 @@ QVariant BankHitsModel::data(const QModelIndex& index, int role) const {
       return ToQString(excerpts_[row].text);
     case MarksRole:
       return MarksToVariant(excerpts_[row].marks);
+    case HasPictureRole:
+      return thumbnails_ != nullptr && BankThumbnails::HasPicture(hits_[row].question);
+    case PictureRole:
+      return thumbnails_ != nullptr ? thumbnails_->Of(hits_[row].question) : QImage();
     default:
       return {};
   }
+}
+
+Qt::ItemFlags BankHitsModel::flags(const QModelIndex& index) const {
+  return QAbstractListModel::flags(index) | (index.isValid() ? Qt::ItemIsDragEnabled : Qt::NoItemFlags);
 }
 
 QVariant MarksToVariant(const std::vector<TextSpan>& marks) {

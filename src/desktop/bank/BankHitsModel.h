@@ -3,6 +3,7 @@
 
 #include "bank/search/BankSearch.h"
 #include "desktop/bank/BankHitText.h"
+#include "desktop/bank/BankThumbnails.h"
 #include "platform/StringTable.h"
 
 #include <QAbstractListModel>
@@ -20,24 +21,28 @@ class BankHitsModel : public QAbstractListModel {
 
  public:
   /// What a row shows beside its whole text, which is its DisplayRole.
-  enum Role { HeadingRole = Qt::UserRole, ExcerptRole, MarksRole };
+  enum Role { HeadingRole = Qt::UserRole, ExcerptRole, MarksRole, HasPictureRole, PictureRole };
 
   /// `strings` must outlive the model.
   BankHitsModel(const StringTable& strings, QObject* parent)
       : QAbstractListModel(parent), strings_(strings) {}
 
   void Show(std::vector<BankHit> hits);
+  /// Rows have the pictures of `thumbnails`, which must outlive the last use of the model.
+  void ShowPicturesOf(BankThumbnails& thumbnails);
   const BankHit& HitAt(int row) const { return hits_.at(static_cast<std::size_t>(row)); }
 
   QString HeadingOf(const BankHit& hit) const { return BankHeading(hit.question, strings_); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
   const StringTable& strings_;
   std::vector<BankHit> hits_;
   std::vector<BankHitText> excerpts_;  ///< one a hit
+  BankThumbnails* thumbnails_ = nullptr;
 };
 
 /// Qt's values hold marks as numbers: begin and length of each.

@@ -30,19 +30,6 @@ std::u16string Counted(std::size_t count) {
   return FormatInteger(static_cast<std::int64_t>(count));
 }
 
-/// Bold, too: an extra selection of an edit could only underline.
-void MarkIn(QTextDocument& document, const std::vector<TextSpan>& marks) {
-  QTextCharFormat format;
-  format.setFontWeight(QFont::Bold);
-  format.setFontUnderline(true);
-  QTextCursor cursor(&document);
-  for (const TextSpan& mark : marks) {
-    cursor.setPosition(static_cast<int>(mark.begin));
-    cursor.setPosition(static_cast<int>(mark.end), QTextCursor::KeepAnchor);
-    cursor.mergeCharFormat(format);
-  }
-}
-
 bool IsAmong(const std::vector<BankHit>& hits, const BankHit& sought) {
   return std::any_of(hits.begin(), hits.end(),
                      [&sought](const BankHit& hit) { return hit.question.id == sought.question.id; });
@@ -57,12 +44,13 @@ BankWindow::BankWindow(BankDesk& desk, const ExamServices& services, BankActions
       actions_(std::move(actions)),
       place_(services.applicationFolder, services.files, u"bank"),
       model_(services.strings, nullptr),
+      thumbnails_(services, nullptr),
       query_(new BankQueryLine(services.strings, this)),
-      list_(new QListView(this)),
-      whole_(new QTextEdit(this)),
+      list_(new BankHitsView(this)),
+      pane_(new BankQuestionPane(services, actions_.makePage, this)),
       elsewhere_(new BankElsewhereLine(desk, this)),
       status_(new QLabel(this)),
-      insert_(MakeButton("bankInsert", text_id::kBankInsert, &BankWindow::Insert)),
+      insert_(MakeButton("bankInsert", text_id::kBankInsert, &BankWindow::InsertChosen)),
       show_(MakeButton("bankShow", text_id::kBankShow, &BankWindow::ShowPage)),
       openExam_(MakeButton("bankOpenExam", text_id::kBankOpenExam, &BankWindow::OpenExam)),
       draw_(MakeButton("bankDraw", text_id::kDrawOfBank, &BankWindow::Draw)),
@@ -71,9 +59,6 @@ BankWindow::BankWindow(BankDesk& desk, const ExamServices& services, BankActions
   setObjectName("bankWindow");
   setWindowTitle(Text(text_id::kBankTitle));
   SetUpList();
-  NameControl(whole_, "bankQuestion", Text(text_id::kBankQuestion));
-  whole_->setReadOnly(true);
-  whole_->setTabChangesFocus(true);
   NameControl(status_, "bankStatus", {});
   status_->setTextFormat(Qt::PlainText);
   status_->setWordWrap(true);
@@ -101,18 +86,18 @@ QPushButton* BankWindow::MakeButton(const char* name, int text, void (BankWindow
 
 void BankWindow::SetUpList() {
   NameControl(list_, "bankHits", Text(text_id::kBankHits));
+  model_.ShowPicturesOf(thumbnails_);
   list_->setModel(&model_);
   list_->setItemDelegate(new BankHitDelegate(list_));
-  list_->setUniformItemSizes(true);
-  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  list_->setAlternatingRowColors(true);
+  list_->InsertWith(
+      [this](const BankQuestion& question, std::optional<int> after) { return Insert(question, after); });
   list_->installEventFilter(this);
 }
 
 void BankWindow::PlaceControls() {
   auto* sides = new QSplitter(Qt::Vertical, this);
   sides->addWidget(list_);
-  sides->addWidget(whole_);
+  sides->addWidget(pane_);
   sides->setStretchFactor(0, 2);
   sides->setStretchFactor(1, 1);
   sides->setChildrenCollapsible(false);
@@ -147,7 +132,8 @@ void BankWindow::Connect() {
   connect(&whenQuiet_, &QTimer::timeout, this, &BankWindow::Search);
   connect(&whileUpdating_, &QTimer::timeout, this, &BankWindow::ShowState);
   connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &BankWindow::ShowChosen);
-  connect(list_, &QListView::doubleClicked, this, &BankWindow::Insert);
+  connect(list_, &QListView::doubleClicked, this, &BankWindow::InsertChosen);
+  connect(pane_, &BankQuestionPane::Left, list_, [this] { list_->setFocus(); });
   connect(&desk_, &BankDesk::Found, this, &BankWindow::ShowHits);
   connect(&desk_, &BankDesk::Updated, this, &BankWindow::Search);
   connect(&desk_, &BankDesk::UpdateChanged, this, &BankWindow::ShowState);
@@ -211,14 +197,7 @@ void BankWindow::ShowChosen() {
   kept_ = hit == nullptr ? 0 : hit->question.id;
   told_.clear();
   elsewhere_->Show(hit == nullptr ? nullptr : &hit->question);
-  const BankHitText whole = hit == nullptr ? BankHitText() : WholeTextOf(*hit);
-  const QString text = ToQString(whole.text);
-  QTextOption option = whole_->document()->defaultTextOption();
-  option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-  whole_->document()->setDefaultTextOption(option);
-  whole_->setCurrentCharFormat({});  // the text would take that of a mark at its begin
-  whole_->setPlainText(text);
-  MarkIn(*whole_->document(), whole.marks);
+  pane_->Show(hit);
 }
 
 QString BankWindow::StateOfSearch() const {
@@ -250,11 +229,14 @@ void BankWindow::ShowState() {
   status_->setAccessibleName(state);
 }
 
-void BankWindow::Insert() {
-  const BankHit* const hit = Chosen();
-  if (hit == nullptr) return;
-  told_ = actions_.insert(hit->question);
+QString BankWindow::Insert(const BankQuestion& question, std::optional<int> after) {
+  told_ = actions_.insert(question, after);
   ShowState();
+  return told_;
+}
+
+void BankWindow::InsertChosen() {
+  if (const BankHit* const hit = Chosen()) Insert(BankQuestion(hit->question), std::nullopt);
 }
 
 void BankWindow::ShowPage() {
@@ -280,7 +262,7 @@ bool BankWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == list_ && event->type() == QEvent::KeyPress) {
     const auto& key = static_cast<QKeyEvent&>(*event);
     if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
-      Insert();
+      InsertChosen();
       return true;
     }
     if (key.key() == Qt::Key_Up && list_->currentIndex().row() <= 0) {

@@ -4,14 +4,16 @@
 #include "desktop/bank/BankDesk.h"
 #include "desktop/bank/BankElsewhereLine.h"
 #include "desktop/bank/BankHitsModel.h"
+#include "desktop/bank/BankHitsView.h"
+#include "desktop/bank/BankPageView.h"
 #include "desktop/bank/BankQueryLine.h"
+#include "desktop/bank/BankQuestionPane.h"
+#include "desktop/bank/BankThumbnails.h"
 #include "shell/settings/WindowPlace.h"
 
 #include <QDialog>
 #include <QLabel>
-#include <QListView>
 #include <QPushButton>
-#include <QTextEdit>
 #include <QTimer>
 
 #include <functional>
@@ -21,12 +23,15 @@ namespace quorvantis {
 
 /// What the window of the bank asks the program to do with a question.
 struct BankActions {
-  /// Inserts it after the question that is shown. Says what was done; empty if it was refused.
-  std::function<QString(const BankQuestion&)> insert;
+  /// Inserts it after that question of the exam, or after the one that is shown. Says what was done; empty if
+  /// it was refused.
+  BankHitsView::Inserts insert;
   /// Shows it as pupils see it.
   std::function<void(const BankQuestion&)> show;
   /// Opens its exam there.
   std::function<void(const BankQuestion&)> openExam;
+  /// Makes what shows it as pupils see it within the window; empty if nothing can.
+  BankPageView::Make makePage;
   /// Opens the window that draws from the bank.
   std::function<void()> draw;
   /// Tells what of the open exam was asked before.
@@ -65,7 +70,8 @@ class BankWindow : public QDialog {
   void ShowState();
   QString StateOfSearch() const;
   QString StateOfUpdate() const;
-  void Insert();
+  QString Insert(const BankQuestion& question, std::optional<int> after);
+  void InsertChosen();
   void ShowPage();
   void OpenExam();
   void Draw() { actions_.draw(); }
@@ -81,9 +87,10 @@ class BankWindow : public QDialog {
   const BankActions actions_;
   WindowPlaceSetting place_;
   BankHitsModel model_;
+  BankThumbnails thumbnails_;
   BankQueryLine* query_;
-  QListView* list_;
-  QTextEdit* whole_;
+  BankHitsView* list_;
+  BankQuestionPane* pane_;
   BankElsewhereLine* elsewhere_;
   QLabel* status_;
   QPushButton* insert_;

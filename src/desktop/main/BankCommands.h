@@ -4,6 +4,7 @@
 #include "desktop/bank/AskedBeforeWindow.h"
 #include "desktop/bank/BankDesk.h"
 #include "desktop/bank/BankWindow.h"
+#include "desktop/main/PdfExport.h"
 #include "desktop/main/SheetCommands.h"
 #include "desktop/overview/ShownQuestionCommands.h"
 #include "platform/digest/OpenSslDigest.h"
@@ -11,23 +12,22 @@
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 namespace quorvantis {
 
 /// The bank in the main window: opens its window, and does what that asks for.
 class BankCommands {
  public:
-  /// Discards the preview window and returns a new hidden one.
-  using RenewPreview = std::function<PreviewWindow&()>;
-
   /// All must outlive this; `window`, the main window, owns the window of the bank. `languageIsRightToLeft`:
   /// of the texts of the program.
-  BankCommands(ExamEditor& editor, ShownQuestionCommands& questions, bool languageIsRightToLeft,
-               RenewPreview renewPreview, QWidget& window)
+  BankCommands(ExamEditor& editor, ShownQuestionCommands& questions, PdfExport& pdf,
+               bool languageIsRightToLeft, SheetCommands::Previews previews, QWidget& window)
       : editor_(editor),
         questions_(questions),
+        pdf_(pdf),
         languageIsRightToLeft_(languageIsRightToLeft),
-        renewPreview_(std::move(renewPreview)),
+        previews_(std::move(previews)),
         window_(window) {}
   BankCommands(const BankCommands&) = delete;
   BankCommands& operator=(const BankCommands&) = delete;
@@ -47,15 +47,27 @@ class BankCommands {
   void ExamChanged();
 
  private:
+  /// Uses the page of a question while its files exist.
+  using UsePage = std::function<void(const std::filesystem::path& page)>;
+
   BankDesk& Desk();
   BankWindow& Window();
-  QString Insert(const BankQuestion& question);
+  BankActions Actions();
+  QString Insert(const BankQuestion& question, std::optional<int> after);
+  void Obey(PreviewWindow& window, const BankQuestion& question, const QString& wish);
+  void SavePdf(const BankQuestion& question);
+  void WithPage(const BankQuestion& question, const UsePage& use);
   void OpenExam(const BankQuestion& question);
+  bool IsOpen(const std::filesystem::path& file) const;
+  std::optional<int> PlaceOf(const BankQuestion& question) const;
+  void TellChanged(const BankQuestion& question) const;
+  const ExamServices& Services() const { return editor_.state.document.Services(); }
 
   ExamEditor& editor_;
   ShownQuestionCommands& questions_;
+  PdfExport& pdf_;
   const bool languageIsRightToLeft_;
-  const RenewPreview renewPreview_;
+  const SheetCommands::Previews previews_;
   QWidget& window_;
   std::function<void()> draw_;
   const OpenSslDigest digest_;

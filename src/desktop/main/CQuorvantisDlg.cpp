@@ -4,6 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/DroppedFiles.h"
 #include "desktop/controls/QtText.h"
+#include "desktop/controls/QuestionDrag.h"
 #include "desktop/dialogs/AboutDlg.h"
 #include "desktop/dialogs/CScoreSetupDlg.h"
 #include "desktop/main/Attaching.h"
@@ -122,9 +123,12 @@ CQuorvantisDlg::CQuorvantisDlg(FrameSetExam& exam, const ComposedPages& pages, W
                [this](const std::filesystem::path& page) { PrintPage(page); }}),
       versions_(editor_, check_, *this, library == nullptr ? 0 : languageId),
       exchange_(editor_, life_.Steps(), *this),
-      bank_(
-          editor_, shownQuestion_, IsRightToLeft(languageId),
-          [this]() -> PreviewWindow& { return RenewFor({}); }, *this),
+      bank_(editor_, shownQuestion_, pdf_, IsRightToLeft(languageId),
+            {[this](PagePrinter::AskForPrinter choose) -> PreviewWindow& {
+               return RenewFor(std::move(choose));
+             },
+             [this](const std::filesystem::path& page) { PrintPage(page); }},
+            *this),
       draw_(editor_, shownQuestion_, bank_, *this),
       recoveryFails_(new WindowNotice("recoveryFails", QStyle::SP_MessageBoxWarning, client_)),
       somethingIsWrong_(new WindowNotice("somethingIsWrong", QStyle::SP_MessageBoxWarning, client_)),
@@ -453,7 +457,8 @@ void CQuorvantisDlg::keyPressEvent(QKeyEvent* event) {
 
 void CQuorvantisDlg::dragEnterEvent(QDragEnterEvent* event) {
   const bool busy = QApplication::activeModalWidget() != nullptr;
-  if (!busy && HasLocalFiles(*event->mimeData())) event->acceptProposedAction();
+  const bool isWanted = QuestionDrag::Of(*event) != nullptr || HasLocalFiles(*event->mimeData());
+  if (!busy && isWanted) event->acceptProposedAction();
 }
 
 /// Handling the files may ask questions, so it waits until the program that they were dragged from is
@@ -461,6 +466,11 @@ void CQuorvantisDlg::dragEnterEvent(QDragEnterEvent* event) {
 void CQuorvantisDlg::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::CopyAction);
   event->accept();
+  if (const QuestionDrag* const question = QuestionDrag::Of(*event)) {
+    QMetaObject::invokeMethod(
+        this, [insert = question->Inserts()] { insert({}); }, Qt::QueuedConnection);
+    return;
+  }
   emit FilesDropped(event->mimeData()->urls());
 }
 

@@ -82,6 +82,11 @@ void OverviewTable::ShowDropAt(int row) {
 }
 
 void OverviewTable::dragEnterEvent(QDragEnterEvent* event) {
+  if (QuestionDrag::Of(*event) != nullptr) {
+    setState(DraggingState);
+    event->acceptProposedAction();
+    return;
+  }
   if (event->source() != this || !event->mimeData()->hasFormat(kDraggedRows)) return;
   setState(DraggingState);
   event->acceptProposedAction();
@@ -90,9 +95,10 @@ void OverviewTable::dragEnterEvent(QDragEnterEvent* event) {
 /// The base class scrolls near the edges. It sees no place to drop there, but this class does.
 void OverviewTable::dragMoveEvent(QDragMoveEvent* event) {
   QTableView::dragMoveEvent(event);
-  if (event->source() != this) return event->ignore();
+  const bool isQuestion = QuestionDrag::Of(*event) != nullptr;
+  if (event->source() != this && !isQuestion) return event->ignore();
   ShowDropAt(RowAtDrop(event->position().toPoint()));
-  event->setDropAction(Qt::MoveAction);
+  event->setDropAction(isQuestion ? Qt::CopyAction : Qt::MoveAction);
   event->accept();
 }
 
@@ -102,13 +108,17 @@ void OverviewTable::dragLeaveEvent(QDragLeaveEvent* event) {
 }
 
 void OverviewTable::dropEvent(QDropEvent* event) {
-  if (event->source() != this) return event->ignore();
+  const QuestionDrag* const question = QuestionDrag::Of(*event);
+  if (event->source() != this && question == nullptr) return event->ignore();
   const int row = RowAtDrop(event->position().toPoint());
   ShowDropAt(-1);
   stopAutoScroll();
   setState(NoState);
   event->acceptProposedAction();
-  emit RowsDropped(row);
+  if (question == nullptr) return emit RowsDropped(row);
+  QMetaObject::invokeMethod(
+      this, [this, row, insert = question->Inserts()] { emit QuestionDropped(row, insert); },
+      Qt::QueuedConnection);
 }
 
 void OverviewTable::paintEvent(QPaintEvent* event) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/controls/QuestionDrag.h"
+
 #include <QTableView>
 
 namespace quorvantis {
@@ -19,6 +21,8 @@ class OverviewTable : public QTableView {
  signals:
   /// The selected rows have been dropped in front of `row`; the number of rows stands for the end.
   void RowsDropped(int row);
+  /// A question of another exam has been dropped there. Comes when the drag has ended.
+  void QuestionDropped(int row, const QuestionDrag::Insert& insert);
 
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;

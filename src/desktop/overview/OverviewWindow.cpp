@@ -73,6 +73,7 @@ OverviewWindow::OverviewWindow(ExamEditor& editor, WholeQuestionCommands& comman
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &OverviewWindow::EnableActions);
   connect(table_, &OverviewTable::RowsDropped, this, &OverviewWindow::MoveBefore);
+  connect(table_, &OverviewTable::QuestionDropped, this, &OverviewWindow::InsertBefore);
   connect(table_, &QTableView::doubleClicked, parent, [parent] { parent->activateWindow(); });
   table_->installEventFilter(this);
   table_->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -265,6 +266,14 @@ void OverviewWindow::MoveBefore(int row) {
     const int before = row < model_->rowCount() ? std::min(model_->QuestionAt(row), end) : end;
     const auto ahead = std::ranges::lower_bound(numbers, before) - numbers.begin();
     return commands_.MoveTo(numbers, before - static_cast<int>(ahead));
+  });
+}
+
+/// Of a filtered table, in front of the question that is shown there.
+void OverviewWindow::InsertBefore(int row, const QuestionDrag::Insert& insert) {
+  Run([this, row, &insert](const std::vector<int>&) {
+    const int last = commands_.LastQuestion();
+    return insert(row < model_->rowCount() ? std::min(model_->QuestionAt(row) - 1, last) : last);
   });
 }
 

@@ -64,6 +64,7 @@ class OverviewWindow : public QWidget {
 
   QString MoveBy(int rows);
   void MoveBefore(int row);
+  void InsertBefore(int row, const QuestionDrag::Insert& insert);
   void Run(const Command& command);
 
   void RestorePlace();

@@ -118,10 +118,10 @@ int WholeQuestionCommands::PlaceToInsert() const {
   return LastQuestion() == 0 ? 0 : editor_.state.CurrentQuestion();
 }
 
-QString WholeQuestionCommands::Insert(std::vector<WholeQuestion> questions, ChangeKind how) {
+QString WholeQuestionCommands::Insert(std::vector<WholeQuestion> questions, int after, ChangeKind how) {
   const std::size_t count = questions.size();
-  return Report(editor_.order.InsertWhole(std::move(questions), PlaceToInsert(), how),
-                text_id::kQuestionsInserted, count);
+  return Report(editor_.order.InsertWhole(std::move(questions), after, how), text_id::kQuestionsInserted,
+                count);
 }
 
 QString WholeQuestionCommands::Paste() {
@@ -137,7 +137,7 @@ QString WholeQuestionCommands::Paste() {
   for (int n = 1; n <= copied.QuestionCount(); ++n) numbers.push_back(n);
   TakenQuestions taken = copied.Take(numbers);
   if (!taken.problem.empty()) return Refuse(taken.problem);
-  return Insert(std::move(taken.questions), ChangeKind::PasteQuestion);
+  return Insert(std::move(taken.questions), PlaceToInsert(), ChangeKind::PasteQuestion);
 }
 
 QString WholeQuestionCommands::InsertFromExam(QWidget* parent) {
@@ -152,10 +152,11 @@ QString WholeQuestionCommands::InsertFromExam(QWidget* parent) {
   return InsertFrom(other, dialog.Ticked());
 }
 
-QString WholeQuestionCommands::InsertFrom(const OtherExam& other, const std::vector<int>& numbers) {
+QString WholeQuestionCommands::InsertFrom(const OtherExam& other, const std::vector<int>& numbers,
+                                          std::optional<int> after) {
   TakenQuestions taken = other.Take(numbers);
-  return taken.problem.empty() ? Insert(std::move(taken.questions), ChangeKind::TakeQuestion)
-                               : Refuse(taken.problem);
+  if (!taken.problem.empty()) return Refuse(taken.problem);
+  return Insert(std::move(taken.questions), after.value_or(PlaceToInsert()), ChangeKind::TakeQuestion);
 }
 
 }  // namespace quorvantis

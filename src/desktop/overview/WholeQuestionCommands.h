@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -37,8 +38,9 @@ class WholeQuestionCommands {
   QString Paste();
   /// Asks for an exam file and for questions in it; they come after the question that is shown.
   QString InsertFromExam(QWidget* parent);
-  /// Questions of another exam, by their numbers, after the question that is shown.
-  QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers);
+  /// Questions of another exam, by their numbers, after question `after`, 0 to 500, or after the question
+  /// that is shown.
+  QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers, std::optional<int> after = {});
   /// Questions drawn from several exams, likewise.
   QString InsertDrawn(std::vector<WholeQuestion> questions) {
     return Insert(std::move(questions), ChangeKind::DrawQuestion);
@@ -50,7 +52,7 @@ class WholeQuestionCommands {
  private:
   QString Report(const OrderOutcome& outcome, int text, std::size_t count);
   QString ScoresAfter(const OrderOutcome& outcome) const;
-  QString Insert(std::vector<WholeQuestion> questions, ChangeKind how);
+  QString Insert(std::vector<WholeQuestion> questions, int after, ChangeKind how);
   /// An exam without questions gets them at its beginning, not after the empty question that is shown.
   int PlaceToInsert() const;
   QString Refuse(std::u16string_view problem) const;

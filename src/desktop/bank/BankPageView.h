@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "bank/search/BankSearch.h"
+
+#include <QWidget>
+
+#include <functional>
+
+namespace quorvantis {
+
+/// Shows a question of the bank as pupils see it. Who makes the window of the bank provides it; it takes a
+/// browser, so there is none until it is first needed.
+class BankPageView : public QWidget {
+  Q_OBJECT
+
+ public:
+  using Make = std::function<BankPageView*(QWidget* parent)>;
+
+  using QWidget::QWidget;
+
+  /// Shows the question as its exam file holds it now, or says why that is not possible. Returns at once; a
+  /// question that is asked for later comes instead.
+  virtual void ShowQuestion(const BankQuestion& question) = 0;
+
+  /// Shows nothing, and keeps no file of a question.
+  virtual void ShowNothing() = 0;
+
+ signals:
+  /// Escape was pressed in the page.
+  void Left();
+};
+
+}  // namespace quorvantis

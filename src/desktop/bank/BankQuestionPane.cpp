@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/bank/BankQuestionPane.h"
+
+#include "desktop/bank/BankHitText.h"
+#include "desktop/controls/Controls.h"
+#include "desktop/controls/QtText.h"
+#include "platform/StringTable.h"
+#include "platform/TextNumbers.h"
+
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quorvantis {
+namespace {
+
+constexpr int kUntilPage = 150;  // milliseconds; longer than between two rows of a held key
+
+/// Bold, too: an extra selection of an edit could only underline.
+void MarkIn(QTextDocument& document, const std::vector<TextSpan>& marks) {
+  QTextCharFormat format;
+  format.setFontWeight(QFont::Bold);
+  format.setFontUnderline(true);
+  QTextCursor cursor(&document);
+  for (const TextSpan& mark : marks) {
+    cursor.setPosition(static_cast<int>(mark.begin));
+    cursor.setPosition(static_cast<int>(mark.end), QTextCursor::KeepAnchor);
+    cursor.mergeCharFormat(format);
+  }
+}
+
+bool IsSame(const std::optional<BankQuestion>& a, const std::optional<BankQuestion>& b) {
+  return a && b && a->id == b->id && a->number == b->number && a->exam.path == b->exam.path &&
+         a->exam.size == b->exam.size && a->exam.written == b->exam.written && a->text == b->text &&
+         a->options == b->options;
+}
+
+}  // namespace
+
+BankQuestionPane::BankQuestionPane(const ExamServices& services, BankPageView::Make makePage, QWidget* parent)
+    : QTabWidget(parent),
+      setting_(services.applicationFolder, services.files, services.codePage),
+      makePage_(std::move(makePage)),
+      text_(new QTextEdit(this)) {
+  const auto text = [&services](int number) { return ToQString(services.strings.Text(number)); };
+  setDocumentMode(true);
+  NameControl(tabBar(), "bankViews", text(text_id::kBankViews));
+  NameControl(text_, "bankQuestion", text(text_id::kBankQuestion));
+  text_->setReadOnly(true);
+  text_->setTabChangesFocus(true);
+  text_->setFrameShape(QFrame::NoFrame);
+  addTab(text_, text(text_id::kBankAsText));
+  if (makePage_) {
+    pagePlace_ = new QWidget(this);
+    (new QVBoxLayout(pagePlace_))->setContentsMargins(0, 0, 0, 0);
+    addTab(pagePlace_, text(text_id::kBankAsPage));
+    setTabToolTip(kPageTab, PlainTip(text(text_id::kBankAsPageTip)));
+    if (setting_.IsPage()) setCurrentIndex(kPageTab);
+  }
+  whenStays_.setSingleShot(true);
+  whenStays_.setInterval(kUntilPage);
+  connect(&whenStays_, &QTimer::timeout, this, &BankQuestionPane::ShowPage);
+  connect(this, &QTabWidget::currentChanged, this, &BankQuestionPane::ChooseView);
+}
+
+void BankQuestionPane::Show(const BankHit* hit) {
+  auto question = hit == nullptr ? std::nullopt : std::optional(hit->question);
+  ShowText(hit);
+  if (IsSame(question, question_)) return;  // the page stays, or comes soon
+  question_ = std::move(question);
+  ShowPageSoon();
+}
+
+void BankQuestionPane::ShowText(const BankHit* hit) {
+  const BankHitText whole = hit == nullptr ? BankHitText() : WholeTextOf(*hit);
+  const QString text = ToQString(whole.text);
+  QTextOption option = text_->document()->defaultTextOption();
+  option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+  text_->document()->setDefaultTextOption(option);
+  text_->setCurrentCharFormat({});  // the text would take that of a mark at its begin
+  text_->setPlainText(text);
+  MarkIn(*text_->document(), whole.marks);
+}
+
+void BankQuestionPane::ChooseView() {
+  setting_.Write(IsPageChosen());
+  if (!IsPageChosen()) {
+    if (page_ != nullptr) page_->ShowNothing();
+    return;
+  }
+  MakePageView();
+  ShowPage();
+}
+
+/// Nothing of a question stays in view when there is none.
+void BankQuestionPane::ShowPageSoon() {
+  if (!IsPageChosen() || !isVisible()) return;
+  if (!question_ && page_ != nullptr) page_->ShowNothing();
+  question_ ? whenStays_.start() : whenStays_.stop();
+}
+
+void BankQuestionPane::ShowPage() {
+  whenStays_.stop();
+  if (!IsPageChosen() || !isVisible() || !question_) return;
+  MakePageView();
+  page_->ShowQuestion(*question_);
+}
+
+void BankQuestionPane::MakePageView() {
+  if (page_ != nullptr) return;
+  page_ = makePage_(pagePlace_);
+  pagePlace_->layout()->addWidget(page_);
+  pagePlace_->setFocusProxy(page_);
+  connect(page_, &BankPageView::Left, this, &BankQuestionPane::Left);
+}
+
+void BankQuestionPane::showEvent(QShowEvent* event) {
+  QTabWidget::showEvent(event);
+  ShowPageSoon();
+}
+
+/// Files of a question do not lie about while nobody looks at them.
+void BankQuestionPane::hideEvent(QHideEvent* event) {
+  whenStays_.stop();
+  if (page_ != nullptr) page_->ShowNothing();
+  QTabWidget::hideEvent(event);
+}
+
+}  // namespace quorvantis
