@@ -18,6 +18,7 @@ class BankPageView : public QWidget {
   using Make = std::function<BankPageView*(QWidget* parent)>;
 
   using QWidget::QWidget;
+  ~BankPageView() override;
 
   /// Shows the question as its exam file holds it now, or says why that is not possible. Returns at once; a
   /// question that is asked for later comes instead.
