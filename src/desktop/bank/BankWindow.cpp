@@ -22,7 +22,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr QSize kFirstBankSize(720, 560);  // pixels
+constexpr QSize kFirstBankSize(720, 640);  // pixels
 constexpr int kPauseInTyping = 120;        // milliseconds
 constexpr int kBetweenLooks = 300;         // milliseconds
 
@@ -98,7 +98,7 @@ void BankWindow::PlaceControls() {
   auto* sides = new QSplitter(Qt::Vertical, this);
   sides->addWidget(list_);
   sides->addWidget(pane_);
-  sides->setStretchFactor(0, 2);
+  sides->setStretchFactor(0, 1);
   sides->setStretchFactor(1, 1);
   sides->setChildrenCollapsible(false);
   auto* buttons = new QHBoxLayout;
