@@ -68,7 +68,7 @@ _quorvantis_cli() {
       export:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -- "$word" | grep -E '\.(doc|docx|pdf)$') ;;
       pdf:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.pdf' -- "$word") ;;
       rules:0) mapfile -t COMPREPLY < <(compgen -W "learn check" -- "$word") ;;
-      bank:0) mapfile -t COMPREPLY < <(compgen -W "add remove update list find like" -- "$word") ;;
+      bank:0) mapfile -t COMPREPLY < <(compgen -W "add remove update list find like tag tags draw" -- "$word") ;;
       bank:1) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
       versions:0) mapfile -t COMPREPLY < <(compgen -W "make verify" -- "$word") ;;
       versions:1) mapfile -t COMPREPLY < <(compgen -d -- "$word"; compgen -f -X '!*.exm' -- "$word") ;;

@@ -27,8 +27,10 @@ TagStep StepFor(const std::vector<BankQuestion>& questions, const std::vector<st
   TagStep step;
   for (auto& [folder, changes] : folders) {
     if (changes.empty()) continue;
-    FolderChange& change = step.emplace_back(FolderChange{folder, {}});
+    FolderChange change{folder, {}};
+    change.changes.reserve(changes.size());
     for (auto& [key, one] : changes) change.changes.push_back(std::move(one));
+    step.push_back(std::move(change));
   }
   return step;
 }

@@ -42,6 +42,7 @@ BankDesk::BankDesk(BankPlace place, const ExamServices& services, const FileDige
       place_(std::move(place)),
       services_(services),
       digest_(digest),
+      tags_(std::make_shared<FolderTags>(services.files)),
       search_(nullptr),
       update_(nullptr) {
   whenQuiet_.setSingleShot(true);
@@ -71,7 +72,7 @@ void BankDesk::Find(const BankQuery& query) {
     ExamServices services = ServicesWith(services_, progress);
     if (auto index = Opened(hits->problem)) {
       isEmptied = index->Found() != IndexFound::Whole;
-      *hits = BankSearch(*index, services, digest_).Find(query, kMostHits);
+      *hits = BankSearch(*index, services, digest_, tags_).Find(query, kMostHits);
     }
     return [this, hits, isEmptied] {
       hits_ = hits;

@@ -48,6 +48,9 @@ class BankDesk : public QObject {
   Done UpdateDone() const { return {*examsRead_, *examsToRead_}; }
 
   const BankHits& Hits() const { return *hits_; }
+  const BankPlace& Place() const { return place_; }
+  /// What searches remember of the files of tags; for other threads, too.
+  const std::shared_ptr<FolderTags>& Tags() const { return tags_; }
   const BankUpdateReport& LastUpdate() const { return *report_; }
 
   std::vector<std::filesystem::path> Folders() const;
@@ -80,6 +83,7 @@ class BankDesk : public QObject {
   BankPlace place_;
   const ExamServices& services_;
   const FileDigest& digest_;
+  const std::shared_ptr<FolderTags> tags_;
   KeptBankMemory memory_;
   QTimer whenUnused_;  ///< runs from the last use of the memory on
   BackgroundRun search_;

@@ -8,9 +8,20 @@
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quorvantis {
+namespace {
+
+/// Behind a heading; each tag in its own direction.
+QString TagsOf(const BankHit& hit) {
+  QStringList tags;
+  for (const std::u16string& tag : hit.tags) tags.append(QChar(0x2068) + ToQString(tag) + QChar(0x2069));
+  return tags.isEmpty() ? QString() : QString(" \u00B7 ") + tags.join(", ");
+}
+
+}  // namespace
 
 void BankHitsModel::Show(std::vector<BankHit> hits) {
   if (thumbnails_ != nullptr) thumbnails_->TryAgain();
@@ -35,6 +46,22 @@ QString BankHeading(const BankQuestion& question, const StringTable& strings) {
   return ToQString(FillMessage(strings.Text(text_id::kBankHeading),
                                {FromQString(BankExamName(question.exam)), FormatInteger(question.number),
                                 kind, FromQString(BankExamDay(question.exam))}));
+}
+
+QString BankHitsModel::HeadingOf(const BankHit& hit) const {
+  return BankHeading(hit.question, strings_) + TagsOf(hit);
+}
+
+void BankHitsModel::ShowTags(const std::vector<TagsNow>& now) {
+  for (std::size_t row = 0; row < hits_.size(); ++row) {
+    const BankQuestion& question = hits_[row].question;
+    const auto last = std::find_if(now.rbegin(), now.rend(), [&question](const TagsNow& each) {
+      return each.key == question.key && each.folder == question.exam.path.parent_path();
+    });
+    if (last == now.rend()) continue;
+    hits_[row].tags = last->tags;
+    emit dataChanged(index(static_cast<int>(row)), index(static_cast<int>(row)));
+  }
 }
 
 int BankHitsModel::rowCount(const QModelIndex& parent) const {

@@ -3,6 +3,7 @@
 
 #include "bank/search/BankSearch.h"
 #include "desktop/bank/BankHitText.h"
+#include "desktop/bank/BankTagDesk.h"
 #include "desktop/bank/BankThumbnails.h"
 #include "platform/StringTable.h"
 
@@ -30,9 +31,12 @@ class BankHitsModel : public QAbstractListModel {
   void Show(std::vector<BankHit> hits);
   /// Rows have the pictures of `thumbnails`, which must outlive the last use of the model.
   void ShowPicturesOf(BankThumbnails& thumbnails);
+  /// Tags that have changed since.
+  void ShowTags(const std::vector<TagsNow>& now);
   const BankHit& HitAt(int row) const { return hits_.at(static_cast<std::size_t>(row)); }
 
-  QString HeadingOf(const BankHit& hit) const { return BankHeading(hit.question, strings_); }
+  /// "Biology, spring — 12, choice, 2 files · cells, class:8b".
+  QString HeadingOf(const BankHit& hit) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;

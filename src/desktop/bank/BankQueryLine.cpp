@@ -9,12 +9,15 @@
 
 #include <QBoxLayout>
 #include <QKeyEvent>
+#include <QWhatsThis>
 
 namespace quorvantis {
 
 BankQueryLine::BankQueryLine(const StringTable& strings, QWidget* parent)
     : QWidget(parent),
+      inLanguage_(strings),
       words_(new QLineEdit(this)),
+      help_(new QToolButton(this)),
       kind_(new QComboBox(this)),
       withFiles_(new QCheckBox(ToQString(strings.Text(text_id::kBankWithFiles)), this)),
       withKey_(new QCheckBox(ToQString(strings.Text(text_id::kBankWithKey)), this)) {
@@ -22,6 +25,8 @@ BankQueryLine::BankQueryLine(const StringTable& strings, QWidget* parent)
   NameControl(words_, "bankWords", text(text_id::kBankWords));
   words_->setPlaceholderText(text(text_id::kBankWords));
   words_->setToolTip(PlainTip(text(text_id::kBankWordsTip)));
+  NameControl(help_, "bankQueryHelp", text(text_id::kBankQueryHelp));
+  MakeHelp(PlainTip(text(text_id::kBankWordsTip)));
   words_->setClearButtonEnabled(true);
   words_->installEventFilter(this);
   NameControl(kind_, "bankKind", text(text_id::kBankKind));
@@ -33,7 +38,8 @@ BankQueryLine::BankQueryLine(const StringTable& strings, QWidget* parent)
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(words_, 1);
-  for (QWidget* part : std::initializer_list<QWidget*>{kind_, withFiles_, withKey_}) layout->addWidget(part);
+  for (QWidget* part : std::initializer_list<QWidget*>{help_, kind_, withFiles_, withKey_})
+    layout->addWidget(part);
   setFocusProxy(words_);
   connect(words_, &QLineEdit::textChanged, this, &BankQueryLine::QueryChanged);
   connect(words_, &QLineEdit::returnPressed, this, &BankQueryLine::Left);
@@ -42,8 +48,20 @@ BankQueryLine::BankQueryLine(const StringTable& strings, QWidget* parent)
   connect(withKey_, &QCheckBox::toggled, this, &BankQueryLine::QueryChanged);
 }
 
+/// Shows what can be searched for until the next key or click.
+void BankQueryLine::MakeHelp(const QString& tip) {
+  help_->setText("?");
+  help_->setAutoRaise(true);
+  help_->setToolTip(PlainTip(help_->accessibleName()));
+  help_->setWhatsThis(tip);
+  help_->setFocusPolicy(Qt::TabFocus);
+  connect(help_, &QToolButton::clicked, this, [this] {
+    QWhatsThis::showText(help_->mapToGlobal(help_->rect().bottomLeft()), help_->whatsThis(), help_);
+  });
+}
+
 BankQuery BankQueryLine::Query() const {
-  BankQuery query = ParseBankQuery(FromQString(words_->text()), true);
+  BankQuery query = ParseBankQuery(FromQString(words_->text()), true, inLanguage_);
   if (const int kind = kind_->currentData().toInt(); kind >= 0)
     query.kinds = {static_cast<QuestionKind>(kind)};
   if (withFiles_->isChecked()) query.hasFiles = true;

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QToolButton>
 #include <QWidget>
 
 namespace quorvantis {
@@ -31,7 +32,11 @@ class BankQueryLine : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void MakeHelp(const QString& tip);
+
+  const QueryWords inLanguage_;
   QLineEdit* words_;
+  QToolButton* help_;
   QComboBox* kind_;
   QCheckBox* withFiles_;
   QCheckBox* withKey_;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/BankWindow.h"
 
+#include "bank/tags/TagTexts.h"
 #include "desktop/bank/BankFoldersDlg.h"
 #include "desktop/bank/BankHitDelegate.h"
+#include "desktop/bank/BankSelection.h"
 #include "desktop/controls/CompanionWindow.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
@@ -49,6 +51,7 @@ BankWindow::BankWindow(BankDesk& desk, const ExamServices& services, BankActions
       list_(new BankHitsView(this)),
       pane_(new BankQuestionPane(services, actions_.makePage, this)),
       elsewhere_(new BankElsewhereLine(desk, this)),
+      tags_(new BankTagLine(desk, services, this)),
       status_(new QLabel(this)),
       insert_(MakeButton("bankInsert", text_id::kBankInsert, &BankWindow::InsertChosen)),
       show_(MakeButton("bankShow", text_id::kBankShow, &BankWindow::ShowPage)),
@@ -89,6 +92,7 @@ void BankWindow::SetUpList() {
   model_.ShowPicturesOf(thumbnails_);
   list_->setModel(&model_);
   list_->setItemDelegate(new BankHitDelegate(list_));
+  list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   list_->InsertWith(
       [this](const BankQuestion& question, std::optional<int> after) { return Insert(question, after); });
   list_->installEventFilter(this);
@@ -113,6 +117,7 @@ void BankWindow::PlaceControls() {
   layout->addWidget(query_);
   layout->addWidget(sides, 1);
   layout->addWidget(elsewhere_);
+  layout->addWidget(tags_);
   layout->addLayout(buttons);
   layout->addLayout(ofTheBank);
 }
@@ -134,6 +139,9 @@ void BankWindow::Connect() {
   connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &BankWindow::ShowChosen);
   connect(list_, &QListView::doubleClicked, this, &BankWindow::InsertChosen);
   connect(pane_, &BankQuestionPane::Left, list_, [this] { list_->setFocus(); });
+  connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this] { tags_->Show(SelectedHits(*list_, model_)); });
+  connect(tags_, &BankTagLine::Written, &model_, &BankHitsModel::ShowTags);
   connect(&desk_, &BankDesk::Found, this, &BankWindow::ShowHits);
   connect(&desk_, &BankDesk::Updated, this, &BankWindow::Search);
   connect(&desk_, &BankDesk::UpdateChanged, this, &BankWindow::ShowState);
@@ -161,10 +169,13 @@ void BankWindow::ShowHits() {
   std::vector<BankHit> hits = desk_.Hits().hits;
   if (revealed_ && !IsAmong(hits, *revealed_)) hits.insert(hits.begin(), *revealed_);
   const std::int64_t chosen = kept_;
+  const std::set<std::int64_t> selected = SelectedQuestions(*list_, model_);
   model_.Show(hits);
   const auto same = std::ranges::find(hits, chosen, [](const BankHit& hit) { return hit.question.id; });
   const auto row = same == hits.end() ? 0 : same - hits.begin();
   if (!hits.empty()) list_->setCurrentIndex(model_.index(static_cast<int>(row)));
+  if (same != hits.end()) SelectQuestions(*list_, model_, selected);
+  tags_->Show(SelectedHits(*list_, model_));
   ShowChosen();
   ShowState();
 }
@@ -203,6 +214,10 @@ void BankWindow::ShowChosen() {
 QString BankWindow::StateOfSearch() const {
   const BankHits& hits = desk_.Hits();
   if (hits.problem.IsAnything()) return ToQString(ProblemText(hits.problem, strings_));
+  if (!hits.unreadTags.empty()) {
+    const UnreadTags& unread = hits.unreadTags.front();
+    return ToQString(TagProblemText(unread.result, unread.file, strings_));
+  }
   if (hits.total == 0) return Text(desk_.Folders().empty() ? text_id::kBankNoFolders : text_id::kBankNothing);
   if (hits.total <= hits.hits.size())
     return ToQString(FillMessage(strings_.Text(text_id::kBankFound), {Counted(hits.hits.size())}));

@@ -8,6 +8,7 @@
 #include "desktop/bank/BankPageView.h"
 #include "desktop/bank/BankQueryLine.h"
 #include "desktop/bank/BankQuestionPane.h"
+#include "desktop/bank/BankTagLine.h"
 #include "desktop/bank/BankThumbnails.h"
 #include "shell/settings/WindowPlace.h"
 
@@ -92,6 +93,7 @@ class BankWindow : public QDialog {
   BankHitsView* list_;
   BankQuestionPane* pane_;
   BankElsewhereLine* elsewhere_;
+  BankTagLine* tags_;
   QLabel* status_;
   QPushButton* insert_;
   QPushButton* show_;
