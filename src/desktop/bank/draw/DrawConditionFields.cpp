@@ -48,6 +48,7 @@ void DrawConditionFields::SetUpUsed() {
   used_->addItem(Text(text_id::kDrawNotUsedSince));
   NameControl(day_, "drawDay", Text(text_id::kDrawNotUsedSince));
   day_->setDisplayFormat("yyyy-MM-dd");
+  day_->setLayoutDirection(Qt::LeftToRight);
   day_->setCalendarPopup(true);
   connect(used_, &QComboBox::currentIndexChanged, day_,
           [this](int index) { day_->setEnabled(index == kSince); });

@@ -23,8 +23,8 @@ namespace quorvantis {
 namespace {
 
 constexpr QSize kFirstDrawSize(860, 640);  // pixels
-constexpr int kFirstColumn = 340;          // pixels
-constexpr int kSecondColumn = 200;
+constexpr int kFirstColumn = 290;          // pixels
+constexpr int kSecondColumn = 180;
 
 std::u16string CountText(std::size_t count) {
   return FormatInteger(static_cast<std::int64_t>(count));

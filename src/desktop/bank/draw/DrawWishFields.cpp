@@ -164,20 +164,22 @@ void DrawWishFields::Discard(const Row& row) {
 
 /// Names the fields by their rows, puts them in the order of the Tab key, and makes room for them.
 void DrawWishFields::RowsChanged() {
-  QWidget* before = nullptr;
+  QWidget* before = area_;  // itself no place to stop at
+  area_->setFocusPolicy(Qt::StrongFocus);
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     int column = 0;
     for (QWidget* field : rows_[i].Fields()) {
       const std::string name = kFieldNames[column] + std::to_string(i + 1);
       const bool isField = field != rows_[i].remove;
       NameControl(field, name.c_str(), Text(isField ? kHeadings[column].text : text_id::kDrawRemoveWish));
-      if (before != nullptr) setTabOrder(before, field);
+      setTabOrder(before, field);
       before = field;
       ++column;
     }
     rows_[i].remove->setEnabled(rows_.size() > 1);
   }
   setTabOrder(before, add_);
+  area_->setFocusPolicy(Qt::NoFocus);
   add_->setEnabled(rows_.size() < TypedDraw::kMostWishes);
   const int line = rows_.front().count->sizeHint().height() + grid_->verticalSpacing();
   const int unseen = std::max(0, static_cast<int>(rows_.size()) - kRowsSeen);

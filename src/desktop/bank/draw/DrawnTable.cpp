@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/draw/DrawnTable.h"
 
+#include "desktop/bank/draw/DrawnModel.h"
 #include "desktop/controls/OwnDirection.h"
 
 #include <QHeaderView>
@@ -21,7 +22,8 @@ bool IsOwnKey(const QKeyEvent& key) {
 }  // namespace
 
 DrawnTable::DrawnTable(QWidget* parent) : QTableView(parent) {
-  setItemDelegate(new OwnDirection(this));
+  // The others are the words of the program.
+  setItemDelegateForColumn(DrawnModel::kQuestion, new OwnDirection(this));
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
   setEditTriggers(NoEditTriggers);
