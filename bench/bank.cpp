@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
-// The bank with 1,000 exams of 50 questions, a tenth of them with tags: the first index, an update without
-// changes, and searches beside grep over the texts of the same questions. Needs 1.2 GB in --folder; --exams=N
-// for fewer.
+// The bank with 1,000 exams of 50 questions, a tenth of them with tags: the first index, updates without
+// changes, searches beside grep over the texts of the same questions, and how many of the planted near
+// duplicates are found. Needs 1.2 GB in --folder; --exams=N for fewer.
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "bank/index/BankUpdate.h"
+#include "bank/near/NearQuestions.h"
+#include "bank/search/BankMemory.h"
+#include "bank/search/BankQuestions.h"
 #include "bank/search/BankSearch.h"
 #include "bank/tags/TagFile.h"
 #include "cli/ExamSession.h"
 #include "examfile/ExamFileWriter.h"
 #include "likeness/Shingles.h"
+#include "platform/QuietProgress.h"
 #include "platform/digest/OpenSslDigest.h"
 #include "text/Utf.h"
 
@@ -17,11 +21,14 @@
 #include <chrono>
 #include <cmath>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <random>
+#include <set>
 #include <sstream>
 #include <string>
 #include <sys/resource.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -48,9 +55,18 @@ class Words {
   std::u16string Sentence(std::size_t words) {
     std::u16string text;
     const bool isChinese = random_() % 5 == 0;
-    for (std::size_t i = 0; i < words; ++i) text += isChinese ? Chinese() : Latin(Rank()) + u" ";
+    for (std::size_t i = 0; i < words; ++i) text += isChinese ? Chinese() : Word() + u" ";
     return text;
   }
+  /// The same question with a word, an option or the order of the options changed.
+  ExamQuestion Changed(ExamQuestion question) {
+    const std::size_t change = random_() % 3;
+    if (change == 0) question.text += Word();
+    if (change == 1) question.options[random_() % 4] = Sentence(4);
+    if (change == 2) std::swap(question.options[0], question.options[1 + random_() % 3]);
+    return question;
+  }
+  std::size_t Below(std::size_t limit) { return random_() % limit; }
   /// The word of a rank, 0 for the most frequent one.
   static std::u16string Latin(std::size_t rank) {
     constexpr std::u16string_view kSyllables[] = {u"ta",  u"ri",  u"no", u"mel", u"sa",  u"ko",
@@ -62,6 +78,8 @@ class Words {
   }
 
  private:
+  /// One in twenty has two letters.
+  std::u16string Word() { return random_() % 20 == 0 ? u"is" : Latin(Rank()); }
   std::size_t Rank() {
     const double even = static_cast<double>(random_() % 100'000 + 1) / 100'000;
     return static_cast<std::size_t>(std::pow(20'000.0, even)) - 1;
@@ -79,32 +97,31 @@ class Bank {
  public:
   explicit Bank(const fs::path& folder) : folder_(folder) {}
 
-  /// The exams, and their texts in one file with a line for each question.
+  /// The exams, and their texts in one file with a line for each question. One question in ten is nearly the
+  /// same as one of the exam before.
   void MakeExams(int count) {
-    fs::create_directories(folder_ / "exams");
+    fs::create_directories(folder_ / "papers");
     std::ofstream lines(folder_ / "texts.txt");
-    Words words;
+    std::vector<ExamQuestion> before;
     for (int n = 0; n < count; ++n) {
-      session_.exam.Reset();
-      for (int number = 1; number <= 50; ++number) {
-        ExamQuestion& question = session_.exam.Question(number);
-        question.text = words.Sentence(25);
-        for (std::u16string& option : question.options) option = words.Sentence(4);
-        question.answerLetters = u"a";
-        lines << Utf16ToUtf8(question.text);
-        for (const std::u16string& option : question.options) lines << Utf16ToUtf8(option);
+      std::vector<ExamQuestion> questions;
+      for (std::size_t place = 0; place < kQuestions; ++place) {
+        const bool isPlanted = !before.empty() && place % 10 == 0;
+        questions.push_back(isPlanted ? words_.Changed(before[place + 1]) : NewQuestion());
+        if (isPlanted) Plant(static_cast<std::size_t>(n), place, before[place + 1], questions.back());
+        lines << Utf16ToUtf8(questions.back().text);
+        for (const std::u16string& option : questions.back().options) lines << Utf16ToUtf8(option);
         lines << "\n";
       }
-      session_.exam.CountQuestions();
-      const fs::path file = folder_ / "exams" / (std::to_string(n) + ".exm");
-      if (!fs::exists(file) && ExamFileWriter(session_.exam, session_.services).Write(file)) std::exit(1);
+      WriteExam(folder_ / "papers" / (std::to_string(n) + ".exm"), questions);
+      before = std::move(questions);
     }
   }
 
   void Open() {
     BankProblem problem;
     index_ = BankIndex::Open(BankPlaceAt(folder_ / "bank.sqlite"), session_.services.files, problem);
-    if (!index_ || index_->AddFolder(folder_ / "exams").IsAnything()) std::exit(1);
+    if (!index_ || index_->AddFolder(folder_ / "papers").IsAnything()) std::exit(1);
   }
 
   void Update() {
@@ -135,8 +152,81 @@ class Bank {
   }
 
   void ForgetTags() { tags_ = std::make_shared<FolderTags>(session_.services.files); }
+  void AddFolder(const fs::path& folder) {
+    if (index_->AddFolder(folder).IsAnything()) std::exit(1);
+  }
+
+  /// How many of the planted pairs are found in the index.
+  std::size_t FindPlanted() {
+    std::vector<QuestionSketch> sketches;
+    std::vector<std::int64_t> identifiers;
+    ReadSketches(sketches, identifiers);
+    BankQuestions rows(*index_);
+    const NearQuestions near = FindNearQuestions(sketches, [&](std::size_t place) {
+      return ShinglesOf(ContentOfHit(*rows.Read(identifiers[place])));
+    });
+    std::set<std::pair<std::size_t, std::size_t>> found;
+    for (const NearPair& pair : near.pairs) found.emplace(pair.first, pair.second);
+    for (const auto& group : near.equal) {
+      for (const std::size_t member : group) found.emplace(group.front(), member);
+    }
+    return static_cast<std::size_t>(std::count_if(
+        planted_.begin(), planted_.end(), [&found](const auto& pair) { return found.contains(pair); }));
+  }
+  std::size_t PlantedCount() const { return planted_.size(); }
+
+  /// Makes the memory that looks questions up.
+  void Remember() { memory_.emplace(*index_); }
+
+  /// Looks up where a planted copy stands elsewhere. Whether it is told.
+  bool IsTold(std::size_t planted) {
+    QuietProgress progress;
+    const auto& [original, copy] = planted_[planted % planted_.size()];
+    const auto question = BankQuestions(*index_).Read(identifiers_[copy]);
+    const BankLikeness likeness = memory_->Elsewhere(*index_, digest_, *question, progress);
+    return std::any_of(likeness.uses[0].begin(), likeness.uses[0].end(),
+                       [&, id = identifiers_[original]](const BankUse& use) { return use.question == id; });
+  }
 
  private:
+  static constexpr std::size_t kQuestions = 50;  // of an exam
+
+  ExamQuestion NewQuestion() {
+    ExamQuestion question;
+    question.text = words_.Sentence(25);
+    for (std::u16string& option : question.options) option = words_.Sentence(4);
+    question.answerLetters = u"a";
+    return question;
+  }
+
+  /// Remembers a pair of one exam and the one before by the places among all questions.
+  void Plant(std::size_t exam, std::size_t place, const ExamQuestion& original, const ExamQuestion& copy) {
+    const double likeness = ShinglesOf(ContentOf(original, {})).Likeness(ShinglesOf(ContentOf(copy, {})));
+    const std::size_t first = exam * kQuestions;
+    if (likeness >= kAlike) planted_.emplace_back(first - kQuestions + place + 1, first + place);
+  }
+
+  void WriteExam(const fs::path& file, const std::vector<ExamQuestion>& questions) {
+    if (fs::exists(file)) return;
+    session_.exam.Reset();
+    for (std::size_t i = 0; i < questions.size(); ++i)
+      session_.exam.Question(static_cast<int>(i) + 1) = questions[i];
+    session_.exam.CountQuestions();
+    if (ExamFileWriter(session_.exam, session_.services).Write(file)) std::exit(1);
+  }
+
+  /// In the order of the exams and of the questions in them, as they were made.
+  void ReadSketches(std::vector<QuestionSketch>& sketches, std::vector<std::int64_t>& identifiers) {
+    Statement rows = index_->Data().Prepare(
+        "SELECT question.id, sketch FROM question JOIN content ON content.question = question.id "
+        "JOIN exam ON exam.id = question.exam ORDER BY length(path), path, number");
+    while (rows.Step()) {
+      identifiers.push_back(rows.Integer(0));
+      sketches.push_back(*QuestionSketch::FromBytes(rows.Bytes(1)));
+    }
+    identifiers_ = identifiers;
+  }
+
   fs::path folder_;
   std::istringstream noInput_;
   std::ostringstream output_;
@@ -145,6 +235,10 @@ class Bank {
   OpenSslDigest digest_;
   std::shared_ptr<FolderTags> tags_ = std::make_shared<FolderTags>(session_.services.files);
   std::optional<BankIndex> index_;
+  Words words_;
+  std::vector<std::pair<std::size_t, std::size_t>> planted_;
+  std::vector<std::int64_t> identifiers_;  // of all questions, as they were made
+  std::optional<BankMemory> memory_;
 };
 
 std::string PeakMegabytes() {
@@ -190,6 +284,35 @@ void CompareSearches(Bank& bank, const fs::path& folder) {
   }
 }
 
+void CompareNearDuplicates(Bank& bank) {
+  std::size_t found = 0;
+  const double pairs = SecondsOf([&] { found = bank.FindPlanted(); });
+  const std::string of = std::to_string(found) + " of " + std::to_string(bank.PlantedCount());
+  bench::PrintRow("bank, planted near duplicates found", Milliseconds(pairs), "", of, "all, 10 s");
+  const double remember = MedianOf([&bank] { bank.Remember(); });
+  bench::PrintRow("bank, memory of all questions", Milliseconds(remember), "", Milliseconds(remember) + " ms",
+                  "");
+  std::size_t asked = 0;
+  std::size_t told = 0;
+  const double lookUp = MedianOf([&] { told += bank.IsTold(asked++ * 97) ? 1 : 0; });
+  bench::PrintRow("bank, the same question elsewhere", Milliseconds(lookUp), "",
+                  std::to_string(told) + " of " + std::to_string(asked), "all, 50 ms");
+}
+
+void UpdateAmongOtherFiles(Bank& bank, const fs::path& folder) {
+  constexpr int kFiles = 100'000;
+  fs::create_directories(folder);
+  for (int i = 0; i < kFiles; ++i) {
+    const fs::path file = folder / (std::to_string(i) + ".txt");
+    if (!fs::exists(file)) std::ofstream(file).flush();
+  }
+  bank.AddFolder(folder);
+  const double first = SecondsOf([&bank] { bank.Update(); });
+  const double again = MedianOf([&bank] { bank.Update(); });
+  bench::PrintRow("bank, nothing changed among 100,000 other files", Milliseconds(again), Milliseconds(first),
+                  PeakMegabytes(), "< 1 s, 100 MB");
+}
+
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
@@ -204,6 +327,7 @@ int main(int argumentCount, char** arguments) {
   bank.Update();  // knows now that the files have settled
   const double again = MedianOf([&bank] { bank.Update(); });
   bench::PrintRow("bank, nothing changed", Milliseconds(again), "", Milliseconds(again) + " ms", "< 1 s");
+  UpdateAmongOtherFiles(bank, folder / "other");
   bank.Tag();
   CompareSearches(bank, folder);
   const double cold = MedianOf([&bank] {
@@ -212,5 +336,6 @@ int main(int argumentCount, char** arguments) {
   });
   bench::PrintRow("bank, find a tag for the first time", Milliseconds(cold), "", Milliseconds(cold) + " ms",
                   "");
+  CompareNearDuplicates(bank);
   return 0;
 }
