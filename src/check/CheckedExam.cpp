@@ -3,6 +3,7 @@
 
 #include "model/FillInAnswers.h"
 #include "text/PathText.h"
+#include "text/WithoutAround.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -12,10 +13,7 @@
 namespace quorvantis {
 
 std::u16string_view WithoutBlanks(std::u16string_view text) {
-  constexpr std::u16string_view kBlanks = u" \t\r\n\v\f\u00A0\u3000\u200B\uFEFF";
-  const std::size_t begin = text.find_first_not_of(kBlanks);
-  if (begin == text.npos) return {};
-  return text.substr(begin, text.find_last_not_of(kBlanks) + 1 - begin);
+  return WithoutAround(text, u" \t\r\n\v\f\u00A0\u3000\u200B\uFEFF");
 }
 
 std::vector<std::u16string_view> AnswersOf(std::u16string_view answerText) {

@@ -4,6 +4,7 @@
 #include "text/AsciiCase.h"
 #include "text/ControlCharacters.h"
 #include "text/Utf.h"
+#include "text/WithoutAround.h"
 
 namespace quorvantis {
 namespace {
@@ -27,10 +28,7 @@ std::u16string OnlyAllowed(std::u16string_view title) {
 
 /// A leading dot would hide the file, and a trailing one is not allowed everywhere.
 std::u16string_view WithoutDotsAround(std::u16string_view name) {
-  constexpr std::u16string_view kAround = u". ";
-  const std::size_t begin = name.find_first_not_of(kAround);
-  if (begin == name.npos) return {};
-  return name.substr(begin, name.find_last_not_of(kAround) - begin + 1);
+  return WithoutAround(name, u". ");
 }
 
 bool EndsInSurrogate(std::u16string_view name) {

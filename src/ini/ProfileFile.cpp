@@ -4,6 +4,7 @@
 #include "platform/WholeFile.h"
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
+#include "text/WithoutAround.h"
 
 #include <algorithm>
 
@@ -18,9 +19,7 @@ bool IsLineBreak(char16_t unit) {
 }
 
 std::u16string_view Trim(std::u16string_view text) {
-  const std::size_t begin = text.find_first_not_of(kBlanks);
-  if (begin == std::u16string_view::npos) return {};
-  return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
+  return WithoutAround(text, kBlanks);
 }
 
 std::u16string_view Unquote(std::u16string_view text) {

@@ -6,6 +6,7 @@
 #include "model/AnswerLetters.h"
 #include "model/QuestionKinds.h"
 #include "text/AsciiCase.h"
+#include "text/WithoutAround.h"
 #include "versions/OptionOrder.h"
 
 #include <algorithm>
@@ -19,10 +20,7 @@ bool IsCountedQuestion(const ExamQuestion& question) {
 }
 
 std::u16string_view WithoutBlanks(std::u16string_view text) {
-  constexpr std::u16string_view kBlanks = u" \t\r\n\u00A0\u3000";
-  const std::size_t begin = text.find_first_not_of(kBlanks);
-  if (begin == text.npos) return {};
-  return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
+  return WithoutAround(text, u" \t\r\n\u00A0\u3000");
 }
 
 std::vector<std::size_t> UsedOptions(const ExamQuestion& question) {

@@ -4,6 +4,7 @@
 #include "exchange/form/ExchangeLimits.h"
 #include "platform/TextNumbers.h"
 #include "text/LineBreaks.h"
+#include "text/WithoutAround.h"
 
 #include <algorithm>
 
@@ -27,9 +28,7 @@ std::u16string HeadText(const ExchangeSource& source) {
 }
 
 std::u16string_view Trimmed(std::u16string_view text) {
-  constexpr std::u16string_view kSpace = u" \t\r\n\u00A0";
-  const std::size_t begin = std::min(text.find_first_not_of(kSpace), text.size());
-  return text.substr(begin, text.find_last_not_of(kSpace) + 1 - begin);
+  return WithoutAround(text, u" \t\r\n\u00A0");
 }
 
 std::vector<std::u16string_view> LinesOf(std::u16string_view text) {

@@ -5,6 +5,7 @@
 #include "text/AsciiCase.h"
 #include "text/HtmlEntities.h"
 #include "text/Utf.h"
+#include "text/WithoutAround.h"
 
 #include <algorithm>
 
@@ -19,11 +20,6 @@ bool IsTellingStyle(std::u16string_view style) {
   constexpr std::u16string_view kTelling[] = {u"color", u"font", u"background", u"decoration"};
   return std::any_of(std::begin(kTelling), std::end(kTelling),
                      [style](std::u16string_view word) { return style.find(word) != style.npos; });
-}
-
-std::u16string_view WithoutSpace(std::u16string_view text) {
-  const std::size_t begin = std::min(text.find_first_not_of(kSpace), text.size());
-  return text.substr(begin, text.find_last_not_of(kSpace) + 1 - begin);
 }
 
 }  // namespace
@@ -214,7 +210,7 @@ void MarkupReader::TakeSpan(const ReadTag& tag) {
 /// A link that is a file leaves the text, with its label if that is only the name of the file.
 void MarkupReader::TakeLink(const ReadTag& tag) {
   if (linkIsOpen_) {
-    const std::u16string label(WithoutSpace(pieces_.TextFrom(linkMark_)));
+    const std::u16string label(WithoutAround(pieces_.TextFrom(linkMark_), kSpace));
     if (IsOfTheNet(linkAddress_)) {
       if (label != linkAddress_) {
         pieces_.AddText(u" (" + linkAddress_ + u")");
