@@ -9,13 +9,13 @@
 namespace quorvantis {
 namespace {
 
-constexpr SmallButtonBitmaps kNext{"NextQuestionU", "NextQuestiond", "NextQuestionf", "NextQuestionx"};
-constexpr SmallButtonBitmaps kForward10{"NextQuestion10U", "NextQuestion10d", "NextQuestion10f",
-                                        "NextQuestion10x"};
-constexpr SmallButtonBitmaps kPrevious{"PreviousQuestionU", "PreviousQuestiond", "PreviousQuestionf",
-                                       "PreviousQuestionx"};
-constexpr SmallButtonBitmaps kBack10{"PreviousQuestion10U", "PreviousQuestion10d", "PreviousQuestion10f",
-                                     "PreviousQuestion10x"};
+constexpr SmallButtonBitmaps kNextBitmaps{"NextQuestionU", "NextQuestiond", "NextQuestionf", "NextQuestionx"};
+constexpr SmallButtonBitmaps kForward10Bitmaps{"NextQuestion10U", "NextQuestion10d", "NextQuestion10f",
+                                               "NextQuestion10x"};
+constexpr SmallButtonBitmaps kPreviousBitmaps{"PreviousQuestionU", "PreviousQuestiond", "PreviousQuestionf",
+                                              "PreviousQuestionx"};
+constexpr SmallButtonBitmaps kBack10Bitmaps{"PreviousQuestion10U", "PreviousQuestion10d",
+                                            "PreviousQuestion10f", "PreviousQuestion10x"};
 constexpr SmallButtonBitmaps kDelete{"DeleteU", "Deleted", "Deletef", "Deletex"};
 constexpr SmallButtonBitmaps kInsert{"insertU", "insertd", "insertf", "insertx"};
 constexpr SmallButtonBitmaps kAttach{"attachqu", "attachqd", "attachqf", "attachqx"};
@@ -39,26 +39,26 @@ struct NavigationButtonSpec {
 /// In the order of `InOrder`.
 const NavigationButtonSpec kNavigationSpecs[NavigationButtons::kCount] = {
     {"back10",
-     kBack10,
-     kForward10,
+     kBack10Bitmaps,
+     kForward10Bitmaps,
      text_id::kBackward10,
      {Qt::ALT | Qt::Key_B, Qt::CTRL | Qt::Key_PageUp},
      RunNavigation<&QuestionEditor::GoBack10>},
     {"previous",
-     kPrevious,
-     kNext,
+     kPreviousBitmaps,
+     kNextBitmaps,
      text_id::kPrevious,
      {Qt::ALT | Qt::Key_U, Qt::Key_PageUp},
      RunNavigation<&QuestionEditor::GoPrevious>},
     {"next",
-     kNext,
-     kPrevious,
+     kNextBitmaps,
+     kPreviousBitmaps,
      text_id::kNext,
      {Qt::ALT | Qt::Key_X, Qt::Key_PageDown},
      RunNavigation<&QuestionEditor::GoNext>},
     {"forward10",
-     kForward10,
-     kBack10,
+     kForward10Bitmaps,
+     kBack10Bitmaps,
      text_id::kForward10,
      {Qt::ALT | Qt::Key_W, Qt::CTRL | Qt::Key_PageDown},
      RunNavigation<&QuestionEditor::GoForward10>},

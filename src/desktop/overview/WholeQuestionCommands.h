@@ -43,7 +43,7 @@ class WholeQuestionCommands {
   QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers, std::optional<int> after = {});
   /// Questions drawn from several exams, likewise.
   QString InsertDrawn(std::vector<WholeQuestion> questions) {
-    return Insert(std::move(questions), ChangeKind::DrawQuestion);
+    return Insert(std::move(questions), PlaceToInsert(), ChangeKind::DrawQuestion);
   }
 
   bool CanPaste() const { return clipboard_.HasQuestions(); }
