@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/RenderTest.h"
 #include "render/sheets/KeyTable.h"
+#include "render/sheets/PaperPage.h"
 #include "render/sheets/ReadingDirection.h"
 #include "render/sheets/SheetPages.h"
 #include "render/sheets/SheetParts.h"
@@ -127,6 +128,28 @@ TEST_F(SheetsTest, PagesRunAsTheExamDoesAndOtherwiseAsTheLanguage) {
   EXPECT_TRUE(RunsRightToLeft(exam, false));
   exam.title = u"A rather long English title";
   EXPECT_FALSE(RunsRightToLeft(exam, true));
+}
+
+/// On a page of its own a question looks as it does on the paper, with its number and score there.
+TEST_F(SheetsTest, AQuestionByItselfIsThatOfThePaper) {
+  AddChoice(u"one <b>", {u"x", u"y"}, u"a");
+  Add(QuestionKind::Essay, u"two").attachmentPaths[0] = u"/picture.png";
+  Add(QuestionKind::FillIn, u"three __");
+  exam.scoreMode = ScoreMode::Custom;
+  exam.scoreFrom[0] = 1;
+  exam.scoreTo[0] = 3;
+  exam.scoreValue[0] = 2.5F;
+  const std::string paper = Sheet(Sheet::Paper);
+  for (int number = 1; number <= 4; ++number) {
+    const std::string page = Utf16ToUtf8(ComposeQuestion(exam, number, {}));
+    const std::size_t begin = page.find("<div class=\"row\">");
+    EXPECT_EQ(begin != page.npos, number <= 3);
+    if (begin == page.npos) continue;
+    const std::string row = page.substr(begin, page.find("<div class=\"reserve\">") - begin - 7);
+    EXPECT_NE(paper.find(row), paper.npos) << row;
+    EXPECT_EQ(CountOf("class=\"number\"", page), 1);
+    EXPECT_EQ(CountOf("<input", page), 0);
+  }
 }
 
 }  // namespace
