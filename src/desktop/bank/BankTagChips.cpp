@@ -127,13 +127,18 @@ void BankTagChips::PlaceAll() {
     before = chip;
   }
   setTabOrder(before, undo_);
+  row_->invalidate();
 }
 
 void BankTagChips::Propose(const std::vector<std::u16string>& tags) {
   QStringList list;
   list.reserve(static_cast<qsizetype>(tags.size()));
   for (const std::u16string& tag : tags) list.append(ToQString(tag));
-  if (list != proposals_.stringList()) proposals_.setStringList(list);
+  if (list == proposals_.stringList()) return;
+  proposals_.setStringList(list);  // closes the list of proposals
+  if (!line_->hasFocus() || line_->text().isEmpty()) return;
+  line_->completer()->setCompletionPrefix(line_->text());
+  line_->completer()->complete();
 }
 
 void BankTagChips::OfferUndo(const QString& caption, const QString& tip) {

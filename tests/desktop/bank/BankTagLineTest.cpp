@@ -96,6 +96,9 @@ TEST_F(BankTagLineTest, AddsRemovesAndPutsBack) {
   OpenBank(1);
   TypeTags("  Mitosis, cell  wall\u060C class:8b");
   EXPECT_EQ(Shown(), (QStringList{"Mitosis", "cell wall", "class:8b"})) << "before it is written";
+  Turn();
+  for (const QToolButton* chip : Chips())
+    EXPECT_FALSE(chip->geometry().intersects(AddLine().geometry())) << chip->text().toStdString();
   ASSERT_TRUE(WaitFor({{u"What is a cell?", {u"Mitosis", u"cell wall", u"class:8b"}}}));
   TypeTags("MITOSIS");
   QTest::keyClick(&AddLine(), Qt::Key_Backspace);
@@ -217,6 +220,7 @@ TEST_F(BankTagLineTest, TellsWhatIsNotWrittenAndTriesAgain) {
   Click("bankTagProblemDo");
   ASSERT_TRUE(WaitFor({{first, {u"cell"}}}));
   EXPECT_EQ(ReadBytes(folder / "exams" / "quorvantis-tags.damaged-1.json"), "{");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !Control("bankTagProblemDo").isVisible(); }, 20'000));
 
   fs::remove(file);
   fs::create_directory(file);
