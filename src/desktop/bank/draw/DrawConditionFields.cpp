@@ -47,8 +47,8 @@ void DrawConditionFields::SetUpUsed() {
   used_->addItem(Text(text_id::kDrawAnyTime));
   used_->addItem(Text(text_id::kDrawNotUsedSince));
   NameControl(day_, "drawDay", Text(text_id::kDrawNotUsedSince));
+  day_->setLayoutDirection(Qt::LeftToRight);  // first: a mirrored field turns its format around
   day_->setDisplayFormat("yyyy-MM-dd");
-  day_->setLayoutDirection(Qt::LeftToRight);
   day_->setCalendarPopup(true);
   connect(used_, &QComboBox::currentIndexChanged, day_,
           [this](int index) { day_->setEnabled(index == kSince); });
