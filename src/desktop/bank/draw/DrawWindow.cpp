@@ -227,9 +227,11 @@ void DrawWindow::ListArranged() {
 
 void DrawWindow::ShowRun() {
   const bool isRunning = run_.IsRunning();
-  if (isRunning && draw_->hasFocus()) cancel_->setFocus();
-  draw_->setEnabled(!isRunning);
+  const bool wasPressed = draw_->hasFocus();
+  if (!isRunning && cancel_->hasFocus()) pane_->FocusList();
   cancel_->setVisible(isRunning);
+  if (isRunning && wasPressed) cancel_->setFocus();
+  draw_->setEnabled(!isRunning);
   pane_->SetBusy(isRunning);
 }
 

@@ -87,8 +87,7 @@ void DrawnPane::SetUpTexts() {
 
 QLayout* DrawnPane::PlaceButtons() {
   auto* buttons = new FlowLayout(kBetweenButtons, nullptr);
-  for (QPushButton* button : {insert_, exchange_, remove_, up_, down_, page_, back_})
-    buttons->addWidget(button);
+  for (QPushButton* button : Buttons()) buttons->addWidget(button);
   return buttons;
 }
 
@@ -179,14 +178,23 @@ void DrawnPane::ShowChosen() {
   EnableButtons();
 }
 
+QList<QPushButton*> DrawnPane::Buttons() const {
+  return {insert_, exchange_, remove_, up_, down_, page_, back_};
+}
+
+/// A button that is disabled passes the focus on to anything; the keys of the list are of more use.
 void DrawnPane::EnableButtons() {
   const auto place = Chosen();
+  const QList<QPushButton*> buttons = Buttons();
+  const auto pressed = std::find_if(buttons.begin(), buttons.end(),
+                                    [](const QPushButton* button) { return button->hasFocus(); });
   const bool canAct = place.has_value() && !isBusy_;
   for (QPushButton* button : {exchange_, remove_, page_}) button->setEnabled(canAct);
   up_->setEnabled(canAct && *place > 0);
   down_->setEnabled(canAct && *place + 1 < drawn_.Size());
   back_->setEnabled(drawn_.CanGoBack() && !isBusy_);
   insert_->setEnabled(drawn_.Size() > 0 && !isBusy_);
+  if (pressed != buttons.end() && !(*pressed)->hasFocus()) FocusList();
 }
 
 QString DrawnPane::Text(int number) const {

@@ -7,6 +7,7 @@
 #include "platform/StringTable.h"
 
 #include <QLayout>
+#include <QList>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextEdit>
@@ -42,6 +43,8 @@ class DrawnPane : public QWidget {
   /// While something is drawn, nothing in the list can be changed.
   void SetBusy(bool isBusy);
 
+  void FocusList() { table_->setFocus(); }
+
   /// Widths of the columns, in pixels.
   std::vector<int> Widths() const;
   void SetWidths(const std::vector<int>& widths);
@@ -64,6 +67,7 @@ class DrawnPane : public QWidget {
   void GoBack();
   void ShowList(std::size_t chosen);
   void ShowChosen();
+  QList<QPushButton*> Buttons() const;
   void EnableButtons();
   QString Text(int number) const;
 

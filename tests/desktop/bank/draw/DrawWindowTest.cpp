@@ -275,6 +275,7 @@ TEST_F(DrawWindowTest, ExchangesUntilNothingIsLeft) {
   }
   Click("drawnExchange");
   Await();
+  EXPECT_TRUE(Control("drawnList").hasFocus()) << "its keys go on where the button ended";
   EXPECT_TRUE(Says(text_id::kDrawNoOther));
   EXPECT_EQ(Drawn().rows.size(), 2U);
   for (int i = 0; i < 4; ++i) Click("drawnBack");
