@@ -256,6 +256,36 @@ TEST_F(BankIndexTest, AFullDiskLeavesWhatWasThere) {
   EXPECT_EQ(Update().added, 1U);
 }
 
+TEST_F(BankIndexTest, TellsThatItCannotBeWritten) {
+  MakeUnsettled(WriteExam(exams / "a.exm", u"", {QuestionWith(u"mitosis")}));
+  Update();
+  WriteExam(exams / "b.exm", u"", {QuestionWith(u"mitosis")});
+  index.reset();
+  fs::permissions(folder.Path(), fs::perms::all);
+  for (const auto& entry : fs::recursive_directory_iterator(folder.Path()))
+    fs::permissions(entry, fs::perms::all);
+  fs::permissions(file, fs::perms::owner_read | fs::perms::others_read);
+  {
+    const OrdinaryUser user;
+    index = Open();
+    ASSERT_TRUE(index) << problem.detail;
+    EXPECT_EQ(CountOf(u"mitosis"), 1U) << "it can be read";
+    EXPECT_EQ(Update().problem.trouble, BankTrouble::NotWritable);
+    index.reset();
+  }
+  Open();  // and closes it, so that nothing lies beside it
+  fs::permissions(folder / "cache", fs::perms::others_read | fs::perms::others_exec);
+  {
+    const OrdinaryUser user;
+    EXPECT_FALSE(Open());
+    EXPECT_EQ(problem.trouble, BankTrouble::NotWritable);
+  }
+  fs::permissions(folder / "cache", fs::perms::all);
+  index = Open();
+  ASSERT_TRUE(index);
+  EXPECT_EQ(Update().added, 1U);
+}
+
 TEST_F(BankIndexTest, ACancelledUpdateGoesOnLater) {
   struct CancelAfter : Progress {
     int left = 0;

@@ -64,21 +64,22 @@ TEST_F(BankSearchTest, FiltersAndHighlights) {
   Update();
   const BankHits hits = Find(u"cafe");
   ASSERT_EQ(hits.hits.size(), 2U);
-  const std::pair<std::u16string_view, std::size_t> rows[] = {{u"cafe kind:essay", 1},
-                                                              {u"cafe has:key", 1},
-                                                              {u"-has:key", 1},
-                                                              {u"exam:zoo", 2},
-                                                              {u"exam:biology.exm", 2},
-                                                              {u"exam:chem", 0},
-                                                              {u"folder:\"term 2\"", 2},
-                                                              {u"folder:3", 0},
-                                                              {u"after:2001 cafe", 2},
-                                                              {u"before:2001", 0},
-                                                              {u"has:files", 0},
-                                                              {u"score:>0", 0},
-                                                              {u"h2o", 1},
-                                                              {u"\"cafe h\"", 1},
-                                                              {u"\"tea cafe\"", 0}};
+  const std::pair<std::u16string_view, std::size_t> rows[] = {
+      {u"cafe kind:essay", 1},
+      {u"cafe has:key", 1},
+      {u"-has:key", 1},
+      {u"exam:zoo", 2},
+      {u"exam:biology.exm", 2},
+      {u"exam:chem", 0},
+      {u"folder:\"term 2\"", 2},
+      {u"folder:\"term 3\"", 0},  // a digit alone may be in the random name of the folder above
+      {u"after:2001 cafe", 2},
+      {u"before:2001", 0},
+      {u"has:files", 0},
+      {u"score:>0", 0},
+      {u"h2o", 1},
+      {u"\"cafe h\"", 1},
+      {u"\"tea cafe\"", 0}};
   for (const auto& [query, count] : rows)
     EXPECT_EQ(CountOf(query), count) << std::string(query.begin(), query.end());
   const BankHit& hit = hits.hits[0].question.number == 1 ? hits.hits[0] : hits.hits[1];
