@@ -63,13 +63,13 @@ bool FolderScan::OpenNextFolder() {
 void FolderScan::Look(const fs::directory_entry& entry) {
   ++filesSeen_;
   if (IsHidden(entry.path())) return;
+  // What the folder itself tells of its entries: to look at each would take a moment on a network.
   std::error_code error;
-  const fs::file_type type = entry.symlink_status(error).type();
-  if (type == fs::file_type::directory) {
-    toOpen_.push_back(entry.path());
-  } else if (type == fs::file_type::symlink) {
+  if (entry.is_symlink(error)) {
     links_.push_back(entry.path());
-  } else if (type == fs::file_type::regular && IsExamName(entry.path())) {
+  } else if (entry.is_directory(error)) {
+    toOpen_.push_back(entry.path());
+  } else if (IsExamName(entry.path()) && entry.is_regular_file(error)) {
     AddExam(entry.path());
   }
 }
