@@ -15,6 +15,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace quorvantis {
@@ -96,20 +97,31 @@ QToolButton* BankTagChips::MakeChip(const ShownTag& shown, std::size_t questions
 }
 
 void BankTagChips::Show(const std::vector<ShownTag>& tags, std::size_t questions, bool canHaveTags) {
-  const bool hadFocus =
-      std::any_of(chips_.begin(), chips_.end(), [](QWidget* chip) { return chip->hasFocus(); });
-  for (QToolButton* chip : std::exchange(chips_, {})) {
-    chip->hide();
-    chip->deleteLater();  // it may be what was clicked
-  }
-  for (const ShownTag& tag : tags) chips_.append(MakeChip(tag, questions));
   const int text = questions > 1 ? text_id::kBankTagsOfMany : text_id::kBankTags;
   label_->setText(ToQString(FillMessage(strings_.Text(text), {FormatInteger(static_cast<int>(questions))})));
   line_->setEnabled(questions > 0 && canHaveTags);
   const int hint = questions > 0 && !canHaveTags ? text_id::kBankNoContentNoTags : text_id::kBankAddTag;
   line_->setPlaceholderText(ToQString(strings_.Text(hint)));
+  if (tags != shown_ || questions != questions_) RenewChips(tags, questions);
+}
+
+/// The focus stays at its tag, or goes to the line if that is gone.
+void BankTagChips::RenewChips(const std::vector<ShownTag>& tags, std::size_t questions) {
+  std::optional<QVariant> focused;
+  for (QToolButton* chip : std::exchange(chips_, {})) {
+    if (chip->hasFocus()) focused = chip->property(kTagProperty);
+    chip->hide();
+    chip->deleteLater();  // it may be what was clicked
+  }
+  for (const ShownTag& tag : tags) chips_.append(MakeChip(tag, questions));
+  shown_ = tags;
+  questions_ = questions;
   PlaceAll();
-  if (hadFocus) line_->setFocus();
+  if (!focused) return;
+  const auto same = std::find_if(chips_.begin(), chips_.end(), [&focused](const QToolButton* chip) {
+    return chip->property(kTagProperty) == *focused;
+  });
+  same == chips_.end() ? line_->setFocus() : (*same)->setFocus();
 }
 
 void BankTagChips::PlaceAll() {

@@ -22,6 +22,8 @@ class FlowLayout;
 struct ShownTag {
   std::u16string tag;
   std::size_t questions = 0;  ///< that have it
+
+  friend bool operator==(const ShownTag&, const ShownTag&) = default;
 };
 
 /// Tags as buttons that remove them, a line to add others, and a button to take the last change back. From
@@ -33,7 +35,8 @@ class BankTagChips : public QWidget {
   /// `strings` must outlive the widget.
   BankTagChips(const StringTable& strings, QWidget* parent);
 
-  /// `questions` are chosen: without any, or if they cannot have tags, the line cannot be used.
+  /// `questions` are chosen: without any, or if they cannot have tags, the line cannot be used. What is shown
+  /// already stays as it is, so that no key meets another tag.
   void Show(const std::vector<ShownTag>& tags, std::size_t questions, bool canHaveTags);
 
   /// What the line proposes.
@@ -56,6 +59,7 @@ class BankTagChips : public QWidget {
 
  private:
   void MakeLine();
+  void RenewChips(const std::vector<ShownTag>& tags, std::size_t questions);
   QToolButton* MakeChip(const ShownTag& shown, std::size_t questions);
   void PlaceAll();
   void TakeTyped();
@@ -67,7 +71,9 @@ class BankTagChips : public QWidget {
   const StringTable& strings_;
   FlowLayout* row_;
   QLabel* label_;
-  QList<QToolButton*> chips_;
+  std::vector<ShownTag> shown_;
+  std::size_t questions_ = 0;  ///< that are chosen
+  QList<QToolButton*> chips_;  ///< one a tag
   QLineEdit* line_;
   QPushButton* undo_;
   QStringListModel proposals_;
