@@ -4,6 +4,7 @@
 #include "preview/PageAddress.h"
 
 #include <QKeyEvent>
+#include <QQuickWidget>
 #include <QVBoxLayout>
 #include <QWebEngineSettings>
 
@@ -20,6 +21,11 @@ QWebEngineScript BesideThePage(const QString& code) {
 }
 
 }  // namespace
+
+/// A window is made for what browsers draw if anything in it, shown or not, draws in the same way.
+void PagePane::Expect(QWidget& parent) {
+  (new QQuickWidget(&parent))->hide();
+}
 
 PagePane::PagePane(const GatewaySetup& setup, const QString& script, QWidget* parent)
     : QWidget(parent),
@@ -52,6 +58,7 @@ void PagePane::Clear() {
 void PagePane::FollowKeys() {
   QWidget* const keys = view_.focusProxy();
   if (keys == nullptr) return;
+  for (QWidget* const part : {keys, static_cast<QWidget*>(&view_)}) part->setFocusPolicy(Qt::ClickFocus);
   keys->removeEventFilter(this);
   keys->installEventFilter(this);
 }
@@ -63,7 +70,10 @@ bool PagePane::eventFilter(QObject* watched, QEvent* event) {
     emit EscapePressed();
     return true;
   }
-  if (key == Qt::Key_Tab || key == Qt::Key_Backtab) return focusNextPrevChild(key == Qt::Key_Tab);
+  if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+    emit TabPressed(key == Qt::Key_Tab);
+    return true;
+  }
   return QWidget::eventFilter(watched, event);
 }
 

@@ -9,8 +9,8 @@
 
 namespace quorvantis {
 
-/// Shows a question of the bank as pupils see it. Who makes the window of the bank provides it; it takes a
-/// browser, so there is none until it is first needed.
+/// Shows a question of the bank as pupils see it. Who makes the window of the bank provides it. A browser
+/// takes time and memory, so it has none until it first shows a question.
 class BankPageView : public QWidget {
   Q_OBJECT
 

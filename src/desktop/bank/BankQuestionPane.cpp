@@ -8,7 +8,6 @@
 #include "platform/TextNumbers.h"
 
 #include <QTabBar>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -38,10 +37,10 @@ bool IsSame(const std::optional<BankQuestion>& a, const std::optional<BankQuesti
 
 }  // namespace
 
-BankQuestionPane::BankQuestionPane(const ExamServices& services, BankPageView::Make makePage, QWidget* parent)
+BankQuestionPane::BankQuestionPane(const ExamServices& services, const BankPageView::Make& makePage,
+                                   QWidget* parent)
     : QTabWidget(parent),
       setting_(services.applicationFolder, services.files, services.codePage),
-      makePage_(std::move(makePage)),
       text_(new QTextEdit(this)) {
   const auto text = [&services](int number) { return ToQString(services.strings.Text(number)); };
   setDocumentMode(true);
@@ -51,10 +50,10 @@ BankQuestionPane::BankQuestionPane(const ExamServices& services, BankPageView::M
   text_->setTabChangesFocus(true);
   text_->setFrameShape(QFrame::NoFrame);
   addTab(text_, text(text_id::kBankAsText));
-  if (makePage_) {
-    pagePlace_ = new QWidget(this);
-    (new QVBoxLayout(pagePlace_))->setContentsMargins(0, 0, 0, 0);
-    addTab(pagePlace_, text(text_id::kBankAsPage));
+  if (makePage) {
+    page_ = makePage(this);
+    connect(page_, &BankPageView::Left, this, &BankQuestionPane::Left);
+    addTab(page_, text(text_id::kBankAsPage));
     setTabToolTip(kPageTab, PlainTip(text(text_id::kBankAsPageTip)));
     if (setting_.IsPage()) setCurrentIndex(kPageTab);
   }
@@ -85,12 +84,8 @@ void BankQuestionPane::ShowText(const BankHit* hit) {
 
 void BankQuestionPane::ChooseView() {
   setting_.Write(IsPageChosen());
-  if (!IsPageChosen()) {
-    if (page_ != nullptr) page_->ShowNothing();
-    return;
-  }
-  MakePageView();
-  ShowPage();
+  if (IsPageChosen()) return ShowPage();
+  if (page_ != nullptr) page_->ShowNothing();
 }
 
 /// Nothing of a question stays in view when there is none.
@@ -103,16 +98,7 @@ void BankQuestionPane::ShowPageSoon() {
 void BankQuestionPane::ShowPage() {
   whenStays_.stop();
   if (!IsPageChosen() || !isVisible() || !question_) return;
-  MakePageView();
   page_->ShowQuestion(*question_);
-}
-
-void BankQuestionPane::MakePageView() {
-  if (page_ != nullptr) return;
-  page_ = makePage_(pagePlace_);
-  pagePlace_->layout()->addWidget(page_);
-  pagePlace_->setFocusProxy(page_);
-  connect(page_, &BankPageView::Left, this, &BankQuestionPane::Left);
 }
 
 void BankQuestionPane::showEvent(QShowEvent* event) {

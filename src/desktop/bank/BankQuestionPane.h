@@ -21,7 +21,7 @@ class BankQuestionPane : public QTabWidget {
 
  public:
   /// `services` must outlive the pane. Without `makePage` there is only the text.
-  BankQuestionPane(const ExamServices& services, BankPageView::Make makePage, QWidget* parent);
+  BankQuestionPane(const ExamServices& services, const BankPageView::Make& makePage, QWidget* parent);
 
   /// Shows the question, or nothing. The page follows when the user has stayed with the question for a
   /// moment.
@@ -41,15 +41,12 @@ class BankQuestionPane : public QTabWidget {
   void ChooseView();
   void ShowPageSoon();
   void ShowPage();
-  void MakePageView();
 
   static constexpr int kPageTab = 1;
 
   const BankViewSetting setting_;
-  const BankPageView::Make makePage_;
   QTextEdit* text_;
-  QWidget* pagePlace_ = nullptr;  ///< where the page comes; null without pages
-  BankPageView* page_ = nullptr;  ///< made when it is first shown
+  BankPageView* page_ = nullptr;  ///< null without pages
   std::optional<BankQuestion> question_;
   QTimer whenStays_;  ///< runs while the user goes on to other questions
 };

@@ -41,11 +41,8 @@ BankPages::BankPages(const ExamServices& services, std::function<int()> takeNumb
       services_(services),
       takeNumber_(std::move(takeNumber)),
       languageIsRightToLeft_(languageIsRightToLeft),
-      pane_(new PagePane(SetUpGateway(services.applicationFolder, services.strings, pages_),
-                         ToQString(kSheetScript), this)),
       notice_(new QLabel(this)),
       reading_(nullptr) {
-  NameControl(pane_, "bankPage", ToQString(services.strings.Text(text_id::kBankAsPage)));
   NameControl(notice_, "bankPageNotice", {});
   notice_->setTextFormat(Qt::PlainText);
   notice_->setWordWrap(true);
@@ -53,13 +50,11 @@ BankPages::BankPages(const ExamServices& services, std::function<int()> takeNumb
   notice_->setAlignment(Qt::AlignTop | Qt::AlignLeading);
   auto* const layout = new QStackedLayout(this);
   layout->addWidget(notice_);
-  layout->addWidget(pane_);
-  setFocusProxy(pane_);
+  PagePane::Expect(*this);
   whileReading_.setSingleShot(true);
   whileReading_.setInterval(kUntilTold);
   connect(&whileReading_, &QTimer::timeout, this,
           [this] { ShowNotice(services_.strings.Text(text_id::kBankPageComes)); });
-  connect(pane_, &PagePane::EscapePressed, this, &BankPageView::Left);
 }
 
 /// The browser refers to the pages.
@@ -110,9 +105,34 @@ void BankPages::Take(const BankQuestion& question, std::shared_ptr<const PeekedQ
   pages_.Clear();
   pages_.Add(page, ComposeQuestion(peeked->Exam(), question.number,
                                    {Sheet::Paper, {}, false, languageIsRightToLeft_}));
-  pane_->Show(page);
+  Pane().Show(page);
   shown_ = std::move(peeked);
   static_cast<QStackedLayout&>(*layout()).setCurrentWidget(pane_);
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+PagePane& BankPages::Pane() {
+  if (pane_ != nullptr) return *pane_;
+  pane_ = new PagePane(SetUpGateway(services_.applicationFolder, services_.strings, pages_),
+                       ToQString(kSheetScript), this);
+  NameControl(pane_, "bankPage", ToQString(services_.strings.Text(text_id::kBankAsPage)));
+  layout()->addWidget(pane_);
+  setFocusProxy(pane_);
+  connect(pane_, &PagePane::EscapePressed, this, &BankPageView::Left);
+  connect(pane_, &PagePane::TabPressed, this, &BankPages::GoOn);
+  return *pane_;
+}
+
+/// To the next control that Tab would go to from here, if this were an ordinary one.
+void BankPages::GoOn(bool isForward) {
+  const auto step = [isForward](const QWidget* widget) {
+    return isForward ? widget->nextInFocusChain() : widget->previousInFocusChain();
+  };
+  for (QWidget* next = step(this); next != this; next = step(next)) {
+    const bool takesTab = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisible() && next->isEnabled();
+    if (takesTab && !isAncestorOf(next) && !next->isWindow())
+      return next->setFocus(isForward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  }
 }
 
 void BankPages::ShowNotice(const std::u16string& text) {
@@ -120,8 +140,9 @@ void BankPages::ShowNotice(const std::u16string& text) {
   notice_->setText(ToQString(text));
   notice_->setAccessibleName(notice_->text());
   static_cast<QStackedLayout&>(*layout()).setCurrentWidget(notice_);
+  setFocusPolicy(Qt::NoFocus);
   pages_.Clear();
-  pane_->Clear();
+  if (pane_ != nullptr) pane_->Clear();
   shown_.reset();
 }
 

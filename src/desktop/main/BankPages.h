@@ -44,13 +44,15 @@ class BankPages : public BankPageView {
   void Begin();
   void Take(const BankQuestion& question, std::shared_ptr<const PeekedQuestion> peeked);
   std::u16string WhyNot(const BankQuestion& question, const PeekedQuestion& peeked) const;
+  PagePane& Pane();
+  void GoOn(bool isForward);
   void ShowNotice(const std::u16string& text);
 
   const ExamServices& services_;
   const std::function<int()> takeNumber_;
   const bool languageIsRightToLeft_;
   ComposedPages pages_;
-  PagePane* pane_;
+  PagePane* pane_ = nullptr;  ///< made with the first page
   QLabel* notice_;
   QTimer whileReading_;                          ///< until it is told that reading takes time
   std::optional<BankQuestion> wanted_;           ///< not begun yet
