@@ -64,7 +64,12 @@ std::optional<BankIndex> BankDesk::Opened(BankProblem& problem) const {
   return BankIndex::Open(place_, services_.files, problem);
 }
 
+void BankDesk::FindAgainIfRunning() {
+  if (search_.IsRunning()) Find(BankQuery(query_));
+}
+
 void BankDesk::Find(const BankQuery& query) {
+  query_ = query;
   search_.Start([this, query](const BackgroundRun::Cancelled& isCancelled) -> BackgroundRun::Finish {
     auto hits = std::make_shared<BankHits>();
     bool isEmptied = false;

@@ -35,6 +35,9 @@ class BankDesk : public QObject {
   /// Searches; what comes of an earlier search that has not ended is dropped.
   void Find(const BankQuery& query);
 
+  /// Begins the running search anew, if there is one: it may have read what has changed since.
+  void FindAgainIfRunning();
+
   /// Brings the index up to date, unless that is being done already.
   void Update();
   void CancelUpdate() { update_.Cancel(); }
@@ -84,6 +87,7 @@ class BankDesk : public QObject {
   const ExamServices& services_;
   const FileDigest& digest_;
   const std::shared_ptr<FolderTags> tags_;
+  BankQuery query_;  ///< of the last search
   KeptBankMemory memory_;
   QTimer whenUnused_;  ///< runs from the last use of the memory on
   BackgroundRun search_;

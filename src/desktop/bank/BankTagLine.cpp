@@ -30,6 +30,11 @@ QString QuestionsIn(const TagStep& step) {
   return lines.join('\n');
 }
 
+/// Where the tags of a question are kept.
+std::pair<std::filesystem::path, std::string> PlaceOf(const BankQuestion& question) {
+  return {question.exam.path.parent_path(), question.key};
+}
+
 bool GivesTags(const TagStep& step) {
   return std::any_of(step.begin(), step.end(), [](const FolderChange& folder) {
     return std::any_of(folder.changes.begin(), folder.changes.end(),
@@ -88,7 +93,10 @@ void BankTagLine::Connect() {
 void BankTagLine::Show(const std::vector<BankHit>& hits) {
   subjects_.clear();
   subjects_.reserve(hits.size());
-  for (const BankHit& hit : hits) subjects_.push_back({hit.question, hit.tags});
+  for (const BankHit& hit : hits) {
+    const auto unwritten = unwritten_.find(PlaceOf(hit.question));
+    subjects_.push_back({hit.question, unwritten == unwritten_.end() ? hit.tags : unwritten->second});
+  }
   desk_.ForgetEarlier();
   earlier_->Say({});
   whenChosen_.start();
@@ -106,6 +114,7 @@ void BankTagLine::Change(const std::vector<std::u16string>& add, const std::vect
     for (const std::u16string& tag : add) {
       if (!HasTag(subject.tags, tag)) subject.tags.push_back(tag);
     }
+    unwritten_[PlaceOf(subject.question)] = subject.tags;
     questions.push_back(subject.question);
   }
   desk_.Change(questions, add, remove);
@@ -118,6 +127,7 @@ void BankTagLine::TakeOver() {
 }
 
 void BankTagLine::Learn(const std::vector<TagsNow>& now) {
+  unwritten_.clear();
   for (const TagsNow& each : now) {
     for (Subject& subject : subjects_) {
       const BankQuestion& question = subject.question;

@@ -8,6 +8,10 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <filesystem>
+#include <map>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace quorvantis {
@@ -58,6 +62,8 @@ class BankTagLine : public QWidget {
   BankTagNotice* problem_;
   QTimer whenChosen_;  ///< runs while the user goes from question to question
   std::vector<Subject> subjects_;
+  /// What questions will have once all is written, by folder and key: a search may still have found less.
+  std::map<std::pair<std::filesystem::path, std::string>, std::vector<std::u16string>> unwritten_;
 };
 
 }  // namespace quorvantis

@@ -142,6 +142,7 @@ void BankWindow::Connect() {
   connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this] { tags_->Show(SelectedHits(*list_, model_)); });
   connect(tags_, &BankTagLine::Written, &model_, &BankHitsModel::ShowTags);
+  connect(tags_, &BankTagLine::Written, &desk_, &BankDesk::FindAgainIfRunning);
   connect(&desk_, &BankDesk::Found, this, &BankWindow::ShowHits);
   connect(&desk_, &BankDesk::Updated, this, &BankWindow::Search);
   connect(&desk_, &BankDesk::UpdateChanged, this, &BankWindow::ShowState);
