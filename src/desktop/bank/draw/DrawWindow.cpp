@@ -105,10 +105,13 @@ void DrawWindow::Connect() {
 }
 
 void DrawWindow::Appear() {
-  if (!isVisible()) LookForChoices();
+  const bool wasHidden = !isVisible();
   show();
   raise();
   activateWindow();
+  if (!wasHidden) return;
+  wishes_->Begin();
+  LookForChoices();
 }
 
 /// Again after each draw, which may have found new exams.

@@ -84,6 +84,11 @@ std::vector<TypedWish> DrawWishFields::Typed() const {
   return wishes;
 }
 
+void DrawWishFields::Begin() {
+  rows_.front().count->setFocus();
+  rows_.front().count->selectAll();
+}
+
 void DrawWishFields::Offer(QStringList tags) {
   tags_ = std::move(tags);
   for (const Row& row : rows_) Complete(row);

@@ -31,6 +31,9 @@ class DrawWishFields : public QWidget {
   void Show(const std::vector<TypedWish>& wishes);
   std::vector<TypedWish> Typed() const;
 
+  /// Chooses the number of the first wish, to be typed over.
+  void Begin();
+
   /// Tags that can be completed.
   void Offer(QStringList tags);
 
