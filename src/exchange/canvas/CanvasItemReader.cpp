@@ -239,7 +239,7 @@ void CanvasItemReader::TakePairs(ExchangedQuestion& question) {
     }
     pairs.emplace_back(Material(ChildOf(response, "material"), question), right);
   }
-  MakeMatching(std::move(pairs), question, tools_.notes);
+  MakeMatching(pairs, question, tools_.notes);
 }
 
 /// The comment on an essay is its model answer.

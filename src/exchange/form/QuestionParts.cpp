@@ -22,8 +22,8 @@ void DecideRights(const std::vector<double>& fractions, std::vector<ExchangedOpt
   if (!hasRight && !options.empty()) notes.Tell(text_id::kExchangeNoRightRead);
 }
 
-void MakeMatching(std::vector<std::pair<std::u16string, std::u16string>> pairs, ExchangedQuestion& question,
-                  ExchangeNotes& notes) {
+void MakeMatching(const std::vector<std::pair<std::u16string, std::u16string>>& pairs,
+                  ExchangedQuestion& question, ExchangeNotes& notes) {
   notes.Tell(text_id::kExchangeMatching);
   question.kind = QuestionKind::FillIn;
   std::vector<std::u16string> rights;
@@ -34,10 +34,10 @@ void MakeMatching(std::vector<std::pair<std::u16string, std::u16string>> pairs, 
   rights.erase(std::unique(rights.begin(), rights.end()), rights.end());
   for (std::size_t i = 0; i < rights.size(); ++i) question.text += (i == 0 ? u"\r\n(" : u" / ") + rights[i];
   if (!rights.empty()) question.text += u")";
-  for (auto& [left, right] : pairs) {
+  for (const auto& [left, right] : pairs) {
     if (left.empty()) continue;  // a wrong right side
     question.text.append(u"\r\n").append(left).append(u" ").append(kBlank);
-    question.blanks.push_back({std::move(right)});
+    question.blanks.push_back({right});
   }
 }
 

@@ -22,8 +22,8 @@ void DecideRights(const std::vector<double>& fractions, std::vector<ExchangedOpt
 
 /// A question about pairs as a fill-in question: a line with a blank for each left side, and the right sides
 /// in the order of the alphabet. Told.
-void MakeMatching(std::vector<std::pair<std::u16string, std::u16string>> pairs, ExchangedQuestion& question,
-                  ExchangeNotes& notes);
+void MakeMatching(const std::vector<std::pair<std::u16string, std::u16string>>& pairs,
+                  ExchangedQuestion& question, ExchangeNotes& notes);
 
 /// A choice between "True" and "False", in the language in use.
 void MakeTrueFalse(bool isTrue, const StringTable& strings, ExchangedQuestion& question);

@@ -134,7 +134,7 @@ bool GiftAnswers::ReadPairs(const std::vector<Answer>& answers, ExchangedQuestio
     pairs.emplace_back(Text(Trimmed(answer.text.substr(0, arrow))),
                        Text(Trimmed(answer.text.substr(arrow + kPair.size()))));
   }
-  MakeMatching(std::move(pairs), question, tools_.notes);
+  MakeMatching(pairs, question, tools_.notes);
   return true;
 }
 

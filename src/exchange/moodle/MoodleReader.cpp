@@ -203,7 +203,7 @@ class MoodleQuestion {
     for (const pugi::xml_node pair : ChildrenOf(node_, "subquestion"))
       pairs.emplace_back(TextIn(pair, question),
                          PlainToExamText(ContentOfChild(ChildOf(pair, "answer"), "text")));
-    MakeMatching(std::move(pairs), question, tools_.notes);
+    MakeMatching(pairs, question, tools_.notes);
   }
 
   /// "[[1]]" in the text is the place of a choice, numbered from 1 on.

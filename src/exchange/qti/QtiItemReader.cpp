@@ -47,7 +47,7 @@ bool QtiItemReader::Read(pugi::xml_node item, ExchangedQuestion& question) {
   TakeInline(question);
   if (!TakeBlock(question)) return false;
   question.text = Html(body_, question);
-  if (!pairs_.empty()) MakeMatching(std::move(pairs_), question, tools_.notes);
+  if (!pairs_.empty()) MakeMatching(pairs_, question, tools_.notes);
   return true;
 }
 
