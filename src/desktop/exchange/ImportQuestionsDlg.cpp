@@ -123,7 +123,9 @@ void ImportQuestionsDlg::TakeRead(std::shared_ptr<const ForeignExam> read) {
   QAccessibleEvent told(heading_, QAccessible::Alert);
   QAccessible::updateAccessibility(&told);
   const std::vector<ExchangeNote> notes = Notes();
-  losses_->Show(Text(notes.empty() ? text_id::kExchangeNothingLost : text_id::kExchangeReadLosses), notes);
+  const bool isNothing = notes.empty() && read_->QuestionCount() == 0;
+  const int heading = notes.empty() ? text_id::kExchangeNothingLost : text_id::kExchangeReadLosses;
+  losses_->Show(isNothing ? QString() : Text(heading), notes);
   EnableParts();
   read_->QuestionCount() > 0 ? questions_->FocusList() : format_->setFocus();
 }

@@ -228,6 +228,10 @@ TEST_F(ExchangeWindow, SaysWhyThereIsNothingToRead) {
   CloseByEscape<ImportQuestionsDlg>();
   EXPECT_EQ(heading(WriteBytes(folder / "bad.xml", "<quiz><question")), text_id::kExchangeNothingRead);
   CloseByEscape<ImportQuestionsDlg>();
+  EXPECT_EQ(heading(WriteBytes(folder / "mail.md", "1. red?\n    A. yes  \n    Answer: A\n")),
+            text_id::kExchangeIsPaper);
+  EXPECT_TRUE(Control<QLabel>("lossHeading").text().isEmpty()) << "not: nothing is lost";
+  CloseByEscape<ImportQuestionsDlg>();
   EXPECT_EQ(heading(WriteBytes(folder / "cells", "red?\tyes\n")), text_id::kExchangeNoFormat);
   auto& format = Control<QComboBox>("importFormat");
   format.setCurrentIndex(format.findData("tsv"));
