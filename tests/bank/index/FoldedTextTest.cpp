@@ -28,6 +28,8 @@ TEST(FoldedText, IsTheSameForWhatUsersTakeForTheSame) {
       {u"\u201Cit\u2019s\u201D", u"\"it's\""},
       {u"5\u20137", u"5-7"},
       {u"R&amp;D &lt;x&gt;", u"r&d <x>"},
+      {u"caf&eacute; &#x41;&#66;&nbsp;&pi; &unknown; AT&T", u"cafe ab \u03C0 &unknown; at&t"},
+      {u"a&#1;b&#0;", u"a b\uFFFD"},
       {u"\u7EC6\u80DE", u"\u7EC6\u80DE"},
       {u"a\u0001b\0c", u"a b"},
   };

@@ -1,66 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "bank/index/BankIndex.h"
-#include "desktop/WindowTest.h"
-#include "desktop/bank/BankHitText.h"
-#include "desktop/bank/BankWindow.h"
-#include "examfile/ExamFileWriter.h"
-#include "model/AnswerLetters.h"
+#include "BankWindowTest.h"
 
-#include <QListView>
+#include "desktop/bank/BankHitText.h"
+#include "model/AnswerLetters.h"
 
 #include <random>
 
 namespace quorvantis::test {
 namespace {
-
-namespace fs = std::filesystem;
-
-class BankWindowTest : public WindowTest {
- protected:
-  BankWindowTest() {
-    for (const char* variable : {"XDG_CACHE_HOME", "XDG_DATA_HOME"})
-      qputenv(variable, (folder.Path() / variable).string().c_str());
-  }
-
-  fs::path WriteExam(const char* name, const std::vector<std::u16string>& texts,
-                     const fs::path& attached = {}) {
-    FrameSetExam other(services);
-    other.title = u"Life";
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-      ExamQuestion& question = other.Question(static_cast<int>(i) + 1);
-      question.text = texts[i];
-      question.options = {u"yes", u"no"};
-      question.answerLetters = u"a";
-    }
-    if (!attached.empty()) {
-      other.Question(1).attachmentPaths[0] = PathToText(attached);
-      other.Question(1).attachmentNames[0] = PathToText(attached.filename());
-    }
-    other.CountQuestions();
-    fs::create_directories(folder / "exams");
-    EXPECT_FALSE(ExamFileWriter(other, services).Write(folder / "exams" / name));
-    return folder / "exams" / name;
-  }
-
-  void OpenBank() {
-    BankProblem problem;
-    auto index = BankIndex::Open(UsualBankPlace(), files, problem);
-    ASSERT_TRUE(index && !index->AddFolder(folder / "exams").IsAnything());
-    Open();
-    Entry("examBank").trigger();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Control<BankWindow>("bankWindow")));
-  }
-
-  int Found() { return Control<QListView>("bankHits").model()->rowCount(); }
-  void Find(const QString& words, int found) {
-    Control<QLineEdit>("bankWords").setText(words);
-    EXPECT_TRUE(QTest::qWaitFor([this, found] { return Found() == found; }, 20'000)) << Found();
-  }
-  int QuestionCount() {
-    exam.CountQuestions();
-    return exam.LastCountedQuestion();
-  }
-};
 
 TEST_F(BankWindowTest, FindsAndInsertsAsOneStep) {
   WriteExam("cells.exm", {u"What is <b>mitosis</b>?", u"What is a cell?"},
