@@ -39,6 +39,11 @@ DrawnTable::DrawnTable(QWidget* parent) : QTableView(parent) {
   connect(this, &QTableView::doubleClicked, this, &DrawnTable::PageWished);
 }
 
+/// Not by selectRow, which does nothing in a mirrored table.
+void DrawnTable::Choose(int row) {
+  setCurrentIndex(model()->index(row, DrawnModel::kQuestion));
+}
+
 /// Shortcuts of the main window would take these keys first.
 bool DrawnTable::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride && IsOwnKey(static_cast<QKeyEvent&>(*event))) {

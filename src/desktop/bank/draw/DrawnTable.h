@@ -14,7 +14,7 @@ class DrawnTable : public QTableView {
 
   /// -1 if there is none.
   int Row() const { return currentIndex().row(); }
-  void Choose(int row) { selectRow(row); }
+  void Choose(int row);
 
  signals:
   void ExchangeWished();

@@ -46,6 +46,7 @@ class DrawWindowTest : public WindowTest {
       qputenv(variable, (folder.Path() / variable).string().c_str());
     fs::create_directories(exams);
   }
+  ~DrawWindowTest() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
 
   fs::path WriteExam(const fs::path& file, const std::vector<ExamQuestion>& questions) {
     FrameSetExam other(services);
@@ -284,6 +285,7 @@ TEST_F(DrawWindowTest, ExchangesUntilNothingIsLeft) {
 }
 
 TEST_F(DrawWindowTest, KeepsWhatItsExamNoLongerHolds) {
+  QApplication::setLayoutDirection(Qt::RightToLeft);
   const fs::path gone = WriteExam(exams / "a.exm", {RandomQuestion()});
   const fs::path other = WriteExam(exams / "b.exm", {RandomQuestion()});
   WriteExam(exams / "c.exm", {RandomQuestion()});
