@@ -14,6 +14,7 @@
 
 #include <atomic>
 #include <map>
+#include <random>
 #include <set>
 #include <thread>
 
