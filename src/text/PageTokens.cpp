@@ -66,13 +66,20 @@ std::optional<PageToken> PageTokens::Next() {
       ReadComment(token);
       break;
     case PageTokenKind::Declaration:
-      CloseAt(token, bracketsFollow_ ? text_.find(u'>', at_) : text_.npos);
+      if (bracket_ <= at_) bracket_ = text_.find(u'>', at_);
+      CloseAt(token, bracket_);
       if (token.isClosed) ++token.span.end;
-      bracketsFollow_ = token.isClosed;
       break;
   }
   at_ = token.span.end;
   return token;
+}
+
+void PageTokens::GoTo(std::size_t place) {
+  constexpr std::size_t kMostReadAgain = 16;  // times the text
+  readAgain_ += at_ - std::min(place, at_);
+  if (readAgain_ / kMostReadAgain > text_.size()) tagsEnd_ = false;
+  at_ = place;
 }
 
 /// What begins at a "<"; nothing if a browser shows it.

@@ -47,9 +47,9 @@ class PageTokens {
   std::optional<PageToken> Next();
 
   /// Goes on at `place` behind the begin of the last part: for those who take a part for something else than
-  /// browsers do. Once a tag ran to the end of the text, what follows its begin has no tags, as each would be
-  /// looked for to the end again.
-  void GoTo(std::size_t place) { at_ = place; }
+  /// browsers do. What follows has no tags any more once one ran to the end of the text, or once so much was
+  /// read again that it would take too long.
+  void GoTo(std::size_t place);
 
   /// Goes over the content of an element that holds no markup, to be called right after its begin tag; its
   /// end tag is next. Nothing if the element holds markup.
@@ -66,7 +66,8 @@ class PageTokens {
   std::size_t at_ = 0;
   bool tagsEnd_ = true;
   bool commentsEnd_ = true;
-  bool bracketsFollow_ = true;  ///< cleared when a ">" was looked for in vain
+  std::size_t bracket_ = 0;  ///< the ">" that was found last; npos if no more follow
+  std::size_t readAgain_ = 0;
 };
 
 /// An attribute of a tag.
