@@ -14,6 +14,7 @@
 #include "text/NumberText.h"
 #include "text/PathText.h"
 
+#include <QFocusEvent>
 #include <QStackedLayout>
 
 #include <utility>
@@ -117,10 +118,14 @@ PagePane& BankPages::Pane() {
                        ToQString(kSheetScript), this);
   NameControl(pane_, "bankPage", ToQString(services_.strings.Text(text_id::kBankAsPage)));
   layout()->addWidget(pane_);
-  setFocusProxy(pane_);
   connect(pane_, &PagePane::EscapePressed, this, &BankPageView::Left);
   connect(pane_, &PagePane::TabPressed, this, &BankPages::GoOn);
   return *pane_;
+}
+
+/// Tab passes over a widget with a focus proxy.
+void BankPages::focusInEvent(QFocusEvent* event) {
+  if (pane_ != nullptr) pane_->setFocus(event->reason());
 }
 
 /// To the next control that Tab would go to from here, if this were an ordinary one.

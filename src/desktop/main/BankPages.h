@@ -40,6 +40,9 @@ class BankPages : public BankPageView {
   void ShowQuestion(const BankQuestion& question) override;
   void ShowNothing() override;
 
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+
  private:
   void Begin();
   void Take(const BankQuestion& question, std::shared_ptr<const PeekedQuestion> peeked);
