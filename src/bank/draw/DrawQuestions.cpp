@@ -185,24 +185,6 @@ std::optional<DrawnQuestion> DrawOneMore(std::span<const DrawCandidate> candidat
   return other;
 }
 
-DrawOutcome RedrawOne(std::span<const DrawCandidate> candidates, const DrawRequest& request,
-                      const DrawOutcome& drawn, std::size_t place, const ComparedAt& comparedAt) {
-  DrawRequest again = request;
-  DrawOutcome outcome = drawn;
-  const auto at = outcome.questions.begin() + static_cast<std::ptrdiff_t>(place);
-  const DrawnQuestion old = *at;
-  again.rejected.insert(candidates[old.candidate].key);
-  std::vector<DrawnQuestion> kept = outcome.questions;
-  kept.erase(kept.begin() + static_cast<std::ptrdiff_t>(place));
-  const auto other = DrawOneMore(candidates, again, kept, old.wish, comparedAt, outcome.wishes[old.wish]);
-  if (other) {
-    *at = *other;
-  } else {
-    outcome.questions.erase(at);
-  }
-  return outcome;
-}
-
 std::vector<DrawWish> SpreadOver(const DrawWish& wish, const std::vector<std::u16string>& tags) {
   std::vector<DrawWish> wishes;
   wishes.reserve(tags.size());

@@ -22,12 +22,6 @@ std::optional<DrawnQuestion> DrawOneMore(std::span<const DrawCandidate> candidat
                                          std::size_t wish, const ComparedAt& comparedAt,
                                          WishOutcome& outcome);
 
-/// Puts another question in the place of `place` of `drawn`, for the same wish, and keeps all others. The one
-/// that was there, and those of `request.rejected`, do not come again: add each that the user sends away.
-/// If there is no other, `drawn` is returned without it; its wish tells what excluded how many.
-DrawOutcome RedrawOne(std::span<const DrawCandidate> candidates, const DrawRequest& request,
-                      const DrawOutcome& drawn, std::size_t place, const ComparedAt& comparedAt);
-
 /// A wish as several that differ in a tag, such as "difficulty:1", "difficulty:2" and "difficulty:3", with
 /// about equally many questions each; the first ones get one more if it does not come out even.
 std::vector<DrawWish> SpreadOver(const DrawWish& wish, const std::vector<std::u16string>& tags);

@@ -219,20 +219,23 @@ TEST(DrawQuestions, CanBeExchangedOneByOne) {
   request.wishes = {{.count = 4, .kind = {}, .tags = {}, .withoutTags = {}}};
   DrawOutcome drawn = bank.Draw(request);
   std::set<std::string> seen;
+  WishOutcome outcome;
   for (std::size_t left = 6; left > 0; --left) {
-    const std::vector<std::string> before = Keys(bank, drawn);
-    request.rejected.insert(before[1]);
-    drawn = RedrawOne(bank.candidates, request, drawn, 1, bank.Compared());
-    const std::vector<std::string> after = Keys(bank, drawn);
-    ASSERT_EQ(after.size(), 4U);
-    for (const std::size_t i : {0U, 2U, 3U}) EXPECT_EQ(after[i], before[i]);
-    EXPECT_TRUE(seen.insert(after[1]).second);
-    EXPECT_EQ(drawn.wishes[0].drawn, 4U);
+    std::vector<DrawnQuestion> kept = drawn.questions;
+    kept.erase(kept.begin() + 1);
+    request.rejected.insert(Keys(bank, drawn)[1]);
+    const auto other = DrawOneMore(bank.candidates, request, kept, 0, bank.Compared(), outcome);
+    ASSERT_TRUE(other);
+    for (const DrawnQuestion& question : kept) EXPECT_NE(question.candidate, other->candidate);
+    drawn.questions[1] = *other;
+    EXPECT_TRUE(seen.insert(Keys(bank, drawn)[1]).second);
+    EXPECT_EQ(outcome.drawn, 4U);
   }
-  drawn = RedrawOne(bank.candidates, request, drawn, 1, bank.Compared());
-  EXPECT_EQ(drawn.questions.size(), 3U);
-  EXPECT_EQ(drawn.wishes[0].drawn, 3U);
-  EXPECT_EQ(drawn.wishes[0].excluded.at(DrawObstacle::Rejected), 7U);
+  request.rejected.insert(Keys(bank, drawn)[1]);
+  drawn.questions.erase(drawn.questions.begin() + 1);
+  EXPECT_FALSE(DrawOneMore(bank.candidates, request, drawn.questions, 0, bank.Compared(), outcome));
+  EXPECT_EQ(outcome.drawn, 3U);
+  EXPECT_EQ(outcome.excluded.at(DrawObstacle::Rejected), 7U);
 }
 
 TEST(DrawQuestions, SpreadOverTags) {
