@@ -23,23 +23,15 @@ bool IsNameLetter(char16_t unit) {
   return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z';
 }
 
-/// Elements within a line of text: their tags do not part words.
-bool IsWithinLine(std::u16string_view name) {
-  constexpr std::u16string_view kNames[] = {u"b",      u"i",  u"u",    u"s",    u"em", u"strong", u"sub",
-                                            u"sup",    u"a",  u"font", u"span", u"q",  u"small",  u"big",
-                                            u"strike", u"tt", u"code", u"mark", u"ins"};
-  return std::find(std::begin(kNames), std::end(kNames), name) != std::end(kNames);
-}
-
 /// A tag at the front of `text`.
 Replaced TagAt(std::u16string_view text) {
   constexpr std::size_t kLongest = 64;
   const std::size_t length = LikelyTagLength(text, kLongest);
   if (length == 0) return {};
-  std::u16string name;
-  for (std::size_t at = text[1] == u'/' ? 2 : 1; IsNameLetter(text[at]); ++at)
-    name.push_back(AsciiLower(text[at]));
-  return {length, IsWithinLine(name) ? std::u16string_view() : u" "};
+  const std::size_t begin = text[1] == u'/' ? 2 : 1;
+  std::size_t end = begin;
+  while (IsNameLetter(text[end])) ++end;
+  return {length, PartsWords(text.substr(begin, end - begin)) ? u" " : std::u16string_view()};
 }
 
 /// Calls `take` with each folded unit and the part of the text that it stands for. Blanks come singly, and
@@ -81,6 +73,14 @@ void FoldUnits(std::u16string_view text, Take take) {
 }
 
 }  // namespace
+
+bool PartsWords(std::u16string_view element) {
+  constexpr std::u16string_view kWithinLines[] = {
+      u"b",    u"i", u"u",     u"s",   u"em",     u"strong", u"sub",  u"sup",  u"a",  u"font",
+      u"span", u"q", u"small", u"big", u"strike", u"tt",     u"code", u"mark", u"ins"};
+  return std::none_of(std::begin(kWithinLines), std::end(kWithinLines),
+                      [element](std::u16string_view name) { return EqualsIgnoringAsciiCase(name, element); });
+}
 
 std::u16string FoldForSearch(std::u16string_view text) {
   const std::u16string whole = ReplaceLoneSurrogates(text);

@@ -33,4 +33,8 @@ class FoldedText {
 /// Stands between texts that are searched together, where no query can match: folded texts do not have it.
 constexpr char16_t kBetweenTexts = u'\u0001';
 
+/// Whether tags of an element part the words around them, as those of "br" do and those of "b" do not. Its
+/// name may be in capitals.
+bool PartsWords(std::u16string_view element);
+
 }  // namespace quorvantis

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/BankHitText.h"
 
+#include "bank/index/FoldedText.h"
 #include "model/AnswerLetters.h"
 #include "model/FillInAnswers.h"
 #include "model/QuestionKinds.h"
@@ -81,6 +82,8 @@ class Shown {
         // Whoever looks for a question wants to read what the page hides behind it.
         AddUnit(text[begin], marked.Has(begin));
         tokens.GoTo(begin + 1);
+      } else if (token->IsTag() && PartsWords(token->name.Of(text))) {
+        AddUnit(u' ', marked.Has(begin));
       }
     }
   }

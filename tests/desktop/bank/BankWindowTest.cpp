@@ -62,7 +62,8 @@ TEST_F(BankWindowTest, IsClosedAndTypedIntoAtAnyMoment) {
 TEST(BankHitText, FollowsMarksThroughMarkup) {
   BankHit hit;
   hit.question.kind = QuestionKind::Choice;
-  hit.question.text = std::u16string(80, u'x') + u" <i>red</i> \r\n 3 &lt; 4<!-- > --> &eacute; <b blue";
+  hit.question.text =
+      std::u16string(80, u'x') + u" <i>red</i> \r\n 3 &lt; 4<!-- > --> &eacute;<BR>w<b>r</b>y <b blue";
   hit.question.options[1] = u"a <u>red</u> one";
   hit.question.answerMask = AnswerLettersToMask(u"b");
   const std::size_t red = hit.question.text.find(u"red");
@@ -71,7 +72,8 @@ TEST(BankHitText, FollowsMarksThroughMarkup) {
   ASSERT_EQ(excerpt.marks.size(), 1U);
   EXPECT_EQ(excerpt.marks[0].Of(excerpt.text), u"red");
   EXPECT_TRUE(excerpt.text.starts_with(u"…xxx")) << ToQString(excerpt.text).toStdString();
-  EXPECT_TRUE(excerpt.text.ends_with(u"red 3 < 4 \u00E9 <b blue")) << ToQString(excerpt.text).toStdString();
+  EXPECT_TRUE(excerpt.text.ends_with(u"red 3 < 4 \u00E9 wry <b blue"))
+      << ToQString(excerpt.text).toStdString();
   const BankHitText whole = WholeTextOf(hit);
   ASSERT_EQ(whole.marks.size(), 2U);
   for (const TextSpan& mark : whole.marks) EXPECT_EQ(mark.Of(whole.text), u"red");
