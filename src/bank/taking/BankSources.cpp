@@ -3,25 +3,17 @@
 
 #include "bank/near/OpenedContent.h"
 #include "bank/near/QuestionContentKey.h"
+#include "bank/taking/StillAsShown.h"
 #include "taking/OtherExam.h"
-#include "text/Utf.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace quorvantis {
 namespace {
 
-/// The index keeps texts as UTF-8, so lone surrogates are others there.
-bool IsAsKept(const std::u16string& now, const std::u16string& kept) {
-  return now == kept || Utf8ToUtf16(Utf16ToUtf8(now)) == kept;
-}
-
 /// The key tells of the files and the answers, but not of punctuation.
 bool IsAsShown(const ExamQuestion& now, const BankQuestion& question, const FileDigest& digest) {
-  return IsAsKept(now.text, question.text) &&
-         std::equal(now.options.begin(), now.options.end(), question.options.begin(), IsAsKept) &&
-         QuestionContentKey(OpenedContent(now, digest), digest) == question.key;
+  return IsStillSo(now, question) && QuestionContentKey(OpenedContent(now, digest), digest) == question.key;
 }
 
 }  // namespace

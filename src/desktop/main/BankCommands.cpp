@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/main/BankCommands.h"
 
+#include "bank/taking/StillAsShown.h"
 #include "desktop/main/BankPages.h"
 #include "editor/WorkCopies.h"
 #include "model/document/ExamServices.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/main/BankPages.h"
 
+#include "bank/taking/StillAsShown.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "editor/WorkCopies.h"
@@ -26,10 +27,6 @@ constexpr int kUntilTold = 300;    // milliseconds
 constexpr int kNoticeMargin = 12;  // pixels
 
 }  // namespace
-
-bool IsStillSo(const ExamQuestion& now, const BankQuestion& question) {
-  return now.text == question.text && now.options == question.options;
-}
 
 std::u16string NoLongerSoText(const BankQuestion& question, const StringTable& strings) {
   return FillMessage(strings.Text(text_id::kBankChanged),

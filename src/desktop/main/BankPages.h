@@ -19,10 +19,7 @@
 
 namespace quorvantis {
 
-/// Whether the exam holds the question as the bank has it: it may have been saved since it was searched.
-bool IsStillSo(const ExamQuestion& now, const BankQuestion& question);
-
-/// What to tell when it does not.
+/// What to tell when an exam no longer holds a question as the bank shows it.
 std::u16string NoLongerSoText(const BankQuestion& question, const StringTable& strings);
 
 /// Shows questions of the bank in a browser of its own. Each is read from its file on another thread; what is

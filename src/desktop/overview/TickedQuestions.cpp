@@ -89,7 +89,8 @@ void TickedQuestions::Show(std::vector<OverviewRow> rows) {
   table_->setColumnWidth(OverviewModel::Text, kTextColumnWidth);
   table_->setColumnWidth(OverviewModel::Key,
                          std::min(table_->columnWidth(OverviewModel::Key), kWidestKeyColumn));
-  table_->selectRow(0);
+  table_->setCurrentIndex(
+      model_->index(0, OverviewModel::Text));  // selectRow does nothing in a mirrored table
   ShowCount();
 }
 
