@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/BankQuestionPane.h"
 
-#include "desktop/bank/BankHitText.h"
+#include "desktop/bank/desk/BankHitText.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "platform/StringTable.h"

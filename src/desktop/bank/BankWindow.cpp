@@ -2,9 +2,9 @@
 #include "desktop/bank/BankWindow.h"
 
 #include "bank/tags/TagTexts.h"
-#include "desktop/bank/BankFoldersDlg.h"
-#include "desktop/bank/BankHitDelegate.h"
-#include "desktop/bank/BankSelection.h"
+#include "desktop/bank/desk/BankFoldersDlg.h"
+#include "desktop/bank/hits/BankHitDelegate.h"
+#include "desktop/bank/hits/BankSelection.h"
 #include "desktop/controls/CompanionWindow.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/bank/BankDesk.h"
-#include "desktop/bank/BankElsewhereLine.h"
-#include "desktop/bank/BankHitsModel.h"
-#include "desktop/bank/BankHitsView.h"
 #include "desktop/bank/BankPageView.h"
 #include "desktop/bank/BankQueryLine.h"
 #include "desktop/bank/BankQuestionPane.h"
-#include "desktop/bank/BankTagLine.h"
-#include "desktop/bank/BankThumbnails.h"
+#include "desktop/bank/asked/BankElsewhereLine.h"
+#include "desktop/bank/desk/BankDesk.h"
+#include "desktop/bank/hits/BankHitsModel.h"
+#include "desktop/bank/hits/BankHitsView.h"
+#include "desktop/bank/hits/BankThumbnails.h"
+#include "desktop/bank/tags/BankTagLine.h"
 #include "shell/settings/WindowPlace.h"
 
 #include <QDialog>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/bank/AskedBeforeWindow.h"
-#include "desktop/bank/BankDesk.h"
 #include "desktop/bank/BankWindow.h"
+#include "desktop/bank/asked/AskedBeforeWindow.h"
+#include "desktop/bank/desk/BankDesk.h"
 #include "desktop/main/PdfExport.h"
 #include "desktop/main/SheetCommands.h"
 #include "desktop/overview/ShownQuestionCommands.h"

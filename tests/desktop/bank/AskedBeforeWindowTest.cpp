@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "bank/index/BankUpdate.h"
 #include "desktop/WindowTest.h"
-#include "desktop/bank/AskedBeforeWindow.h"
-#include "desktop/bank/BankElsewhereLine.h"
 #include "desktop/bank/BankWindow.h"
+#include "desktop/bank/asked/AskedBeforeWindow.h"
+#include "desktop/bank/asked/BankElsewhereLine.h"
 #include "examfile/ExamFileWriter.h"
 #include "platform/digest/OpenSslDigest.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bank/index/Database.h"
 #include "desktop/WindowTest.h"
-#include "desktop/bank/BankDesk.h"
+#include "desktop/bank/desk/BankDesk.h"
 #include "examfile/ExamFileWriter.h"
 #include "platform/digest/OpenSslDigest.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BankWindowTest.h"
-#include "desktop/bank/BankHitsModel.h"
-#include "desktop/bank/ThumbnailDecoder.h"
+#include "desktop/bank/hits/BankHitsModel.h"
+#include "desktop/bank/hits/ThumbnailDecoder.h"
 
 #include <QBuffer>
 #include <QImage>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BankWindowTest.h"
 
-#include "desktop/bank/BankHitText.h"
+#include "desktop/bank/desk/BankHitText.h"
 #include "model/AnswerLetters.h"
 
 #include <random>

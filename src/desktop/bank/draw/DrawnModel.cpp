@@ -2,9 +2,9 @@
 #include "desktop/bank/draw/DrawnModel.h"
 
 #include "bank/draw/DrawTexts.h"
-#include "desktop/bank/BankHitText.h"
-#include "desktop/bank/BankHitsModel.h"
+#include "desktop/bank/desk/BankHitText.h"
 #include "desktop/bank/draw/TypedOrder.h"
+#include "desktop/bank/hits/BankHitsModel.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "bank/search/BankMemory.h"
-#include "desktop/bank/BankDesk.h"
-#include "desktop/bank/FileDigestCache.h"
+#include "desktop/bank/desk/BankDesk.h"
+#include "desktop/bank/desk/FileDigestCache.h"
 #include "model/document/FrameSetExam.h"
 #include "platform/StringTable.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankFoldersDlg.h"
+#include "desktop/bank/desk/BankFoldersDlg.h"
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/OwnDirection.h"

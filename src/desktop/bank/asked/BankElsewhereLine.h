@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bank/search/BankMemory.h"
-#include "desktop/bank/BankDesk.h"
+#include "desktop/bank/desk/BankDesk.h"
 #include "desktop/controls/BackgroundRun.h"
 
 #include <QLabel>

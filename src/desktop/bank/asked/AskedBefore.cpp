@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/AskedBefore.h"
+#include "desktop/bank/asked/AskedBefore.h"
 
 #include "bank/near/OpenedContent.h"
-#include "desktop/bank/BankExamCaption.h"
-#include "desktop/bank/BankHitText.h"
+#include "desktop/bank/desk/BankExamCaption.h"
+#include "desktop/bank/desk/BankHitText.h"
 #include "desktop/controls/QtText.h"
 #include "platform/Progress.h"
 #include "platform/TextNumbers.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/bank/BankDesk.h"
+#include "desktop/bank/desk/BankDesk.h"
 #include "platform/StringTable.h"
 
 #include <QDialog>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankHitsModel.h"
+#include "desktop/bank/hits/BankHitsModel.h"
 
-#include "desktop/bank/BankExamCaption.h"
+#include "desktop/bank/desk/BankExamCaption.h"
 #include "desktop/controls/KindCaption.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"

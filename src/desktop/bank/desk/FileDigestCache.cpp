@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/FileDigestCache.h"
+#include "desktop/bank/desk/FileDigestCache.h"
 
 #include <cstddef>
 #include <fstream>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/ThumbnailDecoder.h"
+#include "desktop/bank/hits/ThumbnailDecoder.h"
 
 #include <QBuffer>
 #include <QImageReader>

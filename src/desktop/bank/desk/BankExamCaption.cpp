@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankExamCaption.h"
+#include "desktop/bank/desk/BankExamCaption.h"
 
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankTagLine.h"
+#include "desktop/bank/tags/BankTagLine.h"
 
 #include "bank/search/TagSubjects.h"
 #include "bank/tags/TagTexts.h"
-#include "desktop/bank/BankDesk.h"
+#include "desktop/bank/desk/BankDesk.h"
 #include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"
 #include "platform/TextNumbers.h"

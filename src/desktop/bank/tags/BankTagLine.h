@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/bank/BankTagChips.h"
-#include "desktop/bank/BankTagDesk.h"
-#include "desktop/bank/BankTagNotice.h"
+#include "desktop/bank/tags/BankTagChips.h"
+#include "desktop/bank/tags/BankTagDesk.h"
+#include "desktop/bank/tags/BankTagNotice.h"
 
 #include <QTimer>
 #include <QWidget>

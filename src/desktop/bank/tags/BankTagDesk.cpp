@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankTagDesk.h"
+#include "desktop/bank/tags/BankTagDesk.h"
 
 #include "bank/search/TagSubjects.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/EarlierUsesModel.h"
+#include "desktop/bank/asked/EarlierUsesModel.h"
 
-#include "desktop/bank/BankExamCaption.h"
+#include "desktop/bank/desk/BankExamCaption.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankHitText.h"
+#include "desktop/bank/desk/BankHitText.h"
 
 #include "bank/index/FoldedText.h"
 #include "model/AnswerLetters.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankElsewhereLine.h"
+#include "desktop/bank/asked/BankElsewhereLine.h"
 
 #include "bank/search/UnchangedExams.h"
-#include "desktop/bank/AskedBefore.h"
-#include "desktop/bank/BankExamCaption.h"
+#include "desktop/bank/asked/AskedBefore.h"
+#include "desktop/bank/desk/BankExamCaption.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/bank/AskedBefore.h"
+#include "desktop/bank/asked/AskedBefore.h"
 
 #include <QStandardItemModel>
 

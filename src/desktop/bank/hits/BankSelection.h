@@ -2,7 +2,7 @@
 // The rows that are selected in the list of hits, beside the current one, through changes of the list.
 #pragma once
 
-#include "desktop/bank/BankHitsModel.h"
+#include "desktop/bank/hits/BankHitsModel.h"
 
 #include <QListView>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankHitDelegate.h"
+#include "desktop/bank/hits/BankHitDelegate.h"
 
-#include "desktop/bank/BankHitsModel.h"
+#include "desktop/bank/hits/BankHitsModel.h"
 
 #include <QApplication>
 #include <QPainter>

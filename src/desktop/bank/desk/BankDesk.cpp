@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankDesk.h"
+#include "desktop/bank/desk/BankDesk.h"
 
 #include "bank/index/BankFolders.h"
 #include "bank/search/BankQuestions.h"

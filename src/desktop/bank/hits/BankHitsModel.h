@@ -2,9 +2,9 @@
 #pragma once
 
 #include "bank/search/BankSearch.h"
-#include "desktop/bank/BankHitText.h"
-#include "desktop/bank/BankTagDesk.h"
-#include "desktop/bank/BankThumbnails.h"
+#include "desktop/bank/desk/BankHitText.h"
+#include "desktop/bank/hits/BankThumbnails.h"
+#include "desktop/bank/tags/BankTagDesk.h"
 #include "platform/StringTable.h"
 
 #include <QAbstractListModel>

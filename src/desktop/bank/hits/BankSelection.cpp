@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankSelection.h"
+#include "desktop/bank/hits/BankSelection.h"
 
 #include <algorithm>
 

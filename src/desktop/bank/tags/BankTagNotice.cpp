@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankTagNotice.h"
+#include "desktop/bank/tags/BankTagNotice.h"
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"

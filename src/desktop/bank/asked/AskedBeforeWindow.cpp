@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/AskedBeforeWindow.h"
+#include "desktop/bank/asked/AskedBeforeWindow.h"
 
 #include "desktop/controls/CompanionWindow.h"
 #include "desktop/controls/Controls.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/bank/AskedBefore.h"
-#include "desktop/bank/EarlierUsesModel.h"
-#include "desktop/bank/SharedExamsModel.h"
+#include "desktop/bank/asked/AskedBefore.h"
+#include "desktop/bank/asked/EarlierUsesModel.h"
+#include "desktop/bank/asked/SharedExamsModel.h"
 #include "desktop/controls/BackgroundRun.h"
 #include "desktop/controls/BranchTree.h"
 #include "desktop/controls/RunBar.h"

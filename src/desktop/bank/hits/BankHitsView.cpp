@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankHitsView.h"
+#include "desktop/bank/hits/BankHitsView.h"
 
-#include "desktop/bank/BankHitsModel.h"
+#include "desktop/bank/hits/BankHitsModel.h"
 #include "desktop/controls/QuestionDrag.h"
 
 #include <QDrag>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankThumbnails.h"
+#include "desktop/bank/hits/BankThumbnails.h"
 
-#include "desktop/bank/ThumbnailDecoder.h"
+#include "desktop/bank/hits/ThumbnailDecoder.h"
 #include "examfile/ExamFileReader.h"
 #include "examfile/PickedFiles.h"
 #include "model/FileKinds.h"

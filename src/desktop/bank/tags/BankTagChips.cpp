@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/bank/BankTagChips.h"
+#include "desktop/bank/tags/BankTagChips.h"
 
 #include "bank/tags/TagEntry.h"
 #include "desktop/controls/Controls.h"
