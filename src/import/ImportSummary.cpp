@@ -84,7 +84,8 @@ class Summary {
     Say(text_id::kQuestionsRead,
         {Text(questions.size()), Number(ReadKind::Choice), Number(ReadKind::TrueFalse),
          Number(ReadKind::FillIn), Number(ReadKind::Essay)});
-    const auto written = static_cast<std::size_t>(report_.nextSlot - report_.firstSlot + report_.removed);
+    const int slots = report_.nextSlot - report_.firstSlot;
+    const auto written = static_cast<std::size_t>(slots) + static_cast<std::size_t>(report_.removed);
     if (questions.size() > written)
       Say(text_id::kLeftOut, {Text(questions.size() - written), Text(kMaxQuestions)});
     if (report_.removed > 0) Say(text_id::kQuestionsRemoved, {Text(report_.removed)});
