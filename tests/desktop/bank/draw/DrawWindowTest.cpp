@@ -251,8 +251,7 @@ TEST_F(DrawWindowTest, DrawsWhatTheCommandDrawsAlsoLater) {
                  "--unused-since", since, "--not-like", PathToQString(open), "--json"});
   ASSERT_TRUE(command.waitForFinished(kDrawPatience));
   std::vector<std::string> printed;
-  for (const QJsonValue& question :
-       QJsonDocument::fromJson(command.readAllStandardOutput())["questions"].toArray())
+  for (const auto& question : QJsonDocument::fromJson(command.readAllStandardOutput())["questions"].toArray())
     printed.push_back(question["exam"].toString().toStdString() + ":" +
                       std::to_string(question["number"].toInt()));
   EXPECT_EQ(printed, places) << command.readAllStandardError().toStdString();
