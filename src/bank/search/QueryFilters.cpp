@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <ctime>
 #include <limits>
 
@@ -32,9 +33,11 @@ std::optional<TypedDate> ReadDate(std::u16string_view text) {
     if (!AreDigits(part) || part.size() > (i == 0 ? 4U : 2U)) return std::nullopt;
     parts[i] = ParseInteger(part);
     if (part.size() == text.size()) {
-      const bool isDate =
-          parts[0] >= 1970 && parts[1] >= 1 && parts[1] <= 12 && parts[2] >= 1 && parts[2] <= 31;
-      return isDate ? std::optional<TypedDate>({parts[0], parts[1], parts[2]}) : std::nullopt;
+      const std::chrono::year_month_day date{std::chrono::year(parts[0]),
+                                             std::chrono::month(static_cast<unsigned>(parts[1])),
+                                             std::chrono::day(static_cast<unsigned>(parts[2]))};
+      return parts[0] >= 1970 && date.ok() ? std::optional<TypedDate>({parts[0], parts[1], parts[2]})
+                                           : std::nullopt;
     }
     text.remove_prefix(part.size() + 1);
   }

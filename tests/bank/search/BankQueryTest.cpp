@@ -36,6 +36,8 @@ TEST(BankQuery, ReadsWordsPhrasesAndFilters) {
   EXPECT_EQ(query.exams, std::vector<std::u16string>{u"term 2"});
   EXPECT_EQ(query.folders, std::vector<std::u16string>{u"2024"});
   EXPECT_EQ(query.score, (ScoreBounds{1, 2.5, true, true}));
+  EXPECT_TRUE(ParseBankQuery(u"after:2028-02-29").writtenFrom);
+  EXPECT_EQ(ParseBankQuery(u"after:2026-02-29").terms.size(), 1U) << "no day, so it is text";
 }
 
 using BankSearchTest = BankTest;

@@ -12,6 +12,7 @@
 #include <QBoxLayout>
 
 #include <algorithm>
+#include <map>
 
 namespace quorvantis {
 namespace {
@@ -182,17 +183,20 @@ void BankTagLine::ShowProblem() {
                 isAny || !desk_.KeptAside().empty());
 }
 
+/// A line for each folder, with all that is not written there.
 QString BankTagLine::ProblemText() const {
   QStringList lines;
   for (const std::filesystem::path& aside : desk_.KeptAside())
     lines.append(ToQString(FillMessage(strings_.Text(text_id::kBankTagsKeptAside), {PathToText(aside)})));
-  if (desk_.Failed().empty()) return lines.join('\n');
-  TagStep failed;
-  for (const FailedChange& each : desk_.Failed()) failed.push_back(each.change);
-  const FailedChange& first = desk_.Failed().front();
-  const std::u16string tags = FromQString(Joined(TagsIn(failed)));
-  lines.append(ToQString(FillMessage(strings_.Text(text_id::kBankTagsNotWritten), {tags}) + u" " +
-                         TagProblemText(first.result, first.change.folder / kTagFileName, strings_)));
+  std::map<std::filesystem::path, TagStep> notWritten;
+  for (const FailedChange& each : desk_.Failed()) notWritten[each.change.folder].push_back(each.change);
+  for (const FailedChange& each : desk_.Failed()) {
+    const auto step = notWritten.extract(each.change.folder);
+    if (step.empty()) continue;  // told with an earlier one
+    const std::u16string tags = FromQString(Joined(TagsIn(step.mapped())));
+    lines.append(ToQString(FillMessage(strings_.Text(text_id::kBankTagsNotWritten), {tags}) + u" " +
+                           TagProblemText(each.result, each.change.folder / kTagFileName, strings_)));
+  }
   return lines.join('\n');
 }
 
