@@ -252,8 +252,8 @@ TEST_F(DrawWindowTest, DrawsWhatTheCommandDrawsAlsoLater) {
   ASSERT_TRUE(command.waitForFinished(kDrawPatience));
   std::vector<std::string> printed;
   for (const auto& question : QJsonDocument::fromJson(command.readAllStandardOutput())["questions"].toArray())
-    printed.push_back(question["exam"].toString().toStdString() + ":" +
-                      std::to_string(question["number"].toInt()));
+    printed.push_back(question.toObject()["exam"].toString().toStdString() + ":" +
+                      std::to_string(question.toObject()["number"].toInt()));
   EXPECT_EQ(printed, places) << command.readAllStandardError().toStdString();
 }
 
