@@ -73,6 +73,27 @@ const ForeignRow kTables[] = {
     {"sep=;\nQuestion;A;B;right\nq;x;y;A\n", "choice q | +x | -y\n"},
     {"kind,question,A,B,right\nmcq,q,Bad,y,Bad\nodd,q,,,\n", "choice q | +Bad | -y\nessay q\n",
      "question 2: the kind \xE2\x80\x9Codd\xE2\x80\x9D is not known\n"},
+    // A letter or a number is what it says, even if it is the text of another option, too.
+    {"question,A,B,C,right\nq,B,A,C,A\nq,B,A,C,C\nq,2,3,1,3\nq,x,B,B,B\n",
+     "choice q | +B | -A | -C\nchoice q | -B | -A | +C\nchoice q | -2 | -3 | +1\nchoice q | -x | +B | -B\n",
+     "question 1: \xE2\x80\x9C"
+     "A\xE2\x80\x9D can be the letter or number of one option and the text of "
+     "another; A is taken for right\n"
+     "question 3: \xE2\x80\x9C"
+     "3\xE2\x80\x9D can be the letter or number of one option and the text of "
+     "another; C is taken for right\n"},
+    {"question,A,B,C,right\nq,11,12,13,12\nq,11,12,13,2\nq,x,Ab,y,Ab\n",
+     "choice q | -11 | +12 | -13\nchoice q | -11 | +12 | -13\nchoice q | -x | +Ab | -y\n",
+     "question 1: \xE2\x80\x9C"
+     "12\xE2\x80\x9D can be the letter or number of one option and the text of "
+     "another; B is taken for right\n"
+     "question 3: \xE2\x80\x9C"
+     "Ab\xE2\x80\x9D can be the letter or number of one option and the text of "
+     "another; B is taken for right\n"},
+    // In a table of our own, letters are letters; what people change in it may be a text.
+    {"kind,question,A,B,C,D,E,right,answers,model answer,score\nchoice,q,0,A,B,AB,,B,,,\n"
+     "choice,q,0,A,B,AB,,AB,,,\nchoice,q,Bad,x,,,,Bad,,,\n",
+     "choice q | -0 | +A | -B | -AB\nchoice q | +0 | +A | -B | -AB\nchoice q | +Bad | -x\n"},
 };
 
 const ForeignRow kTabTables[] = {

@@ -105,7 +105,16 @@ class RandomExam {
   }
 
   void AddOptions(ExchangedQuestion& question) {
-    for (std::size_t i = random_() % 6; i > 0; --i) question.options.push_back({Text(), Chance(3)});
+    const bool areShort = Chance(3);
+    for (std::size_t i = random_() % 6; i > 0; --i)
+      question.options.push_back({areShort ? ShortOption() : Text(), Chance(3)});
+  }
+
+  /// What could be taken for letters or numbers of options.
+  std::u16string ShortOption() {
+    static const char16_t* const kShort[] = {u"A", u"B", u"C", u"D", u"b",  u"AB",   u"BC",
+                                             u"0", u"1", u"2", u"3", u"12", u"A. B", u"ANSWER: B"};
+    return kShort[random_() % std::size(kShort)];
   }
 
   void AddAnswers(ExchangedQuestion& question) {

@@ -2,12 +2,14 @@
 #include "exchange/table/TableColumns.h"
 
 #include "exchange/form/TextSource.h"
+#include "model/AnswerLetters.h"
 #include "model/ExamLimits.h"
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -78,7 +80,45 @@ bool IsListOfOptions(std::u16string_view cell) {
   });
 }
 
+/// The first option that has this text; none if none has.
+std::vector<bool> OptionsOfText(std::u16string_view cell, const std::vector<std::u16string>& options) {
+  std::vector<bool> rights(options.size());
+  const auto same = std::ranges::find(options, cell);
+  if (!cell.empty() && same != options.end()) rights[static_cast<std::size_t>(same - options.begin())] = true;
+  return rights;
+}
+
+/// The options with these letters or numbers; none if one of them names no option.
+std::vector<bool> OptionsByPlace(std::u16string_view cell, std::size_t count) {
+  std::vector<bool> rights(count);
+  for (const char16_t unit : cell) {
+    if (kBetweenOptions.find(unit) != kBetweenOptions.npos) continue;
+    const auto option = OptionOfName(AsciiLower(std::u16string_view(&unit, 1)));
+    if (!option || *option >= count) return std::vector<bool>(count);
+    rights[*option] = true;
+  }
+  return rights;
+}
+
+std::size_t FirstOf(const std::vector<bool>& rights) {
+  return static_cast<std::size_t>(std::ranges::find(rights, true) - rights.begin());
+}
+
+/// Capital letters in order, with nothing between them.
+bool IsKeyAsWritten(std::u16string_view cell) {
+  for (std::size_t i = 0; i < cell.size(); ++i) {
+    if (cell[i] < OptionLetter(0) || cell[i] >= OptionLetter(kOptionCount)) return false;
+    if (i > 0 && cell[i] <= cell[i - 1]) return false;
+  }
+  return !cell.empty();
+}
+
 }  // namespace
+
+TableRow WrittenColumnNames() {
+  return {u"kind",    u"question",     u"A",    u"B", u"C", u"D", u"E", u"right",
+          u"answers", u"model answer", u"score"};
+}
 
 TableColumns ColumnsOf(const TableRow& names) {
   TableColumns columns;
@@ -93,6 +133,7 @@ TableColumns ColumnsOf(const TableRow& names) {
     }
   }
   for (const auto& [option, column] : options) columns.options.push_back(column);
+  columns.areOurs = std::ranges::equal(names, WrittenColumnNames(), {}, Trimmed);
   return columns;
 }
 
@@ -146,20 +187,15 @@ std::vector<std::u16string> AnswersInCell(std::u16string_view cell) {
   return answers;
 }
 
-std::vector<bool> NamedRights(std::u16string_view cell, const std::vector<std::u16string>& options) {
-  std::vector<bool> rights(options.size());
-  const auto same = std::ranges::find(options, cell);
-  if (!cell.empty() && same != options.end()) {
-    rights[static_cast<std::size_t>(same - options.begin())] = true;
-    return rights;
-  }
-  for (const char16_t unit : cell) {
-    if (kBetweenOptions.find(unit) != kBetweenOptions.npos) continue;
-    const auto option = OptionOfName(AsciiLower(std::u16string_view(&unit, 1)));
-    if (!option || *option >= options.size()) return std::vector<bool>(options.size());
-    rights[*option] = true;
-  }
-  return rights;
+NamedOptions NamedRights(std::u16string_view cell, const std::vector<std::u16string>& options, bool isOurs) {
+  std::vector<bool> byText = OptionsOfText(cell, options);
+  std::vector<bool> byPlace = OptionsByPlace(cell, options.size());
+  const auto placed = std::ranges::count(byPlace, true);
+  if (placed == 0) return {std::move(byText)};
+  const bool isOwnText = placed == 1 && options[FirstOf(byPlace)] == cell;
+  const bool hasText = std::ranges::count(byText, true) > 0;
+  if (!hasText || isOwnText || (isOurs && IsKeyAsWritten(cell))) return {std::move(byPlace)};
+  return {cell.size() == 1 ? std::move(byPlace) : std::move(byText), true};
 }
 
 }  // namespace quorvantis

@@ -58,10 +58,20 @@ class TableRows {
     std::vector<std::u16string> cells;
     for (const std::size_t column : columns_.options) cells.emplace_back(Trimmed(Cell(row, column)));
     while (!cells.empty() && cells.back().empty()) cells.pop_back();
-    const std::vector<bool> rights = NamedRights(Trimmed(Cell(row, columns_.right)), cells);
+    const std::u16string cell = Cell(row, columns_.right);
+    const auto [rights, isAmbiguous] = NamedRights(Trimmed(cell), cells, columns_.areOurs);
+    if (isAmbiguous) TellAmbiguous(Trimmed(cell), rights);
     for (std::size_t i = 0; i < cells.size(); ++i) {
       if (!cells[i].empty()) question.options.push_back({Text(cells[i]), rights[i]});
     }
+  }
+
+  void TellAmbiguous(std::u16string_view cell, const std::vector<bool>& rights) {
+    std::u16string letters;
+    for (std::size_t i = 0; i < rights.size(); ++i) {
+      if (rights[i]) letters.push_back(static_cast<char16_t>(u'A' + i));
+    }
+    tools_.notes.Tell(text_id::kExchangeAmbiguousRight, {Excerpt(cell), letters});
   }
 
   std::u16string Text(std::u16string_view cell) {
@@ -152,8 +162,7 @@ std::optional<ExchangedExam> TableReader::Read(const ExchangeSource& source, Rea
 }
 
 std::string TableWriter::Write(const ExchangedExam& exam, const StringTable&, Progress&) {
-  std::vector<TableRow> rows{
-      {u"kind", u"question", u"A", u"B", u"C", u"D", u"E", u"right", u"answers", u"model answer", u"score"}};
+  std::vector<TableRow> rows{WrittenColumnNames()};
   for (const ExchangedQuestion& question : exam.questions) rows.push_back(CellsOf(question));
   std::u16string table;
   for (const TableRow& row : rows) {
