@@ -16,6 +16,7 @@
 #include "exchange/exam/ExchangeToExam.h"
 #include "platform/TextNumbers.h"
 #include "platform/WholeFile.h"
+#include "text/MessageText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 
@@ -156,7 +157,14 @@ class Conversion {
     const ExamServices& services = session_.services;
     ExchangeNotes ofNoInterest;  // a reader has told what its texts have lost
     ExchangedExam exam = ExamToExchange(session_.exam, isExam_ ? notes_ : ofNoInterest);
+    const bool hasQuestions = !exam.questions.empty();
     const ExchangedExam held = HeldExam(format.held, std::move(exam), notes_);
+    if (hasQuestions && held.questions.empty()) {
+      TellNotes();
+      throw CommandError(request_.target.string() + ": is not written. " +
+                         Utf16ToUtf8(FillMessage(services.strings.Text(text_id::kExchangeHoldsNothing),
+                                                 {services.strings.Text(format.title)})));
+    }
     return format.writer()->Write(held, services.strings, services.progress);
   }
 

@@ -114,6 +114,7 @@ const FormatRow kFormats[] = {
      .extensionIsItsOwn = true,
      .held = kTableParts,
      .recognises = LooksLikeTable,
+     .beginsLikeNoOther = true,
      .reader = NewReader<TableReader>,
      .writer = NewCommaWriter},
     {.name = "tsv",
@@ -124,6 +125,7 @@ const FormatRow kFormats[] = {
      .extensionIsItsOwn = true,
      .held = kTableParts,
      .recognises = LooksLikeTabTable,
+     .beginsLikeNoOther = true,
      .reader = NewReader<TableReader>,
      .writer = NewTabWriter},
     {.name = "gift",
@@ -159,6 +161,7 @@ const FormatRow kFormats[] = {
               .scores = true,
               .title = true},
      .recognises = LooksLikeMarkdown,
+     .beginsLikeNoOther = true,
      .writer = NewWriter<MarkdownWriter>},
 };
 
@@ -178,16 +181,13 @@ const FormatRow* FormatNamed(std::string_view name) {
 }
 
 const FormatRow* RecogniseFormat(const ExchangeSource& source) {
-  const auto find = [&source](bool isRead) {
-    return std::ranges::find_if(kFormats, [&source, isRead](const FormatRow& format) {
-      return format.recognises != nullptr && (format.reader != nullptr) == isRead &&
-             format.recognises(source);
+  for (const bool isFirst : {true, false}) {
+    const auto* const row = std::ranges::find_if(kFormats, [&source, isFirst](const FormatRow& format) {
+      return format.recognises != nullptr && format.beginsLikeNoOther == isFirst && format.recognises(source);
     });
-  };
-  // What is only written has the form that this program gives it, so it is told apart first.
-  const FormatRow* row = find(false);
-  if (row == std::end(kFormats)) row = find(true);
-  return row != std::end(kFormats) ? row : nullptr;
+    if (row != std::end(kFormats)) return row;
+  }
+  return nullptr;
 }
 
 const FormatRow* FormatForFile(const std::filesystem::path& file) {

@@ -22,6 +22,8 @@ struct FormatRow {
   /// Whether a file looks like one of the format. A format that is only written can have it, too, so that its
   /// files are not taken for those of another.
   bool (*recognises)(const ExchangeSource& source) = nullptr;
+  /// Its files begin with what no file of another format would, so they are told apart first.
+  bool beginsLikeNoOther = false;
   std::unique_ptr<FormatReader> (*reader)() = nullptr;
   std::unique_ptr<FormatWriter> (*writer)() = nullptr;
 };

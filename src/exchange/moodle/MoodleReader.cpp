@@ -324,8 +324,11 @@ class MoodleQuizReading {
 
 bool LooksLikeMoodleXml(const ExchangeSource& source) {
   const std::string head = source.HeadOfXml();
+  constexpr std::string_view kBeforeXml = " \t\r\n\xEF\xBB\xBF\xFE\xFF";
+  const std::size_t begin = head.find_first_not_of(kBeforeXml);
   const std::size_t quiz = head.find("<quiz");
-  return quiz < 4096 && (head.find("<question") != head.npos || head.find("</quiz>") != head.npos);
+  return begin < head.size() && head[begin] == '<' && quiz < 4096 &&
+         (head.find("<question") != head.npos || head.find("</quiz>") != head.npos);
 }
 
 std::optional<ExchangedExam> MoodleXmlReader::Read(const ExchangeSource& source, ReadingTools& tools) {
