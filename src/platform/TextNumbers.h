@@ -826,6 +826,7 @@ constexpr int kExchangeTooManyOptions = 2163;
 constexpr int kExchangeAlternatives = 2164;
 constexpr int kExchangeTooManyFiles = 2165;
 constexpr int kExchangeTooManyQuestions = 2166;
+constexpr int kExchangeFarTooMany = 2600;  // %1 is how many are read of a file
 constexpr int kExchangeEmptyQuestion = 2167;
 constexpr int kExchangeMarkupLeftOut = 2168;
 constexpr int kExchangeLinesJoined = 2169;

@@ -214,5 +214,35 @@ TEST_P(ToldLosses, OfWhatIsImported) {
   }
 }
 
+TEST_P(ToldLosses, OfMoreThanAnExamTakes) {
+  const std::pair<std::size_t, const char*> rows[] = {
+      {500, ""},
+      {501, "an exam takes 500 questions; 1 is left out"},
+      {5000, "an exam takes 500 questions; 4500 are left out"},
+      {5001,
+       "no more than 5000 questions of a file are read, and this one goes on; an exam takes 500, the rest is "
+       "left out"},
+  };
+  for (const auto& [count, told] : rows) {
+    ExchangedExam foreign;
+    ExchangedQuestion question;
+    question.text = u"t";
+    question.options = {{u"a", true}, {u"b", false}};
+    for (std::size_t i = 1; i <= count; ++i) {
+      question.number = static_cast<int>(i);
+      foreign.questions.push_back(question);
+    }
+    ExchangeNotes notes;
+    const ExchangedExam read =
+        Read(FormatNamed(GetParam())->writer()->Write(foreign, BuiltInStrings(), progress), notes);
+    FrameSetExam exam(world.services);
+    exam.SetHostMode(1);
+    EXPECT_EQ(StoreExchanged(read, exam, 1, notes), 501);
+    std::string lines;
+    for (const ExchangeNote& note : notes.All()) lines += Utf16ToUtf8(NoteLine(note, BuiltInStrings()));
+    EXPECT_EQ(lines, told) << count;
+  }
+}
+
 }  // namespace
 }  // namespace quorvantis::test

@@ -39,7 +39,8 @@ class CanvasExamReading {
       tools_.notes.Tell(text_id::kExchangeOtherCategory, {Excerpt(title)});
     }
     for (const pugi::xml_node item : ElementsBelow(root, {"item"})) {
-      if (exam_.questions.size() >= kMaxReadQuestions || tools_.progress.IsCancelled()) break;
+      exam_.isCutShort = exam_.questions.size() >= kMaxReadQuestions;
+      if (exam_.isCutShort || tools_.progress.IsCancelled()) break;
       tools_.notes.Begin(++number_);
       ExchangedQuestion question;
       question.number = number_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/exam/ExchangeToExam.h"
 
+#include "exchange/form/ExchangeLimits.h"
 #include "exchange/markup/Markup.h"
 #include "model/AnswerLetters.h"
 #include "model/LongAnswerFlags.h"
@@ -119,18 +120,25 @@ class ExamFilling {
   ExchangeNotes& notes_;
 };
 
+/// How many are left out is known only if all of them were read.
+void TellLeftOut(const ExchangedExam& exchanged, std::size_t room, ExchangeNotes& notes) {
+  const std::size_t count = exchanged.questions.size();
+  notes.Begin(0);
+  if (exchanged.isCutShort) {
+    notes.Tell(text_id::kExchangeFarTooMany, {FormatInteger(kMaxReadQuestions)});
+  } else if (count > room) {
+    notes.Tell(text_id::kExchangeTooManyQuestions, {FormatInteger(static_cast<std::int64_t>(count - room))});
+  }
+}
+
 }  // namespace
 
 int StoreExchanged(const ExchangedExam& exchanged, FrameSetExam& exam, int firstSlot, ExchangeNotes& notes) {
   ExamFilling filling(exam, notes);
   std::vector<ExchangedQuestion> questions = exchanged.questions;
   const auto room = static_cast<std::size_t>(kMaxQuestions + 1 - firstSlot);
-  if (questions.size() > room) {
-    notes.Begin(0);
-    notes.Tell(text_id::kExchangeTooManyQuestions,
-               {FormatInteger(static_cast<std::int64_t>(questions.size() - room))});
-    questions.resize(room);
-  }
+  TellLeftOut(exchanged, room, notes);
+  if (questions.size() > room) questions.resize(room);
   int slot = firstSlot;
   for (const ExchangedQuestion& question : questions) {
     notes.Begin(question.number);

@@ -9,6 +9,6 @@ namespace quorvantis {
 inline constexpr std::size_t kMaxExchangedFile = std::size_t{50} << 20;   ///< one attached file, or a text
 inline constexpr std::size_t kMaxSourceFile = std::size_t{256} << 20;     ///< a file with others inside
 inline constexpr std::size_t kMaxUnpackedFiles = std::size_t{512} << 20;  ///< all attached files together
-inline constexpr std::size_t kMaxReadQuestions = 5000;  ///< more than an exam takes, so that the rest is told
+inline constexpr std::size_t kMaxReadQuestions = 5000;  ///< of one file; more than an exam takes
 
 }  // namespace quorvantis

@@ -45,6 +45,7 @@ struct ExchangedExam {
   std::u16string title;
   bool shufflesOptions = false;
   std::vector<ExchangedQuestion> questions;
+  bool isCutShort = false;  ///< its source has more questions than are read at all
 };
 
 }  // namespace quorvantis

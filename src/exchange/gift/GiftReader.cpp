@@ -23,10 +23,12 @@ class GiftExamReading {
 
   ExchangedExam Read(std::u16string_view text) {
     for (const std::u16string& block : GiftBlocks(text)) {
-      if (exam_.questions.size() >= kMaxReadQuestions || tools_.progress.IsCancelled()) break;
+      if (tools_.progress.IsCancelled()) break;
       std::u16string_view rest = Trimmed(block);
       while (rest.starts_with(u'$')) TakeCommand(rest);
       if (rest.empty()) continue;
+      exam_.isCutShort = exam_.questions.size() >= kMaxReadQuestions;
+      if (exam_.isCutShort) break;
       tools_.notes.Begin(++number_);
       ReadQuestion(rest);
     }

@@ -278,12 +278,14 @@ class MoodleQuizReading {
     const std::vector<pugi::xml_node> nodes = ChildrenOf(quiz, "question");
     int number = 0;
     for (const pugi::xml_node node : nodes) {
-      if (tools_.progress.IsCancelled() || exam_.questions.size() >= kMaxReadQuestions) break;
+      if (tools_.progress.IsCancelled()) break;
       tools_.progress.Report(static_cast<std::uint64_t>(number), nodes.size());
       if (ValueOf(node, "type") == "category") {
         TakeCategory(node);
         continue;
       }
+      exam_.isCutShort = exam_.questions.size() >= kMaxReadQuestions;
+      if (exam_.isCutShort) break;
       tools_.notes.Begin(++number);
       ExchangedQuestion question;
       question.number = number;

@@ -104,11 +104,13 @@ std::optional<ExchangedExam> AikenReader::Read(const ExchangeSource& source, Rea
   const auto text = ReadSourceText(source, tools);
   if (!text) return std::nullopt;
   AikenLines lines(tools.notes);
-  for (const std::u16string_view line : LinesOf(*text)) {
-    if (tools.notes.Question() > static_cast<int>(kMaxReadQuestions)) break;
-    lines.Take(Trimmed(line));
-  }
   ExchangedExam exam;
+  for (const std::u16string_view line : LinesOf(*text)) {
+    const std::u16string_view trimmed = Trimmed(line);
+    exam.isCutShort = !trimmed.empty() && tools.notes.Question() > static_cast<int>(kMaxReadQuestions);
+    if (exam.isCutShort) break;
+    lines.Take(trimmed);
+  }
   exam.questions = lines.Finish();
   return exam;
 }

@@ -35,8 +35,9 @@ class QtiExamReading {
           std::ranges::any_of(items, [&name](const ItemInTest& item) { return item.name == name; });
       if (!isKnown) items.push_back({name, std::nullopt});
     }
-    for (std::size_t i = 0; i < items.size() && i < kMaxReadQuestions && !tools_.progress.IsCancelled();
-         ++i) {
+    exam_.isCutShort = items.size() > kMaxReadQuestions;
+    if (exam_.isCutShort) items.resize(kMaxReadQuestions);
+    for (std::size_t i = 0; i < items.size() && !tools_.progress.IsCancelled(); ++i) {
       tools_.progress.Report(i, items.size());
       ReadItem(items[i], static_cast<int>(i + 1));
     }

@@ -145,7 +145,8 @@ std::optional<ExchangedExam> TableReader::Read(const ExchangeSource& source, Rea
   const auto text = ReadSourceText(source, tools);
   if (!text) return std::nullopt;
   const std::u16string_view table = WithoutSeparatorLine(*text);
-  const std::vector<TableRow> rows = ReadTable(table, SeparatorOf(table), kMaxReadQuestions + 1);
+  constexpr std::size_t kRows = kMaxReadQuestions + 2;  // the names of the columns, and one too many
+  const std::vector<TableRow> rows = ReadTable(table, SeparatorOf(table), kRows);
   TableColumns columns = rows.empty() ? TableColumns{} : ColumnsOf(rows[0]);
   const std::size_t first = columns.IsUsable() ? 1 : 0;
   if (first == 0) columns = ColumnsByShape(rows);
@@ -155,7 +156,9 @@ std::optional<ExchangedExam> TableReader::Read(const ExchangeSource& source, Rea
   }
   ExchangedExam exam;
   TableRows reading(columns, tools);
-  for (std::size_t i = first; i < rows.size() && !tools.progress.IsCancelled(); ++i)
+  const std::size_t end = std::min(rows.size(), first + kMaxReadQuestions);
+  exam.isCutShort = end < rows.size();
+  for (std::size_t i = first; i < end && !tools.progress.IsCancelled(); ++i)
     exam.questions.push_back(reading.Read(rows[i], static_cast<int>(i + 1 - first)));
   tools.notes.Begin(0);
   return exam;
