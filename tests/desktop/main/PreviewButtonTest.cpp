@@ -2,6 +2,8 @@
 #include "desktop/WindowTest.h"
 #include "preview/PreviewWindow.h"
 
+#include <memory>
+
 namespace quorvantis::test {
 namespace {
 
@@ -19,11 +21,11 @@ PreviewWindow* ShownPreview() {
 }
 
 bool PageHolds(PreviewWindow& preview, const char* text) {
-  bool found = false;
+  const auto found = std::make_shared<bool>(false);  // a busy browser answers when nobody waits any more
   preview.findChild<QWebEngineView*>()->page()->toPlainText(
-      [&](const QString& content) { found = content.contains(text); });
+      [found, text](const QString& content) { *found = content.contains(text); });
   QTest::qWait(50);
-  return found;
+  return *found;
 }
 
 /// Waits for a preview of a page with `text`.
