@@ -971,7 +971,7 @@ constexpr int kExchangeFileRenamed = 2215;  // %1 is the old name, %2 the new on
 constexpr int kExchangeBlankScores = 2216;  // %1 is the score that it gets
 constexpr int kExchangeNextQti = 2217;
 constexpr int kExchangeAmbiguousRight = 2605;  // %1 is a cell, %2 the letter of the option that is right
-constexpr int kExchangeIsPaper = 2580;  // %2 is the name of a format
+constexpr int kExchangeIsPaper = 2580;         // %2 is the name of a format
 // The window of the bank
 constexpr int kBankEntry = 2430;
 constexpr int kBankTitle = 2431;
