@@ -15,10 +15,6 @@
 namespace quorvantis {
 namespace {
 
-std::u16string Count(std::size_t number) {
-  return FormatInteger(static_cast<std::int64_t>(number));
-}
-
 /// A short text in one line.
 std::u16string OneLine(std::u16string_view text) {
   constexpr std::size_t kLongest = 40;
@@ -30,7 +26,7 @@ std::u16string OneLine(std::u16string_view text) {
 }
 
 std::u16string CountIf(const std::vector<ReadQuestion>& questions, const auto& isCounted) {
-  return Count(static_cast<std::size_t>(std::ranges::count_if(questions, isCounted)));
+  return FormatCount(static_cast<std::size_t>(std::ranges::count_if(questions, isCounted)));
 }
 
 LearnedFact KindsOf(const std::vector<ReadQuestion>& questions) {
@@ -48,7 +44,7 @@ LearnedFact AnsweredOf(const std::vector<ReadQuestion>& questions) {
     return !question.letters.empty() || !question.answer.empty();
   });
   if (answered == u"0") return {text_id::kLearnedNoAnswers};
-  return {text_id::kLearnedAnswered, {answered, Count(questions.size())}};
+  return {text_id::kLearnedAnswered, {answered, FormatCount(questions.size())}};
 }
 
 /// Puts the facts of one layout together.
@@ -74,7 +70,7 @@ class FactList {
   void AddQuestions() {
     const auto& questions = layout_.reading.paper.questions;
     if (questions.empty()) return Add(text_id::kLearnedNothing);
-    Add(text_id::kLearnedQuestions, {Count(questions.size())});
+    Add(text_id::kLearnedQuestions, {FormatCount(questions.size())});
     facts_.push_back(KindsOf(questions));
   }
 
@@ -231,7 +227,7 @@ std::vector<LearnedFact> FactsOf(const Paper& paper, const TriedLayout& layout) 
 }
 
 void CountAnew(std::vector<LearnedFact>& facts, const ReadPaper& paper) {
-  const LearnedFact counts[] = {{text_id::kLearnedQuestions, {Count(paper.questions.size())}},
+  const LearnedFact counts[] = {{text_id::kLearnedQuestions, {FormatCount(paper.questions.size())}},
                                 KindsOf(paper.questions),
                                 AnsweredOf(paper.questions)};
   for (const LearnedFact& count : counts) {

@@ -82,6 +82,10 @@ std::u16string FormatInteger(std::int64_t value) {
   return {digits, end};
 }
 
+std::u16string FormatCount(std::size_t count) {
+  return FormatInteger(static_cast<std::int64_t>(count));
+}
+
 std::u16string FormatHexadecimal(std::uint32_t value) {
   char digits[8];
   const auto end = std::to_chars(digits, digits + sizeof digits, value, 16).ptr;

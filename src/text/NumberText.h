@@ -2,6 +2,7 @@
 // Numbers as text, the same in every locale.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -24,6 +25,9 @@ double ParseReal(std::u16string_view text);
 
 /// Decimal text, as "%d" writes it.
 std::u16string FormatInteger(std::int64_t value);
+
+/// The same for how many of something there are.
+std::u16string FormatCount(std::size_t count);
 
 /// Hexadecimal text, as "%x" writes it.
 std::u16string FormatHexadecimal(std::uint32_t value);

@@ -38,6 +38,12 @@ void FitOnScreen(QWidget& window, const QWidget& main) {
               std::max(screen.top(), std::min(window.y(), last.y() + 1)));
 }
 
+void PlaceCompanion(QWidget& window, const QWidget& main, const QRect& kept) {
+  window.move(PlaceBeside(main, window.size()));
+  ReturnToPlace(window, kept);
+  FitOnScreen(window, main);
+}
+
 bool DecideShortcut(QEvent& event) {
   if (event.type() != QEvent::ShortcutOverride) return false;
   const auto& key = static_cast<QKeyEvent&>(event);

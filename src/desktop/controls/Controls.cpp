@@ -48,6 +48,13 @@ void SetUpButton(QAbstractButton* button, const char* name, const QString& spoke
   QObject::connect(button, &QAbstractButton::clicked, button, std::move(command));
 }
 
+QPushButton* MakePushButton(QWidget* parent, const char* name, const QString& caption) {
+  auto* button = new QPushButton(caption, parent);
+  NameControl(button, name, caption);
+  button->setAutoDefault(false);
+  return button;
+}
+
 QLabel* MakeLabel(QWidget* parent, const char* name, const QString& caption) {
   auto* label = new QLabel(caption, parent);
   label->setObjectName(name);

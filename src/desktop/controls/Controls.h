@@ -7,6 +7,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QList>
+#include <QPushButton>
 
 #include <functional>
 
@@ -34,6 +35,9 @@ void Act(QWidget* control);
 /// Names a button, gives it its keys, and runs `command` when it is clicked.
 void SetUpButton(QAbstractButton* button, const char* name, const QString& spokenName, const Keys& keys,
                  std::function<void()> command);
+
+/// A named push button that Enter presses only while it has the focus.
+QPushButton* MakePushButton(QWidget* parent, const char* name, const QString& caption);
 
 QLabel* MakeLabel(QWidget* parent, const char* name, const QString& caption);
 

@@ -71,9 +71,7 @@ ExportQuestionsDlg::ExportQuestionsDlg(FrameSetExam exam, fs::path examFile, QWi
 
 QPushButton* ExportQuestionsDlg::MakeButton(const char* name, int text,
                                             void (ExportQuestionsDlg::*command)()) {
-  auto* button = new QPushButton(Text(text), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
+  auto* button = MakePushButton(this, name, Text(text));
   connect(button, &QPushButton::clicked, this, command);
   return button;
 }

@@ -59,9 +59,7 @@ ImportQuestionsDlg::ImportQuestionsDlg(const ExamServices& services, std::filesy
 }
 
 QPushButton* ImportQuestionsDlg::MakeButton(const char* name, int text, void (QDialog::*command)()) {
-  auto* button = new QPushButton(Text(text), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
+  auto* button = MakePushButton(this, name, Text(text));
   connect(button, &QPushButton::clicked, this, command);
   return button;
 }

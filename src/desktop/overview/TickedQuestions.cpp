@@ -75,9 +75,7 @@ TickedQuestions::TickedQuestions(const Place& place, const StringTable& strings,
 }
 
 QPushButton* TickedQuestions::MakeButton(const char* name, int text, bool ticks) {
-  auto* button = new QPushButton(ToQString(strings_.Text(text)), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
+  auto* button = MakePushButton(this, name, ToQString(strings_.Text(text)));
   connect(button, &QPushButton::clicked, this, [this, ticks] { TickFirst(model_->rowCount(), ticks); });
   return button;
 }

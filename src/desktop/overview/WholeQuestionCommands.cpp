@@ -21,10 +21,6 @@
 namespace quorvantis {
 namespace {
 
-std::u16string Counted(std::size_t count) {
-  return FormatInteger(static_cast<std::int64_t>(count));
-}
-
 /// A file that is removed at the end.
 class PassingFile {
  public:
@@ -58,7 +54,7 @@ QString WholeQuestionCommands::Refuse(std::u16string_view problem) const {
 QString WholeQuestionCommands::Report(const OrderOutcome& outcome, int text, std::size_t count) {
   if (!outcome.IsDone()) return Refuse(OrderProblemText(outcome, Services().strings));
   changed_ = outcome.questions;
-  return ToQString(FillMessage(Text(text), {Counted(count)})) + ScoresAfter(outcome);
+  return ToQString(FillMessage(Text(text), {FormatCount(count)})) + ScoresAfter(outcome);
 }
 
 QString WholeQuestionCommands::ScoresAfter(const OrderOutcome& outcome) const {
@@ -77,11 +73,11 @@ QString WholeQuestionCommands::AskAndMove(const std::vector<int>& numbers, QWidg
   const int highest = LastQuestion() - static_cast<int>(numbers.size()) + 1;
   if (numbers.empty() || highest < 1) return {};
   bool accepted = false;
-  const int to =
-      QInputDialog::getInt(parent, ToQString(Text(text_id::kMoveTo)),
-                           ToQString(FillMessage(Text(text_id::kMoveToNumber),
-                                                 {Counted(1), Counted(static_cast<std::size_t>(highest))})),
-                           std::min(numbers.front(), highest), 1, highest, 1, &accepted);
+  const int to = QInputDialog::getInt(
+      parent, ToQString(Text(text_id::kMoveTo)),
+      ToQString(FillMessage(Text(text_id::kMoveToNumber),
+                            {FormatCount(1), FormatCount(static_cast<std::size_t>(highest))})),
+      std::min(numbers.front(), highest), 1, highest, 1, &accepted);
   return accepted ? MoveTo(numbers, to) : QString();
 }
 
@@ -103,7 +99,7 @@ QString WholeQuestionCommands::Copy(const std::vector<int>& numbers) {
     copied.push_back({numbers[copied.size()], std::move(whole)});
   const std::u16string problem = clipboard_.Copy(editor_.questions.Form().title, copied);
   if (!problem.empty()) return Refuse(problem);
-  std::u16string told = FillMessage(Text(text_id::kQuestionsCopied), {Counted(numbers.size())});
+  std::u16string told = FillMessage(Text(text_id::kQuestionsCopied), {FormatCount(numbers.size())});
   if (const auto missing = FirstMissingFile(copied))
     told += u' ' +
             FillMessage(Text(text_id::kCopiedWithoutFile), {missing->name, FormatInteger(missing->question)});

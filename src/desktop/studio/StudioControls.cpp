@@ -64,10 +64,7 @@ StudioControls::StudioControls(const StringTable& strings, QWidget* window)
 }
 
 QPushButton* StudioControls::MakeButton(const char* name, int text, QWidget* window) {
-  auto* button = new QPushButton(ToQString(strings_.Text(text)), window);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
-  return button;
+  return MakePushButton(window, name, ToQString(strings_.Text(text)));
 }
 
 QLabel* StudioControls::MakeText(const char* name, QWidget* window) {

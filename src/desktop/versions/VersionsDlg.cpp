@@ -112,9 +112,7 @@ VersionsDlg::VersionsDlg(const ExamPaper& exam, std::filesystem::path examFile, 
 VersionsDlg::~VersionsDlg() = default;
 
 QPushButton* VersionsDlg::MakeButton(const char* name, int text, void (VersionsDlg::*command)()) {
-  auto* button = new QPushButton(Text(text), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
+  auto* button = MakePushButton(this, name, Text(text));
   connect(button, &QPushButton::clicked, this, command);
   return button;
 }
