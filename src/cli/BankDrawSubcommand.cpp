@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // bank draw: questions by lot, as a list or as an exam.
 #include "bank/draw/DrawTexts.h"
+#include "bank/index/FileStamp.h"
 #include "bank/search/BankQuery.h"
 #include "bank/search/DrawnList.h"
 #include "bank/tags/TagTexts.h"
@@ -13,6 +14,7 @@
 #include "cli/SeedOption.h"
 #include "cli/TerminalLine.h"
 #include "model/ExamLimits.h"
+#include "text/DayText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
 

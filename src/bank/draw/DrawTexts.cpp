@@ -3,15 +3,12 @@
 
 #include "platform/StringTable.h"
 #include "platform/TextNumbers.h"
+#include "text/DayText.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 
 namespace quorvantis {
 namespace {
-
-std::u16string Count(std::size_t count) {
-  return FormatInteger(static_cast<std::int64_t>(count));
-}
 
 int TextOf(DrawObstacle obstacle) {
   switch (obstacle) {
@@ -39,16 +36,9 @@ constexpr std::u16string_view kBetweenReasons = u"; ";
 
 }  // namespace
 
-std::u16string DayText(std::chrono::sys_days day) {
-  const std::chrono::year_month_day date(day);
-  const auto twoDigits = [](unsigned number) { return (number < 10 ? u"0" : u"") + FormatInteger(number); };
-  return FormatInteger(static_cast<int>(date.year())) + u"-" +
-         twoDigits(static_cast<unsigned>(date.month())) + u"-" + twoDigits(static_cast<unsigned>(date.day()));
-}
-
 std::u16string ReasonText(const DrawnQuestion& question, std::u16string_view lastExam,
                           const StringTable& strings) {
-  std::u16string text = FillMessage(strings.Text(text_id::kDrawnAmong), {Count(question.among)});
+  std::u16string text = FillMessage(strings.Text(text_id::kDrawnAmong), {FormatCount(question.among)});
   text += kBetweenReasons;
   if (question.lastUsed) {
     const int number = lastExam.empty() ? text_id::kDrawnLastUsed : text_id::kDrawnLastUsedIn;
@@ -57,15 +47,15 @@ std::u16string ReasonText(const DrawnQuestion& question, std::u16string_view las
     text += strings.Text(text_id::kDrawnNeverUsed);
   }
   text += kBetweenReasons;
-  return text + FillMessage(strings.Text(text_id::kDrawnInExams), {Count(question.exams)});
+  return text + FillMessage(strings.Text(text_id::kDrawnInExams), {FormatCount(question.exams)});
 }
 
 std::u16string WishText(const DrawWish& wish, const WishOutcome& outcome, const StringTable& strings) {
   std::u16string text =
-      FillMessage(strings.Text(text_id::kDrawFound), {Count(outcome.drawn), Count(wish.count)});
+      FillMessage(strings.Text(text_id::kDrawFound), {FormatCount(outcome.drawn), FormatCount(wish.count)});
   for (const auto& [obstacle, count] : outcome.excluded) {
     text += kBetweenReasons;
-    text += FillMessage(strings.Text(TextOf(obstacle)), {Count(count)});
+    text += FillMessage(strings.Text(TextOf(obstacle)), {FormatCount(count)});
   }
   return text;
 }

@@ -11,9 +11,6 @@ namespace quorvantis {
 
 class StringTable;
 
-/// Year, month and day, the same in every language: "2024-05-12".
-std::u16string DayText(std::chrono::sys_days day);
-
 /// Why a question came, for the user: "one of 14 possible questions; last used on 2025-03-01; in 2 exams".
 /// `lastExam`, which may be empty, names the exam in which it was used last.
 std::u16string ReasonText(const DrawnQuestion& question, std::u16string_view lastExam,

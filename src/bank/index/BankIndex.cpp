@@ -8,6 +8,7 @@
 #include "platform/TextNumbers.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
+#include "text/PathText.h"
 
 #include <algorithm>
 #include <fstream>
@@ -106,6 +107,10 @@ std::unique_ptr<Database> OpenOrRebuild(const BankPlace& place, IndexFound& foun
 }
 
 }  // namespace
+
+std::u16string BankExam::Name() const {
+  return title.empty() ? PathToText(path.stem()) : title;
+}
 
 BankIndex::BankIndex(BankPlace place, Files& files, std::unique_ptr<Database> database, IndexFound found)
     : place_(std::move(place)), files_(&files), database_(std::move(database)), found_(found) {}

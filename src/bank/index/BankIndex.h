@@ -47,6 +47,9 @@ struct BankExam {
   int questions = 0;         ///< in the index
   ExamState state = ExamState::Whole;
   int firstMissing = 0;  ///< the first question that is missing, 0 if it is not known
+
+  /// Its title; without one, its file name without the extension.
+  std::u16string Name() const;
 };
 
 /// The index of all exams in the folders that a teacher has named: an SQLite file that can be thrown away at

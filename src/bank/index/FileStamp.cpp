@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bank/index/FileStamp.h"
 
-#include <chrono>
+#include <ctime>
 #include <sys/stat.h>
 
 namespace quorvantis {
@@ -13,9 +13,19 @@ std::optional<FileStamp> FileStamp::Of(const std::filesystem::path& file) {
   return FileStamp{status.st_size, status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
 }
 
-std::int64_t NowInNanoseconds() {
+bool FileStamp::IsSettled() const {
+  constexpr std::int64_t kGrain = 2'000'000'000;  // of the times of the slowest file systems
   const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count() - written > kGrain;
+}
+
+std::chrono::sys_days LocalDay(std::int64_t nanoseconds) {
+  constexpr std::int64_t kInSecond = 1'000'000'000;
+  const auto seconds = static_cast<std::time_t>(nanoseconds / kInSecond);
+  std::tm day{};
+  ::localtime_r(&seconds, &day);
+  return std::chrono::year(day.tm_year + 1900) / std::chrono::month(static_cast<unsigned>(day.tm_mon + 1)) /
+         std::chrono::day(static_cast<unsigned>(day.tm_mday));
 }
 
 }  // namespace quorvantis

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -16,12 +17,13 @@ struct FileStamp {
 
   /// Nothing if there is no such file, or if it is not a regular one.
   static std::optional<FileStamp> Of(const std::filesystem::path& file);
+
+  /// Whether a change after now would show: a file that was written a moment ago may be written again without
+  /// a new time.
+  bool IsSettled() const;
 };
 
-/// Now, in the time of FileStamp.
-std::int64_t NowInNanoseconds();
-
-/// A file that was changed less than this before it was read may change again without a new time.
-constexpr std::int64_t kStampGrain = 2'000'000'000;
+/// The day here on which a moment in the time of stamps lies.
+std::chrono::sys_days LocalDay(std::int64_t nanoseconds);
 
 }  // namespace quorvantis

@@ -100,7 +100,7 @@ IndexWriter::Outcome IndexWriter::Update(const std::filesystem::path& file) {
   };
   const std::optional<KnownExam> before = Find(file);
   if (isUpToDate(before)) return Outcome::Unchanged;
-  KnownExam fresh{0, *stamp, NowInNanoseconds() - stamp->written > kStampGrain, digest_.OfFile(file)};
+  KnownExam fresh{0, *stamp, stamp->IsSettled(), digest_.OfFile(file)};
   if (before && !fresh.hash.empty() && fresh.hash == before->hash) {
     if (before->stamp != *stamp || fresh.isSettled) Touch(before->id, fresh);
     return Outcome::Unchanged;

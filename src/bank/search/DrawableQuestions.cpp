@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "bank/search/DrawableQuestions.h"
 
+#include "bank/index/FileStamp.h"
 #include "bank/search/BankMemory.h"
 #include "bank/search/BankQuestions.h"
 
 #include <algorithm>
-#include <ctime>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -19,15 +19,6 @@ bool IsBelow(const std::filesystem::path& file, const std::filesystem::path& fol
 }
 
 }  // namespace
-
-std::chrono::sys_days LocalDay(std::int64_t nanoseconds) {
-  constexpr std::int64_t kInSecond = 1'000'000'000;
-  const auto seconds = static_cast<std::time_t>(nanoseconds / kInSecond);
-  std::tm day{};
-  ::localtime_r(&seconds, &day);
-  return std::chrono::year(day.tm_year + 1900) / std::chrono::month(static_cast<unsigned>(day.tm_mon + 1)) /
-         std::chrono::day(static_cast<unsigned>(day.tm_mday));
-}
 
 DrawableQuestions::DrawableQuestions(BankIndex& index, Files& files, const std::filesystem::path& folder)
     : index_(index) {
@@ -57,8 +48,7 @@ const TagEntries& DrawableQuestions::TagsOf(const std::filesystem::path& folder,
   const TagFile file(folder, files);
   TagResult result;
   known->second = file.Read(result);
-  const bool isRead = result.IsDone() || result.outcome == TagOutcome::Newer;
-  if (!isRead) unread_.push_back({file.Path(), result});
+  if (!result.IsRead()) unread_.push_back({file.Path(), result});
   return known->second;
 }
 

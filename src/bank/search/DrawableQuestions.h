@@ -56,7 +56,4 @@ class DrawableQuestions {
   BankProblem problem_;
 };
 
-/// The day here on which a moment, in nanoseconds since 1970, lies.
-std::chrono::sys_days LocalDay(std::int64_t nanoseconds);
-
 }  // namespace quorvantis

@@ -3,7 +3,6 @@
 
 #include "bank/draw/DrawQuestions.h"
 #include "bank/search/BankMemory.h"
-#include "text/PathText.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,10 +11,6 @@ namespace quorvantis {
 namespace {
 
 constexpr int kTries = 3;  // while exams are being read again
-
-std::u16string NameOfExam(const BankExam& exam) {
-  return exam.title.empty() ? PathToText(exam.path.stem()) : exam.title;
-}
 
 ComparedAt ComparedOf(const DrawableQuestions& drawable) {
   return [&drawable](std::size_t candidate) { return drawable.ComparedAt(candidate); };
@@ -26,7 +21,7 @@ std::optional<DrawnRow> RowOf(const DrawableQuestions& drawable, const DrawnQues
   auto question = drawable.Question(drawn.candidate);
   const auto last = drawable.Question(drawn.lastUsedIn);
   if (!question || !last) return std::nullopt;
-  return DrawnRow{std::move(*question), drawn, NameOfExam(last->exam), false};
+  return DrawnRow{std::move(*question), drawn, last->exam.Name(), false};
 }
 
 void DrawInto(const DrawableQuestions& drawable, const std::function<bool()>& isCancelled, DrawnList& list) {

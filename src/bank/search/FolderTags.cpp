@@ -8,8 +8,7 @@
 namespace quorvantis {
 
 TagsOfFolder::TagsOfFolder(TagEntries entries, UnreadTags unread) : entries_(std::move(entries)) {
-  const bool isRead = unread.result.IsDone() || unread.result.outcome == TagOutcome::Newer;
-  if (!isRead) unread_ = std::move(unread);
+  if (!unread.result.IsRead()) unread_ = std::move(unread);
   for (const auto& [key, entry] : entries_) {
     for (const std::u16string& tag : entry.tags) {
       const std::u16string folded = FoldForSearch(tag);
@@ -58,7 +57,7 @@ std::shared_ptr<const TagsOfFolder> FolderTags::Of(const std::filesystem::path& 
     return known->second.tags;
   auto tags = Read(folder);
   if (!stamp) return tags;
-  const bool isSettled = NowInNanoseconds() - stamp->written > kStampGrain;
+  const bool isSettled = stamp->IsSettled();
   remembered_[folder] = {*stamp, isSettled, tags};
   return tags;
 }

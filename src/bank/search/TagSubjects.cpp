@@ -43,12 +43,14 @@ std::vector<std::u16string> EarlierTags(const BankQuestion& question, const Tags
   return found ? tags.Of(found->key) : std::vector<std::u16string>();
 }
 
-std::vector<std::u16string> KnownTags(const BankIndex& index, FolderTags& tags) {
+std::vector<std::u16string> KnownTags(const BankIndex& index, FolderTags& tags,
+                                      const std::function<bool()>& isCancelled) {
   BankProblem ignored;
   std::set<std::filesystem::path> folders;
   for (const BankExam& exam : index.Exams(ignored)) folders.insert(exam.path.parent_path());
   std::map<std::u16string, std::u16string> spellings;
   for (const std::filesystem::path& folder : folders) {
+    if (isCancelled && isCancelled()) break;
     const auto some = tags.Of(folder);
     spellings.insert(some->Spellings().begin(), some->Spellings().end());
   }

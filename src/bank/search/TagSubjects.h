@@ -5,6 +5,7 @@
 #include "bank/search/FolderTags.h"
 #include "bank/tags/TagStep.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,8 @@ bool CanHaveTags(const BankQuestion& question);
 std::vector<std::u16string> EarlierTags(const BankQuestion& question, const TagsOfFolder& tags);
 
 /// All tags in the folders of the exams of the bank, each once, sorted. Empty if the index cannot be read.
-std::vector<std::u16string> KnownTags(const BankIndex& index, FolderTags& tags);
+/// `isCancelled`, which may be empty, is polled between folders.
+std::vector<std::u16string> KnownTags(const BankIndex& index, FolderTags& tags,
+                                      const std::function<bool()>& isCancelled = {});
 
 }  // namespace quorvantis

@@ -31,6 +31,8 @@ struct TagResult {
   std::string reason;  ///< the system's words, or where the file is damaged; empty when done
 
   bool IsDone() const { return outcome == TagOutcome::Done; }
+  /// Of a look at the file: whether it has told its tags.
+  bool IsRead() const { return IsDone() || outcome == TagOutcome::Newer; }
 };
 
 /// What is to become of the tags of a question. Changes are made to what the file holds at that moment, so

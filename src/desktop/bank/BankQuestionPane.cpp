@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/BankQuestionPane.h"
 
-#include "desktop/bank/desk/BankHitText.h"
+#include "desktop/bank/desk/ShownHitText.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "platform/StringTable.h"
@@ -15,19 +15,6 @@ namespace quorvantis {
 namespace {
 
 constexpr int kUntilPage = 150;  // milliseconds; longer than between two rows of a held key
-
-/// Bold, too: an extra selection of an edit could only underline.
-void MarkIn(QTextDocument& document, const std::vector<TextSpan>& marks) {
-  QTextCharFormat format;
-  format.setFontWeight(QFont::Bold);
-  format.setFontUnderline(true);
-  QTextCursor cursor(&document);
-  for (const TextSpan& mark : marks) {
-    cursor.setPosition(static_cast<int>(mark.begin));
-    cursor.setPosition(static_cast<int>(mark.end), QTextCursor::KeepAnchor);
-    cursor.mergeCharFormat(format);
-  }
-}
 
 bool IsSame(const std::optional<BankQuestion>& a, const std::optional<BankQuestion>& b) {
   return a && b && a->id == b->id && a->number == b->number && a->exam.path == b->exam.path &&
@@ -65,21 +52,10 @@ BankQuestionPane::BankQuestionPane(const ExamServices& services, const BankPageV
 
 void BankQuestionPane::Show(const BankHit* hit) {
   auto question = hit == nullptr ? std::nullopt : std::optional(hit->question);
-  ShowText(hit);
+  ShowHitText(*text_, hit == nullptr ? BankHitText() : WholeTextOf(*hit));
   if (IsSame(question, question_)) return;  // the page stays, or comes soon
   question_ = std::move(question);
   ShowPageSoon();
-}
-
-void BankQuestionPane::ShowText(const BankHit* hit) {
-  const BankHitText whole = hit == nullptr ? BankHitText() : WholeTextOf(*hit);
-  const QString text = ToQString(whole.text);
-  QTextOption option = text_->document()->defaultTextOption();
-  option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-  text_->document()->setDefaultTextOption(option);
-  text_->setCurrentCharFormat({});  // the text would take that of a mark at its begin
-  text_->setPlainText(text);
-  MarkIn(*text_->document(), whole.marks);
 }
 
 void BankQuestionPane::ChooseView() {

@@ -37,7 +37,6 @@ class BankQuestionPane : public QTabWidget {
 
  private:
   bool IsPageChosen() const { return currentIndex() == kPageTab; }
-  void ShowText(const BankHit* hit);
   void ChooseView();
   void ShowPageSoon();
   void ShowPage();

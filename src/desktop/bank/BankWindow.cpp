@@ -28,10 +28,6 @@ constexpr QSize kFirstBankSize(720, 640);  // pixels
 constexpr int kPauseInTyping = 120;        // milliseconds
 constexpr int kBetweenLooks = 300;         // milliseconds
 
-std::u16string Counted(std::size_t count) {
-  return FormatInteger(static_cast<std::int64_t>(count));
-}
-
 bool IsAmong(const std::vector<BankHit>& hits, const BankHit& sought) {
   return std::any_of(hits.begin(), hits.end(),
                      [&sought](const BankHit& hit) { return hit.question.id == sought.question.id; });
@@ -80,9 +76,7 @@ BankWindow::~BankWindow() {
 }
 
 QPushButton* BankWindow::MakeButton(const char* name, int text, void (BankWindow::*command)()) {
-  auto* button = new QPushButton(Text(text), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
+  auto* button = MakePushButton(this, name, Text(text));
   connect(button, &QPushButton::clicked, this, command);
   return button;
 }
@@ -221,16 +215,16 @@ QString BankWindow::StateOfSearch() const {
   }
   if (hits.total == 0) return Text(desk_.Folders().empty() ? text_id::kBankNoFolders : text_id::kBankNothing);
   if (hits.total <= hits.hits.size())
-    return ToQString(FillMessage(strings_.Text(text_id::kBankFound), {Counted(hits.hits.size())}));
-  return ToQString(
-      FillMessage(strings_.Text(text_id::kBankFoundMany), {Counted(hits.total), Counted(hits.hits.size())}));
+    return ToQString(FillMessage(strings_.Text(text_id::kBankFound), {FormatCount(hits.hits.size())}));
+  return ToQString(FillMessage(strings_.Text(text_id::kBankFoundMany),
+                               {FormatCount(hits.total), FormatCount(hits.hits.size())}));
 }
 
 QString BankWindow::StateOfUpdate() const {
   if (desk_.IsUpdating()) {
     const BankDesk::Done done = desk_.UpdateDone();
     return ToQString(
-        FillMessage(strings_.Text(text_id::kBankUpdating), {Counted(done.exams), Counted(done.of)}));
+        FillMessage(strings_.Text(text_id::kBankUpdating), {FormatCount(done.exams), FormatCount(done.of)}));
   }
   return ToQString(ProblemText(desk_.LastUpdate().problem, strings_));
 }
@@ -299,10 +293,8 @@ void BankWindow::hideEvent(QHideEvent* event) {
 
 void BankWindow::RestorePlace() {
   resize(kFirstBankSize);
-  move(PlaceBeside(*parentWidget(), size()));
   const WindowPlace kept = place_.Read();
-  ReturnToPlace(*this, {kept.x, kept.y, kept.width, kept.height});
-  FitOnScreen(*this, *parentWidget());
+  PlaceCompanion(*this, *parentWidget(), {kept.x, kept.y, kept.width, kept.height});
 }
 
 void BankWindow::KeepPlace() const {

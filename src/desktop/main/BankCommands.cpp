@@ -50,9 +50,7 @@ class SingleQuestion {
 
 /// What a file of the question is called: "Biology - 12".
 std::u16string FileTitle(const BankQuestion& question) {
-  const std::u16string& title = question.exam.title;
-  return (title.empty() ? PathToText(question.exam.path.stem()) : title) + u" - " +
-         FormatInteger(question.number);
+  return question.exam.Name() + u" - " + FormatInteger(question.number);
 }
 
 OpenExam OpenExamOf(const ExamEditor& editor) {

@@ -86,9 +86,7 @@ AskedBeforeWindow::~AskedBeforeWindow() {
 }
 
 QPushButton* AskedBeforeWindow::MakeButton(const char* name, int text, void (AskedBeforeWindow::*command)()) {
-  auto* button = new QPushButton(Text(text), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
+  auto* button = MakePushButton(this, name, Text(text));
   connect(button, &QPushButton::clicked, this, command);
   return button;
 }
@@ -240,10 +238,8 @@ void AskedBeforeWindow::hideEvent(QHideEvent* event) {
 
 void AskedBeforeWindow::RestorePlace() {
   resize(kFirstAskedSize);
-  move(PlaceBeside(*parentWidget(), size()));
   const WindowPlace kept = place_.Read();
-  ReturnToPlace(*this, {kept.x, kept.y, kept.width, kept.height});
-  FitOnScreen(*this, *parentWidget());
+  PlaceCompanion(*this, *parentWidget(), {kept.x, kept.y, kept.width, kept.height});
 }
 
 void AskedBeforeWindow::KeepPlace() const {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/desk/BankExamCaption.h"
 
+#include "bank/index/FileStamp.h"
 #include "desktop/controls/QtText.h"
 #include "platform/TextNumbers.h"
+#include "text/DayText.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
-
-#include <QDateTime>
 
 namespace quorvantis {
 
@@ -22,9 +22,7 @@ QString BankPlaceText(const QString& exam, int number, const StringTable& string
 }
 
 QString BankExamDay(const BankExam& exam) {
-  constexpr std::int64_t kNanosecondsInMillisecond = 1'000'000;
-  const QDateTime time = QDateTime::fromMSecsSinceEpoch(exam.written / kNanosecondsInMillisecond);
-  return time.date().toString(Qt::ISODate);
+  return ToQString(DayText(LocalDay(exam.written)));
 }
 
 }  // namespace quorvantis

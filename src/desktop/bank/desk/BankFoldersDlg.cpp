@@ -49,9 +49,7 @@ BankFoldersDlg::BankFoldersDlg(BankDesk& desk, const StringTable& strings, QWidg
 }
 
 QPushButton* BankFoldersDlg::MakeButton(const char* name, int text, void (BankFoldersDlg::*command)()) {
-  auto* button = new QPushButton(Text(text), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
+  auto* button = MakePushButton(this, name, Text(text));
   connect(button, &QPushButton::clicked, this, command);
   return button;
 }

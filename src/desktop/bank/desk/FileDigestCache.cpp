@@ -13,7 +13,7 @@ std::string FileDigestCache::OfFile(const std::filesystem::path& file) const {
   const auto known = known_.find(file);
   if (known != known_.end() && known->second.first == *stamp) return known->second.second;
   const std::string digest = Read(file);
-  const bool isSettled = NowInNanoseconds() - stamp->written > kStampGrain;
+  const bool isSettled = stamp->IsSettled();
   if (isSettled && !digest.empty() && FileStamp::Of(file) == stamp) known_[file] = {*stamp, digest};
   return digest;
 }

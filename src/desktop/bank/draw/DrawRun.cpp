@@ -4,7 +4,7 @@
 #include "bank/draw/DrawTexts.h"
 #include "bank/index/BankUpdate.h"
 #include "bank/near/OpenedContent.h"
-#include "bank/tags/TagFile.h"
+#include "bank/search/TagSubjects.h"
 #include "bank/tags/TagTexts.h"
 #include "desktop/bank/draw/TypedOrder.h"
 #include "model/document/ExamServices.h"
@@ -78,14 +78,8 @@ DrawChoices ChoicesOf(const BankPlace& place, Files& files, const std::function<
   const auto roots = index->Folders();
   std::set<std::filesystem::path> folders(roots.begin(), roots.end());
   for (const BankExam& exam : index->Exams(problem)) folders.insert(exam.path.parent_path());
-  DrawChoices choices{{folders.begin(), folders.end()}, {}};
-  for (const std::filesystem::path& folder : choices.folders) {
-    if (isCancelled()) break;
-    TagResult unread;
-    for (const auto& [key, entry] : TagFile(folder, files).Read(unread))
-      choices.tags.insert(entry.tags.begin(), entry.tags.end());
-  }
-  return choices;
+  FolderTags tags(files);
+  return {{folders.begin(), folders.end()}, KnownTags(*index, tags, isCancelled)};
 }
 
 std::vector<std::u16string> ReportOf(const DrawnList& list,

@@ -7,7 +7,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -38,8 +37,8 @@ AnotherDrawn UpdateAndExchange(const BankPlace& place, ExamServices& services, c
 /// What can be chosen for a draw.
 struct DrawChoices {
   std::vector<std::filesystem::path>
-      folders;                    ///< of the bank, and all in which its exams lie, in their order
-  std::set<std::u16string> tags;  ///< that questions have there
+      folders;                       ///< of the bank, and all in which its exams lie, in their order
+  std::vector<std::u16string> tags;  ///< that questions have there
 
   bool operator==(const DrawChoices&) const = default;
 };

@@ -75,10 +75,7 @@ DrawWindow::~DrawWindow() {
 }
 
 QPushButton* DrawWindow::MakeButton(const char* name, int text) {
-  auto* button = new QPushButton(Text(text), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
-  return button;
+  return MakePushButton(this, name, Text(text));
 }
 
 void DrawWindow::PlaceControls() {
@@ -264,10 +261,8 @@ void DrawWindow::hideEvent(QHideEvent* event) {
 
 void DrawWindow::RestorePlace() {
   resize(kFirstDrawSize);
-  move(PlaceBeside(*parentWidget(), size()));
   const WindowPlace kept = windowPlace_.Read();
-  ReturnToPlace(*this, {kept.x, kept.y, kept.width, kept.height});
-  FitOnScreen(*this, *parentWidget());
+  PlaceCompanion(*this, *parentWidget(), {kept.x, kept.y, kept.width, kept.height});
   pane_->SetWidths(kept.columns.empty() ? std::vector<int>{kFirstColumn, kSecondColumn} : kept.columns);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/draw/DrawnPane.h"
 
-#include "desktop/bank/desk/BankHitText.h"
+#include "desktop/bank/desk/ShownHitText.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/FlowLayout.h"
 #include "desktop/controls/QtText.h"
@@ -63,9 +63,7 @@ DrawnPane::DrawnPane(const StringTable& strings, QWidget* parent)
 }
 
 QPushButton* DrawnPane::MakeButton(const char* name, int text, void (DrawnPane::*command)()) {
-  auto* button = new QPushButton(Text(text), this);
-  NameControl(button, name, button->text());
-  button->setAutoDefault(false);
+  auto* button = MakePushButton(this, name, Text(text));
   connect(button, &QPushButton::clicked, this, command);
   return button;
 }
@@ -170,11 +168,7 @@ void DrawnPane::ShowList(std::size_t chosen) {
 
 void DrawnPane::ShowChosen() {
   const auto place = Chosen();
-  const QString text = place ? ToQString(WholeTextOf({List().rows.at(*place).question}).text) : QString();
-  QTextOption option = whole_->document()->defaultTextOption();
-  option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-  whole_->document()->setDefaultTextOption(option);
-  whole_->setPlainText(text);
+  ShowHitText(*whole_, place ? WholeTextOf({List().rows.at(*place).question}) : BankHitText());
   EnableButtons();
 }
 
