@@ -2,7 +2,7 @@
 #include "check/CheckRule.h"
 
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/CheckTexts.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {

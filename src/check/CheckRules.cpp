@@ -10,7 +10,7 @@
 #include "check/SimilarQuestions.h"
 #include "check/TextRules.h"
 #include "check/WordingRules.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/CheckTexts.h"
 
 #include <algorithm>
 

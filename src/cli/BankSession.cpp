@@ -4,7 +4,7 @@
 #include "bank/index/IndexedExam.h"
 #include "cli/CommandError.h"
 #include "cli/WhyUnreadable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"

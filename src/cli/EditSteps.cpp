@@ -9,7 +9,7 @@
 #include "cli/SearchSteps.h"
 #include "cli/WhyUnreadable.h"
 #include "model/AnswerLetters.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/EditorTexts.h"
 #include "shell/commands/ScoreSetupCommand.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

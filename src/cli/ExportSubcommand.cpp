@@ -4,7 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/InputFile.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "shell/commands/ExportCommand.h"
 #include "text/PathText.h"
 #include "text/Utf.h"

@@ -3,7 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "cli/WhyUnreadable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 

@@ -2,8 +2,8 @@
 #include "cli/SearchSteps.h"
 
 #include "cli/CommandError.h"
-#include "platform/TextNumbers.h"
 #include "platform/posix/InterruptWatch.h"
+#include "platform/texts/SearchTexts.h"
 #include "search/HitLine.h"
 #include "search/SearchTexts.h"
 #include "shell/commands/ReplaceCommand.h"

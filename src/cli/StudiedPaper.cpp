@@ -7,7 +7,7 @@
 #include "import/DocumentFailureText.h"
 #include "import/PaperFile.h"
 #include "learn/LearnedTexts.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/LearnTexts.h"
 #include "text/MessageText.h"
 #include "text/Utf.h"
 

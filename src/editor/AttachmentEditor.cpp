@@ -8,8 +8,9 @@
 #include "model/QuestionKinds.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/FileTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 

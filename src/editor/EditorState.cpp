@@ -3,8 +3,8 @@
 
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 

@@ -4,8 +4,9 @@
 #include "editor/ProposedFileName.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/ExportTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 

@@ -5,7 +5,7 @@
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include "examfile/SavingLosses.h"
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/OverviewTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"

@@ -3,7 +3,7 @@
 
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/SavingTexts.h"
 
 namespace quorvantis {
 

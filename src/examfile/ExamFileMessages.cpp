@@ -2,8 +2,9 @@
 #include "examfile/ExamFileMessages.h"
 
 #include "examfile/FileFailure.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/ProgramTexts.h"
+#include "platform/texts/SavingTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"

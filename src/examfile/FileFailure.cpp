@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "examfile/FileFailure.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/FileTexts.h"
 #include "text/Utf.h"
 
 #include <algorithm>

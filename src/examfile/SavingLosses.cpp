@@ -6,7 +6,7 @@
 #include "model/LongAnswerFlags.h"
 #include "model/QuestionKinds.h"
 #include "model/document/ExamServices.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/SavingTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"

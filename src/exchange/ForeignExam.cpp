@@ -4,7 +4,7 @@
 #include "editor/WorkCopies.h"
 #include "examfile/WorkFolder.h"
 #include "exchange/exam/ExchangeToExam.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "taking/PrivateServices.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"

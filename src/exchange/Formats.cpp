@@ -8,7 +8,7 @@
 #include "exchange/plain/MarkdownWriter.h"
 #include "exchange/qti/QtiFormat.h"
 #include "exchange/table/TableFormat.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/AsciiCase.h"
 #include "text/PathText.h"
 #include "text/Utf.h"

@@ -2,7 +2,7 @@
 #include "history/StepName.h"
 
 #include "editor/AttachmentShifts.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/HistoryTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -2,9 +2,10 @@
 #include "host/SavedRules.h"
 
 #include "learn/rules/RefusalText.h"
-#include "platform/TextNumbers.h"
 #include "platform/WholeFile.h"
 #include "platform/posix/FileLock.h"
+#include "platform/texts/ExportTexts.h"
+#include "platform/texts/LearnTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/DocumentFailureText.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/ImportTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 

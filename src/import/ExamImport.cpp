@@ -4,7 +4,7 @@
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/PreparationSteps.h"
 #include "ini/ProfileValues.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
 

@@ -10,7 +10,7 @@
 #include "model/document/ExamServices.h"
 #include "platform/DebugOutput.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -6,7 +6,7 @@
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/StepNames.h"
 #include "model/ExamLimits.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ImportTexts.h"
 #include "regex/RegexPattern.h"
 #include "text/AsciiCase.h"
 #include "text/MessageText.h"

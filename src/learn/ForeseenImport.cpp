@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "learn/ForeseenImport.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -6,6 +6,7 @@
 #include "import/prepare/StepNames.h"
 #include "learn/reading/PaperNumbers.h"
 #include "learn/reading/ReadingRoles.h"
+#include "platform/texts/LearnTexts.h"
 #include "text/NumberText.h"
 
 #include <algorithm>

@@ -3,7 +3,6 @@
 
 #include "learn/LayoutSearch.h"
 #include "learn/PaperLearner.h"
-#include "platform/TextNumbers.h"
 
 #include <vector>
 

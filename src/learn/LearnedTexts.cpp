@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "learn/LearnedTexts.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/LearnTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

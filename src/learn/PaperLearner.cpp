@@ -5,6 +5,7 @@
 #include "learn/LayoutFacts.h"
 #include "learn/LayoutSearch.h"
 #include "learn/MarkedPlaces.h"
+#include "platform/texts/LearnTexts.h"
 
 namespace quorvantis {
 

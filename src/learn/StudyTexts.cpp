@@ -3,7 +3,8 @@
 
 #include "import/labels/LineText.h"
 #include "learn/LearnedTexts.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/LearnTexts.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -4,7 +4,7 @@
 #include "learn/LearnedTexts.h"
 #include "learn/MarkedPlaces.h"
 #include "learn/StudyTexts.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/MessageText.h"
 
 #include <algorithm>

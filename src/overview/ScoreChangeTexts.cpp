@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "overview/ScoreChangeTexts.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/OverviewTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

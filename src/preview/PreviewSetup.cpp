@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "preview/PreviewSetup.h"
 
-#include "platform/TextNumbers.h"
 #include "platform/posix/ApplicationFolder.h"
+#include "platform/texts/FileTexts.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {

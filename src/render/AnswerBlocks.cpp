@@ -3,7 +3,7 @@
 
 #include "model/AnswerLetters.h"
 #include "model/FillInAnswers.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "render/Template.h"
 #include "render/TextToHtml.h"
 #include "text/AsciiCase.h"

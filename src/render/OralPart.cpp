@@ -5,7 +5,7 @@
 #include "model/WorkFolderNames.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "render/AttachmentItems.h"
 #include "render/MediaPlayerScript.h"
 #include "render/Template.h"

@@ -3,7 +3,7 @@
 
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "render/PageHead.h"
 #include "render/QuestionRow.h"
 #include "render/ScoreTable.h"

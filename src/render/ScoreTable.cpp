@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "render/ScoreTable.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "render/Template.h"
 
 namespace quorvantis {

@@ -3,7 +3,7 @@
 
 #include "model/AnswerLetters.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/SearchTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"

@@ -6,7 +6,7 @@
 #include "examfile/ExamFileReader.h"
 #include "examfile/WorkFolder.h"
 #include "model/WorkFolderNames.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/OverviewTexts.h"
 #include "taking/PrivateServices.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

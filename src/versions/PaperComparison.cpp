@@ -3,7 +3,7 @@
 
 #include "model/AnswerLetters.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/VersionTexts.h"
 #include "render/sheets/KeyTable.h"
 #include "text/AsciiCase.h"
 #include "text/ComparableText.h"

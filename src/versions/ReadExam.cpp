@@ -4,7 +4,7 @@
 #include "examfile/ExamFileMessages.h"
 #include "examfile/SavingLosses.h"
 #include "examfile/WorkFolder.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/VersionTexts.h"
 #include "taking/PrivateServices.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"

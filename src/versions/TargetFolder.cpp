@@ -2,8 +2,8 @@
 #include "versions/TargetFolder.h"
 
 #include "platform/FolderEntries.h"
-#include "platform/TextNumbers.h"
 #include "platform/WholeFile.h"
+#include "platform/texts/VersionTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 #include "versions/VersionFiles.h"

@@ -2,7 +2,7 @@
 #include "versions/VersionNames.h"
 
 #include "model/AnswerLetters.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/VersionTexts.h"
 #include "regex/LetterCase.h"
 #include "text/AsciiCase.h"
 #include "text/ControlCharacters.h"

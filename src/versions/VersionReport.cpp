@@ -2,7 +2,7 @@
 #include "versions/VersionReport.h"
 
 #include "model/AnswerLetters.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/VersionTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The language libraries that the program is shipped with, as built.
 #include "LanguageFile.h"
-#include "platform/TextNumbers.h"
 #include "platform/posix/DynamicLanguageLibraries.h"
+#include "platform/texts/BankTexts.h"
 #include "shell/language/BuiltInDialogTexts.h"
 #include "shell/language/BuiltInStrings.h"
 #include "shell/language/LanguageList.h"
@@ -124,12 +124,15 @@ void ExpectQueryWords(const LanguageLibrary& library) {
 }
 
 TEST(BuiltInStrings, AreTheNumberedTexts) {
-  std::ifstream header(QUORVANTIS_PROJECT "/src/platform/TextNumbers.h");
-  const std::string code(std::istreambuf_iterator<char>(header), {});
   const std::regex constant(R"(constexpr int k\w+\s*=\s*(\d+);)");
   std::vector<int> numbers;
-  for (std::sregex_iterator found(code.begin(), code.end(), constant), end; found != end; ++found)
-    numbers.push_back(std::stoi((*found)[1]));
+  for (const auto& entry : std::filesystem::directory_iterator(QUORVANTIS_PROJECT "/src/platform/texts")) {
+    if (entry.path().filename() == "DialogTextNumbers.h") continue;
+    std::ifstream header(entry.path());
+    const std::string code(std::istreambuf_iterator<char>(header), {});
+    for (std::sregex_iterator found(code.begin(), code.end(), constant), end; found != end; ++found)
+      numbers.push_back(std::stoi((*found)[1]));
+  }
   std::ranges::sort(numbers);
   EXPECT_EQ(BuiltInStrings::Numbers(), numbers) << "a line of english.ini for each number, and no others";
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/ExamImport.h"
 #include "ini/ProfileValues.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"
 

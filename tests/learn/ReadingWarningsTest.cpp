@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "learn/warnings/ReadingWarnings.h"
-#include "platform/TextNumbers.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 

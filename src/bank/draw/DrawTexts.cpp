@@ -2,7 +2,7 @@
 #include "bank/draw/DrawTexts.h"
 
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/DrawTexts.h"
 #include "text/DayText.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

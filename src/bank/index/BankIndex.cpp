@@ -5,7 +5,7 @@
 #include "bank/index/BankSchema.h"
 #include "platform/Files.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"

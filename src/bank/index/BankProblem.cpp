@@ -3,7 +3,7 @@
 
 #include "bank/index/Database.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"

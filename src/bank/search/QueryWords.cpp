@@ -3,7 +3,7 @@
 
 #include "bank/index/FoldedText.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 
 #include <algorithm>
 #include <string_view>

@@ -2,7 +2,7 @@
 #include "bank/tags/TagTexts.h"
 
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"

@@ -5,7 +5,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 
 #include <QTabBar>
 

@@ -9,7 +9,9 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/AskedTexts.h"
+#include "platform/texts/BankTexts.h"
+#include "platform/texts/DrawTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

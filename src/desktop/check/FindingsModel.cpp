@@ -5,7 +5,7 @@
 #include "desktop/check/SeverityLook.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/CheckTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

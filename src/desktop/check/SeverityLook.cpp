@@ -2,7 +2,7 @@
 #include "desktop/check/SeverityLook.h"
 
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/CheckTexts.h"
 
 #include <QStyle>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/controls/ExamField.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/EditorTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

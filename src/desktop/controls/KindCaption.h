@@ -4,7 +4,7 @@
 #include "desktop/controls/QtText.h"
 #include "model/ExamQuestion.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 
 namespace quorvantis {
 

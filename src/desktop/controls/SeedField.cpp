@@ -3,7 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/VersionTexts.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

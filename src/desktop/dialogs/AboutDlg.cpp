@@ -2,7 +2,7 @@
 #include "desktop/dialogs/AboutDlg.h"
 
 #include "desktop/dialogs/DialogText.h"
-#include "platform/DialogTextNumbers.h"
+#include "platform/texts/DialogTextNumbers.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

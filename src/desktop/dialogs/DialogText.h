@@ -2,8 +2,8 @@
 #pragma once
 
 #include "desktop/controls/QtText.h"
-#include "platform/DialogTextNumbers.h"
 #include "platform/LanguageLibraries.h"
+#include "platform/texts/DialogTextNumbers.h"
 #include "shell/language/BuiltInDialogTexts.h"
 
 namespace quorvantis {
@@ -11,7 +11,8 @@ namespace quorvantis {
 /// The texts of one dialog's controls: those of a language, or the built-in ones if it has none.
 class DialogText {
  public:
-  /// `language`, which may be null, must outlive this. `dialog` is a number of platform/DialogTextNumbers.h.
+  /// `language`, which may be null, must outlive this. `dialog` is a number of
+  /// platform/texts/DialogTextNumbers.h.
   DialogText(const LanguageLibrary* language, int dialog) : language_(language), dialog_(dialog) {}
 
   QString operator()(int control) const { return ToQString(DialogTextOf(language_, dialog_, control)); }

@@ -3,7 +3,7 @@
 
 #include "desktop/controls/QtText.h"
 #include "examfile/ExamFileVersions.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -4,7 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "desktop/dialogs/RangeColours.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/NumberText.h"
 
 #include <QPainter>

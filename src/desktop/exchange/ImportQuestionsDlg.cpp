@@ -4,7 +4,9 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "overview/OverviewRows.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
+#include "platform/texts/OverviewTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

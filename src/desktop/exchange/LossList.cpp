@@ -4,7 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "exchange/form/NoteGroups.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/NumberRanges.h"
 
 #include <QHeaderView>

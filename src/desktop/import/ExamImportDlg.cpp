@@ -3,8 +3,9 @@
 
 #include "desktop/controls/QtText.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/ImportTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/PathText.h"
 
 #include <QDialogButtonBox>

@@ -2,7 +2,7 @@
 #include "desktop/import/ImportSummaryDlg.h"
 
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ImportTexts.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

@@ -7,8 +7,8 @@
 #include "desktop/import/ImportChoiceDlgs.h"
 #include "import/ImportCommand.h"
 #include "import/RecognisedShare.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/ImportTexts.h"
 #include "text/PathText.h"
 
 #include <QMessageBox>

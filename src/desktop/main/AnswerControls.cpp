@@ -4,7 +4,8 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "model/AnswerLetters.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/EditorTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {

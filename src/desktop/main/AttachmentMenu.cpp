@@ -3,8 +3,9 @@
 
 #include "desktop/controls/QtText.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/FileTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "preview/FileKind.h"
 #include "shell/commands/SaveCopyCommand.h"
 #include "text/MessageText.h"

@@ -4,7 +4,8 @@
 #include "desktop/check/SeverityLook.h"
 #include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/CheckTexts.h"
+#include "platform/texts/PrintTexts.h"
 
 #include <map>
 #include <utility>

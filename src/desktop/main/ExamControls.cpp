@@ -4,7 +4,8 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/PlacedText.h"
 #include "desktop/main/AttachmentMenu.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/FileTexts.h"
+#include "platform/texts/ProgramTexts.h"
 
 namespace quorvantis {
 

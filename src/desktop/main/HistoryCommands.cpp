@@ -5,8 +5,8 @@
 #include "desktop/main/FormFields.h"
 #include "history/StepName.h"
 #include "model/document/ExamServices.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/HistoryTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 

@@ -2,7 +2,7 @@
 #include "desktop/main/KeysDlg.h"
 
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/MenuTexts.h"
 
 #include <QHeaderView>
 #include <QVBoxLayout>

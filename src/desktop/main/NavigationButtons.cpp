@@ -4,7 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "desktop/main/Attaching.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 
 namespace quorvantis {
 namespace {

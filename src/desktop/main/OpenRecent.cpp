@@ -4,8 +4,8 @@
 #include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/MenuTexts.h"
 #include "text/MessageText.h"
 
 #include <QFontMetrics>

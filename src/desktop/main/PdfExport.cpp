@@ -4,10 +4,10 @@
 #include "desktop/controls/QtText.h"
 #include "editor/ProposedFileName.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "platform/WholeFile.h"
 #include "platform/convert/Later.h"
+#include "platform/texts/ExportTexts.h"
 #include "text/MessageText.h"
 #include "text/Utf.h"
 

@@ -5,7 +5,8 @@
 #include "desktop/controls/PlacedText.h"
 #include "desktop/main/AttachmentMenu.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/FileTexts.h"
+#include "platform/texts/ProgramTexts.h"
 
 #include <iterator>
 

@@ -2,7 +2,7 @@
 #include "desktop/main/RecoveryQuestion.h"
 
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/EditorTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"

@@ -3,8 +3,8 @@
 
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/convert/Later.h"
+#include "platform/texts/SheetTexts.h"
 #include "preview/SheetLayout.h"
 #include "render/sheets/ReadingDirection.h"
 #include "shell/commands/SheetCommand.h"

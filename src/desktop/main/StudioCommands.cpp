@@ -8,8 +8,9 @@
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/ProgramTexts.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/PathText.h"
 
 #include <utility>

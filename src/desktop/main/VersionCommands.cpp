@@ -5,12 +5,12 @@
 #include "host/PlanJson.h"
 #include "model/document/ServicesWith.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "platform/digest/OpenSslDigest.h"
 #include "platform/posix/PosixFolderGuard.h"
 #include "platform/programs/PdfProgram.h"
 #include "platform/programs/PopplerPdfText.h"
+#include "platform/texts/VersionTexts.h"
 #include "versions/PartOfProgress.h"
 #include "versions/TargetFolder.h"
 

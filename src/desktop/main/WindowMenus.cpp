@@ -4,7 +4,19 @@
 #include "desktop/controls/FieldKeys.h"
 #include "desktop/controls/QtText.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/AskedTexts.h"
+#include "platform/texts/BankTexts.h"
+#include "platform/texts/CheckTexts.h"
+#include "platform/texts/DrawTexts.h"
+#include "platform/texts/ExchangeTexts.h"
+#include "platform/texts/ImportTexts.h"
+#include "platform/texts/MenuTexts.h"
+#include "platform/texts/OverviewTexts.h"
+#include "platform/texts/ProgramTexts.h"
+#include "platform/texts/SearchTexts.h"
+#include "platform/texts/SheetTexts.h"
+#include "platform/texts/StudioTexts.h"
+#include "platform/texts/VersionTexts.h"
 
 #include <cstddef>
 #include <iterator>

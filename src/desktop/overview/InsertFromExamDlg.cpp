@@ -3,7 +3,8 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/OverviewTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 
 #include <QBoxLayout>

@@ -5,7 +5,7 @@
 #include "desktop/controls/KindCaption.h"
 #include "desktop/controls/QtText.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/OverviewTexts.h"
 
 #include <QHBoxLayout>
 

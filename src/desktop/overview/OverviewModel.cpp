@@ -4,7 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/KindCaption.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/OverviewTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

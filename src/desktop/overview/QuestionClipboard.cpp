@@ -4,8 +4,8 @@
 #include "desktop/controls/QtText.h"
 #include "examfile/FileFailure.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/WholeFile.h"
+#include "platform/texts/OverviewTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

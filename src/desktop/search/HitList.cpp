@@ -3,7 +3,7 @@
 
 #include "desktop/controls/QtText.h"
 #include "desktop/search/HitRoles.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/SearchTexts.h"
 #include "search/SearchTexts.h"
 
 #include <algorithm>

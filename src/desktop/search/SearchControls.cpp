@@ -4,7 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "desktop/search/HitList.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/SearchTexts.h"
 
 #include <QAccessible>
 #include <QGridLayout>

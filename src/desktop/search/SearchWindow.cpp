@@ -5,7 +5,7 @@
 #include "desktop/controls/QtText.h"
 #include "desktop/search/ReplaceAllDlg.h"
 #include "model/document/ExamServices.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/SearchTexts.h"
 #include "search/SearchTexts.h"
 #include "shell/commands/ReplaceCommand.h"
 #include "text/MessageText.h"

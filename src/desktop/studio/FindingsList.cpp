@@ -5,7 +5,7 @@
 #include "desktop/controls/QtText.h"
 #include "learn/LeftOutPlaces.h"
 #include "learn/StudyTexts.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 
 namespace quorvantis {
 namespace {

@@ -2,7 +2,7 @@
 #include "desktop/studio/MarksQuestion.h"
 
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 
 #include <QMessageBox>
 #include <QPushButton>

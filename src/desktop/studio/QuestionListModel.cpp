@@ -2,7 +2,9 @@
 #include "desktop/studio/QuestionListModel.h"
 
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/OverviewTexts.h"
+#include "platform/texts/ProgramTexts.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -6,7 +6,7 @@
 #include "desktop/controls/QtText.h"
 #include "desktop/studio/RoleLook.h"
 #include "learn/LearnedTexts.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -5,7 +5,7 @@
 #include "desktop/controls/QtText.h"
 #include "import/prepare/PreparationSteps.h"
 #include "learn/rules/RuleFields.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/MessageText.h"
 
 #include <QFontDatabase>

@@ -3,7 +3,9 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ImportTexts.h"
+#include "platform/texts/ProgramTexts.h"
+#include "platform/texts/StudioTexts.h"
 
 #include <QAccessible>
 #include <QBoxLayout>

@@ -4,7 +4,8 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/OwnDirection.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ImportTexts.h"
+#include "platform/texts/StudioTexts.h"
 
 #include <QAccessible>
 #include <QBoxLayout>

@@ -8,7 +8,7 @@
 #include "import/DocumentFailureText.h"
 #include "learn/LearnedTexts.h"
 #include "learn/StudyTexts.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 

@@ -5,7 +5,7 @@
 #include "desktop/controls/QtText.h"
 #include "model/AnswerLetters.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/VersionTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 #include "versions/VersionReport.h"

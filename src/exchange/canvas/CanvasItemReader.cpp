@@ -6,8 +6,8 @@
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
 #include "exchange/xml/XmlText.h"
-#include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/Utf.h"
 
 #include <algorithm>

@@ -4,8 +4,8 @@
 #include "exchange/form/ExchangeLimits.h"
 #include "exchange/markup/Markup.h"
 #include "exchange/xml/XmlText.h"
-#include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
+#include "platform/texts/ExchangeTexts.h"
 
 #include <string>
 

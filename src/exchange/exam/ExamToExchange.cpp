@@ -8,7 +8,7 @@
 #include "model/AnswerLetters.h"
 #include "model/QuestionKinds.h"
 #include "model/document/FrameSetExam.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "scoring/ScoreSegments.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"

@@ -7,7 +7,7 @@
 #include "model/LongAnswerFlags.h"
 #include "model/document/ExamServices.h"
 #include "model/document/FrameSetExam.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/LineBreaks.h"
 #include "text/NumberText.h"
 #include "text/PathText.h"

@@ -4,7 +4,7 @@
 #include "exchange/form/Points.h"
 #include "exchange/markup/Markup.h"
 #include "model/AnswerLetters.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/LineBreaks.h"
 #include "text/NumberText.h"
 

@@ -3,8 +3,8 @@
 
 #include "exchange/form/ExchangeLimits.h"
 #include "model/ExamFields.h"
-#include "platform/TextNumbers.h"
 #include "platform/WholeFile.h"
+#include "platform/texts/ExchangeTexts.h"
 
 #include <fstream>
 

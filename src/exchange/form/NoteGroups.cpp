@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/form/NoteGroups.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberRanges.h"
 

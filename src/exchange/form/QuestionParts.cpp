@@ -2,7 +2,7 @@
 #include "exchange/form/QuestionParts.h"
 
 #include "exchange/form/Blanks.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 
 #include <algorithm>
 

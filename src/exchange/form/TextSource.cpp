@@ -2,7 +2,7 @@
 #include "exchange/form/TextSource.h"
 
 #include "exchange/form/ExchangeLimits.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/LineBreaks.h"
 #include "text/WithoutAround.h"
 

@@ -5,7 +5,7 @@
 #include "exchange/form/TextSource.h"
 #include "exchange/gift/GiftText.h"
 #include "exchange/markup/MarkupNotes.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
 

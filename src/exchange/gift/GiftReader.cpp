@@ -6,7 +6,7 @@
 #include "exchange/gift/GiftAnswers.h"
 #include "exchange/gift/GiftFormat.h"
 #include "exchange/gift/GiftText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/AsciiCase.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "exchange/markup/MarkupNotes.h"
 
 #include "exchange/markup/Markup.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 
 namespace quorvantis {
 

@@ -5,7 +5,7 @@
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
 #include "exchange/markup/Markup.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/AsciiCase.h"
 #include "text/HtmlEntities.h"
 #include "text/HtmlEscape.h"

@@ -11,8 +11,8 @@
 #include "exchange/xml/Base64.h"
 #include "exchange/xml/HtmlParts.h"
 #include "exchange/xml/XmlText.h"
-#include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/Utf.h"
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include "exchange/form/ExchangeLimits.h"
 #include "exchange/form/TextSource.h"
 #include "exchange/markup/Markup.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/AsciiCase.h"
 #include "text/Utf.h"
 

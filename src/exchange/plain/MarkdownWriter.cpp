@@ -5,7 +5,7 @@
 #include "exchange/form/TextSource.h"
 #include "exchange/markup/Markup.h"
 #include "model/AnswerLetters.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/LineBreaks.h"
 #include "text/MarkdownEscapes.h"
 #include "text/MessageText.h"

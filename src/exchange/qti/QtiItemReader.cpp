@@ -7,8 +7,8 @@
 #include "exchange/markup/Addresses.h"
 #include "exchange/qti/QtiItemWriter.h"
 #include "exchange/xml/XmlText.h"
-#include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/HtmlEscape.h"
 #include "text/Utf.h"
 

@@ -3,8 +3,8 @@
 
 #include "exchange/markup/Addresses.h"
 #include "exchange/xml/XmlText.h"
-#include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/Utf.h"
 
 #include <algorithm>

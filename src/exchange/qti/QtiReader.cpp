@@ -4,8 +4,8 @@
 #include "exchange/qti/QtiFormat.h"
 #include "exchange/qti/QtiItemReader.h"
 #include "exchange/xml/XmlText.h"
-#include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
+#include "platform/texts/ExchangeTexts.h"
 
 #include <algorithm>
 #include <map>

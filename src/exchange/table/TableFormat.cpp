@@ -11,7 +11,7 @@
 #include "model/AnswerLetters.h"
 #include "model/ExamLimits.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/LineBreaks.h"
 #include "text/Utf.h"
 

@@ -5,7 +5,7 @@
 #include "exchange/markup/MarkupNotes.h"
 #include "exchange/xml/Base64.h"
 #include "exchange/xml/XmlText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/AsciiCase.h"
 #include "text/HtmlEscape.h"
 #include "text/NumberText.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/xml/XmlText.h"
 
-#include "platform/TextNumbers.h"
 #include "platform/documents/XmlPart.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 

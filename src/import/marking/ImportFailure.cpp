@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/marking/ImportFailure.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/ImportTexts.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {

@@ -4,7 +4,7 @@
 #include "import/marking/RuleKeys.h"
 #include "import/prepare/StepNames.h"
 #include "import/prepare/Steps.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 #include "text/AsciiCase.h"
 
 #include <algorithm>

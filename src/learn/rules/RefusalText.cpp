@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "learn/rules/RefusalText.h"
 
-#include "platform/TextNumbers.h"
+#include "platform/texts/LearnTexts.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {

@@ -2,7 +2,7 @@
 #include "learn/rules/RuleFields.h"
 
 #include "import/marking/RuleKeys.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/StudioTexts.h"
 #include "regex/RegexPattern.h"
 #include "text/AsciiCase.h"
 #include "text/MessageText.h"

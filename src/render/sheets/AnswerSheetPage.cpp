@@ -3,7 +3,7 @@
 
 #include "model/AnswerLetters.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/SheetTexts.h"
 #include "render/Template.h"
 #include "render/sheets/SheetParts.h"
 

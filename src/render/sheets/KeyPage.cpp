@@ -2,7 +2,9 @@
 #include "render/sheets/KeyPage.h"
 
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/EditorTexts.h"
+#include "platform/texts/ProgramTexts.h"
+#include "platform/texts/SheetTexts.h"
 #include "render/Template.h"
 #include "render/sheets/KeyTable.h"
 #include "render/sheets/SheetParts.h"

@@ -3,7 +3,9 @@
 
 #include "model/AnswerLetters.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/EditorTexts.h"
+#include "platform/texts/ProgramTexts.h"
+#include "platform/texts/SheetTexts.h"
 #include "render/Template.h"
 #include "render/sheets/KeyTable.h"
 #include "render/sheets/SheetFiles.h"

@@ -3,7 +3,7 @@
 
 #include "model/document/ExamServices.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/SheetTexts.h"
 #include "render/Template.h"
 #include "render/sheets/ReadingDirection.h"
 #include "render/sheets/SheetStyle.h"

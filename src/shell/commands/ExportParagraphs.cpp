@@ -2,7 +2,7 @@
 #include "shell/commands/ExportParagraphs.h"
 
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/NumberText.h"
 
 namespace quorvantis {

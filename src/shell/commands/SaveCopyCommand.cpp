@@ -4,9 +4,9 @@
 #include "examfile/AttachmentName.h"
 #include "examfile/ExamFileMessages.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
 #include "platform/WholeFile.h"
+#include "platform/texts/FileTexts.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {

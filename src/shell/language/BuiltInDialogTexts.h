@@ -10,7 +10,7 @@
 namespace quorvantis {
 
 /// The text of a control in a dialog that the program carries itself, both by number (see
-/// platform/DialogTextNumbers.h), or an empty one.
+/// platform/texts/DialogTextNumbers.h), or an empty one.
 std::u16string BuiltInDialogText(int dialog, int control);
 
 /// The text that a language library has for the control, or the built-in one. `library` may be null.

@@ -2,7 +2,7 @@
 #include "shell/language/LanguageList.h"
 
 #include "platform/LanguageLibraries.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/AsciiCase.h"
 #include "text/PathText.h"
 

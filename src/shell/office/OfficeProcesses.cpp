@@ -3,8 +3,8 @@
 
 #include "platform/DebugOutput.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
 #include "platform/UserDialogs.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/AsciiCase.h"
 
 #include <algorithm>

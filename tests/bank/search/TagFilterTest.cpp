@@ -2,7 +2,7 @@
 #include "bank/BankTest.h"
 #include "bank/index/FoldedText.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 #include "text/SeededRandom.h"
 #include "text/Utf.h"
 

@@ -5,7 +5,8 @@
 #include "desktop/import/ImportSummaryDlg.h"
 #include "editor/WorkCopies.h"
 #include "model/AnswerLetters.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ExchangeTexts.h"
+#include "platform/texts/ExportTexts.h"
 
 #include <random>
 

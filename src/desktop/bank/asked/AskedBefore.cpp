@@ -6,7 +6,8 @@
 #include "desktop/bank/desk/BankHitText.h"
 #include "desktop/controls/QtText.h"
 #include "platform/Progress.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/AskedTexts.h"
+#include "platform/texts/CheckTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -6,7 +6,9 @@
 #include "desktop/controls/OwnDirection.h"
 #include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/AskedTexts.h"
+#include "platform/texts/BankTexts.h"
+#include "platform/texts/SearchTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -9,7 +9,7 @@
 #include "model/document/ExamServices.h"
 #include "platform/QuietProgress.h"
 #include "platform/StringTable.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/AskedTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -3,7 +3,7 @@
 
 #include "desktop/bank/desk/BankExamCaption.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/AskedTexts.h"
 #include "text/NumberText.h"
 
 namespace quorvantis {

@@ -3,7 +3,7 @@
 
 #include "bank/index/FileStamp.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/AskedTexts.h"
 #include "text/DayText.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"

@@ -4,7 +4,8 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/OwnDirection.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
+#include "platform/texts/ImportTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -4,7 +4,8 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/FlowLayout.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/DrawTexts.h"
+#include "platform/texts/VersionTexts.h"
 
 #include <QBoxLayout>
 #include <QDate>

@@ -10,7 +10,8 @@
 #include "model/document/ExamServices.h"
 #include "model/document/FrameSetExam.h"
 #include "platform/Progress.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
+#include "platform/texts/DrawTexts.h"
 #include "text/MessageText.h"
 #include "text/PathText.h"
 

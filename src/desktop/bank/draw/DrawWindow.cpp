@@ -8,7 +8,8 @@
 #include "desktop/controls/QtText.h"
 #include "model/document/FrameSetExam.h"
 #include "model/document/ServicesWith.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/DrawTexts.h"
+#include "platform/texts/ProgramTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

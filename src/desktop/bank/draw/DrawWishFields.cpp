@@ -7,7 +7,7 @@
 #include "desktop/controls/QtText.h"
 #include "model/ExamLimits.h"
 #include "model/QuestionKinds.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/DrawTexts.h"
 
 #include <QBoxLayout>
 #include <QScrollBar>

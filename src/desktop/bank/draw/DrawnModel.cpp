@@ -6,7 +6,7 @@
 #include "desktop/bank/draw/TypedOrder.h"
 #include "desktop/bank/hits/BankHitsModel.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/DrawTexts.h"
 #include "text/MessageText.h"
 
 namespace quorvantis {

@@ -5,7 +5,9 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/FlowLayout.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
+#include "platform/texts/DrawTexts.h"
+#include "platform/texts/OverviewTexts.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>

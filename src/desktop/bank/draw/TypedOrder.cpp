@@ -6,7 +6,7 @@
 #include "desktop/controls/KindCaption.h"
 #include "desktop/controls/QtText.h"
 #include "model/ExamLimits.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/DrawTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

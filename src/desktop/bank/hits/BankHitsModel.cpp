@@ -4,7 +4,7 @@
 #include "desktop/bank/desk/BankExamCaption.h"
 #include "desktop/controls/KindCaption.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

@@ -5,7 +5,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/FlowLayout.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
 

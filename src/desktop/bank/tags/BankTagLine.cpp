@@ -6,7 +6,7 @@
 #include "desktop/bank/desk/BankDesk.h"
 #include "desktop/controls/QtText.h"
 #include "model/document/ExamServices.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
 #include "text/MessageText.h"
 
 #include <QBoxLayout>

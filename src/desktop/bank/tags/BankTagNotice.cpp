@@ -3,7 +3,7 @@
 
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/ImportTexts.h"
 
 #include <QBoxLayout>
 

@@ -5,7 +5,8 @@
 #include "desktop/WindowTest.h"
 #include "desktop/bank/draw/DrawWindow.h"
 #include "examfile/ExamFileWriter.h"
-#include "platform/TextNumbers.h"
+#include "platform/texts/BankTexts.h"
+#include "platform/texts/DrawTexts.h"
 
 #include <QComboBox>
 #include <QDateEdit>

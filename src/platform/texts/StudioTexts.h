@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+// Of the window for papers.
+#pragma once
+
+namespace quorvantis::text_id {
+
+constexpr int kUnknownStep = 1606;
+constexpr int kStudio = 1620;
+constexpr int kStudioEntry = 1621;
+constexpr int kStudioOfPaper = 1622;
+constexpr int kStudioOpen = 1624;
+constexpr int kStudioPaste = 1625;
+constexpr int kStudioHint = 1626;
+constexpr int kStudioReading = 1627;
+constexpr int kStudioLearning = 1628;
+constexpr int kStudioCancelled = 1629;
+constexpr int kPasteNothing = 1630;
+constexpr int kPastedPaper = 1631;
+constexpr int kPaperArea = 1632;
+constexpr int kPaperBeginning = 1633;
+constexpr int kPaperChanged = 1634;
+constexpr int kResultingQuestions = 1635;
+constexpr int kColumnOptions = 1636;
+constexpr int kColumnNotes = 1637;
+constexpr int kSaySelected = 1638;
+constexpr int kRoleWithKey = 1639;
+constexpr int kSignWithMeaning = 1640;
+constexpr int kTakeBackMark = 1641;
+constexpr int kMarks = 1642;
+constexpr int kMarkLine = 1643;
+constexpr int kAlreadyUnderstood = 1644;
+constexpr int kSelectFirst = 1645;
+constexpr int kNoMarkHere = 1646;
+constexpr int kUndoMark = 1647;
+constexpr int kRedoMark = 1648;
+constexpr int kLoseMarks = 1649;
+constexpr int kOwnRulesReplaced = 1650;
+constexpr int kWithoutKeyCount = 1651;
+constexpr int kPartsDropped = 1652;
+constexpr int kUnderstoodShare = 1653;
+constexpr int kTarget = 1654;
+constexpr int kTargetBehind = 1655;
+constexpr int kTargetFrom = 1656;
+constexpr int kTargetNew = 1657;
+constexpr int kPlaceFree = 1658;
+constexpr int kPlaceFull = 1661;
+constexpr int kPlaceNew = 1662;
+constexpr int kImportNow = 1663;
+constexpr int kSaveRulesAs = 1664;
+constexpr int kRulesName = 1665;
+constexpr int kRulesSaved = 1666;
+constexpr int kRules = 1667;
+constexpr int kRulesIntro = 1668;
+constexpr int kRulePattern = 1669;
+constexpr int kRulePreQuestion = 1670;
+constexpr int kRulePreParenQuestion = 1671;
+constexpr int kRulePreAnswer = 1672;
+constexpr int kRulePreAllAnswer = 1673;
+constexpr int kRuleTitle = 1674;
+constexpr int kRuleBmp = 1675;
+constexpr int kRuleChoiceBmp = 1676;
+constexpr int kRuleChoiceKeys = 1677;
+constexpr int kRuleJudgementKeys = 1678;
+constexpr int kRuleOneKey = 1679;
+constexpr int kRuleTable = 1680;
+constexpr int kRuleQuestionKey = 1681;
+constexpr int kRuleAnswerKey = 1682;
+constexpr int kRuleMatches = 1683;
+constexpr int kRuleInvalid = 1684;
+constexpr int kStepsOfPrepare = 1685;
+constexpr int kStepSoftBreaks = 1686;
+constexpr int kStepTableOptions = 1687;
+constexpr int kStepMixedLetters = 1688;
+constexpr int kStepNoise = 1689;
+constexpr int kStepUnnumbered = 1690;
+constexpr int kStepPlainOptions = 1691;
+constexpr int kStepKeyAtEnd = 1692;
+constexpr int kStepSignedKey = 1693;
+constexpr int kStepEmphasisedKey = 1694;
+constexpr int kStepKeyInStem = 1695;
+constexpr int kStepKeyLetters = 1696;
+constexpr int kStepJudgement = 1697;
+constexpr int kStepBlankForms = 1698;
+constexpr int kStepOpenAnswers = 1699;
+constexpr int kStepAnswerSlips = 1607;
+constexpr int kStepPassages = 1608;
+constexpr int kStepPlainSpaces = 1860;
+constexpr int kStepOptionColumns = 1850;
+constexpr int kStepNumberedOptions = 1851;
+constexpr int kStepForgottenNumbers = 1852;
+constexpr int kStepClozeStems = 1853;
+constexpr int kPapers = 1609;  // a file filter
+
+// What the window for papers tells of an import and of marks.
+constexpr int kPlaceInserts = 1870;  // %1 new numbers of %2 questions; %3 numbers of the %4 that move up
+constexpr int kCloseThePaper = 1871;
+constexpr int kKeepThePaper = 1872;
+constexpr int kMarkContradicted = 1873;  // by the mark with text %1 and role %2
+constexpr int kMarkWithinLine = 1874;
+constexpr int kMarkWithoutRule = 1875;
+constexpr int kMarkWithOthers = 1876;
+constexpr int kMarkReason = 1877;       // its text, its role and one of those above
+constexpr int kMarkReasonComes = 1878;  // it is being worked out
+constexpr int kMarksNotUsed = 1879;
+constexpr int kImportWaits = 1880;  // for the rule that %1 describes; %2 says what is wrong
+constexpr int kWarnAnswerPictures = 1881;
+constexpr int kWarnMorePictures = 1882;
+constexpr int kWarnFormulas = 1883;
+constexpr int kShowsThePlace = 1884;
+
+}  // namespace quorvantis::text_id
