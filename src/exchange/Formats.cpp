@@ -49,6 +49,7 @@ constexpr HeldParts kTableParts{.severalRight = true,
 constexpr HeldParts kAllParts{.severalRight = true,
                               .noneRight = true,
                               .fillIn = true,
+                              .equalAnswers = false,
                               .severalBlanks = true,
                               .essay = true,
                               .modelAnswer = true,
@@ -63,6 +64,7 @@ constexpr HeldParts kMoodleParts = [] {
   HeldParts parts = kAllParts;
   parts.fewestOptions = 2;
   parts.noneRight = false;
+  parts.equalAnswers = true;
   parts.blankScores = false;
   parts.fileNames = false;
   return parts;
@@ -102,7 +104,7 @@ const FormatRow kFormats[] = {
      .purpose = text_id::kFormatAikenPurpose,
      .extension = "aiken",
      .extensionIsItsOwn = true,
-     .held = {.texts = HeldText::OneLine, .fewestOptions = 2},
+     .held = {.texts = HeldText::OneLine, .fewestOptions = 2, .misreads = IsNoAikenText},
      .recognises = LooksLikeAiken,
      .reader = NewReader<AikenReader>,
      .writer = NewWriter<AikenWriter>},

@@ -81,7 +81,9 @@ class RandomExam {
                                               u"/",
                                               u"\u202E",
                                               u"top"};
-    std::u16string text = u"t";
+    static const char16_t* const kStarts[] = {u"t",         u"t",        u"t",  u"t",         u"[html]t",
+                                              u"[plain] t", u"[moodle]", u"A.", u"answer: B", u"%50%a"};
+    std::u16string text = kStarts[random_() % std::size(kStarts)];
     for (std::size_t i = random_() % 7; i > 0; --i) {
       text += kPieces[random_() % std::size(kPieces)];
       if (hasLines && Chance(6)) text += u"\r\n";
@@ -122,7 +124,7 @@ class RandomExam {
     question.text = ReadExamText(question.text).text;
     std::vector<std::u16string> answers;
     for (std::size_t i = random_() % 4; i > 0; --i)
-      answers.push_back(Utf8Number() + Answer());  // all different
+      answers.push_back(!answers.empty() && Chance(4) ? answers.back() : Answer() + Utf8Number());
     question.blanks = ByBlank(question.text, answers);
   }
 

@@ -25,10 +25,11 @@ class Reduction {
     if (IsEmpty(question)) return Refuse(text_id::kExchangeEmptyQuestion);
     std::erase_if(question.options, [](const ExchangedOption& option) { return option.text.empty(); });
     if (!ReduceKind(question)) return false;
-    question.text = Text(question.text);
+    question.text = QuestionText(question.text);
     for (ExchangedOption& option : question.options) option.text = Text(option.text);
     for (BlankAnswers& blank : question.blanks) {
       for (std::u16string& answer : blank) answer = Answer(answer);
+      if (!held_.equalAnswers) MergeEqual(blank);
     }
     question.modelAnswer = Text(question.modelAnswer);
     ReduceRest(question);
@@ -48,6 +49,25 @@ class Reduction {
 
  private:
   std::u16string Text(const std::u16string& text) { return Plain(text, held_.texts); }
+
+  std::u16string QuestionText(const std::u16string& text) {
+    std::u16string held = Text(text);
+    if (held_.misreads == nullptr || !held_.misreads(ExamTextToPlain(held))) return held;
+    notes_.Tell(text_id::kExchangeDashInFront);
+    return u"- " + held;
+  }
+
+  void MergeEqual(BlankAnswers& answers) {
+    BlankAnswers kept;
+    for (std::u16string& answer : answers) {
+      if (std::ranges::find(kept, answer) != kept.end()) {
+        notes_.Tell(text_id::kExchangeEqualAnswers, {Excerpt(answer)});
+      } else {
+        kept.push_back(std::move(answer));
+      }
+    }
+    answers = std::move(kept);
+  }
 
   std::u16string Answer(const std::u16string& answer) {
     std::u16string text = Plain(answer, HeldText::OneLine);

@@ -5,6 +5,7 @@
 #include "exchange/form/ExchangedExam.h"
 
 #include <cstddef>
+#include <string_view>
 
 namespace quorvantis {
 
@@ -22,6 +23,7 @@ struct HeldParts {
   bool noneRight = false;         ///< no right option
   bool fillIn = false;            ///< questions with alternative answers
   bool arrows = true;             ///< "->" in answers
+  bool equalAnswers = true;       ///< the same answer twice in one blank
   bool severalBlanks = false;     ///< an answer for each blank
   bool blankScores = true;        ///< any score for these; otherwise whole numbers for each blank
   bool essay = false;
@@ -32,7 +34,8 @@ struct HeldParts {
   bool fileNames = true;  ///< any names of files; otherwise without characters that mean something elsewhere
   bool scores = false;
   bool title = false;
-  bool shuffle = false;  ///< that options are to be shuffled
+  bool shuffle = false;                                  ///< that options are to be shuffled
+  bool (*misreads)(std::u16string_view text) = nullptr;  ///< whether a plain text is taken for no question
 };
 
 /// What a format holds of an exam: what a writer gets, and what its reader must give back. What the format

@@ -34,6 +34,14 @@ GiftTextFormat TakeGiftFormat(std::u16string_view& text, GiftTextFormat otherwis
   return otherwise;
 }
 
+std::u16string GiftAnswers::FormattedText(std::u16string_view text, GiftTextFormat otherwise) {
+  const GiftTextFormat outer = format_;
+  format_ = TakeGiftFormat(text, otherwise);
+  std::u16string read = Text(text);
+  format_ = outer;
+  return read;
+}
+
 std::u16string GiftAnswers::Text(std::u16string_view text) {
   const std::u16string plain = Unprotected(text);
   if (format_ == GiftTextFormat::Plain) return PlainToExamText(plain);
@@ -52,7 +60,7 @@ bool GiftAnswers::Read(std::u16string_view answers, ExchangedQuestion& question)
   answers = Trimmed(answers.substr(0, general));
   if (answers.empty()) {
     question.kind = QuestionKind::Essay;
-    question.modelAnswer = Text(feedback);
+    question.modelAnswer = FormattedText(feedback, format_);
     return true;
   }
   if (!feedback.empty()) tools_.notes.Tell(text_id::kExchangeFeedback);
@@ -143,7 +151,8 @@ void GiftAnswers::ReadAlternatives(const std::vector<Answer>& answers, Exchanged
   BlankAnswers alternatives;
   for (const Answer& answer : answers) {
     if (answer.fraction <= 0 || answer.text.empty()) continue;
-    std::u16string text = PlainToExamText(Unprotected(answer.text));
+    std::u16string text = FormattedText(answer.text, GiftTextFormat::Plain);
+    if (text.empty()) continue;
     if (answer.fraction < kFullFraction)
       tools_.notes.Tell(text_id::kExchangePartlyRightAnswer, {Excerpt(text)});
     alternatives.push_back(std::move(text));
@@ -154,11 +163,7 @@ void GiftAnswers::ReadAlternatives(const std::vector<Answer>& answers, Exchanged
 void GiftAnswers::ReadOptions(const std::vector<Answer>& answers, ExchangedQuestion& question) {
   std::vector<double> fractions;
   for (const Answer& answer : answers) {
-    std::u16string_view text = answer.text;
-    const GiftTextFormat outer = format_;
-    format_ = TakeGiftFormat(text, format_);
-    question.options.push_back({Text(text), false});
-    format_ = outer;
+    question.options.push_back({FormattedText(answer.text, format_), false});
     fractions.push_back(answer.fraction);
   }
   DecideRights(fractions, question.options, tools_.notes);

@@ -40,6 +40,9 @@ class GiftAnswers {
     std::u16string_view text;
   };
 
+  /// The same, with the name of a format in front or not.
+  std::u16string FormattedText(std::u16string_view text, GiftTextFormat otherwise);
+
   std::vector<Answer> Cut(std::u16string_view answers);
   Answer ReadAnswer(char16_t mark, std::u16string_view text);
   std::u16string_view WithoutFeedback(std::u16string_view text);

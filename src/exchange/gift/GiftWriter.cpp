@@ -27,6 +27,16 @@ std::u16string Escaped(std::u16string_view text) {
   return escaped;
 }
 
+bool BeginsLikeFormat(std::u16string_view text) {
+  return std::any_of(std::begin(kGiftFormatNames), std::end(kGiftFormatNames),
+                     [text](std::u16string_view name) { return text.starts_with(name); });
+}
+
+/// No escape keeps the name of a format in front from being read as one, but only the first is.
+std::u16string WithFormatNamed(std::u16string text, std::u16string_view format) {
+  return BeginsLikeFormat(text) ? std::u16string(format) + text : text;
+}
+
 /// Writes one question.
 class GiftQuestion {
  public:
@@ -40,9 +50,8 @@ class GiftQuestion {
 
  private:
   static bool NeedsHtml(const ExchangedQuestion& question) {
-    const auto isFormat = [&question](std::u16string_view name) { return question.text.starts_with(name); };
     if (HasTags(question.text) || HasTags(question.modelAnswer)) return true;
-    if (std::any_of(std::begin(kGiftFormatNames), std::end(kGiftFormatNames), isFormat)) return true;
+    if (BeginsLikeFormat(question.text)) return true;
     return std::ranges::any_of(question.options, [](const ExchangedOption& option) {
       return HasTags(option.text) || option.text.find(kOfPairs) != option.text.npos;
     });
@@ -63,7 +72,11 @@ class GiftQuestion {
       case QuestionKind::Oral:
         break;
     }
-    return question_.modelAnswer.empty() ? u"" : u"####" + Shown(question_.modelAnswer);
+    return question_.modelAnswer.empty() ? u"" : u"####" + ShownInAnswers(question_.modelAnswer);
+  }
+
+  std::u16string ShownInAnswers(const std::u16string& text) const {
+    return WithFormatNamed(Shown(text), isHtml_ ? u"[html]" : u"[moodle]");
   }
 
   std::u16string Options() const {
@@ -73,7 +86,7 @@ class GiftQuestion {
     const bool isPlain = rights == 1 && question_.options.size() > 1;
     std::u16string lines = u"\n";
     for (const ExchangedOption& option : question_.options) {
-      const std::u16string text = Shown(option.text);
+      const std::u16string text = ShownInAnswers(option.text);
       lines += option.isRight && isPlain ? u"\t=" : u"\t~";
       if (option.isRight && !isPlain) {
         lines.append(u"%").append(Utf8ToUtf16(RightShare(rights))).append(u"%");
@@ -91,7 +104,7 @@ class GiftQuestion {
     std::u16string lines = u"\n";
     for (const BlankAnswers& blank : question_.blanks) {
       for (const std::u16string& answer : blank)
-        lines += u"\t=%100%" + Escaped(ExamTextToPlain(answer)) + u"\n";
+        lines += u"\t=%100%" + WithFormatNamed(Escaped(ExamTextToPlain(answer)), u"[plain]") + u"\n";
     }
     return lines;
   }

@@ -100,6 +100,12 @@ bool LooksLikeAiken(const ExchangeSource& source) {
   return false;
 }
 
+bool IsNoAikenText(std::u16string_view line) {
+  const bool isOption =
+      line.size() > 1 && line[0] >= u'A' && line[0] <= u'Z' && (line[1] == u'.' || line[1] == u')');
+  return isOption || IsAnswerLine(line);
+}
+
 std::optional<ExchangedExam> AikenReader::Read(const ExchangeSource& source, ReadingTools& tools) {
   const auto text = ReadSourceText(source, tools);
   if (!text) return std::nullopt;

@@ -4,9 +4,14 @@
 
 #include "exchange/form/Format.h"
 
+#include <string_view>
+
 namespace quorvantis {
 
 bool LooksLikeAiken(const ExchangeSource& source);
+
+/// Whether a line is an answer or an option wherever it stands, so that no question can begin with it.
+bool IsNoAikenText(std::u16string_view line);
 
 class AikenReader : public FormatReader {
  public:

@@ -138,7 +138,9 @@ bool PackageMentions(const ExchangeSource& source, std::initializer_list<std::st
     if (zip.Opened() != WordResult::Done) return false;
     const std::string manifest = ManifestAmong(zip.Names(kMostParts));
     if (manifest.empty()) return false;
-    text = zip.Read(manifest, kMostPartBytes).bytes;
+    const PackagePart part = zip.Read(manifest, kMostPartBytes);
+    if (part.result == WordResult::TooLarge) return true;  // which reading it tells
+    text = part.bytes;
   }
   return std::any_of(words.begin(), words.end(),
                      [&text](std::string_view word) { return text.find(word) != text.npos; });

@@ -50,7 +50,7 @@ class QtiPackage {
 };
 
 /// Whether a file is a package whose manifest, or an XML file that itself, has one of the words near its
-/// beginning.
+/// beginning. True, too, of a package whose manifest is too large to be read.
 bool PackageMentions(const ExchangeSource& source, std::initializer_list<std::string_view> words);
 
 }  // namespace quorvantis
