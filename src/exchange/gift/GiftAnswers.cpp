@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/gift/GiftAnswers.h"
 
+#include "exchange/form/MoodleConventions.h"
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
 #include "exchange/gift/GiftText.h"
@@ -151,7 +152,8 @@ void GiftAnswers::ReadAlternatives(const std::vector<Answer>& answers, Exchanged
   BlankAnswers alternatives;
   for (const Answer& answer : answers) {
     if (answer.fraction <= 0 || answer.text.empty()) continue;
-    std::u16string text = FormattedText(answer.text, GiftTextFormat::Plain);
+    std::u16string text =
+        WithoutProtectedStars(FormattedText(answer.text, GiftTextFormat::Plain), tools_.notes);
     if (text.empty()) continue;
     if (answer.fraction < kFullFraction)
       tools_.notes.Tell(text_id::kExchangePartlyRightAnswer, {Excerpt(text)});

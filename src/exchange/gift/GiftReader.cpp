@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/form/Blanks.h"
 #include "exchange/form/ExchangeLimits.h"
-#include "exchange/form/PercentFractions.h"
+#include "exchange/form/MoodleConventions.h"
 #include "exchange/form/TextSource.h"
 #include "exchange/gift/GiftAnswers.h"
 #include "exchange/gift/GiftFormat.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/form/PercentFractions.h"
+#include "exchange/form/MoodleConventions.h"
 #include "exchange/gift/GiftFormat.h"
 #include "exchange/markup/Markup.h"
 #include "text/LineBreaks.h"
@@ -100,11 +100,14 @@ class GiftQuestion {
     return lines;
   }
 
+  static std::u16string Answer(const std::u16string& answer) {
+    return WithFormatNamed(Escaped(WithProtectedStars(ExamTextToPlain(answer))), u"[plain]");
+  }
+
   std::u16string Alternatives() const {
     std::u16string lines = u"\n";
     for (const BlankAnswers& blank : question_.blanks) {
-      for (const std::u16string& answer : blank)
-        lines += u"\t=%100%" + WithFormatNamed(Escaped(ExamTextToPlain(answer)), u"[plain]") + u"\n";
+      for (const std::u16string& answer : blank) lines += u"\t=%100%" + Answer(answer) + u"\n";
     }
     return lines;
   }

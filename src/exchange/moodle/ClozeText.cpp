@@ -2,6 +2,7 @@
 #include "exchange/moodle/ClozeText.h"
 
 #include "exchange/form/Blanks.h"
+#include "exchange/form/MoodleConventions.h"
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
 #include "exchange/markup/Markup.h"
@@ -120,7 +121,8 @@ class ClozeReading {
       answers.remove_prefix(std::min(end + 1, answers.size()));
       if (text_.empty()) continue;
       if (fraction >= kFullFraction || (fraction > 0 && kind != ClozeKind::Choice))
-        rights.push_back(PlainToExamText(text_));
+        rights.push_back(
+            PlainToExamText(kind == ClozeKind::Words ? WithoutProtectedStars(text_, notes_) : text_));
       choices += (choices.empty() ? u"" : u" / ") + EscapeHtml(text_);
     }
     read_.html += BlankOfClass(EndingClass());
@@ -212,7 +214,8 @@ std::u16string ClozeHtml(std::u16string_view examText, const std::vector<BlankAn
           .append(u"\">");
     cloze += begin;
     for (std::size_t i = 0; i < blanks[number].size(); ++i)
-      cloze.append(i == 0 ? u"=" : u"~=").append(ProtectedAnswer(ExamTextToPlain(blanks[number][i])));
+      cloze.append(i == 0 ? u"=" : u"~=")
+          .append(ProtectedAnswer(WithProtectedStars(ExamTextToPlain(blanks[number][i]))));
     cloze += isUsual ? u"}" : u"}</span>";
     at = blank.end;
     ++number;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/form/Blanks.h"
 #include "exchange/form/ExchangeLimits.h"
-#include "exchange/form/PercentFractions.h"
+#include "exchange/form/MoodleConventions.h"
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
 #include "exchange/markup/Addresses.h"
@@ -153,7 +153,6 @@ class MoodleQuestion {
     MakeTrueFalse(isTrue, tools_.strings, question);
   }
 
-  /// A star stands for any text, unless a backslash protects it.
   void TakeAlternatives(ExchangedQuestion& question) {
     question.kind = QuestionKind::FillIn;
     BlankAnswers answers;
@@ -162,18 +161,9 @@ class MoodleQuestion {
       const double fraction = NumberIn(ValueOf(answer, "fraction"), 0);
       if (fraction <= 0 || Trimmed(text).empty()) continue;
       if (fraction < kFullFraction) tools_.notes.Tell(text_id::kExchangePartlyRightAnswer, {Excerpt(text)});
-      answers.push_back(PlainToExamText(WithoutStarProtection(text)));
+      answers.push_back(PlainToExamText(WithoutProtectedStars(text, tools_.notes)));
     }
     if (!answers.empty()) question.blanks = {answers};
-  }
-
-  static std::u16string WithoutStarProtection(std::u16string_view text) {
-    std::u16string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-      if (text.substr(i).starts_with(u"\\*")) ++i;
-      plain.push_back(text[i]);
-    }
-    return plain;
   }
 
   void TakeNumbers(ExchangedQuestion& question) {

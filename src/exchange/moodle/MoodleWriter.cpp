@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/form/PercentFractions.h"
+#include "exchange/form/MoodleConventions.h"
 #include "exchange/form/Points.h"
 #include "exchange/markup/Addresses.h"
 #include "exchange/markup/Markup.h"
@@ -143,14 +143,8 @@ class MoodleQuiz {
   void WriteAlternatives(const ExchangedQuestion& question) {
     xml_.Text("usecase", "0");
     for (const BlankAnswers& blank : question.blanks) {
-      for (const std::u16string& answer : blank) {
-        std::string characters;
-        for (const char c : Utf16ToUtf8(ExamTextToPlain(answer))) {
-          if (c == '*') characters.push_back('\\');  // it stands for any text otherwise
-          characters.push_back(c);
-        }
-        WriteAnswer("100", "moodle_auto_format", characters);
-      }
+      for (const std::u16string& answer : blank)
+        WriteAnswer("100", "moodle_auto_format", Utf16ToUtf8(WithProtectedStars(ExamTextToPlain(answer))));
     }
   }
 

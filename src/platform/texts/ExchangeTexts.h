@@ -76,6 +76,7 @@ constexpr int kExchangeFileRenamed = 2215;  // %1 is the old name, %2 the new on
 constexpr int kExchangeBlankScores = 2216;  // %1 is the score that it gets
 constexpr int kExchangeNextQti = 2217;
 constexpr int kExchangeDashInFront = 2640;
+constexpr int kExchangeWildcard = 2642;  // %1 is the answer
 constexpr int kExchangeEqualAnswers = 2641;    // %1 is the answer
 constexpr int kExchangeAmbiguousRight = 2605;  // %1 is a cell, %2 the letter of the option that is right
 constexpr int kExchangeIsPaper = 2580;         // %2 is the name of a format

@@ -3,6 +3,7 @@
 #include "Players.h"
 #include "RandomExam.h"
 #include "exchange/Formats.h"
+#include "exchange/form/MoodleConventions.h"
 #include "shell/language/BuiltInStrings.h"
 #include "support/RecordingWorld.h"
 #include "text/Utf.h"
@@ -57,7 +58,8 @@ std::string Meant(const ExchangedQuestion& question) {
   for (const ExchangedOption& option : question.options)
     lines.append(option.isRight ? "+ " : "- ").append(Utf16ToUtf8(option.text)).append("\n");
   for (const BlankAnswers& blank : question.blanks) {
-    for (const std::u16string& answer : blank) lines += "+ " + Utf16ToUtf8(ExamTextToPlain(answer)) + "\n";
+    for (const std::u16string& answer : blank)
+      lines += "+ " + Utf16ToUtf8(WithProtectedStars(ExamTextToPlain(answer))) + "\n";
   }
   return lines;
 }

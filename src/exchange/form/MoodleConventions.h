@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What the two formats of Moodle have in common.
+// What the formats of Moodle have in common.
 #pragma once
+
+#include "exchange/form/ExchangeNotes.h"
 
 #include <cstddef>
 #include <string>
@@ -16,5 +18,11 @@ std::u16string WithoutSlashes(std::u16string_view title);
 
 /// The title that the path of a category ends with.
 std::u16string TitleOfCategory(std::u16string_view path);
+
+/// An accepted answer in which every star is one: a star stands for any text unless a backslash protects it.
+std::u16string WithProtectedStars(std::u16string_view answer);
+
+/// The same back. Tells of stars that stand for any text, as they are only characters in an exam.
+std::u16string WithoutProtectedStars(std::u16string_view answer, ExchangeNotes& notes);
 
 }  // namespace quorvantis

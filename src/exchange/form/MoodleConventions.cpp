@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/form/PercentFractions.h"
+#include "exchange/form/MoodleConventions.h"
+
+#include "platform/texts/ExchangeTexts.h"
 
 #include <array>
 
@@ -36,6 +38,27 @@ std::u16string TitleOfCategory(std::u16string_view path) {
   const bool isTop = title == u"top" && depth == (isContext ? 1 : 0);
   const bool isOnlyContext = depth == 0 && title.starts_with(u'$') && title.ends_with(u'$');
   return isTop || isOnlyContext ? std::u16string() : title;
+}
+
+std::u16string WithProtectedStars(std::u16string_view answer) {
+  std::u16string text;
+  for (const char16_t unit : answer) {
+    if (unit == u'*') text.push_back(u'\\');
+    text.push_back(unit);
+  }
+  return text;
+}
+
+std::u16string WithoutProtectedStars(std::u16string_view answer, ExchangeNotes& notes) {
+  std::u16string text;
+  bool hasWildcard = false;
+  for (std::size_t i = 0; i < answer.size(); ++i) {
+    hasWildcard = hasWildcard || answer[i] == u'*';
+    if (answer.substr(i).starts_with(u"\\*")) ++i;
+    text.push_back(answer[i]);
+  }
+  if (hasWildcard) notes.Tell(text_id::kExchangeWildcard, {Excerpt(text)});
+  return text;
 }
 
 }  // namespace quorvantis
