@@ -55,6 +55,8 @@ const ForeignRow kGift[] = {
     {"$CATEGORY: one\n\nOpen {\n\n =a\n\n ~b\n\n}\n::R::Below {T}\n\n$CATEGORY: two\n\nLast {F}\n",
      "choice Open | +a | -b\nchoice Below | +True | -False\nchoice Last | -True | +False\n",
      "questions of several categories are read into one exam; the name of this one is left out: two\n"},
+    {"Stars {=a*b =2\\\\*3 =4\\*5}", "fill Stars | a*b, 2*3, 4*5\n",
+     "question 1: a star stands for any text in its answer “a*b”; in an exam it is just a star\n"},
     {"caf\xE9 {=x ~y}", "choice caf\xC3\xA9 | +x | -y\n",
      "the text is not UTF-8; it was read as Windows text of Western Europe\n"},
 };
