@@ -67,7 +67,15 @@ const ForeignRow kAiken[] = {
     {"Q\nA. a\nB. b\n\nR\nA. c\nB. d\n\nANSWER: A\n", "choice Q | -a | -b\nchoice R | +c | -d\n",
      "question 1: it has no right option\n"},
     {"Q\nA. a\nB. b\nANSWER: D\n\nrest", "choice Q | -a | -b\n",
-     "question 1: it has no right option\nquestion 2: a part could not be read and is left out: rest\n"},
+     "question 1: “D” names no option, so none is right\nquestion 2: a part could not be read and is left "
+     "out: rest\n"},
+    {"Q\nA.a\nB.b\nD. d\nANSWER : (D)\nFeedback: no\n\nR\nA. x y B. z\nanswer: A and C\n\nS\nA. True\nB. "
+     "False\nC. E\nANSWER: True\nANSWER: A\n",
+     "choice Q | -a | -b | +d\nchoice R | +x y | -z\nchoice S | -True | -False | -E\n",
+     "question 1: feedback and hints are left out\n"
+     "question 2: of “A and C”, A is taken for right and the rest is left out\n"
+     "question 3: “True” names no option, so none is right\n"
+     "question 4: a part could not be read and is left out: ANSWER: A\n"},
 };
 
 const ForeignRow kTables[] = {
@@ -85,13 +93,29 @@ const ForeignRow kTables[] = {
      "3\xE2\x80\x9D can be the letter or number of one option and the text of "
      "another; C is taken for right\n"},
     {"question,A,B,C,right\nq,11,12,13,12\nq,11,12,13,2\nq,x,Ab,y,Ab\n",
-     "choice q | -11 | +12 | -13\nchoice q | -11 | +12 | -13\nchoice q | -x | +Ab | -y\n",
-     "question 1: \xE2\x80\x9C"
-     "12\xE2\x80\x9D can be the letter or number of one option and the text of "
-     "another; B is taken for right\n"
-     "question 3: \xE2\x80\x9C"
-     "Ab\xE2\x80\x9D can be the letter or number of one option and the text of "
-     "another; B is taken for right\n"},
+     "choice q | -11 | +12 | -13\nchoice q | -11 | +12 | -13\nchoice q | -x | +Ab | -y\n"},
+    {"question,A,B,C,right\nq,bad,good,ok,Bad\nq,10,14,16,12\nq,10,14,16,\"1,2\"\nq,a &amp; b,x,y,a & b\n"
+     "q,x,y,z,\"a), c)\"\nq,red,blue,green,\"Red, blue\"\nq,x,y,z,A|C\nq,x,y,z,\"A, D\"\nq,x,y,z,B,beyond\n",
+     "choice q | +bad | -good | -ok\nchoice q | -10 | -14 | -16\nchoice q | -10 | -14 | -16\n"
+     "choice q | +a & b | -x | -y\nchoice q | +x | -y | +z\nchoice q | +red | +blue | -green\n"
+     "choice q | +x | -y | +z\nchoice q | +x | -y | -z\nchoice q | -x | +y | -z\n",
+     "question 2: “12” names no option, so none is right\nquestion 3: “1,2” names no option, so none is "
+     "right\n"
+     "question 4: “a & b” can be the letter or number of one option and the text of another; A is taken for "
+     "right\n"
+     "question 8: of “A, D”, A is taken for right and the rest is left out\n"
+     "question 9: the row has more cells than the first one has names; left out: beyond\n"},
+    {"kind,question,right,A,score,Hint\nfillin,q,Paris,,2 "
+     "points,see\nTF,q,True,,1/2,\nt/f,q,no,,+3,\n,q,Rome,,-1,\n"
+     "essay,q,because,,,\n",
+     "fill q | Paris\nchoice q | +True | -False\nchoice q | -True | +False\nfill q | Rome\nessay q | "
+     "because\n",
+     "the column “Hint” is left out\nquestion 2: “1/2” is not read as a score; it gets 1\n"
+     "question 4: “-1” is not read as a score; it gets 1\n"},
+    {"question, A, B, answer\n\"Q, x\", \"a, b\", c, A\n5\" or 6\"?,x,y,B\n\"open,x,y,B\nlast,x,y,A\n",
+     "choice Q, x | +a, b | -c\nchoice 5\" or 6\"? | -x | +y\nchoice \"open | -x | +y\nchoice last | +x | "
+     "-y\n",
+     "a quotation mark is never closed and is read as a character\n"},
     // In a table of our own, letters are letters; what people change in it may be a text.
     {"kind,question,A,B,C,D,E,right,answers,model answer,score\nchoice,q,0,A,B,AB,,B,,,\n"
      "choice,q,0,A,B,AB,,AB,,,\nchoice,q,Bad,x,,,,Bad,,,\n",
@@ -117,6 +141,8 @@ TEST(ForeignFiles, PastedTablesNeedNoNames) {
   };
   EXPECT_EQ(read("Q\tx\ty\tB\nR\tx\ty\t1, 2\n").questions, "choice Q | -x | +y\nchoice R | +x | +y\n");
   EXPECT_EQ(read("Q\tx\n").questions, "fill Q | x\n");
+  EXPECT_EQ(read("1\t\"Q\nR\"\tx\ty\tB\n2.\tS\tx\ty\tz\tC\n").questions,
+            "choice Q\\nR | -x | +y\nchoice S | -x | -y | +z\n");
   EXPECT_FALSE(read("Q\tx\ty\tlast words\n").exam);
 }
 

@@ -23,7 +23,8 @@ std::optional<double> PointsOf(std::u16string_view text) {
   std::u16string number(Trimmed(text));
   std::ranges::replace(number, u',', u'.');
   const bool isNumber = !number.empty() && number.size() < 20 && IsDigit(number.back()) &&
-                        number.find_first_not_of(u"0123456789.") == number.npos;
+                        number.find_first_not_of(u"0123456789.") == number.npos &&
+                        std::ranges::count(number, u'.') <= 1;
   return isNumber ? std::optional(ParseReal(number)) : std::nullopt;
 }
 

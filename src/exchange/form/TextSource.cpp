@@ -31,6 +31,13 @@ std::u16string_view Trimmed(std::u16string_view text) {
   return WithoutAround(text, u" \t\r\n\u00A0");
 }
 
+std::u16string_view TakeLine(std::u16string_view& text) {
+  const std::size_t end = std::min(text.find(u'\n'), text.size());
+  const std::u16string_view line = text.substr(0, end);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return line;
+}
+
 std::vector<std::u16string_view> LinesOf(std::u16string_view text) {
   std::vector<std::u16string_view> lines;
   for (std::size_t begin = 0; begin <= text.size();) {

@@ -20,6 +20,9 @@ std::u16string HeadText(const ExchangeSource& source);
 /// Without blanks and line ends at both ends.
 std::u16string_view Trimmed(std::u16string_view text);
 
+/// Cuts the line at the front of `text` off, with its LF, and returns it without.
+std::u16string_view TakeLine(std::u16string_view& text);
+
 std::vector<std::u16string_view> LinesOf(std::u16string_view text);
 
 }  // namespace quorvantis

@@ -10,11 +10,16 @@ namespace quorvantis {
 
 using TableRow = std::vector<std::u16string>;
 
-/// The separator of a table, as its first line suggests.
+struct TableRows {
+  std::vector<TableRow> rows;  ///< without empty ones
+  bool hasOpenQuote = false;   ///< a quotation mark was never closed, and is read as a character
+};
+
+/// The separator of a table, as its first row suggests.
 char16_t SeparatorOf(std::u16string_view table);
 
-/// The rows of a table whose lines end in LF, at most `limit`. Empty ones are left out.
-std::vector<TableRow> ReadTable(std::u16string_view table, char16_t separator, std::size_t limit);
+/// The rows of a table whose lines end in LF, at most `limit`, and of each the first thousand cells.
+TableRows ReadTable(std::u16string_view table, char16_t separator, std::size_t limit);
 
 /// A cell as it stands in a table. A spreadsheet would take what begins with "=" and the like for a formula
 /// and compute it, so an apostrophe is put in front.

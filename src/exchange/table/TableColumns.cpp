@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/table/TableColumns.h"
 
+#include "exchange/form/NamedPlaces.h"
 #include "exchange/form/TextSource.h"
-#include "model/AnswerLetters.h"
-#include "model/ExamLimits.h"
 #include "text/AsciiCase.h"
 #include "text/NumberText.h"
 
@@ -41,6 +40,9 @@ constexpr ColumnName kColumnNames[] = {
     {u"marks", &TableColumns::score},
 };
 
+/// Columns that say nothing beyond the order of the questions.
+constexpr std::u16string_view kRunningNumbers[] = {u"", u"#", u"no", u"no.", u"nr", u"nr.", u"number"};
+
 struct KindWord {
   std::u16string_view word;
   QuestionKind kind;
@@ -69,49 +71,16 @@ std::optional<std::size_t> OptionOfName(std::u16string_view name) {
   return std::nullopt;
 }
 
-constexpr std::u16string_view kBetweenOptions = u" ,;/+&\n";
-
-/// Letters or numbers, with something between them or not.
-bool IsListOfOptions(std::u16string_view cell) {
-  return std::ranges::all_of(cell, [](char16_t unit) {
-    const char16_t upper = AsciiUpper(unit);
-    return (upper >= u'A' && upper <= u'Z') || IsDigit(unit) ||
-           kBetweenOptions.find(unit) != kBetweenOptions.npos;
-  });
-}
-
-/// The first option that has this text; none if none has.
-std::vector<bool> OptionsOfText(std::u16string_view cell, const std::vector<std::u16string>& options) {
-  std::vector<bool> rights(options.size());
-  const auto same = std::ranges::find(options, cell);
-  if (!cell.empty() && same != options.end()) rights[static_cast<std::size_t>(same - options.begin())] = true;
-  return rights;
-}
-
-/// The options with these letters or numbers; none if one of them names no option.
-std::vector<bool> OptionsByPlace(std::u16string_view cell, std::size_t count) {
-  std::vector<bool> rights(count);
-  for (const char16_t unit : cell) {
-    if (kBetweenOptions.find(unit) != kBetweenOptions.npos) continue;
-    const auto option = OptionOfName(AsciiLower(std::u16string_view(&unit, 1)));
-    if (!option || *option >= count) return std::vector<bool>(count);
-    rights[*option] = true;
+bool HasRunningNumbers(const std::vector<TableRow>& rows) {
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const std::u16string number = FormatInteger(static_cast<std::int64_t>(i + 1));
+    const std::u16string_view cell = Trimmed(rows[i][0]);
+    if (cell != number && cell != number + u'.') return false;
   }
-  return rights;
+  return !rows.empty();
 }
 
-std::size_t FirstOf(const std::vector<bool>& rights) {
-  return static_cast<std::size_t>(std::ranges::find(rights, true) - rights.begin());
-}
-
-/// Capital letters in order, with nothing between them.
-bool IsKeyAsWritten(std::u16string_view cell) {
-  for (std::size_t i = 0; i < cell.size(); ++i) {
-    if (cell[i] < OptionLetter(0) || cell[i] >= OptionLetter(kOptionCount)) return false;
-    if (i > 0 && cell[i] <= cell[i - 1]) return false;
-  }
-  return !cell.empty();
-}
+constexpr std::size_t kFewestColumns = 4;  // a question, two options and the key
 
 }  // namespace
 
@@ -127,28 +96,48 @@ TableColumns ColumnsOf(const TableRow& names) {
     const std::u16string name = AsciiLower(Trimmed(names[i]));
     const auto* const known = std::ranges::find(kColumnNames, name, &ColumnName::name);
     if (known != std::end(kColumnNames)) {
-      if (!(columns.*known->column)) columns.*known->column = i;
+      if (columns.*known->column) {
+        columns.others.push_back(i);
+      } else {
+        columns.*known->column = i;
+      }
     } else if (const auto option = OptionOfName(name)) {
       options.emplace(*option, i);
+    } else if (std::ranges::find(kRunningNumbers, name) == std::end(kRunningNumbers)) {
+      columns.others.push_back(i);
     }
   }
   for (const auto& [option, column] : options) columns.options.push_back(column);
+  columns.count = names.size();
   columns.areOurs = std::ranges::equal(names, WrittenColumnNames(), {}, Trimmed);
   return columns;
 }
 
+void MoveKeysToOneColumn(std::vector<TableRow>& rows) {
+  std::size_t widest = 0;
+  for (TableRow& row : rows) {
+    while (row.size() > 1 && Trimmed(row.back()).empty()) row.pop_back();
+    widest = std::max(widest, row.size());
+  }
+  if (widest < kFewestColumns) return;
+  for (TableRow& row : rows) row.insert(row.end() - 1, widest - row.size(), std::u16string());
+}
+
 TableColumns ColumnsByShape(const std::vector<TableRow>& rows) {
-  constexpr std::size_t kFewestColumns = 4;
   TableColumns columns;
-  const std::size_t count = rows.empty() ? 0 : rows[0].size();
-  const auto isLike = [count](const TableRow& row) {
-    const std::u16string_view last = row.size() == count ? Trimmed(row.back()) : std::u16string_view();
-    return count == 2 ? !last.empty() : !last.empty() && last.size() <= kOptionCount && IsListOfOptions(last);
+  const std::size_t first = HasRunningNumbers(rows) && rows[0].size() != 2 ? 1 : 0;
+  const std::size_t end = rows.empty() ? 0 : rows[0].size();
+  const std::size_t count = end - first;
+  const auto isLike = [end, count](const TableRow& row) {
+    const std::u16string_view last = row.size() == end ? Trimmed(row.back()) : std::u16string_view();
+    const NamedPlaces places = PlacesIn(last, count - 2);
+    return !last.empty() && (count == 2 || (!places.hasWords && !places.options.empty()));
   };
   if ((count != 2 && count < kFewestColumns) || !std::ranges::all_of(rows, isLike)) return columns;
-  columns.text = 0;
-  (count == 2 ? columns.answers : columns.right) = count - 1;
-  for (std::size_t i = 1; i + 1 < count; ++i) columns.options.push_back(i);
+  columns.text = first;
+  columns.count = end;
+  (count == 2 ? columns.answers : columns.right) = end - 1;
+  for (std::size_t i = first + 1; i + 1 < end; ++i) columns.options.push_back(i);
   return columns;
 }
 
@@ -156,6 +145,12 @@ std::optional<QuestionKind> KindInCell(std::u16string_view cell) {
   const std::u16string word = AsciiLower(Trimmed(cell));
   const auto* const row = std::ranges::find(kKindWords, word, &KindWord::word);
   return row != std::end(kKindWords) ? std::optional(row->kind) : std::nullopt;
+}
+
+bool IsTrueFalse(std::u16string_view cell) {
+  std::u16string word = AsciiLower(Trimmed(cell));
+  std::erase_if(word, [](char16_t unit) { return unit == u' ' || unit == u'/' || unit == u'-'; });
+  return word == u"truefalse" || word == u"tf";
 }
 
 std::u16string JoinAnswers(const std::vector<std::u16string>& answers) {
@@ -185,17 +180,6 @@ std::vector<std::u16string> AnswersInCell(std::u16string_view cell) {
   for (std::u16string& answer : answers) answer = std::u16string(Trimmed(answer));
   std::erase(answers, std::u16string());
   return answers;
-}
-
-NamedOptions NamedRights(std::u16string_view cell, const std::vector<std::u16string>& options, bool isOurs) {
-  std::vector<bool> byText = OptionsOfText(cell, options);
-  std::vector<bool> byPlace = OptionsByPlace(cell, options.size());
-  const auto placed = std::ranges::count(byPlace, true);
-  if (placed == 0) return {std::move(byText)};
-  const bool isOwnText = placed == 1 && options[FirstOf(byPlace)] == cell;
-  const bool hasText = std::ranges::count(byText, true) > 0;
-  if (!hasText || isOwnText || (isOurs && IsKeyAsWritten(cell))) return {std::move(byPlace)};
-  return {cell.size() == 1 ? std::move(byPlace) : std::move(byText), true};
 }
 
 }  // namespace quorvantis
