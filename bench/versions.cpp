@@ -12,10 +12,10 @@
 #include "platform/digest/OpenSslDigest.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/RecordingWorld.h"
-#include "versions/VersionMaker.h"
-#include "versions/VersionNames.h"
-#include "versions/VersionPlanner.h"
-#include "versions/VersionVerifier.h"
+#include "versions/make/VersionMaker.h"
+#include "versions/plan/VersionNames.h"
+#include "versions/plan/VersionPlanner.h"
+#include "versions/verify/VersionVerifier.h"
 
 #include <benchmark/benchmark.h>
 

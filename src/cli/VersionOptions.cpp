@@ -6,7 +6,7 @@
 #include "host/PlanWords.h"
 #include "model/AnswerLetters.h"
 #include "text/Utf.h"
-#include "versions/VersionNames.h"
+#include "versions/plan/VersionNames.h"
 
 #include <charconv>
 #include <sstream>

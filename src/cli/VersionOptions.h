@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "versions/VersionRequest.h"
+#include "versions/plan/VersionRequest.h"
 
 #include <CLI/CLI.hpp>
 

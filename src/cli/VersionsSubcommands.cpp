@@ -15,9 +15,9 @@
 #include "text/NumberText.h"
 #include "text/PathText.h"
 #include "text/Utf.h"
-#include "versions/TargetFolder.h"
-#include "versions/VersionMaker.h"
-#include "versions/VersionVerifier.h"
+#include "versions/make/TargetFolder.h"
+#include "versions/make/VersionMaker.h"
+#include "versions/verify/VersionVerifier.h"
 
 #include <ostream>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/FileDigest.h"
-#include "versions/PlanRecord.h"
+#include "versions/folder/PlanRecord.h"
 
 namespace quorvantis {
 

@@ -2,8 +2,8 @@
 // The words for the choices and reasons of a plan, in "plan.json" and on the command line.
 #pragma once
 
-#include "versions/PinnedParts.h"
-#include "versions/VersionRequest.h"
+#include "versions/plan/PinnedParts.h"
+#include "versions/plan/VersionRequest.h"
 
 #include <optional>
 #include <string>

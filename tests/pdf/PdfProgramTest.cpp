@@ -5,7 +5,7 @@
 #include "render/RenderTest.h"
 #include "text/ComparableText.h"
 #include "text/NumberText.h"
-#include "versions/PaperComparison.h"
+#include "versions/verify/PaperComparison.h"
 
 #include <algorithm>
 

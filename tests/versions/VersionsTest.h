@@ -9,8 +9,8 @@
 #include "support/TemporaryFolder.h"
 #include "text/NumberText.h"
 #include "text/SeededRandom.h"
-#include "versions/VersionNames.h"
-#include "versions/VersionPlanner.h"
+#include "versions/plan/VersionNames.h"
+#include "versions/plan/VersionPlanner.h"
 
 #include <gtest/gtest.h>
 

@@ -11,8 +11,8 @@
 #include "platform/programs/PdfProgram.h"
 #include "platform/programs/PopplerPdfText.h"
 #include "platform/texts/VersionTexts.h"
-#include "versions/PartOfProgress.h"
-#include "versions/TargetFolder.h"
+#include "versions/folder/PartOfProgress.h"
+#include "versions/make/TargetFolder.h"
 
 #include <QCoreApplication>
 

@@ -8,7 +8,7 @@
 #include "platform/texts/VersionTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
-#include "versions/VersionReport.h"
+#include "versions/folder/VersionReport.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>

@@ -3,8 +3,8 @@
 
 #include "model/ExamPaper.h"
 #include "platform/StringTable.h"
-#include "versions/PinnedParts.h"
-#include "versions/VersionRequest.h"
+#include "versions/plan/PinnedParts.h"
+#include "versions/plan/VersionRequest.h"
 
 #include <QTreeWidget>
 

@@ -4,7 +4,7 @@
 #include "desktop/controls/QtText.h"
 #include "model/QuestionKinds.h"
 #include "text/AsciiCase.h"
-#include "versions/OptionOrder.h"
+#include "versions/plan/OptionOrder.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/ExamPaper.h"
-#include "versions/VersionPlan.h"
+#include "versions/plan/VersionPlan.h"
 
 #include <QAbstractTableModel>
 

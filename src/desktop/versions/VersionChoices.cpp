@@ -4,7 +4,7 @@
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/QtText.h"
 #include "platform/texts/VersionTexts.h"
-#include "versions/VersionNames.h"
+#include "versions/plan/VersionNames.h"
 
 #include <QSignalBlocker>
 

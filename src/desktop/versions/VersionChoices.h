@@ -3,7 +3,7 @@
 
 #include "desktop/controls/SeedField.h"
 #include "platform/StringTable.h"
-#include "versions/VersionRequest.h"
+#include "versions/plan/VersionRequest.h"
 
 #include <QCheckBox>
 #include <QComboBox>

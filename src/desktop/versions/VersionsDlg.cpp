@@ -10,10 +10,10 @@
 #include "platform/texts/VersionTexts.h"
 #include "text/MessageText.h"
 #include "text/NumberText.h"
-#include "versions/TargetFolder.h"
-#include "versions/VersionNames.h"
-#include "versions/VersionPlanner.h"
-#include "versions/VersionReport.h"
+#include "versions/folder/VersionReport.h"
+#include "versions/make/TargetFolder.h"
+#include "versions/plan/VersionNames.h"
+#include "versions/plan/VersionPlanner.h"
 
 #include <QAccessible>
 #include <QBoxLayout>

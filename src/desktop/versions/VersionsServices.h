@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/Progress.h"
-#include "versions/PlanRecord.h"
-#include "versions/VersionMaker.h"
+#include "versions/folder/PlanRecord.h"
+#include "versions/make/VersionMaker.h"
 
 #include <filesystem>
 #include <functional>
