@@ -10,7 +10,7 @@
 #include "bank/search/BankQuestions.h"
 #include "bank/search/BankSearch.h"
 #include "bank/tags/TagFile.h"
-#include "cli/ExamSession.h"
+#include "cli/session/ExamSession.h"
 #include "examfile/ExamFileWriter.h"
 #include "likeness/Shingles.h"
 #include "platform/QuietProgress.h"

@@ -3,7 +3,7 @@
 #include "BenchArguments.h"
 #include "RatioReporter.h"
 #include "cli/CommandLine.h"
-#include "cli/ExamSession.h"
+#include "cli/session/ExamSession.h"
 #include "text/PathText.h"
 
 #include <cstdlib>

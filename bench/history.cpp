@@ -5,8 +5,8 @@
 
 #include "BenchArguments.h"
 #include "RatioReporter.h"
-#include "cli/ExamSession.h"
-#include "cli/UnseenEditor.h"
+#include "cli/session/ExamSession.h"
+#include "cli/session/UnseenEditor.h"
 
 #include <iostream>
 #include <memory>

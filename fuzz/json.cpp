@@ -2,12 +2,12 @@
 // Feeds any bytes to the JSON inputs of the command line: the description of an exam, responses to an exam,
 // and the lines of an editing script. Unusable input is a CommandError, and an exam that was built must be
 // the same after another round trip through its description.
-#include "cli/CommandError.h"
-#include "cli/EditScriptLine.h"
-#include "cli/ExamFromJson.h"
-#include "cli/ExamJson.h"
-#include "cli/JsonNode.h"
-#include "cli/Responses.h"
+#include "cli/console/CommandError.h"
+#include "cli/edit/EditScriptLine.h"
+#include "cli/form/ExamFromJson.h"
+#include "cli/form/ExamJson.h"
+#include "cli/form/JsonNode.h"
+#include "cli/form/Responses.h"
 #include "platform/posix/PosixFiles.h"
 #include "support/RecordingWorld.h"
 #include "support/TemporaryFolder.h"

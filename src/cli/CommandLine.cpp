@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandLine.h"
 
-#include "cli/CommandError.h"
-#include "cli/CommandOptions.h"
-#include "cli/Commands.h"
-#include "cli/Version.h"
+#include "cli/LanguagesSubcommand.h"
+#include "cli/bank/BankSubcommands.h"
+#include "cli/console/CommandError.h"
+#include "cli/edit/EditSubcommands.h"
+#include "cli/exam/ExamSubcommands.h"
+#include "cli/options/CommandOptions.h"
+#include "cli/options/Version.h"
+#include "cli/papers/PaperSubcommands.h"
+#include "cli/versions/VersionsSubcommands.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/Console.h"
+#include "cli/console/Console.h"
 
 namespace quorvantis::cli {
 

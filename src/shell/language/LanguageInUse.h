@@ -7,7 +7,7 @@ namespace quorvantis {
 
 /// The source of everything users see: the language library in use, and the built-in texts where that has
 /// none. Pictures come from the library only. CQuorvantisApp chooses the library, also when the wanted one is
-/// gone; on the command line, cli/Languages.h does.
+/// gone; on the command line, cli/session/Languages.h does.
 class LanguageInUse : public LanguageLibrary {
  public:
   /// Switches to `library`, which may be null.
