@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/main/AnswerControls.h"
-#include "desktop/main/ExamControls.h"
-#include "desktop/main/QuestionArea.h"
-#include "desktop/main/QuestionControls.h"
-#include "desktop/main/ToolbarButtons.h"
-#include "desktop/main/WindowNotice.h"
 #include "desktop/main/WindowScroll.h"
+#include "desktop/main/controls/AnswerControls.h"
+#include "desktop/main/controls/ExamControls.h"
+#include "desktop/main/controls/QuestionArea.h"
+#include "desktop/main/controls/QuestionControls.h"
+#include "desktop/main/controls/ToolbarButtons.h"
+#include "desktop/main/controls/WindowNotice.h"
 #include "platform/DebugOutput.h"
 
 namespace quorvantis {

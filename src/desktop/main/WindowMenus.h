@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "desktop/main/CheckCommands.h"
-#include "desktop/main/FocusedField.h"
-#include "desktop/main/HistoryCommands.h"
-#include "desktop/main/MenuBar.h"
-#include "desktop/main/SearchCommands.h"
-#include "desktop/main/SheetCommands.h"
 #include "desktop/main/WindowLayout.h"
+#include "desktop/main/commands/CheckCommands.h"
+#include "desktop/main/commands/HistoryCommands.h"
+#include "desktop/main/commands/SearchCommands.h"
+#include "desktop/main/commands/SheetCommands.h"
+#include "desktop/main/menu/FocusedField.h"
+#include "desktop/main/menu/MenuBar.h"
 #include "desktop/overview/ShownQuestionCommands.h"
 #include "editor/ExamEditor.h"
 #include "platform/StringTable.h"

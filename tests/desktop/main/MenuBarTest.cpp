@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/WindowTest.h"
-#include "desktop/main/KeysDlg.h"
+#include "desktop/main/menu/KeysDlg.h"
 #include "shell/settings/RecentExams.h"
 
 #include <QClipboard>
