@@ -47,6 +47,9 @@ class UserDialogs {
   /// A warning that asks whether to continue, with Yes and No; closing it means No.
   virtual bool AskYesNo(std::u16string_view question) = 0;
 
+  /// The same where Yes loses something, such as a file: for a user who presses Enter, too, it means No.
+  virtual bool AskYesToLose(std::u16string_view question) { return AskYesNo(question); }
+
   /// "File … Changed. Save File ?" with Yes, No and Cancel.
   virtual SaveAnswer AskSave(std::u16string_view question) = 0;
 

@@ -15,11 +15,14 @@
 namespace quorvantis {
 namespace {
 
-/// Texts are shown as they are: a file name may look like markup.
+/// Texts are shown as they are: a file name may look like markup. `usual` is the button of the Enter key; Qt
+/// chooses one if it is none.
 QMessageBox::StandardButton Ask(QMessageBox::Icon icon, const QString& text,
-                                QMessageBox::StandardButtons buttons, QWidget* parent) {
+                                QMessageBox::StandardButtons buttons, QWidget* parent,
+                                QMessageBox::StandardButton usual = QMessageBox::NoButton) {
   QMessageBox box(icon, QStringLiteral("Quorvantis"), text, buttons, parent);
   box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(usual);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -70,6 +73,11 @@ void QtUserDialogs::ShowDone(std::u16string_view text) {
 bool QtUserDialogs::AskYesNo(std::u16string_view question) {
   return Ask(QMessageBox::Warning, ToQString(question), QMessageBox::Yes | QMessageBox::No, parent_) ==
          QMessageBox::Yes;
+}
+
+bool QtUserDialogs::AskYesToLose(std::u16string_view question) {
+  return Ask(QMessageBox::Warning, ToQString(question), QMessageBox::Yes | QMessageBox::No, parent_,
+             QMessageBox::No) == QMessageBox::Yes;
 }
 
 /// Many lines would make the box higher than the screen, so they get a field of their own.
@@ -147,7 +155,7 @@ std::optional<std::filesystem::path> QtUserDialogs::ChooseFileToSave(const FileD
 bool QtUserDialogs::MayOverwrite(const QString& path) {
   if (!QFileInfo::exists(path)) return true;
   const QString question = QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(path);
-  return AskYesNo(question.toStdU16String());
+  return AskYesToLose(question.toStdU16String());
 }
 
 }  // namespace quorvantis

@@ -27,6 +27,7 @@ class QtUserDialogs : public UserDialogs {
   /// Deliberately with the error icon, as users know it.
   void ShowDone(std::u16string_view text) override;
   bool AskYesNo(std::u16string_view question) override;
+  bool AskYesToLose(std::u16string_view question) override;
   LossAnswer AskAboutLosses(const LossQuestion& question) override;
   SaveAnswer AskSave(std::u16string_view question) override;
   /// If the folder is gone, the user's documents folder takes its place.

@@ -158,12 +158,23 @@ void ExportQuestionsDlg::ChooseFile() {
 }
 
 void ExportQuestionsDlg::Export() {
-  if (run_.IsRunning() || !AcceptTarget()) return;
+  if (run_.IsRunning()) return;
+  CompleteTarget();
+  if (!AcceptTarget()) return;
   if (!Foresee()) {
     ShowForeseen();
     return Tell(services_.strings.Text(text_id::kExchangeLossesChanged));
   }
   Write();
+}
+
+/// A name that was typed without an extension gets that of the format. A folder is told instead.
+void ExportQuestionsDlg::CompleteTarget() {
+  fs::path target = Target();
+  const bool hasExtension = target.extension().native().size() > 1;  // more than a dot at the end
+  if (target.filename().empty() || hasExtension || IsFolder(target)) return;
+  target.replace_extension(std::string(formats_->Chosen().extension));
+  target_->setText(PathToQString(target));
 }
 
 bool ExportQuestionsDlg::AcceptTarget() {
@@ -182,7 +193,7 @@ bool ExportQuestionsDlg::AcceptTarget() {
   }
   if (target == mayBeReplaced_ || !fs::exists(target, error) || fs::is_directory(target, error)) return true;
   const std::u16string question = strings.Text(text_id::kExchangeReplaceAsk);
-  return services_.dialogs.AskYesNo(FillMessage(question, {PathToText(target)}));
+  return services_.dialogs.AskYesToLose(FillMessage(question, {PathToText(target)}));
 }
 
 void ExportQuestionsDlg::Write() {

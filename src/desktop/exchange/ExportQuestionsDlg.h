@@ -42,6 +42,7 @@ class ExportQuestionsDlg : public QDialog {
   void ShowForeseen();
   void ChooseFile();
   void Export();
+  void CompleteTarget();
   /// Whether the target may be written; tells why not.
   bool AcceptTarget();
   void Write();

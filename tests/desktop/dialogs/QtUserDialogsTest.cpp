@@ -79,6 +79,8 @@ TEST_F(UserDialogsTest, SavingAddsTheExtensionOfTheChosenKind) {
 
 TEST_F(UserDialogsTest, OverwritingIsConfirmedUnderTheFinalName) {
   const auto old = WriteBytes(folder / "old.exm", "exam");
+  EnterName(Path("old"));
+  Press(Qt::Key_Return);  // no answer that loses anything
   for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
     EnterName(Path("old"));
     Answer(button);

@@ -141,10 +141,13 @@ TEST_F(ExchangeWindow, WritesNothingThatIsNotWanted) {
   EXPECT_EQ(Shown(Status()), text_id::kCannotWrite);
   ExportTo({});
   EXPECT_EQ(Shown(Status()), text_id::kExchangeNoTarget);
+  ExportTo(folder / "other");
+  EXPECT_EQ(world.dialogs.questions.size(), 2U) << "it is about other.xml";
+  EXPECT_EQ(Control<QLineEdit>("exportFile").text(), PathToQString(other));
   world.dialogs.filesToSave = {other};
   Click("exportChooseFile");
   ExportTo(other);
-  EXPECT_EQ(world.dialogs.questions.size(), 1U) << "the file dialog has asked";
+  EXPECT_EQ(world.dialogs.questions.size(), 2U) << "the file dialog has asked";
   EXPECT_NE(ReadBytes(other), "mine");
 }
 
