@@ -204,6 +204,7 @@ BankExam ExamFrom(const Statement& row, int column) {
   exam.questions = static_cast<int>(row.Integer(column + 6));
   exam.state = static_cast<ExamState>(row.Integer(column + 7));
   exam.firstMissing = static_cast<int>(row.Integer(column + 8));
+  if (exam.state == ExamState::NoExam) exam.title.clear();  // any bytes where an exam has its title
   return exam;
 }
 

@@ -99,7 +99,7 @@ TEST_F(BankIndexTest, FollowsTheFolders) {
   const fs::path elsewhere = WriteExam(folder / "elsewhere" / "d.exm", u"", one).parent_path();
   fs::create_directory_symlink(elsewhere, exams / "link");
   WriteBytes(exams / "damaged.exm", ReadBytes(exams / "a.exm").substr(0, 20000));
-  WriteBytes(exams / "none.exm", "text");
+  WriteBytes(exams / "none.exm", std::string(4000, 'x'));
   BankUpdateReport report = Update();
   EXPECT_EQ(report.added, 7U);
   EXPECT_EQ(CountOf(u"question"), 5U);
@@ -107,6 +107,7 @@ TEST_F(BankIndexTest, FollowsTheFolders) {
   ASSERT_EQ(damaged.size(), 2U);
   EXPECT_EQ(damaged[0].state, ExamState::EndsEarly);
   EXPECT_EQ(damaged[1].state, ExamState::NoExam);
+  EXPECT_EQ(damaged[1].Name(), u"none") << "not what stands where an exam has its title";
   report = Update();
   EXPECT_EQ(report.added + report.changed + report.removed, 0U);
   fs::remove(exams / "a.exm");
