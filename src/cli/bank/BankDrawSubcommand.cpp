@@ -117,7 +117,9 @@ void Draw(Console& console, const CommonOptions& options, const DrawArguments& a
   if (!arguments.target.empty()) WriteDrawnExam(bank, QuestionsOf(drawn), arguments.target);
   arguments.json ? PrintDrawnJson(bank, drawn, request) : PrintDrawn(bank, drawn);
   console.out.flush();
-  console.Tell(found + "; seed " + std::to_string(request.seed));
+  const std::string summary = found + "; seed " + std::to_string(request.seed);
+  if (drawn.rows.size() < arguments.wish.count) throw CommandError(summary);
+  console.Tell(summary);
 }
 
 /// The options that say which questions may come.
@@ -174,7 +176,8 @@ void AddBankDraw(CLI::App& bank, CommandContext& context) {
   draw->footer(
       "Updates the bank first. Of questions that are nearly the same one comes at most. Prints each "
       "question\n"
-      "and why it came. The same bank, seed and conditions give the same questions.");
+      "and why it came. The same bank, seed and conditions give the same questions. If fewer come than\n"
+      "wanted, the exit status is 1.");
   draw->callback([&context, arguments] { Draw(context.console, context.common, *arguments); });
 }
 
