@@ -12,11 +12,11 @@ namespace {
 
 constexpr std::size_t kLongestTag = 100;  // UTF-16 units
 
+}  // namespace
+
 bool IsBlankInTag(char16_t unit) {
   return unit <= u' ' || (unit >= 0x7F && unit <= 0xA0) || unit == 0x3000 || unit == 0x2028 || unit == 0x2029;
 }
-
-}  // namespace
 
 std::optional<std::u16string> CleanTag(std::u16string_view tag) {
   std::u16string clean;

@@ -28,6 +28,9 @@ using TagEntries = std::map<std::string, TagEntry, std::less<>>;
 /// than 100 UTF-16 units.
 std::optional<std::u16string> CleanTag(std::u16string_view tag);
 
+/// Whether a unit counts as a blank in that.
+bool IsBlankInTag(char16_t unit);
+
 /// Whether two tags differ by their case at most.
 bool IsSameTag(std::u16string_view a, std::u16string_view b);
 

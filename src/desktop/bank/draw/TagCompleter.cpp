@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/draw/TagCompleter.h"
 
-#include "desktop/bank/draw/TypedOrder.h"
+#include "bank/tags/TypedTags.h"
 #include "desktop/controls/QtText.h"
 
 #include <QLineEdit>
@@ -9,16 +9,10 @@
 namespace quorvantis {
 namespace {
 
-/// The places behind the last comma and behind the blanks that follow it.
-struct LastTag {
-  explicit LastTag(const QString& line)
-      : begin(static_cast<qsizetype>(FromQString(line).find_last_of(kTagCommas) + 1)), text(begin) {
-    while (text < line.size() && line[text].isSpace()) ++text;
-  }
-
-  qsizetype begin;
-  qsizetype text;
-};
+/// Where the last tag of a line is typed.
+TextSpan LastOf(std::u16string_view line) {
+  return TypedTagsIn(line).back();
+}
 
 }  // namespace
 
@@ -27,13 +21,16 @@ TagCompleter::TagCompleter(const QStringList& tags, QObject* parent) : QComplete
 }
 
 QStringList TagCompleter::splitPath(const QString& path) const {
-  return {path.mid(LastTag(path).text)};
+  const std::u16string line = FromQString(path);
+  return {ToQString(TypedTag(LastOf(line).Of(line)))};
 }
 
 QString TagCompleter::pathFromIndex(const QModelIndex& index) const {
   const auto* line = qobject_cast<const QLineEdit*>(widget());
-  const QString before = line == nullptr ? QString() : line->text().left(LastTag(line->text()).begin);
-  return before + (before.isEmpty() ? "" : " ") + QCompleter::pathFromIndex(index);
+  std::u16string typed = line == nullptr ? std::u16string() : FromQString(line->text());
+  typed.resize(LastOf(typed).begin);
+  if (!typed.empty()) typed += u' ';
+  return ToQString(typed + TypedFormOf(FromQString(QCompleter::pathFromIndex(index))));
 }
 
 }  // namespace quorvantis

@@ -5,7 +5,7 @@
 
 namespace quorvantis {
 
-/// Completes the last tag of a line of tags with commas between them.
+/// Completes the last tag of a line of them (TypedTags.h).
 class TagCompleter : public QCompleter {
   Q_OBJECT
 

@@ -3,6 +3,7 @@
 
 #include "bank/draw/DrawQuestions.h"
 #include "bank/tags/TagEntry.h"
+#include "bank/tags/TypedTags.h"
 #include "desktop/controls/KindCaption.h"
 #include "desktop/controls/QtText.h"
 #include "model/ExamLimits.h"
@@ -31,33 +32,31 @@ std::u16string IsolatedTag(std::u16string_view sign, const std::u16string& tag) 
   return u'\u2068' + std::u16string(sign) + tag + u'\u2069';
 }
 
+/// What is blank is left out. A tag that is none (CleanTag) goes into `bad`.
+std::vector<std::u16string> WishedTags(std::u16string_view line, std::u16string& bad) {
+  std::vector<std::u16string> tags;
+  for (const TextSpan& place : TypedTagsIn(line)) {
+    const std::u16string_view typed = TypedTag(place.Of(line));
+    if (typed.empty()) continue;
+    if (auto tag = CleanTag(typed))
+      tags.push_back(std::move(*tag));
+    else
+      bad = typed;
+  }
+  return tags;
+}
+
 std::vector<DrawWish> WishesOf(const TypedWish& typed, std::u16string& bad) {
   DrawWish wish;
   wish.count = static_cast<std::size_t>(std::clamp(typed.count, 1, kMaxQuestions));
   if (typed.kind >= 0) wish.kind = static_cast<QuestionKind>(typed.kind);
-  wish.tags = TagsIn(typed.tags, bad);
-  wish.withoutTags = TagsIn(typed.withoutTags, bad);
-  const std::vector<std::u16string> spread = TagsIn(typed.spreadOver, bad);
+  wish.tags = WishedTags(typed.tags, bad);
+  wish.withoutTags = WishedTags(typed.withoutTags, bad);
+  const std::vector<std::u16string> spread = WishedTags(typed.spreadOver, bad);
   return spread.empty() ? std::vector<DrawWish>{wish} : SpreadOver(wish, spread);
 }
 
 }  // namespace
-
-std::vector<std::u16string> TagsIn(std::u16string_view text, std::u16string& bad) {
-  std::vector<std::u16string> tags;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find_first_of(kTagCommas), text.size());
-    const std::u16string_view part = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    const bool isBlank = part.find_first_not_of(u" \t") == part.npos;
-    if (isBlank) continue;
-    if (auto tag = CleanTag(part))
-      tags.push_back(std::move(*tag));
-    else
-      bad = part;
-  }
-  return tags;
-}
 
 TypedOrder OrderOf(const TypedDraw& typed, const StringTable& strings) {
   TypedOrder read;

@@ -2,6 +2,7 @@
 #include "desktop/bank/tags/BankTagChips.h"
 
 #include "bank/tags/TagEntry.h"
+#include "bank/tags/TypedTags.h"
 #include "desktop/controls/Controls.h"
 #include "desktop/controls/FlowLayout.h"
 #include "desktop/controls/QtText.h"
@@ -12,7 +13,6 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QKeyEvent>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <optional>
@@ -32,13 +32,6 @@ QString ShortTag(const std::u16string& tag) {
   QString text = ToQString(tag);
   if (text.size() > kShownOfTag) text = text.left(kShownOfTag - 1) + QChar(0x2026);
   return QChar(0x2068) + text + QChar(0x2069);
-}
-
-/// Commas of all scripts part tags.
-QStringList PartsOf(const QString& typed) {
-  static const QRegularExpression kCommas(
-      QStringLiteral("[,;\\n\\x{FF0C}\\x{3001}\\x{060C}\\x{FF1B}\\x{061B}]"));
-  return typed.split(kCommas);
 }
 
 }  // namespace
@@ -72,7 +65,7 @@ void BankTagChips::MakeLine() {
   connect(completer, qOverload<const QString&>(&QCompleter::activated), this, &BankTagChips::TakeTyped,
           Qt::QueuedConnection);
   connect(line_, &QLineEdit::textEdited, this, [this](const QString& typed) {
-    if (PartsOf(typed).size() > 1) TakeTyped();
+    if (TypedTagsIn(FromQString(typed)).size() > 1) TakeTyped();
   });
 }
 
@@ -164,10 +157,12 @@ void BankTagChips::OfferUndo(const QString& caption, const QString& tip) {
 void BankTagChips::TakeTyped() {
   std::vector<std::u16string> tags;
   bool isTooLong = false;
-  for (const QString& part : PartsOf(line_->text())) {
-    const auto clean = CleanTag(FromQString(part));
+  const std::u16string typed = FromQString(line_->text());
+  for (const TextSpan& place : TypedTagsIn(typed)) {
+    const std::u16string_view tag = TypedTag(place.Of(typed));
+    const auto clean = CleanTag(tag);
     if (clean) tags.push_back(*clean);
-    isTooLong |= !clean && !part.trimmed().isEmpty();
+    isTooLong |= !clean && !tag.empty();
   }
   emit TooLongChanged(isTooLong);
   if (isTooLong) return;
