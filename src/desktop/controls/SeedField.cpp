@@ -25,13 +25,17 @@ SeedField::SeedField(const StringTable& strings, const char* name, const char* b
   another->setAutoDefault(false);
   NameControl(line_, name, ToQString(strings.Text(text_id::kVersionsSeed)));
   NameControl(another, buttonName, another->text());
-  connect(another, &QPushButton::clicked, line_, [this] { line_->setText(RandomSeedText()); });
+  connect(another, &QPushButton::clicked, this, &SeedField::Renew);
   connect(line_, &QLineEdit::textChanged, this, &SeedField::Changed);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(line_, 1);
   layout->addWidget(another);
   setFocusProxy(line_);
+}
+
+void SeedField::Renew() {
+  line_->setText(RandomSeedText());
 }
 
 }  // namespace quorvantis

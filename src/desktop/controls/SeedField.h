@@ -18,6 +18,8 @@ class SeedField : public QWidget {
   SeedField(const StringTable& strings, const char* name, const char* buttonName, QWidget* parent);
 
   void Show(const QString& seed) { line_->setText(seed); }
+  /// Another random seed.
+  void Renew();
   QString Typed() const { return line_->text().trimmed(); }
 
  signals:

@@ -29,6 +29,8 @@ class DrawConditionFields : public QWidget {
 
   /// All but the wishes.
   void Show(const TypedDraw& typed);
+  /// The next draw is another one.
+  void RenewSeed() { seed_->Renew(); }
   void AddTo(TypedDraw& typed) const;
 
  private:

@@ -211,6 +211,7 @@ void DrawWindow::Insert() {
   const DrawnInsertion insertion = actions_.insert(questions);
   activateWindow();  // some systems return to the main window after a message
   if (insertion.isRefused) return;
+  if (insertion.gone.size() < questions.size()) conditions_->RenewSeed();
   pane_->TakeInserted(insertion.gone);
   std::u16string told = FromQString(insertion.told);
   if (!insertion.gone.empty()) {

@@ -205,7 +205,9 @@ TEST_F(DrawWindowTest, InsertsWhatItShowsAsOneStep) {
     for (const DrawnRow& row : Drawn().rows) expected.push_back(written[row.question.text]);
     const std::string before = Saved();
     const std::vector<std::string> old = Contents();
+    const QString seed = Control<QLineEdit>("drawSeed").text();
     Click("drawnInsert");
+    EXPECT_NE(Control<QLineEdit>("drawSeed").text(), seed) << "or the next draw would bring the same again";
     ASSERT_TRUE(Drawn().rows.empty()) << Status().toStdString();
     std::vector<std::string> now = Contents();
     ASSERT_EQ(now.size(), old.size() + expected.size());
