@@ -82,5 +82,6 @@ constexpr int kBankQueryHelp = 2495;
 constexpr int kBankTagTooLong = 2496;
 constexpr int kBankNoContentNoTags = 2497;
 constexpr int kBankTagsNotWritten = 2498;  // %1 are tags; the reason follows
+constexpr int kBankUndoElsewhere = 2611;   // %1 is what the button does; %2 the question, which is not chosen
 
 }  // namespace quorvantis::text_id

@@ -5,6 +5,7 @@
 #include "desktop/bank/BankWindow.h"
 #include "examfile/ExamFileWriter.h"
 #include "platform/posix/FileLock.h"
+#include "platform/texts/BankTexts.h"
 #include "text/SeededRandom.h"
 
 #include <QAbstractItemView>
@@ -117,6 +118,27 @@ TEST_F(BankTagLineTest, AddsRemovesAndPutsBack) {
   TypeTags(QString(101, 'x'));
   EXPECT_TRUE(Control("bankTagProblem").isVisible());
   EXPECT_EQ(AddLine().text().size(), 101) << "nothing typed is lost";
+}
+
+/// The button stays when the choice moves, but not without a word: it would seem to belong to what is chosen
+/// now.
+TEST_F(BankTagLineTest, NamesTheQuestionThatUndoIsAboutUnlessItIsChosen) {
+  WriteQuestions("exams/a.exm", {u"What is a cell?", u"Do birds fly?"});
+  OpenBank(2);
+  Choose(0);
+  TypeTags("\"Smith, J.\"");
+  ASSERT_TRUE(WaitForNotice("bankTagUndo"));
+  EXPECT_EQ(Shown(), QStringList{"Smith, J."});
+  const QString named = "[" + QString::number(text_id::kBankUndoElsewhere);
+  const auto isNamed = [&] { return Control<QPushButton>("bankTagUndo").text().startsWith(named); };
+  EXPECT_FALSE(isNamed());
+  Choose(1);
+  EXPECT_TRUE(isNamed());
+  List().selectAll();
+  EXPECT_FALSE(isNamed());
+  Choose(1);
+  Click("bankTagUndo");
+  EXPECT_TRUE(WaitFor({}));
 }
 
 TEST_F(BankTagLineTest, CompletesFromAllFolders) {

@@ -17,8 +17,9 @@
 namespace quorvantis {
 namespace {
 
-constexpr int kPauseInChoosing = 150;  // milliseconds
-constexpr qsizetype kShownOfQuestion = 80;
+constexpr int kPauseInChoosing = 150;       // milliseconds
+constexpr qsizetype kShownOfQuestion = 80;  // UTF-16 units
+constexpr qsizetype kNamedOfQuestion = 30;
 
 /// The beginning of the questions that a step is about, a line each.
 QString QuestionsIn(const TagStep& step) {
@@ -29,6 +30,14 @@ QString QuestionsIn(const TagStep& step) {
     }
   }
   return lines.join('\n');
+}
+
+/// The beginning of the first of them.
+QString FirstQuestionIn(const TagStep& step) {
+  const QString first = ToQString(step.front().changes.front().text).simplified();
+  const bool isLong = first.size() > kNamedOfQuestion;
+  const QString shown = isLong ? first.left(kNamedOfQuestion - 1) + QChar(0x2026) : first;
+  return QChar(0x2068) + shown + QChar(0x2069);
 }
 
 /// Where the tags of a question are kept.
@@ -102,6 +111,7 @@ void BankTagLine::Show(const std::vector<BankHit>& hits) {
   earlier_->Say({});
   whenChosen_.start();
   ShowTags();
+  ShowUndo();
 }
 
 /// Shown before it is written; Learn tells what came of it.
@@ -163,9 +173,25 @@ void BankTagLine::ShowTags() {
 void BankTagLine::ShowUndo() {
   const TagStep& undo = desk_.LastUndo();
   if (undo.empty()) return chips_->OfferUndo({}, {});
-  const int caption = GivesTags(undo) ? text_id::kBankPutBackTag : text_id::kBankTakeBackTag;
-  chips_->OfferUndo(ToQString(FillMessage(strings_.Text(caption), {FromQString(Joined(TagsIn(undo)))})),
-                    QuestionsIn(undo));
+  const int text = GivesTags(undo) ? text_id::kBankPutBackTag : text_id::kBankTakeBackTag;
+  std::u16string caption = FillMessage(strings_.Text(text), {FromQString(Joined(TagsIn(undo)))});
+  if (!IsOfSubjects(undo))
+    caption = FillMessage(strings_.Text(text_id::kBankUndoElsewhere),
+                          {caption, FromQString(FirstQuestionIn(undo))});
+  chips_->OfferUndo(ToQString(caption), QuestionsIn(undo));
+}
+
+/// Whether a step is about chosen questions alone.
+bool BankTagLine::IsOfSubjects(const TagStep& step) const {
+  const auto isSubject = [this](const std::filesystem::path& folder, const TagChange& change) {
+    return std::any_of(subjects_.begin(), subjects_.end(), [&](const Subject& subject) {
+      return PlaceOf(subject.question) == std::pair(folder, change.key);
+    });
+  };
+  return std::all_of(step.begin(), step.end(), [&isSubject](const FolderChange& folder) {
+    return std::all_of(folder.changes.begin(), folder.changes.end(),
+                       [&](const TagChange& change) { return isSubject(folder.folder, change); });
+  });
 }
 
 void BankTagLine::ShowEarlier() {

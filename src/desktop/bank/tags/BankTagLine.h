@@ -49,6 +49,7 @@ class BankTagLine : public QWidget {
   void Learn(const std::vector<TagsNow>& now);
   void ShowTags();
   void ShowUndo();
+  bool IsOfSubjects(const TagStep& step) const;
   void ShowEarlier();
   void ShowProblem();
   QString Joined(const std::vector<std::u16string>& tags) const;
