@@ -34,5 +34,6 @@ constexpr int kAskedOtherFiles = 2576;
 constexpr int kAskedOtherOptions = 2577;
 constexpr int kAskedCopy = 2578;
 constexpr int kAskedAgain = 2579;
+constexpr int kBankExamApart = 2610;  // %1 is its title, which others have, too; %2 its file
 
 }  // namespace quorvantis::text_id

@@ -44,8 +44,8 @@ QString ExamCaptions(const StringTable& strings) {
 }
 
 /// Columns as spreadsheets take them.
-QString ExamLine(const BankShare& share, const StringTable& strings) {
-  const QStringList cells{BankExamName(share.exam), BankExamDay(share.exam), QString::number(share.same),
+QString ExamLine(const QString& exam, const BankShare& share, const StringTable& strings) {
+  const QStringList cells{exam, BankExamDay(share.exam), QString::number(share.same),
                           QString::number(share.variants), ShareText(share, strings)};
   return cells.join('\t');
 }
@@ -87,6 +87,13 @@ void PutNewestFirst(std::vector<BankUse>& uses) {
   });
 }
 
+BankExamNames NamesOfOlder(const AskedBefore& asked, const StringTable& strings) {
+  std::vector<const BankExam*> exams;
+  exams.reserve(asked.likeness.exams.size());
+  for (const BankShare& share : asked.likeness.exams) exams.push_back(&share.exam);
+  return {exams, strings};
+}
+
 QString RelationWords(QuestionRelation relation, const StringTable& strings) {
   switch (relation) {
     case QuestionRelation::Equal:
@@ -125,16 +132,17 @@ QString QuestionCaption(const AskedBefore& asked, std::size_t question, const St
 }
 
 QString AskedBeforeText(const AskedBefore& asked, const StringTable& strings) {
+  const BankExamNames names = NamesOfOlder(asked, strings);
   QStringList lines;
   for (std::size_t i = 0; i < asked.likeness.uses.size(); ++i) {
     if (!asked.likeness.uses[i].empty()) lines << QuestionCaption(asked, i, strings);
     for (const BankUse& use : asked.likeness.uses[i]) {
-      lines << "\t" + BankPlaceText(BankExamName(use.exam), use.number, strings) + "\t" +
-                   BankExamDay(use.exam) + "\t" + RelationWords(use.relation, strings);
+      lines << "\t" + BankPlaceText(names.Of(use.exam), use.number, strings) + "\t" + BankExamDay(use.exam) +
+                   "\t" + RelationWords(use.relation, strings);
     }
   }
   if (!asked.likeness.exams.empty()) lines << QString() << ExamCaptions(strings);
-  for (const BankShare& share : asked.likeness.exams) lines << ExamLine(share, strings);
+  for (const BankShare& share : asked.likeness.exams) lines << ExamLine(names.Of(share.exam), share, strings);
   return lines.join('\n') + '\n';
 }
 

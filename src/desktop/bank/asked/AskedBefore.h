@@ -4,6 +4,7 @@
 
 #include "bank/search/BankMemory.h"
 #include "desktop/bank/desk/BankDesk.h"
+#include "desktop/bank/desk/BankExamNames.h"
 #include "desktop/bank/desk/FileDigestCache.h"
 #include "model/document/FrameSetExam.h"
 #include "platform/StringTable.h"
@@ -40,6 +41,9 @@ AskedBefore CompareWithBank(const BankDesk& desk, KeptBankMemory& memory, FileDi
 
 /// The same questions before variants; among each, those of exams that were changed last come first.
 void PutNewestFirst(std::vector<BankUse>& uses);
+
+/// The names of the older exams that have questions of the exam.
+BankExamNames NamesOfOlder(const AskedBefore& asked, const StringTable& strings);
 
 /// "the same", "other numbers"…
 QString RelationWords(QuestionRelation relation, const StringTable& strings);

@@ -28,9 +28,13 @@ constexpr std::size_t kMostVariants = 2;
 constexpr qsizetype kLongestName = 32;  // UTF-16 units of the title of an exam
 constexpr int kLinesOfPlaces = 2;       // that are kept free, so that the list does not jump
 
-QString ShortName(const BankExam& exam) {
-  const QString name = BankExamName(exam);
-  return name.size() > kLongestName ? name.left(kLongestName - 1) + QChar(u'\u2026') : name;
+/// The exam of the question itself is seen, too.
+BankExamNames NamesBeside(const BankQuestion& question, const std::vector<BankUse>& uses,
+                          const StringTable& strings) {
+  std::vector<const BankExam*> exams{&question.exam};
+  exams.reserve(uses.size() + 1);
+  for (const BankUse& use : uses) exams.push_back(&use.exam);
+  return {exams, strings, kLongestName};
 }
 
 }  // namespace
@@ -110,6 +114,7 @@ void BankElsewhereLine::Take(Found found) {
   if (!found.uses) return;
   uses_ = std::move(*found.uses);
   PutNewestFirst(uses_);
+  names_ = NamesBeside(*question_, uses_, desk_.Services().strings);
   QStringList sentences{Sentence(text_id::kBankSameIn, true, kMostSame),
                         Sentence(text_id::kBankVariantsIn, false, kMostVariants)};
   sentences.removeAll(QString());
@@ -140,7 +145,7 @@ QString BankElsewhereLine::Sentence(int text, bool isSame, std::size_t most) con
 
 QString BankElsewhereLine::Link(std::size_t use) const {
   const QString place =
-      BankPlaceText(ShortName(uses_[use].exam), uses_[use].number, desk_.Services().strings);
+      BankPlaceText(names_.Of(uses_[use].exam), uses_[use].number, desk_.Services().strings);
   return QString("<a href=\"%1\">%2</a>").arg(use).arg(place.toHtmlEscaped());
 }
 

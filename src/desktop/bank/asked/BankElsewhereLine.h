@@ -3,6 +3,7 @@
 
 #include "bank/search/BankMemory.h"
 #include "desktop/bank/desk/BankDesk.h"
+#include "desktop/bank/desk/BankExamNames.h"
 #include "desktop/controls/BackgroundRun.h"
 
 #include <QLabel>
@@ -51,6 +52,7 @@ class BankElsewhereLine : public QLabel {
   std::optional<BankQuestion> question_;
   bool isDue_ = false;  ///< another question is to be looked up after the one that is
   std::vector<BankUse> uses_;
+  BankExamNames names_;  ///< of their exams
 };
 
 }  // namespace quorvantis

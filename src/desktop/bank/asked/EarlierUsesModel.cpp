@@ -23,6 +23,7 @@ EarlierUsesModel::EarlierUsesModel(const StringTable& strings, QObject* parent)
 
 void EarlierUsesModel::Show(const AskedBefore& asked, const std::filesystem::path& onlyIn) {
   removeRows(0, rowCount());
+  names_ = NamesOfOlder(asked, strings_);
   for (std::size_t i = 0; i < asked.likeness.uses.size(); ++i) {
     QStandardItem* branch = nullptr;
     const std::vector<BankUse>& uses = asked.likeness.uses[i];
@@ -48,7 +49,7 @@ QStandardItem* EarlierUsesModel::AddBranch(const QString& caption, std::size_t q
 }
 
 void EarlierUsesModel::AddUse(QStandardItem& branch, const BankUse& use, std::size_t place) {
-  const QString where = BankPlaceText(BankExamName(use.exam), use.number, strings_);
+  const QString where = BankPlaceText(names_.Of(use.exam), use.number, strings_);
   const QString how = RelationWords(use.relation, strings_);
   const QList<QStandardItem*> row{new QStandardItem(where), new QStandardItem(BankExamDay(use.exam)),
                                   new QStandardItem(how)};

@@ -34,6 +34,7 @@ class EarlierUsesModel : public QStandardItemModel {
   void AddUse(QStandardItem& branch, const BankUse& use, std::size_t place);
 
   const StringTable& strings_;
+  BankExamNames names_;
 };
 
 }  // namespace quorvantis

@@ -32,14 +32,15 @@ void SharedExamsModel::Show(const AskedBefore& asked) {
   auto* all = new QStandardItem(ToQString(strings_.Text(text_id::kAskedAllExams)));
   all->setEditable(false);
   appendRow(all);
-  for (const BankShare& share : asked.likeness.exams) AddExam(share);
+  const BankExamNames names = NamesOfOlder(asked, strings_);
+  for (const BankShare& share : asked.likeness.exams) AddExam(share, names.Of(share.exam));
 }
 
-void SharedExamsModel::AddExam(const BankShare& share) {
-  const QList<QStandardItem*> row{
-      new QStandardItem(BankExamName(share.exam)), new QStandardItem(BankExamDay(share.exam)),
-      new QStandardItem(CountText(share.same)), new QStandardItem(CountText(share.variants)),
-      new QStandardItem(ShareText(share, strings_))};
+void SharedExamsModel::AddExam(const BankShare& share, const QString& name) {
+  const QList<QStandardItem*> row{new QStandardItem(name), new QStandardItem(BankExamDay(share.exam)),
+                                  new QStandardItem(CountText(share.same)),
+                                  new QStandardItem(CountText(share.variants)),
+                                  new QStandardItem(ShareText(share, strings_))};
   QString spoken;
   for (int column = 0; column < kExamColumns; ++column) {
     row[column]->setEditable(false);

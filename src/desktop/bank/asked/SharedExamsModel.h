@@ -27,7 +27,7 @@ class SharedExamsModel : public QStandardItemModel {
   int RowOf(const std::filesystem::path& exam) const;
 
  private:
-  void AddExam(const BankShare& share);
+  void AddExam(const BankShare& share, const QString& name);
 
   const StringTable& strings_;
 };

@@ -2,6 +2,7 @@
 #include "desktop/bank/draw/DrawnModel.h"
 
 #include "bank/draw/DrawTexts.h"
+#include "desktop/bank/desk/BankExamNames.h"
 #include "desktop/bank/desk/BankHitText.h"
 #include "desktop/bank/draw/TypedOrder.h"
 #include "desktop/bank/hits/BankHitsModel.h"
@@ -21,9 +22,14 @@ void DrawnModel::Show(const DrawnList& list) {
   beginResetModel();
   rows_.clear();
   rows_.reserve(list.rows.size());
+  std::vector<const BankExam*> exams;
+  exams.reserve(list.rows.size());
+  for (const DrawnRow& row : list.rows) exams.push_back(&row.question.exam);
+  const BankExamNames names(exams, strings_);
   for (const DrawnRow& row : list.rows) {
-    rows_.push_back({ToQString(ExcerptOf({row.question}).text), BankHeading(row.question, strings_),
-                     WhyOf(list, row), PathToQString(row.question.exam.path)});
+    const QString from = BankHeading(names.Of(row.question.exam), row.question, strings_);
+    rows_.push_back({ToQString(ExcerptOf({row.question}).text), from, WhyOf(list, row),
+                     PathToQString(row.question.exam.path)});
   }
   endResetModel();
 }

@@ -29,7 +29,13 @@ void BankHitsModel::Show(std::vector<BankHit> hits) {
   hits_ = std::move(hits);
   excerpts_.clear();
   excerpts_.reserve(hits_.size());
-  for (const BankHit& hit : hits_) excerpts_.push_back(ExcerptOf(hit));
+  std::vector<const BankExam*> exams;
+  exams.reserve(hits_.size());
+  for (const BankHit& hit : hits_) {
+    excerpts_.push_back(ExcerptOf(hit));
+    exams.push_back(&hit.question.exam);
+  }
+  names_ = BankExamNames(exams, strings_);
   endResetModel();
 }
 
@@ -41,15 +47,15 @@ void BankHitsModel::ShowPicturesOf(BankThumbnails& thumbnails) {
   });
 }
 
-QString BankHeading(const BankQuestion& question, const StringTable& strings) {
+QString BankHeading(const QString& exam, const BankQuestion& question, const StringTable& strings) {
   const std::u16string kind = FromQString(KindCaption(question.kind, strings));
-  return ToQString(FillMessage(strings.Text(text_id::kBankHeading),
-                               {FromQString(BankExamName(question.exam)), FormatInteger(question.number),
-                                kind, FromQString(BankExamDay(question.exam))}));
+  return ToQString(FillMessage(
+      strings.Text(text_id::kBankHeading),
+      {FromQString(exam), FormatInteger(question.number), kind, FromQString(BankExamDay(question.exam))}));
 }
 
 QString BankHitsModel::HeadingOf(const BankHit& hit) const {
-  return BankHeading(hit.question, strings_) + TagsOf(hit);
+  return BankHeading(names_.Of(hit.question.exam), hit.question, strings_) + TagsOf(hit);
 }
 
 void BankHitsModel::ShowTags(const std::vector<TagsNow>& now) {

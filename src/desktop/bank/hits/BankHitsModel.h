@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bank/search/BankSearch.h"
+#include "desktop/bank/desk/BankExamNames.h"
 #include "desktop/bank/desk/BankHitText.h"
 #include "desktop/bank/hits/BankThumbnails.h"
 #include "desktop/bank/tags/BankTagDesk.h"
@@ -13,8 +14,8 @@
 
 namespace quorvantis {
 
-/// "Biology, spring — 12, choice, 2024-05-12".
-QString BankHeading(const BankQuestion& question, const StringTable& strings);
+/// "Biology, spring — 12, choice, 2024-05-12"; `exam` is the name of the exam.
+QString BankHeading(const QString& exam, const BankQuestion& question, const StringTable& strings);
 
 /// The questions that a search of the bank has found, the best first.
 class BankHitsModel : public QAbstractListModel {
@@ -45,6 +46,7 @@ class BankHitsModel : public QAbstractListModel {
  private:
   const StringTable& strings_;
   std::vector<BankHit> hits_;
+  BankExamNames names_;
   std::vector<BankHitText> excerpts_;  ///< one a hit
   BankThumbnails* thumbnails_ = nullptr;
 };
