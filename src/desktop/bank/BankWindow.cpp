@@ -89,8 +89,9 @@ void BankWindow::SetUpList() {
   list_->setModel(&model_);
   list_->setItemDelegate(new BankHitDelegate(list_));
   list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  list_->InsertWith(
-      [this](const BankQuestion& question, std::optional<int> after) { return Insert(question, after); });
+  list_->InsertWith([this](const std::vector<BankQuestion>& questions, std::optional<int> after) {
+    return Insert(questions, after);
+  });
   list_->installEventFilter(this);
 }
 
@@ -241,14 +242,15 @@ void BankWindow::ShowState() {
   status_->setAccessibleName(state);
 }
 
-QString BankWindow::Insert(const BankQuestion& question, std::optional<int> after) {
-  told_ = actions_.insert(question, after);
+QString BankWindow::Insert(const std::vector<BankQuestion>& questions, std::optional<int> after) {
+  told_ = actions_.insert(questions, after);
   ShowState();
   return told_;
 }
 
 void BankWindow::InsertChosen() {
-  if (const BankHit* const hit = Chosen()) Insert(BankQuestion(hit->question), std::nullopt);
+  const std::vector<BankQuestion> questions = SelectedBankQuestions(*list_, model_);
+  if (!questions.empty()) Insert(questions, std::nullopt);
 }
 
 void BankWindow::ShowPage() {

@@ -22,12 +22,12 @@
 
 namespace quorvantis {
 
-/// What the window of the bank asks the program to do with a question.
+/// What the window of the bank asks the program to do with questions.
 struct BankActions {
-  /// Inserts it after that question of the exam, or after the one that is shown. Says what was done; empty if
-  /// it was refused.
+  /// Inserts them after that question of the exam, or after the one that is shown. Says what was done; empty
+  /// if it was refused.
   BankHitsView::Inserts insert;
-  /// Shows it as pupils see it.
+  /// Shows one as pupils see it.
   std::function<void(const BankQuestion&)> show;
   /// Opens its exam there.
   std::function<void(const BankQuestion&)> openExam;
@@ -71,7 +71,7 @@ class BankWindow : public QDialog {
   void ShowState();
   QString StateOfSearch() const;
   QString StateOfUpdate() const;
-  QString Insert(const BankQuestion& question, std::optional<int> after);
+  QString Insert(const std::vector<BankQuestion>& questions, std::optional<int> after);
   void InsertChosen();
   void ShowPage();
   void OpenExam();

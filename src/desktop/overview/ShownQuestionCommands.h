@@ -38,8 +38,8 @@ class ShownQuestionCommands {
   void Copy() { commands_.Copy(Shown()); }
   void Paste() { commands_.Paste(); }
   void InsertFromExam() { commands_.InsertFromExam(&window_); }
-  QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers, std::optional<int> after) {
-    return commands_.InsertFrom(other, numbers, after);
+  QString InsertTaken(std::vector<WholeQuestion> questions, std::optional<int> after) {
+    return commands_.InsertTaken(std::move(questions), after);
   }
   QString InsertDrawn(std::vector<WholeQuestion> questions) {
     return commands_.InsertDrawn(std::move(questions));

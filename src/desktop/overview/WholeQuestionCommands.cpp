@@ -146,14 +146,9 @@ QString WholeQuestionCommands::InsertFromExam(QWidget* parent) {
   InsertFromExamDlg dialog(other, {PlaceToInsert(), editor_.order.RoomAfter(PlaceToInsert())},
                            Services().strings, parent);
   if (dialog.exec() != QDialog::Accepted) return {};
-  return InsertFrom(other, dialog.Ticked());
-}
-
-QString WholeQuestionCommands::InsertFrom(const OtherExam& other, const std::vector<int>& numbers,
-                                          std::optional<int> after) {
-  TakenQuestions taken = other.Take(numbers);
+  TakenQuestions taken = other.Take(dialog.Ticked());
   if (!taken.problem.empty()) return Refuse(taken.problem);
-  return Insert(std::move(taken.questions), after.value_or(PlaceToInsert()), ChangeKind::TakeQuestion);
+  return InsertTaken(std::move(taken.questions), std::nullopt);
 }
 
 }  // namespace quorvantis

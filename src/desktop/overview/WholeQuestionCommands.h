@@ -13,8 +13,6 @@
 
 namespace quorvantis {
 
-class OtherExam;
-
 /// The commands of the windows for whole questions. Each is one command of the editor; problems are shown to
 /// the user. Lists of numbers are ascending. The results are for a status line: what was done, and which
 /// questions have another score since; empty if nothing was done.
@@ -38,10 +36,12 @@ class WholeQuestionCommands {
   QString Paste();
   /// Asks for an exam file and for questions in it; they come after the question that is shown.
   QString InsertFromExam(QWidget* parent);
-  /// Questions of another exam, by their numbers, after question `after`, 0 to 500, or after the question
-  /// that is shown.
-  QString InsertFrom(const OtherExam& other, const std::vector<int>& numbers, std::optional<int> after = {});
-  /// Questions drawn from several exams, likewise.
+  /// Questions that were taken from other exams, after question `after`, 0 to 500, or after the question that
+  /// is shown.
+  QString InsertTaken(std::vector<WholeQuestion> questions, std::optional<int> after) {
+    return Insert(std::move(questions), after.value_or(PlaceToInsert()), ChangeKind::TakeQuestion);
+  }
+  /// Drawn ones, after the question that is shown.
   QString InsertDrawn(std::vector<WholeQuestion> questions) {
     return Insert(std::move(questions), PlaceToInsert(), ChangeKind::DrawQuestion);
   }

@@ -3,6 +3,7 @@
 #include "desktop/controls/QuestionDrag.h"
 #include "desktop/overview/OverviewWindow.h"
 #include "platform/programs/PopplerPdfText.h"
+#include "platform/texts/AskedTexts.h"
 
 #include <QDropEvent>
 #include <QWebEngineView>
@@ -27,15 +28,8 @@ class BankQuestionUse : public BankWindowTest {
     return texts;
   }
 
-  /// What the list gives to a drag of its chosen question.
-  QuestionDrag::Insert Dragged() {
-    auto& list = Control<BankHitsView>("bankHits");
-    const BankQuestion question =
-        static_cast<const BankHitsModel*>(list.model())->HitAt(list.currentIndex().row()).question;
-    return [&list, question](std::optional<int> after) { return list.Insert(question, after); };
-  }
   void Drop(QWidget& over, const QPoint& position) {
-    QuestionDrag data(Dragged());
+    QuestionDrag data(Control<BankHitsView>("bankHits").Dragged());
     QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&over, &enter);
     ASSERT_TRUE(enter.isAccepted());
@@ -83,6 +77,33 @@ TEST_F(BankQuestionUse, DroppedOnTheMainWindowItFollowsTheShownQuestion) {
     EXPECT_EQ(exam.Question(2).text, u"What is mitosis?") << over;
     Entry("editUndo").trigger();
   }
+}
+
+TEST_F(BankQuestionUse, SelectedQuestionsComeInOneStepOrNotAtAll) {
+  WriteExam("cells.exm", {u"What is mitosis?", u"Why is mitosis?"});
+  const fs::path picture = WriteBytes(folder / "cell.png", "a picture");
+  WriteExam("other.exm", {u"Where is mitosis?"}, picture);
+  OpenWithQuestions(3);
+  const std::vector<std::u16string> before = Texts();
+  Find("mitosis", 3);
+  auto& list = Control<QListView>("bankHits");
+  const QString apart = "[" + QString::number(text_id::kBankExamApart);
+  EXPECT_TRUE(list.model()->index(0, 0).data().toString().contains(apart)) << "both exams have one title";
+  list.selectAll();
+  Click("bankInsert");
+  ASSERT_EQ(QuestionCount(), 6);
+  Entry("editUndo").trigger();
+  EXPECT_EQ(Texts(), before);
+  list.selectAll();
+  Drop(Control("clientArea"), {5, 5});
+  ASSERT_EQ(QuestionCount(), 6);
+  Entry("editUndo").trigger();
+  WriteBytes(picture, "another picture");
+  WriteExam("other.exm", {u"Where is mitosis?"}, picture);
+  list.selectAll();
+  Click("bankInsert");
+  EXPECT_EQ(Texts(), before);
+  EXPECT_EQ(world.dialogs.errors.size(), 1U);
 }
 
 TEST_F(BankQuestionUse, OpensItsExamUnlessTheUserStays) {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/bank/hits/BankHitsView.h"
 
-#include "desktop/bank/hits/BankHitsModel.h"
-#include "desktop/controls/QuestionDrag.h"
+#include "desktop/bank/hits/BankSelection.h"
 
 #include <QDrag>
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -24,17 +24,19 @@ BankHitsView::BankHitsView(QWidget* parent) : QListView(parent) {
   setDragDropMode(DragOnly);
 }
 
-/// The list may show other questions when this one is dropped.
+QuestionDrag::Insert BankHitsView::Dragged() {
+  const auto* const hits = qobject_cast<const BankHitsModel*>(model());
+  auto questions = hits != nullptr ? SelectedBankQuestions(*this, *hits) : std::vector<BankQuestion>();
+  return [view = QPointer(this), questions = std::move(questions)](std::optional<int> after) {
+    return view ? view->inserts_(questions, after) : QString();
+  };
+}
+
 void BankHitsView::startDrag(Qt::DropActions) {
   const QModelIndex row = currentIndex();
-  const auto* const hits = qobject_cast<const BankHitsModel*>(model());
-  if (hits == nullptr || !row.isValid() || !inserts_) return;
-  const auto insert = [view = QPointer(this),
-                       question = hits->HitAt(row.row()).question](std::optional<int> after) {
-    return view ? view->Insert(question, after) : QString();
-  };
+  if (!row.isValid() || !inserts_) return;
   auto* drag = new QDrag(this);
-  drag->setMimeData(new QuestionDrag(insert));
+  drag->setMimeData(new QuestionDrag(Dragged()));
   drag->setPixmap(PictureOf(row));
   drag->setHotSpot({0, 0});
   drag->exec(Qt::CopyAction);

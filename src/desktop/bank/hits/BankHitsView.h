@@ -2,29 +2,33 @@
 #pragma once
 
 #include "bank/search/BankSearch.h"
+#include "desktop/controls/QuestionDrag.h"
 
 #include <QListView>
 
 #include <functional>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace quorvantis {
 
-/// The list of a BankHitsModel, from which a question can be dragged to its place in the open exam.
+/// The list of a BankHitsModel, from which the selected questions can be dragged to their place in the open
+/// exam.
 class BankHitsView : public QListView {
   Q_OBJECT
 
  public:
-  /// Inserts a question after another one of the open exam, or after the one that is shown; see QuestionDrag.
-  using Inserts = std::function<QString(const BankQuestion& question, std::optional<int> after)>;
+  /// Inserts questions after one of the open exam, or after the one that is shown; see QuestionDrag.
+  using Inserts =
+      std::function<QString(const std::vector<BankQuestion>& questions, std::optional<int> after)>;
 
   explicit BankHitsView(QWidget* parent);
 
   void InsertWith(Inserts inserts) { inserts_ = std::move(inserts); }
 
-  /// What a drop of a question does.
-  QString Insert(const BankQuestion& question, std::optional<int> after) { return inserts_(question, after); }
+  /// What a drop of the selected questions does, also when others are selected by then.
+  QuestionDrag::Insert Dragged();
 
  protected:
   void startDrag(Qt::DropActions actions) override;

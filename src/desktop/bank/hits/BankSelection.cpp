@@ -2,6 +2,7 @@
 #include "desktop/bank/hits/BankSelection.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvantis {
 
@@ -12,6 +13,12 @@ std::vector<BankHit> SelectedHits(const QListView& list, const BankHitsModel& mo
   hits.reserve(static_cast<std::size_t>(rows.size()));
   for (const QModelIndex& row : rows) hits.push_back(model.HitAt(row.row()));
   return hits;
+}
+
+std::vector<BankQuestion> SelectedBankQuestions(const QListView& list, const BankHitsModel& model) {
+  std::vector<BankQuestion> questions;
+  for (BankHit& hit : SelectedHits(list, model)) questions.push_back(std::move(hit.question));
+  return questions;
 }
 
 std::set<std::int64_t> SelectedQuestions(const QListView& list, const BankHitsModel& model) {

@@ -15,6 +15,10 @@ namespace quorvantis {
 /// The selected questions in the order of their rows.
 std::vector<BankHit> SelectedHits(const QListView& list, const BankHitsModel& model);
 
+/// The same without what was found in them.
+std::vector<BankQuestion> SelectedBankQuestions(const QListView& list, const BankHitsModel& model);
+
+/// Their identifiers.
 std::set<std::int64_t> SelectedQuestions(const QListView& list, const BankHitsModel& model);
 
 /// Adds the rows of these questions to what is selected; the current row stays.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/main/commands/BankCommands.h"
 
+#include "bank/taking/BankSources.h"
 #include "bank/taking/StillAsShown.h"
 #include "desktop/main/commands/BankPages.h"
 #include "editor/WorkCopies.h"
@@ -19,6 +20,7 @@
 #include "text/PathText.h"
 
 #include <system_error>
+#include <utility>
 
 namespace quorvantis {
 namespace {
@@ -93,8 +95,8 @@ void BankCommands::ExamChanged() {
 
 BankActions BankCommands::Actions() {
   BankActions actions;
-  actions.insert = [this](const BankQuestion& question, std::optional<int> after) {
-    return Insert(question, after);
+  actions.insert = [this](const std::vector<BankQuestion>& questions, std::optional<int> after) {
+    return Insert(questions, after);
   };
   actions.show = [this](const BankQuestion& question) { Show(question); };
   actions.openExam = [this](const BankQuestion& question) { OpenExam(question); };
@@ -107,12 +109,21 @@ BankActions BankCommands::Actions() {
   return actions;
 }
 
-QString BankCommands::Insert(const BankQuestion& question, std::optional<int> after) {
-  const OtherExam other(Services(), AttachmentWorkRoot(Services().applicationFolder), question.exam.path,
-                        editor_.attachments.TakeCopyNumber());
-  if (IsStillThere(other, question)) return questions_.InsertFrom(other, {question.number}, after);
-  TellChanged(question);
-  return {};
+/// All of them as one step, or none if one is no longer as it was found.
+QString BankCommands::Insert(const std::vector<BankQuestion>& questions, std::optional<int> after) {
+  BankSources sources(Services(), digest_, AttachmentWorkRoot(Services().applicationFolder),
+                      [this] { return editor_.attachments.TakeCopyNumber(); });
+  std::vector<WholeQuestion> whole;
+  whole.reserve(questions.size());
+  for (const BankQuestion& question : questions) {
+    TakenFromBank taken = sources.Take(question);
+    if (!taken.whole) {
+      taken.problem.empty() ? TellChanged(question) : Services().dialogs.ShowError(taken.problem);
+      return {};
+    }
+    whole.push_back(std::move(*taken.whole));
+  }
+  return questions_.InsertTaken(std::move(whole), after);
 }
 
 void BankCommands::TellChanged(const BankQuestion& question) const {

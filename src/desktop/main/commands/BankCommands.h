@@ -53,7 +53,7 @@ class BankCommands {
   BankDesk& Desk();
   BankWindow& Window();
   BankActions Actions();
-  QString Insert(const BankQuestion& question, std::optional<int> after);
+  QString Insert(const std::vector<BankQuestion>& questions, std::optional<int> after);
   void Obey(PreviewWindow& window, const BankQuestion& question, const QString& wish);
   void SavePdf(const BankQuestion& question);
   void WithPage(const BankQuestion& question, const UsePage& use);
