@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/exam/ExchangeToExam.h"
 
+#include "exchange/form/Blanks.h"
 #include "exchange/form/ExchangeLimits.h"
 #include "exchange/markup/Markup.h"
 #include "model/AnswerLetters.h"
@@ -88,10 +89,28 @@ class ExamFilling {
           source.blanks.size() > 1 ? std::min<std::size_t>(1, blank.size()) : blank.size();
       for (std::size_t i = 0; i < count; ++i) {
         if (!line.empty()) line += kListSeparator;
-        line += OneLine(blank[i]);
+        line += WithoutSeparator(OneLine(blank[i]));
       }
     }
+    TellOtherBlanks(source, line);
     return line;
+  }
+
+  /// The name of the character keeps a separator within an answer from dividing it.
+  std::u16string WithoutSeparator(std::u16string answer) {
+    const std::u16string before = answer;
+    for (std::size_t at = answer.find(kListSeparator); at != answer.npos; at = answer.find(kListSeparator))
+      answer.replace(at, 1, u"&lt;");
+    if (answer != before) notes_.Tell(text_id::kExchangeSeparatorInAnswer, {Excerpt(before)});
+    return answer;
+  }
+
+  /// Whether answers are alternatives depends in an exam on how many blanks the text has.
+  void TellOtherBlanks(const ExchangedQuestion& source, std::u16string_view line) {
+    if (source.blanks.empty()) return;
+    const std::size_t count = ByBlank(ReadExamText(source.text).text, SplitAnswers(line)).size();
+    if (source.blanks.size() > 1 && count <= 1) notes_.Tell(text_id::kExchangeBecameAlternatives);
+    if (source.blanks.size() == 1 && count > 1) notes_.Tell(text_id::kExchangeBecameBlanks);
   }
 
   void StoreFiles(const std::vector<ExchangedFile>& files, ExamQuestion& question) {

@@ -13,19 +13,34 @@ namespace quorvantis {
 namespace {
 
 constexpr std::size_t kExcerptUnits = 40;
-constexpr std::size_t kMostNotesOfAQuestion = 100;
+constexpr int kMostNotesOfAQuestion = 100;
+constexpr int kMostNotesOfAKind = 1000;
 
 }  // namespace
 
 void ExchangeNotes::Tell(int text, std::vector<std::u16string> values) {
   ExchangeNote note{question_, text, std::move(values)};
-  // The notes of a question stand together. A file that earns more of them than anybody reads is told of
-  // less.
-  std::size_t count = 0;
-  for (auto last = notes_.rbegin(); last != notes_.rend() && last->question == question_; ++last) {
-    if (*last == note || ++count == kMostNotesOfAQuestion) return;
-  }
+  const Place place = PlaceFor(note);
+  if (place == Place::There) return;
+  if (place == Place::TooMany) return CountOneMore();
+  ++ofEachKind_[text];
   notes_.push_back(std::move(note));
+}
+
+/// The notes of a question stand together, at the end.
+ExchangeNotes::Place ExchangeNotes::PlaceFor(const ExchangeNote& note) const {
+  int count = 0;
+  for (auto last = notes_.rbegin(); last != notes_.rend() && last->question == question_; ++last) {
+    if (*last == note) return Place::There;
+    if (++count == kMostNotesOfAQuestion) return Place::TooMany;
+  }
+  const auto kind = ofEachKind_.find(note.text);
+  return kind != ofEachKind_.end() && kind->second >= kMostNotesOfAKind ? Place::TooMany : Place::New;
+}
+
+void ExchangeNotes::CountOneMore() {
+  if (unlisted_++ == 0) notes_.insert(notes_.begin(), {0, text_id::kExchangeMoreNotes});
+  notes_.front().values = {FormatInteger(unlisted_)};
 }
 
 std::u16string NoteText(const ExchangeNote& note, const StringTable& strings) {

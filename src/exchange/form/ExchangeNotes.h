@@ -3,6 +3,7 @@
 
 #include "platform/StringTable.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,8 @@ struct ExchangeNote {
   bool operator==(const ExchangeNote&) const = default;
 };
 
-/// Collects what a conversion has to tell, in the order of the questions. The same is told once a question.
+/// Collects what a conversion has to tell, in the order of the questions. The same is told once a question. A
+/// file that earns more notes of a kind than anybody reads has the others counted, in a note at the front.
 class ExchangeNotes {
  public:
   /// What follows is about this question; 0: about the whole.
@@ -29,7 +31,15 @@ class ExchangeNotes {
   const std::vector<ExchangeNote>& All() const { return notes_; }
 
  private:
+  /// Whether the question has this note, or so many that a further one is only counted.
+  enum class Place { New, There, TooMany };
+
+  Place PlaceFor(const ExchangeNote& note) const;
+  void CountOneMore();
+
   int question_ = 0;
+  int unlisted_ = 0;               ///< how many are not among the notes
+  std::map<int, int> ofEachKind_;  ///< how many notes there are of a text
   std::vector<ExchangeNote> notes_;
 };
 

@@ -16,7 +16,9 @@ namespace quorvantis {
 inline constexpr double kFullFraction = 99.9;
 
 /// Which options are right, given how much of the score each is worth, in percent. Where one is worth all of
-/// it, others are partly right at best, which an exam does not have: they are wrong, and that is told.
+/// it, others are partly right at best, which an exam does not have: they are wrong. Otherwise all that are
+/// worth something are right. Unless they share the score equally, that is told, and so are wrong options
+/// that cost something else than all of it.
 void DecideRights(const std::vector<double>& fractions, std::vector<ExchangedOption>& options,
                   ExchangeNotes& notes);
 

@@ -88,6 +88,21 @@ constexpr int kExchangeWildcard = 2642;        // %1 is the answer
 constexpr int kExchangeEqualAnswers = 2641;    // %1 is the answer
 constexpr int kExchangeAmbiguousRight = 2605;  // %1 is a cell, %2 the letter of the option that is right
 constexpr int kExchangeIsPaper = 2580;         // %2 is the name of a format
+constexpr int kExchangeWildcard = 2642;           // %1 is the answer
+constexpr int kExchangeEqualAnswers = 2641;       // %1 is the answer
+constexpr int kExchangeAmbiguousRight = 2605;     // %1 is a cell, %2 the letter of the option that is right
+constexpr int kExchangePartlyRightCounts = 2650;  // %1 is the option
+constexpr int kExchangeSeveralFullyRight = 2651;
+constexpr int kExchangeWrongAnswer = 2652;  // %1 is the answer
+constexpr int kExchangeBareBraces = 2653;   // %1 is a piece of text from the first brace on
+constexpr int kExchangeNameAsText = 2654;
+constexpr int kExchangeSeparatorInAnswer = 2655;  // %1 is the answer
+constexpr int kExchangeMoreNotes = 2656;          // %1 is how many more there are
+constexpr int kExchangeNoBlankLine = 2657;
+constexpr int kExchangeMarkdownStays = 2658;
+constexpr int kExchangeBecameAlternatives = 2659;
+constexpr int kExchangeBecameBlanks = 2660;
+constexpr int kExchangeIsPaper = 2580;  // %2 is the name of a format
 
 // Errors, and the windows for import and export
 constexpr int kExchangeNotOpen = 2271;  // "%1 cannot be read: %2", with what the system says
