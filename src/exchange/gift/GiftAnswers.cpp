@@ -4,10 +4,13 @@
 #include "exchange/form/MoodleConventions.h"
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
+#include "exchange/gift/GiftBraces.h"
+#include "exchange/gift/GiftMarkdown.h"
 #include "exchange/gift/GiftText.h"
 #include "exchange/markup/MarkupNotes.h"
 #include "platform/texts/ExchangeTexts.h"
 #include "text/AsciiCase.h"
+#include "text/LineBreaks.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
@@ -25,7 +28,7 @@ GiftTextFormat TakeGiftFormat(std::u16string_view& text, GiftTextFormat otherwis
       {u"[html]", GiftTextFormat::Html},
       {u"[moodle]", GiftTextFormat::Moodle},
       {u"[plain]", GiftTextFormat::Plain},
-      {u"[markdown]", GiftTextFormat::Plain}};
+      {u"[markdown]", GiftTextFormat::Markdown}};
   text = Trimmed(text);
   for (const auto& [name, format] : kNames) {
     if (!text.starts_with(name)) continue;
@@ -33,6 +36,19 @@ GiftTextFormat TakeGiftFormat(std::u16string_view& text, GiftTextFormat otherwis
     return format;
   }
   return otherwise;
+}
+
+bool AreGiftPairs(std::u16string_view answers) {
+  answers = Trimmed(answers.substr(0, FindUnprotectedWord(answers, kGeneralFeedback)));
+  if (!answers.starts_with(u'=') || FindOutsideBraces(answers, u"~") != answers.npos) return false;
+  for (std::size_t begin = 0; begin != answers.npos;) {
+    const std::size_t end = FindOutsideBraces(answers, u"=", begin + 1);
+    const std::u16string_view answer = answers.substr(begin, std::min(end, answers.size()) - begin);
+    const std::u16string_view shown = answer.substr(0, FindOutsideBraces(answer, u"#"));
+    if (FindUnprotectedWord(shown, kPair) == shown.npos) return false;
+    begin = end;
+  }
+  return true;
 }
 
 std::u16string GiftAnswers::FormattedText(std::u16string_view text, GiftTextFormat otherwise) {
@@ -44,9 +60,13 @@ std::u16string GiftAnswers::FormattedText(std::u16string_view text, GiftTextForm
 }
 
 std::u16string GiftAnswers::Text(std::u16string_view text) {
-  const std::u16string plain = Unprotected(text);
+  std::u16string plain = Unprotected(text);
   if (format_ == GiftTextFormat::Plain) return PlainToExamText(plain);
-  const ReadMarkup read = format_ == GiftTextFormat::Html ? ReadHtml(plain) : ReadExamText(plain);
+  if (format_ == GiftTextFormat::Markdown) {
+    if (HasMarkdownBlocks(plain)) tools_.notes.Tell(text_id::kExchangeMarkdownStays);
+    plain = MarkdownToHtml(plain);
+  }
+  const ReadMarkup read = format_ == GiftTextFormat::Moodle ? ReadExamText(plain) : ReadHtml(plain);
   TellMarkupLosses(read.losses, tools_.notes);
   for (const MarkupReference& reference : read.references)
     tools_.notes.Tell(text_id::kExchangeNotFetched, {Excerpt(reference.address)});
@@ -77,10 +97,33 @@ bool GiftAnswers::Read(std::u16string_view answers, ExchangedQuestion& question)
   return true;
 }
 
+std::optional<GiftBlank> GiftAnswers::ReadBlank(std::u16string_view answers) {
+  ExchangedQuestion part;
+  if (AreGiftPairs(answers) || Trimmed(answers).empty() || !Read(answers, part)) return std::nullopt;
+  if (part.kind == QuestionKind::FillIn && !part.blanks.empty()) return GiftBlank{part.blanks.front()};
+  if (part.kind != QuestionKind::Choice) return std::nullopt;
+  tools_.notes.Tell(text_id::kExchangeInlineChoices);
+  GiftBlank blank{{}, Choices(part.options)};
+  for (const ExchangedOption& option : part.options) {
+    if (option.isRight) blank.rights.push_back(option.text);
+  }
+  return blank;
+}
+
+std::u16string GiftAnswers::Choices(const std::vector<ExchangedOption>& options) const {
+  std::u16string choices;
+  for (const ExchangedOption& option : options) {
+    const bool isPlain = format_ == GiftTextFormat::Plain;
+    const std::u16string text = WithLineEnds(isPlain ? ExamTextToPlain(option.text) : option.text, u" ");
+    choices.append(choices.empty() ? u"" : u" / ").append(Protected(text));
+  }
+  return choices;
+}
+
 std::vector<GiftAnswers::Answer> GiftAnswers::Cut(std::u16string_view answers) {
   std::vector<Answer> list;
-  for (std::size_t begin = FindUnprotected(answers, u"=~"); begin != answers.npos;) {
-    const std::size_t end = FindUnprotected(answers, u"=~", begin + 1);
+  for (std::size_t begin = FindOutsideBraces(answers, u"=~"); begin != answers.npos;) {
+    const std::size_t end = FindOutsideBraces(answers, u"=~", begin + 1);
     list.push_back(
         ReadAnswer(answers[begin], answers.substr(begin + 1, std::min(end, answers.size()) - begin - 1)));
     begin = end;
@@ -101,17 +144,15 @@ GiftAnswers::Answer GiftAnswers::ReadAnswer(char16_t mark, std::u16string_view t
 }
 
 std::u16string_view GiftAnswers::WithoutFeedback(std::u16string_view text) {
-  const std::size_t hash = FindUnprotected(text, u"#");
+  const std::size_t hash = FindOutsideBraces(text, u"#");
   if (hash != text.npos && !Trimmed(text.substr(hash + 1)).empty())
     tools_.notes.Tell(text_id::kExchangeFeedback);
   return Trimmed(text.substr(0, hash));
 }
 
 bool GiftAnswers::ReadTrueFalse(std::u16string_view answers, ExchangedQuestion& question) {
-  const std::u16string word = AsciiUpper(WithoutFeedback(answers));
-  const bool isTrue = word == u"T" || word == u"TRUE";
-  if (!isTrue && word != u"F" && word != u"FALSE") return false;
-  MakeTrueFalse(isTrue, tools_.strings, question);
+  if (!IsTrueOrFalse(answers)) return false;
+  MakeTrueFalse(AsciiUpper(WithoutFeedback(answers)).front() == u'T', tools_.strings, question);
   return true;
 }
 
@@ -127,12 +168,22 @@ bool GiftAnswers::ReadNumbers(std::u16string_view answers, ExchangedQuestion& qu
     if (hasMargin || number.find(u"..") != number.npos)
       tools_.notes.Tell(text_id::kExchangeTolerance, {std::u16string(answer.text)});
     const std::u16string text = PlainToExamText(Unprotected(number));
-    if (!text.empty() && answer.fraction > 0 && std::ranges::find(numbers, text) == numbers.end())
-      numbers.push_back(text);
+    const bool isNew = !text.empty() && std::ranges::find(numbers, text) == numbers.end();
+    if (isNew && Counts(answer)) numbers.push_back(text);
   }
   if (numbers.empty()) return false;
   question.blanks = {numbers};
   return true;
+}
+
+bool GiftAnswers::Counts(const Answer& answer) {
+  const std::u16string text = PlainToExamText(Unprotected(answer.text));
+  if (answer.fraction <= 0) {
+    tools_.notes.Tell(text_id::kExchangeWrongAnswer, {Excerpt(text)});
+  } else if (answer.fraction < kFullFraction) {
+    tools_.notes.Tell(text_id::kExchangePartlyRightAnswer, {Excerpt(text)});
+  }
+  return answer.fraction > 0;
 }
 
 bool GiftAnswers::ReadPairs(const std::vector<Answer>& answers, ExchangedQuestion& question) {
@@ -151,13 +202,10 @@ void GiftAnswers::ReadAlternatives(const std::vector<Answer>& answers, Exchanged
   question.kind = QuestionKind::FillIn;
   BlankAnswers alternatives;
   for (const Answer& answer : answers) {
-    if (answer.fraction <= 0 || answer.text.empty()) continue;
+    if (answer.text.empty() || !Counts(answer)) continue;
     std::u16string text =
         WithoutProtectedStars(FormattedText(answer.text, GiftTextFormat::Plain), tools_.notes);
-    if (text.empty()) continue;
-    if (answer.fraction < kFullFraction)
-      tools_.notes.Tell(text_id::kExchangePartlyRightAnswer, {Excerpt(text)});
-    alternatives.push_back(std::move(text));
+    if (!text.empty()) alternatives.push_back(std::move(text));
   }
   if (!alternatives.empty()) question.blanks = {alternatives};
 }
@@ -165,6 +213,7 @@ void GiftAnswers::ReadAlternatives(const std::vector<Answer>& answers, Exchanged
 void GiftAnswers::ReadOptions(const std::vector<Answer>& answers, ExchangedQuestion& question) {
   std::vector<double> fractions;
   for (const Answer& answer : answers) {
+    if (answer.text.empty()) continue;  // "~=" is only "="
     question.options.push_back({FormattedText(answer.text, format_), false});
     fractions.push_back(answer.fraction);
   }

@@ -11,6 +11,9 @@ namespace quorvantis {
 /// The characters that a backslash protects, besides itself.
 inline constexpr std::u16string_view kGiftSpecial = u"~=#{}:\\";
 
+/// Begins a line that names the category of the questions below it.
+inline constexpr std::u16string_view kGiftCategory = u"$CATEGORY:";
+
 bool LooksLikeGift(const ExchangeSource& source);
 
 class GiftReader : public FormatReader {

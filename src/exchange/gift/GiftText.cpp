@@ -4,17 +4,20 @@
 #include "exchange/form/TextSource.h"
 #include "exchange/gift/GiftFormat.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace quorvantis {
 namespace {
 
 constexpr std::u16string_view kBraces = u"{}";
 
-/// Whether the last brace of a block opens.
-bool EndsOpen(std::u16string_view block) {
+/// Whether the last brace of a line opens.
+bool EndsOpen(std::u16string_view line) {
   bool isOpen = false;
-  for (std::size_t at = FindUnprotected(block, kBraces); at != block.npos;
-       at = FindUnprotected(block, kBraces, at + 1))
-    isOpen = block[at] == u'{';
+  for (std::size_t at = FindUnprotected(line, kBraces); at != line.npos;
+       at = FindUnprotected(line, kBraces, at + 1))
+    isOpen = line[at] == u'{';
   return isOpen;
 }
 
@@ -23,24 +26,39 @@ bool ClosesFirst(std::u16string_view block) {
   return at != block.npos && block[at] == u'}';
 }
 
+/// How many braces are open behind a block, if so many were in front of it.
+int DepthBehind(std::u16string_view block, int depth) {
+  for (std::size_t at = FindUnprotected(block, kBraces); at != block.npos;
+       at = FindUnprotected(block, kBraces, at + 1))
+    depth = std::max(0, depth + (block[at] == u'{' ? 1 : -1));
+  return depth;
+}
+
 /// The first block from `from` on that has a brace.
-std::size_t NextWithBrace(const std::vector<std::u16string>& blocks, std::size_t from) {
-  while (from < blocks.size() && FindUnprotected(blocks[from], kBraces) == std::u16string::npos) ++from;
+std::size_t NextWithBrace(const std::vector<GiftBlock>& blocks, std::size_t from) {
+  while (from < blocks.size() && FindUnprotected(blocks[from].text, kBraces) == std::u16string::npos) ++from;
   return from;
 }
 
-/// Cuts at blank lines, and before a title that stands below answers.
-std::vector<std::u16string> BlocksByLines(std::u16string_view text) {
-  std::vector<std::u16string> blocks(1);
+bool BeginsQuestion(std::u16string_view line) {
+  return line.starts_with(u"::") || line.starts_with(kGiftCategory);
+}
+
+/// Cuts at blank lines, and before a title or a category that stands below answers.
+std::vector<GiftBlock> BlocksByLines(std::u16string_view text) {
+  std::vector<GiftBlock> blocks(1);
   bool hasAnswers = false;
   for (const std::u16string_view line : LinesOf(text)) {
     const std::u16string_view trimmed = Trimmed(line);
-    if (trimmed.starts_with(u"//")) continue;
-    const bool isNext = trimmed.empty() || (hasAnswers && trimmed.starts_with(u"::"));
-    if (isNext && !blocks.back().empty()) blocks.emplace_back();
+    if (trimmed.starts_with(u"//")) {
+      blocks.back().hasTags = blocks.back().hasTags || trimmed.find(u"[tag:") != trimmed.npos;
+      continue;
+    }
+    const bool isNext = trimmed.empty() || (hasAnswers && BeginsQuestion(trimmed));
+    if (isNext && !blocks.back().text.empty()) blocks.emplace_back();
     if (isNext) hasAnswers = false;
     if (trimmed.empty()) continue;
-    blocks.back().append(line).push_back(u'\n');
+    blocks.back().text.append(line).push_back(u'\n');
     const std::size_t close = FindUnprotected(line, u"}");
     if (close != line.npos) hasAnswers = !EndsOpen(line);
   }
@@ -84,19 +102,35 @@ std::u16string Unprotected(std::u16string_view text) {
   return plain;
 }
 
-std::vector<std::u16string> GiftBlocks(std::u16string_view text) {
-  const std::vector<std::u16string> blocks = BlocksByLines(text);
-  std::vector<std::u16string> joined;
-  for (std::size_t i = 0; i < blocks.size();) {
-    std::u16string block = blocks[i];
-    bool isOpen = EndsOpen(blocks[i++]);
-    while (isOpen) {
-      const std::size_t end = NextWithBrace(blocks, i);
-      if (end == blocks.size() || !ClosesFirst(blocks[end])) break;
-      while (i <= end) block.append(u"\n").append(blocks[i++]);
-      isOpen = EndsOpen(blocks[end]);
+std::u16string Protected(std::u16string_view text) {
+  std::u16string escaped;
+  for (const char16_t unit : text) {
+    if (unit == u'\n') {
+      escaped += u"\\n";
+      continue;
     }
-    if (!Trimmed(block).empty()) joined.push_back(std::move(block));
+    if (kGiftSpecial.find(unit) != kGiftSpecial.npos) escaped.push_back(u'\\');
+    escaped.push_back(unit);
+  }
+  return escaped;
+}
+
+std::vector<GiftBlock> GiftBlocks(std::u16string_view text) {
+  std::vector<GiftBlock> blocks = BlocksByLines(text);
+  std::vector<GiftBlock> joined;
+  for (std::size_t i = 0; i < blocks.size();) {
+    GiftBlock block = std::move(blocks[i++]);
+    int depth = DepthBehind(block.text, 0);
+    while (depth > 0) {
+      const std::size_t end = NextWithBrace(blocks, i);
+      if (end == blocks.size() || !ClosesFirst(blocks[end].text)) break;
+      depth = DepthBehind(blocks[end].text, depth);
+      for (; i <= end; ++i) {
+        block.text.append(u"\n").append(blocks[i].text);
+        block.hasTags = block.hasTags || blocks[i].hasTags;
+      }
+    }
+    if (!Trimmed(block.text).empty()) joined.push_back(std::move(block));
   }
   return joined;
 }

@@ -18,9 +18,18 @@ std::size_t FindUnprotectedWord(std::u16string_view text, std::u16string_view wo
 /// Without the backslashes that protect something; "\n" is a line end.
 std::u16string Unprotected(std::u16string_view text);
 
-/// The text without lines that are comments, cut where blank lines separate questions. A blank line inside
-/// braces separates nothing, as long as they are closed before others are opened. A title in a new line below
-/// answers begins another question, too.
-std::vector<std::u16string> GiftBlocks(std::u16string_view text);
+/// With backslashes that protect everything that means something; a line end is "\n".
+std::u16string Protected(std::u16string_view text);
+
+/// What stands between two blank lines, without lines that are comments.
+struct GiftBlock {
+  std::u16string text{};
+  bool hasTags = false;  ///< in a comment
+};
+
+/// The text cut where blank lines separate questions. A blank line inside braces separates nothing, as long
+/// as they are closed before others are opened. A title or a category in a new line below answers begins
+/// another question, too.
+std::vector<GiftBlock> GiftBlocks(std::u16string_view text);
 
 }  // namespace quorvantis

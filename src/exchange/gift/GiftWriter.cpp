@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/form/MoodleConventions.h"
 #include "exchange/gift/GiftFormat.h"
+#include "exchange/gift/GiftText.h"
 #include "exchange/markup/Markup.h"
 #include "text/LineBreaks.h"
 #include "text/NumberText.h"
@@ -13,19 +14,6 @@ namespace {
 
 constexpr std::u16string_view kOfPairs = u"->";  // would make the answers pairs, wherever it stands
 constexpr std::u16string_view kGiftFormatNames[] = {u"[html]", u"[moodle]", u"[plain]", u"[markdown]"};
-
-std::u16string Escaped(std::u16string_view text) {
-  std::u16string escaped;
-  for (const char16_t unit : text) {
-    if (unit == u'\n') {
-      escaped += u"\\n";
-      continue;
-    }
-    if (kGiftSpecial.find(unit) != kGiftSpecial.npos) escaped.push_back(u'\\');
-    escaped.push_back(unit);
-  }
-  return escaped;
-}
 
 bool BeginsLikeFormat(std::u16string_view text) {
   return std::any_of(std::begin(kGiftFormatNames), std::end(kGiftFormatNames),
@@ -59,7 +47,7 @@ class GiftQuestion {
 
   /// Where no format is named, a text is read like that of an exam.
   std::u16string Shown(const std::u16string& text) const {
-    return Escaped(isHtml_ ? ExamTextToHtml(text, HtmlDialect::Html) : WithLineEnds(text, u"\n"));
+    return Protected(isHtml_ ? ExamTextToHtml(text, HtmlDialect::Html) : WithLineEnds(text, u"\n"));
   }
 
   std::u16string Answers() const {
@@ -101,7 +89,7 @@ class GiftQuestion {
   }
 
   static std::u16string Answer(const std::u16string& answer) {
-    return WithFormatNamed(Escaped(WithProtectedStars(ExamTextToPlain(answer))), u"[plain]");
+    return WithFormatNamed(Protected(WithProtectedStars(ExamTextToPlain(answer))), u"[plain]");
   }
 
   std::u16string Alternatives() const {
