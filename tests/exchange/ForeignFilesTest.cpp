@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace quorvantis::test {
 namespace {
 
@@ -37,9 +39,11 @@ const ForeignRow kGift[] = {
      "Two | 10, 11\n",
      "question 1: feedback and hints are left out\nquestion 1: an answer that is partly right counts as "
      "right: 1870\n"
+     "question 1: a wrong answer is left out: x\n"
      "question 2: the answer is a number; the range that would count as right is left out: 1822:5\n"
      "question 3: the answer is a number; the range that would count as right is left out: 3.141..3.142\n"
-     "question 4: the answer is a number; the range that would count as right is left out: 11:1\n"},
+     "question 4: the answer is a number; the range that would count as right is left out: 11:1\n"
+     "question 4: an answer that is partly right counts as right: 11:1\n"},
     {"Match {\n=cat -> miaow\n\n=dog -> woof\n= -> moo\n}\n\nWrite {####Yes, so.}\n\nOnly text\n\nBroken {=a "
      "~b\n\nNext {}",
      "fill Match\\n(miaow / moo / woof)\\ncat ____\\ndog ____ | miaow | woof\nessay Write | Yes, so.\nessay "
@@ -57,6 +61,43 @@ const ForeignRow kGift[] = {
      "questions of several categories are read into one exam; the name of this one is left out: two\n"},
     {"Stars {=a*b =2\\\\*3 =4\\*5}", "fill Stars | a*b, 2*3, 4*5\n",
      "question 1: a star stands for any text in its answer “a*b”; in an exam it is just a star\n"},
+    {"The {=dog} chases {=cat\n} and\n{~ox =hen}{#7}.\n\n$5 {T}\n",
+     "fill The ____ chases ____ and ____ (ox / hen) ____. | dog | cat | hen | 7\nchoice $5 | +True | "
+     "-False\n",
+     "question 1: choices within the text become blanks, with the choices behind them\n"},
+    {"One?{=a ~b}\nTwo is\nwhat? {T}\nThree goes\n{=on}\nand on {=so}.\n\nFour {=x}, five\nSix "
+     "{=y}\n$CATEGORY: "
+     "c\n{F}",
+     "choice One? | +a | -b\nchoice Two is\\nwhat? | +True | -False\nfill Three goes ____ and on ____. | on "
+     "| "
+     "so\nfill Four ____, five\\nSix ____ | x | y\nchoice  | -True | +False\n",
+     "question 2: no blank line stands in front of it; it was read as a question of its own\n"
+     "question 3: no blank line stands in front of it; it was read as a question of its own\n"
+     "questions of several categories are read into one exam; the name of this one is left out: c\n"},
+    {"Half of {1}? {=$\\frac{1}{2}$ ~f() { a=b; }}\n\nA^{T} {=a { ~b}\n\nPairs {=a->b}\nbelow",
+     "choice Half of {1}? | +$\\frac{1}{2}$ | -f() { a=b; }\nchoice A^{T} | +a { | -b\n"
+     "fill Pairs\\nbelow\\n(b)\\na ____ | b\n",
+     "question 1: braces that a backslash should protect are read as text: {1}? {=$\\frac{1}{2}$ ~f() { a=b; "
+     "}}\n"
+     "question 2: braces that a backslash should protect are read as text: {T} {=a { ~b}\n"
+     "question 3: the pairs become a fill-in question with a blank for each\n"},
+    {"// [tag:x]\n::Name::{~=a ~b}\n\nTen {~%10%a ~b}\n\nShares {~%75%a ~%25%b}\n\nBoth {=a =b}{=c ~%-50%d "
+     "=e}",
+     "choice Name | +a | -b\nchoice Ten | +a | -b\nchoice Shares | +a | +b\nfill Both ____ ____ (c / d / e) "
+     "| a, "
+     "b | c, e\n",
+     "question 1: its tags are left out\n"
+     "question 1: it has no text; its name stands there instead\n"
+     "question 2: an option that is partly right counts as right, since none is fully right: a\n"
+     "question 3: how wrong and partly right answers score is simplified\n"
+     "question 4: how wrong and partly right answers score is simplified\n"
+     "question 4: several options are fully right, each by itself; in an exam all of them have to be chosen\n"
+     "question 4: choices within the text become blanks, with the choices behind them\n"},
+    {"[markdown]**b *i*** 2*3 `<x>` \\*s\\* [l](http\\://x) ![p](y.png)\n1. one{=[plain]*a* ~`c`}",
+     "choice <b>b <i>i</i></b> 2*3 <code>&lt;x></code> *s* l (http://x) \\n1. one | +*a* | -<code>c</code>\n",
+     "question 1: lists, headings, tables and code blocks of Markdown stay as they are written\n"
+     "question 1: its formatting is simplified\n"
+     "question 1: what is not in the file is not fetched and is left out: y.png\n"},
     {"caf\xE9 {=x ~y}", "choice caf\xC3\xA9 | +x | -y\n",
      "the text is not UTF-8; it was read as Windows text of Western Europe\n"},
 };
@@ -132,6 +173,38 @@ TEST(ForeignFiles, InText) {
   ExpectRead(reader, "aiken", kAiken);
   ExpectRead(reader, "csv", kTables);
   ExpectRead(reader, "tsv", kTabTables);
+}
+
+/// Whatever braces and lines are amiss: a file of which nothing is told is read with all its words, and no
+/// brace is left for pupils to see.
+TEST(ForeignFiles, GiftOfAnyShapeLosesNothingInSilence) {
+  static const char* const kPieces[] = {"%",         "%. ", "%\n", "\n\n", "{=%}",
+                                        " {=% ~%} ", "{T}", "{%}", "{=%",  "}",
+                                        " {",        "\n",  "{}",  "% ",   " {=%->% =%->%}"};
+  ForeignReader reader;
+  std::mt19937 random(1);
+  int silent = 0;
+  for (int file = 0; file < 600; ++file) {
+    std::string text;
+    std::vector<std::string> words;
+    for (std::size_t i = 2 + random() % 6; i > 0; --i) {
+      for (const char c : std::string_view(kPieces[random() % std::size(kPieces)])) {
+        if (c != '%') {
+          text.push_back(c);
+        } else {
+          words.push_back("w" + std::to_string(words.size()) + "w");
+          text += words.back();
+        }
+      }
+    }
+    const auto source = ExchangeSource(WriteBytes(reader.folder / "any", text));
+    const ForeignFile read = reader.ReadAs(*FormatNamed("gift"), source);
+    if (!read.notes.empty()) continue;
+    ++silent;
+    EXPECT_EQ(read.questions.find_first_of("{}"), std::string::npos) << text;
+    for (const std::string& word : words) EXPECT_NE(read.questions.find(word), std::string::npos) << text;
+  }
+  EXPECT_GT(silent, 40);
 }
 
 TEST(ForeignFiles, PastedTablesNeedNoNames) {

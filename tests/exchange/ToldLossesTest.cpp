@@ -11,6 +11,7 @@
 #include "model/QuestionKinds.h"
 #include "model/document/FrameSetExam.h"
 #include "platform/posix/PosixFiles.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "shell/language/BuiltInStrings.h"
 #include "support/RecordingWorld.h"
 #include "text/PathText.h"
@@ -242,6 +243,49 @@ TEST_P(ToldLosses, OfMoreThanAnExamTakes) {
     for (const ExchangeNote& note : notes.All()) lines += Utf16ToUtf8(NoteLine(note, BuiltInStrings()));
     EXPECT_EQ(lines, told) << count;
   }
+}
+
+/// What stands between answers, and how many blanks a text has, divides answers in an exam.
+TEST(ToldLossesOfAnswers, ThatWouldBeDividedOtherwise) {
+  struct Row {
+    const char16_t* text;
+    std::vector<BlankAnswers> blanks;
+    const char16_t* line;
+    int told;
+  };
+  const Row rows[] = {
+      {u"t", {{u"a<@>b", u"c"}}, u"a&lt;@>b<@>c", text_id::kExchangeSeparatorInAnswer},
+      {u"___ ___", {{u"a", u"b"}}, u"a<@>b", text_id::kExchangeBecameBlanks},
+      {u"___", {{u"a"}, {u"b"}}, u"a<@>b", text_id::kExchangeBecameAlternatives},
+      {u"___ ___", {{u"a"}, {u"b"}}, u"a<@>b", 0},
+  };
+  const TemporaryFolder folder;
+  PosixFiles files;
+  RecordingWorld world(folder.Path(), files);
+  for (const Row& row : rows) {
+    ExchangedExam foreign;
+    foreign.questions.push_back({1, QuestionKind::FillIn, row.text, {}, row.blanks, {}, {}, {}});
+    FrameSetExam exam(world.services);
+    exam.SetHostMode(1);
+    ExchangeNotes notes;
+    StoreExchanged(foreign, exam, 1, notes);
+    EXPECT_EQ(exam.Question(1).answerText, row.line);
+    EXPECT_EQ(notes.All().empty() ? 0 : notes.All()[0].text, row.told) << Utf16ToUtf8(row.line);
+  }
+}
+
+TEST(ToldLossesOfManyQuestions, AreCounted) {
+  ExchangeNotes notes;
+  for (int n = 1; n <= 1500; ++n) {
+    notes.Begin(n);
+    notes.Tell(text_id::kExchangeFeedback);
+    notes.Tell(text_id::kExchangeFeedback);
+  }
+  notes.Tell(text_id::kExchangeTable);
+  ASSERT_EQ(notes.All().size(), 1002U);
+  EXPECT_EQ(Utf16ToUtf8(NoteLine(notes.All().front(), BuiltInStrings())),
+            "500 more notes of the same kinds are not listed");
+  EXPECT_EQ(notes.All().back().text, text_id::kExchangeTable);
 }
 
 }  // namespace

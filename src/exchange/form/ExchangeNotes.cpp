@@ -22,7 +22,7 @@ void ExchangeNotes::Tell(int text, std::vector<std::u16string> values) {
   ExchangeNote note{question_, text, std::move(values)};
   const Place place = PlaceFor(note);
   if (place == Place::There) return;
-  if (place == Place::TooMany) return CountOneMore();
+  if (place == Place::TooMany) return CountOneMore(std::move(note));
   ++ofEachKind_[text];
   notes_.push_back(std::move(note));
 }
@@ -38,7 +38,9 @@ ExchangeNotes::Place ExchangeNotes::PlaceFor(const ExchangeNote& note) const {
   return kind != ofEachKind_.end() && kind->second >= kMostNotesOfAKind ? Place::TooMany : Place::New;
 }
 
-void ExchangeNotes::CountOneMore() {
+void ExchangeNotes::CountOneMore(ExchangeNote note) {
+  if (note == lastUnlisted_) return;
+  lastUnlisted_ = std::move(note);
   if (unlisted_++ == 0) notes_.insert(notes_.begin(), {0, text_id::kExchangeMoreNotes});
   notes_.front().values = {FormatInteger(unlisted_)};
 }

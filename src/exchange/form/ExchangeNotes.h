@@ -35,10 +35,11 @@ class ExchangeNotes {
   enum class Place { New, There, TooMany };
 
   Place PlaceFor(const ExchangeNote& note) const;
-  void CountOneMore();
+  void CountOneMore(ExchangeNote note);
 
   int question_ = 0;
-  int unlisted_ = 0;               ///< how many are not among the notes
+  int unlisted_ = 0;  ///< how many are not among the notes
+  ExchangeNote lastUnlisted_{};
   std::map<int, int> ofEachKind_;  ///< how many notes there are of a text
   std::vector<ExchangeNote> notes_;
 };

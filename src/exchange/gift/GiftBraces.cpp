@@ -45,6 +45,14 @@ bool AreAnswers(std::u16string_view text, const TextSpan& inside) {
   return canBe && !IsOfFormula(text, inside.begin - 1);
 }
 
+/// Where others open in a line below answers that are never closed: they are those of another question. npos
+/// if there are none.
+std::size_t OthersWithin(std::u16string_view text, const TextSpan& inside) {
+  const std::size_t line = text.substr(0, inside.end).find(u'\n', inside.begin);
+  const std::size_t inner = line == text.npos ? line : FindUnprotected(text, u"{", line);
+  return inner < inside.end && AreAnswers(text, {inner + 1, inside.end}) ? inner : text.npos;
+}
+
 /// Everything in braces that can be answers.
 std::vector<TextSpan> AllAnswers(std::u16string_view text) {
   std::vector<TextSpan> places;
@@ -54,11 +62,13 @@ std::vector<TextSpan> AllAnswers(std::u16string_view text) {
     if (next == text.npos) break;
     const std::size_t closing = ClosingBrace(text, open);
     const TextSpan inside{open + 1, closing != text.npos ? closing : next};
-    const std::size_t inner = closing != text.npos ? text.npos : FindUnprotected(text, u"{", open + 1);
-    const bool isNeverClosed = inner < next && AreAnswers(text, {inner + 1, next});
-    const bool isTaken = !isNeverClosed && AreAnswers(text, inside);
-    if (isTaken) places.push_back(inside);
-    open = FindUnprotected(text, u"{", isTaken ? inside.end : open + 1);
+    if (!AreAnswers(text, inside)) {
+      open = FindUnprotected(text, u"{", open + 1);
+      continue;
+    }
+    const std::size_t others = closing != text.npos ? text.npos : OthersWithin(text, inside);
+    if (others == text.npos) places.push_back(inside);
+    open = others == text.npos ? FindUnprotected(text, u"{", inside.end) : others;
   }
   return places;
 }
@@ -118,9 +128,10 @@ std::size_t FindOutsideBraces(std::u16string_view text, std::u16string_view want
 
 bool IsTrueOrFalse(std::u16string_view answers) {
   const std::u16string_view trimmed = Trimmed(answers);
-  const std::size_t end = std::min(trimmed.find_first_of(u"# \t\n"), trimmed.size());
+  const std::u16string_view begin = trimmed.substr(0, std::u16string_view(u"FALSE#").size());
+  const std::size_t end = std::min(begin.find_first_of(u"# \t\n"), begin.size());
   const std::u16string_view rest = Trimmed(trimmed.substr(end));
-  if (end > std::u16string_view(u"FALSE").size() || (!rest.empty() && rest.front() != u'#')) return false;
+  if (!rest.empty() && rest.front() != u'#') return false;
   const std::u16string word = AsciiUpper(trimmed.substr(0, end));
   return word == u"T" || word == u"TRUE" || word == u"F" || word == u"FALSE";
 }

@@ -10,7 +10,7 @@
 namespace quorvantis {
 namespace {
 
-constexpr std::size_t kLongestSpan = 1000;  // within which a mark must be closed
+constexpr std::size_t kLongestSpan = 500;  // within which a mark must be closed
 
 bool IsSpace(char16_t unit) {
   return unit == u' ' || unit == u'\t' || unit == u'\n';

@@ -39,7 +39,7 @@ class BlankedText {
     if (isApart) text_.push_back(u' ');
     if (trimmed.empty()) return;
     const auto begin = static_cast<std::size_t>(trimmed.data() - piece.data());
-    text_.append(hasBlank_ ? piece.substr(begin) : piece);
+    text_.append(piece.substr(hasBlank_ ? begin : 0));
     hasBlank_ = false;
   }
 
@@ -131,16 +131,22 @@ class GiftExamReading {
     exam_.questions.push_back(std::move(question));
   }
 
+  /// A text with a blank where its answers stand, unless that is at its end. Pairs bring blanks of their own.
+  static std::u16string AroundAnswers(std::u16string_view text, const TextSpan& place) {
+    const std::u16string_view before = text.substr(0, place.begin - 1);
+    const std::u16string_view after = text.substr(place.end + 1);
+    if (Trimmed(after).empty()) return std::u16string(Trimmed(before));
+    BlankedText blanked;
+    const bool arePairs = AreGiftPairs(place.Of(text));
+    blanked.Add(arePairs ? Trimmed(before) : before);
+    if (!arePairs) blanked.AddBlank({});
+    blanked.Add(arePairs ? u"\n" + std::u16string(Trimmed(after)) : std::u16string(after));
+    return blanked.Text();
+  }
+
   static bool ReadWithOne(std::u16string_view text, const TextSpan& place, GiftAnswers& answers,
                           ExchangedQuestion& question) {
-    const std::u16string_view after = text.substr(place.end + 1);
-    const bool isWithin = !Trimmed(after).empty();
-    const bool arePairs = AreGiftPairs(place.Of(text));  // they bring blanks of their own
-    BlankedText blanked;
-    blanked.Add(text.substr(0, place.begin - 1));
-    if (isWithin && !arePairs) blanked.AddBlank({});
-    blanked.Add(isWithin && arePairs ? u"\n" + std::u16string(Trimmed(after)) : std::u16string(after));
-    question.text = answers.Text(Trimmed(blanked.Text()));
+    question.text = answers.Text(Trimmed(AroundAnswers(text, place)));
     return answers.Read(place.Of(text), question);
   }
 
