@@ -38,6 +38,26 @@ const HtmlRow kHtmlRows[] = {
     {"<blah>x</blah>", "x", {.formatting = true}},
     {"<a href=\"https://x.org/\">site</a>", "site (https://x.org/)", {.formatting = true}},
     {"a<!-- <b> -->b<?php x ?>c", "abc"},
+    {"x<span style='color:red; Vertical-Align : super'>2</span>y", "x<sup>2</sup>y", {.formatting = true}},
+    {"<audio><source src='a/s.mp3'>a/s.mp3</audio>b<video src=v>No <b>video</b></video>",
+     "b",
+     {.formatting = true}},
+    {"a<svg><text>x</text></svg>b", "ab", {.drawing = true}},
+    // Formulas.
+    {"<math><msqrt> <mn>2</mn> </msqrt></math> or <math><mn>2</mn></math>", "√(2) or 2", {.formula = true}},
+    {"x <m:math><m:mfrac><m:mn>1</m:mn><m:mn>2</m:mn></m:mfrac></m:math>!", "x (1)/(2)!", {.formula = true}},
+    {"<math><msup><mfrac><mi>a</mi><mi>b</mi></mfrac><mn>2</mn></msup><mo>&lt;</mo><msubsup><mi>x</mi>"
+     "<mi>i</mi><mn>3</mn></msubsup></math>",
+     "((a)/(b))<sup>2</sup>&lt;x<sub>i</sub><sup>3</sup>",
+     {.formula = true}},
+    {"<math><semantics><mroot><mi>x</mi><mn>3</mn></mroot><annotation>no</annotation></semantics></math>",
+     "<sup>3</sup>√(x)",
+     {.formula = true}},
+    {"<math><mfenced open='['><mi>a</mi><mi>b</mi></mfenced><mtable><mtr><mtd><mn>1</mn></mtd><mtd><mn>2"
+     "</mn></mtd></mtr><mtr><mtd><mn>3</mn></mtd></mtr></mtable></math>",
+     "[a, b)[1, 2; 3]",
+     {.formula = true}},
+    {"<math><mi>x</math><math><mi>y", "xy", {.formatting = true, .formula = true}},
     // Nothing that runs.
     {"a<script>alert(1)</script>b", "ab", {.executable = true}},
     {"a<script>alert(1)", "a", {.executable = true}},
@@ -46,7 +66,7 @@ const HtmlRow kHtmlRows[] = {
     {"<b onclick=x>a</b>", "<b>a</b>", {.executable = true}},
     {"<a href=\" java\tscript:x\">a</a>", "a", {.executable = true}},
     {"<iframe src=x>in</iframe>a<form><input></form>", "a", {.executable = true}},
-    {"<svg/onload=alert(1)>", "", {.formatting = true, .executable = true}},
+    {"<svg/onload=alert(1)>", "", {.executable = true, .drawing = true}},
     {"&lt;script&gt;alert(1)&lt;/script&gt;", "&lt;script>alert(1)&lt;/script>"},
     {"&#60img src=x onerror=y&#62", "&lt;img src=x onerror=y>"},
 };
@@ -121,9 +141,27 @@ TEST(Markup, ComesBackFromHtmlAsItWas) {
 
 TEST(Markup, TakesTimeInProportionToTheText) {
   constexpr std::size_t kCopies = 50'000;
-  for (const char16_t* piece :
-       {u"<", u"<!", u"</3", u"<y ", u"<a '", u"<a b", u"<!--", u"<script>", u"</b>", u"<b>", u"&",
-        u"<iframe>", u"a<b>", u"<b><i></b>", u"<a href=x>", u"<img src=x>"}) {
+  for (const char16_t* piece : {u"<",
+                                u"<!",
+                                u"</3",
+                                u"<y ",
+                                u"<a '",
+                                u"<a b",
+                                u"<!--",
+                                u"<script>",
+                                u"</b>",
+                                u"<b>",
+                                u"&",
+                                u"<iframe>",
+                                u"a<b>",
+                                u"<b><i></b>",
+                                u"<a href=x>",
+                                u"<img src=x>",
+                                u"<math>",
+                                u"<math><mi></mi></math>",
+                                u"<audio>",
+                                u"<audio></audio>",
+                                u"<math><mfrac>"}) {
     std::u16string text;
     for (std::size_t i = 0; i < kCopies; ++i) text += piece;
     for (const char16_t* end : {u"", u">", u"'>"}) {

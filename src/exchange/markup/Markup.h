@@ -20,6 +20,8 @@ struct MarkupLosses {
   bool formatting = false;  ///< colours, lists, headings…
   bool table = false;       ///< now lines with bars between the cells
   bool executable = false;  ///< scripts, forms, embedded pages
+  bool formula = false;     ///< now a line of text
+  bool drawing = false;     ///< drawn by the page itself
 
   bool operator==(const MarkupLosses&) const = default;
 };

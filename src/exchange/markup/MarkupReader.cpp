@@ -2,6 +2,7 @@
 #include "exchange/markup/MarkupReader.h"
 
 #include "exchange/markup/Addresses.h"
+#include "exchange/markup/MathText.h"
 #include "text/AsciiCase.h"
 #include "text/HtmlEntities.h"
 #include "text/Utf.h"
@@ -20,6 +21,22 @@ bool IsTellingStyle(std::u16string_view style) {
   constexpr std::u16string_view kTelling[] = {u"color", u"font", u"background", u"decoration"};
   return std::any_of(std::begin(kTelling), std::end(kTelling),
                      [style](std::u16string_view word) { return style.find(word) != style.npos; });
+}
+
+/// The element that raises or lowers its text as the style does; null if the style does neither.
+const MarkupTag* ShiftOfStyle(std::u16string_view style) {
+  constexpr std::u16string_view kProperty = u"vertical-align:";
+  std::u16string plain = AsciiLower(style);
+  std::erase_if(plain, [](char16_t unit) { return unit <= u' '; });
+  const std::size_t at = plain.find(kProperty);
+  if (at == plain.npos) return nullptr;
+  const std::u16string_view value = std::u16string_view(plain).substr(at + kProperty.size());
+  if (value.starts_with(u"super")) return FindTag(u"sup");
+  return value.starts_with(u"sub") ? FindTag(u"sub") : nullptr;
+}
+
+bool IsFormula(std::u16string_view name) {
+  return EqualsIgnoringAsciiCase(name.substr(name.rfind(u':') + 1), u"math");  // not found: all of it
 }
 
 }  // namespace
@@ -120,6 +137,7 @@ void MarkupReader::ReadHidden(const PageToken& token) {
 }
 
 void MarkupReader::ReadElement(const PageToken& token) {
+  if (TakeFormula(token)) return;
   const MarkupTag* const row = token.isClosed ? FindTag(token.name.Of(text_)) : nullptr;
   const bool isUnknown = row == nullptr && token.isClosed && source_ == MarkupSource::Html;
   if (isUnknown) {
@@ -129,6 +147,43 @@ void MarkupReader::ReadElement(const PageToken& token) {
     Take(ReadTagAt(text_, token), *row);
   } else {
     TakeForText(token);
+  }
+}
+
+/// A formula becomes a line of text. False if this is none, or one without an end.
+bool MarkupReader::TakeFormula(const PageToken& token) {
+  const std::u16string_view name = token.name.Of(text_);
+  const bool isFormula = source_ == MarkupSource::Html && token.kind == PageTokenKind::BeginTag &&
+                         token.isClosed && IsFormula(name);
+  if (!isFormula || unended_.contains(AsciiLower(name))) return false;
+  const std::size_t end = FindEndTag(text_, token.span.end, name);
+  const std::size_t bracket = end == text_.npos ? end : text_.find(u'>', end);
+  if (bracket == text_.npos) {
+    unended_.insert(AsciiLower(name));
+    return false;
+  }
+  losses_.formula = true;
+  AddPieces(MathAsHtml(text_.substr(token.span.end, end - token.span.end)));
+  tokens_.GoTo(bracket + 1);
+  return true;
+}
+
+void MarkupReader::AddPieces(std::u16string_view html) {
+  for (const MarkupPiece& piece : MarkupReader(html, MarkupSource::Html).Read()) {
+    switch (piece.kind) {
+      case MarkupPieceKind::Text:
+        pieces_.AddText(piece.text);
+        break;
+      case MarkupPieceKind::LineBreak:
+        pieces_.AddLineBreak();
+        break;
+      case MarkupPieceKind::Open:
+        if (!pieces_.Open(*piece.tag)) losses_.formatting = true;
+        break;
+      case MarkupPieceKind::Close:
+        pieces_.Close(*piece.tag);
+        break;
+    }
   }
 }
 
@@ -156,9 +211,10 @@ void MarkupReader::Take(const ReadTag& tag, const MarkupTag& row) {
       return;
     case TagRole::Break:
       return pieces_.AddLineBreak();
+    case TagRole::Media:
+      return EndMedia(tag);
     case TagRole::Cell:
     case TagRole::Picture:
-    case TagRole::Media:
     case TagRole::Form:
     case TagRole::Removed:
       return;
@@ -181,8 +237,9 @@ void MarkupReader::TakeBegin(const ReadTag& tag, const MarkupTag& row) {
     case TagRole::Cell:
       return TakeCell(tag);
     case TagRole::Picture:
-    case TagRole::Media:
       return AddReference(tag.Value(u"src"), tag.Value(u"alt"));
+    case TagRole::Media:
+      return BeginMedia(tag);
     case TagRole::Link:
       return TakeLink(tag);
     case TagRole::Transparent:
@@ -203,8 +260,29 @@ void MarkupReader::TakeSpan(const ReadTag& tag) {
   }
   const std::u16string_view name = tag.Value(u"class");
   const MarkupTag* row = name.starts_with(kTagClass) ? FindTag(name.substr(kTagClass.size())) : nullptr;
+  if (row == nullptr) row = ShiftOfStyle(tag.Value(u"style"));
   if (row != nullptr && (row->role != TagRole::Kept || !pieces_.Open(*row))) row = nullptr;
   if (spans_.size() < kMostSpans) spans_.push_back(row);
+}
+
+void MarkupReader::BeginMedia(const ReadTag& tag) {
+  const bool holdsText = source_ == MarkupSource::Html && !EqualsIgnoringAsciiCase(tag.name, u"source");
+  if (holdsText && !media_) media_ = OpenMedia{pieces_.Mark(), references_.size()};
+  AddReference(tag.Value(u"src"), tag.Value(u"alt"));
+}
+
+/// What stands in an element for a sound or a clip is shown only where it cannot be played.
+void MarkupReader::EndMedia(const ReadTag& tag) {
+  if (!media_ || EqualsIgnoringAsciiCase(tag.name, u"source")) return;
+  const std::u16string inside = pieces_.TextFrom(media_->mark);
+  const std::u16string_view words = WithoutAround(inside, kSpace);
+  const auto begin = references_.begin() + static_cast<std::ptrdiff_t>(media_->references);
+  const bool isAddress = std::any_of(begin, references_.end(), [words](const MarkupReference& reference) {
+    return reference.address == words || FileNameIn(reference.address) == words;
+  });
+  if (!words.empty() && !isAddress) losses_.formatting = true;
+  pieces_.RemoveTextFrom(media_->mark);
+  media_.reset();
 }
 
 /// A link that is a file leaves the text, with its label if that is only the name of the file.
@@ -237,7 +315,11 @@ void MarkupReader::TellLoss(const ReadTag& tag, const MarkupTag& row) {
   const bool isActive = (row.role == TagRole::Removed || row.role == TagRole::Form) && row.isTold;
   if (row.name == u"table") {
     losses_.table = true;
-  } else if (isActive && row.name != u"style" && row.name != u"svg") {
+  } else if (row.name == u"math") {
+    losses_.formula = true;
+  } else if (row.name == u"svg") {
+    losses_.drawing = true;
+  } else if (isActive && row.name != u"style") {
     losses_.executable = true;
   } else if (row.isTold) {
     losses_.formatting = true;

@@ -7,6 +7,7 @@
 #include "text/PageTokens.h"
 
 #include <cstddef>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -37,15 +38,25 @@ class MarkupReader {
   void AddCharacter();
   void ReadHidden(const PageToken& token);
   void ReadElement(const PageToken& token);
+  bool TakeFormula(const PageToken& token);
+  void AddPieces(std::u16string_view html);
   void TakeForText(const PageToken& token);
   void Take(const ReadTag& tag, const MarkupTag& row);
   void TakeBegin(const ReadTag& tag, const MarkupTag& row);
   void TakeSpan(const ReadTag& tag);
+  void BeginMedia(const ReadTag& tag);
+  void EndMedia(const ReadTag& tag);
   void TakeLink(const ReadTag& tag);
   void TakeCell(const ReadTag& tag);
   void TellLoss(const ReadTag& tag, const MarkupTag& row);
   void SkipContent(const ReadTag& tag);
   void AddReference(std::u16string_view address, std::u16string_view label);
+
+  /// A sound or a clip that has begun.
+  struct OpenMedia {
+    std::size_t mark = 0;
+    std::size_t references = 0;  ///< how many were there before
+  };
 
   std::u16string_view text_;
   MarkupSource source_;
@@ -58,6 +69,7 @@ class MarkupReader {
   std::vector<const MarkupTag*> spans_;      ///< of open spans; null for one that is nothing but a span
   std::u16string linkAddress_;               ///< of the open link
   std::size_t linkMark_ = 0;
+  std::optional<OpenMedia> media_{};
   bool linkIsOpen_ = false;
   bool rowHasCells_ = false;
   int preDepth_ = 0;

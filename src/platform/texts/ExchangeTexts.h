@@ -103,6 +103,17 @@ constexpr int kExchangeMarkdownStays = 2658;
 constexpr int kExchangeBecameAlternatives = 2659;
 constexpr int kExchangeBecameBlanks = 2660;
 constexpr int kExchangeIsPaper = 2580;  // %2 is the name of a format
+constexpr int kExchangeFormula = 2700;
+constexpr int kExchangeDrawing = 2701;
+constexpr int kExchangeNestedTooDeeply = 2702;  // %1 is how deep elements may lie in each other
+constexpr int kExchangeBestOption = 2703;       // %1 is the option
+constexpr int kExchangeBlankNoRight = 2704;
+constexpr int kExchangeAllToChoose = 2705;  // %1 are the options
+constexpr int kExchangeBlankWeights = 2706;
+constexpr int kExchangeAnswerBegin = 2707;  // %1 is its begin
+constexpr int kExchangeUnits = 2708;        // %1 are their names
+constexpr int kExchangeMarkdown = 2709;
+constexpr int kExchangeLanguages = 2710;
 
 // Errors, and the windows for import and export
 constexpr int kExchangeNotOpen = 2271;  // "%1 cannot be read: %2", with what the system says
