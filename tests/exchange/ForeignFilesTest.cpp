@@ -276,6 +276,8 @@ TEST(ForeignFiles, MoodleXml) {
       "question 1: feedback and hints are left out\n"
       "question 3: feedback and hints are left out\n"
       "question 3: choices within the text become blanks, with the choices behind them\n"
+      "question 3: an answer that is partly right counts as right: c}\n"
+      "question 3: its blanks do not all score the same; an exam has one score for the whole question\n"
       "question 3: the answer is a number; the range that would count as right is left out: 3:1\n"
       "question 4: the answer is a number; the range that would count as right is left out: 5 \xC2\xB1 0.1\n"
       "question 5: the pairs become a fill-in question with a blank for each\n"
@@ -287,6 +289,148 @@ TEST(ForeignFiles, MoodleXml) {
   EXPECT_EQ(read.exam->title, u"My");
   EXPECT_EQ(read.exam->questions[0].score, 2.5);
   EXPECT_EQ(BytesOf(read.exam->questions[0].files[0]), "abcd");
+}
+
+std::string MoodleQuestion(const std::string& type, const std::string& text, const std::string& rest = "") {
+  return "<question type='" + type + "'><questiontext format='html'><text><![CDATA[" + text +
+         "]]></text></questiontext>" + rest + "</question>";
+}
+
+std::string MoodleAnswer(const std::string& fraction, const std::string& text) {
+  return "<answer fraction='" + fraction + "'><text><![CDATA[" + text + "]]></text></answer>";
+}
+
+struct MoodleRow {
+  std::string question;
+  const char* read;
+  const char* notes = "";
+};
+
+void ExpectReadInQuiz(std::span<const MoodleRow> rows) {
+  ForeignReader reader;
+  for (const MoodleRow& row : rows) {
+    const ForeignFile read = reader.Read("<quiz>" + row.question + "</quiz>");
+    EXPECT_EQ(read.questions, row.read) << row.question;
+    EXPECT_EQ(read.notes, row.notes) << row.question;
+  }
+}
+
+TEST(ForeignFiles, MoodleTrueFalse) {
+  const auto statement = [](const std::string& answers) { return MoodleQuestion("truefalse", "S", answers); };
+  const char* const isTrue = "choice S | +True | -False\n";
+  const char* const isFalse = "choice S | -True | +False\n";
+  const char* const isUnclear = "choice S | -True | -False\n";
+  const char* const told = "question 1: it has no right option\n";
+  const MoodleRow rows[] = {
+      {statement(MoodleAnswer("100", "<p>True</p>") + MoodleAnswer("0", "FALSE")), isTrue},
+      {statement(MoodleAnswer("0", "Wahr") + MoodleAnswer("100", "Falsch")), isFalse},
+      {statement(MoodleAnswer("100", "FALSE.") + MoodleAnswer("0", "true")), isFalse},
+      {statement(MoodleAnswer("100", "ВЕРНО") + MoodleAnswer("0", "x")), isTrue},
+      {statement(MoodleAnswer("0", "Kweli") + MoodleAnswer("100", "Uongo")), "choice S | -Kweli | +Uongo\n"},
+      {statement(MoodleAnswer("0", "true")), isFalse},
+      {statement(MoodleAnswer("100", "true") + MoodleAnswer("100", "false")), isUnclear, told},
+      {statement(MoodleAnswer("0", "true") + MoodleAnswer("0", "false")), isUnclear, told},
+      {statement(MoodleAnswer("100", "") + MoodleAnswer("0", "")), isUnclear, told},
+  };
+  ExpectReadInQuiz(rows);
+}
+
+TEST(ForeignFiles, MoodleCloze) {
+  const auto cloze = [](const std::string& text) { return MoodleQuestion("cloze", text); };
+  const std::string choices =
+      "question 1: choices within the text become blanks, with the choices behind them\n";
+  const std::string all =
+      choices + "question 1: several options of a blank have to be chosen; its answer is all of them: 2, 3\n";
+  const std::string best =
+      "question 1: an option that is partly right counts as wrong: b\n"
+      "question 1: no option is worth the whole score; the one that is worth most counts as right: c\n";
+  const std::string bestOfChoices = choices + best;
+  const MoodleRow rows[] = {
+      {cloze("1 {1:SA:=a} 2 {1:SA:~b} 3 {1:SA:=c}"), "fill 1 ____ 2 ____ 3 ____ | a |  | c\n",
+       "question 1: a blank has no right answer; its place stays empty\n"},
+      {cloze("{1:SA:%50%b~=a}"), "fill ____ | a, b\n",
+       "question 1: an answer that is partly right counts as right: b\n"},
+      {cloze("{1:MRH:=2~%100%3~4~%-50%6}"), "fill ____ (2 / 3 / 4 / 6) | 2, 3\n", all.c_str()},
+      {cloze("{1:MCV:a~%50%b~%90%c}"), "fill ____ (a / b / c) | c\n", bestOfChoices.c_str()},
+      {cloze("{mlang en}Sun{mlang} {mlang de}Sonne{mlang}: {1:SA:=a}"), "fill Sun / Sonne: ____ | a\n",
+       "question 1: it is there in several languages, which now stand side by side\n"},
+  };
+  ExpectReadInQuiz(rows);
+  ForeignReader reader;
+  const ForeignFile read = reader.Read("<quiz>" + cloze("{2:SA:=a} {2:SA:=b}") + "</quiz>");
+  EXPECT_EQ(read.exam->questions[0].score, 4);
+}
+
+TEST(ForeignFiles, MoodleParts) {
+  const std::string file = "<file name='f.png' encoding='base64'>YWJj</file>";
+  const std::string picture = "<![CDATA[<p><img src='@@PLUGINFILE@@/f.png'></p>]]>";
+  const auto choice = [](const std::string& rest) { return MoodleQuestion("multichoice", "Q", rest); };
+  const MoodleRow rows[] = {
+      {MoodleQuestion("matching", "M",
+                      "<subquestion format='html'><text>" + picture + "</text>" + file +
+                          "<answer><text>r</text></answer></subquestion><subquestion><text><![CDATA[<img "
+                          "src='@@PLUGINFILE@@/gone.png'>]]></text><answer><text>s</text></answer>"
+                          "</subquestion>"),
+       "fill M\\n(r / s)\\nf.png ____\\n\xE2\x80\xA6 ____ | r | s @f.png\n",
+       "question 1: the picture \xE2\x80\x9C"
+       "f.png\xE2\x80\x9D now stands below the text\n"
+       "question 1: what is not in the file is not fetched and is left out: @@PLUGINFILE@@/gone.png\n"
+       "question 1: the pairs become a fill-in question with a blank for each\n"},
+      {choice("<image>old/p.gif</image><image_base64>YWJj</image_base64>" + MoodleAnswer("100", "a")),
+       "choice Q | +a @p.gif\n"},
+      {choice("<image>old/p.gif</image>" + MoodleAnswer("100", "a")), "choice Q | +a\n",
+       "question 1: what is not in the file is not fetched and is left out: old/p.gif\n"},
+      {choice("<single>true</single>" + MoodleAnswer("50", "a") + MoodleAnswer("90", "b") +
+              MoodleAnswer("-25", "c")),
+       "choice Q | -a | +b | -c\n",
+       "question 1: no option is worth the whole score; the one that is worth most counts as right: b\n"
+       "question 1: an option that is partly right counts as wrong: a\n"},
+      {MoodleQuestion("essay", "E",
+                      "<responsetemplate format='html'><text>&lt;p>Dear&lt;/p></text>"
+                      "</responsetemplate>"),
+       "essay E\n", "question 1: the text that the answer begins with is left out: Dear\n"},
+      {MoodleQuestion("numerical", "N",
+                      MoodleAnswer("100", "9") + "<units><unit><unit_name>m</unit_name></unit></units>"),
+       "fill N | 9\n", "question 1: the units of its answer are left out: m\n"},
+      {MoodleQuestion("ddwtos", "[[1]], [[7]]", "<dragbox><text>H&lt;sub>2&lt;/sub></text></dragbox>"),
+       "fill ____, ____\\n(H<sub>2</sub>) | H<sub>2</sub> | \n",
+       "question 1: a blank has no right answer; its place stays empty\n"
+       "question 1: choices within the text become blanks, with the choices behind them\n"},
+      {MoodleQuestion("essay",
+                      "<span class='multilang' lang='en'>a <span>b</span></span>\n<span "
+                      "class=\"x multilang\" lang='de'>c</span> d"),
+       "essay a b / c d\n", "question 1: it is there in several languages, which now stand side by side\n"},
+      {"<question type='essay'><questiontext format='markdown'><text>2 * 3 ____ **b**</text></questiontext>"
+       "</question>",
+       "essay 2 * 3 ____ **b**\n", "question 1: it is written in Markdown, whose marks stay in the text\n"},
+      {"<question type='essay'><questiontext format='markdown'><text>2 * 3 - 4, # ____</text></questiontext>"
+       "</question>",
+       "essay 2 * 3 - 4, # ____\n"},
+  };
+  ExpectReadInQuiz(rows);
+}
+
+// Would not end in time that grows faster than the file.
+TEST(ForeignFiles, MoodleTakesTimeInProportionToTheFile) {
+  constexpr int kCopies = 100'000;
+  ForeignReader reader;
+  for (const char* piece : {"{1:SA:=a ", "\">{1:SA:=a}", "<img src='@@PLUGINFILE@@/x.png'>", "[[1",
+                            "{mlang x", "<span class=multilang>", "{mlang a}b{mlang}"}) {
+    std::string text;
+    for (int i = 0; i < kCopies; ++i) text += piece;
+    for (const char* type : {"cloze", "ddwtos"})
+      EXPECT_TRUE(reader.Read("<quiz>" + MoodleQuestion(type, text) + "</quiz>").exam) << piece;
+  }
+  std::string files;
+  std::string text;
+  for (int i = 0; i < kCopies / 4; ++i) {
+    const std::string name = std::to_string(i) + ".png";
+    files += "<file name='" + name + "'>YWJj</file>";
+    text += "&lt;img src='@@PLUGINFILE@@/" + name + "'&gt;&lt;img src='@@PLUGINFILE@@/x" + name + "'&gt;";
+  }
+  const ForeignFile read = reader.Read("<quiz><question type='essay'><questiontext><text>" + text +
+                                       "</text>" + files + "</questiontext></question></quiz>");
+  EXPECT_EQ(read.exam->questions[0].files.size(), 100);
 }
 
 TEST(ForeignFiles, MoodleXmlInOtherEncodings) {
@@ -410,7 +554,8 @@ TEST(ForeignFiles, AreBounded) {
   nested = "<quiz><question/>";
   for (int i = 0; i < 300; ++i) nested += "<a>";
   for (int i = 0; i < 300; ++i) nested += "</a>";
-  EXPECT_EQ(reader.Read(nested + "</quiz>").notes, "the file is damaged, or not what it seems to be\n");
+  EXPECT_EQ(reader.Read(nested + "</quiz>").notes,
+            "the elements of the file lie in each other more than 200 deep, which is not read\n");
 
   const std::string bomb(std::size_t{60} << 20, 'x');
   const std::string manifest =

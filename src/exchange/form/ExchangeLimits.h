@@ -11,5 +11,6 @@ inline constexpr std::size_t kMaxSourceFile = std::size_t{256} << 20;     ///< a
 inline constexpr std::size_t kMaxUnpackedFiles = std::size_t{512} << 20;  ///< all attached files together
 inline constexpr std::size_t kMaxReadText = 1'000'000;  ///< one text of a question, in UTF-16 code units
 inline constexpr std::size_t kMaxReadQuestions = 5000;  ///< of one file; more than an exam takes
+inline constexpr std::size_t kMaxReadFiles = 100;       ///< of one question; more than it takes in an exam
 
 }  // namespace quorvantis

@@ -2,7 +2,6 @@
 // Text with answers embedded in it: "The sky is {1:SHORTANSWER:=blue~=grey}."
 #pragma once
 
-#include "exchange/form/ExchangeNotes.h"
 #include "exchange/form/ExchangedExam.h"
 
 #include <string>
@@ -15,14 +14,9 @@ namespace quorvantis {
 std::u16string ClozeHtml(std::u16string_view examText, const std::vector<BlankAnswers>& blanks,
                          int blankScore);
 
-/// HTML without its embedded answers.
-struct ReadCloze {
-  std::u16string html;
-  std::vector<BlankAnswers> blanks;
-};
-
-/// Puts a blank in the place of every embedded answer. A choice becomes a blank with the options behind it,
-/// which is told, like feedback and ranges of numbers.
-ReadCloze ReadClozeHtml(std::u16string_view html, ExchangeNotes& notes);
+/// What importers take a backslash away from when the names of characters have been resolved.
+constexpr bool IsProtectedLate(char16_t unit) {
+  return unit == u'}' || unit == u'#';
+}
 
 }  // namespace quorvantis

@@ -1,22 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/form/Blanks.h"
 #include "exchange/form/ExchangeLimits.h"
 #include "exchange/form/MoodleConventions.h"
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
-#include "exchange/markup/Addresses.h"
-#include "exchange/markup/MarkupNotes.h"
-#include "exchange/moodle/ClozeText.h"
+#include "exchange/markup/Markup.h"
+#include "exchange/moodle/GapChoices.h"
+#include "exchange/moodle/MoodleFiles.h"
+#include "exchange/moodle/MoodleTexts.h"
 #include "exchange/moodle/MoodleXml.h"
-#include "exchange/xml/Base64.h"
-#include "exchange/xml/HtmlParts.h"
+#include "exchange/moodle/TrueFalseKey.h"
 #include "exchange/xml/XmlText.h"
 #include "platform/documents/XmlPart.h"
 #include "platform/texts/ExchangeTexts.h"
 #include "text/Utf.h"
 
 #include <algorithm>
-#include <map>
 
 namespace quorvantis {
 namespace {
@@ -25,55 +23,19 @@ bool IsTrueWord(std::u16string_view word) {
   return Trimmed(word) == u"true" || Trimmed(word) == u"1";
 }
 
-/// The files inside one element, kept when they are referred to.
-class FilesInside {
- public:
-  FilesInside(pugi::xml_node element, ReadingTools& tools) : tools_(tools) {
-    for (const pugi::xml_node file : ChildrenOf(element, "file"))
-      nodes_.emplace_back(TextOf(ValueOf(file, "name")), file);
-  }
-
-  std::optional<ExchangedFile> Find(std::u16string_view address) {
-    if (!address.starts_with(kMoodleFiles)) return std::nullopt;
-    const std::u16string name = FileNameIn(address);
-    const auto node = std::ranges::find(nodes_, name, &std::pair<std::u16string, pugi::xml_node>::first);
-    return node != nodes_.end() ? Keep(*node) : std::nullopt;
-  }
-
-  /// Those that nothing has referred to, too.
-  void TakeRest(ExchangedQuestion& question) {
-    for (const auto& node : nodes_) {
-      if (kept_.contains(node.first)) continue;
-      if (auto file = Keep(node)) question.files.push_back(std::move(*file));
-    }
-  }
-
- private:
-  std::optional<ExchangedFile> Keep(const std::pair<std::u16string, pugi::xml_node>& node) {
-    const auto known = kept_.find(node.first);
-    if (known != kept_.end()) return known->second;
-    const auto bytes = FromBase64(node.second.text().get());
-    if (!bytes) tools_.notes.Tell(text_id::kExchangePartNotRead, {node.first});
-    auto file = bytes ? tools_.files.Keep(node.first, *bytes) : std::nullopt;
-    kept_[node.first] = file;
-    return file;
-  }
-
-  ReadingTools& tools_;
-  std::vector<std::pair<std::u16string, pugi::xml_node>> nodes_;
-  std::map<std::u16string, std::optional<ExchangedFile>> kept_;
-};
-
 /// Reads one question.
 class MoodleQuestion {
  public:
-  MoodleQuestion(pugi::xml_node node, ReadingTools& tools) : node_(node), tools_(tools) {}
+  MoodleQuestion(pugi::xml_node node, ReadingTools& tools) : node_(node), tools_(tools), texts_(tools) {}
 
   bool Read(ExchangedQuestion& question) {
     const std::string_view type = ValueOf(node_, "type");
     const TypeRow* const row = std::ranges::find(kTypes, type, &TypeRow::type);
     if (row == std::end(kTypes)) return Refuse(type);
-    question.text = type == "cloze" ? ReadCloze(question) : TextIn(ChildOf(node_, "questiontext"), question);
+    const pugi::xml_node text = ChildOf(node_, "questiontext");
+    const bool isCloze = row->read == &MoodleQuestion::TakeCloze;
+    question.text = isCloze ? texts_.ReadCloze(text, question) : texts_.Read(text, question);
+    TakeOldPicture(node_, tools_, question);
     (this->*row->read)(question);
     ReadGrade(question);
     TellRest();
@@ -99,32 +61,6 @@ class MoodleQuestion {
     return false;
   }
 
-  /// What a text means depends on its format.
-  static ReadMarkup ReadAs(std::string_view format, std::u16string_view text) {
-    if (format == "plain_text" || format == "markdown") return {PlainToExamText(text), {}, {}};
-    return format == "moodle_auto_format" ? ReadExamText(text) : ReadHtml(text);
-  }
-
-  std::u16string TextIn(pugi::xml_node element, ExchangedQuestion& question) {
-    FilesInside files(element, tools_);
-    HtmlReading reading(tools_, [&files](std::u16string_view address) { return files.Find(address); });
-    std::u16string text =
-        reading.Take(ReadAs(ValueOf(element, "format"), ContentOfChild(element, "text")), question);
-    files.TakeRest(question);
-    return text;
-  }
-
-  std::u16string ReadCloze(ExchangedQuestion& question) {
-    const pugi::xml_node element = ChildOf(node_, "questiontext");
-    quorvantis::ReadCloze cloze = ReadClozeHtml(ContentOfChild(element, "text"), tools_.notes);
-    question.blanks = std::move(cloze.blanks);
-    FilesInside files(element, tools_);
-    HtmlReading reading(tools_, [&files](std::u16string_view address) { return files.Find(address); });
-    std::u16string text = reading.Read(cloze.html, question);
-    files.TakeRest(question);
-    return text;
-  }
-
   void TakeCloze(ExchangedQuestion& question) { question.kind = QuestionKind::FillIn; }
 
   std::vector<double> Fractions() const {
@@ -136,21 +72,32 @@ class MoodleQuestion {
 
   void TakeOptions(ExchangedQuestion& question) {
     question.kind = QuestionKind::Choice;
-    for (const pugi::xml_node answer : ChildrenOf(node_, "answer")) {
-      const std::size_t files = question.files.size();
-      question.options.push_back({TextIn(answer, question), false});
-      TellFilesOfOption(question, files, tools_.notes);
-    }
-    DecideRights(Fractions(), question.options, tools_.notes);
+    for (const pugi::xml_node answer : ChildrenOf(node_, "answer"))
+      question.options.push_back({texts_.ReadPart(answer, question), false});
+    std::vector<double> fractions = Fractions();
+    if (IsTrueWord(ContentOfChild(node_, "single"))) RaiseBest(fractions, question.options);
+    DecideRights(fractions, question.options, tools_.notes);
   }
 
-  void TakeTrueFalse(ExchangedQuestion& question) {
-    bool isTrue = false;
+  /// Where one option is to be chosen and none scores all, that is right which scores most.
+  void RaiseBest(std::vector<double>& fractions, const std::vector<ExchangedOption>& options) {
+    const auto best = std::max_element(fractions.begin(), fractions.end());
+    if (best == fractions.end() || *best <= 0 || *best >= kFullFraction) return;
+    if (std::count(fractions.begin(), fractions.end(), *best) > 1) return;
+    *best = 100;
+    const auto number = static_cast<std::size_t>(best - fractions.begin());
+    tools_.notes.Tell(text_id::kExchangeBestOption, {Excerpt(options[number].text)});
+  }
+
+  void ReadTrueFalse(ExchangedQuestion& question) {
+    const std::vector<double> fractions = Fractions();
+    const double most = fractions.empty() ? 0 : *std::max_element(fractions.begin(), fractions.end());
+    std::vector<ExchangedOption> answers;
     for (const pugi::xml_node answer : ChildrenOf(node_, "answer")) {
-      const bool isRight = NumberIn(ValueOf(answer, "fraction"), 0) > 0;
-      if (isRight) isTrue = Trimmed(ContentOfChild(answer, "text")) == u"true";
+      const double fraction = fractions[answers.size()];
+      answers.push_back({texts_.ReadPart(answer, question), fraction > 0 && fraction >= most});
     }
-    MakeTrueFalse(isTrue, tools_.strings, question);
+    TakeTrueFalse(answers, tools_.strings, question, tools_.notes);
   }
 
   void TakeAlternatives(ExchangedQuestion& question) {
@@ -173,59 +120,62 @@ class MoodleQuestion {
       if (NumberIn(Utf16ToUtf8(margin), 0) != 0)
         tools_.notes.Tell(text_id::kExchangeTolerance, {ContentOfChild(answer, "text") + u" ± " + margin});
     }
+    TellUnits();
+  }
+
+  void TellUnits() {
+    std::u16string names;
+    for (const pugi::xml_node unit : ChildrenOf(ChildOf(node_, "units"), "unit")) {
+      const std::u16string name(Trimmed(ContentOfChild(unit, "unit_name")));
+      if (!name.empty()) names.append(names.empty() ? u"" : u", ").append(name);
+    }
+    if (!names.empty()) tools_.notes.Tell(text_id::kExchangeUnits, {Excerpt(names)});
   }
 
   void TakeEssay(ExchangedQuestion& question) {
     const bool isOral = Trimmed(ContentOfChild(node_, "responseformat")) == u"noinline" &&
                         Trimmed(ContentOfChild(node_, "attachmentsrequired")) == u"1";
     question.kind = isOral ? QuestionKind::Oral : QuestionKind::Essay;
-    const pugi::xml_node information = ChildOf(node_, "graderinfo");
-    const ReadMarkup read = ReadAs(ValueOf(information, "format"), ContentOfChild(information, "text"));
-    TellMarkupLosses(read.losses, tools_.notes);
+    const ReadMarkup read = texts_.ReadAlone(ChildOf(node_, "graderinfo"));
     // Its pictures are no part of the question, which pupils see.
     for (const MarkupReference& reference : read.references)
       tools_.notes.Tell(text_id::kExchangeReferenceLost, {Excerpt(reference.address)});
     question.modelAnswer = read.text;
+    TellAnswerBegin();
+  }
+
+  /// Tells of what stands in the field for the answer before a pupil writes into it.
+  void TellAnswerBegin() {
+    const pugi::xml_node begin = ChildOf(node_, "responsetemplate");
+    if (!HasText(begin)) return;
+    const std::u16string words = ExamTextToPlain(texts_.ReadAlone(begin).text);
+    if (!words.empty()) tools_.notes.Tell(text_id::kExchangeAnswerBegin, {Excerpt(words)});
   }
 
   void TakePairs(ExchangedQuestion& question) {
     std::vector<std::pair<std::u16string, std::u16string>> pairs;
     for (const pugi::xml_node pair : ChildrenOf(node_, "subquestion"))
-      pairs.emplace_back(TextIn(pair, question),
+      pairs.emplace_back(LeftOf(pair, question),
                          PlainToExamText(ContentOfChild(ChildOf(pair, "answer"), "text")));
     MakeMatching(pairs, question, tools_.notes);
   }
 
-  /// "[[1]]" in the text is the place of a choice, numbered from 1 on.
-  void TakeGaps(ExchangedQuestion& question) {
-    question.kind = QuestionKind::FillIn;
+  /// A pair without a left side is a wrong right side, but one whose picture is missing is not.
+  std::u16string LeftOf(pugi::xml_node pair, ExchangedQuestion& question) {
+    std::u16string left = texts_.ReadPart(pair, question);
+    const bool isMissing = left.empty() && ContentOfChild(pair, "text").find(u"<img") != left.npos;
+    return isMissing ? std::u16string(u"…") : left;
+  }
+
+  void ReadGaps(ExchangedQuestion& question) {
     std::vector<std::u16string> choices;
     for (const pugi::xml_node choice : node_.children()) {
-      if (LocalName(choice) == "selectoption" || LocalName(choice) == "dragbox")
+      // What is dragged may have markup; a list to choose from shows characters.
+      if (LocalName(choice) == "dragbox") choices.push_back(texts_.ReadAlone(choice).text);
+      if (LocalName(choice) == "selectoption")
         choices.push_back(PlainToExamText(ContentOfChild(choice, "text")));
     }
-    std::u16string text;
-    const std::u16string source = std::move(question.text);
-    for (std::size_t at = 0; at < source.size();) {
-      const std::size_t begin = std::min(source.find(u"[[", at), source.size());
-      const std::size_t end = source.find(u"]]", begin);
-      text.append(source, at, begin - at);
-      if (end == source.npos) {
-        text.append(source, begin);
-        break;
-      }
-      const auto number = static_cast<std::size_t>(
-          NumberIn(Utf16ToUtf8(source.substr(begin + 2, std::min<std::size_t>(end - begin - 2, 8))), 0));
-      text += kBlank;
-      question.blanks.push_back(number >= 1 && number <= choices.size() ? BlankAnswers{choices[number - 1]}
-                                                                        : BlankAnswers{});
-      at = end + 2;
-    }
-    question.text = text;
-    for (std::size_t i = 0; i < choices.size(); ++i)
-      question.text += (i == 0 ? u"\r\n(" : u" / ") + choices[i];
-    if (!choices.empty()) question.text += u")";
-    tools_.notes.Tell(text_id::kExchangeInlineChoices);
+    TakeGaps(choices, question, tools_.notes);
   }
 
   void ReadGrade(ExchangedQuestion& question) {
@@ -248,15 +198,16 @@ class MoodleQuestion {
 
   pugi::xml_node node_;
   ReadingTools& tools_;
+  MoodleTexts texts_;
 };
 
 const MoodleQuestion::TypeRow MoodleQuestion::kTypes[] = {
     {"multichoice", &MoodleQuestion::TakeOptions}, {"multichoiceset", &MoodleQuestion::TakeOptions},
-    {"truefalse", &MoodleQuestion::TakeTrueFalse}, {"shortanswer", &MoodleQuestion::TakeAlternatives},
+    {"truefalse", &MoodleQuestion::ReadTrueFalse}, {"shortanswer", &MoodleQuestion::TakeAlternatives},
     {"numerical", &MoodleQuestion::TakeNumbers},   {"essay", &MoodleQuestion::TakeEssay},
     {"matching", &MoodleQuestion::TakePairs},      {"cloze", &MoodleQuestion::TakeCloze},
-    {"multianswer", &MoodleQuestion::TakeCloze},   {"gapselect", &MoodleQuestion::TakeGaps},
-    {"ddwtos", &MoodleQuestion::TakeGaps},
+    {"multianswer", &MoodleQuestion::TakeCloze},   {"gapselect", &MoodleQuestion::ReadGaps},
+    {"ddwtos", &MoodleQuestion::ReadGaps},
 };
 
 /// Reads the questions of one file.

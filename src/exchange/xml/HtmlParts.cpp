@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/xml/HtmlParts.h"
 
+#include "exchange/form/ExchangeLimits.h"
 #include "exchange/markup/Addresses.h"
 #include "exchange/markup/MarkupNotes.h"
 #include "exchange/xml/Base64.h"
@@ -74,6 +75,19 @@ void TellFilesOfOption(const ExchangedQuestion& question, std::size_t first, Exc
     notes.Tell(text_id::kExchangePictureMoved, {question.files[i].name});
 }
 
+std::u16string NamesOfFiles(const ExchangedQuestion& question, std::size_t first) {
+  std::u16string names;
+  for (std::size_t i = first; i < question.files.size(); ++i)
+    names.append(i == first ? u"" : u", ").append(question.files[i].name);
+  return PlainToExamText(names);
+}
+
+bool TakesFile(const ExchangedQuestion& question, std::u16string_view name, ExchangeNotes& notes) {
+  if (question.files.size() < kMaxReadFiles) return true;
+  notes.Tell(text_id::kExchangeTooManyFiles, {Excerpt(name)});
+  return false;
+}
+
 std::u16string HtmlReading::Read(std::u16string_view html, ExchangedQuestion& question) {
   return Take(ReadHtml(html), question);
 }
@@ -81,6 +95,7 @@ std::u16string HtmlReading::Read(std::u16string_view html, ExchangedQuestion& qu
 std::u16string HtmlReading::Take(ReadMarkup read, ExchangedQuestion& question) {
   TellMarkupLosses(read.losses, tools_.notes);
   for (const MarkupReference& reference : read.references) {
+    if (!TakesFile(question, FileNameIn(reference.address), tools_.notes)) continue;
     auto file = FileOf(reference.address);
     if (!file) {
       tools_.notes.Tell(text_id::kExchangeNotFetched, {Excerpt(reference.address)});

@@ -5,6 +5,7 @@
 #include "exchange/form/Format.h"
 #include "exchange/markup/Markup.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,12 @@ std::u16string HtmlOfFiles(const std::vector<ExchangedFile>& files, const std::v
 
 /// Tells that the files of `question` from number `first` on, which an option had, now stand below the text.
 void TellFilesOfOption(const ExchangedQuestion& question, std::size_t first, ExchangeNotes& notes);
+
+/// The names of the files of `question` from number `first` on, for a place that has nothing but them.
+std::u16string NamesOfFiles(const ExchangedQuestion& question, std::size_t first);
+
+/// Whether a question that is read takes the file `name`, too. One that exceeds what any exam takes is told.
+bool TakesFile(const ExchangedQuestion& question, std::u16string_view name, ExchangeNotes& notes);
 
 /// Reads the HTML of one question, and collects the files that it refers to.
 class HtmlReading {

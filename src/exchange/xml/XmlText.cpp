@@ -182,8 +182,12 @@ bool ParseForeignXml(std::string bytes, pugi::xml_document& document, ExchangeNo
   const bool isText = ToUtf8(bytes, notes);
   const auto parsed = document.load_buffer(bytes.data(), bytes.size(), kOptions,
                                            isText ? pugi::encoding_utf8 : pugi::encoding_auto);
-  if (parsed && !IsNestedTooDeeply(document)) return true;
-  notes.Tell(text_id::kExchangeDamaged);
+  if (!parsed) {
+    notes.Tell(text_id::kExchangeDamaged);
+    return false;
+  }
+  if (!IsNestedTooDeeply(document)) return true;
+  notes.Tell(text_id::kExchangeNestedTooDeeply, {FormatInteger(kMostNestedXml)});
   return false;
 }
 
