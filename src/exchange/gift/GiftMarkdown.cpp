@@ -5,7 +5,9 @@
 #include "text/HtmlEscape.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <vector>
 
 namespace quorvantis {
 namespace {
