@@ -42,8 +42,7 @@ std::u16string MoodleTexts::Read(pugi::xml_node element, ExchangedQuestion& ques
 std::u16string MoodleTexts::ReadPart(pugi::xml_node element, ExchangedQuestion& question) const {
   const std::size_t first = question.files.size();
   std::u16string text = Read(element, question);
-  TellFilesOfOption(question, first, tools_.notes);
-  return text.empty() ? NamesOfFiles(question, first) : text;
+  return TextOfPart(std::move(text), question, first, tools_.notes);
 }
 
 std::u16string MoodleTexts::ReadCloze(pugi::xml_node element, ExchangedQuestion& question) const {

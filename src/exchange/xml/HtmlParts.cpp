@@ -75,7 +75,10 @@ void TellFilesOfOption(const ExchangedQuestion& question, std::size_t first, Exc
     notes.Tell(text_id::kExchangePictureMoved, {question.files[i].name});
 }
 
-std::u16string NamesOfFiles(const ExchangedQuestion& question, std::size_t first) {
+std::u16string TextOfPart(std::u16string text, const ExchangedQuestion& question, std::size_t first,
+                          ExchangeNotes& notes) {
+  TellFilesOfOption(question, first, notes);
+  if (!text.empty()) return text;
   std::u16string names;
   for (std::size_t i = first; i < question.files.size(); ++i)
     names.append(i == first ? u"" : u", ").append(question.files[i].name);

@@ -30,8 +30,10 @@ std::u16string HtmlOfFiles(const std::vector<ExchangedFile>& files, const std::v
 /// Tells that the files of `question` from number `first` on, which an option had, now stand below the text.
 void TellFilesOfOption(const ExchangedQuestion& question, std::size_t first, ExchangeNotes& notes);
 
-/// The names of the files of `question` from number `first` on, for a place that has nothing but them.
-std::u16string NamesOfFiles(const ExchangedQuestion& question, std::size_t first);
+/// The text of an option or another part of `question` whose files are those from number `first` on. Where it
+/// has no text, their names stand for them. Tells that they now stand below the text of the question.
+std::u16string TextOfPart(std::u16string text, const ExchangedQuestion& question, std::size_t first,
+                          ExchangeNotes& notes);
 
 /// Whether a question that is read takes the file `name`, too. One that exceeds what any exam takes is told.
 bool TakesFile(const ExchangedQuestion& question, std::u16string_view name, ExchangeNotes& notes);
