@@ -500,6 +500,22 @@ TEST(ForeignFiles, Qti2WithSounds) {
   EXPECT_EQ(read.notes, "question 1: its formatting is simplified\n");  // names with a prefix are no HTML
 }
 
+TEST(ForeignFiles, Qti2WithPairsOfPictures) {
+  ForeignReader reader;
+  const ForeignFile read = reader.Read(Package(
+      {{"imsmanifest.xml",
+        "<manifest><resources><resource type='imsqti_item_xmlv2p1' href='i.xml'/></resources></manifest>"},
+       {"i.xml",
+        "<assessmentItem><responseDeclaration identifier='R'><correctResponse><value>a "
+        "b</value></correctResponse></responseDeclaration><itemBody><matchInteraction "
+        "responseIdentifier='R'><prompt>M</prompt><simpleMatchSet><simpleAssociableChoice "
+        "identifier='a'><img src='f.png'/></simpleAssociableChoice></simpleMatchSet><simpleMatchSet>"
+        "<simpleAssociableChoice identifier='b'>flag</simpleAssociableChoice></simpleMatchSet>"
+        "</matchInteraction></itemBody></assessmentItem>"},
+       {"f.png", "x"}}));
+  EXPECT_EQ(read.questions, "fill M\\n(flag)\\nf.png ____ | flag @f.png\n");
+}
+
 TEST(ForeignFiles, Qti1) {
   ForeignReader reader;
   const ForeignFile read = reader.Read(

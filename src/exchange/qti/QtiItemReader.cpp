@@ -82,6 +82,12 @@ std::u16string QtiItemReader::Html(pugi::xml_node element, ExchangedQuestion& qu
   return html_.Read(hasElements ? html : EscapeHtml(html), question);
 }
 
+std::u16string QtiItemReader::PartOf(pugi::xml_node element, ExchangedQuestion& question) {
+  const std::size_t first = question.files.size();
+  std::u16string text = Html(element, question);
+  return TextOfPart(std::move(text), question, first, tools_.notes);
+}
+
 /// Sounds and other media are objects, which a page would run.
 void QtiItemReader::MakeLinksOfObjects() {
   for (pugi::xml_node object : ElementsBelow(body_, {"object"})) {
@@ -177,9 +183,7 @@ void QtiItemReader::TakeChoices(pugi::xml_node interaction, ExchangedQuestion& q
     }
     const bool isRight = std::ranges::find(correct, ValueOf(choice, "identifier")) != correct.end();
     hasRight = hasRight || isRight;
-    const std::size_t files = question.files.size();
-    question.options.push_back({Html(choice, question), isRight});
-    TellFilesOfOption(question, files, tools_.notes);
+    question.options.push_back({PartOf(choice, question), isRight});
   }
   if (!hasRight && !question.options.empty()) tools_.notes.Tell(text_id::kExchangeNoRightRead);
 }
@@ -189,14 +193,14 @@ void QtiItemReader::TakePairs(pugi::xml_node interaction, ExchangedQuestion& que
   if (sets.size() != 2) return;
   std::map<std::string, std::u16string> rights;
   for (const pugi::xml_node choice : ChildrenOf(sets[1], "simpleAssociableChoice"))
-    rights[std::string(ValueOf(choice, "identifier"))] = Html(choice, question);
+    rights[std::string(ValueOf(choice, "identifier"))] = PartOf(choice, question);
   const std::vector<std::string> correct = Correct(ValueOf(interaction, "responseIdentifier"));
   for (const pugi::xml_node choice : ChildrenOf(sets[0], "simpleAssociableChoice")) {
     const std::string begin = std::string(ValueOf(choice, "identifier")) + " ";
     const auto pair = std::ranges::find_if(
         correct, [&begin](const std::string& value) { return value.starts_with(begin); });
     const auto right = pair != correct.end() ? rights.find(pair->substr(begin.size())) : rights.end();
-    pairs_.emplace_back(Html(choice, question), right != rights.end() ? right->second : std::u16string());
+    pairs_.emplace_back(PartOf(choice, question), right != rights.end() ? right->second : std::u16string());
   }
 }
 

@@ -23,6 +23,7 @@ class QtiItemReader {
   pugi::xml_node Declaration(std::string_view identifier) const;
   std::vector<std::string> Correct(std::string_view identifier) const;
   std::u16string Html(pugi::xml_node element, ExchangedQuestion& question);
+  std::u16string PartOf(pugi::xml_node element, ExchangedQuestion& question);
   void MakeLinksOfObjects();
   void TakeRubrics(ExchangedQuestion& question);
   void TakeInline(ExchangedQuestion& question);
