@@ -384,7 +384,8 @@ TEST(ForeignFiles, MoodleParts) {
               MoodleAnswer("-25", "c")),
        "choice Q | -a | +b | -c\n",
        "question 1: no option is worth the whole score; the one that is worth most counts as right: b\n"
-       "question 1: an option that is partly right counts as wrong: a\n"},
+       "question 1: an option that is partly right counts as wrong: a\n"
+       "question 1: how wrong and partly right answers score is simplified\n"},
       {MoodleQuestion("essay", "E",
                       "<responsetemplate format='html'><text>&lt;p>Dear&lt;/p></text>"
                       "</responsetemplate>"),
