@@ -106,7 +106,11 @@ class MoodleQuestion {
     for (const pugi::xml_node answer : ChildrenOf(node_, "answer")) {
       const std::u16string text = ContentOfChild(answer, "text");
       const double fraction = NumberIn(ValueOf(answer, "fraction"), 0);
-      if (fraction <= 0 || Trimmed(text).empty()) continue;
+      if (Trimmed(text).empty()) continue;
+      if (fraction <= 0) {
+        if (Trimmed(text) != u"*") tools_.notes.Tell(text_id::kExchangeWrongAnswer, {Excerpt(text)});
+        continue;
+      }
       if (fraction < kFullFraction) tools_.notes.Tell(text_id::kExchangePartlyRightAnswer, {Excerpt(text)});
       answers.push_back(PlainToExamText(WithoutProtectedStars(text, tools_.notes)));
     }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/moodle/MoodleTexts.h"
 
+#include "exchange/markup/MarkdownText.h"
 #include "exchange/markup/MarkupNotes.h"
 #include "exchange/moodle/ClozeReading.h"
 #include "exchange/moodle/Languages.h"
-#include "exchange/moodle/MarkdownMarks.h"
 #include "exchange/moodle/MoodleFiles.h"
 #include "exchange/xml/HtmlParts.h"
 #include "exchange/xml/XmlText.h"
@@ -17,8 +17,11 @@ namespace quorvantis {
 
 /// What a text means depends on its format.
 ReadMarkup MoodleTexts::ReadAs(std::string_view format, std::u16string_view text) const {
-  if (format == "markdown" && HasMarkdownMarks(text)) tools_.notes.Tell(text_id::kExchangeMarkdown);
-  if (format == "plain_text" || format == "markdown") return {PlainToExamText(text), {}, {}};
+  if (format == "plain_text") return {PlainToExamText(text), {}, {}};
+  if (format == "markdown") {
+    if (HasMarkdownBlocks(text)) tools_.notes.Tell(text_id::kExchangeMarkdownStays);
+    return ReadHtml(MarkdownToHtml(text));
+  }
   const auto sideBySide = InOneLanguage(text);
   if (sideBySide) text = *sideBySide;
   return format == "moodle_auto_format" ? ReadExamText(text) : ReadHtml(text);

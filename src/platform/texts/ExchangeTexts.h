@@ -108,7 +108,6 @@ constexpr int kExchangeAllToChoose = 2705;  // %1 are the options
 constexpr int kExchangeBlankWeights = 2706;
 constexpr int kExchangeAnswerBegin = 2707;  // %1 is its begin
 constexpr int kExchangeUnits = 2708;        // %1 are their names
-constexpr int kExchangeMarkdown = 2709;
 constexpr int kExchangeLanguages = 2710;
 
 // Errors, and the windows for import and export

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/gift/GiftMarkdown.h"
+#include "exchange/markup/MarkdownText.h"
 
 #include "exchange/form/TextSource.h"
 #include "text/HtmlEscape.h"
