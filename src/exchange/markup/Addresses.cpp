@@ -74,9 +74,9 @@ std::u16string PackageName(std::u16string_view name) {
 bool WasCalled(std::u16string_view packageName, std::u16string_view name) {
   const bool isName = !name.empty() && name.find_first_of(u"/\\") == name.npos &&
                       std::all_of(name.begin(), name.end(), [](char16_t unit) { return unit >= u' '; });
-  const std::u16string safe = PackageName(name);
-  if (!isName || !packageName.ends_with(safe)) return false;
-  std::u16string_view number = packageName.substr(0, packageName.size() - safe.size());
+  const bool endsWithName = packageName.ends_with(name) || packageName.ends_with(PackageName(name));
+  if (!isName || !endsWithName) return false;
+  std::u16string_view number = packageName.substr(0, packageName.size() - name.size());
   if (number.empty()) return true;
   return number.size() > 1 && number.ends_with(u'-') &&
          number.find_first_not_of(u"0123456789") == number.size() - 1;

@@ -20,7 +20,8 @@ std::u16string FileNameIn(std::u16string_view address);
 /// escape addresses once more, or unpack names to disks that take fewer characters.
 std::u16string PackageName(std::u16string_view name);
 
-/// Whether a file of a package, which may have a number and "-" in front, was called `name` before.
+/// Whether a file of a package, which may have a number and "-" in front, was called `name` before, with or
+/// without PackageName().
 bool WasCalled(std::u16string_view packageName, std::u16string_view name);
 
 /// A name as part of an address.
