@@ -5,6 +5,7 @@
 #include "exchange/form/Points.h"
 #include "exchange/markup/Markup.h"
 #include "exchange/xml/HtmlParts.h"
+#include "text/AsciiCase.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
 
@@ -17,8 +18,12 @@ std::string CanvasHtml(std::u16string_view text) {
   return Utf16ToUtf8(ExamTextToHtml(text, HtmlDialect::Html));
 }
 
-std::string BlankName(std::size_t blank) {
-  return "blank" + std::to_string(blank + 1);
+/// What the names of blanks begin with: nothing that stands in brackets in the text already.
+std::string BeginOfBlankNames(std::u16string_view text) {
+  const std::u16string lower = AsciiLower(text);
+  std::string begin = "blank";
+  while (lower.find(u"[" + Utf8ToUtf16(begin)) != lower.npos) begin.push_back('x');
+  return begin;
 }
 
 std::string LabelOf(std::size_t index) {
@@ -29,7 +34,10 @@ std::string LabelOf(std::size_t index) {
 class CanvasItem {
  public:
   CanvasItem(const ExchangedQuestion& question, const std::vector<std::string>& addresses, XmlWriter& xml)
-      : question_(question), addresses_(addresses), xml_(xml) {}
+      : question_(question),
+        addresses_(addresses),
+        xml_(xml),
+        blankNames_(BeginOfBlankNames(ExamTextToPlain(question.text))) {}
 
   void Write(const std::string& identifier) {
     xml_.Begin("item", {{"ident", identifier}, {"title", std::to_string(question_.number)}});
@@ -46,6 +54,7 @@ class CanvasItem {
  private:
   bool HasSeveralBlanks() const { return question_.blanks.size() > 1; }
   bool HasModelAnswer() const { return !question_.modelAnswer.empty(); }
+  std::string BlankName(std::size_t blank) const { return blankNames_ + std::to_string(blank + 1); }
 
   std::size_t Rights() const {
     return static_cast<std::size_t>(std::ranges::count_if(question_.options, &ExchangedOption::isRight));
@@ -240,6 +249,7 @@ class CanvasItem {
   const ExchangedQuestion& question_;
   const std::vector<std::string>& addresses_;
   XmlWriter& xml_;
+  std::string blankNames_;
 };
 
 }  // namespace
