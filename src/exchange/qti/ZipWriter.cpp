@@ -2,13 +2,14 @@
 #include "exchange/qti/ZipWriter.h"
 
 #include <algorithm>
-#include <ctime>
 #include <zip.h>
 
 namespace quorvantis {
 namespace {
 
-constexpr std::time_t kTimeOfParts = 946'728'000;  // noon of the first day of 2000, in any zone
+// The first day of 2000 at noon, as archives keep it: without a time zone, so that none changes the bytes.
+constexpr zip_uint16_t kDateOfParts = ((2000 - 1980) << 9) + (1 << 5) + 1;
+constexpr zip_uint16_t kTimeOfParts = 12 << 11;
 
 }  // namespace
 
@@ -36,7 +37,7 @@ void ZipWriter::Add(const std::string& name, std::string bytes, bool isCompresse
   if (index < 0) return ::zip_source_free(source);
   const auto entry = static_cast<zip_uint64_t>(index);
   if (isCompressed) ::zip_set_file_compression(archive_, entry, ZIP_CM_STORE, 0);
-  ::zip_file_set_mtime(archive_, entry, kTimeOfParts, 0);
+  ::zip_file_set_dostime(archive_, entry, kTimeOfParts, kDateOfParts, 0);
 }
 
 std::string ZipWriter::Finish() {
