@@ -76,6 +76,8 @@ class RandomExam {
                                               u"{1:SA:=x}",
                                               u"[[1]]",
                                               u"[x]",
+                                              u"[blank1]",
+                                              u"[Blankx2]",
                                               u"*",
                                               u"T",
                                               u"/",
@@ -103,6 +105,9 @@ class RandomExam {
     if (question.kind == QuestionKind::Essay && Chance(2)) question.modelAnswer = Text();
     if (Chance(2)) question.score = static_cast<double>(random_() % 40) / 4;
     for (std::size_t i = random_() % 3; i > 0; --i) AddFile(question);
+    const bool hasOthers =
+        !question.options.empty() || question.blanks.size() == 1 || !question.files.empty();
+    if (hasOthers && question.blanks.size() < 2 && Chance(8)) question.text.clear();
     return question;
   }
 
@@ -125,12 +130,14 @@ class RandomExam {
     std::vector<std::u16string> answers;
     for (std::size_t i = random_() % 4; i > 0; --i)
       answers.push_back(!answers.empty() && Chance(4) ? answers.back() : Answer() + Utf8Number());
+    if (answers.size() > 1 && Chance(3)) answers[random_() % answers.size()].clear();
     question.blanks = ByBlank(question.text, answers);
   }
 
   void AddFile(ExchangedQuestion& question) {
     static const char16_t* const kEnds[] = {u".png", u".pdf", u" b.jpg", u".ogg", u"&é%20.gif", u""};
-    const std::u16string name = u"f" + PlainToExamText(Utf8Number()) + kEnds[random_() % std::size(kEnds)];
+    std::u16string name = u"f" + PlainToExamText(Utf8Number()) + kEnds[random_() % std::size(kEnds)];
+    if (!question.files.empty() && Chance(3)) name = question.files.back().name;
     std::string bytes;
     for (std::size_t i = random_() % 200; i > 0; --i) bytes.push_back(static_cast<char>(random_() % 256));
     question.files.push_back({name, WriteBytes(folder_ / ("f" + std::to_string(files_)), bytes)});

@@ -130,13 +130,14 @@ TEST(ExamAndExchange, AreTheSame) {
     ExchangedExam exam = RandomExam(folder.Path(), seed).Make(5);
     for (ExchangedQuestion& question : exam.questions) question.score.reset();
     exam.questions.back().score = 2.5;
+    if (exam.questions.back().text.empty()) exam.questions.back().text = u"t";  // or it does not count
     exam.title = PlainToExamText(ExamTextToPlain(exam.title));
     FrameSetExam document(world.services);
     document.SetHostMode(1);
     ExchangeNotes notes;
     EXPECT_EQ(StoreExchanged(exam, document, 1, notes), 6);
     EXPECT_TRUE(notes.All().empty()) << Utf16ToUtf8(NoteLine(notes.All()[0], BuiltInStrings()));
-    EXPECT_EQ(Description(ExamToExchange(document, notes)), Description(exam)) << seed;
+    EXPECT_EQ(Difference(Description(ExamToExchange(document, notes)), Description(exam)), "") << seed;
   }
 }
 

@@ -20,6 +20,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 
 namespace quorvantis::test {
 namespace {
@@ -70,11 +71,14 @@ class WildExam {
     if (Chance(4)) question.options[random_() % kOptionCount].clear();
     if (Chance(6)) question.text.clear();
     if (Chance(6)) question.answerText += u"<@>more <b>bold</b>";
+    if (Chance(6)) question.answerText += u"<@>";
+    if (Chance(6)) question.answerText.insert(0, u"<@>");
     Spoil(question.answerText);
     Spoil(question.essayAnswer);
     if (Chance(12)) question.attachmentNames[0] = u"../of: another*.png";
     if (Chance(12)) question.attachmentPaths[0] = u"/nowhere";
     if (Chance(12)) question.kind = static_cast<QuestionKind>(random_() % 6);
+    if (Chance(6)) question.oralFlag = 1;
   }
 
   std::filesystem::path folder_;
@@ -94,6 +98,8 @@ std::vector<std::u16string> PartsOfQuestion(const ExamQuestion& question) {
   }
   if (keeps.fillIn) parts.push_back(u"answers " + question.answerText);
   if (keeps.essay) parts.push_back(u"model " + question.essayAnswer);
+  const bool isMuted = question.oralFlag == 1 && !question.attachmentPaths[0].empty();
+  parts.emplace_back(isMuted ? u"muted" : u"not muted");
   for (std::size_t i = 0; i < kMaxAttachments && !question.attachmentPaths[i].empty(); ++i) {
     parts.push_back(u"file " + question.attachmentNames[i]);
     parts.push_back(u"bytes " + Utf8ToUtf16(ReadBytes(TextToPath(question.attachmentPaths[i]))));
@@ -108,6 +114,27 @@ std::string FirstDifference(const ExamQuestion& before, const ExamQuestion& afte
   b.resize(a.size());
   for (std::size_t i = 0; i < a.size(); ++i) {
     if (a[i] != b[i]) return Utf16ToUtf8(a[i]) + "\nbecame " + Utf16ToUtf8(b[i]);
+  }
+  return {};
+}
+
+/// The letters and digits of a text.
+std::u16string Words(std::u16string_view text) {
+  std::u16string words;
+  for (const char16_t unit : ExamTextToPlain(text)) {
+    if (unit > u'z' || std::isalnum(static_cast<unsigned char>(unit)) != 0) words.push_back(unit);
+  }
+  return words;
+}
+
+/// Nothing that a question of an unknown kind has may vanish.
+std::string WhatVanished(const ExamQuestion& before, const ExamQuestion& after) {
+  const std::u16string kept = Words(after.text) + Words(after.essayAnswer);
+  std::vector<std::u16string> parts(before.options.begin(), before.options.end());
+  parts.push_back(before.essayAnswer);
+  for (const std::u16string& answer : SplitAnswers(before.answerText)) parts.push_back(answer);
+  for (const std::u16string& part : parts) {
+    if (kept.find(Words(part)) == kept.npos) return Utf16ToUtf8(part) + "\nvanished";
   }
   return {};
 }
@@ -159,6 +186,10 @@ TEST_P(ToldLosses, OfWhatIsExported) {
           isHeld ? FirstDifference(exam.Question(n), back.Question(++slot)) : std::string("left out");
       if (!difference.empty() && !IsTold(foreseen.losses, n))
         ADD_FAILURE() << seed << " " << n << ": " << difference;
+      const bool holdsAll = format.held.essay && format.held.modelAnswer;
+      if (isHeld && holdsAll && !IsKnown(exam.Question(n).kind)) {
+        EXPECT_EQ(WhatVanished(exam.Question(n), back.Question(slot)), "") << seed << " " << n;
+      }
     }
     const bool isAsBefore = exam.title == back.title && exam.examAttachmentPaths[0].empty() &&
                             exam.randomMode != RandomMode::Sequence;
@@ -173,8 +204,10 @@ void AddForeignParts(ExchangedExam& exam, const ExchangedFile& file, bool isTabl
     if (question.kind == QuestionKind::Choice && !isTable && random() % 2 == 0) {
       for (int i = 0; i < 6; ++i) question.options.push_back({u"further", i == 0});
     }
+    // A table has one list of answers, in which a blank with two would move one without.
+    const bool hasGaps = std::ranges::any_of(question.blanks, &BlankAnswers::empty);
     for (BlankAnswers& blank : question.blanks) {
-      if (random() % 2 == 0) blank.push_back(u"another");
+      if (random() % 2 == 0 && !(isTable && hasGaps)) blank.push_back(u"another");
     }
     for (int i = 0; i < 12 && random() % 4 == 0; ++i) question.files.push_back(file);
   }
@@ -204,7 +237,7 @@ TEST_P(ToldLosses, OfWhatIsImported) {
            at = stored.answerText.find(kListSeparator, at + 1))
         ++answers;
       std::size_t wanted = 0;
-      for (const BlankAnswers& blank : question.blanks) wanted += blank.size();
+      for (const BlankAnswers& blank : question.blanks) wanted += std::max<std::size_t>(1, blank.size());
       const auto files =
           std::ranges::count_if(stored.attachmentPaths, [](const auto& path) { return !path.empty(); });
       const bool isWhole = options == question.options.size() && answers == wanted &&

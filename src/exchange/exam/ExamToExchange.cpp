@@ -71,16 +71,42 @@ class ExamReading {
     if (parts.fillIn) {
       BlankAnswers answers = SplitAnswers(source.answerText);
       for (std::u16string& answer : answers) answer = Text(answer, nullptr);
-      std::erase(answers, std::u16string());
       question.blanks = ByBlank(question.text, answers);
+      TellEmptyAnswers(answers, question.blanks.size());
     }
     if (parts.essay) question.modelAnswer = Text(source.essayAnswer, nullptr);
     question.files = FilesOf(source);
-    if (!IsKnown(source.kind)) {
-      question.kind = QuestionKind::Essay;
-      notes_.Tell(text_id::kExchangeUnknownKind);
-    }
+    if (source.oralFlag == 1 && !question.files.empty()) notes_.Tell(text_id::kExchangeMutedFiles);
+    if (!IsKnown(source.kind)) MakeEssayOfAll(source, question);
     return question;
+  }
+
+  /// Those that are alternatives are left out; a blank may have none.
+  void TellEmptyAnswers(const BlankAnswers& answers, std::size_t blanks) {
+    const bool hasEmpty = answers.size() > 1 && std::ranges::find(answers, std::u16string()) != answers.end();
+    if (hasEmpty && blanks != answers.size()) notes_.Tell(text_id::kExchangeEmptyAnswer);
+  }
+
+  /// Whatever a question of an unknown kind has may count: options are lines of the text, answers and right
+  /// options lines of the model answer.
+  void MakeEssayOfAll(const ExamQuestion& source, ExchangedQuestion& question) {
+    notes_.Tell(text_id::kExchangeUnknownKind);
+    question.kind = QuestionKind::Essay;
+    const auto addLine = [](std::u16string& text, const std::u16string& line) {
+      if (line.empty()) return;
+      if (!text.empty()) text += u"\r\n";
+      text += line;
+    };
+    question.modelAnswer = Text(source.essayAnswer, nullptr);
+    for (const std::u16string& answer : SplitAnswers(source.answerText))
+      addLine(question.modelAnswer, Text(answer, nullptr));
+    for (std::size_t i = 0; i < kOptionCount; ++i) {
+      const std::u16string option = Text(source.options[i], nullptr);
+      if (option.empty()) continue;
+      const std::u16string line = std::u16string{OptionLetter(i), u'.', u' '} + option;
+      addLine(question.text, line);
+      if ((source.answerMask & AnswerBoxWeight(i)) != 0) addLine(question.modelAnswer, line);
+    }
   }
 
   /// Without empty ones: other programs have no gaps.

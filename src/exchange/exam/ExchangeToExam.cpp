@@ -81,18 +81,27 @@ class ExamFilling {
   }
 
   std::u16string AnswerLine(const ExchangedQuestion& source) {
-    std::u16string line;
+    const bool isByBlank = source.blanks.size() > 1;
+    BlankAnswers answers;
     for (const BlankAnswers& blank : source.blanks) {
-      if (source.blanks.size() > 1 && blank.size() > 1)
-        notes_.Tell(text_id::kExchangeAlternatives, {Excerpt(blank[1])});
-      const std::size_t count =
-          source.blanks.size() > 1 ? std::min<std::size_t>(1, blank.size()) : blank.size();
-      for (std::size_t i = 0; i < count; ++i) {
-        if (!line.empty()) line += kListSeparator;
-        line += WithoutSeparator(OneLine(blank[i]));
-      }
+      if (isByBlank && blank.size() > 1) notes_.Tell(text_id::kExchangeAlternatives, {Excerpt(blank[1])});
+      if (isByBlank && blank.empty()) answers.emplace_back();
+      const std::size_t count = isByBlank ? std::min<std::size_t>(1, blank.size()) : blank.size();
+      for (std::size_t i = 0; i < count; ++i) answers.push_back(WithoutSeparator(OneLine(blank[i])));
     }
+    std::u16string line = Joined(answers);
     TellOtherBlanks(source, line);
+    return line;
+  }
+
+  /// The answers with separators between them. An empty one keeps its place, unless there is no other.
+  static std::u16string Joined(const BlankAnswers& answers) {
+    const bool hasAnswer = std::ranges::any_of(answers, [](const auto& answer) { return !answer.empty(); });
+    std::u16string line;
+    for (std::size_t i = 0; hasAnswer && i < answers.size(); ++i) {
+      if (i > 0) line += kListSeparator;
+      line += answers[i];
+    }
     return line;
   }
 

@@ -14,6 +14,7 @@ namespace quorvantis {
 namespace {
 
 constexpr std::u16string_view kRiskyInNames = u"&<>\"`|':\\/";
+constexpr std::u16string_view kNoAnswer = u"\u2013";  // a dash, in a list of answers
 
 /// Reduces one question after the other to what a format holds.
 class Reduction {
@@ -33,7 +34,7 @@ class Reduction {
     }
     question.modelAnswer = Text(question.modelAnswer);
     ReduceRest(question);
-    return !question.text.empty() || held_.unanswered || Refuse(text_id::kExchangeEmptyQuestion);
+    return !question.text.empty() || held_.noText || Refuse(text_id::kExchangeEmptyQuestion);
   }
 
   std::u16string Plain(const std::u16string& text, HeldText held) {
@@ -140,12 +141,18 @@ class Reduction {
     if (!held_.fillIn) return Refuse(text_id::kExchangeFillInLeftOut);
     const bool hasNone = question.blanks.empty() && !held_.unanswered;
     const bool hasTooMany = question.blanks.size() > 1 && !held_.severalBlanks;
-    if (!hasNone && !hasTooMany) return true;
+    const bool hasGaps = question.blanks.size() > 1 && !held_.emptyBlanks &&
+                         std::ranges::any_of(question.blanks, &BlankAnswers::empty);
+    if (!hasNone && !hasTooMany && !hasGaps) return true;
+    notes_.Tell(hasNone      ? text_id::kExchangeNoAnswerBecomesEssay
+                : hasTooMany ? text_id::kExchangeBlanksBecomeEssay
+                             : text_id::kExchangeEmptyBlankBecomesEssay);
     question.kind = QuestionKind::Essay;
-    for (const BlankAnswers& blank : question.blanks)
-      question.modelAnswer += (question.modelAnswer.empty() ? u"" : u"\r\n") + blank.front();
+    for (const BlankAnswers& blank : question.blanks) {
+      if (!question.modelAnswer.empty()) question.modelAnswer += u"\r\n";
+      question.modelAnswer += blank.empty() ? kNoAnswer : blank.front();
+    }
     question.blanks.clear();
-    notes_.Tell(hasNone ? text_id::kExchangeNoAnswerBecomesEssay : text_id::kExchangeBlanksBecomeEssay);
     return true;
   }
 

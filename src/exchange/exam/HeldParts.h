@@ -25,11 +25,13 @@ struct HeldParts {
   bool arrows = true;             ///< "->" in answers
   bool equalAnswers = true;       ///< the same answer twice in one blank
   bool severalBlanks = false;     ///< an answer for each blank
+  bool emptyBlanks = false;       ///< some of these without an answer
   bool blankScores = true;        ///< any score for these; otherwise whole numbers for each blank
   bool essay = false;
   bool modelAnswer = false;
   bool oral = false;
   bool unanswered = false;  ///< choice questions without options, and fill-in questions without answers
+  bool noText = false;      ///< questions that have files, options or answers only
   bool files = false;
   bool fileNames = true;  ///< any names of files; otherwise without characters that mean something elsewhere
   bool scores = false;

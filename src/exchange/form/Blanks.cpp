@@ -33,18 +33,22 @@ std::vector<TextSpan> BlanksIn(std::u16string_view text) {
 }
 
 std::vector<BlankAnswers> ByBlank(std::u16string_view text, const BlankAnswers& answers) {
-  if (answers.empty()) return {};
-  if (answers.size() < 2 || BlanksIn(text).size() != answers.size()) return {answers};
+  BlankAnswers given = answers;
+  std::erase(given, std::u16string());
+  if (given.empty()) return {};
+  if (answers.size() < 2 || BlanksIn(text).size() != answers.size()) {
+    if (given.size() < answers.size()) return ByBlank(text, given);
+    return {given};
+  }
   std::vector<BlankAnswers> blanks;
-  for (const std::u16string& answer : answers) blanks.push_back({answer});
+  for (const std::u16string& answer : answers)
+    blanks.push_back(answer.empty() ? BlankAnswers() : BlankAnswers{answer});
   return blanks;
 }
 
 BlankAnswers SplitAnswers(std::u16string_view line) {
   BlankAnswers answers;
-  for (const TextSpan& answer : FillInAnswersIn(line)) {
-    if (!answer.IsEmpty()) answers.emplace_back(answer.Of(line));
-  }
+  for (const TextSpan& answer : FillInAnswersIn(line)) answers.emplace_back(answer.Of(line));
   return answers;
 }
 

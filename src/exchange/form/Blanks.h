@@ -23,10 +23,11 @@ std::u16string BlankOfClass(std::u16string_view className);
 std::vector<TextSpan> BlanksIn(std::u16string_view text);
 
 /// Answers as an exam keeps them, one after the other. There are as many as blanks, two or more: one for
-/// each; otherwise they are alternatives.
+/// each, and an empty one leaves its blank without; otherwise they are alternatives, and empty ones do not
+/// count.
 std::vector<BlankAnswers> ByBlank(std::u16string_view text, const BlankAnswers& answers);
 
-/// The answers of an exam's line of answers, without empty ones.
+/// The answers of an exam's line of answers, also empty ones.
 BlankAnswers SplitAnswers(std::u16string_view line);
 
 }  // namespace quorvantis

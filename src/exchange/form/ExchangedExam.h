@@ -34,7 +34,8 @@ struct ExchangedQuestion {
   QuestionKind kind = QuestionKind::Choice;
   std::u16string text;
   std::vector<ExchangedOption> options;
-  /// Of a fill-in question: one entry if the answers are alternatives, otherwise one for each blank.
+  /// Of a fill-in question: one entry if the answers are alternatives, otherwise one for each blank. Of these
+  /// some may be empty.
   std::vector<BlankAnswers> blanks;
   std::u16string modelAnswer;
   std::vector<ExchangedFile> files;

@@ -75,7 +75,7 @@ void MakeMatching(const std::vector<std::pair<std::u16string, std::u16string>>& 
   for (const auto& [left, right] : pairs) {
     if (left.empty()) continue;  // a wrong right side
     question.text.append(u"\r\n").append(left).append(u" ").append(kBlank);
-    question.blanks.push_back({right});
+    question.blanks.push_back(right.empty() ? BlankAnswers() : BlankAnswers{right});
   }
 }
 

@@ -59,7 +59,7 @@ class MoodleQuiz {
     const bool isCloze = question.blanks.size() > 1;
     xml_.Begin("question", {{"type", TypeOf(question)}});
     xml_.Begin("name");
-    xml_.Text("text", Utf16ToUtf8(Excerpt(ExamTextToPlain(question.text))));
+    xml_.Text("text", NameOfQuestion(question));
     xml_.End("name");
     WriteQuestionText(question, isCloze);
     WriteHtml("generalfeedback", u"");

@@ -113,6 +113,7 @@ void QtiItemReader::TakeRubrics(ExchangedQuestion& question) {
 void QtiItemReader::TakeInline(ExchangedQuestion& question) {
   for (const pugi::xml_node field : ElementsBelow(body_, {"textEntryInteraction", "inlineChoiceInteraction"}))
     TakeField(field, question);
+  if (std::ranges::all_of(question.blanks, &BlankAnswers::empty)) question.blanks.clear();
 }
 
 void QtiItemReader::TakeField(pugi::xml_node field, ExchangedQuestion& question) {
@@ -134,7 +135,7 @@ void QtiItemReader::TakeField(pugi::xml_node field, ExchangedQuestion& question)
     for (const std::string& value : correct) answers.push_back(PlainToExamText(TextOf(value)));
   }
   if (ValueOf(field.parent(), "class") == kAnswerFieldClass) shown.clear();
-  if (!answers.empty()) question.blanks.push_back(std::move(answers));
+  question.blanks.push_back(std::move(answers));
   ReplaceByText(field, shown);
 }
 

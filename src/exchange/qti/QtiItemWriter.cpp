@@ -35,7 +35,7 @@ class ItemText {
 
   std::string Text(const std::string& identifier) {
     text_ = kXmlHead;
-    const std::string title = Utf16ToUtf8(Excerpt(ExamTextToPlain(question_.text)));
+    const std::string title = NameOfQuestion(question_);
     xml_.Begin("assessmentItem",
                {{"xmlns", std::string(kNamespace)},
                 {"xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance"},

@@ -178,7 +178,6 @@ std::vector<std::u16string> AnswersInCell(std::u16string_view cell) {
     }
   }
   for (std::u16string& answer : answers) answer = std::u16string(Trimmed(answer));
-  std::erase(answers, std::u16string());
   return answers;
 }
 

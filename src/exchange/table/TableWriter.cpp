@@ -26,7 +26,10 @@ TableRow CellsOf(const ExchangedQuestion& question) {
   }
   cells.push_back(right);
   BlankAnswers answers;
-  for (const BlankAnswers& blank : question.blanks) answers.insert(answers.end(), blank.begin(), blank.end());
+  for (const BlankAnswers& blank : question.blanks) {
+    if (blank.empty()) answers.emplace_back();
+    answers.insert(answers.end(), blank.begin(), blank.end());
+  }
   cells.push_back(JoinAnswers(answers));
   cells.push_back(question.modelAnswer);
   cells.push_back(question.score ? Utf8ToUtf16(PointsText(*question.score)) : std::u16string());

@@ -22,6 +22,11 @@ constexpr std::u16string_view kDataScheme = u"data:";
 
 }  // namespace
 
+std::string NameOfQuestion(const ExchangedQuestion& question) {
+  const std::u16string words = Excerpt(ExamTextToPlain(question.text));
+  return words.empty() ? std::to_string(question.number) : Utf16ToUtf8(words);
+}
+
 bool IsPictureName(std::u16string_view name) {
   constexpr std::u16string_view kShown[] = {u"png", u"jpg", u"jpeg", u"gif", u"bmp", u"webp"};
   return std::ranges::find(kShown, ExtensionOrNothing(name)) != std::end(kShown);

@@ -13,6 +13,9 @@
 
 namespace quorvantis {
 
+/// What a question is called in lists: its first words, or its number if it has no text.
+std::string NameOfQuestion(const ExchangedQuestion& question);
+
 /// Whether users see a picture when a page shows the file as one.
 bool IsPictureName(std::u16string_view name);
 

@@ -109,6 +109,14 @@ constexpr int kExchangeBlankWeights = 2706;
 constexpr int kExchangeAnswerBegin = 2707;  // %1 is its begin
 constexpr int kExchangeUnits = 2708;        // %1 are their names
 constexpr int kExchangeLanguages = 2710;
+constexpr int kExchangeEmptyAnswer = 2680;
+constexpr int kExchangeEmptyBlankBecomesEssay = 2681;
+constexpr int kExchangeMutedFiles = 2682;
+constexpr int kExchangeCaseMatters = 2683;
+constexpr int kExchangeWildcard = 2642;        // %1 is the answer
+constexpr int kExchangeEqualAnswers = 2641;    // %1 is the answer
+constexpr int kExchangeAmbiguousRight = 2605;  // %1 is a cell, %2 the letter of the option that is right
+constexpr int kExchangeIsPaper = 2580;         // %2 is the name of a format
 
 // Errors, and the windows for import and export
 constexpr int kExchangeNotOpen = 2271;  // "%1 cannot be read: %2", with what the system says
