@@ -114,6 +114,7 @@ class MoodleQuestion {
       if (fraction < kFullFraction) tools_.notes.Tell(text_id::kExchangePartlyRightAnswer, {Excerpt(text)});
       answers.push_back(PlainToExamText(WithoutProtectedStars(text, tools_.notes)));
     }
+    if (Trimmed(ContentOfChild(node_, "usecase")) == u"1") tools_.notes.Tell(text_id::kExchangeCaseMatters);
     if (!answers.empty()) question.blanks = {answers};
   }
 
