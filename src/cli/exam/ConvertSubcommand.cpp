@@ -158,9 +158,11 @@ class Conversion {
     const ExamServices& services = session_.services;
     ExchangeNotes ofNoInterest;  // a reader has told what its texts have lost
     ExchangedExam exam = ExamToExchange(session_.exam, isExam_ ? notes_ : ofNoInterest);
-    const bool hasQuestions = !exam.questions.empty();
+    if (exam.questions.empty())
+      throw CommandError(request_.target.string() + ": is not written. " +
+                         Utf16ToUtf8(services.strings.Text(text_id::kExchangeEmptyExam)));
     const ExchangedExam held = HeldExam(format.held, std::move(exam), notes_);
-    if (hasQuestions && held.questions.empty()) {
+    if (held.questions.empty()) {
       TellNotes();
       throw CommandError(request_.target.string() + ": is not written. " +
                          Utf16ToUtf8(FillMessage(services.strings.Text(text_id::kExchangeHoldsNothing),
