@@ -171,5 +171,24 @@ TEST(Markup, TakesTimeInProportionToTheText) {
   }
 }
 
+TEST(Markup, DropsTagsThatShowNothing) {
+  struct Row {
+    std::u16string_view text, expected;
+    bool isTold;
+  };
+  const Row rows[] = {
+      {u"Paris<o:p></o:p>", u"Paris", true},
+      {u"<st1:place w:st=\"on\">Rome</st1:place>", u"Rome", true},
+      {u"<quiz>a</quiz>", u"a", true},
+      {u"x<y", u"x&lt;y", false},
+      {u"x<y and z>w", u"x&lt;y and z>w", false},
+  };
+  for (const Row& row : rows) {
+    const ReadMarkup read = ReadExamText(row.text);
+    EXPECT_EQ(read.text, row.expected);
+    EXPECT_EQ(read.losses.formatting, row.isTold) << Utf16ToUtf8(row.text);
+  }
+}
+
 }  // namespace
 }  // namespace quorvantis::test

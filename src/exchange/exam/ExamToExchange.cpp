@@ -97,6 +97,9 @@ class ExamReading {
       if (!text.empty()) text += u"\r\n";
       text += line;
     };
+    // Files keep the letters only, and readers make a mask of them for choices alone.
+    const int mask = source.answerMask | AnswerLettersToMask(source.answerLetters);
+    const auto isRight = [mask](std::size_t i) { return (mask & AnswerBoxWeight(i)) != 0; };
     question.modelAnswer = Text(source.essayAnswer, nullptr);
     for (const std::u16string& answer : SplitAnswers(source.answerText))
       addLine(question.modelAnswer, Text(answer, nullptr));
@@ -105,7 +108,7 @@ class ExamReading {
       if (option.empty()) continue;
       const std::u16string line = std::u16string{OptionLetter(i), u'.', u' '} + option;
       addLine(question.text, line);
-      if ((source.answerMask & AnswerBoxWeight(i)) != 0) addLine(question.modelAnswer, line);
+      if (isRight(i)) addLine(question.modelAnswer, line);
     }
   }
 

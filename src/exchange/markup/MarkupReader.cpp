@@ -39,6 +39,13 @@ bool IsFormula(std::u16string_view name) {
   return EqualsIgnoringAsciiCase(name.substr(name.rfind(u':') + 1), u"math");  // not found: all of it
 }
 
+/// Whether an author's program wrote a tag that HTML does not have, such as "<o:p>", which shows nothing. In
+/// "x<y and z>w", the words would be attributes without values.
+bool IsMeantAsTag(const ReadTag& tag) {
+  return std::all_of(tag.attributes.begin(), tag.attributes.end(),
+                     [](const auto& attribute) { return !attribute.second.empty(); });
+}
+
 }  // namespace
 
 MarkupReader::MarkupReader(std::u16string_view text, MarkupSource source)
@@ -139,7 +146,8 @@ void MarkupReader::ReadHidden(const PageToken& token) {
 void MarkupReader::ReadElement(const PageToken& token) {
   if (TakeFormula(token)) return;
   const MarkupTag* const row = token.isClosed ? FindTag(token.name.Of(text_)) : nullptr;
-  const bool isUnknown = row == nullptr && token.isClosed && source_ == MarkupSource::Html;
+  const bool isMeant = source_ == MarkupSource::Html || IsMeantAsTag(ReadTagAt(text_, token));
+  const bool isUnknown = row == nullptr && token.isClosed && isMeant;
   if (isUnknown) {
     losses_.formatting = true;
   } else if (row != nullptr) {
