@@ -539,7 +539,7 @@ TEST(ForeignFiles, Qti1) {
   EXPECT_EQ(read.format, "canvas");
   EXPECT_EQ(read.questions, "choice Q | -x | +<b>y</b>\nfill N | 1..2\n");
   EXPECT_EQ(read.notes,
-            "question 2: the answer is a number; the range that would count as right is left out: 1..2\n");
+            "question 2: every number in a range counts as right; the answer is the range: 1..2\n");
 }
 
 TEST(ForeignFiles, AreBoundedInSum) {

@@ -2,51 +2,32 @@
 #include "exchange/canvas/CanvasItemReader.h"
 
 #include "exchange/canvas/CanvasFormat.h"
-#include "exchange/form/Blanks.h"
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
+#include "exchange/qti/ItemParts.h"
 #include "exchange/xml/XmlText.h"
 #include "platform/documents/XmlPart.h"
 #include "platform/texts/ExchangeTexts.h"
 #include "text/Utf.h"
 
 #include <algorithm>
+#include <map>
 
 namespace quorvantis {
 namespace {
-
-constexpr std::string_view kFullScore = "SCORE.max";
 
 std::vector<pugi::xml_node> LabelsOf(pugi::xml_node response) {
   return ElementsBelow(response, {"response_label"});
 }
 
-bool IsBelowNot(pugi::xml_node node) {
-  for (pugi::xml_node above = node.parent(); above && LocalName(above) != "conditionvar";
-       above = above.parent()) {
-    if (LocalName(above) == "not") return true;
-  }
-  return false;
-}
-
-/// HTML with blanks for the names in brackets that stand in a span which tells their length.
-std::u16string WithBlanksOfSpans(std::u16string_view html) {
-  const std::u16string begin = u"<span class=\"" + std::u16string(kBlankClass);
-  constexpr std::u16string_view kEnd = u"]</span>";
-  std::u16string text;
-  for (std::size_t at = 0; at < html.size();) {
-    const std::size_t span = std::min(html.find(begin, at), html.size());
-    const std::size_t bracket = html.find(u"\">[", span);
-    const std::size_t end = bracket == html.npos ? bracket : html.find(kEnd, bracket);
-    text += html.substr(at, span - at);
-    if (end == html.npos) return text.append(html.substr(span));
-    text += BlankOfClass(html.substr(span + begin.size() - kBlankClass.size(), bracket - span));
-    at = end + kEnd.size();
-  }
-  return text;
-}
-
 }  // namespace
+
+std::string FieldOfItem(pugi::xml_node item, std::string_view label) {
+  for (const pugi::xml_node field : ElementsBelow(ChildOf(item, "itemmetadata"), {"qtimetadatafield"})) {
+    if (ChildOf(field, "fieldlabel").text().get() == label) return ChildOf(field, "fieldentry").text().get();
+  }
+  return {};
+}
 
 CanvasItemReader::CanvasItemReader(QtiPackage& package, std::string name, ReadingTools& tools)
     : package_(package),
@@ -58,62 +39,55 @@ bool CanvasItemReader::Read(pugi::xml_node item, ExchangedQuestion& question) {
   item_ = item;
   responses_ = ElementsBelow(ChildOf(item, "presentation"),
                              {"response_lid", "response_str", "response_num", "response_xy", "response_grp"});
-  ReadComparisons();
-  const std::string type = TypeOfItem();
-  question.text = QuestionText(question);
-  if (!TakeByType(type, question)) return Refuse(type, question);
+  const CanvasKeys keys(item);
+  const std::string type = TypeOfItem(keys);
+  question.text = ReadMaterial(ChildOf(item_, "presentation"), question);
+  if (!TakeByType(type, keys, question)) return Refuse(type, question);
   TakeFeedback(question);
-  const double points = NumberIn(Field("points_possible"), -1);
-  if (points >= 0) question.score = points;
+  question.score = Score(keys);
   return true;
 }
 
+/// Files stand in a folder of their own, or beside it.
 std::optional<ExchangedFile> CanvasItemReader::Find(std::u16string_view address) {
   for (const std::string_view base : {kCanvasFileBase, std::string_view("%24IMS-CC-FILEBASE%24/")}) {
-    if (address.starts_with(TextOf(base)))
-      return package_.FindAnywhere(TextOf(kCanvasFiles.substr(0, kCanvasFiles.size() - 1)) + u"/" +
-                                   std::u16string(address.substr(base.size())));
+    if (!address.starts_with(TextOf(base))) continue;
+    const std::u16string_view path = address.substr(base.size());
+    auto file = package_.FindAnywhere(TextOf(kCanvasFiles) + std::u16string(path));
+    return file ? file : package_.FindAnywhere(path);
   }
   return package_.Find(name_, address);
 }
 
-/// The texts of an element, and its pictures.
-std::u16string CanvasItemReader::Material(pugi::xml_node owner, ExchangedQuestion& question) {
+std::u16string CanvasItemReader::ReadMaterial(pugi::xml_node owner, ExchangedQuestion& question) {
   std::u16string text;
   for (const pugi::xml_node part :
-       ElementsBelow(owner, {"mattext", "mat_formattedtext", "matimage", "mataudio", "matvideo",
+       ElementsBelow(owner, {"mattext", "matemtext", "mat_formattedtext", "matimage", "mataudio", "matvideo",
                              "response_lid", "response_str", "response_num", "render_choice"})) {
-    const std::string_view name = LocalName(part);
-    if (!name.starts_with("mat")) continue;
-    if (name != "mattext" && name != "mat_formattedtext") {
-      const std::u16string address = TextOf(ValueOf(part, "uri"));
-      html_.Take({{}, {{address, {}, false}}, {}}, question);
-      continue;
-    }
-    const std::u16string content = ContentOf(part);
-    const bool isHtml = ValueOf(part, "texttype") != "text/plain";
-    const std::u16string piece =
-        isHtml ? html_.Read(WithBlanksOfSpans(content), question) : PlainToExamText(content);
+    if (!LocalName(part).starts_with("mat")) continue;
+    const std::u16string piece = Text(part, question);
     if (!text.empty() && !piece.empty()) text += u"\r\n";
     text += piece;
   }
   return text;
 }
 
-std::u16string CanvasItemReader::QuestionText(ExchangedQuestion& question) {
-  return Material(ChildOf(item_, "presentation"), question);
-}
-
-std::string CanvasItemReader::Field(std::string_view label) const {
-  for (const pugi::xml_node field : ElementsBelow(ChildOf(item_, "itemmetadata"), {"qtimetadatafield"})) {
-    if (ChildOf(field, "fieldlabel").text().get() == label) return ChildOf(field, "fieldentry").text().get();
+std::u16string CanvasItemReader::Text(pugi::xml_node part, ExchangedQuestion& question) {
+  const std::string_view name = LocalName(part);
+  if (!name.ends_with("text")) {
+    html_.Take({{}, {{TextOf(ValueOf(part, "uri")), {}, false}}, {}}, question);
+    return {};
   }
-  return {};
+  const std::u16string content = ContentOf(part);
+  const bool isHtml = ValueOf(part, "texttype") != "text/plain";
+  std::u16string text = isHtml ? html_.Read(WithBlanksOfSpans(content), question) : PlainToExamText(content);
+  if (name == "matemtext" && !text.empty()) text.insert(0, u"<em>").append(u"</em>");
+  return text;
 }
 
 /// Where the type is not named, the responses tell it.
-std::string CanvasItemReader::TypeOfItem() const {
-  const std::string named = Field("question_type");
+std::string CanvasItemReader::TypeOfItem(const CanvasKeys& keys) const {
+  const std::string named = FieldOfItem(item_, "question_type");
   if (!named.empty()) return named;
   if (responses_.empty()) return "text_only_question";
   const std::string_view first = LocalName(responses_[0]);
@@ -121,41 +95,33 @@ std::string CanvasItemReader::TypeOfItem() const {
   if (first == "response_lid")
     return responses_.size() > 1 ? "matching_question" : "multiple_answers_question";
   if (first != "response_str") return std::string(first);
-  return comparisons_.empty() ? "essay_question" : "short_answer_question";
+  return keys.AreEmpty() ? "essay_question" : "short_answer_question";
 }
 
-void CanvasItemReader::ReadComparisons() {
-  for (const pugi::xml_node condition : ElementsBelow(ChildOf(item_, "resprocessing"), {"respcondition"})) {
-    bool earns = false;
-    for (const pugi::xml_node set : ChildrenOf(condition, "setvar"))
-      earns = earns || NumberIn(set.text().get(), 0) > 0 || set.text().get() == kFullScore;
-    for (const pugi::xml_node test : ElementsBelow(ChildOf(condition, "conditionvar"), {"varequal"})) {
-      const std::string value = Utf16ToUtf8(Trimmed(ContentOf(test)));
-      comparisons_.push_back({std::string(ValueOf(test, "respident")), value, earns && !IsBelowNot(test)});
-    }
-  }
+/// A cartridge has percentages only.
+std::optional<double> CanvasItemReader::Score(const CanvasKeys& keys) const {
+  const double points = NumberIn(FieldOfItem(item_, "points_possible"), -1);
+  if (points >= 0) return points;
+  const bool hasPercents =
+      !FieldOfItem(item_, "question_type").empty() || !FieldOfItem(item_, "cc_profile").empty();
+  return hasPercents ? std::nullopt : keys.Maximum();
 }
 
-bool CanvasItemReader::IsRight(std::string_view response, std::string_view value) const {
-  return std::ranges::any_of(comparisons_, [=](const Comparison& comparison) {
-    return comparison.earns && comparison.response == response && comparison.value == value;
-  });
-}
-
-bool CanvasItemReader::TakeByType(std::string_view type, ExchangedQuestion& question) {
+bool CanvasItemReader::TakeByType(std::string_view type, const CanvasKeys& keys,
+                                  ExchangedQuestion& question) {
   question.kind = QuestionKind::FillIn;
   if (type == "multiple_choice_question" || type == "multiple_answers_question" ||
       type == "true_false_question") {
     question.kind = QuestionKind::Choice;
-    TakeOptions(question);
+    TakeOptions(keys, question);
   } else if (type == "short_answer_question") {
-    TakeAnswers(question);
+    TakeAnswers(keys, question);
   } else if (type == "numerical_question") {
-    TakeNumbers(question);
+    TakeNumbers(keys, question);
   } else if (type == "fill_in_multiple_blanks_question" || type == "multiple_dropdowns_question") {
-    TakeNamedBlanks(type == "multiple_dropdowns_question", question);
+    TakeNamedBlanks(type == "multiple_dropdowns_question", keys, question);
   } else if (type == "matching_question") {
-    TakePairs(question);
+    TakePairs(keys, question);
   } else if (type == "essay_question") {
     question.kind = QuestionKind::Essay;
   } else if (type == "file_upload_question") {
@@ -166,87 +132,115 @@ bool CanvasItemReader::TakeByType(std::string_view type, ExchangedQuestion& ques
   return true;
 }
 
-void CanvasItemReader::TakeOptions(ExchangedQuestion& question) {
+void CanvasItemReader::TakeOptions(const CanvasKeys& keys, ExchangedQuestion& question) {
   if (responses_.empty()) return;
+  TakeLead(responses_[0], question);
   const std::string_view response = ValueOf(responses_[0], "ident");
-  bool hasRight = false;
+  std::vector<double> scores;
   for (const pugi::xml_node label : LabelsOf(responses_[0])) {
-    const bool isRight = IsRight(response, ValueOf(label, "ident"));
-    hasRight = hasRight || isRight;
+    scores.push_back(keys.ScoreOf(response, ValueOf(label, "ident")));
     const std::size_t files = question.files.size();
-    question.options.push_back({Material(label, question), isRight});
+    question.options.push_back({ReadMaterial(label, question), false});
     TellFilesOfOption(question, files, tools_.notes);
   }
-  if (!hasRight) tools_.notes.Tell(text_id::kExchangeNoRightRead);
+  const bool takesSeveral = ValueOf(responses_[0], "rcardinality") != "Single";
+  DecideByScores(scores, takesSeveral && keys.AddUp(), question.options, tools_.notes);
 }
 
-void CanvasItemReader::TakeAnswers(ExchangedQuestion& question) {
+/// What stands between the question and its options belongs to the question.
+void CanvasItemReader::TakeLead(pugi::xml_node response, ExchangedQuestion& question) {
+  for (const pugi::xml_node owner : {response, ChildOf(response, "render_choice")}) {
+    for (const pugi::xml_node material : ChildrenOf(owner, "material")) {
+      const std::u16string lead = ReadMaterial(material, question);
+      if (!lead.empty()) question.text.append(question.text.empty() ? u"" : u"\r\n").append(lead);
+    }
+  }
+}
+
+void CanvasItemReader::TakeAnswers(const CanvasKeys& keys, ExchangedQuestion& question) {
+  const std::vector<CanvasKeys::Comparison> rights = keys.Rights();
+  double best = 0;
+  for (const CanvasKeys::Comparison& right : rights) best = std::max(best, right.score);
   BlankAnswers answers;
-  for (const Comparison& comparison : comparisons_) {
-    std::u16string answer = PlainToExamText(TextOf(comparison.value));
-    if (comparison.earns && !answer.empty() && std::ranges::find(answers, answer) == answers.end())
-      answers.push_back(std::move(answer));
+  for (const CanvasKeys::Comparison& right : rights) {
+    std::u16string answer = PlainToExamText(TextOf(right.value));
+    if (answer.empty()) continue;
+    if (right.score * 100 < best * kFullFraction)
+      tools_.notes.Tell(text_id::kExchangePartlyRightAnswer, {Excerpt(answer)});
+    answers.push_back(std::move(answer));
   }
   if (!answers.empty()) question.blanks = {std::move(answers)};
 }
 
-void CanvasItemReader::TakeNumbers(ExchangedQuestion& question) {
-  TakeAnswers(question);
+/// A range around a number is a tolerance; one that stands alone is the answer.
+void CanvasItemReader::TakeNumbers(const CanvasKeys& keys, ExchangedQuestion& question) {
+  TakeAnswers(keys, question);
+  const bool hasNumber = !question.blanks.empty();
   for (const pugi::xml_node test : ElementsBelow(ChildOf(item_, "resprocessing"), {"vargte", "vargt"})) {
-    const std::u16string low = ContentOf(test);
+    const std::u16string low(Trimmed(ContentOf(test)));
     pugi::xml_node end = test.next_sibling();
     while (end && LocalName(end) != "varlte" && LocalName(end) != "varlt") end = end.next_sibling();
-    const std::u16string range =
-        std::u16string(Trimmed(low)) + u".." + std::u16string(Trimmed(ContentOf(end)));
-    tools_.notes.Tell(text_id::kExchangeTolerance, {range});
-    if (question.blanks.empty()) question.blanks = {{PlainToExamText(range)}};
+    const std::u16string high(Trimmed(ContentOf(end)));
+    if (hasNumber && low == high) continue;
+    const std::u16string range = low == high ? low : low + u".." + high;
+    if (hasNumber) {
+      tools_.notes.Tell(text_id::kExchangeTolerance, {range});
+      continue;
+    }
+    if (low != high) tools_.notes.Tell(text_id::kExchangeRangeIsAnswer, {range});
+    if (question.blanks.empty()) question.blanks.resize(1);
+    question.blanks[0].push_back(PlainToExamText(range));
   }
 }
 
 /// "[name]" in the text is the blank of "response_name".
-void CanvasItemReader::TakeNamedBlanks(bool isDropDown, ExchangedQuestion& question) {
+void CanvasItemReader::TakeNamedBlanks(bool isDropDown, const CanvasKeys& keys, ExchangedQuestion& question) {
   if (isDropDown) tools_.notes.Tell(text_id::kExchangeInlineChoices);
-  for (const pugi::xml_node response : responses_) {
-    const std::string_view identifier = ValueOf(response, "ident");
-    BlankAnswers answers;
-    std::u16string choices;
-    for (const pugi::xml_node label : LabelsOf(response)) {
-      std::u16string answer = Material(label, question);
-      choices += (choices.empty() ? u"" : u" / ") + answer;
-      if (IsRight(identifier, ValueOf(label, "ident"))) answers.push_back(std::move(answer));
-    }
-    const std::u16string name = u"[" + TextOf(identifier.substr(identifier.find('_') + 1)) + u"]";
-    const std::size_t place = question.text.find(name);
-    const std::u16string blank = std::u16string(kBlank) + (isDropDown ? u" (" + choices + u")" : u"");
-    if (place != question.text.npos) {
-      question.text.replace(place, name.size(), blank);
-    } else if (!BlanksIn(question.text).empty() && !isDropDown) {
-      // The blank is there already, in the length that it had when it was written.
-    } else {
-      question.text += u" " + blank;
-    }
-    question.blanks.push_back(std::move(answers));
-  }
+  std::vector<CanvasBlank> blanks;
+  blanks.reserve(responses_.size());
+  for (const pugi::xml_node response : responses_)
+    blanks.push_back(NamedBlank(response, isDropDown, keys, question));
+  PlaceBlanks(std::move(blanks), question);
+  KeepPlacesOfBlanks(question, tools_.notes);
 }
 
-void CanvasItemReader::TakePairs(ExchangedQuestion& question) {
+CanvasBlank CanvasItemReader::NamedBlank(pugi::xml_node response, bool isDropDown, const CanvasKeys& keys,
+                                         ExchangedQuestion& question) {
+  const std::string_view identifier = ValueOf(response, "ident");
+  CanvasBlank blank{PlainToExamText(TextOf(identifier.substr(identifier.find('_') + 1))), {}, {}};
+  for (const pugi::xml_node label : LabelsOf(response)) {
+    std::u16string answer = ReadMaterial(label, question);
+    if (isDropDown) blank.choices.append(blank.choices.empty() ? u"" : u" / ").append(answer);
+    if (keys.IsRight(identifier, ValueOf(label, "ident"))) blank.answers.push_back(std::move(answer));
+  }
+  return blank;
+}
+
+void CanvasItemReader::TakePairs(const CanvasKeys& keys, ExchangedQuestion& question) {
   std::vector<std::pair<std::u16string, std::u16string>> pairs;
+  std::vector<std::u16string> wrongs;
+  std::map<std::string, std::u16string, std::less<>> texts;  // most pairs have the same right sides
   for (const pugi::xml_node response : responses_) {
     std::u16string right;
     for (const pugi::xml_node label : LabelsOf(response)) {
-      const std::u16string text = Material(label, question);
-      if (IsRight(ValueOf(response, "ident"), ValueOf(label, "ident"))) right = text;
+      const std::string_view identifier = ValueOf(label, "ident");
+      const auto [text, isNew] = texts.try_emplace(std::string(identifier));
+      if (isNew) text->second = ReadMaterial(label, question);
+      if (isNew) wrongs.push_back(text->second);
+      if (keys.IsRight(ValueOf(response, "ident"), identifier)) right = text->second;
     }
-    pairs.emplace_back(Material(ChildOf(response, "material"), question), right);
+    pairs.emplace_back(ReadMaterial(ChildOf(response, "material"), question), right);
   }
+  for (std::u16string& wrong : wrongs) pairs.emplace_back(std::u16string(), std::move(wrong));
   MakeMatching(pairs, question, tools_.notes);
+  KeepPlacesOfBlanks(question, tools_.notes);
 }
 
 /// The comment on an essay is its model answer.
 void CanvasItemReader::TakeFeedback(ExchangedQuestion& question) {
   for (const pugi::xml_node feedback : ElementsBelow(item_, {"itemfeedback"})) {
     ExchangedQuestion itsFiles;
-    const std::u16string text = Material(feedback, itsFiles);
+    const std::u16string text = ReadMaterial(feedback, itsFiles);
     if (text.empty()) continue;
     if (question.kind == QuestionKind::Essay && ValueOf(feedback, "ident") == "general_fb") {
       question.modelAnswer = text;

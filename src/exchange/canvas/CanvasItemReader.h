@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "exchange/canvas/CanvasBlanks.h"
+#include "exchange/canvas/CanvasKeys.h"
 #include "exchange/qti/QtiPackage.h"
 #include "exchange/xml/HtmlParts.h"
 
@@ -10,6 +12,9 @@
 
 namespace quorvantis {
 
+/// What the metadata of an item say under a label; empty if nothing.
+std::string FieldOfItem(pugi::xml_node item, std::string_view label);
+
 /// Reads an item of QTI 1.2.
 class CanvasItemReader {
  public:
@@ -18,27 +23,23 @@ class CanvasItemReader {
   /// False if there is no question of a known kind, which is told.
   bool Read(pugi::xml_node item, ExchangedQuestion& question);
 
- private:
-  /// A value that a pupil's response is compared with.
-  struct Comparison {
-    std::string response;
-    std::string value;
-    bool earns = false;  ///< it is right
-  };
+  /// The texts of an element that is no item, and its pictures.
+  std::u16string ReadMaterial(pugi::xml_node owner, ExchangedQuestion& question);
 
+ private:
   std::optional<ExchangedFile> Find(std::u16string_view address);
-  std::u16string Material(pugi::xml_node owner, ExchangedQuestion& question);
-  std::u16string QuestionText(ExchangedQuestion& question);
-  std::string TypeOfItem() const;
-  std::string Field(std::string_view label) const;
-  void ReadComparisons();
-  bool IsRight(std::string_view response, std::string_view value) const;
-  bool TakeByType(std::string_view type, ExchangedQuestion& question);
-  void TakeOptions(ExchangedQuestion& question);
-  void TakeAnswers(ExchangedQuestion& question);
-  void TakeNumbers(ExchangedQuestion& question);
-  void TakeNamedBlanks(bool isDropDown, ExchangedQuestion& question);
-  void TakePairs(ExchangedQuestion& question);
+  std::u16string Text(pugi::xml_node part, ExchangedQuestion& question);
+  std::string TypeOfItem(const CanvasKeys& keys) const;
+  std::optional<double> Score(const CanvasKeys& keys) const;
+  bool TakeByType(std::string_view type, const CanvasKeys& keys, ExchangedQuestion& question);
+  void TakeOptions(const CanvasKeys& keys, ExchangedQuestion& question);
+  void TakeLead(pugi::xml_node response, ExchangedQuestion& question);
+  void TakeAnswers(const CanvasKeys& keys, ExchangedQuestion& question);
+  void TakeNumbers(const CanvasKeys& keys, ExchangedQuestion& question);
+  void TakeNamedBlanks(bool isDropDown, const CanvasKeys& keys, ExchangedQuestion& question);
+  CanvasBlank NamedBlank(pugi::xml_node response, bool isDropDown, const CanvasKeys& keys,
+                         ExchangedQuestion& question);
+  void TakePairs(const CanvasKeys& keys, ExchangedQuestion& question);
   void TakeFeedback(ExchangedQuestion& question);
   bool Refuse(const std::string& type, ExchangedQuestion& question);
 
@@ -48,7 +49,6 @@ class CanvasItemReader {
   HtmlReading html_;
   pugi::xml_node item_;
   std::vector<pugi::xml_node> responses_;
-  std::vector<Comparison> comparisons_;
 };
 
 }  // namespace quorvantis

@@ -50,6 +50,15 @@ std::string PathIn(std::u16string_view address) {
   return path;
 }
 
+/// Not found if the package has none, whatever else it is.
+PackagePart ManifestOf(const ExchangeSource& source) {
+  const ZipPackage zip(source.File());
+  if (zip.Opened() != WordResult::Done) return {zip.Opened(), {}};
+  const std::string manifest = ManifestAmong(zip.Names(kMostParts));
+  if (manifest.empty()) return {WordResult::NotFound, {}};
+  return zip.Read(manifest, kMostPartBytes);
+}
+
 }  // namespace
 
 QtiPackage::QtiPackage(const ExchangeSource& source, ReadingTools& tools) : source_(source), tools_(tools) {
@@ -81,12 +90,22 @@ bool QtiPackage::Parse(const std::string& name, pugi::xml_document& document) {
   }
   PackagePart part = Read(name, kMostPartBytes, xmlLeft_);
   if (part.result == WordResult::Done) return ParseForeignXml(std::move(part.bytes), document, tools_.notes);
-  if (part.result == WordResult::TooLarge) {
-    tools_.notes.Tell(text_id::kExchangeSourceTooLarge);
-  } else {
-    tools_.notes.Tell(text_id::kExchangePartMissing, {Excerpt(TextOf(name))});
-  }
+  TellUnread(part.result, name);
   return false;
+}
+
+void QtiPackage::TellUnread(WordResult result, const std::string& name) {
+  const std::u16string part = Excerpt(TextOf(name));
+  switch (result) {
+    case WordResult::TooLarge:
+      return tools_.notes.Tell(text_id::kExchangeSourceTooLarge);
+    case WordResult::PasswordProtected:
+      return tools_.notes.Tell(text_id::kExchangeEncrypted, {part});
+    case WordResult::NotFound:
+      return tools_.notes.Tell(text_id::kExchangePartMissing, {part});
+    default:
+      return tools_.notes.Tell(text_id::kExchangePartDamaged, {part});
+  }
 }
 
 std::vector<std::string> QtiPackage::PartsOfType(std::initializer_list<std::string_view> types) {
@@ -99,9 +118,16 @@ std::vector<std::string> QtiPackage::PartsOfType(std::initializer_list<std::stri
     const bool isWanted = std::any_of(types.begin(), types.end(),
                                       [type](std::string_view wanted) { return type.starts_with(wanted); });
     if (!isWanted) continue;
+    std::string folder = root_;
+    for (const pugi::xml_node owner : {resource.parent().parent(), resource.parent(), resource})
+      folder += PathIn(TextOf(ValueOf(owner, "base")));
     std::string_view href = ValueOf(resource, "href");
     if (href.empty()) href = ValueOf(ChildOf(resource, "file"), "href");
-    if (const auto name = Normal(root_ + PathIn(TextOf(href)))) parts.push_back(*name);
+    if (const auto name = Normal(folder + PathIn(TextOf(href)))) {
+      parts.push_back(*name);
+    } else {
+      tools_.notes.Tell(text_id::kExchangePartMissing, {Excerpt(TextOf(href))});
+    }
   }
   return parts;
 }
@@ -126,7 +152,11 @@ std::optional<ExchangedFile> QtiPackage::Keep(const std::string& name) {
   const std::u16string fileName = TextOf(std::string_view(name).substr(name.rfind('/') + 1));
   std::optional<ExchangedFile> file;
   if (part.result == WordResult::Done) file = tools_.files.Keep(fileName, part.bytes);
-  if (part.result == WordResult::TooLarge) tools_.notes.Tell(text_id::kExchangeFileTooLarge, {fileName});
+  if (part.result == WordResult::TooLarge) {
+    tools_.notes.Tell(text_id::kExchangeFileTooLarge, {fileName});
+  } else if (part.result != WordResult::Done && part.result != WordResult::NotFound) {
+    TellUnread(part.result, name);
+  }
   kept_[name] = file;
   return file;
 }
@@ -134,16 +164,18 @@ std::optional<ExchangedFile> QtiPackage::Keep(const std::string& name) {
 bool PackageMentions(const ExchangeSource& source, std::initializer_list<std::string_view> words) {
   std::string text = source.HeadOfXml();
   if (IsZip(source)) {
-    const ZipPackage zip(source.File());
-    if (zip.Opened() != WordResult::Done) return false;
-    const std::string manifest = ManifestAmong(zip.Names(kMostParts));
-    if (manifest.empty()) return false;
-    const PackagePart part = zip.Read(manifest, kMostPartBytes);
-    if (part.result == WordResult::TooLarge) return true;  // which reading it tells
-    text = part.bytes;
+    PackagePart part = ManifestOf(source);
+    if (part.result != WordResult::Done) return false;
+    text = std::move(part.bytes);
   }
   return std::any_of(words.begin(), words.end(),
                      [&text](std::string_view word) { return text.find(word) != text.npos; });
+}
+
+bool IsUnreadablePackage(const ExchangeSource& source) {
+  if (!IsZip(source)) return false;
+  const WordResult result = ManifestOf(source).result;
+  return result != WordResult::Done && result != WordResult::NotFound;
 }
 
 }  // namespace quorvantis

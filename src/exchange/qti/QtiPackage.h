@@ -21,8 +21,13 @@ class QtiPackage {
  public:
   QtiPackage(const ExchangeSource& source, ReadingTools& tools);
 
+  bool IsSingleFile() const { return zip_ == nullptr; }
+
   /// Parses a part; false if there is none or it is no XML, which is told.
   bool Parse(const std::string& name, pugi::xml_document& document);
+
+  /// The names of all parts; none of a single file.
+  const std::vector<std::string>& Names() const { return names_; }
 
   /// The names of the parts whose resources in the manifest have a type that begins with one of `types`, in
   /// the order of the manifest. Of a single file: its name.
@@ -37,6 +42,7 @@ class QtiPackage {
  private:
   /// A part of at most `limit` bytes. What is unpacked is taken from `left`. `zip_` must be there.
   PackagePart Read(const std::string& name, std::size_t limit, std::size_t& left);
+  void TellUnread(WordResult result, const std::string& name);
   std::optional<ExchangedFile> Keep(const std::string& name);
 
   const ExchangeSource& source_;
@@ -50,7 +56,11 @@ class QtiPackage {
 };
 
 /// Whether a file is a package whose manifest, or an XML file that itself, has one of the words near its
-/// beginning. True, too, of a package whose manifest is too large to be read.
+/// beginning.
 bool PackageMentions(const ExchangeSource& source, std::initializer_list<std::string_view> words);
+
+/// Whether a file is an archive that cannot be read, or whose manifest cannot: damaged, encrypted or too
+/// large. Who reads it tells that.
+bool IsUnreadablePackage(const ExchangeSource& source);
 
 }  // namespace quorvantis

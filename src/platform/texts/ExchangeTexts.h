@@ -113,10 +113,19 @@ constexpr int kExchangeEmptyAnswer = 2680;
 constexpr int kExchangeEmptyBlankBecomesEssay = 2681;
 constexpr int kExchangeMutedFiles = 2682;
 constexpr int kExchangeCaseMatters = 2683;
-constexpr int kExchangeWildcard = 2642;        // %1 is the answer
-constexpr int kExchangeEqualAnswers = 2641;    // %1 is the answer
-constexpr int kExchangeAmbiguousRight = 2605;  // %1 is a cell, %2 the letter of the option that is right
-constexpr int kExchangeIsPaper = 2580;         // %2 is the name of a format
+
+// Packages of questions
+constexpr int kExchangePassage = 2720;          // %1 is its begin
+constexpr int kExchangeRangeIsAnswer = 2721;    // %1 is the range
+constexpr int kExchangeBlankUnanswered = 2722;  // %1 is what stands there instead
+constexpr int kExchangeShuffledInPart = 2723;
+constexpr int kExchangeEncrypted = 2724;         // %1 is a part of the package
+constexpr int kExchangePartDamaged = 2725;       // %1 is a part of the package
+constexpr int kExchangeDrawnByLot = 2726;        // %1 is how many of them are
+constexpr int kExchangePassageElsewhere = 2727;  // %1 is its begin
+constexpr int kExchangeAnswerOfRule = 2728;      // %1 is the answer
+constexpr int kExchangeTestAlone = 2729;
+constexpr int kExchangeBankMissing = 2730;  // %1 is its name
 
 // Errors, and the windows for import and export
 constexpr int kExchangeNotOpen = 2271;  // "%1 cannot be read: %2", with what the system says
