@@ -140,8 +140,8 @@ void CanvasItemReader::TakeOptions(const CanvasKeys& keys, ExchangedQuestion& qu
   for (const pugi::xml_node label : LabelsOf(responses_[0])) {
     scores.push_back(keys.ScoreOf(response, ValueOf(label, "ident")));
     const std::size_t files = question.files.size();
-    question.options.push_back({ReadMaterial(label, question), false});
-    TellFilesOfOption(question, files, tools_.notes);
+    std::u16string text = ReadMaterial(label, question);
+    question.options.push_back({TextOfPart(std::move(text), question, files, tools_.notes), false});
   }
   const bool takesSeveral = ValueOf(responses_[0], "rcardinality") != "Single";
   DecideByScores(scores, takesSeveral && keys.AddUp(), question.options, tools_.notes);

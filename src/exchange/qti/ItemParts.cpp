@@ -10,9 +10,6 @@
 namespace quorvantis {
 namespace {
 
-/// Stands where an answer is not known.
-constexpr std::u16string_view kUnknownAnswer = u"?";
-
 bool HasNoAnswer(const BlankAnswers& blank) {
   return std::ranges::all_of(blank, [](const std::u16string& answer) { return answer.empty(); });
 }
@@ -34,8 +31,8 @@ void KeepPlacesOfBlanks(ExchangedQuestion& question, ExchangeNotes& notes) {
   if (std::ranges::all_of(question.blanks, HasNoAnswer)) return question.blanks.clear();
   for (BlankAnswers& blank : question.blanks) {
     if (!HasNoAnswer(blank)) continue;
-    blank.assign(1, std::u16string(kUnknownAnswer));
-    notes.Tell(text_id::kExchangeBlankUnanswered, {std::u16string(kUnknownAnswer)});
+    blank.clear();
+    notes.Tell(text_id::kExchangeBlankNoRight);
   }
 }
 

@@ -15,8 +15,8 @@ namespace quorvantis {
 void DecideByScores(const std::vector<double>& scores, bool addUp, std::vector<ExchangedOption>& options,
                     ExchangeNotes& notes);
 
-/// Answers of a question belong to its blanks by their order. So something stands in the place of a blank
-/// without an answer if another one has one; told. If none has, there are no answers.
+/// Answers of a question belong to its blanks by their order. So a blank without an answer keeps its place,
+/// which is told; if none has one, there are no answers.
 void KeepPlacesOfBlanks(ExchangedQuestion& question, ExchangeNotes& notes);
 
 /// Puts a text that belongs to several questions in front of the one that comes first; told.

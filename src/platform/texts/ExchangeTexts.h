@@ -117,7 +117,6 @@ constexpr int kExchangeCaseMatters = 2683;
 // Packages of questions
 constexpr int kExchangePassage = 2720;          // %1 is its begin
 constexpr int kExchangeRangeIsAnswer = 2721;    // %1 is the range
-constexpr int kExchangeBlankUnanswered = 2722;  // %1 is what stands there instead
 constexpr int kExchangeShuffledInPart = 2723;
 constexpr int kExchangeEncrypted = 2724;         // %1 is a part of the package
 constexpr int kExchangePartDamaged = 2725;       // %1 is a part of the package
