@@ -115,8 +115,8 @@ constexpr int kExchangeMutedFiles = 2682;
 constexpr int kExchangeCaseMatters = 2683;
 
 // Packages of questions
-constexpr int kExchangePassage = 2720;          // %1 is its begin
-constexpr int kExchangeRangeIsAnswer = 2721;    // %1 is the range
+constexpr int kExchangePassage = 2720;        // %1 is its begin
+constexpr int kExchangeRangeIsAnswer = 2721;  // %1 is the range
 constexpr int kExchangeShuffledInPart = 2723;
 constexpr int kExchangeEncrypted = 2724;         // %1 is a part of the package
 constexpr int kExchangePartDamaged = 2725;       // %1 is a part of the package
