@@ -10,6 +10,8 @@
 #include "text/PathText.h"
 #include "text/Utf.h"
 
+#include <algorithm>
+#include <map>
 #include <system_error>
 #include <utility>
 
@@ -77,6 +79,19 @@ void ForeignExam::ReadQuestions(const ExchangeSource& source, Progress& progress
   if (!read) return;
   read_ = *std::move(read);
   questionCount_ = StoreExchanged(read_, exam_, 1, notes_) - 1;
+}
+
+std::vector<ExchangeNote> ForeignExam::NotesByOwnNumbers() const {
+  std::map<int, int> numbers;
+  for (std::size_t i = 0; i < read_.questions.size(); ++i)
+    numbers.emplace(read_.questions[i].number, static_cast<int>(i + 1));
+  std::vector<ExchangeNote> notes = Notes();
+  for (ExchangeNote& note : notes) {
+    const auto own = numbers.find(note.question);
+    note.question = own != numbers.end() ? own->second : 0;
+  }
+  std::ranges::stable_sort(notes, {}, &ExchangeNote::question);
+  return notes;
 }
 
 ForeignQuestions ForeignExam::Take(const std::vector<int>& numbers) const {

@@ -48,6 +48,10 @@ class ForeignExam {
   /// What an exam cannot hold of the file.
   const std::vector<ExchangeNote>& Notes() const { return notes_.All(); }
 
+  /// The same with the numbers that the questions have here, which differ from those in the file behind one
+  /// that could not be read. What is told of such a one is about the whole.
+  std::vector<ExchangeNote> NotesByOwnNumbers() const;
+
   /// Questions with these numbers, ascending. Their files exist as long as this object.
   ForeignQuestions Take(const std::vector<int>& numbers) const;
 

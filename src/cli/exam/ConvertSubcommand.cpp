@@ -84,6 +84,7 @@ class Conversion {
     const std::string bytes = to != nullptr ? Written(*to) : std::string();
     bool loses = TellNotes();
     if (to == nullptr && TellLossesOfExam()) loses = true;
+    if (session_.exam.readDoubt != ReadDoubt::None) loses = true;  // told when it was read
     if (loses && request_.isStrict)
       throw CommandError(request_.target.string() + ": is not written, because something would be lost");
     if (to == nullptr) return WriteExam();
@@ -114,6 +115,8 @@ class Conversion {
     } else {
       session_.Load(request_.source);
       session_.RequireUnpacked(request_.source);
+      if (session_.exam.readDoubt == ReadDoubt::NoExam)
+        throw CommandError(request_.source.string() + ": is no exam");
       isExam_ = true;
     }
   }
@@ -128,10 +131,11 @@ class Conversion {
       return named;
     }
     if (HasExamExtension(request_.source) || IsTaggedExam(request_.source)) return nullptr;
+    if (source.Head().empty()) throw CommandError(request_.source.string() + ": is empty");
     const FormatRow* const recognised = RecogniseFormat(source);
     if (recognised == nullptr)
       throw CommandError(request_.source.string() + ": is of none of the formats " + ReadableFormats() +
-                         "; name the right one with --from");
+                         "; name the right one with --from, or use import for a paper");
     if (recognised->reader == nullptr)
       throw CommandError(request_.source.string() + ": is " + std::string(recognised->name) +
                          ", which import --learn reads");

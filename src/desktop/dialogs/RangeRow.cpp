@@ -91,8 +91,8 @@ QLabel* MakeRangeLabel(const char* role, int range, const QString& caption, QWid
 }  // namespace
 
 RangeRow::RangeRow(int range, const StringTable& strings, QWidget* parent)
-    // The widgets belong to `parent`, so a copy of the row refers to the same ones. cppcheck-suppress
-    // [noCopyConstructor, noOperatorEq]
+    // The widgets belong to `parent`, so a copy of the row refers to the same ones.
+    // cppcheck-suppress [noCopyConstructor, noOperatorEq]
     : swatch(new Swatch(range, parent)),
       questionLabel(MakeRangeLabel("rangeQuestionLabel", range,
                                    ToQString(strings.Text(text_id::kRangeQuestion)), parent)),

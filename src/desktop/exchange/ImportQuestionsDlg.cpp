@@ -139,7 +139,7 @@ QString ImportQuestionsDlg::Heading() const {
 }
 
 std::vector<ExchangeNote> ImportQuestionsDlg::Notes() const {
-  std::vector<ExchangeNote> notes = read_->Notes();
+  std::vector<ExchangeNote> notes = read_->NotesByOwnNumbers();
   if (target_.isEmpty) return notes;
   std::erase_if(notes, [](const ExchangeNote& note) { return note.text == text_id::kExchangeTooManyScores; });
   if (HasHeader(read_->Exam())) notes.push_back({0, text_id::kExchangeHeaderStays});

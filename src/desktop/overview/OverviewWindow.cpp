@@ -212,7 +212,10 @@ void OverviewWindow::SelectShown() {
   const QModelIndex current = table_->currentIndex();
   if (!row) return table_->selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
   if (current.isValid() && current.row() == *row) return;
-  table_->setCurrentIndex(model_->index(*row, current.isValid() ? current.column() : OverviewModel::Text));
+  // Without flags the view would ask for the keys that are down, and with Ctrl (of Ctrl+L) keep other rows.
+  table_->selectionModel()->setCurrentIndex(
+      model_->index(*row, current.isValid() ? current.column() : OverviewModel::Text),
+      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void OverviewWindow::CurrentChanged(const QModelIndex& current) {

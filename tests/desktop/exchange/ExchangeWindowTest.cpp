@@ -166,6 +166,16 @@ TEST_F(ExchangeWindow, ShowsAgainWhatIsLostWhenAFileVanishes) {
   EXPECT_TRUE(fs::exists(folder / "out.xml"));
 }
 
+TEST_F(ExchangeWindow, TellsLossesByTheNumbersThatAreSeen) {
+  Fill(3);
+  Open();
+  ImportAll(WriteBytes(folder / "in.aiken", "No options\nANSWER: A\n\nQ\nA. a\nB. b\nANSWER: Z\n"));
+  ASSERT_EQ(exam.Question(2).text, u"Q");
+  ASSERT_NE(window->findChild<ImportSummaryDlg*>(), nullptr);
+  const QString summary = window->findChild<ImportSummaryDlg*>()->findChild<QPlainTextEdit*>()->toPlainText();
+  EXPECT_TRUE(summary.contains(QString("[%1 2]").arg(text_id::kExchangeQuestion))) << summary.toStdString();
+}
+
 TEST_F(ExchangeWindow, InsertsInOneStepThatUndoTakesBackWithTheFiles) {
   Fill(3);
   Attach(2, "red.png", "a picture");

@@ -76,6 +76,13 @@ TEST_F(OverviewTest, ShowsTheChosenQuestionAndFollowsTheWindow) {
 
   Press("questionText", Qt::Key_PageDown, Qt::ControlModifier);
   QTRY_COMPARE(table->currentIndex().row(), 12);
+  QTest::keyPress(overview, Qt::Key_Control, Qt::ControlModifier);  // as it is while Ctrl+L opens it
+  Entry("questionNext").trigger();
+  QTRY_COMPARE(table->currentIndex().row(), 13);
+  EXPECT_EQ(table->selectionModel()->selectedRows().size(), 1) << "Delete would take the other, too";
+  QTest::keyRelease(overview, Qt::Key_Control);
+  Entry("questionPrevious").trigger();
+  QTRY_COMPARE(table->currentIndex().row(), 12);
   EXPECT_EQ(exam.Question(3).text, u"Why? question 3") << "stored by walking";
   const QString spoken = table->currentIndex().data(Qt::AccessibleTextRole).toString();
   EXPECT_FALSE(spoken.isEmpty());

@@ -18,6 +18,7 @@
 #include "text/NumberRanges.h"
 #include "text/NumberText.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quorvantis {
@@ -99,6 +100,20 @@ void ExchangeCommands::TakeHeader(const FrameSetExam& taken) {
   editor_.questions.ShowQuestion(editor_.state.CurrentQuestion());
 }
 
+/// What was told of the questions that came in, with their numbers in the exam.
+std::vector<ExchangeNote> ExchangeCommands::NotesOfInserted(const ImportQuestionsDlg& dialog,
+                                                            const OrderOutcome& outcome) {
+  const std::vector<int> ticked = dialog.Ticked();
+  std::vector<ExchangeNote> notes;
+  for (ExchangeNote note : dialog.Notes()) {
+    const auto place = static_cast<std::size_t>(std::ranges::find(ticked, note.question) - ticked.begin());
+    if (note.question != 0 && place >= outcome.questions.size()) continue;
+    if (note.question != 0) note.question = outcome.questions[place];
+    notes.push_back(std::move(note));
+  }
+  return notes;
+}
+
 std::vector<std::u16string> ExchangeCommands::Summary(const ImportQuestionsDlg& dialog,
                                                       const OrderOutcome& outcome) const {
   const StringTable& strings = Services().strings;
@@ -107,7 +122,7 @@ std::vector<std::u16string> ExchangeCommands::Summary(const ImportQuestionsDlg& 
       FillMessage(strings.Text(text_id::kExchangeCameIn),
                   {FormatInteger(static_cast<std::int64_t>(outcome.questions.size())),
                    PathToText(dialog.Read()->File().filename()), NumberRanges(outcome.questions)}));
-  for (const NoteGroup& group : GroupNotes(dialog.Notes(), strings))
+  for (const NoteGroup& group : GroupNotes(NotesOfInserted(dialog, outcome), strings))
     lines.push_back(u"\u2013 " + GroupLine(group, strings));
   if (dialog.TakesHeader()) return lines;
   const auto former = [&outcome](int number) { return outcome.order.Source(number); };

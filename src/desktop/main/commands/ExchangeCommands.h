@@ -43,6 +43,8 @@ class ExchangeCommands {
   void Insert(const ImportQuestionsDlg& dialog);
   /// The exam had no questions: title, random order and scores come with them.
   void TakeHeader(const FrameSetExam& taken);
+  static std::vector<ExchangeNote> NotesOfInserted(const ImportQuestionsDlg& dialog,
+                                                   const OrderOutcome& outcome);
   std::vector<std::u16string> Summary(const ImportQuestionsDlg& dialog, const OrderOutcome& outcome) const;
   void ShowSummary(const std::vector<std::u16string>& lines);
   bool CanUndo() const { return history_.CanUndo(step_); }
