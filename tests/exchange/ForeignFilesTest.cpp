@@ -98,6 +98,8 @@ const ForeignRow kGift[] = {
      "question 1: lists, headings, tables and code blocks of Markdown stay as they are written\n"
      "question 1: its formatting is simplified\n"
      "question 1: what is not in the file is not fetched and is left out: y.png\n"},
+    {"Gr\u00F6\u00DFe \xE9 {=x ~y}", "choice Gr\u00F6\u00DFe \uFFFD | +x | -y\n",
+     "some bytes are no characters; \uFFFD stands in their place\n"},
     {"caf\xE9 {=x ~y}", "choice caf\xC3\xA9 | +x | -y\n",
      "the text is not UTF-8; it was read as Windows text of Western Europe\n"},
 };

@@ -2,6 +2,7 @@
 #include "exchange/form/ExchangeSource.h"
 
 #include "platform/WholeFile.h"
+#include "platform/texts/ExchangeTexts.h"
 #include "text/HtmlEntities.h"
 #include "text/NumberText.h"
 #include "text/Utf.h"
@@ -35,6 +36,19 @@ std::u16string DecodeWindows(std::string_view bytes) {
   return text;
 }
 
+/// Characters of several bytes hardly ever come about by chance.
+bool IsMostlyUtf8(std::string_view bytes) {
+  std::size_t characters = 0;
+  std::size_t strays = 0;
+  while (!bytes.empty()) {
+    const Utf8Step step = DecodeUtf8(bytes);
+    if (!step.valid) ++strays;
+    if (step.valid && step.length > 1) ++characters;
+    bytes.remove_prefix(step.length);
+  }
+  return characters > strays;
+}
+
 }  // namespace
 
 ExchangeSource::ExchangeSource(std::filesystem::path file) : file_(std::move(file)) {
@@ -57,13 +71,14 @@ std::optional<std::string> ExchangeSource::Bytes(std::size_t limit) const {
   return ReadWholeFile(file_, limit);
 }
 
-std::u16string DecodeText(std::string_view bytes, bool& isGuessed) {
-  isGuessed = false;
-  if (bytes.starts_with("\xFF\xFE")) return DecodeUtf16(bytes.substr(2), false);
-  if (bytes.starts_with("\xFE\xFF")) return DecodeUtf16(bytes.substr(2), true);
-  if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
-  isGuessed = !IsUtf8(bytes);
-  return isGuessed ? DecodeWindows(bytes) : Utf8ToUtf16(bytes);
+DecodedText DecodeText(std::string_view bytes) {
+  if (bytes.starts_with("\xFF\xFE")) return {DecodeUtf16(bytes.substr(2), false)};
+  if (bytes.starts_with("\xFE\xFF")) return {DecodeUtf16(bytes.substr(2), true)};
+  const bool isMarked = bytes.starts_with(kUtf8Mark);
+  if (isMarked) bytes.remove_prefix(kUtf8Mark.size());
+  if (IsUtf8(bytes)) return {Utf8ToUtf16(bytes)};
+  if (isMarked || IsMostlyUtf8(bytes)) return {Utf8ToUtf16(bytes), text_id::kExchangeBytesReplaced};
+  return {DecodeWindows(bytes), text_id::kExchangeEncodingGuessed};
 }
 
 }  // namespace quorvantis

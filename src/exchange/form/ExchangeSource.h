@@ -35,8 +35,13 @@ class ExchangeSource {
   bool isOpen_ = false;
 };
 
-/// The text of a file: UTF-8 with or without a mark, or UTF-16 with one. Bytes that are neither are taken for
-/// those of Windows in the West; `isGuessed` is set then.
-std::u16string DecodeText(std::string_view bytes, bool& isGuessed);
+struct DecodedText {
+  std::u16string text;
+  int doubt = 0;  ///< the number of the text that tells what was assumed; 0: nothing
+};
+
+/// The text of a file: UTF-8 with or without a mark, or UTF-16 with one. Where most of what is not ASCII is
+/// UTF-8, single bytes that are none become U+FFFD; other bytes are taken for those of Windows in the West.
+DecodedText DecodeText(std::string_view bytes);
 
 }  // namespace quorvantis

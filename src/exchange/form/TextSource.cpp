@@ -16,15 +16,13 @@ std::optional<std::u16string> ReadSourceText(const ExchangeSource& source, Readi
     tools.notes.Tell(text_id::kExchangeSourceTooLarge);
     return std::nullopt;
   }
-  bool isGuessed = false;
-  std::u16string text = WithLineEnds(DecodeText(*bytes, isGuessed), u"\n");
-  if (isGuessed) tools.notes.Tell(text_id::kExchangeEncodingGuessed);
-  return text;
+  const DecodedText decoded = DecodeText(*bytes);
+  if (decoded.doubt != 0) tools.notes.Tell(decoded.doubt);
+  return WithLineEnds(decoded.text, u"\n");
 }
 
 std::u16string HeadText(const ExchangeSource& source) {
-  bool isGuessed = false;
-  return WithLineEnds(DecodeText(source.Head(), isGuessed), u"\n");
+  return WithLineEnds(DecodeText(source.Head()).text, u"\n");
 }
 
 std::u16string_view Trimmed(std::u16string_view text) {

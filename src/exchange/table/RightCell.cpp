@@ -94,7 +94,7 @@ NamedOptions NamedRights(std::u16string_view cell, const std::vector<std::u16str
   const ComparableOptions texts(options);
   const NamedPlaces places = PlacesIn(cell, count);
   const std::size_t text = texts.Find(cell);
-  if (places.hasWords || places.options.empty() || (text == count && IsRatherNumber(cell, options))) {
+  if (places.hasWords || places.options.empty() || IsRatherNumber(cell, options)) {
     std::vector<bool> rights = text < count ? RightsAt({text}, count) : texts.OfList(cell);
     const bool isRead = std::ranges::find(rights, true) != rights.end();
     return {std::move(rights), isRead ? Doubt::None : Doubt::NotRead};

@@ -42,9 +42,9 @@ bool ToUtf8(std::string& bytes, ExchangeNotes& notes) {
   const bool isKnown = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
                        head.find("iso-8859-1\"") != head.npos || head.find("iso-8859-1'") != head.npos;
   if (isKnown || IsUtf8(bytes)) return false;
-  bool isGuessed = false;
-  bytes = Utf16ToUtf8(DecodeText(bytes, isGuessed));
-  if (head.find("windows-1252") == head.npos) notes.Tell(text_id::kExchangeEncodingGuessed);
+  const DecodedText decoded = DecodeText(bytes);
+  bytes = Utf16ToUtf8(decoded.text);
+  if (head.find("windows-1252") == head.npos) notes.Tell(decoded.doubt);
   return true;
 }
 
