@@ -350,6 +350,8 @@ TEST(ForeignFiles, MoodleCloze) {
   const MoodleRow rows[] = {
       {cloze("1 {1:SA:=a} 2 {1:SA:~b} 3 {1:SA:=c}"), "fill 1 ____ 2 ____ 3 ____ | a |  | c\n",
        "question 1: a blank has no right answer; its place stays empty\n"},
+      {cloze("{1:sac:=A}"), "fill ____ | A\n",
+       "question 1: capital and small letters differ in its answers; in an exam they do not\n"},
       {cloze("{1:SA:%50%b~=a}"), "fill ____ | a, b\n",
        "question 1: an answer that is partly right counts as right: b\n"},
       {cloze("{1:MRH:=2~%100%3~4~%-50%6}"), "fill ____ (2 / 3 / 4 / 6) | 2, 3\n", all.c_str()},

@@ -67,6 +67,11 @@ BlankAnswers AllRightOptions(const std::vector<ClozeAnswer>& answers, ExchangeNo
 
 }  // namespace
 
+bool CaseMattersIn(std::u16string_view name) {
+  const std::u16string upper = AsciiUpper(name);
+  return upper == u"SHORTANSWER_C" || upper == u"SAC" || upper == u"MWC";
+}
+
 std::optional<ClozeKind> ClozeKindOf(std::u16string_view name) {
   const std::u16string upper = AsciiUpper(name);
   const auto begins = [&upper](std::u16string_view prefix) { return upper.starts_with(prefix); };

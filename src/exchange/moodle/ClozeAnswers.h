@@ -21,6 +21,9 @@ enum class ClozeKind {
 /// The kind of blank that a name such as "SHORTANSWER" stands for; its case does not matter.
 std::optional<ClozeKind> ClozeKindOf(std::u16string_view name);
 
+/// Whether a kind of words with this name tells small letters from capitals.
+bool CaseMattersIn(std::u16string_view name);
+
 /// One of the answers embedded for a blank.
 struct ClozeAnswer {
   std::u16string text;  ///< without markup

@@ -48,6 +48,7 @@ class ClozeReading {
       read_.html += u"&#123;";
       return 1;
     }
+    if (CaseMattersIn(rest.substr(colon + 1, second - colon - 1))) notes_.Tell(text_id::kExchangeCaseMatters);
     AddBlank(*kind, rest.substr(second + 1, end - second - 1));
     AddScore(colon == 0 ? 1 : ParseReal(rest.substr(0, colon)));
     return end + 2;
