@@ -2,8 +2,8 @@
 #include "exchange/moodle/TrueFalseKey.h"
 
 #include "exchange/form/QuestionParts.h"
+#include "exchange/form/TrueFalseWords.h"
 #include "exchange/markup/Markup.h"
-#include "exchange/moodle/TrueFalseWords.h"
 #include "platform/texts/ExchangeTexts.h"
 
 #include <algorithm>

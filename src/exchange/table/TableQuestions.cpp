@@ -5,19 +5,16 @@
 #include "exchange/form/Points.h"
 #include "exchange/form/QuestionParts.h"
 #include "exchange/form/TextSource.h"
+#include "exchange/form/TrueFalseWords.h"
 #include "exchange/markup/Markup.h"
 #include "exchange/markup/MarkupNotes.h"
 #include "platform/texts/ExchangeTexts.h"
-#include "text/AsciiCase.h"
 #include "text/NumberText.h"
 
 #include <algorithm>
 
 namespace quorvantis {
 namespace {
-
-constexpr std::u16string_view kTrueWords[] = {u"true", u"t", u"yes", u"y", u"1", u"对", u"是", u"صح"};
-constexpr std::u16string_view kFalseWords[] = {u"false", u"f", u"no", u"n", u"0", u"错", u"否", u"خطأ"};
 
 /// "2 points", "+3": the number, if nothing else in the cell could be one.
 std::optional<double> ScoreOf(std::u16string_view cell) {
@@ -117,14 +114,9 @@ void TableQuestions::TellKey(std::u16string_view cell) {
 }
 
 void TableQuestions::TakeTrueFalse(std::u16string_view cell, ExchangedQuestion& question) {
-  const std::u16string word = AsciiLower(cell);
-  const auto isAmong = [&word](const auto& words, const std::u16string& local) {
-    return word == AsciiLower(local) ||
-           std::find(std::begin(words), std::end(words), word) != std::end(words);
-  };
-  const bool isTrue = isAmong(kTrueWords, tools_.strings.Text(text_id::kExchangeTrue));
-  MakeTrueFalse(isTrue, tools_.strings, question);
-  if (isTrue || isAmong(kFalseWords, tools_.strings.Text(text_id::kExchangeFalse))) return;
+  const std::optional<bool> truth = TruthOf(cell);
+  MakeTrueFalse(truth.value_or(false), tools_.strings, question);
+  if (truth) return;
   question.options[1].isRight = false;
   if (!cell.empty()) TellKey(cell);
 }

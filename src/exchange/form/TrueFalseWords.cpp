@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/moodle/TrueFalseWords.h"
+#include "exchange/form/TrueFalseWords.h"
 
 #include "text/WithoutAround.h"
 
