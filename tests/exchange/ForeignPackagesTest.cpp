@@ -101,6 +101,11 @@ TEST(ForeignPackages, QuestionsOfCanvas) {
        {OldExam(OldItem("matching_question", pairs, Scores("r", "right", "<setvar>100</setvar>"))),
         "fill M\\n(right / wrong)\\nleft ____ | right\n",
         "question 1: the pairs become a fill-in question with a blank for each\n"},
+       {OldExam(OldItem("essay_question", OldText("E"),
+                        "</resprocessing><rubric view='Candidate'>" + OldText("In ten lines.") +
+                            "</rubric><rubric view='Scorer'>" + OldText("Be strict.") +
+                            "</rubric><resprocessing>")),
+        "essay In ten lines.\\nE\n", "question 1: a part could not be read and is left out: Be strict.\n"},
        {OldExam(OldItem("numerical_question", OldText("N"), range)), "fill N | 3..5\n",
         "question 1: every number in a range counts as right; the answer is the range: 3..5\n"},
        {OldExam(OldItem("multiple_choice_question",

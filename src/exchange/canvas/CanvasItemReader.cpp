@@ -43,6 +43,7 @@ bool CanvasItemReader::Read(pugi::xml_node item, ExchangedQuestion& question) {
   const std::string type = TypeOfItem(keys);
   question.text = ReadMaterial(ChildOf(item_, "presentation"), question);
   if (!TakeByType(type, keys, question)) return Refuse(type, question);
+  TakeRubric(question);
   TakeFeedback(question);
   question.score = Score(keys);
   return true;
@@ -234,6 +235,20 @@ void CanvasItemReader::TakePairs(const CanvasKeys& keys, ExchangedQuestion& ques
   for (std::u16string& wrong : wrongs) pairs.emplace_back(std::u16string(), std::move(wrong));
   MakeMatching(pairs, question, tools_.notes);
   KeepPlacesOfBlanks(question, tools_.notes);
+}
+
+/// What pupils are told about the question.
+void CanvasItemReader::TakeRubric(ExchangedQuestion& question) {
+  for (const pugi::xml_node rubric : ChildrenOf(item_, "rubric")) {
+    const std::string_view view = ValueOf(rubric, "view");
+    const std::u16string text = ReadMaterial(rubric, question);
+    if (text.empty()) continue;
+    if (view.empty() || view == "All" || view == "Candidate") {
+      question.text = text + (question.text.empty() ? u"" : u"\r\n") + question.text;
+    } else {
+      tools_.notes.Tell(text_id::kExchangePartNotRead, {Excerpt(text)});
+    }
+  }
 }
 
 /// The comment on an essay is its model answer.

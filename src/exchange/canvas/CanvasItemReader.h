@@ -40,6 +40,7 @@ class CanvasItemReader {
   CanvasBlank NamedBlank(pugi::xml_node response, bool isDropDown, const CanvasKeys& keys,
                          ExchangedQuestion& question);
   void TakePairs(const CanvasKeys& keys, ExchangedQuestion& question);
+  void TakeRubric(ExchangedQuestion& question);
   void TakeFeedback(ExchangedQuestion& question);
   bool Refuse(const std::string& type, ExchangedQuestion& question);
 
