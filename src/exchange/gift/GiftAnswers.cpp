@@ -66,11 +66,8 @@ std::u16string GiftAnswers::Text(std::u16string_view text) {
     if (HasMarkdownBlocks(plain)) tools_.notes.Tell(text_id::kExchangeMarkdownStays);
     plain = MarkdownToHtml(plain);
   }
-  const ReadMarkup read = format_ == GiftTextFormat::Moodle ? ReadExamText(plain) : ReadHtml(plain);
-  TellMarkupLosses(read.losses, tools_.notes);
-  for (const MarkupReference& reference : read.references)
-    tools_.notes.Tell(text_id::kExchangeNotFetched, {Excerpt(reference.address)});
-  return read.text;
+  const bool isExamText = format_ == GiftTextFormat::Moodle;
+  return TextWithoutFiles(isExamText ? ReadExamText(plain) : ReadHtml(plain), tools_.notes);
 }
 
 bool GiftAnswers::Read(std::u16string_view answers, ExchangedQuestion& question) {

@@ -14,4 +14,11 @@ void TellMarkupLosses(const MarkupLosses& losses, ExchangeNotes& notes) {
   if (losses.drawing) notes.Tell(text_id::kExchangeDrawing);
 }
 
+std::u16string TextWithoutFiles(const ReadMarkup& read, ExchangeNotes& notes) {
+  TellMarkupLosses(read.losses, notes);
+  for (const MarkupReference& reference : read.references)
+    notes.Tell(text_id::kExchangeNotFetched, {Excerpt(reference.address)});
+  return read.text;
+}
+
 }  // namespace quorvantis

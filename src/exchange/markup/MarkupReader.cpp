@@ -132,14 +132,12 @@ void MarkupReader::AddCharacter() {
 }
 
 /// A comment or a declaration. In an exam text, only a comment with its end is none of the text. Browsers
-/// hide
-/// "</3", too, but whoever wrote it did not mean to.
+/// hide "</3", too, but whoever wrote it did not mean to.
 void MarkupReader::ReadHidden(const PageToken& token) {
   const bool isComment = token.kind == PageTokenKind::Comment;
   if (isComment && token.isClosed) return;
   if (source_ == MarkupSource::ExamText || text_[at_ + 1] == u'/') return TakeForText(token);
-  // Browsers would hide all the rest behind the comment, but files that are cut together from others have
-  // some.
+  // Browsers would hide all behind a comment without an end, but files that are cut together have some.
   if (isComment) tokens_.GoTo(std::min(text_.find(u'>', at_), text_.size() - 1) + 1);
 }
 

@@ -96,9 +96,8 @@ BlankAnswers RightAnswers(ClozeKind kind, const std::vector<ClozeAnswer>& answer
       rights = AllRightOptions(answers, notes);
       break;
   }
-  if (!rights.empty()) return rights;
-  notes.Tell(text_id::kExchangeBlankNoRight);
-  return {std::u16string()};
+  if (rights.empty()) notes.Tell(text_id::kExchangeBlankNoRight);
+  return rights;
 }
 
 }  // namespace quorvantis

@@ -30,8 +30,8 @@ struct ClozeAnswer {
   double fraction = 0;  ///< of the score of the blank, in percent
 };
 
-/// What an exam accepts in a blank: an empty answer where none is right. What is partly right is told, and so
-/// are options of which several have to be chosen.
+/// What an exam accepts in a blank: nothing where no answer is right, which is told. What is partly right is
+/// told, and so are options of which several have to be chosen.
 BlankAnswers RightAnswers(ClozeKind kind, const std::vector<ClozeAnswer>& answers, ExchangeNotes& notes);
 
 }  // namespace quorvantis

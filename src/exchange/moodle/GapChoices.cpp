@@ -11,12 +11,12 @@
 namespace quorvantis {
 namespace {
 
-/// The choice of a place; an empty answer if there is none of that number, which is told.
-std::u16string ChoiceAt(std::u16string_view place, const std::vector<std::u16string>& choices,
-                        ExchangeNotes& notes) {
+/// The choice of a place; none if there is none of that number, which is told.
+BlankAnswers ChoiceAt(std::u16string_view place, const std::vector<std::u16string>& choices,
+                      ExchangeNotes& notes) {
   const int number = ParseInteger(place);
   if (number >= 1 && static_cast<std::size_t>(number) <= choices.size())
-    return choices[static_cast<std::size_t>(number) - 1];
+    return {choices[static_cast<std::size_t>(number) - 1]};
   notes.Tell(text_id::kExchangeBlankNoRight);
   return {};
 }
@@ -36,7 +36,7 @@ void TakeGaps(const std::vector<std::u16string>& choices, ExchangedQuestion& que
     }
     const std::u16string_view place = std::u16string_view(source).substr(begin + 2, end - begin - 2);
     question.text += kBlank;
-    question.blanks.push_back({ChoiceAt(place, choices, notes)});
+    question.blanks.push_back(ChoiceAt(place, choices, notes));
     at = end + 2;
   }
   for (std::size_t i = 0; i < choices.size(); ++i)

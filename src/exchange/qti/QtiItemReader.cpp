@@ -111,7 +111,6 @@ void QtiItemReader::TakeRubrics(ExchangedQuestion& question) {
 void QtiItemReader::TakeInline(ExchangedQuestion& question) {
   for (const pugi::xml_node field : ElementsBelow(body_, {"textEntryInteraction", "inlineChoiceInteraction"}))
     TakeField(field, question);
-  if (std::ranges::all_of(question.blanks, &BlankAnswers::empty)) question.blanks.clear();
 }
 
 void QtiItemReader::TakeField(pugi::xml_node field, ExchangedQuestion& question) {

@@ -49,11 +49,7 @@ std::u16string TableQuestions::Cell(const TableRow& row, std::optional<std::size
 }
 
 std::u16string TableQuestions::Text(std::u16string_view cell) {
-  const ReadMarkup read = ReadExamText(cell);
-  TellMarkupLosses(read.losses, tools_.notes);
-  for (const MarkupReference& reference : read.references)
-    tools_.notes.Tell(text_id::kExchangeNotFetched, {Excerpt(reference.address)});
-  return read.text;
+  return TextWithoutFiles(ReadExamText(cell), tools_.notes);
 }
 
 std::vector<std::u16string> TableQuestions::OptionCells(const TableRow& row) const {

@@ -75,19 +75,14 @@ std::u16string HtmlOfFiles(const std::vector<ExchangedFile>& files, const std::v
   return html;
 }
 
-void TellFilesOfOption(const ExchangedQuestion& question, std::size_t first, ExchangeNotes& notes) {
-  for (std::size_t i = first; i < question.files.size(); ++i)
-    notes.Tell(text_id::kExchangePictureMoved, {question.files[i].name});
-}
-
 std::u16string TextOfPart(std::u16string text, const ExchangedQuestion& question, std::size_t first,
                           ExchangeNotes& notes) {
-  TellFilesOfOption(question, first, notes);
-  if (!text.empty()) return text;
   std::u16string names;
-  for (std::size_t i = first; i < question.files.size(); ++i)
+  for (std::size_t i = first; i < question.files.size(); ++i) {
+    notes.Tell(text_id::kExchangePictureMoved, {question.files[i].name});
     names.append(i == first ? u"" : u", ").append(question.files[i].name);
-  return PlainToExamText(names);
+  }
+  return text.empty() ? PlainToExamText(names) : text;
 }
 
 bool TakesFile(const ExchangedQuestion& question, std::u16string_view name, ExchangeNotes& notes) {

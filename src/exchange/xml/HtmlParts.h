@@ -30,9 +30,6 @@ std::vector<std::string> PackageNames(const std::vector<ExchangedFile>& files);
 std::u16string HtmlOfFiles(const std::vector<ExchangedFile>& files, const std::vector<std::string>& addresses,
                            HtmlDialect dialect);
 
-/// Tells that the files of `question` from number `first` on, which an option had, now stand below the text.
-void TellFilesOfOption(const ExchangedQuestion& question, std::size_t first, ExchangeNotes& notes);
-
 /// The text of an option or another part of `question` whose files are those from number `first` on. Where it
 /// has no text, their names stand for them. Tells that they now stand below the text of the question.
 std::u16string TextOfPart(std::u16string text, const ExchangedQuestion& question, std::size_t first,

@@ -101,7 +101,6 @@ constexpr int kVersionsMake = 2128;
 constexpr int kVersionsOpenFolder = 2129;
 constexpr int kVersionsSaveFirst = 2130;
 constexpr int kVersionsReplaceAsk = 2131;
-constexpr int kVersionsPlace = 2132;
 constexpr int kVersionsQuestionRow = 2133;
 constexpr int kVersionsMaking = 2134;
 
